@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string_view>
+
+/// The web pages that the program opens. The host is the maker's to set.
+namespace session::address {
+
+inline constexpr std::string_view docOverview = "https://murvane.example/docs/0Overview.html";
+inline constexpr std::string_view docFaq = "https://murvane.example/docs/0Overview.html#faqs";
+inline constexpr std::string_view contact = "https://murvane.example/contact";
+
+}  // namespace session::address

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace session {
+
+/// The machine that the program runs on: its clock, files, environment and the plainest way to tell
+/// the user something. Every path, clock and wait of the core goes through here, so that a test can
+/// answer it.
+class Host {
+public:
+    Host() = default;
+    Host(const Host&) = delete;
+    Host& operator=(const Host&) = delete;
+    virtual ~Host() = default;
+
+    /// Milliseconds since some start, as a 32-bit counter that wraps around.
+    [[nodiscard]] virtual std::uint32_t tickCount() = 0;
+    /// Waits without letting events run.
+    virtual void sleep(std::uint32_t milliseconds) = 0;
+    /// Lets the events that are waiting run, then returns.
+    virtual void letEventsRun() = 0;
+
+    [[nodiscard]] virtual std::optional<std::string> environment(std::string_view name) = 0;
+
+    /// The full path of a file in the temporary folder: `TEMP` where it is set, otherwise a folder
+    /// that only this user can read. The file need not exist. `office::Failure` 75 if the name is
+    /// empty or holds a separator or a control character, or is "." or "..": a name from a workbook
+    /// never leads to another folder.
+    [[nodiscard]] virtual std::string temporaryFile(std::string_view fileName) = 0;
+
+    /// `office::Failure` 53 if there is no such file, 70 if it can't be deleted.
+    virtual void deleteFile(std::string_view path) = 0;
+    [[nodiscard]] virtual bool fileExists(std::string_view path) = 0;
+
+    /// True if another process holds the file, or it can't be opened for reading.
+    [[nodiscard]] virtual bool fileIsHeld(std::string_view path) = 0;
+
+    /// Opens a web address with the user's browser. Failures are silent.
+    virtual void openLink(std::string_view address) = 0;
+
+    /// Tells whoever started the program why it ends without having done its work: on standard
+    /// error, as one line.
+    virtual void reportError(std::string_view text) = 0;
+
+    /// The system's plain message box with an exclamation mark, for when nothing better can be
+    /// shown.
+    virtual void messageBox(std::string_view text, std::string_view title) = 0;
+};
+
+}  // namespace session

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "office/failure.h"
+#include "session/file_names.h"
+#include "session/host.h"
+
+namespace session_doubles {
+
+/// A machine that exists in memory. What a test wants to find stands in the public members; what
+/// the program did is noted in them.
+///
+/// The clock stands still but for the program's own waits: `sleep` moves it by its milliseconds,
+/// letting events run by none. A wait that doesn't sleep would therefore never end in a test.
+class ScriptedHost : public session::Host {
+public:
+    struct Message {
+        std::string text;
+        std::string title;
+        bool operator==(const Message&) const = default;
+    };
+
+    std::uint32_t now = 1000;
+    std::uint32_t sleptMs = 0;
+    int pumps = 0;
+    /// Run at each letting of events, after it was counted.
+    std::function<void()> onEvents;
+
+    std::map<std::string, std::string, std::less<>> variables;
+    std::string temporaryFolder = "/temporary";
+    /// Full paths of the files that exist.
+    std::set<std::string, std::less<>> files;
+    std::set<std::string, std::less<>> heldFiles;
+
+    std::vector<std::string> deletedFiles;
+    std::vector<std::string> links;
+    std::vector<std::string> errors;
+    std::vector<Message> messages;
+
+    [[nodiscard]] std::uint32_t tickCount() override { return now; }
+
+    void sleep(std::uint32_t milliseconds) override {
+        now += milliseconds;
+        sleptMs += milliseconds;
+    }
+
+    void letEventsRun() override {
+        ++pumps;
+        if (onEvents) onEvents();
+    }
+
+    [[nodiscard]] std::optional<std::string> environment(std::string_view name) override {
+        const auto found = variables.find(name);
+        if (found == variables.end()) return std::nullopt;
+        return found->second;
+    }
+
+    [[nodiscard]] std::string temporaryFile(std::string_view fileName) override {
+        session::requireFileName(fileName);
+        return temporaryFolder + "/" + std::string(fileName);
+    }
+
+    void deleteFile(std::string_view path) override {
+        const auto found = files.find(path);
+        if (found == files.end()) {
+            throw office::Failure(office::FailureNumber::FileNotFound, "Host", "File not found");
+        }
+        files.erase(found);
+        deletedFiles.emplace_back(path);
+    }
+
+    [[nodiscard]] bool fileExists(std::string_view path) override { return files.contains(path); }
+    [[nodiscard]] bool fileIsHeld(std::string_view path) override {
+        return heldFiles.contains(path);
+    }
+
+    void openLink(std::string_view address) override { links.emplace_back(address); }
+    void reportError(std::string_view text) override { errors.emplace_back(text); }
+    void messageBox(std::string_view text, std::string_view title) override {
+        messages.push_back({std::string(text), std::string(title)});
+    }
+};
+
+}  // namespace session_doubles
