@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "session/notices.h"
+
+namespace panels {
+
+/// The page of a notice: a card with a coloured hero, the body and a foot line. `body` is finished
+/// markup; title and badge are texts. An empty badge is the kind's own.
+[[nodiscard]] std::string BuildNoticeHtml(std::string_view title, std::string_view body,
+                                          std::string_view kind, std::string_view badge);
+
+/// The page of any notice: the one it brings, or its message as paragraphs.
+[[nodiscard]] std::string noticePage(const session::Notice& notice);
+
+/// Tells what keeps an export from running. Both lists are markup, one "<li>" for each entry with
+/// its text escaped; `reviews` may be empty. Returns the answer's code.
+int ShowExportBlockedNotice(session::NoticePresenter& presenter, std::string_view fixes,
+                            std::string_view reviews);
+
+/// The entries of such a list as plain text, a line each without a line break at the end.
+[[nodiscard]] std::string listText(std::string_view listItems);
+
+}  // namespace panels

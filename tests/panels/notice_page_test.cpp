@@ -1,0 +1,78 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "approved.h"
+#include "panels/notice_page.h"
+#include "panels/notice_style.h"
+#include "session_doubles/recording_notices.h"
+
+namespace {
+
+using panels_tests::expectApproved;
+using session_doubles::RecordingNotices;
+
+void expectNotice(const std::string& page, const std::string& name) {
+    expectApproved(panels_tests::withoutStyle(page, panels::NoticeCss()), name);
+}
+
+TEST(NoticePage, HasItsStyleSheet) {
+    expectApproved(panels::NoticeCss(), "notice.css");
+}
+
+TEST(NoticePage, IsACardWithTheMessageAsParagraphs) {
+    session::Notice notice;
+    notice.message = "The export has ended.\r\r5 of 6 items <placed>.";
+    notice.title = "Murvane & you";
+    notice.kind = "done";
+    expectNotice(panels::noticePage(notice), "notice_success.html");
+}
+
+TEST(NoticePage, TakesThePageThatTheCallerComposed) {
+    session::Notice notice;
+    notice.message = "not this";
+    notice.page = "<p>this</p>";
+    EXPECT_EQ(panels::noticePage(notice), "<p>this</p>");
+}
+
+TEST(NoticePage, HasTheBadgeOfItsKindUnlessOneIsGiven) {
+    struct Case {
+        std::string kind;
+        std::string given;
+        std::string badge;
+    };
+    const std::vector<Case> cases = {
+        {"info", "", "Murvane notice"},
+        {"warn", "", "Please review and continue"},
+        {"critical", "", "Action could not be completed"},
+        {"success", "", "Completed successfully"},
+        {"error", "Check <1>", "Check &lt;1&gt;"},
+    };
+    for (const Case& it : cases) {
+        const std::string page = panels::BuildNoticeHtml("T", "", it.kind, it.given);
+        EXPECT_NE(page.find("<div class=\"badge\">" + it.badge + "</div>"), std::string::npos)
+            << it.kind;
+    }
+}
+
+TEST(BlockedNotice, ListsWhatToFixAndWhatToReview) {
+    RecordingNotices notices;
+    panels::ShowExportBlockedNotice(notices, "<li>Fix &quot;A&quot;</li><li>Fix B</li>",
+                                    "<li>Look at &lt;C&gt;</li>");
+    ASSERT_EQ(notices.shown.size(), 1U);
+    const session::Notice& notice = notices.shown.front();
+    EXPECT_EQ(notice.title, "Export blocked");
+    EXPECT_EQ(notice.buttons, session::buttons::okOnly);
+    EXPECT_EQ(notice.message, "Fix \"A\"\r\nFix B\r\n\r\nLook at <C>");
+    expectNotice(notice.page, "export_blocked.html");
+}
+
+TEST(BlockedNotice, SaysNothingOfReviewsWhenThereAreNone) {
+    RecordingNotices notices;
+    panels::ShowExportBlockedNotice(notices, "<li>Fix A</li>", "");
+    EXPECT_EQ(notices.shown.front().page.find("Also review:"), std::string::npos);
+    EXPECT_EQ(notices.shown.front().message, "Fix A");
+}
+
+}  // namespace

@@ -1,0 +1,64 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "approved.h"
+#include "panels/panel_blocks.h"
+#include "panels/panel_page.h"
+#include "panels/panel_style.h"
+
+namespace {
+
+using panels::ActionPanel;
+using panels_tests::expectApproved;
+
+std::string panelSheet() {
+    return panels::PanelCssBase() + panels::PanelCssOptions() + panels::PanelCssTools();
+}
+
+void expectPanel(const ActionPanel& panel, const std::string& name) {
+    expectApproved(panels_tests::withoutStyle(panels::BuildActionPanelHtml(panel), panelSheet()),
+                   name);
+}
+
+TEST(PanelPage, HasItsStyleSheetInThreePieces) {
+    expectApproved(panelSheet(), "panel.css");
+}
+
+TEST(PanelPage, ShowsASummaryWithToolsOptionsAndFooter) {
+    ActionPanel panel;
+    panel.message =
+        "3 object(s) will be pasted to\rQ3 <draft>.pptx\ras Pictures\rstarting at slide 4";
+    panel.kind = "info";
+    panel.footer = "PowerPoint & Excel stay open";
+    panel.destinationWord = "PowerPoint";
+    panel.options = panels::OptionsBlockHtml(
+        "Options", panels::OptionRowHtml("slideTitle", "Add slide titles", true, true) +
+                       panels::OptionRowHtml("checkShadow", "Shadow", false, false));
+    panel.tools = panels::ToolBarHtml(
+        panels::ToolButtonHtml("layout", "Layout", "tool-icon-layout", "Set the placement"));
+    expectPanel(panel, "summary_with_options.html");
+}
+
+TEST(PanelPage, ShowsTheChoicesAndFieldsOfAnImageExport) {
+    ActionPanel panel;
+    panel.message = "2 image file(s) will be saved to C:\\MurvaneImages";
+    panel.kind = "success";
+    panel.destinationWord = "Images";
+    panel.options =
+        panels::ChoiceGroupHtml(
+            "Format", panels::ChoiceChipHtml("format", "png", "PNG", true, true) +
+                          panels::ChoiceChipHtml("format", "tiff", "TIFF", false, false)) +
+        panels::FieldRowHtml("HtmlWidthFactor", "Width", "80", "%", true);
+    expectPanel(panel, "image_choices.html");
+}
+
+TEST(PanelPage, FallsBackOnParagraphsAndDrawsNoEmptyBlocks) {
+    ActionPanel panel;
+    panel.message = "No objects were selected for pasting\r\n\r\nCheck \"at least\" one";
+    panel.kind = "Warn";
+    panel.destinationWord = "PowerPoint";
+    expectPanel(panel, "nothing_selected.html");
+}
+
+}  // namespace

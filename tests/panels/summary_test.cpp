@@ -1,0 +1,117 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "panels/summary.h"
+
+namespace {
+
+using panels::BuildFlowHtml;
+using panels::BuildSummaryHtml;
+
+struct Expected {
+    std::string count;
+    std::string lead;
+    std::string destination;
+    std::string format;
+    std::string detail;
+};
+
+std::string summaryOf(const Expected& parts) {
+    const auto line = [](const std::string& cssClass, const std::string& text) {
+        return text.empty() ? std::string() : "<div class=\"" + cssClass + "\">" + text + "</div>";
+    };
+    return "<div class=\"summary\"><div class=\"count\">" + parts.count +
+           "</div><div class=\"summary-text\"><div class=\"summary-lead\">" + parts.lead +
+           "</div>" + line("dest-name", parts.destination) + line("format-tag", parts.format) +
+           line("detail-note", parts.detail) + "</div></div>";
+}
+
+TEST(Summary, TellsCountLeadDestinationFormatAndDetailApart) {
+    struct Case {
+        std::string message;
+        Expected parts;
+    };
+    const std::vector<Case> cases = {
+        {"3 object(s) will be pasted to\r\nBook1.pptx\r\nas Pictures",
+         {"3", "object(s) will be pasted to", "Book1.pptx", "Pictures", ""}},
+        {"3 object(s) will be pasted to\rBook1.pptx\ras Pictures",
+         {"3", "object(s) will be pasted to", "Book1.pptx", "Pictures", ""}},
+        {"12 Image File(s) will be saved to\nC:\\Pictures",
+         {"12", "12 Image File(s) will be", "C:\\Pictures", "", ""}},
+        {"2 objects\nDeck\nas Pictures\nstarting at slide 4\nin order",
+         {"2", "objects", "Deck", "Pictures", "starting at slide 4 in order"}},
+        {"2 objects\nDeck\nin order\nstarting at slide 4",
+         {"2", "objects", "Deck", "in order", "starting at slide 4"}},
+        {"2 objects\nDeck\nassembled", {"2", "objects", "Deck", "sembled", ""}},
+        {"2 objects\n\nDeck", {"2", "objects", "Deck", "", ""}},
+        {"2 objects\n", {"2", "objects", "", "", ""}},
+        {"1 object\n<Deck>", {"1", "object", "&lt;Deck&gt;", "", ""}},
+    };
+    for (const Case& it : cases) {
+        EXPECT_EQ(BuildSummaryHtml(it.message, ""), summaryOf(it.parts)) << it.message;
+    }
+}
+
+TEST(Summary, RepeatsTheCountInTheLeadWhenTheDestinationStandsInTheFirstLine) {
+    EXPECT_EQ(
+        BuildSummaryHtml("3 object(s) will be inserted in C:\\MurvaneHTML\\MurvaneXXX.Html", ""),
+        summaryOf({"3", "3 object(s) will be", "C:\\MurvaneHTML\\MurvaneXXX.Html", "", ""}));
+}
+
+TEST(Summary, IsEmptyForAMessageOfAnotherShape) {
+    const std::vector<std::string> messages = {
+        "No objects were selected for pasting",
+        "0 objects",
+        "objects",
+        "",
+        "\n3 objects\nDeck",
+        "three objects\nDeck",
+        "3 pictures\nDeck",
+    };
+    for (const std::string& message : messages) {
+        EXPECT_EQ(BuildSummaryHtml(message, "PowerPoint"), "") << message;
+    }
+}
+
+TEST(Summary, LeavesTheLeadAloneWhereAPhraseIsMissing) {
+    std::string lead = "as it was";
+    EXPECT_EQ(panels::ParseCountPhrase("No objects", lead), "");
+    EXPECT_EQ(panels::ParseDestinationPhrase("3 object(s) will be pasted to", lead), "");
+    EXPECT_EQ(lead, "as it was");
+}
+
+TEST(Summary, TakesTheFirstDestinationPhraseInTheOrderOfThePhrases) {
+    std::string lead;
+    EXPECT_EQ(panels::ParseDestinationPhrase("Exported to A, inserted in B", lead), "B");
+    EXPECT_EQ(lead, "Exported to A,");
+}
+
+TEST(Flow, DrawsABadgeForEveryDestinationThatItKnows) {
+    struct Case {
+        std::vector<std::string> words;
+        std::string cssClass;
+        std::string text;
+    };
+    const std::vector<Case> cases = {
+        {{"PowerPoint", "ppt", " pp "}, "ppt", "PPT"},
+        {{"Word", "doc"}, "word", "DOC"},
+        {{"PDF"}, "pdf", "PDF"},
+        {{"HTML", "htm"}, "html", "HTML"},
+        {{"Images", "image", "files", "folder"}, "images", "IMG"},
+    };
+    for (const Case& it : cases) {
+        for (const std::string& word : it.words) {
+            EXPECT_EQ(BuildFlowHtml(word),
+                      "<span class=\"app-badge excel\">XLS</span>"
+                      "<span class=\"flow-arrow\">&rarr;</span>"
+                      "<span class=\"app-badge " +
+                          it.cssClass + "\">" + it.text + "</span>")
+                << word;
+        }
+    }
+    EXPECT_EQ(BuildFlowHtml("Paper"), "");
+}
+
+}  // namespace
