@@ -1,0 +1,1 @@
+#include "catalogue/export_list.h"

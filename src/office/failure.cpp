@@ -1,0 +1,18 @@
+#include "office/failure.h"
+
+#include <utility>
+
+namespace office {
+
+Failure::Failure(FailureNumber number, std::string source, const std::string& description)
+    : Failure(static_cast<std::int32_t>(number), std::move(source), description) {}
+
+Failure::Failure(std::int32_t number, std::string source, const std::string& description)
+    : std::runtime_error(description),
+      number_(number),
+      source_(std::move(source)) {}
+
+SuiteLost::SuiteLost(const std::string& description)
+    : Failure(FailureNumber::Disconnected, "Application", description) {}
+
+}  // namespace office

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace office {
+
+/// The numbers of the failures that the port itself raises, as the automation world knows them.
+enum class FailureNumber : std::int32_t {
+    InvalidProcedureCall = 5,
+    SubscriptOutOfRange = 9,
+    TypeMismatch = 13,
+    FileNotFound = 53,
+    PermissionDenied = 70,
+    PathFileAccess = 75,
+    ObjectNotSet = 91,
+    ObjectRequired = 424,
+    NoSuchMember = 438,
+    NoSuchNamedArgument = 448,
+    WrongArgumentCount = 450,
+    ApplicationDefined = 1004,
+    /// The object stands for something that has gone: a closed document, a deleted shape.
+    Disconnected = static_cast<std::int32_t>(0x80010108),
+};
+
+/// What every failing call into an office application throws. `source` names the class and member
+/// that failed
+/// ("Worksheet.Name"); `what()` is the description alone.
+class Failure : public std::runtime_error {
+public:
+    Failure(FailureNumber number, std::string source, const std::string& description);
+    Failure(std::int32_t number, std::string source, const std::string& description);
+
+    [[nodiscard]] std::int32_t number() const { return number_; }
+    [[nodiscard]] bool is(FailureNumber number) const {
+        return number_ == static_cast<std::int32_t>(number);
+    }
+    [[nodiscard]] const std::string& source() const { return source_; }
+    [[nodiscard]] std::string description() const { return what(); }
+
+private:
+    std::int32_t number_;
+    std::string source_;
+};
+
+/// The application itself has gone: its process died, or the connection to it broke. No failure
+/// pattern but plain code handles this one, since every further call would fail the same way; it
+/// ends the run with a report.
+class SuiteLost : public Failure {
+public:
+    explicit SuiteLost(const std::string& description);
+};
+
+}  // namespace office

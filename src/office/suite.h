@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "office/value.h"
+
+namespace office {
+
+/// A top window of an application; 0 is none.
+using WindowHandle = std::uintptr_t;
+
+/// Whether copy and paste have finished when the call returns, or go on in another process for a
+/// while.
+enum class Pacing { FinishedOnReturn, Asynchronous };
+
+/// A picture taken from the clipboard: PNG or vector bytes, empty if the clipboard held none of the
+/// kind asked for.
+struct ClipboardPicture {
+    enum class Kind { Bitmap, Vector };
+    Kind kind = Kind::Bitmap;
+    std::string mediaType;
+    std::vector<std::uint8_t> bytes;
+};
+
+/// The office applications of this machine, apart from their object models: which of them run,
+/// their windows and the clipboard. One implementation for each platform's suite.
+class Suite {
+public:
+    Suite() = default;
+    Suite(const Suite&) = delete;
+    Suite& operator=(const Suite&) = delete;
+    virtual ~Suite() = default;
+
+    /// The running application of a class name ("Excel.Application"), or nothing. Never starts one.
+    virtual Object attach(std::string_view className) = 0;
+
+    /// Starts an application of a class name. `Failure` if it can't be started.
+    virtual Object start(std::string_view className) = 0;
+
+    virtual void clearClipboard() = 0;
+    virtual ClipboardPicture clipboardPicture(ClipboardPicture::Kind kind) = 0;
+
+    /// The top window with this class and caption; an empty one of the two means any. 0 if there is
+    /// none.
+    virtual WindowHandle findWindow(std::string_view className, std::string_view caption) = 0;
+
+    /// Shows the window by a show command (1 is normal) and gives it the foreground. False if it
+    /// did not get it.
+    virtual bool raiseWindow(WindowHandle window, int showCommand) = 0;
+
+    /// Freezes the drawing of one window. Only one is frozen at a time: false if another already
+    /// is.
+    virtual bool lockDrawing(WindowHandle window) = 0;
+    virtual void unlockDrawing() = 0;
+    virtual void redraw(WindowHandle window) = 0;
+
+    [[nodiscard]] virtual Pacing pacing() const = 0;
+};
+
+}  // namespace office

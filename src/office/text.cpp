@@ -1,0 +1,70 @@
+#include "office/text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <iterator>
+
+namespace office {
+
+namespace {
+
+char lower(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
+}  // namespace
+
+std::string_view trim(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string lowerCase(std::string_view text) {
+    std::string lowered(text);
+    std::transform(lowered.begin(), lowered.end(), lowered.begin(), lower);
+    return lowered;
+}
+
+bool sameIgnoringCase(std::string_view left, std::string_view right) {
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](char a, char b) { return lower(a) == lower(b); });
+}
+
+std::string replaceAll(std::string_view text, std::string_view what, std::string_view with) {
+    std::string result;
+    result.reserve(text.size());
+    std::size_t from = 0;
+    for (auto at = text.find(what); at != std::string_view::npos; at = text.find(what, from)) {
+        result.append(text, from, at - from).append(with);
+        from = at + what.size();
+    }
+    return result.append(text, from);
+}
+
+double leadingNumber(std::string_view text) {
+    std::string digits;
+    for (const char c : text) {
+        if (c == ' ' || c == '\t' || c == '\n') continue;
+        // Words such as "inf" are no numbers here, whatever the parser below thinks of them.
+        if (std::string_view("0123456789.eE+-").find(c) == std::string_view::npos) break;
+        digits += c;
+    }
+    const char* first = digits.data() + (digits.starts_with('+') ? 1 : 0);
+    double number = 0;
+    std::from_chars(first, digits.data() + digits.size(), number);
+    return number;
+}
+
+std::optional<double> numberOf(std::string_view text) {
+    std::string_view digits = trim(text);
+    if (digits.starts_with('+')) digits.remove_prefix(1);
+    if (digits.empty() || digits.find_first_not_of("0123456789.eE+-") != std::string_view::npos)
+        return std::nullopt;
+    double number = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (error != std::errc{} || end != digits.data() + digits.size()) return std::nullopt;
+    return number;
+}
+
+}  // namespace office
