@@ -1,0 +1,82 @@
+#include "office/libreoffice/connection.h"
+
+#include <com/sun/star/bridge/BridgeFactory.hpp>
+#include <com/sun/star/bridge/XBridgeFactory2.hpp>
+#include <com/sun/star/connection/ConnectionSetupException.hpp>
+#include <com/sun/star/connection/Connector.hpp>
+#include <com/sun/star/connection/NoConnectException.hpp>
+#include <com/sun/star/frame/Desktop.hpp>
+#include <com/sun/star/lang/DisposedException.hpp>
+#include <com/sun/star/lang/XMultiComponentFactory.hpp>
+#include <cppuhelper/bootstrap.hxx>
+#include <rtl/bootstrap.hxx>
+#include <rtl/ref.hxx>
+
+#include <utility>
+
+#include "office/libreoffice/counted_connection.h"
+#include "office/libreoffice/installation.h"
+
+namespace libreoffice {
+
+const uno::Reference<uno::XComponentContext>& localContext() {
+    static const uno::Reference<uno::XComponentContext> context = [] {
+        // Without this the local environment knows the base types only, and the first use of an
+        // office type crashes.
+        rtl::Bootstrap::set("URE_BOOTSTRAP",
+                            toUno("vnd.sun.star.pathname:" + programFolder() + "/fundamentalrc"));
+        return cppu::defaultBootstrap_InitialComponentContext();
+    }();
+    return context;
+}
+
+std::shared_ptr<Connection> Connection::open(const std::string& pipeName) {
+    try {
+        const auto connector = css::connection::Connector::create(localContext());
+        const rtl::Reference<CountedConnection> stream(
+            new CountedConnection(connector->connect(toUno("pipe,name=" + pipeName))));
+        const auto bridge = css::bridge::BridgeFactory::create(localContext())
+                                ->createBridge({}, "urp", stream.get(), nullptr);
+        const uno::Reference<uno::XComponentContext> context(
+            bridge->getInstance("StarOffice.ComponentContext"), uno::UNO_QUERY);
+        if (!context.is()) return nullptr;
+        return std::shared_ptr<Connection>(new Connection(stream, context));
+    } catch (const css::connection::NoConnectException&) {
+        return nullptr;
+    } catch (const css::connection::ConnectionSetupException&) {
+        return nullptr;
+    } catch (const css::lang::DisposedException&) {
+        return nullptr;  // it was ending while we knocked
+    }
+}
+
+Connection::Connection(rtl::Reference<CountedConnection> stream,
+                       uno::Reference<uno::XComponentContext> context)
+    : stream_(std::move(stream)),
+      context_(std::move(context)),
+      desktop_(css::frame::Desktop::create(context_)) {}
+
+Connection::~Connection() = default;
+
+uno::Reference<uno::XInterface> Connection::create(const char* service) const {
+    return context_->getServiceManager()->createInstanceWithContext(
+        rtl::OUString::createFromAscii(service), context_);
+}
+
+bool Connection::isLost() const {
+    return stream_->isBroken();
+}
+
+void Connection::breakOff() {
+    try {
+        stream_->close();
+    } catch (const uno::Exception&) {
+        // It was broken already, which is what was wanted.
+    }
+}
+
+std::uint64_t Connection::remoteCalls() const {
+    return stream_->messagesRead();
+}
+
+}  // namespace libreoffice

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <com/sun/star/frame/XDesktop2.hpp>
+#include <com/sun/star/uno/XComponentContext.hpp>
+#include <rtl/ref.hxx>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "office/libreoffice/uno_values.h"
+
+namespace libreoffice {
+
+class CountedConnection;
+
+/// The bridge to one running LibreOffice through a named pipe.
+///
+/// Remote calls are counted where they can't be missed: in the byte stream under the bridge, by the
+/// answers that come back. A broken stream is noticed in the same place, so `isLost` is already
+/// true when the call that met it throws.
+class Connection {
+public:
+    /// Connects to the pipe. Null if nobody listens there (yet).
+    static std::shared_ptr<Connection> open(const std::string& pipeName);
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+    ~Connection();
+
+    [[nodiscard]] const uno::Reference<uno::XComponentContext>& context() const { return context_; }
+    [[nodiscard]] const uno::Reference<css::frame::XDesktop2>& desktop() const { return desktop_; }
+
+    /// A service of the suite, by its name. `css::uno::Exception` if it has none of that name.
+    [[nodiscard]] uno::Reference<uno::XInterface> create(const char* service) const;
+
+    /// Whether the suite has gone or the connection was broken.
+    [[nodiscard]] bool isLost() const;
+    /// Breaks the connection; a call that waits for its answer ends with an exception. May be
+    /// called from any thread.
+    void breakOff();
+
+    /// Calls that were answered so far.
+    [[nodiscard]] std::uint64_t remoteCalls() const;
+
+private:
+    Connection(rtl::Reference<CountedConnection> stream,
+               uno::Reference<uno::XComponentContext> context);
+
+    rtl::Reference<CountedConnection> stream_;
+    uno::Reference<uno::XComponentContext> context_;
+    uno::Reference<css::frame::XDesktop2> desktop_;
+};
+
+/// This process's own UNO environment; set up on the first call.
+[[nodiscard]] const uno::Reference<uno::XComponentContext>& localContext();
+
+}  // namespace libreoffice

@@ -1,0 +1,163 @@
+#include "office/libreoffice/desk.h"
+
+#include <com/sun/star/container/XChild.hpp>
+#include <com/sun/star/container/XEnumerationAccess.hpp>
+#include <com/sun/star/lang/XServiceInfo.hpp>
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <utility>
+
+#include "office/failure.h"
+#include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/password_answer.h"
+#include "office/libreoffice/powerpoint/impress_document.h"
+
+namespace libreoffice {
+
+namespace {
+
+template <class Kind>
+constexpr const char* serviceOf = nullptr;
+template <>
+constexpr const char* serviceOf<excel::CalcDocument> = "com.sun.star.sheet.SpreadsheetDocument";
+template <>
+constexpr const char* serviceOf<powerpoint::ImpressDocument> =
+    "com.sun.star.presentation.PresentationDocument";
+
+template <class Kind, class From>
+bool isOfKind(const uno::Reference<From>& component) {
+    const auto info = tryAs<css::lang::XServiceInfo>(component);
+    return info.is() && info->supportsService(rtl::OUString::createFromAscii(serviceOf<Kind>));
+}
+
+/// The document that a component belongs to: while a chart is edited in place, the chart is the
+/// current component.
+uno::Reference<css::frame::XModel> modelOf(uno::Reference<uno::XInterface> component) {
+    while (component.is() && !isOfKind<excel::CalcDocument>(component) &&
+           !isOfKind<powerpoint::ImpressDocument>(component)) {
+        const auto child = tryAs<css::container::XChild>(component);
+        component = child.is() ? child->getParent() : nullptr;
+    }
+    return tryAs<css::frame::XModel>(component);
+}
+
+[[noreturn]] void failToOpen(const rtl::OUString& url, const std::string& why) {
+    throw office::Failure(office::FailureNumber::ApplicationDefined, "Open",
+                          fmt::format("\"{}\" could not be opened: {}", pathOfUrl(url), why));
+}
+
+}  // namespace
+
+Desk::Desk(std::shared_ptr<Connection> connection, bool hidden)
+    : connection_(std::move(connection)),
+      hidden_(hidden) {}
+
+template <class Kind>
+std::shared_ptr<Kind> Desk::recordOf(const uno::Reference<css::frame::XModel>& model) {
+    std::erase_if(documents_, [](const auto& document) { return document->isClosed(); });
+    for (const auto& document : documents_) {
+        if (document->model() == model) return std::dynamic_pointer_cast<Kind>(document);
+    }
+    auto record = std::make_shared<Kind>(model);
+    documents_.push_back(record);
+    return record;
+}
+
+std::shared_ptr<excel::CalcDocument> Desk::workbook(
+    const uno::Reference<css::frame::XModel>& model) {
+    return recordOf<excel::CalcDocument>(model);
+}
+
+std::shared_ptr<powerpoint::ImpressDocument> Desk::presentation(
+    const uno::Reference<css::frame::XModel>& model) {
+    return recordOf<powerpoint::ImpressDocument>(model);
+}
+
+template <class Kind>
+std::vector<std::shared_ptr<Kind>> Desk::openDocuments() {
+    std::vector<std::shared_ptr<Kind>> found;
+    const auto components = connection_->desktop()->getComponents()->createEnumeration();
+    while (components->hasMoreElements()) {
+        const uno::Reference<uno::XInterface> component(components->nextElement(), uno::UNO_QUERY);
+        const auto model = tryAs<css::frame::XModel>(component);
+        if (model.is() && isOfKind<Kind>(model)) found.push_back(recordOf<Kind>(model));
+    }
+    return found;
+}
+
+std::vector<std::shared_ptr<excel::CalcDocument>> Desk::workbooks() {
+    return openDocuments<excel::CalcDocument>();
+}
+
+std::vector<std::shared_ptr<powerpoint::ImpressDocument>> Desk::presentations() {
+    return openDocuments<powerpoint::ImpressDocument>();
+}
+
+template <class Kind>
+std::shared_ptr<Kind> Desk::activeOf() {
+    // A private suite has no window that a user could change: what was opened or activated last is
+    // the active one.
+    if (!hidden_) {
+        const auto current = modelOf(connection_->desktop()->getCurrentComponent());
+        if (current.is() && isOfKind<Kind>(current)) {
+            const auto document = recordOf<Kind>(current);
+            setActive(document);
+            return document;
+        }
+    }
+    for (const auto& remembered : recentlyActive_) {
+        const auto document = std::dynamic_pointer_cast<Kind>(remembered.lock());
+        if (document && !document->isClosed()) return document;
+    }
+    const auto open = openDocuments<Kind>();
+    return open.empty() ? nullptr : open.front();
+}
+
+std::shared_ptr<excel::CalcDocument> Desk::activeWorkbook() {
+    return activeOf<excel::CalcDocument>();
+}
+
+std::shared_ptr<powerpoint::ImpressDocument> Desk::activePresentation() {
+    return activeOf<powerpoint::ImpressDocument>();
+}
+
+void Desk::setActive(const std::shared_ptr<Document>& document) {
+    std::erase_if(recentlyActive_, [&](const auto& remembered) {
+        const auto alive = remembered.lock();
+        return !alive || alive == document;
+    });
+    recentlyActive_.insert(recentlyActive_.begin(), document);
+}
+
+uno::Reference<css::frame::XModel> Desk::load(const rtl::OUString& url, bool hidden,
+                                              const std::string& password, bool readOnly) {
+    if (url.startsWith("file:") && !std::filesystem::exists(pathOfUrl(url)))
+        failToOpen(url, "there is no such file");
+    const rtl::Reference<PasswordAnswer> answer(new PasswordAnswer(toUno(password)));
+    uno::Reference<css::lang::XComponent> component;
+    try {
+        component = connection_->desktop()->loadComponentFromURL(
+            url, "_blank", 0,
+            propertyValues({{"Hidden", uno::Any(hidden)},
+                            {"ReadOnly", uno::Any(readOnly)},
+                            {"InteractionHandler",
+                             uno::Any(uno::Reference<css::task::XInteractionHandler>(answer))}}));
+    } catch (const css::uno::Exception& error) {
+        if (connection_->isLost()) throw;
+        failToOpen(url, fromUno(error.Message));
+    }
+    // No exception tells why: another instance holds the file, it is damaged, or its password is
+    // not ours.
+    if (!component.is()) {
+        if (answer->wasAsked())
+            failToOpen(url, password.empty() ? "it needs a password" : "the password does not fit");
+        failToOpen(url,
+                   "it is damaged, of a kind that LibreOffice does not read, or in use by another "
+                   "program");
+    }
+    return as<css::frame::XModel>(component);
+}
+
+}  // namespace libreoffice

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "office/libreoffice/connection.h"
+#include "office/libreoffice/document.h"
+#include "office/value.h"
+
+namespace libreoffice {
+
+namespace excel {
+class CalcDocument;
+}
+namespace powerpoint {
+class ImpressDocument;
+}
+
+/// A picture of a range as `Range.CopyPicture` takes it: the suite's own vector format, with the
+/// range's size.
+struct CopiedPicture {
+    uno::Sequence<sal_Int8> metafile;
+    std::int32_t widthHundredthMm = 0;
+    std::int32_t heightHundredthMm = 0;
+};
+
+/// What all objects of one suite share: the connection, the documents that have been met, and what
+/// automation keeps for an application and LibreOffice does not (calculation mode, window state,
+/// the picture copied last).
+class Desk {
+public:
+    /// `hidden`: documents are opened without a window, as in a private suite that nobody looks at.
+    Desk(std::shared_ptr<Connection> connection, bool hidden);
+
+    [[nodiscard]] Connection& connection() const { return *connection_; }
+    [[nodiscard]] bool opensHidden() const { return hidden_; }
+
+    /// The record of an open document, made when it is met for the first time. It stays the same
+    /// for the document's life, since it holds what automation remembers about it.
+    std::shared_ptr<excel::CalcDocument> workbook(const uno::Reference<css::frame::XModel>& model);
+    std::shared_ptr<powerpoint::ImpressDocument> presentation(
+        const uno::Reference<css::frame::XModel>& model);
+
+    /// All open documents of the kind in the order of the suite, those without a window too.
+    std::vector<std::shared_ptr<excel::CalcDocument>> workbooks();
+    std::vector<std::shared_ptr<powerpoint::ImpressDocument>> presentations();
+
+    /// The one the user is in; if that is of the other kind, the one of this kind that was active
+    /// last, or else the first. Null with none open.
+    std::shared_ptr<excel::CalcDocument> activeWorkbook();
+    std::shared_ptr<powerpoint::ImpressDocument> activePresentation();
+    void setActive(const std::shared_ptr<Document>& document);
+
+    /// Opens a file, or makes a new document from a factory URL. `office::Failure` 1004 with the
+    /// reason if the suite gives no document: no such file, not of a kind it reads, locked by
+    /// another instance, wrong password.
+    uno::Reference<css::frame::XModel> load(const rtl::OUString& url, bool hidden,
+                                            const std::string& password = {},
+                                            bool readOnly = false);
+
+    /// What `Range.CopyPicture` copied last; `Chart.Paste` takes it.
+    std::optional<CopiedPicture> copiedPicture;
+
+    /// Values of the application objects that nothing in the suite answers to.
+    std::int32_t calculation = -4105;
+    std::int32_t excelWindowState = -4143;
+    bool screenUpdating = true;
+    bool enableEvents = true;
+    bool displayAlerts = true;
+
+private:
+    template <class Kind>
+    std::shared_ptr<Kind> recordOf(const uno::Reference<css::frame::XModel>& model);
+    template <class Kind>
+    std::vector<std::shared_ptr<Kind>> openDocuments();
+    template <class Kind>
+    std::shared_ptr<Kind> activeOf();
+
+    std::shared_ptr<Connection> connection_;
+    bool hidden_;
+    std::vector<std::shared_ptr<Document>> documents_;
+    /// The document of each kind that was active last, most recent first.
+    std::vector<std::weak_ptr<Document>> recentlyActive_;
+};
+
+using DeskPtr = std::shared_ptr<Desk>;
+
+}  // namespace libreoffice

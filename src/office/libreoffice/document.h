@@ -1,0 +1,49 @@
+#pragma once
+
+#include <com/sun/star/frame/XModel.hpp>
+
+#include <atomic>
+#include <memory>
+#include <string>
+
+#include "office/libreoffice/uno_values.h"
+
+namespace libreoffice {
+
+/// One open document of the suite, and whether it is still open.
+///
+/// Proxies of a closed document don't reliably throw (a name reads as '', a count as 0), so the
+/// closing is heard by a listener and every object of the document asks here first.
+class Document {
+public:
+    explicit Document(uno::Reference<css::frame::XModel> model);
+    Document(const Document&) = delete;
+    Document& operator=(const Document&) = delete;
+    virtual ~Document();
+
+    [[nodiscard]] const uno::Reference<css::frame::XModel>& model() const { return model_; }
+    [[nodiscard]] bool isClosed() const { return *closed_; }
+    /// `office::Failure` Disconnected if the document has been closed.
+    void requireOpen(std::string_view member) const;
+
+    /// The file's name with its extension; for a document never saved, the window title's own
+    /// words.
+    [[nodiscard]] std::string name() const;
+    /// The path of the file; the name alone for a document never saved.
+    [[nodiscard]] std::string fullName() const;
+    [[nodiscard]] uno::Reference<css::frame::XController> controller() const {
+        return model_->getCurrentController();
+    }
+
+    /// Writes a copy in the given filter; the document's own file and state stay. `office::Failure`
+    /// 1004 with the reason.
+    void storeCopy(std::string_view path, const char* filterName) const;
+    /// Closes without saving.
+    void close();
+
+private:
+    uno::Reference<css::frame::XModel> model_;
+    std::shared_ptr<std::atomic<bool>> closed_;
+};
+
+}  // namespace libreoffice

@@ -1,0 +1,162 @@
+#include "office/libreoffice/libreoffice_suite.h"
+
+#include <fmt/format.h>
+
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "office/failure.h"
+#include "office/libreoffice/desk.h"
+#include "office/libreoffice/excel/application.h"
+#include "office/libreoffice/guard.h"
+#include "office/libreoffice/powerpoint/application.h"
+#include "office/libreoffice/powerpoint/impress_document.h"
+#include "office/libreoffice/private_instance.h"
+#include "office/libreoffice/running_instance.h"
+
+namespace libreoffice {
+
+namespace {
+
+/// What the core looks for behind a presentation's name in a window's caption.
+constexpr std::string_view captionEnd = " - PowerPoint";
+
+}  // namespace
+
+std::unique_ptr<LibreOfficeSuite> LibreOfficeSuite::attachToRunning() {
+    return std::unique_ptr<LibreOfficeSuite>(new LibreOfficeSuite(nullptr, connectToRunning()));
+}
+
+std::unique_ptr<LibreOfficeSuite> LibreOfficeSuite::startPrivate(
+    std::chrono::milliseconds patience) {
+    auto instance = PrivateInstance::start(patience);
+    auto connection = instance->connection();
+    return std::unique_ptr<LibreOfficeSuite>(
+        new LibreOfficeSuite(std::move(instance), std::move(connection)));
+}
+
+LibreOfficeSuite::LibreOfficeSuite(std::unique_ptr<PrivateInstance> instance,
+                                   std::shared_ptr<Connection> connection)
+    : instance_(std::move(instance)),
+      connection_(std::move(connection)) {
+    if (connection_) desk_ = std::make_shared<Desk>(connection_, instance_ != nullptr);
+}
+
+LibreOfficeSuite::~LibreOfficeSuite() {
+    try {
+        unlockDrawing();
+    } catch (const office::Failure&) {
+        // The window has gone with its document or its suite, and the lock with it.
+    }
+}
+
+bool LibreOfficeSuite::isConnected() const {
+    return connection_ && !connection_->isLost();
+}
+
+void LibreOfficeSuite::interrupt() {
+    if (instance_) instance_->kill();
+    if (connection_) connection_->breakOff();
+}
+
+std::uint64_t LibreOfficeSuite::remoteCalls() const {
+    return connection_ ? connection_->remoteCalls() : 0;
+}
+
+int LibreOfficeSuite::processId() const {
+    return instance_ ? instance_->processId() : 0;
+}
+
+office::Object LibreOfficeSuite::attach(std::string_view className) {
+    if (!connection_) return {};
+    if (className == "Excel.Application") return excel::applicationObject(desk_);
+    if (className == "PowerPoint.Application") return powerpoint::applicationObject(desk_);
+    return {};
+}
+
+office::Object LibreOfficeSuite::start(std::string_view className) {
+    throw office::Failure(office::FailureNumber::ApplicationDefined, "Suite.start",
+                          fmt::format("\"{}\" can't be started here", className));
+}
+
+void LibreOfficeSuite::clearClipboard() {
+    // Pictures travel by files and by the desk, never over the system's clipboard: the user's own
+    // stays as it is.
+    if (desk_) desk_->copiedPicture.reset();
+}
+
+office::ClipboardPicture LibreOfficeSuite::clipboardPicture(office::ClipboardPicture::Kind kind) {
+    office::ClipboardPicture picture;
+    picture.kind = kind;
+    if (kind != office::ClipboardPicture::Kind::Vector || !desk_ || !desk_->copiedPicture)
+        return picture;
+    picture.mediaType = "application/x-openoffice-gdimetafile";
+    const auto& metafile = desk_->copiedPicture->metafile;
+    picture.bytes.assign(metafile.begin(), metafile.end());
+    return picture;
+}
+
+template <class Statement>
+auto LibreOfficeSuite::translated(const char* source, Statement&& statement) {
+    try {
+        return std::forward<Statement>(statement)();
+    } catch (const uno::Exception&) {
+        throwTranslated(*connection_, source);
+    }
+}
+
+office::WindowHandle LibreOfficeSuite::findWindow(std::string_view className,
+                                                  std::string_view caption) {
+    if (!desk_) return 0;
+    return translated("Suite.findWindow", [&]() -> office::WindowHandle {
+        if (!className.empty()) return handleOf(desk_->activePresentation());
+        if (!caption.ends_with(captionEnd)) return 0;
+        const std::string_view wanted = caption.substr(0, caption.size() - captionEnd.size());
+        for (const auto& presentation : desk_->presentations()) {
+            if (presentation->name() == wanted) return handleOf(presentation);
+        }
+        return 0;
+    });
+}
+
+bool LibreOfficeSuite::raiseWindow(office::WindowHandle window, int /*showCommand*/) {
+    const auto presentation = presentationOf(window);
+    return presentation && translated("Suite.raiseWindow", [&] { return presentation->raise(); });
+}
+
+bool LibreOfficeSuite::lockDrawing(office::WindowHandle window) {
+    const auto presentation = presentationOf(window);
+    if (!presentation || presentationOf(locked_)) return false;
+    translated("Suite.lockDrawing", [&] { presentation->freeze(); });
+    locked_ = window;
+    return true;
+}
+
+void LibreOfficeSuite::unlockDrawing() {
+    const auto presentation = presentationOf(std::exchange(locked_, 0));
+    if (presentation) translated("Suite.unlockDrawing", [&] { presentation->thaw(); });
+}
+
+void LibreOfficeSuite::redraw(office::WindowHandle /*window*/) {
+    // Thawing draws what has changed.
+}
+
+office::WindowHandle LibreOfficeSuite::handleOf(
+    const std::shared_ptr<powerpoint::ImpressDocument>& presentation) {
+    if (!presentation) return 0;
+    for (std::size_t i = 0; i < windows_.size(); ++i) {
+        if (windows_[i].lock() == presentation) return i + 1;
+    }
+    windows_.push_back(presentation);
+    return windows_.size();
+}
+
+std::shared_ptr<powerpoint::ImpressDocument> LibreOfficeSuite::presentationOf(
+    office::WindowHandle window) const {
+    if (window == 0 || window > windows_.size()) return nullptr;
+    auto presentation = windows_[window - 1].lock();
+    return presentation && !presentation->isClosed() ? presentation : nullptr;
+}
+
+}  // namespace libreoffice

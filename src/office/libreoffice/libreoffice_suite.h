@@ -1,0 +1,78 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "office/suite.h"
+
+namespace libreoffice {
+
+class Connection;
+class Desk;
+class PrivateInstance;
+
+namespace powerpoint {
+class ImpressDocument;
+}
+
+/// The applications of LibreOffice behind the names of Excel and PowerPoint.
+class LibreOfficeSuite : public office::Suite {
+public:
+    /// The suite that the user is running, also one that was started without a listening pipe: the
+    /// suite's own launcher hands it the wish for one. Never starts a suite and never ends it. Not
+    /// null; with no suite running, `attach` gives nothing and `isConnected` is false.
+    static std::unique_ptr<LibreOfficeSuite> attachToRunning();
+
+    /// A suite of our own without a window, with a profile of Murvane's that is kept for the next
+    /// start. It ends with this object, and with this process, however that ends. `office::Failure`
+    /// if it can't be started in `patience`.
+    static std::unique_ptr<LibreOfficeSuite> startPrivate(
+        std::chrono::milliseconds patience = std::chrono::seconds(60));
+
+    ~LibreOfficeSuite() override;
+
+    [[nodiscard]] bool isConnected() const;
+    /// Breaks off at once: a call that waits ends with `office::SuiteLost`, and a private suite is
+    /// killed. For another thread, on an interrupt.
+    void interrupt();
+    /// Calls answered by the suite so far.
+    [[nodiscard]] std::uint64_t remoteCalls() const;
+    /// The process of a private suite, else 0.
+    [[nodiscard]] int processId() const;
+
+    office::Object attach(std::string_view className) override;
+    office::Object start(std::string_view className) override;
+    void clearClipboard() override;
+    office::ClipboardPicture clipboardPicture(office::ClipboardPicture::Kind kind) override;
+    office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;
+    bool raiseWindow(office::WindowHandle window, int showCommand) override;
+    bool lockDrawing(office::WindowHandle window) override;
+    void unlockDrawing() override;
+    void redraw(office::WindowHandle window) override;
+    [[nodiscard]] office::Pacing pacing() const override {
+        return office::Pacing::FinishedOnReturn;
+    }
+
+private:
+    LibreOfficeSuite(std::unique_ptr<PrivateInstance> instance,
+                     std::shared_ptr<Connection> connection);
+
+    template <class Statement>
+    auto translated(const char* source, Statement&& statement);
+    /// Window handles are positions in `windows_`, counted from 1: a presentation's window stands
+    /// for the presentation.
+    office::WindowHandle handleOf(const std::shared_ptr<powerpoint::ImpressDocument>& presentation);
+    [[nodiscard]] std::shared_ptr<powerpoint::ImpressDocument> presentationOf(
+        office::WindowHandle window) const;
+
+    std::unique_ptr<PrivateInstance> instance_;
+    std::shared_ptr<Connection> connection_;
+    std::shared_ptr<Desk> desk_;
+    std::vector<std::weak_ptr<powerpoint::ImpressDocument>> windows_;
+    office::WindowHandle locked_ = 0;
+};
+
+}  // namespace libreoffice

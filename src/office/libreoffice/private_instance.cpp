@@ -1,0 +1,110 @@
+#include "office/libreoffice/private_instance.h"
+
+#include <fmt/format.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <random>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "office/failure.h"
+#include "office/libreoffice/connection.h"
+#include "office/libreoffice/installation.h"
+
+namespace libreoffice {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// The suite ends with this code when it wants to be started again, as it does on a new profile.
+constexpr int restartWanted = 81;
+constexpr auto pollInterval = std::chrono::milliseconds(10);
+constexpr auto politePatience = std::chrono::seconds(3);
+
+std::string uniquePipeName() {
+    std::random_device random;
+    return fmt::format("murvane-{}-{:08x}{:08x}", getpid(), random(), random());
+}
+
+Process launch(const Profile& profile, const std::string& pipeName) {
+    // Not by the launcher script: that would put a process between us and the suite, and the suite
+    // would outlive us.
+    return Process::start({programFolder() + "/soffice.bin",
+                           "-env:UserInstallation=" + fromUno(fileUrl(profile.folder())),
+                           "--accept=pipe,name=" + pipeName + ";urp", "--headless", "--norestore",
+                           "--nologo", "--nodefault", "--nolockcheck"},
+                          true);
+}
+
+[[noreturn]] void failToStart(const std::string& why) {
+    throw office::Failure(office::FailureNumber::ApplicationDefined, "LibreOffice",
+                          "LibreOffice could not be started: " + why);
+}
+
+}  // namespace
+
+std::unique_ptr<PrivateInstance> PrivateInstance::start(std::chrono::milliseconds patience) {
+    if (access((programFolder() + "/soffice.bin").c_str(), X_OK) != 0) {
+        failToStart(fmt::format("it is not installed in \"{}\"", programFolder()));
+    }
+    Profile profile = Profile::acquire();
+    std::string pipeName = uniquePipeName();
+    Process process = launch(profile, pipeName);
+    std::unique_ptr<PrivateInstance> instance(
+        new PrivateInstance(std::move(profile), std::move(pipeName), std::move(process)));
+    instance->waitUntilReady(patience);
+    return instance;
+}
+
+PrivateInstance::PrivateInstance(Profile profile, std::string pipeName, Process process)
+    : profile_(std::move(profile)),
+      pipeName_(std::move(pipeName)),
+      process_(std::move(process)) {}
+
+PrivateInstance::~PrivateInstance() {
+    endPolitely();
+    process_.kill();
+    process_.waitFor(politePatience);
+    connection_.reset();
+    // A killed suite leaves its sockets behind.
+    unlink(fmt::format("/tmp/OSL_PIPE_{}_{}", getuid(), pipeName_).c_str());
+    if (const std::string single = singleInstanceSocket(profile_.folder());
+        !socketIsListening(single)) {
+        unlink(single.c_str());
+    }
+    unlink((profile_.folder() + "/.lock").c_str());
+}
+
+void PrivateInstance::waitUntilReady(std::chrono::milliseconds patience) {
+    const auto deadline = Clock::now() + patience;
+    while (Clock::now() < deadline) {
+        connection_ = Connection::open(pipeName_);
+        if (connection_) return;
+        if (const auto code = process_.exitCode()) {
+            if (*code != restartWanted) failToStart(fmt::format("it ended with code {}", *code));
+            process_ = launch(profile_, pipeName_);
+        }
+        std::this_thread::sleep_for(pollInterval);
+    }
+    failToStart(fmt::format("it gave no answer within {} s",
+                            std::chrono::duration_cast<std::chrono::seconds>(patience).count()));
+}
+
+void PrivateInstance::endPolitely() {
+    if (!connection_ || connection_->isLost() || process_.exitCode()) return;
+    try {
+        connection_->desktop()->terminate();
+    } catch (const uno::Exception&) {
+        // It went down while it was asked to; what is left of it is killed.
+    }
+    process_.waitFor(politePatience);
+}
+
+void PrivateInstance::kill() {
+    process_.kill();
+}
+
+}  // namespace libreoffice
