@@ -1,0 +1,36 @@
+"""A workbook of any number of charts and one table a sheet, for measuring."""
+
+from . import look
+from .figures import MONTHS
+from .odd import new_book
+
+CHARTS_A_SHEET = 20
+KINDS = [
+    ("column", "stacked"), ("line", None), ("bar", None), ("area", "stacked"), ("pie", None),
+    ("column", None), ("scatter", None), ("doughnut", None), ("column", "percent_stacked"), ("radar", None),
+]
+
+
+def write_workbook(path, count):
+    book = new_book(path)
+    for first in range(0, count, CHARTS_A_SHEET):
+        name = f"Sheet {first // CHARTS_A_SHEET + 1}"
+        sheet = book.add_worksheet(name)
+        sheet.write_row(0, 0, ["Month", "North", "South", "Overseas"])
+        for m, month in enumerate(MONTHS):
+            sheet.write_row(m + 1, 0, [month, *(400 + 37 * ((m * 7 + s * 5 + first) % 13) for s in range(3))])
+        book.define_name(f"Table_{first // CHARTS_A_SHEET + 1}", f"='{name}'!$A$1:$D$13")
+        for number in range(first, min(first + CHARTS_A_SHEET, count)):
+            kind, subtype = KINDS[number % len(KINDS)]
+            chart = book.add_chart({"type": kind, "name": f"Chart {number + 1}",
+                                    **({"subtype": subtype} if subtype else {})})
+            look.dress(chart, f"Chart {number + 1}", size=(640, 360))
+            for i, letter in enumerate("B" if kind in ("pie", "doughnut") else "BCD"):
+                series = {"name": f"='{name}'!${letter}$1", "categories": f"='{name}'!$A$2:$A$13",
+                          "values": f"='{name}'!${letter}$2:${letter}$13"}
+                if kind not in ("pie", "doughnut", "scatter"):
+                    series.update(look.stroke(i) if kind in ("line", "radar") else look.solid(i))
+                chart.add_series(series)
+            place = number - first
+            sheet.insert_chart(15 + 19 * (place // 2), 11 * (place % 2), chart)
+    book.close()
