@@ -2,6 +2,7 @@
 
 #include <com/sun/star/io/IOException.hpp>
 
+#include <algorithm>
 #include <utility>
 
 namespace libreoffice {
@@ -13,7 +14,11 @@ sal_Int32 CountedConnection::read(uno::Sequence<sal_Int8>& bytes, sal_Int32 want
     try {
         const sal_Int32 got = inner_->read(bytes, wanted);
         if (got < wanted) broken_ = true;
-        if (wanted == blockHeadSize && got == wanted) countBlock(bytes);
+        // A body may be as short as a head, so the length alone does not tell the two apart.
+        if (bodyLeft_ > 0)
+            bodyLeft_ -= std::min(bodyLeft_, static_cast<std::uint32_t>(got));
+        else if (wanted == blockHeadSize && got == wanted)
+            countBlock(bytes);
         return got;
     } catch (const uno::Exception&) {
         broken_ = true;
@@ -44,10 +49,15 @@ rtl::OUString CountedConnection::getDescription() {
 }
 
 void CountedConnection::countBlock(const uno::Sequence<sal_Int8>& head) {
-    std::uint32_t messages = 0;
-    for (sal_Int32 i = 4; i < blockHeadSize; ++i)
-        messages = messages << 8U | static_cast<std::uint8_t>(head[i]);
-    messagesRead_ += messages;
+    bodyLeft_ = numberAt(head, 0);
+    messagesRead_ += numberAt(head, 4);
+}
+
+std::uint32_t CountedConnection::numberAt(const uno::Sequence<sal_Int8>& head, sal_Int32 offset) {
+    std::uint32_t number = 0;
+    for (sal_Int32 i = offset; i < offset + 4; ++i)
+        number = number << 8U | static_cast<std::uint8_t>(head[i]);
+    return number;
 }
 
 }  // namespace libreoffice

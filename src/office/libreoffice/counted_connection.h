@@ -31,8 +31,13 @@ private:
     static constexpr sal_Int32 blockHeadSize = 8;
 
     void countBlock(const uno::Sequence<sal_Int8>& head);
+    [[nodiscard]] static std::uint32_t numberAt(const uno::Sequence<sal_Int8>& head,
+                                                sal_Int32 offset);
 
     uno::Reference<css::connection::XConnection> inner_;
+    /// Bytes of the current block that are still to come. Only the bridge's reading thread touches
+    /// it.
+    std::uint32_t bodyLeft_ = 0;
     std::atomic<std::uint64_t> messagesRead_ = 0;
     std::atomic<bool> broken_ = false;
 };
