@@ -49,6 +49,10 @@ struct OfficeSession {
     std::int16_t ItemCount = 0;
     std::int16_t ItemCountCopy = 0;
     office::WindowHandle PowerPointFrameHandle = 0;
+    /// 1 once `/3122` has looked for charts under the selection.
+    std::int16_t EmbeddedSelectionRun = 0;
+    /// True while an export's end unloads the main form.
+    bool ClosingMainForm = false;
 
     /// Values of one export run.
     std::int16_t CheckedCount = 0;

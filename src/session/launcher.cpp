@@ -1,0 +1,215 @@
+#include "session/launcher.h"
+
+#include <fmt/format.h>
+
+#include <array>
+#include <optional>
+#include <string>
+
+#include "office/failure_patterns.h"
+#include "office/text.h"
+#include "session/embedded_charts.h"
+#include "session/version_tag.h"
+#include "session/web_pages.h"
+#include "session/workbook_prompt.h"
+#include "session/workbook_store.h"
+
+namespace session {
+
+namespace {
+
+void attachApplications(OfficeSession& session) {
+    office::ContinueOnFailure scope;
+    scope.attempt([&] { session.ExcelApp = session.suite.attach("Excel.Application"); });
+    scope.attempt([&] { session.PowerPointApp = session.suite.attach("PowerPoint.Application"); });
+    if (session.ExcelApp) {
+        scope.attempt([&] {
+            session.ExcelVersionTag = versionTag(session.ExcelApp.get("Version").toText());
+        });
+        scope.attempt(
+            [&] { session.ActiveBook = session.ExcelApp.get("ActiveWorkbook").toObject(); });
+        if (session.ActiveBook) {
+            scope.attempt([&] {
+                session.ActiveSheetName =
+                    session.ActiveBook.get("ActiveSheet").get("Name").toText();
+            });
+        }
+    }
+    if (session.PowerPointApp) {
+        scope.attempt([&] {
+            session.SessionPresentation =
+                session.PowerPointApp.get("ActivePresentation").toObject();
+        });
+    }
+}
+
+int reportMissing(OfficeSession& session, std::string_view command) {
+    session.host.reportError(
+        fmt::format("Murvane: this version does not have the command {} yet", command));
+    return commandMissing;
+}
+
+template <class... Args>
+int perform(OfficeSession& session, std::string_view command,
+            const std::function<void(Args...)>& handler, std::type_identity_t<Args>... arguments) {
+    if (!handler) return reportMissing(session, command);
+    handler(arguments...);
+    return commandDone;
+}
+
+/// The code has no form to show, and is there to fail like this.
+void showUnassignedForm() {
+    const office::Object neverAssigned;
+    neverAssigned.call("Show");
+}
+
+/// The commands that need no application. Nothing if `command` is none of them.
+std::optional<int> runFreeCommand(OfficeSession& session, std::string_view command,
+                                  const CommandHandlers& handlers) {
+    if (command == "/922") {
+        showUnassignedForm();
+    } else if (command == "/001") {
+        OpenDocOverview(session);
+    } else if (command == "/002") {
+        OpenDocFaq(session);
+    } else if (command == "/003") {
+        OpenContactPage(session);
+    } else if (command == "/004") {
+        return perform(session, command, handlers.ShowAboutForm);
+    } else if (command == "/006") {
+        return perform(session, command, handlers.ShowLayoutUtility);
+    } else {
+        return std::nullopt;
+    }
+    return commandDone;
+}
+
+void offerToOpenWorkbook(OfficeSession& session) {
+    const int reply = ShowNotice(session.notices,
+                                 "Murvane didn't found an open Excel file \r\r"
+                                 "Would you want to open one?",
+                                 "Murvane", "info", buttons::question);
+    if (reply != answer::ok) return;
+    OpenWorkbookPrompt(session);
+    session.ActiveBook = session.ExcelApp.get("ActiveWorkbook").toObject();
+}
+
+/// `/112`. After the prompt for a workbook the command ends: it is for the user to start it again.
+int runMainForm(OfficeSession& session, const CommandHandlers& handlers) {
+    if (session.ActiveBook.isNothing()) {
+        offerToOpenWorkbook(session);
+    } else if (session.ItemCount != 0) {
+        session.host.letEventsRun();
+        return OpenMainForm(session, handlers);
+    } else {
+        ShowNotice(
+            session.notices,
+            "Murvane didn't find any chart ot named range to paste from the current "
+            "workbook!\r\rPlease open another workbook or create at least one chart or named "
+            "range in the current one in order to open Murvane main form in batch mode",
+            "Murvane", "info", buttons::okOnly);
+    }
+    return commandDone;
+}
+
+/// `/3122`. An embedded object of cells would bring along the charts that lie on them.
+int pasteAsEmbeddedObject(OfficeSession& session, std::string_view command,
+                          const CommandHandlers& handlers) {
+    session.EmbeddedSelectionRun = 1;
+    if (selectionTouchesEmbeddedChart(session)) {
+        ShowWarningNotice(
+            session.notices,
+            "The specified range contains embedded charts. Please export in another format.");
+        return commandDone;
+    }
+    return perform(session, command, handlers.PasteSelectionToSlide, SlidePaste::EmbeddedObject);
+}
+
+int runSelectionCommand(OfficeSession& session, std::string_view command,
+                        const CommandHandlers& handlers) {
+    struct ToSlide {
+        std::string_view code;
+        SlidePaste mode;
+    };
+    struct ToWord {
+        std::string_view code;
+        WordPaste mode;
+    };
+    static constexpr std::array<ToSlide, 3> slideCommands = {{
+        {"/212", SlidePaste::Pictures},
+        {"/312", SlidePaste::SourceFormatting},
+        {"/412", SlidePaste::LinkedObject},
+    }};
+    static constexpr std::array<ToWord, 4> wordCommands = {{
+        {"/512", WordPaste::Picture},
+        {"/612", WordPaste::InlineEmbedded},
+        {"/712", WordPaste::FloatingLinked},
+        {"/812", WordPaste::Table},
+    }};
+    if (command == "/3122") return pasteAsEmbeddedObject(session, command, handlers);
+    for (const ToSlide& known : slideCommands) {
+        if (command == known.code) {
+            return perform(session, command, handlers.PasteSelectionToSlide, known.mode);
+        }
+    }
+    for (const ToWord& known : wordCommands) {
+        if (command == known.code) {
+            return perform(session, command, handlers.PasteSelectionToWord, known.mode);
+        }
+    }
+    if (command == "/111") return perform(session, command, handlers.SaveSelectionAsImage);
+    return commandDone;
+}
+
+int runCommand(OfficeSession& session, std::string_view command, const CommandHandlers& handlers) {
+    if (const auto status = runFreeCommand(session, command, handlers)) return *status;
+    if (session.ExcelApp.isNothing()) return commandDone;
+
+    // The count is taken for every code of the rest of the chain, also for those that make nothing
+    // of it.
+    session.ItemCount = 0;
+    session.ItemCountCopy = 0;
+    if (session.ActiveBook) {
+        const int status = perform(session, command, handlers.CountWorkbookItems);
+        if (status != commandDone) return status;
+    }
+    if (command == "/112") return runMainForm(session, handlers);
+    if (session.ActiveBook.isNothing()) return commandDone;
+    return runSelectionCommand(session, command, handlers);
+}
+
+}  // namespace
+
+int Main(OfficeSession& session, std::string_view commandLine, const CommandHandlers& handlers) {
+    const std::string_view command = office::trim(commandLine);
+    int status = commandDone;
+    if (!command.empty()) {
+        attachApplications(session);
+        status = runCommand(session, command, handlers);
+    }
+    CloseSession(session, handlers.forms);
+    return status;
+}
+
+int OpenMainForm(OfficeSession& session, const CommandHandlers& handlers) {
+    if (!handlers.ShowMainForm) return reportMissing(session, "/112");
+    session.ExcelApp.put("ScreenUpdating", true);
+    // A workbook that has the sheet already takes no new one, so its protection is no hindrance.
+    if (!SheetExists(session, store::sheetName) &&
+        session.ActiveBook.get("ProtectStructure").toBool()) {
+        ShowWarningNotice(session.notices,
+                          "              The workbook looks protected\r\r"
+                          "Please remove the protection and reopen Murvane\r"
+                          "After that you may reprotect the workbook.\r"
+                          "The message will not longer appear");
+        return commandDone;
+    }
+    EnsureStoreSheet(session);
+    session.host.letEventsRun();
+    session.MainFormOpen = true;
+    handlers.ShowMainForm();
+    while (session.MainFormOpen) session.host.letEventsRun();
+    return commandDone;
+}
+
+}  // namespace session

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "session/closing.h"
+#include "session/office_session.h"
+
+namespace session {
+
+/// How the selection gets onto a slide.
+enum class SlidePaste { Pictures = 0, SourceFormatting = 1, EmbeddedObject = 2, LinkedObject = 3 };
+/// How the selection gets into a Word document.
+enum class WordPaste { Picture, InlineEmbedded, FloatingLinked, Table };
+
+/// What the commands run that lives in higher layers. A version of the program that hasn't got one
+/// of them yet leaves it out; the command then says so and fails.
+struct CommandHandlers {
+    /// Sets `ItemCount` and `ItemCountCopy` from the active workbook.
+    std::function<void()> CountWorkbookItems;
+    std::function<void()> ShowAboutForm;
+    std::function<void()> ShowLayoutUtility;
+    /// Makes `UserformObj` if needed and shows it modeless; it clears `MainFormOpen` when it has
+    /// closed.
+    std::function<void()> ShowMainForm;
+    std::function<void(SlidePaste)> PasteSelectionToSlide;
+    std::function<void(WordPaste)> PasteSelectionToWord;
+    std::function<void()> SaveSelectionAsImage;
+    FormHooks forms;
+};
+
+/// Exit statuses of a command.
+inline constexpr int commandDone = 0;
+inline constexpr int commandMissing = 1;
+
+/// Carries out the one command that the command line names and leaves through `CloseSession`.
+/// Returns the exit status: 0 also for an empty command line and for an unknown code, which end
+/// without a word.
+///
+/// Plain code: a `Failure` that no handler keeps passes through, with nothing closed; the program
+/// reports it and ends with another status.
+int Main(OfficeSession& session, std::string_view commandLine, const CommandHandlers& handlers);
+
+/// Shows the main form and returns when it has closed. A workbook that can't take the store sheet
+/// is refused with a notice.
+int OpenMainForm(OfficeSession& session, const CommandHandlers& handlers);
+
+}  // namespace session

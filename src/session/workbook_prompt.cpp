@@ -1,0 +1,35 @@
+#include "session/workbook_prompt.h"
+
+#include <string>
+
+#include "office/failure_patterns.h"
+#include "office/text.h"
+
+namespace session {
+
+void OpenWorkbookPrompt(OfficeSession& session) {
+    office::ContinueOnFailure scope;
+    const office::Object& excel = session.ExcelApp;
+    std::string name;
+    scope.attempt([&] {
+        name =
+            excel
+                .call("GetOpenFilename", office::arg("FileFilter", "Excel Files *.xls* (*.xls*),"),
+                      office::arg("Title", "Please choose a file to open"))
+                .toText();
+    });
+    if (name == "False") {
+        scope.attempt([&] { ShowWarningNotice(session.notices, "No file selected."); });
+        scope.attempt([&] { name = excel.get("ActiveWorkbook").get("Name").toText(); });
+    } else if (IsFileOpen(session, name)) {
+        scope.attempt([&] { ShowWarningNotice(session.notices, "File already open"); });
+    }
+    scope.attempt([&] { excel.get("Workbooks").call("Open", office::arg("FileName", name)); });
+}
+
+bool IsFileOpen(OfficeSession& session, std::string_view fileName, bool fallback) {
+    if (office::trim(fileName).empty() || !session.host.fileExists(fileName)) return fallback;
+    return session.host.fileIsHeld(fileName);
+}
+
+}  // namespace session
