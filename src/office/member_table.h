@@ -60,6 +60,15 @@ public:
         return add(name, std::move(member));
     }
 
+    MemberTable& property(std::string_view name, Names argumentNames, Reader read,
+                          Writer write = nullptr) {
+        Member member;
+        member.argumentNames = std::move(argumentNames);
+        member.read = std::move(read);
+        member.write = std::move(write);
+        return add(name, std::move(member));
+    }
+
     /// A property given by functions, for the ones that are a line long.
     MemberTable& property(std::string_view name, Reader reader, Writer writer = nullptr) {
         Member member;

@@ -1,0 +1,97 @@
+#include "office_double/powerpoint/application.h"
+
+#include <fmt/format.h>
+
+#include <filesystem>
+
+#include "office_double/loose_object.h"
+
+namespace office_double {
+
+const office::MemberTable<PowerPointApplication>& PowerPointApplication::members() {
+    using Self = PowerPointApplication;
+    static const auto table =
+        office::MemberTable<Self>("Application")
+            .property("Name",
+                      [](Self&, const CallArguments&) { return Value("Microsoft PowerPoint"); })
+            .property("Version",
+                      [](Self& self, const CallArguments&) { return Value(self.version_); })
+            .property("Presentations", &Self::readPresentations)
+            .property("ActivePresentation",
+                      [](Self& self, const CallArguments& arguments) {
+                          return Value(self.requiredPresentation(arguments.source()).handle());
+                      })
+            .property(
+                "ActiveWindow",
+                [](Self& self, const CallArguments& arguments) {
+                    return Value(self.requiredPresentation(arguments.source()).window().handle());
+                })
+            .property("SlideShowWindows", &Self::readSlideShowWindows);
+    return table;
+}
+
+Presentation& PowerPointApplication::addPresentation(const std::string& name,
+                                                     const std::string& folder) {
+    presentations_.push_back(std::make_shared<Presentation>(*this, folder, name));
+    activate(*presentations_.back());
+    return *presentations_.back();
+}
+
+void PowerPointApplication::addFile(const std::string& path,
+                                    std::function<void(Presentation&)> fill) {
+    files_[path] = std::move(fill);
+}
+
+Presentation* PowerPointApplication::activePresentation() const {
+    if (const auto active = std::dynamic_pointer_cast<Presentation>(active_.lock())) {
+        return active.get();
+    }
+    return presentations_.empty() ? nullptr : presentations_.front().get();
+}
+
+void PowerPointApplication::closePresentation(Presentation& presentation) {
+    if (&presentation == activePresentation()) active_.reset();
+    presentation.remove();
+    std::erase_if(presentations_, [&](const auto& held) { return held.get() == &presentation; });
+}
+
+Presentation& PowerPointApplication::requiredPresentation(const std::string& source) const {
+    Presentation* presentation = activePresentation();
+    if (presentation != nullptr) return *presentation;
+    throw Failure(FailureNumber::ApplicationDefined, source, "No presentation is open");
+}
+
+Value PowerPointApplication::readPresentations() {
+    auto made = collection(*this, "Presentations", [this] { return itemsOf(presentations_); });
+    made->method("Open", {"FileName", "ReadOnly", "Untitled", "WithWindow"},
+                 [this](const CallArguments& arguments) { return open(arguments); });
+    made->method("Add", {"WithWindow"}, [this](const CallArguments&) {
+        return Value(
+            addPresentation(fmt::format("Presentation{}", presentations_.size() + 1), "").handle());
+    });
+    return valueOf(made);
+}
+
+Value PowerPointApplication::readSlideShowWindows() {
+    return valueOf(collection(*this, "SlideShowWindows", [this] {
+        Items running;
+        for (const auto& presentation : presentations_) {
+            if (presentation->showsSlides()) running.push_back(presentation->slideShowWindow());
+        }
+        return running;
+    }));
+}
+
+Value PowerPointApplication::open(const CallArguments& arguments) {
+    const std::filesystem::path path = arguments.at(0).toText();
+    const auto file = files_.find(path.string());
+    if (file == files_.end()) {
+        throw Failure(FailureNumber::ApplicationDefined, arguments.source(),
+                      "There is no presentation " + path.string());
+    }
+    Presentation& opened = addPresentation(path.filename().string(), path.parent_path().string());
+    file->second(opened);
+    return opened.handle();
+}
+
+}  // namespace office_double

@@ -1,0 +1,80 @@
+#include "office_double/suite.h"
+
+#include <fmt/format.h>
+
+#include "office/text.h"
+#include "support/png_file.h"
+
+namespace office_double {
+
+ExcelApplication& DoubleSuite::excel() {
+    if (!excel_) excel_ = std::make_shared<ExcelApplication>(state_);
+    return *excel_;
+}
+
+PowerPointApplication& DoubleSuite::powerPoint() {
+    if (!powerPoint_) powerPoint_ = std::make_shared<PowerPointApplication>(state_);
+    return *powerPoint_;
+}
+
+Object DoubleSuite::attach(std::string_view className) {
+    if (state_->failures.suiteIsLost()) return {};
+    if (excel_ && office::sameIgnoringCase(className, "Excel.Application")) {
+        return excel_->handle();
+    }
+    if (powerPoint_ && office::sameIgnoringCase(className, "PowerPoint.Application")) {
+        return powerPoint_->handle();
+    }
+    return {};
+}
+
+Object DoubleSuite::start(std::string_view className) {
+    throw Failure(429, "Suite.start", fmt::format("{} can't be started", className));
+}
+
+void DoubleSuite::clearClipboard() {
+    ++clipboardClears_;
+    state_->clipboard.reset();
+}
+
+office::ClipboardPicture DoubleSuite::clipboardPicture(office::ClipboardPicture::Kind kind) {
+    office::ClipboardPicture picture;
+    picture.kind = kind;
+    if (!state_->clipboard) return picture;
+    const auto [width, height] = *state_->clipboard;
+    if (kind == office::ClipboardPicture::Kind::Bitmap) {
+        picture.mediaType = "image/png";
+        picture.bytes = support::pngPictureOfPoints(width, height);
+    } else {
+        picture.mediaType = "image/svg+xml";
+        const std::string svg =
+            fmt::format(R"(<svg xmlns="http://www.w3.org/2000/svg" width="{}pt" height="{}pt"/>)",
+                        width, height);
+        picture.bytes.assign(svg.begin(), svg.end());
+    }
+    return picture;
+}
+
+office::WindowHandle DoubleSuite::findWindow(std::string_view className, std::string_view caption) {
+    if (!powerPoint_ || (!className.empty() && className != "PPTFrameClass")) return 0;
+    const auto& open = powerPoint_->presentations();
+    if (caption.empty()) return open.empty() ? 0 : 1;
+    for (std::size_t i = 0; i < open.size(); ++i) {
+        if (caption == open[i]->name() + " - PowerPoint") return i + 1;
+    }
+    return 0;
+}
+
+bool DoubleSuite::raiseWindow(office::WindowHandle window, int) {
+    raised_ = window;
+    return window != 0;
+}
+
+bool DoubleSuite::lockDrawing(office::WindowHandle window) {
+    if (locked_ != 0 || window == 0) return false;
+    locked_ = window;
+    ++locksTaken_;
+    return true;
+}
+
+}  // namespace office_double

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "office/suite.h"
+#include "office_double/excel/application.h"
+#include "office_double/powerpoint/application.h"
+
+namespace office_double {
+
+/// An office suite in memory. Nothing runs until a test builds it:
+///
+///     DoubleSuite suite;
+///     auto& book = suite.excel().addWorkbook("Book1.xlsx");
+///     book.sheet("Sales").chart("Chart 1").value("A1", 42.0).define("Local", "A1:B2");
+///     book.chartSheet("Overview");
+///     book.define("Total", "=Sales!$A$1");
+///     suite.powerPoint().addPresentation("Deck.pptx").addSlides(3);
+class DoubleSuite : public office::Suite {
+public:
+    DoubleSuite() : state_(std::make_shared<SuiteState>()) {}
+
+    /// The application of the name; the first call makes it run.
+    ExcelApplication& excel();
+    PowerPointApplication& powerPoint();
+    void quitExcel() { excel_.reset(); }
+    void quitPowerPoint() { powerPoint_.reset(); }
+    /// All applications go away: every further call throws `SuiteLost`.
+    void kill() { state_->failures.loseSuite(); }
+
+    [[nodiscard]] support::CallLog& log() { return state_->log; }
+    [[nodiscard]] support::FailurePlan& failures() { return state_->failures; }
+    [[nodiscard]] int clipboardClears() const { return clipboardClears_; }
+    [[nodiscard]] bool clipboardHasPicture() const { return state_->clipboard.has_value(); }
+    [[nodiscard]] office::WindowHandle raisedWindow() const { return raised_; }
+    [[nodiscard]] office::WindowHandle lockedWindow() const { return locked_; }
+    /// How often drawing was frozen.
+    [[nodiscard]] int locksTaken() const { return locksTaken_; }
+    [[nodiscard]] int redraws() const { return redraws_; }
+    void setPacing(office::Pacing pacing) { pacing_ = pacing; }
+
+    Object attach(std::string_view className) override;
+    /// `Failure`: no part of the program under test starts an application.
+    Object start(std::string_view className) override;
+    void clearClipboard() override;
+    office::ClipboardPicture clipboardPicture(office::ClipboardPicture::Kind kind) override;
+    /// Presentations have windows with captions such as "Deck.pptx - PowerPoint" and the class
+    /// "PPTFrameClass".
+    office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;
+    bool raiseWindow(office::WindowHandle window, int showCommand) override;
+    bool lockDrawing(office::WindowHandle window) override;
+    void unlockDrawing() override { locked_ = 0; }
+    void redraw(office::WindowHandle) override { ++redraws_; }
+    [[nodiscard]] office::Pacing pacing() const override { return pacing_; }
+
+private:
+    std::shared_ptr<SuiteState> state_;
+    std::shared_ptr<ExcelApplication> excel_;
+    std::shared_ptr<PowerPointApplication> powerPoint_;
+    office::Pacing pacing_ = office::Pacing::FinishedOnReturn;
+    int clipboardClears_ = 0;
+    int locksTaken_ = 0;
+    int redraws_ = 0;
+    office::WindowHandle raised_ = 0;
+    office::WindowHandle locked_ = 0;
+};
+
+}  // namespace office_double

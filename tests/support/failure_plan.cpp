@@ -1,0 +1,37 @@
+#include "support/failure_plan.h"
+
+#include <fmt/format.h>
+
+#include <utility>
+
+#include "support/call_log.h"
+
+namespace support {
+
+void FailurePlan::fail(std::string member, int nth, office::FailureNumber number) {
+    planned_.push_back({std::move(member), nth, false, number});
+}
+
+void FailurePlan::failAlways(std::string member, office::FailureNumber number) {
+    planned_.push_back({std::move(member), 0, true, number});
+}
+
+void FailurePlan::forget() {
+    planned_.clear();
+    callsUntilLost_.reset();
+    lost_ = false;
+}
+
+void FailurePlan::check(std::string_view className, std::string_view member) {
+    if (callsUntilLost_ && --*callsUntilLost_ <= 0) lost_ = true;
+    if (lost_) throw office::SuiteLost("The application has gone, as planned.");
+    for (Planned& plan : planned_) {
+        if (!meansMember(plan.member, className, member)) continue;
+        if (plan.always || --plan.callsLeft == 0) {
+            throw office::Failure(plan.number, fmt::format("{}.{}", className, member),
+                                  fmt::format("{}.{} fails, as planned.", className, member));
+        }
+    }
+}
+
+}  // namespace support
