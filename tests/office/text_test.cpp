@@ -1,0 +1,43 @@
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "office/text.h"
+
+namespace {
+
+TEST(Text, ReadsTheNumberThatATextBeginsWith) {
+    const std::vector<std::pair<const char*, double>> cases = {
+        {"12", 12},    {"12 px", 12},  {" 1 2", 12},  {"0.9", 0.9}, {"-.5x", -0.5},
+        {"+3", 3},     {"1,5", 1},     {"abc", 0},    {"", 0},      {"inf", 0},
+        {"1e3", 1000}, {"Default", 0}, {"3 to 4", 3},
+    };
+    for (const auto& [text, number] : cases) EXPECT_EQ(office::leadingNumber(text), number) << text;
+}
+
+TEST(Text, TakesOnlyAWholeTextForANumber) {
+    EXPECT_EQ(office::numberOf(" 12.5 "), 12.5);
+    for (const char* text : {"", " ", "12 px", "1,5", "1 2", "0x10", "nan", "--1"}) {
+        EXPECT_FALSE(office::numberOf(text)) << text;
+    }
+}
+
+TEST(Text, ReplacesEveryOccurrenceOnce) {
+    EXPECT_EQ(office::replaceAll("a!b!c", "!", "--"), "a--b--c");
+    EXPECT_EQ(office::replaceAll("''", "'", "''"), "''''");
+    EXPECT_EQ(office::replaceAll("aaa", "aa", "b"), "ba");
+}
+
+TEST(Text, TrimsBlanksAlone) {
+    EXPECT_EQ(office::trim("  /112 "), "/112");
+    EXPECT_EQ(office::trim("\t/112"), "\t/112");
+    EXPECT_EQ(office::trim("   "), "");
+}
+
+TEST(Text, IgnoresTheCaseOfLettersAlone) {
+    EXPECT_TRUE(office::sameIgnoringCase("SlideIndex", "slideindex"));
+    EXPECT_FALSE(office::sameIgnoringCase("Slide", "Slides"));
+    EXPECT_FALSE(office::sameIgnoringCase("[", "{"));
+}
+
+}  // namespace
