@@ -1,0 +1,180 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "command_recorder.h"
+#include "office/failure.h"
+#include "session/addresses.h"
+#include "session/launcher.h"
+#include "session_doubles/test_session.h"
+
+namespace {
+
+using session_doubles::TestSession;
+using session_tests::CommandRecorder;
+using Words = std::vector<std::string>;
+
+class Launcher : public testing::Test {
+protected:
+    TestSession test;
+    CommandRecorder recorder{test.session};
+
+    int run(const std::string& commandLine) {
+        recorder.ran.clear();
+        return session::Main(test.session, commandLine, recorder.handlers);
+    }
+
+    office_double::Workbook& openWorkbook() {
+        auto& book = test.suite.excel().addWorkbook("Book1.xlsx");
+        book.sheet("Sales");
+        return book;
+    }
+};
+
+TEST_F(Launcher, RunsTheHandlerOfEachCodeAndLeavesThroughTheOneWayOut) {
+    openWorkbook();
+    struct Case {
+        std::string commandLine;
+        Words ran;
+    };
+    const std::vector<Case> cases = {
+        {"", {}},
+        {"   ", {}},
+        {"/004", {"about"}},
+        {"/006", {"layout"}},
+        {"/112", {"count", "main form"}},
+        {"  /112 ", {"count", "main form"}},
+        {"/212", {"count", "slide 0"}},
+        {"/312", {"count", "slide 1"}},
+        {"/3122", {"count", "slide 2"}},
+        {"/412", {"count", "slide 3"}},
+        {"/512", {"count", "word 0"}},
+        {"/612", {"count", "word 1"}},
+        {"/712", {"count", "word 2"}},
+        {"/812", {"count", "word 3"}},
+        {"/111", {"count", "image"}},
+        {"/112 more", {"count"}},
+        {"/1122", {"count"}},
+        {"/11", {"count"}},
+    };
+    for (const Case& it : cases) {
+        Words expected = it.ran;
+        expected.emplace_back("unload all");
+        EXPECT_EQ(run(it.commandLine), 0) << it.commandLine;
+        EXPECT_EQ(recorder.ran, expected) << it.commandLine;
+    }
+    EXPECT_TRUE(test.notices.shown.empty());
+}
+
+TEST_F(Launcher, AttachesToNothingForAnEmptyCommandLine) {
+    openWorkbook();
+    run(" ");
+    EXPECT_EQ(test.suite.log().count(), 0U);
+}
+
+TEST_F(Launcher, OpensTheWebPagesWithoutAnyApplication) {
+    run("/001");
+    run("/002");
+    run("/003");
+    EXPECT_EQ(test.host.links, (Words{std::string(session::address::docOverview),
+                                      std::string(session::address::docOverview) + "#faqs",
+                                      std::string(session::address::contact)}));
+}
+
+TEST_F(Launcher, EndsWithoutAWordWhereExcelIsMissing) {
+    for (const char* code : {"/112", "/212", "/512", "/111"}) {
+        EXPECT_EQ(run(code), 0) << code;
+        EXPECT_EQ(recorder.ran, Words{"unload all"}) << code;
+    }
+    run("/006");
+    EXPECT_EQ(recorder.ran, (Words{"layout", "unload all"}));
+    EXPECT_TRUE(test.notices.shown.empty());
+}
+
+TEST_F(Launcher, EndsWithoutAWordWhereAPasteHasNoWorkbook) {
+    test.suite.excel();
+    test.session.ItemCount = 7;
+    EXPECT_EQ(run("/212"), 0);
+    EXPECT_EQ(recorder.ran, Words{"unload all"});
+    EXPECT_EQ(test.session.ItemCount, 0);
+}
+
+TEST_F(Launcher, TakesVersionWorkbookSheetAndPresentationForTheHandlers) {
+    openWorkbook();
+    test.suite.excel().setVersion("12.0.6");
+    test.suite.powerPoint().addPresentation("Deck.pptx");
+    recorder.handlers.ShowAboutForm = [&] {
+        EXPECT_EQ(test.session.ExcelVersionTag, "12");
+        EXPECT_EQ(test.session.ActiveSheetName, "Sales");
+        EXPECT_EQ(test.session.ActiveBook.get("Name").toText(), "Book1.xlsx");
+        EXPECT_EQ(test.session.SessionPresentation.get("Name").toText(), "Deck.pptx");
+        recorder.ran.emplace_back("looked");
+    };
+    run("/004");
+    EXPECT_EQ(recorder.ran.front(), "looked");
+}
+
+TEST_F(Launcher, GoesOnWithoutWhatItCannotRead) {
+    openWorkbook();
+    test.suite.powerPoint();
+    test.suite.failures().failAlways("Application.Version");
+    test.suite.failures().failAlways("Workbook.ActiveSheet");
+    EXPECT_EQ(run("/212"), 0);
+    EXPECT_EQ(recorder.ran.at(1), "slide 0");
+}
+
+TEST_F(Launcher, FailsWithoutClosingForTheCodeThatHasNoForm) {
+    openWorkbook();
+    try {
+        run("/922");
+        FAIL() << "the failure must reach the program";
+    } catch (const office::Failure& failure) {
+        EXPECT_TRUE(failure.is(office::FailureNumber::ObjectNotSet));
+    }
+    EXPECT_TRUE(recorder.ran.empty());
+    EXPECT_TRUE(test.session.ExcelApp);
+}
+
+TEST_F(Launcher, SaysThatACommandIsMissingAndFails) {
+    openWorkbook();
+    recorder.handlers.PasteSelectionToWord = nullptr;
+    EXPECT_EQ(run("/712"), 1);
+    ASSERT_EQ(test.host.errors.size(), 1U);
+    EXPECT_NE(test.host.errors.front().find("/712"), std::string::npos);
+    EXPECT_EQ(recorder.ran, (Words{"count", "unload all"}));
+}
+
+TEST_F(Launcher, RefusesAnEmbeddedPasteOfCellsUnderAChart) {
+    // The chart of the double covers columns C to G and rows 3 to 12.
+    openWorkbook().sheet("Sales").chart("Chart 1");
+    struct Case {
+        std::string selection;
+        bool refused;
+    };
+    const std::vector<Case> cases = {
+        {"C3", true}, {"A1:C4", true}, {"A1:B2", false}, {"J9", false}};
+    for (const Case& it : cases) {
+        test.suite.excel().selectRange(it.selection);
+        test.notices.shown.clear();
+        run("/3122");
+        EXPECT_EQ(test.notices.messages(),
+                  it.refused ? Words{"The specified range contains embedded charts. Please export "
+                                     "in another format."}
+                             : Words{})
+            << it.selection;
+        EXPECT_EQ(recorder.ran.size(), it.refused ? 2U : 3U) << it.selection;
+    }
+    test.suite.excel().selectRange("C3");
+    run("/312");
+    EXPECT_EQ(recorder.ran.at(1), "slide 1");
+}
+
+TEST_F(Launcher, PastesAnEmbeddedObjectFromAChartSheet) {
+    auto& book = test.suite.excel().addWorkbook("Book1.xlsx");
+    book.chartSheet("Overview");
+    run("/3122");
+    EXPECT_EQ(recorder.ran.at(1), "slide 2");
+}
+
+}  // namespace
