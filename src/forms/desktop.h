@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "forms/form.h"
+
+namespace forms {
+
+enum class ShowMode { Modeless, Modal };
+
+/// The screen's size, and how many twips a pixel has on it.
+struct Screen {
+    Twips width = 0;
+    Twips height = 0;
+    Twips twipsPerPixelX = twipsPerPixel;
+    Twips twipsPerPixelY = twipsPerPixel;
+};
+
+/// The windows of the program, and the forms collection behind them. One implementation draws, one
+/// for tests answers by script.
+class Desktop {
+public:
+    Desktop() = default;
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+    virtual ~Desktop() = default;
+
+    /// Runs the form's `Form_Load`, unless it is loaded already. A form that unloads itself in
+    /// there is not loaded afterwards.
+    void load(Form& form);
+    /// Loads the form if it isn't, and shows it. A modal one returns when the form has been
+    /// unloaded, and other forms take no input meanwhile.
+    void show(Form& form, ShowMode mode);
+    /// Takes the form's window away and runs its `Form_Unload`. Nothing for a form that isn't
+    /// loaded.
+    void unload(Form& form);
+
+    /// The forms collection, in the order of loading.
+    [[nodiscard]] const std::vector<Form*>& loadedForms() const { return loaded_; }
+    [[nodiscard]] bool isLoaded(const Form& form) const;
+    /// Null if no loaded form has the name; case does not count.
+    [[nodiscard]] Form* findLoaded(std::string_view name) const;
+    /// Unloads the loaded forms from the last to the first; stops at one that refuses.
+    void unloadAll();
+
+    /// Lets the events that are waiting run, those of timers too, and draws what has changed.
+    virtual void letEventsRun() = 0;
+    /// Waits until there is an event, then lets it run: the loop of an idle form uses no processor.
+    virtual void waitForEvents() = 0;
+    [[nodiscard]] virtual Screen screen() const = 0;
+    /// The platform's plain message box with an exclamation mark, above everything.
+    virtual void messageBox(std::string_view text, std::string_view title) = 0;
+
+protected:
+    friend class Form;
+
+    virtual void openWindow(Form& form, ShowMode mode) = 0;
+    /// Runs events until the form is no longer loaded.
+    virtual void runModal(Form& form) = 0;
+    virtual void closeWindow(Form& form) = 0;
+
+private:
+    /// A form object that goes takes its window with it, without an event.
+    void forget(Form& form);
+
+    std::vector<Form*> loaded_;
+};
+
+}  // namespace forms

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/control.h"
+#include "forms/looks.h"
+#include "forms/timer.h"
+
+namespace forms {
+
+class Desktop;
+
+/// Names of forms and controls are compared without regard to case.
+[[nodiscard]] bool sameFormName(std::string_view left, std::string_view right);
+
+enum class WindowState { Normal, Minimised, Maximised };
+
+/// A form: its controls by name, its timers, and its event procedures, which a concrete form
+/// overrides. It is shown, hidden and unloaded through the desktop; the object itself belongs to
+/// whoever made it and outlives its window.
+class Form {
+public:
+    Form(Desktop& desktop, std::string name, Twips width, Twips height);
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+    virtual ~Form();
+
+    [[nodiscard]] const std::string& name() const { return name_; }
+    [[nodiscard]] Desktop& desktop() const { return desktop_; }
+
+    /// In the order of their making, those in frames too.
+    [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
+    [[nodiscard]] const std::vector<Timer*>& timers() const { return timers_; }
+    /// Null if there is none of that name; case does not count. The first of a control array.
+    [[nodiscard]] Control* find(std::string_view name) const;
+
+    /// Where the form stands on the screen; a form has no frame of the system, so all of it is its
+    /// own: `ScaleWidth` is its width.
+    Place place;
+    std::string caption;
+    Colour backColour = Colour::rgb(0xF0F0F0);
+    Colour foreColour;
+    WindowState windowState = WindowState::Normal;
+    /// Above all windows of all programs.
+    bool topmost = false;
+    /// The place on the screen is the form's own choice; otherwise it comes up in the middle.
+    bool placesItself = false;
+    /// The control that the keyboard goes to; null: the first in tab order.
+    Control* focus = nullptr;
+    /// A soft edge around the form: its width in pixels (0: none) and its strongest opacity.
+    int shadowDepthPx = 0;
+    int shadowOpacity = 0;
+
+    virtual void Form_Load() {}
+    virtual void Form_Activate() {}
+    virtual void Form_Unload() {}
+
+private:
+    friend class Control;
+    friend class Timer;
+
+    Desktop& desktop_;
+    std::string name_;
+    std::vector<Control*> controls_;
+    std::vector<Timer*> timers_;
+};
+
+}  // namespace forms

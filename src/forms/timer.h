@@ -1,0 +1,30 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <utility>
+
+namespace forms {
+
+class Form;
+
+/// A form's timer. It ticks on the thread of the forms, while events are let run, as long as it is
+/// enabled and its form is loaded.
+class Timer {
+public:
+    Timer(Form& form, std::string name, std::chrono::milliseconds interval);
+    Timer(const Timer&) = delete;
+    Timer& operator=(const Timer&) = delete;
+
+    [[nodiscard]] const std::string& name() const { return name_; }
+
+    std::chrono::milliseconds interval;
+    bool enabled = false;
+    std::function<void()> onTimer;
+
+private:
+    std::string name_;
+};
+
+}  // namespace forms
