@@ -30,7 +30,10 @@ std::unique_ptr<LibreOfficeSuite> LibreOfficeSuite::attachToRunning() {
 
 std::unique_ptr<LibreOfficeSuite> LibreOfficeSuite::startPrivate(
     std::chrono::milliseconds patience) {
-    auto instance = PrivateInstance::start(patience);
+    return on(PrivateInstance::start(patience));
+}
+
+std::unique_ptr<LibreOfficeSuite> LibreOfficeSuite::on(std::unique_ptr<PrivateInstance> instance) {
     auto connection = instance->connection();
     return std::unique_ptr<LibreOfficeSuite>(
         new LibreOfficeSuite(std::move(instance), std::move(connection)));

@@ -32,6 +32,9 @@ public:
     static std::unique_ptr<LibreOfficeSuite> startPrivate(
         std::chrono::milliseconds patience = std::chrono::seconds(60));
 
+    /// The same over an instance that has been started.
+    static std::unique_ptr<LibreOfficeSuite> on(std::unique_ptr<PrivateInstance> instance);
+
     ~LibreOfficeSuite() override;
 
     [[nodiscard]] bool isConnected() const;

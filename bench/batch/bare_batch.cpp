@@ -1,0 +1,109 @@
+#include "bare_batch.h"
+
+#include <com/sun/star/container/XNamed.hpp>
+#include <com/sun/star/document/XExporter.hpp>
+#include <com/sun/star/document/XFilter.hpp>
+#include <com/sun/star/drawing/XDrawPageSupplier.hpp>
+#include <com/sun/star/drawing/XDrawPages.hpp>
+#include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
+#include <com/sun/star/drawing/XShapes.hpp>
+#include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/graphic/XGraphic.hpp>
+#include <com/sun/star/graphic/XGraphicProvider.hpp>
+#include <com/sun/star/lang/XMultiServiceFactory.hpp>
+#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/util/XCloseable.hpp>
+#include <unistd.h>
+
+#include <chrono>
+#include <filesystem>
+#include <vector>
+
+#include "office/libreoffice/connection.h"
+#include "office/libreoffice/units.h"
+
+namespace bench {
+
+namespace {
+
+using namespace libreoffice;
+
+using Shape = uno::Reference<css::drawing::XShape>;
+
+uno::Reference<css::lang::XComponent> open(const Connection& connection, const rtl::OUString& url) {
+    return connection.desktop()->loadComponentFromURL(url, "_blank", 0,
+                                                      propertyValues({{"Hidden", uno::Any(true)}}));
+}
+
+std::vector<Shape> chartsOf(const uno::Reference<css::lang::XComponent>& workbook) {
+    std::vector<Shape> charts;
+    const auto sheets = as<css::container::XIndexAccess>(
+        as<css::sheet::XSpreadsheetDocument>(workbook)->getSheets());
+    for (sal_Int32 s = 0; s < sheets->getCount(); ++s) {
+        const uno::Reference<css::drawing::XDrawPageSupplier> sheet(sheets->getByIndex(s),
+                                                                    uno::UNO_QUERY);
+        const auto page = sheet->getDrawPage();
+        for (sal_Int32 i = 0; i < page->getCount(); ++i) {
+            charts.emplace_back(page->getByIndex(i), uno::UNO_QUERY);
+        }
+    }
+    return charts;
+}
+
+void drawPicture(const Connection& connection, const Shape& chart, const rtl::OUString& url) {
+    const css::awt::Size size = chart->getSize();
+    const uno::Reference<uno::XInterface> filter =
+        connection.create("com.sun.star.drawing.GraphicExportFilter");
+    as<css::document::XExporter>(filter)->setSourceDocument(as<css::lang::XComponent>(chart));
+    const auto data = propertyValues({{"PixelWidth", uno::Any(crispPixelsOf(size.Width))},
+                                      {"PixelHeight", uno::Any(crispPixelsOf(size.Height))},
+                                      {"LogicalWidth", uno::Any(size.Width)},
+                                      {"LogicalHeight", uno::Any(size.Height)}});
+    as<css::document::XFilter>(filter)->filter(
+        propertyValues({{"URL", uno::Any(url)},
+                        {"MediaType", uno::Any(rtl::OUString("image/png"))},
+                        {"FilterData", uno::Any(data)}}));
+}
+
+void insertPicture(const Connection& connection, const uno::Reference<css::lang::XComponent>& deck,
+                   const uno::Reference<css::drawing::XDrawPage>& page, const rtl::OUString& url) {
+    const auto provider = as<css::graphic::XGraphicProvider>(
+        connection.create("com.sun.star.graphic.GraphicProvider"));
+    const auto graphic = provider->queryGraphic(propertyValues({{"URL", uno::Any(url)}}));
+    const Shape shape(as<css::lang::XMultiServiceFactory>(deck)->createInstance(
+                          "com.sun.star.drawing.GraphicObjectShape"),
+                      uno::UNO_QUERY);
+    as<css::drawing::XShapes>(page)->add(shape);
+    setProperty(shape, "Graphic", graphic);
+    shape->setSize(property<css::awt::Size>(graphic, "Size100thMM"));
+}
+
+}  // namespace
+
+double runBareBatch(const Connection& connection, const std::string& workbook,
+                    const std::string& output, int items) {
+    const auto book = open(connection, fileUrl(workbook));
+    const auto deck = open(connection, "private:factory/simpress");
+    const std::vector<Shape> charts = chartsOf(book);
+    const std::string picture = (std::filesystem::path(output).parent_path() / "bare.png").string();
+
+    const auto start = std::chrono::steady_clock::now();
+    const auto pages = as<css::drawing::XDrawPagesSupplier>(deck)->getDrawPages();
+    for (int i = 0; i < items; ++i) {
+        drawPicture(connection, charts.at(static_cast<std::size_t>(i)), fileUrl(picture));
+        insertPicture(connection, deck, pages->insertNewByIndex(pages->getCount()),
+                      fileUrl(picture));
+    }
+    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+
+    as<css::frame::XStorable>(deck)->storeToURL(
+        fileUrl(output),
+        propertyValues(
+            {{"FilterName", uno::Any(rtl::OUString("Impress MS PowerPoint 2007 XML"))}}));
+    as<css::util::XCloseable>(deck)->close(true);
+    as<css::util::XCloseable>(book)->close(true);
+    std::filesystem::remove(picture);
+    return taken.count();
+}
+
+}  // namespace bench

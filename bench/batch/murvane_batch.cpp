@@ -1,0 +1,77 @@
+#include "murvane_batch.h"
+
+#include <chrono>
+
+#include "apps/posix_console.h"
+#include "apps/posix_host.h"
+#include "catalogue/inventory.h"
+#include "office/failure_patterns.h"
+#include "powerpoint/pictures.h"
+#include "powerpoint/start_export.h"
+#include "session/office_session.h"
+
+namespace bench {
+
+namespace {
+
+class NoNotices : public session::NoticePresenter {
+    int show(const session::Notice& notice) override {
+        throw office::Failure(office::FailureNumber::ApplicationDefined, "bench", notice.message);
+    }
+};
+
+class NoProgress : public session::ProgressDisplay {
+    void showLoading() override {}
+    void setLoadingValue(int) override {}
+    [[nodiscard]] int loadingValue() const override { return 0; }
+    void clearLoading() override {}
+    void unloadLoading() override {}
+    void setTotal(int) override {}
+    void setCurrent(int) override {}
+    void setValue(int, std::string_view) override {}
+    [[nodiscard]] int value() const override { return 0; }
+    void redraw() override {}
+    void show() override {}
+    void unload() override {}
+};
+
+}  // namespace
+
+BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, const std::string& workbook,
+                          const std::string& output) {
+    apps::PosixConsole console;
+    apps::PosixHost host(console);
+    NoNotices notices;
+    NoProgress progress;
+    session::OfficeSession session(suite, host, notices, progress);
+    session.ExcelApp = suite.attach("Excel.Application");
+    session.PowerPointApp = suite.attach("PowerPoint.Application");
+    session.ActiveBook = session.ExcelApp.get("Workbooks").call("Open", workbook).toObject();
+    const office::Object deck =
+        session.PowerPointApp.get("Presentations").call("Add", false).toObject();
+
+    catalogue::InventoryValues values;
+    catalogue::ExportList list;
+    catalogue::CountWorkbookItems(session);
+    catalogue::LoadItemsToForm(session, values, list);
+    // Charts only, as the bare program takes them.
+    for (auto& row : list.rows) row.Checked = row.isEmbeddedChart() && !row.isChartSheet();
+    powerpoint::StartPowerPointExport(session, list);
+    session.slideTitle = true;
+    session.sourceInc = true;
+
+    BatchCost cost;
+    cost.items = session.CheckedCount;
+    const std::uint64_t callsBefore = suite.remoteCalls();
+    const auto start = std::chrono::steady_clock::now();
+    powerpoint::ExportRowsAsPictures(session, list, {});
+    cost.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    cost.remoteCalls = suite.remoteCalls() - callsBefore;
+
+    deck.call("SaveCopyAs", output);
+    deck.call("Close");
+    session.ActiveBook.call("Close", false);
+    return cost;
+}
+
+}  // namespace bench

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "office/libreoffice/libreoffice_suite.h"
+
+namespace bench {
+
+struct BatchCost {
+    int items = 0;
+    /// From the first slide to the last item, without opening and saving.
+    double seconds = 0;
+    /// Calls answered by the suite in that time.
+    std::uint64_t remoteCalls = 0;
+
+    [[nodiscard]] double secondsAnItem() const { return seconds / items; }
+    [[nodiscard]] double callsAnItem() const { return static_cast<double>(remoteCalls) / items; }
+};
+
+/// The product's own batch: opens the workbook and a new presentation, fills the list, exports all
+/// rows as pictures with titles and source line, saves. The inventory is not part of the time.
+BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, const std::string& workbook,
+                          const std::string& output);
+
+}  // namespace bench
