@@ -19,17 +19,19 @@ inline constexpr RowColour RowColourMuted = 100U | (116U << 8U) | (139U << 16U);
 /// A range of several areas: it can't be exported and may not be checked.
 inline constexpr RowColour RowColourRefused = 255U;
 
-/// One row of `listCharts`: the working record of one exportable object. Columns are numbered as the list shows them, so
-/// SubItems(1) stands in column 2.
+/// One row of `listCharts`: the working record of one exportable object. Columns are numbered as
+/// the list shows them, so SubItems(1) stands in column 2.
 struct ExportRow {
     std::string Text;  ///< object name, or `chartSheetText`
     bool Checked = false;
     RowColour ForeColor = RowColourChecked;
     int SmallIcon = 0;
 
-    /// 1 sheet, 2 slide number as text, 3 running order, 4 caption, 5 kind ("Embedded", "Range", "Chart"), 6 hidden order,
-    /// 7 identity. An index outside 1 to 7 is a programming error.
-    [[nodiscard]] const std::string& SubItems(std::size_t index) const { return subItems_.at(index - 1); }
+    /// 1 sheet, 2 slide number as text, 3 running order, 4 caption, 5 kind ("Embedded", "Range",
+    /// "Chart"), 6 hidden order, 7 identity. An index outside 1 to 7 is a programming error.
+    [[nodiscard]] const std::string& SubItems(std::size_t index) const {
+        return subItems_.at(index - 1);
+    }
     [[nodiscard]] std::string& SubItems(std::size_t index) { return subItems_.at(index - 1); }
 
     [[nodiscard]] bool isChartSheet() const { return Text == chartSheetText; }
@@ -51,7 +53,8 @@ struct ExportList {
 
 /// What the main form has chosen about an export.
 struct ExportChoices {
-    int destination = 0;  ///< index of `Option1`: 0 PowerPoint, 1 Word, 2 HTML, 3 PDF, 4 image files
+    int destination =
+        0;  ///< index of `Option1`: 0 PowerPoint, 1 Word, 2 HTML, 3 PDF, 4 image files
     bool predefinedSlides = false;  ///< `OptionPredefSlides`; otherwise new slides at the end
 };
 

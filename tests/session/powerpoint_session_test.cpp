@@ -63,6 +63,15 @@ TEST_F(SlideView, OfASelectionPasteBecomesNormal) {
     EXPECT_EQ(test.session.ProgressCount, 4);
 }
 
+TEST_F(SlideView, EndsARunningShow) {
+    auto& shown = test.suite.powerPoint().addPresentation("Show.pptx").runSlideShow();
+    session::PrepareSlideView(test.session);
+    EXPECT_FALSE(shown.showsSlides());
+    shown.runSlideShow();
+    session::ExitShowNormalView(test.session);
+    EXPECT_FALSE(shown.showsSlides());
+}
+
 TEST_F(SlideView, PassesOverWhatFails) {
     test.suite.failures().failAlways("Application.ActiveWindow");
     session::PrepareSlideView(test.session);

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "catalogue/export_list.h"
+#include "session/office_session.h"
+
+namespace catalogue {
+
+/// What a review has found.
+struct ReviewTexts {
+    /// Each keeps the export from running. Markup: one "<li>" for each, its text escaped.
+    std::string Blockers;
+    /// What the user may overrule, as markup and as plain lines "- text" ended by CR LF.
+    std::string ReviewItems;
+    std::string ReviewLines;
+};
+
+void AddBlocker(std::string& blockers, std::string_view text);
+void AddReviewItem(std::string& reviewItems, std::string& reviewLines, std::string_view text);
+
+/// Looks at the rows and at the application of the destination, and tells nobody. Changes nothing
+/// but the session's PowerPoint reference, which is taken anew.
+[[nodiscard]] ReviewTexts reviewExport(session::OfficeSession& session, const ExportList& list,
+                                       const ExportChoices& choices);
+
+enum class ReviewResult { Go, Blocked, Cancelled };
+
+/// The review ahead of an export: blockers are shown and end it, review items ask whether to go on.
+ReviewResult PreExportReview(session::OfficeSession& session, const ExportList& list,
+                             const ExportChoices& choices);
+
+}  // namespace catalogue

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "catalogue/export_list.h"
+#include "session/office_session.h"
+
+namespace catalogue {
+
+/// Looks up what the rows stand for, during one walk over them. Each sheet is asked for once: make
+/// a new one for each walk, since the user may show or hide a sheet between two.
+class RowObjects {
+public:
+    explicit RowObjects(session::OfficeSession& session) : session_(session) {}
+
+    /// Whether the row is checked and its sheet is visible, neither hidden nor very hidden nor
+    /// gone.
+    [[nodiscard]] bool isOnVisibleSheet(const ExportRow& row);
+
+    /// Whether the row is a range of several areas, which can't be exported. False if that can't be
+    /// told.
+    [[nodiscard]] bool isMultipleAreaRow(const ExportRow& row);
+
+private:
+    struct Sheet {
+        office::Object object;
+        bool isVisible = false;
+    };
+
+    const Sheet& sheetOf(const ExportRow& row);
+
+    session::OfficeSession& session_;
+    /// By collection and name.
+    std::map<std::string, Sheet> sheets_;
+};
+
+/// The question for a single row.
+[[nodiscard]] bool IsMultipleAreaRow(session::OfficeSession& session, const ExportRow& row);
+
+}  // namespace catalogue

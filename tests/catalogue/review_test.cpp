@@ -1,0 +1,189 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "catalogue/review.h"
+#include "loaded_list.h"
+#include "panels/notice_page.h"
+
+namespace {
+
+using catalogue::ExportChoices;
+using catalogue::ReviewResult;
+using catalogue_tests::row;
+using session_doubles::TestSession;
+using Words = std::vector<std::string>;
+
+constexpr int slides = 0;
+constexpr int word = 1;
+constexpr int html = 2;
+
+class Review : public testing::Test {
+protected:
+    TestSession test;
+    catalogue::ExportList list;
+    ExportChoices choices;
+
+    Review() {
+        auto& book = test.suite.excel().addWorkbook("Book1.xlsx");
+        book.sheet("Sales").chart("Chart 1").define("Parts", "A1:A5,C1:C5").define("Whole", "A1");
+        book.sheet("Hidden").chart("Chart 2").hide();
+        test.attach();
+        list.rows = {row("Chart 1", "Sales", "Embedded")};
+        choices.destination = slides;
+    }
+
+    void openDeck(int count) {
+        test.suite.powerPoint().addPresentation("Deck.pptx").addSlides(count);
+    }
+    void predefine(const std::string& slideNumber) {
+        choices.predefinedSlides = true;
+        list.rows.front().SubItems(2) = slideNumber;
+    }
+    [[nodiscard]] Words blockers() {
+        const std::string markup = catalogue::reviewExport(test.session, list, choices).Blockers;
+        const std::string text = office::replaceAll(panels::listText(markup), "\r\n", "\n");
+        Words lines;
+        for (std::size_t start = 0; start < text.size();) {
+            const std::size_t end = std::min(text.find('\n', start), text.size());
+            lines.push_back(text.substr(start, end - start));
+            start = end + 1;
+        }
+        return lines;
+    }
+};
+
+const char* const nothingChecked =
+    "No items are checked. Select at least one chart, range, or object to export.";
+const char* const noPowerPoint =
+    "PowerPoint is not running. Open PowerPoint and a presentation, then try again.";
+
+TEST_F(Review, LetsAReadyExportGoWithoutAWord) {
+    openDeck(1);
+    EXPECT_EQ(catalogue::PreExportReview(test.session, list, choices), ReviewResult::Go);
+    EXPECT_TRUE(test.notices.shown.empty());
+    EXPECT_TRUE(test.session.PowerPointFound && test.session.PresentationsFound);
+}
+
+TEST_F(Review, CollectsTheBlockersOfItemsAndDestination) {
+    list.rows.front().Checked = false;
+    EXPECT_EQ(blockers(), (Words{nothingChecked, noPowerPoint}));
+}
+
+TEST_F(Review, BlocksWhereAllCheckedItemsAreHidden) {
+    list.rows = {row("Chart 2", "Hidden", "Embedded")};
+    choices.destination = html;
+    EXPECT_EQ(blockers(),
+              Words{"All checked items are on hidden worksheets and cannot be exported. Show those "
+                    "sheets or uncheck them."});
+}
+
+TEST_F(Review, BlocksARangeOfSeveralAreasForEveryDestination) {
+    list.rows = {row("Whole", "Sales", "Range"), row("Parts", "Sales", "Range"),
+                 row("Gone", "Sales", "Range")};
+    openDeck(1);
+    for (const int destination : {slides, html, 3, 4}) {
+        choices.destination = destination;
+        EXPECT_EQ(blockers(), Words{"\"Parts\" is a multiple-area range and cannot be exported."})
+            << destination;
+    }
+}
+
+TEST_F(Review, ShowsTheBlockersTogetherWithWhatToReview) {
+    list.rows.push_back(row("Chart 2", "Hidden", "Embedded"));
+    EXPECT_EQ(catalogue::PreExportReview(test.session, list, choices), ReviewResult::Blocked);
+    ASSERT_EQ(test.notices.shown.size(), 1U);
+    EXPECT_EQ(test.notices.shown.front().title, "Export blocked");
+    EXPECT_EQ(test.notices.shown.front().message,
+              std::string(noPowerPoint) +
+                  "\r\n\r\n1 checked item(s) are on hidden worksheets and will be skipped.");
+}
+
+TEST_F(Review, AsksWhetherToGoOnWithoutTheHiddenItems) {
+    list.rows.push_back(row("Chart 2", "Hidden", "Embedded"));
+    openDeck(1);
+    test.notices.answers = {session::answer::ok, session::answer::cancel};
+    EXPECT_EQ(catalogue::PreExportReview(test.session, list, choices), ReviewResult::Go);
+    EXPECT_EQ(catalogue::PreExportReview(test.session, list, choices), ReviewResult::Cancelled);
+    EXPECT_EQ(test.notices.shown.front().title, "Export review");
+    EXPECT_EQ(test.notices.shown.front().buttons, session::buttons::question);
+    EXPECT_EQ(test.notices.shown.front().message,
+              "- 1 checked item(s) are on hidden worksheets and will be skipped.\r\n\r\n\r\n"
+              "Continue anyway?");
+}
+
+TEST_F(Review, WantsAPresentation) {
+    test.suite.powerPoint();
+    EXPECT_EQ(blockers(),
+              Words{"No PowerPoint presentation is open. Open or create a presentation, then try "
+                    "again."});
+}
+
+TEST_F(Review, AttachesAgainWhereTheFirstReferenceDoesNotAnswer) {
+    openDeck(1);
+    test.suite.failures().fail("Presentations.Count");
+    EXPECT_EQ(blockers(), Words{});
+    test.suite.failures().failAlways("Presentations.Count");
+    EXPECT_EQ(blockers(), Words{noPowerPoint});
+}
+
+TEST_F(Review, ChecksTheSlideNumbersWhereSlidesArePredefined) {
+    openDeck(3);
+    struct Case {
+        std::string number;
+        Words blockers;
+    };
+    const std::vector<Case> cases = {
+        {"3", {}},
+        {"1.6", {}},
+        {" 2 ", {}},
+        {" ", {"Missing slide number for \"Chart 1\". Enter a slide number or uncheck the item."}},
+        {"0", {"Invalid slide number for \"Chart 1\"."}},
+        {"-5", {"Invalid slide number for \"Chart 1\"."}},
+        {"none", {"Invalid slide number for \"Chart 1\"."}},
+        {"4", {"Slide 4 for \"Chart 1\" exceeds the presentation size (3 slides)."}},
+        {"9999999999",
+         {"Slide 2147483647 for \"Chart 1\" exceeds the presentation size (3 slides)."}},
+    };
+    for (const Case& it : cases) {
+        predefine(it.number);
+        EXPECT_EQ(blockers(), it.blockers) << it.number;
+    }
+    choices.predefinedSlides = false;
+    EXPECT_EQ(blockers(), Words{}) << "the numbers don't matter where slides are new";
+}
+
+TEST_F(Review, DoesNotReportSlideNumbersOfHiddenRows) {
+    openDeck(3);
+    predefine("2");
+    list.rows.push_back(row("Chart 2", "Hidden", "Embedded"));
+    EXPECT_EQ(blockers(), Words{});
+    list.rows.erase(list.rows.begin());
+    EXPECT_EQ(blockers().size(), 1U) << "all hidden is one blocker, not two";
+}
+
+TEST_F(Review, SaysThatThePresentationCannotBeRead) {
+    openDeck(3);
+    predefine("2");
+    test.suite.failures().failAlways("Slides.Count");
+    EXPECT_EQ(blockers(), Words{"Could not read the open PowerPoint presentation."});
+}
+
+TEST_F(Review, WantsWordToRun) {
+    choices.destination = word;
+    EXPECT_EQ(blockers(),
+              Words{"Word is not running. Open Word with an active document, then try again."});
+}
+
+TEST_F(Review, EscapesNamesInItsPage) {
+    openDeck(1);
+    list.rows.front().Text = "<b>";
+    predefine("0");
+    catalogue::PreExportReview(test.session, list, choices);
+    EXPECT_NE(test.notices.shown.front().page.find(
+                  "<li>Invalid slide number for &quot;&lt;b&gt;&quot;.</li>"),
+              std::string::npos);
+}
+
+}  // namespace

@@ -1,0 +1,136 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "loaded_list.h"
+#include "session/workbook_store.h"
+
+namespace {
+
+using catalogue_tests::LoadedList;
+using session_doubles::TestSession;
+using Words = std::vector<std::string>;
+
+class StoreMerge : public testing::Test {
+protected:
+    TestSession test;
+    office_double::Workbook& book = test.suite.excel().addWorkbook("Book1.xlsx");
+
+    StoreMerge() {
+        book.sheet("Sales").chart("Chart 1").chart("Chart 2");
+        test.attach();
+        session::EnsureStoreSheet(test.session);
+    }
+
+    /// One run: the list loaded, changed by the user, and saved.
+    template <class Change>
+    void run(const Change& change) {
+        LoadedList loaded(test);
+        change(loaded.list);
+        catalogue::SaveListToStore(test.session, loaded.list);
+    }
+    void run() {
+        run([](catalogue::ExportList&) {});
+    }
+
+    [[nodiscard]] office::Value cell(const std::string& address) const {
+        return test.sheet(session::store::sheetName).get("Range", address).get("Value");
+    }
+    [[nodiscard]] std::string text(const std::string& address) const {
+        return cell(address).toText();
+    }
+};
+
+TEST_F(StoreMerge, WritesAllItemsIntoAnEmptyStore) {
+    book.define("Total", "=Sales!$A$1");
+    const LoadedList loaded(test);
+    EXPECT_TRUE(loaded.values.StoreIsNew);
+    // The store was added ahead of the active sheet, which is now the second one.
+    EXPECT_EQ(text("A3"), "Total");
+    EXPECT_EQ(text("B3"), "Sales");
+    EXPECT_EQ(text("D3"), "2");
+    EXPECT_TRUE(cell("E3").toBool());
+    EXPECT_EQ(text("F3"), "Range");
+    EXPECT_EQ(text("G3"), "");
+    EXPECT_EQ(text("H3"), "TotalSales");
+    EXPECT_EQ(text("A4"), "");
+}
+
+TEST_F(StoreMerge, KeepsOrderChecksNumbersAndCaptionsFromRunToRun) {
+    run([](catalogue::ExportList& list) {
+        std::swap(list.rows.at(0), list.rows.at(1));
+        list.rows.at(0).SubItems(2) = "007";
+        list.rows.at(0).SubItems(4) = "A \"title\" with = and Ü";
+        list.rows.at(1).Checked = false;
+    });
+    const LoadedList loaded(test);
+    EXPECT_FALSE(loaded.values.StoreIsNew);
+    EXPECT_EQ(loaded.names(), (Words{"Chart 2@Sales", "Chart 1@Sales"}));
+    EXPECT_EQ(loaded.list.rows.at(0).SubItems(2), "007");
+    EXPECT_EQ(loaded.list.rows.at(0).SubItems(4), "A \"title\" with = and Ü");
+    EXPECT_TRUE(loaded.list.rows.at(0).Checked);
+    EXPECT_FALSE(loaded.list.rows.at(1).Checked);
+    EXPECT_EQ(loaded.check1, catalogue::CheckAllState::Some);
+}
+
+TEST_F(StoreMerge, AppendsNewItemsBelowTheMarkerRow) {
+    run();
+    book.sheet("Sales").chart("Chart 3");
+    book.define("Total", "=Sales!$A$1");
+    const LoadedList loaded(test);
+    // The marker's row is the gap in between.
+    EXPECT_EQ(loaded.names(),
+              (Words{"Chart 1@Sales", "Chart 2@Sales", "@", "Chart 3@Sales", "Total@Sales"}));
+    EXPECT_FALSE(loaded.list.rows.at(2).Checked);
+    EXPECT_TRUE(loaded.list.rows.at(3).Checked);
+    EXPECT_EQ(loaded.list.rows.at(3).SubItems(6), "4");
+    EXPECT_EQ(loaded.list.rows.at(4).SubItems(6), "4");
+    EXPECT_EQ(text("G3"), "3");
+}
+
+TEST_F(StoreMerge, AppendsNothingTwice) {
+    run();
+    book.sheet("Sales").chart("Chart 3");
+    run();
+    run();
+    EXPECT_EQ(LoadedList(test).list.rows.size(), 4U);
+}
+
+TEST_F(StoreMerge, KeepsTheRowsOfWhatHasVanished) {
+    book.define("Total", "=Sales!$A$1");
+    run();
+    test.sheet("Sales").get("ChartObjects").get("Item", "Chart 1").call("Delete");
+    test.session.ActiveBook.get("Names").get("Item", "Total").call("Delete");
+    const LoadedList loaded(test);
+    EXPECT_EQ(loaded.names(), (Words{"Chart 1@Sales", "Chart 2@Sales", "Total@Sales"}));
+    EXPECT_EQ(loaded.list.rows.at(2).ForeColor, catalogue::RowColourChecked);
+}
+
+TEST_F(StoreMerge, TakesARenamedSheetsItemsForNewOnes) {
+    run();
+    test.sheet("Sales").put("Name", "Turnover");
+    EXPECT_EQ(LoadedList(test).names(), (Words{"Chart 1@Sales", "Chart 2@Sales", "@",
+                                               "Chart 1@Turnover", "Chart 2@Turnover"}));
+}
+
+TEST_F(StoreMerge, DistinguishesKeysByCase) {
+    run();
+    book.sheet("Sales").chart("CHART 1");
+    EXPECT_EQ(LoadedList(test).list.rows.size(), 4U);
+}
+
+TEST_F(StoreMerge, ThrowsAwayAStoreWithoutKeys) {
+    const office::Object sheet = test.sheet(session::store::sheetName);
+    sheet.get("Range", "A1").put("Value", "An old item");
+    sheet.get("Range", "T1").put("Value", "Its caption");
+    const LoadedList loaded(test);
+    EXPECT_EQ(loaded.names(), (Words{"Chart 1@Sales", "Chart 2@Sales"}));
+    EXPECT_EQ(loaded.list.rows.at(0).SubItems(4), "");
+    EXPECT_TRUE(loaded.values.StoreIsNew);
+    EXPECT_EQ(sheet.get("Visible").toLong(), 2);
+    // The walk compared with the emptied store, and its marks are written along.
+    EXPECT_EQ(loaded.list.rows.at(0).SubItems(6), "New");
+}
+
+}  // namespace
