@@ -553,7 +553,7 @@ def stored_items(data):
     """What the user settled in an earlier session, in that session's order."""
     return [
         store.Item("Revenue and margin", "Overview", "Embedded",
-                   caption=f"Revenue grew by {data.growth:.0%}, the margin kept pace"),
+                   caption=f"Revenue grew by {data.growth:.0%}, the margin reached {data.margin[-1]:.1%}"),
         store.Item("KPI_Overview", "Overview", "Range", slide="2"),
         store.Item("Segment revenue", "Revenue", "Embedded", slide="3"),
         store.Item(store.CHART_SHEET, "Outlook 2027", "Chart", caption="2027: growth goes on"),
