@@ -1,0 +1,142 @@
+#include "powerpoint/picture_styles.h"
+
+#include <map>
+#include <utility>
+#include <vector>
+
+#include "office/failure_patterns.h"
+
+namespace powerpoint {
+
+namespace {
+
+using office::Object;
+using office::Value;
+
+enum class Part { Itself, Shadow, ShadowColour, Reflection, FirstAdjustment };
+
+struct Setting {
+    Part part;
+    std::string_view member;
+    Value value;
+};
+using Look = std::vector<Setting>;
+
+constexpr double shadowOffsetPt = 8.12132;
+constexpr int roundedRectangle = 5;
+
+const Look& lookOf(std::int16_t pictureStyle) {
+    static const Look none;
+    static const Look shadowAllAround = {
+        {Part::Shadow, "Blur", 25},
+        {Part::Shadow, "Size", 100},
+        {Part::ShadowColour, "RGB", 0},
+    };
+    static const Look shadow = {
+        {Part::Shadow, "Visible", 1},
+        {Part::ShadowColour, "RGB", 0},
+        {Part::Shadow, "Size", 100},
+        {Part::Shadow, "OffsetX", shadowOffsetPt},
+        {Part::Shadow, "OffsetY", shadowOffsetPt},
+    };
+    static const Look roundedCorners = {
+        {Part::Itself, "AutoShapeType", roundedRectangle},
+        {Part::FirstAdjustment, "Item", 0.05},
+    };
+    static const Look reflection = {
+        {Part::Reflection, "Offset", 1},
+        {Part::Reflection, "Size", 20},
+        {Part::FirstAdjustment, "Item", 0.03},
+        {Part::Shadow, "Visible", 1},
+    };
+    // A plain picture has no corners to adjust until it has become a rounded rectangle: of the two
+    // adjustments the later one makes the corners.
+    static const Look reflectionRounded = {
+        {Part::Reflection, "Offset", 1},
+        {Part::Reflection, "Size", 20},
+        {Part::FirstAdjustment, "Item", 0.03},
+        {Part::Shadow, "Visible", 1},
+        {Part::Itself, "AutoShapeType", roundedRectangle},
+        {Part::FirstAdjustment, "Item", 0.05},
+    };
+
+    switch (pictureStyle) {
+        case style::shadowAllAround:
+            return shadowAllAround;
+        case style::shadow:
+            return shadow;
+        case style::roundedCorners:
+            return roundedCorners;
+        case style::reflection:
+            return reflection;
+        case style::reflectionRounded:
+            return reflectionRounded;
+        default:
+            return none;
+    }
+}
+
+/// A shape and those of its parts that settings have asked for, each looked up once.
+class StyledShape {
+public:
+    explicit StyledShape(Object shape) : shape_(std::move(shape)) {}
+
+    void apply(const Setting& setting) {
+        if (setting.part == Part::FirstAdjustment) {
+            partOf(setting.part).put(setting.member, 1, setting.value);
+        } else {
+            partOf(setting.part).put(setting.member, setting.value);
+        }
+    }
+
+private:
+    const Object& partOf(Part part) {
+        if (part == Part::Itself) return shape_;
+        Object& held = parts_[part];
+        if (!held) held = lookUp(part);
+        return held;
+    }
+
+    Object lookUp(Part part) {
+        switch (part) {
+            case Part::Shadow:
+                return shape_.get("Shadow").toObject();
+            case Part::ShadowColour:
+                return partOf(Part::Shadow).get("ForeColor").toObject();
+            case Part::Reflection:
+                return shape_.get("Reflection").toObject();
+            case Part::FirstAdjustment:
+                return shape_.get("Adjustments").toObject();
+            case Part::Itself:
+                break;
+        }
+        return shape_;
+    }
+
+    Object shape_;
+    std::map<Part, Object> parts_;
+};
+
+}  // namespace
+
+void ApplyPictureStyle(session::OfficeSession& session, std::int16_t shapeIndex) {
+    const Look& look = lookOf(session.PictureStyle);
+    if (look.empty()) return;
+
+    office::ContinueOnFailure scope;
+    Object shape;
+    scope.attempt([&] {
+        shape = session.PowerPointApp.get("ActiveWindow")
+                    .get("Selection")
+                    .get("SlideRange")
+                    .get("Shapes")
+                    .get("Item", std::int32_t{shapeIndex})
+                    .toObject();
+    });
+    StyledShape styled(shape);
+    for (const Setting& setting : look) {
+        scope.attempt([&] { styled.apply(setting); });
+    }
+}
+
+}  // namespace powerpoint

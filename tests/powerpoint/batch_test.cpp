@@ -1,0 +1,273 @@
+#include "export_stage.h"
+#include "powerpoint/batch_frame.h"
+#include "powerpoint/picture_styles.h"
+
+namespace {
+
+using Texts = std::vector<std::string>;
+using office_double::Layout;
+using office_double::Shape;
+using stage::chartRow;
+using stage::chartSheetRow;
+using stage::rangeRow;
+
+class BatchTest : public stage::ExportStage {
+protected:
+    BatchTest() {
+        book.sheet("Sales").chart("Chart 1").chart("Chart 2").chart("Chart 3");
+        book.sheet("Hidden").chart("Chart 4");
+        book.chartSheet("Overview");
+        book.define("Total", "=Sales!$A$1:$C$4");
+        deck.addSlides(2);
+    }
+
+    void hide(const char* sheet) {
+        book.handle().get("Sheets").get("Item", sheet).put("Visible", 0);
+    }
+
+    [[nodiscard]] std::string titleOf(std::size_t slide) const {
+        return deck.slide(slide).title()->text();
+    }
+};
+
+TEST_F(BatchTest, NewSlidesFollowTheOldOnesInTheOrderOfTheRows) {
+    add(rangeRow("Total", "Sales", "", "The total"));
+    add(chartSheetRow("Overview"));
+    add(chartRow("Chart 2", "Sales"));
+    exportRows();
+    ASSERT_EQ(deck.slides().size(), 5U);
+    EXPECT_EQ(picturesOn(1), Texts{});
+    EXPECT_EQ(picturesOn(3), Texts{"The total"});
+    EXPECT_EQ(picturesOn(4), Texts{"Overview"});
+    EXPECT_EQ(picturesOn(5), Texts{"Chart 2"});
+    EXPECT_EQ(suite.log().texts("Slides.Add"),
+              (Texts{"Slides.Add(3, 11)", "Slides.Add(3, 11)", "Slides.Add(3, 11)"}));
+    EXPECT_EQ(list.selected, 2);
+}
+
+TEST_F(BatchTest, UncheckedRowsTakeNoSlide) {
+    add(chartRow("Chart 1", "Sales"));
+    add(chartRow("Chart 2", "Sales"));
+    list.rows[0].Checked = false;
+    exportRows();
+    EXPECT_EQ(deck.slides().size(), 3U);
+    EXPECT_EQ(picturesOn(3), Texts{"Chart 2"});
+}
+
+TEST_F(BatchTest, ACheckedRowOnAHiddenSheetLeavesAnEmptySlideAtTheEnd) {
+    hide("Hidden");
+    add(chartRow("Chart 4", "Hidden"));
+    add(chartRow("Chart 1", "Sales"));
+    exportRows();
+    ASSERT_EQ(deck.slides().size(), 4U);
+    EXPECT_EQ(picturesOn(3), Texts{"Chart 1"});
+    EXPECT_EQ(picturesOn(4), Texts{});
+}
+
+TEST_F(BatchTest, ARowThatIsGoneFromTheWorkbookDoesNoHarmUnchecked) {
+    add(chartRow("Chart 1", "Deleted sheet"));
+    add(chartRow("Chart 1", "Sales"));
+    list.rows[0].Checked = false;
+    EXPECT_NO_THROW(exportRows());
+}
+
+TEST_F(BatchTest, PredefinedSlidesTakeWhatNamesThemAndRowsWithoutANumberAreSkipped) {
+    choices.predefinedSlides = true;
+    add(chartRow("Chart 1", "Sales", "2"));
+    for (const char* slide : {"0", "", "abc"}) add(chartRow("Chart 2", "Sales", slide));
+    add(chartRow("Chart 3", "Sales", "1.6"));
+    exportRows();
+    EXPECT_EQ(deck.slides().size(), 2U);
+    EXPECT_EQ(picturesOn(2), (Texts{"Chart 1", "Chart 3"}));
+    EXPECT_EQ(picturesOn(1), Texts{});
+    EXPECT_EQ(session.ProgressCount, 2);
+    EXPECT_TRUE(notices.shown.empty());
+}
+
+TEST_F(BatchTest, ASkippedRowKeepsTheSelectionAndOthersDropIt) {
+    choices.predefinedSlides = true;
+    add(chartRow("Chart 1", "Sales", "2"));
+    add(chartRow("Chart 2", "Sales", ""));
+    add(chartRow("Chart 3", "Sales", "1"));
+    list.rows[2].Checked = false;
+    exportRows();
+    EXPECT_EQ(suite.log().count("Selection.Unselect"), 2U);
+}
+
+TEST_F(BatchTest, WhenAllCountedItemsAreThereTheBatchEndsEarlyAndExcelStaysFrozen) {
+    choices.predefinedSlides = true;
+    add(chartRow("Chart 1", "Sales", "2"));
+    add(chartRow("Chart 2", "Sales", "1"));
+    session.CheckedCount = 1;
+    powerpoint::ExportRowsAsPictures(session, list, choices);
+    EXPECT_EQ(picturesOn(2), Texts{"Chart 1"});
+    EXPECT_EQ(picturesOn(1), Texts{});
+    EXPECT_FALSE(excelDraws());
+    EXPECT_EQ(progress.calls.back(), "unload");
+}
+
+TEST_F(BatchTest, ASlideNumberBeyondTheEndFailsForTheCaller) {
+    choices.predefinedSlides = true;
+    add(chartRow("Chart 1", "Sales", "3"));
+    EXPECT_THROW(exportRows(), office::Failure);
+}
+
+TEST_F(BatchTest, TitlesAreTheCaptions) {
+    session.slideTitle = true;
+    add(chartRow("Chart 1", "Sales", "", "North"));
+    add(chartRow("Chart 2", "Sales"));
+    exportRows();
+    EXPECT_EQ(titleOf(3), "North");
+    EXPECT_EQ(titleOf(4), "");
+}
+
+TEST_F(BatchTest, ATitleForASlideWithoutOneFailsForTheCaller) {
+    choices.predefinedSlides = true;
+    session.slideTitle = true;
+    deck.addSlide(Layout::Blank);
+    add(chartRow("Chart 1", "Sales", "3", "North"));
+    EXPECT_THROW(exportRows(), office::Failure);
+}
+
+TEST_F(BatchTest, AMissingRangeGetsItsNoticeAndTheRowsOtherSteps) {
+    session.slideTitle = true;
+    add(rangeRow("Nowhere", "Sales", "", "Lost"));
+    add(chartRow("Chart 1", "Sales"));
+    exportRows();
+    EXPECT_EQ(notices.messages(), Texts{"? Named range 'Nowhere' not found or invalid."});
+    EXPECT_EQ(titleOf(3), "Lost");
+    EXPECT_EQ(picturesOn(4), Texts{"Chart 1"});
+}
+
+TEST_F(BatchTest, AStyleGoesToThePictureAheadOfTheSourceLine) {
+    session.PictureStyle = powerpoint::style::shadow;
+    session.sourceInc = true;
+    add(chartRow("Chart 1", "Sales"));
+    exportRows();
+    const auto& shapes = deck.slide(3).shapes();
+    ASSERT_EQ(shapes.size(), 3U);
+    EXPECT_TRUE(shapes[1]->hasShadow());
+    EXPECT_FALSE(shapes[2]->hasShadow());
+}
+
+TEST_F(BatchTest, TheShadowOptionReplacesTheStyleAfterTheFirstItem) {
+    session.PictureStyle = powerpoint::style::roundedCorners;
+    session.checkShadow = true;
+    add(chartRow("Chart 1", "Sales"));
+    add(chartRow("Chart 2", "Sales"));
+    exportRows();
+    const auto typeOf = [&](std::size_t slide) {
+        return deck.slide(slide).shapes().back()->handle().get("AutoShapeType").toLong();
+    };
+    EXPECT_EQ(typeOf(3), 5);
+    EXPECT_EQ(typeOf(4), 1);
+    EXPECT_TRUE(deck.slide(3).shapes().back()->hasShadow());
+    EXPECT_TRUE(deck.slide(4).shapes().back()->hasShadow());
+    EXPECT_EQ(session.PictureStyle, powerpoint::style::shadow);
+}
+
+TEST_F(BatchTest, WithASourceLineTheShadowOptionMeetsThatOneAndLaterPictures) {
+    session.sourceInc = true;
+    session.checkShadow = true;
+    add(chartRow("Chart 1", "Sales"));
+    add(chartRow("Chart 2", "Sales"));
+    exportRows();
+    const auto& first = deck.slide(3).shapes();
+    const auto& second = deck.slide(4).shapes();
+    EXPECT_FALSE(first[1]->hasShadow());
+    EXPECT_TRUE(first[2]->hasShadow());
+    EXPECT_TRUE(second[1]->hasShadow());
+    EXPECT_TRUE(second[2]->hasShadow());
+}
+
+TEST_F(BatchTest, TheUsersPlacementIsUsedOnlyWhenItWasConfirmed) {
+    storePlacement(0.5, 0.25, 0.1);
+    add(chartRow("Chart 1", "Sales"));
+    exportRows();
+    EXPECT_NE(deck.slide(3).shapes().back()->box().left, 96);
+    session.DefaultPlacement = false;
+    exportRows();
+    EXPECT_DOUBLE_EQ(deck.slide(4).shapes().back()->box().left, 96);
+    EXPECT_DOUBLE_EQ(deck.slide(4).shapes().back()->box().top, 270);
+}
+
+TEST_F(BatchTest, ARunningShowEndsAndTheViewIsPutBack) {
+    deck.runSlideShow();
+    session.PowerPointApp.get("ActiveWindow").put("ViewType", 7);
+    add(chartRow("Chart 1", "Sales"));
+    exportRows();
+    EXPECT_FALSE(deck.showsSlides());
+    EXPECT_EQ(session.PowerPointApp.get("ActiveWindow").get("ViewType").toLong(), 7);
+    EXPECT_EQ(session.ExcelApp.get("WindowState").toLong(), -4137);
+    EXPECT_TRUE(excelDraws());
+}
+
+TEST_F(BatchTest, PowerPointsWindowComesToTheFrontByItsCaption) {
+    add(chartRow("Chart 1", "Sales"));
+    exportRows();
+    EXPECT_NE(suite.raisedWindow(), 0U);
+    EXPECT_EQ(suite.raisedWindow(), suite.findWindow("", "Deck.pptx - PowerPoint"));
+}
+
+TEST_F(BatchTest, HiddenRowsOfTheActiveSheetAreShownAgainAtTheEnd) {
+    book.sheet("Sales").hideRows(3, 5);
+    add(chartRow("Chart 1", "Sales"));
+    exportRows();
+    const auto rows = book.handle().get("Sheets").get("Item", "Sales").get("Rows", "3:5");
+    EXPECT_FALSE(rows.get("EntireRow").get("Hidden").toBool());
+}
+
+TEST_F(BatchTest, EachItemMovesTheProgress) {
+    add(chartRow("Chart 1", "Sales"));
+    add(chartRow("Chart 2", "Sales"));
+    exportRows();
+    EXPECT_EQ(progress.calls, (Texts{"total 2", "value 50 50%", "current 1", "show", "total 2",
+                                     "value 100 100%", "current 2", "show", "unload"}));
+}
+
+class NoSlideTest : public stage::ExportStage {
+protected:
+    NoSlideTest() {
+        route.prepareScreen = [](powerpoint::Batch&) {};
+    }
+
+    powerpoint::BatchRoute route;
+    session::FormHooks forms;
+    powerpoint::Batch batch{session, list, choices, forms};
+};
+
+TEST_F(NoSlideTest, WithoutASlideInViewABatchFailsUnlessItsRouteTrapsThat) {
+    choices.predefinedSlides = true;
+    EXPECT_THROW(powerpoint::RunBatch(batch, route), office::Failure);
+    route.noSlideInView = powerpoint::NoSlideInView::ShowsLastSlide;
+    EXPECT_NO_THROW(powerpoint::RunBatch(batch, route));
+}
+
+TEST_F(NoSlideTest, ATrappedRouteGoesToTheLastSlide) {
+    deck.addSlides(4);
+    choices.predefinedSlides = true;
+    route.noSlideInView = powerpoint::NoSlideInView::ShowsLastSlide;
+    suite.failures().fail("View.Slide");
+    powerpoint::RunBatch(batch, route);
+    EXPECT_EQ(session.CurrentSlideIndex, 4);
+}
+
+TEST_F(NoSlideTest, ARouteThatKeepsDialogsSaysSoForItsItems) {
+    deck.addSlides(1);
+    book.sheet("Sales");
+    add(stage::chartRow("Chart 1", "Sales"));
+    session.CheckedCount = 1;
+    bool kept = false;
+    route.keepsDialogs = true;
+    route.finishesProgress = true;
+    route.insertItem = [&](powerpoint::Batch& b, const catalogue::ExportRow&, std::int16_t) {
+        kept = b.session.ExportKeepsDialogs;
+    };
+    powerpoint::RunBatch(batch, route);
+    EXPECT_TRUE(kept);
+    EXPECT_FALSE(session.ExportKeepsDialogs);
+    EXPECT_EQ(list.selected, -1);
+    EXPECT_EQ(progress.value(), 100);
+}
+
+}  // namespace

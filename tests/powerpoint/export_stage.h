@@ -1,0 +1,143 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include "catalogue/export_list.h"
+#include "office_double/suite.h"
+#include "powerpoint/pictures.h"
+#include "powerpoint/start_export.h"
+#include "session/office_session.h"
+#include "session_doubles/recording_notices.h"
+#include "session_doubles/recording_progress.h"
+#include "session_doubles/scripted_host.h"
+
+namespace stage {
+
+inline catalogue::ExportRow row(std::string name, std::string sheet, std::string kind,
+                                std::string slide = "", std::string caption = "") {
+    catalogue::ExportRow made;
+    made.Text = std::move(name);
+    made.Checked = true;
+    made.SubItems(1) = std::move(sheet);
+    made.SubItems(2) = std::move(slide);
+    made.SubItems(4) = std::move(caption);
+    made.SubItems(5) = std::move(kind);
+    return made;
+}
+
+inline catalogue::ExportRow chartRow(std::string name, std::string sheet, std::string slide = "",
+                                     std::string caption = "") {
+    return row(std::move(name), std::move(sheet), "Embedded", std::move(slide), std::move(caption));
+}
+
+inline catalogue::ExportRow rangeRow(std::string name, std::string sheet, std::string slide = "",
+                                     std::string caption = "") {
+    return row(std::move(name), std::move(sheet), "Range", std::move(slide), std::move(caption));
+}
+
+inline catalogue::ExportRow chartSheetRow(std::string sheet, std::string slide = "",
+                                          std::string caption = "") {
+    return row(std::string(catalogue::chartSheetText), std::move(sheet), "Chart", std::move(slide),
+               std::move(caption));
+}
+
+/// A folder of the test's own for real files.
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        std::string path = testing::TempDir() + "murvane-test-XXXXXX";
+        path_ = ::mkdtemp(path.data());
+    }
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
+
+/// A host whose temporary files are real, since the applications write them.
+class DiskHost : public session_doubles::ScriptedHost {
+public:
+    DiskHost() { temporaryFolder = folder_.path().string(); }
+
+    void deleteFile(std::string_view path) override {
+        if (!std::filesystem::remove(path)) {
+            throw office::Failure(office::FailureNumber::FileNotFound, "Host", "File not found");
+        }
+    }
+
+    /// Names of the files left in the temporary folder.
+    [[nodiscard]] std::set<std::string> filesLeft() const {
+        std::set<std::string> names;
+        for (const auto& file : std::filesystem::directory_iterator(folder_.path())) {
+            names.insert(file.path().filename().string());
+        }
+        return names;
+    }
+
+private:
+    TemporaryFolder folder_;
+};
+
+/// An open workbook and an open presentation, and a list to export.
+class ExportStage : public testing::Test {
+protected:
+    ExportStage() {
+        session.ExcelApp = suite.attach("Excel.Application");
+        session.ActiveBook = book.handle();
+        session.PowerPointApp = suite.attach("PowerPoint.Application");
+        session.SessionPresentation = deck.handle();
+    }
+
+    void add(catalogue::ExportRow taken) { list.rows.push_back(std::move(taken)); }
+
+    /// The store with its three placement cells; an empty value leaves a cell empty.
+    void storePlacement(const office::Value& top, const office::Value& width,
+                        const office::Value& left) {
+        auto& store = book.sheet("kukukukuZichron");
+        store.value("O1", top).value("P1", width).value("R1", left);
+    }
+
+    void exportRows() {
+        powerpoint::StartPowerPointExport(session, list);
+        suite.log().clear();
+        powerpoint::ExportRowsAsPictures(session, list, choices);
+    }
+
+    /// Names of the shapes on a slide apart from its placeholders.
+    [[nodiscard]] std::vector<std::string> picturesOn(std::size_t slide) const {
+        std::vector<std::string> texts;
+        for (const auto& shape : deck.slide(slide).shapes()) {
+            if (shape->kind() == office_double::Shape::Kind::Picture) {
+                texts.push_back(shape->alternativeText());
+            }
+        }
+        return texts;
+    }
+
+    [[nodiscard]] bool excelDraws() const {
+        return session.ExcelApp.get("ScreenUpdating").toBool();
+    }
+
+    office_double::DoubleSuite suite;
+    office_double::Workbook& book = suite.excel().addWorkbook("Book1.xlsx");
+    office_double::Presentation& deck = suite.powerPoint().addPresentation("Deck.pptx");
+    DiskHost host;
+    session_doubles::RecordingNotices notices;
+    session_doubles::RecordingProgress progress;
+    session::OfficeSession session{suite, host, notices, progress};
+    catalogue::ExportList list;
+    catalogue::ExportChoices choices;
+};
+
+}  // namespace stage
