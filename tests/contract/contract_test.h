@@ -1,0 +1,95 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "contract/contract_environment.h"
+#include "office/failure.h"
+#include "office/value.h"
+
+namespace contract {
+
+using office::arg;
+using office::Failure;
+using office::FailureNumber;
+using office::Object;
+using office::Table;
+using office::Value;
+
+inline constexpr std::int32_t subscriptOutOfRange = 9;
+inline constexpr std::int32_t refused = 1004;
+
+/// The number of the failure that a statement ends in; 0 if it goes through.
+template <class Statement>
+std::int32_t failureOf(Statement&& statement) {
+    try {
+        statement();
+        return 0;
+    } catch (const Failure& failure) {
+        return failure.number();
+    }
+}
+
+/// The names of the members of a collection, in order.
+std::vector<std::string> namesIn(const Value& collection);
+
+/// One environment for all tests of a suite: a live one takes a second to start.
+class ContractTest : public testing::Test {
+protected:
+    static void SetUpTestSuite();
+    static void TearDownTestSuite();
+
+    static Environment& environment() { return *environment_; }
+    static office::Suite& suite() { return environment_->suite(); }
+
+private:
+    static std::unique_ptr<Environment> environment_;
+};
+
+/// With contract-book.xlsx open.
+class ExcelContract : public ContractTest {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    [[nodiscard]] Object open(std::string_view document);
+    [[nodiscard]] Object sheet(const Value& nameOrIndex) const {
+        return book.get("Sheets").get("Item", nameOrIndex).toObject();
+    }
+    [[nodiscard]] Object range(std::string_view sheetName, std::string_view address) const {
+        return sheet(sheetName).get("Range", address).toObject();
+    }
+
+    Object excel;
+    Object book;
+
+private:
+    std::vector<Object> opened_;
+};
+
+/// With contract-deck.pptx open, its first slide in view.
+class PowerPointContract : public ContractTest {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    [[nodiscard]] Object slides() const { return deck.get("Slides").toObject(); }
+    [[nodiscard]] Object slide(std::int32_t index) const {
+        return slides().get("Item", index).toObject();
+    }
+    [[nodiscard]] Object window() const { return powerPoint.get("ActiveWindow").toObject(); }
+    [[nodiscard]] Object selection() const { return window().get("Selection").toObject(); }
+    void goTo(std::int32_t index) const { window().get("View").call("GotoSlide", index); }
+    /// A picture of this size in points, put on a slide at its natural size.
+    Object addPicture(std::int32_t slideIndex, double width, double height) const;
+
+    Object powerPoint;
+    Object deck;
+};
+
+}  // namespace contract

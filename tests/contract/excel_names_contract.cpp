@@ -1,0 +1,118 @@
+#include <algorithm>
+
+#include "contract/contract_test.h"
+
+namespace contract {
+
+namespace {
+
+/// A name, and where it leads; no address for one that refers to no range.
+struct NameCase {
+    const char* name;
+    const char* sheet;
+    const char* address;
+};
+
+const std::vector<NameCase> ranges = {
+    {"Total", "Sales", "$B$2:$C$5"},
+    {"OneCell", "Sales", "$B$2"},
+    {"TwoAreas", "Sales", "$A$1:$A$5,$C$1:$C$5"},
+    {"Quoted", "Data, 2026", "$A$1:$B$2"},
+    {"OnHidden", "Hidden", "$A$1"},
+    {"Concealed", "Sales", "$A$1"},
+    {"Sales!Local", "Sales", "$A$2:$B$3"},
+    {"'Data, 2026'!Local", "Data, 2026", "$A$1"},
+    {"'Data, 2026'!Own", "Data, 2026", "$B$2"},
+    {"Sales!Print_Area", "Sales", "$A$1:$J$20"},
+};
+
+TEST_F(ExcelContract, ListsTheNamesOfTheWorkbookAndThoseOfItsSheets) {
+    auto names = namesIn(book.get("Names"));
+    std::vector<std::string> expected = {"Constant", "Formula", "Broken", "Elsewhere"};
+    for (const NameCase& one : ranges) expected.emplace_back(one.name);
+    std::sort(names.begin(), names.end());
+    std::sort(expected.begin(), expected.end());
+    EXPECT_EQ(names, expected);
+}
+
+TEST_F(ExcelContract, LeadsFromANameToItsRange) {
+    for (const auto& [name, sheetName, address] : ranges) {
+        const Value found = book.get("Names").get("Item", name).get("RefersToRange");
+        EXPECT_EQ(found.toObject().typeName(), "Range") << name;
+        EXPECT_EQ(found.get("Address").toText(), address) << name;
+        EXPECT_EQ(found.get("Worksheet").get("Name").toText(), sheetName) << name;
+        EXPECT_EQ(found.get("Worksheet").get("Parent").get("Name").toText(), "contract-book.xlsx");
+        EXPECT_EQ(found.get("Parent").get("Name").toText(), sheetName) << name;
+    }
+}
+
+TEST_F(ExcelContract, FindsARangeByAnyNameThroughTheApplication) {
+    for (const auto& [name, sheetName, address] : ranges) {
+        const Value found = excel.get("Range", name);
+        EXPECT_EQ(found.get("Address").toText(), address) << name;
+        EXPECT_EQ(found.get("Worksheet").get("Name").toText(), sheetName) << name;
+    }
+    EXPECT_EQ(failureOf([&] { excel.get("Range", "Nonesuch"); }), refused);
+}
+
+TEST_F(ExcelContract, FindsANameOfASheetByItsBareNameWhenNoOtherHasIt) {
+    const Value found = book.get("Names").get("Item", "own").get("RefersToRange");
+    EXPECT_EQ(found.get("Address").toText(), "$B$2");
+    EXPECT_EQ(sheet("Data, 2026").get("Range", "Own").get("Address").toText(), "$B$2");
+}
+
+TEST_F(ExcelContract, FailsOnNamesThatReferToNoRange) {
+    for (const char* name : {"Constant", "Formula", "Broken", "Elsewhere"}) {
+        const Value found = book.get("Names").get("Item", name);
+        EXPECT_EQ(failureOf([&] { found.get("RefersToRange"); }), refused) << name;
+        EXPECT_TRUE(found.get("RefersTo").toText().starts_with("=")) << name;
+    }
+}
+
+TEST_F(ExcelContract, KnowsHiddenNames) {
+    EXPECT_FALSE(book.get("Names").get("Item", "Concealed").get("Visible").toBool());
+    EXPECT_TRUE(book.get("Names").get("Item", "Total").get("Visible").toBool());
+    const Value total = book.get("Names").get("Item", "Total");
+    total.put("Visible", false);
+    EXPECT_FALSE(book.get("Names").get("Item", "Total").get("Visible").toBool());
+}
+
+TEST_F(ExcelContract, CountsTheAreasOfARange) {
+    const auto areasOf = [&](const char* name) {
+        return sheet("Sales").get("Range", name).get("Areas").get("Count").toLong();
+    };
+    EXPECT_EQ(areasOf("TwoAreas"), 2);
+    EXPECT_EQ(areasOf("Total"), 1);
+    const Value areas = sheet("Sales").get("Range", "TwoAreas").get("Areas");
+    EXPECT_EQ(areas.get("Item", 2).get("Address").toText(), "$C$1:$C$5");
+}
+
+TEST_F(ExcelContract, DefinesNamesInRowAndColumnNotation) {
+    const Value names = book.get("Names");
+    names.call("Add", arg("Name", "Columns"), arg("RefersToR1C1", "=Types!C1:C8"));
+    names.call("Add", arg("Name", "Block"), arg("RefersToR1C1", "='Data, 2026'!R23C15:R30C22"));
+    const auto addressOf = [&](const char* name) {
+        return names.get("Item", name).get("RefersToRange").get("Address").toText();
+    };
+    EXPECT_EQ(addressOf("Columns"), "$A:$H");
+    EXPECT_EQ(addressOf("Block"), "$O$23:$V$30");
+    EXPECT_EQ(names.get("Item", "Block").get("RefersTo").toText(), "='Data, 2026'!$O$23:$V$30");
+}
+
+TEST_F(ExcelContract, DefinesAHiddenNameAndDeletesOne) {
+    const Value names = book.get("Names");
+    names.call("Add", arg("Name", "Unseen"), arg("RefersTo", "=Sales!$A$1"), arg("Visible", false));
+    EXPECT_FALSE(names.get("Item", "Unseen").get("Visible").toBool());
+    names.get("Item", "Unseen").call("Delete");
+    EXPECT_EQ(failureOf([&] { names.get("Item", "Unseen"); }), subscriptOutOfRange);
+}
+
+TEST_F(ExcelContract, FollowsASheetThatIsRenamed) {
+    sheet("Data, 2026").put("Name", "Renamed");
+    const Value found = book.get("Names").get("Item", "Quoted").get("RefersToRange");
+    EXPECT_EQ(found.get("Worksheet").get("Name").toText(), "Renamed");
+}
+
+}  // namespace
+
+}  // namespace contract

@@ -1,0 +1,84 @@
+#include "contract/contract_test.h"
+
+namespace contract {
+
+namespace {
+
+/// An unknown member is a failure that names class and member.
+void expectNoSuchMember(const Object& object) {
+    const std::string source = object.typeName() + ".Nonesuch";
+    try {
+        object.get("Nonesuch");
+        FAIL() << source << " went through";
+    } catch (const Failure& failure) {
+        EXPECT_TRUE(failure.is(FailureNumber::NoSuchMember)) << source << ": " << failure.number();
+        EXPECT_NE(failure.description().find(source), std::string::npos) << failure.description();
+    }
+    EXPECT_EQ(failureOf([&] { object.put("Nonesuch", 1); }), 438) << source;
+    EXPECT_EQ(failureOf([&] { object.call("Nonesuch"); }), 438) << source;
+}
+
+TEST_F(ExcelContract, NamesClassAndMemberThatItDoesntHave) {
+    const Object sales = sheet("Sales");
+    const Object object = sales.call("ChartObjects", 1).toObject();
+    for (const Object& each :
+         {excel, book, book.get("Sheets").toObject(), sales, sheet("Overview"),
+          range("Sales", "A1"), book.get("Names").toObject(),
+          book.get("Names").get("Item", "Total").toObject(), sales.get("ChartObjects").toObject(),
+          object, object.get("Chart").toObject()}) {
+        expectNoSuchMember(each);
+    }
+}
+
+TEST_F(PowerPointContract, NamesClassAndMemberThatItDoesntHave) {
+    const Object title = slide(1).get("Shapes").get("Title").toObject();
+    const Object text = title.get("TextFrame").get("TextRange").toObject();
+    for (const Object& each :
+         {powerPoint, deck, slides(), slide(1), slide(1).get("Shapes").toObject(), title, text,
+          text.get("Font").toObject(), title.get("Shadow").toObject(), window(),
+          window().get("View").toObject(), selection()}) {
+        expectNoSuchMember(each);
+    }
+    EXPECT_EQ(failureOf([&] { powerPoint.put("ScreenUpdating", true); }), 438);
+}
+
+TEST_F(ExcelContract, RefusesWrongArguments) {
+    const Value names = book.get("Names");
+    EXPECT_EQ(failureOf([&] { names.call("Add", arg("Named", "x")); }), 448);
+    EXPECT_EQ(failureOf([&] { sheet("Sales").get("Cells", 1, 2, 3, 4); }), 450);
+    EXPECT_NE(failureOf([&] { sheet("Sales").get("Cells", 0, 1); }), 0);
+    EXPECT_NE(failureOf([&] { sheet("Sales").get("Range", "no address"); }), 0);
+    EXPECT_EQ(failureOf([&] { book.put("FullName", "x"); }), 438);
+}
+
+TEST_F(PowerPointContract, RefusesWrongArguments) {
+    EXPECT_EQ(failureOf([&] { slides().call("Add", arg("Place", 1)); }), 448);
+    EXPECT_NE(failureOf([&] { slide(4).get("Shapes").call("AddLabel", 1); }), 0);
+    EXPECT_EQ(slide(4).get("Shapes").get("Count").toLong(), 0);
+}
+
+TEST_F(ExcelContract, TakesMembersWhateverTheirCase) {
+    EXPECT_EQ(sheet("Sales").get("name").toText(), "Sales");
+    EXPECT_EQ(book.get("sheets").get("ITEM", 1).get("NAME").toText(), "Sales");
+}
+
+TEST_F(ExcelContract, OpensNoFileThatIsntThere) {
+    EXPECT_NE(failureOf([&] {
+                  excel.get("Workbooks").call("Open", arg("FileName", "/nonexistent/book.xlsx"));
+              }),
+              0);
+    EXPECT_EQ(excel.get("Workbooks").get("Count").toLong(), 1);
+}
+
+TEST_F(ExcelContract, TakesThePictureOffTheClipboard) {
+    using Kind = office::ClipboardPicture::Kind;
+    range("Sales", "A1:C3").call("CopyPicture", 1, -4147);
+    suite().clearClipboard();
+    EXPECT_TRUE(suite().clipboardPicture(Kind::Bitmap).bytes.empty());
+    EXPECT_TRUE(suite().clipboardPicture(Kind::Vector).bytes.empty());
+    EXPECT_EQ(suite().clipboardPicture(Kind::Vector).kind, Kind::Vector);
+}
+
+}  // namespace
+
+}  // namespace contract

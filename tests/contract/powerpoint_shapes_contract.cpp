@@ -1,0 +1,167 @@
+#include "contract/contract_test.h"
+
+namespace contract {
+
+namespace {
+
+TEST_F(PowerPointContract, InsertsAPictureBehindTheOthersAtItsNaturalSize) {
+    const std::int32_t before = slide(3).get("Shapes").get("Count").toLong();
+    const Object picture = addPicture(3, 240, 150);
+    EXPECT_EQ(slide(3).get("Shapes").get("Count").toLong(), before + 1);
+    EXPECT_NEAR(picture.get("Width").toDouble(), 240, 0.5);
+    EXPECT_NEAR(picture.get("Height").toDouble(), 150, 0.5);
+    EXPECT_NEAR(picture.get("Left").toDouble(), 0, 0.1);
+    EXPECT_NEAR(picture.get("Top").toDouble(), 0, 0.1);
+    const Value last = slide(3).get("Shapes").get("Item", before + 1);
+    EXPECT_NEAR(last.get("Width").toDouble(), 240, 0.5);
+    EXPECT_EQ(last.get("Type").toLong(), 13);
+}
+
+TEST_F(PowerPointContract, FailsOnAPictureThatIsntThere) {
+    const std::int32_t before = slide(3).get("Shapes").get("Count").toLong();
+    EXPECT_NE(failureOf([&] {
+                  slide(3).get("Shapes").call("AddPicture", "/nonexistent.png", 0, -1, 0, 0, -1,
+                                              -1);
+              }),
+              0);
+    EXPECT_EQ(slide(3).get("Shapes").get("Count").toLong(), before);
+}
+
+TEST_F(PowerPointContract, SizesEachSideAloneWithoutTheAspectLock) {
+    const Object picture = addPicture(3, 240, 120);
+    picture.put("LockAspectRatio", 0);
+    EXPECT_EQ(picture.get("LockAspectRatio").toLong(), 0);
+    picture.put("Width", 100);
+    EXPECT_NEAR(picture.get("Height").toDouble(), 120, 0.5);
+    picture.put("Height", 30);
+    EXPECT_NEAR(picture.get("Width").toDouble(), 100, 0.5);
+    picture.put("Left", 12.5);
+    picture.put("Top", 40);
+    EXPECT_NEAR(picture.get("Left").toDouble(), 12.5, 0.1);
+    EXPECT_NEAR(picture.get("Top").toDouble(), 40, 0.1);
+}
+
+TEST_F(PowerPointContract, KeepsTheProportionsUnderTheAspectLock) {
+    const Object picture = addPicture(3, 240, 120);
+    picture.put("LockAspectRatio", true);
+    EXPECT_EQ(picture.get("LockAspectRatio").toLong(), -1);
+    picture.put("Width", 120);
+    EXPECT_NEAR(picture.get("Height").toDouble(), 60, 0.5);
+    picture.put("Height", 90);
+    EXPECT_NEAR(picture.get("Width").toDouble(), 180, 0.5);
+}
+
+TEST_F(PowerPointContract, SelectsTheLastShapeAndWorksOnTheSelection) {
+    goTo(3);
+    addPicture(3, 240, 120);
+    const Value shapes = slide(3).get("Shapes");
+    shapes.get("Item", shapes.get("Count")).call("Select");
+    const Value selected = selection().get("ShapeRange");
+    EXPECT_EQ(selected.get("Count").toLong(), 1);
+    selected.put("LockAspectRatio", true);
+    selected.put("Top", 54);
+    selected.put("Width", 480);
+    selected.put("Left", 240);
+    const Value placed = slide(3).get("Shapes").get("Item", shapes.get("Count"));
+    EXPECT_NEAR(placed.get("Top").toDouble(), 54, 0.5);
+    EXPECT_NEAR(placed.get("Left").toDouble(), 240, 0.5);
+    EXPECT_NEAR(placed.get("Width").toDouble(), 480, 0.5);
+    EXPECT_NEAR(placed.get("Height").toDouble(), 240, 0.5);
+}
+
+TEST_F(PowerPointContract, DropsTheSelection) {
+    goTo(3);
+    addPicture(3, 50, 50).call("Select");
+    EXPECT_EQ(selection().get("Type").toLong(), 2);
+    selection().call("Unselect");
+    EXPECT_NE(failureOf([&] { selection().get("ShapeRange").get("Count"); }), 0);
+    EXPECT_EQ(selection().get("SlideRange").get("SlideIndex").toLong(), 3)
+        << "the slide in view is still the one that an export works on";
+}
+
+TEST_F(PowerPointContract, NamesAShapeAndDescribesIt) {
+    const Object picture = addPicture(3, 50, 50);
+    picture.put("Name", "Chart 1");
+    picture.put("AlternativeText", "Umsätze by item");
+    const Value found = slide(3).get("Shapes").get("Item", "Chart 1");
+    EXPECT_EQ(found.get("AlternativeText").toText(), "Umsätze by item");
+    found.call("Delete");
+    EXPECT_EQ(failureOf([&] { slide(3).get("Shapes").get("Item", "Chart 1"); }),
+              subscriptOutOfRange);
+}
+
+/// The road of the source line.
+TEST_F(PowerPointContract, GrowsALabelWithItsTextAndKeepsItsPlace) {
+    goTo(4);
+    const Value label =
+        selection().get("SlideRange").get("Shapes").call("AddLabel", 1, 20.25, 518, 8.5, 28.875);
+    label.call("Select");
+    label.get("TextFrame").put("WordWrap", false);
+    const Value text = selection().get("ShapeRange").get("TextFrame").get("TextRange");
+    text.get("Characters", arg("Start", 1), arg("Length", 0)).call("Select");
+    text.put("Text", "/documents/of the group/contract-book.xlsx");
+    text.get("Font").put("Name", "Tahoma");
+    text.get("Font").put("Size", 10);
+    text.get("Font").put("Color", 178 + 178 * 256 + 178 * 65536);
+    selection().call("Unselect");
+
+    const Value made = slide(4).get("Shapes").get("Item", 1);
+    const Value range = made.get("TextFrame").get("TextRange");
+    EXPECT_EQ(range.get("Text").toText(), "/documents/of the group/contract-book.xlsx");
+    EXPECT_EQ(range.get("Font").get("Name").toText(), "Tahoma");
+    EXPECT_NEAR(range.get("Font").get("Size").toDouble(), 10, 0.1);
+    EXPECT_EQ(range.get("Font").get("Color").get("RGB").toLong(), 0xB2B2B2);
+    EXPECT_EQ(made.get("TextFrame").get("WordWrap").toLong(), 0);
+    EXPECT_GT(made.get("Width").toDouble(), 100);
+    EXPECT_NEAR(made.get("Left").toDouble(), 20.25, 1);
+    EXPECT_NEAR(made.get("Top").toDouble(), 518, 1);
+}
+
+struct Setting {
+    const char* part;
+    const char* member;
+    Value value;
+};
+
+/// A style's settings run in a scope that goes on after a failure: each one either holds or is a
+/// `Failure`.
+TEST_F(PowerPointContract, AppliesEachSettingOfAStyleOrFails) {
+    const std::vector<Setting> settings = {
+        {"Shadow", "Visible", -1},      {"Shadow", "Blur", 25},
+        {"Shadow", "Size", 100},        {"Shadow", "OffsetX", 8.12132},
+        {"Shadow", "OffsetY", 8.12132}, {"Shadow", "Transparency", 0.5},
+        {"Reflection", "Offset", 1},    {"Reflection", "Size", 20},
+    };
+    const Object picture = addPicture(3, 240, 120);
+    for (const auto& [part, member, value] : settings) {
+        if (failureOf([&, &p = part, &m = member, &v = value] { picture.get(p).put(m, v); }) != 0) {
+            continue;
+        }
+        EXPECT_NEAR(picture.get(part).get(member).toDouble(), value.toDouble(), 0.1)
+            << part << "." << member;
+    }
+    EXPECT_EQ(picture.get("Shadow").get("Visible").toLong(), -1);
+}
+
+TEST_F(PowerPointContract, ColoursAShadow) {
+    const Object picture = addPicture(3, 240, 120);
+    picture.get("Shadow").put("Visible", 1);
+    picture.get("Shadow").get("ForeColor").put("RGB", 0x336699);
+    EXPECT_EQ(picture.get("Shadow").get("ForeColor").get("RGB").toLong(), 0x336699);
+}
+
+TEST_F(PowerPointContract, RoundsTheCornersOfAPictureOrFails) {
+    const Object picture = addPicture(3, 240, 120);
+    EXPECT_NE(failureOf([&] { picture.get("Adjustments").put("Item", 1, 0.03); }), 0)
+        << "a plain picture has nothing to adjust";
+    if (failureOf([&] { picture.put("AutoShapeType", 5); }) != 0) return;
+    EXPECT_EQ(picture.get("AutoShapeType").toLong(), 5);
+    picture.get("Adjustments").put("Item", 1, 0.05);
+    EXPECT_NEAR(picture.get("Adjustments").get("Item", 1).toDouble(), 0.05, 0.001);
+    EXPECT_NEAR(picture.get("Width").toDouble(), 240, 0.5);
+    EXPECT_NEAR(picture.get("Height").toDouble(), 120, 0.5);
+}
+
+}  // namespace
+
+}  // namespace contract
