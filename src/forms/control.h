@@ -41,7 +41,8 @@ public:
             Frame* container = nullptr);
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
-    virtual ~Control() = default;
+    /// Leaves the form, so that a desktop never meets a control that has gone.
+    virtual ~Control();
 
     [[nodiscard]] const std::string& name() const { return name_; }
     [[nodiscard]] ControlClass controlClass() const { return class_; }

@@ -41,6 +41,11 @@ Control::Control(Form& form, ControlClass controlClass, std::string name, Place 
     form_.controls_.push_back(this);
 }
 
+Control::~Control() {
+    std::erase(form_.controls_, this);
+    if (form_.focus == this) form_.focus = nullptr;
+}
+
 void Control::setZOrder(ZOrder order) {
     for (const Control* other : form_.controls_) {
         layer_ = order == ZOrder::Front ? std::max(layer_, other->layer_ + 1)
@@ -50,8 +55,13 @@ void Control::setZOrder(ZOrder order) {
 
 Timer::Timer(Form& form, std::string name, std::chrono::milliseconds theInterval)
     : interval(theInterval),
+      form_(form),
       name_(std::move(name)) {
-    form.timers_.push_back(this);
+    form_.timers_.push_back(this);
+}
+
+Timer::~Timer() {
+    std::erase(form_.timers_, this);
 }
 
 }  // namespace forms

@@ -47,6 +47,8 @@ public:
     bool topmost = false;
     /// The place on the screen is the form's own choice; otherwise it comes up in the middle.
     bool placesItself = false;
+    /// The Escape key closes the form as the cross of its title bar does, unless a button takes it.
+    bool escapeCloses = false;
     /// The control that the keyboard goes to; null: the first in tab order.
     Control* focus = nullptr;
     /// A soft edge around the form: its width in pixels (0: none) and its strongest opacity.

@@ -16,6 +16,7 @@ public:
     Timer(Form& form, std::string name, std::chrono::milliseconds interval);
     Timer(const Timer&) = delete;
     Timer& operator=(const Timer&) = delete;
+    ~Timer();
 
     [[nodiscard]] const std::string& name() const { return name_; }
 
@@ -24,6 +25,7 @@ public:
     std::function<void()> onTimer;
 
 private:
+    Form& form_;
     std::string name_;
 };
 

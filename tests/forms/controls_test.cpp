@@ -1,0 +1,172 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "forms/controls.h"
+#include "forms/form.h"
+#include "forms/list_view.h"
+#include "forms_double/windowless_desktop.h"
+
+namespace {
+
+using forms::CheckBox;
+using forms::OptionButton;
+
+/// Two groups of options, one of them in a frame, and one of every other kind of value.
+struct Sheet : forms::Form {
+    explicit Sheet(forms::Desktop& desktop) : Form(desktop, "Sheet", 3000, 3000) {}
+
+    forms::Frame frame{*this, "Frame1", {}};
+    OptionButton pictures{*this, "OptionFormat", {}, &frame};
+    OptionButton editable{*this, "OptionFormat", {}, &frame};
+    OptionButton newSlides{*this, "OptionNewSlides", {}};
+    OptionButton namedSlides{*this, "OptionPredefSlides", {}};
+    CheckBox shadow{*this, "CheckShadow", {}};
+    forms::TextBox title{*this, "SlideTitle", {}};
+    forms::Slider slider{*this, "TopSlider", {}, forms::Slider::Orientation::Vertical};
+    forms::CommandButton apply{*this, "CloseLayout", {}};
+};
+
+class Controls : public testing::Test {
+protected:
+    /// What the controls raised since the last look.
+    std::vector<std::string> taken() { return std::exchange(raised, {}); }
+    [[nodiscard]] forms::Event raises(const std::string& name) {
+        return [this, name] { raised.push_back(name); };
+    }
+
+    forms_double::WindowlessDesktop desktop;
+    Sheet sheet{desktop};
+    std::vector<std::string> raised;
+};
+
+using Strings = std::vector<std::string>;
+
+TEST_F(Controls, AnOptionTakesTheChoiceFromTheOthersOfItsContainerOnly) {
+    sheet.pictures.startWith(true);
+    sheet.newSlides.startWith(true);
+    sheet.editable.setValue(true);
+    EXPECT_FALSE(sheet.pictures.value());
+    EXPECT_TRUE(sheet.editable.value());
+    EXPECT_TRUE(sheet.newSlides.value());
+}
+
+TEST_F(Controls, AnOptionIsClickedOnceWhenItBecomesChosenAndNeverWhenItLosesTheChoice) {
+    sheet.pictures.onClick = raises("pictures");
+    sheet.editable.onClick = raises("editable");
+    sheet.pictures.setValue(true);
+    EXPECT_EQ(taken(), Strings{"pictures"});
+    sheet.pictures.setValue(true);
+    EXPECT_EQ(taken(), Strings{});
+    sheet.editable.setValue(true);
+    EXPECT_EQ(taken(), Strings{"editable"});
+    sheet.editable.setValue(false);
+    EXPECT_EQ(taken(), Strings{});
+}
+
+TEST_F(Controls, AnOptionsClickSeesTheOthersWithoutTheChoice) {
+    sheet.pictures.startWith(true);
+    bool othersWere = true;
+    sheet.editable.onClick = [&] { othersWere = sheet.pictures.value(); };
+    sheet.editable.setValue(true);
+    EXPECT_FALSE(othersWere);
+}
+
+TEST_F(Controls, RaiseTheirEventOnceForAValueThatIsAnotherOne) {
+    sheet.shadow.onClick = raises("shadow");
+    sheet.title.onChange = raises("title");
+    sheet.slider.onChange = raises("slider");
+    for (int i = 0; i < 2; ++i) {
+        sheet.shadow.setValue(CheckBox::State::Checked);
+        sheet.title.setText("Sales");
+        sheet.slider.setValue(25);
+    }
+    EXPECT_EQ(taken(), (Strings{"shadow", "title", "slider"}));
+}
+
+TEST_F(Controls, AreLaidOutWithoutAnEvent) {
+    sheet.shadow.onClick = raises("shadow");
+    sheet.title.onChange = raises("title");
+    sheet.pictures.onClick = raises("pictures");
+    sheet.shadow.startWith(CheckBox::State::Checked);
+    sheet.title.startWith("Sales");
+    sheet.pictures.startWith(true);
+    EXPECT_EQ(taken(), Strings{});
+    EXPECT_TRUE(sheet.shadow.isChecked());
+}
+
+TEST_F(Controls, ASliderStaysWithinItsEndsAndIsSilentWhereNothingMoves) {
+    sheet.slider.onChange = raises("slider");
+    sheet.slider.setValue(250);
+    EXPECT_EQ(sheet.slider.value(), 100);
+    sheet.slider.setValue(101);
+    sheet.slider.setValue(-5);
+    EXPECT_EQ(sheet.slider.value(), 0);
+    EXPECT_EQ(taken(), (Strings{"slider", "slider"}));
+}
+
+TEST_F(Controls, ADisabledButtonIsNotPressed) {
+    sheet.apply.onClick = raises("apply");
+    sheet.apply.enabled = false;
+    sheet.apply.press();
+    EXPECT_EQ(taken(), Strings{});
+    sheet.apply.enabled = true;
+    sheet.apply.press();
+    EXPECT_EQ(taken(), Strings{"apply"});
+}
+
+TEST_F(Controls, AreFoundByNameWhateverItsCaseAndTheFirstOfAnArrayFirst) {
+    EXPECT_EQ(sheet.find("optionformat"), &sheet.pictures);
+    EXPECT_EQ(sheet.find("TOPSLIDER"), &sheet.slider);
+    EXPECT_EQ(sheet.find("TopSlider1"), nullptr);
+}
+
+TEST_F(Controls, GoInFrontOfAllOthersAndBehindThem) {
+    sheet.title.setZOrder(forms::ZOrder::Front);
+    sheet.shadow.setZOrder(forms::ZOrder::Front);
+    sheet.apply.setZOrder(forms::ZOrder::Back);
+    for (const forms::Control* other : sheet.controls()) {
+        EXPECT_TRUE(other == &sheet.shadow || other->layer() < sheet.shadow.layer());
+        EXPECT_TRUE(other == &sheet.apply || other->layer() > sheet.apply.layer());
+    }
+}
+
+TEST_F(Controls, LeaveTheFormThatTheyGoBefore) {
+    const std::size_t before = sheet.controls().size();
+    { const forms::Label passing(sheet, "Label9", {}); }
+    EXPECT_EQ(sheet.controls().size(), before);
+}
+
+/// Two rows that any list could show.
+struct TwoRows : forms::ListRows {
+    [[nodiscard]] std::size_t count() const override { return 2; }
+    [[nodiscard]] std::string_view text(std::size_t, std::size_t) const override { return "x"; }
+    [[nodiscard]] bool isChecked(std::size_t row) const override { return checked[row]; }
+    void setChecked(std::size_t row, bool value) override { checked[row] = value; }
+    [[nodiscard]] forms::Colour textColour(std::size_t) const override { return {}; }
+    [[nodiscard]] std::string_view icon(std::size_t) const override { return {}; }
+    [[nodiscard]] std::ptrdiff_t selected() const override { return chosen; }
+    void select(std::ptrdiff_t row) override { chosen = row; }
+
+    std::vector<bool> checked = {false, false};
+    std::ptrdiff_t chosen = -1;
+};
+
+TEST_F(Controls, AListChangesTheRowBeforeItTells) {
+    TwoRows rows;
+    forms::ListView list(sheet, "listCharts", {});
+    list.rows = &rows;
+    list.onItemCheck = [&](std::size_t row) { raised.push_back(rows.checked[row] ? "on" : "off"); };
+    list.onItemClick = [&](std::size_t) { raised.push_back(std::to_string(rows.chosen)); };
+    list.check(1, true);
+    list.check(1, true);
+    list.click(1);
+    list.check(2, true);
+    list.click(2);
+    list.check(1, false);
+    EXPECT_EQ(taken(), (Strings{"on", "1", "off"}));
+    EXPECT_EQ(list.version(), 3);
+}
+
+}  // namespace

@@ -1,0 +1,131 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/form.h"
+#include "forms_double/user.h"
+#include "forms_double/windowless_desktop.h"
+
+namespace {
+
+using forms::ShowMode;
+using Strings = std::vector<std::string>;
+using namespace std::chrono_literals;
+
+struct Told : forms::Form {
+    Told(forms::Desktop& theDesktop, const std::string& name, Strings& record)
+        : Form(theDesktop, name, 3000, 3000),
+          told(record) {}
+
+    void Form_Load() override {
+        told.push_back("load " + name());
+        if (atLoad) atLoad();
+    }
+    void Form_Activate() override { told.push_back("activate " + name()); }
+    void Form_Unload() override {
+        told.push_back("unload " + name());
+        if (atUnload) atUnload();
+    }
+
+    Strings& told;
+    std::function<void()> atLoad;
+    std::function<void()> atUnload;
+};
+
+class DesktopForms : public testing::Test {
+protected:
+    forms_double::WindowlessDesktop desktop;
+    Strings told;
+    Told main{desktop, "UserformObj", told};
+    Told dialog{desktop, "Dialog", told};
+    Told progress{desktop, "Progress", told};
+};
+
+TEST_F(DesktopForms, LoadOnceHoweverOftenTheyAreShown) {
+    desktop.load(main);
+    desktop.show(main, ShowMode::Modeless);
+    desktop.show(main, ShowMode::Modeless);
+    EXPECT_EQ(told, (Strings{"load UserformObj", "activate UserformObj", "activate UserformObj"}));
+}
+
+TEST_F(DesktopForms, AModalFormReturnsWhenItHasBeenUnloaded) {
+    desktop.answer("Dialog", [&](forms::Form& form) {
+        EXPECT_TRUE(desktop.isLoaded(form));
+        forms_double::close(form);
+    });
+    desktop.show(dialog, ShowMode::Modal);
+    EXPECT_EQ(told, (Strings{"load Dialog", "activate Dialog", "unload Dialog"}));
+}
+
+TEST_F(DesktopForms, AFormThatUnloadsItselfWhileItLoadsIsNotShown) {
+    dialog.atLoad = [&] { desktop.unload(dialog); };
+    desktop.show(dialog, ShowMode::Modal);
+    EXPECT_EQ(told, (Strings{"load Dialog", "unload Dialog"}));
+    EXPECT_EQ(desktop.record, (Strings{"unload Dialog"}));
+    EXPECT_FALSE(desktop.isLoaded(dialog));
+}
+
+TEST_F(DesktopForms, UnloadFromTheLastToTheFirst) {
+    for (Told* form : {&main, &dialog, &progress}) desktop.load(*form);
+    told.clear();
+    desktop.unloadAll();
+    EXPECT_EQ(told, (Strings{"unload Progress", "unload Dialog", "unload UserformObj"}));
+}
+
+TEST_F(DesktopForms, UnloadEachOnceWhenOneOfThemUnloadsAll) {
+    for (Told* form : {&main, &dialog}) desktop.load(*form);
+    main.atUnload = [&] { desktop.unloadAll(); };
+    told.clear();
+    desktop.unload(main);
+    EXPECT_EQ(told, (Strings{"unload UserformObj", "unload Dialog"}));
+}
+
+TEST_F(DesktopForms, UnloadingStopsAtOneThatComesBack) {
+    for (Told* form : {&main, &dialog}) desktop.load(*form);
+    dialog.atUnload = [&] { desktop.load(dialog); };
+    desktop.unloadAll();
+    EXPECT_TRUE(desktop.isLoaded(main));
+    dialog.atUnload = nullptr;
+}
+
+TEST_F(DesktopForms, AreFoundByNameWhileTheyAreLoaded) {
+    EXPECT_EQ(desktop.findLoaded("Dialog"), nullptr);
+    desktop.load(dialog);
+    EXPECT_EQ(desktop.findLoaded("dialog"), &dialog);
+}
+
+TEST_F(DesktopForms, AFormObjectThatGoesTakesItsWindowAlong) {
+    auto passing = std::make_unique<Told>(desktop, "HepPopup", told);
+    desktop.show(*passing, ShowMode::Modeless);
+    passing.reset();
+    EXPECT_TRUE(desktop.loadedForms().empty());
+    EXPECT_EQ(desktop.record, (Strings{"show HepPopup modeless", "unload HepPopup"}));
+}
+
+struct Ticking : forms::Form {
+    explicit Ticking(forms::Desktop& theDesktop) : Form(theDesktop, "Ticking", 100, 100) {
+        timer.onTimer = [this] { ++ticks; };
+    }
+    forms::Timer timer{*this, "tmrFit", 80ms};
+    int ticks = 0;
+};
+
+TEST_F(DesktopForms, TickWhileTheyAreLoadedAndTheTimerIsOn) {
+    Ticking form(desktop);
+    form.timer.enabled = true;
+    desktop.advance(200ms);
+    EXPECT_EQ(form.ticks, 0);
+    desktop.load(form);
+    desktop.advance(79ms);
+    EXPECT_EQ(form.ticks, 0);
+    desktop.advance(81ms);
+    EXPECT_EQ(form.ticks, 2);
+    form.timer.enabled = false;
+    desktop.advance(200ms);
+    EXPECT_EQ(form.ticks, 2);
+}
+
+}  // namespace

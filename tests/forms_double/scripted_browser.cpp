@@ -1,0 +1,74 @@
+#include "forms_double/scripted_browser.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+#include <utility>
+
+namespace forms_double {
+
+namespace {
+
+std::string readFile(std::string_view url) {
+    constexpr std::string_view scheme = "file://";
+    if (!url.starts_with(scheme)) return {};
+    url.remove_prefix(scheme.size());
+    // A path that begins with its own slash follows the three of the scheme.
+    while (url.starts_with("//")) url.remove_prefix(1);
+    std::ifstream file{std::string(url)};
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+}  // namespace
+
+bool ScriptedBrowser::hasLink(std::string_view address) const {
+    return page_.find("href=\"" + std::string(address) + "\"") != std::string::npos;
+}
+
+bool ScriptedBrowser::click(std::string_view address) {
+    if (!hasLink(address)) {
+        ADD_FAILURE() << "the page has no link to " << address;
+        return false;
+    }
+    if (control_.onBeforeNavigate && control_.onBeforeNavigate(address)) return true;
+    pending_ = address;
+    return false;
+}
+
+void ScriptedBrowser::navigate(std::string_view url) {
+    if (control_.onBeforeNavigate && control_.onBeforeNavigate(url)) return;
+    navigations.emplace_back(url);
+    pending_ = url;
+    isLoaded_ = false;
+}
+
+void ScriptedBrowser::finishLoading() {
+    if (pending_.empty() || !script_.completes) return;
+    page_ = readFile(std::exchange(pending_, {}));
+    isLoaded_ = true;
+    if (control_.onDocumentComplete) control_.onDocumentComplete();
+}
+
+std::optional<std::string> ScriptedBrowser::fieldValue(std::string_view id) {
+    const auto found = script_.fields.find(id);
+    if (!isLoaded_ || found == script_.fields.end()) return std::nullopt;
+    return found->second;
+}
+
+int ScriptedBrowser::contentHeight(std::string_view id) {
+    const auto found = script_.contentHeights.find(id);
+    return !isLoaded_ || found == script_.contentHeights.end() ? 0 : found->second;
+}
+
+std::string ScriptedBrowser::checkedValues(std::string_view) {
+    return isLoaded_ ? script_.checkedValues : std::string();
+}
+
+void ScriptedBrowser::setStyle(std::string_view property, std::string_view value) {
+    if (isLoaded_) styles[std::string(property)] = value;
+}
+
+}  // namespace forms_double

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/web_browser.h"
+
+namespace forms_double {
+
+/// What a page that has been loaded answers, and whether it ever gets that far. A test sets it;
+/// every browser of one desktop shares it.
+struct PageScript {
+    std::map<std::string, std::string, std::less<>> fields;
+    /// By the id of the element asked for.
+    std::map<std::string, int, std::less<>> contentHeights;
+    std::string checkedValues;
+    bool completes = true;
+};
+
+/// A browser that loads a page by reading its file, when events are let run. It draws nothing;
+/// links are found in the text of the page.
+class ScriptedBrowser : public forms::BrowserView {
+public:
+    ScriptedBrowser(forms::WebBrowser& control, const PageScript& script)
+        : control_(control),
+          script_(script) {}
+
+    /// What was asked for, in order; a navigation that the control cancelled isn't among it.
+    std::vector<std::string> navigations;
+    std::map<std::string, std::string, std::less<>> styles;
+
+    /// The text of the page that is shown.
+    [[nodiscard]] const std::string& page() const { return page_; }
+    [[nodiscard]] bool hasLink(std::string_view address) const;
+    /// A user's click on a link of the page: the control is asked, and the link is followed unless
+    /// it cancels. True if it did. A page without the link fails the test.
+    bool click(std::string_view address);
+
+    /// Ends a load that is under way.
+    void finishLoading();
+
+    void navigate(std::string_view url) override;
+    [[nodiscard]] bool isComplete() override { return isLoaded_; }
+    [[nodiscard]] std::optional<std::string> fieldValue(std::string_view id) override;
+    [[nodiscard]] int contentHeight(std::string_view id) override;
+    [[nodiscard]] std::string checkedValues(std::string_view name) override;
+    void setStyle(std::string_view property, std::string_view value) override;
+
+private:
+    forms::WebBrowser& control_;
+    const PageScript& script_;
+    std::string pending_;
+    std::string page_;
+    bool isLoaded_ = false;
+};
+
+}  // namespace forms_double
