@@ -140,10 +140,11 @@ uno::Reference<css::frame::XModel> Desk::load(const rtl::OUString& url, bool hid
     try {
         component = connection_->desktop()->loadComponentFromURL(
             url, "_blank", 0,
-            propertyValues({{"Hidden", uno::Any(hidden)},
-                            {"ReadOnly", uno::Any(readOnly)},
-                            {"InteractionHandler",
-                             uno::Any(uno::Reference<css::task::XInteractionHandler>(answer))}}));
+            propertyValues(
+                {{"Hidden", uno::Any(hidden)},
+                 {"ReadOnly", uno::Any(readOnly)},
+                 {"InteractionHandler",
+                  uno::Any(uno::Reference<css::task::XInteractionHandler>(answer.get()))}}));
     } catch (const css::uno::Exception& error) {
         if (connection_->isLost()) throw;
         failToOpen(url, fromUno(error.Message));
