@@ -1,0 +1,73 @@
+#include "catalogue/item_preview.h"
+
+#include <string>
+
+#include "office/failure_patterns.h"
+
+namespace catalogue {
+
+namespace {
+
+using office::arg;
+using office::Object;
+using session::OfficeSession;
+
+/// A sheet-level name is shown by its tail; the quote that opened its sheet goes back in front.
+std::string previewNameOf(const ExportRow& row) {
+    return row.Text.find('!') == std::string::npos ? row.Text : "'" + row.Text;
+}
+
+void copyChartSheet(OfficeSession& session, const ExportRow& row) {
+    session.ActiveBook.get("Charts").get("Item", row.SubItems(1)).get("ChartArea").call("Copy");
+}
+
+void copyEmbeddedChart(OfficeSession& session, const ExportRow& row) {
+    session.ActiveBook.get("Worksheets")
+        .get("Item", row.SubItems(1))
+        .call("ChartObjects")
+        .get("Item", row.Text)
+        .call("Copy");
+}
+
+}  // namespace
+
+PreviewCopy copyForPreview(OfficeSession& session, const ExportRow& row) {
+    if (row.isChartSheet()) {
+        copyChartSheet(session, row);
+    } else if (row.isEmbeddedChart()) {
+        copyEmbeddedChart(session, row);
+    } else {
+        const Object range = session.ActiveBook.get("Sheets")
+                                 .get("Item", row.SubItems(1))
+                                 .get("Range", previewNameOf(row))
+                                 .toObject();
+        if (range.get("Areas").get("Count").toLong() > 1) return PreviewCopy::SeveralAreas;
+        range.call("Copy");
+    }
+    return PreviewCopy::Copied;
+}
+
+void copyForFirstPreview(OfficeSession& session, const ExportRow& row) {
+    if (row.isChartSheet()) {
+        copyChartSheet(session, row);
+    } else if (row.isEmbeddedChart()) {
+        copyEmbeddedChart(session, row);
+    } else {
+        constexpr std::int32_t asOnScreen = 1;
+        constexpr std::int32_t bitmap = 2;
+        session.ActiveBook.get("Names")
+            .get("Item", previewNameOf(row))
+            .get("RefersToRange")
+            .call("CopyPicture", arg("Appearance", asOnScreen), arg("Format", bitmap));
+    }
+}
+
+forms::Picture pictureOnClipboard(OfficeSession& session) {
+    using Kind = office::ClipboardPicture::Kind;
+    forms::Picture picture;
+    office::ContinueOnFailure().attempt(
+        [&] { picture.bytes = session.suite.clipboardPicture(Kind::Bitmap).bytes; });
+    return picture;
+}
+
+}  // namespace catalogue
