@@ -54,6 +54,7 @@ public:
     /// A soft edge around the form: its width in pixels (0: none) and its strongest opacity.
     int shadowDepthPx = 0;
     int shadowOpacity = 0;
+    Colour shadowColour;
 
     virtual void Form_Load() {}
     virtual void Form_Activate() {}

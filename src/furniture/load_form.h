@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+
+#include "forms/controls.h"
+#include "forms/form.h"
+#include "furniture/progress_bar.h"
+#include "furniture/shadow.h"
+#include "furniture/titel_bar.h"
+
+namespace furniture {
+
+/// The form that shows how far the inventory of a workbook is, before the main form comes up.
+class MurvaneLoad : public forms::Form {
+public:
+    explicit MurvaneLoad(forms::Desktop& desktop);
+
+    void Form_Load() override;
+
+    TitelBar TitelBar1;
+    forms::Image Image1;
+    forms::Label Label1;
+    forms::Label Label3;
+    forms::Label lblCaption;
+    ProgressBar prbHorizontalOnLoad;
+    forms::Label Label4;
+
+private:
+    std::optional<clsShadow> shadow_;
+};
+
+}  // namespace furniture

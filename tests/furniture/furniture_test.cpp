@@ -1,0 +1,116 @@
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "forms_double/user.h"
+#include "forms_double/windowless_desktop.h"
+#include "furniture/load_form.h"
+#include "furniture/progress_bar.h"
+#include "furniture/progress_form.h"
+#include "furniture/shadow.h"
+#include "furniture/titel_bar.h"
+
+namespace {
+
+using furniture::clsShadow;
+using furniture::ProgressBar;
+using furniture::TitelBar;
+
+struct Sheet : forms::Form {
+    explicit Sheet(forms::Desktop& desktop) : Form(desktop, "Sheet", 6000, 6000) {}
+    TitelBar bar{*this, "TitelBar1", {}};
+    ProgressBar progress{*this, "prbHorizontal", {}};
+};
+
+class Furniture : public testing::Test {
+protected:
+    forms_double::WindowlessDesktop desktop;
+    Sheet sheet{desktop};
+};
+
+TEST_F(Furniture, ABarHoldsAPercentageAndTellsOfEachChangeOnce) {
+    std::vector<int> told;
+    sheet.progress.onChange = [&] { told.push_back(sheet.progress.value()); };
+    for (const int value : {150, 100, -5, 0, 40}) sheet.progress.setValue(value);
+    EXPECT_EQ(told, (std::vector<int>{100, 0, 40}));
+    sheet.progress.caption = "40%";
+    sheet.progress.Clear();
+    EXPECT_EQ(sheet.progress.value(), 0);
+    EXPECT_EQ(sheet.progress.caption, "");
+    EXPECT_EQ(told.size(), 3U);
+}
+
+TEST_F(Furniture, ATitleBarClosesMinimisesAndMaximisesWhereItMay) {
+    desktop.load(sheet);
+    sheet.bar.pressMaximise();
+    EXPECT_EQ(sheet.windowState, forms::WindowState::Maximised);
+    sheet.bar.pressMaximise();
+    EXPECT_EQ(sheet.windowState, forms::WindowState::Normal);
+    sheet.bar.ShowMaximizedEnabled = false;
+    sheet.bar.pressMaximise();
+    EXPECT_EQ(sheet.windowState, forms::WindowState::Normal);
+    sheet.bar.pressMinimise();
+    EXPECT_EQ(sheet.windowState, forms::WindowState::Minimised);
+
+    sheet.bar.ShowCloseEnabled = false;
+    sheet.bar.pressClose();
+    EXPECT_TRUE(desktop.isLoaded(sheet));
+    sheet.bar.ShowCloseEnabled = true;
+    sheet.bar.pressClose();
+    EXPECT_FALSE(desktop.isLoaded(sheet));
+}
+
+TEST_F(Furniture, AShadowServesOneFormAndGoesWithItsInstance) {
+    std::optional<clsShadow> shadow(std::in_place);
+    EXPECT_TRUE(shadow->Shadow(sheet));
+    EXPECT_EQ(sheet.shadowDepthPx, 7);
+    EXPECT_EQ(sheet.shadowOpacity, 140);
+    try {
+        shadow->Shadow(sheet);
+        FAIL() << "a second form was taken";
+    } catch (const furniture::ShadowRefused& refused) {
+        EXPECT_STREQ(refused.what(), "Only a single form per cShadow instance is allowed");
+        EXPECT_EQ(furniture::ShadowRefused::source(), "Shadow");
+    }
+    shadow->setDepth(12);
+    shadow->setTransparency(80);
+    shadow->setColor(0x0000FFU);
+    EXPECT_EQ(sheet.shadowDepthPx, 12);
+    EXPECT_EQ(sheet.shadowOpacity, 80);
+    EXPECT_EQ(sheet.shadowColour, (forms::Colour{255, 0, 0}));
+    shadow->setColor(0x80000015U);
+    EXPECT_EQ(sheet.shadowColour, forms::Colour::rgb(0x696969));
+    shadow.reset();
+    EXPECT_EQ(sheet.shadowDepthPx, 0);
+}
+
+TEST_F(Furniture, TheProgressFormStartsAtNoneOfItsItems) {
+    struct Case {
+        int checked;
+        std::string status;
+    };
+    for (const Case& it : {Case{12, "0 of 12"}, Case{0, "0 of 1"}, Case{-3, "0 of 1"}}) {
+        furniture::Progress form(desktop, [&] { return it.checked; });
+        form.prbHorizontal.setValue(70);
+        desktop.show(form, forms::ShowMode::Modeless);
+        EXPECT_EQ(form.lblStatus.caption, it.status);
+        EXPECT_EQ(form.prbHorizontal.value(), 0);
+        EXPECT_EQ(form.prbHorizontal.caption, "0%");
+        EXPECT_TRUE(form.topmost);
+        EXPECT_EQ(form.shadowDepthPx, 7);
+    }
+}
+
+TEST_F(Furniture, FormsCanBeLoadedAgain) {
+    furniture::MurvaneLoad form(desktop);
+    for (int i = 0; i < 2; ++i) {
+        desktop.show(form, forms::ShowMode::Modeless);
+        EXPECT_EQ(form.lblCaption.caption, "Loading charts and named ranges...");
+        EXPECT_EQ(form.shadowDepthPx, 7);
+        forms_double::close(form);
+    }
+}
+
+}  // namespace

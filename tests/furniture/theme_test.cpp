@@ -1,0 +1,177 @@
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "forms/controls.h"
+#include "forms/form.h"
+#include "forms/list_view.h"
+#include "forms/web_browser.h"
+#include "forms_double/windowless_desktop.h"
+#include "furniture/palette.h"
+#include "furniture/theme.h"
+#include "furniture/titel_bar.h"
+
+namespace {
+
+using forms::Colour;
+namespace palette = furniture::palette;
+
+struct Sheet : forms::Form {
+    explicit Sheet(forms::Desktop& desktop) : Form(desktop, "Sheet", 6000, 6000) {}
+};
+
+class Theme : public testing::Test {
+protected:
+    forms_double::WindowlessDesktop desktop;
+    Sheet sheet{desktop};
+};
+
+TEST_F(Theme, StylesButtonsByTheirNames) {
+    struct Case {
+        std::string name;
+        std::string caption;
+        std::string shown;
+        Colour ground;
+        double sizePt;
+        std::string font = "Tahoma";
+        bool bold = true;
+    };
+    const Colour accent = palette::ThemeAccentButton;
+    const Colour neutral = palette::ThemeNeutralButton;
+    const Colour quiet = palette::ThemeQuietButton;
+    const std::vector<Case> cases = {
+        {"PasteIT", "Go", "Continue  >", accent, 12},
+        {"ContinueOk", "Go", "Continue  >", accent, 10.5},
+        {"Styles", " Apply it ", "Apply it", accent, 10},
+        {"CloseLayout", "", "Apply", accent, 10},
+        {"About", "About", "About", accent, 10},
+        {"btnClose", "  ", "Apply", accent, 10},
+        {"AddCaption", "x", "Caption", neutral, 9},
+        {"Up", "x", "5", neutral, 10, "Marlett", false},
+        {"Down", "x", "6", neutral, 10, "Marlett", false},
+        {"btnCancel", "No", "No", quiet, 10.5},
+        {"cmdCancel", "", "Close", quiet, 10.5},
+        {"BTNOK", "", "OK", accent, 10.5},
+        {"cmdHelpExport", "Help me", "?", quiet, 8.25},
+        {"CreateBlankPPT", " New ", "New", neutral, 9.75},
+        {"Command1", "", "OK", neutral, 9.75},
+    };
+    for (const Case& it : cases) {
+        Sheet form(desktop);
+        forms::Frame frame(form, "Frame1", {});
+        forms::CommandButton button(form, it.name, {}, &frame);
+        button.caption = it.caption;
+        furniture::ApplyTheme(form);
+        EXPECT_EQ(button.caption, it.shown) << it.name;
+        EXPECT_EQ(button.backColour, it.ground) << it.name;
+        EXPECT_EQ(button.font, (forms::Font{it.font, it.sizePt, it.bold})) << it.name;
+        EXPECT_EQ(button.foreColour, std::nullopt) << it.name;
+    }
+}
+
+TEST_F(Theme, LeavesAHiddenButtonOfNoKnownNameAlone) {
+    forms::CommandButton button(sheet, "Command1", {});
+    button.visible = false;
+    furniture::ApplyTheme(sheet);
+    EXPECT_EQ(button.caption, "");
+    EXPECT_EQ(button.backColour, std::nullopt);
+}
+
+TEST_F(Theme, PaintsControlsByTheirClass) {
+    forms::Frame frame(sheet, "Frame1", {});
+    forms::Label label(sheet, "Label1", {}, &frame);
+    forms::CheckBox check(sheet, "Check1", {}, &frame);
+    forms::OptionButton option(sheet, "Option1", {});
+    forms::OptionButton graphical(sheet, "Option1", {});
+    graphical.graphical = true;
+    forms::TextBox text(sheet, "ActiveWbk", {});
+    text.hasBorder = false;
+    forms::ListView list(sheet, "listOther", {});
+    furniture::ApplyTheme(sheet);
+
+    struct Case {
+        const forms::Control* control;
+        Colour ground;
+    };
+    const std::vector<Case> cases = {
+        {&frame, palette::ThemeSurface},   {&label, palette::ThemeSurface},
+        {&check, palette::ThemeSurface},   {&option, palette::ThemeSurface},
+        {&graphical, palette::ThemeField}, {&text, palette::ThemeField},
+        {&list, palette::ThemeField},
+    };
+    for (const Case& it : cases) {
+        EXPECT_EQ(it.control->backColour, it.ground) << it.control->name();
+        EXPECT_EQ(it.control->foreColour, palette::ThemeText) << it.control->name();
+    }
+    EXPECT_TRUE(text.hasBorder);
+    EXPECT_TRUE(list.gridLines);
+    EXPECT_EQ(sheet.backColour, palette::ThemeGround);
+}
+
+TEST_F(Theme, LeavesTransparentLabelsTheirGroundAndThePreviewAsItIs) {
+    forms::Label label(sheet, "Label1", {});
+    label.transparent = true;
+    forms::Label preview(sheet, "imgChart", {});
+    furniture::ApplyTheme(sheet);
+    EXPECT_EQ(label.backColour, std::nullopt);
+    EXPECT_EQ(label.foreColour, palette::ThemeText);
+    EXPECT_EQ(preview.foreColour, std::nullopt);
+}
+
+TEST_F(Theme, ThePanelOfSlideNumbersHasRulesOfItsOwn) {
+    forms::Frame panel(sheet, "SlideNb", {});
+    forms::Label label(sheet, "Label20", {}, &panel);
+    forms::TextBox number(sheet, "TextBox10", {}, &panel);
+    forms::CheckBox other(sheet, "Check9", {}, &panel);
+    furniture::ApplyTheme(sheet);
+    EXPECT_EQ(panel.backColour, palette::ThemeSurface);
+    EXPECT_TRUE(label.transparent);
+    EXPECT_EQ(label.foreColour, palette::ThemeText);
+    EXPECT_EQ(number.backColour, palette::ThemeField);
+    EXPECT_EQ(other.backColour, std::nullopt);
+}
+
+TEST_F(Theme, ATitleBarCanOnlyClose) {
+    furniture::TitelBar bar(sheet, "TitelBar1", {});
+    bar.ShowClose = false;
+    furniture::ApplyTheme(sheet);
+    EXPECT_TRUE(bar.ShowClose && bar.ShowCloseEnabled);
+    EXPECT_FALSE(bar.ShowMinimized || bar.ShowMaximized);
+    EXPECT_EQ(bar.IconStyle, 2);
+    EXPECT_EQ(bar.BackColorV1Begin, palette::ThemeGroundDeep);
+    EXPECT_EQ(bar.BackColorV1End, (Colour{17, 28, 46}));
+    EXPECT_EQ(bar.BackColorV2End, palette::ThemeGround);
+}
+
+TEST_F(Theme, TheMainListIsLightWithDarkLettersAndTheProgramsWords) {
+    forms::ListView list(sheet, "listCharts", {});
+    list.columns.resize(8);
+    list.columns[0].text = "Name/Type";
+    furniture::ApplyTheme(sheet);
+    EXPECT_EQ(list.backColour, palette::ThemeNeutralButton);
+    EXPECT_LT(list.foreColour->green, 100);
+    std::vector<std::string> captions;
+    for (const auto& column : list.columns) captions.push_back(column.text);
+    EXPECT_EQ(captions,
+              (std::vector<std::string>{"Name/Type", "Sheet", "Slide", "Order", "", "", "", ""}));
+}
+
+TEST_F(Theme, PaintsThePageOfABrowserOnceItIsComplete) {
+    forms::WebBrowser browser(sheet, "wbStatus", {});
+    desktop.show(sheet, forms::ShowMode::Modeless);
+    desktop.page.completes = false;
+    browser.navigate("file:///nowhere.html");
+    desktop.letEventsRun();
+    furniture::ApplyTheme(sheet);
+    EXPECT_TRUE(desktop.browser(sheet)->styles.empty());
+    desktop.page.completes = true;
+    desktop.letEventsRun();
+    furniture::ApplyTheme(sheet);
+    EXPECT_EQ(desktop.browser(sheet)->styles.at("background-color"), "#111827");
+    EXPECT_EQ(desktop.browser(sheet)->styles.at("height"), "100%");
+    EXPECT_EQ(desktop.browser(sheet)->styles.at("margin"), "0");
+}
+
+}  // namespace
