@@ -32,6 +32,13 @@ public:
     /// never leads to another folder.
     [[nodiscard]] virtual std::string temporaryFile(std::string_view fileName) = 0;
 
+    /// Writes `text` to the file that `temporaryFile` gives for the name and returns its path. Only
+    /// this user can read the file. It takes the place of one that is there as a whole, so that a
+    /// reader meets the one or the other, and a link at that place is replaced, never followed.
+    /// `office::Failure` 75 for a bad name or where the file can't be written; an earlier file then
+    /// stays.
+    virtual std::string writeTemporaryFile(std::string_view fileName, std::string_view text) = 0;
+
     /// `office::Failure` 53 if there is no such file, 70 if it can't be deleted.
     virtual void deleteFile(std::string_view path) = 0;
     [[nodiscard]] virtual bool fileExists(std::string_view path) = 0;

@@ -39,6 +39,10 @@ public:
     /// Full paths of the files that exist.
     std::set<std::string, std::less<>> files;
     std::set<std::string, std::less<>> heldFiles;
+    /// What was written to temporary files, by their full paths.
+    std::map<std::string, std::string, std::less<>> written;
+    /// No temporary file can be written.
+    bool temporaryFolderIsFull = false;
 
     std::vector<std::string> deletedFiles;
     std::vector<std::string> links;
@@ -66,6 +70,16 @@ public:
     [[nodiscard]] std::string temporaryFile(std::string_view fileName) override {
         session::requireFileName(fileName);
         return temporaryFolder + "/" + std::string(fileName);
+    }
+
+    std::string writeTemporaryFile(std::string_view fileName, std::string_view text) override {
+        std::string path = temporaryFile(fileName);
+        if (temporaryFolderIsFull) {
+            throw office::Failure(office::FailureNumber::PathFileAccess, "Host", "No room");
+        }
+        written[path] = text;
+        files.insert(path);
+        return path;
     }
 
     void deleteFile(std::string_view path) override {
