@@ -21,6 +21,8 @@ namespace {
 
 /// What the core looks for behind a presentation's name in a window's caption.
 constexpr std::string_view captionEnd = " - PowerPoint";
+/// The class of PowerPoint's windows in the version that the application object tells.
+constexpr std::string_view frameClass = "PPTFrameClass";
 
 }  // namespace
 
@@ -113,7 +115,8 @@ office::WindowHandle LibreOfficeSuite::findWindow(std::string_view className,
                                                   std::string_view caption) {
     if (!desk_) return 0;
     return translated("Suite.findWindow", [&]() -> office::WindowHandle {
-        if (!className.empty()) return handleOf(desk_->activePresentation());
+        if (!className.empty() && className != frameClass) return 0;
+        if (caption.empty()) return handleOf(desk_->activePresentation());
         if (!caption.ends_with(captionEnd)) return 0;
         const std::string_view wanted = caption.substr(0, caption.size() - captionEnd.size());
         for (const auto& presentation : desk_->presentations()) {
