@@ -70,7 +70,7 @@ void fillBook(Workbook& book) {
         .define("Constant", "=42")
         .define("Formula", "=SUM(Sales!$B$2:$B$5)")
         .define("Broken", "=Sales!#REF!")
-        .define("Elsewhere", "=[Other.xlsx]Sheet1!$A$1");
+        .define("Elsewhere", "=[Other.xlsx]Sales!$A$1");
 }
 
 void fillDeck(Presentation& deck) {
