@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <string>
 
 #include "loaded_list.h"
@@ -55,16 +54,6 @@ TEST(InventorySpeed, CostsAFewCallsForAnItemHoweverManyThereAre) {
 
 TEST(InventorySpeed, CostsNoCallForAStoredRow) {
     EXPECT_EQ(LargeWorkbook(5, 5, 10).callsToLoad(), LargeWorkbook(5, 5, 2000).callsToLoad());
-}
-
-TEST(InventorySpeed, MergesTenThousandStoredRowsInWellUnderASecond) {
-    LargeWorkbook large(300, 0, 10000);
-    const auto start = std::chrono::steady_clock::now();
-    large.callsToLoad();
-    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
-    // Generous for a loaded machine under the sanitizers; going down the rows for each item took
-    // many times as long.
-    EXPECT_LT(took.count(), 2.0);
 }
 
 }  // namespace
