@@ -10,13 +10,12 @@ namespace forms_double {
 
 namespace {
 
-std::string readFile(std::string_view url) {
+std::string readPage(std::string_view url, const PageScript& script) {
     constexpr std::string_view scheme = "file://";
     if (!url.starts_with(scheme)) return {};
     url.remove_prefix(scheme.size());
-    // A path that begins with its own slash follows the three of the scheme.
-    while (url.starts_with("//")) url.remove_prefix(1);
-    std::ifstream file{std::string(url)};
+    if (script.readFile) return script.readFile(url);
+    const std::ifstream file{std::string(url)};
     std::ostringstream text;
     text << file.rdbuf();
     return text.str();
@@ -47,7 +46,7 @@ void ScriptedBrowser::navigate(std::string_view url) {
 
 void ScriptedBrowser::finishLoading() {
     if (pending_.empty() || !script_.completes) return;
-    page_ = readFile(std::exchange(pending_, {}));
+    page_ = readPage(std::exchange(pending_, {}), script_);
     isLoaded_ = true;
     if (control_.onDocumentComplete) control_.onDocumentComplete();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -18,6 +19,8 @@ struct PageScript {
     std::map<std::string, int, std::less<>> contentHeights;
     std::string checkedValues;
     bool completes = true;
+    /// The text of a file; the disk's where it is not set.
+    std::function<std::string(std::string_view path)> readFile;
 };
 
 /// A browser that loads a page by reading its file, when events are let run. It draws nothing;

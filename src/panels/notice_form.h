@@ -1,0 +1,85 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "forms/controls.h"
+#include "forms/form.h"
+#include "forms/timer.h"
+#include "forms/web_browser.h"
+#include "furniture/shadow.h"
+#include "furniture/titel_bar.h"
+#include "session/host.h"
+
+namespace panels {
+
+/// What a notice is handed before it loads.
+struct PendingNotice {
+    std::string Html;             ///< the finished page
+    std::string Title;            ///< of the title bar
+    int Buttons = 0;              ///< a message-box code, read by its flags 1 and 4
+    forms::Twips Width = 0;       ///< of the form; 0: its own
+    forms::Twips BodyHeight = 0;  ///< of the page; 0: as the text needs
+};
+
+/// A message as a card with real buttons below it. The form grows with its text, within limits, and
+/// then scrolls. Whatever becomes of the page, the buttons are there.
+class MurvaneNotice : public forms::Form {
+public:
+    MurvaneNotice(forms::Desktop& desktop, session::Host& host, PendingNotice pending);
+
+    /// Presets the form by hand.
+    void PrepareNotice(std::string title, std::string page, int buttons);
+
+    void Form_Load() override;
+    void Form_Activate() override;
+
+    /// The code of the answer: `session::answer`.
+    int Result = 0;
+    /// The values of the checked boxes of the page that are named "mvAccept", joined by commas;
+    /// from the press on `btnOK` on.
+    std::string acceptedValues;
+
+    furniture::TitelBar TitelBar1;
+    forms::WebBrowser wbNotice;
+    forms::Label lblNoticeBar;
+    forms::CommandButton btnOK;
+    forms::CommandButton btnCancel;
+    forms::Timer tmrHtml;
+    forms::Timer tmrFit;
+
+private:
+    void btnOK_Click();
+    void btnCancel_Click();
+    void tmrHtml_Timer();
+    void tmrFit_Timer();
+    void wbNotice_DocumentComplete();
+
+    void takePending();
+    void showButtons();
+    void LoadNoticeHtml(const std::string& page);
+    /// 0 stands for the fixed height, or else for the least.
+    void FitNoticeToBody(forms::Twips height);
+    void placeButtons();
+    /// True once the page could be measured and the form fits it.
+    bool MeasureNotice();
+    [[nodiscard]] forms::Twips NoticeHeaderHeight() const;
+    [[nodiscard]] forms::Twips NoticeMaxBodyHeight() const;
+    [[nodiscard]] forms::Twips NoticeFormHeight(forms::Twips body) const;
+    void CenterNotice();
+    void PlaceNoticeBrowser();
+    void ReadAcceptedValues();
+
+    session::Host& host_;
+    PendingNotice pending_;
+    std::string title_ = "Murvane";
+    std::string page_;
+    int buttons_ = 0;
+    bool pageIsRequested_ = false;
+    int tries_ = 0;
+    forms::Twips fixedWidth_ = 0;
+    forms::Twips fixedBodyHeight_ = 0;
+    std::optional<furniture::clsShadow> shadow_;
+};
+
+}  // namespace panels

@@ -1,0 +1,193 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "forms/form.h"
+#include "forms_double/windowless_desktop.h"
+#include "furniture/palette.h"
+#include "panels/action_bar.h"
+#include "panels/action_panel.h"
+#include "panels/page_file.h"
+#include "panels/panel_links.h"
+#include "session_doubles/scripted_host.h"
+
+namespace {
+
+using forms::Place;
+
+TEST(PanelLinks, GiveTheKeyBehindTheirPrefix) {
+    struct Case {
+        std::string url;
+        std::string action;
+        std::string toggle;
+        std::string select;
+    };
+    const std::vector<Case> cases = {
+        {"murvane://action/style", "style", "", ""},
+        {"murvane://toggle/slideTitle", "", "slideTitle", ""},
+        {"murvane://select/format/png", "", "", "format/png"},
+        {"MURVANE://TOGGLE/SlideTitle?x=1#y", "", "SlideTitle", ""},
+        {"murvane://toggle/a#b?c", "", "a", ""},
+        {"about:blank murvane://action/ layout ", "layout", "", ""},
+        {"murvane://toggle/a%20b", "", "a%20b", ""},
+        {"murvane://toggle/?x", "", "", ""},
+        {"file:///temporary/MurvaneDialogStatus.html", "", "", ""},
+        {"", "", "", ""},
+    };
+    for (const Case& it : cases) {
+        EXPECT_EQ(panels::ActionKeyFromUrl(it.url), it.action) << it.url;
+        EXPECT_EQ(panels::ToggleKeyFromUrl(it.url), it.toggle) << it.url;
+        EXPECT_EQ(panels::SelectKeyFromUrl(it.url), it.select) << it.url;
+        for (const bool before : {false, true}) {
+            bool cancel = before;
+            EXPECT_EQ(panels::CancelIfToggle(it.url, cancel), it.toggle) << it.url;
+            EXPECT_EQ(cancel, before || !it.toggle.empty()) << it.url;
+        }
+    }
+}
+
+TEST(PageFile, IsAddressedAsItStandsWithSlashes) {
+    EXPECT_EQ(panels::fileUrl("C:\\Temp folder\\a.html"), "file:///C:/Temp folder/a.html");
+    EXPECT_EQ(panels::fileUrl("/run/user/1/a.html"), "file:///run/user/1/a.html");
+}
+
+/// A dialog's furniture and nothing else.
+struct Sheet : forms::Form {
+    Sheet(forms::Desktop& desktop, forms::Twips width, forms::Twips height)
+        : Form(desktop, "Dialog", width, height) {}
+
+    forms::WebBrowser wbStatus{*this, "wbStatus", {}};
+    forms::Label lblActionBar{*this, "lblActionBar", {}};
+    forms::Label lblActionBorder{*this, "lblActionBorder", {}};
+    forms::Label lblActionCaption{*this, "lblActionCaption", {}};
+    forms::Label lblFooter{*this, "lblFooter", {}};
+    forms::CommandButton ContinueOk{*this, "ContinueOk", {}};
+    forms::CommandButton btnFirst{*this, "btnFirst", {}};
+    forms::CommandButton btnSecond{*this, "btnSecond", {}};
+
+    [[nodiscard]] panels::ActionBar bar() {
+        return {.bar = lblActionBar, .button = ContinueOk, .border = &lblActionBorder};
+    }
+    [[nodiscard]] panels::ActionBar fullBar() {
+        panels::ActionBar full = bar();
+        full.caption = &lblActionCaption;
+        full.extraButtons = {&btnFirst, &btnSecond};
+        full.footer = &lblFooter;
+        return full;
+    }
+};
+
+class ActionPanel : public testing::Test {
+protected:
+    ActionPanel() {
+        desktop.page.readFile = [this](std::string_view path) {
+            const auto found = host.written.find(path);
+            return found == host.written.end() ? std::string() : found->second;
+        };
+    }
+
+    forms_double::WindowlessDesktop desktop;
+    session_doubles::ScriptedHost host;
+    Sheet sheet{desktop, 9000, 7200};
+};
+
+TEST_F(ActionPanel, StandsAboveABarAtTheFootOfTheForm) {
+    panels::SetupActionPanel(sheet, sheet.wbStatus, sheet.bar());
+    EXPECT_EQ(sheet.lblActionBorder.place, (Place{0, 7200 - 780, 9000, 15}));
+    EXPECT_EQ(sheet.lblActionBar.place, (Place{0, 7200 - 765, 9000, 765}));
+    EXPECT_EQ(sheet.ContinueOk.place, (Place{9000 - 180 - 1560, 7200 - 765 + 52, 1560, 660}));
+    EXPECT_EQ(sheet.wbStatus.place, (Place{120, 720, 9000 - 240, 7200 - 765 - 768}));
+    EXPECT_EQ(sheet.ContinueOk.caption, "Continue  >");
+    EXPECT_TRUE(sheet.ContinueOk.isDefault);
+    EXPECT_EQ(sheet.ContinueOk.font, (forms::Font{"Tahoma", 10.5, true}));
+    EXPECT_EQ(sheet.lblActionBorder.backColour, furniture::palette::ThemeBarLine);
+    EXPECT_EQ(sheet.lblActionBar.backColour, furniture::palette::ThemeSurface);
+}
+
+TEST_F(ActionPanel, HasItsBrowserOnTopOfEverything) {
+    panels::SetupActionPanel(sheet, sheet.wbStatus, sheet.bar());
+    for (const forms::Control* control : sheet.controls()) {
+        EXPECT_TRUE(control == &sheet.wbStatus || control->layer() < sheet.wbStatus.layer());
+    }
+}
+
+TEST_F(ActionPanel, KeepsAReadableHeightOnASmallForm) {
+    struct Case {
+        forms::Twips formHeight;
+        forms::Twips maximum;
+        forms::Twips height;
+    };
+    const std::vector<Case> cases = {
+        {7200, 0, 5667}, {7200, 3000, 3000}, {7200, 900, 1500}, {2000, 0, 1500}, {500, 0, 1500}};
+    for (const Case& it : cases) {
+        Sheet form(desktop, 6000, it.formHeight);
+        panels::LayoutActionBar(form, form.bar());
+        panels::LayoutActionBrowser(form, form.wbStatus, form.lblActionBar, 720, 48, it.maximum);
+        EXPECT_EQ(form.wbStatus.place, (Place{120, 720, 5760, it.height})) << it.formHeight;
+    }
+}
+
+TEST_F(ActionPanel, LaysWhatElseTheBarHoldsFromTheLeft) {
+    sheet.lblActionCaption.caption = "Options";
+    panels::LayoutActionBar(sheet, sheet.fullBar());
+    const forms::Twips buttonTop = 7200 - 300 - 765 + 52;
+    EXPECT_EQ(sheet.lblActionBar.place, (Place{0, 7200 - 300 - 765, 9000, 765}));
+    EXPECT_EQ(sheet.lblActionCaption.place, (Place{180, buttonTop + 240, 1200, 255}));
+    EXPECT_TRUE(sheet.lblActionCaption.transparent);
+    EXPECT_EQ(sheet.btnFirst.place, (Place{180 + 1296, buttonTop, 1080, 660}));
+    EXPECT_EQ(sheet.btnSecond.place, (Place{180 + 1296 + 1176, buttonTop, 1080, 660}));
+    EXPECT_EQ(sheet.lblFooter.place, (Place{0, 6900, 9000, 300}));
+}
+
+TEST_F(ActionPanel, HidesABlankCaptionThatStandsAlone) {
+    sheet.lblActionCaption.caption = "  ";
+    panels::LayoutActionBar(sheet, sheet.fullBar());
+    EXPECT_TRUE(sheet.lblActionCaption.visible);
+    EXPECT_EQ(sheet.btnFirst.place.left, 180);
+    sheet.btnFirst.visible = sheet.btnSecond.visible = sheet.lblFooter.visible = false;
+    panels::LayoutActionBar(sheet, sheet.fullBar());
+    EXPECT_FALSE(sheet.lblActionCaption.visible);
+    EXPECT_EQ(sheet.lblActionBar.place.top, 7200 - 765);
+}
+
+TEST_F(ActionPanel, ShowsItsPageFromOneFileAsALineOfText) {
+    desktop.show(sheet, forms::ShowMode::Modeless);
+    panels::NavigatePanelFile(host, sheet.wbStatus, "<p>page</p>");
+    EXPECT_EQ(host.written.at("/temporary/MurvaneDialogStatus.html"), "<p>page</p>\r\n");
+    EXPECT_TRUE(sheet.wbStatus.silent);
+    desktop.letEventsRun();
+    EXPECT_EQ(desktop.browser(sheet)->page(), "<p>page</p>\r\n");
+    EXPECT_EQ(desktop.browser(sheet)->navigations,
+              (std::vector<std::string>{"file:///temporary/MurvaneDialogStatus.html"}));
+}
+
+TEST_F(ActionPanel, ShowsTheEarlierPageWhereTheFileCannotBeWritten) {
+    desktop.show(sheet, forms::ShowMode::Modeless);
+    panels::NavigatePanelFile(host, sheet.wbStatus, "first");
+    host.temporaryFolderIsFull = true;
+    panels::NavigatePanelFile(host, sheet.wbStatus, "second");
+    desktop.letEventsRun();
+    EXPECT_EQ(desktop.browser(sheet)->page(), "first\r\n");
+    EXPECT_EQ(desktop.browser(sheet)->navigations.size(), 2U);
+}
+
+TEST_F(ActionPanel, LeavesTheBrowserAloneForAnEmptyPage) {
+    panels::NavigatePanelFile(host, sheet.wbStatus, "");
+    EXPECT_EQ(sheet.wbStatus.url(), "");
+    EXPECT_TRUE(host.written.empty());
+}
+
+TEST_F(ActionPanel, ReadsATypedFieldOrElseWhatTheCallerHas) {
+    desktop.page.fields = {{"HtmlWidthFactor", " 80 "}, {"Empty", ""}};
+    EXPECT_EQ(panels::ReadFieldValue(sheet.wbStatus, "HtmlWidthFactor", "100"), "100");
+    desktop.show(sheet, forms::ShowMode::Modeless);
+    panels::NavigatePanelFile(host, sheet.wbStatus, "page");
+    EXPECT_EQ(panels::ReadFieldValue(sheet.wbStatus, "HtmlWidthFactor", "100"), "100");
+    desktop.letEventsRun();
+    EXPECT_EQ(panels::ReadFieldValue(sheet.wbStatus, "HtmlWidthFactor", "100"), "80");
+    EXPECT_EQ(panels::ReadFieldValue(sheet.wbStatus, "Empty", "100"), "");
+    EXPECT_EQ(panels::ReadFieldValue(sheet.wbStatus, "Other", "100"), "100");
+}
+
+}  // namespace

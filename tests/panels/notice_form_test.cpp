@@ -1,0 +1,247 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms_double/user.h"
+#include "forms_double/windowless_desktop.h"
+#include "furniture/palette.h"
+#include "panels/notice_form.h"
+#include "panels/notice_panel.h"
+#include "session_doubles/scripted_host.h"
+
+namespace {
+
+using forms::Place;
+using forms_double::press;
+using forms_double::the;
+using session::Notice;
+using Strings = std::vector<std::string>;
+using namespace std::chrono_literals;
+
+struct NoticeTest : testing::Test {
+    NoticeTest() {
+        desktop.page.readFile = [this](std::string_view path) {
+            const auto found = host.written.find(path);
+            return found == host.written.end() ? std::string() : found->second;
+        };
+    }
+
+    /// Shows the notice and lets `user` answer it.
+    int show(const Notice& notice, forms_double::WindowlessDesktop::Answer user) {
+        desktop.answer("MurvaneNotice", std::move(user));
+        return panel.show(notice);
+    }
+    [[nodiscard]] static Notice notice(int buttons = 0) {
+        Notice made;
+        made.message = "Two charts\r\rwere exported.";
+        made.title = "Murvane <now>";
+        made.kind = "success";
+        made.buttons = buttons;
+        return made;
+    }
+
+    forms_double::WindowlessDesktop desktop;
+    session_doubles::ScriptedHost host;
+    panels::NoticePanel panel{desktop, host};
+};
+
+const forms::Place& placeOf(const forms::Form& form, const char* name) {
+    return forms_double::control(form, name).place;
+}
+
+TEST_F(NoticeTest, AnswersByItsButtonsOrAsClosed) {
+    struct Case {
+        int buttons;
+        Strings captions;  ///< of the buttons shown
+        int first;
+        int second;
+        int closed;
+    };
+    const std::vector<Case> cases = {
+        {0, {"OK"}, 1, 0, 1},
+        {1, {"OK", "Cancel"}, 1, 2, 2},
+        {33, {"OK", "Cancel"}, 1, 2, 2},
+        {4, {"Yes", "No"}, 6, 7, 1},
+        {5, {"Yes", "No"}, 6, 7, 2},
+        {32, {"OK"}, 1, 0, 1},
+    };
+    for (const Case& it : cases) {
+        Strings captions;
+        const auto answerWith = [&](const std::function<void(forms::Form&)>& act) {
+            return show(notice(it.buttons), [&](forms::Form& form) {
+                captions.clear();
+                for (const char* name : {"btnOK", "btnCancel"}) {
+                    const auto& button = forms_double::control(form, name);
+                    if (button.visible) captions.push_back(button.caption);
+                }
+                act(form);
+            });
+        };
+        EXPECT_EQ(answerWith([](forms::Form& form) { press(form, "btnOK"); }), it.first);
+        EXPECT_EQ(captions, it.captions) << it.buttons;
+        EXPECT_EQ(answerWith(forms_double::close), it.closed) << it.buttons;
+        EXPECT_EQ(answerWith(forms_double::pressEscape), it.closed) << it.buttons;
+        if (it.second == 0) continue;
+        EXPECT_EQ(answerWith([](forms::Form& form) { press(form, "btnCancel"); }), it.second);
+    }
+}
+
+TEST_F(NoticeTest, ComesUpFirstAndShowsItsPageAfterwards) {
+    show(notice(), [&](forms::Form& form) {
+        EXPECT_TRUE(form.topmost);
+        EXPECT_EQ(form.focus, form.find("btnOK"));
+        EXPECT_EQ(form.find("TitelBar1")->caption, " Murvane <now>");
+        desktop.advance(49ms);
+        EXPECT_TRUE(desktop.browser(form)->navigations.empty());
+        desktop.advance(2ms);
+        const std::string& page = desktop.browser(form)->page();
+        EXPECT_NE(page.find("<h1>Murvane &lt;now&gt;</h1>"), std::string::npos);
+        EXPECT_NE(page.find("<p>Two charts</p><p>were exported.</p>"), std::string::npos);
+        EXPECT_TRUE(page.ends_with("</html>\r\n"));
+        EXPECT_EQ(desktop.browser(form)->styles.at("background-color"), "#111827");
+        desktop.advance(1s);
+        EXPECT_EQ(desktop.browser(form)->navigations,
+                  Strings{"file:///temporary/MurvaneNotice.html"});
+        press(form, "btnOK");
+    });
+}
+
+TEST_F(NoticeTest, FitsItsBodyToThePageWithinLimits) {
+    struct Case {
+        int contentPx;
+        forms::Twips screenHeight;
+        forms::Twips body;
+        std::string overflow;
+    };
+    const forms::Twips tall = 15360;
+    const std::vector<Case> cases = {
+        {40, tall, 1800, "hidden"},                    // no lower than this
+        {200, tall, 3720, "hidden"},                   // (200 + 24) * 15 + 360
+        {512, tall, 8400, "hidden"},                   // (512 + 24) * 15 + 360, just the most
+        {513, tall, 8400, "auto"},                     // scrolls
+        {513, 9000, 9000 - 660 - 1140 - 600, "auto"},  // the form itself meets the screen's edge
+        {200, 3000, 3000 - 660 - 1140 - 600, "auto"},
+    };
+    for (const Case& it : cases) {
+        desktop.size.height = it.screenHeight;
+        desktop.page.contentHeights = {{"noticeRoot", it.contentPx}};
+        show(notice(), [&](forms::Form& form) {
+            desktop.advance(200ms);
+            EXPECT_EQ(placeOf(form, "wbNotice"), (Place{180, 660, 8040, it.body})) << it.contentPx;
+            EXPECT_EQ(form.place.height, 660 + it.body + 1140) << it.contentPx;
+            EXPECT_EQ(desktop.browser(form)->styles.at("overflow"), it.overflow) << it.contentPx;
+            EXPECT_EQ(form.place.left, (desktop.size.width - 8400) / 2);
+            EXPECT_EQ(form.place.top, (it.screenHeight - form.place.height) / 2);
+            press(form, "btnOK");
+        });
+    }
+}
+
+TEST_F(NoticeTest, PutsItsButtonsOnABarBelowThePage) {
+    show(notice(33), [&](forms::Form& form) {
+        const forms::Twips bar = 660 + 1800;
+        EXPECT_EQ(form.place.width, 8400);
+        EXPECT_EQ(form.place.height, bar + 1140);
+        EXPECT_EQ(placeOf(form, "lblNoticeBar"), (Place{0, bar, 8400, 1140}));
+        EXPECT_EQ(placeOf(form, "btnOK"), (Place{6300, bar + 330, 1920, 480}));
+        EXPECT_EQ(placeOf(form, "btnCancel"), (Place{4230, bar + 330, 1920, 480}));
+        EXPECT_EQ(form.find("btnOK")->backColour, furniture::palette::ThemeAccentButton);
+        EXPECT_EQ(form.find("btnCancel")->backColour, furniture::palette::ThemeNeutralButton);
+        press(form, "btnOK");
+    });
+}
+
+TEST_F(NoticeTest, StopsWaitingForItsPageAfterAboutASecond) {
+    struct Case {
+        bool completes;
+        int contentPx;
+    };
+    for (const Case& it : {Case{false, 500}, Case{true, 39}}) {
+        desktop.page.completes = it.completes;
+        desktop.page.contentHeights = {{"noticeRoot", it.contentPx}};
+        show(notice(), [&](forms::Form& form) {
+            desktop.advance(51ms + 12 * 80ms);
+            EXPECT_TRUE(form.timers().at(1)->enabled);
+            desktop.advance(80ms);
+            EXPECT_FALSE(form.timers().at(1)->enabled);
+            EXPECT_EQ(placeOf(form, "wbNotice").height, 1800);
+            press(form, "btnOK");
+        });
+    }
+}
+
+TEST_F(NoticeTest, KeepsAFixedSizeWhateverThePageNeeds) {
+    panels::MurvaneNotice form(desktop, host,
+                               {.Html = "page", .Title = "T", .Width = 99000, .BodyHeight = 3000});
+    desktop.page.contentHeights = {{"noticeRoot", 600}};
+    desktop.show(form, forms::ShowMode::Modeless);
+    desktop.advance(300ms);
+    EXPECT_EQ(form.place.width, desktop.size.width - 600);
+    EXPECT_EQ(form.wbNotice.place.height, 3000);
+    EXPECT_FALSE(form.tmrFit.enabled);
+}
+
+TEST_F(NoticeTest, HandsOverTheBoxesThatWereCheckedOnlyWithOk) {
+    desktop.page.checkedValues = "3,7";
+    for (const char* button : {"btnOK", "btnCancel"}) {
+        panels::MurvaneNotice form(desktop, host, {.Html = "page", .Title = "T", .Buttons = 33});
+        desktop.show(form, forms::ShowMode::Modeless);
+        desktop.advance(100ms);
+        // The page must still be there when it is asked.
+        press(form, button);
+        EXPECT_EQ(form.acceptedValues, button == std::string("btnOK") ? "3,7" : "");
+    }
+}
+
+TEST_F(NoticeTest, WorksWithoutAPage) {
+    desktop.hasBrowsers = false;
+    EXPECT_EQ(show(notice(33),
+                   [&](forms::Form& form) {
+                       desktop.advance(2s);
+                       EXPECT_EQ(placeOf(form, "wbNotice").height, 1800);
+                       press(form, "btnCancel");
+                   }),
+              2);
+}
+
+TEST_F(NoticeTest, FallsBackOnTheSystemsBoxWhereItCannotBeShown) {
+    desktop.opensWindows = false;
+    EXPECT_EQ(panel.show(notice(33)), 2);
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    EXPECT_EQ(desktop.messages.front().text, "Murvane could not open the notice panel.");
+    EXPECT_EQ(desktop.messages.front().title, "Murvane");
+    EXPECT_TRUE(desktop.loadedForms().empty());
+}
+
+TEST_F(NoticeTest, StandsAboveTheMainFormAndGivesItsPlaceBack) {
+    struct Main : forms::Form {
+        explicit Main(forms::Desktop& theDesktop) : Form(theDesktop, "UserformObj", 100, 100) {}
+    };
+    Main main(desktop);
+    desktop.show(main, forms::ShowMode::Modeless);
+    main.topmost = true;
+    show(notice(), [&](forms::Form& form) {
+        EXPECT_FALSE(main.topmost);
+        press(form, "btnOK");
+    });
+    EXPECT_TRUE(main.topmost);
+    desktop.opensWindows = false;
+    panel.show(notice());
+    EXPECT_TRUE(main.topmost);
+}
+
+TEST_F(NoticeTest, AnotherNoticeTakesThePlaceOfTheOneThatIsUp) {
+    int inner = 0;
+    const int outer = show(notice(33), [&](forms::Form& form) {
+        inner = show(notice(4), [&](forms::Form& second) {
+            EXPECT_FALSE(desktop.isLoaded(form));
+            press(second, "btnOK");
+        });
+    });
+    EXPECT_EQ(inner, 6);
+    EXPECT_EQ(outer, 2);
+}
+
+}  // namespace
