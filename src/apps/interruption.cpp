@@ -1,0 +1,50 @@
+#include "apps/interruption.h"
+
+#include <pthread.h>
+#include <signal.h>
+
+#include <utility>
+
+namespace apps {
+
+namespace {
+
+sigset_t endingSignals() {
+    sigset_t signals;
+    sigemptyset(&signals);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) sigaddset(&signals, signal);
+    return signals;
+}
+
+}  // namespace
+
+Interruption::Interruption() {
+    const sigset_t signals = endingSignals();
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    waiting_ = std::thread([this] { wait(); });
+}
+
+Interruption::~Interruption() {
+    isOver_ = true;
+    // Any of them wakes the thread.
+    pthread_kill(waiting_.native_handle(), SIGTERM);
+    waiting_.join();
+}
+
+void Interruption::onceHappened(std::function<void()> action) {
+    const std::lock_guard<std::mutex> lock(actionLock_);
+    action_ = std::move(action);
+    if (happened_ && action_) action_();
+}
+
+void Interruption::wait() {
+    const sigset_t signals = endingSignals();
+    int signal = 0;
+    while (sigwait(&signals, &signal) == 0 && !isOver_) {
+        const std::lock_guard<std::mutex> lock(actionLock_);
+        const bool isFirst = !happened_.exchange(true);
+        if (isFirst && action_) action_();
+    }
+}
+
+}  // namespace apps

@@ -1,0 +1,66 @@
+#include <fmt/format.h>
+
+#include <exception>
+#include <memory>
+#include <string>
+
+#include "apps/posix_console.h"
+#include "apps/posix_host.h"
+#include "apps/status_line.h"
+#include "apps/terminal_notices.h"
+#include "apps/terminal_progress.h"
+#include "apps/version.h"
+#include "catalogue/inventory.h"
+#include "office/failure.h"
+#include "office/libreoffice/libreoffice_suite.h"
+#include "office/text.h"
+#include "session/launcher.h"
+
+namespace {
+
+/// The command line as one text, as the launcher reads it.
+std::string commandLineOf(int count, char** words) {
+    std::string line;
+    for (int i = 1; i < count; ++i) {
+        if (i > 1) line += ' ';
+        line += words[i];
+    }
+    return line;
+}
+
+int runCommand(const std::string& commandLine, apps::Console& console) {
+    apps::PosixHost host(console);
+    apps::StatusLine line(console, true);
+    apps::TerminalNotices notices(
+        console, line, console.canAsk() ? apps::Answering::AsksUser : apps::Answering::Refuses);
+    apps::TerminalProgress progress(line);
+    const auto suite = libreoffice::LibreOfficeSuite::attachToRunning();
+    session::OfficeSession session(*suite, host, notices, progress);
+
+    session::CommandHandlers handlers;
+    handlers.CountWorkbookItems = [&] { catalogue::CountWorkbookItems(session); };
+    return session::Main(session, commandLine, handlers);
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+    constexpr int unhandled = 1;
+    apps::PosixConsole console([] { return false; });
+    const std::string commandLine = commandLineOf(count, words);
+    if (commandLine == "--version") {
+        console.writeOut(fmt::format("murvane {}\n", apps::version));
+        return session::commandDone;
+    }
+    // Nothing to do, so nothing to attach to either.
+    if (office::trim(commandLine).empty()) return session::commandDone;
+    try {
+        return runCommand(commandLine, console);
+    } catch (const office::Failure& failure) {
+        console.writeError(fmt::format("Murvane: unhandled failure {} from {}: {}\n",
+                                       failure.number(), failure.source(), failure.description()));
+    } catch (const std::exception& error) {
+        console.writeError(fmt::format("Murvane: {}\n", error.what()));
+    }
+    return unhandled;
+}

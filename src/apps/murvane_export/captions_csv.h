@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/export_list.h"
+
+namespace unattended {
+
+/// One line of a captions file. An empty caption or slide number leaves what the workbook has.
+struct CaptionLine {
+    std::size_t line = 0;
+    std::string item;
+    std::string sheet;  ///< empty: any
+    std::string caption;
+    std::string slide;
+};
+
+/// Reads a captions file: a header with the columns `item`, `sheet`, `caption` and `slide` in any
+/// order, `item` at least, then one line for each item. `UsageError` with the line for anything
+/// that doesn't fit.
+[[nodiscard]] std::vector<CaptionLine> readCaptions(std::string_view text,
+                                                    std::string_view fileName);
+
+/// Writes captions and slide numbers into the rows. `UsageError` with the line for an item that the
+/// list doesn't have.
+void applyCaptions(catalogue::ExportList& list, const std::vector<CaptionLine>& lines,
+                   std::string_view fileName);
+
+}  // namespace unattended

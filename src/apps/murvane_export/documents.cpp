@@ -1,0 +1,146 @@
+#include "apps/murvane_export/documents.h"
+
+#include <fmt/format.h>
+
+#include <system_error>
+
+#include "apps/murvane_export/errors.h"
+#include "office/failure_patterns.h"
+
+namespace unattended {
+
+namespace {
+
+namespace fs = std::filesystem;
+using office::arg;
+using office::Object;
+using session::OfficeSession;
+
+constexpr std::int32_t yes = -1;
+constexpr std::int32_t no = 0;
+
+Object applicationOf(office::Suite& suite, std::string_view className) {
+    const Object running = suite.attach(className);
+    return running ? running : suite.start(className);
+}
+
+std::string absolutePath(const fs::path& file) {
+    std::error_code ignored;
+    return fs::weakly_canonical(fs::absolute(file, ignored), ignored).string();
+}
+
+[[noreturn]] void complainUnopened(const fs::path& file, const office::Failure& failure) {
+    throw RunError(fmt::format(
+        "{} can't be opened: {}. Check that it is a whole file of its kind and that no other "
+        "program holds it.",
+        file.string(), failure.description()));
+}
+
+bool isSameFile(const fs::path& left, const fs::path& right) {
+    std::error_code ignored;
+    return fs::equivalent(left, right, ignored);
+}
+
+Object activeObject(const Object& application, std::string_view member) {
+    return office::orElse([&] { return application.get(member).toObject(); }, Object());
+}
+
+void requireFirstPresentation(const OfficeSession& session) {
+    const Object presentations = session.PowerPointApp.get("Presentations").toObject();
+    if (presentations.get("Count").toLong() < 2) return;
+    const std::string first = presentations.get("Item", 1).get("FullName").toText();
+    const std::string active = session.SessionPresentation.get("FullName").toText();
+    if (first == active) return;
+    throw RunError(
+        fmt::format("Several presentations are open, and pictures go to the first one: "
+                    "{}. Close it, or close all but the one to export to.",
+                    first));
+}
+
+}  // namespace
+
+OpenedDocuments::~OpenedDocuments() {
+    // The suite that holds them goes next, and may have gone already.
+    try {
+        office::ContinueOnFailure scope;
+        if (presentation_) scope.attempt([&] { presentation_.call("Close"); });
+        if (workbook_) scope.attempt([&] { workbook_.call("Close", arg("SaveChanges", false)); });
+    } catch (const office::SuiteLost&) {
+        return;
+    }
+}
+
+void OpenedDocuments::openWorkbook(const fs::path& file) {
+    session_.ExcelApp = applicationOf(session_.suite, "Excel.Application");
+    try {
+        workbook_ = session_.ExcelApp.get("Workbooks")
+                        .call("Open", arg("FileName", absolutePath(file)), arg("UpdateLinks", no))
+                        .toObject();
+    } catch (const office::SuiteLost&) {
+        throw;
+    } catch (const office::Failure& failure) {
+        complainUnopened(file, failure);
+    }
+    session_.ActiveBook = workbook_;
+    session_.ActiveSheetName = workbook_.get("ActiveSheet").get("Name").toText();
+}
+
+void OpenedDocuments::openPresentation(const fs::path& file) {
+    session_.PowerPointApp = applicationOf(session_.suite, "PowerPoint.Application");
+    try {
+        // Untitled: a copy that has nothing to do with the file any more.
+        presentation_ = session_.PowerPointApp.get("Presentations")
+                            .call("Open", arg("FileName", absolutePath(file)), arg("ReadOnly", no),
+                                  arg("Untitled", yes), arg("WithWindow", yes))
+                            .toObject();
+    } catch (const office::SuiteLost&) {
+        throw;
+    } catch (const office::Failure& failure) {
+        complainUnopened(file, failure);
+    }
+    takePresentation();
+}
+
+void OpenedDocuments::newPresentation() {
+    session_.PowerPointApp = applicationOf(session_.suite, "PowerPoint.Application");
+    presentation_ =
+        session_.PowerPointApp.get("Presentations").call("Add", arg("WithWindow", yes)).toObject();
+    slidesAtFirst_ = presentation_.get("Slides").get("Count").toLong();
+    takePresentation();
+}
+
+void OpenedDocuments::takePresentation() {
+    session_.SessionPresentation = presentation_;
+}
+
+void OpenedDocuments::removeFirstSlides() {
+    if (slidesAtFirst_ == 0) return;
+    const Object slides = presentation_.get("Slides").toObject();
+    for (; slidesAtFirst_ > 0; --slidesAtFirst_) slides.get("Item", 1).call("Delete");
+}
+
+void takeActiveDocuments(OfficeSession& session, const Options& options) {
+    session.ExcelApp = session.suite.attach("Excel.Application");
+    if (session.ExcelApp) session.ActiveBook = activeObject(session.ExcelApp, "ActiveWorkbook");
+    if (!session.ActiveBook) {
+        throw RunError(
+            "No running suite has a workbook open. Open the workbook first, or leave --attach "
+            "out.");
+    }
+    session.ActiveSheetName = session.ActiveBook.get("ActiveSheet").get("Name").toText();
+    const std::string active = session.ActiveBook.get("FullName").toText();
+    if (!options.book.empty() && !isSameFile(options.book, active)) {
+        throw RunError(
+            fmt::format("The active workbook is {}, not {}. Bring that one to the front, "
+                        "or leave its name out.",
+                        active, options.book));
+    }
+    session.PowerPointApp = session.suite.attach("PowerPoint.Application");
+    if (!session.PowerPointApp) return;
+    session.SessionPresentation = activeObject(session.PowerPointApp, "ActivePresentation");
+    if (session.SessionPresentation && options.task == Task::Export) {
+        requireFirstPresentation(session);
+    }
+}
+
+}  // namespace unattended

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+
+#include "apps/murvane_export/options.h"
+#include "session/office_session.h"
+
+namespace unattended {
+
+/// The documents of a run in a private suite, opened for it and closed with it. Nothing of the
+/// files changes: the workbook is never saved, the presentation is saved as a copy under a new
+/// name.
+class OpenedDocuments {
+public:
+    explicit OpenedDocuments(session::OfficeSession& session) : session_(session) {}
+    ~OpenedDocuments();
+    OpenedDocuments(const OpenedDocuments&) = delete;
+    OpenedDocuments& operator=(const OpenedDocuments&) = delete;
+
+    /// Makes the workbook the session's active one. `RunError` if it can't be opened.
+    void openWorkbook(const std::filesystem::path& file);
+    /// Makes the presentation the session's. `RunError` if it can't be opened.
+    void openPresentation(const std::filesystem::path& file);
+    /// Makes an empty presentation the session's.
+    void newPresentation();
+
+    /// Takes out the slides that a new presentation came with: some suites can't make one without.
+    void removeFirstSlides();
+
+private:
+    void takePresentation();
+
+    session::OfficeSession& session_;
+    office::Object workbook_;
+    office::Object presentation_;
+    std::int32_t slidesAtFirst_ = 0;
+};
+
+/// Makes the user's active workbook and presentation the session's, and leaves empty what there
+/// isn't. `RunError` if no suite is running, if no workbook is open, if `book` names another one
+/// than the active, or if the active presentation isn't the first one: pictures go to the first.
+void takeActiveDocuments(session::OfficeSession& session, const Options& options);
+
+}  // namespace unattended

@@ -1,0 +1,89 @@
+#include "apps/murvane_export/item_listing.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "apps/murvane_export/item_selection.h"
+#include "apps/utf8.h"
+
+namespace unattended {
+
+namespace {
+
+using apps::characterCount;
+using apps::printable;
+using catalogue::ExportRow;
+
+constexpr std::size_t columns = 6;
+using Line = std::array<std::string, columns>;
+
+bool hasSeveralAreas(const ExportRow& row) {
+    return row.ForeColor == catalogue::RowColourRefused;
+}
+
+std::string_view kindOf(const ExportRow& row) {
+    if (row.isChartSheet()) return "chart sheet";
+    return row.isEmbeddedChart() ? "chart" : "range";
+}
+
+std::string_view exportMark(const ExportRow& row) {
+    if (hasSeveralAreas(row)) return "several areas";
+    return row.Checked ? "yes" : "no";
+}
+
+Line lineOf(const ExportRow& row) {
+    return {printable(row.Text),          printable(row.SubItems(1)), std::string(kindOf(row)),
+            std::string(exportMark(row)), printable(row.SubItems(2)), printable(row.SubItems(4))};
+}
+
+void appendLine(std::string& table, const Line& line,
+                const std::array<std::size_t, columns>& widths) {
+    std::string text;
+    for (std::size_t i = 0; i < columns; ++i) {
+        text += line[i];
+        text.append(widths[i] - characterCount(line[i]) + 2, ' ');
+    }
+    text.erase(text.find_last_not_of(' ') + 1);
+    table += text + "\n";
+}
+
+}  // namespace
+
+std::string listAsTable(const catalogue::ExportList& list) {
+    std::vector<Line> lines = {{"ITEM", "SHEET", "KIND", "EXPORT", "SLIDE", "CAPTION"}};
+    for (const ExportRow& row : list.rows) {
+        if (!isGap(row)) lines.push_back(lineOf(row));
+    }
+    std::array<std::size_t, columns> widths{};
+    for (const Line& line : lines) {
+        for (std::size_t i = 0; i < columns; ++i) {
+            widths[i] = std::max(widths[i], characterCount(line[i]));
+        }
+    }
+    std::string table;
+    for (const Line& line : lines) appendLine(table, line, widths);
+    return table;
+}
+
+std::string listAsJson(const catalogue::ExportList& list, std::string_view workbook) {
+    using nlohmann::ordered_json;
+    ordered_json items = ordered_json::array();
+    for (const ExportRow& row : list.rows) {
+        if (isGap(row)) continue;
+        items.push_back({{"name", row.Text},
+                         {"sheet", row.SubItems(1)},
+                         {"kind", row.SubItems(5)},
+                         {"checked", row.Checked},
+                         {"severalAreas", hasSeveralAreas(row)},
+                         {"slide", row.SubItems(2)},
+                         {"caption", row.SubItems(4)}});
+    }
+    const ordered_json document = {{"workbook", workbook}, {"items", items}};
+    // A text that isn't UTF-8 is shown with replacement characters rather than not at all.
+    return document.dump(2, ' ', false, ordered_json::error_handler_t::replace) + "\n";
+}
+
+}  // namespace unattended

@@ -1,0 +1,166 @@
+#include "apps/murvane_export/item_selection.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <functional>
+#include <optional>
+#include <utility>
+
+#include "apps/murvane_export/errors.h"
+#include "apps/murvane_export/near_names.h"
+#include "office/text.h"
+
+namespace unattended {
+
+namespace {
+
+using catalogue::ExportList;
+using catalogue::ExportRow;
+using SameText = std::function<bool(std::string_view, std::string_view)>;
+
+std::string fullName(const ExportRow& row) {
+    return row.isChartSheet() ? row.SubItems(1) : row.Text + "@" + row.SubItems(1);
+}
+
+std::vector<std::size_t> matches(const ExportList& list, std::string_view name,
+                                 std::string_view sheet, const SameText& same) {
+    std::vector<std::size_t> found;
+    for (std::size_t i = 0; i < list.rows.size(); ++i) {
+        const ExportRow& row = list.rows[i];
+        if (isGap(row)) continue;
+        const bool isNamed = same(itemName(row), name) || same(row.Text, name);
+        if (isNamed && (sheet.empty() || same(row.SubItems(1), sheet))) found.push_back(i);
+    }
+    return found;
+}
+
+std::string quoted(const std::vector<std::string>& names) {
+    std::string text;
+    for (const std::string& name : names) {
+        text += fmt::format("{}\"{}\"", text.empty() ? "" : ", ", name);
+    }
+    return text;
+}
+
+[[noreturn]] void complainUnknown(const ExportList& list, const std::string& reference) {
+    std::vector<std::string> known;
+    for (const ExportRow& row : list.rows) {
+        if (!isGap(row)) known.push_back(fullName(row));
+    }
+    const std::vector<std::string> near = nearNames(reference, known);
+    throw UsageError(fmt::format("The workbook has no item \"{}\". {}", reference,
+                                 near.empty()
+                                     ? std::string("Run murvane-export --list to see its items.")
+                                     : fmt::format("Did you mean {}?", quoted(near))));
+}
+
+/// The row, or nothing if there is none. `UsageError` if there are several.
+std::optional<std::size_t> tryFind(const ExportList& list, std::string_view name,
+                                   std::string_view sheet) {
+    std::vector<std::size_t> found = matches(list, name, sheet, std::equal_to<>());
+    if (found.empty()) found = matches(list, name, sheet, office::sameIgnoringCase);
+    if (found.empty()) return std::nullopt;
+    if (found.size() > 1) {
+        std::vector<std::string> candidates;
+        for (const std::size_t index : found) candidates.push_back(fullName(list.rows[index]));
+        throw UsageError(fmt::format("\"{}\" is the name of {} items. Say which one: {}.", name,
+                                     found.size(), quoted(candidates)));
+    }
+    return found.front();
+}
+
+/// Names may hold "@" themselves, so the whole text is tried as a name first.
+std::optional<std::size_t> tryFindNameAtSheet(const ExportList& list, std::string_view reference) {
+    if (const auto whole = tryFind(list, reference, {})) return whole;
+    for (auto at = reference.rfind('@'); at != std::string_view::npos && at > 0;
+         at = reference.rfind('@', at - 1)) {
+        const auto found = tryFind(list, reference.substr(0, at), reference.substr(at + 1));
+        if (found) return found;
+    }
+    return std::nullopt;
+}
+
+/// The rows that one reference means; none if it means nothing.
+std::vector<std::size_t> tryFindReference(const ExportList& list, std::string_view reference) {
+    if (reference == catalogue::chartSheetText) {
+        return matches(list, reference, {}, std::equal_to<>());
+    }
+    if (const auto found = tryFindNameAtSheet(list, reference)) return {*found};
+    return {};
+}
+
+std::vector<std::string> splitAtCommas(std::string_view text) {
+    std::vector<std::string> parts(1);
+    bool isQuoted = false;
+    for (const char c : text) {
+        if (c == '"') {
+            isQuoted = !isQuoted;
+        } else if (c == ',' && !isQuoted) {
+            parts.emplace_back();
+        } else {
+            parts.back() += c;
+        }
+    }
+    return parts;
+}
+
+}  // namespace
+
+const std::string& itemName(const ExportRow& row) {
+    return row.isChartSheet() ? row.SubItems(1) : row.Text;
+}
+
+bool isGap(const ExportRow& row) {
+    return row.Text.empty();
+}
+
+std::size_t findItem(const ExportList& list, std::string_view name, std::string_view sheet) {
+    if (const auto found = tryFind(list, name, sheet)) return *found;
+    complainUnknown(list, sheet.empty() ? std::string(name) : fmt::format("{}@{}", name, sheet));
+}
+
+std::vector<std::size_t> findItems(const ExportList& list, const std::vector<std::string>& texts) {
+    std::vector<std::size_t> found;
+    const auto add = [&](std::size_t index) {
+        if (std::find(found.begin(), found.end(), index) == found.end()) found.push_back(index);
+    };
+    for (const std::string& text : texts) {
+        const std::vector<std::size_t> whole = tryFindReference(list, text);
+        std::for_each(whole.begin(), whole.end(), add);
+        if (!whole.empty()) continue;
+        for (const std::string& part : splitAtCommas(text)) {
+            const std::string_view reference = office::trim(part);
+            if (reference.empty()) continue;
+            const std::vector<std::size_t> meant = tryFindReference(list, reference);
+            if (meant.empty()) complainUnknown(list, std::string(reference));
+            std::for_each(meant.begin(), meant.end(), add);
+        }
+    }
+    return found;
+}
+
+void checkOnly(ExportList& list, const std::vector<std::size_t>& indices) {
+    for (ExportRow& row : list.rows) row.Checked = false;
+    for (const std::size_t index : indices) list.rows.at(index).Checked = true;
+}
+
+void checkAll(ExportList& list) {
+    for (ExportRow& row : list.rows) {
+        row.Checked = !isGap(row) && row.ForeColor != catalogue::RowColourRefused;
+    }
+}
+
+void moveToTop(ExportList& list, const std::vector<std::size_t>& indices) {
+    std::vector<ExportRow> ordered;
+    ordered.reserve(list.rows.size());
+    for (const std::size_t index : indices) ordered.push_back(list.rows.at(index));
+    for (std::size_t i = 0; i < list.rows.size(); ++i) {
+        if (std::find(indices.begin(), indices.end(), i) == indices.end()) {
+            ordered.push_back(list.rows[i]);
+        }
+    }
+    list.rows = std::move(ordered);
+}
+
+}  // namespace unattended

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace unattended {
+
+enum class Task { Export, List, Check };
+
+/// One of the three values of a placement: a share of the slide's height or width, or the program's
+/// own choice.
+struct PlacementValue {
+    std::optional<double> share;  ///< none: "default"
+
+    bool operator==(const PlacementValue&) const = default;
+};
+
+/// The command line, as the caller wrote it.
+struct Options {
+    Task task = Task::Export;
+    bool json = false;
+    /// Works on what is open in the suite that is running.
+    bool attach = false;
+    std::string book;
+    std::string deck;  ///< empty: a new presentation
+    std::string output;
+    bool overwrite = false;
+
+    bool allItems = false;
+    std::vector<std::string> items;  ///< empty: those checked in the workbook
+    std::vector<std::string> order;
+    std::string captionsFile;
+
+    bool predefinedSlides = false;
+    bool titles = false;
+    bool source = false;
+    bool shadow = false;
+    std::int16_t pictureStyle = 0;
+    std::optional<PlacementValue> top;
+    std::optional<PlacementValue> width;
+    std::optional<PlacementValue> left;
+
+    bool yes = false;
+    bool quiet = false;
+
+    [[nodiscard]] bool placesShapes() const { return top || width || left; }
+};
+
+/// What is left to do when the command line was no order to work: a help text, or a complaint.
+struct ParseEnd {
+    int exitCode = 0;
+    std::string out;
+    std::string error;
+};
+
+/// Reads a command line, `arguments` without the program's name.
+[[nodiscard]] std::variant<Options, ParseEnd> parseOptions(
+    const std::vector<std::string>& arguments);
+
+}  // namespace unattended

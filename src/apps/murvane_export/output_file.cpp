@@ -1,0 +1,155 @@
+#include "apps/murvane_export/output_file.h"
+
+#include <fcntl.h>
+#include <fmt/format.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <system_error>
+
+#include "apps/murvane_export/errors.h"
+#include "office/text.h"
+
+namespace unattended {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view extension = ".pptx";
+
+/// The file itself where the name is a link to it, so that replacing it leaves the link alone.
+fs::path behindLinks(const fs::path& file) {
+    std::error_code ignored;
+    const fs::path absolute = fs::absolute(file, ignored);
+    return fs::is_symlink(absolute, ignored) ? fs::weakly_canonical(absolute, ignored) : absolute;
+}
+
+std::string reason() {
+    return std::strerror(errno);
+}
+
+/// Found out by trying: the folder's mode says little to an administrator or on a foreign file
+/// system.
+bool takesFiles(const std::string& folder) {
+    std::string probe = folder + "/.murvane-XXXXXX";
+    const int made = ::mkstemp(probe.data());
+    if (made < 0) return false;
+    ::close(made);
+    ::unlink(probe.c_str());
+    return true;
+}
+
+}  // namespace
+
+void requireReadable(const fs::path& file, const std::string& what) {
+    std::error_code ignored;
+    if (fs::is_directory(file, ignored)) {
+        throw UsageError(
+            fmt::format("The {} {} is a folder. Name the file itself.", what, file.string()));
+    }
+    if (::access(file.c_str(), R_OK) == 0) return;
+    throw UsageError(fmt::format("The {} {} can't be read: {}. Check its name and its permissions.",
+                                 what, file.string(), reason()));
+}
+
+OutputFile::OutputFile(const fs::path& file, IfExists ifExists)
+    : file_(behindLinks(file)),
+      ifExists_(ifExists) {
+    const std::string name = file.string();
+    const auto refuse = [&](const std::string& why) {
+        throw UsageError(fmt::format("{} can't be written: {}", name, why));
+    };
+    if (office::lowerCase(file_.extension().string()) != extension) {
+        refuse("its name has to end in .pptx.");
+    }
+    const std::string folder = file_.parent_path().string();
+    std::error_code ignored;
+    if (!fs::is_directory(folder, ignored)) {
+        refuse(
+            fmt::format("the folder {} doesn't exist. Make it first, or choose another.", folder));
+    }
+    if (!takesFiles(folder)) {
+        refuse(fmt::format("the folder {} takes no files: {}. Choose another.", folder, reason()));
+    }
+    if (fs::is_directory(file_, ignored)) refuse("it is a folder. Name a file.");
+    if (ifExists_ == IfExists::Refuse && fs::exists(file_, ignored)) {
+        refuse("it exists. Choose another name, or replace it with --overwrite.");
+    }
+}
+
+OutputFile::~OutputFile() {
+    if (!neighbour_.empty()) ::unlink(neighbour_.c_str());
+}
+
+void OutputFile::requireOtherThan(const fs::path& input) const {
+    std::error_code ignored;
+    if (!fs::equivalent(file_, input, ignored)) return;
+    throw UsageError(fmt::format(
+        "{} is what this run reads; it is never written over. Choose another output file.",
+        input.string()));
+}
+
+const fs::path& OutputFile::neighbour() {
+    if (!neighbour_.empty()) return neighbour_;
+    std::string name =
+        (file_.parent_path() / fmt::format(".{}.XXXXXX{}", file_.stem().string(), extension))
+            .string();
+    const int made = ::mkstemps(name.data(), static_cast<int>(extension.size()));
+    if (made < 0) {
+        throw RunError(
+            fmt::format("No file can be made in {}: {}.", file_.parent_path().string(), reason()));
+    }
+    ::close(made);
+    neighbour_ = name;
+    return neighbour_;
+}
+
+void OutputFile::commit() {
+    std::error_code ignored;
+    if (neighbour_.empty() || fs::file_size(neighbour_, ignored) == 0) {
+        throw RunError(fmt::format("The suite wrote nothing, so {} was not made.", file_.string()));
+    }
+    adoptMode();
+    takeName();
+    neighbour_.clear();
+}
+
+/// A temporary file is made for its owner alone; the output gets the mode of what it replaces, or
+/// that of any new file.
+void OutputFile::adoptMode() const {
+    struct stat replaced = {};
+    mode_t mode = 0;
+    if (::stat(file_.c_str(), &replaced) == 0) {
+        mode = replaced.st_mode & 07777U;
+    } else {
+        const mode_t mask = ::umask(0);
+        ::umask(mask);
+        mode = 0666U & ~mask;
+    }
+    // A file system without modes takes none, and needs none.
+    static_cast<void>(::chmod(neighbour_.c_str(), mode));
+}
+
+void OutputFile::takeName() {
+    int failed = -1;
+    if (ifExists_ == IfExists::Refuse) {
+        failed =
+            ::renameat2(AT_FDCWD, neighbour_.c_str(), AT_FDCWD, file_.c_str(), RENAME_NOREPLACE);
+        if (failed != 0 && errno == EEXIST) {
+            throw RunError(fmt::format("{} was made by somebody else meanwhile and was left alone.",
+                                       file_.string()));
+        }
+    }
+    // Also for file systems that can't rename without replacing.
+    if (failed != 0) failed = std::rename(neighbour_.c_str(), file_.c_str());
+    if (failed != 0) {
+        throw RunError(fmt::format("{} can't be written: {}.", file_.string(), reason()));
+    }
+}
+
+}  // namespace unattended

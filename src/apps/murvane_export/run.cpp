@@ -1,0 +1,310 @@
+#include "apps/murvane_export/run.h"
+
+#include <fmt/format.h>
+
+#include <fstream>
+#include <memory>
+#include <optional>
+#include <sstream>
+#include <vector>
+
+#include "apps/murvane_export/captions_csv.h"
+#include "apps/murvane_export/documents.h"
+#include "apps/murvane_export/errors.h"
+#include "apps/murvane_export/item_listing.h"
+#include "apps/murvane_export/item_selection.h"
+#include "apps/murvane_export/output_file.h"
+#include "apps/murvane_export/slide_export.h"
+#include "apps/terminal_notices.h"
+#include "apps/terminal_progress.h"
+#include "catalogue/inventory.h"
+#include "catalogue/list_rows.h"
+#include "catalogue/review.h"
+#include "office/failure.h"
+#include "powerpoint/progress.h"
+#include "session/launcher.h"
+
+namespace unattended {
+
+namespace {
+
+using catalogue::ExportRow;
+using session::OfficeSession;
+
+/// The command that opens the main form.
+constexpr const char* mainFormCode = "/112";
+
+/// The caller pressed Ctrl-C, or asked by a signal.
+class Interrupted : public std::exception {};
+
+std::string readFile(const std::string& path) {
+    const std::ifstream file(path, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+apps::Answering answeringFor(const Options& options, const apps::Console& console) {
+    // A review alone asks nothing: what it finds is the answer.
+    if (options.yes || options.task == Task::Check) return apps::Answering::Accepts;
+    return console.canAsk() ? apps::Answering::AsksUser : apps::Answering::Refuses;
+}
+
+/// What the command line asks for, checked before a suite is started for it.
+struct Order {
+    std::vector<CaptionLine> captions;
+    std::unique_ptr<OutputFile> output;
+};
+
+Order checkOrder(const Options& options) {
+    Order order;
+    if (!options.book.empty()) requireReadable(options.book, "workbook");
+    if (!options.deck.empty()) requireReadable(options.deck, "presentation");
+    if (!options.captionsFile.empty()) {
+        requireReadable(options.captionsFile, "captions file");
+        order.captions = readCaptions(readFile(options.captionsFile), options.captionsFile);
+    }
+    if (options.task == Task::Export) {
+        order.output = std::make_unique<OutputFile>(
+            options.output, options.overwrite ? IfExists::Overwrite : IfExists::Refuse);
+        for (const std::string& input : {options.book, options.deck}) {
+            if (!input.empty()) order.output->requireOtherThan(input);
+        }
+    }
+    return order;
+}
+
+/// One run, from the open documents to the output.
+class Run {
+public:
+    Run(const Options& options, const Surroundings& surroundings, Order& order,
+        office::Suite& suite)
+        : options_(options),
+          surroundings_(surroundings),
+          order_(order),
+          line_(surroundings.console, !options.quiet),
+          progress_(line_),
+          notices_(surroundings.console, line_, answeringFor(options, surroundings.console),
+                   " --yes goes on over this."),
+          session_(suite, surroundings.host, notices_, progress_),
+          documents_(session_) {
+        choices_.predefinedSlides = options.predefinedSlides;
+    }
+
+    int perform();
+
+private:
+    void openDocuments();
+    int workOnItems();
+    void arrangeItems();
+    int printItems();
+    int reviewAlone();
+    int exportItems();
+    void runBatch();
+    void letUserSee();
+    void save();
+    int sumUp(int remarksOfBatch);
+    void stopIfInterrupted() const {
+        if (surroundings_.isInterrupted()) throw Interrupted();
+    }
+
+    const Options& options_;
+    const Surroundings& surroundings_;
+    Order& order_;
+    apps::StatusLine line_;
+    apps::TerminalProgress progress_;
+    apps::TerminalNotices notices_;
+    OfficeSession session_;
+    OpenedDocuments documents_;
+    std::string bookName_;
+    catalogue::InventoryValues inventory_;
+    catalogue::ExportList list_;
+    catalogue::ExportChoices choices_;
+};
+
+int Run::perform() {
+    openDocuments();
+    stopIfInterrupted();
+    bookName_ = session_.ActiveBook.get("FullName").toText();
+    // The road to the main form, with the run in the form's place: it counts the items and refuses
+    // a workbook that has none or that can't take the store.
+    std::optional<int> result;
+    session::CommandHandlers handlers;
+    handlers.CountWorkbookItems = [&] { catalogue::CountWorkbookItems(session_); };
+    handlers.ShowMainForm = [&] {
+        session_.MainFormOpen = false;
+        result = workOnItems();
+    };
+    session::Main(session_, mainFormCode, handlers);
+    if (result) return *result;
+    const bool isEmpty = session_.ItemCount == 0;
+    return options_.task == Task::List && isEmpty ? printItems() : exit_code::blocked;
+}
+
+void Run::openDocuments() {
+    line_.show("Opening the documents");
+    if (options_.attach) {
+        takeActiveDocuments(session_, options_);
+        if (order_.output && session_.SessionPresentation) {
+            order_.output->requireOtherThan(session_.SessionPresentation.get("FullName").toText());
+        }
+    } else {
+        documents_.openWorkbook(options_.book);
+        if (options_.task == Task::List) return;
+        if (options_.deck.empty()) {
+            documents_.newPresentation();
+        } else {
+            documents_.openPresentation(options_.deck);
+        }
+    }
+}
+
+int Run::workOnItems() {
+    catalogue::LoadItemsToForm(session_, inventory_, list_);
+    stopIfInterrupted();
+    arrangeItems();
+    switch (options_.task) {
+        case Task::List:
+            return printItems();
+        case Task::Check:
+            return reviewAlone();
+        case Task::Export:
+            return exportItems();
+    }
+    return exit_code::failed;
+}
+
+void Run::arrangeItems() {
+    applyCaptions(list_, order_.captions, options_.captionsFile);
+    if (options_.allItems) checkAll(list_);
+    if (!options_.items.empty()) checkOnly(list_, findItems(list_, options_.items));
+    if (!options_.order.empty()) moveToTop(list_, findItems(list_, options_.order));
+    catalogue::RenumberIncludedRows(list_);
+}
+
+int Run::printItems() {
+    line_.clear();
+    surroundings_.console.writeOut(options_.json ? listAsJson(list_, bookName_)
+                                                 : listAsTable(list_));
+    return exit_code::done;
+}
+
+int Run::reviewAlone() {
+    const auto result = catalogue::PreExportReview(session_, list_, choices_);
+    line_.clear();
+    if (result != catalogue::ReviewResult::Go) return exit_code::blocked;
+    if (!options_.quiet) {
+        surroundings_.console.writeError(fmt::format(
+            "{} of {} items can be exported.\n", catalogue::CountExportableRows(session_, list_),
+            catalogue::CountCheckedRows(list_)));
+    }
+    return exit_code::done;
+}
+
+int Run::exportItems() {
+    if (catalogue::PreExportReview(session_, list_, choices_) != catalogue::ReviewResult::Go) {
+        return exit_code::blocked;
+    }
+    stopIfInterrupted();
+    const int remarksBefore = notices_.remarks();
+    runBatch();
+    stopIfInterrupted();
+    save();
+    return sumUp(notices_.remarks() - remarksBefore);
+}
+
+void Run::runBatch() {
+    list_.selected = -1;
+    try {
+        exportToSlides(session_, list_, choices_, options_);
+    } catch (const office::SuiteLost&) {
+        throw;
+    } catch (const office::Failure& failure) {
+        line_.clear();
+        letUserSee();
+        if (list_.selected < 0) throw;
+        const ExportRow& row = list_.rows[static_cast<std::size_t>(list_.selected)];
+        throw RunError(fmt::format("\"{}\" on sheet \"{}\" could not be exported: {} ({}).",
+                                   itemName(row), row.SubItems(1), failure.description(),
+                                   failure.source()));
+    }
+    letUserSee();
+    documents_.removeFirstSlides();
+}
+
+/// A batch may leave Excel without drawing; the user's own goes on without us.
+void Run::letUserSee() {
+    if (options_.attach) powerpoint::RestoreScreenUpdating(session_);
+}
+
+void Run::save() {
+    line_.show("Saving the presentation");
+    const std::string neighbour = order_.output->neighbour().string();
+    session_.PowerPointApp.get("ActivePresentation").call("SaveCopyAs", neighbour);
+    stopIfInterrupted();
+    order_.output->commit();
+    line_.clear();
+}
+
+int Run::sumUp(int remarksOfBatch) {
+    const int taken = session_.ProgressCount;
+    if (remarksOfBatch > 0) {
+        surroundings_.console.writeError(
+            fmt::format("{} is incomplete: of {} items {} could not be exported; see above.\n",
+                        order_.output->file().string(), taken, remarksOfBatch));
+        return exit_code::failed;
+    }
+    if (!options_.quiet) {
+        surroundings_.console.writeError(fmt::format("Exported {} item{} to {}\n", taken,
+                                                     taken == 1 ? "" : "s",
+                                                     order_.output->file().string()));
+    }
+    return exit_code::done;
+}
+
+int runInSuite(const Options& options, const Surroundings& surroundings) {
+    Order order = checkOrder(options);
+    std::shared_ptr<office::Suite> suite;
+    {
+        apps::StatusLine line(surroundings.console, !options.quiet);
+        line.show(options.attach ? "Looking for the running suite" : "Starting a suite");
+        suite = options.attach ? surroundings.suites.attachToRunning()
+                               : surroundings.suites.startPrivate();
+    }
+    if (surroundings.isInterrupted()) throw Interrupted();
+    return Run(options, surroundings, order, *suite).perform();
+}
+
+}  // namespace
+
+int run(const Options& options, const Surroundings& surroundings) {
+    const auto complain = [&](const std::string& text, int exitCode) {
+        surroundings.console.writeError("murvane-export: " + text + "\n");
+        return exitCode;
+    };
+    try {
+        return runInSuite(options, surroundings);
+    } catch (const Interrupted&) {
+        return complain("Interrupted; nothing was written.", exit_code::failed);
+    } catch (const office::SuiteLost& lost) {
+        if (surroundings.isInterrupted()) {
+            return complain("Interrupted; nothing was written.", exit_code::failed);
+        }
+        return complain(fmt::format("The office suite has gone ({}). Nothing was written; try "
+                                    "again.",
+                                    lost.description()),
+                        exit_code::failed);
+    } catch (const UsageError& error) {
+        return complain(error.what(), exit_code::wrongUsage);
+    } catch (const RunError& error) {
+        return complain(error.what(), exit_code::failed);
+    } catch (const office::Failure& failure) {
+        return complain(fmt::format("{} ({}, number {}).", failure.description(), failure.source(),
+                                    failure.number()),
+                        exit_code::failed);
+    } catch (const std::exception& error) {
+        return complain(error.what(), exit_code::failed);
+    }
+}
+
+}  // namespace unattended

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <functional>
+
+#include "apps/console.h"
+
+namespace apps {
+
+/// The three standard streams of this process.
+class PosixConsole : public Console {
+public:
+    /// `isInterrupted` is asked while a line is waited for.
+    explicit PosixConsole(std::function<bool()> isInterrupted);
+
+    void writeOut(std::string_view text) override;
+    void writeError(std::string_view text) override;
+    [[nodiscard]] bool errorIsTerminal() const override;
+    [[nodiscard]] bool canAsk() const override;
+    [[nodiscard]] std::optional<std::string> readLine() override;
+
+private:
+    std::function<bool()> isInterrupted_;
+};
+
+}  // namespace apps

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "apps/console.h"
+#include "session/host.h"
+
+namespace apps {
+
+/// This machine, as Linux and its relatives have it. The private temporary folder is made when the
+/// first file is asked for, under `XDG_RUNTIME_DIR`, `TMPDIR` or `/tmp`, and goes with this object.
+class PosixHost : public session::Host {
+public:
+    explicit PosixHost(Console& console) : console_(console) {}
+    ~PosixHost() override;
+
+    [[nodiscard]] std::uint32_t tickCount() override;
+    void sleep(std::uint32_t milliseconds) override;
+    /// No events come from anywhere: a program without windows.
+    void letEventsRun() override {}
+    [[nodiscard]] std::optional<std::string> environment(std::string_view name) override;
+    [[nodiscard]] std::string temporaryFile(std::string_view fileName) override;
+    std::string writeTemporaryFile(std::string_view fileName, std::string_view text) override;
+    void deleteFile(std::string_view path) override;
+    [[nodiscard]] bool fileExists(std::string_view path) override;
+    [[nodiscard]] bool fileIsHeld(std::string_view path) override;
+    void openLink(std::string_view address) override;
+    void reportError(std::string_view text) override;
+    void messageBox(std::string_view text, std::string_view title) override;
+
+private:
+    [[nodiscard]] const std::string& privateFolder();
+
+    Console& console_;
+    std::optional<std::string> privateFolder_;
+};
+
+}  // namespace apps

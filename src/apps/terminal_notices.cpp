@@ -1,0 +1,70 @@
+#include "apps/terminal_notices.h"
+
+#include <string>
+#include <vector>
+
+#include "apps/utf8.h"
+#include "office/text.h"
+
+namespace apps {
+
+namespace {
+
+constexpr int cancelFlag = 1;
+constexpr int yesNoFlag = 4;
+
+/// The lines of a message, whatever its line breaks are, without empty ones.
+std::vector<std::string> linesOf(std::string_view message) {
+    std::vector<std::string> lines;
+    while (!message.empty()) {
+        const std::size_t end = message.find_first_of("\r\n");
+        const std::string line(office::trim(message.substr(0, end)));
+        if (!line.empty()) lines.push_back(printable(line));
+        if (end == std::string_view::npos) break;
+        message.remove_prefix(end + 1);
+    }
+    return lines;
+}
+
+std::string labelOf(const session::Notice& notice) {
+    if (!notice.title.empty() && notice.title != "Murvane") return printable(notice.title);
+    if (notice.kind == "warning") return "Warning";
+    return notice.kind == "error" ? "Error" : "Note";
+}
+
+}  // namespace
+
+void TerminalNotices::print(const session::Notice& notice) {
+    const std::vector<std::string> lines = linesOf(notice.message);
+    std::string text = labelOf(notice) + ":";
+    if (lines.size() == 1) text += " " + lines.front();
+    for (std::size_t i = 0; lines.size() > 1 && i < lines.size(); ++i) text += "\n  " + lines[i];
+    console_.writeError(text + "\n");
+}
+
+bool TerminalNotices::isAccepted() {
+    if (answering_ == Answering::Accepts) return true;
+    if (answering_ == Answering::Refuses) {
+        console_.writeError("Not continued: nobody can be asked here." + refusalHint_ + "\n");
+        return false;
+    }
+    console_.writeError("Type y to go on: ");
+    const std::string reply = office::lowerCase(office::trim(console_.readLine().value_or("")));
+    return reply == "y" || reply == "yes";
+}
+
+int TerminalNotices::show(const session::Notice& notice) {
+    line_.clear();
+    print(notice);
+    if ((notice.buttons & (cancelFlag | yesNoFlag)) == 0) {
+        if (notice.kind == "warning" || notice.kind == "error") ++remarks_;
+        return session::answer::ok;
+    }
+    const bool isAccept = isAccepted();
+    if ((notice.buttons & yesNoFlag) != 0) {
+        return isAccept ? session::answer::yes : session::answer::no;
+    }
+    return isAccept ? session::answer::ok : session::answer::cancel;
+}
+
+}  // namespace apps

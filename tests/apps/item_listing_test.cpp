@@ -1,0 +1,50 @@
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "apps/murvane_export/item_listing.h"
+#include "rows.h"
+
+namespace {
+
+TEST(ItemListing, ColumnsAreAlignedByCharactersAndHostileTextStaysOnItsLine) {
+    catalogue::ExportList list = sampleList();
+    list.rows.resize(3);
+    list.rows[0].Text = "Größe";
+    list.rows[0].Checked = true;
+    list.rows[1].SubItems(4) = "two\nlines\x1b[31m";
+    list.rows[2].SubItems(2) = "12";
+    EXPECT_EQ(unattended::listAsTable(list),
+              "ITEM          SHEET  KIND   EXPORT  SLIDE  CAPTION\n"
+              "Größe         North  chart  yes\n"
+              "Chart 1       South  chart  no             two lines [31m\n"
+              "Sales, total  North  range  no      12\n");
+}
+
+TEST(ItemListing, SaysWhichRangesCannotBeExportedAndLeavesGapsOut) {
+    const std::string table = unattended::listAsTable(sampleList());
+    EXPECT_NE(table.find("Scattered      South     range        several areas"), std::string::npos)
+        << table;
+    EXPECT_EQ(std::count(table.begin(), table.end(), '\n'), 6);
+}
+
+TEST(ItemListing, JsonHoldsEveryItemAsItIs) {
+    catalogue::ExportList list = sampleList();
+    list.rows[0].Checked = true;
+    list.rows[0].SubItems(2) = "3";
+    list.rows[0].SubItems(4) = "A \"quote\"\nand more";
+    list.rows[2].SubItems(4) = "broken \xFF text";
+    const auto document = nlohmann::json::parse(unattended::listAsJson(list, "/books/b.xlsx"));
+    EXPECT_EQ(document["workbook"], "/books/b.xlsx");
+    ASSERT_EQ(document["items"].size(), 5U);
+    const auto& first = document["items"][0];
+    EXPECT_EQ(first["name"], "Chart 1");
+    EXPECT_EQ(first["kind"], "Embedded");
+    EXPECT_EQ(first["checked"], true);
+    EXPECT_EQ(first["slide"], "3");
+    EXPECT_EQ(first["caption"], "A \"quote\"\nand more");
+    EXPECT_EQ(document["items"][3]["severalAreas"], true);
+    EXPECT_EQ(document["items"][4]["name"], "{Chart Sheet}");
+    EXPECT_EQ(document["items"][4]["sheet"], "Overview");
+}
+
+}  // namespace

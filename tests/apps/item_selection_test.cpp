@@ -1,0 +1,104 @@
+#include <gtest/gtest.h>
+
+#include "apps/murvane_export/errors.h"
+#include "apps/murvane_export/item_selection.h"
+#include "rows.h"
+
+namespace {
+
+using Indices = std::vector<std::size_t>;
+using Texts = std::vector<std::string>;
+
+struct Reference {
+    Texts texts;
+    Indices rows;
+};
+
+class ReferenceTest : public testing::TestWithParam<Reference> {};
+
+TEST_P(ReferenceTest, MeansItsRows) {
+    EXPECT_EQ(unattended::findItems(sampleList(), GetParam().texts), GetParam().rows);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, ReferenceTest,
+    testing::Values(Reference{{"Chart 1@North"}, {0}},
+                    Reference{{"Chart 1@South,Chart 1@North"}, {1, 0}},
+                    Reference{{"Chart 1@South", "Chart 1@South"}, {1}},
+                    // A comma in a name: as the whole text, and among others in quotes.
+                    Reference{{"Sales, total"}, {2}},
+                    Reference{{"Overview, \"Sales, total\"@North"}, {5, 2}},
+                    Reference{{"sales, TOTAL"}, {2}}, Reference{{"Overview"}, {5}},
+                    Reference{{"{Chart Sheet}"}, {5}}, Reference{{"{Chart Sheet}@Overview"}, {5}},
+                    Reference{{",, Overview ,"}, {5}}));
+
+TEST(ItemSelection, ANameMayHoldTheSignThatSetsTheSheetOff) {
+    catalogue::ExportList list;
+    list.rows.push_back(rowOf("a@b", "S@T", "Range"));
+    for (const char* text : {"a@b", "a@b@S@T"}) {
+        EXPECT_EQ(unattended::findItems(list, {text}), Indices{0}) << text;
+    }
+}
+
+TEST(ItemSelection, TheExactNameGoesBeforeOneOfOtherCase) {
+    catalogue::ExportList list;
+    list.rows.push_back(rowOf("TOTAL", "S", "Range"));
+    list.rows.push_back(rowOf("Total", "T", "Range"));
+    EXPECT_EQ(unattended::findItems(list, {"Total"}), Indices{1});
+    EXPECT_THROW(unattended::findItems(list, {"total"}), unattended::UsageError);
+}
+
+struct Unknown {
+    const char* reference;
+    const char* message;
+};
+
+TEST(ItemSelection, AnUnknownItemIsToldWithNamesThatAreNear) {
+    for (const Unknown& unknown :
+         {Unknown{"Overveiw", "The workbook has no item \"Overveiw\". Did you mean \"Overview\"?"},
+          {"Chart 2",
+           "The workbook has no item \"Chart 2\". Did you mean \"Chart 1@North\", \"Chart "
+           "1@South\"?"},
+          {"Weather",
+           "The workbook has no item \"Weather\". Run murvane-export --list to see its items."},
+          {"Chart 1",
+           "\"Chart 1\" is the name of 2 items. Say which one: \"Chart 1@North\", "
+           "\"Chart 1@South\"."}}) {
+        try {
+            static_cast<void>(unattended::findItems(sampleList(), {unknown.reference}));
+            ADD_FAILURE() << unknown.reference;
+        } catch (const unattended::UsageError& error) {
+            EXPECT_STREQ(error.what(), unknown.message);
+        }
+    }
+}
+
+std::string checksOf(const catalogue::ExportList& list) {
+    std::string marks;
+    for (const auto& row : list.rows) marks += row.Checked ? 'x' : '-';
+    return marks;
+}
+
+TEST(ItemSelection, AllMeansWhatCanBeExported) {
+    auto list = sampleList();
+    unattended::checkAll(list);
+    EXPECT_EQ(checksOf(list), "xxx--x");
+}
+
+TEST(ItemSelection, OnlyMeansNoOthers) {
+    auto list = sampleList();
+    unattended::checkAll(list);
+    unattended::checkOnly(list, {4, 0});
+    EXPECT_EQ(checksOf(list), "x---x-");
+}
+
+TEST(ItemSelection, WhatIsOrderedComesFirstAndTheRestFollowsInItsOrder) {
+    auto list = sampleList();
+    unattended::moveToTop(list, {5, 1});
+    Texts names;
+    for (const auto& row : list.rows) names.push_back(row.Text + "@" + row.SubItems(1));
+    EXPECT_EQ(names, (Texts{"{Chart Sheet}@Overview", "Chart 1@South", "Chart 1@North",
+                            "Sales, total@North", "@", "Scattered@South"}));
+}
+
+}  // namespace

@@ -1,0 +1,156 @@
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <memory>
+
+#include "apps/posix_host.h"
+#include "office/failure.h"
+#include "scratch_folder.h"
+#include "scripted_console.h"
+
+namespace {
+
+class PosixHostTest : public testing::Test {
+protected:
+    PosixHostTest() {
+        ::unsetenv("TEMP");
+        ::setenv("XDG_RUNTIME_DIR", folder.path().c_str(), 1);
+    }
+
+    ScratchFolder folder;
+    ScriptedConsole console;
+    std::unique_ptr<apps::PosixHost> host = std::make_unique<apps::PosixHost>(console);
+};
+
+TEST_F(PosixHostTest, TemporaryFilesStandInAFolderForThisUserAloneThatGoesWithTheHost) {
+    const std::filesystem::path file = host->temporaryFile("Range_Total.png");
+    std::ofstream(file) << "x";
+    EXPECT_EQ(file.parent_path().parent_path(), folder.path());
+    struct stat status = {};
+    ASSERT_EQ(::stat(file.parent_path().c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0700U);
+    EXPECT_EQ(std::filesystem::path(host->temporaryFile("b")).parent_path(), file.parent_path());
+    host.reset();
+    EXPECT_EQ(folder.names(), std::set<std::string>{});
+}
+
+TEST_F(PosixHostTest, NoFolderIsMadeWithoutAFile) {
+    host.reset();
+    EXPECT_TRUE(folder.names().empty());
+}
+
+TEST_F(PosixHostTest, AFolderThatTheUserNamesIsUsedAndStays) {
+    ScratchFolder own;
+    ::setenv("TEMP", own.path().c_str(), 1);
+    EXPECT_EQ(host->temporaryFile("a.png"), own.file("a.png"));
+    host.reset();
+    EXPECT_TRUE(std::filesystem::exists(own.path()));
+    ::unsetenv("TEMP");
+}
+
+TEST_F(PosixHostTest, ARuntimeFolderThatIsGoneIsNoHindrance) {
+    ::setenv("XDG_RUNTIME_DIR", "/nowhere/at/all", 1);
+    EXPECT_TRUE(
+        std::filesystem::exists(std::filesystem::path(host->temporaryFile("a.png")).parent_path()));
+}
+
+TEST_F(PosixHostTest, NamesThatLeadElsewhereAreRefused) {
+    for (const char* name : {"", "..", "../a", "/etc/passwd", "a\nb"}) {
+        EXPECT_THROW(static_cast<void>(host->temporaryFile(name)), office::Failure) << name;
+    }
+}
+
+TEST_F(PosixHostTest, ATextTakesItsPlaceAsAWholeAndForThisUserAlone) {
+    const std::filesystem::path file = host->writeTemporaryFile("page.html", "one");
+    EXPECT_EQ(host->writeTemporaryFile("page.html", "two"), file);
+    std::ostringstream text;
+    text << std::ifstream(file).rdbuf();
+    EXPECT_EQ(text.str(), "two");
+    struct stat status = {};
+    ASSERT_EQ(::stat(file.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0600U);
+    const auto entries = std::filesystem::directory_iterator(file.parent_path());
+    EXPECT_EQ(std::distance(begin(entries), end(entries)), 1);
+}
+
+TEST_F(PosixHostTest, ATextNeverGoesThroughALink) {
+    const std::string victim = folder.write("victim", "theirs");
+    std::filesystem::create_symlink(victim, host->temporaryFile("page.html"));
+    host->writeTemporaryFile("page.html", "ours");
+    EXPECT_EQ(folder.read("victim"), "theirs");
+}
+
+TEST_F(PosixHostTest, ATextThatCannotBeWrittenIsAFailure) {
+    ::setenv("TEMP", "/proc", 1);
+    EXPECT_THROW(host->writeTemporaryFile("page.html", "x"), office::Failure);
+    ::unsetenv("TEMP");
+}
+
+TEST_F(PosixHostTest, DeletingTellsAMissingFileFromOneThatStays) {
+    host->deleteFile(folder.write("a", "x"));
+    EXPECT_FALSE(host->fileExists(folder.file("a")));
+    try {
+        host->deleteFile(folder.file("a"));
+        ADD_FAILURE();
+    } catch (const office::Failure& failure) {
+        EXPECT_TRUE(failure.is(office::FailureNumber::FileNotFound));
+    }
+    try {
+        host->deleteFile(folder.path().string());
+        ADD_FAILURE();
+    } catch (const office::Failure& failure) {
+        EXPECT_TRUE(failure.is(office::FailureNumber::PermissionDenied));
+    }
+}
+
+TEST_F(PosixHostTest, AFileIsHeldByTheMarkBesideIt) {
+    const std::string book = folder.write("book.xlsx", "x");
+    EXPECT_FALSE(host->fileIsHeld(book));
+    folder.write(".~lock.book.xlsx#", "somebody");
+    EXPECT_TRUE(host->fileIsHeld(book));
+}
+
+TEST_F(PosixHostTest, AFileIsHeldByALockOfAnotherProcess) {
+    const std::string book = folder.write("book.xlsx", "x");
+    int ready[2];
+    int done[2];
+    ASSERT_EQ(::pipe(ready), 0);
+    ASSERT_EQ(::pipe(done), 0);
+    const pid_t other = ::fork();
+    char letter = 0;
+    if (other == 0) {
+        const int file = ::open(book.c_str(), O_RDWR);
+        struct flock lock = {};
+        lock.l_type = F_WRLCK;
+        ::fcntl(file, F_SETLK, &lock);
+        ::close(done[1]);
+        static_cast<void>(::write(ready[1], "r", 1) + ::read(done[0], &letter, 1));
+        ::_exit(0);
+    }
+    ASSERT_EQ(::read(ready[0], &letter, 1), 1);
+    EXPECT_TRUE(host->fileIsHeld(book));
+    ::close(done[1]);
+    ::waitpid(other, nullptr, 0);
+    EXPECT_FALSE(host->fileIsHeld(book));
+}
+
+TEST_F(PosixHostTest, AMissingFileCannotBeOpenedAndSoCountsAsHeld) {
+    EXPECT_TRUE(host->fileIsHeld(folder.file("none.xlsx")));
+}
+
+TEST_F(PosixHostTest, TheClockGoesOn) {
+    const std::uint32_t before = host->tickCount();
+    host->sleep(3);
+    EXPECT_GE(host->tickCount() - before, 3U);
+}
+
+TEST_F(PosixHostTest, MessagesGoToStandardError) {
+    host->reportError("Lost");
+    host->messageBox("Done!", "Murvane");
+    EXPECT_EQ(console.error, "Lost\nMurvane: Done!\n");
+}
+
+}  // namespace

@@ -1,0 +1,77 @@
+#include "run_stage.h"
+
+namespace {
+
+class RunAttachedTest : public RunStage {
+protected:
+    /// The user's own workbook and deck.
+    void openUsersDocuments() {
+        auto& book = suite->excel().addWorkbook("Mine.xlsx", folder.path().string());
+        fill(book);
+        deck = &suite->powerPoint().addPresentation("Talk.pptx", folder.path().string());
+        deck->addSlides(1);
+        deckHandle = deck->handle();
+    }
+
+    int attach(std::vector<std::string> more = {}) {
+        std::vector<std::string> words = {"--attach", "--output", folder.file("Out.pptx")};
+        words.insert(words.end(), more.begin(), more.end());
+        return run(words);
+    }
+};
+
+TEST_F(RunAttachedTest, UsesWhatIsActiveStartsNothingAndClosesNothing) {
+    openUsersDocuments();
+    ASSERT_EQ(attach(), 0) << console.error;
+    EXPECT_EQ(suitesStarted, 0);
+    EXPECT_EQ(pictures().size(), 5U);
+    EXPECT_NE(suite->excel().activeWorkbook(), nullptr);
+    EXPECT_EQ(suite->powerPoint().presentations().size(), 1U);
+    EXPECT_EQ(folder.read("Out.pptx"), "A copy of Talk.pptx\n");
+}
+
+TEST_F(RunAttachedTest, LeavesExcelDrawingAlsoAfterAFailure) {
+    openUsersDocuments();
+    suite->failures().fail("Chart.Export");
+    EXPECT_EQ(attach(), 1);
+    EXPECT_TRUE(suite->attach("Excel.Application").get("ScreenUpdating").toBool());
+}
+
+TEST_F(RunAttachedTest, WithoutAWorkbookItSaysWhatIsMissing) {
+    EXPECT_EQ(attach(), 1);
+    EXPECT_TRUE(console.errorHas("No running suite has a workbook open")) << console.error;
+    suite->quitExcel();
+    EXPECT_EQ(attach(), 1);
+    EXPECT_TRUE(console.errorHas("No running suite has a workbook open")) << console.error;
+}
+
+TEST_F(RunAttachedTest, WithoutAPresentationTheReviewBlocks) {
+    suite->quitPowerPoint();
+    fill(suite->excel().addWorkbook("Mine.xlsx"));
+    EXPECT_EQ(attach(), 3);
+    EXPECT_TRUE(console.errorHas("PowerPoint is not running")) << console.error;
+}
+
+TEST_F(RunAttachedTest, AWorkbookThatIsNamedHasToBeTheActiveOne) {
+    openUsersDocuments();
+    EXPECT_EQ(attach({bookFile}), 1);
+    EXPECT_TRUE(console.errorHas("The active workbook is")) << console.error;
+    EXPECT_EQ(attach({folder.write("Mine.xlsx", "x")}), 0) << console.error;
+}
+
+TEST_F(RunAttachedTest, ThePresentationHasToBeTheFirstOne) {
+    openUsersDocuments();
+    suite->powerPoint().addPresentation("Second.pptx").addSlides(1);
+    EXPECT_EQ(attach(), 1);
+    EXPECT_TRUE(console.errorHas("Talk.pptx")) << console.error;
+    EXPECT_EQ(suite->log().count("Slides.Add"), 0U);
+}
+
+TEST_F(RunAttachedTest, TheUsersPresentationIsNeverTheOutput) {
+    openUsersDocuments();
+    folder.write("Talk.pptx", "theirs");
+    EXPECT_EQ(run({"--attach", "--output", folder.file("Talk.pptx"), "--overwrite"}), 2);
+    EXPECT_EQ(folder.read("Talk.pptx"), "theirs");
+}
+
+}  // namespace

@@ -1,0 +1,101 @@
+#include "run_stage.h"
+
+namespace {
+
+class RunFailuresTest : public RunStage {};
+
+TEST_F(RunFailuresTest, AFailureNamesTheItemAndLeavesNoFile) {
+    suite->failures().fail("Chart.Export", 2);
+    EXPECT_EQ(exportWith(), 1);
+    EXPECT_TRUE(console.errorHas("\"Chart 2\" on sheet \"North\" could not be exported"))
+        << console.error;
+    EXPECT_TRUE(hasOnlyInputs());
+    EXPECT_EQ(suite->excel().activeWorkbook(), nullptr);
+}
+
+TEST_F(RunFailuresTest, AFailureAheadOfTheItemsNamesNone) {
+    suite->failures().fail("Slides.Add");
+    EXPECT_EQ(exportWith(), 1);
+    EXPECT_TRUE(console.errorHas("Slides.Add")) << console.error;
+    EXPECT_FALSE(console.errorHas("on sheet"));
+}
+
+TEST_F(RunFailuresTest, AnItemThatIsTurnedAwayMakesTheOutputIncomplete) {
+    // The range goes between the review and its turn.
+    ASSERT_EQ(run({bookFile, "--check"}), 0);
+    const auto looks = static_cast<int>(suite->log().count("Name.RefersToRange"));
+    suite->failures().fail("Name.RefersToRange", looks + 1);
+    const int code = exportWith({"--items", "Total,Overview"});
+    ASSERT_TRUE(console.errorHas("Named range 'Total' not found")) << console.error;
+    EXPECT_EQ(code, 1);
+    EXPECT_TRUE(console.errorHas("is incomplete: of 2 items 1 could not be exported"));
+    EXPECT_TRUE(hasOutput());
+}
+
+TEST_F(RunFailuresTest, AFailedSaveLeavesNothing) {
+    suite->failures().fail("Presentation.SaveCopyAs");
+    EXPECT_EQ(exportWith(), 1);
+    EXPECT_TRUE(hasOnlyInputs());
+}
+
+TEST_F(RunFailuresTest, AStoppedRunLeavesTheOldOutputAsItWas) {
+    folder.write("Out.pptx", "old");
+    suite->failures().fail("Presentation.SaveCopyAs");
+    EXPECT_EQ(exportWith({"--overwrite"}), 1);
+    EXPECT_EQ(folder.read("Out.pptx"), "old");
+}
+
+TEST_F(RunFailuresTest, ALostSuiteIsReportedWheneverItGoes) {
+    ASSERT_EQ(exportWith({"--overwrite"}), 0);
+    const int calls = static_cast<int>(suite->log().count());
+    std::filesystem::remove(folder.file("Out.pptx"));
+    int reported = 0;
+    for (int at = 1; at < calls - 2; at += 23) {
+        suite = std::make_shared<office_double::DoubleSuite>();
+        suite->excel().addFile(bookFile, [](office_double::Workbook& book) { fill(book); });
+        suite->powerPoint().addFile(
+            deckFile, [](office_double::Presentation& opened) { opened.addSlides(2); });
+        suite->failures().loseSuiteAt(at);
+        EXPECT_EQ(exportWith(), 1) << at;
+        EXPECT_TRUE(console.errorHas("The office suite has gone")) << at << console.error;
+        EXPECT_TRUE(hasOnlyInputs()) << at;
+        ++reported;
+    }
+    EXPECT_GT(reported, 10);
+}
+
+TEST_F(RunFailuresTest, ASuiteThatDoesNotStartIsReported) {
+    const unattended::SuiteSource none{[]() -> std::shared_ptr<office::Suite> {
+                                           throw office::Failure(
+                                               office::FailureNumber::ApplicationDefined,
+                                               "LibreOffice", "It is not installed");
+                                       },
+                                       nullptr};
+    unattended::Options options;
+    options.book = bookFile;
+    options.output = folder.file("Out.pptx");
+    EXPECT_EQ(unattended::run(options, {none, host, console, isInterrupted}), 1);
+    EXPECT_TRUE(console.errorHas("It is not installed"));
+    EXPECT_TRUE(hasOnlyInputs());
+}
+
+TEST_F(RunFailuresTest, AnInterruptionSaysSoAndLeavesNothing) {
+    int asked = 0;
+    isInterrupted = [&] { return ++asked > 2; };
+    EXPECT_EQ(exportWith(), 1);
+    EXPECT_EQ(console.error, "murvane-export: Interrupted; nothing was written.\n");
+    EXPECT_TRUE(hasOnlyInputs());
+}
+
+TEST_F(RunFailuresTest, ASuiteThatGoesForAnInterruptionIsNoFault) {
+    bool interrupted = false;
+    isInterrupted = [&] { return interrupted; };
+    host.onEvents = [&] {
+        interrupted = true;
+        suite->kill();
+    };
+    EXPECT_EQ(exportWith(), 1);
+    EXPECT_EQ(console.error, "murvane-export: Interrupted; nothing was written.\n");
+}
+
+}  // namespace

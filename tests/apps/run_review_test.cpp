@@ -1,0 +1,101 @@
+#include "run_stage.h"
+
+namespace {
+
+using office_double::Workbook;
+
+/// What keeps an export from running, or asks first.
+class RunReviewTest : public RunStage {
+protected:
+    void fillWith(std::function<void(Workbook&)> filler) {
+        suite->excel().addFile(bookFile, std::move(filler));
+    }
+
+    static void hideSouth(Workbook& book) {
+        fill(book);
+        book.handle().get("Sheets").get("Item", "South").put("Visible", 0);
+    }
+
+    /// A workbook whose store still has the chart of a sheet that is hidden by now.
+    void storeHiddenItem() {
+        fillWith([](Workbook& book) {
+            hideSouth(book);
+            auto& store = book.sheet("kukukukuZichron");
+            store.block("A1", {{"Chart 1", "North", "", 1, true, "Embedded", "", "Chart 1North"},
+                               {"Chart 1", "South", "", 2, true, "Embedded", "", "Chart 1South"}});
+        });
+    }
+};
+
+TEST_F(RunReviewTest, ABlockedExportEndsWithThreeAndTheReasons) {
+    EXPECT_EQ(exportWith({"--slides", "predefined", "--items", "Total"}), 3);
+    EXPECT_TRUE(console.errorHas("Export blocked")) << console.error;
+    EXPECT_TRUE(console.errorHas("Missing slide number for \"Total\"")) << console.error;
+    EXPECT_TRUE(hasOnlyInputs());
+    EXPECT_EQ(suite->log().count("Slides.Add"), 0U);
+}
+
+TEST_F(RunReviewTest, ACheckRunsTheReviewAlone) {
+    EXPECT_EQ(run({bookFile, "--check"}), 0);
+    EXPECT_EQ(console.error, "5 of 5 items can be exported.\n");
+    EXPECT_EQ(run({bookFile, "--into", deckFile, "--slides", "predefined", "--check"}), 3);
+    EXPECT_TRUE(console.errorHas("Missing slide number"));
+    EXPECT_EQ(suite->log().count("Slides.Add"), 0U);
+    EXPECT_TRUE(hasOnlyInputs());
+}
+
+TEST_F(RunReviewTest, AWarningEndsTheRunUnlessItWasAgreedToBeforehand) {
+    storeHiddenItem();
+    EXPECT_EQ(exportWith(), 3);
+    EXPECT_TRUE(console.errorHas("1 checked item(s) are on hidden worksheets and will be skipped."))
+        << console.error;
+    EXPECT_TRUE(console.errorHas("--yes goes on over this."));
+    EXPECT_FALSE(hasOutput());
+    EXPECT_EQ(exportWith({"--yes"}), 0) << console.error;
+    EXPECT_TRUE(hasOutput());
+}
+
+TEST_F(RunReviewTest, WhoSitsAtTheTerminalIsAsked) {
+    storeHiddenItem();
+    console.somebodyIsThere = true;
+    console.typed = {"n"};
+    EXPECT_EQ(exportWith(), 3);
+    console.typed = {"y"};
+    EXPECT_EQ(exportWith(), 0) << console.error;
+}
+
+TEST_F(RunReviewTest, ACheckTellsAWarningAndIsContent) {
+    storeHiddenItem();
+    EXPECT_EQ(run({bookFile, "--check"}), 0);
+    EXPECT_TRUE(console.errorHas("will be skipped."));
+}
+
+TEST_F(RunReviewTest, AWorkbookWithoutItemsIsBlockedAndListsAsNothing) {
+    fillWith([](Workbook& book) { book.sheet("Empty"); });
+    EXPECT_EQ(exportWith(), 3);
+    EXPECT_TRUE(console.errorHas("didn't find any chart"));
+    EXPECT_EQ(run({bookFile, "--list"}), 0);
+    EXPECT_EQ(console.out, "ITEM  SHEET  KIND  EXPORT  SLIDE  CAPTION\n");
+}
+
+TEST_F(RunReviewTest, AProtectedWorkbookWithoutAStoreIsBlocked) {
+    fillWith([](Workbook& book) {
+        fill(book);
+        book.protectStructure();
+    });
+    EXPECT_EQ(exportWith(), 3);
+    EXPECT_TRUE(console.errorHas("The workbook looks protected")) << console.error;
+}
+
+TEST_F(RunReviewTest, ARangeOfSeveralAreasIsLeftOutByAllAndBlocksByName) {
+    fillWith([](Workbook& book) {
+        fill(book);
+        book.define("Scattered", "=North!$A$1:$A$5,North!$C$1:$C$5");
+    });
+    EXPECT_EQ(exportWith({"--all"}), 0) << console.error;
+    EXPECT_EQ(pictures().size(), 5U);
+    EXPECT_EQ(run({bookFile, "--check", "--items", "Scattered"}), 3);
+    EXPECT_TRUE(console.errorHas("\"Scattered\" is a multiple-area range"));
+}
+
+}  // namespace

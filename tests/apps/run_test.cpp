@@ -1,0 +1,168 @@
+#include <nlohmann/json.hpp>
+
+#include "run_stage.h"
+
+namespace {
+
+using Texts = std::vector<std::string>;
+using office_double::Workbook;
+
+class RunTest : public RunStage {};
+
+TEST_F(RunTest, ExportsWhatTheWorkbookHasAndSavesItUnderTheNewName) {
+    ASSERT_EQ(exportWith(), 0) << console.error;
+    EXPECT_EQ(pictures(), (Texts{"Chart 1", "Chart 2", "Chart 1", "Overview", "Total"}));
+    EXPECT_EQ(deck->slides().size(), 7U);
+    EXPECT_EQ(console.error, "Exported 5 items to " + folder.file("Out.pptx") + "\n");
+    EXPECT_EQ(folder.names(), (std::set<std::string>{"Book.xlsx", "Deck.pptx", "Out.pptx"}));
+    EXPECT_EQ(folder.read("Out.pptx"), "A copy of Deck.pptx\n");
+}
+
+TEST_F(RunTest, NeverSavesTheWorkbookAndClosesWhatItOpened) {
+    ASSERT_EQ(exportWith(), 0);
+    EXPECT_EQ(suite->log().count("Workbook.Save") + suite->log().count("Presentation.Save"), 0U);
+    EXPECT_EQ(suite->excel().activeWorkbook(), nullptr);
+    EXPECT_TRUE(suite->powerPoint().presentations().empty());
+    EXPECT_EQ(folder.read("Book.xlsx"), "a workbook");
+    EXPECT_EQ(folder.read("Deck.pptx"), "a deck");
+}
+
+TEST_F(RunTest, MakesANewPresentationWithoutADeck) {
+    ASSERT_EQ(run({bookFile, "--output", folder.file("Out.pptx")}), 0) << console.error;
+    EXPECT_TRUE(hasOutput());
+    EXPECT_EQ(suite->log().count("Slides.Add"), 5U);
+}
+
+TEST_F(RunTest, ListsTheItemsWithoutTouchingAnything) {
+    ASSERT_EQ(run({bookFile, "--list"}), 0) << console.error;
+    EXPECT_EQ(console.out,
+              "ITEM           SHEET     KIND         EXPORT  SLIDE  CAPTION\n"
+              "Chart 1        North     chart        yes\n"
+              "Chart 2        North     chart        yes\n"
+              "Chart 1        South     chart        yes\n"
+              "{Chart Sheet}  Overview  chart sheet  yes\n"
+              "Total          North     range        yes\n");
+    EXPECT_EQ(console.error, "");
+    EXPECT_TRUE(hasOnlyInputs());
+}
+
+TEST_F(RunTest, ListsAsJson) {
+    ASSERT_EQ(run({bookFile, "--list", "--json"}), 0) << console.error;
+    const auto document = nlohmann::json::parse(console.out);
+    EXPECT_EQ(document["workbook"], bookFile);
+    EXPECT_EQ(document["items"].size(), 5U);
+}
+
+TEST_F(RunTest, TheListShowsWhatTheOptionsMakeOfIt) {
+    ASSERT_EQ(run({bookFile, "--list", "--items", "Total,Overview", "--order", "Total"}), 0);
+    EXPECT_EQ(console.out.find("Total "), console.out.find('\n') + 1) << console.out;
+    EXPECT_NE(console.out.find("chart        no"), std::string::npos);
+}
+
+TEST_F(RunTest, TakesTheItemsAndTheOrderThatAreAskedFor) {
+    ASSERT_EQ(exportWith({"--items", "Total,Chart 1@South,Overview", "--order", "Overview,Total"}),
+              0)
+        << console.error;
+    EXPECT_EQ(pictures(), (Texts{"Overview", "Total", "Chart 1"}));
+}
+
+TEST_F(RunTest, AnUnknownItemIsWrongUsageAndLeavesNothing) {
+    EXPECT_EQ(exportWith({"--items", "Overviev"}), 2);
+    EXPECT_EQ(console.error,
+              "murvane-export: The workbook has no item \"Overviev\". Did you mean "
+              "\"Overview\"?\n");
+    EXPECT_TRUE(hasOnlyInputs());
+    EXPECT_EQ(suite->excel().activeWorkbook(), nullptr);
+}
+
+TEST_F(RunTest, CaptionsBecomeTitlesAndAlternativeTexts) {
+    const std::string captions =
+        folder.write("c.csv", "item,caption\nTotal,\"All, in all\"\nOverview,The whole\n");
+    ASSERT_EQ(exportWith({"--captions", captions, "--titles", "--items", "Overview,Total"}), 0)
+        << console.error;
+    EXPECT_EQ(pictures(), (Texts{"The whole", "All, in all"}));
+    EXPECT_EQ(deck->slide(3).title()->text(), "The whole");
+}
+
+TEST_F(RunTest, CaptionsFileThatIsWrongIsFoundOutBeforeASuiteStarts) {
+    const std::string captions = folder.write("c.csv", "name\n");
+    EXPECT_EQ(exportWith({"--captions", captions}), 2);
+    EXPECT_TRUE(console.errorHas("c.csv, line 1: unknown column"));
+    EXPECT_EQ(suitesStarted, 0);
+}
+
+TEST_F(RunTest, PredefinedSlidesComeFromTheCaptionsFile) {
+    const std::string captions = folder.write("c.csv", "item,sheet,slide\nTotal,,2\nOverview,,1\n");
+    ASSERT_EQ(
+        exportWith({"--captions", captions, "--slides", "predefined", "--items", "Total,Overview"}),
+        0)
+        << console.error;
+    EXPECT_EQ(deck->slides().size(), 2U);
+    EXPECT_EQ(pictures(), (Texts{"Overview", "Total"}));
+}
+
+TEST_F(RunTest, PlacementOptionsPlaceThePictures) {
+    ASSERT_EQ(
+        exportWith({"--items", "Chart 2", "--top", "0.5", "--width", "0.25", "--left", "0.1"}), 0)
+        << console.error;
+    const auto& picture = *deck->slide(3).shapes().back();
+    EXPECT_DOUBLE_EQ(picture.box().top, 270);
+    EXPECT_DOUBLE_EQ(picture.box().left, 96);
+    EXPECT_DOUBLE_EQ(picture.box().width, 240);
+}
+
+TEST_F(RunTest, ADefaultPlacementStandsBelowTheTitle) {
+    ASSERT_EQ(exportWith({"--items", "Chart 2", "--width", "default"}), 0) << console.error;
+    EXPECT_NEAR(deck->slide(3).shapes().back()->box().top, 129.6 * 1.05, 1e-9);
+}
+
+TEST_F(RunTest, StyleSourceAndShadowReachTheBatch) {
+    ASSERT_EQ(exportWith({"--items", "Chart 2", "--style", "shadow", "--source"}), 0);
+    const auto& shapes = deck->slide(3).shapes();
+    ASSERT_EQ(shapes.size(), 3U);
+    EXPECT_TRUE(shapes[1]->hasShadow());
+    EXPECT_EQ(shapes[2]->text(), bookFile);
+}
+
+TEST_F(RunTest, OnATerminalTheProgressIsDrawnAndGoneAtTheEnd) {
+    console.isTerminal = true;
+    ASSERT_EQ(exportWith(), 0);
+    EXPECT_TRUE(console.errorHas("Exporting item 3 of 5  60%"));
+    EXPECT_TRUE(console.errorHas("\r\x1b[KExported 5 items")) << console.error;
+}
+
+TEST_F(RunTest, QuietMeansQuiet) {
+    console.isTerminal = true;
+    ASSERT_EQ(exportWith({"--quiet"}), 0);
+    EXPECT_EQ(console.error, "");
+}
+
+TEST_F(RunTest, WhatIsWrongWithTheFilesIsFoundOutBeforeASuiteStarts) {
+    EXPECT_EQ(run({bookFile, "--output", folder.file("missing/Out.pptx")}), 2);
+    EXPECT_TRUE(console.errorHas("missing/Out.pptx can't be written"));
+    EXPECT_EQ(run({bookFile, "--output", folder.file("Out.odp")}), 2);
+    EXPECT_EQ(run({folder.file("None.xlsx"), "--output", folder.file("Out.pptx")}), 2);
+    EXPECT_TRUE(console.errorHas("None.xlsx can't be read"));
+    EXPECT_EQ(
+        run({bookFile, "--into", folder.file("None.pptx"), "--output", folder.file("Out.pptx")}),
+        2);
+    EXPECT_EQ(run({bookFile, "--into", deckFile, "--output", deckFile, "--overwrite"}), 2);
+    EXPECT_TRUE(console.errorHas("never written over"));
+    EXPECT_EQ(suitesStarted, 0);
+}
+
+TEST_F(RunTest, AnExistingOutputIsReplacedOnlyWhenToldSo) {
+    folder.write("Out.pptx", "old");
+    EXPECT_EQ(exportWith(), 2);
+    EXPECT_EQ(folder.read("Out.pptx"), "old");
+    EXPECT_EQ(exportWith({"--overwrite"}), 0);
+    EXPECT_EQ(folder.read("Out.pptx"), "A copy of Deck.pptx\n");
+}
+
+TEST_F(RunTest, AFileThatTheSuiteCannotOpenIsNamed) {
+    const std::string other = folder.write("Other.xlsx", "no workbook");
+    EXPECT_EQ(run({other, "--list"}), 1);
+    EXPECT_TRUE(console.errorHas("Other.xlsx can't be opened")) << console.error;
+}
+
+}  // namespace

@@ -1,0 +1,100 @@
+#include <gtest/gtest.h>
+
+#include "apps/status_line.h"
+#include "apps/terminal_notices.h"
+#include "apps/terminal_progress.h"
+#include "scripted_console.h"
+
+namespace {
+
+using apps::Answering;
+namespace answer = session::answer;
+
+TEST(StatusLine, WritesOverItselfOnATerminalAndNothingElsewhere) {
+    ScriptedConsole console;
+    {
+        apps::StatusLine line(console, true);
+        line.show("one");
+    }
+    EXPECT_EQ(console.error, "");
+    console.isTerminal = true;
+    {
+        apps::StatusLine quiet(console, false);
+        quiet.show("one");
+    }
+    EXPECT_EQ(console.error, "");
+    {
+        apps::StatusLine line(console, true);
+        line.show("one");
+        line.clear();
+        line.clear();
+        line.show("two");
+    }
+    EXPECT_EQ(console.error, "\rone\x1b[K\r\x1b[K\rtwo\x1b[K\r\x1b[K");
+}
+
+TEST(TerminalProgress, ShowsTheItemAndTheShare) {
+    ScriptedConsole console;
+    console.isTerminal = true;
+    apps::StatusLine line(console, true);
+    apps::TerminalProgress progress(line);
+    progress.setTotal(12);
+    progress.setValue(25, "25%");
+    progress.setCurrent(3);
+    progress.show();
+    EXPECT_TRUE(console.errorHas("Exporting item 3 of 12  25%"));
+    progress.setValue(250, "250%");
+    EXPECT_EQ(progress.value(), 100);
+    progress.setLoadingValue(140);
+    EXPECT_EQ(progress.loadingValue(), 100);
+    progress.clearLoading();
+    EXPECT_EQ(progress.loadingValue(), 0);
+}
+
+class TerminalNoticesTest : public testing::Test {
+protected:
+    int ask(Answering answering, int buttons = session::buttons::question) {
+        apps::TerminalNotices notices(console, line, answering, " Say --yes.");
+        return session::ShowNotice(notices, "Go on?", "Murvane", "info", buttons);
+    }
+
+    ScriptedConsole console;
+    apps::StatusLine line{console, true};
+};
+
+TEST_F(TerminalNoticesTest, OneLineStaysOneLineAndMoreAreIndented) {
+    apps::TerminalNotices notices(console, line, Answering::Refuses);
+    session::ShowWarningNotice(notices, "Not found.");
+    session::ShowErrorNotice(notices, "One\r\rTwo\r\n  Three\n", "Export blocked");
+    EXPECT_EQ(console.error, "Warning: Not found.\nExport blocked:\n  One\n  Two\n  Three\n");
+    EXPECT_EQ(notices.remarks(), 2);
+}
+
+TEST_F(TerminalNoticesTest, TextFromAWorkbookCannotDriveTheTerminal) {
+    apps::TerminalNotices notices(console, line, Answering::Refuses);
+    session::ShowWarningNotice(notices, "Name \x1b[2J\a gone");
+    EXPECT_EQ(console.error, "Warning: Name  [2J  gone\n");
+}
+
+TEST_F(TerminalNoticesTest, AQuestionIsAnsweredAsWasAgreedBeforehand) {
+    EXPECT_EQ(ask(Answering::Accepts), answer::ok);
+    EXPECT_EQ(ask(Answering::Accepts, 4), answer::yes);
+    EXPECT_EQ(ask(Answering::Refuses), answer::cancel);
+    EXPECT_EQ(ask(Answering::Refuses, 4), answer::no);
+    EXPECT_TRUE(console.errorHas("nobody can be asked here. Say --yes."));
+}
+
+TEST_F(TerminalNoticesTest, WhoIsThereIsAsked) {
+    for (const char* reply : {"y", " YES "}) {
+        console.typed = {reply};
+        EXPECT_EQ(ask(Answering::AsksUser), answer::ok) << reply;
+    }
+    for (const char* reply : {"n", "", "yep"}) {
+        console.typed = {reply};
+        EXPECT_EQ(ask(Answering::AsksUser), answer::cancel) << reply;
+    }
+    console.typed.clear();
+    EXPECT_EQ(ask(Answering::AsksUser), answer::cancel);
+}
+
+}  // namespace
