@@ -15,7 +15,7 @@ MurvaneLoad::MurvaneLoad(forms::Desktop& desktop)
       Label4(*this, "Label4", {360, 2520, 6480, 240}) {
     caption = "Murvane";
     TitelBar1.caption = " Murvane";
-    Image1.setPicture({.bytes = {}, .drawing = "icon:chart"});
+    Image1.setPicture({.bytes = {}, .drawing = "icon:murvane"});
     Image1.stretch = true;
     Label1.caption = "Murvane";
     Label1.font = {.name = "Tahoma", .sizePt = 18, .bold = true};
