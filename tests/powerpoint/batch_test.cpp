@@ -84,6 +84,15 @@ TEST_F(BatchTest, PredefinedSlidesTakeWhatNamesThemAndRowsWithoutANumberAreSkipp
     EXPECT_TRUE(notices.shown.empty());
 }
 
+TEST_F(BatchTest, PredefinedSlidesAreShownSoThatTheStyleMeetsTheirPictures) {
+    choices.predefinedSlides = true;
+    session.PictureStyle = powerpoint::style::shadow;
+    add(chartRow("Chart 1", "Sales", "2"));
+    exportRows();
+    EXPECT_TRUE(deck.slide(2).shapes().back()->hasShadow());
+    EXPECT_FALSE(deck.slide(1).shapes().back()->hasShadow());
+}
+
 TEST_F(BatchTest, ASkippedRowKeepsTheSelectionAndOthersDropIt) {
     choices.predefinedSlides = true;
     add(chartRow("Chart 1", "Sales", "2"));

@@ -226,6 +226,8 @@ TEST_F(PlacementTest, TheSourceLineNamesTheWorkbookAtItsFixedPlace) {
     EXPECT_EQ(font.get("Name").toText(), "Tahoma");
     EXPECT_EQ(font.get("Size").toDouble(), 10);
     EXPECT_EQ(font.get("Color").get("RGB").toLong(), 0xB2B2B2);
+    EXPECT_EQ(suite.log().texts("TextRange.Characters"),
+              std::vector<std::string>{"TextRange.Characters(Start:=1, Length:=0)"});
     EXPECT_EQ(session.PowerPointApp.get("ActiveWindow").get("Selection").get("Type").toLong(), 0);
 }
 

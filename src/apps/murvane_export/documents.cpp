@@ -88,11 +88,10 @@ void OpenedDocuments::openWorkbook(const fs::path& file) {
 void OpenedDocuments::openPresentation(const fs::path& file) {
     session_.PowerPointApp = applicationOf(session_.suite, "PowerPoint.Application");
     try {
-        // Untitled: a copy that has nothing to do with the file any more.
-        presentation_ = session_.PowerPointApp.get("Presentations")
-                            .call("Open", arg("FileName", absolutePath(file)), arg("ReadOnly", no),
-                                  arg("Untitled", yes), arg("WithWindow", yes))
-                            .toObject();
+        presentation_ =
+            session_.PowerPointApp.get("Presentations")
+                .call("Open", arg("FileName", absolutePath(file)), arg("WithWindow", yes))
+                .toObject();
     } catch (const office::SuiteLost&) {
         throw;
     } catch (const office::Failure& failure) {
