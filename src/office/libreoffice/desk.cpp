@@ -82,7 +82,11 @@ std::vector<std::shared_ptr<Kind>> Desk::openDocuments() {
     while (components->hasMoreElements()) {
         const uno::Reference<uno::XInterface> component(components->nextElement(), uno::UNO_QUERY);
         const auto model = tryAs<css::frame::XModel>(component);
-        if (model.is() && isOfKind<Kind>(model)) found.push_back(recordOf<Kind>(model));
+        if (!model.is() || !isOfKind<Kind>(model)) continue;
+        // A document is listed once for each of its windows, a running slide show being one.
+        auto record = recordOf<Kind>(model);
+        if (std::find(found.begin(), found.end(), record) == found.end())
+            found.push_back(std::move(record));
     }
     return found;
 }
