@@ -1,6 +1,7 @@
 #include "office/libreoffice/powerpoint/auto_shape.h"
 
 #include <com/sun/star/awt/XBitmap.hpp>
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/drawing/BitmapMode.hpp>
 #include <com/sun/star/drawing/EnhancedCustomShapeAdjustmentValue.hpp>
 #include <com/sun/star/drawing/FillStyle.hpp>
@@ -85,18 +86,20 @@ Properties geometryWithType(const Outline& wanted) {
     return propertyValues({{"Type", uno::Any(rtl::OUString::createFromAscii(wanted.own))}});
 }
 
-/// Takes over what a picture shares with the shape that stands for it. One by one, since a picture
-/// read from a file may lack one.
+/// Takes over what a picture has beside its picture: names, shadow, effects kept for the file.
 void copyLook(HeldShape& from, HeldShape& to) {
+    // In the order that the calls for several properties demand.
     constexpr std::array<const char*, 12> shared = {
-        "Name",        "Title",           "Description",
-        "Shadow",      "ShadowXDistance", "ShadowYDistance",
-        "ShadowColor", "ShadowBlur",      "ShadowTransparence",
-        "ShadowSizeX", "ShadowSizeY",     "InteropGrabBag"};
-    for (const char* name : shared) {
-        const rtl::OUString property = rtl::OUString::createFromAscii(name);
-        to.properties()->setPropertyValue(property, from.properties()->getPropertyValue(property));
-    }
+        "Description",     "InteropGrabBag",  "Name",
+        "Shadow",          "ShadowBlur",      "ShadowColor",
+        "ShadowSizeX",     "ShadowSizeY",     "ShadowTransparence",
+        "ShadowXDistance", "ShadowYDistance", "Title"};
+    uno::Sequence<rtl::OUString> names(static_cast<sal_Int32>(shared.size()));
+    std::transform(shared.begin(), shared.end(), names.getArray(),
+                   [](const char* name) { return rtl::OUString::createFromAscii(name); });
+    const auto values =
+        as<css::beans::XMultiPropertySet>(from.properties())->getPropertyValues(names);
+    as<css::beans::XMultiPropertySet>(to.properties())->setPropertyValues(names, values);
 }
 
 void fillWithPicture(HeldShape& shape, const uno::Reference<css::graphic::XGraphic>& picture) {
@@ -109,20 +112,17 @@ void fillWithPicture(HeldShape& shape, const uno::Reference<css::graphic::XGraph
 }
 
 void replacePicture(ImpressDocument& document, const HeldShapePtr& shape, const Outline& wanted) {
-    const HeldPagePtr slide = shape->page();
-    const HeldShapePtr picture = std::make_shared<HeldShape>(*shape);
-    const auto depth = picture->get<sal_Int32>("ZOrder");
-    const auto graphic = picture->get<uno::Reference<css::graphic::XGraphic>>("Graphic");
+    const auto depth = shape->get<sal_Int32>("ZOrder");
+    const auto graphic = shape->get<uno::Reference<css::graphic::XGraphic>>("Graphic");
 
-    const auto filled = document.createShape("com.sun.star.drawing.CustomShape");
-    slide->page()->add(filled);
-    filled->setPosition(picture->position());
-    filled->setSize(picture->size());
-    shape->become(filled);
-    shape->set(geometryProperty, geometryWithType(wanted));
-    fillWithPicture(*shape, graphic);
-    copyLook(*picture, *shape);
-    slide->page()->remove(picture->shape());
+    HeldShape filled(document.createShape("com.sun.star.drawing.CustomShape"), shape->page());
+    shape->page()->page()->add(filled.shape());
+    filled.shape()->setPosition(shape->position());
+    filled.shape()->setSize(shape->size());
+    filled.set(geometryProperty, geometryWithType(wanted));
+    copyLook(*shape, filled);
+    fillWithPicture(filled, graphic);
+    document.replaceShape(shape, filled.shape());
     shape->set("ZOrder", depth);
 }
 

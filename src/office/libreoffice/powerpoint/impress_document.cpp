@@ -1,10 +1,13 @@
 #include "office/libreoffice/powerpoint/impress_document.h"
 
 #include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
+#include <com/sun/star/drawing/XMasterPagesSupplier.hpp>
 #include <com/sun/star/lang/XServiceInfo.hpp>
 #include <com/sun/star/presentation/XPresentationSupplier.hpp>
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <utility>
 
@@ -19,6 +22,24 @@ using office::FailureNumber;
 
 bool isMasterPage(const uno::Reference<css::drawing::XDrawPage>& page) {
     return as<css::lang::XServiceInfo>(page)->supportsService("com.sun.star.drawing.MasterPage");
+}
+
+std::int32_t inProportion(std::int32_t length, std::int32_t before, std::int32_t after) {
+    return static_cast<std::int32_t>(std::lround(static_cast<double>(length) * after / before));
+}
+
+void resizeShapes(const uno::Reference<css::drawing::XDrawPage>& page, const css::awt::Size& before,
+                  const css::awt::Size& after) {
+    const sal_Int32 count = page->getCount();
+    for (sal_Int32 i = 0; i < count; ++i) {
+        const uno::Reference<css::drawing::XShape> shape(page->getByIndex(i), uno::UNO_QUERY_THROW);
+        const css::awt::Point corner = shape->getPosition();
+        const css::awt::Size size = shape->getSize();
+        shape->setSize({inProportion(size.Width, before.Width, after.Width),
+                        inProportion(size.Height, before.Height, after.Height)});
+        shape->setPosition({inProportion(corner.X, before.Width, after.Width),
+                            inProportion(corner.Y, before.Height, after.Height)});
+    }
 }
 
 }  // namespace
@@ -39,8 +60,15 @@ css::awt::Size ImpressDocument::slideSize() {
 }
 
 void ImpressDocument::setSlideSize(const css::awt::Size& size) {
+    const css::awt::Size before = slideSize();
     setProperties(pageAt(1)->properties(),
                   {{"Width", uno::Any(size.Width)}, {"Height", uno::Any(size.Height)}});
+    const auto masters = as<css::drawing::XMasterPagesSupplier>(model())->getMasterPages();
+    const sal_Int32 count = masters->getCount();
+    for (sal_Int32 i = 0; i < count; ++i)
+        resizeShapes(
+            uno::Reference<css::drawing::XDrawPage>(masters->getByIndex(i), uno::UNO_QUERY_THROW),
+            before, size);
 }
 
 std::int32_t ImpressDocument::slideCount() {
@@ -146,6 +174,17 @@ std::vector<HeldShapePtr> ImpressDocument::selectedShapes() {
 uno::Reference<css::drawing::XShape> ImpressDocument::createShape(const char* service) {
     return {factory_->createInstance(rtl::OUString::createFromAscii(service)),
             uno::UNO_QUERY_THROW};
+}
+
+void ImpressDocument::replaceShape(const HeldShapePtr& shape,
+                                   const uno::Reference<css::drawing::XShape>& by) {
+    const auto selected = window_.selectedShapes();
+    const bool wasSelected = std::any_of(selected.begin(), selected.end(), [&](const auto& each) {
+        return each.get() == shape->shape().get();
+    });
+    shape->page()->page()->remove(shape->shape());
+    shape->become(by);
+    if (wasSelected) window_.select(by);
 }
 
 uno::Reference<css::graphic::XGraphic> ImpressDocument::loadPicture(const Connection& connection,

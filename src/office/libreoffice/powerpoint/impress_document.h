@@ -33,6 +33,7 @@ public:
 
     /// All slides have the size of the first one.
     [[nodiscard]] css::awt::Size slideSize();
+    /// The placeholders of the master pages keep their share of the slide.
     void setSlideSize(const css::awt::Size& size);
 
     [[nodiscard]] std::int32_t slideCount();
@@ -55,6 +56,8 @@ public:
 
     /// A shape of a service ("com.sun.star.drawing.TextShape"), not on a slide yet.
     [[nodiscard]] uno::Reference<css::drawing::XShape> createShape(const char* service);
+    /// A shape of LibreOffice takes the place of another one, in the window's selection too.
+    void replaceShape(const HeldShapePtr& shape, const uno::Reference<css::drawing::XShape>& by);
     /// The picture in a file. `office::Failure` 53 if there is no such file, 1004 if it holds no
     /// picture.
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> loadPicture(const Connection& connection,

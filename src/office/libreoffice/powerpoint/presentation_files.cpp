@@ -46,6 +46,15 @@ const Format& formatOf(const std::string& path, const char* member) {
     return *found;
 }
 
+/// LibreOffice would make the folder, also one that is merely mistyped.
+void requireFolder(const std::string& path, const char* member) {
+    const auto folder = std::filesystem::absolute(path).parent_path();
+    if (!std::filesystem::is_directory(folder))
+        throw Failure(FailureNumber::ApplicationDefined, member,
+                      fmt::format("\"{}\" could not be written: there is no folder \"{}\"", path,
+                                  folder.string()));
+}
+
 /// A filter that fails does not always say so.
 void requireWritten(const std::string& path, const char* member) {
     std::error_code problem;
@@ -60,7 +69,9 @@ void requireWritten(const std::string& path, const char* member) {
 
 void saveCopy(ImpressDocument& document, const std::string& path) {
     constexpr const char* member = "Presentation.SaveCopyAs";
-    document.storeCopy(path, formatOf(path, member).filter);
+    const Format& format = formatOf(path, member);
+    requireFolder(path, member);
+    document.storeCopy(path, format.filter);
     requireWritten(path, member);
 }
 
@@ -70,6 +81,7 @@ void saveUnderNewName(ImpressDocument& document, const std::string& path) {
     if (!format.isDocument)
         throw Failure(FailureNumber::InvalidProcedureCall, member,
                       fmt::format("A presentation can't be kept as \"{}\": save a copy", path));
+    requireFolder(path, member);
     try {
         as<css::frame::XStorable>(document.model())
             ->storeAsURL(

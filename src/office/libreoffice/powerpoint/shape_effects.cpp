@@ -83,8 +83,8 @@ void keepEffects(HeldShape& shape, const Properties& bag, const Properties& effe
 /// shadow's own properties when the file is written, but only where an entry is there to be
 /// overwritten.
 css::beans::PropertyValue shadowStandIn() {
-    const Properties attributes = propertyValues({{"blurRad", uno::Any(sal_Int64(0))},
-                                                  {"dist", uno::Any(sal_Int64(0))},
+    const Properties attributes = propertyValues({{"blurRad", uno::Any(sal_Int32(0))},
+                                                  {"dist", uno::Any(sal_Int32(0))},
                                                   {"dir", uno::Any(sal_Int32(0))},
                                                   {"rotWithShape", uno::Any(sal_Int32(0))}});
     return entry(shadowEntry,
@@ -98,7 +98,7 @@ css::beans::PropertyValue reflectionForFile(const Reflection& reflection) {
         return uno::Any(static_cast<sal_Int32>(std::lround(part * wholeShare)));
     };
     const auto length = [](double points) {
-        return uno::Any(static_cast<sal_Int64>(std::llround(points * emuPerPoint)));
+        return uno::Any(static_cast<sal_Int32>(std::lround(points * emuPerPoint)));
     };
     constexpr sal_Int32 downwards = 90 * 60000;
     constexpr double fadedOut = 0.003;

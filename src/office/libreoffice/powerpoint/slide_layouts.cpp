@@ -185,26 +185,33 @@ void SlideLayouts::countPlaceholders(Master& master) {
 
 SlideLayouts::PageRef SlideLayouts::masterByPlaceholders(std::int32_t layout,
                                                          const std::vector<Master*>& candidates) {
-    // A title slide's subtitle leaves no placeholder behind on its master page, so it looks like
-    // title only; but there the title stands lower.
-    const auto higher = [](const Master* left, const Master* right) {
-        return left->titleTop < right->titleTop;
-    };
-    const auto bestOf = [&](auto fits) -> PageRef {
+    const auto holding = [&](bool title, std::int32_t bodies) {
         std::vector<Master*> fitting;
-        std::copy_if(candidates.begin(), candidates.end(), std::back_inserter(fitting), fits);
-        const auto best = std::min_element(fitting.begin(), fitting.end(), higher);
-        return best != fitting.end() ? (*best)->page : PageRef();
+        std::copy_if(candidates.begin(), candidates.end(), std::back_inserter(fitting),
+                     [&](const Master* master) {
+                         return (master->titles > 0) == title && master->bodies == bodies;
+                     });
+        std::sort(fitting.begin(), fitting.end(), [](const Master* left, const Master* right) {
+            return left->titleTop < right->titleTop;
+        });
+        return fitting;
+    };
+    const auto highestOf = [](const std::vector<Master*>& fitting) {
+        return fitting.empty() ? PageRef() : fitting.front()->page;
     };
     switch (layout) {
+        case titleSlide: {
+            // Its subtitle leaves no placeholder behind on its master page, so it looks like title
+            // only; but its title stands lower.
+            const auto fitting = holding(true, 0);
+            return fitting.size() > 1 ? fitting.back()->page : PageRef();
+        }
         case titleOnly:
-            return bestOf([](const Master* m) { return m->titles > 0 && m->bodies == 0; });
+            return highestOf(holding(true, 0));
         case text:
-            return bestOf([](const Master* m) { return m->titles > 0 && m->bodies == 1; });
-        case blank:
-            return bestOf([](const Master* m) { return m->titles == 0 && m->bodies == 0; });
+            return highestOf(holding(true, 1));
         default:
-            return {};
+            return highestOf(holding(false, 0));
     }
 }
 
