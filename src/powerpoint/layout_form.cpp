@@ -1,0 +1,224 @@
+#include "powerpoint/layout_form.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+#include <string>
+#include <string_view>
+
+#include "forms/desktop.h"
+#include "furniture/theme.h"
+#include "office/failure_patterns.h"
+#include "session/workbook_store.h"
+
+namespace powerpoint {
+
+namespace {
+
+using forms::Place;
+using forms::Slider;
+using forms::Twips;
+using office::Value;
+namespace store = session::store;
+
+constexpr Twips width = 9360;
+constexpr Twips height = 5880;
+constexpr const char* defaultWord = "Default";
+/// Where the sliders stand while the program chooses.
+constexpr double standardTop = 0.25;
+constexpr double standardWidth = 0.9;
+constexpr double standardLeft = 0.1;
+
+std::array<forms::OptionButton, 2> optionsOf(forms::Form& form, const char* name, Twips lineWidth,
+                                             forms::Frame& frame) {
+    return {forms::OptionButton(form, name, {240, 360, lineWidth, 300}, &frame),
+            forms::OptionButton(form, name, {240, 720, lineWidth, 300}, &frame)};
+}
+
+/// From cell O1 of the store.
+const Value& cellAt(const office::Table& cells, std::size_t column) {
+    return cells.at(1, column - store::topColumn + 1);
+}
+
+office::Object storeSheet(const session::OfficeSession& session) {
+    return session.ActiveBook.get("Worksheets").get("Item", store::sheetName).toObject();
+}
+
+}  // namespace
+
+std::int32_t TopToSlider(double fraction) {
+    return FractionToSlider(1 - fraction);
+}
+
+std::int32_t FractionToSlider(double fraction) {
+    // A cell may hold anything; a slider has its ends.
+    return static_cast<std::int32_t>(std::nearbyint(std::clamp(fraction, 0.0, 1.0) * 100));
+}
+
+double SliderToFraction(std::int32_t value) {
+    return value / 100.0;
+}
+
+LayoutForm::LayoutForm(forms::Desktop& theDesktop, session::OfficeSession& session)
+    : Form(theDesktop, "LayoutForm", width, height),
+      TitelBar1(*this, "TitelBar1", {0, 0, width, 420}),
+      Frame1(*this, "Frame1", {240, 660, 3840, 4260}),
+      OptionTop(optionsOf(*this, "OptionTop", 3360, Frame1)),
+      TopSlider(*this, "TopSlider", {1680, 1140, 480, 2520}, Slider::Orientation::Vertical,
+                &Frame1),
+      Label1(*this, "Label1", {240, 3780, 3360, 300}, &Frame1),
+      Frame2(*this, "Frame2", {4320, 660, 4800, 2040}),
+      OptionWidth(optionsOf(*this, "OptionWidth", 4320, Frame2)),
+      WidthSlider(*this, "WidthSlider", {240, 1080, 4320, 480}, Slider::Orientation::Horizontal,
+                  &Frame2),
+      Label2(*this, "Label2", {240, 1620, 4320, 300}, &Frame2),
+      Frame3(*this, "Frame3", {4320, 2880, 4800, 2040}),
+      OptionAlign(optionsOf(*this, "OptionAlign", 4320, Frame3)),
+      AlignSlider(*this, "AlignSlider", {240, 1080, 4320, 480}, Slider::Orientation::Horizontal,
+                  &Frame3),
+      Label3(*this, "Label3", {240, 1620, 4320, 300}, &Frame3),
+      CloseLayout(*this, "CloseLayout", {width - 240 - 1920, 5160, 1920, 480}),
+      session_(session) {
+    escapeCloses = true;
+    setCaptions();
+    wireEvents();
+}
+
+void LayoutForm::setCaptions() {
+    caption = "Murvane";
+    TitelBar1.caption = "Murvane";
+    Frame1.caption = "Top";
+    Frame2.caption = "Width";
+    Frame3.caption = "Left";
+    OptionTop[0].caption = "Just under the slide title";
+    OptionTop[1].caption = "Relative to slide top edge";
+    OptionWidth[0].caption = "90% of slide width";
+    OptionWidth[1].caption = "% of slide width";
+    OptionAlign[0].caption = "Center in slide";
+    OptionAlign[1].caption = "Relative to slide left edge";
+    TopSlider.accessibleName = "Distance from the slide's top edge";
+    WidthSlider.accessibleName = "Width as a share of the slide's";
+    AlignSlider.accessibleName = "Distance from the slide's left edge";
+    for (forms::Label* label : {&Label1, &Label2, &Label3}) {
+        label->transparent = true;
+        label->alignment = forms::Alignment::Centre;
+    }
+    CloseLayout.caption = "Apply";
+    CloseLayout.isDefault = true;
+}
+
+void LayoutForm::wireEvents() {
+    for (const int index : {0, 1}) {
+        const auto at = static_cast<std::size_t>(index);
+        OptionTop.at(at).onClick = [this, index] { OptionTop_Click(index); };
+        OptionWidth.at(at).onClick = [this, index] { OptionWidth_Click(index); };
+        OptionAlign.at(at).onClick = [this, index] { OptionAlign_Click(index); };
+    }
+    for (Slider* slider : {&TopSlider, &WidthSlider, &AlignSlider}) {
+        slider->onChange = [this] { showValues(); };
+    }
+    CloseLayout.onClick = [this] { CloseLayout_Click(); };
+}
+
+void LayoutForm::Form_Load() {
+    topmost = true;
+    shadow_.emplace().Shadow(*this);
+    office::Table cells(1, store::leftColumn - store::topColumn + 1);
+    office::ContinueOnFailure scope;
+    scope.attempt(
+        [&] { cells = storeSheet(session_).get("Range", "O1:R1").get("Value").toTable(); });
+    showCell(cellAt(cells, store::topColumn), OptionTop, TopSlider, standardTop, TopToSlider);
+    showCell(cellAt(cells, store::widthColumn), OptionWidth, WidthSlider, standardWidth,
+             FractionToSlider);
+    showCell(cellAt(cells, store::leftColumn), OptionAlign, AlignSlider, standardLeft,
+             FractionToSlider);
+    showValues();
+    furniture::ApplyTheme(*this);
+}
+
+/// A cell that holds no number leaves the slider at its standard place.
+void LayoutForm::showCell(const Value& cell, Options& options, Slider& slider, double standard,
+                          std::int32_t (*toSlider)(double)) {
+    const bool isDefault = cell.isBlank() || (cell.isText() && cell.toText() == defaultWord);
+    for (forms::OptionButton& option : options) option.startWith(false);
+    options.at(isDefault ? 0 : 1).setValue(true);
+    slider.setValue(toSlider(standard));
+    if (!isDefault) {
+        office::ContinueOnFailure().attempt([&] { slider.setValue(toSlider(cell.toDouble())); });
+    }
+    slider.enabled = !isDefault;
+}
+
+void LayoutForm::choose(Options& options, Slider& slider, int index) {
+    for (std::size_t i = 0; i < options.size(); ++i) {
+        options.at(i).setValue(static_cast<int>(i) == index);
+    }
+    slider.enabled = index != 0;
+}
+
+void LayoutForm::OptionTop_Click(int index) {
+    choose(OptionTop, TopSlider, index);
+}
+
+void LayoutForm::OptionWidth_Click(int index) {
+    choose(OptionWidth, WidthSlider, index);
+}
+
+void LayoutForm::OptionAlign_Click(int index) {
+    choose(OptionAlign, AlignSlider, index);
+}
+
+void LayoutForm::showValues() {
+    Label1.caption = fmt::format("{}% from the top", 100 - TopSlider.value());
+    Label2.caption = fmt::format("{}% of the width", WidthSlider.value());
+    Label3.caption = fmt::format("{}% from the left", AlignSlider.value());
+}
+
+double LayoutForm::SliderToTop() const {
+    return SliderToFraction(100 - TopSlider.value());
+}
+
+void LayoutForm::CloseLayout_Click() {
+    session_.DefaultPlacement = false;
+    requireStoreSheet();
+    const office::Object sheet = storeSheet(session_);
+    const auto write = [&](std::size_t column, const Value& value) {
+        sheet.get("Cells", 1, static_cast<std::int32_t>(column)).put("Value", value);
+    };
+    write(store::topColumn, cellOf(OptionTop, SliderToTop()));
+    write(store::widthColumn, cellOf(OptionWidth, SliderToFraction(WidthSlider.value())));
+    write(store::leftColumn, cellOf(OptionAlign, SliderToFraction(AlignSlider.value())));
+    desktop().unload(*this);
+}
+
+void LayoutForm::requireStoreSheet() {
+    if (session::SheetExists(session_, store::sheetName)) return;
+    const office::Object sheet = session_.ActiveBook.get("Worksheets").call("Add").toObject();
+    sheet.put("Name", store::sheetName);
+    sheet.put("Visible", store::veryHidden);
+}
+
+Value LayoutForm::cellOf(const Options& options, double fraction) {
+    return options.front().value() ? Value(defaultWord) : Value(fraction);
+}
+
+void ShowLayoutUtility(session::OfficeSession& session, forms::Desktop& desktop) {
+    if (session.ActiveBook.isNothing()) {
+        session::ShowWarningNotice(session.notices,
+                                   "An Excel workbook must be open to set slide position.");
+        return;
+    }
+    try {
+        session::EnsureStoreSheet(session);
+        LayoutForm form(desktop, session);
+        desktop.show(form, forms::ShowMode::Modal);
+    } catch (const office::SuiteLost&) {
+        throw;
+    } catch (const std::exception&) {
+        session::ShowWarningNotice(session.notices, "Could not open the slide position utility.");
+    }
+}
+
+}  // namespace powerpoint

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+#include "forms/controls.h"
+#include "forms/form.h"
+#include "furniture/shadow.h"
+#include "furniture/titel_bar.h"
+#include "office/value.h"
+#include "session/office_session.h"
+
+namespace powerpoint {
+
+/// Between fractions of a slide and positions of a slider, 0 to 100. The slider of the top stands
+/// upright: its 100 is the top edge of the slide. What lies outside the slide becomes its nearer
+/// edge.
+[[nodiscard]] std::int32_t TopToSlider(double fraction);
+[[nodiscard]] std::int32_t FractionToSlider(double fraction);
+[[nodiscard]] double SliderToFraction(std::int32_t value);
+
+/// Where the user says how high, how wide and how far from the left pasted shapes stand. It places
+/// nothing: it writes the three values to the store in the workbook, for the exports to read.
+class LayoutForm : public forms::Form {
+public:
+    LayoutForm(forms::Desktop& desktop, session::OfficeSession& session);
+
+    void Form_Load() override;
+    void OptionTop_Click(int index);
+    void OptionWidth_Click(int index);
+    void OptionAlign_Click(int index);
+    /// Writes the values and unloads the form. Failures go to the caller.
+    void CloseLayout_Click();
+
+    [[nodiscard]] double SliderToTop() const;
+
+    furniture::TitelBar TitelBar1;
+    forms::Frame Frame1;
+    std::array<forms::OptionButton, 2> OptionTop;
+    forms::Slider TopSlider;
+    forms::Label Label1;
+    forms::Frame Frame2;
+    std::array<forms::OptionButton, 2> OptionWidth;
+    forms::Slider WidthSlider;
+    forms::Label Label2;
+    forms::Frame Frame3;
+    std::array<forms::OptionButton, 2> OptionAlign;
+    forms::Slider AlignSlider;
+    forms::Label Label3;
+    forms::CommandButton CloseLayout;
+
+private:
+    using Options = std::array<forms::OptionButton, 2>;
+
+    void setCaptions();
+    void wireEvents();
+    void showCell(const office::Value& cell, Options& options, forms::Slider& slider,
+                  double standard, std::int32_t (*toSlider)(double));
+    static void choose(Options& options, forms::Slider& slider, int index);
+    void showValues();
+    void requireStoreSheet();
+    [[nodiscard]] static office::Value cellOf(const Options& options, double fraction);
+
+    session::OfficeSession& session_;
+    std::optional<furniture::clsShadow> shadow_;
+};
+
+/// Opens the form by itself, for the workbook that is open. Whatever keeps it from coming up
+/// becomes a notice.
+void ShowLayoutUtility(session::OfficeSession& session, forms::Desktop& desktop);
+
+}  // namespace powerpoint

@@ -1,0 +1,89 @@
+#include "powerpoint/picture_styles_form.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "forms/desktop.h"
+#include "furniture/theme.h"
+
+namespace powerpoint {
+
+namespace {
+
+using forms::Twips;
+
+constexpr Twips width = 11700;
+constexpr Twips height = 4080;
+constexpr Twips optionWidth = 1740;
+constexpr Twips optionGap = 60;
+
+constexpr std::array<std::string_view, 6> captions = {"None",
+                                                      "Shadow all around",
+                                                      "Shadow ",
+                                                      "Rounded corners",
+                                                      "Reflection not rounded",
+                                                      "Reflection rounded"};
+
+forms::Place placeOf(int index) {
+    const Twips left = 240 + (5 - index) * (optionWidth + optionGap);
+    // Two lines of text, which the longer captions need once they are bold.
+    return {left, 1080, optionWidth, 540};
+}
+
+std::array<forms::OptionButton, 6> optionsOf(forms::Form& form, forms::Frame& frame) {
+    const auto option = [&](int index) {
+        return forms::OptionButton(form, "OptionStyle", placeOf(index), &frame);
+    };
+    return {option(0), option(1), option(2), option(3), option(4), option(5)};
+}
+
+}  // namespace
+
+PredefinedStyles::PredefinedStyles(forms::Desktop& theDesktop, session::OfficeSession& session)
+    : Form(theDesktop, "PredefinedStyles", width, height),
+      TitelBar1(*this, "TitelBar1", {0, 0, width, 420}),
+      Image1(*this, "Image1", {240, 600, 360, 360}),
+      Label1(*this, "Label1", {720, 660, 6000, 300}),
+      Frame3(*this, "Frame3", {240, 1080, width - 480, 1920}),
+      Picture1(*this, "Picture1", {5040, 180, 1140, 780}, &Frame3),
+      OptionStyle(optionsOf(*this, Frame3)),
+      Styles(*this, "Styles", {width - 240 - 1920, 3300, 1920, 480}),
+      session_(session) {
+    caption = "Murvane";
+    escapeCloses = true;
+    TitelBar1.caption = "Murvane";
+    Image1.setPicture({.bytes = {}, .drawing = "icon:powerpoint"});
+    Label1.caption = "Pasting style";
+    Label1.font = {.name = "Tahoma", .sizePt = 11, .bold = true};
+    Label1.transparent = true;
+    Picture1.setPicture({.bytes = {}, .drawing = "icon:chart"});
+    for (std::size_t i = 0; i < OptionStyle.size(); ++i) {
+        OptionStyle.at(i).caption = captions.at(i);
+        OptionStyle.at(i).onClick = [this, i] { OptionStyle_Click(static_cast<int>(i)); };
+    }
+    Styles.caption = "Apply";
+    Styles.isDefault = true;
+    Styles.onClick = [this] { Styles_Click(); };
+}
+
+void PredefinedStyles::Form_Load() {
+    topmost = true;
+    shadow_.emplace().Shadow(*this);
+    furniture::ApplyTheme(*this);
+    for (forms::OptionButton& option : OptionStyle) option.startWith(false);
+    OptionStyle.front().setValue(true);
+}
+
+void PredefinedStyles::OptionStyle_Click(int index) {
+    session_.PictureStyle = static_cast<std::int16_t>(index);
+    for (std::size_t i = 0; i < OptionStyle.size(); ++i) {
+        OptionStyle.at(i).font.bold = static_cast<int>(i) == index;
+    }
+}
+
+void PredefinedStyles::Styles_Click() {
+    desktop().unload(*this);
+}
+
+}  // namespace powerpoint

@@ -1,0 +1,206 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "forms_double/user.h"
+#include "forms_double/windowless_desktop.h"
+#include "office/failure.h"
+#include "powerpoint/layout_form.h"
+#include "powerpoint/picture_styles_form.h"
+#include "session/workbook_store.h"
+#include "session_doubles/test_session.h"
+
+namespace {
+
+using forms_double::choose;
+using forms_double::press;
+using office::Value;
+using Strings = std::vector<std::string>;
+
+TEST(PlacementSliders, StandWhereTheFractionSays) {
+    struct Case {
+        double fraction;
+        int top;
+        int other;
+    };
+    for (const Case& it : {Case{0, 100, 0}, Case{0.25, 75, 25}, Case{0.9, 10, 90}, Case{1, 0, 100},
+                           Case{0.114, 89, 11}, Case{-3, 100, 0}, Case{7e30, 0, 100}}) {
+        EXPECT_EQ(powerpoint::TopToSlider(it.fraction), it.top) << it.fraction;
+        EXPECT_EQ(powerpoint::FractionToSlider(it.fraction), it.other) << it.fraction;
+    }
+    EXPECT_DOUBLE_EQ(powerpoint::SliderToFraction(35), 0.35);
+}
+
+class ToolForms : public testing::Test {
+protected:
+    ToolForms() {
+        test.suite.excel().addWorkbook("Book1.xlsx").sheet("Sales");
+        test.attach();
+    }
+
+    [[nodiscard]] office::Value stored(const char* address) const {
+        return test.sheet(session::store::sheetName).get("Range", address).get("Value");
+    }
+    void store(const Value& top, const Value& width, const Value& left) {
+        session::EnsureStoreSheet(test.session);
+        const office::Object sheet = test.sheet(session::store::sheetName);
+        sheet.get("Range", "O1").put("Value", top);
+        sheet.get("Range", "P1").put("Value", width);
+        sheet.get("Range", "R1").put("Value", left);
+    }
+
+    session_doubles::TestSession test;
+    forms_double::WindowlessDesktop desktop;
+    powerpoint::LayoutForm layout{desktop, test.session};
+    powerpoint::PredefinedStyles styles{desktop, test.session};
+};
+
+/// What a group of the layout form shows: which option, and where the slider stands.
+struct Shown {
+    bool isDefault;
+    int slider;
+    bool isEnabled;
+    bool operator==(const Shown&) const = default;
+};
+
+Shown shown(const std::array<forms::OptionButton, 2>& options, const forms::Slider& slider) {
+    EXPECT_NE(options[0].value(), options[1].value());
+    return {options[0].value(), slider.value(), slider.enabled};
+}
+
+TEST_F(ToolForms, ShowWhatTheStoreHolds) {
+    struct Case {
+        Value top;
+        Value width;
+        Value left;
+        Shown shownTop;
+        Shown shownWidth;
+        Shown shownLeft;
+    };
+    const Shown defaultTop = {true, 75, false};
+    const Shown defaultWidth = {true, 90, false};
+    const Shown defaultLeft = {true, 10, false};
+    const std::vector<Case> cases = {
+        {"Default", "Default", "Default", defaultTop, defaultWidth, defaultLeft},
+        {Value(), Value(), Value(), defaultTop, defaultWidth, defaultLeft},
+        {0.25, 0.5, 0.0, {false, 75, true}, {false, 50, true}, {false, 0, true}},
+        {"Default", 1, 0.4, defaultTop, {false, 100, true}, {false, 40, true}},
+        {"here", "Default", "there", {false, 75, true}, defaultWidth, {false, 10, true}},
+    };
+    for (const Case& it : cases) {
+        store(it.top, it.width, it.left);
+        desktop.load(layout);
+        EXPECT_EQ(shown(layout.OptionTop, layout.TopSlider), it.shownTop);
+        EXPECT_EQ(shown(layout.OptionWidth, layout.WidthSlider), it.shownWidth);
+        EXPECT_EQ(shown(layout.OptionAlign, layout.AlignSlider), it.shownLeft);
+        desktop.unload(layout);
+    }
+}
+
+TEST_F(ToolForms, ShowTheStandardPlacementWithoutAStore) {
+    desktop.load(layout);
+    EXPECT_EQ(shown(layout.OptionTop, layout.TopSlider), (Shown{true, 75, false}));
+    EXPECT_TRUE(layout.topmost);
+}
+
+TEST_F(ToolForms, AnOptionTurnsItsSliderOnAndOff) {
+    desktop.load(layout);
+    choose(layout, "OptionWidth", 1);
+    EXPECT_EQ(shown(layout.OptionWidth, layout.WidthSlider), (Shown{false, 90, true}));
+    EXPECT_FALSE(layout.TopSlider.enabled || layout.AlignSlider.enabled);
+    layout.WidthSlider.setValue(65);
+    EXPECT_EQ(layout.Label2.caption, "65% of the width");
+    choose(layout, "OptionWidth", 0);
+    EXPECT_EQ(shown(layout.OptionWidth, layout.WidthSlider), (Shown{true, 65, false}));
+}
+
+TEST_F(ToolForms, ApplyWritesTheStoreForTheExportsOfThisRun) {
+    store(0.25, "Default", 0.3);
+    desktop.load(layout);
+    choose(layout, "OptionWidth", 1);
+    layout.WidthSlider.setValue(65);
+    choose(layout, "OptionAlign", 0);
+    press(layout, "CloseLayout");
+    EXPECT_DOUBLE_EQ(stored("O1").toDouble(), 0.25);
+    EXPECT_DOUBLE_EQ(stored("P1").toDouble(), 0.65);
+    EXPECT_EQ(stored("R1").toText(), "Default");
+    EXPECT_FALSE(test.session.DefaultPlacement);
+    EXPECT_FALSE(desktop.isLoaded(layout));
+}
+
+TEST_F(ToolForms, ApplyMakesAStoreWhereThereIsNone) {
+    desktop.load(layout);
+    press(layout, "CloseLayout");
+    EXPECT_EQ(stored("O1").toText(), "Default");
+    EXPECT_EQ(test.sheet(session::store::sheetName).get("Visible").toLong(), 2);
+}
+
+TEST_F(ToolForms, ClosingWritesNothing) {
+    store("Default", "Default", "Default");
+    desktop.load(layout);
+    choose(layout, "OptionTop", 1);
+    forms_double::pressEscape(layout);
+    EXPECT_FALSE(desktop.isLoaded(layout));
+    EXPECT_EQ(stored("O1").toText(), "Default");
+    EXPECT_TRUE(test.session.DefaultPlacement);
+}
+
+TEST_F(ToolForms, TheUtilityMakesTheStoreAndShowsTheForm) {
+    desktop.answer("LayoutForm", [](forms::Form& form) { press(form, "CloseLayout"); });
+    powerpoint::ShowLayoutUtility(test.session, desktop);
+    EXPECT_EQ(stored("O1").toText(), "Default");
+    EXPECT_TRUE(test.notices.shown.empty());
+}
+
+TEST_F(ToolForms, TheUtilitySaysWhatKeepsItFromComingUp) {
+    desktop.opensWindows = false;
+    powerpoint::ShowLayoutUtility(test.session, desktop);
+    test.session.ActiveBook.release();
+    powerpoint::ShowLayoutUtility(test.session, desktop);
+    EXPECT_EQ(test.notices.messages(),
+              (Strings{"Could not open the slide position utility.",
+                       "An Excel workbook must be open to set slide position."}));
+    EXPECT_EQ(test.notices.shown.front().title, "Murvane");
+    EXPECT_TRUE(desktop.loadedForms().empty());
+}
+
+/// The numbers of the options in bold.
+std::vector<int> boldOnes(const powerpoint::PredefinedStyles& form) {
+    std::vector<int> bold;
+    for (int i = 0; i < 6; ++i) {
+        if (form.OptionStyle.at(static_cast<std::size_t>(i)).font.bold) bold.push_back(i);
+    }
+    return bold;
+}
+
+TEST_F(ToolForms, StylesBeginWithNoneEachTimeAndKeepTheLastClick) {
+    for (int i = 0; i < 2; ++i) {
+        desktop.load(styles);
+        EXPECT_EQ(test.session.PictureStyle, 0);
+        EXPECT_EQ(boldOnes(styles), std::vector<int>{0});
+        choose(styles, "OptionStyle", 4);
+        EXPECT_EQ(boldOnes(styles), std::vector<int>{4});
+        forms_double::close(styles);
+        EXPECT_EQ(test.session.PictureStyle, 4);
+    }
+    desktop.load(styles);
+    choose(styles, "OptionStyle", 2);
+    press(styles, "Styles");
+    EXPECT_FALSE(desktop.isLoaded(styles));
+    EXPECT_EQ(test.session.PictureStyle, 2);
+}
+
+TEST_F(ToolForms, StylesStandFromRightToLeft) {
+    Strings captions;
+    for (std::size_t i = styles.OptionStyle.size(); i-- > 0;) {
+        const auto& option = styles.OptionStyle.at(i);
+        captions.push_back(option.caption);
+        EXPECT_TRUE(i == 5 || option.place.left > styles.OptionStyle.at(i + 1).place.left);
+        EXPECT_LE(option.place.left + option.place.width, styles.Frame3.place.width);
+    }
+    EXPECT_EQ(captions, (Strings{"Reflection rounded", "Reflection not rounded", "Rounded corners",
+                                 "Shadow ", "Shadow all around", "None"}));
+}
+
+}  // namespace
