@@ -13,6 +13,7 @@ namespace libreoffice {
 
 namespace excel {
 class CalcDocument;
+class PictureMaker;
 }
 namespace powerpoint {
 class ImpressDocument;
@@ -35,6 +36,7 @@ public:
     Desk(std::shared_ptr<Connection> connection, bool hidden);
 
     [[nodiscard]] Connection& connection() const { return *connection_; }
+    [[nodiscard]] const std::shared_ptr<Connection>& connectionPtr() const { return connection_; }
     [[nodiscard]] bool opensHidden() const { return hidden_; }
 
     /// The record of an open document, made when it is met for the first time. It stays the same
@@ -62,6 +64,9 @@ public:
 
     /// What `Range.CopyPicture` copied last; `Chart.Paste` takes it.
     std::optional<CopiedPicture> copiedPicture;
+
+    /// Makes picture files; null until the first one is asked for.
+    std::shared_ptr<excel::PictureMaker> pictureMaker;
 
     /// Values of the application objects that nothing in the suite answers to.
     std::int32_t calculation = -4105;

@@ -1,0 +1,156 @@
+#include "office/libreoffice/excel/recovered_chart.h"
+
+#include <com/sun/star/container/XHierarchicalNameAccess.hpp>
+#include <com/sun/star/io/XActiveDataSink.hpp>
+#include <com/sun/star/io/XInputStream.hpp>
+#include <com/sun/star/lang/XMultiComponentFactory.hpp>
+#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/util/XChangesBatch.hpp>
+#include <com/sun/star/util/XCloseable.hpp>
+#include <fmt/format.h>
+#include <pugixml.hpp>
+#include <sys/stat.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <sstream>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "office/failure.h"
+#include "office/libreoffice/excel/package_parts.h"
+
+namespace libreoffice::excel {
+
+namespace {
+
+[[noreturn]] void fail(const SheetRecord& sheet, std::string_view why) {
+    throw office::Failure(office::FailureNumber::ApplicationDefined, "Chart",
+                          fmt::format("The chart of the chart sheet \"{}\" could not be read: {}",
+                                      sheet.knownName(), why));
+}
+
+uno::Reference<uno::XInterface> createWith(const Connection& connection, const char* service,
+                                           const uno::Any& argument) {
+    return connection.context()->getServiceManager()->createInstanceWithArgumentsAndContext(
+        rtl::OUString::createFromAscii(service), uno::Sequence<uno::Any>(&argument, 1),
+        connection.context());
+}
+
+/// Moves what begins left of or above the page to its edge. Empty if nothing does.
+std::string withoutNegativePlaces(const std::string& drawing) {
+    pugi::xml_document document;
+    if (!document.load_buffer(drawing.data(), drawing.size(), pugi::parse_full)) return {};
+    bool mended = false;
+    for (const pugi::xml_node anchor : document.document_element().children()) {
+        for (pugi::xml_node place : anchor.children()) {
+            if (!std::string_view(place.name()).ends_with("pos")) continue;
+            for (pugi::xml_attribute side : place.attributes()) {
+                if (side.as_llong() >= 0) continue;
+                side.set_value(0);
+                mended = true;
+            }
+        }
+    }
+    if (!mended) return {};
+    std::ostringstream text;
+    document.save(text, "", pugi::format_raw);
+    return text.str();
+}
+
+void replacePart(const Connection& connection, const rtl::OUString& package,
+                 const std::string& part, const std::string& text) {
+    const auto zip = createWith(connection, "com.sun.star.packages.Package", uno::Any(package));
+    uno::Reference<css::io::XActiveDataSink> sink(
+        as<css::container::XHierarchicalNameAccess>(zip)->getByHierarchicalName(toUno(part)),
+        uno::UNO_QUERY_THROW);
+    const uno::Sequence<sal_Int8> bytes(reinterpret_cast<const sal_Int8*>(text.data()),
+                                        static_cast<sal_Int32>(text.size()));
+    sink->setInputStream(as<css::io::XInputStream>(
+        createWith(connection, "com.sun.star.io.SequenceInputStream", uno::Any(bytes))));
+    as<css::util::XChangesBatch>(zip)->commitChanges();
+}
+
+}  // namespace
+
+/// A folder that only this user can look into, for the copy.
+class RecoveredChart::PrivateFolder {
+public:
+    PrivateFolder() {
+        std::string pattern = (std::filesystem::temp_directory_path() / "murvane-XXXXXX").string();
+        if (mkdtemp(pattern.data()) == nullptr) {
+            throw office::Failure(office::FailureNumber::PathFileAccess, "Chart",
+                                  "No temporary folder can be made");
+        }
+        path_ = pattern;
+    }
+    PrivateFolder(const PrivateFolder&) = delete;
+    PrivateFolder& operator=(const PrivateFolder&) = delete;
+    ~PrivateFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+
+    [[nodiscard]] std::string copyOf(const std::string& file) const {
+        const auto target = path_ / std::filesystem::path(file).filename();
+        std::filesystem::copy_file(file, target);
+        chmod(target.c_str(), S_IRUSR | S_IWUSR);
+        return target.string();
+    }
+
+private:
+    std::filesystem::path path_;
+};
+
+/// The copy of the workbook while it is open.
+class RecoveredChart::OpenCopy {
+public:
+    explicit OpenCopy(uno::Reference<css::frame::XModel> model) : model_(std::move(model)) {}
+    OpenCopy(const OpenCopy&) = delete;
+    OpenCopy& operator=(const OpenCopy&) = delete;
+    ~OpenCopy() {
+        try {
+            as<css::util::XCloseable>(model_)->close(true);
+        } catch (const uno::Exception&) {
+            // The suite has ended and the copy with it.
+        }
+    }
+
+    [[nodiscard]] uno::Reference<css::sheet::XSpreadsheet> sheet(const std::string& name) const {
+        return {as<css::sheet::XSpreadsheetDocument>(model_)->getSheets()->getByName(toUno(name)),
+                uno::UNO_QUERY_THROW};
+    }
+
+private:
+    uno::Reference<css::frame::XModel> model_;
+};
+
+RecoveredChart::RecoveredChart(Desk& desk, CalcDocument& book, SheetRecord& sheet) {
+    const Connection& connection = desk.connection();
+    const rtl::OUString url = book.model()->getURL();
+    const auto parts = PackageParts::open(connection, url);
+    if (!parts || sheet.part.empty() || !url.startsWith("file:"))
+        fail(sheet, "its file is not at hand");
+    const std::string drawing = parts->related(sheet.part, "/drawing");
+    const std::string mended = withoutNegativePlaces(parts->read(drawing));
+    if (mended.empty()) fail(sheet, "it has none");
+
+    folder_ = std::make_unique<PrivateFolder>();
+    std::string file;
+    try {
+        file = folder_->copyOf(pathOfUrl(url));
+    } catch (const std::filesystem::filesystem_error& error) {
+        fail(sheet, error.what());
+    }
+    const rtl::OUString copyUrl = fileUrl(file);
+    replacePart(connection, copyUrl, drawing, mended);
+    copy_ = std::make_unique<OpenCopy>(desk.load(copyUrl, true));
+    charts_ = std::make_unique<ChartShapes>(copy_->sheet(sheet.fileName));
+    if (charts_->all().empty()) fail(sheet, "it has none");
+    chart_ = charts_->all().front();
+}
+
+RecoveredChart::~RecoveredChart() = default;
+
+}  // namespace libreoffice::excel

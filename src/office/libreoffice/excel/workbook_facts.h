@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "office/libreoffice/connection.h"
+
+namespace libreoffice::excel {
+
+/// What the file of a workbook says and LibreOffice forgets when it loads it.
+struct WorkbookFacts {
+    struct Sheet {
+        std::string name;
+        /// The part that holds the sheet.
+        std::string part;
+        bool isChartSheet = false;
+        bool isVeryHidden = false;
+    };
+
+    /// Whether the file could be read at all; if not, the rest says nothing.
+    bool known = false;
+    std::vector<Sheet> sheets;
+    bool structureIsLocked = false;
+};
+
+[[nodiscard]] WorkbookFacts readWorkbookFacts(const Connection& connection,
+                                              const rtl::OUString& url);
+
+}  // namespace libreoffice::excel
