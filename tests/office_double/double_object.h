@@ -1,8 +1,11 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include "office/member_table.h"
@@ -115,13 +118,41 @@ std::shared_ptr<Item> lookUp(const std::vector<std::shared_ptr<Item>>& items, co
     throw Failure(FailureNumber::SubscriptOutOfRange, source, "Subscript out of range");
 }
 
-inline Value count(std::size_t number) {
-    return static_cast<std::int32_t>(number);
+/// The reader of a member table for what `read` gives: a field, a function of the object, or a
+/// lambda that takes it.
+template <class Read>
+auto reading(Read read) {
+    return [read](auto& self, const CallArguments&) { return Value(std::invoke(read, self)); };
+}
+
+/// The writer for a field, in the field's type.
+template <class Self, class Field>
+auto writing(Field Self::*field) {
+    return [field](Self& self, const CallArguments&, const Value& value) {
+        if constexpr (std::is_same_v<Field, bool>) {
+            self.*field = value.toBool();
+        } else if constexpr (std::is_same_v<Field, std::int32_t>) {
+            self.*field = value.toLong();
+        } else if constexpr (std::is_same_v<Field, double>) {
+            self.*field = value.toDouble();
+        } else {
+            self.*field = value.toText();
+        }
+    };
 }
 
 /// Three-valued flags of the object models, of which only two occur: -1 and 0.
 inline Value triState(bool on) {
     return on ? -1 : 0;
+}
+
+template <class Self>
+auto readingTriState(bool Self::*field) {
+    return reading([field](Self& self) { return triState(self.*field); });
+}
+
+inline Value count(std::size_t number) {
+    return static_cast<std::int32_t>(number);
 }
 
 }  // namespace office_double

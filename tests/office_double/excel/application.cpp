@@ -33,48 +33,28 @@ const Table& ExcelApplication::members() {
     using Self = ExcelApplication;
     static const Table table = [] {
         Table made("Application");
-        made.property("Name", [](Self&, const CallArguments&) { return Value("Microsoft Excel"); })
-            .property("Version",
-                      [](Self& self, const CallArguments&) { return Value(self.version_); })
+        made.property("Name", reading([](Self&) { return "Microsoft Excel"; }))
+            .property("Version", reading(&Self::version_))
             .property("Workbooks", &Self::readWorkbooks)
-            .property("ActiveWorkbook",
-                      [](Self& self, const CallArguments&) {
-                          Workbook* book = self.activeWorkbook();
-                          return book == nullptr ? Value() : Value(book->handle());
-                      })
-            .property("ActiveSheet",
-                      [](Self& self, const CallArguments&) {
-                          Workbook* book = self.activeWorkbook();
-                          return book == nullptr ? Value() : valueOf(book->activeTab());
-                      })
-            .property(
-                "ActiveChart",
-                [](Self& self, const CallArguments&) { return valueOf(self.activeChart_.lock()); })
-            .property("Selection",
-                      [](Self& self, const CallArguments&) {
+            .property("ActiveWorkbook", &Self::readActiveWorkbook)
+            .property("ActiveSheet", &Self::readActiveSheet)
+            .property("ActiveChart",
+                      reading([](Self& self) { return valueOf(self.activeChart_.lock()); }))
+            .property("Selection", reading([](Self& self) {
                           return self.selection_ ? Value(self.selection_) : Value();
-                      })
+                      }))
             .property("Sheets", ofBook("Sheets"))
             .property("Worksheets", ofBook("Worksheets"))
             .property("Charts", ofBook("Charts"))
             .property("Names", ofBook("Names"))
             .method("Range", {"Cell1", "Cell2"}, &Self::range)
-            .method("Cells", {"RowIndex", "ColumnIndex"},
-                    [](Self& self, const CallArguments& arguments) {
-                        return self.requiredSheet(arguments.source()).cell(arguments);
-                    })
-            .method("Rows", {"RowIndex"},
-                    [](Self& self, const CallArguments& arguments) {
-                        return self.requiredSheet(arguments.source()).rows(arguments);
-                    })
-            .method("Columns", {"ColumnIndex"},
-                    [](Self& self, const CallArguments& arguments) {
-                        return self.requiredSheet(arguments.source()).columns(arguments);
-                    })
+            .method("Cells", {"RowIndex", "ColumnIndex"}, ofSheet(&Worksheet::cell))
+            .method("Rows", {"RowIndex"}, ofSheet(&Worksheet::rows))
+            .method("Columns", {"ColumnIndex"}, ofSheet(&Worksheet::columns))
             .method("Intersect", {"Arg1", "Arg2"}, &Self::intersect)
             .method("GetOpenFilename",
                     {"FileFilter", "FilterIndex", "Title", "ButtonText", "MultiSelect"},
-                    [](Self& self, const CallArguments&) { return self.openPromptAnswer_; });
+                    reading(&Self::openPromptAnswer_));
         addSettings(made);
         addWorksheetFunctions(made);
         return made;
@@ -114,6 +94,12 @@ void ExcelApplication::addWorksheetFunctions(Table& table) {
         .method("Max", {"Arg1", "Arg2"}, [](ExcelApplication&, const CallArguments& arguments) {
             return Value(std::max(arguments.at(0).toDouble(), arguments.at(1).toDouble()));
         });
+}
+
+ExcelApplication::Reader ExcelApplication::ofSheet(Value (Worksheet::*read)(const CallArguments&)) {
+    return [read](ExcelApplication& self, const CallArguments& arguments) {
+        return (self.requiredSheet(arguments.source()).*read)(arguments);
+    };
 }
 
 ExcelApplication::Reader ExcelApplication::ofBook(std::string member) {
@@ -179,6 +165,16 @@ Worksheet& ExcelApplication::requiredSheet(const std::string& source) const {
     auto* sheet = dynamic_cast<Worksheet*>(requiredBook(source).activeTab().get());
     if (sheet != nullptr) return *sheet;
     throw Failure(FailureNumber::ApplicationDefined, source, "The active sheet is no worksheet");
+}
+
+Value ExcelApplication::readActiveWorkbook() {
+    Workbook* book = activeWorkbook();
+    return book == nullptr ? Value() : Value(book->handle());
+}
+
+Value ExcelApplication::readActiveSheet() {
+    Workbook* book = activeWorkbook();
+    return book == nullptr ? Value() : valueOf(book->activeTab());
 }
 
 Value ExcelApplication::readWorkbooks() {

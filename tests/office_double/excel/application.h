@@ -45,11 +45,14 @@ private:
 
     [[nodiscard]] Workbook& requiredBook(const std::string& source) const;
     [[nodiscard]] Worksheet& requiredSheet(const std::string& source) const;
-    /// A member of the active workbook or of its active worksheet.
+    /// A member of the active workbook, or of its active worksheet.
     static Reader ofBook(std::string member);
+    static Reader ofSheet(Value (Worksheet::*read)(const CallArguments&));
     static void addWorksheetFunctions(office::MemberTable<ExcelApplication>& table);
     static void addSettings(office::MemberTable<ExcelApplication>& table);
 
+    Value readActiveWorkbook();
+    Value readActiveSheet();
     Value readWorkbooks();
     Value openBook(const CallArguments& arguments);
     Value range(const CallArguments& arguments);

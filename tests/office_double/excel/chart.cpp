@@ -12,14 +12,10 @@ const office::MemberTable<Chart>& Chart::members() {
     static const office::MemberTable<Chart> table = [] {
         office::MemberTable<Chart> made("Chart");
         return addTo(made)
-            .property("Type", [](Chart&, const CallArguments&) { return Value(3); })
+            .property("Type", reading([](Chart&) { return 3; }))
             .property("Parent", &Chart::readParent)
             .property("ChartArea", &Chart::readChartArea)
-            .property(
-                "HasTitle", [](Chart& self, const CallArguments&) { return Value(self.hasTitle_); },
-                [](Chart& self, const CallArguments&, const Value& on) {
-                    self.hasTitle_ = on.toBool();
-                })
+            .property("HasTitle", reading(&Chart::hasTitle_), writing(&Chart::hasTitle_))
             .property("ChartTitle", &Chart::readTitle)
             .method("Export", {"Filename", "FilterName", "Interactive"}, &Chart::exportTo)
             .method("CopyPicture", {"Appearance", "Format", "Size"}, &Chart::copyPicture)

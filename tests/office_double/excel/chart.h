@@ -19,8 +19,6 @@ public:
     [[nodiscard]] Workbook& book() const override;
 
 private:
-    friend class Sheet;
-
     [[nodiscard]] ChartObject* holder() const;
     [[nodiscard]] CopiedPicture extent() const;
 

@@ -9,39 +9,30 @@
 namespace office_double {
 
 const office::MemberTable<ChartObject>& ChartObject::members() {
-    using Table = office::MemberTable<ChartObject>;
-    const auto side = [](double Box::*which) {
-        return std::pair<Table::Reader, Table::Writer>{
-            [which](ChartObject& self, const CallArguments&) { return Value(self.box_.*which); },
-            [which](ChartObject& self, const CallArguments&, const Value& points) {
-                self.box_.*which = points.toDouble();
-            }};
-    };
-    static const Table table = [&] {
+    using Self = ChartObject;
+    using Table = office::MemberTable<Self>;
+    static const Table table = [] {
         Table made("ChartObject");
-        made.property(
-                "Name", [](ChartObject& self, const CallArguments&) { return Value(self.name_); },
-                [](ChartObject& self, const CallArguments&, const Value& name) {
-                    self.name_ = name.toText();
-                })
-            .property("Index", &ChartObject::readIndex)
-            .property("Chart", &ChartObject::readChart)
-            .property("TopLeftCell", &ChartObject::topLeftCell)
-            .property("BottomRightCell", &ChartObject::bottomRightCell)
-            .property("Parent", [](ChartObject& self,
-                                   const CallArguments&) { return Value(self.sheet().handle()); })
-            .method("Activate", {}, &ChartObject::activate)
-            .method("Select", {"Replace"}, &ChartObject::activate)
-            .method("CopyPicture", {"Appearance", "Format"}, &ChartObject::copyPicture)
-            .method("Delete", {}, &ChartObject::deleteObject);
-        const std::pair<const char*, double Box::*> sides[] = {{"Left", &Box::left},
-                                                               {"Top", &Box::top},
-                                                               {"Width", &Box::width},
-                                                               {"Height", &Box::height}};
-        for (const auto& [name, which] : sides) {
-            const auto [read, write] = side(which);
-            made.property(name, read, write);
-        }
+        made.property("Name", reading(&Self::name_), writing(&Self::name_))
+            .property("Index", &Self::readIndex)
+            .property("Chart", &Self::readChart)
+            .property("TopLeftCell", &Self::topLeftCell)
+            .property("BottomRightCell", &Self::bottomRightCell)
+            .property("Parent", reading([](Self& self) { return self.sheet().handle(); }))
+            .method("Activate", {}, &Self::activate)
+            .method("Select", {"Replace"}, &Self::activate)
+            .method("CopyPicture", {"Appearance", "Format"}, &Self::copyPicture)
+            .method("Delete", {}, &Self::deleteObject);
+        const auto side = [&](const char* name, double Box::*which) {
+            made.property(name, reading([which](Self& self) { return self.box_.*which; }),
+                          [which](Self& self, const CallArguments&, const Value& points) {
+                              self.box_.*which = points.toDouble();
+                          });
+        };
+        side("Left", &Box::left);
+        side("Top", &Box::top);
+        side("Width", &Box::width);
+        side("Height", &Box::height);
         return made;
     }();
     return table;

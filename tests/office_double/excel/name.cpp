@@ -13,19 +13,11 @@ const office::MemberTable<Name>& Name::members() {
     using Self = Name;
     static const auto table =
         office::MemberTable<Self>("Name")
-            .property("Name", [](Self& self, const CallArguments&) { return Value(self.name()); })
-            .property(
-                "RefersTo", [](Self& self, const CallArguments&) { return Value(self.refersTo_); },
-                [](Self& self, const CallArguments&, const Value& formula) {
-                    self.redefine(formula.toText());
-                })
+            .property("Name", reading(&Self::name))
+            .property("RefersTo", reading(&Self::refersTo_), writing(&Self::refersTo_))
             .property("RefersToR1C1", &Self::readFormulaR1C1)
             .property("RefersToRange", &Self::readRange)
-            .property(
-                "Visible", [](Self& self, const CallArguments&) { return Value(self.visible_); },
-                [](Self& self, const CallArguments&, const Value& visible) {
-                    self.visible_ = visible.toBool();
-                })
+            .property("Visible", reading(&Self::visible_), writing(&Self::visible_))
             .property("Parent", &Self::readParent)
             .method("Delete", {}, &Self::deleteName);
     return table;

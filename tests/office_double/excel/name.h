@@ -27,7 +27,6 @@ public:
     Name& hide();
     /// What it refers to if that is a range of an open workbook, else null.
     [[nodiscard]] std::shared_ptr<Range> range() const;
-    void redefine(std::string refersTo) { refersTo_ = std::move(refersTo); }
     void sheetRenamed(const std::string& from, const std::string& to);
     void sheetDeleted(const std::string& sheet);
 

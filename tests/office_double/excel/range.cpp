@@ -26,40 +26,37 @@ bool onSheet(const Area& area) {
 
 const office::MemberTable<Range>& Range::members() {
     using Self = Range;
-    const auto number = [](auto read) {
-        return [read](Self& self, const CallArguments&) { return Value(read(self)); };
-    };
     static const auto table =
         office::MemberTable<Self>("Range")
-            .property("Address", number([](Self& self) { return self.address(); }))
+            .property("Address", reading(&Self::address))
             .property("Count", &Self::readCount)
             .property("Areas", &Self::readAreas)
-            .property("Worksheet", number([](Self& self) { return self.sheet().handle(); }))
-            .property("Parent", number([](Self& self) { return self.sheet().handle(); }))
+            .property("Worksheet", reading([](Self& self) { return self.sheet().handle(); }))
+            .property("Parent", reading([](Self& self) { return self.sheet().handle(); }))
             .property("Value", &Self::readValue, &Self::writeValue)
             .property("Value2", &Self::readValue, &Self::writeValue)
             .property("Formula", &Self::readFormula)
             .property("Text", &Self::readText)
-            .property("Row", number([](Self& self) { return self.first().top; }))
-            .property("Column", number([](Self& self) { return self.first().left; }))
+            .property("Row", reading([](Self& self) { return self.first().top; }))
+            .property("Column", reading([](Self& self) { return self.first().left; }))
             .property("Rows",
-                      number([](Self& self) { return self.other(self.areas_, Unit::Rows); }))
+                      reading([](Self& self) { return self.other(self.areas_, Unit::Rows); }))
             .property("Columns",
-                      number([](Self& self) { return self.other(self.areas_, Unit::Columns); }))
-            .property("EntireRow", number([](Self& self) {
+                      reading([](Self& self) { return self.other(self.areas_, Unit::Columns); }))
+            .property("EntireRow", reading([](Self& self) {
                           return self.other(
                               {{self.first().top, 1, self.first().bottom, lastColumn}}, Unit::Rows);
                       }))
             .property("Hidden", &Self::readHidden, &Self::writeHidden)
-            .property("Width", number([](Self& self) { return self.width(); }))
-            .property("Height", number([](Self& self) { return self.height(); }))
-            .property("Left", number([](Self& self) {
+            .property("Width", reading(&Self::width))
+            .property("Height", reading(&Self::height))
+            .property("Left", reading([](Self& self) {
                           return (self.first().left - 1) * Worksheet::columnWidth;
                       }))
-            .property("Top", number([](Self& self) {
+            .property("Top", reading([](Self& self) {
                           return (self.first().top - 1) * Worksheet::rowHeight;
                       }))
-            .property("CurrentRegion", number([](Self& self) {
+            .property("CurrentRegion", reading([](Self& self) {
                           return self.other({self.cells().regionAround(self.first())});
                       }))
             .property("NumberFormat", &Self::readFormat, &Self::writeFormat)

@@ -9,7 +9,6 @@
 #include "office_double/excel/chart.h"
 #include "office_double/excel/name.h"
 #include "office_double/excel/worksheet.h"
-#include "office_double/loose_object.h"
 #include "support/png_file.h"
 
 namespace office_double {
@@ -33,32 +32,21 @@ Items tabsOf(const std::vector<std::shared_ptr<Sheet>>& tabs) {
 
 const office::MemberTable<Workbook>& Workbook::members() {
     using Self = Workbook;
-    const auto plain = [](auto read) {
-        return [read](Self& self, const CallArguments&) { return Value(read(self)); };
-    };
     static const auto table =
         office::MemberTable<Self>("Workbook")
-            .property("Name", plain([](Self& self) { return self.name_; }))
-            .property("FullName", plain([](Self& self) { return self.fullName(); }))
-            .property("Path", plain([](Self& self) { return self.folder_; }))
-            .property("ReadOnly", plain([](Self& self) { return self.readOnly_; }))
-            .property("ProtectStructure",
-                      plain([](Self& self) { return self.structureProtected_; }))
-            .property("Saved", plain([](Self& self) { return self.saved_; }),
-                      [](Self& self, const CallArguments&, const Value& saved) {
-                          self.saved_ = saved.toBool();
-                      })
-            .property("ActiveSheet", plain([](Self& self) { return valueOf(self.activeTab()); }))
+            .property("Name", reading(&Self::name_))
+            .property("FullName", reading(&Self::fullName))
+            .property("Path", reading(&Self::folder_))
+            .property("ReadOnly", reading(&Self::readOnly_))
+            .property("ProtectStructure", reading(&Self::structureProtected_))
+            .property("Saved", reading(&Self::saved_), writing(&Self::saved_))
+            .property("ActiveSheet", reading([](Self& self) { return valueOf(self.activeTab()); }))
             .property("Sheets", &Self::readSheets)
             .property("Worksheets", &Self::readWorksheets)
             .property("Charts", &Self::readCharts)
-            .property("Names", plain([](Self& self) { return self.namesOf(nullptr); }))
+            .property("Names", reading([](Self& self) { return self.namesOf(nullptr); }))
             .method("Activate", {}, &Self::activate)
-            .method("Save", {},
-                    [](Self& self, const CallArguments&) {
-                        self.saved_ = true;
-                        return Value();
-                    })
+            .method("Save", {}, &Self::save)
             .method("SaveCopyAs", {"Filename"}, &Self::saveCopyAs)
             .method("Close", {"SaveChanges"}, &Self::close);
     return table;
@@ -228,14 +216,15 @@ Value Workbook::addNameByCall(const CallArguments& arguments) {
 }
 
 Value Workbook::readSheets() {
-    auto made = collection(*this, "Sheets", [this] { return itemsOf(tabs_); });
-    made->method("Add", {"Before", "After", "Count", "Type"},
-                 [this](const CallArguments& arguments) { return addSheet(arguments); });
-    return valueOf(made);
+    return growing([this] { return itemsOf(tabs_); });
 }
 
 Value Workbook::readWorksheets() {
-    auto made = collection(*this, "Sheets", [this] { return tabsOf<Worksheet>(tabs_); });
+    return growing([this] { return tabsOf<Worksheet>(tabs_); });
+}
+
+Value Workbook::growing(std::function<Items()> list) {
+    auto made = collection(*this, "Sheets", std::move(list));
     made->method("Add", {"Before", "After", "Count", "Type"},
                  [this](const CallArguments& arguments) { return addSheet(arguments); });
     return valueOf(made);
@@ -274,6 +263,11 @@ std::string Workbook::freshName() const {
 
 Value Workbook::activate(const CallArguments&) {
     application().activate(*this);
+    return {};
+}
+
+Value Workbook::save(const CallArguments&) {
+    saved_ = true;
     return {};
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "office_double/double_object.h"
+#include "office_double/loose_object.h"
 
 namespace office_double {
 
@@ -60,11 +60,14 @@ public:
 
 private:
     Value readSheets();
+    /// A collection of sheets that takes new ones.
+    Value growing(std::function<Items()> list);
     Value readWorksheets();
     Value readCharts();
     Value addSheet(const CallArguments& arguments);
     Value addNameByCall(const CallArguments& arguments);
     Value activate(const CallArguments& arguments);
+    Value save(const CallArguments& arguments);
     Value saveCopyAs(const CallArguments& arguments);
     Value close(const CallArguments& arguments);
     void insertTab(std::shared_ptr<Sheet> sheet, std::size_t at);

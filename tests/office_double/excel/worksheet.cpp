@@ -37,16 +37,13 @@ const office::MemberTable<Worksheet>& Worksheet::members() {
     static const office::MemberTable<Self> table = [] {
         office::MemberTable<Self> made("Worksheet");
         return addTo(made)
-            .property("Type", [](Self&, const CallArguments&) { return Value(-4167); })
-            .property("CodeName",
-                      [](Self& self, const CallArguments&) { return Value(self.name()); })
+            .property("Type", reading([](Self&) { return -4167; }))
+            .property("CodeName", reading(&Self::name))
             .property("Parent", &Self::readBook)
-            .property("ProtectContents",
-                      [](Self& self, const CallArguments&) { return Value(self.protected_); })
+            .property("ProtectContents", reading(&Self::protected_))
             .property("Names", &Self::readNames)
-            .property(
-                "UsedRange",
-                [](Self& self, const CallArguments&) { return self.rangeOf({self.cells_.used()}); })
+            .property("UsedRange",
+                      reading([](Self& self) { return self.rangeOf({self.cells_.used()}); }))
             .method("ChartObjects", {"Index"}, &Self::chartObjects)
             .method("Range", {"Cell1", "Cell2"}, &Self::range)
             .method("Cells", {"RowIndex", "ColumnIndex"}, &Self::cell)

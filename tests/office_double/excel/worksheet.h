@@ -48,8 +48,6 @@ public:
     void removeChart(ChartObject& chart);
 
 private:
-    friend class Sheet;
-
     [[nodiscard]] Area oneArea(const Value& nameOrRange, const std::string& source);
     Value chartObjects(const CallArguments& arguments);
     Value addChart(const CallArguments& arguments);

@@ -12,20 +12,15 @@ const office::MemberTable<PowerPointApplication>& PowerPointApplication::members
     using Self = PowerPointApplication;
     static const auto table =
         office::MemberTable<Self>("Application")
-            .property("Name",
-                      [](Self&, const CallArguments&) { return Value("Microsoft PowerPoint"); })
-            .property("Version",
-                      [](Self& self, const CallArguments&) { return Value(self.version_); })
+            .property("Name", reading([](Self&) { return "Microsoft PowerPoint"; }))
+            .property("Version", reading(&Self::version_))
             .property("Presentations", &Self::readPresentations)
-            .property("ActivePresentation",
-                      [](Self& self, const CallArguments& arguments) {
-                          return Value(self.requiredPresentation(arguments.source()).handle());
-                      })
-            .property(
-                "ActiveWindow",
-                [](Self& self, const CallArguments& arguments) {
-                    return Value(self.requiredPresentation(arguments.source()).window().handle());
-                })
+            .property("ActivePresentation", reading([](Self& self) {
+                          return self.requiredPresentation("ActivePresentation").handle();
+                      }))
+            .property("ActiveWindow", reading([](Self& self) {
+                          return self.requiredPresentation("ActiveWindow").window().handle();
+                      }))
             .property("SlideShowWindows", &Self::readSlideShowWindows);
     return table;
 }
@@ -55,10 +50,11 @@ void PowerPointApplication::closePresentation(Presentation& presentation) {
     std::erase_if(presentations_, [&](const auto& held) { return held.get() == &presentation; });
 }
 
-Presentation& PowerPointApplication::requiredPresentation(const std::string& source) const {
+Presentation& PowerPointApplication::requiredPresentation(const std::string& member) const {
     Presentation* presentation = activePresentation();
     if (presentation != nullptr) return *presentation;
-    throw Failure(FailureNumber::ApplicationDefined, source, "No presentation is open");
+    throw Failure(FailureNumber::ApplicationDefined, "Application." + member,
+                  "No presentation is open");
 }
 
 Value PowerPointApplication::readPresentations() {

@@ -35,7 +35,7 @@ public:
     void closePresentation(Presentation& presentation);
 
 private:
-    [[nodiscard]] Presentation& requiredPresentation(const std::string& source) const;
+    [[nodiscard]] Presentation& requiredPresentation(const std::string& member) const;
     Value readPresentations();
     Value readSlideShowWindows();
     Value open(const CallArguments& arguments);

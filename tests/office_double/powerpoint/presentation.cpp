@@ -12,24 +12,20 @@ namespace office_double {
 
 const office::MemberTable<Presentation>& Presentation::members() {
     using Self = Presentation;
+    const office::MemberTable<Self>::Names saving = {"FileName", "FileFormat",
+                                                     "EmbedTrueTypeFonts"};
     static const auto table =
         office::MemberTable<Self>("Presentation")
-            .property("Name", [](Self& self, const CallArguments&) { return Value(self.name_); })
-            .property("FullName",
-                      [](Self& self, const CallArguments&) { return Value(self.fullName()); })
-            .property("Path", [](Self& self, const CallArguments&) { return Value(self.folder_); })
-            .property(
-                "Saved", [](Self& self, const CallArguments&) { return triState(self.saved_); },
-                [](Self& self, const CallArguments&, const Value& saved) {
-                    self.saved_ = saved.toBool();
-                })
+            .property("Name", reading(&Self::name_))
+            .property("FullName", reading(&Self::fullName))
+            .property("Path", reading(&Self::folder_))
+            .property("Saved", readingTriState(&Self::saved_), writing(&Self::saved_))
             .property("Slides", &Self::readSlides)
             .property("PageSetup", &Self::readPageSetup)
             .property("SlideShowWindow", &Self::readSlideShowWindow)
             .property("Windows", &Self::readWindows)
-            .method("SaveCopyAs", {"FileName", "FileFormat", "EmbedTrueTypeFonts"},
-                    &Self::saveCopyAs)
-            .method("SaveAs", {"FileName", "FileFormat", "EmbedTrueTypeFonts"}, &Self::saveAs)
+            .method("SaveCopyAs", saving, &Self::saveCopyAs)
+            .method("SaveAs", saving, &Self::saveAs)
             .method("Close", {}, &Self::close);
     return table;
 }

@@ -31,56 +31,35 @@ const office::MemberTable<Shape>& Shape::members() {
     using Table = office::MemberTable<Self>;
     static const Table table = [] {
         Table made("Shape");
-        const auto text = [&](const char* name, std::string Self::*field) {
-            made.property(
-                name, [field](Self& self, const CallArguments&) { return Value(self.*field); },
-                [field](Self& self, const CallArguments&, const Value& value) {
-                    self.*field = value.toText();
-                });
-        };
+        made.property("Name", reading(&Self::name_), writing(&Self::name_))
+            .property("Title", reading(&Self::title_), writing(&Self::title_))
+            .property("AlternativeText", reading(&Self::alternativeText_),
+                      writing(&Self::alternativeText_))
+            .property("Type",
+                      reading([](Self& self) { return static_cast<std::int32_t>(self.kind_); }))
+            .property("LockAspectRatio", readingTriState(&Self::lockAspectRatio_),
+                      writing(&Self::lockAspectRatio_))
+            .property("HasTextFrame",
+                      reading([](Self& self) { return triState(self.kind_ != Kind::Picture); }))
+            .property("TextFrame", &Self::readTextFrame)
+            .property("Shadow", &Self::readShadow)
+            .property("Reflection", &Self::readReflection)
+            .property("AutoShapeType", &Self::readAutoShapeType, &Self::setAutoShapeType)
+            .property("Adjustments", &Self::readAdjustments)
+            .property("Parent", reading([](Self& self) { return self.slide().handle(); }))
+            .method("Select", {"Replace"}, &Self::select)
+            .method("Delete", {}, &Self::deleteShape);
         const auto side = [&](const char* name, double Box::*which) {
-            made.property(
-                name, [which](Self& self, const CallArguments&) { return Value(self.box_.*which); },
-                [which](Self& self, const CallArguments&, const Value& points) {
-                    self.resize(which, points.toDouble());
-                });
+            made.property(name, reading([which](Self& self) { return self.box_.*which; }),
+                          [which](Self& self, const CallArguments&, const Value& points) {
+                              self.resize(which, points.toDouble());
+                          });
         };
-        text("Name", &Self::name_);
-        text("Title", &Self::title_);
-        text("AlternativeText", &Self::alternativeText_);
         side("Left", &Box::left);
         side("Top", &Box::top);
         side("Width", &Box::width);
         side("Height", &Box::height);
-        return made
-            .property("Type",
-                      [](Self& self, const CallArguments&) {
-                          return Value(static_cast<std::int32_t>(self.kind_));
-                      })
-            .property(
-                "LockAspectRatio",
-                [](Self& self, const CallArguments&) { return triState(self.lockAspectRatio_); },
-                [](Self& self, const CallArguments&, const Value& on) {
-                    self.lockAspectRatio_ = on.toBool();
-                })
-            .property("HasTextFrame",
-                      [](Self& self, const CallArguments&) {
-                          return triState(self.kind_ != Kind::Picture);
-                      })
-            .property("TextFrame", &Self::readTextFrame)
-            .property("Shadow", &Self::readShadow)
-            .property("Reflection", &Self::readReflection)
-            .property(
-                "AutoShapeType",
-                [](Self& self, const CallArguments&) { return Value(self.autoShapeType_); },
-                [](Self& self, const CallArguments&, const Value& type) {
-                    self.setAutoShapeType(type);
-                })
-            .property("Adjustments", &Self::readAdjustments)
-            .property("Parent",
-                      [](Self& self, const CallArguments&) { return Value(self.slide().handle()); })
-            .method("Select", {"Replace"}, &Self::select)
-            .method("Delete", {}, &Self::deleteShape);
+        return made;
     }();
     return table;
 }

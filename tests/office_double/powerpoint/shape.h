@@ -60,6 +60,7 @@ private:
     [[nodiscard]] Slide& slide() const;
     void resize(double Box::*side, double points);
     void growWithText();
+    Value readAutoShapeType() { return autoShapeType_; }
     void setAutoShapeType(const Value& type);
 
     Value readTextFrame();

@@ -15,23 +15,14 @@ namespace office_double {
 
 const office::MemberTable<Slide>& Slide::members() {
     using Self = Slide;
-    static const auto table =
-        office::MemberTable<Self>("Slide")
-            .property("SlideIndex", &Self::readIndex)
-            .property("SlideID", [](Self& self, const CallArguments&) { return Value(self.id_); })
-            .property(
-                "Name", [](Self& self, const CallArguments&) { return Value(self.name_); },
-                [](Self& self, const CallArguments&, const Value& name) {
-                    self.name_ = name.toText();
-                })
-            .property(
-                "Layout", [](Self& self, const CallArguments&) { return Value(self.layout_); },
-                [](Self& self, const CallArguments&, const Value& layout) {
-                    self.setLayout(layout);
-                })
-            .property("Shapes", &Self::readShapes)
-            .method("Select", {}, &Self::select)
-            .method("Delete", {}, &Self::deleteSlide);
+    static const auto table = office::MemberTable<Self>("Slide")
+                                  .property("SlideIndex", &Self::readIndex)
+                                  .property("SlideID", reading(&Self::id_))
+                                  .property("Name", reading(&Self::name_), writing(&Self::name_))
+                                  .property("Layout", &Self::readLayout, &Self::setLayout)
+                                  .property("Shapes", &Self::readShapes)
+                                  .method("Select", {}, &Self::select)
+                                  .method("Delete", {}, &Self::deleteSlide);
     return table;
 }
 

@@ -35,6 +35,7 @@ public:
 private:
     Value readIndex();
     Value readShapes();
+    Value readLayout() { return layout_; }
     void setLayout(const Value& layout);
     Value addPicture(const CallArguments& arguments);
     Value addLabel(const CallArguments& arguments);

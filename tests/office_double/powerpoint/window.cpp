@@ -19,14 +19,8 @@ const office::MemberTable<DocumentWindow>& DocumentWindow::members() {
     using Self = DocumentWindow;
     static const auto table =
         office::MemberTable<Self>("DocumentWindow")
-            .property(
-                "ViewType", [](Self& self, const CallArguments&) { return Value(self.viewType_); },
-                [](Self& self, const CallArguments&, const Value& type) {
-                    self.viewType_ = type.toLong();
-                })
-            .property(
-                "Caption",
-                [](Self& self, const CallArguments&) { return Value(self.presentation().name()); })
+            .property("ViewType", reading(&Self::viewType_), writing(&Self::viewType_))
+            .property("Caption", reading([](Self& self) { return self.presentation().name(); }))
             .property("View", &Self::readView)
             .property("Selection", &Self::readSelection)
             .method("Activate", {}, &Self::activate);
