@@ -24,7 +24,7 @@ using forms::Twips;
 using State = forms::CheckBox::State;
 
 constexpr Twips width = 9240;
-constexpr Twips height = 7200;
+constexpr Twips height = 6780;
 
 constexpr int pictures = 0;
 constexpr int editable = 1;

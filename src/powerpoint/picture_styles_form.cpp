@@ -13,10 +13,10 @@ namespace {
 
 using forms::Twips;
 
-constexpr Twips width = 11700;
+constexpr Twips width = 12300;
 constexpr Twips height = 4080;
-constexpr Twips optionWidth = 1740;
-constexpr Twips optionGap = 60;
+constexpr Twips optionWidth = 1800;
+constexpr Twips optionGap = 120;
 
 constexpr std::array<std::string_view, 6> captions = {"None",
                                                       "Shadow all around",
@@ -46,7 +46,7 @@ PredefinedStyles::PredefinedStyles(forms::Desktop& theDesktop, session::OfficeSe
       Image1(*this, "Image1", {240, 600, 360, 360}),
       Label1(*this, "Label1", {720, 660, 6000, 300}),
       Frame3(*this, "Frame3", {240, 1080, width - 480, 1920}),
-      Picture1(*this, "Picture1", {5040, 180, 1140, 780}, &Frame3),
+      Picture1(*this, "Picture1", {5340, 180, 1140, 780}, &Frame3),
       OptionStyle(optionsOf(*this, Frame3)),
       Styles(*this, "Styles", {width - 240 - 1920, 3300, 1920, 480}),
       session_(session) {
