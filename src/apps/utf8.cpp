@@ -1,6 +1,7 @@
 #include "apps/utf8.h"
 
 #include <algorithm>
+#include <array>
 
 namespace apps {
 
@@ -30,6 +31,45 @@ std::size_t characterLength(std::string_view text, std::size_t at) {
     return wrong ? 0 : length;
 }
 
+char32_t characterAt(std::string_view text, std::size_t at, std::size_t length) {
+    const unsigned char lead = byteAt(text, at);
+    if (length == 1) return lead;
+    char32_t character = lead & (0x7FU >> length);
+    for (std::size_t i = 1; i < length; ++i) {
+        character = character << 6U | (byteAt(text, at + i) & 0x3FU);
+    }
+    return character;
+}
+
+struct CharacterRange {
+    char32_t first;
+    char32_t last;
+};
+
+constexpr std::array<CharacterRange, 4> markRanges = {
+    {{0x0300, 0x036F}, {0x200B, 0x200F}, {0x20D0, 0x20FF}, {0xFE00, 0xFE0F}}};
+constexpr std::array<CharacterRange, 9> wideRanges = {{{0x1100, 0x115F},
+                                                       {0x2E80, 0xA4CF},
+                                                       {0xAC00, 0xD7A3},
+                                                       {0xF900, 0xFAFF},
+                                                       {0xFE30, 0xFE6F},
+                                                       {0xFF00, 0xFF60},
+                                                       {0xFFE0, 0xFFE6},
+                                                       {0x1F300, 0x1FAFF},
+                                                       {0x20000, 0x3FFFD}}};
+
+template <std::size_t count>
+bool isIn(const std::array<CharacterRange, count>& ranges, char32_t character) {
+    return std::any_of(ranges.begin(), ranges.end(), [&](const CharacterRange& range) {
+        return character >= range.first && character <= range.last;
+    });
+}
+
+std::size_t columnsOf(char32_t character) {
+    if (isIn(markRanges, character)) return 0;
+    return isIn(wideRanges, character) ? 2 : 1;
+}
+
 }  // namespace
 
 std::size_t firstBadUtf8(std::string_view text) {
@@ -41,10 +81,14 @@ std::size_t firstBadUtf8(std::string_view text) {
     return std::string_view::npos;
 }
 
-std::size_t characterCount(std::string_view text) {
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
-        return !isContinuation(static_cast<unsigned char>(c));
-    }));
+std::size_t columnCount(std::string_view text) {
+    std::size_t columns = 0;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t length = std::max<std::size_t>(1, characterLength(text, at));
+        columns += columnsOf(characterAt(text, at, length));
+        at += length;
+    }
+    return columns;
 }
 
 std::string printable(std::string_view text) {

@@ -6,18 +6,19 @@
 
 namespace {
 
-TEST(ItemListing, ColumnsAreAlignedByCharactersAndHostileTextStaysOnItsLine) {
+TEST(ItemListing, ColumnsAreAlignedAsATerminalShowsThemAndHostileTextStaysOnItsLine) {
     catalogue::ExportList list = sampleList();
     list.rows.resize(3);
     list.rows[0].Text = "Größe";
     list.rows[0].Checked = true;
     list.rows[1].SubItems(4) = "two\nlines\x1b[31m";
     list.rows[2].SubItems(2) = "12";
+    list.rows[2].SubItems(1) = "日本";
     EXPECT_EQ(unattended::listAsTable(list),
               "ITEM          SHEET  KIND   EXPORT  SLIDE  CAPTION\n"
               "Größe         North  chart  yes\n"
               "Chart 1       South  chart  no             two lines [31m\n"
-              "Sales, total  North  range  no      12\n");
+              "Sales, total  日本   range  no      12\n");
 }
 
 TEST(ItemListing, SaysWhichRangesCannotBeExportedAndLeavesGapsOut) {

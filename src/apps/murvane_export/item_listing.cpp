@@ -13,7 +13,7 @@ namespace unattended {
 
 namespace {
 
-using apps::characterCount;
+using apps::columnCount;
 using apps::printable;
 using catalogue::ExportRow;
 
@@ -44,7 +44,7 @@ void appendLine(std::string& table, const Line& line,
     std::string text;
     for (std::size_t i = 0; i < columns; ++i) {
         text += line[i];
-        text.append(widths[i] - characterCount(line[i]) + 2, ' ');
+        text.append(widths[i] - columnCount(line[i]) + 2, ' ');
     }
     text.erase(text.find_last_not_of(' ') + 1);
     table += text + "\n";
@@ -60,7 +60,7 @@ std::string listAsTable(const catalogue::ExportList& list) {
     std::array<std::size_t, columns> widths{};
     for (const Line& line : lines) {
         for (std::size_t i = 0; i < columns; ++i) {
-            widths[i] = std::max(widths[i], characterCount(line[i]));
+            widths[i] = std::max(widths[i], columnCount(line[i]));
         }
     }
     std::string table;

@@ -1,5 +1,6 @@
 #include <signal.h>
 
+#include <chrono>
 #include <memory>
 #include <string>
 #include <variant>
@@ -42,9 +43,14 @@ int main(int count, char** words) {
     }
 
     apps::PosixHost host(console);
+    const auto isInterrupted = [&] { return interruption.hasHappened(); };
     const unattended::SuiteSource suites{
-        [&] { return interruptible(LibreOfficeSuite::startPrivate(), interruption); },
+        [&] {
+            return interruptible(
+                LibreOfficeSuite::startPrivate(std::chrono::seconds(60), isInterrupted),
+                interruption);
+        },
         [&] { return interruptible(LibreOfficeSuite::attachToRunning(), interruption); }};
     return unattended::run(std::get<unattended::Options>(parsed),
-                           {suites, host, console, [&] { return interruption.hasHappened(); }});
+                           {suites, host, console, isInterrupted});
 }

@@ -47,6 +47,17 @@ const std::map<std::string, std::int16_t>& stylesByName() {
     return styles;
 }
 
+std::vector<std::string> styleNames() {
+    std::vector<std::string> names;
+    for (const auto& [name, number] : stylesByName()) names.push_back(name);
+    return names;
+}
+
+/// Says nothing in the help, where the words stand already.
+CLI::Validator oneOf(std::vector<std::string> words) {
+    return CLI::Validator(CLI::IsMember(std::move(words))).description("");
+}
+
 /// The texts of options that become something else than a text.
 struct RawTexts {
     std::string destination = "slides";
@@ -102,16 +113,18 @@ void declareItems(CLI::App& app, Options& options, RawTexts& raw) {
 
 void declareSlides(CLI::App& app, Options& options, RawTexts& raw) {
     app.add_option("--to", raw.destination, "Destination")
-        ->check(CLI::IsMember({"slides"}))
+        ->check(oneOf({"slides"}))
         ->type_name("slides");
     app.add_option("--slides", raw.slides, "New slides at the end, or those that the items name")
-        ->check(CLI::IsMember({"new", "predefined"}))
+        ->check(oneOf({"new", "predefined"}))
         ->type_name("new|predefined");
     app.add_flag("--titles", options.titles, "Captions become slide titles");
     app.add_flag("--source", options.source, "A line with the workbook's path on each slide");
-    app.add_option("--style", raw.style, "Look of the pictures")
-        ->check(CLI::IsMember(stylesByName()))
-        ->type_name("none|shadow-around|shadow|rounded|reflection|reflection-rounded");
+    app.add_option("--style", raw.style,
+                   "Look of the pictures: none, shadow-around, shadow, rounded, reflection or\n"
+                   "reflection-rounded")
+        ->check(oneOf(styleNames()))
+        ->type_name("NAME");
     app.add_flag("--shadow", options.shadow, "A shadow for the last shape of each slide");
     app.add_option("--top", raw.top, "Top edge, as a share of the slide's height")
         ->type_name("F|default");

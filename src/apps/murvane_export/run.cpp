@@ -33,6 +33,7 @@ using session::OfficeSession;
 
 /// The command that opens the main form.
 constexpr const char* mainFormCode = "/112";
+constexpr const char* interruptedText = "Interrupted; nothing was written.";
 
 /// The caller pressed Ctrl-C, or asked by a signal.
 class Interrupted : public std::exception {};
@@ -222,7 +223,7 @@ void Run::runBatch() {
     } catch (const office::Failure& failure) {
         line_.clear();
         letUserSee();
-        if (list_.selected < 0) throw;
+        if (list_.selected < 0 || surroundings_.isInterrupted()) throw;
         const ExportRow& row = list_.rows[static_cast<std::size_t>(list_.selected)];
         throw RunError(fmt::format("\"{}\" on sheet \"{}\" could not be exported: {} ({}).",
                                    itemName(row), row.SubItems(1), failure.description(),
@@ -262,6 +263,15 @@ int Run::sumUp(int remarksOfBatch) {
     return exit_code::done;
 }
 
+std::string reportOf(const office::Failure& failure) {
+    if (dynamic_cast<const office::SuiteLost*>(&failure) != nullptr) {
+        return fmt::format("The office suite has gone ({}). Nothing was written; try again.",
+                           failure.description());
+    }
+    return fmt::format("{} ({}, number {}).", failure.description(), failure.source(),
+                       failure.number());
+}
+
 int runInSuite(const Options& options, const Surroundings& surroundings) {
     Order order = checkOrder(options);
     std::shared_ptr<office::Suite> suite;
@@ -284,23 +294,15 @@ int run(const Options& options, const Surroundings& surroundings) {
     };
     try {
         return runInSuite(options, surroundings);
-    } catch (const Interrupted&) {
-        return complain("Interrupted; nothing was written.", exit_code::failed);
-    } catch (const office::SuiteLost& lost) {
-        if (surroundings.isInterrupted()) {
-            return complain("Interrupted; nothing was written.", exit_code::failed);
-        }
-        return complain(fmt::format("The office suite has gone ({}). Nothing was written; try "
-                                    "again.",
-                                    lost.description()),
-                        exit_code::failed);
     } catch (const UsageError& error) {
         return complain(error.what(), exit_code::wrongUsage);
     } catch (const RunError& error) {
         return complain(error.what(), exit_code::failed);
+    } catch (const Interrupted&) {
+        return complain(interruptedText, exit_code::failed);
     } catch (const office::Failure& failure) {
-        return complain(fmt::format("{} ({}, number {}).", failure.description(), failure.source(),
-                                    failure.number()),
+        // An interruption takes the suite away under whatever is being done with it.
+        return complain(surroundings.isInterrupted() ? interruptedText : reportOf(failure),
                         exit_code::failed);
     } catch (const std::exception& error) {
         return complain(error.what(), exit_code::failed);
