@@ -31,8 +31,8 @@ std::unique_ptr<LibreOfficeSuite> LibreOfficeSuite::attachToRunning() {
 }
 
 std::unique_ptr<LibreOfficeSuite> LibreOfficeSuite::startPrivate(
-    std::chrono::milliseconds patience) {
-    return on(PrivateInstance::start(patience));
+    std::chrono::milliseconds patience, const std::function<bool()>& isUnwanted) {
+    return on(PrivateInstance::start(patience, isUnwanted));
 }
 
 std::unique_ptr<LibreOfficeSuite> LibreOfficeSuite::on(std::unique_ptr<PrivateInstance> instance) {

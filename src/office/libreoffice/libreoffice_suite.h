@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -28,9 +29,10 @@ public:
 
     /// A suite of our own without a window, with a profile of Murvane's that is kept for the next
     /// start. It ends with this object, and with this process, however that ends. `office::Failure`
-    /// if it can't be started in `patience`.
+    /// if it can't be started in `patience`, or as soon as `isUnwanted` says so.
     static std::unique_ptr<LibreOfficeSuite> startPrivate(
-        std::chrono::milliseconds patience = std::chrono::seconds(60));
+        std::chrono::milliseconds patience = std::chrono::seconds(60),
+        const std::function<bool()>& isUnwanted = {});
 
     /// The same over an instance that has been started.
     static std::unique_ptr<LibreOfficeSuite> on(std::unique_ptr<PrivateInstance> instance);

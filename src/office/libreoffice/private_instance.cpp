@@ -46,7 +46,8 @@ Process launch(const Profile& profile, const std::string& pipeName) {
 
 }  // namespace
 
-std::unique_ptr<PrivateInstance> PrivateInstance::start(std::chrono::milliseconds patience) {
+std::unique_ptr<PrivateInstance> PrivateInstance::start(std::chrono::milliseconds patience,
+                                                        const std::function<bool()>& isUnwanted) {
     if (access((programFolder() + "/soffice.bin").c_str(), X_OK) != 0) {
         failToStart(fmt::format("it is not installed in \"{}\"", programFolder()));
     }
@@ -55,7 +56,7 @@ std::unique_ptr<PrivateInstance> PrivateInstance::start(std::chrono::millisecond
     Process process = launch(profile, pipeName);
     std::unique_ptr<PrivateInstance> instance(
         new PrivateInstance(std::move(profile), std::move(pipeName), std::move(process)));
-    instance->waitUntilReady(patience);
+    instance->waitUntilReady(patience, isUnwanted);
     return instance;
 }
 
@@ -78,9 +79,11 @@ PrivateInstance::~PrivateInstance() {
     unlink((profile_.folder() + "/.lock").c_str());
 }
 
-void PrivateInstance::waitUntilReady(std::chrono::milliseconds patience) {
+void PrivateInstance::waitUntilReady(std::chrono::milliseconds patience,
+                                     const std::function<bool()>& isUnwanted) {
     const auto deadline = Clock::now() + patience;
     while (Clock::now() < deadline) {
+        if (isUnwanted && isUnwanted()) failToStart("it is no longer wanted");
         connection_ = Connection::open(pipeName_);
         if (connection_) return;
         if (const auto code = process_.exitCode()) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -15,8 +16,9 @@ class Connection;
 class PrivateInstance {
 public:
     /// Starts it and waits until it answers. `office::Failure` if that takes longer than
-    /// `patience`, or if it ends instead.
-    static std::unique_ptr<PrivateInstance> start(std::chrono::milliseconds patience);
+    /// `patience`, if it ends instead, or as soon as `isUnwanted` says so.
+    static std::unique_ptr<PrivateInstance> start(std::chrono::milliseconds patience,
+                                                  const std::function<bool()>& isUnwanted = {});
     PrivateInstance(const PrivateInstance&) = delete;
     PrivateInstance& operator=(const PrivateInstance&) = delete;
     /// Asks it to end, and ends it if it doesn't; then nothing of it is left but its profile.
@@ -30,7 +32,8 @@ public:
 private:
     PrivateInstance(Profile profile, std::string pipeName, Process process);
 
-    void waitUntilReady(std::chrono::milliseconds patience);
+    void waitUntilReady(std::chrono::milliseconds patience,
+                        const std::function<bool()>& isUnwanted);
     void endPolitely();
 
     Profile profile_;
