@@ -1,0 +1,152 @@
+#include "desktop/browser_view.h"
+
+#include <QtCore/QPointer>
+#include <QtCore/QTimer>
+#include <QtGui/QPainter>
+#include <QtQuickWidgets/QQuickWidget>
+#include <QtWebEngineWidgets/QWebEngineView>
+
+#include <chrono>
+
+#include "desktop/browser_page.h"
+#include "desktop/browser_query.h"
+#include "desktop/looks.h"
+
+namespace desktop {
+
+namespace {
+
+/// Starting the engine keeps the program busy for some tenths of a second: the form comes first.
+constexpr std::chrono::milliseconds formComesFirst{40};
+
+}  // namespace
+
+BrowserView::BrowserView(forms::WebBrowser& browser, QWidget& parent, ViewHost& host)
+    : QWidget(&parent),
+      ControlView(browser, host),
+      browser_(browser) {
+    setFocusPolicy(Qt::StrongFocus);
+    browser_.view = this;
+    if (!browser_.url().empty()) navigate(browser_.url());
+}
+
+void BrowserView::letGo(bool controlIsThere) {
+    if (controlIsThere && browser_.view == this) browser_.view = nullptr;
+}
+
+void BrowserView::navigate(std::string_view url) {
+    complete_ = false;
+    const bool alreadyAsked = !wanted_.isEmpty();
+    wanted_ = textOf(url);
+    if (alreadyAsked) return;
+    const auto delay = view_ == nullptr ? formComesFirst : std::chrono::milliseconds{0};
+    QTimer::singleShot(delay, this, [this] { loadWanted(); });
+}
+
+void BrowserView::loadWanted() {
+    if (view_ == nullptr) startEngine();
+    const QString url = std::exchange(wanted_, QString());
+    page_->show(QUrl(url));
+}
+
+void BrowserView::startEngine() {
+    view_ = new QWebEngineView(this);
+    page_ = new BrowserPage(host().browserProfile(), view_, look().ground);
+    page_->onLink = [this](const QString& url) { follow(url); };
+    view_->setPage(page_);
+    view_->setContextMenuPolicy(Qt::NoContextMenu);
+    view_->setAcceptDrops(false);
+    view_->setGeometry(rect());
+    view_->setAccessibleName(accessibleName());
+    connect(page_, &QWebEnginePage::loadFinished, this,
+            [this](bool succeeded) { loadEnded(succeeded); });
+    connect(page_, &QWebEnginePage::renderProcessTerminated, this, [this] {
+        complete_ = false;
+        view_->hide();
+    });
+    setFocusProxy(view_);
+    view_->hide();
+}
+
+void BrowserView::showPage() {
+    // What the engine paints on is white until its first picture has come.
+    for (QQuickWidget* canvas : view_->findChildren<QQuickWidget*>()) {
+        canvas->setClearColor(look().ground);
+    }
+    view_->show();
+}
+
+void BrowserView::loadEnded(bool succeeded) {
+    // A link that was refused ends as a load that failed, and the page is as complete as before.
+    if (!succeeded || !wanted_.isEmpty()) return;
+    complete_ = true;
+    showPage();
+    tell([this] {
+        if (browser_.onDocumentComplete) browser_.onDocumentComplete();
+    });
+}
+
+void BrowserView::follow(const QString& url) {
+    // The engine is in the middle of its own decision and must not be given a page from within it;
+    // a form that is asked may well do that.
+    host().deliverLater([self = QPointer(this), url] {
+        if (self == nullptr) return;
+        const auto& ask = self->browser_.onBeforeNavigate;
+        const bool cancelled = ask && ask(textOf(url));
+        if (!cancelled && self != nullptr) self->navigate(textOf(url));
+    });
+}
+
+std::optional<std::string> BrowserView::fieldValue(std::string_view id) {
+    if (!complete_) return std::nullopt;
+    const QVariant value =
+        askPage(*page_,
+                QStringLiteral("(function(){var e=document.getElementById(%1);"
+                               "return e&&typeof e.value==='string'?e.value:null;})()")
+                    .arg(scriptText(id)),
+                host());
+    if (value.typeId() != QMetaType::QString) return std::nullopt;
+    return textOf(value.toString());
+}
+
+int BrowserView::contentHeight(std::string_view id) {
+    if (!complete_) return 0;
+    return askPage(
+               *page_,
+               QStringLiteral("(function(){var e=document.getElementById(%1)||document.body;"
+                              "return e?(e.scrollHeight<1?e.offsetHeight:e.scrollHeight):0;})()")
+                   .arg(scriptText(id)),
+               host())
+        .toInt();
+}
+
+std::string BrowserView::checkedValues(std::string_view name) {
+    if (!complete_) return {};
+    return textOf(askPage(*page_,
+                          QStringLiteral("Array.from(document.getElementsByName(%1))"
+                                         ".filter(function(e){return e.checked;})"
+                                         ".map(function(e){return e.value;}).join(',')")
+                              .arg(scriptText(name)),
+                          host())
+                      .toString());
+}
+
+void BrowserView::setStyle(std::string_view property, std::string_view value) {
+    if (!complete_) return;
+    tellPage(*page_, QStringLiteral("(function(p,v){"
+                                    "[document.body,document.documentElement].forEach(function(e){"
+                                    "if(!e)return;if(p in e.style)e.style[p]=v;"
+                                    "else e.style.setProperty(p.toLowerCase(),v);});})(%1,%2)")
+                         .arg(scriptText(property), scriptText(value)));
+}
+
+void BrowserView::paintEvent(QPaintEvent*) {
+    QPainter(this).fillRect(rect(), look().ground);
+}
+
+void BrowserView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (view_ != nullptr) view_->setGeometry(rect());
+}
+
+}  // namespace desktop

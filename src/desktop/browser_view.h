@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtWidgets/QWidget>
+
+#include "desktop/control_view.h"
+#include "forms/web_browser.h"
+
+class QWebEngineView;
+
+namespace desktop {
+
+class BrowserPage;
+
+/// The strip of a form that shows a page. The engine behind it is started by the first page, after
+/// the form has appeared.
+class BrowserView final : public QWidget, public ControlView, public forms::BrowserView {
+public:
+    BrowserView(forms::WebBrowser& browser, QWidget& parent, ViewHost& host);
+
+    QWidget& widget() override { return *this; }
+    void letGo(bool controlIsThere) override;
+
+    void navigate(std::string_view url) override;
+    [[nodiscard]] bool isComplete() override { return complete_; }
+    [[nodiscard]] std::optional<std::string> fieldValue(std::string_view id) override;
+    [[nodiscard]] int contentHeight(std::string_view id) override;
+    [[nodiscard]] std::string checkedValues(std::string_view name) override;
+    void setStyle(std::string_view property, std::string_view value) override;
+
+    /// Null until the engine has been started. For tests.
+    [[nodiscard]] QWebEngineView* engineView() const { return view_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    bool syncOwn() override { return false; }
+    void startEngine();
+    void loadWanted();
+    void showPage();
+    void loadEnded(bool succeeded);
+    void follow(const QString& url);
+
+    forms::WebBrowser& browser_;
+    QWebEngineView* view_ = nullptr;  ///< as the page, the toolkit's
+    BrowserPage* page_ = nullptr;
+    QString wanted_;
+    bool complete_ = false;
+};
+
+}  // namespace desktop

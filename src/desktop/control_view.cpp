@@ -1,0 +1,78 @@
+#include "desktop/control_view.h"
+
+#include <utility>
+
+#include "desktop/looks.h"
+#include "forms/controls.h"
+#include "forms/form.h"
+
+namespace desktop {
+
+namespace {
+
+QColor groundOf(const forms::Control& control) {
+    if (control.backColour && !control.transparent) return colourOf(*control.backColour);
+    if (control.container() != nullptr) return groundOf(*control.container());
+    return colourOf(control.form().backColour);
+}
+
+std::optional<QColor> maybeColour(const std::optional<forms::Colour>& colour) {
+    return colour ? std::optional(colourOf(*colour)) : std::nullopt;
+}
+
+}  // namespace
+
+ControlView::Look ControlView::currentLook() const {
+    return {control_.place,
+            control_.visible,
+            control_.enabled,
+            control_.transparent,
+            control_.caption,
+            control_.toolTip,
+            control_.accessibleName.empty() ? control_.caption : control_.accessibleName,
+            control_.font,
+            groundOf(control_),
+            maybeColour(control_.backColour),
+            maybeColour(control_.foreColour)};
+}
+
+void ControlView::sync() {
+    Look now = currentLook();
+    const bool lookDiffers = !hasLook_ || !(now == look_);
+    if (lookDiffers) {
+        const Look before = std::exchange(look_, std::move(now));
+        applyLook(before);
+        hasLook_ = true;
+        lookChanged();
+    }
+    if (syncOwn() || lookDiffers) widget().update();
+}
+
+void ControlView::applyLook(const Look& before) {
+    QWidget& shown = widget();
+    const bool first = !hasLook_;
+    if (first || look_.place != before.place) shown.setGeometry(pixelsOf(look_.place));
+    if (first || look_.enabled != before.enabled) shown.setEnabled(look_.enabled);
+    if (first || look_.toolTip != before.toolTip) shown.setToolTip(textOf(look_.toolTip));
+    if (first || look_.accessibleName != before.accessibleName) {
+        shown.setAccessibleName(textOf(look_.accessibleName));
+    }
+    if (first) shown.setObjectName(textOf(control_.name()));
+    if (first || look_.font != before.font) shown.setFont(fontOf(look_.font));
+    if (first || look_.visible != before.visible) shown.setVisible(look_.visible);
+}
+
+QString ControlView::caption() const {
+    return textOf(look_.caption);
+}
+
+bool ControlView::marksFocus() {
+    return widget().hasFocus() && host_.keyboardInUse();
+}
+
+QColor ControlView::textColour() const {
+    const QColor full = look_.fore ? *look_.fore : textColourOn(look_.ground);
+    return look_.enabled ? full : blend(look_.ground, full, 0.4);
+}
+
+}  // namespace desktop

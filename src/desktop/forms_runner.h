@@ -1,0 +1,30 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "forms/desktop.h"
+
+namespace desktop {
+
+/// All that a program with windows needs of this folder, without the toolkit's headers.
+class FormsRunner {
+public:
+    /// The arguments have to outlive it. One for the process.
+    FormsRunner(int argumentCount, char** arguments);
+    FormsRunner(const FormsRunner&) = delete;
+    FormsRunner& operator=(const FormsRunner&) = delete;
+    ~FormsRunner();
+
+    [[nodiscard]] forms::Desktop& desktop();
+
+    /// Lets events run while the condition holds, and waits for them without using the processor.
+    /// It is asked after each event. Throws what an event procedure has thrown.
+    void runWhile(const std::function<bool()>& isOpen);
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace desktop

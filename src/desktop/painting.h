@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QtCore/QRectF>
+#include <QtCore/QString>
+#include <QtGui/QPainter>
+
+namespace desktop {
+
+/// Draws text into a box: on one line where it fits, narrowed a little where it nearly fits, and on
+/// several lines where the box is high enough; what doesn't fit then ends in an ellipsis.
+void drawFittedText(QPainter& painter, const QRectF& box, Qt::Alignment alignment,
+                    const QString& text);
+
+/// A filled rectangle with round corners and a line of one pixel inside its edge.
+void drawPlate(QPainter& painter, const QRectF& box, double radius, const QColor& fill,
+               const QColor& line);
+
+/// The frame of whatever has the keyboard.
+void drawFocusRing(QPainter& painter, const QRectF& box, double radius, const QColor& ground);
+
+/// The tick of a check box, or the dash of one that is neither checked nor clear, with its box.
+enum class Mark { None, Tick, Dash };
+void drawCheckMark(QPainter& painter, const QRectF& box, Mark mark, const QColor& ground,
+                   bool enabled, bool hovered);
+
+/// A triangle that points up or down.
+void drawArrow(QPainter& painter, const QRectF& box, bool up, const QColor& colour);
+
+}  // namespace desktop

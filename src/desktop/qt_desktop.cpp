@@ -1,0 +1,161 @@
+#include "desktop/qt_desktop.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QTimer>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
+#include <QtGui/QWindow>
+#include <QtWebEngineCore/QWebEngineProfile>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QMessageBox>
+
+#include <algorithm>
+
+#include "desktop/form_host.h"
+#include "desktop/looks.h"
+
+namespace desktop {
+
+QtDesktop::QtDesktop() = default;
+
+QtDesktop::~QtDesktop() {
+    for (const auto& host : hosts_) host->letGo();
+}
+
+FormHost* QtDesktop::hostOf(const forms::Form& form) const {
+    const auto found = std::find_if(hosts_.begin(), hosts_.end(),
+                                    [&form](const auto& host) { return host->isOf(form); });
+    return found == hosts_.end() ? nullptr : found->get();
+}
+
+FormHost& QtDesktop::hostFor(forms::Form& form) {
+    if (FormHost* known = hostOf(form); known != nullptr) return *known;
+    hosts_.push_back(std::make_unique<FormHost>(form, *this));
+    return *hosts_.back();
+}
+
+void QtDesktop::openWindow(forms::Form& form, forms::ShowMode mode) {
+    QWindow* parent = nullptr;
+    if (mode == forms::ShowMode::Modal) {
+        for (const auto& host : hosts_) {
+            if (host->isOf(form) || host->window() == nullptr) continue;
+            if (host->window()->isVisible()) parent = host->window()->windowHandle();
+        }
+    }
+    hostFor(form).open(mode, parent);
+}
+
+void QtDesktop::runModal(forms::Form& form) {
+    while (isLoaded(form)) waitForEvents();
+}
+
+void QtDesktop::closeWindow(forms::Form& form) {
+    const auto found = std::find_if(hosts_.begin(), hosts_.end(),
+                                    [&form](const auto& host) { return host->isOf(form); });
+    if (found == hosts_.end()) return;
+    (*found)->letGo();
+    // Its widgets may be in the middle of the event that closes it.
+    closed_.push_back(std::move(*found));
+    hosts_.erase(found);
+}
+
+void QtDesktop::bury() {
+    for (const auto& host : hosts_) host->bury();
+    const auto firstFree = std::stable_partition(closed_.begin(), closed_.end(),
+                                                 [](const auto& host) { return host->isBusy(); });
+    std::vector<std::unique_ptr<FormHost>> dead(std::make_move_iterator(firstFree),
+                                                std::make_move_iterator(closed_.end()));
+    closed_.erase(firstFree, closed_.end());
+    for (const auto& host : dead) {
+        std::erase_if(postponed_, [&host](const auto& each) { return each.first == host.get(); });
+    }
+}
+
+void QtDesktop::sync() {
+    for (forms::Form* form : loadedForms()) hostFor(*form).sync();
+}
+
+void QtDesktop::run(const std::function<void()>& event) {
+    // With a failure on its way to whoever let events run, nothing else happens before it arrives.
+    if (failure_ != nullptr) return;
+    try {
+        event();
+    } catch (const std::exception&) {
+        failure_ = std::current_exception();
+        return;
+    }
+    sync();
+}
+
+void QtDesktop::runLater(FormHost& host, std::function<void()> event) {
+    postponed_.emplace_back(&host, std::move(event));
+    if (!holdsEvents()) QTimer::singleShot(0, &context_, [this] { runPostponed(); });
+}
+
+void QtDesktop::runPostponed() {
+    if (holdsEvents()) return;
+    for (auto& [host, event] : std::exchange(postponed_, {})) host->deliver(std::move(event));
+}
+
+void QtDesktop::holdEvents(bool hold) {
+    holds_ += hold ? 1 : -1;
+    if (holds_ == 0 && !postponed_.empty()) {
+        QTimer::singleShot(0, &context_, [this] { runPostponed(); });
+    }
+}
+
+QWebEngineProfile& QtDesktop::browserProfile() {
+    if (profile_ == nullptr) profile_ = std::make_unique<QWebEngineProfile>();
+    return *profile_;
+}
+
+void QtDesktop::pump(bool wait) {
+    sync();
+    QCoreApplication::processEvents(wait ? QEventLoop::WaitForMoreEvents : QEventLoop::AllEvents);
+    sync();
+    bury();
+    throwFailure();
+}
+
+void QtDesktop::letEventsRun() {
+    pump(false);
+}
+
+void QtDesktop::waitForEvents() {
+    pump(true);
+}
+
+void QtDesktop::throwFailure() {
+    if (failure_ != nullptr) std::rethrow_exception(std::exchange(failure_, nullptr));
+}
+
+forms::Screen QtDesktop::screen() const {
+    const QSize size = QGuiApplication::primaryScreen()->geometry().size();
+    return {twipsOf(size.width()), twipsOf(size.height()), forms::twipsPerPixel,
+            forms::twipsPerPixel};
+}
+
+void QtDesktop::messageBox(std::string_view text, std::string_view title) {
+    if (answer_) {
+        answer_(text, title);
+        return;
+    }
+    QMessageBox box(QMessageBox::Warning, textOf(title), textOf(text), QMessageBox::Ok);
+    box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+QWidget* QtDesktop::plateOf(const forms::Form& form) const {
+    const FormHost* host = hostOf(form);
+    return host == nullptr || host->window() == nullptr ? nullptr : &host->window()->plate();
+}
+
+QWidget* QtDesktop::widgetOf(const forms::Control& control) const {
+    const FormHost* host = hostOf(control.form());
+    if (host == nullptr || host->window() == nullptr) return nullptr;
+    ControlView* view = host->window()->viewOf(control);
+    return view == nullptr ? nullptr : &view->widget();
+}
+
+}  // namespace desktop

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QtWidgets/QAbstractButton>
+
+namespace desktop {
+
+/// One of the buttons of a title bar, drawn as strokes.
+class TitelBarButton final : public QAbstractButton {
+public:
+    enum class Sign { Close, Minimise, Maximise };
+
+    TitelBarButton(Sign sign, QWidget& parent);
+
+    void setColours(const QColor& ground, const QColor& stroke);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void paintSign(QPainter& painter, const QColor& stroke) const;
+
+    Sign sign_;
+    QColor ground_;
+    QColor stroke_;
+};
+
+}  // namespace desktop

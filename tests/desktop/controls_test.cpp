@@ -1,0 +1,181 @@
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QSlider>
+#include <gtest/gtest.h>
+
+#include "desktop/fixture.h"
+
+namespace {
+
+using Controls = OnTheDesktop;
+
+TEST_F(Controls, AClickOnEachReachesItsFormOnce) {
+    struct Case {
+        const forms::Control& clicked;
+        const char* event;
+    };
+    const Case cases[] = {{form.Check1, "Check1"},         {form.Up, "Up"},
+                          {form.OptionWord, "OptionWord"}, {form.Image2, "Image2"},
+                          {form.ContinueOk, "Continue"},   {form.btnCancel, "Cancel"}};
+    for (const Case& each : cases) {
+        input::click(desk, each.clicked);
+        EXPECT_EQ(times(each.event), 1) << each.event;
+    }
+}
+
+TEST_F(Controls, AValueThatTheFormSetsIsShownAndRaisesItsEventOnlyOnce) {
+    form.Check1.setValue(forms::CheckBox::State::Checked);
+    form.OptionHtml.setValue(true);
+    form.SlideTitle.setText("Costs");
+    form.WidthSlider.setValue(20);
+
+    EXPECT_EQ(widgetOf<QCheckBox>(form.Check1).checkState(), Qt::Checked);
+    EXPECT_FALSE(widgetOf<QAbstractButton>(form.OptionPpt).isChecked());
+    EXPECT_TRUE(widgetOf<QAbstractButton>(form.OptionHtml).isChecked());
+    EXPECT_EQ(widgetOf<QLineEdit>(form.SlideTitle).text(), QStringLiteral("Costs"));
+    EXPECT_EQ(widgetOf<QSlider>(form.WidthSlider).value(), 20);
+    for (const char* event : {"Check1", "OptionHtml", "SlideTitle=Costs", "WidthSlider=20"}) {
+        EXPECT_EQ(times(event), 1) << event;
+    }
+}
+
+TEST_F(Controls, AGreyCheckBoxIsShownSoAndAClickClearsIt) {
+    EXPECT_EQ(widgetOf<QCheckBox>(form.Check1).checkState(), Qt::PartiallyChecked);
+    input::click(desk, form.Check1);
+    EXPECT_EQ(form.Check1.value(), forms::CheckBox::State::Unchecked);
+    input::click(desk, form.Check1);
+    EXPECT_EQ(form.Check1.value(), forms::CheckBox::State::Checked);
+}
+
+TEST_F(Controls, ADisabledOrHiddenControlTakesNoInput) {
+    form.Up.enabled = false;
+    input::click(desk, form.Up);
+    form.Up.enabled = true;
+    form.Frame4.enabled = false;
+    input::click(desk, form.Up);
+    EXPECT_EQ(times("Up"), 0);
+
+    form.OptionWord.visible = false;
+    EXPECT_FALSE(widgetOf<QWidget>(form.OptionWord).isVisible());
+}
+
+TEST_F(Controls, TypedTextReachesTheFormLetterByLetter) {
+    form.focus = &form.SlideTitle;
+    form.SlideTitle.startWith("");
+    input::type(desk, form, "ab");
+    EXPECT_EQ(times("SlideTitle=a"), 1);
+    EXPECT_EQ(times("SlideTitle=ab"), 1);
+}
+
+TEST_F(Controls, ATextThatTheFormMendsWhileItIsTypedIsShownMended) {
+    form.SlideTitle.startWith("");
+    form.SlideTitle.onChange = [this] {
+        std::string digits = form.SlideTitle.text();
+        std::erase_if(digits, [](char letter) { return letter < '0' || letter > '9'; });
+        form.SlideTitle.setText(digits);
+    };
+    form.focus = &form.SlideTitle;
+    input::type(desk, form, "1x2");
+    EXPECT_EQ(form.SlideTitle.text(), "12");
+    EXPECT_EQ(widgetOf<QLineEdit>(form.SlideTitle).text(), QStringLiteral("12"));
+}
+
+TEST_F(Controls, EnterPressesTheButtonThatHasTheFocusElseTheDefault) {
+    form.focus = &form.SlideTitle;
+    input::key(desk, form, Qt::Key_Return);
+    EXPECT_EQ(times("Continue"), 1);
+    form.focus = &form.Up;
+    input::key(desk, form, Qt::Key_Enter);
+    EXPECT_EQ(times("Up"), 1);
+    EXPECT_EQ(times("Continue"), 1);
+}
+
+TEST_F(Controls, EscapePressesTheCancelButtonAndClosesOnlyAFormThatSaysSo) {
+    form.focus = &form.SlideTitle;
+    input::key(desk, form, Qt::Key_Escape);
+    EXPECT_EQ(times("Cancel"), 1);
+    form.btnCancel.isCancel = false;
+    input::key(desk, form, Qt::Key_Escape);
+    EXPECT_TRUE(desk.isLoaded(form));
+    form.escapeCloses = true;
+    input::key(desk, form, Qt::Key_Escape);
+    EXPECT_FALSE(desk.isLoaded(form));
+}
+
+TEST_F(Controls, ArrowKeysChooseTheNextUsableOptionOfTheFrame) {
+    form.OptionWord.enabled = false;
+    form.focus = &form.OptionPpt;
+    input::key(desk, form, Qt::Key_Right);
+    EXPECT_TRUE(form.OptionHtml.value());
+    EXPECT_EQ(form.focus, &form.OptionHtml);
+    input::key(desk, form, Qt::Key_Down);
+    EXPECT_TRUE(form.OptionPpt.value()) << "the last is followed by the first";
+    EXPECT_TRUE(form.Picture.value()) << "another frame's choice is another";
+}
+
+TEST_F(Controls, TheSliderMovesBySmallAndLargeSteps) {
+    form.focus = &form.WidthSlider;
+    input::key(desk, form, Qt::Key_Right);
+    EXPECT_EQ(form.WidthSlider.value(), 66);
+    input::key(desk, form, Qt::Key_PageDown);
+    EXPECT_EQ(form.WidthSlider.value(), 56);
+    EXPECT_EQ(times("WidthSlider=56"), 1);
+}
+
+TEST_F(Controls, ADoubleClickOnAPictureIsOneClickAndOneDoubleClick) {
+    form.imgChart.onClick = [this] { form.happened.emplace_back("imgChart"); };
+    input::click(desk, form.imgChart);
+    input::doubleClick(desk, form.imgChart);
+    EXPECT_EQ(times("imgChart double"), 1);
+    EXPECT_EQ(times("imgChart"), 1);
+}
+
+TEST_F(Controls, TabGoesFrameByFrameByTabIndexAndComesToTheTitleBarLast) {
+    form.ContinueOk.tabIndex = 0;
+    form.focus = &form.SlideTitle;
+    // Of the options of a frame only the chosen one is a stop.
+    const forms::Control* expected[] = {&form.OptionPpt, &form.Picture,   &form.WidthSlider,
+                                        &form.wbStatus,  &form.cmdHelp,   &form.btnCancel,
+                                        &form.TitelBar1, &form.ContinueOk};
+    for (const forms::Control* control : expected) {
+        input::key(desk, form, Qt::Key_Tab);
+        EXPECT_EQ(form.focus, control)
+            << control->name() << ", not " << (form.focus ? form.focus->name() : "none");
+    }
+}
+
+TEST_F(Controls, EachIsNamedForAScreenReader) {
+    form.cmdHelp.accessibleName = "Help on the items";
+    EXPECT_EQ(widgetOf<QWidget>(form.cmdHelp).accessibleName(),
+              QStringLiteral("Help on the items"));
+    EXPECT_EQ(widgetOf<QWidget>(form.OptionWord).accessibleName(), QStringLiteral("Word"));
+}
+
+TEST_F(Controls, AFrontLabelStaysBehindABackButton) {
+    form.lblActionBar.setZOrder(forms::ZOrder::Front);
+    form.ContinueOk.setZOrder(forms::ZOrder::Back);
+    const QWidget& button = widgetOf<QWidget>(form.ContinueOk);
+    EXPECT_EQ(button.parentWidget()->childAt(button.geometry().center()), &button);
+}
+
+TEST_F(Controls, TheLayerDecidesBetweenControlsOfAKind) {
+    forms::CommandButton over(form, "over", form.ContinueOk.place);
+    const auto shown = [&] {
+        const QWidget& button = widgetOf<QWidget>(form.ContinueOk);
+        return button.parentWidget()->childAt(button.geometry().center())->objectName();
+    };
+    EXPECT_EQ(shown(), QStringLiteral("over"));
+    form.ContinueOk.setZOrder(forms::ZOrder::Front);
+    EXPECT_EQ(shown(), QStringLiteral("ContinueOk"));
+}
+
+TEST_F(Controls, OneThatIsMadeLaterAppearsAndOneThatGoesDisappears) {
+    {
+        const forms::Label late(form, "late", {0, 0, 300, 300});
+        EXPECT_TRUE(widgetOf<QWidget>(late).isVisible());
+    }
+    desk.letEventsRun();
+    EXPECT_EQ(desk.plateOf(form)->findChild<QWidget*>(QStringLiteral("late")), nullptr);
+}
+
+}  // namespace

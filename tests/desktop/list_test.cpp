@@ -1,0 +1,162 @@
+#include <QtCore/QElapsedTimer>
+#include <QtGui/QImage>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QTreeView>
+#include <gtest/gtest.h>
+
+#include "desktop/fixture.h"
+#include "desktop/list_view_view.h"
+
+namespace {
+
+class Lists : public OnTheDesktop {
+protected:
+    desktop::ListViewView& view() { return widgetOf<desktop::ListViewView>(form.listCharts); }
+
+    QPoint textOf(int row) {
+        return view().visualRect(view().model()->index(row, 0)).center() + QPoint(30, 0);
+    }
+    void clickRow(int row) { input::clickAt(desk, *view().viewport(), textOf(row)); }
+    void clickBox(int row) {
+        input::clickAt(desk, *view().viewport(), view().checkBoxOf(row).center());
+    }
+};
+
+TEST_F(Lists, AClickOnTheBoxChecksAndDoesNotSelect) {
+    clickBox(0);
+    EXPECT_FALSE(form.rows.isChecked(0));
+    EXPECT_EQ(form.rows.selected(), 1);
+    EXPECT_EQ(form.happened, std::vector<std::string>{"check 0"});
+    clickBox(0);
+    EXPECT_TRUE(form.rows.isChecked(0));
+}
+
+TEST_F(Lists, AClickOnTheTextSelectsAndDoesNotCheck) {
+    clickRow(3);
+    EXPECT_EQ(form.rows.selected(), 3);
+    EXPECT_TRUE(form.rows.isChecked(3));
+    clickRow(3);
+    EXPECT_EQ(times("row 3"), 2) << "a click on the selected row is a click too";
+}
+
+TEST_F(Lists, ArrowKeysSelectAndSpaceChecks) {
+    form.focus = &form.listCharts;
+    input::key(desk, form, Qt::Key_Down);
+    EXPECT_EQ(form.rows.selected(), 2);
+    EXPECT_EQ(times("row 2"), 1);
+    input::key(desk, form, Qt::Key_Space);
+    EXPECT_TRUE(form.rows.isChecked(2));
+    EXPECT_EQ(times("check 2"), 1);
+    input::key(desk, form, Qt::Key_End);
+    EXPECT_EQ(form.rows.selected(), 11);
+}
+
+TEST_F(Lists, TheFocusAloneSelectsNothing) {
+    form.rows.selectedRow = -1;
+    form.listCharts.rowsChanged();
+    form.focus = &form.listCharts;
+    desk.letEventsRun();
+    EXPECT_EQ(form.rows.selected(), -1);
+    input::key(desk, form, Qt::Key_Down);
+    EXPECT_EQ(form.rows.selected(), 0);
+}
+
+TEST_F(Lists, ACheckThatTheFormTakesBackIsShownClear) {
+    form.listCharts.onItemCheck = [this](std::size_t row) {
+        form.rows.setChecked(row, false);
+        form.listCharts.rowsChanged();
+    };
+    clickBox(2);
+    EXPECT_EQ(view().model()->index(2, 0).data(Qt::CheckStateRole).toInt(), Qt::Unchecked);
+}
+
+TEST_F(Lists, AClickOnAHeaderNamesItsColumn) {
+    QHeaderView& header = *view().header();
+    input::clickAt(desk, *header.viewport(), {header.sectionViewportPosition(3) + 10, 8});
+    EXPECT_EQ(times("column 3"), 1);
+}
+
+TEST_F(Lists, ColumnsAreAsWideAsTheFormSaysAndOnesWithoutWidthAreHidden) {
+    EXPECT_EQ(view().columnWidth(0), 125);
+    EXPECT_TRUE(view().isColumnHidden(2));
+    form.listCharts.columns[2].width = 720;
+    form.listCharts.columns[0].width = 1;
+    desk.letEventsRun();
+    EXPECT_EQ(view().columnWidth(2), 48);
+    EXPECT_TRUE(view().isColumnHidden(0)) << "a twip is less than a pixel";
+}
+
+TEST_F(Lists, AColumnThatTheUserWidensIsWiderForTheFormToo) {
+    view().header()->resizeSection(1, 150);
+    EXPECT_EQ(form.listCharts.columns[1].width, 2250);
+}
+
+TEST_F(Lists, EachRowHasTheColourOfItsText) {
+    form.rows.rows[4].colour = forms::Colour::rgb(0xFF0000);
+    form.rows.rows[4].cells[4] = "WWWWWWWW";
+    form.listCharts.rowsChanged();
+    const QRect cell = view().visualRect(view().model()->index(4, 4));
+    const QImage picture = view().viewport()->grab(cell).toImage();
+    int red = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor pixel = picture.pixelColor(x, y);
+            if (pixel.red() > 200 && pixel.green() < 60) ++red;
+        }
+    }
+    EXPECT_GT(red, 40);
+}
+
+TEST_F(Lists, TheSelectedRowIsBroughtIntoView) {
+    clickRow(1);
+    form.rows.select(11);
+    form.listCharts.rowsChanged();
+    const QRect row = view().visualRect(view().model()->index(11, 0));
+    EXPECT_TRUE(view().viewport()->rect().contains(row.center()));
+}
+
+TEST_F(Lists, FewerRowsOrNoneAreShownAfterAChange) {
+    form.rows.rows.resize(3);
+    form.rows.selectedRow = -1;
+    form.listCharts.rowsChanged();
+    desk.letEventsRun();
+    EXPECT_EQ(view().model()->rowCount(), 3);
+    form.listCharts.rows = nullptr;
+    form.listCharts.rowsChanged();
+    desk.letEventsRun();
+    EXPECT_EQ(view().model()->rowCount(), 0);
+}
+
+TEST(LongLists, AFormWithFiveHundredRowsOpensAtOnceAndTwoThousandScrollFluently) {
+    desktop::QtDesktop desk;
+    QElapsedTimer clock;
+    {
+        sample::SampleForm form(desk, 500);
+        clock.start();
+        desk.show(form, forms::ShowMode::Modeless);
+        desk.letEventsRun();
+        RecordProperty("open_ms", static_cast<int>(clock.elapsed()));
+        EXPECT_LT(clock.elapsed(), 200);
+    }
+    sample::SampleForm form(desk, 2000);
+    desk.show(form, forms::ShowMode::Modeless);
+    desk.letEventsRun();
+    auto& view = dynamic_cast<QTreeView&>(*desk.widgetOf(form.listCharts));
+    constexpr int steps = 100;
+    clock.restart();
+    for (int i = 0; i < steps; ++i) {
+        view.verticalScrollBar()->setValue(i * 400);
+        desk.letEventsRun();
+    }
+    RecordProperty("scroll_step_us", static_cast<int>(clock.nsecsElapsed() / 1000 / steps));
+    EXPECT_LT(clock.elapsed(), 16 * steps) << "a picture of the screen";
+    clock.restart();
+    for (std::size_t row = 0; row < 20; ++row) {
+        form.listCharts.check(row, !form.rows.isChecked(row));
+        desk.letEventsRun();
+    }
+    EXPECT_LT(clock.elapsed(), 20 * 16);
+}
+
+}  // namespace

@@ -1,0 +1,267 @@
+#include <QtCore/QTimer>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
+#include <QtGui/QWindow>
+#include <QtTest/QTest>
+#include <gtest/gtest.h>
+
+#include <ctime>
+#include <stdexcept>
+
+#include "desktop/fixture.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using forms::ShowMode;
+
+class Windows : public OnTheDesktop {
+protected:
+    [[nodiscard]] QWidget& window(const forms::Form& of) {
+        desk.letEventsRun();
+        return *desk.plateOf(of)->window();
+    }
+    void letPass(std::chrono::milliseconds time) {
+        input::waitUntil(
+            desk, [] { return false; }, time);
+    }
+};
+
+/// Answers a modal form once it is up.
+template <class Answer>
+void whenModal(Answer answer) {
+    QTimer::singleShot(30, answer);
+}
+
+TEST_F(Windows, AModalFormReturnsWhenItsButtonUnloadsIt) {
+    sample::SampleForm dialog(desk);
+    dialog.ContinueOk.onClick = [&] { desk.unload(dialog); };
+    whenModal([&] { QTest::mouseClick(desk.widgetOf(dialog.ContinueOk), Qt::LeftButton); });
+    desk.show(dialog, ShowMode::Modal);
+    EXPECT_EQ(dialog.happened, std::vector<std::string>{"unload"});
+    EXPECT_EQ(desk.plateOf(dialog), nullptr);
+}
+
+TEST_F(Windows, OtherFormsTakeNoInputBeneathAModalOne) {
+    sample::SampleForm dialog(desk);
+    whenModal([&] {
+        QTest::mouseClick(window(form).windowHandle(), Qt::LeftButton, {},
+                          desk.widgetOf(form.ContinueOk)->mapTo(&window(form), QPoint(20, 10)));
+        EXPECT_EQ(QGuiApplication::modalWindow(), window(dialog).windowHandle());
+        desk.unload(dialog);
+    });
+    desk.show(dialog, ShowMode::Modal);
+    EXPECT_EQ(times("Continue"), 0);
+    EXPECT_EQ(window(form).windowHandle(),
+              nullptr == QGuiApplication::modalWindow() ? window(form).windowHandle() : nullptr);
+}
+
+TEST_F(Windows, AModalFormStandsAboveTheFormThatOpenedIt) {
+    sample::SampleForm dialog(desk);
+    whenModal([&] {
+        EXPECT_EQ(window(dialog).windowHandle()->transientParent(), window(form).windowHandle());
+        desk.unload(dialog);
+    });
+    desk.show(dialog, ShowMode::Modal);
+}
+
+TEST_F(Windows, AFailureOfAnEventComesOutWhereEventsAreLetRun) {
+    form.Up.onClick = [] { throw std::runtime_error("lost"); };
+    EXPECT_THROW(input::click(desk, form.Up), std::runtime_error);
+    input::click(desk, form.ContinueOk);
+    EXPECT_EQ(times("Continue"), 1) << "and the form goes on";
+}
+
+TEST_F(Windows, AFailureInAModalFormEndsItsShowing) {
+    sample::SampleForm dialog(desk);
+    dialog.Up.onClick = [] { throw std::runtime_error("lost"); };
+    whenModal([&] { QTest::mouseClick(desk.widgetOf(dialog.Up), Qt::LeftButton); });
+    EXPECT_THROW(desk.show(dialog, ShowMode::Modal), std::runtime_error);
+}
+
+TEST_F(Windows, AFormMayOpenAnotherFromItsEventAndBeUnloadedBeneathIt) {
+    sample::SampleForm dialog(desk);
+    form.Up.onClick = [&] {
+        desk.show(dialog, ShowMode::Modal);
+        form.happened.emplace_back("back");
+    };
+    dialog.Up.onClick = [&] { desk.unloadAll(); };
+    whenModal([&] { QTest::mouseClick(desk.widgetOf(dialog.Up), Qt::LeftButton); });
+    input::click(desk, form.Up);
+    EXPECT_EQ(form.happened, (std::vector<std::string>{"unload", "back"}));
+    EXPECT_TRUE(desk.loadedForms().empty());
+}
+
+TEST_F(Windows, AFormObjectThatGoesTakesItsWindowWithIt) {
+    QPointer<QWidget> shown;
+    {
+        sample::SampleForm other(desk);
+        desk.show(other, ShowMode::Modeless);
+        shown = &window(other);
+    }
+    desk.letEventsRun();
+    EXPECT_TRUE(shown.isNull());
+}
+
+TEST_F(Windows, TheTitleBarAndAltF4CloseTheForm) {
+    for (const bool byKey : {false, true}) {
+        sample::SampleForm other(desk);
+        desk.show(other, ShowMode::Modeless);
+        if (byKey) {
+            input::key(desk, other, Qt::Key_F4, Qt::AltModifier);
+        } else {
+            QWidget& bar = widgetOf<QWidget>(other.TitelBar1);
+            input::clickAt(desk, *bar.childAt(bar.width() - 10, 10), {10, 10});
+        }
+        EXPECT_EQ(other.happened, std::vector<std::string>{"unload"}) << byKey;
+    }
+}
+
+TEST_F(Windows, ATitleBarWhoseCloseButtonIsOffKeepsTheForm) {
+    form.TitelBar1.ShowCloseEnabled = false;
+    QWidget& bar = widgetOf<QWidget>(form.TitelBar1);
+    input::clickAt(desk, *bar.childAt(bar.width() - 10, 10), {10, 10});
+    EXPECT_TRUE(desk.isLoaded(form));
+}
+
+TEST_F(Windows, AFormComesUpInTheMiddleUnlessItPlacesItself) {
+    const forms::Screen screen = desk.screen();
+    EXPECT_NEAR(form.place.left + form.place.width / 2, screen.width / 2, 15);
+    sample::SampleForm other(desk);
+    other.placesItself = true;
+    other.place.left = 1500;
+    other.place.top = 3000;
+    desk.show(other, ShowMode::Modeless);
+    EXPECT_EQ(desk.plateOf(other)->mapToGlobal(QPoint(0, 0)), QPoint(100, 200));
+}
+
+TEST_F(Windows, TheWindowFollowsTheFormsPlaceAndTheFormTheWindows) {
+    form.place = {300, 450, 9000, 6000};
+    desk.letEventsRun();
+    EXPECT_EQ(desk.plateOf(form)->size(), QSize(600, 400));
+    EXPECT_EQ(desk.plateOf(form)->mapToGlobal(QPoint(0, 0)), QPoint(20, 30));
+    window(form).move(window(form).pos() + QPoint(10, 0));
+    desk.letEventsRun();
+    EXPECT_EQ(form.place.left, 450);
+}
+
+TEST_F(Windows, TheTopmostMarkComesAndGoesWithoutANewWindow) {
+    const WId before = window(form).winId();
+    for (const bool topmost : {true, false}) {
+        form.topmost = topmost;
+        EXPECT_EQ(window(form).windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint), topmost);
+    }
+    EXPECT_EQ(window(form).winId(), before);
+    EXPECT_TRUE(window(form).isVisible());
+}
+
+TEST_F(Windows, TheWindowIsMinimisedWithItsForm) {
+    form.windowState = forms::WindowState::Minimised;
+    EXPECT_TRUE(window(form).isMinimized());
+    form.windowState = forms::WindowState::Normal;
+    EXPECT_FALSE(window(form).isMinimized());
+}
+
+TEST_F(Windows, ATimerTicksWhileItIsEnabledAndItsFormLoaded) {
+    int ticks = 0;
+    form.Timer1.onTimer = [&] {
+        if (++ticks == 3) form.Timer1.enabled = false;
+    };
+    form.Timer1.enabled = true;
+    EXPECT_TRUE(input::waitUntil(desk, [&] { return ticks == 3; }));
+    letPass(60ms);
+    EXPECT_EQ(ticks, 3);
+    form.Timer1.enabled = true;
+    desk.letEventsRun();
+    desk.unload(form);
+    letPass(60ms);
+    EXPECT_EQ(ticks, 3);
+}
+
+TEST_F(Windows, ATimerThatLetsEventsRunIsNotInterruptedByItself) {
+    int depth = 0;
+    int deepest = 0;
+    form.Timer1.onTimer = [&] {
+        deepest = std::max(deepest, ++depth);
+        QTest::qWait(30);
+        desk.letEventsRun();
+        --depth;
+        form.Timer1.enabled = false;
+    };
+    form.Timer1.enabled = true;
+    EXPECT_TRUE(input::waitUntil(desk, [&] { return deepest > 0 && !form.Timer1.enabled; }));
+    EXPECT_EQ(deepest, 1);
+}
+
+TEST_F(Windows, ATimerOfAFormThatIsOnlyLoadedTicksToo) {
+    sample::SampleForm hidden(desk);
+    desk.load(hidden);
+    bool ticked = false;
+    hidden.Timer1.onTimer = [&] { ticked = true; };
+    hidden.Timer1.enabled = true;
+    EXPECT_TRUE(input::waitUntil(desk, [&] { return ticked; }));
+    EXPECT_EQ(desk.plateOf(hidden), nullptr);
+}
+
+TEST_F(Windows, WaitingForEventsUsesNoProcessorTime) {
+    letPass(100ms);
+    bool woken = false;
+    QTimer::singleShot(600, [&] { woken = true; });
+    const std::clock_t before = std::clock();
+    while (!woken) desk.waitForEvents();
+    const double usedMs = 1000.0 * static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
+    EXPECT_LT(usedMs, 30);
+}
+
+TEST_F(Windows, AMessageBoxIsAnsweredByTheScriptOfATest) {
+    std::string said;
+    desk.answerMessageBoxes([&](std::string_view text, std::string_view title) {
+        said = std::string(title) + ": " + std::string(text);
+    });
+    desk.messageBox("Help file not found: x", "Error");
+    EXPECT_EQ(said, "Error: Help file not found: x");
+}
+
+TEST_F(Windows, TheSystemsMessageBoxWaitsForItsButton) {
+    whenModal([] { QTest::keyClick(QGuiApplication::modalWindow(), Qt::Key_Return); });
+    desk.messageBox("Murvane could not open the notice panel.", "Murvane");
+    EXPECT_EQ(QGuiApplication::modalWindow(), nullptr);
+}
+
+/// Run at several scales of the screen.
+class Scale : public OnTheDesktop {
+protected:
+    /// Whether anything but the ground is painted along the right and lower edges, where text that
+    /// has no room would be cut.
+    static bool isCut(const QImage& picture) {
+        const QColor ground = picture.pixelColor(picture.width() - 1, 0);
+        const auto isInk = [&](int x, int y) {
+            return std::abs(picture.pixelColor(x, y).lightness() - ground.lightness()) > 40;
+        };
+        for (int y = 0; y < picture.height(); ++y) {
+            if (isInk(picture.width() - 1, y)) return true;
+        }
+        for (int x = 0; x < picture.width(); ++x) {
+            if (isInk(x, picture.height() - 1)) return true;
+        }
+        return false;
+    }
+};
+
+TEST_F(Scale, NoCaptionIsCut) {
+    const double ratio = QGuiApplication::primaryScreen()->devicePixelRatio();
+    for (const forms::Control* control :
+         {static_cast<forms::Control*>(&form.Check1), static_cast<forms::Control*>(&form.NbCharts),
+          static_cast<forms::Control*>(&form.OptionPpt),
+          static_cast<forms::Control*>(&form.DestinationFile)}) {
+        QWidget& widget = widgetOf<QWidget>(*control);
+        const QImage picture =
+            desk.plateOf(form)
+                ->grab(QRect(widget.mapTo(desk.plateOf(form), QPoint(0, 0)), widget.size()))
+                .toImage();
+        EXPECT_NEAR(picture.width(), widget.width() * ratio, 1.0);
+        EXPECT_FALSE(isCut(picture)) << control->name() << " at " << ratio;
+    }
+}
+
+}  // namespace
