@@ -38,6 +38,12 @@ public:
         : BookObject<Self>(std::move(desk), std::move(book)),
           sheet_(std::move(sheet)) {}
 
+    /// As for any object; and the sheet must not be known to be deleted.
+    void requireAlive(std::string_view member) const {
+        BookObject<Self>::requireAlive(member);
+        sheet_->requireNotGone(std::string(member));
+    }
+
     [[nodiscard]] SheetRecord& sheet() const { return *sheet_; }
     [[nodiscard]] const SheetPtr& sheetPtr() const { return sheet_; }
     /// Before the sheet is changed: `Failure` Disconnected if it has been deleted.

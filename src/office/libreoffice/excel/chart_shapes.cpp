@@ -52,11 +52,13 @@ std::string ChartShape::readName() const {
 }
 
 ChartShapes::ChartShapes(uno::Reference<css::sheet::XSpreadsheet> sheet)
-    : sheet_(std::move(sheet)) {}
+    : sheet_(std::move(sheet)),
+      supplier_(as<css::table::XTableChartsSupplier>(sheet_)) {}
 
 const std::vector<ChartShapePtr>& ChartShapes::all() {
-    if (!keys_.is()) keys_ = as<css::table::XTableChartsSupplier>(sheet_)->getCharts();
-    const auto keys = keys_->getElementNames();
+    // Asked of the sheet anew each time: the collection keeps the place that the sheet had when it
+    // was made, and reads another sheet's charts once one has been inserted in front.
+    const auto keys = supplier_->getCharts()->getElementNames();
     if (keys != seenKeys_) refresh(keys);
     return charts_;
 }

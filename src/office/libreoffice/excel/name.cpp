@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "office/libreoffice/excel/name_formulas.h"
+#include "office/libreoffice/excel/formulas.h"
 #include "office/libreoffice/excel/objects.h"
 
 namespace libreoffice::excel {

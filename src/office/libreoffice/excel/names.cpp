@@ -5,8 +5,8 @@
 
 #include <utility>
 
+#include "office/libreoffice/excel/formulas.h"
 #include "office/libreoffice/excel/name.h"
-#include "office/libreoffice/excel/name_formulas.h"
 #include "office/libreoffice/excel/objects.h"
 
 namespace libreoffice::excel {

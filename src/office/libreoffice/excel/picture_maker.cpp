@@ -71,7 +71,7 @@ FilterData pngSettings(const ScreenSize& screen, const PictureSize& size, bool t
 
 void writePng(const uno::Reference<css::document::XExporter>& exporter, const FilterData& settings,
               const std::string& path) {
-    removeOldFile(path);
+    makeWayFor(path);
     as<css::document::XFilter>(exporter)->filter(
         propertyValues({{"URL", uno::Any(fileUrl(path))},
                         {"MediaType", uno::Any(rtl::OUString("image/png"))},

@@ -22,9 +22,12 @@ constexpr std::string_view signature = "\x89PNG\r\n\x1a\n";
 
 }  // namespace
 
-void removeOldFile(const std::string& path) {
+void makeWayFor(const std::string& path) {
     std::error_code error;
     if (std::filesystem::is_directory(path, error)) failToWrite(path);
+    // LibreOffice would make the folders of the path.
+    const auto folder = std::filesystem::absolute(path, error).parent_path();
+    if (!std::filesystem::is_directory(folder, error)) failToWrite(path);
     std::filesystem::remove(path, error);
     if (error) failToWrite(path);
 }

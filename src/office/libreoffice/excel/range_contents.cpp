@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "office/libreoffice/excel/cell_values.h"
+#include "office/libreoffice/excel/formulas.h"
 #include "office/libreoffice/excel/range.h"
 
 /// What is in the cells of a range.
@@ -22,10 +23,6 @@ constexpr sal_Int32 contents = css::sheet::CellFlags::VALUE | css::sheet::CellFl
 void requireUnprotected(SheetRecord& sheet, const std::string& source) {
     if (!as<css::util::XProtectable>(sheet.sheet())->isProtected()) return;
     throw Failure(FailureNumber::ApplicationDefined, source, "The sheet is protected");
-}
-
-Value formulaOf(const rtl::OUString& formula) {
-    return formula.isEmpty() ? Value("") : Value(fromUno(formula));
 }
 
 }  // namespace
@@ -54,15 +51,19 @@ void Range::setValue(const Value& value) {
 Value Range::formula() {
     requireReadable(first());
     const auto rows = as<css::sheet::XCellRangeFormula>(cells())->getFormulaArray();
-    if (first().cells() == 1) return formulaOf(rows[0][0]);
+    const auto sheetPlace = static_cast<sal_Int16>(sheet().place());
     office::Table table(static_cast<std::size_t>(first().rows()),
                         static_cast<std::size_t>(first().columns()));
-    for (std::int32_t row = 0; row < first().rows(); ++row) {
-        for (std::int32_t column = 0; column < first().columns(); ++column) {
-            table.at(static_cast<std::size_t>(row) + 1, static_cast<std::size_t>(column) + 1) =
-                formulaOf(rows[row][column]);
+    for (std::size_t row = 1; row <= table.rows(); ++row) {
+        for (std::size_t column = 1; column <= table.columns(); ++column) {
+            const auto below = static_cast<sal_Int32>(row - 1);
+            const auto right = static_cast<sal_Int32>(column - 1);
+            const css::table::CellAddress cell(sheetPlace, first().firstColumn + right,
+                                               first().firstRow + below);
+            table.at(row, column) = formulaOfCell(book(), fromUno(rows[below][right]), cell);
         }
     }
+    if (first().cells() == 1) return table.at(1, 1);
     return table;
 }
 

@@ -80,7 +80,7 @@ private:
 uno::Sequence<sal_Int8> metafileOfSelection(CalcDocument& book) {
     const auto copy =
         as<css::datatransfer::XTransferableSupplier>(book.controller())->getTransferable();
-    if (!copy.is()) fail("This does not work on several areas of different shapes");
+    if (!copy.is()) fail("These cells can't be copied");
     const css::datatransfer::DataFlavor flavor(
         "application/x-openoffice-gdimetafile;windows_formatname=\"GDIMetaFile\"", "GDIMetaFile",
         cppu::UnoType<uno::Sequence<sal_Int8>>::get());
@@ -95,10 +95,6 @@ CellBlock picturedPart(const SheetPtr& sheet, const CellBlock& block) {
     const auto part = intersection(block, usedBlock(sheet));
     if (!part) fail("There is nothing in these rows or columns");
     return *part;
-}
-
-css::awt::Size sizeOf(const SheetPtr& sheet, const CellBlock& block) {
-    return property<css::awt::Size>(sheet->cells(block), "Size");
 }
 
 /// Columns behind the last one that the sheet has memory for are drawn with the default width. An
@@ -131,25 +127,22 @@ uno::Any selectionOf(CalcDocument& book, const SheetPtr& sheet, const CellBlocks
 }
 
 CopiedPicture takePictureOfCells(CalcDocument& book, const SheetPtr& sheet,
-                                 const CellBlocks& blocks) {
-    CellBlocks parts;
-    for (const CellBlock& block : blocks) parts.push_back(picturedPart(sheet, block));
+                                 const CellBlock& block) {
+    const CellBlock part = picturedPart(sheet, block);
     if (!book.controller().is()) fail("The workbook has no window to copy from");
+    const auto cells = sheet->cells(part);
     const ShownForNow shown(book, sheet);
-    const SelectedForNow selected(book, selectionOf(book, sheet, parts));
+    const SelectedForNow selected(book, uno::Any(cells));
     uno::Sequence<sal_Int8> metafile = metafileOfSelection(book);
-    PictureSize size = sizeOfMetafile(metafile);
-    if (parts.size() == 1) {
-        const css::awt::Size cells = sizeOf(sheet, parts.front());
-        if (differs(size, cells)) {
-            allocateColumns(book, sheet, parts.front());
-            metafile = metafileOfSelection(book);
-        }
-        size = {cells.Width, cells.Height};
+    const auto size = property<css::awt::Size>(cells, "Size");
+    if (differs(sizeOfMetafile(metafile), size)) {
+        allocateColumns(book, sheet, part);
+        metafile = metafileOfSelection(book);
     }
-    if (!metafile.hasElements() || size.width <= 0 || size.height <= 0)
+    if (!metafile.hasElements() || size.Width <= 0 || size.Height <= 0) {
         fail("There is nothing to take a picture of");
-    return {metafile, size.width, size.height};
+    }
+    return {metafile, size.Width, size.Height};
 }
 
 }  // namespace libreoffice::excel

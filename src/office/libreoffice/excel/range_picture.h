@@ -5,14 +5,13 @@
 
 namespace libreoffice::excel {
 
-/// A picture of cells as they look on the sheet, charts on them included. Several blocks make one
-/// picture if they have equal rows or equal columns. The user's clipboard stays, his selection is
-/// put back.
+/// A picture of cells as they look on the sheet, charts on them included. The user's clipboard
+/// stays, his selection is put back.
 ///
 /// Whole rows and columns end with the used part of the sheet. `office::Failure` 1004 if there is
 /// nothing to take a picture of.
 [[nodiscard]] CopiedPicture takePictureOfCells(CalcDocument& book, const SheetPtr& sheet,
-                                               const CellBlocks& blocks);
+                                               const CellBlock& block);
 
 /// The cells as LibreOffice selects them: a range, or a collection of ranges.
 [[nodiscard]] uno::Any selectionOf(CalcDocument& book, const SheetPtr& sheet,

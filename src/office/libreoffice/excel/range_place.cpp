@@ -79,8 +79,12 @@ Value Range::select(const CallArguments& arguments) {
 
 /// A copy is taken for its picture: what else can be made of cells goes another way than through
 /// this object.
-Value Range::copyPicture(const CallArguments&) {
-    desk().copiedPicture = takePictureOfCells(book(), sheetPtr(), blocks_);
+Value Range::copyPicture(const CallArguments& arguments) {
+    if (blocks_.size() > 1) {
+        throw Failure(FailureNumber::ApplicationDefined, arguments.source(),
+                      "This can't be done with several areas");
+    }
+    desk().copiedPicture = takePictureOfCells(book(), sheetPtr(), first());
     return true;
 }
 

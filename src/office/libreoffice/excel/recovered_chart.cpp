@@ -1,5 +1,6 @@
 #include "office/libreoffice/excel/recovered_chart.h"
 
+#include <com/sun/star/beans/NamedValue.hpp>
 #include <com/sun/star/container/XHierarchicalNameAccess.hpp>
 #include <com/sun/star/io/XActiveDataSink.hpp>
 #include <com/sun/star/io/XInputStream.hpp>
@@ -61,7 +62,13 @@ std::string withoutNegativePlaces(const std::string& drawing) {
 
 void replacePart(const Connection& connection, const rtl::OUString& package,
                  const std::string& part, const std::string& text) {
-    const auto zip = createWith(connection, "com.sun.star.packages.Package", uno::Any(package));
+    // Told that it is a plain archive; it would look for an OpenDocument manifest otherwise.
+    uno::Sequence<uno::Any> arguments(2);
+    arguments[0] <<= package;
+    arguments[1] <<= css::beans::NamedValue("StorageFormat", uno::Any(rtl::OUString("ZipFormat")));
+    const auto zip =
+        connection.context()->getServiceManager()->createInstanceWithArgumentsAndContext(
+            "com.sun.star.packages.Package", arguments, connection.context());
     uno::Reference<css::io::XActiveDataSink> sink(
         as<css::container::XHierarchicalNameAccess>(zip)->getByHierarchicalName(toUno(part)),
         uno::UNO_QUERY_THROW);

@@ -95,11 +95,7 @@ SheetPtr SheetList::at(std::int32_t place) {
 
 void SheetList::requireThere(const SheetPtr& sheet, const std::string& source) {
     if (!sheet->isGone && sheet->readName() != sheet->knownName()) followNames(readNames());
-    if (sheet->isGone) {
-        throw office::Failure(
-            office::FailureNumber::Disconnected, source,
-            fmt::format("The sheet \"{}\" has been deleted in the meantime", sheet->knownName()));
-    }
+    sheet->requireNotGone(source);
 }
 
 SheetPtr SheetList::add(std::int32_t place) {

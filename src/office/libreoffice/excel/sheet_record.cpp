@@ -1,6 +1,10 @@
 #include "office/libreoffice/excel/sheet_record.h"
 
+#include <fmt/format.h>
+
 #include <utility>
+
+#include "office/failure.h"
 
 namespace libreoffice::excel {
 
@@ -32,6 +36,13 @@ std::string SheetRecord::readName() {
 void SheetRecord::rename(const std::string& name) {
     if (!named_.is()) named_ = as<css::container::XNamed>(sheet_);
     named_->setName(toUno(name));
+}
+
+void SheetRecord::requireNotGone(const std::string& source) const {
+    if (!isGone) return;
+    throw office::Failure(
+        office::FailureNumber::Disconnected, source,
+        fmt::format("The sheet \"{}\" has been deleted in the meantime", knownName()));
 }
 
 std::int32_t SheetRecord::place() {

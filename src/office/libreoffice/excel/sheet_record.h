@@ -35,6 +35,9 @@ public:
     void rename(const std::string& name);
     void noteName(std::string name) { name_ = std::move(name); }
 
+    /// `office::Failure` Disconnected if the sheet has been found deleted.
+    void requireNotGone(const std::string& source) const;
+
     /// The place among all sheets, from 0.
     [[nodiscard]] std::int32_t place();
 

@@ -77,7 +77,9 @@ CellBlock regionAround(const SheetPtr& sheet, const CellBlock& block) {
     const auto range = as<css::sheet::XSheetCellRange>(sheet->cells(block));
     const auto cursor = sheet->sheet()->createCursorByRange(range);
     cursor->collapseToCurrentRegion();
-    return blockAt(cursor);
+    const CellBlock region = blockAt(cursor);
+    // For a cell with nothing around it LibreOffice gives some block that the cell is not in.
+    return around(region, block) == region ? region : block;
 }
 
 CellBlock endOf(const SheetPtr& sheet, const CellBlock& cell, Direction direction) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <com/sun/star/table/CellAddress.hpp>
+
 #include <string>
 
 #include "office/libreoffice/excel/calc_document.h"
@@ -16,5 +18,9 @@ enum class Notation { A1, R1C1 };
 /// And back. `office::Failure` 1004 if it is no formula.
 [[nodiscard]] std::string contentsOfFormula(CalcDocument& book, const std::string& formula,
                                             Notation notation);
+
+/// What a cell holds, in Excel's words: "=SUM(Sales!B2:B3)" from "=SUM($Sales.B2:B3)".
+[[nodiscard]] std::string formulaOfCell(CalcDocument& book, const std::string& formula,
+                                        const css::table::CellAddress& cell);
 
 }  // namespace libreoffice::excel

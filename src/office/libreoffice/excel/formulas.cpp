@@ -1,4 +1,4 @@
-#include "office/libreoffice/excel/name_formulas.h"
+#include "office/libreoffice/excel/formulas.h"
 
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/AddressConvention.hpp>
@@ -22,13 +22,12 @@ public:
         setProperty(parser_, "CompileEnglish", true);
     }
 
-    [[nodiscard]] std::string translate(const std::string& formula, sal_Int16 from,
-                                        sal_Int16 to) const {
-        const css::table::CellAddress corner;
-        setProperty(parser_, "FormulaConvention", sal_Int32{from});
-        const auto tokens = parser_->parseFormula(toUno(formula), corner);
-        setProperty(parser_, "FormulaConvention", sal_Int32{to});
-        return fromUno(parser_->printFormula(tokens, corner));
+    [[nodiscard]] std::string translate(const std::string& formula, sal_Int16 from, sal_Int16 to,
+                                        const css::table::CellAddress& at = {}) const {
+        setProperty(parser_, "FormulaConvention", from);
+        const auto tokens = parser_->parseFormula(toUno(formula), at);
+        setProperty(parser_, "FormulaConvention", to);
+        return fromUno(parser_->printFormula(tokens, at));
     }
 
 private:
@@ -60,6 +59,16 @@ std::string contentsOfFormula(CalcDocument& book, const std::string& formula, No
     if (!contents.empty()) return contents;
     throw office::Failure(office::FailureNumber::ApplicationDefined, "Names.Add",
                           "This is no formula: " + formula);
+}
+
+std::string formulaOfCell(CalcDocument& book, const std::string& formula,
+                          const css::table::CellAddress& cell) {
+    // Most formulas are the same in both: only sheets, areas and arguments are written otherwise.
+    if (!formula.starts_with('=') || formula.find_first_of(".;~!") == std::string::npos)
+        return formula;
+    const Translator translator(book);
+    return "=" + translator.translate(formula.substr(1), css::sheet::AddressConvention::OOO,
+                                      fileConvention, cell);
 }
 
 }  // namespace libreoffice::excel
