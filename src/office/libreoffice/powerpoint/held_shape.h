@@ -15,6 +15,7 @@
 namespace libreoffice::powerpoint {
 
 class HeldPage;
+class TitleLook;
 
 /// A shape of a slide, held for as long as its document's record lives.
 ///
@@ -59,6 +60,10 @@ public:
     [[nodiscard]] bool keepsProportions();
     void keepProportions(bool keep) { keepsProportions_ = keep; }
 
+    /// What the text of a new slide's title takes on when it gets its first words; null for others.
+    void wearOnceFilled(std::shared_ptr<const TitleLook> look) { look_ = std::move(look); }
+    [[nodiscard]] std::shared_ptr<const TitleLook> takeLook() { return std::move(look_); }
+
     /// Another shape takes the place of this one. What automation remembers stays.
     void become(uno::Reference<css::drawing::XShape> other);
 
@@ -69,6 +74,7 @@ private:
     std::weak_ptr<HeldPage> page_;
     std::string service_;
     std::optional<bool> keepsProportions_;
+    std::shared_ptr<const TitleLook> look_;
 };
 
 using HeldShapePtr = std::shared_ptr<HeldShape>;

@@ -1,5 +1,6 @@
 #include "office/libreoffice/powerpoint/presentation_window.h"
 
+#include <com/sun/star/awt/XToolkitExperimental.hpp>
 #include <com/sun/star/awt/XTopWindow.hpp>
 #include <com/sun/star/awt/XWindow2.hpp>
 #include <com/sun/star/beans/UnknownPropertyException.hpp>
@@ -152,6 +153,10 @@ void PresentationWindow::setViewType(const Connection& connection, std::int32_t 
                                   "DocumentWindow.ViewType", "The window keeps its view");
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
+    // A fresh outline goes back to the slide of the view before it a moment later, and would undo
+    // what is shown next.
+    as<css::awt::XToolkitExperimental>(connection.create("com.sun.star.awt.Toolkit"))
+        ->processEventsToIdle();
 }
 
 void PresentationWindow::dispatch(const Connection& connection, const char* command) {

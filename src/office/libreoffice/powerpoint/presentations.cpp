@@ -73,12 +73,23 @@ Value Presentations::open(const CallArguments& arguments) {
         throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
                       "A presentation can't be opened without its title here");
     const std::string path = arguments.at(0).toText();
-    const auto model = desk().load(fileUrl(path), isHidden(arguments.at(3, true)), {},
-                                   arguments.at(1, false).toBool());
-    requirePresentation(model, path);
-    const auto document = desk().presentation(model);
+    auto document = openedFrom(fileUrl(path));
+    if (!document) {
+        const auto model = desk().load(fileUrl(path), isHidden(arguments.at(3, true)), {},
+                                       arguments.at(1, false).toBool());
+        requirePresentation(model, path);
+        document = desk().presentation(model);
+    }
     desk().setActive(document);
     return object(document);
+}
+
+ImpressDocumentPtr Presentations::openedFrom(const rtl::OUString& url) const {
+    // LibreOffice would open a file twice, and the two would go separate ways.
+    for (const auto& document : desk().presentations()) {
+        if (document->model()->getURL() == url) return document;
+    }
+    return nullptr;
 }
 
 Value Presentations::add(const CallArguments& arguments) {

@@ -17,6 +17,8 @@ private:
     office::Value open(const office::CallArguments& arguments);
     office::Value add(const office::CallArguments& arguments);
 
+    /// The open presentation of a file; null if it is not open.
+    [[nodiscard]] ImpressDocumentPtr openedFrom(const rtl::OUString& url) const;
     [[nodiscard]] office::Value object(const ImpressDocumentPtr& document) const;
     /// Whether a document is to have no window that is shown.
     [[nodiscard]] bool isHidden(const office::Value& withWindow) const;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "office/failure.h"
+#include "office/libreoffice/powerpoint/title_look.h"
 #include "office/text.h"
 
 namespace libreoffice::powerpoint {
@@ -26,6 +27,8 @@ std::string textOf(HeldShape& shape) {
 void setTextOf(HeldShape& shape, std::string_view text) {
     const auto& target = requiredText(shape);
     keepingCorner(shape, [&] { target->setString(toParagraphs(text)); });
+    if (text.empty()) return;
+    if (const auto look = shape.takeLook()) look->applyToText(shape);
 }
 
 std::string fromParagraphs(const rtl::OUString& text) {

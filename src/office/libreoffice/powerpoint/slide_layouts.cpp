@@ -86,14 +86,27 @@ void SlideLayouts::requireKnown(std::int32_t layout) {
 
 void SlideLayouts::apply(HeldPage& slide, std::int32_t number) {
     const Layout& layout = layoutNumbered(number);
-    if (isFromPowerPoint()) {
-        const auto target = as<drawing::XMasterPageTarget>(slide.page());
-        const PageRef inherited = target->getMasterPage();
-        const PageRef wanted = masterFor(number, inherited, slide.page());
-        if (wanted.is() && wanted.get() != inherited.get()) target->setMasterPage(wanted);
-    }
-    // Afterwards: the placeholders take their places from the master page.
-    slide.properties()->setPropertyValue("Layout", uno::Any(layout.ofLibreOffice));
+    // The number comes last: the placeholders take their places from the master page.
+    const auto setNumber = [&] {
+        slide.properties()->setPropertyValue("Layout", uno::Any(layout.ofLibreOffice));
+    };
+    if (!isFromPowerPoint()) return setNumber();
+    const auto target = as<drawing::XMasterPageTarget>(slide.page());
+    const PageRef inherited = target->getMasterPage();
+    const PageRef found = masterFor(number, inherited, slide.page());
+    const PageRef& wanted = found.is() ? found : inherited;
+    if (wanted.get() != inherited.get()) target->setMasterPage(wanted);
+    setNumber();
+    if (number != blank) dressTitle(slide, wanted);
+}
+
+void SlideLayouts::dressTitle(HeldPage& slide, const PageRef& masterPage) {
+    const HeldShapePtr title = slide.title();
+    if (!title) return;
+    auto& look = titleLooks_[masterPage.get()];
+    if (!look) look = std::make_shared<const TitleLook>(TitleLook::difference(masterPage, *title));
+    look->applyToFrame(*title);
+    title->wearOnceFilled(look);
 }
 
 bool SlideLayouts::isFromPowerPoint() {

@@ -6,12 +6,14 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "office/libreoffice/powerpoint/held_page.h"
+#include "office/libreoffice/powerpoint/title_look.h"
 
 namespace libreoffice::powerpoint {
 
@@ -47,6 +49,7 @@ private:
         std::int32_t titleTop = 0;
     };
 
+    void dressTitle(HeldPage& slide, const PageRef& masterPage);
     void loadMasters();
     [[nodiscard]] bool isFromPowerPoint();
     [[nodiscard]] PageRef masterFor(std::int32_t layout, const PageRef& inherited,
@@ -63,6 +66,7 @@ private:
     uno::Reference<css::frame::XModel> model_;
     std::optional<bool> fromPowerPoint_;
     std::vector<Master> masters_;
+    std::map<css::drawing::XDrawPage*, std::shared_ptr<const TitleLook>> titleLooks_;
     /// What was found for a layout in the design of a master page.
     std::map<std::pair<std::int32_t, css::drawing::XDrawPage*>, PageRef> found_;
 };
