@@ -14,6 +14,7 @@
 #include "office/libreoffice/powerpoint/impress_document.h"
 #include "office/libreoffice/private_instance.h"
 #include "office/libreoffice/running_instance.h"
+#include "office/text.h"
 
 namespace libreoffice {
 
@@ -75,8 +76,10 @@ int LibreOfficeSuite::processId() const {
 
 office::Object LibreOfficeSuite::attach(std::string_view className) {
     if (!connection_) return {};
-    if (className == "Excel.Application") return excel::applicationObject(desk_);
-    if (className == "PowerPoint.Application") return powerpoint::applicationObject(desk_);
+    if (office::sameIgnoringCase(className, "Excel.Application"))
+        return excel::applicationObject(desk_);
+    if (office::sameIgnoringCase(className, "PowerPoint.Application"))
+        return powerpoint::applicationObject(desk_);
     return {};
 }
 
