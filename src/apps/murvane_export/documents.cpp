@@ -30,10 +30,10 @@ std::string absolutePath(const fs::path& file) {
 }
 
 [[noreturn]] void complainUnopened(const fs::path& file, const office::Failure& failure) {
-    throw RunError(fmt::format(
-        "{} can't be opened: {}. Check that it is a whole file of its kind and that no other "
-        "program holds it.",
-        file.string(), failure.description()));
+    const std::string reason = failure.description();
+    const bool namesFile = reason.find(file.filename().string()) != std::string::npos;
+    throw RunError(namesFile ? reason + "."
+                             : fmt::format("{} can't be opened: {}.", file.string(), reason));
 }
 
 bool isSameFile(const fs::path& left, const fs::path& right) {
