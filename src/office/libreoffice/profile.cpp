@@ -8,6 +8,8 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <string_view>
 #include <utility>
 
 #include "office/failure.h"
@@ -28,6 +30,27 @@ std::filesystem::path profilesFolder() {
 
 constexpr int mostAtATime = 64;
 
+/// What Murvane's own suite does otherwise than the user's. It writes no lock beside a document: it
+/// never saves over one, so it may read what the user has open, and a killed run leaves nothing.
+constexpr std::string_view settings = R"(<?xml version="1.0" encoding="UTF-8"?>
+<oor:items xmlns:oor="http://openoffice.org/2001/registry" xmlns:xs="http://www.w3.org/2001/XMLSchema" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">
+<item oor:path="/org.openoffice.Office.Common/Misc"><prop oor:name="UseLocking" oor:op="fuse"><value>false</value></prop></item>
+<item oor:path="/org.openoffice.Office.Common/Misc"><prop oor:name="UseDocumentOOoLockFile" oor:op="fuse"><value>false</value></prop></item>
+<item oor:path="/org.openoffice.Office.Common/Misc"><prop oor:name="UseDocumentSystemFileLocking" oor:op="fuse"><value>false</value></prop></item>
+<item oor:path="/org.openoffice.Office.Common/Misc"><prop oor:name="FirstRun" oor:op="fuse"><value>false</value></prop></item>
+<item oor:path="/org.openoffice.Office.Recovery/AutoSave"><prop oor:name="Enabled" oor:op="fuse"><value>false</value></prop></item>
+</oor:items>
+)";
+
+/// A new folder gets the settings; the suite keeps them when it writes its own beside them.
+void prepare(const std::filesystem::path& folder) {
+    const std::filesystem::path file = folder / "user/registrymodifications.xcu";
+    std::error_code error;
+    if (std::filesystem::exists(file, error)) return;
+    std::filesystem::create_directories(file.parent_path(), error);
+    std::ofstream(file) << settings;
+}
+
 }  // namespace
 
 Profile Profile::acquire() {
@@ -41,7 +64,10 @@ Profile Profile::acquire() {
         const int lock =
             open(lockFile.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
         if (lock < 0) break;
-        if (flock(lock, LOCK_EX | LOCK_NB) == 0) return {folder, lock};
+        if (flock(lock, LOCK_EX | LOCK_NB) == 0) {
+            prepare(folder);
+            return {folder, lock};
+        }
         close(lock);
     }
     throw office::Failure(

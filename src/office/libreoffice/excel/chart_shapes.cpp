@@ -52,12 +52,12 @@ std::string ChartShape::readName() const {
 }
 
 ChartShapes::ChartShapes(uno::Reference<css::sheet::XSpreadsheet> sheet)
-    : sheet_(std::move(sheet)),
-      supplier_(as<css::table::XTableChartsSupplier>(sheet_)) {}
+    : sheet_(std::move(sheet)) {}
 
 const std::vector<ChartShapePtr>& ChartShapes::all() {
     // Asked of the sheet anew each time: the collection keeps the place that the sheet had when it
     // was made, and reads another sheet's charts once one has been inserted in front.
+    if (!supplier_.is()) supplier_ = as<css::table::XTableChartsSupplier>(sheet_);
     const auto keys = supplier_->getCharts()->getElementNames();
     if (keys != seenKeys_) refresh(keys);
     return charts_;

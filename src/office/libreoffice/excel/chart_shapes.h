@@ -5,7 +5,7 @@
 #include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/drawing/XShape.hpp>
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
-#include <com/sun/star/table/XTableCharts.hpp>
+#include <com/sun/star/table/XTableChartsSupplier.hpp>
 
 #include <memory>
 #include <string>
@@ -54,7 +54,7 @@ private:
     [[nodiscard]] ChartShapePtr held(const uno::Reference<css::drawing::XShape>& shape) const;
 
     uno::Reference<css::sheet::XSpreadsheet> sheet_;
-    uno::Reference<css::table::XTableCharts> keys_;
+    uno::Reference<css::table::XTableChartsSupplier> supplier_;
     uno::Sequence<rtl::OUString> seenKeys_;
     std::vector<ChartShapePtr> charts_;
 };
