@@ -7,6 +7,7 @@
 
 #include "catalogue/excel_pause.h"
 #include "catalogue/item_store.h"
+#include "catalogue/list_order.h"
 #include "catalogue/list_rows.h"
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
@@ -151,6 +152,13 @@ CheckAllState LoadItemsToForm(session::OfficeSession& session, InventoryValues& 
         // A list takes its first row as the selected one.
         list.selected = list.rows.empty() ? -1 : 0;
     }
+    // By the sheets' order while column 4 still holds it; from the second time on the order that
+    // the user left comes first, then what has been added since. The running order takes column 4
+    // over.
+    constexpr std::size_t sheetOrderColumn = 4;
+    constexpr std::size_t laterOrderColumn = 7;
+    const std::size_t column = values.StoreIsNew ? sheetOrderColumn : laterOrderColumn;
+    SotrListView(list, column, sortTypeOfColumn(column));
     values.ListLoaded = true;
     RenumberIncludedRows(list);
     return stateOf(checked, list.rows.size());

@@ -15,8 +15,9 @@ void CountWorkbookItems(session::OfficeSession& session);
 enum class CheckAllState { None = 0, All = 1, Some = 2 };
 
 /// The full walk: brings the store of the active workbook up to date, which is made if it is
-/// missing, and fills the list from it. Returns the state of `Check1`, which also counts the ranges
-/// of several areas that are unchecked while loading.
+/// missing, and fills the list from it, in the order of the sheets where the store is new and else
+/// in the order that was left, with later items behind. Returns the state of `Check1`, which also
+/// counts the ranges of several areas that are unchecked while loading.
 ///
 /// The preview of the selected row is the caller's: it belongs to the form. Plain code: a failure
 /// of Excel passes through, with Excel's drawing, events and calculation switched on again.

@@ -1,0 +1,339 @@
+#include "catalogue/userform_obj.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "catalogue/inventory.h"
+#include "catalogue/item_preview.h"
+#include "catalogue/list_columns.h"
+#include "catalogue/list_order.h"
+#include "catalogue/list_rows.h"
+#include "catalogue/number_entry.h"
+#include "catalogue/row_objects.h"
+#include "catalogue/save_list.h"
+#include "forms/desktop.h"
+#include "furniture/theme.h"
+#include "office/failure_patterns.h"
+#include "office/text.h"
+
+namespace catalogue {
+
+namespace {
+
+constexpr forms::Twips panelStep = 150;
+constexpr forms::Twips previewWidth = 4296;
+constexpr forms::Twips previewStartWidth = 336;
+constexpr forms::Twips slidePanelWidth = 3135;
+constexpr forms::Twips captionPanelWidth = 3615;
+constexpr std::int32_t normalWindow = -4143;
+
+forms::CheckBox::State stateOf(CheckAllState state) {
+    switch (state) {
+        case CheckAllState::All:
+            return forms::CheckBox::State::Checked;
+        case CheckAllState::Some:
+            return forms::CheckBox::State::Grey;
+        default:
+            return forms::CheckBox::State::Unchecked;
+    }
+}
+
+/// One step of a growing panel. True once it has its full width.
+bool grow(forms::Control& panel, forms::Twips fullWidth) {
+    if (panel.place.width < fullWidth) panel.place.width += panelStep;
+    if (panel.place.width < fullWidth) return false;
+    panel.place.width = fullWidth;
+    return true;
+}
+
+}  // namespace
+
+ExportChoices UserformObj::choices() const {
+    const auto chosen = std::find_if(Option1.begin(), Option1.end(),
+                                     [](const auto& option) { return option.value(); });
+    return {static_cast<int>(chosen - Option1.begin()), OptionPredefSlides.value()};
+}
+
+void UserformObj::Form_Load() {
+    topmost = true;
+    // A load that fails half-way leaves a form that can still be closed.
+    office::ContinueOnFailure scope;
+    scope.attempt([this] { loadForm(); });
+    scope.attempt([this] {
+        session_.ActiveBook.get("Sheets").get("Item", session_.ActiveSheetName).call("Select");
+    });
+    session_.progress.unloadLoading();
+}
+
+void UserformObj::loadForm() {
+    session_.MainFormStarted = true;
+    SlideNb.visible = false;
+    session_.ExcelApp.put("ScreenUpdating", false);
+    shadow_.emplace().Shadow(*this);
+    furniture::ApplyTheme(*this);
+    imgChart.place.width = 0;
+    prepareList();
+    runOnlyTimer(2);
+    imgChart.setPicture(pictureOnClipboard(session_));
+    SlideNb.place.width = 0;
+
+    Check1.startWith(stateOf(LoadItemsToForm(session_, values_, list_)));
+    listChartsShowPreview();
+    session_.progress.unloadLoading();
+
+    renumberRows();
+    NbCharts.caption =
+        fmt::format("{} of {} items selected", CountCheckedRows(list_), session_.ItemCount);
+
+    ShowPowerPointTarget();
+    TitlesFrame.visible = false;
+    if (session_.ActiveBook) {
+        ActiveWbk.setText(
+            fmt::format("Active Workbook:{} ", session_.ActiveBook.get("Name").toText()));
+    }
+    session_.MainFormOpen = true;
+    FirstColumnState = 1;
+    furniture::ApplyTheme(*this);
+    resizeColumns();
+    recolourRows();
+    renumberRows();
+}
+
+void UserformObj::prepareList() {
+    listCharts.rows = &listRows_;
+    listCharts.checkBoxes = true;
+    listCharts.gridLines = true;
+    listCharts.columns.clear();
+    for (const ListColumn& column : listColumns) {
+        listCharts.columns.push_back(
+            {std::string(column.Text), std::string(column.Tag),
+             column.Icon.empty() ? std::string() : fmt::format("icon:{}", column.Icon),
+             column.Width,
+             column.alignment == Alignment::Centred ? forms::Alignment::Centre
+                                                    : forms::Alignment::Left});
+    }
+}
+
+void UserformObj::listChartsShowPreview() {
+    const ExportRow* row = selectedRow();
+    if (row == nullptr) return;
+    office::ContinueOnFailure scope;
+    scope.attempt([&] { copyForFirstPreview(session_, *row); });
+    imgChart.setPicture(pictureOnClipboard(session_));
+}
+
+void UserformObj::Form_Unload() {
+    session_.MainFormOpen = false;
+    SaveListToStore(session_, list_);
+    office::ContinueOnFailure scope;
+    scope.attempt([this] { session_.ExcelApp.put("ScreenUpdating", true); });
+    session_.PowerPointApp.release();
+    session_.ExcelApp.release();
+    desktop().unloadAll();
+}
+
+void UserformObj::OptionFormat_Click(int index) {
+    for (std::size_t i = 0; i < OptionFormat.size(); ++i) {
+        OptionFormat.at(i).font.bold = static_cast<int>(i) == index;
+    }
+    session_.ExportFormatIndex = static_cast<std::int16_t>(index);
+}
+
+void UserformObj::OptionPredefSlides_Click() {
+    SlideNb.visible = true;
+    slidePanelMotion_ = SlidePanelMotion::Opening;
+    runOnlyTimer(4);
+    OptionPredefSlides.font.bold = true;
+    OptionNewSlides.font.bold = false;
+    resizeColumns();
+    recolourRows();
+}
+
+void UserformObj::OptionNewSlides_Click() {
+    SlideNb.visible = false;
+    slidePanelMotion_ = SlidePanelMotion::Closing;
+    SlideTitle.enabled = true;
+    runOnlyTimer(4);
+    OptionPredefSlides.font.bold = false;
+    OptionNewSlides.font.bold = true;
+    resizeColumns();
+    recolourRows();
+    // The column of slide numbers is kept, if only just: the list would else lose its place.
+    if (FirstColumnState == 1 && listCharts.columns.size() > 2) listCharts.columns[2].width = 1;
+}
+
+void UserformObj::AddCaption_Click() {
+    TitlesFrame.place.width = 0;
+    TitlesFrame.visible = !TitlesFrame.visible;
+    for (int i = 1; i <= 5; ++i) timer(i).enabled = i == 5;
+}
+
+void UserformObj::runOnlyTimer(int index) {
+    for (int i = 1; i <= 4; ++i) timer(i).enabled = i == index;
+}
+
+void UserformObj::Timer1_Timer(int index) {
+    switch (index) {
+        case 2:
+            return growPreview();
+        case 4:
+            return moveSlidePanel();
+        case 5:
+            return growCaptionPanel();
+        default:
+            return;
+    }
+}
+
+void UserformObj::growPreview() {
+    if (grow(imgChart, previewWidth)) timer(2).enabled = false;
+}
+
+void UserformObj::growCaptionPanel() {
+    if (grow(TitlesFrame, captionPanelWidth)) timer(5).enabled = false;
+    SlideTitle.place.width = std::max<forms::Twips>(TitlesFrame.place.width - 3, 0);
+}
+
+void UserformObj::moveSlidePanel() {
+    constexpr forms::Twips closedWidth = 5;
+    if (slidePanelMotion_ == SlidePanelMotion::Opening) {
+        if (!grow(SlideNb, slidePanelWidth)) return;
+    } else if (SlideNb.place.width > closedWidth) {
+        // Excel is asked for the greater of the two; with Excel gone the width rests for this tick.
+        office::ContinueOnFailure scope;
+        scope.attempt([this] {
+            SlideNb.place.width =
+                session_.ExcelApp.call("Max", SlideNb.place.width - panelStep, 0).toLong();
+        });
+        return;
+    } else {
+        SlideNb.place.width = 0;
+    }
+    timer(4).enabled = false;
+    resizeColumns();
+    recolourRows();
+}
+
+void UserformObj::Up_Click() {
+    moveSelectedUp(list_);
+    renumberRows();
+}
+
+void UserformObj::Down_Click() {
+    moveSelectedDown(list_);
+    renumberRows();
+}
+
+void UserformObj::listCharts_ColumnClick(std::size_t column) {
+    if (const auto type = sortTypeOfColumn(column); !type.empty())
+        SotrListView(list_, column, type);
+    renumberRows();
+}
+
+void UserformObj::Check1_Click() {
+    if (values_.ListLoaded) {
+        const bool check = Check1.isChecked();
+        RowObjects objects(session_);
+        for (ExportRow& row : list_.rows) {
+            if (!objects.isMultipleAreaRow(row)) row.Checked = check;
+        }
+    }
+    recolourRows();
+    renumberRows();
+}
+
+void UserformObj::listCharts_ItemCheck(std::size_t row) {
+    ExportRow& checked = list_.rows.at(row);
+    if (checked.ForeColor == RowColourRefused) {
+        desktop().messageBox("You can't check a multiple range", "Murvane");
+        checked.Checked = false;
+        listCharts.rowsChanged();
+        return;
+    }
+    recolourRows();
+    renumberRows();
+}
+
+void UserformObj::listCharts_ItemClick(std::size_t /*row*/) {
+    runOnlyTimer(2);
+    imgChart.setPicture({});
+    imgChart.place.width = previewStartWidth;
+    const ExportRow* row = selectedRow();
+    if (row == nullptr) return;
+
+    office::ContinueOnFailure scope;
+    const PreviewCopy copied =
+        scope.read([&] { return copyForPreview(session_, *row); }, PreviewCopy::Copied);
+    if (copied == PreviewCopy::SeveralAreas) {
+        desktop().messageBox(
+            "Murvane does not support multiple selection. This item could not be pasted",
+            "Murvane");
+        return;
+    }
+    if (!scope.failed()) imgChart.setPicture(pictureOnClipboard(session_));
+    // Copied first: writing to one box runs its change, which writes to the row.
+    const std::string number = row->SubItems(2);
+    const std::string title = row->SubItems(4);
+    TextBox10.setText(number);
+    SlideTitle.setText(title);
+}
+
+void UserformObj::imgChart_DblClick() {
+    const ExportRow* row = selectedRow();
+    if (row == nullptr) return;
+    if (!hooks_.InsertOneItem) return;
+    session_.CurrentSlideIndex =
+        static_cast<std::int16_t>(session_.PowerPointApp.get("ActiveWindow")
+                                      .get("View")
+                                      .get("Slide")
+                                      .get("SlideIndex")
+                                      .toLong());
+    session_.ExcelApp.put("WindowState", normalWindow);
+    hooks_.InsertOneItem(*row);
+    desktop().messageBox("Done!", "Murvane");
+}
+
+void UserformObj::SlideTitle_Change() {
+    if (ExportRow* row = selectedRow()) {
+        row->SubItems(4) = SlideTitle.text();
+        listCharts.rowsChanged();
+    }
+}
+
+void UserformObj::TextBox10_Change() {
+    TextBox10.setText(Validate_Number_Entry(TextBox10.text()));
+    if (ExportRow* row = selectedRow()) {
+        row->SubItems(2) = TextBox10.text();
+        listCharts.rowsChanged();
+    }
+    TextBox10.setText(std::string(office::trim(TextBox10.text())));
+    if (!TextBox10.text().empty() && !isNumericEntry(TextBox10.text())) TextBox10.setText("");
+}
+
+ExportRow* UserformObj::selectedRow() {
+    if (list_.selected < 0 || list_.selected >= static_cast<std::ptrdiff_t>(list_.rows.size())) {
+        return nullptr;
+    }
+    return &list_.rows[static_cast<std::size_t>(list_.selected)];
+}
+
+void UserformObj::recolourRows() {
+    ColorListRows(list_, OptionPredefSlides.value());
+    listCharts.rowsChanged();
+}
+
+void UserformObj::renumberRows() {
+    RenumberIncludedRows(list_);
+    listCharts.rowsChanged();
+}
+
+void UserformObj::resizeColumns() {
+    const auto widths = SizeListColumns(listCharts.place.width, OptionPredefSlides.value());
+    for (std::size_t i = 0; i < listCharts.columns.size(); ++i) {
+        listCharts.columns[i].width = widths.at(i);
+    }
+    listCharts.horizontalScrollBar = false;
+}
+
+}  // namespace catalogue

@@ -1,0 +1,157 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+#include "catalogue/export_list.h"
+#include "catalogue/export_list_view.h"
+#include "catalogue/inventory_values.h"
+#include "forms/controls.h"
+#include "forms/form.h"
+#include "forms/list_view.h"
+#include "furniture/shadow.h"
+#include "furniture/titel_bar.h"
+#include "session/office_session.h"
+
+namespace catalogue {
+
+/// What the main form starts that lives in higher layers. An export that this version hasn't got is
+/// left out; the form then says so.
+struct MainFormHooks {
+    /// The start procedures of the destinations; each opens its options dialog.
+    std::function<void()> StartPowerPointExport;
+    std::function<void()> CheckSlideNumbersAndShowDialog;
+    std::function<void()> StartWordExport;
+    std::function<void()> StartPdfExport;
+    std::function<void()> StartHtmlExport;
+    std::function<void()> StartImageExport;
+    /// Puts one row on a slide in the format `ExportFormatIndex`, whether it is checked or not.
+    std::function<void(const ExportRow& row)> InsertOneItem;
+    /// Opens a page of help by the name of the button that asks for it.
+    std::function<void(std::string_view buttonName)> ShowHelp;
+};
+
+/// The main form: the list of what can be exported, and the four numbered frames that the user goes
+/// down. It owns the rows; every export reads them here.
+class UserformObj : public forms::Form {
+public:
+    UserformObj(forms::Desktop& desktop, session::OfficeSession& session, MainFormHooks hooks);
+
+    [[nodiscard]] ExportList& list() { return list_; }
+    /// What is chosen now.
+    [[nodiscard]] ExportChoices choices() const;
+
+    void Form_Load() override;
+    void Form_Unload() override;
+
+    // Events.
+    void Option1_Click(int index);
+    void OptionFormat_Click(int index);
+    void OptionNewSlides_Click();
+    void OptionPredefSlides_Click();
+    void AddCaption_Click();
+    void Timer1_Timer(int index);
+    void Up_Click();
+    void Down_Click();
+    void Check1_Click();
+    void listCharts_ItemCheck(std::size_t row);
+    void listCharts_ItemClick(std::size_t row);
+    /// Columns count from 1.
+    void listCharts_ColumnClick(std::size_t column);
+    void imgChart_DblClick();
+    void SlideTitle_Change();
+    void TextBox10_Change();
+    void PasteIT_Click();
+
+    // The controls, from the top of the form to its foot.
+    furniture::TitelBar TitelBar1;
+    forms::TextBox ActiveWbk;
+    forms::Frame Frame4;
+    forms::CheckBox Check1;
+    forms::Label NbCharts;
+    forms::CommandButton cmdItemsHelp;
+    forms::ListView listCharts;
+    forms::Image imgChart;
+    forms::CommandButton Up;
+    forms::CommandButton Down;
+    forms::CommandButton AddCaption;
+    forms::Frame TitlesFrame;
+    forms::TextBox SlideTitle;
+    forms::Label PasteExpress;
+    forms::Frame SlideNb;
+    forms::Label Label1;
+    forms::TextBox TextBox10;
+    forms::Frame Frame1;
+    std::array<forms::Shape, 5> Shape1;
+    std::array<forms::Image, 4> Image1;
+    std::array<forms::OptionButton, 5> Option1;
+    forms::Label DestinationFile;
+    forms::CommandButton cmdPowerWhere;
+    forms::Frame Frame3;
+    std::array<forms::OptionButton, 4> OptionFormat;
+    forms::CommandButton cmdExportHelp;
+    forms::Frame Frame2;
+    forms::OptionButton OptionNewSlides;
+    forms::OptionButton OptionPredefSlides;
+    forms::CommandButton cmdChartsNewSlides;
+    forms::CommandButton PasteIT;
+
+private:
+    enum class SlidePanelMotion { None = 0, Opening = 1, Closing = 2 };
+
+    // Laying out (userform_obj_layout.cpp).
+    void setCaptionsAndTips();
+    void setFirstState();
+    void wireEvents();
+    void wireHelp(forms::CommandButton& button);
+
+    // Loading.
+    void loadForm();
+    void prepareList();
+    void listChartsShowPreview();
+
+    // Destinations (userform_obj_targets.cpp).
+    struct Target {
+        bool allFormats;
+        bool predefinedSlides;
+        std::string_view newSlidesCaption;
+        bool pasteExpress;
+    };
+    void ShowPowerPointTarget();
+    void ShowWordTarget();
+    void ShowPdfTarget();
+    void ShowHtmlTarget();
+    void ShowImageTarget();
+    void showTarget(const Target& target);
+    void startExport(const std::function<void()>& start, std::string_view destination);
+
+    // The list.
+    [[nodiscard]] ExportRow* selectedRow();
+    void recolourRows();
+    void renumberRows();
+    void resizeColumns();
+
+    // Panels.
+    [[nodiscard]] forms::Timer& timer(int index) {
+        return *timers_.at(static_cast<std::size_t>(index - 1));
+    }
+    void runOnlyTimer(int index);
+    void growPreview();
+    void moveSlidePanel();
+    void growCaptionPanel();
+
+    session::OfficeSession& session_;
+    MainFormHooks hooks_;
+    ExportList list_;
+    ExportListView listRows_;
+    InventoryValues values_;
+    std::array<std::unique_ptr<forms::Timer>, 5> timers_;
+    SlidePanelMotion slidePanelMotion_ = SlidePanelMotion::None;
+    std::optional<furniture::clsShadow> shadow_;
+    int FirstColumnState = 0;
+};
+
+}  // namespace catalogue

@@ -1,0 +1,134 @@
+// The destinations of the main form, and the hand-over of the export to them.
+
+#include <fmt/format.h>
+
+#include <string>
+
+#include "catalogue/review.h"
+#include "catalogue/userform_obj.h"
+#include "office/failure_patterns.h"
+#include "session/powerpoint_session.h"
+
+namespace catalogue {
+
+namespace {
+
+/// "Active presentation: Deck.pptx", or that there is none.
+std::string activeLine(const office::Object& application, std::string_view member,
+                       std::string_view lead, std::string_view none) {
+    office::ContinueOnFailure scope;
+    std::string line(none);
+    scope.attempt(
+        [&] { line = fmt::format("{}{}", lead, application.get(member).get("Name").toText()); });
+    return line;
+}
+
+}  // namespace
+
+void UserformObj::Option1_Click(int index) {
+    for (std::size_t i = 0; i < Option1.size(); ++i) {
+        const bool chosen = static_cast<int>(i) == index;
+        Option1.at(i).font.bold = chosen;
+        Shape1.at(i).visible = chosen;
+    }
+    PasteExpress.visible = Option1[0].value();
+    if (Option1[0].value()) {
+        ShowPowerPointTarget();
+    } else if (Option1[1].value()) {
+        ShowWordTarget();
+    } else if (Option1[2].value()) {
+        ShowHtmlTarget();
+    } else if (Option1[3].value()) {
+        ShowPdfTarget();
+    } else if (Option1[4].value()) {
+        ShowImageTarget();
+    }
+    Frame2.visible = true;
+    TitlesFrame.visible = true;
+}
+
+void UserformObj::ShowPowerPointTarget() {
+    session::AttachPowerPoint(session_);
+    if (!session_.PowerPointFound) {
+        DestinationFile.caption = "PowerPoint is not running";
+        return;
+    }
+    DestinationFile.caption = activeLine(session_.PowerPointApp, "ActivePresentation",
+                                         "Active presentation: ", "No active presentation open");
+    showTarget({true, true, "Paste to new created slides", true});
+    PasteExpress.caption = "*DoubleClick to paste displayed item only";
+}
+
+void UserformObj::ShowWordTarget() {
+    office::Object word;
+    office::ContinueOnFailure scope;
+    scope.attempt([&] { word = session_.suite.attach("Word.Application"); });
+    if (!word) {
+        DestinationFile.caption = "Word is not running";
+        return;
+    }
+    DestinationFile.caption =
+        activeLine(word, "ActiveDocument", "Active document: ", "No active document open");
+    showTarget({true, false, "Paste to new created pages", true});
+}
+
+void UserformObj::ShowPdfTarget() {
+    showTarget({false, false, "To new PDF file", false});
+}
+
+void UserformObj::ShowHtmlTarget() {
+    DestinationFile.caption = "To a new HTML file ";
+    showTarget({false, false, "Paste to new created pages", false});
+}
+
+void UserformObj::ShowImageTarget() {
+    DestinationFile.caption = "Image files";
+    showTarget({false, false, "Paste to image files", false});
+}
+
+void UserformObj::showTarget(const Target& target) {
+    // A format that is no longer offered stays the chosen one; only PowerPoint asks for it.
+    for (std::size_t i = 0; i < OptionFormat.size(); ++i) {
+        OptionFormat.at(i).enabled = i == 0 || target.allFormats;
+    }
+    OptionPredefSlides.enabled = target.predefinedSlides;
+    OptionNewSlides.enabled = true;
+    OptionNewSlides.font.bold = true;
+    OptionNewSlides.setValue(true);
+    OptionNewSlides.caption = target.newSlidesCaption;
+    PasteExpress.visible = target.pasteExpress;
+}
+
+void UserformObj::PasteIT_Click() {
+    for (int i = 1; i <= 4; ++i) timer(i).enabled = false;
+    if (PreExportReview(session_, list_, choices()) != ReviewResult::Go) return;
+
+    if (OptionNewSlides.value() && Option1[0].value()) {
+        session::AttachPowerPoint(session_);
+        startExport(hooks_.StartPowerPointExport, "PowerPoint");
+    } else if (OptionPredefSlides.value() && Option1[0].value()) {
+        session::AttachPowerPoint(session_);
+        startExport(hooks_.CheckSlideNumbersAndShowDialog, "PowerPoint");
+    } else if (Option1[1].value()) {
+        startExport(hooks_.StartWordExport, "Word");
+    } else if (Option1[3].value()) {
+        startExport(hooks_.StartPdfExport, "PDF");
+    } else if (Option1[2].value()) {
+        startExport(hooks_.StartHtmlExport, "HTML");
+    } else if (Option1[4].value()) {
+        startExport(hooks_.StartImageExport, "image files");
+    }
+}
+
+void UserformObj::startExport(const std::function<void()>& start, std::string_view destination) {
+    if (start) {
+        start();
+        return;
+    }
+    session::ShowNotice(
+        session_.notices,
+        fmt::format("The export to {} is not part of this version yet.", destination), "Murvane",
+        "info", session::buttons::okOnly);
+}
+
+}  // namespace catalogue
