@@ -39,7 +39,7 @@ class NoProgress : public session::ProgressDisplay {
 
 BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, const std::string& workbook,
                           const std::string& output) {
-    apps::PosixConsole console;
+    apps::PosixConsole console([] { return false; });
     apps::PosixHost host(console);
     NoNotices notices;
     NoProgress progress;

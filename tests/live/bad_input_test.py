@@ -1,0 +1,121 @@
+"""Inputs that a user may well have: each gives a clear message or the right result, and nothing outside its folder."""
+
+import json
+import os
+import shutil
+import unittest
+import zipfile
+
+from program import SAMPLES, ProgramTest, colours_of, slides_of
+
+BAD = SAMPLES / "bad-inputs"
+BOOK = SAMPLES / "Harbour Logistics 2026.xlsx"
+
+DONE, FAILED, USAGE, BLOCKED = 0, 1, 2, 3
+
+
+class ABadInput(ProgramTest):
+    def export(self, *arguments):
+        result = self.run_program(*arguments)
+        self.assert_nothing_left()
+        return result
+
+    def test_is_refused_with_its_reason(self):
+        cases = [
+            (FAILED, "no-such-file.xlsx", [self.folder / "no-such-file.xlsx"]),
+            (FAILED, "not-a-workbook.xlsx", [BAD / "not-a-workbook.xlsx"]),
+            (FAILED, "truncated.xlsx", [BAD / "truncated.xlsx"]),
+            (FAILED, "password", [BAD / "password.xlsx"]),
+            (FAILED, "Board deck.pptx", [SAMPLES / "Board deck.pptx"]),
+            (FAILED, "not-a-workbook.xlsx", [BOOK, "--into", BAD / "not-a-workbook.xlsx"]),
+            (FAILED, "Harbour Logistics 2026.xlsx", [BOOK, "--into", BOOK]),
+            (BLOCKED, "protected", [BAD / "structure-protected.xlsx"]),
+        ]
+        for number, (code, word, arguments) in enumerate(cases):
+            with self.subTest(word=word, arguments=arguments):
+                output = self.folder / f"{number}.pptx"
+                result, _, errors = self.export(*arguments, "--output", output)
+                # A file that is missing or of the wrong kind may be found out as wrong usage before anything starts.
+                self.assertIn(result, (code, USAGE) if code == FAILED else (code,), errors)
+                self.assertIn(word, errors)
+                self.assertFalse(output.exists())
+
+    def test_a_workbook_that_another_program_has_open_is_read_all_the_same(self):
+        locked = self.folder / "locked.xlsx"
+        shutil.copy(BOOK, locked)
+        # What another LibreOffice leaves beside a file while it has it open.
+        lock = self.folder / ".~lock.locked.xlsx#"
+        lock.write_text(f",someone,elsewhere,21.11.2026 09:00,file://{self.folder};")
+        result, _, errors = self.export(locked, "--items", "{Chart Sheet}", "--output", self.folder / "x.pptx")
+        self.assertEqual(result, DONE, errors)
+        self.assertTrue(lock.exists(), "the other program's lock is its own")
+
+    def test_a_workbook_without_items_is_told_apart_from_a_failure(self):
+        result, _, errors = self.export(BAD / "empty.xlsx", "--output", self.folder / "x.pptx")
+        self.assertEqual(result, BLOCKED, errors)
+        self.assertIn("didn't find any chart", errors)
+
+    def test_an_output_folder_that_cannot_be_written_is_found_out_before_the_suite_starts(self):
+        cases = [self.folder / "missing" / "x.pptx", "/proc/x.pptx", self.folder / "x.docx"]
+        for output in cases:
+            with self.subTest(output=str(output)):
+                result, _, errors = self.export(BOOK, "--output", output)
+                self.assertEqual(result, USAGE, errors)
+                self.assertIn(os.path.basename(output), errors)
+
+    def test_a_deck_without_a_title_layout_still_takes_titles(self):
+        output = self.folder / "x.pptx"
+        result, _, errors = self.export(BOOK, "--into", BAD / "no-title-layout.pptx", "--titles", "--items",
+                                        "{Chart Sheet}", "--output", output)
+        self.assertEqual(result, DONE, errors)
+        self.assertTrue(all(len(slide.pictures) == 1 for slide in slides_of(output)[1:]))
+
+    def test_a_chart_sheet_that_arrives_empty_is_still_exported(self):
+        output = self.folder / "x.pptx"
+        result, _, errors = self.export(BAD / "negative-chartsheet.xlsx", "--items", "{Chart Sheet}", "--output", output)
+        self.assertEqual(result, DONE, errors)
+        pictures = [picture for slide in slides_of(output) for picture in slide.pictures]
+        self.assertEqual(len(pictures), 1)
+        self.assertGreater(colours_of(pictures[0]["bytes"]), 8)
+
+    def test_a_chart_in_a_group_is_found(self):
+        result, output, errors = self.export(BAD / "grouped-chart.xlsx", "--list", "--json")
+        self.assertEqual(result, DONE, errors)
+        self.assertIn("Embedded", {item["kind"] for item in json.loads(output)["items"]})
+
+    def test_odd_names_arrive_or_are_refused_and_never_leave_their_folder(self):
+        result, listing, errors = self.export(BAD / "odd-names.xlsx", "--list", "--json")
+        self.assertEqual(result, DONE, errors)
+        items = json.loads(listing)["items"]
+        self.assertGreater(len(items), 10)
+        for number, item in enumerate(items):
+            with self.subTest(item=item["name"][:40], sheet=item["sheet"]):
+                inside = self.folder / f"case-{number}"
+                inside.mkdir()
+                output = inside / "x.pptx"
+                result, _, errors = self.export(BAD / "odd-names.xlsx", "--titles", "--items",
+                                                f'{item["name"]}@{item["sheet"]}', "--output", output)
+                if result == DONE:
+                    slides = slides_of(output)
+                    self.assertTrue(any(slide.pictures for slide in slides))
+                else:
+                    self.assertIn(result, (FAILED, USAGE))
+                    self.assertGreater(len(errors.strip()), 20)
+                self.assertEqual([p.name for p in inside.iterdir()], ["x.pptx"] if result == DONE else [])
+
+    def test_a_markup_name_stays_text_in_the_presentation(self):
+        output = self.folder / "x.pptx"
+        captions = self.folder / "captions.csv"
+        captions.write_text('item,sheet,caption,slide\nFigures,Data,"<script>alert(1)</script>",\n', encoding="utf-8")
+        result, _, errors = self.export(BAD / "negative-chartsheet.xlsx", "--list", "--json")
+        self.assertEqual(result, DONE, errors)
+        result, _, errors = self.export(BAD / "grouped-chart.xlsx", "--items", "Figures", "--titles",
+                                        "--captions", captions, "--output", output)
+        self.assertEqual(result, DONE, errors)
+        self.assertEqual(slides_of(output)[-1].title, "<script>alert(1)</script>")
+        with zipfile.ZipFile(output) as package:
+            self.assertFalse([n for n in package.namelist() if b"<script>" in package.read(n)])
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

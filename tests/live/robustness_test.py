@@ -1,0 +1,95 @@
+"""Whatever happens to the suite or to the program: it ends soon, says why, and leaves nothing behind."""
+
+import os
+import signal
+import subprocess
+import sys
+import time
+import unittest
+
+from program import SAMPLES, BUILD, ProgramTest, processes_naming, suite_of
+
+PATIENCE = 5.0
+
+
+class AnEndedRun(ProgramTest):
+    """Runs a batch of some seconds and strikes at many moments of it."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.workbook = SAMPLES / "many-charts.xlsx"
+
+    def begin(self):
+        output = self.folder / "out" / "deck.pptx"
+        output.parent.mkdir(exist_ok=True)
+        process = self.start(self.workbook, "--titles", "--source", "--output", output)
+        return process, output
+
+    def whole_run_seconds(self):
+        started = time.monotonic()
+        process, output = self.begin()
+        _, errors = process.communicate(timeout=240)
+        self.assertEqual(process.returncode, 0, errors)
+        output.unlink()
+        return time.monotonic() - started
+
+    def strike_at_many_points(self, strike, points=12):
+        total = self.whole_run_seconds()
+        struck = 0
+        for point in range(points):
+            # Up to three quarters: on a busy machine the run must not be over before it is struck.
+            moment = total * 0.75 * (point + 0.5) / points
+            with self.subTest(seconds=round(moment, 2)):
+                process, output = self.begin()
+                started = time.monotonic()
+                suite = suite_of(process, self.cache)
+                time.sleep(max(0.0, moment - (time.monotonic() - started)))
+                if process.poll() is not None:
+                    process.communicate()
+                    continue
+                strike(process, suite)
+                struck += 1
+                hit = time.monotonic()
+                _, errors = process.communicate(timeout=60)
+                self.assertLess(time.monotonic() - hit, PATIENCE)
+                self.assertNotEqual(process.returncode, 0)
+                self.assertGreater(len(errors.strip()), 20, "no report")
+                self.assertFalse(output.exists())
+                self.assert_nothing_left(output)
+        self.assertGreater(struck, points // 2)
+
+    def test_ends_with_a_report_when_the_suite_is_killed(self):
+        def kill_suite(process, suite):
+            os.kill(suite, signal.SIGKILL)
+        self.strike_at_many_points(kill_suite)
+
+    def test_ends_with_a_report_on_ctrl_c(self):
+        self.strike_at_many_points(lambda process, suite: process.send_signal(signal.SIGINT), points=6)
+
+    def test_ends_with_a_report_when_it_is_told_to_terminate(self):
+        self.strike_at_many_points(lambda process, suite: process.send_signal(signal.SIGTERM), points=3)
+
+    def test_takes_the_suite_with_it_when_it_is_killed_itself(self):
+        process, _ = self.begin()
+        self.assertIsNotNone(suite_of(process, self.cache))
+        process.kill()
+        process.communicate()
+        deadline = time.monotonic() + PATIENCE
+        while processes_naming(self.cache) and time.monotonic() < deadline:
+            time.sleep(0.05)
+        self.assertEqual(processes_naming(self.cache), [])
+
+    def test_two_runs_at_once_keep_out_of_each_others_way(self):
+        first, first_output = self.begin()
+        second_output = self.folder / "second.pptx"
+        second = self.start(self.workbook, "--output", second_output)
+        for process in (first, second):
+            _, errors = process.communicate(timeout=240)
+            self.assertEqual(process.returncode, 0, errors)
+        self.assertTrue(first_output.exists() and second_output.exists())
+        self.assert_nothing_left()
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
