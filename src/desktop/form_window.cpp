@@ -67,7 +67,10 @@ FormWindow::FormWindow(forms::Form& form, FormHost& host)
 }
 
 FormWindow::~FormWindow() {
+    disconnect(qApp, nullptr, this, nullptr);
     qApp->removeEventFilter(this);
+    // Now, while they can still call their window.
+    delete plate_;
 }
 
 int FormWindow::margin() const {

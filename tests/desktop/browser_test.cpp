@@ -24,25 +24,34 @@ protected:
     }
     forms::BrowserView& page() { return *form.wbStatus.view; }
     QWebEngineView& engine() { return *widgetOf<desktop::BrowserView>(form.wbStatus).engineView(); }
-    void clickLink() {
-        // The page takes clicks when it has been painted.
+    bool waitFor(const std::string& event, long howOften = 1,
+                 std::chrono::milliseconds patience = 10s) {
+        return input::waitUntil(
+            desk, [&] { return times(event) >= howOften; }, patience);
+    }
+    void clickPage() {
         input::waitUntil(
             desk, [] { return false; }, 100ms);
         QTest::mouseClick(engine().focusProxy(), Qt::LeftButton, {}, {60, 20});
     }
-    bool waitFor(const std::string& event, long howOften = 1) {
-        return input::waitUntil(desk, [&] { return times(event) >= howOften; });
+    /// Clicks the link until the event comes: a page takes no click before it has been painted,
+    /// and does not say when that was.
+    bool clickLinkFor(const std::string& event) {
+        const long before = times(event);
+        for (int i = 0; i < 5; ++i) {
+            clickPage();
+            if (waitFor(event, before + 1, 2s)) return true;
+        }
+        return false;
     }
 };
 
 TEST_F(Browser, AClickedLinkReachesTheFormInItsOwnCaseAndThePageStays) {
     const PageFile file(linkTo("murvane://toggle/SlideTitle") + "<input id='f' value='7'>");
     open(file.url());
-    clickLink();
-    ASSERT_TRUE(waitFor("murvane://toggle/SlideTitle"));
+    ASSERT_TRUE(clickLinkFor("murvane://toggle/SlideTitle"));
     EXPECT_EQ(page().fieldValue("f"), "7");
-    clickLink();
-    EXPECT_TRUE(waitFor("murvane://toggle/SlideTitle", 2)) << "and it can be clicked again";
+    EXPECT_TRUE(clickLinkFor("murvane://toggle/SlideTitle")) << "and it can be clicked again";
     EXPECT_EQ(times("document"), 1);
 }
 
@@ -54,8 +63,7 @@ TEST_F(Browser, AFormMayShowANewPageFromWithinTheClick) {
         return true;
     };
     open(before.url());
-    clickLink();
-    ASSERT_TRUE(waitFor("document", 2));
+    ASSERT_TRUE(clickLinkFor("document"));
     EXPECT_EQ(page().fieldValue("f"), "new");
 }
 
@@ -63,8 +71,7 @@ TEST_F(Browser, ALinkThatTheFormLetsPassIsFollowed) {
     const PageFile target("<input id='f' value='there'>");
     const PageFile file(linkTo(target.url()));
     open(file.url());
-    clickLink();
-    ASSERT_TRUE(waitFor("document", 2));
+    ASSERT_TRUE(clickLinkFor("document"));
     EXPECT_EQ(page().fieldValue("f"), "there");
 }
 
@@ -119,13 +126,13 @@ TEST_F(Browser, FieldsAreReadByTheirIds) {
 }
 
 TEST_F(Browser, ATypedValueIsRead) {
-    const PageFile file("<input id='f' value='' autofocus style='display:block;height:40px'>");
+    const PageFile file("<input id='f' value='' style='display:block;height:40px'>");
     open(file.url());
-    clickLink();
-    input::waitUntil(
-        desk, [] { return false; }, 100ms);
-    QTest::keyClicks(engine().focusProxy(), QStringLiteral("42"));
-    EXPECT_TRUE(input::waitUntil(desk, [&] { return page().fieldValue("f") == "42"; }));
+    EXPECT_TRUE(input::waitUntil(desk, [&] {
+        clickPage();
+        QTest::keyClick(engine().focusProxy(), Qt::Key_4);
+        return page().fieldValue("f").value_or("").starts_with("4");
+    }));
 }
 
 TEST_F(Browser, TheHeightOfAnElementOrOfThePageIsMeasured) {
@@ -183,8 +190,13 @@ TEST_F(Browser, TheStripIsDarkFromTheFirstToTheLast) {
     };
     const PageFile file("<p>dark</p>");
     form.wbStatus.navigate(file.url());
-    EXPECT_FALSE(input::waitUntil(desk, isBright, 900ms));
-    EXPECT_TRUE(page().isComplete());
+    bool wasBright = false;
+    EXPECT_TRUE(input::waitUntil(desk, [&] {
+        wasBright = wasBright || isBright();
+        return page().isComplete();
+    }));
+    EXPECT_FALSE(wasBright);
+    EXPECT_FALSE(input::waitUntil(desk, isBright, 200ms));
     form.wbStatus.navigate("file:///nowhere/at/all.html");
     EXPECT_FALSE(input::waitUntil(desk, isBright, 500ms));
 }
@@ -196,8 +208,7 @@ TEST_F(Browser, AFormMayBeUnloadedFromWithinALink) {
         return true;
     };
     open(file.url());
-    clickLink();
-    EXPECT_TRUE(waitFor("unload"));
+    EXPECT_TRUE(clickLinkFor("unload"));
     EXPECT_EQ(form.wbStatus.view, nullptr);
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/input.h"
 
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
 
@@ -22,10 +23,9 @@ QWidget& keyboardOwner(desktop::QtDesktop& desktop, const forms::Form& form) {
 
 bool waitUntil(forms::Desktop& desktop, const std::function<bool()>& holds,
                std::chrono::milliseconds patience) {
-    // The clock also wakes a desktop that nothing else would wake.
-    bool late = false;
-    QTimer::singleShot(patience, [&late] { late = true; });
-    while (!holds() && !late) {
+    const QDeadlineTimer end(patience);
+    while (!holds() && !end.hasExpired()) {
+        // Wakes a desktop that nothing else would wake.
         QTimer::singleShot(20, [] {});
         desktop.waitForEvents();
     }

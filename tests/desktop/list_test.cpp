@@ -1,9 +1,10 @@
-#include <QtCore/QElapsedTimer>
 #include <QtGui/QImage>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTreeView>
 #include <gtest/gtest.h>
+
+#include <ctime>
 
 #include "desktop/fixture.h"
 #include "desktop/list_view_view.h"
@@ -128,35 +129,45 @@ TEST_F(Lists, FewerRowsOrNoneAreShownAfterAChange) {
     EXPECT_EQ(view().model()->rowCount(), 0);
 }
 
-TEST(LongLists, AFormWithFiveHundredRowsOpensAtOnceAndTwoThousandScrollFluently) {
+/// The processor's time, not the clock's: a busy machine shall not fail a test.
+double usedMs() {
+    return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
+
+TEST(LongLists, AFormWithFiveHundredRowsOpensAtOnce) {
     desktop::QtDesktop desk;
-    QElapsedTimer clock;
-    {
-        sample::SampleForm form(desk, 500);
-        clock.start();
-        desk.show(form, forms::ShowMode::Modeless);
-        desk.letEventsRun();
-        RecordProperty("open_ms", static_cast<int>(clock.elapsed()));
-        EXPECT_LT(clock.elapsed(), 200);
-    }
+    sample::SampleForm form(desk, 500);
+    const double before = usedMs();
+    desk.show(form, forms::ShowMode::Modeless);
+    desk.letEventsRun();
+    RecordProperty("open_ms", static_cast<int>(usedMs() - before));
+    EXPECT_LT(usedMs() - before, 200);
+}
+
+TEST(LongLists, TwoThousandRowsScrollAndChangeWithinAPictureOfTheScreen) {
+    constexpr double pictureMs = 16;
+    constexpr int steps = 100;
+    desktop::QtDesktop desk;
     sample::SampleForm form(desk, 2000);
     desk.show(form, forms::ShowMode::Modeless);
     desk.letEventsRun();
     auto& view = dynamic_cast<QTreeView&>(*desk.widgetOf(form.listCharts));
-    constexpr int steps = 100;
-    clock.restart();
+
+    double before = usedMs();
     for (int i = 0; i < steps; ++i) {
         view.verticalScrollBar()->setValue(i * 400);
         desk.letEventsRun();
     }
-    RecordProperty("scroll_step_us", static_cast<int>(clock.nsecsElapsed() / 1000 / steps));
-    EXPECT_LT(clock.elapsed(), 16 * steps) << "a picture of the screen";
-    clock.restart();
-    for (std::size_t row = 0; row < 20; ++row) {
+    RecordProperty("scroll_step_us", static_cast<int>(1000 * (usedMs() - before) / steps));
+    EXPECT_LT((usedMs() - before) / steps, pictureMs);
+
+    before = usedMs();
+    for (std::size_t row = 0; row < steps; ++row) {
         form.listCharts.check(row, !form.rows.isChecked(row));
         desk.letEventsRun();
     }
-    EXPECT_LT(clock.elapsed(), 20 * 16);
+    RecordProperty("check_us", static_cast<int>(1000 * (usedMs() - before) / steps));
+    EXPECT_LT((usedMs() - before) / steps, pictureMs);
 }
 
 }  // namespace
