@@ -1,5 +1,6 @@
 #include <fmt/format.h>
 
+#include <cstdlib>
 #include <exception>
 #include <memory>
 #include <string>
@@ -16,6 +17,10 @@
 #include "office/text.h"
 #include "session/launcher.h"
 
+#ifdef MURVANE_HAS_WINDOWS
+#include "apps/murvane/windowed_run.h"
+#endif
+
 namespace {
 
 /// The command line as one text, as the launcher reads it.
@@ -28,7 +33,7 @@ std::string commandLineOf(int count, char** words) {
     return line;
 }
 
-int runCommand(const std::string& commandLine, apps::Console& console) {
+int runInTerminal(const std::string& commandLine, apps::Console& console) {
     apps::PosixHost host(console);
     apps::StatusLine line(console, true);
     apps::TerminalNotices notices(
@@ -40,6 +45,20 @@ int runCommand(const std::string& commandLine, apps::Console& console) {
     session::CommandHandlers handlers;
     handlers.CountWorkbookItems = [&] { catalogue::CountWorkbookItems(session); };
     return session::Main(session, commandLine, handlers);
+}
+
+/// With a screen the program shows windows; without one it says what it has to say in the terminal.
+int runCommand(int count, char** words, const std::string& commandLine, apps::Console& console) {
+#ifdef MURVANE_HAS_WINDOWS
+    const auto isSet = [](const char* name) {
+        const char* value = std::getenv(name);
+        return value != nullptr && *value != '\0';
+    };
+    if (isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM")) {
+        return apps::runInWindows(count, words, commandLine, console);
+    }
+#endif
+    return runInTerminal(commandLine, console);
 }
 
 }  // namespace
@@ -55,7 +74,7 @@ int main(int count, char** words) {
     // Nothing to do, so nothing to attach to either.
     if (office::trim(commandLine).empty()) return session::commandDone;
     try {
-        return runCommand(commandLine, console);
+        return runCommand(count, words, commandLine, console);
     } catch (const office::Failure& failure) {
         console.writeError(fmt::format("Murvane: unhandled failure {} from {}: {}\n",
                                        failure.number(), failure.source(), failure.description()));

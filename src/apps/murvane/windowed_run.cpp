@@ -1,0 +1,26 @@
+#include "apps/murvane/windowed_run.h"
+
+#include "apps/murvane/windows.h"
+#include "desktop/forms_runner.h"
+#include "office/libreoffice/libreoffice_suite.h"
+#include "panels/form_progress.h"
+#include "panels/notice_panel.h"
+
+namespace apps {
+
+int runInWindows(int count, char** words, const std::string& commandLine, Console& console) {
+    desktop::FormsRunner runner(count, words);
+    forms::Desktop& desktop = runner.desktop();
+    DesktopHost host(console, desktop);
+    panels::NoticePanel notices(desktop, host);
+    const session::OfficeSession* current = nullptr;
+    panels::FormProgress progress(
+        desktop, [&current] { return current != nullptr ? int{current->CheckedCount} : 0; });
+    const auto suite = libreoffice::LibreOfficeSuite::attachToRunning();
+    session::OfficeSession session(*suite, host, notices, progress);
+    current = &session;
+    Windows windows(desktop, session);
+    return session::Main(session, commandLine, windows.handlers());
+}
+
+}  // namespace apps
