@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 #include <unistd.h>
 
+#include <filesystem>
 #include <fstream>
 #include <random>
 #include <thread>
@@ -29,14 +30,27 @@ std::string uniquePipeName() {
     return fmt::format("murvane-{}-{:08x}{:08x}", getpid(), random(), random());
 }
 
+/// Where the suite keeps its temporary files. A killed suite leaves them behind, so they stand
+/// where they can be told from anybody else's.
+std::filesystem::path temporaryFolder(const Profile& profile) {
+    return std::filesystem::path(profile.folder()) / "temporary";
+}
+
+void removeTemporaryFiles(const Profile& profile) {
+    std::error_code ignored;
+    std::filesystem::remove_all(temporaryFolder(profile), ignored);
+}
+
 Process launch(const Profile& profile, const std::string& pipeName) {
+    std::error_code ignored;
+    std::filesystem::create_directories(temporaryFolder(profile), ignored);
     // Not by the launcher script: that would put a process between us and the suite, and the suite
     // would outlive us.
     return Process::start({programFolder() + "/soffice.bin",
                            "-env:UserInstallation=" + fromUno(fileUrl(profile.folder())),
                            "--accept=pipe,name=" + pipeName + ";urp", "--headless", "--norestore",
                            "--nologo", "--nodefault", "--nolockcheck"},
-                          true);
+                          true, {"TMPDIR=" + temporaryFolder(profile).string()});
 }
 
 [[noreturn]] void failToStart(const std::string& why) {
@@ -52,6 +66,7 @@ std::unique_ptr<PrivateInstance> PrivateInstance::start(std::chrono::millisecond
         failToStart(fmt::format("it is not installed in \"{}\"", programFolder()));
     }
     Profile profile = Profile::acquire();
+    removeTemporaryFiles(profile);
     std::string pipeName = uniquePipeName();
     Process process = launch(profile, pipeName);
     std::unique_ptr<PrivateInstance> instance(
@@ -77,6 +92,7 @@ PrivateInstance::~PrivateInstance() {
         unlink(single.c_str());
     }
     unlink((profile_.folder() + "/.lock").c_str());
+    removeTemporaryFiles(profile_);
 }
 
 void PrivateInstance::waitUntilReady(std::chrono::milliseconds patience,

@@ -6,6 +6,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <string_view>
 #include <thread>
 #include <utility>
 
@@ -16,7 +18,8 @@ namespace libreoffice {
 namespace {
 
 /// Between fork and exec: only calls that are safe there.
-[[noreturn]] void becomeCommand(char* const* arguments, bool endsWithUs, pid_t parent) {
+[[noreturn]] void becomeCommand(char* const* arguments, char* const* environment, bool endsWithUs,
+                                pid_t parent) {
     setpgid(0, 0);  // Ctrl-C in the terminal is for us, who then end it in good order
     if (endsWithUs) {
         prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -29,23 +32,45 @@ namespace {
     dup2(nowhere, STDIN_FILENO);
     dup2(nowhere, STDOUT_FILENO);
     dup2(nowhere, STDERR_FILENO);
-    execv(arguments[0], arguments);
+    execve(arguments[0], arguments, environment);
     _exit(127);
+}
+
+std::vector<std::string> environmentWith(const std::vector<std::string>& variables) {
+    std::vector<std::string> all = variables;
+    for (char** ours = environ; *ours != nullptr; ++ours) {
+        const std::string_view entry = *ours;
+        const std::string_view assignment = entry.substr(0, entry.find('=') + 1);
+        const bool isReplaced =
+            std::any_of(variables.begin(), variables.end(),
+                        [&](const std::string& other) { return other.starts_with(assignment); });
+        if (!isReplaced) all.emplace_back(entry);
+    }
+    return all;
+}
+
+/// As the system takes a list of words.
+std::vector<char*> pointersTo(const std::vector<std::string>& words) {
+    std::vector<char*> pointers;
+    for (const std::string& word : words) pointers.push_back(const_cast<char*>(word.c_str()));
+    pointers.push_back(nullptr);
+    return pointers;
 }
 
 }  // namespace
 
-Process Process::start(const std::vector<std::string>& command, bool endsWithUs) {
-    std::vector<char*> arguments;
-    for (const std::string& word : command) arguments.push_back(const_cast<char*>(word.c_str()));
-    arguments.push_back(nullptr);
+Process Process::start(const std::vector<std::string>& command, bool endsWithUs,
+                       const std::vector<std::string>& variables) {
+    const std::vector<char*> arguments = pointersTo(command);
+    const std::vector<std::string> assignments = environmentWith(variables);
+    const std::vector<char*> environment = pointersTo(assignments);
     const pid_t parent = getpid();
     const pid_t child = fork();
     if (child < 0) {
         throw office::Failure(office::FailureNumber::ApplicationDefined, "Process.start",
                               "The system could not start another process");
     }
-    if (child == 0) becomeCommand(arguments.data(), endsWithUs, parent);
+    if (child == 0) becomeCommand(arguments.data(), environment.data(), endsWithUs, parent);
     return Process(child);
 }
 

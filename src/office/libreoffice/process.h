@@ -15,8 +15,10 @@ namespace libreoffice {
 class Process {
 public:
     /// `endsWithUs`: the system kills it when the thread that started it ends, however that
-    /// happens. Its output goes nowhere. `office::Failure` if it can't be started.
-    static Process start(const std::vector<std::string>& command, bool endsWithUs);
+    /// happens. `variables` such as "TMPDIR=/tmp" take the place of ours of the same names. Its
+    /// output goes nowhere. `office::Failure` if it can't be started.
+    static Process start(const std::vector<std::string>& command, bool endsWithUs,
+                         const std::vector<std::string>& variables = {});
 
     Process(Process&& other) noexcept;
     Process& operator=(Process&& other) noexcept;
