@@ -65,6 +65,14 @@ bool isAlike(std::int16_t ownLayout, const Layout& layout) {
            (layout.number == text && ownLayout == titleAndObject);
 }
 
+/// LibreOffice 7.4 knows no themes: there all layouts count as one design.
+std::string designOf(const uno::Reference<drawing::XDrawPage>& master) {
+    const auto properties = as<css::beans::XPropertySet>(master);
+    if (!properties->getPropertySetInfo()->hasPropertyByName("Theme")) return {};
+    const auto theme = property<uno::Reference<css::util::XTheme>>(master, "Theme");
+    return theme.is() ? fromUno(theme->getName()) : std::string();
+}
+
 }  // namespace
 
 SlideLayouts::SlideLayouts(uno::Reference<css::frame::XModel> model) : model_(std::move(model)) {}
@@ -141,8 +149,7 @@ void SlideLayouts::loadMasters() {
         Master master;
         master.page = PageRef(pages->getByIndex(i), uno::UNO_QUERY_THROW);
         master.name = fromUno(as<css::container::XNamed>(master.page)->getName());
-        const auto theme = property<uno::Reference<css::util::XTheme>>(master.page, "Theme");
-        if (theme.is()) master.design = fromUno(theme->getName());
+        master.design = designOf(master.page);
         masters_.push_back(std::move(master));
     }
 }
