@@ -141,6 +141,7 @@ uno::Reference<css::frame::XModel> Desk::load(const rtl::OUString& url, bool hid
         failToOpen(url, "there is no such file");
     const rtl::Reference<PasswordAnswer> answer(new PasswordAnswer(toUno(password)));
     uno::Reference<css::lang::XComponent> component;
+    std::string reason;
     try {
         component = connection_->desktop()->loadComponentFromURL(
             url, "_blank", 0,
@@ -151,18 +152,17 @@ uno::Reference<css::frame::XModel> Desk::load(const rtl::OUString& url, bool hid
                   uno::Any(uno::Reference<css::task::XInteractionHandler>(answer.get()))}}));
     } catch (const css::uno::Exception& error) {
         if (connection_->isLost()) throw;
-        failToOpen(url, fromUno(error.Message));
+        reason = fromUno(error.Message);
     }
-    // No exception tells why: another instance holds the file, it is damaged, or its password is
-    // not ours.
-    if (!component.is()) {
-        if (answer->wasAsked())
-            failToOpen(url, password.empty() ? "it needs a password" : "the password does not fit");
-        failToOpen(url,
-                   "it is damaged, of a kind that LibreOffice does not read, or in use by another "
-                   "program");
-    }
-    return as<css::frame::XModel>(component);
+    if (component.is()) return as<css::frame::XModel>(component);
+    // A password that is missing or wrong comes as "type detection aborted", or as no document and
+    // no exception, like a damaged file and one that another instance holds.
+    if (answer->wasAsked())
+        failToOpen(url, password.empty() ? "it needs a password" : "the password does not fit");
+    if (!reason.empty()) failToOpen(url, reason);
+    failToOpen(url,
+               "it is damaged, of a kind that LibreOffice does not read, or in use by another "
+               "program");
 }
 
 }  // namespace libreoffice

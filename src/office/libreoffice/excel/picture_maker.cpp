@@ -30,6 +30,9 @@ constexpr int sharpness = 3;
 /// A picture with more pixels is made with fewer to the inch: a range of thousands of rows must not
 /// exhaust the memory.
 constexpr double mostPixels = 60e6;
+/// In screen pixels, nearly three metres: LibreOffice cuts off what goes beyond a page of that
+/// size.
+constexpr double longestSide = 11000;
 /// Level 3 takes a quarter of the time off an export and adds a third to the file; the default
 /// level is 6.
 constexpr sal_Int32 compression = 3;
@@ -46,7 +49,8 @@ struct ScreenSize {
         const double wide = size.width * screenDpi / hundredthMmPerInch;
         const double high = size.height * screenDpi / hundredthMmPerInch;
         const double pixels = wide * high * sharpness * sharpness;
-        const double scale = pixels > mostPixels ? std::sqrt(mostPixels / pixels) : 1;
+        const double scale = std::min({1.0, std::sqrt(mostPixels / std::max(1.0, pixels)),
+                                       longestSide / std::max(wide, high)});
         width = std::max(1, static_cast<std::int32_t>(std::lround(wide * scale)));
         height = std::max(1, static_cast<std::int32_t>(std::lround(high * scale)));
     }
