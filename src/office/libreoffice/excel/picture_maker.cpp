@@ -30,9 +30,9 @@ constexpr int sharpness = 3;
 /// A picture with more pixels is made with fewer to the inch: a range of thousands of rows must not
 /// exhaust the memory.
 constexpr double mostPixels = 60e6;
-/// In screen pixels, nearly three metres: LibreOffice cuts off what goes beyond a page of that
-/// size.
-constexpr double longestSide = 11000;
+/// In screen pixels. LibreOffice makes an empty picture instead of one with more than 32,767 pixels
+/// on a side.
+constexpr double longestSide = 10900;
 /// Level 3 takes a quarter of the time off an export and adds a third to the file; the default
 /// level is 6.
 constexpr sal_Int32 compression = 3;

@@ -1,0 +1,188 @@
+#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/util/XProtectable.hpp>
+
+#include <utility>
+
+#include "live/excel_live_test.h"
+
+namespace live {
+
+namespace {
+
+using namespace libreoffice;
+using Names = std::vector<std::string>;
+constexpr std::int32_t refused = 1004;
+
+class ExcelCells : public ExcelLive {
+protected:
+    void SetUp() override {
+        ExcelLive::SetUp();
+        book = open("cells.xlsx");
+        data = sheet(book, "Data");
+    }
+
+    [[nodiscard]] Value at(std::string_view address) const {
+        return data.get("Range", address).get("Value");
+    }
+    void write(std::string_view address, const Value& value) const {
+        data.get("Range", address).put("Value", value);
+    }
+
+    Object book;
+    Object data;
+};
+
+TEST_F(ExcelCells, ReadsTruthValuesHoweverTheFileFormatsThem) {
+    const Table block = at("E1:F4").toTable();
+    EXPECT_TRUE(block.at(1, 1).isBool() && block.at(1, 1).toBool());
+    EXPECT_TRUE(block.at(2, 1).isBool() && !block.at(2, 1).toBool());
+    EXPECT_TRUE(block.at(1, 2).isBool());
+    for (const std::size_t row : {2U, 3U, 4U}) EXPECT_TRUE(block.at(row, 2).isDouble()) << row;
+    EXPECT_TRUE(at("E2").isBool());
+    EXPECT_TRUE(at("F2").isDouble());
+}
+
+TEST_F(ExcelCells, KeepsTruthValuesThroughASavedFile) {
+    Table block(6, 2);
+    for (std::size_t row = 1; row <= 6; ++row) {
+        block.at(row, 1) = row % 2 == 0;
+        block.at(row, 2) = static_cast<double>(row);
+    }
+    write("J1:K6", block);
+    book.call("SaveCopyAs", file("copy.xlsx"));
+    const Object copy = app.get("Workbooks").call("Open", file("copy.xlsx")).toObject();
+    const Table read = sheet(copy, "Data").get("Range", "J1:K6").get("Value").toTable();
+    for (std::size_t row = 1; row <= 6; ++row) {
+        EXPECT_TRUE(read.at(row, 1).isBool()) << row;
+        EXPECT_EQ(read.at(row, 1).toBool(), row % 2 == 0) << row;
+        EXPECT_TRUE(read.at(row, 2).isDouble()) << row;
+    }
+}
+
+TEST_F(ExcelCells, LetsANumberReplaceATruthValueAndTheOtherWayRound) {
+    write("J1:J3", true);
+    write("J2", 1);
+    EXPECT_TRUE(at("J1").isBool());
+    EXPECT_TRUE(at("J2").isDouble());
+    EXPECT_TRUE(at("J3").isBool());
+    write("J2", false);
+    EXPECT_TRUE(at("J2").isBool());
+    EXPECT_FALSE(at("J2").toBool());
+}
+
+TEST_F(ExcelCells, TypesValuesInAsAPersonWould) {
+    struct Case {
+        const char* address;
+        Value written;
+        bool isNumber;
+        const char* text;
+    };
+    const Case cases[] = {
+        {"J1", "12", true, "12"},
+        {"J2", "1.5", true, "1.5"},
+        {"J3", "12 px", false, "12 px"},
+        {"G1", "12", false, "12"},
+        {"G2", 7, false, "7"},
+        {"G3", true, false, "TRUE"},
+        {"E5", "3", true, "3"},
+        {"J4", "", false, ""},
+        {"J5", "'quoted", false, "'quoted"},
+        {"J6", "=1+1", false, "=1+1"},
+    };
+    for (const Case& each : cases) {
+        write(each.address, each.written);
+        EXPECT_EQ(at(each.address).isNumber(), each.isNumber) << each.address;
+        EXPECT_EQ(at(each.address).toText(), each.text) << each.address;
+    }
+}
+
+TEST_F(ExcelCells, LeavesWhatATableDoesNotReachAndCutsATableThatIsTooLarge) {
+    write("J1:K2", "old");
+    Table small(1, 1);
+    small.at(1, 1) = "new";
+    write("J1:K2", small);
+    EXPECT_EQ(at("J1").toText(), "new");
+    EXPECT_EQ(at("K2").toText(), "old");
+    const Table large(5, 5);
+    write("J1", large);
+    EXPECT_TRUE(at("J1").isBlank());
+    EXPECT_EQ(at("K1").toText(), "old");
+}
+
+TEST_F(ExcelCells, MovesABlockInAsManyCallsAsItHasColumnsAtMost) {
+    const auto callsForRows = [&](std::size_t rows) {
+        Table block(rows, 8);
+        for (std::size_t row = 1; row <= rows; ++row) {
+            block.at(row, 1) = "text";
+            block.at(row, 5) = row % 3 == 0;
+            block.at(row, 7) = static_cast<double>(row);
+        }
+        const Value range = data.get("Range", data.get("Cells", 1, 10),
+                                     data.get("Cells", static_cast<std::int32_t>(rows), 17));
+        // A first writing sets formats run by run; from then on there are none to set.
+        range.put("Value", block);
+        const auto writing = callsOf([&] { range.put("Value", block); });
+        const auto reading = callsOf([&] { static_cast<void>(range.get("Value")); });
+        return std::pair(writing, reading);
+    };
+    const auto [writingFew, readingFew] = callsForRows(10);
+    const auto [writingMany, readingMany] = callsForRows(400);
+    EXPECT_LE(writingMany, writingFew + 2);
+    EXPECT_LE(readingMany, readingFew + 2);
+    EXPECT_LE(readingMany, 40U);
+}
+
+TEST_F(ExcelCells, RefusesToWriteToAProtectedSheet) {
+    const auto sheets = as<css::sheet::XSpreadsheetDocument>(model())->getSheets();
+    const uno::Reference<css::util::XProtectable> userSheet(sheets->getByName("Data"),
+                                                            uno::UNO_QUERY_THROW);
+    userSheet->protect("");
+    EXPECT_TRUE(data.get("ProtectContents").toBool());
+    EXPECT_EQ(failureOf([&] { write("A1", "no"); }), refused);
+    EXPECT_EQ(failureOf([&] { data.get("Cells").call("ClearContents"); }), refused);
+    EXPECT_EQ(at("A1").toText(), "Quarter");
+}
+
+TEST_F(ExcelCells, ListsNamesAsExcelDoes) {
+    EXPECT_EQ(namesIn(book.get("Names")),
+              (Names{"Columns", "OffSheet", "Data!Own", "Wide!Print_Area", "Wide!Print_Titles",
+                     "Relative", "Total"}));
+    const auto addressOf = [&](const char* name) {
+        return book.get("Names").get("Item", name).get("RefersToRange").get("Address").toText();
+    };
+    EXPECT_EQ(addressOf("Columns"), "$A:$B");
+    EXPECT_EQ(addressOf("Relative"), "$B$2");
+    EXPECT_EQ(addressOf("Wide!Print_Titles"), "$1:$2");
+    EXPECT_EQ(failureOf([&] { addressOf("OffSheet"); }), refused);
+    EXPECT_EQ(failureOf([&] { book.get("Names").call("Add", "loc1", "=Data!$A$1"); }), refused);
+}
+
+TEST_F(ExcelCells, ShowsHiddenRowsAndLeavesAWorkbookAloneThatHasNone) {
+    const auto showAll = [&] {
+        app.call("Rows", "1:500000").get("EntireRow").put("Hidden", false);
+    };
+    showAll();
+    EXPECT_TRUE(book.get("Saved").toBool());
+    data.get("Rows", "3:4").put("Hidden", true);
+    data.get("Rows", 400000).put("Hidden", true);
+    EXPECT_TRUE(data.get("Rows", 3).get("Hidden").toBool());
+    showAll();
+    EXPECT_FALSE(data.get("Rows", 3).get("Hidden").toBool());
+    EXPECT_FALSE(data.get("Rows", 400000).get("Hidden").toBool());
+}
+
+TEST_F(ExcelCells, JumpsToTheEndOfWhatIsFilled) {
+    const auto endOf = [&](const char* from, std::int32_t direction) {
+        return data.get("Range", from).get("End", direction).get("Address").toText();
+    };
+    EXPECT_EQ(endOf("A1", -4121), "$A$9");
+    EXPECT_EQ(endOf("A9", -4121), "$A$1048576");
+    EXPECT_EQ(endOf("A5", -4162), "$A$1");
+    EXPECT_EQ(endOf("A1", -4161), "$C$1");
+    EXPECT_EQ(endOf("C1", -4161), "$E$1");
+    EXPECT_EQ(endOf("Z1", -4159), "$F$1");
+}
+
+}  // namespace
+
+}  // namespace live

@@ -1,0 +1,256 @@
+#include <com/sun/star/awt/Size.hpp>
+#include <com/sun/star/container/XChild.hpp>
+#include <com/sun/star/drawing/XShapeGrouper.hpp>
+#include <com/sun/star/drawing/XShapes.hpp>
+#include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/view/XSelectionSupplier.hpp>
+
+#include <cmath>
+#include <fstream>
+#include <iterator>
+
+#include "live/excel_live_test.h"
+#include "office/libreoffice/excel/picture_maker.h"
+#include "support/png_file.h"
+
+namespace live {
+
+namespace {
+
+using namespace libreoffice;
+using Names = std::vector<std::string>;
+constexpr std::int32_t refused = 1004;
+
+std::string bytesOf(const std::string& path) {
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// Whether the picture has an alpha channel, by the kind of colour in the head of the file.
+bool isTranslucent(const std::string& path) {
+    constexpr std::size_t colourKind = 25;
+    return (bytesOf(path).at(colourKind) & 4) != 0;
+}
+
+class ExcelPictures : public ExcelLive {
+protected:
+    [[nodiscard]] std::string exported(const Value& chart, const char* name = "chart.png") const {
+        const std::string path = file(name);
+        chart.call("Export", arg("Filename", path), arg("FilterName", "PNG"));
+        return path;
+    }
+    /// Excel's way from a range to a picture file.
+    [[nodiscard]] std::string pictureOf(const Value& range, const char* name = "range.png") const {
+        range.call("CopyPicture", arg("Appearance", 1), arg("Format", -4147));
+        const Value holder = range.get("Worksheet")
+                                 .call("ChartObjects")
+                                 .call("Add", 0, 0, range.get("Width"), range.get("Height"));
+        holder.call("Activate");
+        holder.get("Chart").call("Paste");
+        std::string path = exported(holder.get("Chart"), name);
+        holder.call("Delete");
+        return path;
+    }
+    [[nodiscard]] std::string blank(double width, double height) const {
+        const Value holder =
+            app.get("ActiveSheet").call("ChartObjects").call("Add", 0, 0, width, height);
+        return exported(holder.get("Chart"), "blank.png");
+    }
+    [[nodiscard]] excel::ChartShapePtr shapeOf(const char* sheetName, std::size_t place) const {
+        const auto active = desk_->activeWorkbook();
+        return active->sheets(desk_->connection()).find(sheetName)->charts().all().at(place);
+    }
+};
+
+TEST_F(ExcelPictures, ExportsChartsCrispAndAtTheirTrueSize) {
+    const Object book = open("charts.xlsx");
+    for (const char* name : {"Plain", "Clear", "Veiled", "Dark"}) {
+        const Value object = sheet(book, "Data").call("ChartObjects", name);
+        const std::string path = exported(object.get("Chart"));
+        const support::PngSize size = support::pngSizeOf(path);
+        EXPECT_NEAR(size.dotsPerInch(), 288, 1) << name;
+        EXPECT_NEAR(size.widthPoints(), object.get("Width").toDouble(), 0.5) << name;
+        EXPECT_NEAR(size.heightPoints(), object.get("Height").toDouble(), 0.5) << name;
+        EXPECT_GT(bytesOf(path).size(), 2 * bytesOf(blank(360, 216)).size()) << name;
+    }
+}
+
+TEST_F(ExcelPictures, KeepsAChartTransparentOnlyWhereItsBackgroundIs) {
+    const Object book = open("charts.xlsx");
+    const auto translucent = [&](const char* name) {
+        return isTranslucent(exported(sheet(book, "Data").call("ChartObjects", name).get("Chart")));
+    };
+    EXPECT_FALSE(translucent("Plain"));
+    EXPECT_FALSE(translucent("Dark"));
+    EXPECT_TRUE(translucent("Clear"));
+    EXPECT_TRUE(translucent("Veiled"));
+}
+
+TEST_F(ExcelPictures, ShowsTheDataOfTheMoment) {
+    const Object book = open("charts.xlsx");
+    const Object data = sheet(book, "Data");
+    const Value chart = data.call("ChartObjects", "Plain").get("Chart");
+    const std::string before = bytesOf(exported(chart));
+    EXPECT_EQ(bytesOf(exported(chart)), before);
+    data.get("Range", "B2").put("Value", 500);
+    EXPECT_NE(bytesOf(exported(chart)), before);
+}
+
+TEST_F(ExcelPictures, ReadsEveryChartNameRightHoweverOften) {
+    const Object book = open("many.xlsx");
+    const Value charts = sheet(book, "Many").get("ChartObjects");
+    for (int round = 0; round < 10; ++round) {
+        for (std::int32_t i = 1; i <= 40; ++i) {
+            ASSERT_EQ(charts.get("Item", i).get("Name").toText(), "Chart " + std::to_string(i));
+        }
+    }
+    EXPECT_EQ(charts.get("Item", "Chart 40").get("Index").toLong(), 40);
+}
+
+TEST_F(ExcelPictures, FindsTheLastChartOfManyForTheCallsOfTheFirst) {
+    const Object book = open("many.xlsx");
+    const Value charts = sheet(book, "Many").get("ChartObjects");
+    static_cast<void>(charts.get("Count"));
+    const auto export1 = [&](const char* name) {
+        return callsOf([&] { static_cast<void>(exported(charts.get("Item", name).get("Chart"))); });
+    };
+    static_cast<void>(export1("Chart 2"));
+    static_cast<void>(export1("Chart 39"));
+    const auto first = export1("Chart 1");
+    EXPECT_LE(export1("Chart 40"), first + 1);
+    EXPECT_LE(export1("Chart 1"), 15U);
+}
+
+TEST_F(ExcelPictures, FollowsChartsThatTheUserRenamesGroupsAndDeletes) {
+    const Object book = open("charts.xlsx");
+    const Value charts = sheet(book, "Data").get("ChartObjects");
+    EXPECT_EQ(namesIn(charts), (Names{"Plain", "Clear", "Veiled", "Dark"}));
+    shapeOf("Data", 0)->named->setName("Renamed");
+    EXPECT_EQ(charts.get("Item", "Renamed").get("Index").toLong(), 1);
+    EXPECT_EQ(failureOf([&] { charts.get("Item", "Plain"); }), 9);
+
+    const auto shapes = as<css::drawing::XShapes>(
+        instance_->connection()->create("com.sun.star.drawing.ShapeCollection"));
+    shapes->add(shapeOf("Data", 2)->shape);
+    shapes->add(shapeOf("Data", 3)->shape);
+    const auto page = as<css::container::XChild>(shapeOf("Data", 0)->shape)->getParent();
+    as<css::drawing::XShapeGrouper>(page)->group(shapes);
+    EXPECT_EQ(namesIn(charts), (Names{"Renamed", "Clear", "Veiled", "Dark"}));
+
+    charts.get("Item", "Clear").call("Delete");
+    EXPECT_EQ(namesIn(charts), (Names{"Renamed", "Veiled", "Dark"}));
+    EXPECT_GT(support::pngSizeOf(exported(charts.get("Item", "Dark").get("Chart"))).widthPx, 0U);
+}
+
+TEST_F(ExcelPictures, ExportsAChartSheetThatLibreOfficeLoses) {
+    const Object kept = open("kept.xlsx");
+    const std::string wanted = bytesOf(exported(kept.get("Charts").get("Item", "Gone")));
+    const Object book = open("lost.xlsx");
+    const auto before = openDocuments();
+    const Value chart = book.get("Charts").get("Item", "Gone");
+    EXPECT_EQ(chart.get("ChartTitle").get("Text").toText(), "Not gone");
+    EXPECT_EQ(bytesOf(exported(chart)), wanted);
+    EXPECT_EQ(openDocuments(), before);
+    EXPECT_TRUE(book.get("Saved").toBool());
+}
+
+TEST_F(ExcelPictures, TurnsARangeIntoAnOpaquePictureAndLeavesTheWorkbookAlone) {
+    const Object book = open("cells.xlsx");
+    const Object data = sheet(book, "Data");
+    data.get("Range", "B3:C4").call("Select");
+    const std::string path = pictureOf(sheet(book, "Wide").get("Range", "A1:C4"));
+    const Value range = sheet(book, "Wide").get("Range", "A1:C4");
+    EXPECT_NEAR(support::pngSizeOf(path).widthPoints(), range.get("Width").toDouble(), 0.5);
+    EXPECT_NEAR(support::pngSizeOf(path).heightPoints(), range.get("Height").toDouble(), 0.5);
+    EXPECT_FALSE(isTranslucent(path));
+
+    EXPECT_EQ(app.get("ActiveSheet").get("Name").toText(), "Data");
+    EXPECT_EQ(app.get("Selection").get("Address").toText(), "$B$3:$C$4");
+    EXPECT_EQ(sheet(book, "Wide").get("ChartObjects").get("Count").toLong(), 0);
+    EXPECT_TRUE(book.get("Saved").toBool());
+    EXPECT_EQ(openDocuments().size(), 1U);
+}
+
+TEST_F(ExcelPictures, ShowsAHiddenSheetOnlyForTheMomentOfTheCopy) {
+    const Object book = open("sheets.xlsx");
+    const Object hidden = sheet(book, "Hidden");
+    const std::string path = pictureOf(hidden.get("Range", "A1:B2"));
+    EXPECT_GT(bytesOf(path).size(), bytesOf(blank(150, 30)).size());
+    EXPECT_EQ(hidden.get("Visible").toLong(), 0);
+    EXPECT_EQ(sheet(book, "Buried").get("Visible").toLong(), 2);
+    EXPECT_TRUE(book.get("Saved").toBool());
+}
+
+TEST_F(ExcelPictures, DrawsColumnsBehindTheLastFilledOneAsWideAsTheyAre) {
+    const Object book = open("cells.xlsx");
+    const Value range = sheet(book, "Wide").get("Range", "A1:BK6");
+    range.call("CopyPicture");
+    const CopiedPicture& copied = desk_->copiedPicture.value();
+    const excel::PictureSize drawn = excel::sizeOfMetafile(copied.metafile);
+    EXPECT_NEAR(drawn.width, copied.widthHundredthMm, 100);
+    EXPECT_NEAR(copied.widthHundredthMm * 72 / 2540.0, range.get("Width").toDouble(), 0.5);
+    EXPECT_TRUE(book.get("Saved").toBool());
+}
+
+TEST_F(ExcelPictures, EndsWholeColumnsWithWhatIsUsed) {
+    const Object book = open("cells.xlsx");
+    const Value columns = book.get("Names").get("Item", "Columns").get("RefersToRange");
+    const double height = sheet(book, "Data").get("Range", "A1:B9").get("Height").toDouble();
+    EXPECT_NEAR(support::pngSizeOf(pictureOf(columns)).heightPoints(), height, 0.5);
+    EXPECT_EQ(failureOf([&] { sheet(book, "Data").get("Columns", "X:Z").call("CopyPicture"); }),
+              refused);
+}
+
+TEST_F(ExcelPictures, MakesFewerPixelsOfARangeOfThousandsOfRows) {
+    const Object book = open("cells.xlsx");
+    const Object data = sheet(book, "Data");
+    data.get("Range", "A9:H3000").put("Value", "row");
+    const Value range = data.get("Range", "A1:H3000");
+    const std::string path = pictureOf(range);
+    const support::PngSize size = support::pngSizeOf(path);
+    EXPECT_LT(double{1} * size.widthPx * size.heightPx, 70e6);
+    EXPECT_NEAR(size.heightPoints() / range.get("Height").toDouble(), 1, 0.01);
+    EXPECT_NEAR(size.widthPoints() / range.get("Width").toDouble(), 1, 0.02);
+}
+
+TEST_F(ExcelPictures, LeavesNoPictureBehindWhereItCantWriteOne) {
+    const Object book = open("charts.xlsx");
+    const Value chart = sheet(book, "Data").call("ChartObjects", 1).get("Chart");
+    const std::string folder = file("folder.png");
+    std::filesystem::create_directory(folder);
+    EXPECT_EQ(failureOf([&] { chart.call("Export", folder, "PNG"); }), refused);
+    EXPECT_TRUE(std::filesystem::is_directory(folder));
+    EXPECT_EQ(failureOf([&] { chart.call("Export", file("none/chart.png"), "PNG"); }), refused);
+    EXPECT_FALSE(std::filesystem::exists(file("none")));
+    EXPECT_EQ(failureOf([&] { chart.call("Export", file("chart.gif"), "GIF"); }), 5);
+    EXPECT_GT(support::pngSizeOf(exported(chart, "Ünï & 100%#.png")).widthPx, 0U);
+}
+
+TEST_F(ExcelPictures, NamesAChartWithoutANameByItsKey) {
+    Object book = open("charts.xlsx");
+    shapeOf("Data", 0)->named->setName("");
+    const std::string path = file("unnamed.ods");
+    as<css::frame::XStorable>(model())->storeToURL(
+        fileUrl(path), propertyValues({{"FilterName", uno::Any(rtl::OUString("calc8"))}}));
+    book = app.get("Workbooks").call("Open", path).toObject();
+    const Value charts = sheet(book, "Data").get("ChartObjects");
+    const std::string key = charts.get("Item", 1).get("Name").toText();
+    EXPECT_FALSE(key.empty());
+    EXPECT_EQ(charts.get("Item", key).get("Index").toLong(), 1);
+}
+
+TEST_F(ExcelPictures, PastesNothingWhereNothingWasCopied) {
+    const Object book = open("charts.xlsx");
+    const Value holder = sheet(book, "Data").call("ChartObjects").call("Add", 0, 0, 100, 50);
+    EXPECT_EQ(failureOf([&] { holder.get("Chart").call("Paste"); }), refused);
+    sheet(book, "Data").call("ChartObjects", 1).call("CopyPicture", 1, -4147);
+    holder.get("Chart").call("Paste");
+    const support::PngSize size = support::pngSizeOf(exported(holder.get("Chart")));
+    EXPECT_NEAR(size.widthPoints(), 360, 2) << "as large as what was copied";
+    holder.call("Delete");
+    EXPECT_NE(failureOf([&] { holder.get("Chart"); }), 0);
+}
+
+}  // namespace
+
+}  // namespace live

@@ -1,0 +1,167 @@
+#include <com/sun/star/container/XNamed.hpp>
+#include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+
+#include "live/excel_live_test.h"
+
+namespace live {
+
+namespace {
+
+using namespace libreoffice;
+using Names = std::vector<std::string>;
+constexpr std::int32_t refused = 1004;
+constexpr std::int32_t disconnected = static_cast<std::int32_t>(0x80010108);
+
+class ExcelSheets : public ExcelLive {
+protected:
+    /// The sheets as a user's hands reach them.
+    [[nodiscard]] uno::Reference<css::sheet::XSpreadsheets> userSheets() const {
+        return as<css::sheet::XSpreadsheetDocument>(model())->getSheets();
+    }
+    void userRenames(const char* from, const char* to) const {
+        const uno::Reference<css::container::XNamed> tab(userSheets()->getByName(toUno(from)),
+                                                         uno::UNO_QUERY_THROW);
+        tab->setName(toUno(to));
+    }
+};
+
+TEST_F(ExcelSheets, TellsChartSheetsFromWorksheetsByTheFile) {
+    const Object book = open("sheets.xlsx");
+    EXPECT_EQ(namesIn(book.get("Sheets")), (Names{"Data", "Trend", "Alike", "Hidden", "Buried"}));
+    EXPECT_EQ(namesIn(book.get("Worksheets")), (Names{"Data", "Alike", "Hidden", "Buried"}));
+    EXPECT_EQ(namesIn(book.get("Charts")), Names{"Trend"});
+    EXPECT_EQ(sheet(book, "Trend").typeName(), "Chart");
+    EXPECT_EQ(sheet(book, "Trend").get("ChartTitle").get("Text").toText(), "The trend");
+    EXPECT_EQ(sheet(book, "Alike").typeName(), "Worksheet");
+}
+
+TEST_F(ExcelSheets, KeepsItsKnowledgeOfSheetsThatTheUserRenamesMovesAndDeletes) {
+    const Object book = open("sheets.xlsx");
+    const Object trend = sheet(book, "Trend");
+    const Object buried = sheet(book, "Buried");
+    userRenames("Trend", "Direction");
+    userSheets()->moveByName("Direction", 0);
+    userSheets()->insertNewByName("Mine", 0);
+    EXPECT_EQ(trend.get("Name").toText(), "Direction");
+    EXPECT_EQ(trend.get("Index").toLong(), 2);
+    EXPECT_EQ(namesIn(book.get("Charts")), Names{"Direction"});
+    EXPECT_EQ(sheet(book, "Mine").typeName(), "Worksheet");
+
+    // LibreOffice's reference to a deleted sheet goes over to the next one, which must not become
+    // what that was.
+    userSheets()->removeByName("Direction");
+    userSheets()->removeByName("Hidden");
+    EXPECT_EQ(namesIn(book.get("Charts")), Names{});
+    EXPECT_EQ(sheet(book, "Data").typeName(), "Worksheet");
+    EXPECT_EQ(sheet(book, "Buried").get("Visible").toLong(), 2);
+    EXPECT_EQ(buried.get("Visible").toLong(), 2);
+    EXPECT_EQ(failureOf([&] { trend.put("Name", "Never"); }), disconnected);
+    EXPECT_EQ(namesIn(book.get("Sheets")), (Names{"Mine", "Data", "Alike", "Buried"}));
+}
+
+TEST_F(ExcelSheets, ReadsVeryHiddenFromTheFileAndFromThisSession) {
+    const Object book = open("sheets.xlsx");
+    EXPECT_EQ(sheet(book, "Hidden").get("Visible").toLong(), 0);
+    EXPECT_EQ(sheet(book, "Buried").get("Visible").toLong(), 2);
+    const Object made = book.get("Worksheets").call("Add").toObject();
+    made.put("Visible", 2);
+    EXPECT_EQ(sheet(book, made.get("Name")).get("Visible").toLong(), 2);
+    made.put("Visible", -1);
+    EXPECT_EQ(made.get("Visible").toLong(), -1);
+    made.put("Visible", false);
+    EXPECT_EQ(made.get("Visible").toLong(), 0);
+}
+
+TEST_F(ExcelSheets, SaysSoWhenLibreOfficeKeepsTheLastSheetVisible) {
+    const Object book = open("locked.xlsx");
+    const Object second = open("lost.xlsx");
+    second.get("Charts").get("Item", 1).put("Visible", false);
+    const Object last = sheet(second, "Data");
+    EXPECT_EQ(failureOf([&] { last.put("Visible", false); }), refused);
+    EXPECT_EQ(last.get("Visible").toLong(), -1);
+    EXPECT_EQ(failureOf([&] { last.call("Delete"); }), refused);
+}
+
+TEST_F(ExcelSheets, KeepsToTheProtectionOfTheStructureThatLibreOfficeDrops) {
+    const Object book = open("locked.xlsx");
+    EXPECT_TRUE(book.get("ProtectStructure").toBool());
+    EXPECT_EQ(failureOf([&] { book.get("Worksheets").call("Add"); }), refused);
+    EXPECT_EQ(failureOf([&] { sheet(book, 1).put("Name", "Other"); }), refused);
+    EXPECT_EQ(namesIn(book.get("Sheets")), Names{"Data"});
+    EXPECT_TRUE(book.get("Saved").toBool());
+}
+
+TEST_F(ExcelSheets, TellsTheChartSheetsOfAnEncryptedFileByTheirLooks) {
+    Object book = open("sheets.xlsx");
+    const std::string secret = file("secret.xlsx");
+    as<css::frame::XStorable>(model())->storeToURL(
+        fileUrl(secret),
+        propertyValues({{"FilterName", uno::Any(rtl::OUString("Calc MS Excel 2007 XML"))},
+                        {"Password", uno::Any(rtl::OUString("pass"))}}));
+    const Value books = app.get("Workbooks");
+    EXPECT_EQ(failureOf([&] { books.call("Open", secret); }), refused);
+    EXPECT_NE(lastWords.find("password"), std::string::npos) << lastWords;
+    EXPECT_EQ(failureOf([&] { books.call("Open", secret, arg("Password", "no")); }), refused);
+    EXPECT_NE(lastWords.find("password"), std::string::npos) << lastWords;
+    book = books.call("Open", secret, arg("Password", "pass")).toObject();
+    EXPECT_EQ(namesIn(book.get("Charts")), (Names{"Trend", "Alike"}));
+    EXPECT_EQ(namesIn(book.get("Worksheets")), (Names{"Data", "Hidden", "Buried"}));
+}
+
+TEST_F(ExcelSheets, OpensNothingButWorkbooksAndSaysWhy) {
+    const Value books = app.get("Workbooks");
+    const Object book = open("sheets.xlsx");
+    const auto before = openDocuments();
+    const std::string text = file("deck.fodp");
+    const std::string damaged = file("damaged.xlsx");
+    std::filesystem::copy_file(std::filesystem::path(MURVANE_TEST_BOOKS) / "damaged.xlsx", damaged);
+    const auto presentation = instance_->connection()->desktop()->loadComponentFromURL(
+        "private:factory/simpress", "_blank", 0, propertyValues({{"Hidden", uno::Any(true)}}));
+    as<css::frame::XStorable>(presentation)
+        ->storeAsURL(
+            fileUrl(text),
+            propertyValues(
+                {{"FilterName", uno::Any(rtl::OUString("OpenDocument Presentation Flat XML"))}}));
+
+    EXPECT_EQ(failureOf([&] { books.call("Open", text); }), refused);
+    EXPECT_NE(lastWords.find("no workbook"), std::string::npos) << lastWords;
+    EXPECT_EQ(openDocuments().size(), before.size() + 1) << "what was open already stays open";
+    as<css::lang::XComponent>(presentation)->dispose();
+    EXPECT_EQ(failureOf([&] { books.call("Open", text); }), refused);
+    EXPECT_EQ(failureOf([&] { books.call("Open", damaged); }), refused);
+    EXPECT_EQ(failureOf([&] { books.call("Open", file("nowhere.xlsx")); }), refused);
+    EXPECT_NE(lastWords.find("no such file"), std::string::npos) << lastWords;
+    EXPECT_EQ(openDocuments(), before);
+    EXPECT_EQ(books.call("Open", file("sheets.xlsx")).get("Name").toText(), "sheets.xlsx");
+    EXPECT_EQ(openDocuments(), before);
+}
+
+TEST_F(ExcelSheets, ClosesNoChangedWorkbookWithoutBeingToldWhetherToSave) {
+    const Object book = open("sheets.xlsx");
+    sheet(book, "Data").get("Range", "A1").put("Value", "changed");
+    EXPECT_EQ(failureOf([&] { book.call("Close"); }), refused);
+    const Object copied = [&] {
+        book.call("SaveCopyAs", file("copy.xlsx"));
+        return app.get("Workbooks").call("Open", file("copy.xlsx")).toObject();
+    }();
+    EXPECT_EQ(sheet(copied, "Data").get("Range", "A1").get("Value").toText(), "changed");
+    EXPECT_FALSE(book.get("Saved").toBool());
+    book.call("Close", false);
+    EXPECT_EQ(failureOf([&] { book.get("Name"); }), disconnected);
+}
+
+TEST_F(ExcelSheets, CostsNoMoreCallsToLookUpASheetWhenThereAreMany) {
+    const Object book = open("sheets.xlsx");
+    const Value sheets = book.get("Sheets");
+    static_cast<void>(sheets.get("Item", "Data"));
+    const auto few = callsOf([&] { static_cast<void>(sheets.get("Item", "Data")); });
+    sheets.call("Add", arg("Count", 60));
+    static_cast<void>(sheets.get("Item", 60));
+    EXPECT_EQ(callsOf([&] { static_cast<void>(sheets.get("Item", "Data")); }), few);
+    EXPECT_LE(callsOf([&] { static_cast<void>(sheets.get("Item", 60)); }), 2U);
+}
+
+}  // namespace
+
+}  // namespace live
