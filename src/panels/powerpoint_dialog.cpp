@@ -243,7 +243,7 @@ void Dialog::ToggleOption(std::string_view key) {
     box->setValue(box->isChecked() ? State::Unchecked : State::Checked);
 }
 
-void Dialog::RunPanelAction(std::string_view key) {
+void Dialog::RunPanelAction(std::string_view key) const {
     const std::string lower = office::lowerCase(key);
     forms::Form* tool = nullptr;
     if (lower == "style") tool = links_.styles;

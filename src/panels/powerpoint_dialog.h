@@ -61,7 +61,7 @@ public:
     /// Flips an option, if it is enabled; nothing for an unknown key.
     void ToggleOption(std::string_view key);
     /// Opens a tool form; nothing for an unknown key.
-    void RunPanelAction(std::string_view key);
+    void RunPanelAction(std::string_view key) const;
 
     furniture::TitelBar TitelBar1;
     forms::Image Image1;
