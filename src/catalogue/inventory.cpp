@@ -149,8 +149,6 @@ CheckAllState LoadItemsToForm(session::OfficeSession& session, InventoryValues& 
             }
             list.rows.push_back(std::move(row));
         }
-        // A list takes its first row as the selected one.
-        list.selected = list.rows.empty() ? -1 : 0;
     }
     // By the sheets' order while column 4 still holds it; from the second time on the order that
     // the user left comes first, then what has been added since. The running order takes column 4
@@ -159,6 +157,8 @@ CheckAllState LoadItemsToForm(session::OfficeSession& session, InventoryValues& 
     constexpr std::size_t laterOrderColumn = 7;
     const std::size_t column = values.StoreIsNew ? sheetOrderColumn : laterOrderColumn;
     SotrListView(list, column, sortTypeOfColumn(column));
+    // A list takes its first row as the selected one.
+    list.selected = list.rows.empty() ? -1 : 0;
     values.ListLoaded = true;
     RenumberIncludedRows(list);
     return stateOf(checked, list.rows.size());

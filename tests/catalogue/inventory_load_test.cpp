@@ -33,15 +33,15 @@ protected:
     }
 };
 
-TEST_F(Inventory, ListsChartsThenChartSheetsThenNamedRanges) {
+TEST_F(Inventory, ListsAFreshWorkbookInTheOrderOfItsSheets) {
     book.sheet("Sales").chart("Chart 1").chart("Chart 2");
     book.chartSheet("Overview");
     book.sheet("Costs").chart("Chart 1");
     book.define("Total", "=Costs!$A$1:$B$2");
     const LoadedList loaded = load();
 
-    EXPECT_EQ(loaded.names(), (Words{"Chart 1@Sales", "Chart 2@Sales", "Chart 1@Costs",
-                                     "{Chart Sheet}@Overview", "Total@Costs"}));
+    EXPECT_EQ(loaded.names(), (Words{"Chart 1@Sales", "Chart 2@Sales", "{Chart Sheet}@Overview",
+                                     "Chart 1@Costs", "Total@Costs"}));
     EXPECT_EQ(loaded.check1, CheckAllState::All);
     EXPECT_EQ(loaded.list.selected, 0);
     const ExportRow& total = loaded.list.rows.back();
@@ -51,8 +51,8 @@ TEST_F(Inventory, ListsChartsThenChartSheetsThenNamedRanges) {
     EXPECT_EQ(total.SubItems(7), "TotalCosts");
     EXPECT_EQ(total.SmallIcon, 4);
     EXPECT_EQ(loaded.list.rows.at(0).SmallIcon, 3);
-    EXPECT_EQ(loaded.list.rows.at(3).SmallIcon, 1);
-    EXPECT_EQ(loaded.list.rows.at(3).SubItems(5), "Chart");
+    EXPECT_EQ(loaded.list.rows.at(2).SmallIcon, 1);
+    EXPECT_EQ(loaded.list.rows.at(2).SubItems(5), "Chart");
 }
 
 TEST_F(Inventory, LeavesOutWhatIsHiddenForeignOrNoRange) {

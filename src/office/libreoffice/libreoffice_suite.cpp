@@ -2,6 +2,10 @@
 
 #include <fmt/format.h>
 
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -9,6 +13,8 @@
 #include "office/failure.h"
 #include "office/libreoffice/desk.h"
 #include "office/libreoffice/excel/application.h"
+#include "office/libreoffice/excel/chart_export.h"
+#include "office/libreoffice/excel/picture_maker.h"
 #include "office/libreoffice/guard.h"
 #include "office/libreoffice/powerpoint/application.h"
 #include "office/libreoffice/powerpoint/impress_document.h"
@@ -22,6 +28,28 @@ namespace {
 
 /// What the core looks for behind a presentation's name in a window's caption.
 constexpr std::string_view captionEnd = " - PowerPoint";
+
+/// The suite writes pictures to files only: one in a folder that only this user can read, and gone
+/// again at once.
+std::vector<std::uint8_t> pngOfCopied(Desk& desk) {
+    std::string folder =
+        (std::filesystem::temp_directory_path() / "murvane-preview-XXXXXX").string();
+    if (mkdtemp(folder.data()) == nullptr) return {};
+    const std::string file = folder + "/preview.png";
+    const CopiedPicture& copied = *desk.copiedPicture;
+    std::vector<std::uint8_t> bytes;
+    try {
+        excel::pictureMaker(desk).writeMetafile(
+            copied.metafile, {copied.widthHundredthMm, copied.heightHundredthMm}, file);
+        std::ifstream png(file, std::ios::binary);
+        bytes.assign(std::istreambuf_iterator<char>(png), {});
+    } catch (const office::Failure&) {
+        std::filesystem::remove_all(folder);
+        throw;
+    }
+    std::filesystem::remove_all(folder);
+    return bytes;
+}
 /// The class of PowerPoint's windows in the version that the application object tells.
 constexpr std::string_view frameClass = "PPTFrameClass";
 
@@ -94,17 +122,6 @@ void LibreOfficeSuite::clearClipboard() {
     if (desk_) desk_->copiedPicture.reset();
 }
 
-office::ClipboardPicture LibreOfficeSuite::clipboardPicture(office::ClipboardPicture::Kind kind) {
-    office::ClipboardPicture picture;
-    picture.kind = kind;
-    if (kind != office::ClipboardPicture::Kind::Vector || !desk_ || !desk_->copiedPicture)
-        return picture;
-    picture.mediaType = "application/x-openoffice-gdimetafile";
-    const auto& metafile = desk_->copiedPicture->metafile;
-    picture.bytes.assign(metafile.begin(), metafile.end());
-    return picture;
-}
-
 template <class Statement>
 auto LibreOfficeSuite::translated(const char* source, Statement&& statement) {
     try {
@@ -112,6 +129,21 @@ auto LibreOfficeSuite::translated(const char* source, Statement&& statement) {
     } catch (const uno::Exception&) {
         throwTranslated(*connection_, source);
     }
+}
+
+office::ClipboardPicture LibreOfficeSuite::clipboardPicture(office::ClipboardPicture::Kind kind) {
+    office::ClipboardPicture picture;
+    picture.kind = kind;
+    if (!desk_ || !desk_->copiedPicture) return picture;
+    if (kind == office::ClipboardPicture::Kind::Bitmap) {
+        picture.mediaType = "image/png";
+        picture.bytes = translated("Suite.clipboardPicture", [&] { return pngOfCopied(*desk_); });
+        return picture;
+    }
+    picture.mediaType = "application/x-openoffice-gdimetafile";
+    const auto& metafile = desk_->copiedPicture->metafile;
+    picture.bytes.assign(metafile.begin(), metafile.end());
+    return picture;
 }
 
 office::WindowHandle LibreOfficeSuite::findWindow(std::string_view className,

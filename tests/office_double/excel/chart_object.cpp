@@ -22,6 +22,7 @@ const office::MemberTable<ChartObject>& ChartObject::members() {
             .method("Activate", {}, &Self::activate)
             .method("Select", {"Replace"}, &Self::activate)
             .method("CopyPicture", {"Appearance", "Format"}, &Self::copyPicture)
+            .method("Copy", {}, &Self::copyPicture)
             .method("Delete", {}, &Self::deleteObject);
         const auto side = [&](const char* name, double Box::*which) {
             made.property(name, reading([which](Self& self) { return self.box_.*which; }),
