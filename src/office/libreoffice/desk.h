@@ -14,7 +14,7 @@ namespace libreoffice {
 namespace excel {
 class CalcDocument;
 class PictureMaker;
-}
+}  // namespace excel
 namespace powerpoint {
 class ImpressDocument;
 }
