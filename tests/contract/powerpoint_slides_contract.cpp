@@ -57,6 +57,27 @@ TEST_F(PowerPointContract, InsertsSlidesAtTheIndexWithTheirLayout) {
     EXPECT_EQ(second.get("SlideIndex").toLong(), 6);
 }
 
+TEST_F(PowerPointContract, TellsNewSlidesApartAsSoonAsSomebodyCould) {
+    const auto titleOf = [](const Value& slide) {
+        return slide.get("Shapes").get("Title").get("TextFrame").get("TextRange");
+    };
+    for (int i = 0; i < 3; ++i) slides().call("Add", 1, titleOnly);
+    titleOf(slides().call("Add", 1, titleOnly)).put("Text", "written");
+    slides().call("Add", 1, titleOnly);
+    slides().call("Add", 1, titleOnly);
+    EXPECT_EQ(titleOf(slide(3)).get("Text").toText(), "written") << "two came in front of it";
+    const Value kept = slides().call("Add", 1, titleOnly);
+    const Value next = slides().call("Add", 1, titleOnly);
+    EXPECT_EQ(kept.get("SlideIndex").toLong(), 2) << "one that is in somebody's hands";
+    EXPECT_EQ(next.get("SlideIndex").toLong(), 1);
+    slides().call("Add", 1, titleOnly);
+    slides().call("Add", 1, blank);
+    slides().call("Add", 1, titleOnly);
+    EXPECT_EQ(slide(2).get("Layout").toLong(), blank);
+    EXPECT_EQ(slides().get("Count").toLong(), 4 + 11);
+    EXPECT_EQ(titleOf(slide(8)).get("Text").toText(), "written");
+}
+
 TEST_F(PowerPointContract, RefusesASlideWhereThereIsNoPlace) {
     EXPECT_NE(failureOf([&] { slides().call("Add", 0, titleOnly); }), 0);
     EXPECT_NE(failureOf([&] { slides().call("Add", 9, titleOnly); }), 0);

@@ -89,6 +89,13 @@ HeldPagePtr ImpressDocument::pageAt(std::int32_t place) {
 
 HeldPagePtr ImpressDocument::addSlide(const Connection& connection, std::int32_t place,
                                       std::int32_t layout) {
+    if (newSlides_.areAt(connection, place, layout)) {
+        // LibreOffice counts from 0 and inserts after the page that it is given.
+        const auto last = slides_->insertNewByIndex(place + newSlides_.count() - 2);
+        layouts_.apply(*held(last), layout);
+        newSlides_.add(connection);
+        return newSlides_.first();
+    }
     const std::int32_t count = slideCount();
     if (place < 1 || place > count + 1)
         throw Failure(FailureNumber::SubscriptOutOfRange, "Slides.Add",
@@ -96,6 +103,7 @@ HeldPagePtr ImpressDocument::addSlide(const Connection& connection, std::int32_t
     SlideLayouts::requireKnown(layout);
     const HeldPagePtr added = insertPage(connection, place);
     layouts_.apply(*added, layout);
+    newSlides_.beginWith(connection, added, layout);
     return added;
 }
 

@@ -15,6 +15,7 @@
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/document.h"
 #include "office/libreoffice/powerpoint/held_page.h"
+#include "office/libreoffice/powerpoint/new_slides.h"
 #include "office/libreoffice/powerpoint/presentation_window.h"
 #include "office/libreoffice/powerpoint/slide_layouts.h"
 
@@ -87,6 +88,7 @@ private:
     PresentationWindow window_;
     SlideLayouts layouts_;
     std::vector<HeldPagePtr> held_;
+    NewSlides newSlides_;
     std::int32_t lastSlideId_ = 255;
     bool beginsWithoutSlides_ = false;
 };
