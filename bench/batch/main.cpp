@@ -52,11 +52,18 @@ Sizes measure(bench::MeasuredSuite& measured, const std::filesystem::path& folde
     return sizes;
 }
 
+/// What the last tenth of a batch's items costs over what the first tenth does, each by its middle.
+double growthWithin(const std::vector<double>& secondsOfItems) {
+    const auto tenth = static_cast<std::ptrdiff_t>(secondsOfItems.size() / 10 + 1);
+    return middleOf({secondsOfItems.end() - tenth, secondsOfItems.end()}) /
+           middleOf({secondsOfItems.begin(), secondsOfItems.begin() + tenth});
+}
+
 void print(int items, const Sizes& sizes) {
-    fmt::print("{:5}   {:7.1f} ms   {:7.1f} ms   {:5.2f}   {:8.1f}\n", items,
+    fmt::print("{:5}   {:7.1f} ms   {:7.1f} ms   {:5.2f}   {:8.1f}   {:12.2f}\n", items,
                sizes.murvane.secondsAnItem() * 1000, sizes.bareSecondsAnItem * 1000,
                sizes.murvane.secondsAnItem() / sizes.bareSecondsAnItem,
-               sizes.murvane.callsAnItem());
+               sizes.murvane.callsAnItem(), growthWithin(sizes.murvane.secondsOfItems));
 }
 
 int run(const std::vector<int>& counts) {
@@ -67,7 +74,7 @@ int run(const std::vector<int>& counts) {
 
     bench::MeasuredSuite measured;
     measure(measured, folder, counts.front());  // warms the suite up
-    fmt::print("items   Murvane, an item   bare   ratio   calls an item\n");
+    fmt::print("items   Murvane, an item   bare   ratio   calls an item   last over first\n");
     std::vector<Sizes> all;
     for (const int items : counts) {
         all.push_back(measure(measured, folder, items));

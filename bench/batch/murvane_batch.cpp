@@ -1,6 +1,7 @@
 #include "murvane_batch.h"
 
 #include <chrono>
+#include <vector>
 
 #include "apps/posix_console.h"
 #include "apps/posix_host.h"
@@ -20,7 +21,20 @@ class NoNotices : public session::NoticePresenter {
     }
 };
 
-class NoProgress : public session::ProgressDisplay {
+/// Notes when the items come.
+class Stopwatch : public session::ProgressDisplay {
+public:
+    using Clock = std::chrono::steady_clock;
+
+    [[nodiscard]] std::vector<double> secondsOfItems() const {
+        std::vector<double> seconds;
+        for (std::size_t i = 1; i < began_.size(); ++i) {
+            seconds.push_back(std::chrono::duration<double>(began_[i] - began_[i - 1]).count());
+        }
+        return seconds;
+    }
+
+private:
     void showLoading() override {}
     void setLoadingValue(int) override {}
     [[nodiscard]] int loadingValue() const override { return 0; }
@@ -31,8 +45,10 @@ class NoProgress : public session::ProgressDisplay {
     void setValue(int, std::string_view) override {}
     [[nodiscard]] int value() const override { return 0; }
     void redraw() override {}
-    void show() override {}
+    void show() override { began_.push_back(Clock::now()); }
     void unload() override {}
+
+    std::vector<Clock::time_point> began_;
 };
 
 }  // namespace
@@ -42,7 +58,7 @@ BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, const std::strin
     apps::PosixConsole console([] { return false; });
     apps::PosixHost host(console);
     NoNotices notices;
-    NoProgress progress;
+    Stopwatch progress;
     session::OfficeSession session(suite, host, notices, progress);
     session.ExcelApp = suite.attach("Excel.Application");
     session.PowerPointApp = suite.attach("PowerPoint.Application");
@@ -66,6 +82,7 @@ BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, const std::strin
     const auto start = std::chrono::steady_clock::now();
     powerpoint::ExportRowsAsPictures(session, list, {});
     cost.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    cost.secondsOfItems = progress.secondsOfItems();
     cost.remoteCalls = suite.remoteCalls() - callsBefore;
 
     deck.call("SaveCopyAs", output);

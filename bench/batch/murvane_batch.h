@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "office/libreoffice/libreoffice_suite.h"
 
@@ -13,6 +14,8 @@ struct BatchCost {
     double seconds = 0;
     /// Calls answered by the suite in that time.
     std::uint64_t remoteCalls = 0;
+    /// Each item's own, the last one's left out.
+    std::vector<double> secondsOfItems;
 
     [[nodiscard]] double secondsAnItem() const { return seconds / items; }
     [[nodiscard]] double callsAnItem() const { return static_cast<double>(remoteCalls) / items; }
