@@ -142,6 +142,23 @@ TEST_F(ExcelPictures, FollowsChartsThatTheUserRenamesGroupsAndDeletes) {
     EXPECT_GT(support::pngSizeOf(exported(charts.get("Item", "Dark").get("Chart"))).widthPx, 0U);
 }
 
+TEST_F(ExcelPictures, KnowsTheChartThatIsSelectedOrOnTop) {
+    const Object book = open("sheets.xlsx");
+    EXPECT_TRUE(app.get("ActiveChart").isEmpty());
+    const Value object = sheet(book, "Alike").call("ChartObjects", 1);
+    object.call("Activate");
+    EXPECT_EQ(app.get("ActiveSheet").get("Name").toText(), "Alike");
+    EXPECT_EQ(app.get("ActiveChart").get("Parent").get("Name").toText(),
+              object.get("Name").toText());
+    EXPECT_EQ(app.get("Selection").toObject().typeName(), "ChartObject");
+    sheet(book, "Alike").get("Range", "B2:C3").call("Select");
+    EXPECT_TRUE(app.get("ActiveChart").isEmpty());
+    EXPECT_EQ(app.get("Selection").get("Address").toText(), "$B$2:$C$3");
+    sheet(book, "Trend").call("Select");
+    EXPECT_EQ(app.get("ActiveChart").get("Name").toText(), "Trend");
+    EXPECT_EQ(failureOf([&] { app.get("Range", "A1"); }), refused) << "no cells are on top";
+}
+
 TEST_F(ExcelPictures, ExportsAChartSheetThatLibreOfficeLoses) {
     const Object kept = open("kept.xlsx");
     const std::string wanted = bytesOf(exported(kept.get("Charts").get("Item", "Gone")));

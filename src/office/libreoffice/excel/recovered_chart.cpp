@@ -85,8 +85,10 @@ void replacePart(const Connection& connection, const rtl::OUString& package,
 class RecoveredChart::PrivateFolder {
 public:
     PrivateFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "murvane-XXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr) {
+        std::error_code error;
+        const auto parent = std::filesystem::temp_directory_path(error);
+        std::string pattern = (parent / "murvane-XXXXXX").string();
+        if (error || mkdtemp(pattern.data()) == nullptr) {
             throw office::Failure(office::FailureNumber::PathFileAccess, "Chart",
                                   "No temporary folder can be made");
         }
