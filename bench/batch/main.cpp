@@ -62,8 +62,8 @@ double growthWithin(const std::vector<double>& secondsOfItems) {
 void print(int items, const Sizes& sizes) {
     fmt::print("{:5}   {:7.1f} ms   {:7.1f} ms   {:5.2f}   {:8.1f}   {:12.2f}\n", items,
                sizes.murvane.secondsAnItem() * 1000, sizes.bareSecondsAnItem * 1000,
-               sizes.murvane.secondsAnItem() / sizes.bareSecondsAnItem,
-               sizes.murvane.callsAnItem(), growthWithin(sizes.murvane.secondsOfItems));
+               sizes.murvane.secondsAnItem() / sizes.bareSecondsAnItem, sizes.murvane.callsAnItem(),
+               growthWithin(sizes.murvane.secondsOfItems));
 }
 
 int run(const std::vector<int>& counts) {

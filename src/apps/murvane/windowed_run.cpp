@@ -10,7 +10,10 @@ namespace apps {
 
 int runInWindows(int count, char** words, const std::string& commandLine, Console& console) {
     desktop::FormsRunner runner(count, words);
-    forms::Desktop& desktop = runner.desktop();
+    return runCommandOn(runner.desktop(), commandLine, console);
+}
+
+int runCommandOn(forms::Desktop& desktop, const std::string& commandLine, Console& console) {
     DesktopHost host(console, desktop);
     panels::NoticePanel notices(desktop, host);
     const session::OfficeSession* current = nullptr;

@@ -3,11 +3,15 @@
 #include <string>
 
 #include "apps/console.h"
+#include "forms/desktop.h"
 
 namespace apps {
 
 /// Carries out a command with windows; returns its exit status. Failures go to the caller, after
 /// the windows have been closed.
 int runInWindows(int count, char** words, const std::string& commandLine, Console& console);
+
+/// The same on a desktop that is there already.
+int runCommandOn(forms::Desktop& desktop, const std::string& commandLine, Console& console);
 
 }  // namespace apps

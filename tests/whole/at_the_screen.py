@@ -1,0 +1,79 @@
+"""What the tests of the whole program share: a screen with the sample workbook and deck open in LibreOffice."""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import unittest
+
+HERE = pathlib.Path(__file__).resolve().parent
+sys.path += [str(HERE.parents[1] / "tools" / "by_hand"), str(HERE.parent / "live")]
+
+from program import BUILD, SAMPLES, colours_of, slides_of  # noqa: E402
+from screen import Refused, Screen, wait_until  # noqa: E402
+
+FORM, LIST, DIALOG, PAGE = "UserformObj", "listCharts", "Dialog", "wbStatus"
+BOOK, DECK = "Harbour Logistics 2026.xlsx", "Board deck.pptx"
+
+
+class AtTheScreen(unittest.TestCase):
+    def setUp(self):
+        self.screen = Screen(BUILD)
+        self.addCleanup(self.screen.close)
+        self.folder = self.screen.folder / "home"
+
+    def open_sample(self, *names):
+        """Copies of the samples, open in the suite."""
+        for name in names or (DECK, BOOK):
+            shutil.copy(SAMPLES / name, self.folder / name)
+            self.screen.open_in_suite(self.folder / name)
+
+    def open_main_form(self):
+        hand = self.screen.use("/112")
+        hand.wait_for(FORM)
+        wait_until(lambda: hand.caption(FORM, "NbCharts").endswith("items selected"), what="the list")
+        return hand
+
+    def open_dialog(self, hand):
+        hand.do("click", FORM, "PasteIT")
+        hand.wait_for(DIALOG)
+        hand.wait_for_page(DIALOG, PAGE)
+
+    def in_the_suite(self, script, *arguments):
+        """Runs a script of the suite's own language binding over the user's suite; what it prints."""
+        pipe = (pathlib.Path(self.screen.environment["XDG_RUNTIME_DIR"]) / "murvane" / "suite-pipe").read_text().strip()
+        return subprocess.run(["/usr/bin/python3", "-c", PREAMBLE + script, pipe, *map(str, arguments)], check=True,
+                              env=self.screen.environment, capture_output=True, text=True, timeout=120).stdout
+
+    def saved_deck(self):
+        """The slides of the open presentation, by way of a copy on disk."""
+        copy = self.folder / "copy.pptx"
+        self.in_the_suite("""
+deck = document("Presentation")
+deck.storeToURL(uno.systemPathToFileUrl(sys.argv[2]), filter("Impress MS PowerPoint 2007 XML"))
+""", copy)
+        return slides_of(copy)
+
+
+PREAMBLE = """
+import sys, uno
+from com.sun.star.beans import PropertyValue
+
+local = uno.getComponentContext()
+resolver = local.ServiceManager.createInstanceWithContext("com.sun.star.bridge.UnoUrlResolver", local)
+context = resolver.resolve(f"uno:pipe,name={sys.argv[1]};urp;StarOffice.ComponentContext")
+desktop = context.ServiceManager.createInstanceWithContext("com.sun.star.frame.Desktop", context)
+
+SERVICES = {"Presentation": "com.sun.star.presentation.PresentationDocument",
+            "Workbook": "com.sun.star.sheet.SpreadsheetDocument"}
+
+def document(kind):
+    return next(each for each in desktop.Components if each.supportsService(SERVICES[kind]))
+
+def filter(name):
+    return (PropertyValue("FilterName", 0, name, 0),)
+"""
+
+__all__ = ["AtTheScreen", "BOOK", "DECK", "DIALOG", "FORM", "LIST", "PAGE", "Refused", "colours_of", "slides_of",
+           "unittest", "wait_until"]

@@ -1,0 +1,79 @@
+"""The whole road by hand: from the list of the open workbook to the slides of the open presentation."""
+
+from at_the_screen import DIALOG, FORM, LIST, PAGE, AtTheScreen, colours_of, unittest, wait_until
+
+SLIDES_OF_DECK = 3
+SHEET, ORDER, CAPTION = 1, 3, 4
+
+
+def shown_name(row):
+    texts = row["texts"]
+    return texts[SHEET] if texts[0] == "{Chart Sheet}" else texts[0]
+
+
+class TheRoad(AtTheScreen):
+    def choose(self, hand):
+        """Two rows out, one moved down, one captioned; the rows as they then stand."""
+        before = hand.rows()
+        hand.do("check-row", FORM, LIST, row=1)
+        hand.do("check-row", FORM, LIST, row=4)
+        hand.do("click-row", FORM, LIST, row=2)
+        wait_until(lambda: hand.do("rows", FORM, LIST)["selected"] == 2)
+        hand.do("click", FORM, "Down")
+        wait_until(lambda: hand.rows()[3]["texts"][0] == before[2]["texts"][0], what="the move")
+        hand.do("click", FORM, "AddCaption")
+        wait_until(lambda: hand.do("control", FORM, "TitlesFrame")["visible"])
+        hand.do("key", FORM, key="Tab")
+        hand.do("click", FORM, "SlideTitle")
+        hand.do("key", FORM, key="Ctrl+A")
+        hand.do("type", FORM, text='Typed <b> & "quoted"')
+        wait_until(lambda: hand.rows()[3]["texts"][CAPTION] == 'Typed <b> & "quoted"', what="the caption")
+        rows = hand.rows()
+        self.assertEqual([row["checked"] for row in rows].count(False),
+                         [row["checked"] for row in before].count(False) + 2)
+        return rows
+
+    def toggle(self, hand, key):
+        def state():
+            return hand.value(DIALOG, key)
+        before = state()
+        hand.do("follow", DIALOG, PAGE, href=f"murvane://toggle/{key}")
+        wait_until(lambda: state() != before, what=f"the toggle of {key}")
+        hand.wait_for_page(DIALOG, PAGE)
+
+    def test_leads_from_the_list_to_the_slides_and_the_choice_is_found_again(self):
+        self.open_sample()
+        hand = self.open_main_form()
+        rows = self.choose(hand)
+        wanted = [row for row in rows if row["checked"]]
+        self.assertEqual([row["texts"][ORDER] for row in wanted], [str(n + 1) for n in range(len(wanted))])
+
+        self.open_dialog(hand)
+        with_titles = hand.value(DIALOG, "slideTitle")
+        if not with_titles:
+            self.toggle(hand, "slideTitle")
+        if not hand.value(DIALOG, "sourceInc"):
+            self.toggle(hand, "sourceInc")
+        hand.do("click", DIALOG, "ContinueOk")
+        self.assertEqual(hand.ended(180), 0, hand.said())
+
+        slides = self.saved_deck()[SLIDES_OF_DECK:]
+        self.assertEqual(len(slides), len(wanted))
+        for row, slide in zip(wanted, slides):
+            with self.subTest(item=row["texts"][0]):
+                caption = row["texts"][CAPTION]
+                self.assertEqual(slide.title or "", caption)
+                self.assertIn(str(self.folder / "Harbour Logistics 2026.xlsx"), slide.texts)
+                (picture,) = slide.pictures
+                self.assertEqual(picture["description"], caption or shown_name(row))
+                self.assertGreater(colours_of(picture["bytes"]), 8, "blank")
+
+        again = self.open_main_form()
+        self.assertEqual([(row["checked"], row["texts"][:5]) for row in again.rows()],
+                         [(row["checked"], row["texts"][:5]) for row in rows])
+        again.do("key", FORM, key="Alt+F4")
+        self.assertEqual(again.ended(), 0, again.said())
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

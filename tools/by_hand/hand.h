@@ -1,0 +1,47 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include "desktop/qt_desktop.h"
+
+namespace by_hand {
+
+/// Somebody at the screen: looks at the windows and moves the mouse while the program runs. Lives
+/// in a thread of its own, as a person does; what it does reaches the program as events.
+///
+/// An order is an object with the key "do" and what the order needs:
+///
+///     forms                                 names of the open forms
+///     control   form, control               what the control shows
+///     rows      form, control               what a list shows
+///     click, double-click   form, control   on its middle
+///     click-row, check-row  form, control, row
+///     click-column          form, control, column
+///     key       form, key                   "Return", "Ctrl+A" ... to where the keyboard goes
+///     type      form, text
+///     follow    form, control, href         clicks the link with that address in a page
+///     ask       form, control, script       what a script in a page results in
+///     look      form, file                  writes a picture of the form, a PNG
+///     boxes                                 texts of the plain message boxes so far, each answered
+class Hand {
+public:
+    explicit Hand(desktop::QtDesktop& desktop);
+
+    /// Carries the order out and returns what it saw; null where there is nothing to see. What the
+    /// program does in answer to a click or a key may go on after the return. Throws
+    /// `std::runtime_error` for what cannot be done now.
+    nlohmann::json carryOut(const nlohmann::json& order);
+
+private:
+    nlohmann::json see(const nlohmann::json& order) const;
+    void act(const nlohmann::json& order);
+    void press(const nlohmann::json& order);
+    void clickInList(const nlohmann::json& order);
+    [[nodiscard]] nlohmann::json ask(const nlohmann::json& order, const std::string& script);
+    void follow(const nlohmann::json& order);
+
+    desktop::QtDesktop& desktop_;
+    nlohmann::json boxes_ = nlohmann::json::array();
+};
+
+}  // namespace by_hand

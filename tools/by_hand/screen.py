@@ -1,0 +1,183 @@
+"""A screen of its own with a LibreOffice on it, and somebody who uses Murvane there."""
+
+import json
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+PATIENCE = 30.0
+
+
+class Refused(Exception):
+    """What the hand was told to do cannot be done now."""
+
+
+def wait_until(holds, patience=PATIENCE, what="that"):
+    """Polls; what `holds` returns once it is true. A refusal counts as not yet."""
+    deadline = time.monotonic() + patience
+    refusal = None
+    while time.monotonic() < deadline:
+        try:
+            seen = holds()
+            if seen:
+                return seen
+        except Refused as refused:
+            refusal = refused
+        time.sleep(0.05)
+    raise AssertionError(f"waited {patience:.0f} s in vain for {what}" + (f": {refusal}" if refusal else ""))
+
+
+class Screen:
+    """An X server, or the screen that is there, and a user's LibreOffice with a home of its own.
+
+    Everything lies in one private folder, which `close` removes.
+    """
+
+    def __init__(self, build, size="1600x1200", scale=1.0):
+        self.build = pathlib.Path(build)
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="murvane-screen-"))
+        self.hands = []
+        self.suite = None
+        self.server, display = self._start_server(size)
+        home = self.folder / "home"
+        runtime = self.folder / "runtime"
+        temporary = self.folder / "temporary"
+        for folder in (home, runtime, temporary):
+            folder.mkdir(mode=0o700)
+        self.environment = {**os.environ, "HOME": str(home), "XDG_RUNTIME_DIR": str(runtime),
+                            "XDG_CONFIG_HOME": str(home / ".config"), "XDG_CACHE_HOME": str(home / ".cache"),
+                            "TMPDIR": str(temporary), "DISPLAY": display, "QT_QPA_PLATFORM": "xcb",
+                            "QT_SCALE_FACTOR": str(scale), "SAL_USE_VCLPLUGIN": "gen"}
+        for name in ("WAYLAND_DISPLAY", "TEMP", "DBUS_SESSION_BUS_ADDRESS"):
+            self.environment.pop(name, None)
+
+    @staticmethod
+    def _start_server(size):
+        read, write = os.pipe()
+        server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten", "tcp"],
+                                  pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        os.close(write)
+        with os.fdopen(read) as number:
+            return server, ":" + number.readline().strip()
+
+    def open_in_suite(self, *documents):
+        """As a user does who double-clicks them: the first starts the suite, without a pipe to listen on."""
+        profile = self.folder / "home" / ".config" / "libreoffice" / "4" / "user"
+        if not profile.exists():
+            profile.mkdir(parents=True)
+            shutil.copy(pathlib.Path(__file__).parent / "quiet-suite.xcu", profile / "registrymodifications.xcu")
+        for document in documents:
+            process = subprocess.Popen(["soffice", "--nologo", "--norestore", str(document)], env=self.environment,
+                                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True)
+            if self.suite is None:
+                self.suite = process
+            else:
+                process.wait(60)  # hands the document over and ends
+            wait_until(lambda: self.window_named(pathlib.Path(document).name), 60, f"the window of {document}")
+
+    def window_named(self, text):
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", text.replace(".", r"\.")],
+                               env=self.environment, capture_output=True, text=True)
+        return found.stdout.split()
+
+    def use(self, code):
+        """Starts Murvane with a code; the one at the screen."""
+        hand = Hand(self, code)
+        self.hands.append(hand)
+        return hand
+
+    def picture(self, file):
+        """Writes what is on the screen, as a PNG."""
+        subprocess.run(["import", "-window", "root", str(file)], env=self.environment, check=True)
+
+    def kill_suite(self):
+        os.killpg(self.suite.pid, signal.SIGKILL)
+        self.suite.wait()
+
+    def close(self):
+        for hand in self.hands:
+            hand.let_go()
+        if self.suite is not None:
+            try:
+                self.kill_suite()
+            except ProcessLookupError:
+                pass
+        self.server.terminate()
+        self.server.wait()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+
+class Hand:
+    """Somebody who uses one run of Murvane."""
+
+    def __init__(self, screen, code):
+        self.screen = screen
+        self.errors = open(screen.folder / f"errors-{len(screen.hands)}", "w+", encoding="utf-8")
+        self.process = subprocess.Popen([screen.build / "bin" / "murvane-by-hand", code], env=screen.environment,
+                                        stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=self.errors, text=True)
+        self.end = {}
+
+    def do(self, deed, form=None, control=None, **more):
+        """Carries out one order; see hand.h for what there is."""
+        order = {"do": deed, "form": form, "control": control, **more}
+        order = {key: value for key, value in order.items() if value is not None}
+        try:
+            self.process.stdin.write(json.dumps(order) + "\n")
+            self.process.stdin.flush()
+        except BrokenPipeError as broken:
+            raise AssertionError("the program has ended: " + self.said()) from broken
+        while True:
+            line = self.process.stdout.readline()
+            if not line:
+                raise AssertionError("the program has ended: " + self.said())
+            answer = json.loads(line)
+            if "seen" in answer:
+                return answer["seen"]
+            if "refused" in answer:
+                raise Refused(answer["refused"])
+            self.end.update(answer)
+
+    def wait_for(self, form, patience=PATIENCE):
+        """Until the window of the form is open."""
+        wait_until(lambda: form in self.do("forms"), patience, form)
+
+    def wait_for_page(self, form, control, element=".wrap, #noticeRoot, body *"):
+        """Until a page has come into the browser of the form."""
+        wait_until(lambda: self.do("ask", form, control, script=f"!!document.querySelector({json.dumps(element)})"),
+                   what=f"the page of {form}")
+
+    def rows(self):
+        """The list of the main form."""
+        return self.do("rows", "UserformObj", "listCharts")["rows"]
+
+    def value(self, form, control):
+        return self.do("control", form, control).get("value")
+
+    def caption(self, form, control):
+        return self.do("control", form, control)["caption"]
+
+    def ended(self, patience=60.0):
+        """Waits for the program to end by itself; its exit code."""
+        self.process.stdin.close()
+        deadline = time.monotonic() + patience
+        while self.process.poll() is None and time.monotonic() < deadline:
+            time.sleep(0.02)
+        assert self.process.poll() is not None, "the program does not end"
+        for line in self.process.stdout:
+            self.end.update(json.loads(line))
+        return self.process.returncode
+
+    def said(self):
+        """What the program wrote on its standard error, and what ended it."""
+        self.errors.seek(0)
+        return self.end.get("unhandled", "") + self.errors.read()
+
+    def let_go(self):
+        if self.process.poll() is None:
+            self.process.kill()
+        self.process.wait()
+        self.errors.close()

@@ -1,0 +1,78 @@
+#include "sight.h"
+
+#include <QtWidgets/QWidget>
+
+#include <stdexcept>
+
+#include "forms/controls.h"
+#include "forms/list_view.h"
+
+namespace by_hand {
+
+using nlohmann::json;
+
+forms::Form& formOf(const desktop::QtDesktop& desktop, const std::string& form) {
+    forms::Form* found = desktop.findLoaded(form);
+    if (found == nullptr) throw std::runtime_error("no form " + form + " is loaded");
+    return *found;
+}
+
+forms::Control& controlOf(const desktop::QtDesktop& desktop, const std::string& form,
+                          const std::string& control) {
+    const std::size_t bracket = control.find('(');
+    const std::string name = control.substr(0, bracket);
+    int index = bracket == std::string::npos ? 0 : std::stoi(control.substr(bracket + 1));
+    for (forms::Control* each : formOf(desktop, form).controls()) {
+        if (forms::sameFormName(each->name(), name) && index-- == 0) return *each;
+    }
+    throw std::runtime_error(form + " has no control " + control);
+}
+
+QWidget& widgetOf(const desktop::QtDesktop& desktop, const std::string& form,
+                  const std::string& control) {
+    QWidget* widget = desktop.widgetOf(controlOf(desktop, form, control));
+    if (widget == nullptr) throw std::runtime_error(form + " is not shown");
+    return *widget;
+}
+
+json openForms(const desktop::QtDesktop& desktop) {
+    json names = json::array();
+    for (const forms::Form* form : desktop.loadedForms()) {
+        const QWidget* plate = desktop.plateOf(*form);
+        if (plate != nullptr && plate->window()->isVisible()) names.push_back(form->name());
+    }
+    return names;
+}
+
+json describe(const forms::Control& control) {
+    json seen = {
+        {"caption", control.caption}, {"enabled", control.enabled}, {"visible", control.visible}};
+    if (const auto* box = dynamic_cast<const forms::CheckBox*>(&control)) {
+        seen["value"] = static_cast<int>(box->value());
+    } else if (const auto* option = dynamic_cast<const forms::OptionButton*>(&control)) {
+        seen["value"] = option->value();
+    } else if (const auto* text = dynamic_cast<const forms::TextBox*>(&control)) {
+        seen["value"] = text->text();
+    } else if (const auto* image = dynamic_cast<const forms::Image*>(&control)) {
+        seen["value"] = image->version();
+    }
+    return seen;
+}
+
+json rowsOf(const forms::Control& control) {
+    const auto& list = dynamic_cast<const forms::ListView&>(control);
+    json seen = {{"selected", -1}, {"rows", json::array()}, {"columns", json::array()}};
+    for (const auto& column : list.columns) seen["columns"].push_back(column.width);
+    if (list.rows == nullptr) return seen;
+    seen["selected"] = list.rows->selected();
+    for (std::size_t row = 0; row < list.rows->count(); ++row) {
+        json texts = json::array();
+        for (std::size_t column = 0; column < list.columns.size(); ++column) {
+            texts.push_back(list.rows->text(row, column));
+        }
+        seen["rows"].push_back({{"checked", list.rows->isChecked(row)}, {"texts", texts}});
+    }
+    return seen;
+}
+
+}  // namespace by_hand

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+
+#include "desktop/qt_desktop.h"
+
+/// What somebody at the screen sees.
+namespace by_hand {
+
+/// The control of a loaded form by name; those of a control array as "Option1(2)", counted from 0
+/// in the order of their making. Throws `std::runtime_error` if there is none.
+[[nodiscard]] forms::Control& controlOf(const desktop::QtDesktop& desktop, const std::string& form,
+                                        const std::string& control);
+[[nodiscard]] forms::Form& formOf(const desktop::QtDesktop& desktop, const std::string& form);
+/// The widget that draws the control.
+[[nodiscard]] QWidget& widgetOf(const desktop::QtDesktop& desktop, const std::string& form,
+                                const std::string& control);
+
+/// The names of the forms whose windows are open, in the order of loading.
+[[nodiscard]] nlohmann::json openForms(const desktop::QtDesktop& desktop);
+/// {"caption", "enabled", "visible", "value"}: a value where the class of the control has one.
+[[nodiscard]] nlohmann::json describe(const forms::Control& control);
+/// {"selected", "columns": widths in twips, "rows": [{"checked", "texts"}]} of a list.
+[[nodiscard]] nlohmann::json rowsOf(const forms::Control& list);
+
+}  // namespace by_hand
