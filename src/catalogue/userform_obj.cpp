@@ -16,6 +16,7 @@
 #include "furniture/theme.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
+#include "session/notices.h"
 
 namespace catalogue {
 
@@ -68,6 +69,7 @@ void UserformObj::Form_Load() {
 
 void UserformObj::loadForm() {
     session_.MainFormStarted = true;
+    workbook_ = session_.ActiveBook;
     SlideNb.visible = false;
     session_.ExcelApp.put("ScreenUpdating", false);
     shadow_.emplace().Shadow(*this);
@@ -125,7 +127,9 @@ void UserformObj::listChartsShowPreview() {
 
 void UserformObj::Form_Unload() {
     session_.MainFormOpen = false;
-    SaveListToStore(session_, list_);
+    session_.ActiveBook = workbook_;
+    // A list that never came up whole would take the place of the one that is stored.
+    if (values_.ListLoaded) SaveListToStore(session_, list_);
     office::ContinueOnFailure scope;
     scope.attempt([this] { session_.ExcelApp.put("ScreenUpdating", true); });
     session_.PowerPointApp.release();
@@ -280,18 +284,36 @@ void UserformObj::listCharts_ItemClick(std::size_t /*row*/) {
 }
 
 void UserformObj::imgChart_DblClick() {
-    const ExportRow* row = selectedRow();
-    if (row == nullptr) return;
-    if (!hooks_.InsertOneItem) return;
-    session_.CurrentSlideIndex =
-        static_cast<std::int16_t>(session_.PowerPointApp.get("ActiveWindow")
-                                      .get("View")
-                                      .get("Slide")
-                                      .get("SlideIndex")
-                                      .toLong());
-    session_.ExcelApp.put("WindowState", normalWindow);
-    hooks_.InsertOneItem(*row);
-    desktop().messageBox("Done!", "Murvane");
+    if (selectedRow() == nullptr || !hooks_.InsertOneItem) return;
+    // Inserting lets events run, and nothing may change the rows meanwhile.
+    takesInput = false;
+    const bool inserted = insertSelectedItem();
+    takesInput = true;
+    if (inserted) desktop().messageBox("Done!", "Murvane");
+}
+
+bool UserformObj::insertSelectedItem() {
+    office::ContinueOnFailure scope;
+    const bool slideIsShown = scope.attempt([this] {
+        session_.CurrentSlideIndex =
+            static_cast<std::int16_t>(session_.PowerPointApp.get("ActiveWindow")
+                                          .get("View")
+                                          .get("Slide")
+                                          .get("SlideIndex")
+                                          .toLong());
+    });
+    if (!slideIsShown) {
+        session::ShowWarningNotice(
+            session_.notices,
+            "No PowerPoint presentation is open. Open or create a presentation, then try again.");
+        return false;
+    }
+    scope.attempt([this] { session_.ExcelApp.put("WindowState", normalWindow); });
+    bool inserted = false;
+    if (!scope.attempt([&] { inserted = hooks_.InsertOneItem(*selectedRow()); })) {
+        session::ShowWarningNotice(session_.notices, scope.lastFailure()->description());
+    }
+    return inserted;
 }
 
 void UserformObj::SlideTitle_Change() {
@@ -302,7 +324,13 @@ void UserformObj::SlideTitle_Change() {
 }
 
 void UserformObj::TextBox10_Change() {
-    TextBox10.setText(Validate_Number_Entry(TextBox10.text()));
+    // At once: each writing to the box would run this procedure within itself.
+    std::string entry = TextBox10.text();
+    for (std::string shorter = Validate_Number_Entry(entry); shorter != entry;
+         shorter = Validate_Number_Entry(entry)) {
+        entry = std::move(shorter);
+    }
+    TextBox10.setText(std::move(entry));
     if (ExportRow* row = selectedRow()) {
         row->SubItems(2) = TextBox10.text();
         listCharts.rowsChanged();

@@ -28,8 +28,9 @@ struct MainFormHooks {
     std::function<void()> StartPdfExport;
     std::function<void()> StartHtmlExport;
     std::function<void()> StartImageExport;
-    /// Puts one row on a slide in the format `ExportFormatIndex`, whether it is checked or not.
-    std::function<void(const ExportRow& row)> InsertOneItem;
+    /// Puts one row on a slide in the format `ExportFormatIndex`, whether it is checked or not. False
+    /// if it has not been put there and the user knows.
+    std::function<bool(const ExportRow& row)> InsertOneItem;
     /// Opens a page of help by the name of the button that asks for it.
     std::function<void(std::string_view buttonName)> ShowHelp;
 };
@@ -133,6 +134,8 @@ private:
     void recolourRows();
     void renumberRows();
     void resizeColumns();
+    [[nodiscard]] bool insertSelectedItem();
+    void activateWorkbook();
 
     // Panels.
     [[nodiscard]] forms::Timer& timer(int index) {
@@ -148,6 +151,8 @@ private:
     ExportList list_;
     ExportListView listRows_;
     InventoryValues values_;
+    /// The workbook that the rows are of, whichever the user looks at meanwhile.
+    office::Object workbook_;
     std::array<std::unique_ptr<forms::Timer>, 5> timers_;
     SlidePanelMotion slidePanelMotion_ = SlidePanelMotion::None;
     std::optional<furniture::clsShadow> shadow_;

@@ -101,6 +101,7 @@ void UserformObj::showTarget(const Target& target) {
 
 void UserformObj::PasteIT_Click() {
     for (int i = 1; i <= 4; ++i) timer(i).enabled = false;
+    activateWorkbook();
     if (PreExportReview(session_, list_, choices()) != ReviewResult::Go) return;
 
     if (OptionNewSlides.value() && Option1[0].value()) {
@@ -118,6 +119,18 @@ void UserformObj::PasteIT_Click() {
     } else if (Option1[4].value()) {
         startExport(hooks_.StartImageExport, "image files");
     }
+}
+
+/// The exports take the workbook that is active; the user may have looked at another one since.
+void UserformObj::activateWorkbook() {
+    office::ContinueOnFailure scope;
+    scope.attempt([this] {
+        const office::Value active = session_.ExcelApp.get("ActiveWorkbook");
+        if (active.get("FullName").toText() != workbook_.get("FullName").toText()) {
+            workbook_.call("Activate");
+        }
+    });
+    session_.ActiveBook = workbook_;
 }
 
 void UserformObj::startExport(const std::function<void()>& start, std::string_view destination) {

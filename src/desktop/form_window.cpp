@@ -303,6 +303,7 @@ void FormWindow::changeEvent(QEvent* event) {
 void FormWindow::closeEvent(QCloseEvent* event) {
     // The form decides; its window goes by being unloaded.
     event->ignore();
+    if (form_ != nullptr && !form_->takesInput) return;
     host_.deliver([this] { form_->desktop().unload(*form_); });
 }
 
@@ -344,7 +345,26 @@ void FormWindow::pressByKey(bool isDefault) {
     });
 }
 
-bool FormWindow::eventFilter(QObject*, QEvent* event) {
+bool FormWindow::isInputOfMine(const QObject* receiver, const QEvent& event) const {
+    switch (event.type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::Shortcut:
+        case QEvent::ShortcutOverride: {
+            const auto* widget = qobject_cast<const QWidget*>(receiver);
+            return widget != nullptr && widget->window() == this;
+        }
+        default:
+            return false;
+    }
+}
+
+bool FormWindow::eventFilter(QObject* receiver, QEvent* event) {
+    if (form_ != nullptr && !form_->takesInput && isInputOfMine(receiver, *event)) return true;
     const bool keyboard = event->type() == QEvent::KeyPress;
     if ((keyboard || event->type() == QEvent::MouseButtonPress) &&
         std::exchange(keyboardInUse_, keyboard) != keyboard) {

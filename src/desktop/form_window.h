@@ -45,7 +45,7 @@ protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
     struct Drawn {
@@ -57,6 +57,8 @@ private:
         Shadow edge;
     };
 
+    /// Whether an event is a click or a key for a widget of this window.
+    [[nodiscard]] bool isInputOfMine(const QObject* receiver, const QEvent& event) const;
     void syncViews();
     void syncOrder();
     void syncTabOrder();

@@ -49,6 +49,9 @@ public:
     bool placesItself = false;
     /// The Escape key closes the form as the cross of its title bar does, unless a button takes it.
     bool escapeCloses = false;
+    /// False while work that the form has begun goes on and lets events run: clicks, keys and the
+    /// window's closing pass the form by, and it looks as before.
+    bool takesInput = true;
     /// The control that the keyboard goes to; null: the first in tab order.
     Control* focus = nullptr;
     /// A soft edge around the form: its width in pixels (0: none) and its strongest opacity.

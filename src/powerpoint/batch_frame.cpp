@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 
+#include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
 #include "powerpoint/numbers.h"
@@ -23,7 +24,6 @@ using session::OfficeSession;
 constexpr std::int32_t titleOnlyLayout = 11;
 constexpr std::int32_t normalWindow = -4143;
 constexpr std::int32_t maximisedWindow = -4137;
-constexpr std::int32_t sheetVisible = -1;
 constexpr int showNormal = 1;
 
 enum class RowResult { Next, EndsBatch };
@@ -34,7 +34,8 @@ public:
     BatchFrame(Batch& batch, const BatchRoute& route)
         : batch_(batch),
           session_(batch.session),
-          route_(route) {}
+          route_(route),
+          objects_(batch.session) {}
 
     void run();
 
@@ -47,7 +48,6 @@ private:
     void noteSlideInView();
     [[nodiscard]] std::int16_t slideInView() const;
     RowResult takeRow(std::size_t index);
-    [[nodiscard]] bool isOnVisibleSheet(const ExportRow& row) const;
     Target gotoNewSlide();
     Target gotoNamedSlide(const ExportRow& row);
     void exportRow(std::size_t index);
@@ -58,7 +58,7 @@ private:
     Batch& batch_;
     OfficeSession& session_;
     const BatchRoute& route_;
-    Object sheets_;
+    catalogue::RowObjects objects_;
     Object presentation_;
     Object slides_;
     Object window_;
@@ -89,7 +89,6 @@ void BatchFrame::prepare() {
     noteSlideInView();
     session_.suite.clearClipboard();
     route_.prepareScreen(batch_);
-    sheets_ = session_.ExcelApp.get("Sheets").toObject();
 }
 
 void BatchFrame::addSlides() {
@@ -125,7 +124,7 @@ std::int16_t BatchFrame::slideInView() const {
 
 RowResult BatchFrame::takeRow(std::size_t index) {
     const ExportRow& row = batch_.list.rows[index];
-    if (row.Checked && isOnVisibleSheet(row)) {
+    if (objects_.isOnVisibleSheet(row)) {
         const Target target =
             batch_.choices.predefinedSlides ? gotoNamedSlide(row) : gotoNewSlide();
         if (target == Target::AllPlaced) return RowResult::EndsBatch;
@@ -134,10 +133,6 @@ RowResult BatchFrame::takeRow(std::size_t index) {
     }
     window_.get("Selection").call("Unselect");
     return RowResult::Next;
-}
-
-bool BatchFrame::isOnVisibleSheet(const ExportRow& row) const {
-    return sheets_.get("Item", row.SubItems(1)).get("Visible").toLong() == sheetVisible;
 }
 
 BatchFrame::Target BatchFrame::gotoNewSlide() {

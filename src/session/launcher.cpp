@@ -18,9 +18,12 @@ namespace session {
 
 namespace {
 
-void attachApplications(OfficeSession& session) {
+/// Nothing running is no failure, and leaves Excel and PowerPoint empty. What it returns is why a
+/// running one could not be had, if that is so.
+std::optional<office::Failure> attachApplications(OfficeSession& session) {
     office::ContinueOnFailure scope;
     scope.attempt([&] { session.ExcelApp = session.suite.attach("Excel.Application"); });
+    const auto refusal = scope.lastFailure();
     scope.attempt([&] { session.PowerPointApp = session.suite.attach("PowerPoint.Application"); });
     if (session.ExcelApp) {
         scope.attempt([&] {
@@ -41,6 +44,7 @@ void attachApplications(OfficeSession& session) {
                 session.PowerPointApp.get("ActivePresentation").toObject();
         });
     }
+    return refusal;
 }
 
 int reportMissing(OfficeSession& session, std::string_view command) {
@@ -161,9 +165,16 @@ int runSelectionCommand(OfficeSession& session, std::string_view command,
     return commandDone;
 }
 
-int runCommand(OfficeSession& session, std::string_view command, const CommandHandlers& handlers) {
+int reportRefusal(OfficeSession& session, const std::optional<office::Failure>& refusal) {
+    if (!refusal) return commandDone;
+    ShowWarningNotice(session.notices, refusal->description());
+    return commandFailed;
+}
+
+int runCommand(OfficeSession& session, std::string_view command, const CommandHandlers& handlers,
+               const std::optional<office::Failure>& refusal) {
     if (const auto status = runFreeCommand(session, command, handlers)) return *status;
-    if (session.ExcelApp.isNothing()) return commandDone;
+    if (session.ExcelApp.isNothing()) return reportRefusal(session, refusal);
 
     // The count is taken for every code of the rest of the chain, also for those that make nothing
     // of it.
@@ -184,8 +195,8 @@ int Main(OfficeSession& session, std::string_view commandLine, const CommandHand
     const std::string_view command = office::trim(commandLine);
     int status = commandDone;
     if (!command.empty()) {
-        attachApplications(session);
-        status = runCommand(session, command, handlers);
+        const auto refusal = attachApplications(session);
+        status = runCommand(session, command, handlers, refusal);
     }
     CloseSession(session, handlers.forms);
     return status;

@@ -32,6 +32,7 @@ struct CommandHandlers {
 /// Exit statuses of a command.
 inline constexpr int commandDone = 0;
 inline constexpr int commandMissing = 1;
+inline constexpr int commandFailed = 1;
 
 /// Carries out the one command that the command line names and leaves through `CloseSession`.
 /// Returns the exit status: 0 also for an empty command line and for an unknown code, which end

@@ -7,6 +7,7 @@
 #include "catalogue/userform_obj.h"
 #include "forms_double/user.h"
 #include "forms_double/windowless_desktop.h"
+#include "office/failure.h"
 #include "session/workbook_store.h"
 #include "session_doubles/test_session.h"
 
@@ -38,6 +39,7 @@ protected:
         hooks.CheckSlideNumbersAndShowDialog = [this] { ++started; };
         hooks.InsertOneItem = [this](const catalogue::ExportRow& row) {
             inserted.push_back(row.Text);
+            return true;
         };
     }
 
@@ -187,6 +189,39 @@ TEST_F(TheMainForm, putsOneItemOnTheSlideThatIsShown) {
     EXPECT_EQ(desktop.messages.back().text, "Done!");
 }
 
+TEST_F(TheMainForm, takesNoInputWhileAnItemIsPutOnItsSlide) {
+    bool tookInput = true;
+    hooks.InsertOneItem = [&](const catalogue::ExportRow&) {
+        tookInput = desktop.findLoaded("UserformObj")->takesInput;
+        return false;
+    };
+    UserformObj form(desktop, test.session, hooks);
+    show(form);
+    form.imgChart.onDblClick();
+    EXPECT_FALSE(tookInput);
+    EXPECT_TRUE(form.takesInput);
+    EXPECT_TRUE(desktop.messages.empty()) << "nothing was done";
+}
+
+TEST_F(TheMainForm, saysWhyOneItemCouldNotBePutOnASlideAndStays) {
+    hooks.InsertOneItem = [](const catalogue::ExportRow&) -> bool {
+        throw office::Failure(office::FailureNumber::ApplicationDefined, "Chart.Export", "No room");
+    };
+    UserformObj form(desktop, test.session, hooks);
+    show(form);
+    form.imgChart.onDblClick();
+    ASSERT_EQ(test.notices.shown.size(), 1U);
+    EXPECT_EQ(test.notices.shown[0].message, "No room");
+    test.session.PowerPointApp.get("ActivePresentation").call("Close");
+    form.imgChart.onDblClick();
+    ASSERT_EQ(test.notices.shown.size(), 2U);
+    EXPECT_EQ(test.notices.shown[1].message,
+              "No PowerPoint presentation is open. Open or create a presentation, then try again.");
+    EXPECT_TRUE(desktop.messages.empty());
+    EXPECT_TRUE(form.takesInput);
+    EXPECT_TRUE(desktop.isLoaded(form));
+}
+
 TEST_F(TheMainForm, startsAnExportOnlyAfterTheReview) {
     UserformObj form(desktop, test.session, hooks);
     show(form);
@@ -216,6 +251,47 @@ TEST_F(TheMainForm, keepsItsListInTheWorkbookWhenItCloses) {
     EXPECT_EQ(again.list().rows[0].Text, "Chart 2");
     EXPECT_EQ(again.list().rows[0].SubItems(4), "Kept");
     EXPECT_FALSE(again.list().rows[1].Checked);
+}
+
+TEST_F(TheMainForm, leavesTheStoredListAloneIfItsOwnNeverCameUp) {
+    {
+        UserformObj form(desktop, test.session, hooks);
+        show(form);
+        form.SlideTitle.setText("Kept");
+        forms_double::close(form);
+    }
+    test.attach();
+    {
+        UserformObj broken(desktop, test.session, hooks);
+        test.suite.failures().fail("Range.Value");
+        show(broken);
+        EXPECT_TRUE(broken.list().rows.empty());
+        forms_double::close(broken);
+    }
+    test.attach();
+    UserformObj again(desktop, test.session, hooks);
+    show(again);
+    ASSERT_EQ(again.list().rows.size(), 4U);
+    EXPECT_EQ(again.list().rows[0].SubItems(4), "Kept");
+}
+
+TEST_F(TheMainForm, staysWithItsWorkbookWhicheverTheUserLooksAt) {
+    {
+        UserformObj form(desktop, test.session, hooks);
+        show(form);
+        form.SlideTitle.setText("Kept");
+        test.suite.excel().addWorkbook("Other.xlsx");
+        hooks.StartPowerPointExport = nullptr;
+        forms_double::press(form, "PasteIT");
+        EXPECT_EQ(test.session.ExcelApp.get("ActiveWorkbook").get("Name").toText(), "Book1.xlsx");
+        test.session.ActiveBook =
+            test.session.ExcelApp.get("Workbooks").get("Item", "Other.xlsx").toObject();
+        forms_double::close(form);
+    }
+    test.attach();
+    UserformObj again(desktop, test.session, hooks);
+    show(again);
+    EXPECT_EQ(again.list().rows[0].SubItems(4), "Kept");
 }
 
 }  // namespace

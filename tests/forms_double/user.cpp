@@ -12,7 +12,7 @@ namespace forms_double {
 namespace {
 
 bool isReachable(const forms::Control& control) {
-    if (!control.visible || !control.enabled) return false;
+    if (!control.visible || !control.enabled || !control.form().takesInput) return false;
     return control.container() == nullptr || isReachable(*control.container());
 }
 
@@ -58,7 +58,7 @@ void choose(const forms::Form& form, std::string_view option, int index) {
 }
 
 void close(forms::Form& form) {
-    form.desktop().unload(form);
+    if (form.takesInput) form.desktop().unload(form);
 }
 
 void pressEnter(const forms::Form& form) {

@@ -61,8 +61,8 @@ INSTANTIATE_TEST_SUITE_P(Members, UnhandledFailureTest,
                          testing::Values("Application.ActivePresentation", "Slides.Add",
                                          "Application.WindowState", "View.Slide",
                                          "Application.ScreenUpdating", "View.GotoSlide",
-                                         "Worksheet.Visible", "Shapes.AddPicture", "Shape.Left",
-                                         "TextRange.Text", "Selection.Unselect"));
+                                         "Shapes.AddPicture", "Shape.Left", "TextRange.Text",
+                                         "Selection.Unselect"));
 
 /// What puts things back ignores failures, one by one.
 class TailFailureTest : public BatchFailuresTest,

@@ -64,11 +64,12 @@ TEST_F(BatchTest, ACheckedRowOnAHiddenSheetLeavesAnEmptySlideAtTheEnd) {
     EXPECT_EQ(picturesOn(4), Texts{});
 }
 
-TEST_F(BatchTest, ARowThatIsGoneFromTheWorkbookDoesNoHarmUnchecked) {
+TEST_F(BatchTest, RowsWhoseSheetHasGoneAreSkippedAsTheReviewSays) {
     add(chartRow("Chart 1", "Deleted sheet"));
+    add(chartRow("", ""));
     add(chartRow("Chart 1", "Sales"));
-    list.rows[0].Checked = false;
-    EXPECT_NO_THROW(exportRows());
+    exportRows();
+    EXPECT_EQ(picturesOn(3), Texts{"Chart 1"});
 }
 
 TEST_F(BatchTest, PredefinedSlidesTakeWhatNamesThemAndRowsWithoutANumberAreSkipped) {

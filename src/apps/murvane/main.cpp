@@ -1,10 +1,10 @@
 #include <fmt/format.h>
 
-#include <cstdlib>
 #include <exception>
 #include <memory>
 #include <string>
 
+#include "apps/failure_report.h"
 #include "apps/posix_console.h"
 #include "apps/posix_host.h"
 #include "apps/status_line.h"
@@ -50,13 +50,7 @@ int runInTerminal(const std::string& commandLine, apps::Console& console) {
 /// With a screen the program shows windows; without one it says what it has to say in the terminal.
 int runCommand(int count, char** words, const std::string& commandLine, apps::Console& console) {
 #ifdef MURVANE_HAS_WINDOWS
-    const auto isSet = [](const char* name) {
-        const char* value = std::getenv(name);
-        return value != nullptr && *value != '\0';
-    };
-    if (isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM")) {
-        return apps::runInWindows(count, words, commandLine, console);
-    }
+    if (apps::canShowWindows()) return apps::runInWindows(count, words, commandLine, console);
 #endif
     return runInTerminal(commandLine, console);
 }
@@ -76,8 +70,7 @@ int main(int count, char** words) {
     try {
         return runCommand(count, words, commandLine, console);
     } catch (const office::Failure& failure) {
-        console.writeError(fmt::format("Murvane: unhandled failure {} from {}: {}\n",
-                                       failure.number(), failure.source(), failure.description()));
+        console.writeError(apps::unhandledFailureReport(failure) + "\n");
     } catch (const std::exception& error) {
         console.writeError(fmt::format("Murvane: {}\n", error.what()));
     }

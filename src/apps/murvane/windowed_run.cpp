@@ -1,12 +1,18 @@
 #include "apps/murvane/windowed_run.h"
 
+#include "apps/failure_report.h"
 #include "apps/murvane/windows.h"
 #include "desktop/forms_runner.h"
+#include "desktop/screen.h"
 #include "office/libreoffice/libreoffice_suite.h"
 #include "panels/form_progress.h"
 #include "panels/notice_panel.h"
 
 namespace apps {
+
+bool canShowWindows() {
+    return desktop::screenAnswers();
+}
 
 int runInWindows(int count, char** words, const std::string& commandLine, Console& console) {
     desktop::FormsRunner runner(count, words);
@@ -23,7 +29,13 @@ int runCommandOn(forms::Desktop& desktop, const std::string& commandLine, Consol
     session::OfficeSession session(*suite, host, notices, progress);
     current = &session;
     Windows windows(desktop, session);
-    return session::Main(session, commandLine, windows.handlers());
+    try {
+        return session::Main(session, commandLine, windows.handlers());
+    } catch (const office::Failure& failure) {
+        // Whoever starts the program with a click sees no terminal.
+        desktop.messageBox(unhandledFailureReport(failure), "Murvane");
+        throw;
+    }
 }
 
 }  // namespace apps

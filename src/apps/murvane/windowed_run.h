@@ -7,6 +7,9 @@
 
 namespace apps {
 
+/// Whether there is a screen that answers.
+[[nodiscard]] bool canShowWindows();
+
 /// Carries out a command with windows; returns its exit status. Failures go to the caller, after
 /// the windows have been closed.
 int runInWindows(int count, char** words, const std::string& commandLine, Console& console);

@@ -48,7 +48,7 @@ catalogue::MainFormHooks Windows::mainFormHooks() {
         powerpoint::CountRowsWithSlideNumber(session_, mainForm_->list());
         showPowerPointDialog();
     };
-    hooks.InsertOneItem = [this](const catalogue::ExportRow& row) { insertOneItem(row); };
+    hooks.InsertOneItem = [this](const catalogue::ExportRow& row) { return insertOneItem(row); };
     return hooks;
 }
 
@@ -77,18 +77,21 @@ panels::PowerPointDialogLinks Windows::dialogLinks() {
             catalogue::CountExportableRows(session_, mainForm_->list()));
     };
     links.batches[0] = [this] {
-        powerpoint::ExportRowsAsPictures(session_, mainForm_->list(), mainForm_->choices());
+        // The batch reads the rows while it lets events run.
+        mainForm_->takesInput = false;
+        powerpoint::ExportRowsAsPictures(session_, mainForm_->list(), mainForm_->choices(),
+                                         formHooks_);
     };
     links.styles = styles_.get();
     links.layout = layout_.get();
     return links;
 }
 
-void Windows::insertOneItem(const catalogue::ExportRow& row) {
+bool Windows::insertOneItem(const catalogue::ExportRow& row) {
     if (session_.ExportFormatIndex != 0) {
         session::ShowNotice(session_.notices, "This output format is not part of this version yet.",
                             "Murvane", "info", session::buttons::okOnly);
-        return;
+        return false;
     }
     const std::string& sheet = row.SubItems(1);
     const std::int16_t slide = session_.CurrentSlideIndex;
@@ -99,6 +102,7 @@ void Windows::insertOneItem(const catalogue::ExportRow& row) {
     } else {
         powerpoint::InsertRangePicture(session_, row.Text, slide, row.SubItems(4));
     }
+    return true;
 }
 
 }  // namespace apps

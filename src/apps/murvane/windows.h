@@ -45,7 +45,7 @@ public:
 private:
     void showMainForm();
     void showPowerPointDialog();
-    void insertOneItem(const catalogue::ExportRow& row);
+    bool insertOneItem(const catalogue::ExportRow& row);
     [[nodiscard]] catalogue::MainFormHooks mainFormHooks();
     [[nodiscard]] panels::PowerPointDialogLinks dialogLinks();
 

@@ -56,7 +56,9 @@ constexpr std::string_view frameClass = "PPTFrameClass";
 }  // namespace
 
 std::unique_ptr<LibreOfficeSuite> LibreOfficeSuite::attachToRunning() {
-    return std::unique_ptr<LibreOfficeSuite>(new LibreOfficeSuite(nullptr, connectToRunning()));
+    auto suite = std::unique_ptr<LibreOfficeSuite>(new LibreOfficeSuite(nullptr, nullptr));
+    suite->seeksRunning_ = true;
+    return suite;
 }
 
 std::unique_ptr<LibreOfficeSuite> LibreOfficeSuite::startPrivate(
@@ -72,8 +74,15 @@ std::unique_ptr<LibreOfficeSuite> LibreOfficeSuite::on(std::unique_ptr<PrivateIn
 
 LibreOfficeSuite::LibreOfficeSuite(std::unique_ptr<PrivateInstance> instance,
                                    std::shared_ptr<Connection> connection)
-    : instance_(std::move(instance)),
-      connection_(std::move(connection)) {
+    : instance_(std::move(instance)) {
+    connect(std::move(connection));
+}
+
+void LibreOfficeSuite::connect(std::shared_ptr<Connection> connection) {
+    {
+        const std::lock_guard lock(connecting_);
+        connection_ = std::move(connection);
+    }
     if (connection_) desk_ = std::make_shared<Desk>(connection_, instance_ != nullptr);
 }
 
@@ -91,6 +100,7 @@ bool LibreOfficeSuite::isConnected() const {
 
 void LibreOfficeSuite::interrupt() {
     if (instance_) instance_->kill();
+    const std::lock_guard lock(connecting_);
     if (connection_) connection_->breakOff();
 }
 
@@ -103,6 +113,7 @@ int LibreOfficeSuite::processId() const {
 }
 
 office::Object LibreOfficeSuite::attach(std::string_view className) {
+    if (std::exchange(seeksRunning_, false)) connect(connectToRunning());
     if (!connection_) return {};
     if (office::sameIgnoringCase(className, "Excel.Application"))
         return excel::applicationObject(desk_);

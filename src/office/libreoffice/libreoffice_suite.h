@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -23,8 +24,9 @@ class ImpressDocument;
 class LibreOfficeSuite : public office::Suite {
 public:
     /// The suite that the user is running, also one that was started without a listening pipe: the
-    /// suite's own launcher hands it the wish for one. Never starts a suite and never ends it. Not
-    /// null; with no suite running, `attach` gives nothing and `isConnected` is false.
+    /// suite's own launcher hands it the wish for one. Never starts a suite and never ends it.
+    /// `attach` connects to it when it is first called: with no suite running it gives nothing, and
+    /// it throws `office::Failure` once if one runs and does not answer.
     static std::unique_ptr<LibreOfficeSuite> attachToRunning();
 
     /// A suite of our own without a window, with a profile of Murvane's that is kept for the next
@@ -65,6 +67,8 @@ private:
     LibreOfficeSuite(std::unique_ptr<PrivateInstance> instance,
                      std::shared_ptr<Connection> connection);
 
+    void connect(std::shared_ptr<Connection> connection);
+
     template <class Statement>
     auto translated(const char* source, Statement&& statement);
     /// Window handles are positions in `windows_`, counted from 1: a presentation's window stands
@@ -75,6 +79,10 @@ private:
 
     std::unique_ptr<PrivateInstance> instance_;
     std::shared_ptr<Connection> connection_;
+    /// Guards its being set against an interrupt.
+    std::mutex connecting_;
+    /// Whether the user's suite has still to be looked for.
+    bool seeksRunning_ = false;
     std::shared_ptr<Desk> desk_;
     std::vector<std::weak_ptr<powerpoint::ImpressDocument>> windows_;
     office::WindowHandle locked_ = 0;
