@@ -56,6 +56,19 @@ TEST_F(Windows, OtherFormsTakeNoInputBeneathAModalOne) {
               nullptr == QGuiApplication::modalWindow() ? window(form).windowHandle() : nullptr);
 }
 
+TEST_F(Windows, AFormThatTakesNoInputLetsClicksKeysAndItsClosingPass) {
+    form.takesInput = false;
+    input::click(desk, form.ContinueOk);
+    input::key(desk, form, Qt::Key_Return);
+    window(form).close();
+    desk.letEventsRun();
+    EXPECT_TRUE(form.happened.empty());
+    EXPECT_TRUE(desk.isLoaded(form));
+    form.takesInput = true;
+    input::click(desk, form.ContinueOk);
+    EXPECT_EQ(times("Continue"), 1);
+}
+
 TEST_F(Windows, AModalFormStandsAboveTheFormThatOpenedIt) {
     sample::SampleForm dialog(desk);
     whenModal([&] {

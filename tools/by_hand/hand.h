@@ -32,6 +32,9 @@ public:
     /// `std::runtime_error` for what cannot be done now.
     nlohmann::json carryOut(const nlohmann::json& order);
 
+    /// The texts of the plain message boxes so far. For the thread of the windows.
+    [[nodiscard]] const nlohmann::json& boxes() const { return boxes_; }
+
 private:
     nlohmann::json see(const nlohmann::json& order) const;
     void act(const nlohmann::json& order);

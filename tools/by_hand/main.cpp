@@ -55,8 +55,8 @@ int main(int count, char** words) {
         } catch (const std::exception& error) {
             say({{"unhandled", error.what()}});
         }
+        say({{"ended", status}, {"boxes", hand.boxes()}});
     }
-    say({{"ended", status}});
     // The person is still at the screen, waiting for an order.
     std::cout.flush();
     std::quick_exit(status);

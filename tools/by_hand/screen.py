@@ -167,7 +167,7 @@ class Hand:
         while self.process.poll() is None and time.monotonic() < deadline:
             time.sleep(0.02)
         assert self.process.poll() is not None, "the program does not end"
-        for line in self.process.stdout:
+        for line in self.process.stdout:  # what came after the last answer
             self.end.update(json.loads(line))
         return self.process.returncode
 

@@ -1,0 +1,125 @@
+"""What users do not plan for: the suite dies, the workbook is closed, names are hostile, the list is long."""
+
+import shutil
+import subprocess
+
+import xlsxwriter
+
+from at_the_screen import BOOK, BUILD, DIALOG, FORM, LIST, PAGE, SAMPLES, AtTheScreen, unittest, wait_until
+
+NOTICE = "MurvaneNotice"
+
+
+class WithoutTheSuite(AtTheScreen):
+    def test_a_suite_that_dies_under_the_form_ends_the_program_with_a_report(self):
+        self.open_sample()
+        hand = self.open_main_form()
+        self.screen.kill_suite()
+        hand.do("click-row", FORM, LIST, row=2)
+        self.assertEqual(hand.ended(15), 1)
+        self.assertGreater(len(hand.said()), 20)
+
+    def test_a_suite_that_dies_during_the_export_ends_the_program_with_a_report(self):
+        self.open_sample()
+        hand = self.open_main_form()
+        self.open_dialog(hand)
+        hand.do("click", DIALOG, "ContinueOk")
+        hand.wait_for("Progress")
+        self.screen.kill_suite()
+        self.assertEqual(hand.ended(15), 1)
+        self.assertGreater(len(hand.said()), 20)
+
+    def test_commands_without_a_suite_end_in_silence_or_with_their_notice(self):
+        hand = self.screen.use("/112")
+        self.assertEqual((hand.ended(), hand.said()), (0, ""))
+        layout = self.screen.use("/006")
+        layout.wait_for(NOTICE)
+        layout.wait_for_page(NOTICE, "wbNotice", "#noticeRoot")
+        text = layout.do("ask", NOTICE, "wbNotice", script="document.body.innerText")
+        self.assertIn("An Excel workbook must be open to set slide position.", text)
+        layout.do("key", NOTICE, key="Return")
+        self.assertEqual(layout.ended(), 0)
+        about = self.screen.use("/004")
+        about.wait_for("MurvaneAbout")
+        about.do("key", "MurvaneAbout", key="Escape")
+        self.assertEqual(about.ended(), 0)
+
+    def test_the_code_without_a_form_ends_with_the_report_of_a_failure(self):
+        hand = self.screen.use("/922")
+        self.assertEqual(hand.ended(), 1)
+        (box,) = hand.end["boxes"]
+        self.assertIn("unhandled failure 91", box)
+
+    def test_a_screen_that_is_named_and_not_there_is_no_crash(self):
+        environment = {**self.screen.environment, "DISPLAY": ":4999"}
+        ended = subprocess.run([BUILD / "bin" / "murvane", "/006"], env=environment, capture_output=True, text=True,
+                               timeout=30)
+        self.assertGreaterEqual(ended.returncode, 0, ended.stderr)
+
+
+class UnderTheForm(AtTheScreen):
+    def test_a_workbook_that_is_closed_leaves_the_form_alive(self):
+        self.open_sample()
+        hand = self.open_main_form()
+        self.in_the_suite("document('Workbook').close(True)")
+        hand.do("click-row", FORM, LIST, row=2)
+        hand.do("double-click", FORM, "imgChart")
+        hand.wait_for(NOTICE)
+        hand.do("key", NOTICE, key="Return")
+        wait_until(lambda: NOTICE not in hand.do("forms"))
+        hand.do("click", FORM, "PasteIT")
+        hand.wait_for(NOTICE)
+        hand.do("key", NOTICE, key="Return")
+        wait_until(lambda: NOTICE not in hand.do("forms"))
+        hand.do("key", FORM, key="Alt+F4")
+        self.assertEqual(hand.ended(), 0, hand.said())
+
+    def test_clicks_during_an_export_change_nothing(self):
+        self.open_sample()
+        hand = self.open_main_form()
+        wanted = [row["texts"][0] for row in hand.rows() if row["checked"]]
+        self.open_dialog(hand)
+        hand.do("click", DIALOG, "ContinueOk")
+        hand.wait_for("Progress")
+        for _ in range(3):
+            hand.do("click-column", FORM, LIST, column=0)
+            hand.do("check-row", FORM, LIST, row=1)
+            hand.do("click", FORM, "PasteIT")
+            hand.do("key", FORM, key="Alt+F4")
+        self.assertEqual(hand.ended(120), 0, hand.said())
+        self.assertEqual(len(self.saved_deck()), 3 + len(wanted))
+
+    def test_names_full_of_markup_stay_texts(self):
+        hostile = SAMPLES / "bad-inputs" / "odd-names.xlsx"
+        self.open_sample(BOOK)
+        shutil.copy(hostile, self.folder / hostile.name)
+        self.screen.open_in_suite(self.folder / hostile.name)
+        hand = self.open_main_form()
+        names = [row["texts"][0] for row in hand.rows()]
+        self.assertTrue([name for name in names if "<" in name], names)
+        hand.do("click", FORM, "PasteIT")
+        hand.wait_for(NOTICE)
+        hand.wait_for_page(NOTICE, "wbNotice", "#noticeRoot")
+        self.assertEqual(hand.do("ask", NOTICE, "wbNotice", script="document.scripts.length"), 0)
+        hand.do("key", NOTICE, key="Escape")
+
+
+class ALongList(AtTheScreen):
+    def test_of_two_thousand_items_comes_up_and_scrolls(self):
+        book = self.folder / "long.xlsx"
+        with xlsxwriter.Workbook(book) as workbook:
+            sheet = workbook.add_worksheet("Figures")
+            for row in range(2000):
+                sheet.write_row(row, 0, [row, row * row])
+                workbook.define_name(f"Figures_{row + 1}", f"=Figures!$A${row + 1}:$B${row + 1}")
+        self.screen.open_in_suite(book)
+        hand = self.open_main_form()
+        self.assertEqual(len(hand.rows()), 2000)
+        hand.do("click-row", FORM, LIST, row=1990)
+        wait_until(lambda: hand.do("rows", FORM, LIST)["selected"] == 1990)
+        hand.do("key", FORM, key="Alt+F4")
+        self.assertEqual(hand.ended(120), 0, hand.said())
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
