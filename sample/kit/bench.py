@@ -11,7 +11,8 @@ KINDS = [
 ]
 
 
-def write_workbook(path, count):
+def write_workbook(path, count, names=0):
+    """`count` charts, and that many names of single rows beside the names of the tables."""
     book = new_book(path)
     for first in range(0, count, CHARTS_A_SHEET):
         name = f"Sheet {first // CHARTS_A_SHEET + 1}"
@@ -33,4 +34,6 @@ def write_workbook(path, count):
                 chart.add_series(series)
             place = number - first
             sheet.insert_chart(15 + 19 * (place // 2), 11 * (place % 2), chart)
+    for number in range(names):
+        book.define_name(f"Row_{number + 1}", f"='Sheet 1'!$A${number + 1}:$D${number + 1}")
     book.close()

@@ -141,10 +141,8 @@ bool Dialog::findsPresentation() {
         return false;
     }
     office::ContinueOnFailure scope;
-    const office::Object& app = session_.PowerPointApp;
-    // A suite without windows of its own kind has one for each presentation.
-    int windows = scope.read([&] { return app.get("Presentations").get("Count").toLong(); }, 1);
-    windows = scope.read([&] { return app.get("Windows").get("Count").toLong(); }, windows);
+    const int windows =
+        scope.read([&] { return session_.PowerPointApp.get("Windows").get("Count").toLong(); }, 0);
     if (windows != 0) return true;
     session::ShowWarningNotice(session_.notices, noPresentation);
     desktop().unload(*this);

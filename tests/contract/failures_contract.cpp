@@ -1,3 +1,7 @@
+#include <functional>
+#include <utility>
+#include <vector>
+
 #include "contract/contract_test.h"
 
 namespace contract {
@@ -68,6 +72,22 @@ TEST_F(ExcelContract, OpensNoFileThatIsntThere) {
               }),
               0);
     EXPECT_EQ(excel.get("Workbooks").get("Count").toLong(), 1);
+}
+
+TEST_F(ExcelContract, CopiesAPictureOfAnythingThatIsExported) {
+    using Kind = office::ClipboardPicture::Kind;
+    const Object sales = sheet("Sales");
+    const std::vector<std::pair<const char*, std::function<void()>>> copies = {
+        {"range", [&] { range("Sales", "A1:C3").call("Copy"); }},
+        {"screen of a range", [&] { range("Sales", "A1:C3").call("CopyPicture", 1, 2); }},
+        {"chart", [&] { sales.call("ChartObjects", "Trend").call("Copy"); }},
+        {"chart sheet", [&] { book.get("Charts").get("Item", 1).get("ChartArea").call("Copy"); }},
+    };
+    for (const auto& [what, copy] : copies) {
+        suite().clearClipboard();
+        copy();
+        EXPECT_GT(suite().clipboardPicture(Kind::Bitmap).bytes.size(), 50U) << what;
+    }
 }
 
 TEST_F(ExcelContract, TakesThePictureOffTheClipboard) {

@@ -37,6 +37,7 @@ TEST_F(PowerPointContract, MakesAPresentationOfItsOwn) {
     const Value added = powerPoint.get("Presentations").call("Add");
     EXPECT_FALSE(added.get("Name").toText().empty());
     EXPECT_EQ(powerPoint.get("Presentations").get("Count").toLong(), 2);
+    EXPECT_EQ(powerPoint.get("Windows").get("Count").toLong(), 2);
     added.put("Saved", true);
     added.call("Close");
     EXPECT_EQ(powerPoint.get("Presentations").get("Count").toLong(), 1);

@@ -74,6 +74,44 @@ class TheRoad(AtTheScreen):
         again.do("key", FORM, key="Alt+F4")
         self.assertEqual(again.ended(), 0, again.said())
 
+    def test_shows_what_is_clicked_and_puts_it_on_the_slide_in_view(self):
+        self.open_sample()
+        hand = self.open_main_form()
+        for kind in ("Embedded", "Chart", "Range"):
+            with self.subTest(kind=kind):
+                row = next(n for n, each in enumerate(hand.rows()) if each["texts"][5] == kind)
+                pictures = hand.value(FORM, "imgChart")
+                hand.do("click-row", FORM, LIST, row=row)
+                # The first change takes the old picture away.
+                wait_until(lambda: hand.value(FORM, "imgChart") >= pictures + 2, what="the preview")
+        before = [len(slide.pictures) for slide in self.saved_deck()]
+        hand.do("double-click", FORM, "imgChart")
+        wait_until(lambda: hand.do("boxes") == ["Done!"], what="the message")
+        after = [len(slide.pictures) for slide in self.saved_deck()]
+        self.assertEqual(sum(after), sum(before) + 1)
+        hand.do("key", FORM, key="Alt+F4")
+        self.assertEqual(hand.ended(), 0, hand.said())
+
+    def test_leads_to_the_slides_that_the_user_numbers(self):
+        self.open_sample()
+        hand = self.open_main_form()
+        hand.do("click", FORM, "Check1")
+        wait_until(lambda: not any(row["checked"] for row in hand.rows()), what="the unchecking")
+        hand.do("click", FORM, "OptionPredefSlides")
+        wait_until(lambda: hand.do("control", FORM, "TextBox10")["visible"])
+        for row, number in ((0, "3"), (2, "2a")):
+            hand.do("check-row", FORM, LIST, row=row)
+            hand.do("click-row", FORM, LIST, row=row)
+            wait_until(lambda: hand.do("rows", FORM, LIST)["selected"] == row)
+            hand.do("click", FORM, "TextBox10")
+            hand.do("key", FORM, key="Ctrl+A")
+            hand.do("type", FORM, text=number)
+            wait_until(lambda: hand.rows()[row]["texts"][2] == number[0], what="the slide number")
+        self.open_dialog(hand)
+        hand.do("key", DIALOG, key="Return")
+        self.assertEqual(hand.ended(120), 0, hand.said())
+        self.assertEqual([len(slide.pictures) for slide in self.saved_deck()], [0, 1, 1])
+
 
 if __name__ == "__main__":
     unittest.main(verbosity=2)

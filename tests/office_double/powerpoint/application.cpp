@@ -21,6 +21,7 @@ const office::MemberTable<PowerPointApplication>& PowerPointApplication::members
             .property("ActiveWindow", reading([](Self& self) {
                           return self.requiredPresentation("ActiveWindow").window().handle();
                       }))
+            .property("Windows", &Self::readWindows)
             .property("SlideShowWindows", &Self::readSlideShowWindows);
     return table;
 }
@@ -66,6 +67,16 @@ Value PowerPointApplication::readPresentations() {
             addPresentation(fmt::format("Presentation{}", presentations_.size() + 1), "").handle());
     });
     return valueOf(made);
+}
+
+Value PowerPointApplication::readWindows() {
+    return valueOf(collection(*this, "DocumentWindows", [this] {
+        Items windows;
+        for (const auto& presentation : presentations_) {
+            windows.push_back(presentation->window().shared_from_this());
+        }
+        return windows;
+    }));
 }
 
 Value PowerPointApplication::readSlideShowWindows() {

@@ -37,6 +37,7 @@ public:
 private:
     [[nodiscard]] Presentation& requiredPresentation(const std::string& member) const;
     Value readPresentations();
+    Value readWindows();
     Value readSlideShowWindows();
     Value open(const CallArguments& arguments);
 

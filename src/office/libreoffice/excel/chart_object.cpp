@@ -31,6 +31,7 @@ const office::MemberTable<ChartObject>& ChartObject::members() {
             .property("Height", &Self::height)
             .method("Activate", {}, &Self::select)
             .method("Select", {"Replace"}, &Self::select)
+            .method("Copy", {}, &Self::copyPicture)
             .method("CopyPicture", {"Appearance", "Format"}, &Self::copyPicture)
             .method("Delete", {}, &Self::remove);
     return table;

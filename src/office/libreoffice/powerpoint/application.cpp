@@ -4,6 +4,7 @@
 
 #include "office/libreoffice/guard.h"
 #include "office/libreoffice/powerpoint/document_window.h"
+#include "office/libreoffice/powerpoint/document_windows.h"
 #include "office/libreoffice/powerpoint/presentation.h"
 #include "office/libreoffice/powerpoint/presentations.h"
 #include "office/libreoffice/powerpoint/slide_show_window.h"
@@ -28,6 +29,7 @@ private:
         return makeObject<Presentation>(deskPtr(), active("ActivePresentation"));
     }
     Value activeWindow() { return makeObject<DocumentWindow>(deskPtr(), active("ActiveWindow")); }
+    Value windows() { return makeObject<DocumentWindows>(deskPtr(), desk().presentations()); }
     Value slideShowWindows() { return makeObject<SlideShowWindows>(deskPtr()); }
     Value activate(const CallArguments& /*arguments*/) {
         active("Activate")->raise();
@@ -44,6 +46,7 @@ const office::MemberTable<Application>& Application::members() {
                                   .property("Presentations", &Application::presentations)
                                   .property("ActivePresentation", &Application::activePresentation)
                                   .property("ActiveWindow", &Application::activeWindow)
+                                  .property("Windows", &Application::windows)
                                   .property("SlideShowWindows", &Application::slideShowWindows)
                                   .method("Activate", {}, &Application::activate);
     return table;

@@ -9,23 +9,27 @@ namespace libreoffice::powerpoint {
 using office::CallArguments;
 using office::Value;
 
-DocumentWindows::DocumentWindows(DeskPtr desk, ImpressDocumentPtr document)
-    : UnoObject(std::move(desk), document),
-      document_(std::move(document)) {}
+DocumentWindows::DocumentWindows(DeskPtr desk, std::vector<ImpressDocumentPtr> documents)
+    : UnoObject(std::move(desk)),
+      documents_(std::move(documents)) {}
 
 const office::MemberTable<DocumentWindows>& DocumentWindows::members() {
     static const auto table =
         office::MemberTable<DocumentWindows>("DocumentWindows")
-            .property("Count", [](DocumentWindows&, const CallArguments&) { return Value(1); })
+            .property("Count",
+                      [](DocumentWindows& self, const CallArguments&) {
+                          return Value(static_cast<std::int32_t>(self.documents_.size()));
+                      })
             .property("Item", {"Index"}, &DocumentWindows::item);
     return table;
 }
 
 Value DocumentWindows::item(const CallArguments& arguments) {
-    if (arguments.at(0).toLong() != 1)
+    const auto index = static_cast<std::size_t>(arguments.at(0).toLong()) - 1;
+    if (index >= documents_.size())
         throw office::Failure(office::FailureNumber::SubscriptOutOfRange, arguments.source(),
-                              "The presentation has one window");
-    return makeObject<DocumentWindow>(deskPtr(), document_);
+                              "A presentation has one window");
+    return makeObject<DocumentWindow>(deskPtr(), documents_[index]);
 }
 
 }  // namespace libreoffice::powerpoint

@@ -1,20 +1,22 @@
 #pragma once
 
+#include <vector>
+
 #include "office/libreoffice/guard.h"
 #include "office/libreoffice/powerpoint/impress_document.h"
 
 namespace libreoffice::powerpoint {
 
-/// The windows of a presentation: the one that LibreOffice was in last.
+/// The windows of presentations, one each: the one that LibreOffice was in last.
 class DocumentWindows : public UnoObject<DocumentWindows> {
 public:
-    DocumentWindows(DeskPtr desk, ImpressDocumentPtr document);
+    DocumentWindows(DeskPtr desk, std::vector<ImpressDocumentPtr> documents);
     static const office::MemberTable<DocumentWindows>& members();
 
 private:
     office::Value item(const office::CallArguments& arguments);
 
-    ImpressDocumentPtr document_;
+    std::vector<ImpressDocumentPtr> documents_;
 };
 
 }  // namespace libreoffice::powerpoint

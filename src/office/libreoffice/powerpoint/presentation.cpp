@@ -66,7 +66,7 @@ Value Presentation::pageSetup() {
 }
 
 Value Presentation::windows() {
-    return makeObject<DocumentWindows>(deskPtr(), document_);
+    return makeObject<DocumentWindows>(deskPtr(), std::vector{document_});
 }
 
 Value Presentation::slideShowWindow() {
