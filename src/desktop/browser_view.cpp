@@ -1,7 +1,9 @@
 #include "desktop/browser_view.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtQuickWidgets/QQuickWidget>
 #include <QtWebEngineWidgets/QWebEngineView>
@@ -73,7 +75,19 @@ void BrowserView::showPage() {
     for (QQuickWidget* canvas : view_->findChildren<QQuickWidget*>()) {
         canvas->setClearColor(look().ground);
     }
+    // The engine makes itself a new one now and then.
+    if (QWidget* canvas = view_->focusProxy(); canvas != nullptr) canvas->installEventFilter(this);
     view_->show();
+}
+
+bool BrowserView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
+    const auto& key = dynamic_cast<const QKeyEvent&>(*event);
+    // The engine keeps every key for itself, also one that no page makes anything of.
+    const bool isTheForms = key.key() == Qt::Key_Escape || key.key() == Qt::Key_F4;
+    if (!isTheForms) return false;
+    QCoreApplication::sendEvent(this, event);
+    return true;
 }
 
 void BrowserView::loadEnded(bool succeeded) {

@@ -89,6 +89,14 @@ TEST_F(Browser, TheKeyboardReachesALinkAndFollowsIt) {
     EXPECT_EQ(times("Continue"), 0) << "the key was the link's, not the default button's";
 }
 
+TEST_F(Browser, EscapeReachesTheFormFromWithinAPageToo) {
+    const PageFile file(linkTo("murvane://action/style"));
+    open(file.url());
+    ASSERT_TRUE(clickLinkFor("murvane://action/style"));
+    QTest::keyClick(engine().focusProxy(), Qt::Key_Escape);
+    EXPECT_TRUE(waitFor("Cancel", 1, 3s));
+}
+
 TEST_F(Browser, AMissingPageLeavesTheFormAliveAndTheNextOneComes) {
     form.wbStatus.navigate("file:///nowhere/at/all.html");
     input::waitUntil(

@@ -54,6 +54,9 @@ class Screen:
                             "QT_SCALE_FACTOR": str(scale), "SAL_USE_VCLPLUGIN": "gen"}
         for name in ("WAYLAND_DISPLAY", "TEMP", "DBUS_SESSION_BUS_ADDRESS"):
             self.environment.pop(name, None)
+        # Without one no window is ever the active one, and pages take no keys.
+        self.manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.environment, stdout=subprocess.DEVNULL,
+                                        stderr=subprocess.DEVNULL)
 
     @staticmethod
     def _start_server(size):
@@ -106,6 +109,8 @@ class Screen:
                 self.kill_suite()
             except ProcessLookupError:
                 pass
+        self.manager.terminate()
+        self.manager.wait()
         self.server.terminate()
         self.server.wait()
         shutil.rmtree(self.folder, ignore_errors=True)
