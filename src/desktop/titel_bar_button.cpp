@@ -1,6 +1,7 @@
 #include "desktop/titel_bar_button.h"
 
 #include <QtCore/QLineF>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 
 #include "desktop/looks.h"
@@ -22,6 +23,15 @@ void TitelBarButton::setColours(const QColor& ground, const QColor& stroke) {
     ground_ = ground;
     stroke_ = stroke;
     update();
+}
+
+void TitelBarButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QAbstractButton::keyPressEvent(event);
+        return;
+    }
+    // Passed on, the key would press the default button of the form.
+    if (!event->isAutoRepeat()) click();
 }
 
 void TitelBarButton::paintEvent(QPaintEvent*) {
