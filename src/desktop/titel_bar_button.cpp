@@ -9,7 +9,10 @@
 
 namespace desktop {
 
-TitelBarButton::TitelBarButton(Sign sign, QWidget& parent) : QAbstractButton(&parent), sign_(sign) {
+TitelBarButton::TitelBarButton(Sign sign, QWidget& parent, const ViewHost& host)
+    : QAbstractButton(&parent),
+      sign_(sign),
+      host_(host) {
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::TabFocus);
     const QString name = sign == Sign::Close      ? QStringLiteral("Close")
@@ -44,7 +47,7 @@ void TitelBarButton::paintEvent(QPaintEvent*) {
         painter.fillRect(rect(), face);
         if (closes) stroke = Qt::white;
     }
-    if (hasFocus()) drawFocusRing(painter, rect(), 2, ground_);
+    if (hasFocus() && host_.keyboardInUse()) drawFocusRing(painter, rect(), 2, ground_);
     paintSign(painter, stroke);
 }
 
