@@ -70,6 +70,10 @@ void BrowserView::startEngine() {
     view_->hide();
 }
 
+void BrowserView::lookChanged() {
+    if (view_ != nullptr) view_->setAccessibleName(accessibleName());
+}
+
 void BrowserView::showPage() {
     // What the engine paints on is white until its first picture has come.
     for (QQuickWidget* canvas : view_->findChildren<QQuickWidget*>()) {
@@ -146,12 +150,20 @@ std::string BrowserView::checkedValues(std::string_view name) {
 }
 
 void BrowserView::setStyle(std::string_view property, std::string_view value) {
+    setStyleOf(QStringLiteral("document.body,document.documentElement"), property, value);
+}
+
+void BrowserView::setBodyStyle(std::string_view property, std::string_view value) {
+    setStyleOf(QStringLiteral("document.body"), property, value);
+}
+
+void BrowserView::setStyleOf(const QString& elements, std::string_view property,
+                             std::string_view value) {
     if (!complete_) return;
-    tellPage(*page_, QStringLiteral("(function(p,v){"
-                                    "[document.body,document.documentElement].forEach(function(e){"
+    tellPage(*page_, QStringLiteral("(function(p,v){[%1].forEach(function(e){"
                                     "if(!e)return;if(p in e.style)e.style[p]=v;"
-                                    "else e.style.setProperty(p.toLowerCase(),v);});})(%1,%2)")
-                         .arg(scriptText(property), scriptText(value)));
+                                    "else e.style.setProperty(p.toLowerCase(),v);});})(%2,%3)")
+                         .arg(elements, scriptText(property), scriptText(value)));
 }
 
 void BrowserView::paintEvent(QPaintEvent*) {

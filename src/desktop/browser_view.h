@@ -27,6 +27,7 @@ public:
     [[nodiscard]] int contentHeight(std::string_view id) override;
     [[nodiscard]] std::string checkedValues(std::string_view name) override;
     void setStyle(std::string_view property, std::string_view value) override;
+    void setBodyStyle(std::string_view property, std::string_view value) override;
 
     /// Null until the engine has been started. For tests.
     [[nodiscard]] QWebEngineView* engineView() const { return view_; }
@@ -38,11 +39,14 @@ protected:
 
 private:
     bool syncOwn() override { return false; }
+    void lookChanged() override;
     void startEngine();
     void loadWanted();
     void showPage();
     void loadEnded(bool succeeded);
     void follow(const QString& url);
+    /// `elements` as a script lists them.
+    void setStyleOf(const QString& elements, std::string_view property, std::string_view value);
 
     forms::WebBrowser& browser_;
     QWebEngineView* view_ = nullptr;  ///< as the page, the toolkit's

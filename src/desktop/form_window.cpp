@@ -23,6 +23,9 @@ namespace desktop {
 
 namespace {
 
+/// The edge of a form that can have no soft one.
+constexpr int hardEdgePx = 2;
+
 QPoint screenOrigin() {
     return QGuiApplication::primaryScreen()->geometry().topLeft();
 }
@@ -74,10 +77,12 @@ FormWindow::~FormWindow() {
 }
 
 int FormWindow::margin() const {
-    return blends_ && drawn_.state != forms::WindowState::Maximised ? drawn_.edge.depthPx : 0;
+    if (drawn_.state == forms::WindowState::Maximised) return 0;
+    return blends_ ? drawn_.edge.depthPx : hardEdgePx;
 }
 
 void FormWindow::open(forms::ShowMode mode, QWindow* parent) {
+    const bool wasVisible = isVisible();
     if (!opened_ && !form_->placesItself) centre();
     sync();
     if (!opened_) {
@@ -90,8 +95,11 @@ void FormWindow::open(forms::ShowMode mode, QWindow* parent) {
         showMinimized();
     } else {
         show();
-        raise();
-        activateWindow();
+        // Shown once more, it must not take the keyboard from where the user has gone.
+        if (!wasVisible) {
+            raise();
+            activateWindow();
+        }
     }
     syncFocus();
 }
@@ -139,6 +147,7 @@ void FormWindow::syncPlace() {
         QPalette colours = plate_->palette();
         colours.setColor(QPalette::Window, colourOf(drawn_.ground));
         plate_->setPalette(colours);
+        update();
     }
     if (drawn_.caption != form_->caption || !opened_) {
         drawn_.caption = form_->caption;
@@ -213,7 +222,7 @@ void FormWindow::syncState() {
         // again.
         if (windowHandle() != nullptr) {
             windowHandle()->setFlag(Qt::WindowStaysOnTopHint, drawn_.topmost);
-            if (drawn_.topmost && opened_) raise();
+            if (drawn_.topmost && opened_) raiseBelowModal();
         }
     }
     if (drawn_.state == form_->windowState) return;
@@ -232,6 +241,13 @@ void FormWindow::syncState() {
             drawn_.place = {};
             break;
     }
+}
+
+void FormWindow::raiseBelowModal() {
+    raise();
+    // The form that has the input must not end up beneath one that takes none.
+    QWindow* modal = QGuiApplication::modalWindow();
+    if (modal != nullptr && modal != windowHandle()) modal->raise();
 }
 
 void FormWindow::syncFocus() {
@@ -269,6 +285,12 @@ void FormWindow::focusCame(const QWidget* now) {
 void FormWindow::paintEvent(QPaintEvent*) {
     if (margin() == 0) return;
     QPainter painter(this);
+    if (!blends_) {
+        // Nothing else would tell the form from another one of the same colour beneath it.
+        const QColor ground = colourOf(drawn_.ground);
+        painter.fillRect(rect(), blend(ground, textColourOn(ground), 0.35));
+        return;
+    }
     painter.setRenderHint(QPainter::Antialiasing);
     paintShadow(painter, plate_->geometry(), drawn_.edge);
 }
@@ -308,13 +330,15 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
+    // A key that is held down would walk through one form after another.
+    const bool isHeld = event->isAutoRepeat();
     switch (event->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            pressByKey(true);
+            if (!isHeld) pressByKey(true);
             return;
         case Qt::Key_Escape:
-            pressByKey(false);
+            if (!isHeld) pressByKey(false);
             return;
         case Qt::Key_F4:
             // Most window managers take this key themselves; it has to work without one too.

@@ -15,13 +15,13 @@ namespace desktop {
 class FormHost;
 
 /// The window of one form: a plate in the form's colour with the views of its controls, and around
-/// it, where the screen allows, the soft edge.
+/// it the soft edge, or a hard one where the screen allows no other.
 class FormWindow final : public QWidget {
 public:
     FormWindow(forms::Form& form, FormHost& host);
     ~FormWindow() override;
 
-    /// Shows the window, or brings it to the front.
+    /// Shows the window in front of the others. One that is visible stays where it is.
     void open(forms::ShowMode mode, QWindow* parent);
     /// Draws what has changed in the form.
     void sync();
@@ -65,6 +65,7 @@ private:
     void syncFocus();
     void syncPlace();
     void syncState();
+    void raiseBelowModal();
     void centre();
     [[nodiscard]] QWidget& parentFor(const forms::Control& control);
     [[nodiscard]] std::vector<ControlView*> inTabOrder() const;

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "desktop/looks.h"
 #include "desktop/painting.h"
 
 namespace desktop {
@@ -28,9 +29,7 @@ void LabelView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (look().back && !look().transparent) painter.fillRect(rect(), *look().back);
     painter.setPen(textColour());
-    const Qt::Alignment across = alignment_ == forms::Alignment::Centre  ? Qt::AlignHCenter
-                                 : alignment_ == forms::Alignment::Right ? Qt::AlignRight
-                                                                         : Qt::AlignLeft;
+    const Qt::Alignment across = alignmentOf(alignment_) & Qt::AlignHorizontal_Mask;
     drawFittedText(painter, rect(), across | Qt::AlignTop, caption());
 }
 

@@ -6,7 +6,9 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QScrollBar>
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "desktop/list_header.h"
 #include "desktop/looks.h"
@@ -59,7 +61,9 @@ bool ListViewView::syncOwn() {
     const bool looksDiffer = painter_->looks.gridLines != list_.gridLines ||
                              painter_->looks.checkBoxes != list_.checkBoxes;
     const bool rowsDiffer = std::exchange(version_, list_.version()) != list_.version();
-    if (!columnsDiffer && !looksDiffer && !rowsDiffer) return false;
+    const bool placeholderDiffers =
+        std::exchange(placeholder_, list_.placeholder) != list_.placeholder;
+    if (!columnsDiffer && !looksDiffer && !rowsDiffer && !placeholderDiffers) return false;
     painter_->looks.gridLines = list_.gridLines;
     painter_->looks.checkBoxes = list_.checkBoxes;
     model_.show(list_);
@@ -70,15 +74,30 @@ bool ListViewView::syncOwn() {
 }
 
 void ListViewView::syncColumns() {
-    for (std::size_t i = 0; i < list_.columns.size(); ++i) {
-        const int width = pixelsOf(list_.columns[i].width);
+    std::vector<int> widths;
+    int last = -1;
+    int room = viewport()->width();
+    for (const forms::ListView::Column& column : model_.columns()) {
+        widths.push_back(pixelsOf(column.width));
+        room -= std::max(0, widths.back());
+        if (widths.back() > 0) last = static_cast<int>(widths.size()) - 1;
+    }
+    // The last one takes what the others leave, so that no strip without a column stays behind it.
+    if (last >= 0 && room > 0) widths[static_cast<std::size_t>(last)] += room;
+    for (std::size_t i = 0; i < widths.size(); ++i) {
         const auto column = static_cast<int>(i);
-        header_->setSectionHidden(column, width <= 0);
-        if (width > 0 && header_->sectionSize(column) != width) {
-            header_->resizeSection(column, width);
+        header_->setSectionHidden(column, widths[i] <= 0);
+        if (widths[i] > 0 && header_->sectionSize(column) != widths[i]) {
+            header_->resizeSection(column, widths[i]);
         }
     }
     header_->viewport()->update();
+}
+
+void ListViewView::resizeEvent(QResizeEvent* event) {
+    QTreeView::resizeEvent(event);
+    const QScopedValueRollback syncing(syncing_, true);
+    syncColumns();
 }
 
 void ListViewView::syncSelection() {
@@ -108,9 +127,19 @@ QRect ListViewView::checkBoxOf(int row) const {
 
 void ListViewView::paintEvent(QPaintEvent* event) {
     QTreeView::paintEvent(event);
+    if (model_.rowCount() == 0) paintPlaceholder();
     if (!marksFocus()) return;
     QPainter painter(viewport());
     drawFocusRing(painter, viewport()->rect(), 0, painter_->looks.ground);
+}
+
+void ListViewView::paintPlaceholder() {
+    constexpr int gap = 16;
+    QPainter painter(viewport());
+    painter.setFont(font());
+    painter.setPen(blend(painter_->looks.ground, textColourOn(painter_->looks.ground), 0.6));
+    drawFittedText(painter, QRectF(viewport()->rect()).adjusted(gap, gap, -gap, -gap),
+                   Qt::AlignCenter, textOf(placeholder_));
 }
 
 void ListViewView::mousePressEvent(QMouseEvent* event) {

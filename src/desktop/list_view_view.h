@@ -2,6 +2,8 @@
 
 #include <QtWidgets/QTreeView>
 
+#include <string>
+
 #include "desktop/control_view.h"
 #include "desktop/rows_model.h"
 #include "forms/list_view.h"
@@ -25,6 +27,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -39,6 +42,7 @@ private:
     bool syncOwn() override;
     void lookChanged() override;
     void syncColumns();
+    void paintPlaceholder();
     void syncSelection();
     void toggle(int row);
     void click(int row);
@@ -49,6 +53,7 @@ private:
     RowsModel model_;
     ListHeader* header_;   ///< the toolkit's
     RowPainter* painter_;  ///< the toolkit's
+    std::string placeholder_;
     int version_ = -1;
     bool syncing_ = false;
 };

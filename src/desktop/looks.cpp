@@ -29,6 +29,13 @@ QRect pixelsOf(const forms::Place& place) {
     return {topLeft, QSize(std::max(0, end.x() - topLeft.x()), std::max(0, end.y() - topLeft.y()))};
 }
 
+Qt::Alignment alignmentOf(forms::Alignment alignment) {
+    const Qt::Alignment across = alignment == forms::Alignment::Centre  ? Qt::AlignHCenter
+                                 : alignment == forms::Alignment::Right ? Qt::AlignRight
+                                                                        : Qt::AlignLeft;
+    return across | Qt::AlignVCenter;
+}
+
 QColor colourOf(forms::Colour colour) {
     return {colour.red, colour.green, colour.blue};
 }

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "forms/controls.h"
 #include "forms/looks.h"
 
 /// From the words of the forms to those of the toolkit. The toolkit's pixels are those of an
@@ -21,6 +22,9 @@ namespace desktop {
 [[nodiscard]] forms::Twips twipsOf(int pixels);
 /// Each edge is rounded by itself, so that what touches in twips touches on the screen.
 [[nodiscard]] QRect pixelsOf(const forms::Place& place);
+
+/// Across the place, and in the middle of its height.
+[[nodiscard]] Qt::Alignment alignmentOf(forms::Alignment alignment);
 
 [[nodiscard]] QColor colourOf(forms::Colour colour);
 /// `share` of the second colour, 0 to 1, over the first.

@@ -2,6 +2,7 @@
 
 #include <QtGui/QKeyEvent>
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -16,13 +17,17 @@ namespace {
 
 constexpr double ringSize = 14;
 
-/// The options that share a choice with this one, in the order of the form.
+/// The options that share a choice with this one, as they are read: line by line from the left.
 std::vector<forms::OptionButton*> groupOf(const forms::OptionButton& option) {
     std::vector<forms::OptionButton*> group;
     for (forms::Control* control : option.form().controls()) {
         auto* other = dynamic_cast<forms::OptionButton*>(control);
         if (other != nullptr && other->container() == option.container()) group.push_back(other);
     }
+    std::stable_sort(group.begin(), group.end(), [](const auto* one, const auto* other) {
+        return std::pair(one->place.top, one->place.left) <
+               std::pair(other->place.top, other->place.left);
+    });
     return group;
 }
 

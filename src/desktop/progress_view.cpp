@@ -12,6 +12,7 @@ namespace desktop {
 namespace {
 
 constexpr double cornerRadius = 4;
+constexpr double captionGap = 6;
 
 }  // namespace
 
@@ -24,8 +25,8 @@ ProgressView::ProgressView(furniture::ProgressBar& bar, QWidget& parent, ViewHos
 }
 
 bool ProgressView::syncOwn() {
-    const Drawn now{bar_.value(), bar_.BarColor, bar_.BorderColor, bar_.BorderDefault,
-                    bar_.orientation};
+    const Drawn now{bar_.value(),       bar_.BarColor,    bar_.BorderColor,
+                    bar_.BorderDefault, bar_.orientation, bar_.Alignment};
     if (now == drawn_) return false;
     drawn_ = now;
     setValue(now.value);
@@ -62,12 +63,14 @@ void ProgressView::paintEvent(QPaintEvent*) {
     painter.restore();
 
     // The caption changes its colour where the bar runs beneath it.
+    const Qt::Alignment alignment = alignmentOf(drawn_.alignment);
+    const QRectF room = track.adjusted(captionGap, 0, -captionGap, 0);
     painter.setPen(look().fore.value_or(textColourOn(ground)));
     painter.setClipRegion(QRegion(rect()).subtracted(filled.toAlignedRect()));
-    drawFittedText(painter, track, Qt::AlignCenter, caption());
+    drawFittedText(painter, room, alignment, caption());
     painter.setClipRect(filled.toAlignedRect());
     painter.setPen(textColourOn(bar));
-    drawFittedText(painter, track, Qt::AlignCenter, caption());
+    drawFittedText(painter, room, alignment, caption());
 }
 
 }  // namespace desktop

@@ -28,6 +28,7 @@ private:
         bool borderDefault = true;
         furniture::ProgressBar::Orientation orientation =
             furniture::ProgressBar::Orientation::Horizontal;
+        forms::Alignment alignment = forms::Alignment::Centre;
         bool operator==(const Drawn&) const = default;
     };
 

@@ -13,9 +13,25 @@ const QColor mist(148, 163, 184);
 const QColor sky(96, 165, 250);
 const QColor blue(59, 130, 246);
 
+constexpr int gridFrom = 2;
+constexpr int gridTo = 13;
+constexpr int gridStep = 4;
+
 void fillBox(QPainter& painter, double left, double top, double right, double bottom,
              const QColor& colour) {
     painter.fillRect(QRectF(QPointF(left, top), QPointF(right, bottom)), colour);
+}
+
+/// Boxes of whole pixels, the last ones included.
+void fillPixels(QPainter& painter, int left, int top, int right, int bottom, const QColor& colour) {
+    fillBox(painter, left, top, right + 1, bottom + 1, colour);
+}
+
+void drawFrame(QPainter& painter, int first, int last, const QColor& colour) {
+    fillPixels(painter, first, first, last, first, colour);
+    fillPixels(painter, first, last, last, last, colour);
+    fillPixels(painter, first, first, first, last, colour);
+    fillPixels(painter, last, first, last, last, colour);
 }
 
 QPen penOf(const QColor& colour, double width = 1) {
@@ -40,26 +56,19 @@ void drawSheetWithStem(QPainter& painter) {
 }
 
 void drawFramedChart(QPainter& painter) {
-    painter.setPen(penOf(slate));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(2, 2, 12, 11.5), 1.5, 1.5);
-    fillBox(painter, 4, 8.4, 5.8, 11, sky);
-    fillBox(painter, 6.8, 6.4, 8.6, 11, sky);
-    fillBox(painter, 9.6, 4.4, 11.4, 11, blue);
-    painter.setPen(penOf(sky, 0.8));
-    painter.drawLine(QLineF(4, 11.4, 12, 11.4));
+    drawFrame(painter, 2, 13, slate);
+    fillPixels(painter, 4, 10, 5, 10, sky);
+    fillPixels(painter, 6, 8, 7, 10, sky);
+    fillPixels(painter, 8, 5, 9, 10, blue);
+    fillPixels(painter, 4, 10, 11, 10, sky);
 }
 
 void drawGrid(QPainter& painter) {
-    painter.setPen(penOf(slate, 0.9));
-    for (const double at : {6.0, 10.0}) {
-        painter.drawLine(QLineF(at, 2.5, at, 13.5));
-        painter.drawLine(QLineF(2.5, at, 13.5, at));
+    for (int at = gridFrom; at <= gridTo; at += gridStep) {
+        fillPixels(painter, at, gridFrom, at, gridTo, slate);
+        fillPixels(painter, gridFrom, at, gridTo, at, slate);
     }
-    painter.setPen(penOf(slate));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(2.5, 2.5, 11, 11), 1.5, 1.5);
-    fillBox(painter, 3, 3, 13, 5.6, QColor(148, 163, 184, 110));
+    drawFrame(painter, 3, 12, mist);
 }
 
 void drawSortable(QPainter& painter) {

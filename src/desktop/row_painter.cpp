@@ -1,6 +1,9 @@
 #include "desktop/row_painter.h"
 
+#include <QtGui/QHelpEvent>
 #include <QtGui/QPainter>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QToolTip>
 
 #include "desktop/icons.h"
 #include "desktop/looks.h"
@@ -29,12 +32,10 @@ void RowPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
                        const QModelIndex& index) const {
     painter->save();
     paintGround(*painter, option, index);
-    const int textLeft =
-        index.column() == 0 ? paintMarks(*painter, option, index) : option.rect.left() + gap;
+    if (index.column() == 0) paintMarks(*painter, option, index);
     painter->setFont(option.font);
     painter->setPen(index.data(Qt::ForegroundRole).value<QColor>());
-    const QRect box(QPoint(textLeft, option.rect.top()),
-                    QPoint(option.rect.right() - gap, option.rect.bottom()));
+    const QRect box = textBoxIn(option.rect, index);
     const Qt::Alignment alignment(index.data(Qt::TextAlignmentRole).toInt());
     painter->drawText(box, static_cast<int>(alignment) | Qt::TextSingleLine,
                       option.fontMetrics.elidedText(index.data(Qt::DisplayRole).toString(),
@@ -59,8 +60,18 @@ void RowPainter::paintGround(QPainter& painter, const QStyleOptionViewItem& opti
     painter.drawLine(option.rect.topRight(), option.rect.bottomRight());
 }
 
-int RowPainter::paintMarks(QPainter& painter, const QStyleOptionViewItem& option,
-                           const QModelIndex& index) const {
+QRect RowPainter::textBoxIn(const QRect& cell, const QModelIndex& index) const {
+    QRect box = cell.adjusted(gap, 0, -gap, 0);
+    if (index.column() != 0) return box;
+    if (looks.checkBoxes) box.setLeft(box.left() + markSize + gap);
+    if (!index.data(RowsModel::iconRole).toString().isEmpty()) {
+        box.setLeft(box.left() + iconSize + gap);
+    }
+    return box;
+}
+
+void RowPainter::paintMarks(QPainter& painter, const QStyleOptionViewItem& option,
+                            const QModelIndex& index) const {
     int left = option.rect.left() + gap;
     if (looks.checkBoxes) {
         const QRect box = checkBoxIn(option.rect);
@@ -69,10 +80,20 @@ int RowPainter::paintMarks(QPainter& painter, const QStyleOptionViewItem& option
                       index.row() == looks.hoveredRow);
         left = box.right() + 1 + gap;
     }
-    const std::string icon = textOf(index.data(RowsModel::iconRole).toString());
-    if (icon.empty()) return left;
-    const QRectF box(left, option.rect.center().y() - iconSize / 2 + 1, iconSize, iconSize);
-    return drawIcon(painter, box, icon) ? left + iconSize + gap : left;
+    const QRectF place(left, option.rect.center().y() - iconSize / 2 + 1, iconSize, iconSize);
+    drawIcon(painter, place, textOf(index.data(RowsModel::iconRole).toString()));
+}
+
+bool RowPainter::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                           const QStyleOptionViewItem& option, const QModelIndex& index) {
+    if (event->type() != QEvent::ToolTip) return false;
+    const QString text = index.data(Qt::DisplayRole).toString();
+    const QRect cell = view->visualRect(index);
+    const bool isCut = option.fontMetrics.horizontalAdvance(text) > textBoxIn(cell, index).width();
+    // Marked up, so that a name that looks like markup is not taken for it.
+    const QString tip = QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped());
+    QToolTip::showText(event->globalPos(), isCut ? tip : QString(), view, cell);
+    return true;
 }
 
 }  // namespace desktop

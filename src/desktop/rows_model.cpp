@@ -6,13 +6,6 @@
 
 namespace desktop {
 
-Qt::Alignment alignmentOf(forms::Alignment alignment) {
-    const Qt::Alignment across = alignment == forms::Alignment::Centre  ? Qt::AlignHCenter
-                                 : alignment == forms::Alignment::Right ? Qt::AlignRight
-                                                                        : Qt::AlignLeft;
-    return across | Qt::AlignVCenter;
-}
-
 void RowsModel::show(const forms::ListView& list) {
     checkBoxes_ = list.checkBoxes;
     if (!(list.columns == columns_)) showColumns(list.columns);

@@ -36,6 +36,4 @@ private:
     std::vector<forms::ListView::Column> columns_;
 };
 
-[[nodiscard]] Qt::Alignment alignmentOf(forms::Alignment alignment);
-
 }  // namespace desktop

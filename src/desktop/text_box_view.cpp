@@ -27,10 +27,8 @@ bool TextBoxView::syncOwn() {
         setCursorPosition(hasFocus() ? std::min(cursor, static_cast<int>(wanted.size())) : 0);
     }
     setReadOnly(box_.readOnly);
-    const Qt::Alignment across = box_.alignment == forms::Alignment::Centre  ? Qt::AlignHCenter
-                                 : box_.alignment == forms::Alignment::Right ? Qt::AlignRight
-                                                                             : Qt::AlignLeft;
-    if (alignment() != (across | Qt::AlignVCenter)) setAlignment(across | Qt::AlignVCenter);
+    const Qt::Alignment wanted = alignmentOf(box_.alignment);
+    if (alignment() != wanted) setAlignment(wanted);
     return std::exchange(hasBorder_, box_.hasBorder) != box_.hasBorder;
 }
 

@@ -1,6 +1,7 @@
 #include "desktop/titel_bar_button.h"
 
 #include <QtCore/QLineF>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 
 #include "desktop/looks.h"
@@ -8,7 +9,10 @@
 
 namespace desktop {
 
-TitelBarButton::TitelBarButton(Sign sign, QWidget& parent) : QAbstractButton(&parent), sign_(sign) {
+TitelBarButton::TitelBarButton(Sign sign, QWidget& parent, const ViewHost& host)
+    : QAbstractButton(&parent),
+      sign_(sign),
+      host_(host) {
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::TabFocus);
     const QString name = sign == Sign::Close      ? QStringLiteral("Close")
@@ -24,6 +28,15 @@ void TitelBarButton::setColours(const QColor& ground, const QColor& stroke) {
     update();
 }
 
+void TitelBarButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QAbstractButton::keyPressEvent(event);
+        return;
+    }
+    // Passed on, the key would press the default button of the form.
+    if (!event->isAutoRepeat()) click();
+}
+
 void TitelBarButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QColor stroke = isEnabled() ? stroke_ : blend(ground_, stroke_, 0.35);
@@ -34,7 +47,7 @@ void TitelBarButton::paintEvent(QPaintEvent*) {
         painter.fillRect(rect(), face);
         if (closes) stroke = Qt::white;
     }
-    if (hasFocus()) drawFocusRing(painter, rect(), 2, ground_);
+    if (hasFocus() && host_.keyboardInUse()) drawFocusRing(painter, rect(), 2, ground_);
     paintSign(painter, stroke);
 }
 

@@ -22,9 +22,9 @@ TitelBarView::TitelBarView(furniture::TitelBar& bar, QWidget& parent, ViewHost& 
     : QWidget(&parent),
       ControlView(bar, host),
       bar_(bar),
-      minimise_(new TitelBarButton(TitelBarButton::Sign::Minimise, *this)),
-      maximise_(new TitelBarButton(TitelBarButton::Sign::Maximise, *this)),
-      close_(new TitelBarButton(TitelBarButton::Sign::Close, *this)) {
+      minimise_(new TitelBarButton(TitelBarButton::Sign::Minimise, *this, host)),
+      maximise_(new TitelBarButton(TitelBarButton::Sign::Maximise, *this, host)),
+      close_(new TitelBarButton(TitelBarButton::Sign::Close, *this, host)) {
     connect(minimise_, &QAbstractButton::clicked, this,
             [this] { tell([this] { bar_.pressMinimise(); }); });
     connect(maximise_, &QAbstractButton::clicked, this,

@@ -40,6 +40,8 @@ public:
     /// The forms collection, in the order of loading.
     [[nodiscard]] const std::vector<Form*>& loadedForms() const { return loaded_; }
     [[nodiscard]] bool isLoaded(const Form& form) const;
+    /// Whether a loaded form has been shown too.
+    [[nodiscard]] bool isShown(const Form& form) const;
     /// Null if no loaded form has the name; case does not count.
     [[nodiscard]] Form* findLoaded(std::string_view name) const;
     /// Unloads the loaded forms from the last to the first; stops at one that refuses.
@@ -66,6 +68,7 @@ private:
     void forget(Form& form);
 
     std::vector<Form*> loaded_;
+    std::vector<const Form*> shown_;
 };
 
 }  // namespace forms

@@ -51,6 +51,8 @@ public:
     std::vector<Column> columns;
     bool checkBoxes = false;
     bool gridLines = false;
+    /// Stands in the place of rows while there are none.
+    std::string placeholder;
     bool horizontalScrollBar = true;
 
     /// To be called after any change of rows, so that an idle list need not be compared.

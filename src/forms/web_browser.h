@@ -30,6 +30,8 @@ public:
     [[nodiscard]] virtual std::string checkedValues(std::string_view name) = 0;
     /// Sets a style of the body and of the document's root.
     virtual void setStyle(std::string_view property, std::string_view value) = 0;
+    /// The same of the body alone.
+    virtual void setBodyStyle(std::string_view property, std::string_view value) = 0;
 };
 
 /// The browser strip of a form. Without a view behind it (no window, or a broken control) every

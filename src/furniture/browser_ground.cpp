@@ -7,8 +7,8 @@ void ApplyBrowserBackground(forms::WebBrowser& browser, std::string_view colour)
     if (document == nullptr || !document->isComplete()) return;
     document->setStyle("background-color", colour);
     document->setStyle("height", "100%");
-    document->setStyle("margin", "0");
-    document->setStyle("padding", "0");
+    document->setBodyStyle("margin", "0");
+    document->setBodyStyle("padding", "0");
 }
 
 }  // namespace furniture

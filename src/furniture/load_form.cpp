@@ -21,6 +21,7 @@ MurvaneLoad::MurvaneLoad(forms::Desktop& desktop)
     Label1.font = {.name = "Tahoma", .sizePt = 18, .bold = true};
     Label3.caption = "From Excel to slides, documents and pictures";
     Label3.font.sizePt = 9;
+    prbHorizontalOnLoad.accessibleName = "Progress of loading the workbook";
     lblCaption.font.sizePt = 9.75;
     Label4.caption = "Large workbooks take a moment.";
     for (forms::Label* label : {&Label1, &Label3, &lblCaption, &Label4}) label->transparent = true;

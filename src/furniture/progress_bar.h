@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <functional>
 
-#include "forms/control.h"
+#include "forms/controls.h"
 
 namespace furniture {
 
@@ -26,6 +26,8 @@ public:
     forms::Colour BorderColor = forms::Colour::rgb(0x334155);
     bool BorderDefault = true;
     Orientation orientation = Orientation::Horizontal;
+    /// Where the caption stands.
+    forms::Alignment Alignment = forms::Alignment::Centre;
     std::function<void()> onChange;
 
 private:

@@ -21,6 +21,7 @@ Progress::Progress(forms::Desktop& desktop, std::function<int()> checkedCount)
     lblStatus.alignment = forms::Alignment::Centre;
     lblStatus.font = {.name = "Tahoma", .sizePt = 11, .bold = true};
     Label3.caption = "of";
+    prbHorizontal.accessibleName = "Progress of the export";
     for (forms::Label* value : {&ONe, &Label3, &Of}) value->visible = false;
 }
 

@@ -65,7 +65,7 @@ void FormProgress::redraw() {
 }
 
 void FormProgress::show() {
-    desktop_.show(progress_, forms::ShowMode::Modeless);
+    if (!desktop_.isShown(progress_)) desktop_.show(progress_, forms::ShowMode::Modeless);
 }
 
 void FormProgress::unload() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "forms/desktop.h"
@@ -9,6 +10,7 @@
 #include "furniture/button_styles.h"
 #include "furniture/palette.h"
 #include "furniture/theme.h"
+#include "office/text.h"
 #include "panels/page_file.h"
 #include "session/notices.h"
 
@@ -38,6 +40,11 @@ constexpr int mostTries = 13;
 
 bool has(int buttons, int flag) {
     return (buttons & flag) != 0;
+}
+
+std::string onOneLine(std::string_view text) {
+    return office::replaceAll(office::replaceAll(office::replaceAll(text, "\r\n", " "), "\r", " "),
+                              "\n", " ");
 }
 
 }  // namespace
@@ -78,6 +85,8 @@ void MurvaneNotice::Form_Load() {
     place.width =
         fixedWidth_ > 0 ? std::min(fixedWidth_, desktop().screen().width - 600) : defaultWidth;
     TitelBar1.caption = " " + title_;
+    wbNotice.accessibleName =
+        pending_.Message.empty() ? title_ : title_ + ": " + onOneLine(pending_.Message);
     TitelBar1.place.width = place.width;
     showButtons();
     PlaceNoticeBrowser();

@@ -17,6 +17,7 @@ namespace panels {
 struct PendingNotice {
     std::string Html;             ///< the finished page
     std::string Title;            ///< of the title bar
+    std::string Message = {};     ///< the page's words alone, for a screen reader
     int Buttons = 0;              ///< a message-box code, read by its flags 1 and 4
     forms::Twips Width = 0;       ///< of the form; 0: its own
     forms::Twips BodyHeight = 0;  ///< of the page; 0: as the text needs

@@ -12,6 +12,7 @@ int NoticePanel::show(const session::Notice& notice) {
     PendingNotice pending;
     pending.Html = noticePage(notice);
     pending.Title = notice.title;
+    pending.Message = notice.message;
     pending.Buttons = notice.buttons;
     MurvaneNotice form(desktop_, host_, std::move(pending));
 

@@ -16,7 +16,7 @@ void navigateToPage(session::Host& host, forms::WebBrowser& browser, std::string
     if (page.empty()) return;
     office::ContinueOnFailure scope;
     std::string path;
-    scope.attempt([&] { path = host.temporaryFile(fileName); });
+    if (!scope.attempt([&] { path = host.temporaryFile(fileName); })) return;
     scope.attempt([&] { host.writeTemporaryFile(fileName, std::string(page) + "\r\n"); });
     browser.silent = true;
     browser.navigate(fileUrl(path));

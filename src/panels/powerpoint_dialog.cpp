@@ -75,6 +75,7 @@ Dialog::Dialog(forms::Desktop& theDesktop, session::OfficeSession& session,
     // It does nothing. Covered by the panel, it would only be a stop on the way of the Tab key.
     CreateBlankPPT.visible = false;
     ContinueOk.caption = "Continue  >";
+    wbStatus.accessibleName = "Export options";
     ContinueOk.onClick = [this] { ContinueOk_Click(); };
     wbStatus.onBeforeNavigate = [this](std::string_view url) {
         return wbStatus_BeforeNavigate2(url);

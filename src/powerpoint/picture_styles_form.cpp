@@ -57,6 +57,7 @@ PredefinedStyles::PredefinedStyles(forms::Desktop& theDesktop, session::OfficeSe
     Label1.caption = "Pasting style";
     Label1.font = {.name = "Tahoma", .sizePt = 11, .bold = true};
     Label1.transparent = true;
+    Frame3.accessibleName = Label1.caption;
     Picture1.setPicture({.bytes = {}, .drawing = "icon:chart"});
     for (std::size_t i = 0; i < OptionStyle.size(); ++i) {
         OptionStyle.at(i).caption = captions.at(i);

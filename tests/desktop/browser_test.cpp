@@ -209,6 +209,14 @@ TEST_F(Browser, TheStripIsDarkFromTheFirstToTheLast) {
     EXPECT_FALSE(input::waitUntil(desk, isBright, 500ms));
 }
 
+TEST_F(Browser, AScreenReaderHearsTheNameThatTheFormGivesThePageLater) {
+    const PageFile file("<p>x</p>");
+    open(file.url());
+    form.wbStatus.accessibleName = "Export options";
+    desk.letEventsRun();
+    EXPECT_EQ(engine().accessibleName(), QStringLiteral("Export options"));
+}
+
 TEST_F(Browser, AFormMayBeUnloadedFromWithinALink) {
     const PageFile file(linkTo("murvane://action/close"));
     form.wbStatus.onBeforeNavigate = [&](std::string_view) {

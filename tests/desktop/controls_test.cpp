@@ -1,7 +1,12 @@
+#include <QtCore/QCoreApplication>
+#include <QtGui/QKeyEvent>
+#include <QtTest/QTest>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QSlider>
 #include <gtest/gtest.h>
+
+#include <utility>
 
 #include "desktop/fixture.h"
 
@@ -90,6 +95,29 @@ TEST_F(Controls, EnterPressesTheButtonThatHasTheFocusElseTheDefault) {
     EXPECT_EQ(times("Continue"), 1);
 }
 
+TEST_F(Controls, AKeyThatIsHeldDownPressesNothing) {
+    form.escapeCloses = true;
+    form.focus = &form.SlideTitle;
+    QWidget& focused = widgetOf<QWidget>(form.SlideTitle);
+    QWidget& cross = *widgetOf<QWidget>(form.TitelBar1).findChild<QAbstractButton*>();
+    for (const Qt::Key held : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+        for (QWidget* owner : {&focused, &cross}) {
+            QKeyEvent repeated(QEvent::KeyPress, held, Qt::NoModifier, {}, true);
+            QCoreApplication::sendEvent(owner, &repeated);
+        }
+    }
+    EXPECT_EQ(times("Continue"), 0);
+    EXPECT_EQ(times("Cancel"), 0);
+    EXPECT_TRUE(desk.isLoaded(form));
+}
+
+TEST_F(Controls, EnterOnTheCrossOfTheTitleBarClosesTheForm) {
+    QWidget& bar = widgetOf<QWidget>(form.TitelBar1);
+    QTest::keyClick(bar.childAt(bar.width() - 10, 10), Qt::Key_Return);
+    EXPECT_FALSE(desk.isLoaded(form));
+    EXPECT_EQ(times("Continue"), 0);
+}
+
 TEST_F(Controls, EscapePressesTheCancelButtonAndClosesOnlyAFormThatSaysSo) {
     form.focus = &form.SlideTitle;
     input::key(desk, form, Qt::Key_Escape);
@@ -111,6 +139,14 @@ TEST_F(Controls, ArrowKeysChooseTheNextUsableOptionOfTheFrame) {
     input::key(desk, form, Qt::Key_Down);
     EXPECT_TRUE(form.OptionPpt.value()) << "the last is followed by the first";
     EXPECT_TRUE(form.Picture.value()) << "another frame's choice is another";
+}
+
+TEST_F(Controls, ArrowKeysFollowTheOptionsFromTheLeftWhateverTheirOrderInTheForm) {
+    std::swap(form.OptionPpt.place, form.OptionHtml.place);
+    form.focus = &form.OptionWord;
+    form.OptionWord.setValue(true);
+    input::key(desk, form, Qt::Key_Right);
+    EXPECT_TRUE(form.OptionPpt.value());
 }
 
 TEST_F(Controls, TheSliderMovesBySmallAndLargeSteps) {

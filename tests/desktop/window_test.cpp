@@ -9,6 +9,7 @@
 #include <stdexcept>
 
 #include "desktop/fixture.h"
+#include "desktop/looks.h"
 
 namespace {
 
@@ -76,6 +77,28 @@ TEST_F(Windows, AModalFormStandsAboveTheFormThatOpenedIt) {
         desk.unload(dialog);
     });
     desk.show(dialog, ShowMode::Modal);
+}
+
+TEST_F(Windows, AFormThatIsShownOnceMoreLeavesTheKeyboardWhereItIs) {
+    sample::SampleForm other(desk);
+    desk.show(other, ShowMode::Modeless);
+    ASSERT_TRUE(input::waitUntil(desk, [&] { return window(other).isActiveWindow(); }));
+    desk.show(form, ShowMode::Modeless);
+    letPass(50ms);
+    EXPECT_TRUE(window(other).isActiveWindow());
+}
+
+TEST_F(Windows, AFormWithoutASoftEdgeHasAHardOne) {
+    form.shadow.setDepth(0);
+    sample::SampleForm plain(desk);
+    plain.shadow.setDepth(0);
+    desk.show(plain, ShowMode::Modeless);
+    const QImage picture = window(plain).grab().toImage();
+    EXPECT_EQ(picture.size(), desk.plateOf(plain)->size() + QSize(4, 4));
+    const QColor ground = desktop::colourOf(plain.backColour);
+    for (const QPoint at : {QPoint(0, 0), picture.rect().bottomRight(), QPoint(1, 200)}) {
+        EXPECT_GT(picture.pixelColor(at).lightness(), ground.lightness() + 40) << at.x();
+    }
 }
 
 TEST_F(Windows, AFailureOfAnEventComesOutWhereEventsAreLetRun) {

@@ -70,4 +70,8 @@ void ScriptedBrowser::setStyle(std::string_view property, std::string_view value
     if (isLoaded_) styles[std::string(property)] = value;
 }
 
+void ScriptedBrowser::setBodyStyle(std::string_view property, std::string_view value) {
+    if (isLoaded_) bodyStyles[std::string(property)] = value;
+}
+
 }  // namespace forms_double

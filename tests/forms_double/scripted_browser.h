@@ -33,7 +33,9 @@ public:
 
     /// What was asked for, in order; a navigation that the control cancelled isn't among it.
     std::vector<std::string> navigations;
+    /// Of the body and the root, and of the body alone.
     std::map<std::string, std::string, std::less<>> styles;
+    std::map<std::string, std::string, std::less<>> bodyStyles;
 
     /// The text of the page that is shown.
     [[nodiscard]] const std::string& page() const { return page_; }
@@ -51,6 +53,7 @@ public:
     [[nodiscard]] int contentHeight(std::string_view id) override;
     [[nodiscard]] std::string checkedValues(std::string_view name) override;
     void setStyle(std::string_view property, std::string_view value) override;
+    void setBodyStyle(std::string_view property, std::string_view value) override;
 
 private:
     forms::WebBrowser& control_;

@@ -171,7 +171,8 @@ TEST_F(Theme, PaintsThePageOfABrowserOnceItIsComplete) {
     furniture::ApplyTheme(sheet);
     EXPECT_EQ(desktop.browser(sheet)->styles.at("background-color"), "#111827");
     EXPECT_EQ(desktop.browser(sheet)->styles.at("height"), "100%");
-    EXPECT_EQ(desktop.browser(sheet)->styles.at("margin"), "0");
+    EXPECT_EQ(desktop.browser(sheet)->bodyStyles.at("margin"), "0");
+    EXPECT_FALSE(desktop.browser(sheet)->styles.contains("margin"));
 }
 
 }  // namespace

@@ -178,6 +178,12 @@ TEST_F(ActionPanel, LeavesTheBrowserAloneForAnEmptyPage) {
     EXPECT_TRUE(host.written.empty());
 }
 
+TEST_F(ActionPanel, LeavesTheBrowserAloneWithoutATemporaryFolder) {
+    host.hasTemporaryFolder = false;
+    panels::NavigatePanelFile(host, sheet.wbStatus, "page");
+    EXPECT_EQ(sheet.wbStatus.url(), "");
+}
+
 TEST_F(ActionPanel, ReadsATypedFieldOrElseWhatTheCallerHas) {
     desktop.page.fields = {{"HtmlWidthFactor", " 80 "}, {"Empty", ""}};
     EXPECT_EQ(panels::ReadFieldValue(sheet.wbStatus, "HtmlWidthFactor", "100"), "100");

@@ -27,7 +27,7 @@ TEST_F(FormProgress, LoadsItsFormByWhateverTouchesItFirstAndKeepsThat) {
     progress.setValue(40, "40%");
     progress.show();
     progress.show();
-    EXPECT_EQ(desktop.record, (Strings{"show Progress modeless", "show Progress modeless"}));
+    EXPECT_EQ(desktop.record, Strings{"show Progress modeless"}) << "once, however many items";
     EXPECT_EQ(the<forms::Label>(form("Progress"), "lblStatus").caption, "2 of 5");
     EXPECT_EQ(forms_double::control(form("Progress"), "prbHorizontal").caption, "40%");
     EXPECT_EQ(progress.value(), 40);
@@ -44,9 +44,11 @@ TEST_F(FormProgress, HoldsAPercentage) {
 TEST_F(FormProgress, BeginsAgainAfterItWasUnloaded) {
     progress.setCurrent(3);
     progress.setValue(60, "60%");
+    progress.show();
     progress.unload();
     EXPECT_EQ(progress.value(), 0);
     progress.show();
+    EXPECT_EQ(desktop.record.back(), "show Progress modeless");
     EXPECT_EQ(the<forms::Label>(form("Progress"), "lblStatus").caption, "0 of 8");
 
     progress.showLoading();

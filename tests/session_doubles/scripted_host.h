@@ -41,6 +41,7 @@ public:
     std::set<std::string, std::less<>> heldFiles;
     /// What was written to temporary files, by their full paths.
     std::map<std::string, std::string, std::less<>> written;
+    bool hasTemporaryFolder = true;
     /// No temporary file can be written.
     bool temporaryFolderIsFull = false;
 
@@ -69,6 +70,9 @@ public:
 
     [[nodiscard]] std::string temporaryFile(std::string_view fileName) override {
         session::requireFileName(fileName);
+        if (!hasTemporaryFolder) {
+            throw office::Failure(office::FailureNumber::PathFileAccess, "Host", "No folder");
+        }
         return temporaryFolder + "/" + std::string(fileName);
     }
 

@@ -87,7 +87,7 @@ json Hand::carryOut(const json& order) {
         follow(order);
         return nullptr;
     }
-    for (const char* seen : {"forms", "control", "rows", "look", "boxes"}) {
+    for (const char* seen : {"forms", "control", "rows", "look", "boxes", "caught"}) {
         if (deed == seen) return inTheWindows([&] { return see(order); });
     }
     inTheWindows([&] {
@@ -101,6 +101,13 @@ json Hand::see(const json& order) const {
     const std::string deed = text(order, "do");
     if (deed == "forms") return openForms(desktop_);
     if (deed == "boxes") return boxes_;
+    if (deed == "caught") {
+        json files = json::array();
+        for (const auto& trap : traps_) {
+            if (trap->hasCaught()) files.push_back(trap->file());
+        }
+        return files;
+    }
     const std::string form = text(order, "form");
     if (deed == "look") {
         if (desktop::grabForm(formOf(desktop_, form), text(order, "file"))) return true;
@@ -113,6 +120,10 @@ json Hand::see(const json& order) const {
 void Hand::act(const json& order) {
     const std::string deed = text(order, "do");
     const std::string form = text(order, "form");
+    if (deed == "catch") {
+        setTrap(order);
+        return;
+    }
     if (deed == "key" || deed == "type") {
         press(order);
         return;
@@ -129,6 +140,12 @@ void Hand::act(const json& order) {
         QTest::mouseDClick(&widget, Qt::LeftButton);
         QTest::mouseRelease(&widget, Qt::LeftButton);
     });
+}
+
+void Hand::setTrap(const json& order) {
+    traps_.push_back(std::make_unique<Trap>(
+        desktop_, Trap::Prey{text(order, "form"), text(order, "control"),
+                             order.at("at_least").get<double>(), text(order, "file")}));
 }
 
 void Hand::press(const json& order) {

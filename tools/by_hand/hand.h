@@ -2,7 +2,11 @@
 
 #include <nlohmann/json.hpp>
 
+#include <memory>
+#include <vector>
+
 #include "desktop/qt_desktop.h"
+#include "trap.h"
 
 namespace by_hand {
 
@@ -22,6 +26,10 @@ namespace by_hand {
 ///     follow    form, control, href         clicks the link with that address in a page
 ///     ask       form, control, script       what a script in a page results in
 ///     look      form, file                  writes a picture of the form, a PNG
+///     catch     form, file, control, at_least   writes it as soon as the form is up and the number
+///                                           in that control's caption is as high: of forms that
+///                                           are too brief to be asked for
+///     caught                                the files that were written so
 ///     boxes                                 texts of the plain message boxes so far, each answered
 class Hand {
 public:
@@ -36,6 +44,7 @@ public:
     [[nodiscard]] const nlohmann::json& boxes() const { return boxes_; }
 
 private:
+    void setTrap(const nlohmann::json& order);
     nlohmann::json see(const nlohmann::json& order) const;
     void act(const nlohmann::json& order);
     void press(const nlohmann::json& order);
@@ -44,6 +53,7 @@ private:
     void follow(const nlohmann::json& order);
 
     desktop::QtDesktop& desktop_;
+    std::vector<std::unique_ptr<Trap>> traps_;
     nlohmann::json boxes_ = nlohmann::json::array();
 };
 

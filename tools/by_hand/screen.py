@@ -87,6 +87,12 @@ class Screen:
                                env=self.environment, capture_output=True, text=True)
         return found.stdout.split()
 
+    def spread(self, text, width, height):
+        """Makes the windows of that name as large; without a window manager they come up small."""
+        for window in self.window_named(text):
+            subprocess.run(["xdotool", "windowmove", window, "0", "0", "windowsize", window, str(width), str(height)],
+                           env=self.environment, check=True)
+
     def use(self, code):
         """Starts Murvane with a code; the one at the screen."""
         hand = Hand(self, code)
@@ -154,6 +160,20 @@ class Hand:
         """Until a page has come into the browser of the form."""
         wait_until(lambda: self.do("ask", form, control, script=f"!!document.querySelector({json.dumps(element)})"),
                    what=f"the page of {form}")
+
+    def settle(self, form):
+        """Until two looks at the form in a row are the same."""
+        file = self.screen.folder / "settling.png"
+        last = None
+
+        def looks_the_same():
+            nonlocal last
+            time.sleep(0.15)
+            self.do("look", form, file=str(file))
+            before, last = last, file.read_bytes()
+            return before == last
+
+        wait_until(looks_the_same, what=f"{form} to settle")
 
     def rows(self):
         """The list of the main form."""
