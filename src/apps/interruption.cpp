@@ -27,6 +27,7 @@ Interruption::Interruption() {
 Interruption::~Interruption() {
     isOver_ = true;
     // Any of them wakes the thread.
+    // NOLINTNEXTLINE(bugprone-bad-signal-to-kill-thread): it is blocked, and waited for
     pthread_kill(waiting_.native_handle(), SIGTERM);
     waiting_.join();
 }

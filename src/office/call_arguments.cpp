@@ -44,8 +44,8 @@ const Value& CallArguments::at(std::size_t position) const {
     return values_[position];
 }
 
-Value CallArguments::at(std::size_t position, Value otherwise) const {
-    return has(position) ? values_[position] : std::move(otherwise);
+Value CallArguments::at(std::size_t position, const Value& otherwise) const {
+    return has(position) ? values_[position] : otherwise;
 }
 
 }  // namespace office

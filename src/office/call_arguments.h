@@ -23,7 +23,7 @@ public:
     [[nodiscard]] bool has(std::size_t position) const;
     /// `Failure` 450 if the argument was left out.
     [[nodiscard]] const Value& at(std::size_t position) const;
-    [[nodiscard]] Value at(std::size_t position, Value otherwise) const;
+    [[nodiscard]] Value at(std::size_t position, const Value& otherwise) const;
 
 private:
     std::string source_;

@@ -50,20 +50,20 @@ public:
     }
 
     /// A property with arguments.
-    MemberTable& property(std::string_view name, Names argumentNames,
+    MemberTable& property(std::string_view name, const Names& argumentNames,
                           Value (Self::*reader)(const CallArguments&),
                           void (Self::*writer)(const CallArguments&, const Value&) = nullptr) {
         Member member;
-        member.argumentNames = std::move(argumentNames);
+        member.argumentNames = argumentNames;
         member.read = std::mem_fn(reader);
         if (writer != nullptr) member.write = std::mem_fn(writer);
         return add(name, std::move(member));
     }
 
-    MemberTable& property(std::string_view name, Names argumentNames, Reader read,
+    MemberTable& property(std::string_view name, const Names& argumentNames, Reader read,
                           Writer write = nullptr) {
         Member member;
-        member.argumentNames = std::move(argumentNames);
+        member.argumentNames = argumentNames;
         member.read = std::move(read);
         member.write = std::move(write);
         return add(name, std::move(member));
@@ -77,17 +77,17 @@ public:
         return add(name, std::move(member));
     }
 
-    MemberTable& method(std::string_view name, Names argumentNames,
+    MemberTable& method(std::string_view name, const Names& argumentNames,
                         Value (Self::*run)(const CallArguments&)) {
         Member member;
-        member.argumentNames = std::move(argumentNames);
+        member.argumentNames = argumentNames;
         member.read = std::mem_fn(run);
         return add(name, std::move(member));
     }
 
-    MemberTable& method(std::string_view name, Names argumentNames, Reader run) {
+    MemberTable& method(std::string_view name, const Names& argumentNames, Reader run) {
         Member member;
-        member.argumentNames = std::move(argumentNames);
+        member.argumentNames = argumentNames;
         member.read = std::move(run);
         return add(name, std::move(member));
     }

@@ -111,6 +111,20 @@ class TheRoad(AtTheScreen):
         hand.do("key", DIALOG, key="Return")
         self.assertEqual(hand.ended(120), 0, hand.said())
         self.assertEqual([len(slide.pictures) for slide in self.saved_deck()], [0, 1, 1])
+    def test_can_be_walked_by_the_keyboard_and_heard(self):
+        self.open_sample()
+        hand = self.open_main_form()
+        stops = hand.do("tab-order", FORM)
+        self.assertEqual([stop for stop in stops if not stop[1].strip()], [])
+        names = [stop[0] for stop in stops]
+        first_of_frames = ["Check1", "listCharts", "Up", "Option1", "OptionFormat", "OptionNewSlides", "PasteIT"]
+        self.assertEqual(sorted(first_of_frames, key=names.index), first_of_frames)
+        hand.do("click-row", FORM, LIST, row=0)
+        hand.do("key", FORM, key="Space")
+        wait_until(lambda: not hand.rows()[0]["checked"], what="the space bar")
+        hand.do("key", FORM, key="Return")
+        hand.wait_for(DIALOG)
+        self.assertEqual([stop for stop in hand.do("tab-order", DIALOG) if not stop[1].strip()], [])
 
 
 if __name__ == "__main__":

@@ -87,7 +87,7 @@ json Hand::carryOut(const json& order) {
         follow(order);
         return nullptr;
     }
-    for (const char* seen : {"forms", "control", "rows", "look", "boxes", "caught"}) {
+    for (const char* seen : {"forms", "control", "rows", "tab-order", "look", "boxes", "caught"}) {
         if (deed == seen) return inTheWindows([&] { return see(order); });
     }
     inTheWindows([&] {
@@ -109,6 +109,7 @@ json Hand::see(const json& order) const {
         return files;
     }
     const std::string form = text(order, "form");
+    if (deed == "tab-order") return tabOrder(desktop_, form);
     if (deed == "look") {
         if (desktop::grabForm(formOf(desktop_, form), text(order, "file"))) return true;
         throw std::runtime_error("no picture could be written");

@@ -18,6 +18,7 @@ namespace by_hand {
 ///     forms                                 names of the open forms
 ///     control   form, control               what the control shows
 ///     rows      form, control               what a list shows
+///     tab-order form                        where Tab leads, and what a screen reader says there
 ///     click, double-click   form, control   on its middle
 ///     click-row, check-row  form, control, row
 ///     click-column          form, control, column

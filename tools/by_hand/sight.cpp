@@ -1,7 +1,9 @@
 #include "sight.h"
 
+#include <QtGui/QAccessible>
 #include <QtWidgets/QWidget>
 
+#include <map>
 #include <stdexcept>
 
 #include "forms/controls.h"
@@ -57,6 +59,27 @@ json describe(const forms::Control& control) {
         seen["value"] = image->version();
     }
     return seen;
+}
+
+json tabOrder(const desktop::QtDesktop& desktop, const std::string& form) {
+    QWidget* plate = desktop.plateOf(formOf(desktop, form));
+    if (plate == nullptr) throw std::runtime_error(form + " is not shown");
+    std::map<const QWidget*, std::string> controls;
+    for (const forms::Control* control : formOf(desktop, form).controls()) {
+        if (const QWidget* widget = desktop.widgetOf(*control)) controls[widget] = control->name();
+    }
+    json stops = json::array();
+    QWidget* const window = plate->window();
+    for (QWidget* stop = window->nextInFocusChain(); stop != window;
+         stop = stop->nextInFocusChain()) {
+        const bool isStop = (stop->focusPolicy() & Qt::TabFocus) != 0 && stop->isEnabled();
+        const auto control = controls.find(stop);
+        if (!isStop || !stop->isVisible() || control == controls.end()) continue;
+        const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(stop);
+        const QString name = spoken == nullptr ? QString() : spoken->text(QAccessible::Name);
+        stops.push_back({control->second, name.toStdString()});
+    }
+    return stops;
 }
 
 json rowsOf(const forms::Control& control) {

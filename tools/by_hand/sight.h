@@ -22,6 +22,9 @@ namespace by_hand {
 [[nodiscard]] nlohmann::json openForms(const desktop::QtDesktop& desktop);
 /// {"caption", "enabled", "visible", "value"}: a value where the class of the control has one.
 [[nodiscard]] nlohmann::json describe(const forms::Control& control);
+/// [[control, what a screen reader calls it]] for the widgets that Tab leads to, in its order. A
+/// page counts as one.
+[[nodiscard]] nlohmann::json tabOrder(const desktop::QtDesktop& desktop, const std::string& form);
 /// {"selected", "columns": widths in twips, "rows": [{"checked", "texts"}]} of a list.
 [[nodiscard]] nlohmann::json rowsOf(const forms::Control& list);
 

@@ -63,6 +63,7 @@ std::optional<std::size_t> tryFind(const ExportList& list, std::string_view name
     if (found.empty()) return std::nullopt;
     if (found.size() > 1) {
         std::vector<std::string> candidates;
+        candidates.reserve(found.size());
         for (const std::size_t index : found) candidates.push_back(fullName(list.rows[index]));
         throw UsageError(fmt::format("\"{}\" is the name of {} items. Say which one: {}.", name,
                                      found.size(), quoted(candidates)));
