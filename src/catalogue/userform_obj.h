@@ -28,8 +28,8 @@ struct MainFormHooks {
     std::function<void()> StartPdfExport;
     std::function<void()> StartHtmlExport;
     std::function<void()> StartImageExport;
-    /// Puts one row on a slide in the format `ExportFormatIndex`, whether it is checked or not. False
-    /// if it has not been put there and the user knows.
+    /// Puts one row on a slide in the format `ExportFormatIndex`, whether it is checked or not.
+    /// False if it has not been put there and the user knows.
     std::function<bool(const ExportRow& row)> InsertOneItem;
     /// Opens a page of help by the name of the button that asks for it.
     std::function<void(std::string_view buttonName)> ShowHelp;
