@@ -20,6 +20,11 @@ namespace {
 
 /// Starting the engine keeps the program busy for some tenths of a second: the form comes first.
 constexpr std::chrono::milliseconds formComesFirst{40};
+/// At the most; an engine that says nothing of it has ended it by then.
+constexpr std::chrono::milliseconds refusalTakes{300};
+/// Now and then the engine drops a load that follows a refused link closely.
+constexpr int triesAfterAFailure = 2;
+constexpr std::chrono::milliseconds betweenTries{50};
 
 }  // namespace
 
@@ -40,15 +45,17 @@ void BrowserView::navigate(std::string_view url) {
     complete_ = false;
     const bool alreadyAsked = !wanted_.isEmpty();
     wanted_ = textOf(url);
-    if (alreadyAsked) return;
+    if (alreadyAsked || refusing_) return;
     const auto delay = view_ == nullptr ? formComesFirst : std::chrono::milliseconds{0};
     QTimer::singleShot(delay, this, [this] { loadWanted(); });
 }
 
 void BrowserView::loadWanted() {
+    if (wanted_.isEmpty()) return;
     if (view_ == nullptr) startEngine();
-    const QString url = std::exchange(wanted_, QString());
-    page_->show(QUrl(url));
+    loading_ = std::exchange(wanted_, QString());
+    triesLeft_ = triesAfterAFailure;
+    page_->show(QUrl(loading_));
 }
 
 void BrowserView::startEngine() {
@@ -96,7 +103,16 @@ bool BrowserView::eventFilter(QObject* watched, QEvent* event) {
 
 void BrowserView::loadEnded(bool succeeded) {
     // A link that was refused ends as a load that failed, and the page is as complete as before.
-    if (!succeeded || !wanted_.isEmpty()) return;
+    if (!succeeded) {
+        if (refusing_) {
+            refusalEnded();
+        } else {
+            tryAgain();
+        }
+        return;
+    }
+    loading_.clear();
+    if (!wanted_.isEmpty()) return;
     complete_ = true;
     showPage();
     tell([this] {
@@ -104,7 +120,24 @@ void BrowserView::loadEnded(bool succeeded) {
     });
 }
 
+void BrowserView::refusalEnded() {
+    if (!std::exchange(refusing_, false)) return;
+    // Not from within the engine's own announcement.
+    QTimer::singleShot(0, this, [this] { loadWanted(); });
+}
+
+void BrowserView::tryAgain() {
+    if (loading_.isEmpty() || triesLeft_ == 0) return;
+    --triesLeft_;
+    QTimer::singleShot(betweenTries, this, [this] {
+        if (!loading_.isEmpty() && wanted_.isEmpty()) page_->show(QUrl(loading_));
+    });
+}
+
 void BrowserView::follow(const QString& url) {
+    // The end of the refused link would take a page along that is asked for before it.
+    refusing_ = true;
+    QTimer::singleShot(refusalTakes, this, [this] { refusalEnded(); });
     // The engine is in the middle of its own decision and must not be given a page from within it;
     // a form that is asked may well do that.
     host().deliverLater([self = QPointer(this), url] {

@@ -45,6 +45,8 @@ private:
     void showPage();
     void loadEnded(bool succeeded);
     void follow(const QString& url);
+    void refusalEnded();
+    void tryAgain();
     /// `elements` as a script lists them.
     void setStyleOf(const QString& elements, std::string_view property, std::string_view value);
 
@@ -52,6 +54,10 @@ private:
     QWebEngineView* view_ = nullptr;  ///< as the page, the toolkit's
     BrowserPage* page_ = nullptr;
     QString wanted_;
+    QString loading_;
+    int triesLeft_ = 0;
+    /// A link has been refused, and the engine has not done with it.
+    bool refusing_ = false;
     bool complete_ = false;
 };
 

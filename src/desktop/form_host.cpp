@@ -16,6 +16,12 @@ FormHost::FormHost(forms::Form& form, QtDesktop& desktop)
 
 FormHost::~FormHost() = default;
 
+bool FormHost::isTopmost() const {
+    if (form_ == nullptr) return false;
+    const bool isModal = window_ != nullptr && window_->windowModality() != Qt::NonModal;
+    return form_->topmost || (isModal && desktop_.hasTopmostBelow(*this));
+}
+
 void FormHost::open(forms::ShowMode mode, QWindow* parent) {
     if (window_ == nullptr) window_ = std::make_unique<FormWindow>(*form_, *this);
     window_->open(mode, parent);

@@ -18,6 +18,9 @@ public:
     ~FormHost() override;
 
     [[nodiscard]] bool isOf(const forms::Form& form) const { return form_ == &form; }
+    /// Whether its window is to be above those of all programs: as the form says, or because it is
+    /// modal above one that is.
+    [[nodiscard]] bool isTopmost() const;
     /// Null until the form has been shown.
     [[nodiscard]] FormWindow* window() const { return window_.get(); }
     /// Whether an event procedure of the form is under way, so that it must not be destroyed.

@@ -216,8 +216,8 @@ void FormWindow::syncTabOrder() {
 }
 
 void FormWindow::syncState() {
-    if (drawn_.topmost != form_->topmost) {
-        drawn_.topmost = form_->topmost;
+    if (const bool topmost = host_.isTopmost(); drawn_.topmost != topmost) {
+        drawn_.topmost = topmost;
         // Through the window's handle: the widget's own way would take the window away and show it
         // again.
         if (windowHandle() != nullptr) {

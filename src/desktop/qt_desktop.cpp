@@ -34,6 +34,14 @@ FormHost& QtDesktop::hostFor(forms::Form& form) {
     return *hosts_.back();
 }
 
+bool QtDesktop::hasTopmostBelow(const FormHost& host) const {
+    const auto self = std::find_if(hosts_.begin(), hosts_.end(),
+                                   [&host](const auto& each) { return each.get() == &host; });
+    return std::any_of(hosts_.begin(), self, [](const auto& each) {
+        return each->window() != nullptr && each->isTopmost();
+    });
+}
+
 void QtDesktop::openWindow(forms::Form& form, forms::ShowMode mode) {
     QWindow* parent = nullptr;
     if (mode == forms::ShowMode::Modal) {

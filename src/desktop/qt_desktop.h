@@ -64,6 +64,8 @@ private:
     void throwFailure();
     [[nodiscard]] FormHost* hostOf(const forms::Form& form) const;
     [[nodiscard]] FormHost& hostFor(forms::Form& form);
+    /// Whether a form that was opened before this one is topmost.
+    [[nodiscard]] bool hasTopmostBelow(const FormHost& host) const;
 
     QObject context_;
     MessageBoxAnswer answer_;

@@ -64,7 +64,7 @@ TEST_F(Browser, AFormMayShowANewPageFromWithinTheClick) {
     };
     open(before.url());
     ASSERT_TRUE(clickLinkFor("document"));
-    EXPECT_EQ(page().fieldValue("f"), "new");
+    EXPECT_TRUE(input::waitUntil(desk, [this] { return page().fieldValue("f") == "new"; }));
 }
 
 TEST_F(Browser, ALinkThatTheFormLetsPassIsFollowed) {

@@ -181,6 +181,22 @@ TEST_F(Windows, TheWindowFollowsTheFormsPlaceAndTheFormTheWindows) {
     EXPECT_EQ(form.place.left, 450);
 }
 
+TEST_F(Windows, AModalFormIsAsTopmostAsTheFormBeneathIt) {
+    sample::SampleForm dialog(desk);
+    const auto isOnTop = [&](const forms::Form& of) {
+        return window(of).windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint);
+    };
+    whenModal([&] {
+        EXPECT_FALSE(isOnTop(dialog));
+        form.topmost = true;
+        EXPECT_TRUE(isOnTop(form) && isOnTop(dialog));
+        form.topmost = false;
+        EXPECT_FALSE(isOnTop(form) || isOnTop(dialog));
+        desk.unload(dialog);
+    });
+    desk.show(dialog, ShowMode::Modal);
+}
+
 TEST_F(Windows, TheTopmostMarkComesAndGoesWithoutANewWindow) {
     const WId before = window(form).winId();
     for (const bool topmost : {true, false}) {
