@@ -58,8 +58,8 @@ void ListHeader::paintSection(QPainter* painter, const QRect& box, int section) 
     const std::string icon =
         textOf(model()->headerData(section, Qt::Horizontal, RowsModel::iconRole).toString());
     if (!icon.empty() && inside.width() > 3 * iconSide) {
-        const QRectF place(inside.right() - iconSide + 1, inside.center().y() - iconSide / 2 + 1,
-                           iconSide, iconSide);
+        const QRect place(inside.right() - iconSide + 1, inside.center().y() - iconSide / 2 + 1,
+                          iconSide, iconSide);
         if (drawIcon(*painter, place, icon)) inside.setRight(inside.right() - iconSide - 2);
     }
     QFont bold = font();

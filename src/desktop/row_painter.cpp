@@ -80,7 +80,7 @@ void RowPainter::paintMarks(QPainter& painter, const QStyleOptionViewItem& optio
                       index.row() == looks.hoveredRow);
         left = box.right() + 1 + gap;
     }
-    const QRectF place(left, option.rect.center().y() - iconSize / 2 + 1, iconSize, iconSize);
+    const QRect place(left, option.rect.center().y() - iconSize / 2 + 1, iconSize, iconSize);
     drawIcon(painter, place, textOf(index.data(RowsModel::iconRole).toString()));
 }
 

@@ -18,7 +18,7 @@ protected:
 
 private:
     bool syncOwn() override;
-    void paintTicks(QPainter& painter, const QRectF& groove) const;
+    void paintTicks(QPainter& painter, const QRectF& track) const;
     [[nodiscard]] QRectF groove() const;
     [[nodiscard]] double shareAt(int position) const;
 
