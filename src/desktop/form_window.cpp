@@ -245,9 +245,15 @@ void FormWindow::syncState() {
 
 void FormWindow::raiseBelowModal() {
     raise();
-    // The form that has the input must not end up beneath one that takes none.
+    // The form that has the input must not end up beneath one that takes none, and where no window
+    // manager gives the keyboard back from a form that has closed, nobody else does.
     QWindow* modal = QGuiApplication::modalWindow();
-    if (modal != nullptr && modal != windowHandle()) modal->raise();
+    if (modal == nullptr || modal == windowHandle()) {
+        activateWindow();
+        return;
+    }
+    modal->raise();
+    modal->requestActivate();
 }
 
 void FormWindow::syncFocus() {

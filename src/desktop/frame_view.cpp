@@ -7,6 +7,14 @@
 
 namespace desktop {
 
+namespace {
+
+/// So near the corner that the lines of a small frame still have room below.
+constexpr int captionLeft = 8;
+constexpr int captionTop = 3;
+
+}  // namespace
+
 FrameView::FrameView(forms::Frame& frame, QWidget& parent, ViewHost& host)
     : QGroupBox(&parent),
       ControlView(frame, host),
@@ -32,8 +40,10 @@ void FrameView::paintEvent(QPaintEvent*) {
     bold.setBold(true);
     painter.setFont(bold);
     painter.setPen(textColour());
-    drawFittedText(painter, QRectF(12, 6, width() - 24, QFontMetrics(bold).height()),
-                   Qt::AlignLeft | Qt::AlignVCenter, caption().trimmed());
+    drawFittedText(
+        painter,
+        QRectF(captionLeft, captionTop, width() - 2 * captionLeft, QFontMetrics(bold).height()),
+        Qt::AlignLeft | Qt::AlignVCenter, caption().trimmed());
 }
 
 }  // namespace desktop

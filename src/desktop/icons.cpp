@@ -5,6 +5,7 @@
 
 #include "desktop/destination_icons.h"
 #include "desktop/row_icons.h"
+#include "desktop/style_icons.h"
 
 namespace desktop {
 
@@ -29,6 +30,12 @@ constexpr std::array icons{
     NamedIcon{"pdf", 48, drawPdf},
     NamedIcon{"images", 48, drawImages},
     NamedIcon{"murvane", 48, drawMurvane},
+    NamedIcon{"picture", 48, drawPlainPicture},
+    NamedIcon{"picture-shadow-around", 48, drawShadowAllAround},
+    NamedIcon{"picture-shadow", 48, drawShadowBelow},
+    NamedIcon{"picture-rounded", 48, drawRoundedPicture},
+    NamedIcon{"picture-reflection", 48, drawReflection},
+    NamedIcon{"picture-reflection-rounded", 48, drawRoundedReflection},
 };
 
 }  // namespace

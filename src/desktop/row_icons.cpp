@@ -59,7 +59,7 @@ void drawFramedChart(QPainter& painter) {
     drawFrame(painter, 2, 13, slate);
     fillPixels(painter, 4, 10, 5, 10, sky);
     fillPixels(painter, 6, 8, 7, 10, sky);
-    fillPixels(painter, 8, 5, 9, 10, blue);
+    fillPixels(painter, 8, 4, 9, 10, blue);
     fillPixels(painter, 4, 10, 11, 10, sky);
 }
 

@@ -76,8 +76,8 @@ void TitelBarView::paintEvent(QPaintEvent*) {
     shade.setColorAt(1, colourOf(shown_.bottomEnd));
     painter.fillRect(rect(), shade);
     const QColor ground = colourOf(shown_.bottomEnd);
-    painter.setPen(blend(ground, colourOf(shown_.line), 0.14));
-    painter.drawLine(rect().bottomLeft(), rect().bottomRight());
+    // A box, since the pen of a line leaves half a pixel free at its end on a dense screen.
+    painter.fillRect(0, height() - 1, width(), 1, blend(ground, colourOf(shown_.line), 0.14));
 
     QFont bold = font();
     bold.setBold(true);

@@ -9,7 +9,7 @@ namespace panels {
 namespace {
 
 // clang-format off
-constexpr std::array<StyleRule, 26> noticeRules{{
+constexpr std::array<StyleRule, 28> noticeRules{{
     {"html,body", "margin:0;padding:0;overflow:hidden"},
     {"body",
      "padding:20px 12px 18px 12px;font-family:Segoe UI,Tahoma,Arial,sans-serif;"
@@ -52,6 +52,9 @@ constexpr std::array<StyleRule, 26> noticeRules{{
     {".review-replace", "margin:6px 0 0 26px;color:#fdba74;font-size:12px;line-height:1.45"},
     {".review-note", "margin-top:14px;color:#94a3b8;font-size:12px;line-height:1.5"},
     {".review-meta", "color:#94a3b8"},
+    // As round as the card, whose corners they would cover.
+    {".hero", "border-radius:11px 11px 0 0"},
+    {".footer-note", "border-radius:0 0 11px 11px"},
 }};
 // clang-format on
 

@@ -87,7 +87,7 @@ constexpr std::array<StyleRule, 18> optionRules{{
     {".choice-chip.disabled", "opacity:.55;cursor:default"},
 }};
 
-constexpr std::array<StyleRule, 8> toolRules{{
+constexpr std::array<StyleRule, 9> toolRules{{
     {".tool-bar", "padding:8px 14px 4px;text-align:left;border-top:1px solid #334155"},
     {".tool-btn",
      "display:inline-block;margin:0 8px 6px 0;padding:7px 14px 7px 10px;border:1px solid #334155;"
@@ -103,6 +103,7 @@ constexpr std::array<StyleRule, 8> toolRules{{
     {".tool-icon-folder",
      "border:2px solid #2563eb;border-radius:0 2px 2px 2px;background:#111827"},
     {".tool-label", "vertical-align:middle;line-height:1.35"},
+    {".app-badge", "text-align:center"},
 }};
 // clang-format on
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "forms/desktop.h"
@@ -24,6 +25,11 @@ constexpr std::array<std::string_view, 6> captions = {"None",
                                                       "Rounded corners",
                                                       "Reflection not rounded",
                                                       "Reflection rounded"};
+
+/// A sample of each.
+constexpr std::array<std::string_view, 6> samples = {
+    "icon:picture",         "icon:picture-shadow-around", "icon:picture-shadow",
+    "icon:picture-rounded", "icon:picture-reflection",    "icon:picture-reflection-rounded"};
 
 forms::Place placeOf(int index) {
     const Twips left = 240 + (5 - index) * (optionWidth + optionGap);
@@ -58,7 +64,6 @@ PredefinedStyles::PredefinedStyles(forms::Desktop& theDesktop, session::OfficeSe
     Label1.font = {.name = "Tahoma", .sizePt = 11, .bold = true};
     Label1.transparent = true;
     Frame3.accessibleName = Label1.caption;
-    Picture1.setPicture({.bytes = {}, .drawing = "icon:chart"});
     for (std::size_t i = 0; i < OptionStyle.size(); ++i) {
         OptionStyle.at(i).caption = captions.at(i);
         OptionStyle.at(i).onClick = [this, i] { OptionStyle_Click(static_cast<int>(i)); };
@@ -78,6 +83,8 @@ void PredefinedStyles::Form_Load() {
 
 void PredefinedStyles::OptionStyle_Click(int index) {
     session_.PictureStyle = static_cast<std::int16_t>(index);
+    const std::string_view sample = samples.at(static_cast<std::size_t>(index));
+    Picture1.setPicture({.bytes = {}, .drawing = std::string(sample)});
     for (std::size_t i = 0; i < OptionStyle.size(); ++i) {
         OptionStyle.at(i).font.bold = static_cast<int>(i) == index;
     }

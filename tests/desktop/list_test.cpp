@@ -1,6 +1,9 @@
+#include <QtCore/QCoreApplication>
+#include <QtGui/QHelpEvent>
 #include <QtGui/QImage>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QToolTip>
 #include <QtWidgets/QTreeView>
 #include <gtest/gtest.h>
 
@@ -91,6 +94,32 @@ TEST_F(Lists, ColumnsAreAsWideAsTheFormSaysAndOnesWithoutWidthAreHidden) {
 TEST_F(Lists, AColumnThatTheUserWidensIsWiderForTheFormToo) {
     view().header()->resizeSection(1, 150);
     EXPECT_EQ(form.listCharts.columns[1].width, 2250);
+}
+
+TEST_F(Lists, TheLastColumnFillsTheListAndKeepsItsWidthForTheForm) {
+    EXPECT_EQ(view().header()->length(), view().viewport()->width());
+    EXPECT_EQ(form.listCharts.columns[4].width, 2350);
+    view().header()->resizeSection(0, 60);
+    desk.letEventsRun();
+    EXPECT_EQ(view().header()->length(), view().viewport()->width());
+    form.listCharts.columns[4].width = 9000;
+    desk.letEventsRun();
+    EXPECT_EQ(view().columnWidth(4), 600) << "wider than the list is wide";
+}
+
+TEST_F(Lists, ATipShowsTheWholeOfATextThatIsCut) {
+    form.rows.rows[0].cells[0] = "Revenue <b>and</b> margin of all terminals";
+    form.rows.rows[3].cells[0] = "Costs";
+    form.listCharts.rowsChanged();
+    const auto tipOf = [this](int row) {
+        const QPoint at = textOf(row);
+        QHelpEvent asks(QEvent::ToolTip, at, view().viewport()->mapToGlobal(at));
+        QCoreApplication::sendEvent(view().viewport(), &asks);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(tipOf(3), QString());
+    EXPECT_EQ(tipOf(0),
+              QStringLiteral("<qt>Revenue &lt;b&gt;and&lt;/b&gt; margin of all terminals</qt>"));
 }
 
 TEST_F(Lists, EachRowHasTheColourOfItsText) {

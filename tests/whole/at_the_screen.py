@@ -3,7 +3,6 @@
 import os
 import pathlib
 import shutil
-import subprocess
 import sys
 import unittest
 
@@ -42,9 +41,7 @@ class AtTheScreen(unittest.TestCase):
 
     def in_the_suite(self, script, *arguments):
         """Runs a script of the suite's own language binding over the user's suite; what it prints."""
-        pipe = (pathlib.Path(self.screen.environment["XDG_RUNTIME_DIR"]) / "murvane" / "suite-pipe").read_text().strip()
-        return subprocess.run(["/usr/bin/python3", "-c", PREAMBLE + script, pipe, *map(str, arguments)], check=True,
-                              env=self.screen.environment, capture_output=True, text=True, timeout=120).stdout
+        return self.screen.in_the_suite(script, *arguments)
 
     def saved_deck(self):
         """The slides of the open presentation, by way of a copy on disk."""
@@ -55,25 +52,6 @@ deck.storeToURL(uno.systemPathToFileUrl(sys.argv[2]), filter("Impress MS PowerPo
 """, copy)
         return slides_of(copy)
 
-
-PREAMBLE = """
-import sys, uno
-from com.sun.star.beans import PropertyValue
-
-local = uno.getComponentContext()
-resolver = local.ServiceManager.createInstanceWithContext("com.sun.star.bridge.UnoUrlResolver", local)
-context = resolver.resolve(f"uno:pipe,name={sys.argv[1]};urp;StarOffice.ComponentContext")
-desktop = context.ServiceManager.createInstanceWithContext("com.sun.star.frame.Desktop", context)
-
-SERVICES = {"Presentation": "com.sun.star.presentation.PresentationDocument",
-            "Workbook": "com.sun.star.sheet.SpreadsheetDocument"}
-
-def document(kind):
-    return next(each for each in desktop.Components if each.supportsService(SERVICES[kind]))
-
-def filter(name):
-    return (PropertyValue("FilterName", 0, name, 0),)
-"""
 
 __all__ = ["AtTheScreen", "BOOK", "DECK", "DIALOG", "FORM", "LIST", "PAGE", "Refused", "colours_of", "slides_of",
            "unittest", "wait_until"]

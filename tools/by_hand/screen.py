@@ -31,6 +31,26 @@ def wait_until(holds, patience=PATIENCE, what="that"):
     raise AssertionError(f"waited {patience:.0f} s in vain for {what}" + (f": {refusal}" if refusal else ""))
 
 
+PREAMBLE = """
+import sys, uno
+from com.sun.star.beans import PropertyValue
+
+local = uno.getComponentContext()
+resolver = local.ServiceManager.createInstanceWithContext("com.sun.star.bridge.UnoUrlResolver", local)
+context = resolver.resolve(f"uno:pipe,name={sys.argv[1]};urp;StarOffice.ComponentContext")
+desktop = context.ServiceManager.createInstanceWithContext("com.sun.star.frame.Desktop", context)
+
+SERVICES = {"Presentation": "com.sun.star.presentation.PresentationDocument",
+            "Workbook": "com.sun.star.sheet.SpreadsheetDocument"}
+
+def document(kind):
+    return next(each for each in desktop.Components if each.supportsService(SERVICES[kind]))
+
+def filter(name):
+    return (PropertyValue("FilterName", 0, name, 0),)
+"""
+
+
 class Screen:
     """An X server, or the screen that is there, and a user's LibreOffice with a home of its own.
 
@@ -92,6 +112,13 @@ class Screen:
         for window in self.window_named(text):
             subprocess.run(["xdotool", "windowmove", window, "0", "0", "windowsize", window, str(width), str(height)],
                            env=self.environment, check=True)
+
+    def in_the_suite(self, script, *arguments):
+        """Runs a script of the suite's own language binding over the user's suite, by the pipe that Murvane has
+        asked it for; what it prints."""
+        pipe = (pathlib.Path(self.environment["XDG_RUNTIME_DIR"]) / "murvane" / "suite-pipe").read_text().strip()
+        return subprocess.run(["/usr/bin/python3", "-c", PREAMBLE + script, pipe, *map(str, arguments)], check=True,
+                              env=self.environment, capture_output=True, text=True, timeout=120).stdout
 
     def use(self, code):
         """Starts Murvane with a code; the one at the screen."""

@@ -1,0 +1,40 @@
+"""Which window stands above which, on a screen without a window manager, where nobody else sees to it."""
+
+import subprocess
+
+from at_the_screen import DIALOG, FORM, PAGE, AtTheScreen, unittest, wait_until
+
+MIDDLE = ("800", "600")
+
+
+class TheWindows(AtTheScreen):
+    def window_in_the_middle(self):
+        """All forms come up in the middle of the screen."""
+        said = subprocess.run(["xdotool", "mousemove", *MIDDLE, "getmouselocation", "--shell"], check=True,
+                              env=self.screen.environment, capture_output=True, text=True).stdout
+        return next(line for line in said.splitlines() if line.startswith("WINDOW="))
+
+    def test_the_options_stand_above_the_main_form_also_after_a_tool(self):
+        self.open_sample()
+        hand = self.open_main_form()
+        main_form = self.window_in_the_middle()
+        self.open_dialog(hand)
+        options = self.window_in_the_middle()
+        self.assertNotEqual(options, main_form)
+        for key, tool in (("style", "PredefinedStyles"), ("layout", "LayoutForm")):
+            with self.subTest(tool=tool):
+                hand.do("follow", DIALOG, PAGE, href=f"murvane://action/{key}")
+                hand.wait_for(tool)
+                self.assertNotIn(self.window_in_the_middle(), (options, main_form))
+                hand.do("key", tool, key="Escape")
+                wait_until(lambda: tool not in hand.do("forms"), what=f"the end of {tool}")
+                self.assertEqual(self.window_in_the_middle(), options)
+        hand.do("key", DIALOG, key="Escape")
+        wait_until(lambda: DIALOG not in hand.do("forms"))
+        self.assertEqual(self.window_in_the_middle(), main_form)
+        hand.do("key", FORM, key="Alt+F4")
+        self.assertEqual(hand.ended(), 0, hand.said())
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
