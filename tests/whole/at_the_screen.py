@@ -18,9 +18,12 @@ BOOK, DECK = "Harbour Logistics 2026.xlsx", "Board deck.pptx"
 
 class AtTheScreen(unittest.TestCase):
     def setUp(self):
-        self.screen = Screen(BUILD)
+        self.screen = self.make_screen()
         self.addCleanup(self.screen.close)
         self.folder = self.screen.folder / "home"
+
+    def make_screen(self):
+        return Screen(BUILD)
 
     def open_sample(self, *names):
         """Copies of the samples, open in the suite."""
@@ -53,5 +56,5 @@ deck.storeToURL(uno.systemPathToFileUrl(sys.argv[2]), filter("Impress MS PowerPo
         return slides_of(copy)
 
 
-__all__ = ["AtTheScreen", "BOOK", "DECK", "DIALOG", "FORM", "LIST", "PAGE", "Refused", "colours_of", "slides_of",
-           "unittest", "wait_until"]
+__all__ = ["AtTheScreen", "BOOK", "BUILD", "DECK", "DIALOG", "FORM", "LIST", "PAGE", "Refused", "Screen", "colours_of",
+           "slides_of", "unittest", "wait_until"]

@@ -1,13 +1,18 @@
-"""Which window stands above which, on a screen without a window manager, where nobody else sees to it."""
+"""Which window stands above which, with a window manager and without, where nobody else sees to it."""
 
 import subprocess
 
-from at_the_screen import DIALOG, FORM, PAGE, AtTheScreen, unittest, wait_until
+from at_the_screen import BUILD, DIALOG, FORM, PAGE, AtTheScreen, Screen, unittest, wait_until
 
 MIDDLE = ("800", "600")
 
 
 class TheWindows(AtTheScreen):
+    manager = "openbox"
+
+    def make_screen(self):
+        return Screen(BUILD, manager=self.manager)
+
     def window_in_the_middle(self):
         """All forms come up in the middle of the screen."""
         said = subprocess.run(["xdotool", "mousemove", *MIDDLE, "getmouselocation", "--shell"], check=True,
@@ -34,6 +39,10 @@ class TheWindows(AtTheScreen):
         self.assertEqual(self.window_in_the_middle(), main_form)
         hand.do("key", FORM, key="Alt+F4")
         self.assertEqual(hand.ended(), 0, hand.said())
+
+
+class TheWindowsByThemselves(TheWindows):
+    manager = None
 
 
 if __name__ == "__main__":

@@ -57,7 +57,7 @@ class Screen:
     Everything lies in one private folder, which `close` removes.
     """
 
-    def __init__(self, build, size="1600x1200", scale=1.0):
+    def __init__(self, build, size="1600x1200", scale=1.0, manager="openbox"):
         self.build = pathlib.Path(build)
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="murvane-screen-"))
         self.hands = []
@@ -75,8 +75,10 @@ class Screen:
         for name in ("WAYLAND_DISPLAY", "TEMP", "DBUS_SESSION_BUS_ADDRESS"):
             self.environment.pop(name, None)
         # Without one no window is ever the active one, and pages take no keys.
-        self.manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.environment, stdout=subprocess.DEVNULL,
-                                        stderr=subprocess.DEVNULL)
+        self.manager = None
+        if manager is not None:
+            self.manager = subprocess.Popen([manager, "--sm-disable"], env=self.environment,
+                                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     @staticmethod
     def _start_server(size):
@@ -142,8 +144,9 @@ class Screen:
                 self.kill_suite()
             except ProcessLookupError:
                 pass
-        self.manager.terminate()
-        self.manager.wait()
+        if self.manager is not None:
+            self.manager.terminate()
+            self.manager.wait()
         self.server.terminate()
         self.server.wait()
         shutil.rmtree(self.folder, ignore_errors=True)
@@ -232,4 +235,5 @@ class Hand:
         if self.process.poll() is None:
             self.process.kill()
         self.process.wait()
+        self.process.stdout.close()
         self.errors.close()
