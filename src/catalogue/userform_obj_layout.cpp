@@ -150,7 +150,7 @@ void UserformObj::setCaptionsAndTips() {
         "above";
 
     listCharts.accessibleName = "Items to export";
-    listCharts.placeholder = "This workbook has no charts, chart sheets or named ranges.";
+    listCharts.placeholder = "There is no chart, chart sheet or named range on a visible sheet.";
     imgChart.accessibleName = "Preview of the selected item";
     SlideTitle.accessibleName = "Caption of the selected item";
     TextBox10.accessibleName = "Slide number of the selected item";

@@ -5,6 +5,7 @@
 #include <QtGui/QIcon>
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QToolTip>
 #include <unistd.h>
 
 #include <array>
@@ -12,6 +13,8 @@
 
 #include "desktop/desktop_style.h"
 #include "desktop/icons.h"
+#include "desktop/looks.h"
+#include "furniture/palette.h"
 
 namespace desktop {
 
@@ -38,6 +41,15 @@ void prepareFonts() {
     QFont::insertSubstitutions(QStringLiteral("Tahoma"), {QStringLiteral("Liberation Sans"),
                                                           QStringLiteral("DejaVu Sans Condensed"),
                                                           QStringLiteral("DejaVu Sans")});
+}
+
+/// As dark as the forms.
+void prepareToolTips() {
+    QPalette colours = QToolTip::palette();
+    colours.setColor(QPalette::ToolTipBase, colourOf(furniture::palette::ThemeGroundDeep));
+    colours.setColor(QPalette::ToolTipText, colourOf(furniture::palette::ThemeText));
+    QToolTip::setPalette(colours);
+    QToolTip::setFont(fontOf({.name = "Tahoma", .sizePt = 9}));
 }
 
 QIcon programIcon() {
@@ -74,6 +86,7 @@ DesktopApplication::DesktopApplication(int argumentCount, char** arguments) {
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new DesktopStyle);
     prepareFonts();
+    prepareToolTips();
     QApplication::setWindowIcon(programIcon());
 }
 
