@@ -252,8 +252,6 @@ void FormWindow::raiseBelowModal() {
         activateWindow();
         return;
     }
-    // Some window managers put a topmost window above the dialogs that belong to it.
-    modal->setFlag(Qt::WindowStaysOnTopHint, true);
     modal->raise();
     modal->requestActivate();
 }
