@@ -88,7 +88,7 @@ void LibreOfficeSuite::connect(std::shared_ptr<Connection> connection) {
 
 LibreOfficeSuite::~LibreOfficeSuite() {
     try {
-        unlockDrawing();
+        LibreOfficeSuite::unlockDrawing();
     } catch (const office::Failure&) {
         // The window has gone with its document or its suite, and the lock with it.
     }
