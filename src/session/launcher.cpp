@@ -23,7 +23,7 @@ namespace {
 std::optional<office::Failure> attachApplications(OfficeSession& session) {
     office::ContinueOnFailure scope;
     scope.attempt([&] { session.ExcelApp = session.suite.attach("Excel.Application"); });
-    const auto refusal = scope.lastFailure();
+    auto refusal = scope.lastFailure();
     scope.attempt([&] { session.PowerPointApp = session.suite.attach("PowerPoint.Application"); });
     if (session.ExcelApp) {
         scope.attempt([&] {

@@ -26,6 +26,6 @@ namespace by_hand {
 /// page counts as one.
 [[nodiscard]] nlohmann::json tabOrder(const desktop::QtDesktop& desktop, const std::string& form);
 /// {"selected", "columns": widths in twips, "rows": [{"checked", "texts"}]} of a list.
-[[nodiscard]] nlohmann::json rowsOf(const forms::Control& list);
+[[nodiscard]] nlohmann::json rowsOf(const forms::Control& control);
 
 }  // namespace by_hand

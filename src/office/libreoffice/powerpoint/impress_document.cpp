@@ -101,7 +101,7 @@ HeldPagePtr ImpressDocument::addSlide(const Connection& connection, std::int32_t
         throw Failure(FailureNumber::SubscriptOutOfRange, "Slides.Add",
                       fmt::format("A slide can't be added at {} to {} slides", place, count));
     SlideLayouts::requireKnown(layout);
-    const HeldPagePtr added = insertPage(connection, place);
+    HeldPagePtr added = insertPage(connection, place);
     layouts_.apply(*added, layout);
     newSlides_.beginWith(connection, added, layout);
     return added;
@@ -111,7 +111,7 @@ HeldPagePtr ImpressDocument::insertPage(const Connection& connection, std::int32
     if (std::exchange(beginsWithoutSlides_, false)) return slide(1);
     // LibreOffice counts from 0 and inserts after the page that it is given.
     const bool atFront = place == 1;
-    const HeldPagePtr added = held(slides_->insertNewByIndex(atFront ? 0 : place - 2));
+    HeldPagePtr added = held(slides_->insertNewByIndex(atFront ? 0 : place - 2));
     if (atFront) moveToFront(connection, added);
     return added;
 }

@@ -25,7 +25,7 @@ namespace libreoffice::powerpoint {
 /// been met.
 class ImpressDocument : public Document {
 public:
-    explicit ImpressDocument(uno::Reference<css::frame::XModel> model);
+    explicit ImpressDocument(uno::Reference<css::frame::XModel> opened);
 
     /// Makes a presentation that was just created have no slides, as PowerPoint's begin.
     /// LibreOffice can't have none, so the one it begins with counts from the first slide on that

@@ -34,7 +34,7 @@ public:
     /// Gives a slide one of the four layouts; `office::Failure` 5 for another number. In a
     /// presentation without such a layout the slide keeps its master page and gets the placeholders
     /// alone.
-    void apply(HeldPage& slide, std::int32_t layout);
+    void apply(HeldPage& slide, std::int32_t number);
 
 private:
     using PageRef = uno::Reference<css::drawing::XDrawPage>;
