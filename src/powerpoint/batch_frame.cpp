@@ -130,6 +130,9 @@ RowResult BatchFrame::takeRow(std::size_t index) {
         if (target == Target::AllPlaced) return RowResult::EndsBatch;
         if (target == Target::None) return RowResult::Next;
         exportRow(index);
+    } else if (row.Checked) {
+        // A sheet that has gone is passed over; a workbook that has gone ends the batch here.
+        static_cast<void>(session_.ActiveBook.get("Name"));
     }
     window_.get("Selection").call("Unselect");
     return RowResult::Next;

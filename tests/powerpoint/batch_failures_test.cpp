@@ -25,6 +25,11 @@ TEST_F(BatchFailuresTest, AFailureInTheLoopReachesTheCallerAndNothingIsTakenBack
     EXPECT_NE(progress.calls.back(), "unload");
 }
 
+TEST_F(BatchFailuresTest, AWorkbookThatIsClosedMeanwhileIsNotTakenForHiddenSheets) {
+    session.ActiveBook.call("Close", false);
+    EXPECT_THROW(exportRows(), office::Failure);
+}
+
 TEST_F(BatchFailuresTest, AFailureAfterTheExportLeavesItsFile) {
     suite.failures().fail("Shapes.AddPicture", 2);
     EXPECT_THROW(exportRows(), office::Failure);
