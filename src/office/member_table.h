@@ -1,11 +1,13 @@
 #pragma once
 
+#include <concepts>
 #include <functional>
 #include <initializer_list>
 #include <map>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -17,6 +19,18 @@
 
 namespace office {
 
+/// What reads or runs a member: it takes the object, and the arguments of the call if it wants
+/// them.
+template <class Read, class Self>
+concept MemberReader =
+    std::invocable<const Read&, Self&> || std::invocable<const Read&, Self&, const CallArguments&>;
+
+/// What writes a property: it takes the object and the value, and in between the property's own
+/// arguments if it has some.
+template <class Write, class Self>
+concept MemberWriter = std::invocable<const Write&, Self&, const Value&> ||
+    std::invocable<const Write&, Self&, const CallArguments&, const Value&>;
+
 /// The members of one object-model class: name, argument names, functions. An adapter class has one
 /// such table and reaches its members through `Scripted`.
 ///
@@ -25,8 +39,8 @@ namespace office {
 ///         .property("Cells", {"RowIndex", "ColumnIndex"}, &Worksheet::cells)
 ///         .method("Select", {"Replace"}, &Worksheet::select);
 ///
-/// A reader takes the call's arguments, a writer the arguments and the value. A property that is
-/// read may also be called and a method may also be read, as late-bound automation allows.
+/// A property that is read may also be called and a method may also be read, as late-bound
+/// automation allows.
 template <class Self>
 class MemberTable {
 public:
@@ -37,59 +51,30 @@ public:
     explicit MemberTable(std::string className) : className_(std::move(className)) {}
 
     /// A property without arguments; leave the writer out for a read-only one.
-    MemberTable& property(std::string_view name, Value (Self::*reader)(),
-                          void (Self::*writer)(const Value&) = nullptr) {
-        Member member;
-        member.read = [reader](Self& self, const CallArguments&) { return (self.*reader)(); };
-        if (writer != nullptr) {
-            member.write = [writer](Self& self, const CallArguments&, const Value& value) {
-                (self.*writer)(value);
-            };
-        }
-        return add(name, std::move(member));
+    template <MemberReader<Self> Read>
+    MemberTable& property(std::string_view name, Read reads) {
+        return add(name, {}, reader(std::move(reads)));
+    }
+    template <MemberReader<Self> Read, MemberWriter<Self> Write>
+    MemberTable& property(std::string_view name, Read reads, Write writes) {
+        return add(name, {}, reader(std::move(reads)), writer(std::move(writes)));
     }
 
     /// A property with arguments.
-    MemberTable& property(std::string_view name, const Names& argumentNames,
-                          Value (Self::*reader)(const CallArguments&),
-                          void (Self::*writer)(const CallArguments&, const Value&) = nullptr) {
-        Member member;
-        member.argumentNames = argumentNames;
-        member.read = std::mem_fn(reader);
-        if (writer != nullptr) member.write = std::mem_fn(writer);
-        return add(name, std::move(member));
+    template <MemberReader<Self> Read>
+    MemberTable& property(std::string_view name, Names argumentNames, Read reads) {
+        return add(name, std::move(argumentNames), reader(std::move(reads)));
+    }
+    template <MemberReader<Self> Read, MemberWriter<Self> Write>
+    MemberTable& property(std::string_view name, Names argumentNames, Read reads, Write writes) {
+        return add(name, std::move(argumentNames), reader(std::move(reads)),
+                   writer(std::move(writes)));
     }
 
-    MemberTable& property(std::string_view name, const Names& argumentNames, Reader read,
-                          Writer write = nullptr) {
-        Member member;
-        member.argumentNames = argumentNames;
-        member.read = std::move(read);
-        member.write = std::move(write);
-        return add(name, std::move(member));
-    }
-
-    /// A property given by functions, for the ones that are a line long.
-    MemberTable& property(std::string_view name, Reader reader, Writer writer = nullptr) {
-        Member member;
-        member.read = std::move(reader);
-        member.write = std::move(writer);
-        return add(name, std::move(member));
-    }
-
-    MemberTable& method(std::string_view name, const Names& argumentNames,
-                        Value (Self::*run)(const CallArguments&)) {
-        Member member;
-        member.argumentNames = argumentNames;
-        member.read = std::mem_fn(run);
-        return add(name, std::move(member));
-    }
-
-    MemberTable& method(std::string_view name, const Names& argumentNames, Reader run) {
-        Member member;
-        member.argumentNames = argumentNames;
-        member.read = std::move(run);
-        return add(name, std::move(member));
+    /// A method; one that returns nothing gives the empty value.
+    template <MemberReader<Self> Run>
+    MemberTable& method(std::string_view name, Names argumentNames, Run runs) {
+        return add(name, std::move(argumentNames), reader(std::move(runs)));
     }
 
     [[nodiscard]] const std::string& className() const { return className_; }
@@ -122,10 +107,41 @@ private:
         Writer write;
     };
 
-    MemberTable& add(std::string_view name, Member member) {
-        member.name = name;
-        members_[lowerCase(name)] = std::move(member);
+    MemberTable& add(std::string_view name, Names argumentNames, Reader read,
+                     Writer write = nullptr) {
+        members_[lowerCase(name)] = {std::string(name), std::move(argumentNames), std::move(read),
+                                     std::move(write)};
         return *this;
+    }
+
+    template <class Read>
+    static Reader reader(Read reads) {
+        return [reads](Self& self, const CallArguments& arguments) -> Value {
+            const auto run = [&]() -> decltype(auto) {
+                if constexpr (std::invocable<const Read&, Self&, const CallArguments&>) {
+                    return std::invoke(reads, self, arguments);
+                } else {
+                    return std::invoke(reads, self);
+                }
+            };
+            if constexpr (std::is_void_v<decltype(run())>) {
+                run();
+                return {};
+            } else {
+                return Value(run());
+            }
+        };
+    }
+
+    template <class Write>
+    static Writer writer(Write writes) {
+        return [writes](Self& self, const CallArguments& arguments, const Value& value) {
+            if constexpr (std::invocable<const Write&, Self&, const CallArguments&, const Value&>) {
+                std::invoke(writes, self, arguments, value);
+            } else {
+                std::invoke(writes, self, value);
+            }
+        };
     }
 
     [[nodiscard]] std::string sourceOf(const Member& member) const {

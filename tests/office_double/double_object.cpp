@@ -5,6 +5,18 @@ namespace office_double {
 using support::CallKind;
 using support::literal;
 
+office::Value SuiteState::run(const office::model::MemberUse& use,
+                              const std::function<office::Value()>& statement) {
+    using Kind = office::model::MemberUse::Kind;
+    const CallKind kind = use.kind == Kind::Put    ? CallKind::Put
+                          : use.kind == Kind::Call ? CallKind::Call
+                                                   : CallKind::Get;
+    log.add({kind, std::string(use.className), std::string(use.member), literal(use.arguments),
+             use.value == nullptr ? std::string() : literal(*use.value)});
+    failures.check(use.className, use.member);
+    return statement();
+}
+
 DoubleObject::DoubleObject(Owner parent)
     : state_(parent.object().state_),
       parent_(parent.object().weak_from_this()),

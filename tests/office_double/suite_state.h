@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "office/model/guard.h"
 #include "support/call_log.h"
 #include "support/failure_plan.h"
 
@@ -13,8 +14,12 @@ struct CopiedPicture {
     double height = 0;
 };
 
-/// What all objects of one suite share.
-struct SuiteState {
+/// What all objects of one suite share. Each member that is used is recorded, and fails if it is
+/// planned to.
+struct SuiteState : office::model::Guard {
+    office::Value run(const office::model::MemberUse& use,
+                      const std::function<office::Value()>& statement) override;
+
     support::CallLog log;
     support::FailurePlan failures;
     std::optional<CopiedPicture> clipboard;

@@ -11,6 +11,7 @@
 
 #include "office/failure.h"
 #include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/guard.h"
 #include "office/libreoffice/password_answer.h"
 #include "office/libreoffice/powerpoint/impress_document.h"
 
@@ -52,6 +53,7 @@ uno::Reference<css::frame::XModel> modelOf(uno::Reference<uno::XInterface> compo
 
 Desk::Desk(std::shared_ptr<Connection> connection, bool hidden)
     : connection_(std::move(connection)),
+      guard_(std::make_shared<ConnectionGuard>(connection_)),
       hidden_(hidden) {}
 
 template <class Kind>

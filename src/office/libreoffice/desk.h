@@ -7,6 +7,7 @@
 
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/document.h"
+#include "office/model/guard.h"
 #include "office/value.h"
 
 namespace libreoffice {
@@ -37,6 +38,8 @@ public:
 
     [[nodiscard]] Connection& connection() const { return *connection_; }
     [[nodiscard]] const std::shared_ptr<Connection>& connectionPtr() const { return connection_; }
+    /// What the members of model objects run through.
+    [[nodiscard]] const office::model::GuardPtr& guard() const { return guard_; }
     [[nodiscard]] bool opensHidden() const { return hidden_; }
 
     /// The record of an open document, made when it is met for the first time. It stays the same
@@ -84,6 +87,7 @@ private:
     std::shared_ptr<Kind> activeOf();
 
     std::shared_ptr<Connection> connection_;
+    office::model::GuardPtr guard_;
     bool hidden_;
     std::vector<std::shared_ptr<Document>> documents_;
     /// The document of each kind that was active last, most recent first.

@@ -47,4 +47,13 @@ void throwTranslated(const Connection& connection, const std::string& source) {
     }
 }
 
+office::Value ConnectionGuard::run(const office::model::MemberUse& use,
+                                   const std::function<office::Value()>& statement) {
+    try {
+        return statement();
+    } catch (const uno::Exception&) {
+        throwTranslated(*connection_, fmt::format("{}.{}", use.className, use.member));
+    }
+}
+
 }  // namespace libreoffice

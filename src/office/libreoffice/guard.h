@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "office/libreoffice/desk.h"
+#include "office/model/guard.h"
 #include "office/scripted.h"
 
 namespace libreoffice {
@@ -11,6 +12,19 @@ namespace libreoffice {
 /// Called inside a handler for a UNO exception: throws the `office::Failure` that stands for it, or
 /// `office::SuiteLost` if the connection broke. The one place where UNO's errors become the port's.
 [[noreturn]] void throwTranslated(const Connection& connection, const std::string& source);
+
+/// Runs the members of model objects over a connection.
+class ConnectionGuard : public office::model::Guard {
+public:
+    explicit ConnectionGuard(std::shared_ptr<Connection> connection)
+        : connection_(std::move(connection)) {}
+
+    office::Value run(const office::model::MemberUse& use,
+                      const std::function<office::Value()>& statement) override;
+
+private:
+    std::shared_ptr<Connection> connection_;
+};
 
 /// Runs each member of an adapter object: first asks whether its document is still open, then
 /// translates what UNO throws.

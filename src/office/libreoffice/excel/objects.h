@@ -5,6 +5,7 @@
 #include "office/libreoffice/desk.h"
 #include "office/libreoffice/excel/addresses.h"
 #include "office/libreoffice/excel/calc_document.h"
+#include "office/model/item_index.h"
 #include "office/value.h"
 
 /// The automation objects of this folder, made without knowing their classes.
@@ -33,22 +34,6 @@ enum class RangeUnit { Cells, Rows, Columns };
 [[nodiscard]] office::Value embeddedChartObject(const DeskPtr& desk, const BookPtr& book,
                                                 const SheetPtr& sheet, const ChartShapePtr& chart);
 
-/// What an index of `Item` asks for: a place from 0, or a name.
-class ItemIndex {
-public:
-    ItemIndex(const office::Value& index, std::string source);
-
-    [[nodiscard]] bool isName() const { return isName_; }
-    [[nodiscard]] const std::string& name() const { return name_; }
-    /// `office::Failure` 9 if the place is not below the count.
-    [[nodiscard]] std::size_t placeBelow(std::size_t count) const;
-    [[noreturn]] void fail() const;
-
-private:
-    std::string source_;
-    std::string name_;
-    std::int32_t place_ = 0;
-    bool isName_;
-};
+using office::model::ItemIndex;
 
 }  // namespace libreoffice::excel

@@ -1,13 +1,14 @@
+#include "office/model/item_index.h"
+
 #include <fmt/format.h>
 
 #include <utility>
 
 #include "office/failure.h"
-#include "office/libreoffice/excel/objects.h"
 
-namespace libreoffice::excel {
+namespace office::model {
 
-ItemIndex::ItemIndex(const office::Value& index, std::string source)
+ItemIndex::ItemIndex(const Value& index, std::string source)
     : source_(std::move(source)),
       isName_(index.isText()) {
     if (isName_) {
@@ -25,8 +26,8 @@ std::size_t ItemIndex::placeBelow(std::size_t count) const {
 void ItemIndex::fail() const {
     const std::string wanted =
         isName_ ? fmt::format("\"{}\"", name_) : fmt::format("{}", place_ + 1);
-    throw office::Failure(office::FailureNumber::SubscriptOutOfRange, source_,
-                          fmt::format("Subscript out of range: there is no {}", wanted));
+    throw Failure(FailureNumber::SubscriptOutOfRange, source_,
+                  fmt::format("Subscript out of range: there is no {}", wanted));
 }
 
-}  // namespace libreoffice::excel
+}  // namespace office::model
