@@ -66,10 +66,9 @@ BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, const std::strin
     const office::Object deck =
         session.PowerPointApp.get("Presentations").call("Add", false).toObject();
 
-    catalogue::InventoryValues values;
     catalogue::ExportList list;
     catalogue::CountWorkbookItems(session);
-    catalogue::LoadItemsToForm(session, values, list);
+    catalogue::LoadItemsToForm(session, list);
     // Charts only, as the bare program takes them.
     for (auto& row : list.rows) row.Checked = row.isEmbeddedChart() && !row.isChartSheet();
     powerpoint::StartPowerPointExport(session, list);

@@ -38,10 +38,9 @@ static void aStoreIsMerged(benchmark::State& state) {
         session::OfficeSession session(suite, host, notices, progress);
         session.ExcelApp = suite.attach("Excel.Application");
         session.ActiveBook = session.ExcelApp.get("ActiveWorkbook").toObject();
-        catalogue::InventoryValues values;
         catalogue::ExportList list;
         catalogue::CountWorkbookItems(session);
-        catalogue::LoadItemsToForm(session, values, list);
+        catalogue::LoadItemsToForm(session, list);
         benchmark::DoNotOptimize(list.rows.size());
         progress.calls.clear();
     }

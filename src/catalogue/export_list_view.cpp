@@ -1,21 +1,24 @@
 #include "catalogue/export_list_view.h"
 
+#include "catalogue/list_columns.h"
+
 namespace catalogue {
 
 std::string_view ExportListView::text(std::size_t row, std::size_t column) const {
-    const ExportRow& shown = list_.rows.at(row);
-    return column == 0 ? shown.Text : shown.SubItems(column);
+    return cellText(list_.rows.at(row), column + 1);
 }
 
 forms::Colour ExportListView::textColour(std::size_t row) const {
-    return forms::Colour::bgr(list_.rows.at(row).ForeColor);
+    const ExportItem& shown = list_.rows.at(row);
+    if (shown.hasSeveralAreas) return row_colour::refused;
+    return shown.isMuted ? row_colour::muted : row_colour::ready;
 }
 
 std::string_view ExportListView::icon(std::size_t row) const {
-    switch (list_.rows.at(row).SmallIcon) {
-        case 1:
+    switch (list_.rows.at(row).kind) {
+        case ItemKind::ChartSheet:
             return "icon:chart-sheet";
-        case 3:
+        case ItemKind::Chart:
             return "icon:chart";
         default:
             return "icon:range";

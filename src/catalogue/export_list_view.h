@@ -5,6 +5,15 @@
 
 namespace catalogue {
 
+/// Colours of a row's text.
+namespace row_colour {
+inline constexpr forms::Colour ready{30, 41, 59};
+/// A row that isn't checked, or lacks the slide number that it needs.
+inline constexpr forms::Colour muted{100, 116, 139};
+/// A range of several areas.
+inline constexpr forms::Colour refused{255, 0, 0};
+}  // namespace row_colour
+
 /// The export list as a list view shows it.
 class ExportListView : public forms::ListRows {
 public:
@@ -13,10 +22,10 @@ public:
     [[nodiscard]] std::size_t count() const override { return list_.rows.size(); }
     [[nodiscard]] std::string_view text(std::size_t row, std::size_t column) const override;
     [[nodiscard]] bool isChecked(std::size_t row) const override {
-        return list_.rows.at(row).Checked;
+        return list_.rows.at(row).checked;
     }
     void setChecked(std::size_t row, bool checked) override {
-        list_.rows.at(row).Checked = checked;
+        list_.rows.at(row).checked = checked;
     }
     [[nodiscard]] forms::Colour textColour(std::size_t row) const override;
     [[nodiscard]] std::string_view icon(std::size_t row) const override;

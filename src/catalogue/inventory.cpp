@@ -1,13 +1,11 @@
 #include "catalogue/inventory.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <limits>
+#include <utility>
 
-#include "catalogue/excel_pause.h"
-#include "catalogue/item_store.h"
-#include "catalogue/list_order.h"
+#include "catalogue/inventory_walk.h"
+#include "catalogue/list_columns.h"
 #include "catalogue/list_rows.h"
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
@@ -55,56 +53,69 @@ std::int32_t countRangeNames(const office::Object& book) {
     return ranges;
 }
 
-void makeStoreSheetIfMissing(session::OfficeSession& session) {
-    if (session::SheetExists(session, store::sheetName)) return;
-    const office::Value sheets = session.ActiveBook.get("Sheets");
-    const office::Value last = sheets.get("Item", sheets.get("Count").toLong());
-    const office::Value added =
-        session.ActiveBook.get("Worksheets").call("Add", office::arg("After", last));
-    added.put("Name", store::sheetName);
-    added.put("Visible", store::veryHidden);
+std::int16_t shortCount(std::size_t count) {
+    constexpr std::size_t most = std::numeric_limits<std::int16_t>::max();
+    return static_cast<std::int16_t>(std::min(count, most));
 }
 
-int iconOf(const std::string& kind) {
-    if (kind == item_kind::chartSheet) return 1;
-    if (kind == item_kind::embedded) return 3;
-    return 4;
+/// Excel doesn't draw, raise events or calculate while this lives, since a workbook can hold many
+/// items. At its end all three are on, also after a failure.
+class ExcelPause {
+public:
+    // By way of the other constructor, so that a failure half-way through is undone as well.
+    explicit ExcelPause(const session::OfficeSession& session) : ExcelPause(session.ExcelApp) {
+        constexpr std::int32_t manual = -4135;
+        excel_.put("ScreenUpdating", false);
+        excel_.put("EnableEvents", false);
+        excel_.put("Calculation", manual);
+    }
+
+    ~ExcelPause() {
+        constexpr std::int32_t automatic = -4105;
+        try {
+            office::ContinueOnFailure scope;
+            scope.attempt([&] { excel_.put("ScreenUpdating", true); });
+            scope.attempt([&] { excel_.put("EnableEvents", true); });
+            scope.attempt([&] { excel_.put("Calculation", automatic); });
+        } catch (const office::SuiteLost&) {
+            // Excel has gone; the call that follows says so.
+            excel_.release();
+        }
+    }
+    ExcelPause(const ExcelPause&) = delete;
+    ExcelPause& operator=(const ExcelPause&) = delete;
+
+private:
+    explicit ExcelPause(office::Object excel) : excel_(std::move(excel)) {}
+
+    office::Object excel_;
+};
+
+/// Looking names up needs a worksheet on top, and so does whoever works on after this. Hidden ones
+/// can't be selected. The first sheet is never tried.
+void leaveChartSheet(const office::Object& book) {
+    constexpr std::int32_t worksheetType = -4167;
+    constexpr std::int32_t visibleSheet = -1;
+    if (book.get("ActiveSheet").get("Type").toLong() == worksheetType) return;
+    const office::Value sheets = book.get("Sheets");
+    const std::int32_t count = sheets.get("Count").toLong();
+    for (std::int32_t i = 2; i <= count; ++i) {
+        const office::Value sheet = sheets.get("Item", i);
+        if (sheet.get("Type").toLong() != worksheetType) continue;
+        if (sheet.get("Visible").toLong() != visibleSheet) continue;
+        sheet.call("Select");
+        return;
+    }
 }
 
-ExportRow rowOf(const office::Table& block, std::size_t row) {
-    const auto text = [&](std::size_t column) { return block.at(row, column).toText(); };
-    ExportRow filled;
-    filled.Text = text(store::itemNameColumn);
-    filled.SubItems(1) = text(store::sheetNameColumn);
-    filled.SubItems(2) = text(store::slideNumberColumn);
-    filled.SubItems(3) = text(store::orderColumn);
-    filled.SubItems(4) = text(store::captionColumn);
-    filled.SubItems(5) = text(store::itemKindColumn);
-    filled.SubItems(6) = text(store::laterRowColumn);
-    filled.SubItems(7) = text(store::itemKeyColumn);
-    filled.SmallIcon = iconOf(filled.SubItems(5));
-    filled.Checked = block.at(row, store::includedColumn).toBool();
-    return filled;
-}
-
-/// The store down to the last entry of column A. The marker row between older and later items is
-/// read as a row like any other; a store without any entry gives no rows.
-office::Table readStore(session::OfficeSession& session) {
-    constexpr std::int32_t up = -4162;
-    const office::Object sheet = storeSheet(session);
-    const std::int32_t bottom = sheet.get("Cells").get("Rows").get("Count").toLong();
-    const std::int32_t lastRow = sheet.get("Cells", bottom, 1).get("End", up).get("Row").toLong();
-    office::Table block = sheet.get("Range", fmt::format("A1:T{}", lastRow)).get("Value").toTable();
-    const bool isEmpty = lastRow == 1 && block.at(1, store::itemNameColumn).isBlank();
-    return isEmpty ? office::Table(0, store::columnCount) : block;
-}
-
-bool hasSeveralAreas(const InventoryWalk& walk, RowObjects& objects, const ExportRow& row) {
-    if (row.SubItems(5) != item_kind::range) return false;
-    // The walk has looked at nearly all of them; what is left are rows of hidden sheets and of
+void refuseSeveralAreas(const FoundItems& found, RowObjects& objects, ExportItem& item) {
+    if (item.kind != ItemKind::Range) return;
+    // The walk has looked at nearly all of them; what is left are items of hidden sheets and of
     // names that have vanished.
-    const auto known = walk.hasSeveralAreas.find(row.SubItems(7));
-    return known != walk.hasSeveralAreas.end() ? known->second : objects.isMultipleAreaRow(row);
+    const auto known = found.hasSeveralAreas.find(item.key());
+    item.hasSeveralAreas =
+        known != found.hasSeveralAreas.end() ? known->second : objects.isMultipleAreaRow(item);
+    if (item.hasSeveralAreas) item.checked = false;
 }
 
 CheckAllState stateOf(std::size_t checked, std::size_t rows) {
@@ -116,50 +127,38 @@ CheckAllState stateOf(std::size_t checked, std::size_t rows) {
 
 void CountWorkbookItems(session::OfficeSession& session) {
     session.ItemCount = 0;
-    session.ItemCountCopy = 0;
     if (session.ActiveBook.isNothing()) return;
     const office::Object& book = session.ActiveBook;
     std::int32_t count = countEmbeddedCharts(book);
     count += book.get("Charts").get("Count").toLong();
     count += countRangeNames(book);
-    session.ItemCount = static_cast<std::int16_t>(
-        std::min<std::int32_t>(count, std::numeric_limits<std::int16_t>::max()));
-    session.ItemCountCopy = session.ItemCount;
+    session.ItemCount = shortCount(static_cast<std::size_t>(count));
 }
 
-CheckAllState LoadItemsToForm(session::OfficeSession& session, InventoryValues& values,
-                              ExportList& list) {
+CheckAllState LoadItemsToForm(session::OfficeSession& session, ExportList& list) {
     std::size_t checked = 0;
+    bool isFresh = false;
     {
         const ExcelPause pause(session);
-        makeStoreSheetIfMissing(session);
-        ItemTable table;
-        const InventoryWalk walk = BuildItemTable(session, values, table);
-        const office::Table block = readStore(session);
+        session::EnsureStoreSheet(session);
+        session.progress.showLoading();
+        leaveChartSheet(session.ActiveBook);
+        FoundItems found = FindItems(session);
+        session.ItemCount = shortCount(found.items.size());
 
-        list.rows.clear();
-        list.rows.reserve(block.rows());
+        session::StoredItems stored = session::MergeIntoStore(session, std::move(found.items));
+        isFresh = stored.wereUnknown;
+        list.rows = std::move(stored.items);
         RowObjects objects(session);
-        for (std::size_t i = 1; i <= block.rows(); ++i) {
-            ExportRow row = rowOf(block, i);
-            if (row.Checked) ++checked;
-            if (hasSeveralAreas(walk, objects, row)) {
-                row.Checked = false;
-                row.ForeColor = RowColourRefused;
-            }
-            list.rows.push_back(std::move(row));
+        for (ExportItem& item : list.rows) {
+            if (item.checked) ++checked;
+            refuseSeveralAreas(found, objects, item);
         }
     }
-    // By the sheets' order while column 4 still holds it; from the second time on the order that
-    // the user left comes first, then what has been added since. The running order takes column 4
-    // over.
-    constexpr std::size_t sheetOrderColumn = 4;
-    constexpr std::size_t laterOrderColumn = 7;
-    const std::size_t column = values.StoreIsNew ? sheetOrderColumn : laterOrderColumn;
-    SotrListView(list, column, sortTypeOfColumn(column));
+    SortByColumn(list, isFresh ? ListColumn::order : ListColumn::laterRow);
     // A list takes its first row as the selected one.
     list.selected = list.rows.empty() ? -1 : 0;
-    values.ListLoaded = true;
+    list.isLoaded = true;
     RenumberIncludedRows(list);
     return stateOf(checked, list.rows.size());
 }

@@ -13,32 +13,32 @@ using office::Object;
 using session::OfficeSession;
 
 /// A sheet-level name is shown by its tail; the quote that opened its sheet goes back in front.
-std::string previewNameOf(const ExportRow& row) {
-    return row.Text.find('!') == std::string::npos ? row.Text : "'" + row.Text;
+std::string previewNameOf(const ExportItem& row) {
+    return row.name.find('!') == std::string::npos ? row.name : "'" + row.name;
 }
 
-void copyChartSheet(OfficeSession& session, const ExportRow& row) {
-    session.ActiveBook.get("Charts").get("Item", row.SubItems(1)).get("ChartArea").call("Copy");
+void copyChartSheet(OfficeSession& session, const ExportItem& row) {
+    session.ActiveBook.get("Charts").get("Item", row.sheet).get("ChartArea").call("Copy");
 }
 
-void copyEmbeddedChart(OfficeSession& session, const ExportRow& row) {
+void copyEmbeddedChart(OfficeSession& session, const ExportItem& row) {
     session.ActiveBook.get("Worksheets")
-        .get("Item", row.SubItems(1))
+        .get("Item", row.sheet)
         .call("ChartObjects")
-        .get("Item", row.Text)
+        .get("Item", row.name)
         .call("Copy");
 }
 
 }  // namespace
 
-PreviewCopy copyForPreview(OfficeSession& session, const ExportRow& row) {
+PreviewCopy copyForPreview(OfficeSession& session, const ExportItem& row) {
     if (row.isChartSheet()) {
         copyChartSheet(session, row);
     } else if (row.isEmbeddedChart()) {
         copyEmbeddedChart(session, row);
     } else {
         const Object range = session.ActiveBook.get("Sheets")
-                                 .get("Item", row.SubItems(1))
+                                 .get("Item", row.sheet)
                                  .get("Range", previewNameOf(row))
                                  .toObject();
         if (range.get("Areas").get("Count").toLong() > 1) return PreviewCopy::SeveralAreas;
@@ -47,7 +47,7 @@ PreviewCopy copyForPreview(OfficeSession& session, const ExportRow& row) {
     return PreviewCopy::Copied;
 }
 
-void copyForFirstPreview(OfficeSession& session, const ExportRow& row) {
+void copyForFirstPreview(OfficeSession& session, const ExportItem& row) {
     if (row.isChartSheet()) {
         copyChartSheet(session, row);
     } else if (row.isEmbeddedChart()) {

@@ -4,6 +4,26 @@
 
 namespace catalogue {
 
+const std::string& cellText(const ExportItem& item, std::size_t column) {
+    static const std::string nothing;
+    switch (column) {
+        case ListColumn::name:
+            return item.name;
+        case ListColumn::sheet:
+            return item.sheet;
+        case ListColumn::slideNumber:
+            return item.slideNumber;
+        case ListColumn::order:
+            return item.order;
+        case ListColumn::caption:
+            return item.caption;
+        case ListColumn::laterRow:
+            return item.laterRow;
+        default:
+            return nothing;
+    }
+}
+
 std::array<std::int32_t, 8> SizeListColumns(std::int32_t listWidth, bool predefinedSlides) {
     const std::int32_t available = std::max(listWidth - 540, 3000);
     const std::int32_t slide = predefinedSlides ? 720 : 0;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <string>
 
 #include "catalogue/export_list.h"
 #include "session/office_session.h"
@@ -13,8 +13,8 @@ namespace catalogue {
 /// running order of the export.
 void RenumberIncludedRows(ExportList& list);
 
-/// Recolours every row but the red ones: muted if it is unchecked, or if it has no slide number
-/// where slides are predefined.
+/// Mutes the rows that are unchecked, or have no slide number where slides are predefined, and no
+/// others.
 void ColorListRows(ExportList& list, bool predefinedSlides);
 
 [[nodiscard]] std::int32_t CountCheckedRows(const ExportList& list);
@@ -23,11 +23,15 @@ void ColorListRows(ExportList& list, bool predefinedSlides);
 [[nodiscard]] std::int32_t CountExportableRows(session::OfficeSession& session,
                                                const ExportList& list);
 
-/// The same for one row.
-[[nodiscard]] bool RowOnVisibleSheet(session::OfficeSession& session, const ExportRow& row);
+/// Exchanges the selected row with the one above, or below. Nothing at the end of the list or
+/// without a selected row.
+void MoveSelectedUp(ExportList& list);
+void MoveSelectedDown(ExportList& list);
 
-/// What `CopyListToClipboard` copies: headers and rows, columns joined by tabs, each line ended by
-/// CR LF and one more at the end.
-[[nodiscard]] std::string listAsTabText(const ExportList& list);
+/// Sorts the rows by one column, counted from 1, always ascending; rows with equal texts keep their
+/// order, and the selected row stays selected. Orders are compared as numbers, with what is no
+/// number first; all else as text, slide numbers too, where "10" comes ahead of "9". What is no
+/// column of the list changes nothing.
+void SortByColumn(ExportList& list, std::size_t column);
 
 }  // namespace catalogue

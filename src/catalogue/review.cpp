@@ -2,16 +2,31 @@
 
 #include <fmt/format.h>
 
-#include "catalogue/destination_review.h"
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <optional>
+
 #include "catalogue/list_rows.h"
 #include "catalogue/row_objects.h"
+#include "office/failure_patterns.h"
 #include "office/text.h"
 #include "panels/markup.h"
 #include "panels/notice_page.h"
+#include "session/powerpoint_session.h"
 
 namespace catalogue {
 
 namespace {
+
+void AddBlocker(std::string& blockers, std::string_view text) {
+    blockers += panels::element("li", {}, panels::HtmlEscape(text));
+}
+
+void AddReviewItem(std::string& reviewItems, std::string& reviewLines, std::string_view text) {
+    reviewItems += panels::element("li", {}, panels::HtmlEscape(text));
+    reviewLines += fmt::format("- {}\r\n", text);
+}
 
 void reviewItems(session::OfficeSession& session, const ExportList& list, ReviewTexts& texts) {
     const std::int32_t checked = CountCheckedRows(list);
@@ -32,24 +47,132 @@ void reviewItems(session::OfficeSession& session, const ExportList& list, Review
                         checked - exportable));
     }
     RowObjects objects(session);
-    for (const ExportRow& row : list.rows) {
-        if (!row.Checked || !objects.isMultipleAreaRow(row)) continue;
+    for (const ExportItem& row : list.rows) {
+        if (!row.checked || !objects.isMultipleAreaRow(row)) continue;
         AddBlocker(
             texts.Blockers,
-            fmt::format("\"{}\" is a multiple-area range and cannot be exported.", row.Text));
+            fmt::format("\"{}\" is a multiple-area range and cannot be exported.", row.name));
+    }
+}
+
+using Count = std::optional<std::int32_t>;
+
+Count presentationCount(const session::OfficeSession& session) {
+    return office::orElse(
+        [&] { return Count(session.PowerPointApp.get("Presentations").get("Count").toLong()); },
+        Count());
+}
+
+Count slideCount(const session::OfficeSession& session) {
+    return office::orElse(
+        [&] {
+            return Count(session.PowerPointApp.get("ActivePresentation")
+                             .get("Slides")
+                             .get("Count")
+                             .toLong());
+        },
+        Count());
+}
+
+/// The number that a text begins with, halves rounded to the even neighbour.
+std::int32_t slideNumberOf(std::string_view text) {
+    const double number = std::nearbyint(office::leadingNumber(text));
+    constexpr double most = std::numeric_limits<std::int32_t>::max();
+    return static_cast<std::int32_t>(std::clamp(number, -most, most));
+}
+
+/// True if the row's slide number is one of the presentation's.
+bool reviewSlideNumber(const ExportItem& row, std::int32_t slides, std::string& blockers) {
+    const std::string_view text = office::trim(row.slideNumber);
+    if (text.empty()) {
+        AddBlocker(blockers,
+                   fmt::format(
+                       "Missing slide number for \"{}\". Enter a slide number or uncheck the item.",
+                       row.name));
+        return false;
+    }
+    const std::int32_t number = slideNumberOf(text);
+    if (number < 1) {
+        AddBlocker(blockers, fmt::format("Invalid slide number for \"{}\".", row.name));
+        return false;
+    }
+    if (number > slides) {
+        AddBlocker(blockers,
+                   fmt::format("Slide {} for \"{}\" exceeds the presentation size ({} slides).",
+                               number, row.name, slides));
+        return false;
+    }
+    return true;
+}
+
+void reviewSlideNumbers(session::OfficeSession& session, const ExportList& list,
+                        std::string& blockers) {
+    const Count slides = slideCount(session);
+    if (!slides) {
+        AddBlocker(blockers, "Could not read the open PowerPoint presentation.");
+        return;
+    }
+    RowObjects objects(session);
+    bool anyValid = false;
+    for (const ExportItem& row : list.rows) {
+        if (!objects.isOnVisibleSheet(row)) continue;
+        if (reviewSlideNumber(row, *slides, blockers)) anyValid = true;
+    }
+    if (blockers.empty() && !anyValid) {
+        AddBlocker(blockers,
+                   "No checked items have a valid slide number. Enter slide numbers in the list "
+                   "before exporting.");
+    }
+}
+
+/// Attaches, once more if the first reference doesn't answer: a PowerPoint that was closed and
+/// opened again leaves one.
+Count attachAndCount(session::OfficeSession& session) {
+    session::AttachPowerPoint(session);
+    if (const Count count = presentationCount(session)) return count;
+    session::AttachPowerPoint(session);
+    return presentationCount(session);
+}
+
+/// What keeps an export to slides from running: PowerPoint, its presentation and, where slides are
+/// predefined, the slide numbers of the rows on visible sheets.
+void reviewPowerPoint(session::OfficeSession& session, const ExportList& list,
+                      const ExportChoices& choices, std::string& blockers) {
+    const Count presentations = attachAndCount(session);
+    if (!presentations) {
+        AddBlocker(
+            blockers,
+            "PowerPoint is not running. Open PowerPoint and a presentation, then try again.");
+        return;
+    }
+    session.PresentationsFound = *presentations > 0;
+    if (!session.PresentationsFound) {
+        AddBlocker(blockers,
+                   "No PowerPoint presentation is open. Open or create a presentation, then try "
+                   "again.");
+        return;
+    }
+    if (choices.predefinedSlides) reviewSlideNumbers(session, list, blockers);
+}
+
+/// What keeps an export to Word from running: Word and its document.
+void reviewWord(session::OfficeSession& session, std::string& blockers) {
+    office::ContinueOnFailure scope;
+    office::Object word;
+    scope.attempt([&] { word = session.suite.attach("Word.Application"); });
+    if (word.isNothing()) {
+        AddBlocker(blockers,
+                   "Word is not running. Open Word with an active document, then try again.");
+        return;
+    }
+    office::Object document;
+    scope.attempt([&] { document = word.get("ActiveDocument").toObject(); });
+    if (document.isNothing()) {
+        AddBlocker(blockers, "No active Word document is open. Open a document, then try again.");
     }
 }
 
 }  // namespace
-
-void AddBlocker(std::string& blockers, std::string_view text) {
-    blockers += panels::element("li", {}, panels::HtmlEscape(text));
-}
-
-void AddReviewItem(std::string& reviewItems, std::string& reviewLines, std::string_view text) {
-    reviewItems += panels::element("li", {}, panels::HtmlEscape(text));
-    reviewLines += fmt::format("- {}\r\n", text);
-}
 
 ReviewTexts reviewExport(session::OfficeSession& session, const ExportList& list,
                          const ExportChoices& choices) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "catalogue/export_list.h"
 #include "session/office_session.h"
@@ -16,9 +15,6 @@ struct ReviewTexts {
     std::string ReviewItems;
     std::string ReviewLines;
 };
-
-void AddBlocker(std::string& blockers, std::string_view text);
-void AddReviewItem(std::string& reviewItems, std::string& reviewLines, std::string_view text);
 
 /// Looks at the rows and at the application of the destination, and tells nobody. Changes nothing
 /// but the session's PowerPoint reference, which is taken anew.

@@ -1,6 +1,5 @@
 #include "catalogue/row_objects.h"
 
-#include "catalogue/item_table.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
 
@@ -12,9 +11,9 @@ constexpr std::int32_t visibleSheet = -1;
 
 }  // namespace
 
-const RowObjects::Sheet& RowObjects::sheetOf(const ExportRow& row) {
+const RowObjects::Sheet& RowObjects::sheetOf(const ExportItem& row) {
     const char* collection = row.isChartSheet() ? "Charts" : "Sheets";
-    const std::string name(office::trim(row.SubItems(1)));
+    const std::string name(office::trim(row.sheet));
     const auto [place, isNew] = sheets_.try_emplace(std::string(collection) + "/" + name);
     Sheet& sheet = place->second;
     if (isNew && !name.empty()) {
@@ -28,22 +27,18 @@ const RowObjects::Sheet& RowObjects::sheetOf(const ExportRow& row) {
     return sheet;
 }
 
-bool RowObjects::isOnVisibleSheet(const ExportRow& row) {
-    return row.Checked && sheetOf(row).isVisible;
+bool RowObjects::isOnVisibleSheet(const ExportItem& row) {
+    return row.checked && sheetOf(row).isVisible;
 }
 
-bool RowObjects::isMultipleAreaRow(const ExportRow& row) {
-    if (row.SubItems(5) != item_kind::range) return false;
+bool RowObjects::isMultipleAreaRow(const ExportItem& row) {
+    if (row.kind != ItemKind::Range) return false;
     return office::orElse(
         [&] {
-            const office::Value range = sheetOf(row).object.get("Range", row.Text);
+            const office::Value range = sheetOf(row).object.get("Range", row.name);
             return range.get("Areas").get("Count").toLong() > 1;
         },
         false);
-}
-
-bool IsMultipleAreaRow(session::OfficeSession& session, const ExportRow& row) {
-    return RowObjects(session).isMultipleAreaRow(row);
 }
 
 }  // namespace catalogue

@@ -16,11 +16,11 @@ public:
 
     /// Whether the row is checked and its sheet is visible, neither hidden nor very hidden nor
     /// gone.
-    [[nodiscard]] bool isOnVisibleSheet(const ExportRow& row);
+    [[nodiscard]] bool isOnVisibleSheet(const ExportItem& row);
 
     /// Whether the row is a range of several areas, which can't be exported. False if that can't be
     /// told.
-    [[nodiscard]] bool isMultipleAreaRow(const ExportRow& row);
+    [[nodiscard]] bool isMultipleAreaRow(const ExportItem& row);
 
 private:
     struct Sheet {
@@ -28,14 +28,11 @@ private:
         bool isVisible = false;
     };
 
-    const Sheet& sheetOf(const ExportRow& row);
+    const Sheet& sheetOf(const ExportItem& row);
 
     session::OfficeSession& session_;
     /// By collection and name.
     std::map<std::string, Sheet> sheets_;
 };
-
-/// The question for a single row.
-[[nodiscard]] bool IsMultipleAreaRow(session::OfficeSession& session, const ExportRow& row);
 
 }  // namespace catalogue

@@ -7,16 +7,15 @@
 #include "catalogue/inventory.h"
 #include "catalogue/item_preview.h"
 #include "catalogue/list_columns.h"
-#include "catalogue/list_order.h"
 #include "catalogue/list_rows.h"
 #include "catalogue/number_entry.h"
 #include "catalogue/row_objects.h"
-#include "catalogue/save_list.h"
 #include "forms/desktop.h"
 #include "furniture/theme.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
 #include "session/notices.h"
+#include "session/workbook_store.h"
 
 namespace catalogue {
 
@@ -80,7 +79,7 @@ void UserformObj::loadForm() {
     imgChart.setPicture(pictureOnClipboard(session_));
     SlideNb.place.width = 0;
 
-    Check1.startWith(stateOf(LoadItemsToForm(session_, values_, list_)));
+    Check1.startWith(stateOf(LoadItemsToForm(session_, list_)));
     listChartsShowPreview();
     session_.progress.unloadLoading();
 
@@ -118,7 +117,7 @@ void UserformObj::prepareList() {
 }
 
 void UserformObj::listChartsShowPreview() {
-    const ExportRow* row = selectedRow();
+    const ExportItem* row = selectedRow();
     if (row == nullptr) return;
     office::ContinueOnFailure scope;
     scope.attempt([&] { copyForFirstPreview(session_, *row); });
@@ -128,8 +127,7 @@ void UserformObj::listChartsShowPreview() {
 void UserformObj::Form_Unload() {
     session_.MainFormOpen = false;
     session_.ActiveBook = workbook_;
-    // A list that never came up whole would take the place of the one that is stored.
-    if (values_.ListLoaded) SaveListToStore(session_, list_);
+    session::SaveListToStore(session_, list_);
     office::ContinueOnFailure scope;
     scope.attempt([this] { session_.ExcelApp.put("ScreenUpdating", true); });
     session_.PowerPointApp.release();
@@ -220,27 +218,26 @@ void UserformObj::moveSlidePanel() {
 }
 
 void UserformObj::Up_Click() {
-    moveSelectedUp(list_);
+    MoveSelectedUp(list_);
     renumberRows();
 }
 
 void UserformObj::Down_Click() {
-    moveSelectedDown(list_);
+    MoveSelectedDown(list_);
     renumberRows();
 }
 
 void UserformObj::listCharts_ColumnClick(std::size_t column) {
-    if (const auto type = sortTypeOfColumn(column); !type.empty())
-        SotrListView(list_, column, type);
+    SortByColumn(list_, column);
     renumberRows();
 }
 
 void UserformObj::Check1_Click() {
-    if (values_.ListLoaded) {
+    if (list_.isLoaded) {
         const bool check = Check1.isChecked();
         RowObjects objects(session_);
-        for (ExportRow& row : list_.rows) {
-            if (!objects.isMultipleAreaRow(row)) row.Checked = check;
+        for (ExportItem& row : list_.rows) {
+            if (!objects.isMultipleAreaRow(row)) row.checked = check;
         }
     }
     recolourRows();
@@ -248,10 +245,10 @@ void UserformObj::Check1_Click() {
 }
 
 void UserformObj::listCharts_ItemCheck(std::size_t row) {
-    ExportRow& checked = list_.rows.at(row);
-    if (checked.ForeColor == RowColourRefused) {
+    ExportItem& checked = list_.rows.at(row);
+    if (checked.hasSeveralAreas) {
         desktop().messageBox("You can't check a multiple range", "Murvane");
-        checked.Checked = false;
+        checked.checked = false;
         listCharts.rowsChanged();
         return;
     }
@@ -263,7 +260,7 @@ void UserformObj::listCharts_ItemClick(std::size_t /*row*/) {
     runOnlyTimer(2);
     imgChart.setPicture({});
     imgChart.place.width = previewStartWidth;
-    const ExportRow* row = selectedRow();
+    const ExportItem* row = selectedRow();
     if (row == nullptr) return;
 
     office::ContinueOnFailure scope;
@@ -277,8 +274,8 @@ void UserformObj::listCharts_ItemClick(std::size_t /*row*/) {
     }
     if (!scope.failed()) imgChart.setPicture(pictureOnClipboard(session_));
     // Copied first: writing to one box runs its change, which writes to the row.
-    const std::string number = row->SubItems(2);
-    const std::string title = row->SubItems(4);
+    const std::string number = row->slideNumber;
+    const std::string title = row->caption;
     TextBox10.setText(number);
     SlideTitle.setText(title);
 }
@@ -317,8 +314,8 @@ bool UserformObj::insertSelectedItem() {
 }
 
 void UserformObj::SlideTitle_Change() {
-    if (ExportRow* row = selectedRow()) {
-        row->SubItems(4) = SlideTitle.text();
+    if (ExportItem* row = selectedRow()) {
+        row->caption = SlideTitle.text();
         listCharts.rowsChanged();
     }
 }
@@ -331,15 +328,15 @@ void UserformObj::TextBox10_Change() {
         entry = std::move(shorter);
     }
     TextBox10.setText(std::move(entry));
-    if (ExportRow* row = selectedRow()) {
-        row->SubItems(2) = TextBox10.text();
+    if (ExportItem* row = selectedRow()) {
+        row->slideNumber = TextBox10.text();
         listCharts.rowsChanged();
     }
     TextBox10.setText(std::string(office::trim(TextBox10.text())));
     if (!TextBox10.text().empty() && !isNumericEntry(TextBox10.text())) TextBox10.setText("");
 }
 
-ExportRow* UserformObj::selectedRow() {
+ExportItem* UserformObj::selectedRow() {
     if (list_.selected < 0 || list_.selected >= static_cast<std::ptrdiff_t>(list_.rows.size())) {
         return nullptr;
     }

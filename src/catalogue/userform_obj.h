@@ -8,7 +8,6 @@
 
 #include "catalogue/export_list.h"
 #include "catalogue/export_list_view.h"
-#include "catalogue/inventory_values.h"
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "forms/list_view.h"
@@ -30,7 +29,7 @@ struct MainFormHooks {
     std::function<void()> StartImageExport;
     /// Puts one row on a slide in the format `ExportFormatIndex`, whether it is checked or not.
     /// False if it has not been put there and the user knows.
-    std::function<bool(const ExportRow& row)> InsertOneItem;
+    std::function<bool(const ExportItem& row)> InsertOneItem;
     /// Opens a page of help by the name of the button that asks for it.
     std::function<void(std::string_view buttonName)> ShowHelp;
 };
@@ -130,7 +129,7 @@ private:
     void startExport(const std::function<void()>& start, std::string_view destination);
 
     // The list.
-    [[nodiscard]] ExportRow* selectedRow();
+    [[nodiscard]] ExportItem* selectedRow();
     void recolourRows();
     void renumberRows();
     void resizeColumns();
@@ -150,7 +149,6 @@ private:
     MainFormHooks hooks_;
     ExportList list_;
     ExportListView listRows_;
-    InventoryValues values_;
     /// The workbook that the rows are of, whichever the user looks at meanwhile.
     office::Object workbook_;
     std::array<std::unique_ptr<forms::Timer>, 5> timers_;

@@ -17,7 +17,7 @@ namespace powerpoint {
 
 namespace {
 
-using catalogue::ExportRow;
+using catalogue::ExportItem;
 using office::Object;
 using session::OfficeSession;
 
@@ -49,9 +49,9 @@ private:
     [[nodiscard]] std::int16_t slideInView() const;
     RowResult takeRow(std::size_t index);
     Target gotoNewSlide();
-    Target gotoNamedSlide(const ExportRow& row);
+    Target gotoNamedSlide(const ExportItem& row);
     void exportRow(std::size_t index);
-    void finishItem(const ExportRow& row);
+    void finishItem(const ExportItem& row);
     [[nodiscard]] std::int16_t countShapes() const;
     void putBack();
 
@@ -123,14 +123,14 @@ std::int16_t BatchFrame::slideInView() const {
 }
 
 RowResult BatchFrame::takeRow(std::size_t index) {
-    const ExportRow& row = batch_.list.rows[index];
+    const ExportItem& row = batch_.list.rows[index];
     if (objects_.isOnVisibleSheet(row)) {
         const Target target =
             batch_.choices.predefinedSlides ? gotoNamedSlide(row) : gotoNewSlide();
         if (target == Target::AllPlaced) return RowResult::EndsBatch;
         if (target == Target::None) return RowResult::Next;
         exportRow(index);
-    } else if (row.Checked) {
+    } else if (row.checked) {
         // A sheet that has gone is passed over; a workbook that has gone ends the batch here.
         static_cast<void>(session_.ActiveBook.get("Name"));
     }
@@ -146,9 +146,9 @@ BatchFrame::Target BatchFrame::gotoNewSlide() {
     return Target::Shown;
 }
 
-BatchFrame::Target BatchFrame::gotoNamedSlide(const ExportRow& row) {
+BatchFrame::Target BatchFrame::gotoNamedSlide(const ExportItem& row) {
     if (placed_ == session_.CheckedCount) return Target::AllPlaced;
-    const double number = office::leadingNumber(row.SubItems(2));
+    const double number = office::leadingNumber(row.slideNumber);
     if (number == 0) return Target::None;
     ++placed_;
     session_.CurrentSlideIndex = shortInteger(number);
@@ -157,14 +157,14 @@ BatchFrame::Target BatchFrame::gotoNamedSlide(const ExportRow& row) {
 }
 
 void BatchFrame::exportRow(std::size_t index) {
-    const ExportRow& row = batch_.list.rows[index];
+    const ExportItem& row = batch_.list.rows[index];
     if (route_.selectsRow) batch_.list.selected = static_cast<std::ptrdiff_t>(index);
     ProgressStep(session_, batch_.forms);
     route_.insertItem(batch_, row, session_.CurrentSlideIndex);
     finishItem(row);
 }
 
-void BatchFrame::finishItem(const ExportRow& row) {
+void BatchFrame::finishItem(const ExportItem& row) {
     if (!session_.DefaultPlacement) {
         LoadSlidePlacement(session_);
         PlaceLastShape(session_);
@@ -177,7 +177,7 @@ void BatchFrame::finishItem(const ExportRow& row) {
             .get("Title")
             .get("TextFrame")
             .get("TextRange")
-            .put("Text", row.SubItems(4));
+            .put("Text", row.caption);
     }
     if (session_.checkShadow) {
         // The option has no look of its own: it sets the style for the rest of the batch. Coming

@@ -37,7 +37,7 @@ struct BatchRoute {
     /// Takes Excel's drawing to the state that the items need, before the first one.
     std::function<void(Batch&)> prepareScreen;
     /// Puts the row's object on slide `slideIndex`.
-    std::function<void(Batch&, const catalogue::ExportRow& row, std::int16_t slideIndex)>
+    std::function<void(Batch&, const catalogue::ExportItem& row, std::int16_t slideIndex)>
         insertItem;
 };
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <exception>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,12 +21,9 @@ namespace {
 using forms::Place;
 using forms::Slider;
 using forms::Twips;
-using office::Value;
-namespace store = session::store;
 
 constexpr Twips width = 9360;
 constexpr Twips height = 5880;
-constexpr const char* defaultWord = "Default";
 /// Where the sliders stand while the program chooses.
 constexpr double standardTop = 0.25;
 constexpr double standardWidth = 0.9;
@@ -37,13 +35,9 @@ std::array<forms::OptionButton, 2> optionsOf(forms::Form& form, const char* name
             forms::OptionButton(form, name, {240, 720, lineWidth, 300}, &frame)};
 }
 
-/// From cell O1 of the store.
-const Value& cellAt(const office::Table& cells, std::size_t column) {
-    return cells.at(1, column - store::topColumn + 1);
-}
-
-office::Object storeSheet(const session::OfficeSession& session) {
-    return session.ActiveBook.get("Worksheets").get("Item", store::sheetName).toObject();
+/// Nothing where the first option leaves the choice to the program.
+std::optional<double> shareOf(const std::array<forms::OptionButton, 2>& options, double fraction) {
+    return options.front().value() ? std::nullopt : std::optional(fraction);
 }
 
 }  // namespace
@@ -125,30 +119,21 @@ void LayoutForm::wireEvents() {
 void LayoutForm::Form_Load() {
     topmost = true;
     shadow_.emplace().Shadow(*this);
-    office::Table cells(1, store::leftColumn - store::topColumn + 1);
-    office::ContinueOnFailure scope;
-    scope.attempt(
-        [&] { cells = storeSheet(session_).get("Range", "O1:R1").get("Value").toTable(); });
-    showCell(cellAt(cells, store::topColumn), OptionTop, TopSlider, standardTop, TopToSlider);
-    showCell(cellAt(cells, store::widthColumn), OptionWidth, WidthSlider, standardWidth,
-             FractionToSlider);
-    showCell(cellAt(cells, store::leftColumn), OptionAlign, AlignSlider, standardLeft,
-             FractionToSlider);
+    const session::Placement stored = office::orElse(
+        [&] { return session::readStoredPlacement(session_); }, session::Placement());
+    showShare(stored.top, OptionTop, TopSlider, standardTop, TopToSlider);
+    showShare(stored.width, OptionWidth, WidthSlider, standardWidth, FractionToSlider);
+    showShare(stored.left, OptionAlign, AlignSlider, standardLeft, FractionToSlider);
     showValues();
     furniture::ApplyTheme(*this);
 }
 
-/// A cell that holds no number leaves the slider at its standard place.
-void LayoutForm::showCell(const Value& cell, Options& options, Slider& slider, double standard,
-                          std::int32_t (*toSlider)(double)) {
-    const bool isDefault = cell.isBlank() || (cell.isText() && cell.toText() == defaultWord);
+void LayoutForm::showShare(const std::optional<double>& share, Options& options, Slider& slider,
+                           double standard, std::int32_t (*toSlider)(double)) {
     for (forms::OptionButton& option : options) option.startWith(false);
-    options.at(isDefault ? 0 : 1).setValue(true);
-    slider.setValue(toSlider(standard));
-    if (!isDefault) {
-        office::ContinueOnFailure().attempt([&] { slider.setValue(toSlider(cell.toDouble())); });
-    }
-    slider.enabled = !isDefault;
+    options.at(share ? 1 : 0).setValue(true);
+    slider.setValue(toSlider(share.value_or(standard)));
+    slider.enabled = share.has_value();
 }
 
 void LayoutForm::choose(Options& options, Slider& slider, int index) {
@@ -182,26 +167,12 @@ double LayoutForm::SliderToTop() const {
 
 void LayoutForm::CloseLayout_Click() {
     session_.DefaultPlacement = false;
-    requireStoreSheet();
-    const office::Object sheet = storeSheet(session_);
-    const auto write = [&](std::size_t column, const Value& value) {
-        sheet.get("Cells", 1, static_cast<std::int32_t>(column)).put("Value", value);
-    };
-    write(store::topColumn, cellOf(OptionTop, SliderToTop()));
-    write(store::widthColumn, cellOf(OptionWidth, SliderToFraction(WidthSlider.value())));
-    write(store::leftColumn, cellOf(OptionAlign, SliderToFraction(AlignSlider.value())));
+    session::EnsureStoreSheet(session_);
+    session::writeStoredPlacement(session_,
+                                  {shareOf(OptionTop, SliderToTop()),
+                                   shareOf(OptionWidth, SliderToFraction(WidthSlider.value())),
+                                   shareOf(OptionAlign, SliderToFraction(AlignSlider.value()))});
     desktop().unload(*this);
-}
-
-void LayoutForm::requireStoreSheet() {
-    if (session::SheetExists(session_, store::sheetName)) return;
-    const office::Object sheet = session_.ActiveBook.get("Worksheets").call("Add").toObject();
-    sheet.put("Name", store::sheetName);
-    sheet.put("Visible", store::veryHidden);
-}
-
-Value LayoutForm::cellOf(const Options& options, double fraction) {
-    return options.front().value() ? Value(defaultWord) : Value(fraction);
 }
 
 void ShowLayoutUtility(session::OfficeSession& session, forms::Desktop& desktop) {

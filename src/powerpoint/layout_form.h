@@ -56,12 +56,10 @@ private:
 
     void setCaptions();
     void wireEvents();
-    void showCell(const office::Value& cell, Options& options, forms::Slider& slider,
-                  double standard, std::int32_t (*toSlider)(double));
+    static void showShare(const std::optional<double>& share, Options& options,
+                          forms::Slider& slider, double standard, std::int32_t (*toSlider)(double));
     static void choose(Options& options, forms::Slider& slider, int index);
     void showValues();
-    void requireStoreSheet();
-    [[nodiscard]] static office::Value cellOf(const Options& options, double fraction);
 
     session::OfficeSession& session_;
     std::optional<furniture::clsShadow> shadow_;

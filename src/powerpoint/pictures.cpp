@@ -58,15 +58,15 @@ void exportRange(const Object& range, const std::string& file) {
     holder.call("Delete");
 }
 
-void insertRow(Batch& batch, const catalogue::ExportRow& row, std::int16_t slideIndex) {
-    const std::string& sheet = row.SubItems(1);
-    const std::string& caption = row.SubItems(4);
+void insertRow(Batch& batch, const catalogue::ExportItem& row, std::int16_t slideIndex) {
+    const std::string& sheet = row.sheet;
+    const std::string& caption = row.caption;
     if (row.isChartSheet()) {
         InsertChartSheetPicture(batch.session, sheet, slideIndex, caption);
     } else if (row.isEmbeddedChart()) {
-        InsertEmbeddedChartPicture(batch.session, sheet, row.Text, slideIndex, caption);
+        InsertEmbeddedChartPicture(batch.session, sheet, row.name, slideIndex, caption);
     } else {
-        InsertRangePicture(batch.session, row.Text, slideIndex, caption);
+        InsertRangePicture(batch.session, row.name, slideIndex, caption);
     }
 }
 

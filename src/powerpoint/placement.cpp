@@ -38,10 +38,6 @@ Object slideOf(const Object& presentation, std::int16_t index) {
     return presentation.get("Slides").get("Item", std::int32_t{index}).toObject();
 }
 
-bool isLeftOpen(const Value& cell) {
-    return cell.isBlank() || (cell.isText() && cell.toText() == "Default");
-}
-
 bool isDefaultWord(const Value& value) {
     return value.isText() && value.toText() == "Default";
 }
@@ -63,24 +59,18 @@ void readTitle(OfficeSession& session, const Object& presentation) {
 }
 
 void readPlacement(OfficeSession& session) {
-    const Object store =
-        session.ExcelApp.get("Worksheets").get("Item", session::store::sheetName).toObject();
+    const session::Placement stored = session::readStoredPlacement(session);
     const Object presentation = session.PowerPointApp.get("ActivePresentation").toObject();
     readTitle(session, presentation);
 
-    const office::Table cells = store.get("Range", "O1:R1").get("Value").toTable();
-    const Value& top = cells.at(1, 1);
-    const Value& width = cells.at(1, 2);
-    const Value& left = cells.at(1, 4);
-
-    if (isLeftOpen(top)) {
+    if (stored.top) {
+        session.TopPct = *stored.top;
+    } else {
         const double heightPt = presentation.get("PageSetup").get("SlideHeight").toDouble();
         session.TopPct = (session.TitleHeight + session.TitleTop) * titleClearance / heightPt;
-    } else {
-        session.TopPct = top;
     }
-    session.WidthPct = isLeftOpen(width) ? Value(defaultShare) : width;
-    session.LeftPct = isLeftOpen(left) ? Value("Default") : left;
+    session.WidthPct = stored.width.value_or(defaultShare);
+    session.LeftPct = stored.left ? Value(*stored.left) : Value("Default");
 }
 
 double topOf(const OfficeSession& session, const SlideSize& slide) {

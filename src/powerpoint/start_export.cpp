@@ -7,8 +7,8 @@ namespace powerpoint {
 void StartPowerPointExport(session::OfficeSession& session, const catalogue::ExportList& list) {
     session.ExcelApp.put("DisplayAlerts", false);
     session.CheckedCount = 0;
-    for (const catalogue::ExportRow& row : list.rows) {
-        if (row.Checked) ++session.CheckedCount;
+    for (const catalogue::ExportItem& row : list.rows) {
+        if (row.checked) ++session.CheckedCount;
     }
 }
 
@@ -16,10 +16,10 @@ void CountRowsWithSlideNumber(session::OfficeSession& session, const catalogue::
     const int slides =
         session.PowerPointApp.get("ActivePresentation").get("Slides").get("Count").toLong();
     session.CheckedCount = 0;
-    for (const catalogue::ExportRow& row : list.rows) {
-        if (!row.Checked || row.SubItems(2).empty()) continue;
+    for (const catalogue::ExportItem& row : list.rows) {
+        if (!row.checked || row.slideNumber.empty()) continue;
         ++session.CheckedCount;
-        if (office::leadingNumber(row.SubItems(2)) > slides) return;
+        if (office::leadingNumber(row.slideNumber) > slides) return;
     }
 }
 

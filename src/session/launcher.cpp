@@ -179,7 +179,6 @@ int runCommand(OfficeSession& session, std::string_view command, const CommandHa
     // The count is taken for every code of the rest of the chain, also for those that make nothing
     // of it.
     session.ItemCount = 0;
-    session.ItemCountCopy = 0;
     if (session.ActiveBook) {
         const int status = perform(session, command, handlers.CountWorkbookItems);
         if (status != commandDone) return status;

@@ -16,7 +16,7 @@ enum class WordPaste { Picture, InlineEmbedded, FloatingLinked, Table };
 /// What the commands run that lives in higher layers. A version of the program that hasn't got one
 /// of them yet leaves it out; the command then says so and fails.
 struct CommandHandlers {
-    /// Sets `ItemCount` and `ItemCountCopy` from the active workbook.
+    /// Sets `ItemCount` from the active workbook.
     std::function<void()> CountWorkbookItems;
     std::function<void()> ShowAboutForm;
     std::function<void()> ShowLayoutUtility;

@@ -47,7 +47,6 @@ struct OfficeSession {
     bool HtmlDialogOpen = false;
     bool ImageDialogOpen = false;
     std::int16_t ItemCount = 0;
-    std::int16_t ItemCountCopy = 0;
     office::WindowHandle PowerPointFrameHandle = 0;
     /// 1 once `/3122` has looked for charts under the selection.
     std::int16_t EmbeddedSelectionRun = 0;

@@ -1,20 +1,161 @@
 #include "session/workbook_store.h"
 
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <iterator>
+#include <unordered_set>
+#include <utility>
+
+#include "office/failure_patterns.h"
+#include "office/text.h"
+
 namespace session {
 
 namespace {
 
-std::int32_t asIndex(std::size_t number) {
-    return static_cast<std::int32_t>(number);
+using office::Object;
+using office::Table;
+using office::Value;
+
+/// Columns of an item's row.
+constexpr std::size_t nameColumn = 1;
+constexpr std::size_t sheetColumn = 2;
+constexpr std::size_t slideNumberColumn = 3;
+constexpr std::size_t orderColumn = 4;
+constexpr std::size_t checkedColumn = 5;
+constexpr std::size_t kindColumn = 6;
+constexpr std::size_t laterRowColumn = 7;
+constexpr std::size_t keyColumn = 8;
+/// The caption stands apart, behind the cells of the placement.
+constexpr std::size_t captionColumn = 20;
+
+constexpr int veryHidden = 2;
+constexpr const char* textFormat = "@";
+
+constexpr const char* placementCells = "O1:R1";
+constexpr const char* defaultWord = "Default";
+
+Object storeSheet(const OfficeSession& session) {
+    return session.ActiveBook.get("Worksheets").get("Item", store::sheetName).toObject();
 }
 
-/// The block that is written covers the placement cells of row 1; they take part with what they
-/// hold, so that saving the list doesn't forget where the user wants shapes to stand.
-void keepPlacement(const office::Object& sheet, office::Table& rows) {
-    const office::Table held = sheet.get("Range", "O1:R1").get("Value").toTable();
-    for (std::size_t column = store::topColumn; column <= store::leftColumn; ++column) {
-        rows.at(1, column) = held.at(1, column - store::topColumn + 1);
+Value cells(const Object& sheet, std::string_view columns, std::size_t firstRow,
+            std::size_t lastRow) {
+    const auto split = columns.find(':');
+    return sheet.get("Range", fmt::format("{}{}:{}{}", columns.substr(0, split), firstRow,
+                                          columns.substr(split + 1), lastRow));
+}
+
+std::size_t lastUsedRow(const Object& sheet) {
+    const Value used = sheet.get("UsedRange");
+    const std::int32_t last = used.get("Row").toLong() + used.get("Rows").get("Count").toLong() - 1;
+    return static_cast<std::size_t>(std::max(last, 1));
+}
+
+ItemKind kindOf(const std::string& name, const std::string& text) {
+    if (name == chartSheetText) return ItemKind::ChartSheet;
+    return text == kindText(ItemKind::Chart) ? ItemKind::Chart : ItemKind::Range;
+}
+
+ExportItem itemIn(const Table& block, std::size_t row) {
+    const auto text = [&](std::size_t column) { return block.at(row, column).toText(); };
+    ExportItem item;
+    item.name = text(nameColumn);
+    item.sheet = text(sheetColumn);
+    item.slideNumber = text(slideNumberColumn);
+    item.order = text(orderColumn);
+    item.caption = text(captionColumn);
+    item.laterRow = text(laterRowColumn);
+    item.kind = kindOf(item.name, text(kindColumn));
+    item.checked = block.at(row, checkedColumn).toBool();
+    return item;
+}
+
+/// The running order is a number in the store. Excel makes one of the text by the column's format;
+/// other suites take a text for what it is.
+Value numberIn(const std::string& text) {
+    if (const auto number = office::numberOf(text)) return *number;
+    return text;
+}
+
+/// Columns A to H; the caption is written apart.
+void fillRow(Table& block, std::size_t row, const ExportItem& item) {
+    block.at(row, nameColumn) = item.name;
+    block.at(row, sheetColumn) = item.sheet;
+    block.at(row, slideNumberColumn) = item.slideNumber;
+    block.at(row, orderColumn) = numberIn(item.order);
+    block.at(row, checkedColumn) = item.checked;
+    block.at(row, kindColumn) = kindText(item.kind);
+    block.at(row, laterRowColumn) = item.laterRow;
+    block.at(row, keyColumn) = item.key();
+}
+
+/// What the store holds, read as one block.
+struct Stored {
+    std::vector<ExportItem> items;
+    std::unordered_set<std::string> keys;
+    bool hasKeys = false;
+    /// The last row with an entry in columns A to H: an item's, or the marker below the items.
+    std::size_t lastRow = 0;
+};
+
+Stored readStored(const Object& sheet) {
+    const std::size_t bottom = lastUsedRow(sheet);
+    const Table block = cells(sheet, "A:T", 1, bottom).get("Value").toTable();
+    Stored stored;
+    for (std::size_t row = 1; row <= bottom; ++row) {
+        for (std::size_t column = nameColumn; column <= keyColumn; ++column) {
+            if (!block.at(row, column).isBlank()) stored.lastRow = row;
+        }
+        // The marker's row, and whatever else is no item.
+        if (block.at(row, nameColumn).isBlank()) continue;
+        const Value& key = block.at(row, keyColumn);
+        if (stored.items.empty()) stored.hasKeys = !key.isBlank();
+        stored.keys.insert(key.toText());
+        stored.items.push_back(itemIn(block, row));
     }
+    return stored;
+}
+
+void appendRows(const Object& sheet, std::size_t lastRow, const std::vector<ExportItem>& added) {
+    if (added.empty()) return;
+    Table block(added.size(), keyColumn);
+    for (std::size_t i = 0; i < added.size(); ++i) fillRow(block, i + 1, added[i]);
+    cells(sheet, "A:H", lastRow + 1, lastRow + added.size()).put("Value", block);
+}
+
+void writeItems(const Object& sheet, const std::vector<ExportItem>& rows) {
+    const std::size_t markerRow = rows.size() + 1;
+    // As far as the sheet is used: what stood further down goes.
+    Table block(std::max(markerRow, lastUsedRow(sheet)), keyColumn);
+    for (std::size_t i = 0; i < rows.size(); ++i) fillRow(block, i + 1, rows[i]);
+    // The marker lengthens the region of the items by one row: rows that a later run adds begin
+    // below it.
+    block.at(markerRow, laterRowColumn) = static_cast<std::int32_t>(markerRow);
+    cells(sheet, "A:H", 1, block.rows()).put("Value", block);
+}
+
+void writeCaptions(const Object& sheet, const std::vector<ExportItem>& rows) {
+    if (rows.empty()) return;
+    Table block(rows.size(), 1);
+    for (std::size_t i = 0; i < rows.size(); ++i) block.at(i + 1, 1) = rows[i].caption;
+    const Value captions = cells(sheet, "T:T", 1, rows.size());
+    // A store of an earlier version lacks the format.
+    captions.put("NumberFormat", textFormat);
+    captions.put("Value", block);
+}
+
+/// A text counts by the number that it begins with; "Default" has none.
+std::optional<double> shareIn(const Value& cell) {
+    const std::string text = cell.toText();
+    if (text.find_first_of("0123456789") == std::string::npos) return std::nullopt;
+    return office::leadingNumber(text);
+}
+
+Value cellOf(const std::optional<double>& share) {
+    if (share) return *share;
+    return defaultWord;
 }
 
 }  // namespace
@@ -22,7 +163,7 @@ void keepPlacement(const office::Object& sheet, office::Table& rows) {
 bool SheetExists(OfficeSession& session, std::string_view name) {
     return office::orElse(
         [&] {
-            const office::Value sheet = session.ActiveBook.get("Worksheets").get("Item", name);
+            const Value sheet = session.ActiveBook.get("Worksheets").get("Item", name);
             return !sheet.get("Name").isBlank();
         },
         false);
@@ -32,44 +173,69 @@ void EnsureStoreSheet(OfficeSession& session) {
     if (session.ActiveBook.isNothing() || SheetExists(session, store::sheetName)) return;
 
     office::ContinueOnFailure scope;
-    const office::Object& book = session.ActiveBook;
-    office::Object sheet;
+    const Object& book = session.ActiveBook;
+    Object sheet;
     scope.attempt([&] { sheet = book.get("Worksheets").call("Add").toObject(); });
     scope.attempt([&] { sheet.put("Name", store::sheetName); });
     scope.attempt([&] {
         book.get("Names").call("Add", office::arg("Name", store::itemsName),
                                office::arg("RefersToR1C1", "=kukukukuZichron!C1:C8"));
     });
-    // Text keeps a slide number or a name such as "3" as it was typed; the running order and the
-    // check mark are numbers.
-    scope.attempt([&] { sheet.get("Range", store::itemsName).put("NumberFormat", "@"); });
+    // Text keeps a slide number, a name or a caption such as "007" as it was typed; the running
+    // order and the check mark are numbers.
+    scope.attempt([&] { sheet.get("Range", store::itemsName).put("NumberFormat", textFormat); });
     scope.attempt([&] { sheet.get("Columns", "D:E").put("NumberFormat", "0"); });
+    scope.attempt([&] { sheet.get("Columns", "T:T").put("NumberFormat", textFormat); });
     scope.attempt([&] {
         book.get("Names").call("Add", office::arg("Name", store::reservedName),
                                office::arg("RefersToR1C1", "=kukukukuZichron!R23C15:R30C22"));
     });
-    scope.attempt([&] { sheet.put("Visible", store::veryHidden); });
+    scope.attempt([&] { sheet.put("Visible", veryHidden); });
 }
 
-void writeStoreRows(OfficeSession& session, office::ContinueOnFailure& scope, office::Table rows) {
-    office::Object sheet;
-    scope.attempt([&] {
-        sheet = session.ActiveBook.get("Worksheets").get("Item", store::sheetName).toObject();
-    });
-    scope.attempt([&] { sheet.get("Range", store::itemsName).call("ClearContents"); });
-    // The marker lengthens the region of the items by one row: rows that a later run adds begin
-    // below it.
-    scope.attempt([&] {
-        sheet.get("Cells", asIndex(rows.rows() + 1), asIndex(store::laterRowColumn))
-            .put("Value", asIndex(rows.rows() + 1));
-    });
-    scope.attempt([&] { keepPlacement(sheet, rows); });
-    scope.attempt([&] {
-        const office::Value first = sheet.get("Cells", 1, 1);
-        const office::Value last =
-            sheet.get("Cells", asIndex(rows.rows()), asIndex(store::columnCount));
-        sheet.get("Range", first, last).put("Value", rows);
-    });
+StoredItems MergeIntoStore(OfficeSession& session, std::vector<ExportItem> found) {
+    const Object sheet = storeSheet(session);
+    Stored stored = readStored(sheet);
+    if (!stored.items.empty() && !stored.hasKeys) {
+        sheet.get("Cells").call("ClearContents");
+        stored = {};
+    }
+    const bool wereUnknown = stored.items.empty();
+    if (wereUnknown) {
+        stored.lastRow = 0;
+    } else {
+        std::erase_if(found,
+                      [&](const ExportItem& item) { return stored.keys.contains(item.key()); });
+        // All items that one run adds get the same number.
+        const std::string laterRow = std::to_string(stored.lastRow + 1);
+        for (ExportItem& item : found) item.laterRow = laterRow;
+    }
+    appendRows(sheet, stored.lastRow, found);
+    std::move(found.begin(), found.end(), std::back_inserter(stored.items));
+    return {std::move(stored.items), wereUnknown};
+}
+
+void SaveListToStore(OfficeSession& session, const ExportList& list) {
+    if (!list.isLoaded) return;
+    office::ContinueOnFailure scope;
+    Object sheet;
+    scope.attempt([&] { sheet = storeSheet(session); });
+    scope.attempt([&] { writeItems(sheet, list.rows); });
+    scope.attempt([&] { writeCaptions(sheet, list.rows); });
+}
+
+Placement readStoredPlacement(OfficeSession& session) {
+    const Table held = storeSheet(session).get("Range", placementCells).get("Value").toTable();
+    return {shareIn(held.at(1, 1)), shareIn(held.at(1, 2)), shareIn(held.at(1, 4))};
+}
+
+void writeStoredPlacement(OfficeSession& session, const Placement& placement) {
+    const Object cellRange = storeSheet(session).get("Range", placementCells).toObject();
+    Table block = cellRange.get("Value").toTable();
+    block.at(1, 1) = cellOf(placement.top);
+    block.at(1, 2) = cellOf(placement.width);
+    block.at(1, 4) = cellOf(placement.left);
+    cellRange.put("Value", block);
 }
 
 }  // namespace session

@@ -1,14 +1,17 @@
 #pragma once
 
-#include <cstddef>
+#include <optional>
 #include <string_view>
+#include <vector>
 
-#include "office/failure_patterns.h"
+#include "session/export_list.h"
 #include "session/office_session.h"
 
+/// The very hidden sheet in which a workbook carries what the user has decided about its items, and
+/// about where shapes stand on a slide. Where each of it stands on the sheet is known here alone.
+/// The workbook itself is never saved.
 namespace session {
 
-/// The very hidden sheet in which a workbook carries what the user decided about its items.
 namespace store {
 
 inline constexpr const char* sheetName = "kukukukuZichron";
@@ -19,25 +22,6 @@ inline constexpr const char* reservedName = "MurvaneReservedName02";
 /// A third name that is no item; the program only tests against it.
 inline constexpr const char* foreignName = "AllZichron11111";
 
-inline constexpr int veryHidden = 2;
-
-/// Columns of an item's row. The caption stands apart from the rest.
-inline constexpr std::size_t itemNameColumn = 1;
-inline constexpr std::size_t sheetNameColumn = 2;
-inline constexpr std::size_t slideNumberColumn = 3;
-inline constexpr std::size_t orderColumn = 4;
-inline constexpr std::size_t includedColumn = 5;
-inline constexpr std::size_t itemKindColumn = 6;
-inline constexpr std::size_t laterRowColumn = 7;
-inline constexpr std::size_t itemKeyColumn = 8;
-inline constexpr std::size_t captionColumn = 20;
-inline constexpr std::size_t columnCount = 20;
-
-/// Columns of the placement cells, all of row 1.
-inline constexpr std::size_t topColumn = 15;
-inline constexpr std::size_t widthColumn = 16;
-inline constexpr std::size_t leftColumn = 18;
-
 }  // namespace store
 
 /// Whether the active workbook has a worksheet of this name.
@@ -47,9 +31,36 @@ inline constexpr std::size_t leftColumn = 18;
 /// Failures are passed over: a protected workbook stays without.
 void EnsureStoreSheet(OfficeSession& session);
 
-/// Puts the rows, 20 columns each, in the place of the stored ones, with the marker below them.
-/// Only columns A to H of rows further down are cleared, and the placement cells keep what they
-/// hold. Each step that fails is passed over.
-void writeStoreRows(OfficeSession& session, office::ContinueOnFailure& scope, office::Table rows);
+/// All items that the store of a workbook knows.
+struct StoredItems {
+    std::vector<ExportItem> items;
+    /// The store knew none before.
+    bool wereUnknown = false;
+};
+
+/// Adds the found items that the store doesn't know behind those that it does, and returns all of
+/// them in its order. An item that has vanished from the workbook stays. A store without keys is of
+/// an older form and gives way to the found items.
+///
+/// Plain code: a failure goes to the caller.
+[[nodiscard]] StoredItems MergeIntoStore(OfficeSession& session, std::vector<ExportItem> found);
+
+/// Puts the rows of the list in the place of the stored items; their order becomes that of the
+/// store. Nothing happens for a list that was not loaded. What fails is passed over.
+void SaveListToStore(OfficeSession& session, const ExportList& list);
+
+/// Where shapes stand on their slide: shares of the slide's height and width. What is left open is
+/// the program's to choose.
+struct Placement {
+    std::optional<double> top;
+    std::optional<double> width;
+    std::optional<double> left;
+};
+
+/// What the store says; all of it is open where there is no number. `Failure` 9 without a store.
+[[nodiscard]] Placement readStoredPlacement(OfficeSession& session);
+
+/// `Failure` 9 without a store.
+void writeStoredPlacement(OfficeSession& session, const Placement& placement);
 
 }  // namespace session

@@ -20,27 +20,27 @@ TEST(Captions, ReachTheirItemsByNameAndSheet) {
         "Chart 1,South,\"Sales, south\", 3 \n"
         "\"Sales, total\",,All of it,\n"
         "Overview,,The whole,2\n");
-    EXPECT_EQ(list.rows[1].SubItems(4), "Sales, south");
-    EXPECT_EQ(list.rows[1].SubItems(2), "3");
-    EXPECT_EQ(list.rows[2].SubItems(4), "All of it");
-    EXPECT_EQ(list.rows[5].SubItems(4), "The whole");
-    EXPECT_EQ(list.rows[0].SubItems(4), "");
+    EXPECT_EQ(list.rows[1].caption, "Sales, south");
+    EXPECT_EQ(list.rows[1].slideNumber, "3");
+    EXPECT_EQ(list.rows[2].caption, "All of it");
+    EXPECT_EQ(list.rows[4].caption, "The whole");
+    EXPECT_EQ(list.rows[0].caption, "");
 }
 
 TEST(Captions, ColumnsStandInAnyOrderAndMayBeMissing) {
     const auto list = captioned("Caption ,ITEM\nHello,\"Sales, total\"\n");
-    EXPECT_EQ(list.rows[2].SubItems(4), "Hello");
+    EXPECT_EQ(list.rows[2].caption, "Hello");
 }
 
 TEST(Captions, AnEmptyFieldLeavesWhatTheWorkbookHas) {
     catalogue::ExportList list = sampleList();
-    list.rows[2].SubItems(4) = "Kept";
-    list.rows[2].SubItems(2) = "7";
+    list.rows[2].caption = "Kept";
+    list.rows[2].slideNumber = "7";
     unattended::applyCaptions(
         list, unattended::readCaptions("item,sheet,caption,slide\n\"Sales, total\",,,\n", "c.csv"),
         "c.csv");
-    EXPECT_EQ(list.rows[2].SubItems(4), "Kept");
-    EXPECT_EQ(list.rows[2].SubItems(2), "7");
+    EXPECT_EQ(list.rows[2].caption, "Kept");
+    EXPECT_EQ(list.rows[2].slideNumber, "7");
 }
 
 struct WrongFile {

@@ -9,11 +9,11 @@ namespace {
 TEST(ItemListing, ColumnsAreAlignedAsATerminalShowsThemAndHostileTextStaysOnItsLine) {
     catalogue::ExportList list = sampleList();
     list.rows.resize(3);
-    list.rows[0].Text = "Größe";
-    list.rows[0].Checked = true;
-    list.rows[1].SubItems(4) = "two\nlines\x1b[31m";
-    list.rows[2].SubItems(2) = "12";
-    list.rows[2].SubItems(1) = "日本";
+    list.rows[0].name = "Größe";
+    list.rows[0].checked = true;
+    list.rows[1].caption = "two\nlines\x1b[31m";
+    list.rows[2].slideNumber = "12";
+    list.rows[2].sheet = "日本";
     EXPECT_EQ(unattended::listAsTable(list),
               "ITEM          SHEET  KIND   EXPORT  SLIDE  CAPTION\n"
               "Größe         North  chart  yes\n"
@@ -21,7 +21,7 @@ TEST(ItemListing, ColumnsAreAlignedAsATerminalShowsThemAndHostileTextStaysOnItsL
               "Sales, total  日本   range  no      12\n");
 }
 
-TEST(ItemListing, SaysWhichRangesCannotBeExportedAndLeavesGapsOut) {
+TEST(ItemListing, SaysWhichRangesCannotBeExported) {
     const std::string table = unattended::listAsTable(sampleList());
     EXPECT_NE(table.find("Scattered      South     range        several areas"), std::string::npos)
         << table;
@@ -30,10 +30,10 @@ TEST(ItemListing, SaysWhichRangesCannotBeExportedAndLeavesGapsOut) {
 
 TEST(ItemListing, JsonHoldsEveryItemAsItIs) {
     catalogue::ExportList list = sampleList();
-    list.rows[0].Checked = true;
-    list.rows[0].SubItems(2) = "3";
-    list.rows[0].SubItems(4) = "A \"quote\"\nand more";
-    list.rows[2].SubItems(4) = "broken \xFF text";
+    list.rows[0].checked = true;
+    list.rows[0].slideNumber = "3";
+    list.rows[0].caption = "A \"quote\"\nand more";
+    list.rows[2].caption = "broken \xFF text";
     const auto document = nlohmann::json::parse(unattended::listAsJson(list, "/books/b.xlsx"));
     EXPECT_EQ(document["workbook"], "/books/b.xlsx");
     ASSERT_EQ(document["items"].size(), 5U);

@@ -27,14 +27,14 @@ INSTANTIATE_TEST_SUITE_P(
                     Reference{{"Chart 1@South", "Chart 1@South"}, {1}},
                     // A comma in a name: as the whole text, and among others in quotes.
                     Reference{{"Sales, total"}, {2}},
-                    Reference{{"Overview, \"Sales, total\"@North"}, {5, 2}},
-                    Reference{{"sales, TOTAL"}, {2}}, Reference{{"Overview"}, {5}},
-                    Reference{{"{Chart Sheet}"}, {5}}, Reference{{"{Chart Sheet}@Overview"}, {5}},
-                    Reference{{",, Overview ,"}, {5}}));
+                    Reference{{"Overview, \"Sales, total\"@North"}, {4, 2}},
+                    Reference{{"sales, TOTAL"}, {2}}, Reference{{"Overview"}, {4}},
+                    Reference{{"{Chart Sheet}"}, {4}}, Reference{{"{Chart Sheet}@Overview"}, {4}},
+                    Reference{{",, Overview ,"}, {4}}));
 
 TEST(ItemSelection, ANameMayHoldTheSignThatSetsTheSheetOff) {
     catalogue::ExportList list;
-    list.rows.push_back(rowOf("a@b", "S@T", "Range"));
+    list.rows.push_back(rowOf("a@b", "S@T", ItemKind::Range));
     for (const char* text : {"a@b", "a@b@S@T"}) {
         EXPECT_EQ(unattended::findItems(list, {text}), Indices{0}) << text;
     }
@@ -42,8 +42,8 @@ TEST(ItemSelection, ANameMayHoldTheSignThatSetsTheSheetOff) {
 
 TEST(ItemSelection, TheExactNameGoesBeforeOneOfOtherCase) {
     catalogue::ExportList list;
-    list.rows.push_back(rowOf("TOTAL", "S", "Range"));
-    list.rows.push_back(rowOf("Total", "T", "Range"));
+    list.rows.push_back(rowOf("TOTAL", "S", ItemKind::Range));
+    list.rows.push_back(rowOf("Total", "T", ItemKind::Range));
     EXPECT_EQ(unattended::findItems(list, {"Total"}), Indices{1});
     EXPECT_THROW(unattended::findItems(list, {"total"}), unattended::UsageError);
 }
@@ -75,30 +75,30 @@ TEST(ItemSelection, AnUnknownItemIsToldWithNamesThatAreNear) {
 
 std::string checksOf(const catalogue::ExportList& list) {
     std::string marks;
-    for (const auto& row : list.rows) marks += row.Checked ? 'x' : '-';
+    for (const auto& row : list.rows) marks += row.checked ? 'x' : '-';
     return marks;
 }
 
 TEST(ItemSelection, AllMeansWhatCanBeExported) {
     auto list = sampleList();
     unattended::checkAll(list);
-    EXPECT_EQ(checksOf(list), "xxx--x");
+    EXPECT_EQ(checksOf(list), "xxx-x");
 }
 
 TEST(ItemSelection, OnlyMeansNoOthers) {
     auto list = sampleList();
     unattended::checkAll(list);
-    unattended::checkOnly(list, {4, 0});
-    EXPECT_EQ(checksOf(list), "x---x-");
+    unattended::checkOnly(list, {3, 0});
+    EXPECT_EQ(checksOf(list), "x--x-");
 }
 
 TEST(ItemSelection, WhatIsOrderedComesFirstAndTheRestFollowsInItsOrder) {
     auto list = sampleList();
-    unattended::moveToTop(list, {5, 1});
+    unattended::moveToTop(list, {4, 1});
     Texts names;
-    for (const auto& row : list.rows) names.push_back(row.Text + "@" + row.SubItems(1));
+    for (const auto& row : list.rows) names.push_back(row.name + "@" + row.sheet);
     EXPECT_EQ(names, (Texts{"{Chart Sheet}@Overview", "Chart 1@South", "Chart 1@North",
-                            "Sales, total@North", "@", "Scattered@South"}));
+                            "Sales, total@North", "Scattered@South"}));
 }
 
 }  // namespace

@@ -5,24 +5,26 @@
 
 #include "catalogue/export_list.h"
 
-inline catalogue::ExportRow rowOf(std::string name, std::string sheet, std::string kind) {
-    catalogue::ExportRow row;
-    row.Text = std::move(name);
-    row.SubItems(1) = std::move(sheet);
-    row.SubItems(5) = std::move(kind);
+using catalogue::ItemKind;
+
+inline catalogue::ExportItem rowOf(std::string name, std::string sheet, ItemKind kind) {
+    catalogue::ExportItem row;
+    row.name = std::move(name);
+    row.sheet = std::move(sheet);
+    row.kind = kind;
+    row.checked = false;
     return row;
 }
 
-/// Two charts of the same name, a range whose name holds a comma, one of several areas, a chart
-/// sheet, and the gap that saving the list leaves.
+/// Two charts of the same name, a range whose name holds a comma, one of several areas, and a chart
+/// sheet.
 inline catalogue::ExportList sampleList() {
     catalogue::ExportList list;
-    list.rows.push_back(rowOf("Chart 1", "North", "Embedded"));
-    list.rows.push_back(rowOf("Chart 1", "South", "Embedded"));
-    list.rows.push_back(rowOf("Sales, total", "North", "Range"));
-    list.rows.push_back(rowOf("", "", ""));
-    list.rows.push_back(rowOf("Scattered", "South", "Range"));
-    list.rows.back().ForeColor = catalogue::RowColourRefused;
-    list.rows.push_back(rowOf("{Chart Sheet}", "Overview", "Chart"));
+    list.rows.push_back(rowOf("Chart 1", "North", ItemKind::Chart));
+    list.rows.push_back(rowOf("Chart 1", "South", ItemKind::Chart));
+    list.rows.push_back(rowOf("Sales, total", "North", ItemKind::Range));
+    list.rows.push_back(rowOf("Scattered", "South", ItemKind::Range));
+    list.rows.back().hasSeveralAreas = true;
+    list.rows.push_back(rowOf("{Chart Sheet}", "Overview", ItemKind::ChartSheet));
     return list;
 }

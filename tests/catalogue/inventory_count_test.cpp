@@ -15,7 +15,6 @@ protected:
     int count() {
         test.attach();
         catalogue::CountWorkbookItems(test.session);
-        EXPECT_EQ(test.session.ItemCount, test.session.ItemCountCopy);
         return test.session.ItemCount;
     }
 };

@@ -3,14 +3,14 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/inventory_walk.h"
 #include "loaded_list.h"
 #include "session/workbook_store.h"
 
 namespace {
 
 using catalogue::CheckAllState;
-using catalogue::ExportRow;
+using catalogue::ExportItem;
+using catalogue::ItemKind;
 using catalogue_tests::LoadedList;
 using session_doubles::TestSession;
 using Words = std::vector<std::string>;
@@ -44,15 +44,12 @@ TEST_F(Inventory, ListsAFreshWorkbookInTheOrderOfItsSheets) {
                                      "Chart 1@Costs", "Total@Costs"}));
     EXPECT_EQ(loaded.check1, CheckAllState::All);
     EXPECT_EQ(loaded.list.selected, 0);
-    const ExportRow& total = loaded.list.rows.back();
-    EXPECT_EQ(total.SubItems(3), "5");
-    EXPECT_EQ(total.SubItems(5), "Range");
-    EXPECT_EQ(total.SubItems(6), "");
-    EXPECT_EQ(total.SubItems(7), "TotalCosts");
-    EXPECT_EQ(total.SmallIcon, 4);
-    EXPECT_EQ(loaded.list.rows.at(0).SmallIcon, 3);
-    EXPECT_EQ(loaded.list.rows.at(2).SmallIcon, 1);
-    EXPECT_EQ(loaded.list.rows.at(2).SubItems(5), "Chart");
+    const ExportItem& total = loaded.list.rows.back();
+    EXPECT_EQ(total.order, "5");
+    EXPECT_EQ(total.kind, ItemKind::Range);
+    EXPECT_EQ(total.laterRow, "");
+    EXPECT_EQ(loaded.list.rows.at(0).kind, ItemKind::Chart);
+    EXPECT_EQ(loaded.list.rows.at(2).kind, ItemKind::ChartSheet);
 }
 
 TEST_F(Inventory, LeavesOutWhatIsHiddenForeignOrNoRange) {
@@ -76,18 +73,17 @@ TEST_F(Inventory, ListsASheetLevelNameByThePartBehindTheMark) {
     book.define("Local", "='My Sales'!$C$3");
     const LoadedList loaded = load();
     EXPECT_EQ(loaded.names(), (Words{"Local@My Sales", "Local@My Sales"}));
-    EXPECT_EQ(loaded.list.rows.at(0).SubItems(7), loaded.list.rows.at(1).SubItems(7));
 }
 
 TEST_F(Inventory, UnchecksAndReddensARangeOfSeveralAreas) {
     book.sheet("Sales").define("Parts", "A1:A5,C1:C5").define("Whole", "A1:C5");
     const LoadedList loaded = load();
-    const ExportRow& parts = loaded.list.rows.at(0);
-    EXPECT_FALSE(parts.Checked);
-    EXPECT_EQ(parts.ForeColor, catalogue::RowColourRefused);
-    EXPECT_EQ(parts.SubItems(3), "");
-    EXPECT_TRUE(loaded.list.rows.at(1).Checked);
-    EXPECT_EQ(loaded.list.rows.at(1).SubItems(3), "1");
+    const ExportItem& parts = loaded.list.rows.at(0);
+    EXPECT_FALSE(parts.checked);
+    EXPECT_TRUE(parts.hasSeveralAreas);
+    EXPECT_EQ(parts.order, "");
+    EXPECT_TRUE(loaded.list.rows.at(1).checked);
+    EXPECT_EQ(loaded.list.rows.at(1).order, "1");
     // The count of checked rows isn't reduced again.
     EXPECT_EQ(loaded.check1, CheckAllState::All);
 }
@@ -95,7 +91,7 @@ TEST_F(Inventory, UnchecksAndReddensARangeOfSeveralAreas) {
 TEST_F(Inventory, JudgesANameByTheOneThatItsSheetFinds) {
     book.sheet("Sales").define("Same", "A1:B2");
     book.define("Same", "=Sales!$A$1,Sales!$C$3");
-    for (const ExportRow& row : load().list.rows) EXPECT_TRUE(row.Checked) << row.Text;
+    for (const ExportItem& row : load().list.rows) EXPECT_TRUE(row.checked) << row.name;
 }
 
 TEST_F(Inventory, IsEmptyForAWorkbookWhoseOnlyChartsAreHidden) {
@@ -112,24 +108,15 @@ TEST_F(Inventory, LeavesAChartSheetForTheFirstVisibleWorksheetBehindTheFirstShee
     book.sheet("Hidden").hide();
     book.sheet("Sales").chart("Chart 1");
     book.sheet("Costs");
-    const LoadedList loaded = loadFrom("Overview");
-    EXPECT_EQ(loaded.values.StartSheetName, "Overview");
+    loadFrom("Overview");
     EXPECT_EQ(book.activeTab()->name(), "Sales");
 }
 
 TEST_F(Inventory, StaysOnAnActiveWorksheet) {
     book.sheet("Sales");
     book.sheet("Costs").chart("Chart 1");
-    EXPECT_EQ(loadFrom("Sales").values.StartSheetName, "");
+    loadFrom("Sales");
     EXPECT_EQ(book.activeTab()->name(), "Sales");
-}
-
-TEST_F(Inventory, MakesTheStoreBehindTheLastSheet) {
-    book.sheet("Sales").chart("Chart 1");
-    book.sheet("Costs");
-    load();
-    EXPECT_EQ(book.tabs().back()->name(), session::store::sheetName);
-    EXPECT_EQ(book.tabs().back()->visibility(), 2);
 }
 
 TEST_F(Inventory, MovesTheLoadingBarByTheQuickCount) {
@@ -141,12 +128,11 @@ TEST_F(Inventory, MovesTheLoadingBarByTheQuickCount) {
 }
 
 TEST_F(Inventory, ClearsTheBarWhereItsPercentageMeetsTheCount) {
-    book.sheet("Sales").chart("1").chart("2").chart("3").chart("4").chart("5");
-    catalogue::InventoryValues values;
-    values.ExpectedItems = 50;
-    values.LoadProgress = 24;
-    for (int i = 0; i < 2; ++i) catalogue::AdvanceLoadBar(test.session, values);
-    EXPECT_EQ(test.progress.calls, (Words{"loading 50", "clear loading"}));
+    auto& sheet = book.sheet("Sales");
+    for (int i = 0; i < 10; ++i) sheet.chart("Chart " + std::to_string(i));
+    load();
+    EXPECT_EQ(Words(test.progress.calls.begin(), test.progress.calls.begin() + 4),
+              (Words{"show loading", "loading 10", "clear loading", "loading 30"}));
 }
 
 class ExcelSettings : public Inventory {

@@ -24,19 +24,19 @@ struct LargeWorkbook {
         test.attach();
         session::EnsureStoreSheet(test.session);
         catalogue::ExportList stored;
+        stored.isLoaded = true;
         for (int i = 0; i < storedRows; ++i) {
-            stored.rows.push_back(
-                catalogue_tests::row("Chart " + std::to_string(i), "Sales", "Embedded"));
+            stored.rows.push_back(catalogue_tests::row("Chart " + std::to_string(i), "Sales",
+                                                       catalogue_tests::ItemKind::Chart));
         }
-        if (storedRows > 0) catalogue::SaveListToStore(test.session, stored);
+        if (storedRows > 0) session::SaveListToStore(test.session, stored);
         test.suite.log().clear();
     }
 
     std::size_t callsToLoad() {
         const std::size_t before = test.suite.log().count();
-        catalogue::InventoryValues values;
         catalogue::ExportList list;
-        catalogue::LoadItemsToForm(test.session, values, list);
+        catalogue::LoadItemsToForm(test.session, list);
         return test.suite.log().count() - before;
     }
 };

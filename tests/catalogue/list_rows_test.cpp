@@ -8,52 +8,44 @@
 
 namespace {
 
+using catalogue::ExportItem;
 using catalogue::ExportList;
+using catalogue_tests::ItemKind;
 using catalogue_tests::row;
 using session_doubles::TestSession;
 
 TEST(ListRows, AreNumberedInTheOrderOfTheCheckedOnes) {
     ExportList list;
-    list.rows = {row("A", "S", "Embedded"), row("B", "S", "Embedded", false),
-                 row("C", "S", "Embedded")};
-    for (auto& each : list.rows) each.SubItems(3) = "7";
+    list.rows = {row("A", "S", ItemKind::Chart), row("B", "S", ItemKind::Chart, false),
+                 row("C", "S", ItemKind::Chart)};
+    for (auto& each : list.rows) each.order = "7";
     catalogue::RenumberIncludedRows(list);
-    EXPECT_EQ(list.rows.at(0).SubItems(3), "1");
-    EXPECT_EQ(list.rows.at(1).SubItems(3), "");
-    EXPECT_EQ(list.rows.at(2).SubItems(3), "2");
+    EXPECT_EQ(list.rows.at(0).order, "1");
+    EXPECT_EQ(list.rows.at(1).order, "");
+    EXPECT_EQ(list.rows.at(2).order, "2");
 }
 
-TEST(ListRows, AreColouredByCheckAndSlideNumber) {
+TEST(ListRows, AreMutedByCheckAndSlideNumber) {
     struct Case {
         bool checked;
         std::string slideNumber;
-        catalogue::RowColour inNewSlides;
-        catalogue::RowColour inPredefined;
+        bool isMutedInNewSlides;
+        bool isMutedInPredefined;
     };
-    using namespace catalogue;  // NOLINT(google-build-using-namespace): the colours
     const std::vector<Case> cases = {
-        {true, "3", RowColourChecked, RowColourChecked},
-        {true, " ", RowColourChecked, RowColourMuted},
-        {false, "3", RowColourMuted, RowColourMuted},
+        {true, "3", false, false},
+        {true, " ", false, true},
+        {false, "3", true, true},
     };
     for (const Case& it : cases) {
         ExportList list;
-        list.rows = {row("A", "S", "Embedded", it.checked)};
-        list.rows.front().SubItems(2) = it.slideNumber;
-        ColorListRows(list, false);
-        EXPECT_EQ(list.rows.front().ForeColor, it.inNewSlides);
-        ColorListRows(list, true);
-        EXPECT_EQ(list.rows.front().ForeColor, it.inPredefined);
+        list.rows = {row("A", "S", ItemKind::Chart, it.checked)};
+        list.rows.front().slideNumber = it.slideNumber;
+        catalogue::ColorListRows(list, false);
+        EXPECT_EQ(list.rows.front().isMuted, it.isMutedInNewSlides);
+        catalogue::ColorListRows(list, true);
+        EXPECT_EQ(list.rows.front().isMuted, it.isMutedInPredefined);
     }
-}
-
-TEST(ListRows, StayRedOnceTheyAreRefused) {
-    ExportList list;
-    list.rows = {row("A", "S", "Range", false)};
-    list.rows.front().ForeColor = catalogue::RowColourRefused;
-    catalogue::ColorListRows(list, true);
-    EXPECT_EQ(list.rows.front().ForeColor, catalogue::RowColourRefused);
-    EXPECT_EQ(catalogue::CountCheckedRows(list), 0);
 }
 
 class RowsOnSheets : public testing::Test {
@@ -69,14 +61,14 @@ protected:
         book.chartSheet("Overview");
         test.attach();
         list.rows = {
-            row("A", " Shown ", "Embedded"),
-            row("B", "Hidden", "Embedded"),
-            row("C", "Deep", "Range"),
-            row("D", "Gone", "Range"),
-            row("E", "", "Range"),
-            row("F", "Shown", "Range", false),
-            row("{Chart Sheet}", "Overview", "Chart"),
-            row("{Chart Sheet}", "Shown", "Chart"),
+            row("A", " Shown ", ItemKind::Chart),
+            row("B", "Hidden", ItemKind::Chart),
+            row("C", "Deep", ItemKind::Range),
+            row("D", "Gone", ItemKind::Range),
+            row("E", "", ItemKind::Range),
+            row("F", "Shown", ItemKind::Range, false),
+            row("{Chart Sheet}", "Overview", ItemKind::ChartSheet),
+            row("{Chart Sheet}", "Shown", ItemKind::ChartSheet),
         };
     }
 };
@@ -84,27 +76,97 @@ protected:
 TEST_F(RowsOnSheets, CountWhereTheirObjectCanBeSeen) {
     EXPECT_EQ(catalogue::CountCheckedRows(list), 7);
     EXPECT_EQ(catalogue::CountExportableRows(test.session, list), 2);
-    std::string visible;
-    for (const auto& each : list.rows) {
-        if (catalogue::RowOnVisibleSheet(test.session, each)) visible += each.Text + " ";
-    }
-    EXPECT_EQ(visible, "A {Chart Sheet} ");
 }
 
 TEST_F(RowsOnSheets, AskForEachSheetOnce) {
-    for (int i = 0; i < 500; ++i) list.rows.push_back(row("A", "Shown", "Embedded"));
+    for (int i = 0; i < 500; ++i) list.rows.push_back(row("A", "Shown", ItemKind::Chart));
     test.suite.log().clear();
     EXPECT_EQ(catalogue::CountExportableRows(test.session, list), 502);
     EXPECT_LE(test.suite.log().count(), 25U);
 }
 
-TEST(ListText, JoinsColumnsByTabs) {
+using Field = std::string ExportItem::*;
+
+ExportList listOf(const std::vector<std::string>& texts, Field field) {
     ExportList list;
-    list.rows = {row("A", "S", "Range")};
-    list.rows.front().SubItems(4) = "Caption";
-    EXPECT_EQ(catalogue::listAsTabText(list),
-              "Name/Type\tExcel sheet\tSlide Nb\tOrder\tCaption\tTypeObject\tOrder\tName&Sheet\r\n"
-              "A\tS\t\t\tCaption\tRange\t\tAS\r\n\r\n");
+    for (const std::string& text : texts) {
+        ExportItem row;
+        row.sheet = std::to_string(list.rows.size());
+        row.*field = text;
+        list.rows.push_back(row);
+    }
+    return list;
+}
+
+std::vector<std::string> textsOf(const ExportList& list, Field field) {
+    std::vector<std::string> texts;
+    for (const ExportItem& row : list.rows) texts.push_back(row.*field);
+    return texts;
+}
+
+struct SortCase {
+    std::string what;
+    std::size_t column;
+    Field field;
+    std::vector<std::string> before;
+    std::vector<std::string> after;
+};
+
+class AClickOnAColumn : public testing::TestWithParam<SortCase> {};
+
+TEST_P(AClickOnAColumn, sortsAscendingByTheColumnsOwnType) {
+    const SortCase& given = GetParam();
+    ExportList list = listOf(given.before, given.field);
+    catalogue::SortByColumn(list, given.column);
+    EXPECT_EQ(textsOf(list, given.field), given.after) << given.what;
+    catalogue::SortByColumn(list, given.column);
+    EXPECT_EQ(textsOf(list, given.field), given.after) << "a second click changes nothing";
+}
+
+INSTANTIATE_TEST_SUITE_P(Columns, AClickOnAColumn,
+                         testing::Values(SortCase{"names, case aside",
+                                                  1,
+                                                  &ExportItem::name,
+                                                  {"beta", "Alpha", "alpha 2", "Beta"},
+                                                  {"Alpha", "alpha 2", "beta", "Beta"}},
+                                         SortCase{"slide numbers as text",
+                                                  3,
+                                                  &ExportItem::slideNumber,
+                                                  {"9", "10", "2", ""},
+                                                  {"", "10", "2", "9"}},
+                                         SortCase{"order by value, unchecked rows first",
+                                                  4,
+                                                  &ExportItem::order,
+                                                  {"10", "", "9", "1"},
+                                                  {"", "1", "9", "10"}},
+                                         SortCase{"negative numbers ahead of zero",
+                                                  7,
+                                                  &ExportItem::laterRow,
+                                                  {"0", "-5", "3", "-20", "x"},
+                                                  {"x", "-20", "-5", "0", "3"}}));
+
+TEST(TheList, keepsTheOrderOfEqualRowsAndTheSelectedRowWhenItIsSorted) {
+    ExportList list = listOf({"2", "1", "2", "1"}, &ExportItem::order);
+    list.selected = 2;
+    catalogue::SortByColumn(list, 4);
+    EXPECT_EQ(textsOf(list, &ExportItem::sheet), (std::vector<std::string>{"1", "3", "0", "2"}));
+    EXPECT_EQ(list.selected, 3);
+}
+
+TEST(TheList, movesTheWholeSelectedRowAndStopsAtItsEnds) {
+    ExportList list = listOf({"a", "b", "c"}, &ExportItem::name);
+    list.rows[1].hasSeveralAreas = true;
+    list.selected = 1;
+    catalogue::MoveSelectedUp(list);
+    catalogue::MoveSelectedUp(list);
+    EXPECT_EQ(textsOf(list, &ExportItem::name), (std::vector<std::string>{"b", "a", "c"}));
+    EXPECT_TRUE(list.rows[0].hasSeveralAreas);
+    EXPECT_EQ(list.selected, 0);
+    for (int i = 0; i < 4; ++i) catalogue::MoveSelectedDown(list);
+    EXPECT_EQ(textsOf(list, &ExportItem::name), (std::vector<std::string>{"a", "c", "b"}));
+    list.selected = -1;
+    catalogue::MoveSelectedDown(list);
+    EXPECT_EQ(textsOf(list, &ExportItem::name), (std::vector<std::string>{"a", "c", "b"}));
 }
 
 }  // namespace

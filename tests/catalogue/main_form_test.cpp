@@ -37,8 +37,8 @@ protected:
         test.attach();
         hooks.StartPowerPointExport = [this] { ++started; };
         hooks.CheckSlideNumbersAndShowDialog = [this] { ++started; };
-        hooks.InsertOneItem = [this](const catalogue::ExportRow& row) {
-            inserted.push_back(row.Text);
+        hooks.InsertOneItem = [this](const catalogue::ExportItem& row) {
+            inserted.push_back(row.name);
             return true;
         };
     }
@@ -46,7 +46,7 @@ protected:
     void show(UserformObj& form) { desktop.show(form, forms::ShowMode::Modeless); }
     [[nodiscard]] static std::vector<std::string> orders(UserformObj& form) {
         std::vector<std::string> all;
-        for (const auto& row : form.list().rows) all.push_back(row.Text + " " + row.SubItems(3));
+        for (const auto& row : form.list().rows) all.push_back(row.name + " " + row.order);
         return all;
     }
 };
@@ -106,10 +106,10 @@ TEST_F(TheMainForm, opensAndClosesThePanelOfSlideNumbersByTheClock) {
     desktop.advance(1s);
     EXPECT_EQ(form.SlideNb.place.width, 3135);
     EXPECT_EQ(form.listCharts.columns[2].width, 720);
-    EXPECT_EQ(form.list().rows[0].ForeColor, catalogue::RowColourMuted) << "no slide number yet";
+    EXPECT_TRUE(form.list().rows[0].isMuted) << "no slide number yet";
     forms_double::choose(form, "OptionNewSlides");
     EXPECT_EQ(form.listCharts.columns[2].width, 1);
-    EXPECT_EQ(form.list().rows[0].ForeColor, catalogue::RowColourChecked);
+    EXPECT_FALSE(form.list().rows[0].isMuted);
     desktop.advance(1s);
     EXPECT_EQ(form.SlideNb.place.width, 0);
     for (const auto* timer : form.timers())
@@ -137,7 +137,7 @@ TEST_F(TheMainForm, refusesARangeOfSeveralAreas) {
     UserformObj form(desktop, test.session, hooks);
     show(form);
     form.listCharts.check(2, true);
-    EXPECT_FALSE(form.list().rows[2].Checked);
+    EXPECT_FALSE(form.list().rows[2].checked);
     form.listCharts.click(2);
     ASSERT_EQ(desktop.messages.size(), 2U);
     EXPECT_EQ(desktop.messages[0].text, "You can't check a multiple range");
@@ -151,10 +151,10 @@ TEST_F(TheMainForm, writesCaptionAndSlideNumberThroughToTheSelectedRow) {
     form.listCharts.click(1);
     form.SlideTitle.setText("Sales\tin May");
     form.TextBox10.setText("12a");
-    EXPECT_EQ(form.list().rows[1].SubItems(4), "Sales\tin May");
-    EXPECT_EQ(form.list().rows[1].SubItems(2), "12");
+    EXPECT_EQ(form.list().rows[1].caption, "Sales\tin May");
+    EXPECT_EQ(form.list().rows[1].slideNumber, "12");
     form.TextBox10.setText(" 7");
-    EXPECT_EQ(form.list().rows[1].SubItems(2), "7");
+    EXPECT_EQ(form.list().rows[1].slideNumber, "7");
     form.listCharts.click(0);
     EXPECT_EQ(form.SlideTitle.text(), "");
     form.listCharts.click(1);
@@ -173,7 +173,7 @@ TEST_F(TheMainForm, previewsTheRowThatIsClicked) {
     EXPECT_GT(form.imgChart.version(), before);
     EXPECT_FALSE(form.imgChart.picture().isEmpty());
     EXPECT_EQ(form.imgChart.place.width, 336);
-    form.list().rows[1].Text = "Gone";
+    form.list().rows[1].name = "Gone";
     form.listCharts.click(1);
     EXPECT_TRUE(form.imgChart.picture().isEmpty()) << "an object that has gone leaves it empty";
 }
@@ -191,7 +191,7 @@ TEST_F(TheMainForm, putsOneItemOnTheSlideThatIsShown) {
 
 TEST_F(TheMainForm, takesNoInputWhileAnItemIsPutOnItsSlide) {
     bool tookInput = true;
-    hooks.InsertOneItem = [&](const catalogue::ExportRow&) {
+    hooks.InsertOneItem = [&](const catalogue::ExportItem&) {
         tookInput = desktop.findLoaded("UserformObj")->takesInput;
         return false;
     };
@@ -204,7 +204,7 @@ TEST_F(TheMainForm, takesNoInputWhileAnItemIsPutOnItsSlide) {
 }
 
 TEST_F(TheMainForm, saysWhyOneItemCouldNotBePutOnASlideAndStays) {
-    hooks.InsertOneItem = [](const catalogue::ExportRow&) -> bool {
+    hooks.InsertOneItem = [](const catalogue::ExportItem&) -> bool {
         throw office::Failure(office::FailureNumber::ApplicationDefined, "Chart.Export", "No room");
     };
     UserformObj form(desktop, test.session, hooks);
@@ -248,9 +248,9 @@ TEST_F(TheMainForm, keepsItsListInTheWorkbookWhenItCloses) {
     test.attach();
     UserformObj again(desktop, test.session, hooks);
     show(again);
-    EXPECT_EQ(again.list().rows[0].Text, "Chart 2");
-    EXPECT_EQ(again.list().rows[0].SubItems(4), "Kept");
-    EXPECT_FALSE(again.list().rows[1].Checked);
+    EXPECT_EQ(again.list().rows[0].name, "Chart 2");
+    EXPECT_EQ(again.list().rows[0].caption, "Kept");
+    EXPECT_FALSE(again.list().rows[1].checked);
 }
 
 TEST_F(TheMainForm, leavesTheStoredListAloneIfItsOwnNeverCameUp) {
@@ -272,7 +272,7 @@ TEST_F(TheMainForm, leavesTheStoredListAloneIfItsOwnNeverCameUp) {
     UserformObj again(desktop, test.session, hooks);
     show(again);
     ASSERT_EQ(again.list().rows.size(), 4U);
-    EXPECT_EQ(again.list().rows[0].SubItems(4), "Kept");
+    EXPECT_EQ(again.list().rows[0].caption, "Kept");
 }
 
 TEST_F(TheMainForm, staysWithItsWorkbookWhicheverTheUserLooksAt) {
@@ -291,7 +291,7 @@ TEST_F(TheMainForm, staysWithItsWorkbookWhicheverTheUserLooksAt) {
     test.attach();
     UserformObj again(desktop, test.session, hooks);
     show(again);
-    EXPECT_EQ(again.list().rows[0].SubItems(4), "Kept");
+    EXPECT_EQ(again.list().rows[0].caption, "Kept");
 }
 
 }  // namespace

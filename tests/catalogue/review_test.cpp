@@ -11,6 +11,7 @@ namespace {
 
 using catalogue::ExportChoices;
 using catalogue::ReviewResult;
+using catalogue_tests::ItemKind;
 using catalogue_tests::row;
 using session_doubles::TestSession;
 using Words = std::vector<std::string>;
@@ -30,7 +31,7 @@ protected:
         book.sheet("Sales").chart("Chart 1").define("Parts", "A1:A5,C1:C5").define("Whole", "A1");
         book.sheet("Hidden").chart("Chart 2").hide();
         test.attach();
-        list.rows = {row("Chart 1", "Sales", "Embedded")};
+        list.rows = {row("Chart 1", "Sales", ItemKind::Chart)};
         choices.destination = slides;
     }
 
@@ -39,7 +40,7 @@ protected:
     }
     void predefine(const std::string& slideNumber) {
         choices.predefinedSlides = true;
-        list.rows.front().SubItems(2) = slideNumber;
+        list.rows.front().slideNumber = slideNumber;
     }
     [[nodiscard]] Words blockers() {
         const std::string markup = catalogue::reviewExport(test.session, list, choices).Blockers;
@@ -67,12 +68,12 @@ TEST_F(Review, LetsAReadyExportGoWithoutAWord) {
 }
 
 TEST_F(Review, CollectsTheBlockersOfItemsAndDestination) {
-    list.rows.front().Checked = false;
+    list.rows.front().checked = false;
     EXPECT_EQ(blockers(), (Words{nothingChecked, noPowerPoint}));
 }
 
 TEST_F(Review, BlocksWhereAllCheckedItemsAreHidden) {
-    list.rows = {row("Chart 2", "Hidden", "Embedded")};
+    list.rows = {row("Chart 2", "Hidden", ItemKind::Chart)};
     choices.destination = html;
     EXPECT_EQ(blockers(),
               Words{"All checked items are on hidden worksheets and cannot be exported. Show those "
@@ -80,8 +81,8 @@ TEST_F(Review, BlocksWhereAllCheckedItemsAreHidden) {
 }
 
 TEST_F(Review, BlocksARangeOfSeveralAreasForEveryDestination) {
-    list.rows = {row("Whole", "Sales", "Range"), row("Parts", "Sales", "Range"),
-                 row("Gone", "Sales", "Range")};
+    list.rows = {row("Whole", "Sales", ItemKind::Range), row("Parts", "Sales", ItemKind::Range),
+                 row("Gone", "Sales", ItemKind::Range)};
     openDeck(1);
     for (const int destination : {slides, html, 3, 4}) {
         choices.destination = destination;
@@ -91,7 +92,7 @@ TEST_F(Review, BlocksARangeOfSeveralAreasForEveryDestination) {
 }
 
 TEST_F(Review, ShowsTheBlockersTogetherWithWhatToReview) {
-    list.rows.push_back(row("Chart 2", "Hidden", "Embedded"));
+    list.rows.push_back(row("Chart 2", "Hidden", ItemKind::Chart));
     EXPECT_EQ(catalogue::PreExportReview(test.session, list, choices), ReviewResult::Blocked);
     ASSERT_EQ(test.notices.shown.size(), 1U);
     EXPECT_EQ(test.notices.shown.front().title, "Export blocked");
@@ -101,7 +102,7 @@ TEST_F(Review, ShowsTheBlockersTogetherWithWhatToReview) {
 }
 
 TEST_F(Review, AsksWhetherToGoOnWithoutTheHiddenItems) {
-    list.rows.push_back(row("Chart 2", "Hidden", "Embedded"));
+    list.rows.push_back(row("Chart 2", "Hidden", ItemKind::Chart));
     openDeck(1);
     test.notices.answers = {session::answer::ok, session::answer::cancel};
     EXPECT_EQ(catalogue::PreExportReview(test.session, list, choices), ReviewResult::Go);
@@ -157,7 +158,7 @@ TEST_F(Review, ChecksTheSlideNumbersWhereSlidesArePredefined) {
 TEST_F(Review, DoesNotReportSlideNumbersOfHiddenRows) {
     openDeck(3);
     predefine("2");
-    list.rows.push_back(row("Chart 2", "Hidden", "Embedded"));
+    list.rows.push_back(row("Chart 2", "Hidden", ItemKind::Chart));
     EXPECT_EQ(blockers(), Words{});
     list.rows.erase(list.rows.begin());
     EXPECT_EQ(blockers().size(), 1U) << "all hidden is one blocker, not two";
@@ -178,7 +179,7 @@ TEST_F(Review, WantsWordToRun) {
 
 TEST_F(Review, EscapesNamesInItsPage) {
     openDeck(1);
-    list.rows.front().Text = "<b>";
+    list.rows.front().name = "<b>";
     predefine("0");
     catalogue::PreExportReview(test.session, list, choices);
     EXPECT_NE(test.notices.shown.front().page.find(

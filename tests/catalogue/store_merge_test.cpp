@@ -28,7 +28,7 @@ protected:
     void run(const Change& change) {
         LoadedList loaded(test);
         change(loaded.list);
-        catalogue::SaveListToStore(test.session, loaded.list);
+        session::SaveListToStore(test.session, loaded.list);
     }
     void run() {
         run([](catalogue::ExportList&) {});
@@ -45,7 +45,6 @@ protected:
 TEST_F(StoreMerge, WritesAllItemsIntoAnEmptyStore) {
     book.define("Total", "=Sales!$A$1");
     const LoadedList loaded(test);
-    EXPECT_TRUE(loaded.values.StoreIsNew);
     // The store was added ahead of the active sheet, which is now the second one.
     EXPECT_EQ(text("A3"), "Total");
     EXPECT_EQ(text("B3"), "Sales");
@@ -60,17 +59,16 @@ TEST_F(StoreMerge, WritesAllItemsIntoAnEmptyStore) {
 TEST_F(StoreMerge, KeepsOrderChecksNumbersAndCaptionsFromRunToRun) {
     run([](catalogue::ExportList& list) {
         std::swap(list.rows.at(0), list.rows.at(1));
-        list.rows.at(0).SubItems(2) = "007";
-        list.rows.at(0).SubItems(4) = "A \"title\" with = and Ü";
-        list.rows.at(1).Checked = false;
+        list.rows.at(0).slideNumber = "007";
+        list.rows.at(0).caption = "A \"title\" with = and Ü";
+        list.rows.at(1).checked = false;
     });
     const LoadedList loaded(test);
-    EXPECT_FALSE(loaded.values.StoreIsNew);
     EXPECT_EQ(loaded.names(), (Words{"Chart 2@Sales", "Chart 1@Sales"}));
-    EXPECT_EQ(loaded.list.rows.at(0).SubItems(2), "007");
-    EXPECT_EQ(loaded.list.rows.at(0).SubItems(4), "A \"title\" with = and Ü");
-    EXPECT_TRUE(loaded.list.rows.at(0).Checked);
-    EXPECT_FALSE(loaded.list.rows.at(1).Checked);
+    EXPECT_EQ(loaded.list.rows.at(0).slideNumber, "007");
+    EXPECT_EQ(loaded.list.rows.at(0).caption, "A \"title\" with = and Ü");
+    EXPECT_TRUE(loaded.list.rows.at(0).checked);
+    EXPECT_FALSE(loaded.list.rows.at(1).checked);
     EXPECT_EQ(loaded.check1, catalogue::CheckAllState::Some);
 }
 
@@ -79,14 +77,13 @@ TEST_F(StoreMerge, AppendsNewItemsBelowTheMarkerRow) {
     book.sheet("Sales").chart("Chart 3");
     book.define("Total", "=Sales!$A$1");
     const LoadedList loaded(test);
-    // The marker's row is the gap in between.
     EXPECT_EQ(loaded.names(),
-              (Words{"Chart 1@Sales", "Chart 2@Sales", "@", "Chart 3@Sales", "Total@Sales"}));
-    EXPECT_FALSE(loaded.list.rows.at(2).Checked);
-    EXPECT_TRUE(loaded.list.rows.at(3).Checked);
-    EXPECT_EQ(loaded.list.rows.at(3).SubItems(6), "4");
-    EXPECT_EQ(loaded.list.rows.at(4).SubItems(6), "4");
+              (Words{"Chart 1@Sales", "Chart 2@Sales", "Chart 3@Sales", "Total@Sales"}));
+    EXPECT_TRUE(loaded.list.rows.at(2).checked);
+    EXPECT_EQ(loaded.list.rows.at(2).laterRow, "4");
+    EXPECT_EQ(loaded.list.rows.at(3).laterRow, "4");
     EXPECT_EQ(text("G3"), "3");
+    EXPECT_EQ(text("A4"), "Chart 3");
 }
 
 TEST_F(StoreMerge, AppendsNothingTwice) {
@@ -94,7 +91,7 @@ TEST_F(StoreMerge, AppendsNothingTwice) {
     book.sheet("Sales").chart("Chart 3");
     run();
     run();
-    EXPECT_EQ(LoadedList(test).list.rows.size(), 4U);
+    EXPECT_EQ(LoadedList(test).list.rows.size(), 3U);
 }
 
 TEST_F(StoreMerge, KeepsTheRowsOfWhatHasVanished) {
@@ -104,20 +101,20 @@ TEST_F(StoreMerge, KeepsTheRowsOfWhatHasVanished) {
     test.session.ActiveBook.get("Names").get("Item", "Total").call("Delete");
     const LoadedList loaded(test);
     EXPECT_EQ(loaded.names(), (Words{"Chart 1@Sales", "Chart 2@Sales", "Total@Sales"}));
-    EXPECT_EQ(loaded.list.rows.at(2).ForeColor, catalogue::RowColourChecked);
+    EXPECT_FALSE(loaded.list.rows.at(2).hasSeveralAreas);
 }
 
 TEST_F(StoreMerge, TakesARenamedSheetsItemsForNewOnes) {
     run();
     test.sheet("Sales").put("Name", "Turnover");
-    EXPECT_EQ(LoadedList(test).names(), (Words{"Chart 1@Sales", "Chart 2@Sales", "@",
-                                               "Chart 1@Turnover", "Chart 2@Turnover"}));
+    EXPECT_EQ(LoadedList(test).names(),
+              (Words{"Chart 1@Sales", "Chart 2@Sales", "Chart 1@Turnover", "Chart 2@Turnover"}));
 }
 
 TEST_F(StoreMerge, DistinguishesKeysByCase) {
     run();
     book.sheet("Sales").chart("CHART 1");
-    EXPECT_EQ(LoadedList(test).list.rows.size(), 4U);
+    EXPECT_EQ(LoadedList(test).list.rows.size(), 3U);
 }
 
 TEST_F(StoreMerge, ThrowsAwayAStoreWithoutKeys) {
@@ -126,11 +123,8 @@ TEST_F(StoreMerge, ThrowsAwayAStoreWithoutKeys) {
     sheet.get("Range", "T1").put("Value", "Its caption");
     const LoadedList loaded(test);
     EXPECT_EQ(loaded.names(), (Words{"Chart 1@Sales", "Chart 2@Sales"}));
-    EXPECT_EQ(loaded.list.rows.at(0).SubItems(4), "");
-    EXPECT_TRUE(loaded.values.StoreIsNew);
+    EXPECT_EQ(loaded.list.rows.at(0).caption, "");
     EXPECT_EQ(sheet.get("Visible").toLong(), 2);
-    // The walk compared with the emptied store, and its marks are written along.
-    EXPECT_EQ(loaded.list.rows.at(0).SubItems(6), "New");
 }
 
 }  // namespace

@@ -49,7 +49,7 @@ TEST_F(BatchCallsTest, ARowThatIsNotTakenCostsTwoCalls) {
     const std::size_t before = callsFor(10);
     for (int i = 0; i < 100; ++i) {
         list.rows.push_back(stage::chartRow("Chart 1", "Sheet 10"));
-        list.rows.back().Checked = false;
+        list.rows.back().checked = false;
     }
     exportRows();
     EXPECT_EQ(suite.log().count() - before, 200U);

@@ -48,7 +48,7 @@ TEST_F(BatchTest, NewSlidesFollowTheOldOnesInTheOrderOfTheRows) {
 TEST_F(BatchTest, UncheckedRowsTakeNoSlide) {
     add(chartRow("Chart 1", "Sales"));
     add(chartRow("Chart 2", "Sales"));
-    list.rows[0].Checked = false;
+    list.rows[0].checked = false;
     exportRows();
     EXPECT_EQ(deck.slides().size(), 3U);
     EXPECT_EQ(picturesOn(3), Texts{"Chart 2"});
@@ -99,7 +99,7 @@ TEST_F(BatchTest, ASkippedRowKeepsTheSelectionAndOthersDropIt) {
     add(chartRow("Chart 1", "Sales", "2"));
     add(chartRow("Chart 2", "Sales", ""));
     add(chartRow("Chart 3", "Sales", "1"));
-    list.rows[2].Checked = false;
+    list.rows[2].checked = false;
     exportRows();
     EXPECT_EQ(suite.log().count("Selection.Unselect"), 2U);
 }
@@ -270,7 +270,7 @@ TEST_F(NoSlideTest, ARouteThatKeepsDialogsSaysSoForItsItems) {
     bool kept = false;
     route.keepsDialogs = true;
     route.finishesProgress = true;
-    route.insertItem = [&](powerpoint::Batch& b, const catalogue::ExportRow&, std::int16_t) {
+    route.insertItem = [&](powerpoint::Batch& b, const catalogue::ExportItem&, std::int16_t) {
         kept = b.session.ExportKeepsDialogs;
     };
     powerpoint::RunBatch(batch, route);

@@ -17,32 +17,36 @@
 
 namespace stage {
 
-inline catalogue::ExportRow row(std::string name, std::string sheet, std::string kind,
-                                std::string slide = "", std::string caption = "") {
-    catalogue::ExportRow made;
-    made.Text = std::move(name);
-    made.Checked = true;
-    made.SubItems(1) = std::move(sheet);
-    made.SubItems(2) = std::move(slide);
-    made.SubItems(4) = std::move(caption);
-    made.SubItems(5) = std::move(kind);
+using catalogue::ItemKind;
+
+inline catalogue::ExportItem row(std::string name, std::string sheet, ItemKind kind,
+                                 std::string slide = "", std::string caption = "") {
+    catalogue::ExportItem made;
+    made.name = std::move(name);
+    made.checked = true;
+    made.sheet = std::move(sheet);
+    made.slideNumber = std::move(slide);
+    made.caption = std::move(caption);
+    made.kind = kind;
     return made;
 }
 
-inline catalogue::ExportRow chartRow(std::string name, std::string sheet, std::string slide = "",
-                                     std::string caption = "") {
-    return row(std::move(name), std::move(sheet), "Embedded", std::move(slide), std::move(caption));
-}
-
-inline catalogue::ExportRow rangeRow(std::string name, std::string sheet, std::string slide = "",
-                                     std::string caption = "") {
-    return row(std::move(name), std::move(sheet), "Range", std::move(slide), std::move(caption));
-}
-
-inline catalogue::ExportRow chartSheetRow(std::string sheet, std::string slide = "",
-                                          std::string caption = "") {
-    return row(std::string(catalogue::chartSheetText), std::move(sheet), "Chart", std::move(slide),
+inline catalogue::ExportItem chartRow(std::string name, std::string sheet, std::string slide = "",
+                                      std::string caption = "") {
+    return row(std::move(name), std::move(sheet), ItemKind::Chart, std::move(slide),
                std::move(caption));
+}
+
+inline catalogue::ExportItem rangeRow(std::string name, std::string sheet, std::string slide = "",
+                                      std::string caption = "") {
+    return row(std::move(name), std::move(sheet), ItemKind::Range, std::move(slide),
+               std::move(caption));
+}
+
+inline catalogue::ExportItem chartSheetRow(std::string sheet, std::string slide = "",
+                                           std::string caption = "") {
+    return row(std::string(session::chartSheetText), std::move(sheet), ItemKind::ChartSheet,
+               std::move(slide), std::move(caption));
 }
 
 /// A folder of the test's own for real files.
@@ -99,7 +103,7 @@ protected:
         session.SessionPresentation = deck.handle();
     }
 
-    void add(catalogue::ExportRow taken) { list.rows.push_back(std::move(taken)); }
+    void add(catalogue::ExportItem taken) { list.rows.push_back(std::move(taken)); }
 
     /// The store with its three placement cells; an empty value leaves a cell empty.
     void storePlacement(const office::Value& top, const office::Value& width,

@@ -8,7 +8,7 @@ class StartExportTest : public stage::ExportStage {};
 TEST_F(StartExportTest, CountsTheCheckedRowsAndKeepsExcelFromAsking) {
     add(stage::chartRow("A", "S"));
     add(stage::chartRow("B", "S"));
-    list.rows[0].Checked = false;
+    list.rows[0].checked = false;
     session.CheckedCount = 9;
     powerpoint::StartPowerPointExport(session, list);
     EXPECT_EQ(session.CheckedCount, 1);
@@ -21,7 +21,7 @@ TEST_F(StartExportTest, CountsTheCheckedRowsThatHaveASlideNumber) {
     add(stage::chartRow("B", "S", ""));
     add(stage::chartRow("C", "S", "3"));
     add(stage::chartRow("D", "S", "2"));
-    list.rows[3].Checked = false;
+    list.rows[3].checked = false;
     powerpoint::CountRowsWithSlideNumber(session, list);
     EXPECT_EQ(session.CheckedCount, 2);
 }

@@ -86,7 +86,7 @@ TEST_F(ToolForms, ShowWhatTheStoreHolds) {
         {Value(), Value(), Value(), defaultTop, defaultWidth, defaultLeft},
         {0.25, 0.5, 0.0, {false, 75, true}, {false, 50, true}, {false, 0, true}},
         {"Default", 1, 0.4, defaultTop, {false, 100, true}, {false, 40, true}},
-        {"here", "Default", "there", {false, 75, true}, defaultWidth, {false, 10, true}},
+        {"here", "Default", "there", defaultTop, defaultWidth, defaultLeft},
     };
     for (const Case& it : cases) {
         store(it.top, it.width, it.left);

@@ -27,12 +27,17 @@ protected:
     void put(const char* address, const office::Value& value) const {
         test.sheet(store::sheetName).get("Range", address).put("Value", value);
     }
-    void write(const std::vector<std::string>& names) {
-        office::Table rows(names.size(), store::columnCount);
-        for (std::size_t i = 0; i < names.size(); ++i) rows.at(i + 1, 1) = names[i];
-        office::ContinueOnFailure scope;
-        session::writeStoreRows(test.session, scope, rows);
-        EXPECT_FALSE(scope.failed());
+    static session::ExportItem item(const std::string& name) {
+        session::ExportItem made;
+        made.name = name;
+        made.sheet = "Sales";
+        return made;
+    }
+    void save(const std::vector<std::string>& names) {
+        session::ExportList list;
+        list.isLoaded = true;
+        for (const std::string& name : names) list.rows.push_back(item(name));
+        session::SaveListToStore(test.session, list);
     }
 };
 
@@ -43,6 +48,7 @@ TEST_F(WorkbookStore, IsAVeryHiddenSheetWithItsNamesAndFormats) {
     EXPECT_EQ(sheet.get("Range", "C7").get("NumberFormat").toText(), "@");
     EXPECT_EQ(sheet.get("Range", "D7").get("NumberFormat").toText(), "0");
     EXPECT_EQ(sheet.get("Range", "H7").get("NumberFormat").toText(), "@");
+    EXPECT_EQ(sheet.get("Range", "T7").get("NumberFormat").toText(), "@");
 
     const office::Value names = test.session.ActiveBook.get("Names");
     EXPECT_EQ(names.get("Item", store::itemsName).get("RefersToRange").get("Address").toText(),
@@ -74,10 +80,10 @@ TEST_F(WorkbookStore, IsNotAskedForWithoutAWorkbook) {
 
 TEST_F(WorkbookStore, ReplacesTheRowsAndMarksTheirEnd) {
     session::EnsureStoreSheet(test.session);
-    write({"Chart 1", "Chart 2", "Chart 3"});
+    save({"Chart 1", "Chart 2", "Chart 3"});
     put("T3", "an orphan's title");
-    write({"Chart 2", "007"});
-    write({"Chart 2", "007"});
+    save({"Chart 2", "007"});
+    save({"Chart 2", "007"});
     EXPECT_EQ(cell("A2"), "007");
     EXPECT_EQ(cell("A3"), "");
     EXPECT_EQ(cell("G3"), "3");
@@ -90,7 +96,7 @@ TEST_F(WorkbookStore, KeepsThePlacementWhenTheListIsSaved) {
     put("O1", 0.25);
     put("P1", "Default");
     put("R1", 0.5);
-    write({"Chart 1"});
+    save({"Chart 1"});
     EXPECT_EQ(cell("O1"), "0.25");
     EXPECT_EQ(cell("P1"), "Default");
     EXPECT_EQ(cell("Q1"), "");
@@ -99,11 +105,63 @@ TEST_F(WorkbookStore, KeepsThePlacementWhenTheListIsSaved) {
 
 TEST_F(WorkbookStore, IsOnlyClearedForAnEmptyList) {
     session::EnsureStoreSheet(test.session);
-    write({"Chart 1"});
-    office::ContinueOnFailure scope;
-    session::writeStoreRows(test.session, scope, office::Table(0, store::columnCount));
+    save({"Chart 1"});
+    save({});
     EXPECT_EQ(cell("A1"), "");
     EXPECT_EQ(cell("G1"), "1");
+}
+
+TEST_F(WorkbookStore, KeepsTextsAsTextAndTheOrderAsANumber) {
+    session::EnsureStoreSheet(test.session);
+    // As in a store that an earlier version has made.
+    test.sheet(store::sheetName).get("Range", "T1").put("NumberFormat", "General");
+    session::ExportList list;
+    list.isLoaded = true;
+    list.rows = {item("Chart 1")};
+    session::ExportItem& chart = list.rows.front();
+    chart.kind = session::ItemKind::Chart;
+    chart.slideNumber = "3";
+    chart.order = "12";
+    chart.caption = "007";
+    chart.laterRow = "9";
+    session::SaveListToStore(test.session, list);
+    const std::pair<const char*, office::Value> cells[] = {
+        {"A1", "Chart 1"}, {"B1", "Sales"},        {"C1", "3"},
+        {"D1", 12.0},      {"E1", true},           {"F1", "Embedded"},
+        {"G1", "9"},       {"H1", "Chart 1Sales"}, {"T1", "007"}};
+    for (const auto& [address, value] : cells) {
+        const office::Value held = test.sheet(store::sheetName).get("Range", address).get("Value");
+        EXPECT_EQ(held.isText(), value.isText()) << address;
+        EXPECT_EQ(held.toText(), value.toText()) << address;
+    }
+}
+
+TEST_F(WorkbookStore, IsLeftAloneByAListThatNeverCameUp) {
+    session::EnsureStoreSheet(test.session);
+    save({"Chart 1"});
+    session::SaveListToStore(test.session, {});
+    EXPECT_EQ(cell("A1"), "Chart 1");
+}
+
+TEST_F(WorkbookStore, IsWrittenInAFewCallsAndSaysNothingWhereTheWorkbookHasGone) {
+    session::EnsureStoreSheet(test.session);
+    test.suite.log().clear();
+    save(std::vector<std::string>(200, "Chart"));
+    EXPECT_LE(test.suite.log().count(), 20U);
+    EXPECT_EQ(cell("A200"), "Chart");
+    test.suite.failures().failAlways("Worksheets");
+    save({"Chart 1"});
+    EXPECT_TRUE(test.notices.shown.empty());
+}
+
+TEST_F(WorkbookStore, HoldsThePlacementAsSharesOrLeavesItOpen) {
+    session::EnsureStoreSheet(test.session);
+    session::writeStoredPlacement(test.session, {0.25, std::nullopt, 0.5});
+    EXPECT_EQ(cell("O1") + " " + cell("P1") + " " + cell("R1"), "0.25 Default 0.5");
+    put("R1", "");
+    const session::Placement read = session::readStoredPlacement(test.session);
+    EXPECT_EQ(read.top, 0.25);
+    EXPECT_FALSE(read.width || read.left);
 }
 
 }  // namespace

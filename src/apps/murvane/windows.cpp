@@ -48,7 +48,7 @@ catalogue::MainFormHooks Windows::mainFormHooks() {
         powerpoint::CountRowsWithSlideNumber(session_, mainForm_->list());
         showPowerPointDialog();
     };
-    hooks.InsertOneItem = [this](const catalogue::ExportRow& row) { return insertOneItem(row); };
+    hooks.InsertOneItem = [this](const catalogue::ExportItem& row) { return insertOneItem(row); };
     return hooks;
 }
 
@@ -67,8 +67,8 @@ panels::PowerPointDialogLinks Windows::dialogLinks() {
     };
     links.rows = [this] {
         std::vector<panels::PowerPointDialogLinks::Row> rows;
-        for (const catalogue::ExportRow& row : mainForm_->list().rows) {
-            rows.push_back({row.Checked, row.SubItems(2)});
+        for (const catalogue::ExportItem& row : mainForm_->list().rows) {
+            rows.push_back({row.checked, row.slideNumber});
         }
         return rows;
     };
@@ -87,20 +87,20 @@ panels::PowerPointDialogLinks Windows::dialogLinks() {
     return links;
 }
 
-bool Windows::insertOneItem(const catalogue::ExportRow& row) {
+bool Windows::insertOneItem(const catalogue::ExportItem& row) {
     if (session_.ExportFormatIndex != 0) {
         session::ShowNotice(session_.notices, "This output format is not part of this version yet.",
                             "Murvane", "info", session::buttons::okOnly);
         return false;
     }
-    const std::string& sheet = row.SubItems(1);
+    const std::string& sheet = row.sheet;
     const std::int16_t slide = session_.CurrentSlideIndex;
     if (row.isChartSheet()) {
-        powerpoint::InsertChartSheetPicture(session_, sheet, slide, row.SubItems(4));
+        powerpoint::InsertChartSheetPicture(session_, sheet, slide, row.caption);
     } else if (row.isEmbeddedChart()) {
-        powerpoint::InsertEmbeddedChartPicture(session_, sheet, row.Text, slide, row.SubItems(4));
+        powerpoint::InsertEmbeddedChartPicture(session_, sheet, row.name, slide, row.caption);
     } else {
-        powerpoint::InsertRangePicture(session_, row.Text, slide, row.SubItems(4));
+        powerpoint::InsertRangePicture(session_, row.name, slide, row.caption);
     }
     return true;
 }

@@ -45,7 +45,7 @@ public:
 private:
     void showMainForm();
     void showPowerPointDialog();
-    bool insertOneItem(const catalogue::ExportRow& row);
+    bool insertOneItem(const catalogue::ExportItem& row);
     [[nodiscard]] catalogue::MainFormHooks mainFormHooks();
     [[nodiscard]] panels::PowerPointDialogLinks dialogLinks();
 

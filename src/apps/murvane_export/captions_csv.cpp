@@ -83,9 +83,9 @@ void applyCaptions(catalogue::ExportList& list, const std::vector<CaptionLine>& 
                    std::string_view fileName) {
     for (const CaptionLine& line : lines) {
         try {
-            catalogue::ExportRow& row = list.rows[findItem(list, line.item, line.sheet)];
-            if (!line.caption.empty()) row.SubItems(4) = line.caption;
-            if (!line.slide.empty()) row.SubItems(2) = office::trim(line.slide);
+            catalogue::ExportItem& row = list.rows[findItem(list, line.item, line.sheet)];
+            if (!line.caption.empty()) row.caption = line.caption;
+            if (!line.slide.empty()) row.slideNumber = office::trim(line.slide);
         } catch (const UsageError& error) {
             complain(fileName, line.line, error.what());
         }

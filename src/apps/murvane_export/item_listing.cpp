@@ -6,7 +6,6 @@
 #include <array>
 #include <vector>
 
-#include "apps/murvane_export/item_selection.h"
 #include "apps/utf8.h"
 
 namespace unattended {
@@ -15,28 +14,24 @@ namespace {
 
 using apps::columnCount;
 using apps::printable;
-using catalogue::ExportRow;
+using catalogue::ExportItem;
 
 constexpr std::size_t columns = 6;
 using Line = std::array<std::string, columns>;
 
-bool hasSeveralAreas(const ExportRow& row) {
-    return row.ForeColor == catalogue::RowColourRefused;
-}
-
-std::string_view kindOf(const ExportRow& row) {
+std::string_view kindOf(const ExportItem& row) {
     if (row.isChartSheet()) return "chart sheet";
     return row.isEmbeddedChart() ? "chart" : "range";
 }
 
-std::string_view exportMark(const ExportRow& row) {
-    if (hasSeveralAreas(row)) return "several areas";
-    return row.Checked ? "yes" : "no";
+std::string_view exportMark(const ExportItem& row) {
+    if (row.hasSeveralAreas) return "several areas";
+    return row.checked ? "yes" : "no";
 }
 
-Line lineOf(const ExportRow& row) {
-    return {printable(row.Text),          printable(row.SubItems(1)), std::string(kindOf(row)),
-            std::string(exportMark(row)), printable(row.SubItems(2)), printable(row.SubItems(4))};
+Line lineOf(const ExportItem& row) {
+    return {printable(row.name),          printable(row.sheet),       std::string(kindOf(row)),
+            std::string(exportMark(row)), printable(row.slideNumber), printable(row.caption)};
 }
 
 void appendLine(std::string& table, const Line& line,
@@ -54,9 +49,7 @@ void appendLine(std::string& table, const Line& line,
 
 std::string listAsTable(const catalogue::ExportList& list) {
     std::vector<Line> lines = {{"ITEM", "SHEET", "KIND", "EXPORT", "SLIDE", "CAPTION"}};
-    for (const ExportRow& row : list.rows) {
-        if (!isGap(row)) lines.push_back(lineOf(row));
-    }
+    for (const ExportItem& row : list.rows) lines.push_back(lineOf(row));
     std::array<std::size_t, columns> widths{};
     for (const Line& line : lines) {
         for (std::size_t i = 0; i < columns; ++i) {
@@ -71,15 +64,14 @@ std::string listAsTable(const catalogue::ExportList& list) {
 std::string listAsJson(const catalogue::ExportList& list, std::string_view workbook) {
     using nlohmann::ordered_json;
     ordered_json items = ordered_json::array();
-    for (const ExportRow& row : list.rows) {
-        if (isGap(row)) continue;
-        items.push_back({{"name", row.Text},
-                         {"sheet", row.SubItems(1)},
-                         {"kind", row.SubItems(5)},
-                         {"checked", row.Checked},
-                         {"severalAreas", hasSeveralAreas(row)},
-                         {"slide", row.SubItems(2)},
-                         {"caption", row.SubItems(4)}});
+    for (const ExportItem& row : list.rows) {
+        items.push_back({{"name", row.name},
+                         {"sheet", row.sheet},
+                         {"kind", session::kindText(row.kind)},
+                         {"checked", row.checked},
+                         {"severalAreas", row.hasSeveralAreas},
+                         {"slide", row.slideNumber},
+                         {"caption", row.caption}});
     }
     const ordered_json document = {{"workbook", workbook}, {"items", items}};
     // A text that isn't UTF-8 is shown with replacement characters rather than not at all.

@@ -15,22 +15,21 @@ namespace unattended {
 
 namespace {
 
+using catalogue::ExportItem;
 using catalogue::ExportList;
-using catalogue::ExportRow;
 using SameText = std::function<bool(std::string_view, std::string_view)>;
 
-std::string fullName(const ExportRow& row) {
-    return row.isChartSheet() ? row.SubItems(1) : row.Text + "@" + row.SubItems(1);
+std::string fullName(const ExportItem& row) {
+    return row.isChartSheet() ? row.sheet : row.name + "@" + row.sheet;
 }
 
 std::vector<std::size_t> matches(const ExportList& list, std::string_view name,
                                  std::string_view sheet, const SameText& same) {
     std::vector<std::size_t> found;
     for (std::size_t i = 0; i < list.rows.size(); ++i) {
-        const ExportRow& row = list.rows[i];
-        if (isGap(row)) continue;
-        const bool isNamed = same(itemName(row), name) || same(row.Text, name);
-        if (isNamed && (sheet.empty() || same(row.SubItems(1), sheet))) found.push_back(i);
+        const ExportItem& row = list.rows[i];
+        const bool isNamed = same(itemName(row), name) || same(row.name, name);
+        if (isNamed && (sheet.empty() || same(row.sheet, sheet))) found.push_back(i);
     }
     return found;
 }
@@ -45,9 +44,7 @@ std::string quoted(const std::vector<std::string>& names) {
 
 [[noreturn]] void complainUnknown(const ExportList& list, const std::string& reference) {
     std::vector<std::string> known;
-    for (const ExportRow& row : list.rows) {
-        if (!isGap(row)) known.push_back(fullName(row));
-    }
+    for (const ExportItem& row : list.rows) known.push_back(fullName(row));
     const std::vector<std::string> near = nearNames(reference, known);
     throw UsageError(fmt::format("The workbook has no item \"{}\". {}", reference,
                                  near.empty()
@@ -84,7 +81,7 @@ std::optional<std::size_t> tryFindNameAtSheet(const ExportList& list, std::strin
 
 /// The rows that one reference means; none if it means nothing.
 std::vector<std::size_t> tryFindReference(const ExportList& list, std::string_view reference) {
-    if (reference == catalogue::chartSheetText) {
+    if (reference == session::chartSheetText) {
         return matches(list, reference, {}, std::equal_to<>());
     }
     if (const auto found = tryFindNameAtSheet(list, reference)) return {*found};
@@ -108,12 +105,8 @@ std::vector<std::string> splitAtCommas(std::string_view text) {
 
 }  // namespace
 
-const std::string& itemName(const ExportRow& row) {
-    return row.isChartSheet() ? row.SubItems(1) : row.Text;
-}
-
-bool isGap(const ExportRow& row) {
-    return row.Text.empty();
+const std::string& itemName(const ExportItem& row) {
+    return row.isChartSheet() ? row.sheet : row.name;
 }
 
 std::size_t findItem(const ExportList& list, std::string_view name, std::string_view sheet) {
@@ -142,18 +135,16 @@ std::vector<std::size_t> findItems(const ExportList& list, const std::vector<std
 }
 
 void checkOnly(ExportList& list, const std::vector<std::size_t>& indices) {
-    for (ExportRow& row : list.rows) row.Checked = false;
-    for (const std::size_t index : indices) list.rows.at(index).Checked = true;
+    for (ExportItem& row : list.rows) row.checked = false;
+    for (const std::size_t index : indices) list.rows.at(index).checked = true;
 }
 
 void checkAll(ExportList& list) {
-    for (ExportRow& row : list.rows) {
-        row.Checked = !isGap(row) && row.ForeColor != catalogue::RowColourRefused;
-    }
+    for (ExportItem& row : list.rows) row.checked = !row.hasSeveralAreas;
 }
 
 void moveToTop(ExportList& list, const std::vector<std::size_t>& indices) {
-    std::vector<ExportRow> ordered;
+    std::vector<ExportItem> ordered;
     ordered.reserve(list.rows.size());
     for (const std::size_t index : indices) ordered.push_back(list.rows.at(index));
     for (std::size_t i = 0; i < list.rows.size(); ++i) {

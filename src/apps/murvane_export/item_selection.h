@@ -13,10 +13,7 @@
 namespace unattended {
 
 /// The name that a user knows the row's object by: the object's, or the chart sheet's.
-[[nodiscard]] const std::string& itemName(const catalogue::ExportRow& row);
-
-/// A gap that saving the list has left in the store; no item.
-[[nodiscard]] bool isGap(const catalogue::ExportRow& row);
+[[nodiscard]] const std::string& itemName(const catalogue::ExportItem& row);
 
 /// The index of the row with this name, on this sheet unless `sheet` is empty. `UsageError` with
 /// near names if there is none, with the candidates if there are several.

@@ -28,7 +28,7 @@ namespace unattended {
 
 namespace {
 
-using catalogue::ExportRow;
+using catalogue::ExportItem;
 using session::OfficeSession;
 
 /// The command that opens the main form.
@@ -118,7 +118,6 @@ private:
     OfficeSession session_;
     OpenedDocuments documents_;
     std::string bookName_;
-    catalogue::InventoryValues inventory_;
     catalogue::ExportList list_;
     catalogue::ExportChoices choices_;
 };
@@ -161,7 +160,7 @@ void Run::openDocuments() {
 }
 
 int Run::workOnItems() {
-    catalogue::LoadItemsToForm(session_, inventory_, list_);
+    catalogue::LoadItemsToForm(session_, list_);
     stopIfInterrupted();
     arrangeItems();
     switch (options_.task) {
@@ -224,9 +223,9 @@ void Run::runBatch() {
         line_.clear();
         letUserSee();
         if (list_.selected < 0 || surroundings_.isInterrupted()) throw;
-        const ExportRow& row = list_.rows[static_cast<std::size_t>(list_.selected)];
+        const ExportItem& row = list_.rows[static_cast<std::size_t>(list_.selected)];
         throw RunError(fmt::format("\"{}\" on sheet \"{}\" could not be exported: {} ({}).",
-                                   itemName(row), row.SubItems(1), failure.description(),
+                                   itemName(row), row.sheet, failure.description(),
                                    failure.source()));
     }
     letUserSee();

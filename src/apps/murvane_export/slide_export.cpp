@@ -7,27 +7,15 @@
 
 namespace unattended {
 
-namespace {
-
-office::Value cellValueOf(const PlacementValue& placement) {
-    if (placement.share) return *placement.share;
-    return "Default";
-}
-
-}  // namespace
-
 void storePlacement(session::OfficeSession& session, const Options& options) {
-    namespace store = session::store;
-    const office::Object sheet =
-        session.ActiveBook.get("Worksheets").get("Item", store::sheetName).toObject();
-    const auto write = [&](std::size_t column, const std::optional<PlacementValue>& placement) {
-        if (!placement) return;
-        sheet.get("Cells", 1, static_cast<std::int32_t>(column))
-            .put("Value", cellValueOf(*placement));
+    session::Placement placement = session::readStoredPlacement(session);
+    const auto take = [](const std::optional<PlacementValue>& wanted, std::optional<double>& held) {
+        if (wanted) held = wanted->share;
     };
-    write(store::topColumn, options.top);
-    write(store::widthColumn, options.width);
-    write(store::leftColumn, options.left);
+    take(options.top, placement.top);
+    take(options.width, placement.width);
+    take(options.left, placement.left);
+    session::writeStoredPlacement(session, placement);
 }
 
 void exportToSlides(session::OfficeSession& session, catalogue::ExportList& list,

@@ -1,1 +1,0 @@
-#include "catalogue/export_list.h"

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace session {
+
+/// What an item is in its workbook.
+enum class ItemKind { Chart, ChartSheet, Range };
+
+/// The name of every chart sheet's item; the chart sheet's own name is the item's `sheet`.
+inline constexpr std::string_view chartSheetText = "{Chart Sheet}";
+
+/// One exportable object of a workbook with what the user has decided about it. The inventory finds
+/// it, the store keeps it, the list shows it, and the exports read it.
+struct ExportItem {
+    std::string name;  ///< of the object, or `chartSheetText`
+    std::string sheet;
+    std::string slideNumber;  ///< as typed; empty: none
+    /// The rank among the checked items, empty for others. Until the list is numbered for the first
+    /// time, the position of the item's sheet.
+    std::string order;
+    std::string caption;
+    /// The number of the store's row below which the item was added; empty for the items that the
+    /// store began with.
+    std::string laterRow;
+    ItemKind kind = ItemKind::Range;
+    bool checked = true;
+    /// A range of several areas: it can't be exported and may not be checked.
+    bool hasSeveralAreas = false;
+    /// Shown in grey: the item lacks something, or isn't checked.
+    bool isMuted = false;
+
+    /// What makes it the same item from run to run.
+    [[nodiscard]] std::string key() const { return name + sheet; }
+    [[nodiscard]] bool isChartSheet() const { return kind == ItemKind::ChartSheet; }
+    [[nodiscard]] bool isEmbeddedChart() const { return kind == ItemKind::Chart; }
+};
+
+/// "Embedded", "Chart" or "Range", as the store spells the kinds.
+[[nodiscard]] std::string_view kindText(ItemKind kind);
+
+/// The items in display order, which is the order of export and of the store.
+struct ExportList {
+    std::vector<ExportItem> rows;
+    /// Index into `rows` of the selected row, or -1.
+    std::ptrdiff_t selected = -1;
+    /// The rows are those of a workbook, all of them. Any other list is never stored.
+    bool isLoaded = false;
+};
+
+}  // namespace session
