@@ -4,7 +4,7 @@
 
 #include "apps/murvane_export/errors.h"
 #include "apps/murvane_export/output_file.h"
-#include "scratch_folder.h"
+#include "support/temporary_folder.h"
 
 namespace {
 
@@ -20,7 +20,7 @@ protected:
         std::ofstream(output.neighbour(), std::ios::binary) << text;
     }
 
-    ScratchFolder folder;
+    support::TemporaryFolder folder;
 };
 
 TEST_F(OutputFileTest, ComesIntoBeingAtTheCommit) {

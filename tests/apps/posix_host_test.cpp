@@ -8,8 +8,8 @@
 
 #include "apps/posix_host.h"
 #include "office/failure.h"
-#include "scratch_folder.h"
 #include "scripted_console.h"
+#include "support/temporary_folder.h"
 
 namespace {
 
@@ -20,7 +20,7 @@ protected:
         ::setenv("XDG_RUNTIME_DIR", folder.path().c_str(), 1);
     }
 
-    ScratchFolder folder;
+    support::TemporaryFolder folder;
     ScriptedConsole console;
     std::unique_ptr<apps::PosixHost> host = std::make_unique<apps::PosixHost>(console);
 };
@@ -43,7 +43,7 @@ TEST_F(PosixHostTest, NoFolderIsMadeWithoutAFile) {
 }
 
 TEST_F(PosixHostTest, AFolderThatTheUserNamesIsUsedAndStays) {
-    ScratchFolder own;
+    support::TemporaryFolder own;
     ::setenv("TEMP", own.path().c_str(), 1);
     EXPECT_EQ(host->temporaryFile("a.png"), own.file("a.png"));
     host.reset();

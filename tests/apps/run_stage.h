@@ -9,9 +9,9 @@
 
 #include "apps/murvane_export/run.h"
 #include "office_double/suite.h"
-#include "scratch_folder.h"
 #include "scripted_console.h"
 #include "session_doubles/scripted_host.h"
+#include "support/temporary_folder.h"
 
 /// murvane-export on a suite in memory: a workbook and a deck on disk, of which the suite knows
 /// what is inside.
@@ -80,8 +80,8 @@ protected:
         return folder.names() == std::set<std::string>{"Book.xlsx", "Deck.pptx"};
     }
 
-    ScratchFolder folder;
-    ScratchFolder temporary;
+    support::TemporaryFolder folder;
+    support::TemporaryFolder temporary;
     std::shared_ptr<office_double::DoubleSuite> suite =
         std::make_shared<office_double::DoubleSuite>();
     std::string bookFile;

@@ -1,26 +1,19 @@
 // The contract of every adapter, held against a live LibreOffice. The suite is started once; each
 // test opens the documents anew from copies of its own.
 
-#include <unistd.h>
-
 #include <filesystem>
 #include <memory>
 #include <string>
 
 #include "contract/contract_environment.h"
 #include "office/libreoffice/libreoffice_suite.h"
+#include "support/temporary_folder.h"
 
 namespace contract {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path makeFolder() {
-    std::string pattern = (fs::temp_directory_path() / "murvane-contract-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw fs::filesystem_error("mkdtemp", {});
-    return pattern;
-}
 
 libreoffice::LibreOfficeSuite& sharedSuite() {
     static const auto suite = libreoffice::LibreOfficeSuite::startPrivate();
@@ -35,24 +28,18 @@ void closeAll(const office::Object& documents) {
 
 class LiveEnvironment : public Environment {
 public:
-    LiveEnvironment() : folder_(makeFolder()) { closeDocuments(); }
-    ~LiveEnvironment() override {
-        std::error_code ignored;
-        fs::remove_all(folder_, ignored);
-    }
+    LiveEnvironment() { closeDocuments(); }
 
     office::Suite& suite() override { return sharedSuite(); }
 
     std::string document(std::string_view fileName) override {
-        const fs::path copy = folder_ / fileName;
+        const fs::path copy = folder_.file(fileName);
         fs::copy_file(fs::path(MURVANE_CONTRACT_FIXTURE) / fileName, copy,
                       fs::copy_options::overwrite_existing);
         return copy.string();
     }
 
-    std::string temporaryFile(std::string_view fileName) override {
-        return (folder_ / fileName).string();
-    }
+    std::string temporaryFile(std::string_view fileName) override { return folder_.file(fileName); }
 
 private:
     static void closeDocuments() {
@@ -60,7 +47,7 @@ private:
         closeAll(sharedSuite().attach("PowerPoint.Application").get("Presentations").toObject());
     }
 
-    fs::path folder_;
+    support::TemporaryFolder folder_;
 };
 
 }  // namespace

@@ -2,8 +2,6 @@
 
 #include <com/sun/star/container/XEnumerationAccess.hpp>
 
-#include <chrono>
-
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/excel/application.h"
 
@@ -11,40 +9,21 @@ namespace live {
 
 using namespace libreoffice;
 
-std::unique_ptr<PrivateInstance> ExcelLive::instance_;
-
-void ExcelLive::SetUpTestSuite() {
-    instance_ = PrivateInstance::start(std::chrono::seconds(60));
-}
-
-void ExcelLive::TearDownTestSuite() {
-    instance_.reset();
-}
-
 void ExcelLive::SetUp() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "murvane-live-XXXXXX").string();
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    folder_ = pattern;
-    desk_ = std::make_shared<Desk>(instance_->connection(), true);
+    desk_ = std::make_shared<Desk>(connection(), true);
     app = excel::applicationObject(desk_);
 }
 
 void ExcelLive::TearDown() {
     for (const auto& book : desk_->workbooks()) book->close();
-    std::filesystem::remove_all(folder_);
 }
 
 Object ExcelLive::open(std::string_view name) {
-    std::filesystem::copy_file(std::filesystem::path(MURVANE_TEST_BOOKS) / name, folder_ / name);
-    return app.get("Workbooks").call("Open", file(name)).toObject();
-}
-
-std::string ExcelLive::file(std::string_view name) const {
-    return (folder_ / name).string();
+    return app.get("Workbooks").call("Open", copyOf(MURVANE_TEST_BOOKS, name)).toObject();
 }
 
 Object ExcelLive::freshApplication() const {
-    return excel::applicationObject(std::make_shared<Desk>(instance_->connection(), true));
+    return excel::applicationObject(std::make_shared<Desk>(connection(), true));
 }
 
 Object ExcelLive::sheet(const Object& book, const Value& which) {
@@ -65,7 +44,7 @@ uno::Reference<css::frame::XModel> ExcelLive::model() const {
 
 std::vector<std::string> ExcelLive::openDocuments() const {
     std::vector<std::string> urls;
-    const auto all = instance_->connection()->desktop()->getComponents()->createEnumeration();
+    const auto all = connection()->desktop()->getComponents()->createEnumeration();
     while (all->hasMoreElements()) {
         const uno::Reference<css::frame::XModel> document(all->nextElement(), uno::UNO_QUERY);
         if (document.is()) urls.push_back(fromUno(document->getURL()));

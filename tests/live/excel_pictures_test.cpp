@@ -129,8 +129,8 @@ TEST_F(ExcelPictures, FollowsChartsThatTheUserRenamesGroupsAndDeletes) {
     EXPECT_EQ(charts.get("Item", "Renamed").get("Index").toLong(), 1);
     EXPECT_EQ(failureOf([&] { charts.get("Item", "Plain"); }), 9);
 
-    const auto shapes = as<css::drawing::XShapes>(
-        instance_->connection()->create("com.sun.star.drawing.ShapeCollection"));
+    const auto shapes =
+        as<css::drawing::XShapes>(connection()->create("com.sun.star.drawing.ShapeCollection"));
     shapes->add(shapeOf("Data", 2)->shape);
     shapes->add(shapeOf("Data", 3)->shape);
     const auto page = as<css::container::XChild>(shapeOf("Data", 0)->shape)->getParent();

@@ -116,7 +116,7 @@ TEST_F(ExcelSheets, OpensNothingButWorkbooksAndSaysWhy) {
     const std::string text = file("deck.fodp");
     const std::string damaged = file("damaged.xlsx");
     std::filesystem::copy_file(std::filesystem::path(MURVANE_TEST_BOOKS) / "damaged.xlsx", damaged);
-    const auto presentation = instance_->connection()->desktop()->loadComponentFromURL(
+    const auto presentation = connection()->desktop()->loadComponentFromURL(
         "private:factory/simpress", "_blank", 0, propertyValues({{"Hidden", uno::Any(true)}}));
     as<css::frame::XStorable>(presentation)
         ->storeAsURL(

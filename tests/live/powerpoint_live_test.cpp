@@ -1,7 +1,5 @@
 #include "live/powerpoint_live_test.h"
 
-#include <chrono>
-
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/excel/package_parts.h"
 #include "office/libreoffice/powerpoint/application.h"
@@ -9,22 +7,9 @@
 
 namespace live {
 
-std::unique_ptr<libreoffice::PrivateInstance> PowerPointLive::instance_;
-
-void PowerPointLive::SetUpTestSuite() {
-    instance_ = libreoffice::PrivateInstance::start(std::chrono::seconds(60));
-}
-
-void PowerPointLive::TearDownTestSuite() {
-    instance_.reset();
-}
-
 void PowerPointLive::SetUp() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "murvane-live-XXXXXX").string();
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    folder_ = pattern;
     app = libreoffice::powerpoint::applicationObject(
-        std::make_shared<libreoffice::Desk>(instance_->connection(), true));
+        std::make_shared<libreoffice::Desk>(connection(), true));
 }
 
 void PowerPointLive::TearDown() {
@@ -34,19 +19,15 @@ void PowerPointLive::TearDown() {
         first.put("Saved", true);
         first.call("Close");
     }
-    std::filesystem::remove_all(folder_);
 }
 
 void PowerPointLive::withWindows() {
     app = libreoffice::powerpoint::applicationObject(
-        std::make_shared<libreoffice::Desk>(instance_->connection(), false));
+        std::make_shared<libreoffice::Desk>(connection(), false));
 }
 
 Object PowerPointLive::open(std::string_view deck) {
-    // A copy, so that nothing can lock or change the one that all tests share.
-    const auto copy = folder_ / deck;
-    std::filesystem::copy_file(std::filesystem::path(MURVANE_TEST_DECKS) / deck, copy);
-    return openFile(copy.string());
+    return openFile(copyOf(MURVANE_TEST_DECKS, deck));
 }
 
 Object PowerPointLive::openFile(const std::string& path) {
@@ -81,13 +62,9 @@ std::int32_t PowerPointLive::slideCount(const Object& deck) {
 }
 
 std::string PowerPointLive::part(const std::string& path, const std::string& name) {
-    const auto package = libreoffice::excel::PackageParts::open(*instance_->connection(),
-                                                                libreoffice::fileUrl(path));
+    const auto package =
+        libreoffice::excel::PackageParts::open(*connection(), libreoffice::fileUrl(path));
     return package ? package->read(name) : std::string();
-}
-
-std::uint64_t PowerPointLive::remoteCalls() {
-    return instance_->connection()->remoteCalls();
 }
 
 }  // namespace live

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -14,6 +13,7 @@
 #include "session_doubles/recording_notices.h"
 #include "session_doubles/recording_progress.h"
 #include "session_doubles/scripted_host.h"
+#include "support/temporary_folder.h"
 
 namespace stage {
 
@@ -49,26 +49,6 @@ inline catalogue::ExportItem chartSheetRow(std::string sheet, std::string slide 
                std::move(slide), std::move(caption));
 }
 
-/// A folder of the test's own for real files.
-class TemporaryFolder {
-public:
-    TemporaryFolder() {
-        std::string path = testing::TempDir() + "murvane-test-XXXXXX";
-        path_ = ::mkdtemp(path.data());
-    }
-    ~TemporaryFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
-
 /// A host whose temporary files are real, since the applications write them.
 class DiskHost : public session_doubles::ScriptedHost {
 public:
@@ -81,16 +61,10 @@ public:
     }
 
     /// Names of the files left in the temporary folder.
-    [[nodiscard]] std::set<std::string> filesLeft() const {
-        std::set<std::string> names;
-        for (const auto& file : std::filesystem::directory_iterator(folder_.path())) {
-            names.insert(file.path().filename().string());
-        }
-        return names;
-    }
+    [[nodiscard]] std::set<std::string> filesLeft() const { return folder_.names(); }
 
 private:
-    TemporaryFolder folder_;
+    support::TemporaryFolder folder_;
 };
 
 /// An open workbook and an open presentation, and a list to export.

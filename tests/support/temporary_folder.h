@@ -1,33 +1,38 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <set>
 #include <sstream>
 #include <string>
+#include <string_view>
+#include <system_error>
+
+namespace support {
 
 /// A folder of the test's own, gone with it.
-class ScratchFolder {
+class TemporaryFolder {
 public:
-    ScratchFolder() {
-        std::string path = testing::TempDir() + "murvane-test-XXXXXX";
-        path_ = ::mkdtemp(path.data());
+    TemporaryFolder() {
+        std::string path =
+            (std::filesystem::temp_directory_path() / "murvane-test-XXXXXX").string();
+        if (::mkdtemp(path.data()) == nullptr) {
+            throw std::system_error(errno, std::generic_category(), path);
+        }
+        path_ = path;
     }
-    ~ScratchFolder() {
+    ~TemporaryFolder() {
         std::error_code ignored;
         std::filesystem::permissions(path_, std::filesystem::perms::owner_all, ignored);
         std::filesystem::remove_all(path_, ignored);
     }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
-    [[nodiscard]] std::string file(const std::string& name) const {
-        return (path_ / name).string();
-    }
+    [[nodiscard]] std::string file(std::string_view name) const { return (path_ / name).string(); }
 
     std::string write(const std::string& name, const std::string& text) const {
         std::ofstream(path_ / name, std::ios::binary) << text;
@@ -51,3 +56,5 @@ public:
 private:
     std::filesystem::path path_;
 };
+
+}  // namespace support
