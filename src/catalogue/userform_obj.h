@@ -12,7 +12,7 @@
 #include "forms/form.h"
 #include "forms/list_view.h"
 #include "furniture/shadow.h"
-#include "furniture/titel_bar.h"
+#include "furniture/title_bar.h"
 #include "session/office_session.h"
 
 namespace catalogue {
@@ -67,7 +67,7 @@ public:
     void PasteIT_Click();
 
     // The controls, from the top of the form to its foot.
-    furniture::TitelBar TitelBar1;
+    furniture::TitleBar TitelBar1;
     forms::TextBox ActiveWbk;
     forms::Frame Frame4;
     forms::CheckBox Check1;

@@ -1,9 +1,13 @@
 #pragma once
 
 #include <QtCore/QUrl>
+#include <QtCore/QVariant>
 #include <QtWebEngineCore/QWebEnginePage>
 
 #include <functional>
+#include <string_view>
+
+#include "desktop/control_view.h"
 
 namespace desktop {
 
@@ -32,5 +36,15 @@ protected:
 private:
     QUrl asked_;
 };
+
+/// Asks the page and waits for its answer, a second at the most; an invalid value if none comes.
+/// Meanwhile the user's input is left waiting, and no event reaches a form.
+[[nodiscard]] QVariant askPage(QWebEnginePage& page, const QString& script, ViewHost& host);
+
+/// Runs a script in the page without waiting.
+void tellPage(QWebEnginePage& page, const QString& script);
+
+/// A text as a literal of the script language, with its quotes.
+[[nodiscard]] QString scriptText(std::string_view text);
 
 }  // namespace desktop

@@ -7,11 +7,11 @@
 #include <QtGui/QPainter>
 #include <QtQuickWidgets/QQuickWidget>
 #include <QtWebEngineWidgets/QWebEngineView>
+#include <QtWidgets/QApplication>
 
 #include <chrono>
 
 #include "desktop/browser_page.h"
-#include "desktop/browser_query.h"
 #include "desktop/looks.h"
 
 namespace desktop {
@@ -37,7 +37,7 @@ BrowserView::BrowserView(forms::WebBrowser& browser, QWidget& parent, ViewHost& 
     if (!browser_.url().empty()) navigate(browser_.url());
 }
 
-void BrowserView::letGo(bool controlIsThere) {
+void BrowserView::detach(bool controlIsThere) {
     if (controlIsThere && browser_.view == this) browser_.view = nullptr;
 }
 
@@ -67,6 +67,7 @@ void BrowserView::startEngine() {
     view_->setAcceptDrops(false);
     view_->setGeometry(rect());
     view_->setAccessibleName(accessibleName());
+    connect(qApp, &QApplication::focusChanged, this, &BrowserView::focusMoved);
     connect(page_, &QWebEnginePage::loadFinished, this,
             [this](bool succeeded) { loadEnded(succeeded); });
     connect(page_, &QWebEnginePage::renderProcessTerminated, this, [this] {
@@ -75,6 +76,12 @@ void BrowserView::startEngine() {
     });
     setFocusProxy(view_);
     view_->hide();
+}
+
+void BrowserView::focusMoved(QWidget* from, const QWidget* to) {
+    const bool comesIn = to != nullptr && isAncestorOf(to) && from != nullptr &&
+                         !isAncestorOf(from) && from->window() == window();
+    if (comesIn) focusBefore_ = QApplication::mouseButtons() == Qt::NoButton ? nullptr : from;
 }
 
 void BrowserView::lookChanged() {
@@ -115,6 +122,12 @@ void BrowserView::loadEnded(bool succeeded) {
     if (!wanted_.isEmpty()) return;
     complete_ = true;
     showPage();
+    if (const QString link = std::exchange(followed_, QString()); !link.isEmpty()) {
+        tellPage(*page_, QStringLiteral("(function(u){var a=Array.from(document.links).find("
+                                        "function(e){return e.getAttribute('href')===u;});"
+                                        "if(a)a.focus();})(%1)")
+                             .arg(scriptText(textOf(link))));
+    }
     tell([this] {
         if (browser_.onDocumentComplete) browser_.onDocumentComplete();
     });
@@ -137,6 +150,11 @@ void BrowserView::tryAgain() {
 void BrowserView::follow(const QString& url) {
     // The end of the refused link would take a page along that is asked for before it.
     refusing_ = true;
+    if (focusBefore_ != nullptr) {
+        std::exchange(focusBefore_, nullptr)->setFocus(Qt::OtherFocusReason);
+    } else {
+        followed_ = url;
+    }
     QTimer::singleShot(refusalTakes, this, [this] { refusalEnded(); });
     // The engine is in the middle of its own decision and must not be given a page from within it;
     // a form that is asked may well do that.

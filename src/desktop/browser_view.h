@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QPointer>
 #include <QtCore/QString>
 #include <QtWidgets/QWidget>
 
@@ -19,7 +20,7 @@ public:
     BrowserView(forms::WebBrowser& browser, QWidget& parent, ViewHost& host);
 
     QWidget& widget() override { return *this; }
-    void letGo(bool controlIsThere) override;
+    void detach(bool controlIsThere) override;
 
     void navigate(std::string_view url) override;
     [[nodiscard]] bool isComplete() override { return complete_; }
@@ -41,6 +42,7 @@ private:
     bool syncOwn() override { return false; }
     void lookChanged() override;
     void startEngine();
+    void focusMoved(QWidget* from, const QWidget* to);
     void loadWanted();
     void showPage();
     void loadEnded(bool succeeded);
@@ -56,6 +58,11 @@ private:
     QString wanted_;
     QString loading_;
     int triesLeft_ = 0;
+    /// Where the keyboard was before a click took it into the page; a link that is clicked gives it
+    /// back.
+    QPointer<QWidget> focusBefore_;
+    /// The link that was followed by a key: the page that answers it gets the keyboard there.
+    QString followed_;
     /// A link has been refused, and the engine has not done with it.
     bool refusing_ = false;
     bool complete_ = false;

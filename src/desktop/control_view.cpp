@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "desktop/browser_view.h"
+#include "desktop/list_view.h"
 #include "desktop/looks.h"
 #include "forms/controls.h"
 #include "forms/form.h"
@@ -66,6 +68,10 @@ QString ControlView::caption() const {
     return textOf(look_.caption);
 }
 
+void ControlView::paintBack(QPainter& painter) {
+    if (look_.back && !look_.transparent) painter.fillRect(widget().rect(), *look_.back);
+}
+
 bool ControlView::marksFocus() {
     return widget().hasFocus() && host_.keyboardInUse();
 }
@@ -73,6 +79,26 @@ bool ControlView::marksFocus() {
 QColor ControlView::textColour() const {
     const QColor full = look_.fore ? *look_.fore : textColourOn(look_.ground);
     return look_.enabled ? full : blend(look_.ground, full, 0.4);
+}
+
+ControlView* makeControlView(forms::Control& control, QWidget& parent, ViewHost& host) {
+    using Kind = forms::ControlClass;
+    switch (control.controlClass()) {
+        case Kind::CommandButton:
+        case Kind::CheckBox:
+        case Kind::OptionButton:
+        case Kind::TextBox:
+        case Kind::Slider:
+            return makeInputView(control, parent, host);
+        case Kind::TitleBar:
+            return makeTitleBarView(control, parent, host);
+        case Kind::ListView:
+            return makeView<ListView, forms::ListView>(control, parent, host);
+        case Kind::WebBrowser:
+            return makeView<BrowserView, forms::WebBrowser>(control, parent, host);
+        default:
+            return makeStillView(control, parent, host);
+    }
 }
 
 }  // namespace desktop

@@ -6,18 +6,16 @@
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
-#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QSizeGrip>
 
 #include <algorithm>
 #include <utility>
 
-#include "desktop/form_host.h"
+#include "desktop/loaded_form.h"
 #include "desktop/looks.h"
-#include "desktop/shadow.h"
-#include "desktop/stacking.h"
 #include "forms/controls.h"
-#include "furniture/titel_bar.h"
+#include "furniture/title_bar.h"
 
 namespace desktop {
 
@@ -30,20 +28,32 @@ QPoint screenOrigin() {
     return QGuiApplication::primaryScreen()->geometry().topLeft();
 }
 
-/// The widgets within one view that Tab stops at.
-std::vector<QWidget*> tabStopsOf(QWidget& view) {
-    std::vector<QWidget*> stops;
-    if (view.focusPolicy() != Qt::NoFocus) stops.push_back(&view);
-    for (QObject* child : view.children()) {
-        auto* button = qobject_cast<QAbstractButton*>(child);
-        if (button != nullptr) stops.push_back(button);
+/// The lower right corner, by which a form is enlarged.
+class Corner final : public QSizeGrip {
+public:
+    Corner(QWidget& parent, const QColor& ground) : QSizeGrip(&parent), ground_(ground) {
+        setFixedSize(13, 13);
+        setToolTip(QStringLiteral("Enlarge"));
     }
-    return stops;
-}
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(blend(ground_, textColourOn(ground_), 0.5), 1.2));
+        for (const int length : {4, 8}) {
+            painter.drawLine(QPointF(width() - 2 - length, height() - 2),
+                             QPointF(width() - 2, height() - 2 - length));
+        }
+    }
+
+private:
+    QColor ground_;
+};
 
 void closeAsTitleBarDoes(forms::Form& form) {
     for (forms::Control* control : form.controls()) {
-        auto* bar = dynamic_cast<furniture::TitelBar*>(control);
+        auto* bar = dynamic_cast<furniture::TitleBar*>(control);
         if (bar == nullptr) continue;
         bar->pressClose();
         return;
@@ -53,10 +63,11 @@ void closeAsTitleBarDoes(forms::Form& form) {
 
 }  // namespace
 
-FormWindow::FormWindow(forms::Form& form, FormHost& host)
+FormWindow::FormWindow(forms::Form& form, LoadedForm& host)
     : form_(&form),
       host_(host),
       plate_(new QWidget(this)),
+      views_(form, *plate_, host),
       blends_(form.shadowDepthPx > 0 && canBlendWindows()) {
     Qt::WindowFlags flags = Qt::Window | Qt::FramelessWindowHint;
     if (form.topmost) flags |= Qt::WindowStaysOnTopHint;
@@ -110,38 +121,29 @@ void FormWindow::centre() {
     form_->place.top = std::max(0, (twipsOf(room.height()) - form_->place.height) / 2);
 }
 
-void FormWindow::letGo() {
-    const std::vector<forms::Control*>& controls = form_->controls();
-    for (ControlView* view : views_) {
-        const bool isThere =
-            std::find(controls.begin(), controls.end(), &view->control()) != controls.end();
-        view->letGo(isThere);
-    }
+void FormWindow::detach() {
+    views_.detach();
     form_ = nullptr;
     qApp->removeEventFilter(this);
     hide();
 }
 
-ControlView* FormWindow::viewOf(const forms::Control& control) const {
-    const auto found = viewOf_.find(&control);
-    return found == viewOf_.end() ? nullptr : found->second;
-}
-
 void FormWindow::sync() {
     if (form_ == nullptr || syncing_) return;
     const QScopedValueRollback syncing(syncing_, true);
-    syncPlace();
-    syncViews();
-    syncOrder();
-    syncTabOrder();
     syncState();
+    syncEdge();
+    syncPlace();
+    views_.sync();
     syncFocus();
 }
 
-void FormWindow::syncPlace() {
+void FormWindow::syncEdge() {
     const Shadow edge{form_->shadowDepthPx, form_->shadowOpacity, colourOf(form_->shadowColour)};
-    const bool edgeDiffers = !(std::exchange(drawn_.edge, edge) == edge);
-    if (edgeDiffers) update();
+    if (!(std::exchange(drawn_.edge, edge) == edge)) {
+        drawn_.place = {};
+        update();
+    }
     if (drawn_.ground != form_->backColour || !opened_) {
         drawn_.ground = form_->backColour;
         QPalette colours = plate_->palette();
@@ -153,66 +155,22 @@ void FormWindow::syncPlace() {
         drawn_.caption = form_->caption;
         setWindowTitle(textOf(drawn_.caption.empty() ? form_->name() : drawn_.caption));
     }
-    if (drawn_.place == form_->place && !edgeDiffers) return;
+}
+
+void FormWindow::syncPlace() {
+    if (drawn_.place == form_->place) return;
     drawn_.place = form_->place;
-    if (drawn_.state == forms::WindowState::Maximised) return;
     const QRect place = pixelsOf(drawn_.place);
-    setFixedSize(place.size() + QSize(2 * margin(), 2 * margin()));
+    const QSize edges(2 * margin(), 2 * margin());
+    if (form_->resizable) {
+        setMinimumSize(QSize(pixelsOf(form_->naturalWidth()), pixelsOf(form_->naturalHeight())) +
+                       edges);
+        if (corner_ == nullptr) corner_ = new Corner(*plate_, colourOf(drawn_.ground));
+        resize(place.size() + edges);
+    } else {
+        setFixedSize(place.size() + edges);
+    }
     move(screenOrigin() + place.topLeft() - QPoint(margin(), margin()));
-}
-
-QWidget& FormWindow::parentFor(const forms::Control& control) {
-    if (control.container() == nullptr) return *plate_;
-    ControlView* frame = viewOf(*control.container());
-    return frame == nullptr ? *plate_ : frame->widget();
-}
-
-void FormWindow::syncViews() {
-    const std::vector<forms::Control*>& controls = form_->controls();
-    for (ControlView* view : std::exchange(views_, {})) {
-        if (std::find(controls.begin(), controls.end(), &view->control()) != controls.end()) {
-            views_.push_back(view);
-            continue;
-        }
-        viewOf_.erase(&view->control());
-        view->letGo(false);
-        view->widget().hide();
-        gone_.push_back(view);
-    }
-    for (forms::Control* control : controls) {
-        if (viewOf_.contains(control)) continue;
-        ControlView* view = makeControlView(*control, parentFor(*control), host_);
-        viewOf_.emplace(control, view);
-        views_.push_back(view);
-    }
-    for (ControlView* view : views_) view->sync();
-}
-
-void FormWindow::bury() {
-    for (ControlView* view : std::exchange(gone_, {})) delete &view->widget();
-}
-
-void FormWindow::syncOrder() {
-    const std::vector<ControlView*> views = fromBackToFront(views_);
-    std::vector<const forms::Control*> order;
-    order.reserve(views.size());
-    for (const ControlView* view : views) order.push_back(&view->control());
-    if (order == order_) return;
-    order_ = std::move(order);
-    for (ControlView* view : views) view->widget().raise();
-}
-
-void FormWindow::syncTabOrder() {
-    std::vector<const forms::Control*> order = tabOrderOf(*form_);
-    if (order == tabOrder_) return;
-    tabOrder_ = std::move(order);
-    QWidget* before = nullptr;
-    for (const forms::Control* control : tabOrder_) {
-        for (QWidget* stop : tabStopsOf(viewOf(*control)->widget())) {
-            if (before != nullptr) QWidget::setTabOrder(before, stop);
-            before = stop;
-        }
-    }
 }
 
 void FormWindow::syncState() {
@@ -226,21 +184,31 @@ void FormWindow::syncState() {
         }
     }
     if (drawn_.state == form_->windowState) return;
-    drawn_.state = form_->windowState;
-    switch (drawn_.state) {
-        case forms::WindowState::Minimised:
-            if (opened_) showMinimized();
-            break;
-        case forms::WindowState::Maximised:
-            setMinimumSize(0, 0);
-            setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-            if (opened_) showMaximized();
-            break;
-        case forms::WindowState::Normal:
-            if (opened_) showNormal();
-            drawn_.place = {};
-            break;
+    const auto before = std::exchange(drawn_.state, form_->windowState);
+    if (drawn_.state == forms::WindowState::Minimised) {
+        if (opened_) showMinimized();
+        return;
     }
+    if (before == forms::WindowState::Minimised) {
+        if (opened_) showNormal();
+    }
+    switchSize();
+}
+
+void FormWindow::switchSize() {
+    // The window manager has no part in this: without one the form is enlarged all the same.
+    if (drawn_.state == forms::WindowState::Maximised) {
+        if (normalPlace_.width == 0) normalPlace_ = form_->place;
+        const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+        form_->place = {twipsOf(room.left() - screenOrigin().x()),
+                        twipsOf(room.top() - screenOrigin().y()), twipsOf(room.width()),
+                        twipsOf(room.height())};
+    } else if (normalPlace_.width > 0) {
+        form_->place = std::exchange(normalPlace_, {});
+    }
+    drawn_.place = {};
+    if (corner_ != nullptr) corner_->setVisible(drawn_.state == forms::WindowState::Normal);
+    form_->Form_Resize();
 }
 
 void FormWindow::raiseBelowModal() {
@@ -258,34 +226,18 @@ void FormWindow::raiseBelowModal() {
 
 void FormWindow::syncFocus() {
     if (!opened_ || (form_->focus == focus_ && focus_ != nullptr)) return;
-    if (form_->focus == nullptr) {
-        const auto first =
-            std::find_if(tabOrder_.begin(), tabOrder_.end(), [this](const auto* control) {
-                const QWidget& shown = viewOf(*control)->widget();
-                return shown.isVisibleTo(this) && shown.isEnabled() &&
-                       (shown.focusPolicy() & Qt::TabFocus) != 0;
-            });
-        if (first == tabOrder_.end()) return;
-        focus_ = *first;
-    } else {
-        focus_ = form_->focus;
-    }
-    if (ControlView* view = viewOf(*focus_); view != nullptr) {
-        form_->focus = &view->control();
-        view->widget().setFocus(Qt::OtherFocusReason);
-    }
+    ControlView* view =
+        form_->focus == nullptr ? views_.firstStop(*this) : views_.of(*form_->focus);
+    if (view == nullptr) return;
+    focus_ = form_->focus = &view->control();
+    view->widget().setFocus(Qt::OtherFocusReason);
 }
 
 void FormWindow::focusCame(const QWidget* now) {
     if (form_ == nullptr || now == nullptr || !isAncestorOf(now)) return;
-    const auto came = std::find_if(views_.begin(), views_.end(), [now](ControlView* view) {
-        const QWidget& shown = view->widget();
-        return &shown == now || (shown.isAncestorOf(now) &&
-                                 view->control().controlClass() != forms::ControlClass::Frame);
-    });
-    if (came == views_.end()) return;
-    focus_ = &(*came)->control();
-    form_->focus = &(*came)->control();
+    if (ControlView* view = views_.holding(*now); view != nullptr) {
+        focus_ = form_->focus = &view->control();
+    }
 }
 
 void FormWindow::paintEvent(QPaintEvent*) {
@@ -303,10 +255,16 @@ void FormWindow::paintEvent(QPaintEvent*) {
 
 void FormWindow::resizeEvent(QResizeEvent*) {
     plate_->setGeometry(rect().adjusted(margin(), margin(), -margin(), -margin()));
-    if (form_ == nullptr || drawn_.state != forms::WindowState::Maximised) return;
+    if (corner_ != nullptr) {
+        corner_->move(plate_->rect().bottomRight() - corner_->rect().bottomRight());
+        corner_->raise();
+    }
+    // By the corner, or by the window system.
+    if (form_ == nullptr || !form_->resizable || syncing_ || !opened_) return;
     host_.deliver([this] {
-        form_->place.width = twipsOf(plate_->width());
-        form_->place.height = twipsOf(plate_->height());
+        form_->place.width = drawn_.place.width = twipsOf(plate_->width());
+        form_->place.height = drawn_.place.height = twipsOf(plate_->height());
+        form_->Form_Resize();
     });
 }
 
@@ -322,10 +280,13 @@ void FormWindow::moveEvent(QMoveEvent*) {
 void FormWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() != QEvent::WindowStateChange || form_ == nullptr || syncing_) return;
-    const auto state = isMinimized()   ? forms::WindowState::Minimised
-                       : isMaximized() ? forms::WindowState::Maximised
-                                       : forms::WindowState::Normal;
-    form_->windowState = drawn_.state = state;
+    if (isMinimized()) {
+        form_->windowState = drawn_.state = forms::WindowState::Minimised;
+    } else if (drawn_.state == forms::WindowState::Minimised) {
+        const bool isLarge = normalPlace_.width > 0;
+        form_->windowState = drawn_.state =
+            isLarge ? forms::WindowState::Maximised : forms::WindowState::Normal;
+    }
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

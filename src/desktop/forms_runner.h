@@ -27,4 +27,8 @@ private:
     std::unique_ptr<Parts> parts_;
 };
 
+/// Whether windows can be shown: the toolkit ends a program that starts it on a screen that is
+/// named but not there.
+[[nodiscard]] bool screenAnswers();
+
 }  // namespace desktop

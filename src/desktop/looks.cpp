@@ -58,7 +58,11 @@ QColor textColourOn(const QColor& ground) {
 }
 
 QColor accentOn(const QColor& ground) {
-    return isDark(ground) ? QColor(0x60, 0xa5, 0xfa) : QColor(0x25, 0x63, 0xeb);
+    return isDark(ground) ? QColor(0x60, 0xa5, 0xfa) : strongAccent;
+}
+
+QColor hollowOn(const QColor& ground) {
+    return isDark(ground) ? blend(ground, Qt::black, 0.25) : blend(ground, Qt::white, 0.8);
 }
 
 QFont fontOf(const forms::Font& font) {

@@ -32,8 +32,12 @@ namespace desktop {
 [[nodiscard]] bool isDark(const QColor& ground);
 /// Near-black or white, whichever reads better on the ground.
 [[nodiscard]] QColor textColourOn(const QColor& ground);
-/// The blue of everything that is chosen or has the focus, in the shade that the ground asks for.
+/// The blue of everything that is chosen or has the focus, in the shade that the ground asks for,
+/// and the shade of areas with white on them.
 [[nodiscard]] QColor accentOn(const QColor& ground);
+inline constexpr QColor strongAccent(0x25, 0x63, 0xeb);
+/// The inside of a box or ring that is not chosen.
+[[nodiscard]] QColor hollowOn(const QColor& ground);
 
 /// In points of 1/72 inch at 96 pixels to the inch, whatever the screen says of itself: text has to
 /// fit into places that are measured in twips.

@@ -1,10 +1,12 @@
 #include "desktop/painting.h"
 
-#include <QtGui/QPainterPath>
-#include <QtGui/QTextLayout>
+#include <QtCore/QFile>
+#include <QtGui/QIcon>
 
 #include <algorithm>
 #include <array>
+#include <map>
+#include <string>
 
 #include "desktop/looks.h"
 
@@ -12,8 +14,20 @@ namespace desktop {
 
 namespace {
 
-/// Narrower than this share letters begin to look squeezed.
-constexpr int narrowestStretch = 88;
+/// In percent; narrower letters look squeezed.
+constexpr int narrowestStretch = 82;
+
+/// The font in the width that lets the text into the box, or in its narrowest.
+QFont narrowed(const QFont& font, const QString& text, double room) {
+    QFont narrow = font;
+    double needed = QFontMetricsF(font).horizontalAdvance(text);
+    for (int stretch = static_cast<int>(100 * room / needed) + 1;
+         needed > room && stretch >= narrowestStretch; --stretch) {
+        narrow.setStretch(stretch);
+        needed = QFontMetricsF(narrow).horizontalAdvance(text);
+    }
+    return narrow;
+}
 
 bool fitsWrapped(const QPainter& painter, const QRectF& box, const QString& text) {
     const QRectF needed = painter.fontMetrics().boundingRect(
@@ -26,23 +40,19 @@ bool fitsWrapped(const QPainter& painter, const QRectF& box, const QString& text
 void drawFittedText(QPainter& painter, const QRectF& box, Qt::Alignment alignment,
                     const QString& text) {
     if (text.isEmpty() || box.isEmpty()) return;
-    const double needed = QFontMetricsF(painter.font()).horizontalAdvance(text);
+    const QFont narrow = narrowed(painter.font(), text, box.width());
     const bool severalLines = text.contains(QLatin1Char('\n'));
-    if (needed <= box.width() && !severalLines) {
-        painter.drawText(box, static_cast<int>(alignment) | Qt::TextSingleLine, text);
-        return;
-    }
-    if (fitsWrapped(painter, box, text) || severalLines) {
+    const bool fits = QFontMetricsF(narrow).horizontalAdvance(text) <= box.width();
+    if (severalLines || (!fits && fitsWrapped(painter, box, text))) {
         painter.drawText(box, static_cast<int>(alignment) | Qt::TextWordWrap, text);
         return;
     }
     painter.save();
-    QFont narrow = painter.font();
-    narrow.setStretch(std::max(narrowestStretch, static_cast<int>(100 * box.width() / needed)));
     painter.setFont(narrow);
-    painter.drawText(
-        box, static_cast<int>(alignment) | Qt::TextSingleLine,
-        painter.fontMetrics().elidedText(text, Qt::ElideRight, static_cast<int>(box.width()) + 1));
+    painter.drawText(box, static_cast<int>(alignment) | Qt::TextSingleLine,
+                     fits ? text
+                          : painter.fontMetrics().elidedText(text, Qt::ElideRight,
+                                                             static_cast<int>(box.width()) + 1));
     painter.restore();
 }
 
@@ -67,14 +77,12 @@ void drawFocusRing(QPainter& painter, const QRectF& box, double radius, const QC
 
 void drawCheckMark(QPainter& painter, const QRectF& box, Mark mark, const QColor& ground,
                    bool enabled, bool hovered) {
-    const QColor accent(0x25, 0x63, 0xeb);
     const QColor text = textColourOn(ground);
-    QColor fill = blend(ground, isDark(ground) ? QColor(Qt::black) : QColor(Qt::white),
-                        isDark(ground) ? 0.25 : 0.8);
+    QColor fill = hollowOn(ground);
     QColor line = hovered ? accentOn(ground) : blend(ground, text, 0.45);
     QColor stroke = Qt::white;
     if (mark == Mark::Tick) {
-        fill = enabled ? accent : blend(ground, text, 0.3);
+        fill = enabled ? strongAccent : blend(ground, text, 0.3);
         line = fill;
         if (!enabled) stroke = blend(ground, text, 0.75);
     } else if (mark == Mark::Dash) {
@@ -97,6 +105,20 @@ void drawCheckMark(QPainter& painter, const QRectF& box, Mark mark, const QColor
         painter.drawLine(at(0.27, 0.5), at(0.73, 0.5));
     }
     painter.restore();
+}
+
+bool drawIcon(QPainter& painter, const QRectF& box, std::string_view name) {
+    constexpr std::string_view prefix = "icon:";
+    if (name.starts_with(prefix)) name.remove_prefix(prefix.size());
+    static std::map<std::string, QIcon, std::less<>> known;
+    auto icon = known.find(name);
+    if (icon == known.end()) {
+        const QString file = QStringLiteral(":/icons/%1.svg").arg(textOf(name));
+        icon = known.emplace(name, QFile::exists(file) ? QIcon(file) : QIcon()).first;
+    }
+    if (icon->second.isNull()) return false;
+    icon->second.paint(&painter, box.toRect());
+    return true;
 }
 
 void drawArrow(QPainter& painter, const QRectF& box, bool up, const QColor& colour) {

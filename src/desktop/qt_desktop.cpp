@@ -3,6 +3,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QTimer>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QIcon>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtWebEngineCore/QWebEngineProfile>
@@ -11,33 +12,34 @@
 
 #include <algorithm>
 
-#include "desktop/form_host.h"
+#include "desktop/loaded_form.h"
 #include "desktop/looks.h"
+#include "furniture/palette.h"
 
 namespace desktop {
 
 QtDesktop::QtDesktop() = default;
 
 QtDesktop::~QtDesktop() {
-    for (const auto& host : hosts_) host->letGo();
+    for (const auto& host : forms_) host->detach();
 }
 
-FormHost* QtDesktop::hostOf(const forms::Form& form) const {
-    const auto found = std::find_if(hosts_.begin(), hosts_.end(),
+LoadedForm* QtDesktop::loadedOf(const forms::Form& form) const {
+    const auto found = std::find_if(forms_.begin(), forms_.end(),
                                     [&form](const auto& host) { return host->isOf(form); });
-    return found == hosts_.end() ? nullptr : found->get();
+    return found == forms_.end() ? nullptr : found->get();
 }
 
-FormHost& QtDesktop::hostFor(forms::Form& form) {
-    if (FormHost* known = hostOf(form); known != nullptr) return *known;
-    hosts_.push_back(std::make_unique<FormHost>(form, *this));
-    return *hosts_.back();
+LoadedForm& QtDesktop::loadedFor(forms::Form& form) {
+    if (LoadedForm* known = loadedOf(form); known != nullptr) return *known;
+    forms_.push_back(std::make_unique<LoadedForm>(form, *this));
+    return *forms_.back();
 }
 
-bool QtDesktop::hasTopmostBelow(const FormHost& host) const {
-    const auto self = std::find_if(hosts_.begin(), hosts_.end(),
+bool QtDesktop::hasTopmostBelow(const LoadedForm& host) const {
+    const auto self = std::find_if(forms_.begin(), forms_.end(),
                                    [&host](const auto& each) { return each.get() == &host; });
-    return std::any_of(hosts_.begin(), self, [](const auto& each) {
+    return std::any_of(forms_.begin(), self, [](const auto& each) {
         return each->window() != nullptr && each->isTopmost();
     });
 }
@@ -45,12 +47,12 @@ bool QtDesktop::hasTopmostBelow(const FormHost& host) const {
 void QtDesktop::openWindow(forms::Form& form, forms::ShowMode mode) {
     QWindow* parent = nullptr;
     if (mode == forms::ShowMode::Modal) {
-        for (const auto& host : hosts_) {
+        for (const auto& host : forms_) {
             if (host->isOf(form) || host->window() == nullptr) continue;
             if (host->window()->isVisible()) parent = host->window()->windowHandle();
         }
     }
-    hostFor(form).open(mode, parent);
+    loadedFor(form).open(mode, parent);
 }
 
 void QtDesktop::runModal(forms::Form& form) {
@@ -58,21 +60,21 @@ void QtDesktop::runModal(forms::Form& form) {
 }
 
 void QtDesktop::closeWindow(forms::Form& form) {
-    const auto found = std::find_if(hosts_.begin(), hosts_.end(),
+    const auto found = std::find_if(forms_.begin(), forms_.end(),
                                     [&form](const auto& host) { return host->isOf(form); });
-    if (found == hosts_.end()) return;
-    (*found)->letGo();
+    if (found == forms_.end()) return;
+    (*found)->detach();
     // Its widgets may be in the middle of the event that closes it.
     closed_.push_back(std::move(*found));
-    hosts_.erase(found);
+    forms_.erase(found);
 }
 
-void QtDesktop::bury() {
-    for (const auto& host : hosts_) host->bury();
+void QtDesktop::deleteClosed() {
+    for (const auto& host : forms_) host->deleteGone();
     const auto firstFree = std::stable_partition(closed_.begin(), closed_.end(),
                                                  [](const auto& host) { return host->isBusy(); });
-    std::vector<std::unique_ptr<FormHost>> dead(std::make_move_iterator(firstFree),
-                                                std::make_move_iterator(closed_.end()));
+    std::vector<std::unique_ptr<LoadedForm>> dead(std::make_move_iterator(firstFree),
+                                                  std::make_move_iterator(closed_.end()));
     closed_.erase(firstFree, closed_.end());
     for (const auto& host : dead) {
         std::erase_if(postponed_, [&host](const auto& each) { return each.first == host.get(); });
@@ -80,7 +82,7 @@ void QtDesktop::bury() {
 }
 
 void QtDesktop::sync() {
-    for (forms::Form* form : loadedForms()) hostFor(*form).sync();
+    for (forms::Form* form : loadedForms()) loadedFor(*form).sync();
 }
 
 void QtDesktop::run(const std::function<void()>& event) {
@@ -95,7 +97,7 @@ void QtDesktop::run(const std::function<void()>& event) {
     sync();
 }
 
-void QtDesktop::runLater(FormHost& host, std::function<void()> event) {
+void QtDesktop::runLater(LoadedForm& host, std::function<void()> event) {
     postponed_.emplace_back(&host, std::move(event));
     if (!holdsEvents()) QTimer::singleShot(0, &context_, [this] { runPostponed(); });
 }
@@ -121,7 +123,7 @@ void QtDesktop::pump(bool wait) {
     sync();
     QCoreApplication::processEvents(wait ? QEventLoop::WaitForMoreEvents : QEventLoop::AllEvents);
     sync();
-    bury();
+    deleteClosed();
     throwFailure();
 }
 
@@ -148,21 +150,41 @@ void QtDesktop::messageBox(std::string_view text, std::string_view title) {
         answer_(text, title);
         return;
     }
-    QMessageBox box(QMessageBox::Warning, textOf(title), textOf(text), QMessageBox::Ok);
+    QMessageBox box(QMessageBox::NoIcon, textOf(title), textOf(text), QMessageBox::Ok);
+    QPalette colours = box.palette();
+    colours.setColor(QPalette::Window, colourOf(furniture::palette::ThemeGround));
+    colours.setColor(QPalette::WindowText, colourOf(furniture::palette::ThemeText));
+    colours.setColor(QPalette::Text, colourOf(furniture::palette::ThemeText));
+    colours.setColor(QPalette::Button, colourOf(furniture::palette::ThemeAccentButton));
+    colours.setColor(QPalette::ButtonText,
+                     textColourOn(colourOf(furniture::palette::ThemeAccentButton)));
+    box.setPalette(colours);
+    box.setFont(fontOf({.sizePt = 9.75}));
+    constexpr int iconSide = 40;
+    box.setIconPixmap(QIcon(QStringLiteral(":/icons/warning.svg"))
+                          .pixmap(QSize(iconSide, iconSide), box.devicePixelRatioF()));
     box.setWindowFlag(Qt::WindowStaysOnTopHint);
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
 
+void QtDesktop::showWorking(bool works) {
+    if (works) {
+        QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+    } else {
+        QGuiApplication::restoreOverrideCursor();
+    }
+}
+
 QWidget* QtDesktop::plateOf(const forms::Form& form) const {
-    const FormHost* host = hostOf(form);
+    const LoadedForm* host = loadedOf(form);
     return host == nullptr || host->window() == nullptr ? nullptr : &host->window()->plate();
 }
 
 QWidget* QtDesktop::widgetOf(const forms::Control& control) const {
-    const FormHost* host = hostOf(control.form());
+    const LoadedForm* host = loadedOf(control.form());
     if (host == nullptr || host->window() == nullptr) return nullptr;
-    ControlView* view = host->window()->viewOf(control);
+    ControlView* view = host->window()->views().of(control);
     return view == nullptr ? nullptr : &view->widget();
 }
 

@@ -17,7 +17,7 @@ class QWidget;
 
 namespace desktop {
 
-class FormHost;
+class LoadedForm;
 
 /// The desktop of windows. It wants a `DesktopApplication` that lives longer.
 ///
@@ -32,6 +32,7 @@ public:
     void waitForEvents() override;
     [[nodiscard]] forms::Screen screen() const override;
     void messageBox(std::string_view text, std::string_view title) override;
+    void showWorking(bool works) override;
 
     /// Answers message boxes instead of the user.
     using MessageBoxAnswer = std::function<void(std::string_view text, std::string_view title)>;
@@ -43,7 +44,7 @@ public:
     [[nodiscard]] QWidget* widgetOf(const forms::Control& control) const;
 
 private:
-    friend class FormHost;
+    friend class LoadedForm;
 
     void openWindow(forms::Form& form, forms::ShowMode mode) override;
     void runModal(forms::Form& form) override;
@@ -51,7 +52,7 @@ private:
 
     /// Runs an event procedure, keeps its failure, and draws what it has changed.
     void run(const std::function<void()>& event);
-    void runLater(FormHost& host, std::function<void()> event);
+    void runLater(LoadedForm& host, std::function<void()> event);
     void runPostponed();
     void holdEvents(bool hold);
     [[nodiscard]] bool holdsEvents() const { return holds_ > 0; }
@@ -60,20 +61,20 @@ private:
     void sync();
     void pump(bool wait);
     /// Destroys the windows that have been closed and whose event procedures have ended.
-    void bury();
+    void deleteClosed();
     void throwFailure();
-    [[nodiscard]] FormHost* hostOf(const forms::Form& form) const;
-    [[nodiscard]] FormHost& hostFor(forms::Form& form);
+    [[nodiscard]] LoadedForm* loadedOf(const forms::Form& form) const;
+    [[nodiscard]] LoadedForm& loadedFor(forms::Form& form);
     /// Whether a form that was opened before this one is topmost.
-    [[nodiscard]] bool hasTopmostBelow(const FormHost& host) const;
+    [[nodiscard]] bool hasTopmostBelow(const LoadedForm& host) const;
 
     QObject context_;
     MessageBoxAnswer answer_;
     // The pages have to go before what they share, so the order of these counts.
     std::unique_ptr<QWebEngineProfile> profile_;
-    std::vector<std::unique_ptr<FormHost>> hosts_;
-    std::vector<std::unique_ptr<FormHost>> closed_;
-    std::vector<std::pair<FormHost*, std::function<void()>>> postponed_;
+    std::vector<std::unique_ptr<LoadedForm>> forms_;
+    std::vector<std::unique_ptr<LoadedForm>> closed_;
+    std::vector<std::pair<LoadedForm*, std::function<void()>>> postponed_;
     std::exception_ptr failure_;
     int holds_ = 0;
 };

@@ -25,7 +25,7 @@ enum class ControlClass {
     Shape,
     WebBrowser,
     ProgressBar,
-    TitelBar,
+    TitleBar,
 };
 
 enum class ZOrder { Front, Back };

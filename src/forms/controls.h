@@ -99,9 +99,17 @@ public:
     bool hasBorder = true;
     bool readOnly = false;
     Event onChange;
+    /// Enter or the Down key (1) or the Up key (-1), where the box is one of a column of boxes.
+    std::function<void(int step)> onStep;
+
+    /// Selects the whole text, so that what is typed next takes its place.
+    void selectAll() { ++selections_; }
+    /// How often it has been asked for.
+    [[nodiscard]] int selections() const { return selections_; }
 
 private:
     std::string text_;
+    int selections_ = 0;
 };
 
 class Slider : public Control {

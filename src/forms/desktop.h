@@ -54,6 +54,8 @@ public:
     [[nodiscard]] virtual Screen screen() const = 0;
     /// The platform's plain message box with an exclamation mark, above everything.
     virtual void messageBox(std::string_view text, std::string_view title) = 0;
+    /// The mouse pointer says that the program works, or what it said before. Calls nest.
+    virtual void showWorking(bool /*works*/) {}
 
 protected:
     friend class Form;
@@ -69,6 +71,18 @@ private:
 
     std::vector<Form*> loaded_;
     std::vector<const Form*> shown_;
+};
+
+/// The pointer says that the program works as long as this lives.
+class Working {
+public:
+    explicit Working(Desktop& desktop) : desktop_(desktop) { desktop_.showWorking(true); }
+    Working(const Working&) = delete;
+    Working& operator=(const Working&) = delete;
+    ~Working() { desktop_.showWorking(false); }
+
+private:
+    Desktop& desktop_;
 };
 
 }  // namespace forms

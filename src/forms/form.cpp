@@ -18,7 +18,9 @@ bool sameFormName(std::string_view left, std::string_view right) {
 Form::Form(Desktop& desktop, std::string name, Twips width, Twips height)
     : place{0, 0, width, height},
       desktop_(desktop),
-      name_(std::move(name)) {}
+      name_(std::move(name)),
+      naturalWidth_(width),
+      naturalHeight_(height) {}
 
 Form::~Form() {
     desktop_.forget(*this);

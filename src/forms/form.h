@@ -54,6 +54,9 @@ public:
     bool takesInput = true;
     /// The control that the keyboard goes to; null: the first in tab order.
     Control* focus = nullptr;
+    /// The user may make the form larger than it is made, never smaller. The desktop then changes
+    /// the size in `place` and runs `Form_Resize`.
+    bool resizable = false;
     /// A soft edge around the form: its width in pixels (0: none) and its strongest opacity.
     int shadowDepthPx = 0;
     int shadowOpacity = 0;
@@ -62,6 +65,11 @@ public:
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
     virtual void Form_Unload() {}
+    virtual void Form_Resize() {}
+
+    /// The size that the form is made with.
+    [[nodiscard]] Twips naturalWidth() const { return naturalWidth_; }
+    [[nodiscard]] Twips naturalHeight() const { return naturalHeight_; }
 
 private:
     friend class Control;
@@ -69,6 +77,8 @@ private:
 
     Desktop& desktop_;
     std::string name_;
+    Twips naturalWidth_;
+    Twips naturalHeight_;
     std::vector<Control*> controls_;
     std::vector<Timer*> timers_;
 };

@@ -1,5 +1,7 @@
 #include "forms/list_view.h"
 
+#include <algorithm>
+
 namespace forms {
 
 void ListView::check(std::size_t row, bool checked) {
@@ -9,11 +11,36 @@ void ListView::check(std::size_t row, bool checked) {
     if (onItemCheck) onItemCheck(row);
 }
 
-void ListView::click(std::size_t row) {
+void ListView::click(std::size_t row, Pick pick) {
     if (rows == nullptr || row >= rows->count()) return;
+    if (pick == Pick::Through) {
+        markThrough(row);
+    } else {
+        const bool marked = pick == Pick::Only || !rows->isMarked(row);
+        for (std::size_t i = 0; pick == Pick::Only && i < rows->count(); ++i) {
+            rows->setMarked(i, false);
+        }
+        rows->setMarked(row, marked);
+        anchor_ = row;
+    }
     rows->select(static_cast<std::ptrdiff_t>(row));
     rowsChanged();
     if (onItemClick) onItemClick(row);
+}
+
+void ListView::markThrough(std::size_t row) {
+    // A row that has been moved since is no place to go on from.
+    if (anchor_ >= rows->count() || !rows->isMarked(anchor_)) {
+        anchor_ = static_cast<std::size_t>(std::max<std::ptrdiff_t>(rows->selected(), 0));
+    }
+    const auto [first, last] = std::minmax(anchor_, row);
+    for (std::size_t i = 0; i < rows->count(); ++i) rows->setMarked(i, i >= first && i <= last);
+}
+
+void ListView::markAll() {
+    if (rows == nullptr) return;
+    for (std::size_t i = 0; i < rows->count(); ++i) rows->setMarked(i, true);
+    rowsChanged();
 }
 
 }  // namespace forms

@@ -29,6 +29,12 @@ public:
     /// The selected row, or -1.
     [[nodiscard]] virtual std::ptrdiff_t selected() const = 0;
     virtual void select(std::ptrdiff_t row) = 0;
+    /// Whether a row is one of those chosen for a common deed. Rows that know of one at a time only
+    /// have the selected one.
+    [[nodiscard]] virtual bool isMarked(std::size_t row) const {
+        return static_cast<std::ptrdiff_t>(row) == selected();
+    }
+    virtual void setMarked(std::size_t /*row*/, bool /*marked*/) {}
 };
 
 /// A list in report view with check boxes: rows are seen through `ListRows`, columns are its own.
@@ -61,15 +67,28 @@ public:
 
     /// A user's click on the check box of a row: flips it, then tells.
     void check(std::size_t row, bool checked);
+    /// How a row is chosen: alone, to or from those that are chosen already, or with all from the
+    /// last one that was chosen otherwise.
+    enum class Pick { Only, Toggle, Through };
     /// A user's click on a row: selects it, then tells.
-    void click(std::size_t row);
+    void click(std::size_t row, Pick pick = Pick::Only);
+    void markAll();
 
     std::function<void(std::size_t row)> onItemCheck;
     std::function<void(std::size_t row)> onItemClick;
     /// The column counts from 0.
     std::function<void(std::size_t column)> onColumnClick;
+    /// The marked rows are to stand before the row that is now at this index, or behind the last.
+    std::function<void(std::size_t before)> onRowsMove;
+    /// They are to go one row up (-1) or down (1).
+    std::function<void(int step)> onRowsStep;
+    /// What the user can write into them is to be wiped out.
+    std::function<void()> onRowsClear;
 
 private:
+    void markThrough(std::size_t row);
+
+    std::size_t anchor_ = 0;
     int version_ = 0;
 };
 

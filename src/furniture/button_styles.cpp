@@ -1,6 +1,13 @@
 #include "furniture/button_styles.h"
 
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <string>
+#include <string_view>
+
 #include "furniture/palette.h"
+#include "furniture/theme.h"
 
 namespace furniture {
 
@@ -40,6 +47,77 @@ void StyleArrowButton(forms::CommandButton& button, Arrow arrow) {
     style(button, arrow == Arrow::Up ? "5" : "6", palette::ThemeNeutralButton, 10);
     button.font.name = "Marlett";
     button.font.bold = false;
+}
+
+namespace {
+
+using Style = void (*)(forms::CommandButton& button, std::string_view caption, double sizePt);
+
+enum class Words { Given, Own };
+
+/// How a button of this name looks; `caption` stands in for its own if that is blank.
+struct Rule {
+    std::string_view name;
+    Style style;
+    Words words;
+    std::string_view caption;
+    double sizePt;
+};
+
+constexpr std::array<Rule, 10> rules = {{
+    {"pasteit", StyleAccentButton, Words::Given, "Continue  >", 12},
+    {"continueok", StyleAccentButton, Words::Given, "Continue  >", 10.5},
+    {"styles", StyleAccentButton, Words::Own, "Apply", 10},
+    {"closelayout", StyleAccentButton, Words::Own, "Apply", 10},
+    {"about", StyleAccentButton, Words::Own, "Apply", 10},
+    {"btnclose", StyleAccentButton, Words::Own, "Apply", 10},
+    {"addcaption", StyleNeutralButton, Words::Given, "Caption", 9},
+    {"btncancel", StyleQuietButton, Words::Own, "Close", 10.5},
+    {"cmdcancel", StyleQuietButton, Words::Own, "Close", 10.5},
+    {"btnok", StyleAccentButton, Words::Own, "OK", 10.5},
+}};
+constexpr Rule otherButtons = {{}, StyleNeutralButton, Words::Own, "OK", 9.75};
+
+std::string lowerCase(std::string_view text) {
+    std::string lower(text);
+    std::transform(lower.begin(), lower.end(), lower.begin(),
+                   [](unsigned char sign) { return static_cast<char>(std::tolower(sign)); });
+    return lower;
+}
+
+std::string trimmed(const std::string& text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+void apply(const Rule& rule, forms::CommandButton& button) {
+    std::string caption = rule.words == Words::Own ? trimmed(button.caption) : std::string();
+    if (caption.empty()) caption = rule.caption;
+    rule.style(button, caption, rule.sizePt);
+}
+
+void themeButton(forms::CommandButton& button) {
+    const std::string name = lowerCase(button.name());
+    const auto* rule =
+        std::find_if(rules.begin(), rules.end(), [&](const Rule& one) { return one.name == name; });
+    if (rule != rules.end()) {
+        apply(*rule, button);
+    } else if (name == "up" || name == "down") {
+        StyleArrowButton(button, name == "up" ? Arrow::Up : Arrow::Down);
+    } else if (name.find("help") != std::string::npos) {
+        StyleHelpButton(button);
+    } else if (button.visible) {
+        apply(otherButtons, button);
+    }
+}
+
+}  // namespace
+
+void ThemeButtonsIn(forms::Form& form) {
+    for (forms::Control* control : form.controls()) {
+        if (auto* button = dynamic_cast<forms::CommandButton*>(control)) themeButton(*button);
+    }
 }
 
 }  // namespace furniture

@@ -6,7 +6,7 @@
 #include "forms/form.h"
 #include "furniture/progress_bar.h"
 #include "furniture/shadow.h"
-#include "furniture/titel_bar.h"
+#include "furniture/title_bar.h"
 
 namespace furniture {
 
@@ -17,7 +17,7 @@ public:
 
     void Form_Load() override;
 
-    TitelBar TitelBar1;
+    TitleBar TitelBar1;
     forms::Image Image1;
     forms::Label Label1;
     forms::Label Label3;

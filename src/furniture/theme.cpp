@@ -5,10 +5,8 @@
 #include <string_view>
 
 #include "forms/controls.h"
-#include "forms/web_browser.h"
-#include "furniture/browser_ground.h"
 #include "furniture/palette.h"
-#include "furniture/titel_bar.h"
+#include "furniture/title_bar.h"
 
 namespace furniture {
 
@@ -116,7 +114,7 @@ void ThemeControl(forms::Control& control) {
 
 void ThemeTitleBars(forms::Form& form) {
     for (forms::Control* control : form.controls()) {
-        auto* bar = dynamic_cast<TitelBar*>(control);
+        auto* bar = dynamic_cast<TitleBar*>(control);
         if (bar == nullptr) continue;
         bar->backColour = palette::ThemeGroundDeep;
         bar->BackColorV1Begin = palette::ThemeGroundDeep;
@@ -156,6 +154,15 @@ void ThemeMainList(forms::ListView& list) {
     for (std::size_t i = 0; i < captions.size(); ++i) {
         if (firstNamed + i < list.columns.size()) list.columns[firstNamed + i].text = captions[i];
     }
+}
+
+void ApplyBrowserBackground(forms::WebBrowser& browser, std::string_view colour) {
+    forms::BrowserView* document = browser.view;
+    if (document == nullptr || !document->isComplete()) return;
+    document->setStyle("background-color", colour);
+    document->setStyle("height", "100%");
+    document->setBodyStyle("margin", "0");
+    document->setBodyStyle("padding", "0");
 }
 
 }  // namespace furniture

@@ -6,7 +6,7 @@
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "furniture/shadow.h"
-#include "furniture/titel_bar.h"
+#include "furniture/title_bar.h"
 #include "session/office_session.h"
 
 namespace panels {
@@ -19,7 +19,7 @@ public:
 
     void Form_Load() override;
 
-    furniture::TitelBar TitelBar1;
+    furniture::TitleBar TitelBar1;
     forms::Image Image1;
     forms::Label lblName;
     forms::Label lblVersion;

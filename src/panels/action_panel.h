@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "forms/web_browser.h"
-#include "furniture/browser_ground.h"  // IWYU pragma: export
+#include "furniture/theme.h"  // IWYU pragma: export
 #include "panels/panel_page.h"
 #include "session/host.h"
 

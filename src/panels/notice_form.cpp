@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "forms/desktop.h"
-#include "furniture/browser_ground.h"
 #include "furniture/button_styles.h"
 #include "furniture/palette.h"
 #include "furniture/theme.h"

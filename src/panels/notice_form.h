@@ -8,7 +8,7 @@
 #include "forms/timer.h"
 #include "forms/web_browser.h"
 #include "furniture/shadow.h"
-#include "furniture/titel_bar.h"
+#include "furniture/title_bar.h"
 #include "session/host.h"
 
 namespace panels {
@@ -41,7 +41,7 @@ public:
     /// from the press on `btnOK` on.
     std::string acceptedValues;
 
-    furniture::TitelBar TitelBar1;
+    furniture::TitleBar TitelBar1;
     forms::WebBrowser wbNotice;
     forms::Label lblNoticeBar;
     forms::CommandButton btnOK;

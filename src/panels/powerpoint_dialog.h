@@ -12,7 +12,7 @@
 #include "forms/form.h"
 #include "forms/web_browser.h"
 #include "furniture/shadow.h"
-#include "furniture/titel_bar.h"
+#include "furniture/title_bar.h"
 #include "office/failure_patterns.h"
 #include "panels/action_bar.h"
 #include "session/office_session.h"
@@ -63,7 +63,7 @@ public:
     /// Opens a tool form; nothing for an unknown key.
     void RunPanelAction(std::string_view key) const;
 
-    furniture::TitelBar TitelBar1;
+    furniture::TitleBar TitelBar1;
     forms::Image Image1;
     forms::Label Label7;
     forms::Frame Frame3;

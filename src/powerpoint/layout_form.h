@@ -8,7 +8,7 @@
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "furniture/shadow.h"
-#include "furniture/titel_bar.h"
+#include "furniture/title_bar.h"
 #include "office/value.h"
 #include "session/office_session.h"
 
@@ -36,7 +36,7 @@ public:
 
     [[nodiscard]] double SliderToTop() const;
 
-    furniture::TitelBar TitelBar1;
+    furniture::TitleBar TitelBar1;
     forms::Frame Frame1;
     std::array<forms::OptionButton, 2> OptionTop;
     forms::Slider TopSlider;

@@ -6,7 +6,7 @@
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "furniture/shadow.h"
-#include "furniture/titel_bar.h"
+#include "furniture/title_bar.h"
 #include "session/office_session.h"
 
 namespace powerpoint {
@@ -21,7 +21,7 @@ public:
     void OptionStyle_Click(int index);
     void Styles_Click();
 
-    furniture::TitelBar TitelBar1;
+    furniture::TitleBar TitelBar1;
     forms::Image Image1;
     forms::Label Label1;
     forms::Frame Frame3;

@@ -10,13 +10,13 @@
 #include <ctime>
 
 #include "desktop/fixture.h"
-#include "desktop/list_view_view.h"
+#include "desktop/list_view.h"
 
 namespace {
 
 class Lists : public OnTheDesktop {
 protected:
-    desktop::ListViewView& view() { return widgetOf<desktop::ListViewView>(form.listCharts); }
+    desktop::ListView& view() { return widgetOf<desktop::ListView>(form.listCharts); }
 
     QPoint textOf(int row) {
         return view().visualRect(view().model()->index(row, 0)).center() + QPoint(30, 0);

@@ -12,7 +12,7 @@
 #include "forms/web_browser.h"
 #include "furniture/progress_bar.h"
 #include "furniture/shadow.h"
-#include "furniture/titel_bar.h"
+#include "furniture/title_bar.h"
 
 namespace sample {
 
@@ -29,7 +29,7 @@ public:
     Rows rows;
     furniture::clsShadow shadow;
 
-    furniture::TitelBar TitelBar1{*this, "TitelBar1", {0, 0, 12000, 480}};
+    furniture::TitleBar TitelBar1{*this, "TitelBar1", {0, 0, 12000, 480}};
     forms::Frame Frame4{*this, "Frame4", {240, 720, 7200, 4200}};
     forms::CheckBox Check1{*this, "Check1", {240, 450, 2400, 255}, &Frame4};
     forms::Label NbCharts{*this, "NbCharts", {4200, 480, 2760, 255}, &Frame4};

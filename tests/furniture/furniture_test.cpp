@@ -10,17 +10,17 @@
 #include "furniture/progress_bar.h"
 #include "furniture/progress_form.h"
 #include "furniture/shadow.h"
-#include "furniture/titel_bar.h"
+#include "furniture/title_bar.h"
 
 namespace {
 
 using furniture::clsShadow;
 using furniture::ProgressBar;
-using furniture::TitelBar;
+using furniture::TitleBar;
 
 struct Sheet : forms::Form {
     explicit Sheet(forms::Desktop& desktop) : Form(desktop, "Sheet", 6000, 6000) {}
-    TitelBar bar{*this, "TitelBar1", {}};
+    TitleBar bar{*this, "TitelBar1", {}};
     ProgressBar progress{*this, "prbHorizontal", {}};
 };
 

@@ -11,7 +11,7 @@
 #include "forms_double/windowless_desktop.h"
 #include "furniture/palette.h"
 #include "furniture/theme.h"
-#include "furniture/titel_bar.h"
+#include "furniture/title_bar.h"
 
 namespace {
 
@@ -134,7 +134,7 @@ TEST_F(Theme, ThePanelOfSlideNumbersHasRulesOfItsOwn) {
 }
 
 TEST_F(Theme, ATitleBarCanOnlyClose) {
-    furniture::TitelBar bar(sheet, "TitelBar1", {});
+    furniture::TitleBar bar(sheet, "TitelBar1", {});
     bar.ShowClose = false;
     furniture::ApplyTheme(sheet);
     EXPECT_TRUE(bar.ShowClose && bar.ShowCloseEnabled);

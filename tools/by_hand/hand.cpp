@@ -19,8 +19,7 @@
 #include <thread>
 
 #include "desktop/browser_view.h"
-#include "desktop/grab_form.h"
-#include "desktop/list_view_view.h"
+#include "desktop/list_view.h"
 #include "sight.h"
 
 namespace by_hand {
@@ -111,7 +110,7 @@ json Hand::see(const json& order) const {
     const std::string form = text(order, "form");
     if (deed == "tab-order") return tabOrder(desktop_, form);
     if (deed == "look") {
-        if (desktop::grabForm(formOf(desktop_, form), text(order, "file"))) return true;
+        if (takePicture(desktop_, formOf(desktop_, form), text(order, "file"))) return true;
         throw std::runtime_error("no picture could be written");
     }
     const forms::Control& control = controlOf(desktop_, form, text(order, "control"));
@@ -164,7 +163,7 @@ void Hand::press(const json& order) {
 
 void Hand::clickInList(const json& order) {
     const std::string deed = text(order, "do");
-    auto& list = dynamic_cast<desktop::ListViewView&>(
+    auto& list = dynamic_cast<desktop::ListView&>(
         widgetOf(desktop_, text(order, "form"), text(order, "control")));
     QWidget* area = list.viewport();
     QPoint at;

@@ -1,6 +1,7 @@
 #include "sight.h"
 
 #include <QtGui/QAccessible>
+#include <QtGui/QPixmap>
 #include <QtWidgets/QWidget>
 
 #include <map>
@@ -35,6 +36,12 @@ QWidget& widgetOf(const desktop::QtDesktop& desktop, const std::string& form,
     QWidget* widget = desktop.widgetOf(controlOf(desktop, form, control));
     if (widget == nullptr) throw std::runtime_error(form + " is not shown");
     return *widget;
+}
+
+bool takePicture(const desktop::QtDesktop& desktop, const forms::Form& form,
+                 const std::string& file) {
+    QWidget* plate = desktop.plateOf(form);
+    return plate != nullptr && plate->window()->grab().save(QString::fromStdString(file), "PNG");
 }
 
 json openForms(const desktop::QtDesktop& desktop) {

@@ -4,7 +4,6 @@
 
 #include <utility>
 
-#include "desktop/grab_form.h"
 #include "office/text.h"
 #include "sight.h"
 
@@ -24,7 +23,7 @@ void Trap::look() {
     if (plate == nullptr || !plate->window()->isVisible()) return;
     const forms::Control& control = controlOf(desktop_, prey_.form, prey_.control);
     if (office::leadingNumber(control.caption) < prey_.atLeast) return;
-    caught_ = desktop::grabForm(*form, prey_.file);
+    caught_ = takePicture(desktop_, *form, prey_.file);
     timer_.stop();
 }
 

@@ -3,7 +3,6 @@
 #include "apps/failure_report.h"
 #include "apps/murvane/windows.h"
 #include "desktop/forms_runner.h"
-#include "desktop/screen.h"
 #include "office/libreoffice/libreoffice_suite.h"
 #include "panels/form_progress.h"
 #include "panels/notice_panel.h"
