@@ -3,11 +3,11 @@
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QSizeGrip>
 
 #include <algorithm>
 #include <utility>
@@ -28,15 +28,23 @@ QPoint screenOrigin() {
     return QGuiApplication::primaryScreen()->geometry().topLeft();
 }
 
-/// The lower right corner, by which a form is enlarged.
-class Corner final : public QSizeGrip {
+/// The lower right corner, by which a form is enlarged. It sizes the window itself: the toolkit's
+/// own needs a window manager.
+class Corner final : public QWidget {
 public:
-    Corner(QWidget& parent, const QColor& ground) : QSizeGrip(&parent), ground_(ground) {
+    Corner(QWidget& parent, const QColor& ground) : QWidget(&parent), ground_(ground) {
+        setObjectName(QStringLiteral("corner"));
         setFixedSize(13, 13);
-        setToolTip(QStringLiteral("Enlarge"));
+        setCursor(Qt::SizeFDiagCursor);
     }
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override {
+        held_ = window()->size() - sizeTo(event->globalPosition().toPoint());
+    }
+    void mouseMoveEvent(QMouseEvent* event) override {
+        window()->resize(sizeTo(event->globalPosition().toPoint()) + held_);
+    }
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
@@ -48,7 +56,13 @@ protected:
     }
 
 private:
+    [[nodiscard]] QSize sizeTo(const QPoint& global) const {
+        const QPoint reach = global - window()->pos();
+        return {reach.x(), reach.y()};
+    }
+
     QColor ground_;
+    QSize held_;  ///< what the window reaches beyond the pointer
 };
 
 void closeAsTitleBarDoes(forms::Form& form) {
@@ -163,9 +177,11 @@ void FormWindow::syncPlace() {
     const QRect place = pixelsOf(drawn_.place);
     const QSize edges(2 * margin(), 2 * margin());
     if (form_->resizable) {
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
         setMinimumSize(QSize(pixelsOf(form_->naturalWidth()), pixelsOf(form_->naturalHeight())) +
                        edges);
         if (corner_ == nullptr) corner_ = new Corner(*plate_, colourOf(drawn_.ground));
+        corner_->setVisible(drawn_.state == forms::WindowState::Normal);
         resize(place.size() + edges);
     } else {
         setFixedSize(place.size() + edges);
@@ -207,7 +223,6 @@ void FormWindow::switchSize() {
         form_->place = std::exchange(normalPlace_, {});
     }
     drawn_.place = {};
-    if (corner_ != nullptr) corner_->setVisible(drawn_.state == forms::WindowState::Normal);
     form_->Form_Resize();
 }
 

@@ -1,5 +1,6 @@
 #include <QtGui/QImage>
 #include <QtTest/QTest>
+#include <QtWebEngineCore/QWebEngineScript>
 #include <QtWebEngineWidgets/QWebEngineView>
 #include <gtest/gtest.h>
 
@@ -95,6 +96,39 @@ TEST_F(Browser, EscapeReachesTheFormFromWithinAPageToo) {
     ASSERT_TRUE(clickLinkFor("murvane://action/style"));
     QTest::keyClick(engine().focusProxy(), Qt::Key_Escape);
     EXPECT_TRUE(waitFor("Cancel", 1, 3s));
+}
+
+TEST_F(Browser, AClickedLinkLeavesTheKeyboardWhereItWas) {
+    const PageFile file(linkTo("murvane://toggle/slideTitle"));
+    open(file.url());
+    form.focus = &form.ContinueOk;
+    ASSERT_TRUE(clickLinkFor("murvane://toggle/slideTitle"));
+    EXPECT_EQ(form.focus, &form.ContinueOk);
+    input::key(desk, form, Qt::Key_Return);
+    EXPECT_EQ(times("Continue"), 1);
+}
+
+TEST_F(Browser, ALinkFollowedByAKeyHasTheKeyboardOnThePageThatAnswersIt) {
+    const PageFile file("<a href='murvane://one'>1</a><a href='murvane://two'>2</a>");
+    open(file.url());
+    engine().focusProxy()->setFocus(Qt::TabFocusReason);
+    const auto press = [&](Qt::Key key) {
+        QTest::keyClick(engine().focusProxy(), key);
+        input::waitUntil(
+            desk, [] { return false; }, 100ms);
+    };
+    engine().page()->runJavaScript(QStringLiteral("document.links[1].focus()"),
+                                   QWebEngineScript::ApplicationWorld);
+    input::waitUntil(
+        desk, [] { return false; }, 200ms);
+    press(Qt::Key_Return);
+    ASSERT_TRUE(waitFor("murvane://two"));
+    open(file.url());
+    EXPECT_TRUE(input::waitUntil(desk, [&] {
+        press(Qt::Key_Return);
+        return times("murvane://two") > 1;
+    }));
+    EXPECT_EQ(times("murvane://one"), 0);
 }
 
 TEST_F(Browser, AMissingPageLeavesTheFormAliveAndTheNextOneComes) {

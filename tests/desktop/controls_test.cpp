@@ -95,6 +95,22 @@ TEST_F(Controls, EnterPressesTheButtonThatHasTheFocusElseTheDefault) {
     EXPECT_EQ(times("Continue"), 1);
 }
 
+TEST_F(Controls, ABoxOfAColumnOfBoxesTakesEnterAndTheArrowsForItself) {
+    std::vector<int> steps;
+    form.SlideTitle.onStep = [&](int step) {
+        steps.push_back(step);
+        form.SlideTitle.setText("next");
+        form.SlideTitle.selectAll();
+    };
+    form.focus = &form.SlideTitle;
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Down, Qt::Key_Up}) {
+        input::key(desk, form, key);
+    }
+    EXPECT_EQ(steps, (std::vector<int>{1, 1, -1}));
+    EXPECT_EQ(times("Continue"), 0);
+    EXPECT_EQ(widgetOf<QLineEdit>(form.SlideTitle).selectedText(), QStringLiteral("next"));
+}
+
 TEST_F(Controls, AKeyThatIsHeldDownPressesNothing) {
     form.escapeCloses = true;
     form.focus = &form.SlideTitle;

@@ -1,6 +1,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtGui/QHelpEvent>
 #include <QtGui/QImage>
+#include <QtTest/QTest>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QToolTip>
@@ -21,7 +22,10 @@ protected:
     QPoint textOf(int row) {
         return view().visualRect(view().model()->index(row, 0)).center() + QPoint(30, 0);
     }
-    void clickRow(int row) { input::clickAt(desk, *view().viewport(), textOf(row)); }
+    void clickRow(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::mouseClick(view().viewport(), Qt::LeftButton, modifiers, textOf(row));
+        desk.letEventsRun();
+    }
     void clickBox(int row) {
         input::clickAt(desk, *view().viewport(), view().checkBoxOf(row).center());
     }
@@ -54,6 +58,71 @@ TEST_F(Lists, ArrowKeysSelectAndSpaceChecks) {
     EXPECT_EQ(times("check 2"), 1);
     input::key(desk, form, Qt::Key_End);
     EXPECT_EQ(form.rows.selected(), 11);
+}
+
+TEST_F(Lists, ShiftAndControlChooseSeveral) {
+    const auto marked = [this] {
+        std::string all;
+        for (const auto& row : form.rows.rows) all += row.marked ? 'x' : '.';
+        return all.substr(0, 6);
+    };
+    clickRow(1);
+    clickRow(3, Qt::ShiftModifier);
+    EXPECT_EQ(marked(), ".xxx..");
+    clickRow(2, Qt::ControlModifier);
+    EXPECT_EQ(marked(), ".x.x..");
+    EXPECT_EQ(form.rows.selected(), 2);
+    clickRow(0, Qt::ShiftModifier);
+    EXPECT_EQ(marked(), "xxx...") << "from the row that was chosen last";
+    form.focus = &form.listCharts;
+    input::key(desk, form, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(marked(), ".xx...") << "the other end stays";
+    clickRow(1);
+    EXPECT_EQ(marked(), ".x....") << "a click that was no drag";
+    input::key(desk, form, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(marked(), "xxxxxx");
+}
+
+TEST_F(Lists, KeysMoveAndClearTheChosenRowsAndALetterJumpsToAName) {
+    form.rows.rows[5].cells[0] = "Margin";
+    clickRow(1);
+    form.focus = &form.listCharts;
+    input::key(desk, form, Qt::Key_Up, Qt::ControlModifier);
+    input::key(desk, form, Qt::Key_Down, Qt::ControlModifier);
+    input::key(desk, form, Qt::Key_Delete);
+    for (const char* event : {"step -1", "step 1", "clear"}) EXPECT_EQ(times(event), 1) << event;
+    EXPECT_EQ(form.rows.selected(), 1);
+    input::type(desk, form, "ma");
+    EXPECT_EQ(form.rows.selected(), 5);
+}
+
+TEST_F(Lists, RowsAreDraggedToWhereTheLineShowsThem) {
+    QWidget& area = *view().viewport();
+    const auto drag = [&](int from, QPoint to) {
+        QTest::mousePress(&area, Qt::LeftButton, {}, textOf(from));
+        for (const QPoint at : {textOf(from) + QPoint(0, 12), to}) {
+            QMouseEvent move(QEvent::MouseMove, at, area.mapToGlobal(at), Qt::NoButton,
+                             Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&area, &move);
+        }
+    };
+    const auto drop = [&](QPoint at) {
+        QTest::mouseRelease(&area, Qt::LeftButton, {}, at);
+        desk.letEventsRun();
+    };
+    const QPoint lowerHalf = textOf(4) + QPoint(0, 8);
+    drag(1, lowerHalf);
+    drop(lowerHalf);
+    EXPECT_EQ(times("move 5"), 1);
+    const QPoint beyond(20, area.height() + 40);
+    drag(2, beyond);
+    QTest::keyClick(&view(), Qt::Key_Escape);
+    drop(beyond);
+    EXPECT_EQ(std::count_if(form.happened.begin(), form.happened.end(),
+                            [](const std::string& event) { return event.starts_with("move"); }),
+              1)
+        << "given up";
+    EXPECT_EQ(times("Cancel"), 0);
 }
 
 TEST_F(Lists, TheFocusAloneSelectsNothing) {

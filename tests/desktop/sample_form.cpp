@@ -104,6 +104,9 @@ void SampleForm::connectEvents() {
     listCharts.onColumnClick = [this](std::size_t column) {
         name(fmt::format("column {}", column));
     };
+    listCharts.onRowsMove = [this](std::size_t before) { name(fmt::format("move {}", before)); };
+    listCharts.onRowsStep = [this](int step) { name(fmt::format("step {}", step)); };
+    listCharts.onRowsClear = [this] { name("clear"); };
     Up.onClick = [this] { name("Up"); };
     SlideTitle.onChange = [this] { name("SlideTitle=" + SlideTitle.text()); };
     OptionPpt.onClick = [this] { name("OptionPpt"); };

@@ -24,6 +24,7 @@ public:
 
     void Form_Load() override;
     void Form_Unload() override { happened.emplace_back("unload"); }
+    void Form_Resize() override { happened.emplace_back("resize"); }
 
     std::vector<std::string> happened;
     Rows rows;

@@ -15,6 +15,7 @@ public:
         bool checked = true;
         forms::Colour colour = forms::Colour::rgb(0x1E293B);
         std::string icon;
+        bool marked = false;
     };
 
     explicit Rows(std::size_t howMany);
@@ -34,6 +35,8 @@ public:
     }
     [[nodiscard]] std::ptrdiff_t selected() const override { return selectedRow; }
     void select(std::ptrdiff_t row) override { selectedRow = row; }
+    [[nodiscard]] bool isMarked(std::size_t row) const override { return rows.at(row).marked; }
+    void setMarked(std::size_t row, bool marked) override { rows.at(row).marked = marked; }
 
     std::vector<Row> rows;
     std::ptrdiff_t selectedRow = -1;

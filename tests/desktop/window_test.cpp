@@ -214,6 +214,39 @@ TEST_F(Windows, TheWindowIsMinimisedWithItsForm) {
     EXPECT_FALSE(window(form).isMinimized());
 }
 
+TEST_F(Windows, AFormThatMayBeEnlargedIsByItsCornerAndItsTitleBar) {
+    form.resizable = true;
+    form.place.left += 15;
+    const auto sizeOf = [&] { return QSize(form.place.width, form.place.height) / 15; };
+    const QSize natural = sizeOf();
+    QWidget& corner = *window(form).findChild<QWidget*>(QStringLiteral("corner"));
+    const auto dragCorner = [&](QPoint by) {
+        const QPoint from = corner.rect().center();
+        QTest::mousePress(&corner, Qt::LeftButton, {}, from);
+        QMouseEvent move(QEvent::MouseMove, from + by, corner.mapToGlobal(from + by), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&corner, &move);
+        QTest::mouseRelease(&corner, Qt::LeftButton, {}, from);
+        desk.letEventsRun();
+    };
+    dragCorner({0, 40});
+    EXPECT_EQ(sizeOf(), natural + QSize(0, 40));
+    EXPECT_EQ(times("resize"), 1);
+    dragCorner({-500, -500});
+    EXPECT_EQ(sizeOf(), natural) << "never smaller than it is made";
+
+    const forms::Place before = form.place;
+    QWidget& bar = widgetOf<QWidget>(form.TitelBar1);
+    QTest::mouseDClick(&bar, Qt::LeftButton, {}, {200, 10});
+    desk.letEventsRun();
+    EXPECT_EQ(sizeOf(), QGuiApplication::primaryScreen()->availableGeometry().size());
+    EXPECT_EQ(desk.plateOf(form)->size(), sizeOf());
+    QTest::mouseDClick(&bar, Qt::LeftButton, {}, {200, 10});
+    desk.letEventsRun();
+    EXPECT_EQ(form.place, before);
+    EXPECT_EQ(desk.plateOf(form)->size(), natural);
+}
+
 TEST_F(Windows, ATimerTicksWhileItIsEnabledAndItsFormLoaded) {
     int ticks = 0;
     form.Timer1.onTimer = [&] {
