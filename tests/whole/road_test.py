@@ -77,9 +77,9 @@ class TheRoad(AtTheScreen):
     def test_shows_what_is_clicked_and_puts_it_on_the_slide_in_view(self):
         self.open_sample()
         hand = self.open_main_form()
-        for kind in ("Embedded", "Chart", "Range"):
+        for kind in ("chart", "chart-sheet", "range"):
             with self.subTest(kind=kind):
-                row = next(n for n, each in enumerate(hand.rows()) if each["texts"][5] == kind)
+                row = next(n for n, each in enumerate(hand.rows()) if each["icon"] == f"icon:{kind}")
                 pictures = hand.value(FORM, "imgChart")
                 hand.do("click-row", FORM, LIST, row=row)
                 # The first change takes the old picture away.

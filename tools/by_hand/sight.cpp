@@ -100,7 +100,9 @@ json rowsOf(const forms::Control& control) {
         for (std::size_t column = 0; column < list.columns.size(); ++column) {
             texts.push_back(list.rows->text(row, column));
         }
-        seen["rows"].push_back({{"checked", list.rows->isChecked(row)}, {"texts", texts}});
+        seen["rows"].push_back({{"checked", list.rows->isChecked(row)},
+                                {"icon", list.rows->icon(row)},
+                                {"texts", texts}});
     }
     return seen;
 }

@@ -30,7 +30,7 @@ bool takePicture(const desktop::QtDesktop& desktop, const forms::Form& form,
 /// [[control, what a screen reader calls it]] for the widgets that Tab leads to, in its order. A
 /// page counts as one.
 [[nodiscard]] nlohmann::json tabOrder(const desktop::QtDesktop& desktop, const std::string& form);
-/// {"selected", "columns": widths in twips, "rows": [{"checked", "texts"}]} of a list.
+/// {"selected", "columns": widths in twips, "rows": [{"checked", "icon", "texts"}]} of a list.
 [[nodiscard]] nlohmann::json rowsOf(const forms::Control& control);
 
 }  // namespace by_hand
