@@ -159,10 +159,6 @@ void PosixHost::openLink(std::string_view address) {
     ::posix_spawnp(&process, command.c_str(), nullptr, nullptr, arguments, environ);
 }
 
-void PosixHost::reportError(std::string_view text) {
-    console_.writeError(std::string(text) + "\n");
-}
-
 void PosixHost::messageBox(std::string_view text, std::string_view title) {
     console_.writeError(std::string(title) + ": " + std::string(text) + "\n");
 }

@@ -26,7 +26,6 @@ public:
     [[nodiscard]] bool fileExists(std::string_view path) override;
     [[nodiscard]] bool fileIsHeld(std::string_view path) override;
     void openLink(std::string_view address) override;
-    void reportError(std::string_view text) override;
     void messageBox(std::string_view text, std::string_view title) override;
 
 private:

@@ -43,7 +43,7 @@ std::vector<std::size_t> orderFor(const ExportList& list, std::size_t column) {
             list, [&](const ExportItem& row) { return office::numberOf(cellText(row, column)); });
     }
     return orderBy<std::string>(
-        list, [&](const ExportItem& row) { return office::lowerCase(cellText(row, column)); });
+        list, [&](const ExportItem& row) { return office::sortKey(cellText(row, column)); });
 }
 
 }  // namespace

@@ -13,14 +13,18 @@ constexpr std::int32_t visibleSheet = -1;
 
 const RowObjects::Sheet& RowObjects::sheetOf(const ExportItem& row) {
     const char* collection = row.isChartSheet() ? "Charts" : "Sheets";
-    const std::string name(office::trim(row.sheet));
-    const auto [place, isNew] = sheets_.try_emplace(std::string(collection) + "/" + name);
+    const std::string_view trimmed = office::trim(row.sheet);
+    const auto [place, isNew] = sheets_.try_emplace(std::string(collection) + "/" + row.sheet);
     Sheet& sheet = place->second;
-    if (isNew && !name.empty()) {
+    if (isNew && !trimmed.empty()) {
         office::ContinueOnFailure scope;
-        scope.attempt([&] {
-            sheet.object = session_.ActiveBook.get(collection).get("Item", name).toObject();
-        });
+        const auto lookUp = [&](std::string_view name) {
+            return scope.attempt([&] {
+                sheet.object = session_.ActiveBook.get(collection).get("Item", name).toObject();
+            });
+        };
+        // A name may begin or end with a blank of its own.
+        if (!lookUp(row.sheet) && trimmed != row.sheet) lookUp(trimmed);
         scope.attempt(
             [&] { sheet.isVisible = sheet.object.get("Visible").toLong() == visibleSheet; });
     }

@@ -1,8 +1,11 @@
 #include "office/text.h"
 
+#include <unicode/coll.h>
+#include <unicode/unistr.h>
+
 #include <algorithm>
 #include <charconv>
-#include <iterator>
+#include <memory>
 
 namespace office {
 
@@ -10,6 +13,27 @@ namespace {
 
 char lower(char letter) {
     return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
+bool isAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+icu::UnicodeString unicode(std::string_view text) {
+    return icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())});
+}
+
+/// By the user's language. A program that is started without one sorts as most languages do.
+std::unique_ptr<icu::Collator> makeCollator() {
+    const icu::Locale& users = icu::Locale::getDefault();
+    const bool isNone = std::string_view(users.getVariant()) == "POSIX";
+    UErrorCode status = U_ZERO_ERROR;
+    std::unique_ptr<icu::Collator> collator(
+        icu::Collator::createInstance(isNone ? icu::Locale::getRoot() : users, status));
+    if (U_FAILURE(status)) return nullptr;
+    collator->setStrength(icu::Collator::SECONDARY);
+    return collator;
 }
 
 }  // namespace
@@ -27,8 +51,21 @@ std::string lowerCase(std::string_view text) {
 }
 
 bool sameIgnoringCase(std::string_view left, std::string_view right) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char a, char b) { return lower(a) == lower(b); });
+    if (isAscii(left) && isAscii(right)) {
+        return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                          [](char a, char b) { return lower(a) == lower(b); });
+    }
+    return unicode(left).caseCompare(unicode(right), U_FOLD_CASE_DEFAULT) == 0;
+}
+
+std::string sortKey(std::string_view text) {
+    static const std::unique_ptr<icu::Collator> collator = makeCollator();
+    if (!collator) return lowerCase(text);
+    const icu::UnicodeString sorted = unicode(text);
+    const std::int32_t size = collator->getSortKey(sorted, nullptr, 0);
+    std::string key(static_cast<std::size_t>(size), '\0');
+    collator->getSortKey(sorted, reinterpret_cast<std::uint8_t*>(key.data()), size);
+    return key;
 }
 
 std::string replaceAll(std::string_view text, std::string_view what, std::string_view with) {

@@ -4,16 +4,22 @@
 #include <string>
 #include <string_view>
 
-/// The few text helpers that every layer needs. All text is UTF-8; case means the ASCII letters,
-/// which is all that member names, keys and kinds are made of.
+/// The few text helpers that every layer needs. All text is UTF-8.
 namespace office {
 
 /// Without leading and trailing blanks (code 32 alone, as the platform's `Trim`).
 [[nodiscard]] std::string_view trim(std::string_view text);
 
+/// In lower case, the ASCII letters alone: member names, keys and kinds hold no others.
 [[nodiscard]] std::string lowerCase(std::string_view text);
 
+/// Whether two texts are the same but for the case of letters of any script, as names of sheets,
+/// charts and members are compared.
 [[nodiscard]] bool sameIgnoringCase(std::string_view left, std::string_view right);
+
+/// Bytes that compare as the user's eye sorts the texts that they are made from: by the rules of
+/// the user's language, accents after plain letters, case aside.
+[[nodiscard]] std::string sortKey(std::string_view text);
 
 [[nodiscard]] std::string replaceAll(std::string_view text, std::string_view what,
                                      std::string_view with);

@@ -49,10 +49,6 @@ public:
     /// Opens a web address with the user's browser. Failures are silent.
     virtual void openLink(std::string_view address) = 0;
 
-    /// Tells whoever started the program why it ends without having done its work: on standard
-    /// error, as one line.
-    virtual void reportError(std::string_view text) = 0;
-
     /// The system's plain message box with an exclamation mark, for when nothing better can be
     /// shown.
     virtual void messageBox(std::string_view text, std::string_view title) = 0;

@@ -18,18 +18,18 @@ namespace session {
 
 namespace {
 
-/// Nothing running is no failure, and leaves Excel and PowerPoint empty. What it returns is why a
-/// running one could not be had, if that is so.
+/// Nothing running is no failure, and leaves Excel and PowerPoint empty. Returns why a running
+/// Excel or its workbook could not be had, if that is so.
 std::optional<office::Failure> attachApplications(OfficeSession& session) {
+    office::ContinueOnFailure needed;
     office::ContinueOnFailure scope;
-    scope.attempt([&] { session.ExcelApp = session.suite.attach("Excel.Application"); });
-    auto refusal = scope.lastFailure();
+    needed.attempt([&] { session.ExcelApp = session.suite.attach("Excel.Application"); });
     scope.attempt([&] { session.PowerPointApp = session.suite.attach("PowerPoint.Application"); });
     if (session.ExcelApp) {
         scope.attempt([&] {
             session.ExcelVersionTag = versionTag(session.ExcelApp.get("Version").toText());
         });
-        scope.attempt(
+        needed.attempt(
             [&] { session.ActiveBook = session.ExcelApp.get("ActiveWorkbook").toObject(); });
         if (session.ActiveBook) {
             scope.attempt([&] {
@@ -44,19 +44,35 @@ std::optional<office::Failure> attachApplications(OfficeSession& session) {
                 session.PowerPointApp.get("ActivePresentation").toObject();
         });
     }
-    return refusal;
+    return needed.lastFailure();
 }
 
-int reportMissing(OfficeSession& session, std::string_view command) {
-    session.host.reportError(
-        fmt::format("Murvane: this version does not have the command {} yet", command));
-    return commandMissing;
+int refuse(OfficeSession& session, std::string_view why) {
+    ShowWarningNotice(session.notices, why);
+    return commandFailed;
+}
+
+int reportNoWindows(OfficeSession& session, std::string_view command) {
+    return refuse(session, fmt::format("The command {} opens a window, and there is no screen to "
+                                       "show it on.",
+                                       command));
+}
+
+/// Runs a command that opens a window. Without a screen it has no handler.
+int show(OfficeSession& session, std::string_view command, const std::function<void()>& handler) {
+    if (!handler) return reportNoWindows(session, command);
+    handler();
+    return commandDone;
 }
 
 template <class... Args>
 int perform(OfficeSession& session, std::string_view command,
             const std::function<void(Args...)>& handler, std::type_identity_t<Args>... arguments) {
-    if (!handler) return reportMissing(session, command);
+    if (!handler) {
+        return refuse(session, fmt::format("This version of Murvane does not have the command {} "
+                                           "yet.",
+                                           command));
+    }
     handler(arguments...);
     return commandDone;
 }
@@ -67,9 +83,11 @@ void showUnassignedForm() {
     neverAssigned.call("Show");
 }
 
-/// The commands that need no application. Nothing if `command` is none of them.
+/// The commands that need no application, or ask for it themselves. Nothing if `command` is none of
+/// them.
 std::optional<int> runFreeCommand(OfficeSession& session, std::string_view command,
-                                  const CommandHandlers& handlers) {
+                                  const CommandHandlers& handlers,
+                                  const std::optional<office::Failure>& refusal) {
     if (command == "/922") {
         showUnassignedForm();
     } else if (command == "/001") {
@@ -79,9 +97,12 @@ std::optional<int> runFreeCommand(OfficeSession& session, std::string_view comma
     } else if (command == "/003") {
         OpenContactPage(session);
     } else if (command == "/004") {
-        return perform(session, command, handlers.ShowAboutForm);
+        return show(session, command, handlers.ShowAboutForm);
     } else if (command == "/006") {
-        return perform(session, command, handlers.ShowLayoutUtility);
+        if (refusal && session.ActiveBook.isNothing()) {
+            return refuse(session, refusal->description());
+        }
+        return show(session, command, handlers.ShowLayoutUtility);
     } else {
         return std::nullopt;
     }
@@ -165,16 +186,11 @@ int runSelectionCommand(OfficeSession& session, std::string_view command,
     return commandDone;
 }
 
-int reportRefusal(OfficeSession& session, const std::optional<office::Failure>& refusal) {
-    if (!refusal) return commandDone;
-    ShowWarningNotice(session.notices, refusal->description());
-    return commandFailed;
-}
-
 int runCommand(OfficeSession& session, std::string_view command, const CommandHandlers& handlers,
                const std::optional<office::Failure>& refusal) {
-    if (const auto status = runFreeCommand(session, command, handlers)) return *status;
-    if (session.ExcelApp.isNothing()) return reportRefusal(session, refusal);
+    if (const auto status = runFreeCommand(session, command, handlers, refusal)) return *status;
+    if (refusal && session.ActiveBook.isNothing()) return refuse(session, refusal->description());
+    if (session.ExcelApp.isNothing()) return commandDone;
 
     // The count is taken for every code of the rest of the chain, also for those that make nothing
     // of it.
@@ -202,8 +218,15 @@ int Main(OfficeSession& session, std::string_view commandLine, const CommandHand
 }
 
 int OpenMainForm(OfficeSession& session, const CommandHandlers& handlers) {
-    if (!handlers.ShowMainForm) return reportMissing(session, "/112");
+    if (!handlers.ShowMainForm) return reportNoWindows(session, "/112");
     session.ExcelApp.put("ScreenUpdating", true);
+    if (office::orElse([&] { return session.ActiveBook.get("ReadOnly").toBool(); }, false)) {
+        ShowWarningNotice(session.notices,
+                          "The workbook is read-only, and Murvane keeps its list in the workbook.\r"
+                          "Open it for editing or save it under another name,\r"
+                          "then reopen Murvane.");
+        return commandDone;
+    }
     // A workbook that has the sheet already takes no new one, so its protection is no hindrance.
     if (!SheetExists(session, store::sheetName) &&
         session.ActiveBook.get("ProtectStructure").toBool()) {

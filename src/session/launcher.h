@@ -14,7 +14,8 @@ enum class SlidePaste { Pictures = 0, SourceFormatting = 1, EmbeddedObject = 2, 
 enum class WordPaste { Picture, InlineEmbedded, FloatingLinked, Table };
 
 /// What the commands run that lives in higher layers. A version of the program that hasn't got one
-/// of them yet leaves it out; the command then says so and fails.
+/// of them yet leaves it out, and a run without a screen leaves out those that show a form; the
+/// command then says so in a notice and fails.
 struct CommandHandlers {
     /// Sets `ItemCount` from the active workbook.
     std::function<void()> CountWorkbookItems;
@@ -31,7 +32,6 @@ struct CommandHandlers {
 
 /// Exit statuses of a command.
 inline constexpr int commandDone = 0;
-inline constexpr int commandMissing = 1;
 inline constexpr int commandFailed = 1;
 
 /// Carries out the one command that the command line names and leaves through `CloseSession`.
@@ -42,8 +42,8 @@ inline constexpr int commandFailed = 1;
 /// reports it and ends with another status.
 int Main(OfficeSession& session, std::string_view commandLine, const CommandHandlers& handlers);
 
-/// Shows the main form and returns when it has closed. A workbook that can't take the store sheet
-/// is refused with a notice.
+/// Shows the main form and returns when it has closed. A workbook that is read-only or can't take
+/// the store sheet is refused with a notice.
 int OpenMainForm(OfficeSession& session, const CommandHandlers& handlers);
 
 }  // namespace session

@@ -58,10 +58,12 @@ protected:
         book.sheet("Shown");
         book.sheet("Hidden").hide();
         book.sheet("Deep").veryHide();
+        book.sheet(" Own blanks ");
         book.chartSheet("Overview");
         test.attach();
         list.rows = {
             row("A", " Shown ", ItemKind::Chart),
+            row("A", " Own blanks ", ItemKind::Chart),
             row("B", "Hidden", ItemKind::Chart),
             row("C", "Deep", ItemKind::Range),
             row("D", "Gone", ItemKind::Range),
@@ -74,14 +76,14 @@ protected:
 };
 
 TEST_F(RowsOnSheets, CountWhereTheirObjectCanBeSeen) {
-    EXPECT_EQ(catalogue::CountCheckedRows(list), 7);
-    EXPECT_EQ(catalogue::CountExportableRows(test.session, list), 2);
+    EXPECT_EQ(catalogue::CountCheckedRows(list), 8);
+    EXPECT_EQ(catalogue::CountExportableRows(test.session, list), 3);
 }
 
 TEST_F(RowsOnSheets, AskForEachSheetOnce) {
     for (int i = 0; i < 500; ++i) list.rows.push_back(row("A", "Shown", ItemKind::Chart));
     test.suite.log().clear();
-    EXPECT_EQ(catalogue::CountExportableRows(test.session, list), 502);
+    EXPECT_EQ(catalogue::CountExportableRows(test.session, list), 503);
     EXPECT_LE(test.suite.log().count(), 25U);
 }
 
@@ -127,8 +129,8 @@ INSTANTIATE_TEST_SUITE_P(Columns, AClickOnAColumn,
                          testing::Values(SortCase{"names, case aside",
                                                   1,
                                                   &ExportItem::name,
-                                                  {"beta", "Alpha", "alpha 2", "Beta"},
-                                                  {"Alpha", "alpha 2", "beta", "Beta"}},
+                                                  {"beta", "Übersicht", "alpha 2", "Zeit", "Beta"},
+                                                  {"alpha 2", "beta", "Beta", "Übersicht", "Zeit"}},
                                          SortCase{"slide numbers as text",
                                                   3,
                                                   &ExportItem::slideNumber,

@@ -35,9 +35,28 @@ TEST(Text, TrimsBlanksAlone) {
 }
 
 TEST(Text, IgnoresTheCaseOfLettersAlone) {
-    EXPECT_TRUE(office::sameIgnoringCase("SlideIndex", "slideindex"));
-    EXPECT_FALSE(office::sameIgnoringCase("Slide", "Slides"));
-    EXPECT_FALSE(office::sameIgnoringCase("[", "{"));
+    struct Case {
+        const char* left;
+        const char* right;
+        bool same;
+    };
+    const std::vector<Case> cases = {
+        {"SlideIndex", "slideindex", true}, {"Slide", "Slides", false},  {"[", "{", false},
+        {"ÜBERSICHT", "Übersicht", true},   {"Straße", "STRASSE", true}, {"Ελλάς", "ΕΛΛΆΣ", true},
+        {"Übersicht", "Ubersicht", false},
+    };
+    for (const Case& it : cases) {
+        EXPECT_EQ(office::sameIgnoringCase(it.left, it.right), it.same) << it.left;
+    }
+}
+
+TEST(Text, SortsAsTheEyeDoes) {
+    const std::vector<std::string> sorted = {"", "10", "9", "Apfel", "ärger", "Zebra", "日本"};
+    for (std::size_t i = 1; i < sorted.size(); ++i) {
+        EXPECT_LT(office::sortKey(sorted[i - 1]), office::sortKey(sorted[i])) << sorted[i];
+    }
+    EXPECT_EQ(office::sortKey("beta"), office::sortKey("Beta"));
+    EXPECT_NE(office::sortKey("Ubersicht"), office::sortKey("Übersicht"));
 }
 
 }  // namespace

@@ -136,13 +136,33 @@ TEST_F(Launcher, FailsWithoutClosingForTheCodeThatHasNoForm) {
     EXPECT_TRUE(test.session.ExcelApp);
 }
 
-TEST_F(Launcher, SaysThatACommandIsMissingAndFails) {
+TEST_F(Launcher, SaysTrulyWhyACommandHasNoHandlerAndFails) {
     openWorkbook();
     recorder.handlers.PasteSelectionToWord = nullptr;
+    recorder.handlers.ShowAboutForm = nullptr;
+    recorder.handlers.ShowLayoutUtility = nullptr;
+    recorder.handlers.ShowMainForm = nullptr;
     EXPECT_EQ(run("/712"), 1);
-    ASSERT_EQ(test.host.errors.size(), 1U);
-    EXPECT_NE(test.host.errors.front().find("/712"), std::string::npos);
     EXPECT_EQ(recorder.ran, (Words{"count", "unload all"}));
+    for (const char* code : {"/004", "/006", "/112"}) EXPECT_EQ(run(code), 1) << code;
+    const auto noScreen = [](const std::string& code) {
+        return "The command " + code + " opens a window, and there is no screen to show it on.";
+    };
+    EXPECT_EQ(test.notices.messages(),
+              (Words{"This version of Murvane does not have the command /712 yet.",
+                     noScreen("/004"), noScreen("/006"), noScreen("/112")}));
+}
+
+TEST_F(Launcher, SaysWhyAnExcelThatRunsCannotBeHad) {
+    openWorkbook();
+    test.suite.failures().failAlways("Application.ActiveWorkbook");
+    for (const char* code : {"/006", "/112", "/212"}) {
+        test.notices.shown.clear();
+        EXPECT_EQ(run(code), 1) << code;
+        EXPECT_EQ(test.notices.shown.size(), 1U) << code;
+        EXPECT_EQ(recorder.ran, Words{"unload all"}) << code;
+    }
+    EXPECT_EQ(run("/004"), 0);
 }
 
 TEST_F(Launcher, RefusesAnEmbeddedPasteOfCellsUnderAChart) {

@@ -79,10 +79,13 @@ TEST_F(MainForm, OpensForAProtectedWorkbookThatHasItsStore) {
     EXPECT_TRUE(test.notices.shown.empty());
 }
 
-TEST_F(MainForm, IsReportedMissingBeforeTheWorkbookIsTouched) {
-    recorder.handlers.ShowMainForm = nullptr;
-    EXPECT_EQ(run(), 1);
-    EXPECT_EQ(test.host.errors.size(), 1U);
+TEST_F(MainForm, RefusesAReadOnlyWorkbookAndSaysWhatToDo) {
+    book.readOnly();
+    run();
+    EXPECT_FALSE(formWasShown());
+    EXPECT_EQ(test.notices.messages(),
+              Words{"The workbook is read-only, and Murvane keeps its list in the workbook.\r"
+                    "Open it for editing or save it under another name,\rthen reopen Murvane."});
     EXPECT_EQ(book.findTab(session::store::sheetName), nullptr);
 }
 

@@ -47,7 +47,6 @@ public:
 
     std::vector<std::string> deletedFiles;
     std::vector<std::string> links;
-    std::vector<std::string> errors;
     std::vector<Message> messages;
 
     [[nodiscard]] std::uint32_t tickCount() override { return now; }
@@ -101,7 +100,6 @@ public:
     }
 
     void openLink(std::string_view address) override { links.emplace_back(address); }
-    void reportError(std::string_view text) override { errors.emplace_back(text); }
     void messageBox(std::string_view text, std::string_view title) override {
         messages.push_back({std::string(text), std::string(title)});
     }
