@@ -8,7 +8,6 @@
 #include "catalogue/inventory.h"
 #include "office/failure_patterns.h"
 #include "powerpoint/pictures.h"
-#include "powerpoint/start_export.h"
 #include "session/office_session.h"
 
 namespace bench {
@@ -40,12 +39,7 @@ private:
     [[nodiscard]] int loadingValue() const override { return 0; }
     void clearLoading() override {}
     void unloadLoading() override {}
-    void setTotal(int) override {}
-    void setCurrent(int) override {}
-    void setValue(int, std::string_view) override {}
-    [[nodiscard]] int value() const override { return 0; }
-    void redraw() override {}
-    void show() override { began_.push_back(Clock::now()); }
+    void showItem(int, int) override { began_.push_back(Clock::now()); }
     void unload() override {}
 
     std::vector<Clock::time_point> began_;
@@ -70,17 +64,19 @@ BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, const std::strin
     catalogue::CountWorkbookItems(session);
     catalogue::LoadItemsToForm(session, list);
     // Charts only, as the bare program takes them.
-    for (auto& row : list.rows) row.Checked = row.isEmbeddedChart() && !row.isChartSheet();
-    powerpoint::StartPowerPointExport(session, list);
+    for (auto& row : list.rows) row.checked = row.isEmbeddedChart() && !row.isChartSheet();
+    session.SessionPresentation = deck;
     session.slideTitle = true;
     session.sourceInc = true;
 
     BatchCost cost;
-    cost.items = session.CheckedCount;
     const std::uint64_t callsBefore = suite.remoteCalls();
     const auto start = std::chrono::steady_clock::now();
-    powerpoint::ExportRowsAsPictures(session, list, {});
+    const catalogue::ExportChoices choices;
+    powerpoint::Batch batch{session, list, choices, {}};
+    powerpoint::ExportRowsAsPictures(batch);
     cost.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    cost.items = session.CheckedCount;
     cost.secondsOfItems = progress.secondsOfItems();
     cost.remoteCalls = suite.remoteCalls() - callsBefore;
 

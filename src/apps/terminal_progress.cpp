@@ -6,26 +6,14 @@
 
 namespace apps {
 
-namespace {
-
-int asPercent(int value) {
-    return std::clamp(value, 0, 100);
-}
-
-}  // namespace
-
 void TerminalProgress::setLoadingValue(int percent) {
-    loading_ = asPercent(percent);
+    loading_ = std::clamp(percent, 0, 100);
     line_.show(fmt::format("Reading the workbook  {}%", loading_));
 }
 
-void TerminalProgress::setValue(int percent, std::string_view text) {
-    value_ = asPercent(percent);
-    text_ = text;
-}
-
-void TerminalProgress::show() {
-    line_.show(fmt::format("Exporting item {} of {}  {}", current_, total_, text_));
+void TerminalProgress::showItem(int item, int total) {
+    line_.show(
+        fmt::format("Exporting item {} of {}  {}%", item, total, item * 100 / std::max(total, 1)));
 }
 
 }  // namespace apps

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "apps/status_line.h"
 #include "session/progress_display.h"
 
@@ -18,21 +16,12 @@ public:
     void clearLoading() override { loading_ = 0; }
     void unloadLoading() override { line_.clear(); }
 
-    void setTotal(int items) override { total_ = items; }
-    void setCurrent(int item) override { current_ = item; }
-    void setValue(int percent, std::string_view text) override;
-    [[nodiscard]] int value() const override { return value_; }
-    void redraw() override { show(); }
-    void show() override;
+    void showItem(int item, int total) override;
     void unload() override { line_.clear(); }
 
 private:
     StatusLine& line_;
     int loading_ = 0;
-    int total_ = 0;
-    int current_ = 0;
-    int value_ = 0;
-    std::string text_;
 };
 
 }  // namespace apps

@@ -8,10 +8,15 @@ using session::ExportItem;
 using session::ExportList;
 using session::ItemKind;
 
+/// By the indexes of `Option1`.
+enum class Destination { PowerPoint, Word, Html, Pdf, ImageFiles };
+/// By the indexes of `OptionFormat`.
+enum class ExportFormat { Pictures, Editable, Embedded, Linked };
+
 /// What the main form has chosen about an export.
 struct ExportChoices {
-    int destination =
-        0;  ///< index of `Option1`: 0 PowerPoint, 1 Word, 2 HTML, 3 PDF, 4 image files
+    Destination destination = Destination::PowerPoint;
+    ExportFormat format = ExportFormat::Pictures;
     bool predefinedSlides = false;  ///< `OptionPredefSlides`; otherwise new slides at the end
 };
 

@@ -1,7 +1,6 @@
 #include "catalogue/item_preview.h"
 
-#include <string>
-
+#include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
 
 namespace catalogue {
@@ -11,11 +10,6 @@ namespace {
 using office::arg;
 using office::Object;
 using session::OfficeSession;
-
-/// A sheet-level name is shown by its tail; the quote that opened its sheet goes back in front.
-std::string previewNameOf(const ExportItem& row) {
-    return row.name.find('!') == std::string::npos ? row.name : "'" + row.name;
-}
 
 void copyChartSheet(OfficeSession& session, const ExportItem& row) {
     session.ActiveBook.get("Charts").get("Item", row.sheet).get("ChartArea").call("Copy");
@@ -37,10 +31,7 @@ PreviewCopy copyForPreview(OfficeSession& session, const ExportItem& row) {
     } else if (row.isEmbeddedChart()) {
         copyEmbeddedChart(session, row);
     } else {
-        const Object range = session.ActiveBook.get("Sheets")
-                                 .get("Item", row.sheet)
-                                 .get("Range", previewNameOf(row))
-                                 .toObject();
+        const Object range = rangeOf(session, row);
         if (range.get("Areas").get("Count").toLong() > 1) return PreviewCopy::SeveralAreas;
         range.call("Copy");
     }
@@ -55,9 +46,7 @@ void copyForFirstPreview(OfficeSession& session, const ExportItem& row) {
     } else {
         constexpr std::int32_t asOnScreen = 1;
         constexpr std::int32_t bitmap = 2;
-        session.ActiveBook.get("Names")
-            .get("Item", previewNameOf(row))
-            .get("RefersToRange")
+        rangeOf(session, row)
             .call("CopyPicture", arg("Appearance", asOnScreen), arg("Format", bitmap));
     }
 }

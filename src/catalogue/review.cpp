@@ -2,11 +2,9 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
-#include <cmath>
-#include <limits>
 #include <optional>
 
+#include "catalogue/export_run.h"
 #include "catalogue/list_rows.h"
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
@@ -74,13 +72,6 @@ Count slideCount(const session::OfficeSession& session) {
         Count());
 }
 
-/// The number that a text begins with, halves rounded to the even neighbour.
-std::int32_t slideNumberOf(std::string_view text) {
-    const double number = std::nearbyint(office::leadingNumber(text));
-    constexpr double most = std::numeric_limits<std::int32_t>::max();
-    return static_cast<std::int32_t>(std::clamp(number, -most, most));
-}
-
 /// True if the row's slide number is one of the presentation's.
 bool reviewSlideNumber(const ExportItem& row, std::int32_t slides, std::string& blockers) {
     const std::string_view text = office::trim(row.slideNumber);
@@ -145,8 +136,7 @@ void reviewPowerPoint(session::OfficeSession& session, const ExportList& list,
             "PowerPoint is not running. Open PowerPoint and a presentation, then try again.");
         return;
     }
-    session.PresentationsFound = *presentations > 0;
-    if (!session.PresentationsFound) {
+    if (*presentations == 0) {
         AddBlocker(blockers,
                    "No PowerPoint presentation is open. Open or create a presentation, then try "
                    "again.");
@@ -176,13 +166,11 @@ void reviewWord(session::OfficeSession& session, std::string& blockers) {
 
 ReviewTexts reviewExport(session::OfficeSession& session, const ExportList& list,
                          const ExportChoices& choices) {
-    constexpr int powerPoint = 0;
-    constexpr int word = 1;
     ReviewTexts texts;
     reviewItems(session, list, texts);
-    if (choices.destination == powerPoint) {
+    if (choices.destination == Destination::PowerPoint) {
         reviewPowerPoint(session, list, choices, texts.Blockers);
-    } else if (choices.destination == word) {
+    } else if (choices.destination == Destination::Word) {
         reviewWord(session, texts.Blockers);
     }
     return texts;

@@ -45,4 +45,25 @@ bool RowObjects::isMultipleAreaRow(const ExportItem& row) {
         false);
 }
 
+office::Object rangeOf(session::OfficeSession& session, const ExportItem& row) {
+    // A sheet-level name is listed without the quote that opens its sheet.
+    const std::string name = row.name.find('!') == std::string::npos ? row.name : "'" + row.name;
+    office::ContinueOnFailure scope;
+    office::Object range;
+    const bool isOnSheet = scope.attempt([&] {
+        range =
+            session.ActiveBook.get("Sheets").get("Item", row.sheet).get("Range", name).toObject();
+    });
+    if (isOnSheet && range) return range;
+    // The workbook may hold a namesake that lies on another sheet.
+    scope.attempt([&] {
+        const office::Value named =
+            session.ActiveBook.get("Names").get("Item", name).get("RefersToRange");
+        if (named.get("Worksheet").get("Name").toText() == row.sheet) {
+            range = named.toObject();
+        }
+    });
+    return range;
+}
+
 }  // namespace catalogue

@@ -35,4 +35,8 @@ private:
     std::map<std::string, Sheet> sheets_;
 };
 
+/// The range that a row of a name or a table stands for: its own sheet's, or else the workbook's.
+/// Nothing where it leads to none.
+[[nodiscard]] office::Object rangeOf(session::OfficeSession& session, const ExportItem& row);
+
 }  // namespace catalogue

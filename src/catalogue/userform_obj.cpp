@@ -14,7 +14,6 @@
 #include "furniture/theme.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
-#include "session/notices.h"
 #include "session/workbook_store.h"
 
 namespace catalogue {
@@ -26,7 +25,6 @@ constexpr forms::Twips previewWidth = 4296;
 constexpr forms::Twips previewStartWidth = 336;
 constexpr forms::Twips slidePanelWidth = 3135;
 constexpr forms::Twips captionPanelWidth = 3615;
-constexpr std::int32_t normalWindow = -4143;
 
 forms::CheckBox::State stateOf(CheckAllState state) {
     switch (state) {
@@ -50,9 +48,13 @@ bool grow(forms::Control& panel, forms::Twips fullWidth) {
 }  // namespace
 
 ExportChoices UserformObj::choices() const {
-    const auto chosen = std::find_if(Option1.begin(), Option1.end(),
-                                     [](const auto& option) { return option.value(); });
-    return {static_cast<int>(chosen - Option1.begin()), OptionPredefSlides.value()};
+    const auto chosenOf = [](const auto& options) {
+        return std::find_if(options.begin(), options.end(),
+                            [](const auto& option) { return option.value(); }) -
+               options.begin();
+    };
+    return {static_cast<Destination>(chosenOf(Option1)),
+            static_cast<ExportFormat>(chosenOf(OptionFormat)), OptionPredefSlides.value()};
 }
 
 void UserformObj::Form_Load() {
@@ -139,7 +141,6 @@ void UserformObj::OptionFormat_Click(int index) {
     for (std::size_t i = 0; i < OptionFormat.size(); ++i) {
         OptionFormat.at(i).font.bold = static_cast<int>(i) == index;
     }
-    session_.ExportFormatIndex = static_cast<std::int16_t>(index);
 }
 
 void UserformObj::OptionPredefSlides_Click() {
@@ -281,36 +282,13 @@ void UserformObj::listCharts_ItemClick(std::size_t /*row*/) {
 }
 
 void UserformObj::imgChart_DblClick() {
-    if (selectedRow() == nullptr || !hooks_.InsertOneItem) return;
+    const ExportItem* row = selectedRow();
+    if (row == nullptr || !hooks_.InsertOneItem) return;
     // Inserting lets events run, and nothing may change the rows meanwhile.
     takesInput = false;
-    const bool inserted = insertSelectedItem();
+    const bool inserted = hooks_.InsertOneItem(*row, choices());
     takesInput = true;
     if (inserted) desktop().messageBox("Done!", "Murvane");
-}
-
-bool UserformObj::insertSelectedItem() {
-    office::ContinueOnFailure scope;
-    const bool slideIsShown = scope.attempt([this] {
-        session_.CurrentSlideIndex =
-            static_cast<std::int16_t>(session_.PowerPointApp.get("ActiveWindow")
-                                          .get("View")
-                                          .get("Slide")
-                                          .get("SlideIndex")
-                                          .toLong());
-    });
-    if (!slideIsShown) {
-        session::ShowWarningNotice(
-            session_.notices,
-            "No PowerPoint presentation is open. Open or create a presentation, then try again.");
-        return false;
-    }
-    scope.attempt([this] { session_.ExcelApp.put("WindowState", normalWindow); });
-    bool inserted = false;
-    if (!scope.attempt([&] { inserted = hooks_.InsertOneItem(*selectedRow()); })) {
-        session::ShowWarningNotice(session_.notices, scope.lastFailure()->description());
-    }
-    return inserted;
 }
 
 void UserformObj::SlideTitle_Change() {

@@ -17,19 +17,14 @@
 
 namespace catalogue {
 
-/// What the main form starts that lives in higher layers. An export that this version hasn't got is
-/// left out; the form then says so.
+/// What the main form starts that lives in higher layers.
 struct MainFormHooks {
-    /// The start procedures of the destinations; each opens its options dialog.
-    std::function<void()> StartPowerPointExport;
-    std::function<void()> CheckSlideNumbersAndShowDialog;
-    std::function<void()> StartWordExport;
-    std::function<void()> StartPdfExport;
-    std::function<void()> StartHtmlExport;
-    std::function<void()> StartImageExport;
-    /// Puts one row on a slide in the format `ExportFormatIndex`, whether it is checked or not.
-    /// False if it has not been put there and the user knows.
-    std::function<bool(const ExportItem& row)> InsertOneItem;
+    /// Starts the export to the chosen destination, which opens its options dialog. False: this
+    /// version has no such export.
+    std::function<bool(ExportList& list, const ExportChoices& choices)> StartExport;
+    /// Puts one row on the slide in view, whether it is checked or not. False if it has not been
+    /// put there and the user knows.
+    std::function<bool(const ExportItem& row, const ExportChoices& choices)> InsertOneItem;
     /// Opens a page of help by the name of the button that asks for it.
     std::function<void(std::string_view buttonName)> ShowHelp;
 };
@@ -126,14 +121,12 @@ private:
     void ShowHtmlTarget();
     void ShowImageTarget();
     void showTarget(const Target& target);
-    void startExport(const std::function<void()>& start, std::string_view destination);
 
     // The list.
     [[nodiscard]] ExportItem* selectedRow();
     void recolourRows();
     void renumberRows();
     void resizeColumns();
-    [[nodiscard]] bool insertSelectedItem();
     void activateWorkbook();
 
     // Panels.

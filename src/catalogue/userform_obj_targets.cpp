@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include <array>
+#include <cstddef>
 #include <string>
 
 #include "catalogue/review.h"
@@ -104,21 +106,13 @@ void UserformObj::PasteIT_Click() {
     activateWorkbook();
     if (PreExportReview(session_, list_, choices()) != ReviewResult::Go) return;
 
-    if (OptionNewSlides.value() && Option1[0].value()) {
-        session::AttachPowerPoint(session_);
-        startExport(hooks_.StartPowerPointExport, "PowerPoint");
-    } else if (OptionPredefSlides.value() && Option1[0].value()) {
-        session::AttachPowerPoint(session_);
-        startExport(hooks_.CheckSlideNumbersAndShowDialog, "PowerPoint");
-    } else if (Option1[1].value()) {
-        startExport(hooks_.StartWordExport, "Word");
-    } else if (Option1[3].value()) {
-        startExport(hooks_.StartPdfExport, "PDF");
-    } else if (Option1[2].value()) {
-        startExport(hooks_.StartHtmlExport, "HTML");
-    } else if (Option1[4].value()) {
-        startExport(hooks_.StartImageExport, "image files");
-    }
+    if (hooks_.StartExport && hooks_.StartExport(list_, choices())) return;
+    static constexpr std::array<std::string_view, 5> names = {"PowerPoint", "Word", "HTML", "PDF",
+                                                              "image files"};
+    session::ShowNotice(session_.notices,
+                        fmt::format("The export to {} is not part of this version yet.",
+                                    names.at(static_cast<std::size_t>(choices().destination))),
+                        "Murvane", "info", session::buttons::okOnly);
 }
 
 /// The exports take the workbook that is active; the user may have looked at another one since.
@@ -131,17 +125,6 @@ void UserformObj::activateWorkbook() {
         }
     });
     session_.ActiveBook = workbook_;
-}
-
-void UserformObj::startExport(const std::function<void()>& start, std::string_view destination) {
-    if (start) {
-        start();
-        return;
-    }
-    session::ShowNotice(
-        session_.notices,
-        fmt::format("The export to {} is not part of this version yet.", destination), "Murvane",
-        "info", session::buttons::okOnly);
 }
 
 }  // namespace catalogue

@@ -2,15 +2,7 @@
 
 #include <fmt/format.h>
 
-#include <string>
-#include <utility>
-
 namespace panels {
-
-FormProgress::FormProgress(forms::Desktop& desktop, std::function<int()> checkedCount)
-    : desktop_(desktop),
-      loading_(desktop),
-      progress_(desktop, std::move(checkedCount)) {}
 
 void FormProgress::showLoading() {
     desktop_.show(loading_, forms::ShowMode::Modeless);
@@ -37,39 +29,17 @@ void FormProgress::unloadLoading() {
     loading_.prbHorizontalOnLoad.Clear();
 }
 
-void FormProgress::setTotal(int items) {
+void FormProgress::showItem(int item, int total) {
+    // A form that the user has closed stays away for the rest of the batch.
+    if (progress_.isCancelled() && !desktop_.isLoaded(progress_)) return;
     desktop_.load(progress_);
-    progress_.Of.caption = std::to_string(items);
-    progress_.RefreshProgressDisplay();
-}
-
-void FormProgress::setCurrent(int item) {
-    desktop_.load(progress_);
-    progress_.ONe.caption = std::to_string(item);
-    progress_.RefreshProgressDisplay();
-}
-
-void FormProgress::setValue(int percent, std::string_view text) {
-    desktop_.load(progress_);
-    progress_.prbHorizontal.setValue(percent);
-    progress_.prbHorizontal.caption = text;
-}
-
-int FormProgress::value() const {
-    return desktop_.isLoaded(progress_) ? progress_.prbHorizontal.value() : 0;
-}
-
-void FormProgress::redraw() {
-    desktop_.load(progress_);
-    progress_.RefreshProgressDisplay();
-}
-
-void FormProgress::show() {
+    progress_.showItem(item, total);
     if (!desktop_.isShown(progress_)) desktop_.show(progress_, forms::ShowMode::Modeless);
 }
 
 void FormProgress::unload() {
     desktop_.unload(progress_);
+    progress_.begin();
 }
 
 }  // namespace panels

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <string_view>
-
 #include "forms/desktop.h"
 #include "furniture/load_form.h"
 #include "furniture/progress_form.h"
@@ -11,11 +8,13 @@
 namespace panels {
 
 /// The progress of a run in windows: the loading form while the inventory is taken, the progress
-/// form during a batch. Whatever touches one of the two loads it, which sets it to its start.
+/// form during a batch.
 class FormProgress : public session::ProgressDisplay {
 public:
-    /// `checkedCount` tells how many items the export at hand takes.
-    FormProgress(forms::Desktop& desktop, std::function<int()> checkedCount);
+    explicit FormProgress(forms::Desktop& desktop)
+        : desktop_(desktop),
+          loading_(desktop),
+          progress_(desktop) {}
 
     void showLoading() override;
     void setLoadingValue(int percent) override;
@@ -23,12 +22,9 @@ public:
     void clearLoading() override;
     void unloadLoading() override;
 
-    void setTotal(int items) override;
-    void setCurrent(int item) override;
-    void setValue(int percent, std::string_view text) override;
-    [[nodiscard]] int value() const override;
-    void redraw() override;
-    void show() override;
+    void showItem(int item, int total) override;
+    /// The user has pressed Cancel or Escape, or has closed the form.
+    [[nodiscard]] bool cancelled() const override { return progress_.isCancelled(); }
     void unload() override;
 
 private:

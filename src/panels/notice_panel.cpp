@@ -3,8 +3,8 @@
 #include <exception>
 
 #include "office/failure.h"
+#include "panels/dialogs.h"
 #include "panels/notice_page.h"
-#include "panels/show_tool_form.h"
 
 namespace panels {
 

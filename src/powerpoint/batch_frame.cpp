@@ -1,15 +1,14 @@
 #include "powerpoint/batch_frame.h"
 
-#include <cstddef>
-#include <string>
+#include <fmt/format.h>
 
-#include "catalogue/row_objects.h"
+#include <string>
+#include <vector>
+
+#include "catalogue/export_run.h"
 #include "office/failure_patterns.h"
-#include "office/text.h"
-#include "powerpoint/numbers.h"
 #include "powerpoint/picture_styles.h"
 #include "powerpoint/placement.h"
-#include "powerpoint/progress.h"
 #include "session/powerpoint_session.h"
 #include "session/window_helpers.h"
 
@@ -18,15 +17,11 @@ namespace powerpoint {
 namespace {
 
 using catalogue::ExportItem;
+using catalogue::TakenRow;
 using office::Object;
 using session::OfficeSession;
 
 constexpr std::int32_t titleOnlyLayout = 11;
-constexpr std::int32_t normalWindow = -4143;
-constexpr std::int32_t maximisedWindow = -4137;
-constexpr int showNormal = 1;
-
-enum class RowResult { Next, EndsBatch };
 
 /// One run of the frame. What every row needs is looked up once and held.
 class BatchFrame {
@@ -34,174 +29,133 @@ public:
     BatchFrame(Batch& batch, const BatchRoute& route)
         : batch_(batch),
           session_(batch.session),
-          route_(route),
-          objects_(batch.session) {}
+          route_(route) {}
 
     void run();
 
 private:
-    enum class Target { Shown, None, AllPlaced };
-
     void prepare();
-    void addSlides();
-    void raisePowerPoint();
-    void noteSlideInView();
-    [[nodiscard]] std::int16_t slideInView() const;
-    RowResult takeRow(std::size_t index);
-    Target gotoNewSlide();
-    Target gotoNamedSlide(const ExportItem& row);
-    void exportRow(std::size_t index);
-    void finishItem(const ExportItem& row);
-    [[nodiscard]] std::int16_t countShapes() const;
+    void exportRow(const TakenRow& taken);
+    void showSlideOf(const TakenRow& taken);
+    void finishItem(const ExportItem& row, bool isThere);
+    void styleLastShape(const Object& shapes);
+    void removeSlidesLeft();
     void putBack();
 
     Batch& batch_;
     OfficeSession& session_;
     const BatchRoute& route_;
-    catalogue::RowObjects objects_;
-    Object presentation_;
+    std::vector<TakenRow> rows_;
     Object slides_;
     Object window_;
-    /// Items that have got their slide so far.
-    std::int16_t placed_ = 0;
+    /// Rows that have had their turn, also those that failed.
+    std::int32_t done_ = 0;
 };
 
 void BatchFrame::run() {
-    if (route_.keepsDialogs) session_.ExportKeepsDialogs = true;
     prepare();
-    RowResult last = RowResult::Next;
-    for (std::size_t i = 0; i < batch_.list.rows.size() && last == RowResult::Next; ++i) {
-        last = takeRow(i);
+    for (const TakenRow& taken : rows_) {
+        if (session_.progress.cancelled()) break;
+        exportRow(taken);
+        ++done_;
     }
-    if (last != RowResult::EndsBatch) session_.ExcelApp.put("ScreenUpdating", true);
-    if (route_.finishesProgress) ProgressFinish(session_);
+    const auto total = static_cast<std::int32_t>(rows_.size());
+    if (done_ < total) removeSlidesLeft();
+    session_.ExcelApp.put("ScreenUpdating", true);
     putBack();
+    if (done_ == total) return;
+    session::ShowNotice(
+        session_.notices,
+        fmt::format("The export was cancelled: {} of {} items were exported.", done_, total),
+        "Murvane", "info", session::buttons::okOnly);
 }
 
 void BatchFrame::prepare() {
     session::PrepareSlideView(session_);
-    presentation_ = session_.PowerPointApp.get("ActivePresentation").toObject();
-    slides_ = presentation_.get("Slides").toObject();
+    slides_ = session_.SessionPresentation.get("Slides").toObject();
+    window_ = session::PresentationWindow(session_);
+    rows_ = catalogue::takeRows(session_, batch_.list, batch_.choices);
     session_.SlideCountAtStart = slides_.get("Count").toLong();
-    if (!batch_.choices.predefinedSlides) addSlides();
-    session_.ExcelApp.put("WindowState", normalWindow);
-    raisePowerPoint();
-    noteSlideInView();
+    if (!batch_.choices.predefinedSlides) {
+        for (std::size_t i = 0; i < rows_.size(); ++i) {
+            slides_.call("Add", session_.SlideCountAtStart + 1, titleOnlyLayout);
+        }
+    }
+    session::SetExcelWindow(session_, session::ExcelWindow::Normal);
+    session::RaisePresentation(session_);
     session_.suite.clearClipboard();
     route_.prepareScreen(batch_);
 }
 
-void BatchFrame::addSlides() {
-    for (int i = 0; i < session_.CheckedCount; ++i) {
-        slides_.call("Add", session_.SlideCountAtStart + 1, titleOnlyLayout);
-    }
-}
-
-void BatchFrame::raisePowerPoint() {
-    const std::string caption = presentation_.get("Name").toText() + " - PowerPoint";
-    office::WindowHandle window = 0;
-    session::BringWindowToFront(session_, caption, window, showNormal);
-}
-
-void BatchFrame::noteSlideInView() {
-    const auto note = [&] {
-        window_ = session_.PowerPointApp.get("ActiveWindow").toObject();
-        session_.CurrentSlideIndex = slideInView();
+void BatchFrame::exportRow(const TakenRow& taken) {
+    const ExportItem& row = batch_.list.rows[taken.index];
+    batch_.list.selected = static_cast<std::ptrdiff_t>(taken.index);
+    const auto work = [&] {
+        showSlideOf(taken);
+        catalogue::ProgressStep(session_);
+        finishItem(row, route_.insertItem(batch_, row, session_.CurrentSlideIndex));
+        window_.get("Selection").call("Unselect");
     };
-    if (route_.noSlideInView == NoSlideInView::Fails) {
-        note();
+    if (!batch_.onFailedItem) {
+        work();
         return;
     }
     office::ContinueOnFailure scope;
-    if (scope.attempt(note)) return;
-    scope.attempt([&] { window_.get("View").call("GotoSlide", slides_.get("Count").toLong()); });
-    scope.attempt([&] { session_.CurrentSlideIndex = slideInView(); });
+    if (!scope.attempt(work)) batch_.onFailedItem(row, *scope.lastFailure());
 }
 
-std::int16_t BatchFrame::slideInView() const {
-    return shortInteger(window_.get("View").get("Slide").get("SlideIndex").toDouble());
-}
-
-RowResult BatchFrame::takeRow(std::size_t index) {
-    const ExportItem& row = batch_.list.rows[index];
-    if (objects_.isOnVisibleSheet(row)) {
-        const Target target =
-            batch_.choices.predefinedSlides ? gotoNamedSlide(row) : gotoNewSlide();
-        if (target == Target::AllPlaced) return RowResult::EndsBatch;
-        if (target == Target::None) return RowResult::Next;
-        exportRow(index);
-    } else if (row.checked) {
-        // A sheet that has gone is passed over; a workbook that has gone ends the batch here.
-        static_cast<void>(session_.ActiveBook.get("Name"));
+void BatchFrame::showSlideOf(const TakenRow& taken) {
+    if (batch_.choices.predefinedSlides) {
+        slides_.get("Item", taken.slide).call("Select");
+        session_.CurrentSlideIndex = static_cast<std::int16_t>(taken.slide);
+    } else {
+        const std::int32_t slide = session_.SlideCountAtStart + done_ + 1;
+        window_.get("View").call("GotoSlide", slide);
+        session_.CurrentSlideIndex = static_cast<std::int16_t>(slide);
     }
-    window_.get("Selection").call("Unselect");
-    return RowResult::Next;
 }
 
-BatchFrame::Target BatchFrame::gotoNewSlide() {
-    ++placed_;
-    const std::int32_t slide = placed_ + session_.SlideCountAtStart;
-    window_.get("View").call("GotoSlide", slide);
-    session_.CurrentSlideIndex = shortInteger(slide);
-    return Target::Shown;
-}
-
-BatchFrame::Target BatchFrame::gotoNamedSlide(const ExportItem& row) {
-    if (placed_ == session_.CheckedCount) return Target::AllPlaced;
-    const double number = office::leadingNumber(row.slideNumber);
-    if (number == 0) return Target::None;
-    ++placed_;
-    session_.CurrentSlideIndex = shortInteger(number);
-    slides_.get("Item", std::int32_t{session_.CurrentSlideIndex}).call("Select");
-    return Target::Shown;
-}
-
-void BatchFrame::exportRow(std::size_t index) {
-    const ExportItem& row = batch_.list.rows[index];
-    if (route_.selectsRow) batch_.list.selected = static_cast<std::ptrdiff_t>(index);
-    ProgressStep(session_, batch_.forms);
-    route_.insertItem(batch_, row, session_.CurrentSlideIndex);
-    finishItem(row);
-}
-
-void BatchFrame::finishItem(const ExportItem& row) {
-    if (!session_.DefaultPlacement) {
-        LoadSlidePlacement(session_);
-        PlaceLastShape(session_);
-    }
-    if (session_.PictureStyle > style::none) ApplyPictureStyle(session_, countShapes());
+/// An item that isn't there leaves the slide's other shapes as they are.
+void BatchFrame::finishItem(const ExportItem& row, bool isThere) {
+    const Object shapes =
+        slides_.get("Item", std::int32_t{session_.CurrentSlideIndex}).get("Shapes").toObject();
+    if (isThere && !session_.DefaultPlacement) PlaceLastShape(session_);
+    if (isThere) styleLastShape(shapes);
     if (session_.sourceInc) AddSourceLine(session_);
     if (session_.slideTitle) {
-        slides_.get("Item", std::int32_t{session_.CurrentSlideIndex})
-            .get("Shapes")
-            .get("Title")
-            .get("TextFrame")
-            .get("TextRange")
-            .put("Text", row.caption);
+        shapes.get("Title").get("TextFrame").get("TextRange").put("Text", row.caption);
     }
-    if (session_.checkShadow) {
+    if (isThere && session_.checkShadow) {
         // The option has no look of its own: it sets the style for the rest of the batch. Coming
         // after the source line, it gives the shadow to that one where there is one.
         session_.PictureStyle = style::shadow;
-        ApplyPictureStyle(session_, countShapes());
+        styleLastShape(shapes);
     }
 }
 
-std::int16_t BatchFrame::countShapes() const {
-    return shortInteger(
-        window_.get("Selection").get("SlideRange").get("Shapes").get("Count").toDouble());
+void BatchFrame::styleLastShape(const Object& shapes) {
+    if (session_.PictureStyle == style::none) return;
+    ApplyPictureStyle(session_.PictureStyle,
+                      shapes.get("Item", shapes.get("Count").toLong()).toObject());
+}
+
+/// The new slides of a cancelled batch that no item has come to.
+void BatchFrame::removeSlidesLeft() {
+    if (batch_.choices.predefinedSlides) return;
+    for (auto left = static_cast<std::int32_t>(rows_.size()); left > done_; --left) {
+        slides_.get("Item", session_.SlideCountAtStart + left).call("Delete");
+    }
 }
 
 void BatchFrame::putBack() {
     office::ContinueOnFailure scope;
     session_.progress.unload();
     session_.host.letEventsRun();
-    scope.attempt([&] { session_.ExcelApp.put("WindowState", maximisedWindow); });
+    scope.attempt([&] { session::SetExcelWindow(session_, session::ExcelWindow::Maximised); });
     // A blanket repair of whatever copying has left hidden.
     scope.attempt(
         [&] { session_.ExcelApp.get("Rows", "1:500000").get("EntireRow").put("Hidden", false); });
     scope.attempt([&] { window_.put("ViewType", std::int32_t{session_.SavedViewType}); });
-    if (route_.keepsDialogs) session_.ExportKeepsDialogs = false;
 }
 
 }  // namespace

@@ -4,50 +4,43 @@
 #include <functional>
 
 #include "catalogue/export_list.h"
-#include "session/closing.h"
+#include "office/failure.h"
 #include "session/office_session.h"
 
 namespace powerpoint {
 
-/// What a batch works on.
+/// What a batch works on. It goes to the session's presentation, whichever the user looks at
+/// meanwhile.
 struct Batch {
     session::OfficeSession& session;
     catalogue::ExportList& list;
     const catalogue::ExportChoices& choices;
-    /// How the dialogs that led here are closed, once the first item begins.
-    const session::FormHooks& forms;
-};
-
-/// What happens when the window shows no slide at the start of a batch.
-enum class NoSlideInView {
-    /// The failure goes to the caller.
-    Fails,
-    /// The last slide is shown instead.
-    ShowsLastSlide,
+    /// Told of each item that failed; the batch then goes on with the next one. Where there is
+    /// none, the failure goes to the caller.
+    std::function<void(const catalogue::ExportItem& row, const office::Failure& failure)>
+        onFailedItem;
 };
 
 /// What tells the formats of a batch apart; the frame is the same for all.
 struct BatchRoute {
-    NoSlideInView noSlideInView = NoSlideInView::Fails;
-    /// The row at hand is the list's selected one.
-    bool selectsRow = false;
-    /// `ExportKeepsDialogs` while the batch runs.
-    bool keepsDialogs = false;
-    bool finishesProgress = false;
     /// Takes Excel's drawing to the state that the items need, before the first one.
     std::function<void(Batch&)> prepareScreen;
-    /// Puts the row's object on slide `slideIndex`.
-    std::function<void(Batch&, const catalogue::ExportItem& row, std::int16_t slideIndex)>
+    /// Puts the row's object on slide `slideIndex`. False if it isn't there and the user knows.
+    std::function<bool(Batch&, const catalogue::ExportItem& row, std::int16_t slideIndex)>
         insertItem;
 };
 
-/// Walks the rows in display order and brings each taken one to its slide: to new slides at the
+/// Walks the taken rows in display order and brings each one to its slide: to new slides at the
 /// end, all added before the first item, or to the slides that the rows name. Each item is
-/// inserted, placed, styled and labelled by the options in the session.
+/// inserted, placed, styled and labelled by the options in the session. The row at hand is the
+/// list's selected one.
 ///
-/// A failure up to the last row goes to the caller and nothing is taken back: the slides stay, and
-/// Excel's drawing stays as the route has left it. What puts the windows back afterwards ignores
-/// failures.
+/// When the user cancels, the batch ends after the item at hand: what was made stays, new slides
+/// without an item go, and a notice says how far it came.
+///
+/// A failure up to the last row goes to the caller, or to `onFailedItem`, and nothing is taken
+/// back: the slides stay, and where the batch ends by it Excel's drawing stays as the route has
+/// left it. What puts the windows back afterwards ignores failures.
 void RunBatch(Batch& batch, const BatchRoute& route);
 
 }  // namespace powerpoint

@@ -119,22 +119,10 @@ private:
 
 }  // namespace
 
-void ApplyPictureStyle(session::OfficeSession& session, std::int16_t shapeIndex) {
-    const Look& look = lookOf(session.PictureStyle);
-    if (look.empty()) return;
-
+void ApplyPictureStyle(std::int16_t pictureStyle, const Object& shape) {
     office::ContinueOnFailure scope;
-    Object shape;
-    scope.attempt([&] {
-        shape = session.PowerPointApp.get("ActiveWindow")
-                    .get("Selection")
-                    .get("SlideRange")
-                    .get("Shapes")
-                    .get("Item", std::int32_t{shapeIndex})
-                    .toObject();
-    });
     StyledShape styled(shape);
-    for (const Setting& setting : look) {
+    for (const Setting& setting : lookOf(pictureStyle)) {
         scope.attempt([&] { styled.apply(setting); });
     }
 }

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "session/office_session.h"
+#include "office/value.h"
 
 namespace powerpoint {
 
@@ -16,8 +16,7 @@ inline constexpr std::int16_t reflection = 4;
 inline constexpr std::int16_t reflectionRounded = 5;
 }  // namespace style
 
-/// Gives the look `PictureStyle` to a shape of the slide selected in the window; `shapeIndex`
-/// counts from 1. A setting that the shape refuses is skipped. With `style::none` nothing happens.
-void ApplyPictureStyle(session::OfficeSession& session, std::int16_t shapeIndex);
+/// Gives a look to a shape. A setting that the shape refuses is skipped.
+void ApplyPictureStyle(std::int16_t pictureStyle, const office::Object& shape);
 
 }  // namespace powerpoint

@@ -4,20 +4,20 @@
 
 #include <string>
 
+#include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
-#include "powerpoint/batch_frame.h"
 #include "powerpoint/placement.h"
+#include "session/file_names.h"
+#include "session/window_helpers.h"
 
 namespace powerpoint {
 
 namespace {
 
+using catalogue::ExportItem;
 using office::arg;
 using office::Object;
 using session::OfficeSession;
-
-constexpr std::int32_t asOnScreen = 1;
-constexpr std::int32_t pictureFormat = -4147;
 
 void insertPictureFile(OfficeSession& session, const std::string& file, std::int16_t slideIndex,
                        std::string_view description) {
@@ -25,105 +25,126 @@ void insertPictureFile(OfficeSession& session, const std::string& file, std::int
     constexpr std::int32_t saveWithDocument = -1;
     constexpr std::int32_t naturalSize = -1;
 
-    const Object presentation =
-        session.PowerPointApp.get("Presentations").get("Item", 1).toObject();
     const Object picture =
-        presentation.get("Slides")
+        session.SessionPresentation.get("Slides")
             .get("Item", std::int32_t{slideIndex})
             .get("Shapes")
             .call("AddPicture", file, noLink, saveWithDocument, 0, 0, naturalSize, naturalSize)
             .toObject();
     session.host.letEventsRun();
-    FitPictureToSlide(picture, presentation);
+    FitPictureToSlide(picture, session.SessionPresentation);
     office::ContinueOnFailure().attempt([&] { picture.put("AlternativeText", description); });
 }
 
-void deleteQuietly(OfficeSession& session, const std::string& file) {
-    office::ContinueOnFailure().attempt([&] { session.host.deleteFile(file); });
-}
-
 /// The picture's file, made from `range` by way of a chart on its sheet: a range has no export of
-/// its own.
+/// its own. The chart goes again, whatever happens.
 void exportRange(const Object& range, const std::string& file) {
+    constexpr std::int32_t asOnScreen = 1;
+    constexpr std::int32_t pictureFormat = -4147;
+
     const Object sheet = range.get("Worksheet").toObject();
     range.call("CopyPicture", arg("Appearance", asOnScreen), arg("Format", pictureFormat));
     const Object holder =
         sheet.call("ChartObjects")
             .call("Add", 0, 0, range.get("Width").toDouble(), range.get("Height").toDouble())
             .toObject();
-    holder.call("Activate");
-    const Object chart = holder.get("Chart").toObject();
-    chart.call("Paste");
-    chart.call("Export", file, "PNG");
-    holder.call("Delete");
+    office::ContinueOnFailure scope;
+    const bool isMade = scope.attempt([&] {
+        holder.call("Activate");
+        const Object chart = holder.get("Chart").toObject();
+        chart.call("Paste");
+        chart.call("Export", file, "PNG");
+    });
+    if (isMade) {
+        holder.call("Delete");
+        return;
+    }
+    const office::Failure failure = *scope.lastFailure();
+    scope.attempt([&] { holder.call("Delete"); });
+    throw office::Failure(failure);
 }
 
-void insertRow(Batch& batch, const catalogue::ExportItem& row, std::int16_t slideIndex) {
-    const std::string& sheet = row.sheet;
-    const std::string& caption = row.caption;
-    if (row.isChartSheet()) {
-        InsertChartSheetPicture(batch.session, sheet, slideIndex, caption);
-    } else if (row.isEmbeddedChart()) {
-        InsertEmbeddedChartPicture(batch.session, sheet, row.name, slideIndex, caption);
-    } else {
-        InsertRangePicture(batch.session, row.name, slideIndex, caption);
-    }
+void exportChart(const Object& chart, const std::string& file) {
+    chart.call("Export", arg("Filename", file), arg("FilterName", "PNG"));
 }
 
 }  // namespace
 
-void ExportRowsAsPictures(OfficeSession& session, catalogue::ExportList& list,
-                          const catalogue::ExportChoices& choices,
-                          const session::FormHooks& forms) {
-    Batch batch{session, list, choices, forms};
+void ExportRowsAsPictures(Batch& batch) {
     BatchRoute route;
-    route.selectsRow = true;
     route.prepareScreen = [](Batch& b) { b.session.ExcelApp.put("ScreenUpdating", false); };
-    route.insertItem = insertRow;
+    route.insertItem = [](Batch& b, const ExportItem& row, std::int16_t slideIndex) {
+        return InsertPicture(b.session, row, slideIndex);
+    };
     RunBatch(batch, route);
 }
 
-void InsertChartSheetPicture(OfficeSession& session, std::string_view sheetName,
-                             std::int16_t slideIndex, std::string_view caption) {
-    // One name for every chart sheet: the file of the last one is what stays in the folder.
-    const std::string file = session.host.temporaryFile("EmbeddedChart_.png");
-    session.ActiveBook.get("Charts")
-        .get("Item", sheetName)
-        .call("Export", arg("Filename", file), arg("FilterName", "PNG"));
-    insertPictureFile(session, file, slideIndex, caption.empty() ? sheetName : caption);
-}
-
-void InsertEmbeddedChartPicture(OfficeSession& session, std::string_view sheetName,
-                                std::string_view chartName, std::int16_t slideIndex,
-                                std::string_view caption) {
-    const std::string file =
-        session.host.temporaryFile(fmt::format("EmbeddedChart_{}.png", chartName));
-    session.ActiveBook.get("Sheets")
-        .get("Item", sheetName)
-        .call("ChartObjects")
-        .get("Item", chartName)
-        .get("Chart")
-        .call("Export", arg("Filename", file), arg("FilterName", "PNG"));
-    insertPictureFile(session, file, slideIndex, caption.empty() ? chartName : caption);
-    deleteQuietly(session, file);
-}
-
-void InsertRangePicture(OfficeSession& session, std::string_view rangeName, std::int16_t slideIndex,
-                        std::string_view caption) {
-    Object range;
-    office::ContinueOnFailure().attempt([&] {
-        range =
-            session.ActiveBook.get("Names").get("Item", rangeName).get("RefersToRange").toObject();
-    });
-    if (!range) {
-        session::ShowWarningNotice(
-            session.notices, fmt::format("? Named range '{}' not found or invalid.", rangeName));
-        return;
+bool InsertPicture(OfficeSession& session, const ExportItem& row, std::int16_t slideIndex) {
+    const auto temporaryFile = [&](std::string_view kind, std::string_view name) {
+        return session.host.temporaryFile(
+            fmt::format("{}_{}.png", kind, session::safeFileName(name)));
+    };
+    const std::string& sheet = row.sheet;
+    const std::string& name = row.isChartSheet() ? sheet : row.name;
+    const std::string& caption = row.caption;
+    const std::string& description = caption.empty() ? name : caption;
+    std::string file;
+    if (row.isChartSheet()) {
+        // One name for every chart sheet: the file of the last one is what stays in the folder.
+        file = temporaryFile("EmbeddedChart", "");
+        exportChart(session.ActiveBook.get("Charts").get("Item", sheet).toObject(), file);
+    } else if (row.isEmbeddedChart()) {
+        file = temporaryFile("EmbeddedChart", name);
+        exportChart(session.ActiveBook.get("Sheets")
+                        .get("Item", sheet)
+                        .call("ChartObjects")
+                        .get("Item", name)
+                        .get("Chart")
+                        .toObject(),
+                    file);
+    } else {
+        const Object range = catalogue::rangeOf(session, row);
+        if (!range) {
+            session::ShowWarningNotice(
+                session.notices, fmt::format("? Named range '{}' not found or invalid.", name));
+            return false;
+        }
+        file = temporaryFile("Range", name);
+        exportRange(range, file);
     }
-    const std::string file = session.host.temporaryFile(fmt::format("Range_{}.png", rangeName));
-    exportRange(range, file);
-    insertPictureFile(session, file, slideIndex, caption.empty() ? rangeName : caption);
-    deleteQuietly(session, file);
+    insertPictureFile(session, file, slideIndex, description);
+    if (!row.isChartSheet()) {
+        office::ContinueOnFailure().attempt([&] { session.host.deleteFile(file); });
+    }
+    return true;
+}
+
+bool InsertOneItem(OfficeSession& session, const ExportItem& row,
+                   const catalogue::ExportChoices& choices) {
+    if (choices.format != catalogue::ExportFormat::Pictures) {
+        session::ShowNotice(session.notices, "This output format is not part of this version yet.",
+                            "Murvane", "info", session::buttons::okOnly);
+        return false;
+    }
+    office::ContinueOnFailure scope;
+    const bool slideIsShown = scope.attempt([&] {
+        const Object& app = session.PowerPointApp;
+        session.SessionPresentation = app.get("ActivePresentation").toObject();
+        session.CurrentSlideIndex = static_cast<std::int16_t>(
+            app.get("ActiveWindow").get("View").get("Slide").get("SlideIndex").toLong());
+    });
+    if (!slideIsShown) {
+        session::ShowWarningNotice(
+            session.notices,
+            "No PowerPoint presentation is open. Open or create a presentation, then try again.");
+        return false;
+    }
+    scope.attempt([&] { session::SetExcelWindow(session, session::ExcelWindow::Normal); });
+    bool isThere = false;
+    if (!scope.attempt([&] { isThere = InsertPicture(session, row, session.CurrentSlideIndex); })) {
+        session::ShowWarningNotice(session.notices, scope.lastFailure()->description());
+    }
+    return isThere;
 }
 
 }  // namespace powerpoint

@@ -1,35 +1,27 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
 
-#include "catalogue/export_list.h"
-#include "session/closing.h"
-#include "session/office_session.h"
+#include "powerpoint/batch_frame.h"
 
 /// The picture route: each object is exported by Excel to a PNG file in the temporary folder,
-/// inserted into the first open presentation, and the file is deleted.
+/// inserted into the session's presentation, and the file is deleted.
 namespace powerpoint {
 
-/// Exports the taken rows as pictures. Failures go to the caller, see `RunBatch`.
-void ExportRowsAsPictures(session::OfficeSession& session, catalogue::ExportList& list,
-                          const catalogue::ExportChoices& choices,
-                          const session::FormHooks& forms = {});
+/// Exports the taken rows as pictures. Failures as with `RunBatch`.
+void ExportRowsAsPictures(Batch& batch);
 
-/// One item each, on slide `slideIndex` (from 1) of the first open presentation, which need not be
-/// the active one. The picture's alternative text is `caption`, or the object's own name where that
-/// is empty. Failures go to the caller.
-
+/// Puts one row's object on slide `slideIndex` (from 1) of the session's presentation. The
+/// picture's alternative text is the row's caption, or the object's own name where that is empty.
+/// False if the row leads to no range: a notice has then said so. Failures go to the caller.
+///
 /// The file of a chart sheet's picture stays, and the next chart sheet's overwrites it.
-void InsertChartSheetPicture(session::OfficeSession& session, std::string_view sheetName,
-                             std::int16_t slideIndex, std::string_view caption = {});
+bool InsertPicture(session::OfficeSession& session, const catalogue::ExportItem& row,
+                   std::int16_t slideIndex);
 
-void InsertEmbeddedChartPicture(session::OfficeSession& session, std::string_view sheetName,
-                                std::string_view chartName, std::int16_t slideIndex,
-                                std::string_view caption = {});
-
-/// A name that leads to no range gets a notice, and nothing is inserted.
-void InsertRangePicture(session::OfficeSession& session, std::string_view rangeName,
-                        std::int16_t slideIndex, std::string_view caption = {});
+/// Puts one row on the slide in view of the active presentation, whether it is checked or not. True
+/// if it is there; otherwise a notice has said why not.
+bool InsertOneItem(session::OfficeSession& session, const catalogue::ExportItem& row,
+                   const catalogue::ExportChoices& choices);
 
 }  // namespace powerpoint

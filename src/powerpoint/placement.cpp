@@ -1,10 +1,10 @@
 #include "powerpoint/placement.h"
 
+#include <algorithm>
+#include <cmath>
 #include <string>
 
 #include "office/failure_patterns.h"
-#include "office/text.h"
-#include "powerpoint/numbers.h"
 #include "session/window_lock.h"
 #include "session/workbook_store.h"
 
@@ -13,15 +13,16 @@ namespace powerpoint {
 namespace {
 
 using office::Object;
-using office::Value;
 using session::OfficeSession;
 
 /// The widest and highest that an inserted picture may be, and the width of a placed shape, as a
 /// share of the slide's.
 constexpr double defaultShare = 0.9;
 constexpr double bottomShare = 0.95;
+/// What a placed shape keeps of the slide's width and height, whatever the store says: it stays
+/// visible.
+constexpr double smallestShare = 0.05;
 constexpr double titleClearance = 1.05;
-constexpr double gapBelowTitlePt = 5;
 constexpr std::int32_t paleGrey = 178 | (178 << 8) | (178 << 16);
 
 struct SlideSize {
@@ -34,64 +35,47 @@ SlideSize slideSizeOf(const Object& presentation) {
     return {setup.get("SlideWidth").toDouble(), setup.get("SlideHeight").toDouble()};
 }
 
-Object slideOf(const Object& presentation, std::int16_t index) {
-    return presentation.get("Slides").get("Item", std::int32_t{index}).toObject();
+Object shapesOfSlide(const OfficeSession& session) {
+    return session.SessionPresentation.get("Slides")
+        .get("Item", std::int32_t{session.CurrentSlideIndex})
+        .get("Shapes")
+        .toObject();
 }
 
-bool isDefaultWord(const Value& value) {
-    return value.isText() && value.toText() == "Default";
-}
-
-Object selectionOf(const OfficeSession& session) {
-    return session.PowerPointApp.get("ActiveWindow").get("Selection").toObject();
-}
-
-void readTitle(OfficeSession& session, const Object& presentation) {
-    // The question is about the slide of the window's selection, the answer about the slide being
-    // worked on. The two are meant to be one, and nothing checks that they are.
-    const Object shown = selectionOf(session).get("SlideRange").get("Shapes").toObject();
-    if (!shown.get("HasTitle").toBool()) return;
-    const Object title =
-        slideOf(presentation, session.CurrentSlideIndex).get("Shapes").get("Title").toObject();
+/// The title of the slide being worked on; one that has none keeps what the slide before had.
+void readTitle(OfficeSession& session, const Object& shapes) {
+    if (!shapes.get("HasTitle").toBool()) return;
+    const Object title = shapes.get("Title").toObject();
     session.TitleTop = title.get("Top").toDouble();
     session.TitleHeight = title.get("Height").toDouble();
-    session.TitleWidth = title.get("Width").toDouble();
 }
 
-void readPlacement(OfficeSession& session) {
-    const session::Placement stored = session::readStoredPlacement(session);
-    const Object presentation = session.PowerPointApp.get("ActivePresentation").toObject();
-    readTitle(session, presentation);
-
-    if (stored.top) {
-        session.TopPct = *stored.top;
-    } else {
-        const double heightPt = presentation.get("PageSetup").get("SlideHeight").toDouble();
-        session.TopPct = (session.TitleHeight + session.TitleTop) * titleClearance / heightPt;
-    }
-    session.WidthPct = stored.width.value_or(defaultShare);
-    session.LeftPct = stored.left ? Value(*stored.left) : Value("Default");
+/// Half of a length in whole points: the length is rounded to whole points first (halves to the
+/// even neighbour), then halved and cut towards zero.
+double halfInWholePoints(double lengthPt) {
+    return std::trunc(std::nearbyint(lengthPt) / 2);
 }
 
-double topOf(const OfficeSession& session, const SlideSize& slide) {
-    if (session.TopPct.isBlank() || isDefaultWord(session.TopPct)) {
-        return gapBelowTitlePt + (session.TitleTop + session.TitleHeight);
-    }
-    return office::leadingNumber(session.TopPct.toText()) * slide.heightPt;
+double topOf(const session::Placement& placement, const OfficeSession& session,
+             const SlideSize& slide) {
+    const double topPt = placement.top ? *placement.top * slide.heightPt
+                                       : (session.TitleTop + session.TitleHeight) * titleClearance;
+    return std::clamp(topPt, 0.0, slide.heightPt * (bottomShare - smallestShare));
 }
 
-double leftOf(const OfficeSession& session, const SlideSize& slide, double shapeWidthPt) {
-    if (isDefaultWord(session.LeftPct)) return halfInWholePoints(slide.widthPt - shapeWidthPt);
-    return office::leadingNumber(session.LeftPct.toText()) * slide.widthPt;
+double leftOf(const session::Placement& placement, const SlideSize& slide, double shapeWidthPt) {
+    if (!placement.left) return halfInWholePoints(slide.widthPt - shapeWidthPt);
+    return slide.widthPt * std::clamp(*placement.left, 0.0, 1 - smallestShare);
 }
 
 /// `shape` keeps its proportions while it is moved: each change of a width or a height changes the
 /// other one too, so both are read back after it.
-void moveShape(const OfficeSession& session, const Object& shape, const SlideSize& slide) {
+void moveShape(const Object& shape, double topPt, const session::Placement& placement,
+               const SlideSize& slide) {
     shape.put("LockAspectRatio", true);
-    const double topPt = topOf(session, slide);
     shape.put("Top", topPt);
-    shape.put("Width", slide.widthPt * session.WidthPct.toDouble());
+    const double share = placement.width.value_or(defaultShare);
+    shape.put("Width", slide.widthPt * std::clamp(share, smallestShare, 1.0));
     double widthPt = shape.get("Width").toDouble();
 
     const double placedTopPt = shape.get("Top").toDouble();
@@ -102,7 +86,7 @@ void moveShape(const OfficeSession& session, const Object& shape, const SlideSiz
     }
 
     // The cut at the right edge does not change the width that centres the shape.
-    const double leftPt = leftOf(session, slide, widthPt);
+    const double leftPt = leftOf(placement, slide, widthPt);
     shape.put("Left", leftPt);
     const double placedLeftPt = shape.get("Left").toDouble();
     if (placedLeftPt + shape.get("Width").toDouble() > slide.widthPt) {
@@ -134,48 +118,38 @@ void FitPictureToSlide(const Object& picture, const Object& presentation) {
     picture.put("Top", (slide.heightPt - heightPt) / 2);
 }
 
-void LoadSlidePlacement(OfficeSession& session) {
-    office::ContinueOnFailure().attempt([&] { readPlacement(session); });
-}
-
 void PlaceLastShape(OfficeSession& session) {
     if (!session::SheetExists(session, session::store::sheetName)) return;
     {
         const session::PowerPointWindowLockScope lock(session);
-        if (session.PowerPointApp) {
-            session.SessionPresentation =
-                session.PowerPointApp.get("ActivePresentation").toObject();
-        }
-        const Object shapes = slideOf(session.SessionPresentation, session.CurrentSlideIndex)
-                                  .get("Shapes")
-                                  .toObject();
-        shapes.get("Item", shapes.get("Count").toLong()).call("Select");
-        moveShape(session, selectionOf(session).get("ShapeRange").toObject(),
-                  slideSizeOf(session.SessionPresentation));
+        const SlideSize slide = slideSizeOf(session.SessionPresentation);
+        const Object shapes = shapesOfSlide(session);
+        // What can't be read is left to the program's choice.
+        office::ContinueOnFailure scope;
+        session::Placement placement;
+        scope.attempt([&] { placement = session::readStoredPlacement(session); });
+        scope.attempt([&] { readTitle(session, shapes); });
+        moveShape(shapes.get("Item", shapes.get("Count").toLong()).toObject(),
+                  topOf(placement, session, slide), placement, slide);
     }
     session.suite.clearClipboard();
 }
 
 void AddSourceLine(OfficeSession& session) {
     const std::string path = session.ActiveBook.get("FullName").toText();
-    const Object selection = selectionOf(session);
     // The place is fixed, whatever the slide's size.
-    const Object label = selection.get("SlideRange")
-                             .get("Shapes")
+    const Object frame = shapesOfSlide(session)
                              .call("AddLabel", 1, 20.25, 518.0, 8.5, 28.875)
+                             .get("TextFrame")
                              .toObject();
-    label.call("Select");
     // Without wrapping the label grows from its narrow start to the length of the path.
-    label.get("TextFrame").put("WordWrap", false);
-
-    const Object text = selection.get("ShapeRange").get("TextFrame").get("TextRange").toObject();
-    text.call("Characters", office::arg("Start", 1), office::arg("Length", 0)).call("Select");
+    frame.put("WordWrap", false);
+    const Object text = frame.get("TextRange").toObject();
     text.put("Text", path);
     const Object font = text.get("Font").toObject();
     font.put("Name", "Tahoma");
     font.put("Size", 10);
     font.put("Color", paleGrey);
-    selection.call("Unselect");
 }
 
 }  // namespace powerpoint

@@ -25,4 +25,21 @@ void requireFileName(std::string_view name) {
                           fmt::format("\"{}\" can't be the name of a file", name));
 }
 
+std::string safeFileName(std::string_view name) {
+    constexpr std::size_t longest = 150;
+    constexpr std::string_view reserved = "%:*?\"<>|";
+    std::string safe;
+    for (const char sign : name) {
+        const auto code = static_cast<unsigned char>(sign);
+        const bool beginsCharacter = (code & 0xC0U) != 0x80U;
+        if (safe.size() >= longest && beginsCharacter) break;
+        if (leadsElsewhere(sign) || reserved.find(sign) != std::string_view::npos) {
+            safe += fmt::format("%{:02X}", code);
+        } else {
+            safe += sign;
+        }
+    }
+    return safe;
+}
+
 }  // namespace session

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace session {
@@ -9,5 +10,9 @@ namespace session {
 /// ('/' or '\') or a control character. Names made from workbook names go through here, so that
 /// none of them leads to another folder.
 void requireFileName(std::string_view name);
+
+/// A name as a part of a file name, for files whose names are the program's to choose: what a file
+/// name can't hold on some system stands as "%2F", and what is too long is cut.
+[[nodiscard]] std::string safeFileName(std::string_view name);
 
 }  // namespace session

@@ -213,7 +213,7 @@ int Main(OfficeSession& session, std::string_view commandLine, const CommandHand
         const auto refusal = attachApplications(session);
         status = runCommand(session, command, handlers, refusal);
     }
-    CloseSession(session, handlers.forms);
+    CloseSession(session, handlers.UnloadAllForms);
     return status;
 }
 

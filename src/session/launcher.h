@@ -27,7 +27,7 @@ struct CommandHandlers {
     std::function<void(SlidePaste)> PasteSelectionToSlide;
     std::function<void(WordPaste)> PasteSelectionToWord;
     std::function<void()> SaveSelectionAsImage;
-    FormHooks forms;
+    std::function<void()> UnloadAllForms;
 };
 
 /// Exit statuses of a command.

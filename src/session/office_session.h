@@ -4,7 +4,6 @@
 #include <string>
 
 #include "office/suite.h"
-#include "office/value.h"
 #include "session/host.h"
 #include "session/notices.h"
 #include "session/progress_display.h"
@@ -39,19 +38,12 @@ struct OfficeSession {
     std::int16_t CurrentSlideIndex = 0;
     std::int16_t SavedViewType = 0;
     bool PowerPointFound = false;
-    bool PresentationsFound = false;
     bool MainFormOpen = false;
     bool MainFormStarted = false;
-    bool PowerPointDialogOpen = false;
-    bool WordDialogOpen = false;
-    bool HtmlDialogOpen = false;
-    bool ImageDialogOpen = false;
     std::int16_t ItemCount = 0;
     office::WindowHandle PowerPointFrameHandle = 0;
     /// 1 once `/3122` has looked for charts under the selection.
     std::int16_t EmbeddedSelectionRun = 0;
-    /// True while an export's end unloads the main form.
-    bool ClosingMainForm = false;
 
     /// Values of one export run.
     std::int16_t CheckedCount = 0;
@@ -60,20 +52,13 @@ struct OfficeSession {
     /// True: no placement by the user, the shape stays as inserted.
     bool DefaultPlacement = true;
     std::int16_t PictureStyle = 0;
-    std::int16_t ExportFormatIndex = 0;
-    bool ExportKeepsDialogs = false;
     bool slideTitle = false;
     bool sourceInc = false;
     bool checkShadow = false;
 
-    /// Placement: fractions of the slide's height and width, or the text "Default" or "".
-    office::Value TopPct;
-    office::Value WidthPct;
-    office::Value LeftPct;
     /// Points; those of the slide last looked at that had a title.
     double TitleTop = 0;
     double TitleHeight = 0;
-    double TitleWidth = 0;
 };
 
 }  // namespace session

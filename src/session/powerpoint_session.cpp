@@ -1,6 +1,9 @@
 #include "session/powerpoint_session.h"
 
+#include <string>
+
 #include "office/failure_patterns.h"
+#include "session/window_helpers.h"
 
 namespace session {
 
@@ -8,18 +11,14 @@ namespace {
 
 constexpr std::int16_t normalView = 9;
 
-void endShowAndNoteView(OfficeSession& session, office::ContinueOnFailure& scope) {
-    const office::Object& app = session.PowerPointApp;
-    scope.attempt([&] { session.suite.clearClipboard(); });
-    scope.attempt([&] {
-        if (app.get("SlideShowWindows").get("Count").toLong() > 0) {
-            app.get("ActivePresentation").get("SlideShowWindow").get("View").call("Exit");
-        }
-    });
-    scope.attempt([&] {
-        session.SavedViewType =
-            static_cast<std::int16_t>(app.get("ActiveWindow").get("ViewType").toLong());
-    });
+void endShow(OfficeSession& session, const office::Object& presentation) {
+    if (session.PowerPointApp.get("SlideShowWindows").get("Count").toLong() > 0) {
+        presentation.get("SlideShowWindow").get("View").call("Exit");
+    }
+}
+
+void noteView(OfficeSession& session, const office::Object& window) {
+    session.SavedViewType = static_cast<std::int16_t>(window.get("ViewType").toLong());
 }
 
 }  // namespace
@@ -31,23 +30,33 @@ void AttachPowerPoint(OfficeSession& session) {
     session.PowerPointFound = !session.PowerPointApp.isNothing();
 }
 
-void CheckPresentations(OfficeSession& session) {
-    session.PresentationsFound =
-        session.PowerPointApp.get("Presentations").get("Count").toLong() > 0;
+office::Object PresentationWindow(const OfficeSession& session) {
+    return session.SessionPresentation.get("Windows").get("Item", 1).toObject();
+}
+
+void RaisePresentation(OfficeSession& session) {
+    constexpr int showNormal = 1;
+    const std::string caption = session.SessionPresentation.get("Name").toText() + " - PowerPoint";
+    office::WindowHandle window = 0;
+    BringWindowToFront(session, caption, window, showNormal);
 }
 
 void PrepareSlideView(OfficeSession& session) {
     office::ContinueOnFailure scope;
     session.ProgressCount = 0;
-    endShowAndNoteView(session, scope);
+    scope.attempt([&] { session.suite.clearClipboard(); });
+    scope.attempt([&] { endShow(session, session.SessionPresentation); });
+    scope.attempt([&] { noteView(session, PresentationWindow(session)); });
 }
 
 void ExitShowNormalView(OfficeSession& session) {
     office::ContinueOnFailure scope;
-    endShowAndNoteView(session, scope);
+    const office::Object& app = session.PowerPointApp;
+    scope.attempt([&] { session.suite.clearClipboard(); });
+    scope.attempt([&] { endShow(session, app.get("ActivePresentation").toObject()); });
+    scope.attempt([&] { noteView(session, app.get("ActiveWindow").toObject()); });
     if (session.SavedViewType != normalView) {
-        scope.attempt(
-            [&] { session.PowerPointApp.get("ActiveWindow").put("ViewType", int{normalView}); });
+        scope.attempt([&] { app.get("ActiveWindow").put("ViewType", int{normalView}); });
     }
 }
 

@@ -9,8 +9,11 @@ namespace session {
 /// Takes the running PowerPoint, or leaves `PowerPointApp` empty. Sets `PowerPointFound`.
 void AttachPowerPoint(OfficeSession& session);
 
-/// Sets `PresentationsFound`. Plain code: needs a `PowerPointApp` that answers.
-void CheckPresentations(OfficeSession& session);
+/// The window of the session's presentation. Failures go to the caller.
+[[nodiscard]] office::Object PresentationWindow(const OfficeSession& session);
+
+/// Brings that window to the front, by its caption. Nothing moves where there is none.
+void RaisePresentation(OfficeSession& session);
 
 /// Ahead of a batch: no progress yet, an empty clipboard, no running show; notes the view type and
 /// leaves it alone, since a batch works in whatever view the user has. Failures are passed over.

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 namespace session {
 
 /// Where a run shows how far it is: the loading bar while the inventory is taken, the progress form
@@ -21,14 +19,10 @@ public:
     virtual void clearLoading() = 0;
     virtual void unloadLoading() = 0;
 
-    /// The labels of the progress form: the total, and the item at hand.
-    virtual void setTotal(int items) = 0;
-    virtual void setCurrent(int item) = 0;
-    /// The bar `prbHorizontal` of the progress form, in percent, and its text.
-    virtual void setValue(int percent, std::string_view text) = 0;
-    [[nodiscard]] virtual int value() const = 0;
-    virtual void redraw() = 0;
-    virtual void show() = 0;
+    /// Says that a batch is at its item `item` of `total`; 0 ahead of the first one.
+    virtual void showItem(int item, int total) = 0;
+    /// Whether the user wants the batch to end after the item at hand.
+    [[nodiscard]] virtual bool cancelled() const { return false; }
     virtual void unload() = 0;
 };
 

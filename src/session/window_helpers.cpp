@@ -2,6 +2,10 @@
 
 namespace session {
 
+void SetExcelWindow(OfficeSession& session, ExcelWindow state) {
+    session.ExcelApp.put("WindowState", static_cast<std::int32_t>(state));
+}
+
 office::WindowHandle FindWindowByCaption(OfficeSession& session, std::string_view caption,
                                          std::string_view className) {
     return session.suite.findWindow(className, caption);

@@ -1,10 +1,15 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 #include "session/office_session.h"
 
 namespace session {
+
+enum class ExcelWindow : std::int32_t { Normal = -4143, Maximised = -4137 };
+
+void SetExcelWindow(OfficeSession& session, ExcelWindow state);
 
 /// The top window with this caption; an empty class name means any class. 0 if there is none.
 [[nodiscard]] office::WindowHandle FindWindowByCaption(OfficeSession& session,

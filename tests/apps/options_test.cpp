@@ -116,7 +116,7 @@ INSTANTIATE_TEST_SUITE_P(
         WrongUsage{"unknown destination", {"b.xlsx", "--list", "--to", "paper"}, "paper"},
         WrongUsage{"share beyond one", {"b.xlsx", "--list", "--top", "1.5"}, "--top"},
         WrongUsage{"share below nothing", {"b.xlsx", "--list", "--left", "-0.1"}, "--left"},
-        WrongUsage{"no width", {"b.xlsx", "--list", "--width", "0"}, "--width"},
+        WrongUsage{"too wide", {"b.xlsx", "--list", "--width", "1.2"}, "--width"},
         WrongUsage{"percent", {"b.xlsx", "--list", "--width", "90%"}, "90%"}));
 
 TEST(Options, HelpShowsExamplesAndExitCodes) {

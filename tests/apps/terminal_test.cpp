@@ -38,13 +38,8 @@ TEST(TerminalProgress, ShowsTheItemAndTheShare) {
     console.isTerminal = true;
     apps::StatusLine line(console, true);
     apps::TerminalProgress progress(line);
-    progress.setTotal(12);
-    progress.setValue(25, "25%");
-    progress.setCurrent(3);
-    progress.show();
+    progress.showItem(3, 12);
     EXPECT_TRUE(console.errorHas("Exporting item 3 of 12  25%"));
-    progress.setValue(250, "250%");
-    EXPECT_EQ(progress.value(), 100);
     progress.setLoadingValue(140);
     EXPECT_EQ(progress.loadingValue(), 100);
     progress.clearLoading();

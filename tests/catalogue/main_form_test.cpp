@@ -24,6 +24,7 @@ protected:
     TestSession test;
     forms_double::WindowlessDesktop desktop;
     int started = 0;
+    catalogue::ExportChoices choices;
     std::vector<std::string> inserted;
     MainFormHooks hooks;
 
@@ -35,9 +36,13 @@ protected:
         sales.value("A1", 1.0).define("Parts", "A1:A5,C1:C5").define("Whole", "A1:B2");
         test.suite.powerPoint().addPresentation("Deck.pptx").addSlides(2);
         test.attach();
-        hooks.StartPowerPointExport = [this] { ++started; };
-        hooks.CheckSlideNumbersAndShowDialog = [this] { ++started; };
-        hooks.InsertOneItem = [this](const catalogue::ExportItem& row) {
+        hooks.StartExport = [this](catalogue::ExportList&, const catalogue::ExportChoices& chosen) {
+            choices = chosen;
+            ++started;
+            return chosen.destination == catalogue::Destination::PowerPoint;
+        };
+        hooks.InsertOneItem = [this](const catalogue::ExportItem& row,
+                                     const catalogue::ExportChoices&) {
             inserted.push_back(row.name);
             return true;
         };
@@ -184,14 +189,13 @@ TEST_F(TheMainForm, putsOneItemOnTheSlideThatIsShown) {
     form.listCharts.click(1);
     form.imgChart.onDblClick();
     EXPECT_EQ(inserted, std::vector<std::string>{"Chart 2"});
-    EXPECT_EQ(test.session.CurrentSlideIndex, 1);
     ASSERT_FALSE(desktop.messages.empty());
     EXPECT_EQ(desktop.messages.back().text, "Done!");
 }
 
 TEST_F(TheMainForm, takesNoInputWhileAnItemIsPutOnItsSlide) {
     bool tookInput = true;
-    hooks.InsertOneItem = [&](const catalogue::ExportItem&) {
+    hooks.InsertOneItem = [&](const catalogue::ExportItem&, const catalogue::ExportChoices&) {
         tookInput = desktop.findLoaded("UserformObj")->takesInput;
         return false;
     };
@@ -203,35 +207,32 @@ TEST_F(TheMainForm, takesNoInputWhileAnItemIsPutOnItsSlide) {
     EXPECT_TRUE(desktop.messages.empty()) << "nothing was done";
 }
 
-TEST_F(TheMainForm, saysWhyOneItemCouldNotBePutOnASlideAndStays) {
-    hooks.InsertOneItem = [](const catalogue::ExportItem&) -> bool {
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "Chart.Export", "No room");
-    };
-    UserformObj form(desktop, test.session, hooks);
-    show(form);
-    form.imgChart.onDblClick();
-    ASSERT_EQ(test.notices.shown.size(), 1U);
-    EXPECT_EQ(test.notices.shown[0].message, "No room");
-    test.session.PowerPointApp.get("ActivePresentation").call("Close");
-    form.imgChart.onDblClick();
-    ASSERT_EQ(test.notices.shown.size(), 2U);
-    EXPECT_EQ(test.notices.shown[1].message,
-              "No PowerPoint presentation is open. Open or create a presentation, then try again.");
-    EXPECT_TRUE(desktop.messages.empty());
-    EXPECT_TRUE(form.takesInput);
-    EXPECT_TRUE(desktop.isLoaded(form));
-}
-
 TEST_F(TheMainForm, startsAnExportOnlyAfterTheReview) {
     UserformObj form(desktop, test.session, hooks);
     show(form);
     forms_double::press(form, "PasteIT");
     EXPECT_EQ(started, 1);
+    form.OptionFormat[2].setValue(true);
+    form.OptionPredefSlides.setValue(true);
+    for (auto& row : form.list().rows) row.slideNumber = "1";
+    forms_double::press(form, "PasteIT");
+    EXPECT_EQ(started, 2);
+    EXPECT_EQ(choices.format, catalogue::ExportFormat::Embedded);
+    EXPECT_TRUE(choices.predefinedSlides);
     form.Check1.setValue(CheckBox::State::Unchecked);
     forms_double::press(form, "PasteIT");
-    EXPECT_EQ(started, 1);
+    EXPECT_EQ(started, 2);
     ASSERT_FALSE(test.notices.shown.empty());
     EXPECT_EQ(test.notices.shown.back().title, "Export blocked");
+}
+
+TEST_F(TheMainForm, saysWhichDestinationsThisVersionHasNotGot) {
+    UserformObj form(desktop, test.session, hooks);
+    show(form);
+    form.Option1[3].setValue(true);
+    forms_double::press(form, "PasteIT");
+    ASSERT_EQ(test.notices.shown.size(), 1U);
+    EXPECT_EQ(test.notices.shown[0].message, "The export to PDF is not part of this version yet.");
 }
 
 TEST_F(TheMainForm, keepsItsListInTheWorkbookWhenItCloses) {
@@ -281,7 +282,6 @@ TEST_F(TheMainForm, staysWithItsWorkbookWhicheverTheUserLooksAt) {
         show(form);
         form.SlideTitle.setText("Kept");
         test.suite.excel().addWorkbook("Other.xlsx");
-        hooks.StartPowerPointExport = nullptr;
         forms_double::press(form, "PasteIT");
         EXPECT_EQ(test.session.ExcelApp.get("ActiveWorkbook").get("Name").toText(), "Book1.xlsx");
         test.session.ActiveBook =

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,40 +18,40 @@ protected:
     [[nodiscard]] forms::Form& form(const char* name) const { return *desktop.findLoaded(name); }
 
     forms_double::WindowlessDesktop desktop;
-    panels::FormProgress progress{desktop, [] { return 8; }};
+    panels::FormProgress progress{desktop};
 };
 
-TEST_F(FormProgress, LoadsItsFormByWhateverTouchesItFirstAndKeepsThat) {
-    progress.setTotal(5);
-    EXPECT_EQ(desktop.record, Strings{});
-    progress.setCurrent(2);
-    progress.setValue(40, "40%");
-    progress.show();
-    progress.show();
-    EXPECT_EQ(desktop.record, Strings{"show Progress modeless"}) << "once, however many items";
+TEST_F(FormProgress, ShowsItsFormOnceAndMovesIt) {
+    progress.showItem(0, 5);
+    progress.showItem(2, 5);
+    EXPECT_EQ(desktop.record, Strings{"show Progress modeless"});
     EXPECT_EQ(the<forms::Label>(form("Progress"), "lblStatus").caption, "2 of 5");
     EXPECT_EQ(forms_double::control(form("Progress"), "prbHorizontal").caption, "40%");
-    EXPECT_EQ(progress.value(), 40);
+    progress.unload();
+    EXPECT_EQ(desktop.findLoaded("Progress"), nullptr);
 }
 
-TEST_F(FormProgress, HoldsAPercentage) {
-    progress.setValue(250, "250%");
-    EXPECT_EQ(progress.value(), 100);
+TEST_F(FormProgress, IsCancelledByItsButtonByEscapeAndByItsClosing) {
+    const std::vector<std::function<void()>> ways = {
+        [&] { forms_double::press(form("Progress"), "Cancel"); },
+        [&] { forms_double::pressEscape(form("Progress")); },
+        [&] { desktop.unload(form("Progress")); },
+    };
+    for (const auto& way : ways) {
+        progress.showItem(1, 5);
+        EXPECT_FALSE(progress.cancelled());
+        way();
+        EXPECT_TRUE(progress.cancelled());
+        progress.showItem(2, 5);
+        EXPECT_TRUE(progress.cancelled());
+        progress.unload();
+    }
+}
+
+TEST_F(FormProgress, KeepsTheLoadingBarWithinItsEndsAndBeginsAnew) {
     progress.setLoadingValue(-3);
     EXPECT_EQ(progress.loadingValue(), 0);
     EXPECT_EQ(forms_double::control(form("MurvaneLoad"), "prbHorizontalOnLoad").caption, "0%");
-}
-
-TEST_F(FormProgress, BeginsAgainAfterItWasUnloaded) {
-    progress.setCurrent(3);
-    progress.setValue(60, "60%");
-    progress.show();
-    progress.unload();
-    EXPECT_EQ(progress.value(), 0);
-    progress.show();
-    EXPECT_EQ(desktop.record.back(), "show Progress modeless");
-    EXPECT_EQ(the<forms::Label>(form("Progress"), "lblStatus").caption, "0 of 8");
-
     progress.showLoading();
     progress.setLoadingValue(70);
     progress.unloadLoading();

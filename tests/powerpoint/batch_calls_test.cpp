@@ -45,14 +45,14 @@ TEST_F(BatchCallsTest, AnItemWithAllOptionsDoesSoToo) {
     EXPECT_LE(callsAnItem(), 129U);
 }
 
-TEST_F(BatchCallsTest, ARowThatIsNotTakenCostsTwoCalls) {
+TEST_F(BatchCallsTest, ARowThatIsNotTakenCostsNothing) {
     const std::size_t before = callsFor(10);
     for (int i = 0; i < 100; ++i) {
         list.rows.push_back(stage::chartRow("Chart 1", "Sheet 10"));
         list.rows.back().checked = false;
     }
     exportRows();
-    EXPECT_EQ(suite.log().count() - before, 200U);
+    EXPECT_EQ(suite.log().count() - before, 0U);
 }
 
 }  // namespace

@@ -25,6 +25,20 @@ TEST_F(BatchFailuresTest, AFailureInTheLoopReachesTheCallerAndNothingIsTakenBack
     EXPECT_NE(progress.calls.back(), "unload");
 }
 
+TEST_F(BatchFailuresTest, AFailedItemIsToldAndTheOthersGoOnWhereTheCallerAsks) {
+    suite.failures().fail("Chart.Export", 2);
+    std::vector<std::string> failed;
+    powerpoint::Batch batch{session, list, choices, {}};
+    batch.onFailedItem = [&](const catalogue::ExportItem& row, const office::Failure& failure) {
+        failed.push_back(row.name + ": " + failure.source());
+    };
+    powerpoint::ExportRowsAsPictures(batch);
+    EXPECT_EQ(failed, std::vector<std::string>{"Chart 2: Chart.Export"});
+    EXPECT_EQ(picturesOn(3).size(), 0U);
+    EXPECT_EQ(picturesOn(4).size(), 1U);
+    EXPECT_EQ(session.ProgressCount, 3);
+}
+
 TEST_F(BatchFailuresTest, AWorkbookThatIsClosedMeanwhileIsNotTakenForHiddenSheets) {
     session.ActiveBook.call("Close", false);
     EXPECT_THROW(exportRows(), office::Failure);
@@ -47,8 +61,9 @@ TEST_F(BatchFailuresTest, AFileThatCannotBeDeletedIsNoFailure) {
     other.ExcelApp = session.ExcelApp;
     other.ActiveBook = session.ActiveBook;
     other.PowerPointApp = session.PowerPointApp;
-    powerpoint::StartPowerPointExport(other, list);
-    EXPECT_NO_THROW(powerpoint::ExportRowsAsPictures(other, list, choices));
+    other.SessionPresentation = session.SessionPresentation;
+    powerpoint::Batch batch{other, list, choices, {}};
+    EXPECT_NO_THROW(powerpoint::ExportRowsAsPictures(batch));
     EXPECT_EQ(stubborn.filesLeft().size(), 3U);
 }
 
@@ -63,11 +78,10 @@ TEST_P(UnhandledFailureTest, ReachesTheCaller) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Members, UnhandledFailureTest,
-                         testing::Values("Application.ActivePresentation", "Slides.Add",
-                                         "Application.WindowState", "View.Slide",
-                                         "Application.ScreenUpdating", "View.GotoSlide",
-                                         "Shapes.AddPicture", "Shape.Left", "TextRange.Text",
-                                         "Selection.Unselect"));
+                         testing::Values("Presentation.Slides", "Slides.Add",
+                                         "Application.WindowState", "Application.ScreenUpdating",
+                                         "View.GotoSlide", "Shapes.AddPicture", "Shape.Left",
+                                         "TextRange.Text", "Selection.Unselect"));
 
 /// What puts things back ignores failures, one by one.
 class TailFailureTest : public BatchFailuresTest,
@@ -92,15 +106,15 @@ TEST_F(BatchFailuresTest, ALostSuitePassesThroughWhereverItHappens) {
         office_double::DoubleSuite fresh;
         auto& workbook = fresh.excel().addWorkbook("Book1.xlsx");
         workbook.sheet("Sales").chart("Chart 1").chart("Chart 2").chart("Chart 3");
-        fresh.powerPoint().addPresentation("Deck.pptx").addSlides(1);
+        auto& presentation = fresh.powerPoint().addPresentation("Deck.pptx").addSlides(1);
         session::OfficeSession lost{fresh, host, notices, progress};
         lost.ExcelApp = fresh.attach("Excel.Application");
         lost.ActiveBook = workbook.handle();
         lost.PowerPointApp = fresh.attach("PowerPoint.Application");
-        lost.CheckedCount = 3;
+        lost.SessionPresentation = presentation.handle();
+        powerpoint::Batch batch{lost, list, choices, {}};
         fresh.failures().loseSuiteAt(at);
-        EXPECT_THROW(powerpoint::ExportRowsAsPictures(lost, list, choices), office::SuiteLost)
-            << at;
+        EXPECT_THROW(powerpoint::ExportRowsAsPictures(batch), office::SuiteLost) << at;
     }
 }
 

@@ -54,28 +54,23 @@ TEST_F(BatchTest, UncheckedRowsTakeNoSlide) {
     EXPECT_EQ(picturesOn(3), Texts{"Chart 2"});
 }
 
-TEST_F(BatchTest, ACheckedRowOnAHiddenSheetLeavesAnEmptySlideAtTheEnd) {
+TEST_F(BatchTest, RowsOnSheetsThatAreHiddenOrGoneTakeNoSlide) {
     hide("Hidden");
     add(chartRow("Chart 4", "Hidden"));
-    add(chartRow("Chart 1", "Sales"));
-    exportRows();
-    ASSERT_EQ(deck.slides().size(), 4U);
-    EXPECT_EQ(picturesOn(3), Texts{"Chart 1"});
-    EXPECT_EQ(picturesOn(4), Texts{});
-}
-
-TEST_F(BatchTest, RowsWhoseSheetHasGoneAreSkippedAsTheReviewSays) {
     add(chartRow("Chart 1", "Deleted sheet"));
     add(chartRow("", ""));
     add(chartRow("Chart 1", "Sales"));
     exportRows();
+    ASSERT_EQ(deck.slides().size(), 3U);
     EXPECT_EQ(picturesOn(3), Texts{"Chart 1"});
+    EXPECT_EQ(session.CheckedCount, 1);
 }
 
 TEST_F(BatchTest, PredefinedSlidesTakeWhatNamesThemAndRowsWithoutANumberAreSkipped) {
     choices.predefinedSlides = true;
     add(chartRow("Chart 1", "Sales", "2"));
-    for (const char* slide : {"0", "", "abc"}) add(chartRow("Chart 2", "Sales", slide));
+    for (const char* slide : {"0", "", "abc", "-1", "0.4"})
+        add(chartRow("Chart 2", "Sales", slide));
     add(chartRow("Chart 3", "Sales", "1.6"));
     exportRows();
     EXPECT_EQ(deck.slides().size(), 2U);
@@ -92,28 +87,6 @@ TEST_F(BatchTest, PredefinedSlidesAreShownSoThatTheStyleMeetsTheirPictures) {
     exportRows();
     EXPECT_TRUE(deck.slide(2).shapes().back()->hasShadow());
     EXPECT_FALSE(deck.slide(1).shapes().back()->hasShadow());
-}
-
-TEST_F(BatchTest, ASkippedRowKeepsTheSelectionAndOthersDropIt) {
-    choices.predefinedSlides = true;
-    add(chartRow("Chart 1", "Sales", "2"));
-    add(chartRow("Chart 2", "Sales", ""));
-    add(chartRow("Chart 3", "Sales", "1"));
-    list.rows[2].checked = false;
-    exportRows();
-    EXPECT_EQ(suite.log().count("Selection.Unselect"), 2U);
-}
-
-TEST_F(BatchTest, WhenAllCountedItemsAreThereTheBatchEndsEarlyAndExcelStaysFrozen) {
-    choices.predefinedSlides = true;
-    add(chartRow("Chart 1", "Sales", "2"));
-    add(chartRow("Chart 2", "Sales", "1"));
-    session.CheckedCount = 1;
-    powerpoint::ExportRowsAsPictures(session, list, choices);
-    EXPECT_EQ(picturesOn(2), Texts{"Chart 1"});
-    EXPECT_EQ(picturesOn(1), Texts{});
-    EXPECT_FALSE(excelDraws());
-    EXPECT_EQ(progress.calls.back(), "unload");
 }
 
 TEST_F(BatchTest, ASlideNumberBeyondTheEndFailsForTheCaller) {
@@ -139,13 +112,18 @@ TEST_F(BatchTest, ATitleForASlideWithoutOneFailsForTheCaller) {
     EXPECT_THROW(exportRows(), office::Failure);
 }
 
-TEST_F(BatchTest, AMissingRangeGetsItsNoticeAndTheRowsOtherSteps) {
+TEST_F(BatchTest, AMissingRangeGetsItsNoticeAndItsTitleAndMovesNothingElse) {
     session.slideTitle = true;
+    session.DefaultPlacement = false;
+    session.PictureStyle = powerpoint::style::shadow;
+    storePlacement(0.5, 0.25, 0.1);
     add(rangeRow("Nowhere", "Sales", "", "Lost"));
     add(chartRow("Chart 1", "Sales"));
     exportRows();
     EXPECT_EQ(notices.messages(), Texts{"? Named range 'Nowhere' not found or invalid."});
     EXPECT_EQ(titleOf(3), "Lost");
+    EXPECT_NE(deck.slide(3).title()->box().left, 96);
+    EXPECT_FALSE(deck.slide(3).title()->hasShadow());
     EXPECT_EQ(picturesOn(4), Texts{"Chart 1"});
 }
 
@@ -231,53 +209,19 @@ TEST_F(BatchTest, EachItemMovesTheProgress) {
     add(chartRow("Chart 1", "Sales"));
     add(chartRow("Chart 2", "Sales"));
     exportRows();
-    EXPECT_EQ(progress.calls, (Texts{"total 2", "value 50 50%", "current 1", "show", "total 2",
-                                     "value 100 100%", "current 2", "show", "unload"}));
+    EXPECT_EQ(progress.calls, (Texts{"item 1 of 2", "item 2 of 2", "unload"}));
 }
 
-class NoSlideTest : public stage::ExportStage {
-protected:
-    NoSlideTest() {
-        route.prepareScreen = [](powerpoint::Batch&) {};
-    }
-
-    powerpoint::BatchRoute route;
-    session::FormHooks forms;
-    powerpoint::Batch batch{session, list, choices, forms};
-};
-
-TEST_F(NoSlideTest, WithoutASlideInViewABatchFailsUnlessItsRouteTrapsThat) {
-    choices.predefinedSlides = true;
-    EXPECT_THROW(powerpoint::RunBatch(batch, route), office::Failure);
-    route.noSlideInView = powerpoint::NoSlideInView::ShowsLastSlide;
-    EXPECT_NO_THROW(powerpoint::RunBatch(batch, route));
-}
-
-TEST_F(NoSlideTest, ATrappedRouteGoesToTheLastSlide) {
-    deck.addSlides(4);
-    choices.predefinedSlides = true;
-    route.noSlideInView = powerpoint::NoSlideInView::ShowsLastSlide;
-    suite.failures().fail("View.Slide");
-    powerpoint::RunBatch(batch, route);
-    EXPECT_EQ(session.CurrentSlideIndex, 4);
-}
-
-TEST_F(NoSlideTest, ARouteThatKeepsDialogsSaysSoForItsItems) {
-    deck.addSlides(1);
-    book.sheet("Sales");
-    add(stage::chartRow("Chart 1", "Sales"));
-    session.CheckedCount = 1;
-    bool kept = false;
-    route.keepsDialogs = true;
-    route.finishesProgress = true;
-    route.insertItem = [&](powerpoint::Batch& b, const catalogue::ExportItem&, std::int16_t) {
-        kept = b.session.ExportKeepsDialogs;
-    };
-    powerpoint::RunBatch(batch, route);
-    EXPECT_TRUE(kept);
-    EXPECT_FALSE(session.ExportKeepsDialogs);
-    EXPECT_EQ(list.selected, -1);
-    EXPECT_EQ(progress.value(), 100);
+TEST_F(BatchTest, ACancelledBatchEndsAfterTheItemAtHandAndLeavesNoEmptySlides) {
+    for (const char* name : {"Chart 1", "Chart 2", "Chart 3"}) add(chartRow(name, "Sales"));
+    host.onEvents = [this] { progress.isCancelled = session.ProgressCount == 2; };
+    exportRows();
+    ASSERT_EQ(deck.slides().size(), 4U);
+    EXPECT_EQ(picturesOn(3), Texts{"Chart 1"});
+    EXPECT_EQ(picturesOn(4), Texts{"Chart 2"});
+    EXPECT_EQ(notices.messages(), Texts{"The export was cancelled: 2 of 3 items were exported."});
+    EXPECT_TRUE(excelDraws());
+    EXPECT_EQ(progress.calls.back(), "unload");
 }
 
 }  // namespace

@@ -8,7 +8,6 @@
 #include "catalogue/export_list.h"
 #include "office_double/suite.h"
 #include "powerpoint/pictures.h"
-#include "powerpoint/start_export.h"
 #include "session/office_session.h"
 #include "session_doubles/recording_notices.h"
 #include "session_doubles/recording_progress.h"
@@ -87,9 +86,9 @@ protected:
     }
 
     void exportRows() {
-        powerpoint::StartPowerPointExport(session, list);
         suite.log().clear();
-        powerpoint::ExportRowsAsPictures(session, list, choices);
+        powerpoint::Batch batch{session, list, choices, {}};
+        powerpoint::ExportRowsAsPictures(batch);
     }
 
     /// Names of the shapes on a slide apart from its placeholders.

@@ -5,6 +5,8 @@ namespace {
 
 using Names = std::set<std::string>;
 using office_double::Shape;
+using stage::chartRow;
+using stage::rangeRow;
 
 class PicturesTest : public stage::ExportStage {
 protected:
@@ -17,11 +19,14 @@ protected:
         deck.addSlides(2);
     }
 
+    bool insert(const catalogue::ExportItem& row, std::int16_t slide) {
+        return powerpoint::InsertPicture(session, row, slide);
+    }
     const Shape& lastShape(std::size_t slide) { return *deck.slide(slide).shapes().back(); }
 };
 
 TEST_F(PicturesTest, AChartArrivesAtItsNaturalSizeInTheMiddleOfTheSlide) {
-    powerpoint::InsertEmbeddedChartPicture(session, "Sales", "Chart 1", 2);
+    insert(chartRow("Chart 1", "Sales"), 2);
     EXPECT_EQ(lastShape(2).kind(), Shape::Kind::Picture);
     EXPECT_DOUBLE_EQ(lastShape(2).box().width, 240);
     EXPECT_DOUBLE_EQ(lastShape(2).box().left, 360);
@@ -30,15 +35,15 @@ TEST_F(PicturesTest, AChartArrivesAtItsNaturalSizeInTheMiddleOfTheSlide) {
 }
 
 TEST_F(PicturesTest, ChartSheetsShareOneFileThatStays) {
-    powerpoint::InsertChartSheetPicture(session, "Overview", 1);
-    powerpoint::InsertChartSheetPicture(session, "Outlook", 2);
+    insert(stage::chartSheetRow("Overview"), 1);
+    insert(stage::chartSheetRow("Outlook"), 2);
     EXPECT_EQ(host.filesLeft(), Names{"EmbeddedChart_.png"});
     EXPECT_EQ(lastShape(1).alternativeText(), "Overview");
     EXPECT_EQ(lastShape(2).alternativeText(), "Outlook");
 }
 
 TEST_F(PicturesTest, ARangeGoesThroughAChartThatIsGoneAfterwards) {
-    powerpoint::InsertRangePicture(session, "Total", 1);
+    insert(rangeRow("Total", "Sales"), 1);
     EXPECT_EQ(lastShape(1).kind(), Shape::Kind::Picture);
     EXPECT_DOUBLE_EQ(lastShape(1).box().width, 3 * office_double::Worksheet::columnWidth);
     EXPECT_DOUBLE_EQ(lastShape(1).box().height, 4 * office_double::Worksheet::rowHeight);
@@ -50,7 +55,7 @@ TEST_F(PicturesTest, ARangeGoesThroughAChartThatIsGoneAfterwards) {
 
 TEST_F(PicturesTest, ANameThatLeadsToNoRangeGetsANoticeAndNoPicture) {
     for (const char* name : {"Rate", "Nowhere"}) {
-        powerpoint::InsertRangePicture(session, name, 1);
+        EXPECT_FALSE(insert(rangeRow(name, "Sales"), 1));
     }
     EXPECT_EQ(notices.messages(),
               (std::vector<std::string>{"? Named range 'Rate' not found or invalid.",
@@ -58,44 +63,86 @@ TEST_F(PicturesTest, ANameThatLeadsToNoRangeGetsANoticeAndNoPicture) {
     EXPECT_EQ(deck.slide(1).shapes().size(), 1U);
 }
 
-TEST_F(PicturesTest, ThePictureGoesToTheFirstOpenPresentation) {
-    auto& second = suite.powerPoint().addPresentation("Second.pptx");
-    second.addSlides(2);
-    powerpoint::InsertEmbeddedChartPicture(session, "Sales", "Chart 1", 1);
-    EXPECT_EQ(picturesOn(1).size(), 1U);
-    EXPECT_EQ(second.slide(1).shapes().size(), 1U);
-}
-
 TEST_F(PicturesTest, ThePictureIsNeitherLinkedNorLeftOutOfTheFile) {
-    powerpoint::InsertEmbeddedChartPicture(session, "Sales", "Chart 1", 1);
+    insert(chartRow("Chart 1", "Sales"), 1);
     const std::string call = suite.log().texts("AddPicture").at(0);
     EXPECT_NE(call.find("EmbeddedChart_Chart 1.png\", 0, -1, 0, 0, -1, -1)"), std::string::npos)
         << call;
 }
 
 TEST_F(PicturesTest, TheAlternativeTextIsTheCaptionOrElseTheName) {
-    powerpoint::InsertEmbeddedChartPicture(session, "Sales", "Chart 1", 1, "Sales by region");
+    insert(chartRow("Chart 1", "Sales", "", "Sales by region"), 1);
     EXPECT_EQ(lastShape(1).alternativeText(), "Sales by region");
-    powerpoint::InsertEmbeddedChartPicture(session, "Sales", "Chart 1", 1);
+    insert(chartRow("Chart 1", "Sales"), 1);
     EXPECT_EQ(lastShape(1).alternativeText(), "Chart 1");
 }
 
 TEST_F(PicturesTest, APictureThatTakesNoAlternativeTextIsAPictureAllTheSame) {
     suite.failures().fail("Shape.AlternativeText");
-    EXPECT_NO_THROW(powerpoint::InsertEmbeddedChartPicture(session, "Sales", "Chart 1", 1));
+    EXPECT_NO_THROW(insert(chartRow("Chart 1", "Sales"), 1));
 }
 
-TEST_F(PicturesTest, ANameThatNoFileCanHaveFailsForTheCallerAndStaysInTheFolder) {
-    book.sheet("Sales").chart("../../Chart");
-    EXPECT_THROW(powerpoint::InsertEmbeddedChartPicture(session, "Sales", "../../Chart", 1),
-                 office::Failure);
+TEST_F(PicturesTest, RangesOfOneNameOnTwoSheetsExportTheirOwnPictures) {
+    book.sheet("North").define("Area", "A1:B2");
+    book.sheet("South").define("Area", "A1:E2");
+    book.sheet("West").define("Area", "A1:A2,C3");
+    book.define("Area", "=Sales!$A$1:$C$1");
+    const std::vector<std::pair<const char*, int>> columns = {
+        {"South", 5}, {"North", 2}, {"Sales", 3}};
+    for (const auto& [sheet, count] : columns) {
+        EXPECT_TRUE(insert(rangeRow("Area", sheet), 1));
+        EXPECT_DOUBLE_EQ(lastShape(1).box().width, count * office_double::Worksheet::columnWidth)
+            << sheet;
+    }
+    EXPECT_FALSE(insert(rangeRow("Area", "Overview"), 1)) << "nor does a namesake stand in";
+}
+
+TEST_F(PicturesTest, NamesThatNoFileCanHaveExportAndStayInTheFolder) {
+    for (const std::string& name :
+         {std::string("../../Chart"), std::string("Revenue/Cost"), std::string("a<b"),
+          std::string("C:\\x"), std::string(300, 'x')}) {
+        book.sheet("Sales").chart(name);
+        insert(chartRow(name, "Sales"), 1);
+        EXPECT_EQ(lastShape(1).alternativeText(), name);
+    }
     EXPECT_EQ(host.filesLeft(), Names{});
 }
 
+TEST_F(PicturesTest, ARangeThatFailsLeavesNoChartBehind) {
+    suite.failures().fail("Chart.Export");
+    EXPECT_THROW(insert(rangeRow("Total", "Sales"), 1), office::Failure);
+    EXPECT_EQ(
+        book.handle().get("Sheets").get("Item", "Sales").get("ChartObjects").get("Count").toLong(),
+        1);
+}
+
+TEST_F(PicturesTest, OneItemGoesToTheSlideInViewOfTheActivePresentation) {
+    auto& second = suite.powerPoint().addPresentation("Second.pptx");
+    second.addSlides(2);
+    EXPECT_TRUE(powerpoint::InsertOneItem(session, chartRow("Chart 1", "Sales"), choices));
+    EXPECT_EQ(second.slide(1).shapes().size(), 2U);
+    EXPECT_EQ(deck.slide(1).shapes().size(), 1U);
+}
+
+TEST_F(PicturesTest, OneItemThatIsNotThereHasBeenExplained) {
+    const auto insertOne = [&](const catalogue::ExportItem& row) {
+        return powerpoint::InsertOneItem(session, row, choices);
+    };
+    EXPECT_FALSE(insertOne(rangeRow("Nowhere", "Sales")));
+    EXPECT_FALSE(insertOne(chartRow("Chart 9", "Sales")));
+    choices.format = catalogue::ExportFormat::Linked;
+    EXPECT_FALSE(insertOne(chartRow("Chart 1", "Sales")));
+    choices.format = catalogue::ExportFormat::Pictures;
+    suite.powerPoint().closePresentation(deck);
+    EXPECT_FALSE(insertOne(chartRow("Chart 1", "Sales")));
+    ASSERT_EQ(notices.shown.size(), 4U);
+    EXPECT_EQ(notices.messages().back(),
+              "No PowerPoint presentation is open. Open or create a presentation, then try again.");
+}
+
 TEST_F(PicturesTest, AMissingChartFailsForTheCaller) {
-    EXPECT_THROW(powerpoint::InsertEmbeddedChartPicture(session, "Sales", "Chart 9", 1),
-                 office::Failure);
-    EXPECT_THROW(powerpoint::InsertChartSheetPicture(session, "Nowhere", 1), office::Failure);
+    EXPECT_THROW(insert(chartRow("Chart 9", "Sales"), 1), office::Failure);
+    EXPECT_THROW(insert(stage::chartSheetRow("Nowhere"), 1), office::Failure);
 }
 
 }  // namespace

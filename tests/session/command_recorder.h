@@ -27,7 +27,7 @@ struct CommandRecorder {
             ran.push_back("word " + std::to_string(static_cast<int>(mode)));
         };
         handlers.SaveSelectionAsImage = [this] { ran.emplace_back("image"); };
-        handlers.forms.UnloadAllForms = [this] { ran.emplace_back("unload all"); };
+        handlers.UnloadAllForms = [this] { ran.emplace_back("unload all"); };
     }
 
     CommandRecorder(const CommandRecorder&) = delete;

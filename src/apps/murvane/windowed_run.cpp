@@ -21,12 +21,9 @@ int runInWindows(int count, char** words, const std::string& commandLine, Consol
 int runCommandOn(forms::Desktop& desktop, const std::string& commandLine, Console& console) {
     DesktopHost host(console, desktop);
     panels::NoticePanel notices(desktop, host);
-    const session::OfficeSession* current = nullptr;
-    panels::FormProgress progress(
-        desktop, [&current] { return current != nullptr ? int{current->CheckedCount} : 0; });
+    panels::FormProgress progress(desktop);
     const auto suite = libreoffice::LibreOfficeSuite::attachToRunning();
     session::OfficeSession session(*suite, host, notices, progress);
-    current = &session;
     Windows windows(desktop, session);
     try {
         return session::Main(session, commandLine, windows.handlers());

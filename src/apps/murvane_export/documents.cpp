@@ -45,18 +45,6 @@ Object activeObject(const Object& application, std::string_view member) {
     return office::orElse([&] { return application.get(member).toObject(); }, Object());
 }
 
-void requireFirstPresentation(const OfficeSession& session) {
-    const Object presentations = session.PowerPointApp.get("Presentations").toObject();
-    if (presentations.get("Count").toLong() < 2) return;
-    const std::string first = presentations.get("Item", 1).get("FullName").toText();
-    const std::string active = session.SessionPresentation.get("FullName").toText();
-    if (first == active) return;
-    throw RunError(
-        fmt::format("Several presentations are open, and pictures go to the first one: "
-                    "{}. Close it, or close all but the one to export to.",
-                    first));
-}
-
 }  // namespace
 
 OpenedDocuments::~OpenedDocuments() {
@@ -137,9 +125,6 @@ void takeActiveDocuments(OfficeSession& session, const Options& options) {
     session.PowerPointApp = session.suite.attach("PowerPoint.Application");
     if (!session.PowerPointApp) return;
     session.SessionPresentation = activeObject(session.PowerPointApp, "ActivePresentation");
-    if (session.SessionPresentation && options.task == Task::Export) {
-        requireFirstPresentation(session);
-    }
 }
 
 }  // namespace unattended

@@ -70,14 +70,13 @@ struct RawTexts {
     bool check = false;
 };
 
-std::optional<PlacementValue> placementOf(const std::string& option, const std::string& text,
-                                          double smallest) {
+std::optional<PlacementValue> placementOf(const std::string& option, const std::string& text) {
     if (text.empty()) return std::nullopt;
     if (office::sameIgnoringCase(text, "default")) return PlacementValue{};
     const auto share = office::numberOf(text);
-    if (!share || *share < smallest || *share > 1) {
-        throw UsageError(option + " takes a share of the slide from " +
-                         (smallest > 0 ? "0.01" : "0") + " to 1, or \"default\", not \"" + text +
+    if (!share || *share < 0 || *share > 1) {
+        throw UsageError(option +
+                         " takes a share of the slide from 0 to 1, or \"default\", not \"" + text +
                          "\".");
     }
     return PlacementValue{share};
@@ -140,9 +139,9 @@ void finish(Options& options, const RawTexts& raw) {
     options.task = raw.list ? Task::List : raw.check ? Task::Check : Task::Export;
     options.predefinedSlides = raw.slides == "predefined";
     options.pictureStyle = stylesByName().at(raw.style);
-    options.top = placementOf("--top", raw.top, 0);
-    options.width = placementOf("--width", raw.width, 0.01);
-    options.left = placementOf("--left", raw.left, 0);
+    options.top = placementOf("--top", raw.top);
+    options.width = placementOf("--width", raw.width);
+    options.left = placementOf("--left", raw.left);
 
     if (options.book.empty() && !options.attach) {
         throw UsageError("Name the workbook to export from, or use --attach.");

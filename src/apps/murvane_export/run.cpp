@@ -17,11 +17,11 @@
 #include "apps/murvane_export/slide_export.h"
 #include "apps/terminal_notices.h"
 #include "apps/terminal_progress.h"
+#include "catalogue/export_run.h"
 #include "catalogue/inventory.h"
 #include "catalogue/list_rows.h"
 #include "catalogue/review.h"
 #include "office/failure.h"
-#include "powerpoint/progress.h"
 #include "session/launcher.h"
 
 namespace unattended {
@@ -234,13 +234,13 @@ void Run::runBatch() {
 
 /// A batch may leave Excel without drawing; the user's own goes on without us.
 void Run::letUserSee() {
-    if (options_.attach) powerpoint::RestoreScreenUpdating(session_);
+    if (options_.attach) catalogue::RestoreScreenUpdating(session_);
 }
 
 void Run::save() {
     line_.show("Saving the presentation");
     const std::string neighbour = order_.output->neighbour().string();
-    session_.PowerPointApp.get("ActivePresentation").call("SaveCopyAs", neighbour);
+    session_.SessionPresentation.call("SaveCopyAs", neighbour);
     stopIfInterrupted();
     order_.output->commit();
     line_.clear();

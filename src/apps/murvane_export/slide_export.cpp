@@ -1,7 +1,6 @@
 #include "apps/murvane_export/slide_export.h"
 
 #include "powerpoint/pictures.h"
-#include "powerpoint/start_export.h"
 #include "session/powerpoint_session.h"
 #include "session/workbook_store.h"
 
@@ -21,18 +20,15 @@ void storePlacement(session::OfficeSession& session, const Options& options) {
 void exportToSlides(session::OfficeSession& session, catalogue::ExportList& list,
                     const catalogue::ExportChoices& choices, const Options& options) {
     session::AttachPowerPoint(session);
-    if (choices.predefinedSlides) {
-        powerpoint::CountRowsWithSlideNumber(session, list);
-    } else {
-        powerpoint::StartPowerPointExport(session, list);
-    }
+    session.ExcelApp.put("DisplayAlerts", false);
     session.slideTitle = options.titles;
     session.sourceInc = options.source;
     session.checkShadow = options.shadow;
     session.PictureStyle = options.pictureStyle;
     session.DefaultPlacement = !options.placesShapes();
     if (options.placesShapes()) storePlacement(session, options);
-    powerpoint::ExportRowsAsPictures(session, list, choices);
+    powerpoint::Batch batch{session, list, choices, {}};
+    powerpoint::ExportRowsAsPictures(batch);
 }
 
 }  // namespace unattended

@@ -1,33 +1,40 @@
-#include "panels/powerpoint_dialog.h"
+#include "powerpoint/options_dialog.h"
 
 #include <fmt/format.h>
 
-#include <cmath>
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <utility>
+#include <vector>
 
+#include "catalogue/export_run.h"
 #include "forms/desktop.h"
 #include "furniture/button_styles.h"
 #include "office/text.h"
 #include "panels/action_panel.h"
+#include "panels/dialogs.h"
 #include "panels/panel_blocks.h"
 #include "panels/panel_links.h"
-#include "panels/show_tool_form.h"
-#include "session/closing.h"
+#include "powerpoint/layout_form.h"
+#include "powerpoint/picture_styles_form.h"
+#include "powerpoint/pictures.h"
 #include "session/powerpoint_session.h"
 
-namespace panels {
+namespace powerpoint {
 
 namespace {
 
+using catalogue::ExportFormat;
 using forms::Twips;
 using State = forms::CheckBox::State;
 
 constexpr Twips width = 9240;
 constexpr Twips height = 6780;
 
-constexpr int pictures = 0;
-constexpr int editable = 1;
+/// By format.
+constexpr std::array<std::string_view, 4> formatNames = {
+    "Pictures", "editable within PowerPoint", "Excel embedded", " embedded linked objects"};
 
 constexpr const char* noPowerPoint =
     "No open PowerPoint found. \r Please open an existing presentation or create a new one";
@@ -40,13 +47,13 @@ constexpr const char* slideNumberTooHigh =
     "Export can't take place ";
 
 std::string optionRow(std::string_view key, const forms::CheckBox& box) {
-    return OptionRowHtml(key, box.caption, box.isChecked(), box.enabled);
+    return panels::OptionRowHtml(key, box.caption, box.isChecked(), box.enabled);
 }
 
 }  // namespace
 
 Dialog::Dialog(forms::Desktop& theDesktop, session::OfficeSession& session,
-               PowerPointDialogLinks links)
+               catalogue::ExportList& list, const catalogue::ExportChoices& choices)
     : Form(theDesktop, "Dialog", width, height),
       TitelBar1(*this, "TitelBar1", {0, 0, width, 420}),
       Image1(*this, "Image1", {180, 780, 480, 480}),
@@ -62,7 +69,8 @@ Dialog::Dialog(forms::Desktop& theDesktop, session::OfficeSession& session,
       lblActionCaption(*this, "lblActionCaption", {}),
       ContinueOk(*this, "ContinueOk", {}),
       session_(session),
-      links_(std::move(links)) {
+      list_(list),
+      choices_(choices) {
     caption = "Murvane";
     escapeCloses = true;
     TitelBar1.caption = " Murvane";
@@ -83,56 +91,22 @@ Dialog::Dialog(forms::Desktop& theDesktop, session::OfficeSession& session,
 }
 
 void Dialog::Form_Load() {
-    startAsDesigned();
     topmost = true;
     session_.DefaultPlacement = true;
-    if (session_.ExcelApp) {
-        session_.ActiveBook = session_.ExcelApp.get("ActiveWorkbook").toObject();
-    }
     // Slides that exist already have their titles.
-    if (links_.predefinedSlides()) SlideTitle.enabled = false;
-    FormatName_ = readFormatName();
+    SlideTitle.enabled = !choices_.predefinedSlides;
+    CreateBlankPPT.enabled = !choices_.predefinedSlides;
     lblActionCaption.visible = false;
-    HideRealControls();
+    Frame3.visible = false;
+    CheckShadow.visible = false;
     shadow_.emplace().Shadow(*this);
     if (!findsPresentation()) return;
 
     office::ContinueOnFailure scope;
-    showFirstMessage(scope);
-    if (links_.predefinedSlides()) CreateBlankPPT.enabled = false;
-    session_.MainFormOpen = false;
-    session_.PowerPointDialogOpen = true;
-    SetupActionPanel(*this, wbStatus, actionBar());
+    namePresentation(scope);
+    panels::SetupActionPanel(*this, wbStatus, actionBar());
     if (!message_.empty()) RenderPanel();
     furniture::StyleAccentButton(ContinueOk, "Continue  >", 10.5);
-}
-
-/// A form that is loaded again comes up as it was made.
-void Dialog::startAsDesigned() {
-    message_.clear();
-    kind_.clear();
-    for (forms::CheckBox* box : {&SlideTitle, &SourceInc, &CheckShadow}) {
-        box->startWith(State::Unchecked);
-        box->enabled = true;
-        box->visible = true;
-    }
-    CreateBlankPPT.enabled = true;
-    ContinueOk.enabled = true;
-}
-
-void Dialog::HideRealControls() {
-    Frame3.visible = false;
-    CheckShadow.visible = false;
-}
-
-std::string Dialog::readFormatName() const {
-    static constexpr std::array<std::string_view, 4> names = {
-        "Pictures", "editable within PowerPoint", "Excel embedded", " embedded linked objects"};
-    std::string name;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        if (links_.formatIsChosen(static_cast<int>(i))) name = names.at(i);
-    }
-    return name;
 }
 
 bool Dialog::findsPresentation() {
@@ -150,7 +124,9 @@ bool Dialog::findsPresentation() {
     return false;
 }
 
-void Dialog::showFirstMessage(office::ContinueOnFailure& scope) {
+/// Decides which presentation the export goes to, and tells the user.
+void Dialog::namePresentation(office::ContinueOnFailure& scope) {
+    scope.attempt([&] { static_cast<void>(catalogue::takeRows(session_, list_, choices_)); });
     if (session_.CheckedCount < 1) {
         ContinueOk.enabled = false;
         SetPanelMessage("No objects were selected for pasting", "warning");
@@ -158,22 +134,15 @@ void Dialog::showFirstMessage(office::ContinueOnFailure& scope) {
     }
     scope.attempt([&] {
         session_.SessionPresentation = session_.PowerPointApp.get("ActivePresentation").toObject();
-    });
-    scope.attempt([&] {
         SetPanelMessage(
             fmt::format("{} object(s) will be pasted to \r{}\ras {}", session_.CheckedCount,
-                        session_.SessionPresentation.get("Name").toText(), FormatName_),
+                        session_.SessionPresentation.get("Name").toText(),
+                        formatNames.at(static_cast<std::size_t>(choices_.format))),
             "info");
     });
 }
 
-void Dialog::Form_Unload() {
-    session_.PowerPointDialogOpen = false;
-    // A dialog that was closed without an export gives way to the main form again.
-    session_.MainFormOpen = desktop().findLoaded("UserformObj") != nullptr;
-}
-
-ActionBar Dialog::actionBar() {
+panels::ActionBar Dialog::actionBar() {
     return {.bar = lblActionBar,
             .button = ContinueOk,
             .border = &lblActionBorder,
@@ -189,38 +158,38 @@ void Dialog::SetPanelMessage(std::string message, std::string kind) {
 }
 
 void Dialog::RenderPanel() {
-    ShowActionPanel(session_.host, wbStatus,
-                    {.message = message_,
-                     .kind = kind_,
-                     .footer = {},
-                     .destinationWord = "PowerPoint",
-                     .options = BuildOptionsMarkup(),
-                     .tools = BuildToolsMarkup()});
-    RestoreActionZOrder(wbStatus, actionBar());
+    panels::ShowActionPanel(session_.host, wbStatus,
+                            {.message = message_,
+                             .kind = kind_,
+                             .footer = {},
+                             .destinationWord = "PowerPoint",
+                             .options = BuildOptionsMarkup(),
+                             .tools = BuildToolsMarkup()});
+    panels::RestoreActionZOrder(wbStatus, actionBar());
 }
 
 std::string Dialog::BuildToolsMarkup() const {
-    if (!links_.formatIsChosen(pictures)) return {};
-    return ToolBarHtml(
-        ToolButtonHtml("style", "Style", "tool-icon-style", "Apply a style within PowerPoint") +
-        ToolButtonHtml("layout", "Layout", "tool-icon-layout",
-                       "Apply size and position within the slide"));
+    if (choices_.format != ExportFormat::Pictures) return {};
+    return panels::ToolBarHtml(panels::ToolButtonHtml("style", "Style", "tool-icon-style",
+                                                      "Apply a style within PowerPoint") +
+                               panels::ToolButtonHtml("layout", "Layout", "tool-icon-layout",
+                                                      "Apply size and position within the slide"));
 }
 
 std::string Dialog::BuildOptionsMarkup() const {
     std::string rows = optionRow("slideTitle", SlideTitle) + optionRow("sourceInc", SourceInc);
-    if (links_.formatIsChosen(editable)) rows += optionRow("checkShadow", CheckShadow);
-    return OptionsBlockHtml({}, rows);
+    if (choices_.format == ExportFormat::Editable) rows += optionRow("checkShadow", CheckShadow);
+    return panels::OptionsBlockHtml({}, rows);
 }
 
 bool Dialog::wbStatus_BeforeNavigate2(std::string_view url) {
-    const std::string action = ActionKeyFromUrl(url);
+    const std::string action = panels::ActionKeyFromUrl(url);
     if (!action.empty()) {
         RunPanelAction(action);
         return true;
     }
     bool cancel = false;
-    const std::string option = CancelIfToggle(url, cancel);
+    const std::string option = panels::CancelIfToggle(url, cancel);
     if (!option.empty()) {
         ToggleOption(option);
         RenderPanel();
@@ -242,81 +211,61 @@ void Dialog::ToggleOption(std::string_view key) {
     box->setValue(box->isChecked() ? State::Unchecked : State::Checked);
 }
 
-void Dialog::RunPanelAction(std::string_view key) const {
+void Dialog::RunPanelAction(std::string_view key) {
     const std::string lower = office::lowerCase(key);
-    forms::Form* tool = nullptr;
-    if (lower == "style") tool = links_.styles;
-    if (lower == "layout") tool = links_.layout;
-    if (tool != nullptr) ShowToolForm(*tool);
+    if (lower == "style") {
+        PredefinedStyles styles(desktop(), session_);
+        panels::ShowToolForm(styles);
+    } else if (lower == "layout") {
+        LayoutForm layout(desktop(), session_);
+        panels::ShowToolForm(layout);
+    }
 }
 
 void Dialog::ContinueOk_Click() {
-    const auto format = static_cast<std::size_t>(session_.ExportFormatIndex);
     office::ContinueOnFailure scope;
-    if (!links_.predefinedSlides()) {
-        scope.attempt([&] { session_.CheckedCount = links_.countRowsForExport(); });
-    } else if (!slideNumbersFit(scope)) {
+    if (!presentationIsThere(scope)) {
+        // With another one open the user sees its name ahead of the next click.
+        session_.SessionPresentation.release();
+        namePresentation(scope);
+        if (!session_.SessionPresentation) SetPanelMessage(noPowerPoint, "warning");
+        return;
+    }
+    if (!slideNumbersFit()) {
         session::ShowWarningNotice(session_.notices, slideNumberTooHigh);
         return;
     }
-    copyOptions();
-    if (!presentationIsThere(scope)) {
-        SetPanelMessage(noPowerPoint, "warning");
-        return;
-    }
-    if (format >= links_.batches.size() || !links_.batches.at(format)) {
-        SetPanelMessage("This version of Murvane can't export in this format yet.", "warning");
-        return;
-    }
-    desktop().unload(*this);
-    desktop().letEventsRun();
-    CloseDialogsShowProgress();
-
-    session_.SessionPresentation = session_.PowerPointApp.get("ActivePresentation").toObject();
-    links_.batches.at(format)();
-    session::CloseAllAndEnd(session_, formHooks(desktop()));
-}
-
-/// Counts the rows that go to a slide on the way; the count ends at the first number that is too
-/// high.
-bool Dialog::slideNumbersFit(office::ContinueOnFailure& scope) {
-    std::optional<double> slides;
-    scope.attempt([&] {
-        slides =
-            session_.PowerPointApp.get("ActivePresentation").get("Slides").get("Count").toDouble();
-    });
-    session_.CheckedCount = 0;
-    for (const PowerPointDialogLinks::Row& row : links_.rows()) {
-        if (!row.isChecked || row.slideNumber.empty()) continue;
-        ++session_.CheckedCount;
-        // Where the slides can't be counted, the presentation has gone; that is found out next.
-        if (slides && std::nearbyint(office::leadingNumber(row.slideNumber)) > *slides) {
-            return false;
-        }
-    }
-    return true;
-}
-
-void Dialog::copyOptions() {
     session_.slideTitle = SlideTitle.isChecked();
     session_.sourceInc = SourceInc.isChecked();
     session_.checkShadow = CheckShadow.isChecked();
-}
-
-bool Dialog::presentationIsThere(office::ContinueOnFailure& scope) {
-    if (!session_.PowerPointFound) return false;
-    return scope.attempt([&] { session::CheckPresentations(session_); }) &&
-           session_.PresentationsFound;
-}
-
-void Dialog::CloseDialogsShowProgress() {
-    office::ContinueOnFailure scope;
-    const session::FormHooks hooks = formHooks(desktop());
-    for (const char* dialog :
-         {"Dialog", "DialogWord", "DialogPDF", "DialogHTML", "DialogImageFiles"}) {
-        scope.attempt([&] { hooks.UnloadForm(dialog); });
+    if (choices_.format != ExportFormat::Pictures) {
+        SetPanelMessage("This version of Murvane can't export in this format yet.", "warning");
+        return;
     }
-    session_.progress.show();
+    panels::RunExport(session_, *this, [this] {
+        Batch batch{session_, list_, choices_, {}};
+        ExportRowsAsPictures(batch);
+    });
 }
 
-}  // namespace panels
+bool Dialog::presentationIsThere(office::ContinueOnFailure& scope) const {
+    return scope.attempt(
+        [&] { static_cast<void>(session_.SessionPresentation.get("Name").toText()); });
+}
+
+bool Dialog::slideNumbersFit() {
+    const std::int32_t slides = session_.SessionPresentation.get("Slides").get("Count").toLong();
+    const auto rows = catalogue::takeRows(session_, list_, choices_);
+    return std::all_of(rows.begin(), rows.end(),
+                       [&](const catalogue::TakenRow& row) { return row.slide <= slides; });
+}
+
+void StartPowerPointExport(session::OfficeSession& session, forms::Desktop& desktop,
+                           catalogue::ExportList& list, const catalogue::ExportChoices& choices) {
+    session::AttachPowerPoint(session);
+    session.ExcelApp.put("DisplayAlerts", false);
+    Dialog dialog(desktop, session, list, choices);
+    panels::ShowToolForm(dialog);
+}
+
+}  // namespace powerpoint

@@ -1,0 +1,54 @@
+#include "catalogue/export_run.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "catalogue/row_objects.h"
+#include "office/failure_patterns.h"
+#include "office/text.h"
+
+namespace catalogue {
+
+std::int32_t slideNumberOf(std::string_view text) {
+    const double number = std::nearbyint(office::leadingNumber(text));
+    constexpr double most = std::numeric_limits<std::int32_t>::max();
+    return static_cast<std::int32_t>(std::clamp(number, -most, most));
+}
+
+std::vector<TakenRow> takeRows(session::OfficeSession& session, const ExportList& list,
+                               const ExportChoices& choices) {
+    RowObjects objects(session);
+    std::vector<TakenRow> taken;
+    bool isAnyPassedOver = false;
+    for (std::size_t i = 0; i < list.rows.size(); ++i) {
+        const ExportItem& row = list.rows[i];
+        if (!row.checked) continue;
+        if (!objects.isOnVisibleSheet(row)) {
+            isAnyPassedOver = true;
+            continue;
+        }
+        const std::int32_t slide = choices.predefinedSlides ? slideNumberOf(row.slideNumber) : 0;
+        if (!choices.predefinedSlides || slide >= 1) taken.push_back({i, slide});
+    }
+    // A sheet that has gone is passed over; a workbook that has gone ends the export here.
+    if (isAnyPassedOver) static_cast<void>(session.ActiveBook.get("Name"));
+    session.CheckedCount = static_cast<std::int16_t>(taken.size());
+    return taken;
+}
+
+void ProgressStep(session::OfficeSession& session) {
+    ++session.ProgressCount;
+    session.progress.showItem(session.ProgressCount, session.CheckedCount);
+    session.host.letEventsRun();
+}
+
+void RestoreScreenUpdating(session::OfficeSession& session) {
+    office::ContinueOnFailure scope;
+    scope.attempt([&] { session.ExcelApp.put("ScreenUpdating", true); });
+    // PowerPoint has no such property in any known version; one that had it would need it.
+    scope.attempt([&] { session.PowerPointApp.put("ScreenUpdating", true); });
+    session.host.letEventsRun();
+}
+
+}  // namespace catalogue

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/export_list.h"
+#include "session/office_session.h"
+
+/// What the batches of all destinations have in common: which rows they take, and what they show
+/// while they take them.
+namespace catalogue {
+
+/// A row that an export takes.
+struct TakenRow {
+    /// Into the rows of the list.
+    std::size_t index = 0;
+    /// The slide that the row names, from 1; 0 where slides are new.
+    std::int32_t slide = 0;
+};
+
+/// The slide that a text names: the number that it begins with, halves rounded to the even
+/// neighbour. Below 1 for a text that names none.
+[[nodiscard]] std::int32_t slideNumberOf(std::string_view text);
+
+/// The rows that an export takes, in display order: those checked and on a visible sheet and, where
+/// slides are predefined, with a slide number. Sets `CheckedCount` to their number. A failure if
+/// the workbook has gone.
+[[nodiscard]] std::vector<TakenRow> takeRows(session::OfficeSession& session,
+                                             const ExportList& list, const ExportChoices& choices);
+
+/// One item further: counts it, shows it and lets events run.
+void ProgressStep(session::OfficeSession& session);
+
+/// Lets both applications draw again, failures ignored, and lets events run.
+void RestoreScreenUpdating(session::OfficeSession& session);
+
+}  // namespace catalogue

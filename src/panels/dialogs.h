@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+
+#include "forms/desktop.h"
+#include "forms/form.h"
+#include "session/office_session.h"
+
+/// How options dialogs and tool forms come up above the main form, and how an export ends them.
+namespace panels {
+
+/// Shows a dialog or a tool form modally above the main form: the one way to open one. The main
+/// form and the dialogs that are open are topmost, and would otherwise cover it.
+void ShowToolForm(forms::Form& tool);
+
+/// Takes the topmost mark off the main form and the open options dialogs. True if there is a main
+/// form that can get it back.
+bool DropTopmost(forms::Desktop& desktop);
+/// Gives the main form its topmost mark back, if it is still loaded.
+void RaiseMainForm(forms::Desktop& desktop);
+
+/// What the button of an options dialog leads to: the dialog gives way to the progress form,
+/// `batch` runs, and the session ends by `CloseAllAndEnd`. The main form takes no input meanwhile:
+/// the batch reads its rows while it lets events run. Failures of the batch go to the caller.
+void RunExport(session::OfficeSession& session, forms::Form& dialog,
+               const std::function<void()>& batch);
+
+/// The end after an export: unloads the main form, which saves its list, then all others, and lets
+/// go of presentation and applications. Clears `MainFormOpen`, by which the program ends. Failures
+/// are passed over.
+void CloseAllAndEnd(session::OfficeSession& session, forms::Desktop& desktop);
+
+}  // namespace panels

@@ -1,0 +1,72 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "forms_double/user.h"
+#include "forms_double/windowless_desktop.h"
+#include "panels/dialogs.h"
+#include "session_doubles/test_session.h"
+
+namespace {
+
+struct Named : forms::Form {
+    Named(forms::Desktop& desktop, const char* name, std::vector<std::string>& theUnloaded)
+        : Form(desktop, name, 100, 100),
+          unloaded(theUnloaded) {
+        topmost = true;
+    }
+    void Form_Unload() override { unloaded.push_back(name()); }
+
+    std::vector<std::string>& unloaded;
+};
+
+class ToolForms : public testing::Test {
+protected:
+    forms_double::WindowlessDesktop desktop;
+    std::vector<std::string> unloaded;
+    Named main{desktop, "UserformObj", unloaded};
+    Named dialog{desktop, "Dialog", unloaded};
+    Named tool{desktop, "LayoutForm", unloaded};
+};
+
+TEST_F(ToolForms, StandAboveTheMainFormAndTheDialogsWhileTheyAreUp) {
+    desktop.load(main);
+    desktop.load(dialog);
+    desktop.answer("LayoutForm", [&](forms::Form& form) {
+        EXPECT_FALSE(main.topmost || dialog.topmost);
+        EXPECT_TRUE(form.topmost);
+        forms_double::close(form);
+    });
+    panels::ShowToolForm(tool);
+    EXPECT_TRUE(main.topmost);
+    EXPECT_FALSE(dialog.topmost);
+}
+
+TEST_F(ToolForms, LeaveAMainFormAloneThatClosedMeanwhile) {
+    desktop.load(main);
+    desktop.answer("Dialog", [&](forms::Form&) { desktop.unloadAll(); });
+    panels::ShowToolForm(dialog);
+    EXPECT_FALSE(main.topmost);
+    EXPECT_FALSE(panels::DropTopmost(desktop));
+}
+
+TEST_F(ToolForms, AnExportEndsWithTheMainFormUnloadedAheadOfTheOthers) {
+    session_doubles::TestSession test;
+    test.suite.excel().addWorkbook("Book1.xlsx").sheet("Sales");
+    test.attach();
+    test.session.CheckedCount = 3;
+    test.session.MainFormOpen = true;
+    for (Named* form : {&main, &tool, &dialog}) desktop.load(*form);
+    panels::RunExport(test.session, dialog, [&] {
+        EXPECT_FALSE(desktop.isLoaded(dialog));
+        EXPECT_FALSE(main.takesInput);
+        EXPECT_EQ(test.progress.calls, std::vector<std::string>{"item 0 of 3"});
+    });
+    EXPECT_EQ(test.progress.calls.back(), "unload");
+    EXPECT_EQ(unloaded, (std::vector<std::string>{"Dialog", "UserformObj", "LayoutForm"}));
+    EXPECT_FALSE(test.session.MainFormOpen || test.session.ExcelApp);
+    EXPECT_TRUE(test.session.ActiveBook) << "the list is saved there";
+}
+
+}  // namespace

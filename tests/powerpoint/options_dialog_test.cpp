@@ -1,0 +1,286 @@
+#include "export_stage.h"
+#include "forms_double/user.h"
+#include "forms_double/windowless_desktop.h"
+#include "panels/dialogs.h"
+#include "powerpoint/options_dialog.h"
+#include "powerpoint/picture_styles.h"
+#include "session/powerpoint_session.h"
+
+namespace {
+
+using catalogue::ExportFormat;
+using forms_double::press;
+using stage::chartRow;
+using Strings = std::vector<std::string>;
+
+constexpr const char* noPowerPoint =
+    "No open PowerPoint found. \r Please open an existing presentation or create a new one";
+constexpr const char* noPresentation =
+    "No open PowerPoint presentation found. \r Please open an existing presentation or create a "
+    "new one";
+constexpr const char* numberTooHigh =
+    "At least one Slide Number in the list is greater\rthan the number of slides in the "
+    "PowerPoint file.\rExport can't take place ";
+
+/// The form that owns the list; its place in the forms collection is what counts.
+struct MainForm : forms::Form {
+    explicit MainForm(forms::Desktop& desktop) : Form(desktop, "UserformObj", 100, 100) {}
+};
+
+/// A deck of three slides, two checked charts, and a main form beneath the dialog.
+class PowerPointDialog : public stage::ExportStage {
+protected:
+    PowerPointDialog() {
+        desktop.page.readFile = [this](std::string_view path) {
+            const auto found = host.written.find(path);
+            return found == host.written.end() ? std::string() : found->second;
+        };
+        host.onEvents = [this] { desktop.letEventsRun(); };
+        book.sheet("Sales").chart("Chart 1").chart("Chart 2");
+        deck.addSlides(3);
+        add(chartRow("Chart 1", "Sales", "1"));
+        add(chartRow("Chart 2", "Sales", "2"));
+        session::AttachPowerPoint(session);
+        desktop.load(main);
+    }
+
+    /// Opens the dialog; `user` gets it with its page loaded and need not close it.
+    void open(const std::function<void(powerpoint::Dialog&)>& user) {
+        powerpoint::Dialog dialog(desktop, session, list, choices);
+        desktop.answer("Dialog", [&](forms::Form& form) {
+            desktop.letEventsRun();
+            user(dialog);
+            desktop.unload(form);
+        });
+        panels::ShowToolForm(dialog);
+    }
+
+    [[nodiscard]] bool shows(forms::Form& dialog, const std::string& text) {
+        desktop.letEventsRun();
+        return desktop.browser(dialog)->page().find(text) != std::string::npos;
+    }
+    bool click(forms::Form& dialog, const std::string& link) {
+        desktop.letEventsRun();
+        return desktop.browser(dialog)->click(link);
+    }
+    /// Back to the applications, after an export has let go of them.
+    void attachAgain() {
+        session.ExcelApp = suite.attach("Excel.Application");
+        session.ActiveBook = book.handle();
+        session::AttachPowerPoint(session);
+    }
+
+    forms_double::WindowlessDesktop desktop;
+    MainForm main{desktop};
+};
+
+TEST_F(PowerPointDialog, TellsHowManyObjectsGoWhereAndAsWhat) {
+    const Strings names = {"Pictures", "editable within PowerPoint", "Excel embedded",
+                           "embedded linked objects"};
+    add(chartRow("Chart 3", "A sheet that has gone"));
+    for (int i = 0; i < 4; ++i) {
+        choices.format = static_cast<ExportFormat>(i);
+        open([&](powerpoint::Dialog& dialog) {
+            EXPECT_TRUE(shows(dialog, "<div class=\"count\">2</div>"));
+            EXPECT_TRUE(shows(dialog, "<div class=\"dest-name\">Deck.pptx</div>"));
+            EXPECT_TRUE(shows(dialog, "<div class=\"format-tag\">" +
+                                          names.at(static_cast<std::size_t>(i)) + "</div>"))
+                << i;
+            EXPECT_TRUE(shows(dialog, "class=\"panel info\""));
+        });
+    }
+}
+
+TEST_F(PowerPointDialog, OffersToolsForPicturesAndTheShadowForEditableObjects) {
+    struct Case {
+        ExportFormat format;
+        bool hasTools;
+        bool hasShadow;
+    };
+    for (const Case& it :
+         {Case{ExportFormat::Pictures, true, false}, Case{ExportFormat::Editable, false, true},
+          Case{ExportFormat::Linked, false, false}}) {
+        choices.format = it.format;
+        open([&](powerpoint::Dialog& dialog) {
+            const auto* browser = desktop.browser(dialog);
+            EXPECT_EQ(browser->hasLink("murvane://action/style"), it.hasTools);
+            EXPECT_EQ(browser->hasLink("murvane://action/layout"), it.hasTools);
+            EXPECT_EQ(browser->hasLink("murvane://toggle/checkShadow"), it.hasShadow);
+            EXPECT_TRUE(browser->hasLink("murvane://toggle/slideTitle"));
+            EXPECT_TRUE(browser->hasLink("murvane://toggle/sourceInc"));
+        });
+    }
+}
+
+TEST_F(PowerPointDialog, FlipsAnOptionByItsLinkAndShowsItAnew) {
+    open([&](powerpoint::Dialog& dialog) {
+        EXPECT_TRUE(click(dialog, "murvane://toggle/slideTitle"));
+        EXPECT_TRUE(dialog.SlideTitle.isChecked());
+        EXPECT_TRUE(
+            shows(dialog, "href=\"murvane://toggle/slideTitle\" class=\"opt-row checked\""));
+        EXPECT_TRUE(click(dialog, "murvane://toggle/slideTitle"));
+        EXPECT_FALSE(dialog.SlideTitle.isChecked());
+        EXPECT_FALSE(shows(dialog, "opt-row checked"));
+        dialog.ToggleOption("SOURCEINC");
+        EXPECT_TRUE(dialog.SourceInc.isChecked());
+        dialog.ToggleOption("other");
+        EXPECT_FALSE(dialog.wbStatus_BeforeNavigate2("file:///a.html"));
+    });
+}
+
+TEST_F(PowerPointDialog, KeepsTheTitlesOfSlidesThatExist) {
+    choices.predefinedSlides = true;
+    open([&](powerpoint::Dialog& dialog) {
+        EXPECT_FALSE(desktop.browser(dialog)->hasLink("murvane://toggle/slideTitle"));
+        EXPECT_TRUE(shows(dialog, "<div class=\"opt-row disabled\">"));
+        dialog.ToggleOption("slideTitle");
+        EXPECT_FALSE(dialog.SlideTitle.isChecked());
+    });
+}
+
+TEST_F(PowerPointDialog, OpensItsToolsAboveItself) {
+    open([&](powerpoint::Dialog& dialog) {
+        for (const char* name : {"PredefinedStyles", "LayoutForm"}) {
+            desktop.answer(name, [&](forms::Form& tool) {
+                EXPECT_FALSE(dialog.topmost);
+                forms_double::close(tool);
+            });
+        }
+        EXPECT_TRUE(click(dialog, "murvane://action/style"));
+        EXPECT_TRUE(click(dialog, "murvane://action/layout"));
+        EXPECT_EQ(desktop.openAnswers(), 0U);
+    });
+}
+
+TEST_F(PowerPointDialog, DoesNotComeUpWithoutPowerPointOrAPresentation) {
+    suite.quitPowerPoint();
+    powerpoint::StartPowerPointExport(session, desktop, list, choices);
+    suite.powerPoint();
+    powerpoint::StartPowerPointExport(session, desktop, list, choices);
+    EXPECT_EQ(notices.messages(), (Strings{noPowerPoint, noPresentation}));
+    EXPECT_EQ(notices.shown.front().kind, "warning");
+    EXPECT_EQ(notices.shown.front().title, "Murvane");
+    EXPECT_EQ(desktop.loadedForms().size(), 1U);
+}
+
+TEST_F(PowerPointDialog, CanOnlyBeReadWhenNothingIsChecked) {
+    for (catalogue::ExportItem& row : list.rows) row.checked = false;
+    open([&](powerpoint::Dialog& dialog) {
+        EXPECT_TRUE(shows(dialog, "No objects were selected for pasting"));
+        EXPECT_TRUE(shows(dialog, "class=\"panel warning\""));
+        EXPECT_FALSE(dialog.ContinueOk.enabled);
+    });
+}
+
+TEST_F(PowerPointDialog, HandsItsOptionsToTheExportAndEndsTheSession) {
+    list.rows[0].caption = "North";
+    desktop.answer("Dialog", [&](forms::Form& form) {
+        auto& dialog = dynamic_cast<powerpoint::Dialog&>(form);
+        dialog.ToggleOption("slideTitle");
+        dialog.ToggleOption("sourceInc");
+        press(dialog, "ContinueOk");
+    });
+    powerpoint::StartPowerPointExport(session, desktop, list, choices);
+    ASSERT_EQ(deck.slides().size(), 5U);
+    EXPECT_EQ(deck.slide(4).title()->text(), "North");
+    EXPECT_EQ(deck.slide(4).shapes().back()->text(), "/documents/Book1.xlsx");
+    EXPECT_EQ(picturesOn(5), Strings{"Chart 2"});
+    EXPECT_TRUE(desktop.loadedForms().empty());
+    EXPECT_FALSE(main.takesInput) << "the rows are being read";
+    EXPECT_TRUE(session.PowerPointApp.isNothing());
+    EXPECT_FALSE(session.ExcelApp || session.SessionPresentation || session.MainFormOpen);
+    EXPECT_EQ(progress.calls.front(), "item 0 of 2");
+}
+
+TEST_F(PowerPointDialog, ExportsToThePresentationThatItNamesWhateverTheUserLooksAtMeanwhile) {
+    auto& other = suite.powerPoint().addPresentation("Other.pptx").addSlides(1);
+    suite.powerPoint().activate(deck);
+    storePlacement(0.5, 0.25, 0.1);
+    session.PictureStyle = powerpoint::style::shadow;
+    open([&](powerpoint::Dialog& dialog) {
+        session.DefaultPlacement = false;
+        for (const char* option : {"slideTitle", "sourceInc"}) dialog.ToggleOption(option);
+        suite.powerPoint().activate(other);
+        suite.excel().addWorkbook("Other.xlsx").sheet("Sheet1");
+        press(dialog, "ContinueOk");
+    });
+    EXPECT_EQ(other.slides().size(), 1U);
+    EXPECT_EQ(other.slide(1).shapes().size(), 1U);
+    ASSERT_EQ(deck.slides().size(), 5U);
+    EXPECT_EQ(deck.slide(5).shapes().size(), 3U);
+    EXPECT_DOUBLE_EQ(deck.slide(5).shapes()[1]->box().left, 96) << "as the list's workbook says";
+    EXPECT_TRUE(deck.slide(5).shapes()[1]->hasShadow());
+    EXPECT_EQ(suite.raisedWindow(), suite.findWindow("", "Deck.pptx - PowerPoint"));
+}
+
+TEST_F(PowerPointDialog, SaysWhichFormatsThisVersionHasNotGot) {
+    choices.format = ExportFormat::Embedded;
+    open([&](powerpoint::Dialog& dialog) {
+        press(dialog, "ContinueOk");
+        EXPECT_TRUE(shows(dialog, "can&#39;t export in this format yet"));
+    });
+    EXPECT_EQ(deck.slides().size(), 3U);
+}
+
+TEST_F(PowerPointDialog, RefusesASlideNumberBeyondTheDeck) {
+    struct Case {
+        std::string number;
+        bool runs;
+    };
+    choices.predefinedSlides = true;
+    for (const Case& it : {Case{"3", true}, Case{"3.4", true}, Case{"2 ", true}, Case{"4", false},
+                           Case{"3.6", false}, Case{"70000", false}}) {
+        attachAgain();
+        notices.shown.clear();
+        progress.calls.clear();
+        list.rows[0].slideNumber = it.number;
+        open([&](powerpoint::Dialog& dialog) {
+            press(dialog, "ContinueOk");
+            EXPECT_EQ(desktop.isLoaded(dialog), !it.runs) << it.number;
+        });
+        EXPECT_EQ(notices.messages(), it.runs ? Strings{} : Strings{numberTooHigh});
+        EXPECT_EQ(progress.calls.size(), it.runs ? 5U : 0U) << it.number;
+    }
+}
+
+TEST_F(PowerPointDialog, StaysOpenWhenThePresentationHasGoneAndNamesAnotherOneFirst) {
+    open([&](powerpoint::Dialog& dialog) {
+        suite.powerPoint().closePresentation(deck);
+        press(dialog, "ContinueOk");
+        EXPECT_TRUE(shows(dialog, "Please open an existing presentation or create a new one"));
+        EXPECT_TRUE(shows(dialog, "class=\"panel warning\""));
+        auto& other = suite.powerPoint().addPresentation("Other.pptx");
+        press(dialog, "ContinueOk");
+        EXPECT_TRUE(shows(dialog, "Other.pptx"));
+        EXPECT_TRUE(other.slides().empty());
+        press(dialog, "ContinueOk");
+        EXPECT_EQ(other.slides().size(), 2U);
+        EXPECT_FALSE(desktop.isLoaded(dialog));
+    });
+}
+
+TEST_F(PowerPointDialog, LeavesAFailureOfTheBatchToItsCaller) {
+    suite.failures().fail("Shapes.AddPicture");
+    EXPECT_THROW(open([&](powerpoint::Dialog& dialog) { press(dialog, "ContinueOk"); }),
+                 office::Failure);
+}
+
+TEST_F(PowerPointDialog, GivesWayToTheMainFormWhenItIsClosed) {
+    open([&](powerpoint::Dialog& dialog) {
+        EXPECT_TRUE(session.DefaultPlacement);
+        forms_double::pressEscape(dialog);
+        EXPECT_FALSE(desktop.isLoaded(dialog));
+    });
+    EXPECT_TRUE(desktop.isLoaded(main));
+    EXPECT_TRUE(main.takesInput);
+}
+
+TEST_F(PowerPointDialog, WorksWithoutAPanel) {
+    desktop.hasBrowsers = false;
+    host.temporaryFolderIsFull = true;
+    desktop.answer("Dialog", [&](forms::Form& form) { forms_double::pressEnter(form); });
+    powerpoint::StartPowerPointExport(session, desktop, list, choices);
+    EXPECT_EQ(deck.slides().size(), 5U);
+}
+
+}  // namespace
