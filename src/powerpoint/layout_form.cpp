@@ -104,15 +104,17 @@ void LayoutForm::setCaptions() {
 }
 
 void LayoutForm::wireEvents() {
-    for (const int index : {0, 1}) {
-        const auto at = static_cast<std::size_t>(index);
-        OptionTop.at(at).onClick = [this, index] { OptionTop_Click(index); };
-        OptionWidth.at(at).onClick = [this, index] { OptionWidth_Click(index); };
-        OptionAlign.at(at).onClick = [this, index] { OptionAlign_Click(index); };
-    }
-    for (Slider* slider : {&TopSlider, &WidthSlider, &AlignSlider}) {
-        slider->onChange = [this] { showValues(); };
-    }
+    const auto wire = [this](Options& options, Slider& slider, forms::Label& value) {
+        for (std::size_t i = 0; i < options.size(); ++i) {
+            options.at(i).onClick = [this, &options, &slider, &value, i] {
+                choose(options, slider, value, i);
+            };
+        }
+        slider.onChange = [this] { showValues(); };
+    };
+    wire(OptionTop, TopSlider, Label1);
+    wire(OptionWidth, WidthSlider, Label2);
+    wire(OptionAlign, AlignSlider, Label3);
     CloseLayout.onClick = [this] { CloseLayout_Click(); };
 }
 
@@ -121,38 +123,27 @@ void LayoutForm::Form_Load() {
     shadow_.emplace().Shadow(*this);
     const session::Placement stored = office::orElse(
         [&] { return session::readStoredPlacement(session_); }, session::Placement());
-    showShare(stored.top, OptionTop, TopSlider, standardTop, TopToSlider);
-    showShare(stored.width, OptionWidth, WidthSlider, standardWidth, FractionToSlider);
-    showShare(stored.left, OptionAlign, AlignSlider, standardLeft, FractionToSlider);
+    showShare(stored.top, OptionTop, TopSlider, TopToSlider(stored.top.value_or(standardTop)));
+    showShare(stored.width, OptionWidth, WidthSlider,
+              FractionToSlider(stored.width.value_or(standardWidth)));
+    showShare(stored.left, OptionAlign, AlignSlider,
+              FractionToSlider(stored.left.value_or(standardLeft)));
     showValues();
     furniture::ApplyTheme(*this);
 }
 
 void LayoutForm::showShare(const std::optional<double>& share, Options& options, Slider& slider,
-                           double standard, std::int32_t (*toSlider)(double)) {
+                           std::int32_t position) {
     for (forms::OptionButton& option : options) option.startWith(false);
     options.at(share ? 1 : 0).setValue(true);
-    slider.setValue(toSlider(share.value_or(standard)));
-    slider.enabled = share.has_value();
+    slider.setValue(position);
 }
 
-void LayoutForm::choose(Options& options, Slider& slider, int index) {
-    for (std::size_t i = 0; i < options.size(); ++i) {
-        options.at(i).setValue(static_cast<int>(i) == index);
-    }
+/// The slider and what it says are dim while the choice is the program's.
+void LayoutForm::choose(Options& options, Slider& slider, forms::Label& value, std::size_t index) {
+    for (std::size_t i = 0; i < options.size(); ++i) options.at(i).setValue(i == index);
     slider.enabled = index != 0;
-}
-
-void LayoutForm::OptionTop_Click(int index) {
-    choose(OptionTop, TopSlider, index);
-}
-
-void LayoutForm::OptionWidth_Click(int index) {
-    choose(OptionWidth, WidthSlider, index);
-}
-
-void LayoutForm::OptionAlign_Click(int index) {
-    choose(OptionAlign, AlignSlider, index);
+    value.enabled = slider.enabled;
 }
 
 void LayoutForm::showValues() {
@@ -166,12 +157,22 @@ double LayoutForm::SliderToTop() const {
 }
 
 void LayoutForm::CloseLayout_Click() {
-    session_.DefaultPlacement = false;
+    office::ContinueOnFailure scope;
     session::EnsureStoreSheet(session_);
-    session::writeStoredPlacement(session_,
-                                  {shareOf(OptionTop, SliderToTop()),
-                                   shareOf(OptionWidth, SliderToFraction(WidthSlider.value())),
-                                   shareOf(OptionAlign, SliderToFraction(AlignSlider.value()))});
+    const bool isStored = scope.attempt([&] {
+        session::writeStoredPlacement(
+            session_, {shareOf(OptionTop, SliderToTop()),
+                       shareOf(OptionWidth, SliderToFraction(WidthSlider.value())),
+                       shareOf(OptionAlign, SliderToFraction(AlignSlider.value()))});
+    });
+    if (!isStored) {
+        session::ShowWarningNotice(session_.notices,
+                                   fmt::format("The slide position could not be kept in the "
+                                               "workbook: {}.",
+                                               scope.lastFailure()->description()));
+        return;
+    }
+    session_.DefaultPlacement = false;
     desktop().unload(*this);
 }
 

@@ -28,10 +28,8 @@ public:
     LayoutForm(forms::Desktop& desktop, session::OfficeSession& session);
 
     void Form_Load() override;
-    void OptionTop_Click(int index);
-    void OptionWidth_Click(int index);
-    void OptionAlign_Click(int index);
-    /// Writes the values and unloads the form. Failures go to the caller.
+    /// Writes the values and unloads the form; where they can't be written a notice says why, and
+    /// the form stays.
     void CloseLayout_Click();
 
     [[nodiscard]] double SliderToTop() const;
@@ -57,8 +55,9 @@ private:
     void setCaptions();
     void wireEvents();
     static void showShare(const std::optional<double>& share, Options& options,
-                          forms::Slider& slider, double standard, std::int32_t (*toSlider)(double));
-    static void choose(Options& options, forms::Slider& slider, int index);
+                          forms::Slider& slider, std::int32_t position);
+    static void choose(Options& options, forms::Slider& slider, forms::Label& value,
+                       std::size_t index);
     void showValues();
 
     session::OfficeSession& session_;

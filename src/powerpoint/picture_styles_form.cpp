@@ -15,7 +15,7 @@ namespace {
 using forms::Twips;
 
 constexpr Twips width = 12300;
-constexpr Twips height = 4080;
+constexpr Twips height = 5640;
 constexpr Twips optionWidth = 1800;
 constexpr Twips optionGap = 120;
 
@@ -34,7 +34,7 @@ constexpr std::array<std::string_view, 6> samples = {
 forms::Place placeOf(int index) {
     const Twips left = 240 + (5 - index) * (optionWidth + optionGap);
     // Two lines of text, which the longer captions need once they are bold.
-    return {left, 1080, optionWidth, 540};
+    return {left, 2640, optionWidth, 540};
 }
 
 std::array<forms::OptionButton, 6> optionsOf(forms::Form& form, forms::Frame& frame) {
@@ -51,10 +51,10 @@ PredefinedStyles::PredefinedStyles(forms::Desktop& theDesktop, session::OfficeSe
       TitelBar1(*this, "TitelBar1", {0, 0, width, 420}),
       Image1(*this, "Image1", {240, 600, 360, 360}),
       Label1(*this, "Label1", {720, 660, 6000, 300}),
-      Frame3(*this, "Frame3", {240, 1080, width - 480, 1920}),
-      Picture1(*this, "Picture1", {5340, 180, 1140, 780}, &Frame3),
+      Frame3(*this, "Frame3", {240, 1080, width - 480, 3480}),
+      Picture1(*this, "Picture1", {4110, 180, 3600, 2340}, &Frame3),
       OptionStyle(optionsOf(*this, Frame3)),
-      Styles(*this, "Styles", {width - 240 - 1920, 3300, 1920, 480}),
+      Styles(*this, "Styles", {width - 240 - 1920, 4860, 1920, 480}),
       session_(session) {
     caption = "Murvane";
     escapeCloses = true;

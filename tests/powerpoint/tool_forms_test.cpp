@@ -64,7 +64,9 @@ struct Shown {
     bool operator==(const Shown&) const = default;
 };
 
-Shown shown(const std::array<forms::OptionButton, 2>& options, const forms::Slider& slider) {
+Shown shown(const std::array<forms::OptionButton, 2>& options, const forms::Slider& slider,
+            const forms::Label& value) {
+    EXPECT_EQ(slider.enabled, value.enabled);
     EXPECT_NE(options[0].value(), options[1].value());
     return {options[0].value(), slider.value(), slider.enabled};
 }
@@ -91,28 +93,30 @@ TEST_F(ToolForms, ShowWhatTheStoreHolds) {
     for (const Case& it : cases) {
         store(it.top, it.width, it.left);
         desktop.load(layout);
-        EXPECT_EQ(shown(layout.OptionTop, layout.TopSlider), it.shownTop);
-        EXPECT_EQ(shown(layout.OptionWidth, layout.WidthSlider), it.shownWidth);
-        EXPECT_EQ(shown(layout.OptionAlign, layout.AlignSlider), it.shownLeft);
+        EXPECT_EQ(shown(layout.OptionTop, layout.TopSlider, layout.Label1), it.shownTop);
+        EXPECT_EQ(shown(layout.OptionWidth, layout.WidthSlider, layout.Label2), it.shownWidth);
+        EXPECT_EQ(shown(layout.OptionAlign, layout.AlignSlider, layout.Label3), it.shownLeft);
         desktop.unload(layout);
     }
 }
 
 TEST_F(ToolForms, ShowTheStandardPlacementWithoutAStore) {
     desktop.load(layout);
-    EXPECT_EQ(shown(layout.OptionTop, layout.TopSlider), (Shown{true, 75, false}));
+    EXPECT_EQ(shown(layout.OptionTop, layout.TopSlider, layout.Label1), (Shown{true, 75, false}));
     EXPECT_TRUE(layout.topmost);
 }
 
 TEST_F(ToolForms, AnOptionTurnsItsSliderOnAndOff) {
     desktop.load(layout);
     choose(layout, "OptionWidth", 1);
-    EXPECT_EQ(shown(layout.OptionWidth, layout.WidthSlider), (Shown{false, 90, true}));
+    EXPECT_EQ(shown(layout.OptionWidth, layout.WidthSlider, layout.Label2),
+              (Shown{false, 90, true}));
     EXPECT_FALSE(layout.TopSlider.enabled || layout.AlignSlider.enabled);
     layout.WidthSlider.setValue(65);
     EXPECT_EQ(layout.Label2.caption, "65% of the width");
     choose(layout, "OptionWidth", 0);
-    EXPECT_EQ(shown(layout.OptionWidth, layout.WidthSlider), (Shown{true, 65, false}));
+    EXPECT_EQ(shown(layout.OptionWidth, layout.WidthSlider, layout.Label2),
+              (Shown{true, 65, false}));
 }
 
 TEST_F(ToolForms, ApplyWritesTheStoreForTheExportsOfThisRun) {
@@ -127,6 +131,18 @@ TEST_F(ToolForms, ApplyWritesTheStoreForTheExportsOfThisRun) {
     EXPECT_EQ(stored("R1").toText(), "Default");
     EXPECT_FALSE(test.session.DefaultPlacement);
     EXPECT_FALSE(desktop.isLoaded(layout));
+}
+
+TEST_F(ToolForms, ApplySaysWhyNothingWasKeptAndTheFormStays) {
+    store("Default", "Default", "Default");
+    desktop.load(layout);
+    choose(layout, "OptionTop", 1);
+    test.suite.failures().failAlways("Range.Value");
+    press(layout, "CloseLayout");
+    ASSERT_EQ(test.notices.shown.size(), 1U);
+    EXPECT_TRUE(test.notices.messages()[0].starts_with("The slide position could not be kept"));
+    EXPECT_TRUE(test.session.DefaultPlacement);
+    EXPECT_TRUE(desktop.isLoaded(layout));
 }
 
 TEST_F(ToolForms, ApplyMakesAStoreWhereThereIsNone) {
