@@ -2,8 +2,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include "panels/panel_blocks.h"
-
 /// What a click in an options dialog composes anew.
 static void aPanelPageIsComposed(benchmark::State& state) {
     for (auto _ : state) {

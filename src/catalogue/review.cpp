@@ -10,7 +10,7 @@
 #include "office/failure_patterns.h"
 #include "office/text.h"
 #include "panels/markup.h"
-#include "panels/notice_page.h"
+#include "panels/notices.h"
 #include "session/powerpoint_session.h"
 
 namespace catalogue {

@@ -70,51 +70,34 @@ MurvaneNotice::MurvaneNotice(forms::Desktop& theDesktop, session::Host& host, Pe
     wbNotice.onDocumentComplete = [this] { wbNotice_DocumentComplete(); };
 }
 
-void MurvaneNotice::PrepareNotice(std::string title, std::string page, int buttons) {
-    Result = session::answer::ok;
-    title_ = std::move(title);
-    page_ = std::move(page);
-    buttons_ = buttons;
-}
-
 void MurvaneNotice::Form_Load() {
     shadow_.emplace().Shadow(*this);
     acceptedValues.clear();
-    takePending();
-    place.width =
-        fixedWidth_ > 0 ? std::min(fixedWidth_, desktop().screen().width - 600) : defaultWidth;
-    TitelBar1.caption = " " + title_;
+    pageIsRequested_ = false;
+    Result = has(pending_.Buttons, withCancel) ? session::answer::cancel : session::answer::ok;
+    place.width = pending_.Width > 0 ? std::min(pending_.Width, desktop().screen().width - 600)
+                                     : defaultWidth;
+    const std::string title = pending_.Title.empty() ? "Murvane" : pending_.Title;
+    TitelBar1.caption = " " + title;
     wbNotice.accessibleName =
-        pending_.Message.empty() ? title_ : title_ + ": " + onOneLine(pending_.Message);
+        pending_.Message.empty() ? title : title + ": " + onOneLine(pending_.Message);
     TitelBar1.place.width = place.width;
     showButtons();
     PlaceNoticeBrowser();
-    const Twips body = fixedBodyHeight_ > 0 ? fixedBodyHeight_ : minimumBody;
+    const Twips body = pending_.BodyHeight > 0 ? pending_.BodyHeight : minimumBody;
     FitNoticeToBody(body);
     furniture::ApplyTheme(*this);
     // The theme has styled the buttons anew.
     FitNoticeToBody(body);
     CenterNotice();
-    if (!page_.empty()) tmrHtml.enabled = true;
-}
-
-void MurvaneNotice::takePending() {
-    if (!pending_.Html.empty()) {
-        page_ = pending_.Html;
-        if (!pending_.Title.empty()) title_ = pending_.Title;
-        if (pending_.Buttons != 0) buttons_ = pending_.Buttons;
-        pageIsRequested_ = false;
-        Result = has(buttons_, withCancel) ? session::answer::cancel : session::answer::ok;
-    }
-    fixedWidth_ = pending_.Width;
-    fixedBodyHeight_ = pending_.BodyHeight;
+    if (!pending_.Html.empty()) tmrHtml.enabled = true;
 }
 
 void MurvaneNotice::showButtons() {
-    btnCancel.visible = has(buttons_, withCancel);
+    btnCancel.visible = has(pending_.Buttons, withCancel);
     btnOK.caption = "OK";
     btnCancel.caption = "Cancel";
-    if (!has(buttons_, yesAndNo)) return;
+    if (!has(pending_.Buttons, yesAndNo)) return;
     btnOK.caption = "Yes";
     btnCancel.caption = "No";
     btnCancel.visible = true;
@@ -131,7 +114,7 @@ void MurvaneNotice::tmrHtml_Timer() {
     if (pageIsRequested_) return;
     pageIsRequested_ = true;
     tries_ = 0;
-    LoadNoticeHtml(page_);
+    LoadNoticeHtml(pending_.Html);
 }
 
 void MurvaneNotice::LoadNoticeHtml(const std::string& page) {
@@ -142,13 +125,13 @@ void MurvaneNotice::LoadNoticeHtml(const std::string& page) {
 
 void MurvaneNotice::wbNotice_DocumentComplete() {
     furniture::ApplyBrowserBackground(wbNotice, furniture::palette::ThemeGroundText);
-    tmrFit.enabled = fixedBodyHeight_ < 1;
-    if (fixedBodyHeight_ > 0) FitNoticeToBody(fixedBodyHeight_);
+    tmrFit.enabled = pending_.BodyHeight < 1;
+    if (pending_.BodyHeight > 0) FitNoticeToBody(pending_.BodyHeight);
 }
 
 void MurvaneNotice::tmrFit_Timer() {
-    if (fixedBodyHeight_ > 0) {
-        FitNoticeToBody(fixedBodyHeight_);
+    if (pending_.BodyHeight > 0) {
+        FitNoticeToBody(pending_.BodyHeight);
         tmrFit.enabled = false;
         return;
     }
@@ -171,7 +154,7 @@ bool MurvaneNotice::MeasureNotice() {
 
     Twips body = (heightPx + 24) * forms::twipsPerPixel + 360;
     body = std::max(body, minimumBody);
-    const Twips limit = fixedBodyHeight_ > 0 ? fixedBodyHeight_ : NoticeMaxBodyHeight();
+    const Twips limit = pending_.BodyHeight > 0 ? pending_.BodyHeight : NoticeMaxBodyHeight();
     if (body > limit) {
         body = limit;
         document->setStyle("overflow", "auto");
@@ -188,7 +171,7 @@ Twips MurvaneNotice::NoticeHeaderHeight() const {
 
 Twips MurvaneNotice::NoticeMaxBodyHeight() const {
     const Twips room = desktop().screen().height - NoticeHeaderHeight() - barHeight - 480;
-    const Twips cap = fixedBodyHeight_ > 0 ? fixedBodyHeight_ : tallestOwnBody;
+    const Twips cap = pending_.BodyHeight > 0 ? pending_.BodyHeight : tallestOwnBody;
     return std::min(std::max(room, minimumBody), cap);
 }
 
@@ -197,7 +180,7 @@ Twips MurvaneNotice::NoticeFormHeight(Twips body) const {
 }
 
 void MurvaneNotice::FitNoticeToBody(Twips height) {
-    if (height < 1) height = fixedBodyHeight_;
+    if (height < 1) height = pending_.BodyHeight;
     if (height < 1) height = minimumBody;
     Twips body = std::min(height, NoticeMaxBodyHeight());
     const Twips needed = NoticeFormHeight(body);
@@ -239,12 +222,12 @@ void MurvaneNotice::ReadAcceptedValues() {
 
 void MurvaneNotice::btnOK_Click() {
     ReadAcceptedValues();
-    Result = has(buttons_, yesAndNo) ? session::answer::yes : session::answer::ok;
+    Result = has(pending_.Buttons, yesAndNo) ? session::answer::yes : session::answer::ok;
     desktop().unload(*this);
 }
 
 void MurvaneNotice::btnCancel_Click() {
-    Result = has(buttons_, yesAndNo) ? session::answer::no : session::answer::cancel;
+    Result = has(pending_.Buttons, yesAndNo) ? session::answer::no : session::answer::cancel;
     desktop().unload(*this);
 }
 

@@ -29,9 +29,6 @@ class MurvaneNotice : public forms::Form {
 public:
     MurvaneNotice(forms::Desktop& desktop, session::Host& host, PendingNotice pending);
 
-    /// Presets the form by hand.
-    void PrepareNotice(std::string title, std::string page, int buttons);
-
     void Form_Load() override;
     void Form_Activate() override;
 
@@ -56,7 +53,6 @@ private:
     void tmrFit_Timer();
     void wbNotice_DocumentComplete();
 
-    void takePending();
     void showButtons();
     void LoadNoticeHtml(const std::string& page);
     /// 0 stands for the fixed height, or else for the least.
@@ -73,13 +69,8 @@ private:
 
     session::Host& host_;
     PendingNotice pending_;
-    std::string title_ = "Murvane";
-    std::string page_;
-    int buttons_ = 0;
     bool pageIsRequested_ = false;
     int tries_ = 0;
-    forms::Twips fixedWidth_ = 0;
-    forms::Twips fixedBodyHeight_ = 0;
     std::optional<furniture::clsShadow> shadow_;
 };
 

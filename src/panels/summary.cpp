@@ -1,5 +1,6 @@
 #include "panels/summary.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <vector>
@@ -137,29 +138,25 @@ std::string ParseDestinationPhrase(std::string_view line, std::string& lead) {
 }
 
 std::string BuildFlowHtml(std::string_view destinationWord) {
-    const std::string key = NormalizeDestinationKey(destinationWord);
-    const std::string text = DestinationBadgeText(key);
-    if (text.empty()) return {};
-    return block("span", "app-badge excel", "XLS") + block("span", "flow-arrow", "&rarr;") +
-           block("span", "app-badge " + key, HtmlEscape(text));
-}
-
-std::string NormalizeDestinationKey(std::string_view destinationWord) {
+    struct Destination {
+        std::string_view key;
+        std::string_view badge;
+        std::array<std::string_view, 4> words;
+    };
+    static constexpr std::array<Destination, 5> destinations = {{
+        {"ppt", "PPT", {"powerpoint", "ppt", "pp"}},
+        {"word", "DOC", {"word", "doc"}},
+        {"pdf", "PDF", {"pdf"}},
+        {"html", "HTML", {"html", "htm"}},
+        {"images", "IMG", {"images", "image", "files", "folder"}},
+    }};
     const std::string word = office::lowerCase(office::trim(destinationWord));
-    if (word == "powerpoint" || word == "ppt" || word == "pp") return "ppt";
-    if (word == "word" || word == "doc") return "word";
-    if (word == "pdf") return "pdf";
-    if (word == "html" || word == "htm") return "html";
-    if (word == "images" || word == "image" || word == "files" || word == "folder") return "images";
-    return {};
-}
-
-std::string DestinationBadgeText(std::string_view key) {
-    if (key == "ppt") return "PPT";
-    if (key == "word") return "DOC";
-    if (key == "pdf") return "PDF";
-    if (key == "html") return "HTML";
-    if (key == "images") return "IMG";
+    for (const Destination& destination : destinations) {
+        const auto& words = destination.words;
+        if (word.empty() || std::find(words.begin(), words.end(), word) == words.end()) continue;
+        return block("span", "app-badge excel", "XLS") + block("span", "flow-arrow", "&rarr;") +
+               block("span", "app-badge " + std::string(destination.key), destination.badge);
+    }
     return {};
 }
 

@@ -21,9 +21,5 @@ namespace panels {
 
 /// The line of badges from Excel to the destination; empty for an unknown word.
 [[nodiscard]] std::string BuildFlowHtml(std::string_view destinationWord);
-/// "ppt", "word", "pdf", "html", "images" or empty.
-[[nodiscard]] std::string NormalizeDestinationKey(std::string_view destinationWord);
-/// "PPT", "DOC", "PDF", "HTML", "IMG" or empty, for a normalised key.
-[[nodiscard]] std::string DestinationBadgeText(std::string_view key);
 
 }  // namespace panels

@@ -11,7 +11,7 @@
 #include "furniture/shadow.h"
 #include "furniture/title_bar.h"
 #include "office/failure_patterns.h"
-#include "panels/action_bar.h"
+#include "panels/action_panel.h"
 #include "session/office_session.h"
 
 namespace powerpoint {

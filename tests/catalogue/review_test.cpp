@@ -5,7 +5,7 @@
 
 #include "catalogue/review.h"
 #include "loaded_list.h"
-#include "panels/notice_page.h"
+#include "panels/notices.h"
 
 namespace {
 

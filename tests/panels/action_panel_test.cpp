@@ -6,10 +6,9 @@
 #include "forms/form.h"
 #include "forms_double/windowless_desktop.h"
 #include "furniture/palette.h"
-#include "panels/action_bar.h"
 #include "panels/action_panel.h"
 #include "panels/page_file.h"
-#include "panels/panel_links.h"
+#include "panels/panel_page.h"
 #include "session_doubles/scripted_host.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include "forms_double/windowless_desktop.h"
 #include "furniture/palette.h"
 #include "panels/notice_form.h"
-#include "panels/notice_panel.h"
+#include "panels/notices.h"
 #include "session_doubles/scripted_host.h"
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "panels/panel_blocks.h"
+#include "panels/panel_page.h"
 
 namespace {
 

@@ -3,26 +3,17 @@
 #include <string>
 
 #include "approved.h"
-#include "panels/panel_blocks.h"
 #include "panels/panel_page.h"
-#include "panels/panel_style.h"
+#include "panels/style_sheets.h"
 
 namespace {
 
 using panels::ActionPanel;
 using panels_tests::expectApproved;
 
-std::string panelSheet() {
-    return panels::PanelCssBase() + panels::PanelCssOptions() + panels::PanelCssTools();
-}
-
 void expectPanel(const ActionPanel& panel, const std::string& name) {
-    expectApproved(panels_tests::withoutStyle(panels::BuildActionPanelHtml(panel), panelSheet()),
-                   name);
-}
-
-TEST(PanelPage, HasItsStyleSheetInThreePieces) {
-    expectApproved(panelSheet(), "panel.css");
+    expectApproved(
+        panels_tests::withoutStyle(panels::BuildActionPanelHtml(panel), panels::PanelCss()), name);
 }
 
 TEST(PanelPage, ShowsASummaryWithToolsOptionsAndFooter) {

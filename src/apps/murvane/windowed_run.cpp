@@ -5,7 +5,7 @@
 #include "desktop/forms_runner.h"
 #include "office/libreoffice/libreoffice_suite.h"
 #include "panels/form_progress.h"
-#include "panels/notice_panel.h"
+#include "panels/notices.h"
 
 namespace apps {
 

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "approved.h"
-#include "panels/notice_page.h"
-#include "panels/notice_style.h"
+#include "panels/notices.h"
+#include "panels/style_sheets.h"
 #include "session_doubles/recording_notices.h"
 
 namespace {
@@ -15,10 +15,6 @@ using session_doubles::RecordingNotices;
 
 void expectNotice(const std::string& page, const std::string& name) {
     expectApproved(panels_tests::withoutStyle(page, panels::NoticeCss()), name);
-}
-
-TEST(NoticePage, HasItsStyleSheet) {
-    expectApproved(panels::NoticeCss(), "notice.css");
 }
 
 TEST(NoticePage, IsACardWithTheMessageAsParagraphs) {
