@@ -108,19 +108,29 @@ void leaveChartSheet(const office::Object& book) {
     }
 }
 
-void refuseSeveralAreas(const FoundItems& found, RowObjects& objects, ExportItem& item) {
-    if (item.kind != ItemKind::Range) return;
-    // The walk has looked at nearly all of them; what is left are items of hidden sheets and of
-    // names that have vanished.
-    const auto known = found.hasSeveralAreas.find(item.key());
-    item.hasSeveralAreas =
-        known != found.hasSeveralAreas.end() ? known->second : objects.isMultipleAreaRow(item);
-    if (item.hasSeveralAreas) item.checked = false;
-}
-
 CheckAllState stateOf(std::size_t checked, std::size_t rows) {
     if (checked == 0) return CheckAllState::None;
     return checked == rows ? CheckAllState::All : CheckAllState::Some;
+}
+
+CheckAllState fill(session::OfficeSession& session, ExportList& list, session::StoredItems stored,
+                   const SeveralAreas& hasSeveralAreas) {
+    list.rows = std::move(stored.items);
+    std::size_t checked = 0;
+    RowObjects objects(session);
+    for (ExportItem& item : list.rows) {
+        if (item.checked) ++checked;
+        if (item.kind != ItemKind::Range) continue;
+        // The walk has looked at nearly all of them; what is left are items of hidden sheets and of
+        // names that have vanished.
+        const auto known = hasSeveralAreas.find(item.key());
+        item.hasSeveralAreas = known != hasSeveralAreas.end() ? known->second
+                                                              : objects.isMultipleAreaRow(item);
+        if (item.hasSeveralAreas) item.checked = false;
+    }
+    SortByColumn(list, stored.wereUnknown ? ListColumn::order : ListColumn::laterRow);
+    RenumberIncludedRows(list);
+    return stateOf(checked, list.rows.size());
 }
 
 }  // namespace
@@ -136,8 +146,7 @@ void CountWorkbookItems(session::OfficeSession& session) {
 }
 
 CheckAllState LoadItemsToForm(session::OfficeSession& session, ExportList& list) {
-    std::size_t checked = 0;
-    bool isFresh = false;
+    CheckAllState checkAll = CheckAllState::None;
     {
         const ExcelPause pause(session);
         session::EnsureStoreSheet(session);
@@ -145,22 +154,19 @@ CheckAllState LoadItemsToForm(session::OfficeSession& session, ExportList& list)
         leaveChartSheet(session.ActiveBook);
         FoundItems found = FindItems(session);
         session.ItemCount = shortCount(found.items.size());
-
-        session::StoredItems stored = session::MergeIntoStore(session, std::move(found.items));
-        isFresh = stored.wereUnknown;
-        list.rows = std::move(stored.items);
-        RowObjects objects(session);
-        for (ExportItem& item : list.rows) {
-            if (item.checked) ++checked;
-            refuseSeveralAreas(found, objects, item);
-        }
+        checkAll = fill(session, list, session::MergeIntoStore(session, std::move(found.items)),
+                        found.hasSeveralAreas);
     }
-    SortByColumn(list, isFresh ? ListColumn::order : ListColumn::laterRow);
     // A list takes its first row as the selected one.
     list.selected = list.rows.empty() ? -1 : 0;
     list.isLoaded = true;
-    RenumberIncludedRows(list);
-    return stateOf(checked, list.rows.size());
+    return checkAll;
+}
+
+void ListItems(session::OfficeSession& session, ExportList& list) {
+    FoundItems found = FindItems(session);
+    fill(session, list, session::MergeWithStore(session, std::move(found.items)),
+         found.hasSeveralAreas);
 }
 
 }  // namespace catalogue

@@ -35,6 +35,7 @@ struct ExportItem {
 
     /// What makes it the same item from run to run.
     [[nodiscard]] std::string key() const { return name + sheet; }
+    bool operator==(const ExportItem&) const = default;
     [[nodiscard]] bool isChartSheet() const { return kind == ItemKind::ChartSheet; }
     [[nodiscard]] bool isEmbeddedChart() const { return kind == ItemKind::Chart; }
 };

@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <iterator>
 #include <unordered_set>
 #include <utility>
 
@@ -118,11 +117,26 @@ Stored readStored(const Object& sheet) {
     return stored;
 }
 
-void appendRows(const Object& sheet, std::size_t lastRow, const std::vector<ExportItem>& added) {
-    if (added.empty()) return;
-    Table block(added.size(), keyColumn);
-    for (std::size_t i = 0; i < added.size(); ++i) fillRow(block, i + 1, added[i]);
-    cells(sheet, "A:H", lastRow + 1, lastRow + added.size()).put("Value", block);
+/// The stored items and those of the found ones that are new, which all get the same number.
+StoredItems merged(const Stored& stored, std::vector<ExportItem> found) {
+    const bool wereUnknown = stored.items.empty();
+    StoredItems all{stored.items, wereUnknown};
+    const std::string laterRow = std::to_string(stored.lastRow + 1);
+    for (ExportItem& item : found) {
+        if (stored.keys.contains(item.key())) continue;
+        if (!wereUnknown) item.laterRow = laterRow;
+        all.items.push_back(std::move(item));
+    }
+    return all;
+}
+
+/// Writes the items from index `first` on below row `lastRow`.
+void appendRows(const Object& sheet, std::size_t lastRow, const std::vector<ExportItem>& items,
+                std::size_t first) {
+    if (first == items.size()) return;
+    Table block(items.size() - first, keyColumn);
+    for (std::size_t i = 1; i <= block.rows(); ++i) fillRow(block, i, items[first + i - 1]);
+    cells(sheet, "A:H", lastRow + 1, lastRow + block.rows()).put("Value", block);
 }
 
 void writeItems(const Object& sheet, const std::vector<ExportItem>& rows) {
@@ -193,26 +207,24 @@ void EnsureStoreSheet(OfficeSession& session) {
     scope.attempt([&] { sheet.put("Visible", veryHidden); });
 }
 
+StoredItems MergeWithStore(OfficeSession& session, std::vector<ExportItem> found) {
+    if (!SheetExists(session, store::sheetName)) return {std::move(found), true};
+    Stored stored = readStored(storeSheet(session));
+    if (!stored.hasKeys) stored = {};
+    return merged(stored, std::move(found));
+}
+
 StoredItems MergeIntoStore(OfficeSession& session, std::vector<ExportItem> found) {
     const Object sheet = storeSheet(session);
     Stored stored = readStored(sheet);
-    if (!stored.items.empty() && !stored.hasKeys) {
-        sheet.get("Cells").call("ClearContents");
+    if (!stored.hasKeys) {
+        if (!stored.items.empty()) sheet.get("Cells").call("ClearContents");
         stored = {};
     }
-    const bool wereUnknown = stored.items.empty();
-    if (wereUnknown) {
-        stored.lastRow = 0;
-    } else {
-        std::erase_if(found,
-                      [&](const ExportItem& item) { return stored.keys.contains(item.key()); });
-        // All items that one run adds get the same number.
-        const std::string laterRow = std::to_string(stored.lastRow + 1);
-        for (ExportItem& item : found) item.laterRow = laterRow;
-    }
-    appendRows(sheet, stored.lastRow, found);
-    std::move(found.begin(), found.end(), std::back_inserter(stored.items));
-    return {std::move(stored.items), wereUnknown};
+    const std::size_t known = stored.items.size();
+    StoredItems all = merged(stored, std::move(found));
+    appendRows(sheet, stored.lastRow, all.items, known);
+    return all;
 }
 
 void SaveListToStore(OfficeSession& session, const ExportList& list) {

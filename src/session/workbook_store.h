@@ -38,11 +38,14 @@ struct StoredItems {
     bool wereUnknown = false;
 };
 
-/// Adds the found items that the store doesn't know behind those that it does, and returns all of
-/// them in its order. An item that has vanished from the workbook stays. A store without keys is of
-/// an older form and gives way to the found items.
+/// The stored items in their order, and behind them the found ones that the store doesn't know. An
+/// item that has vanished from the workbook stays. A store without keys is of an older form and
+/// gives way to the found items. The workbook may be without a store.
 ///
 /// Plain code: a failure goes to the caller.
+[[nodiscard]] StoredItems MergeWithStore(OfficeSession& session, std::vector<ExportItem> found);
+
+/// The same, and the store, which has to be there, learns of the new ones.
 [[nodiscard]] StoredItems MergeIntoStore(OfficeSession& session, std::vector<ExportItem> found);
 
 /// Puts the rows of the list in the place of the stored items; their order becomes that of the

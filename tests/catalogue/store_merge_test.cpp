@@ -86,6 +86,30 @@ TEST_F(StoreMerge, AppendsNewItemsBelowTheMarkerRow) {
     EXPECT_EQ(text("A4"), "Chart 3");
 }
 
+TEST_F(StoreMerge, IsListedWithoutATraceInTheWorkbook) {
+    run([](catalogue::ExportList& list) {
+        std::swap(list.rows.at(0), list.rows.at(1));
+        list.rows.at(0).caption = "Kept";
+    });
+    book.sheet("Sales").chart("Chart 3");
+    auto& other = test.suite.excel().addWorkbook("Other.xlsx");
+    other.chartSheet("Overview");
+    other.sheet("Costs").chart("Chart 1").define("Parts", "A1:A5,C1:C5");
+    for (auto* listed : {&book, &other}) {
+        test.suite.excel().activate(*listed);
+        test.attach();
+        const std::size_t sheets = listed->tabs().size();
+        catalogue::ExportList list;
+        catalogue::ListItems(test.session, list);
+        EXPECT_FALSE(list.isLoaded);
+        EXPECT_EQ(listed->tabs().size(), sheets);
+        for (const support::RecordedCall& call : test.suite.log().calls()) {
+            EXPECT_EQ(call.kind, support::CallKind::Get) << call.text();
+        }
+        EXPECT_EQ(list.rows, LoadedList(test).list.rows) << "as the main form shows them";
+    }
+}
+
 TEST_F(StoreMerge, AppendsNothingTwice) {
     run();
     book.sheet("Sales").chart("Chart 3");

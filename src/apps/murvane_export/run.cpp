@@ -126,6 +126,7 @@ int Run::perform() {
     openDocuments();
     stopIfInterrupted();
     bookName_ = session_.ActiveBook.get("FullName").toText();
+    if (options_.task == Task::List) return printItems();
     // The road to the main form, with the run in the form's place: it counts the items and refuses
     // a workbook that has none or that can't take the store.
     std::optional<int> result;
@@ -136,9 +137,7 @@ int Run::perform() {
         result = workOnItems();
     };
     session::Main(session_, mainFormCode, handlers);
-    if (result) return *result;
-    const bool isEmpty = session_.ItemCount == 0;
-    return options_.task == Task::List && isEmpty ? printItems() : exit_code::blocked;
+    return result.value_or(exit_code::blocked);
 }
 
 void Run::openDocuments() {
@@ -163,15 +162,7 @@ int Run::workOnItems() {
     catalogue::LoadItemsToForm(session_, list_);
     stopIfInterrupted();
     arrangeItems();
-    switch (options_.task) {
-        case Task::List:
-            return printItems();
-        case Task::Check:
-            return reviewAlone();
-        case Task::Export:
-            return exportItems();
-    }
-    return exit_code::failed;
+    return options_.task == Task::Check ? reviewAlone() : exportItems();
 }
 
 void Run::arrangeItems() {
@@ -183,6 +174,9 @@ void Run::arrangeItems() {
 }
 
 int Run::printItems() {
+    catalogue::ListItems(session_, list_);
+    stopIfInterrupted();
+    arrangeItems();
     line_.clear();
     surroundings_.console.writeOut(options_.json ? listAsJson(list_, bookName_)
                                                  : listAsTable(list_));
