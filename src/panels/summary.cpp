@@ -72,6 +72,58 @@ void readFurtherLine(const std::string& line, Summary& summary) {
     }
 }
 
+/// The count ahead of " object" or " image file" in a message's first line, or empty. `lead`
+/// becomes the text from that noun on; it stays as it was where there is no count.
+std::string ParseCountPhrase(std::string_view line, std::string& lead) {
+    std::string count;
+    if (const auto objects = findNoun(line, " object")) {
+        if (splitAtNoun(line, *objects, count, lead)) cutPrefix(lead, "s");
+        return count;
+    }
+    if (const auto files = findNoun(line, " image file")) splitAtNoun(line, *files, count, lead);
+    return count;
+}
+
+/// What follows "inserted in", "saved to" or "exported to" in a message's first line, or empty.
+/// `lead` becomes the text ahead of the phrase; it stays as it was where there is none.
+std::string ParseDestinationPhrase(std::string_view line, std::string& lead) {
+    static constexpr std::array<std::string_view, 3> phrases = {"inserted in", "saved to",
+                                                                "exported to"};
+    const std::string lower = office::lowerCase(line);
+    for (const std::string_view phrase : phrases) {
+        const std::size_t position = lower.find(phrase);
+        if (position == std::string::npos) continue;
+        lead = trimmed(line.substr(0, position));
+        cutPrefix(lead, "(s)");
+        return trimmedFrom(line, position + phrase.size());
+    }
+    return {};
+}
+
+/// The line of badges from Excel to the destination; empty for an unknown word.
+std::string BuildFlowHtml(std::string_view destinationWord) {
+    struct Destination {
+        std::string_view key;
+        std::string_view badge;
+        std::array<std::string_view, 4> words;
+    };
+    static constexpr std::array<Destination, 5> destinations = {{
+        {"ppt", "PPT", {"powerpoint", "ppt", "pp"}},
+        {"word", "DOC", {"word", "doc"}},
+        {"pdf", "PDF", {"pdf"}},
+        {"html", "HTML", {"html", "htm"}},
+        {"images", "IMG", {"images", "image", "files", "folder"}},
+    }};
+    const std::string word = office::lowerCase(office::trim(destinationWord));
+    for (const Destination& destination : destinations) {
+        const auto& words = destination.words;
+        if (word.empty() || std::find(words.begin(), words.end(), word) == words.end()) continue;
+        return block("span", "app-badge excel", "XLS") + block("span", "flow-arrow", "&rarr;") +
+               block("span", "app-badge " + std::string(destination.key), destination.badge);
+    }
+    return {};
+}
+
 std::optional<Summary> readSummary(std::string_view message) {
     const std::vector<std::string> lines = trimmedLines(message);
     if (lines.front().empty()) return std::nullopt;
@@ -111,53 +163,6 @@ std::string BuildSummaryHtml(std::string_view message, std::string_view destinat
     return block(
         "div", "summary",
         block("div", "count", HtmlEscape(summary->count)) + block("div", "summary-text", text));
-}
-
-std::string ParseCountPhrase(std::string_view line, std::string& lead) {
-    std::string count;
-    if (const auto objects = findNoun(line, " object")) {
-        if (splitAtNoun(line, *objects, count, lead)) cutPrefix(lead, "s");
-        return count;
-    }
-    if (const auto files = findNoun(line, " image file")) splitAtNoun(line, *files, count, lead);
-    return count;
-}
-
-std::string ParseDestinationPhrase(std::string_view line, std::string& lead) {
-    static constexpr std::array<std::string_view, 3> phrases = {"inserted in", "saved to",
-                                                                "exported to"};
-    const std::string lower = office::lowerCase(line);
-    for (const std::string_view phrase : phrases) {
-        const std::size_t position = lower.find(phrase);
-        if (position == std::string::npos) continue;
-        lead = trimmed(line.substr(0, position));
-        cutPrefix(lead, "(s)");
-        return trimmedFrom(line, position + phrase.size());
-    }
-    return {};
-}
-
-std::string BuildFlowHtml(std::string_view destinationWord) {
-    struct Destination {
-        std::string_view key;
-        std::string_view badge;
-        std::array<std::string_view, 4> words;
-    };
-    static constexpr std::array<Destination, 5> destinations = {{
-        {"ppt", "PPT", {"powerpoint", "ppt", "pp"}},
-        {"word", "DOC", {"word", "doc"}},
-        {"pdf", "PDF", {"pdf"}},
-        {"html", "HTML", {"html", "htm"}},
-        {"images", "IMG", {"images", "image", "files", "folder"}},
-    }};
-    const std::string word = office::lowerCase(office::trim(destinationWord));
-    for (const Destination& destination : destinations) {
-        const auto& words = destination.words;
-        if (word.empty() || std::find(words.begin(), words.end(), word) == words.end()) continue;
-        return block("span", "app-badge excel", "XLS") + block("span", "flow-arrow", "&rarr;") +
-               block("span", "app-badge " + std::string(destination.key), destination.badge);
-    }
-    return {};
 }
 
 }  // namespace panels

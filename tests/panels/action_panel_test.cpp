@@ -91,21 +91,25 @@ protected:
     Sheet sheet{desktop, 9000, 7200};
 };
 
-TEST_F(ActionPanel, StandsAboveABarAtTheFootOfTheForm) {
-    panels::SetupActionPanel(sheet, sheet.wbStatus, sheet.bar());
-    EXPECT_EQ(sheet.lblActionBorder.place, (Place{0, 7200 - 780, 9000, 15}));
-    EXPECT_EQ(sheet.lblActionBar.place, (Place{0, 7200 - 765, 9000, 765}));
-    EXPECT_EQ(sheet.ContinueOk.place, (Place{9000 - 180 - 1560, 7200 - 765 + 52, 1560, 660}));
-    EXPECT_EQ(sheet.wbStatus.place, (Place{120, 720, 9000 - 240, 7200 - 765 - 768}));
-    EXPECT_EQ(sheet.ContinueOk.caption, "Continue  >");
-    EXPECT_TRUE(sheet.ContinueOk.isDefault);
-    EXPECT_EQ(sheet.ContinueOk.font, (forms::Font{"Tahoma", 10.5, true}));
-    EXPECT_EQ(sheet.lblActionBorder.backColour, furniture::palette::ThemeBarLine);
-    EXPECT_EQ(sheet.lblActionBar.backColour, furniture::palette::ThemeSurface);
+/// Where a control ends.
+forms::Twips rightOf(const forms::Control& control) {
+    return control.place.left + control.place.width;
+}
+forms::Twips bottomOf(const forms::Control& control) {
+    return control.place.top + control.place.height;
 }
 
-TEST_F(ActionPanel, HasItsBrowserOnTopOfEverything) {
+TEST_F(ActionPanel, StandsAboveABarAtTheFootOfTheFormAndOnTopOfEverything) {
     panels::SetupActionPanel(sheet, sheet.wbStatus, sheet.bar());
+    EXPECT_EQ(bottomOf(sheet.lblActionBar), 7200);
+    EXPECT_EQ(sheet.lblActionBar.place.top, bottomOf(sheet.lblActionBorder));
+    EXPECT_LE(bottomOf(sheet.wbStatus), sheet.lblActionBorder.place.top);
+    EXPECT_EQ(sheet.wbStatus.place.left, 9000 - rightOf(sheet.wbStatus));
+    EXPECT_GT(sheet.ContinueOk.place.top, sheet.lblActionBar.place.top);
+    EXPECT_EQ(rightOf(sheet.ContinueOk), 9000 - 180);
+    EXPECT_EQ(sheet.ContinueOk.caption, "Continue  >");
+    EXPECT_TRUE(sheet.ContinueOk.isDefault);
+    EXPECT_EQ(sheet.lblActionBorder.backColour, furniture::palette::ThemeBarLine);
     for (const forms::Control* control : sheet.controls()) {
         EXPECT_TRUE(control == &sheet.wbStatus || control->layer() < sheet.wbStatus.layer());
     }
@@ -130,13 +134,12 @@ TEST_F(ActionPanel, KeepsAReadableHeightOnASmallForm) {
 TEST_F(ActionPanel, LaysWhatElseTheBarHoldsFromTheLeft) {
     sheet.lblActionCaption.caption = "Options";
     panels::LayoutActionBar(sheet, sheet.fullBar());
-    const forms::Twips buttonTop = 7200 - 300 - 765 + 52;
-    EXPECT_EQ(sheet.lblActionBar.place, (Place{0, 7200 - 300 - 765, 9000, 765}));
-    EXPECT_EQ(sheet.lblActionCaption.place, (Place{180, buttonTop + 240, 1200, 255}));
+    EXPECT_GT(sheet.btnFirst.place.left, rightOf(sheet.lblActionCaption));
+    EXPECT_GT(sheet.btnSecond.place.left, rightOf(sheet.btnFirst));
+    EXPECT_LT(rightOf(sheet.btnSecond), sheet.ContinueOk.place.left);
     EXPECT_TRUE(sheet.lblActionCaption.transparent);
-    EXPECT_EQ(sheet.btnFirst.place, (Place{180 + 1296, buttonTop, 1080, 660}));
-    EXPECT_EQ(sheet.btnSecond.place, (Place{180 + 1296 + 1176, buttonTop, 1080, 660}));
-    EXPECT_EQ(sheet.lblFooter.place, (Place{0, 6900, 9000, 300}));
+    EXPECT_EQ(sheet.lblFooter.place.top, bottomOf(sheet.lblActionBar));
+    EXPECT_EQ(bottomOf(sheet.lblFooter), 7200);
 }
 
 TEST_F(ActionPanel, HidesABlankCaptionThatStandsAlone) {
@@ -171,16 +174,12 @@ TEST_F(ActionPanel, ShowsTheEarlierPageWhereTheFileCannotBeWritten) {
     EXPECT_EQ(desktop.browser(sheet)->navigations.size(), 2U);
 }
 
-TEST_F(ActionPanel, LeavesTheBrowserAloneForAnEmptyPage) {
+TEST_F(ActionPanel, LeavesTheBrowserAloneForAnEmptyPageAndWithoutATemporaryFolder) {
     panels::NavigatePanelFile(host, sheet.wbStatus, "");
-    EXPECT_EQ(sheet.wbStatus.url(), "");
-    EXPECT_TRUE(host.written.empty());
-}
-
-TEST_F(ActionPanel, LeavesTheBrowserAloneWithoutATemporaryFolder) {
     host.hasTemporaryFolder = false;
     panels::NavigatePanelFile(host, sheet.wbStatus, "page");
     EXPECT_EQ(sheet.wbStatus.url(), "");
+    EXPECT_TRUE(host.written.empty());
 }
 
 TEST_F(ActionPanel, ReadsATypedFieldOrElseWhatTheCallerHas) {
