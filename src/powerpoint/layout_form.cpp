@@ -6,8 +6,6 @@
 #include <cmath>
 #include <exception>
 #include <optional>
-#include <string>
-#include <string_view>
 
 #include "forms/desktop.h"
 #include "furniture/theme.h"
@@ -40,20 +38,22 @@ std::optional<double> shareOf(const std::array<forms::OptionButton, 2>& options,
     return options.front().value() ? std::nullopt : std::optional(fraction);
 }
 
-}  // namespace
+/// Between fractions of a slide and positions of a slider, 0 to 100. The slider of the top stands
+/// upright: its 100 is the top edge of the slide. What lies outside the slide becomes its nearer
+/// edge.
+std::int32_t FractionToSlider(double fraction) {
+    return static_cast<std::int32_t>(std::nearbyint(std::clamp(fraction, 0.0, 1.0) * 100));
+}
 
 std::int32_t TopToSlider(double fraction) {
     return FractionToSlider(1 - fraction);
 }
 
-std::int32_t FractionToSlider(double fraction) {
-    // A cell may hold anything; a slider has its ends.
-    return static_cast<std::int32_t>(std::nearbyint(std::clamp(fraction, 0.0, 1.0) * 100));
-}
-
 double SliderToFraction(std::int32_t value) {
     return value / 100.0;
 }
+
+}  // namespace
 
 LayoutForm::LayoutForm(forms::Desktop& theDesktop, session::OfficeSession& session)
     : Form(theDesktop, "LayoutForm", width, height),
@@ -152,16 +152,12 @@ void LayoutForm::showValues() {
     Label3.caption = fmt::format("{}% from the left", AlignSlider.value());
 }
 
-double LayoutForm::SliderToTop() const {
-    return SliderToFraction(100 - TopSlider.value());
-}
-
 void LayoutForm::CloseLayout_Click() {
     office::ContinueOnFailure scope;
     session::EnsureStoreSheet(session_);
     const bool isStored = scope.attempt([&] {
         session::writeStoredPlacement(
-            session_, {shareOf(OptionTop, SliderToTop()),
+            session_, {shareOf(OptionTop, SliderToFraction(100 - TopSlider.value())),
                        shareOf(OptionWidth, SliderToFraction(WidthSlider.value())),
                        shareOf(OptionAlign, SliderToFraction(AlignSlider.value()))});
     });

@@ -9,17 +9,9 @@
 #include "forms/form.h"
 #include "furniture/shadow.h"
 #include "furniture/title_bar.h"
-#include "office/value.h"
 #include "session/office_session.h"
 
 namespace powerpoint {
-
-/// Between fractions of a slide and positions of a slider, 0 to 100. The slider of the top stands
-/// upright: its 100 is the top edge of the slide. What lies outside the slide becomes its nearer
-/// edge.
-[[nodiscard]] std::int32_t TopToSlider(double fraction);
-[[nodiscard]] std::int32_t FractionToSlider(double fraction);
-[[nodiscard]] double SliderToFraction(std::int32_t value);
 
 /// Where the user says how high, how wide and how far from the left pasted shapes stand. It places
 /// nothing: it writes the three values to the store in the workbook, for the exports to read.
@@ -31,8 +23,6 @@ public:
     /// Writes the values and unloads the form; where they can't be written a notice says why, and
     /// the form stays.
     void CloseLayout_Click();
-
-    [[nodiscard]] double SliderToTop() const;
 
     furniture::TitleBar TitelBar1;
     forms::Frame Frame1;

@@ -18,20 +18,6 @@ using forms_double::press;
 using office::Value;
 using Strings = std::vector<std::string>;
 
-TEST(PlacementSliders, StandWhereTheFractionSays) {
-    struct Case {
-        double fraction;
-        int top;
-        int other;
-    };
-    for (const Case& it : {Case{0, 100, 0}, Case{0.25, 75, 25}, Case{0.9, 10, 90}, Case{1, 0, 100},
-                           Case{0.114, 89, 11}, Case{-3, 100, 0}, Case{7e30, 0, 100}}) {
-        EXPECT_EQ(powerpoint::TopToSlider(it.fraction), it.top) << it.fraction;
-        EXPECT_EQ(powerpoint::FractionToSlider(it.fraction), it.other) << it.fraction;
-    }
-    EXPECT_DOUBLE_EQ(powerpoint::SliderToFraction(35), 0.35);
-}
-
 class ToolForms : public testing::Test {
 protected:
     ToolForms() {
@@ -89,6 +75,7 @@ TEST_F(ToolForms, ShowWhatTheStoreHolds) {
         {0.25, 0.5, 0.0, {false, 75, true}, {false, 50, true}, {false, 0, true}},
         {"Default", 1, 0.4, defaultTop, {false, 100, true}, {false, 40, true}},
         {"here", "Default", "there", defaultTop, defaultWidth, defaultLeft},
+        {0.114, 7e30, -3.0, {false, 89, true}, {false, 100, true}, {false, 0, true}},
     };
     for (const Case& it : cases) {
         store(it.top, it.width, it.left);
