@@ -124,8 +124,8 @@ CheckAllState fill(session::OfficeSession& session, ExportList& list, session::S
         // The walk has looked at nearly all of them; what is left are items of hidden sheets and of
         // names that have vanished.
         const auto known = hasSeveralAreas.find(item.key());
-        item.hasSeveralAreas = known != hasSeveralAreas.end() ? known->second
-                                                              : objects.isMultipleAreaRow(item);
+        item.hasSeveralAreas =
+            known != hasSeveralAreas.end() ? known->second : objects.isMultipleAreaRow(item);
         if (item.hasSeveralAreas) item.checked = false;
     }
     SortByColumn(list, stored.wereUnknown ? ListColumn::order : ListColumn::laterRow);

@@ -21,9 +21,9 @@ enum class CheckAllState { None = 0, All = 1, Some = 2 };
 /// of Excel passes through, with Excel's drawing, events and calculation switched on again.
 CheckAllState LoadItemsToForm(session::OfficeSession& session, ExportList& list);
 
-/// The rows that `LoadItemsToForm` would fill the list with. It asks for no more than they show, and
-/// leaves the workbook as it is: it gets no store, and nothing is selected. The list counts as not
-/// loaded. Plain code.
+/// The rows that `LoadItemsToForm` would fill the list with. It asks for no more than they show,
+/// and leaves the workbook as it is: it gets no store, and nothing is selected. The list counts as
+/// not loaded. Plain code.
 void ListItems(session::OfficeSession& session, ExportList& list);
 
 }  // namespace catalogue
