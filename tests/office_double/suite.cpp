@@ -17,6 +17,11 @@ PowerPointApplication& DoubleSuite::powerPoint() {
     return *powerPoint_;
 }
 
+void DoubleSuite::quitPowerPoint() {
+    if (powerPoint_) powerPoint_->quit();
+    powerPoint_.reset();
+}
+
 Object DoubleSuite::attach(std::string_view className) {
     if (state_->failures.suiteIsLost()) return {};
     if (excel_ && office::sameIgnoringCase(className, "Excel.Application")) {

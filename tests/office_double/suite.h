@@ -27,7 +27,7 @@ public:
     ExcelApplication& excel();
     PowerPointApplication& powerPoint();
     void quitExcel() { excel_.reset(); }
-    void quitPowerPoint() { powerPoint_.reset(); }
+    void quitPowerPoint();
     /// All applications go away: every further call throws `SuiteLost`.
     void kill() { state_->failures.loseSuite(); }
 

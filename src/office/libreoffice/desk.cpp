@@ -13,7 +13,7 @@
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/guard.h"
 #include "office/libreoffice/password_answer.h"
-#include "office/libreoffice/powerpoint/impress_document.h"
+#include "office/libreoffice/powerpoint/impress_deck.h"
 
 namespace libreoffice {
 
@@ -24,7 +24,7 @@ constexpr const char* serviceOf = nullptr;
 template <>
 constexpr const char* serviceOf<excel::CalcDocument> = "com.sun.star.sheet.SpreadsheetDocument";
 template <>
-constexpr const char* serviceOf<powerpoint::ImpressDocument> =
+constexpr const char* serviceOf<powerpoint::ImpressDeck> =
     "com.sun.star.presentation.PresentationDocument";
 
 template <class Kind, class From>
@@ -37,7 +37,7 @@ bool isOfKind(const uno::Reference<From>& component) {
 /// current component.
 uno::Reference<css::frame::XModel> modelOf(uno::Reference<uno::XInterface> component) {
     while (component.is() && !isOfKind<excel::CalcDocument>(component) &&
-           !isOfKind<powerpoint::ImpressDocument>(component)) {
+           !isOfKind<powerpoint::ImpressDeck>(component)) {
         const auto child = tryAs<css::container::XChild>(component);
         component = child.is() ? child->getParent() : nullptr;
     }
@@ -62,7 +62,11 @@ std::shared_ptr<Kind> Desk::recordOf(const uno::Reference<css::frame::XModel>& m
     for (const auto& document : documents_) {
         if (document->model() == model) return std::dynamic_pointer_cast<Kind>(document);
     }
-    auto record = std::make_shared<Kind>(model);
+    std::shared_ptr<Kind> record;
+    if constexpr (std::is_constructible_v<Kind, decltype(model), std::shared_ptr<Connection>>)
+        record = std::make_shared<Kind>(model, connection_);
+    else
+        record = std::make_shared<Kind>(model);
     documents_.push_back(record);
     return record;
 }
@@ -72,9 +76,9 @@ std::shared_ptr<excel::CalcDocument> Desk::workbook(
     return recordOf<excel::CalcDocument>(model);
 }
 
-std::shared_ptr<powerpoint::ImpressDocument> Desk::presentation(
+std::shared_ptr<powerpoint::ImpressDeck> Desk::presentation(
     const uno::Reference<css::frame::XModel>& model) {
-    return recordOf<powerpoint::ImpressDocument>(model);
+    return recordOf<powerpoint::ImpressDeck>(model);
 }
 
 template <class Kind>
@@ -97,8 +101,8 @@ std::vector<std::shared_ptr<excel::CalcDocument>> Desk::workbooks() {
     return openDocuments<excel::CalcDocument>();
 }
 
-std::vector<std::shared_ptr<powerpoint::ImpressDocument>> Desk::presentations() {
-    return openDocuments<powerpoint::ImpressDocument>();
+std::vector<std::shared_ptr<powerpoint::ImpressDeck>> Desk::presentations() {
+    return openDocuments<powerpoint::ImpressDeck>();
 }
 
 template <class Kind>
@@ -109,32 +113,24 @@ std::shared_ptr<Kind> Desk::activeOf() {
         const auto current = modelOf(connection_->desktop()->getCurrentComponent());
         if (current.is() && isOfKind<Kind>(current)) {
             const auto document = recordOf<Kind>(current);
-            setActive(document);
+            document->markActive();
             return document;
         }
     }
-    for (const auto& remembered : recentlyActive_) {
-        const auto document = std::dynamic_pointer_cast<Kind>(remembered.lock());
-        if (document && !document->isClosed()) return document;
-    }
     const auto open = openDocuments<Kind>();
-    return open.empty() ? nullptr : open.front();
+    const auto last = std::max_element(
+        open.begin(), open.end(), [](const auto& left, const auto& right) {
+            return left->lastActive() < right->lastActive();
+        });
+    return last == open.end() ? nullptr : *last;
 }
 
 std::shared_ptr<excel::CalcDocument> Desk::activeWorkbook() {
     return activeOf<excel::CalcDocument>();
 }
 
-std::shared_ptr<powerpoint::ImpressDocument> Desk::activePresentation() {
-    return activeOf<powerpoint::ImpressDocument>();
-}
-
-void Desk::setActive(const std::shared_ptr<Document>& document) {
-    std::erase_if(recentlyActive_, [&](const auto& remembered) {
-        const auto alive = remembered.lock();
-        return !alive || alive == document;
-    });
-    recentlyActive_.insert(recentlyActive_.begin(), document);
+std::shared_ptr<powerpoint::ImpressDeck> Desk::activePresentation() {
+    return activeOf<powerpoint::ImpressDeck>();
 }
 
 uno::Reference<css::frame::XModel> Desk::load(const rtl::OUString& url, bool hidden,

@@ -17,7 +17,7 @@ class CalcDocument;
 class PictureMaker;
 }  // namespace excel
 namespace powerpoint {
-class ImpressDocument;
+class ImpressDeck;
 }
 
 /// A picture of a range as `Range.CopyPicture` takes it: the suite's own vector format, with the
@@ -45,18 +45,18 @@ public:
     /// The record of an open document, made when it is met for the first time. It stays the same
     /// for the document's life, since it holds what automation remembers about it.
     std::shared_ptr<excel::CalcDocument> workbook(const uno::Reference<css::frame::XModel>& model);
-    std::shared_ptr<powerpoint::ImpressDocument> presentation(
+    std::shared_ptr<powerpoint::ImpressDeck> presentation(
         const uno::Reference<css::frame::XModel>& model);
 
     /// All open documents of the kind in the order of the suite, those without a window too.
     std::vector<std::shared_ptr<excel::CalcDocument>> workbooks();
-    std::vector<std::shared_ptr<powerpoint::ImpressDocument>> presentations();
+    std::vector<std::shared_ptr<powerpoint::ImpressDeck>> presentations();
 
     /// The one the user is in; if that is of the other kind, the one of this kind that was active
     /// last, or else the first. Null with none open.
     std::shared_ptr<excel::CalcDocument> activeWorkbook();
-    std::shared_ptr<powerpoint::ImpressDocument> activePresentation();
-    void setActive(const std::shared_ptr<Document>& document);
+    std::shared_ptr<powerpoint::ImpressDeck> activePresentation();
+    void setActive(const std::shared_ptr<Document>& document) { document->markActive(); }
 
     /// Opens a file, or makes a new document from a factory URL. `office::Failure` 1004 with the
     /// reason if the suite gives no document: no such file, not of a kind it reads, locked by
@@ -90,8 +90,6 @@ private:
     office::model::GuardPtr guard_;
     bool hidden_;
     std::vector<std::shared_ptr<Document>> documents_;
-    /// The document of each kind that was active last, most recent first.
-    std::vector<std::weak_ptr<Document>> recentlyActive_;
 };
 
 using DeskPtr = std::shared_ptr<Desk>;

@@ -77,4 +77,9 @@ void Document::close() {
     *closed_ = true;
 }
 
+void Document::markActive() {
+    static std::uint64_t latest = 0;
+    lastActive_ = ++latest;
+}
+
 }  // namespace libreoffice

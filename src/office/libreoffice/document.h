@@ -3,6 +3,7 @@
 #include <com/sun/star/frame/XModel.hpp>
 
 #include <atomic>
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -41,9 +42,15 @@ public:
     /// Closes without saving.
     void close();
 
+    /// Notes that the document is the active one of its kind from now on.
+    void markActive();
+    /// Grows with each document that becomes active; 0 for one that never did.
+    [[nodiscard]] std::uint64_t lastActive() const { return lastActive_; }
+
 private:
     uno::Reference<css::frame::XModel> model_;
     std::shared_ptr<std::atomic<bool>> closed_;
+    std::uint64_t lastActive_ = 0;
 };
 
 }  // namespace libreoffice

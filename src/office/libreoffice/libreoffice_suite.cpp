@@ -16,8 +16,7 @@
 #include "office/libreoffice/excel/chart_export.h"
 #include "office/libreoffice/excel/picture_maker.h"
 #include "office/libreoffice/guard.h"
-#include "office/libreoffice/powerpoint/application.h"
-#include "office/libreoffice/powerpoint/impress_document.h"
+#include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/private_instance.h"
 #include "office/libreoffice/running_instance.h"
 #include "office/text.h"
@@ -195,7 +194,7 @@ void LibreOfficeSuite::redraw(office::WindowHandle /*window*/) {
 }
 
 office::WindowHandle LibreOfficeSuite::handleOf(
-    const std::shared_ptr<powerpoint::ImpressDocument>& presentation) {
+    const std::shared_ptr<powerpoint::ImpressDeck>& presentation) {
     if (!presentation) return 0;
     for (std::size_t i = 0; i < windows_.size(); ++i) {
         if (windows_[i].lock() == presentation) return i + 1;
@@ -204,7 +203,7 @@ office::WindowHandle LibreOfficeSuite::handleOf(
     return windows_.size();
 }
 
-std::shared_ptr<powerpoint::ImpressDocument> LibreOfficeSuite::presentationOf(
+std::shared_ptr<powerpoint::ImpressDeck> LibreOfficeSuite::presentationOf(
     office::WindowHandle window) const {
     if (window == 0 || window > windows_.size()) return nullptr;
     auto presentation = windows_[window - 1].lock();

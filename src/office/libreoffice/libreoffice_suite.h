@@ -17,7 +17,7 @@ class Desk;
 class PrivateInstance;
 
 namespace powerpoint {
-class ImpressDocument;
+class ImpressDeck;
 }
 
 /// The applications of LibreOffice behind the names of Excel and PowerPoint.
@@ -73,8 +73,8 @@ private:
     auto translated(const char* source, Statement&& statement);
     /// Window handles are positions in `windows_`, counted from 1: a presentation's window stands
     /// for the presentation.
-    office::WindowHandle handleOf(const std::shared_ptr<powerpoint::ImpressDocument>& presentation);
-    [[nodiscard]] std::shared_ptr<powerpoint::ImpressDocument> presentationOf(
+    office::WindowHandle handleOf(const std::shared_ptr<powerpoint::ImpressDeck>& presentation);
+    [[nodiscard]] std::shared_ptr<powerpoint::ImpressDeck> presentationOf(
         office::WindowHandle window) const;
 
     std::unique_ptr<PrivateInstance> instance_;
@@ -84,7 +84,7 @@ private:
     /// Whether the user's suite has still to be looked for.
     bool seeksRunning_ = false;
     std::shared_ptr<Desk> desk_;
-    std::vector<std::weak_ptr<powerpoint::ImpressDocument>> windows_;
+    std::vector<std::weak_ptr<powerpoint::ImpressDeck>> windows_;
     office::WindowHandle locked_ = 0;
 };
 

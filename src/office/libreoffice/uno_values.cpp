@@ -2,6 +2,7 @@
 
 #include <osl/file.hxx>
 
+#include <algorithm>
 #include <filesystem>
 
 namespace libreoffice {
@@ -28,6 +29,12 @@ std::string pathOfUrl(const rtl::OUString& url) {
     if (osl::FileBase::getSystemPathFromFileURL(url, path) != osl::FileBase::E_None)
         return fromUno(url);
     return fromUno(path);
+}
+
+uno::Sequence<rtl::OUString> namesOf(const std::vector<std::string_view>& sorted) {
+    uno::Sequence<rtl::OUString> names(static_cast<sal_Int32>(sorted.size()));
+    std::transform(sorted.begin(), sorted.end(), names.getArray(), toUno);
+    return names;
 }
 
 uno::Sequence<css::beans::PropertyValue> propertyValues(

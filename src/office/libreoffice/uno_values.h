@@ -7,10 +7,12 @@
 #include <com/sun/star/uno/Sequence.hxx>
 #include <rtl/ustring.hxx>
 
+#include <cstdint>
 #include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace libreoffice {
 
@@ -25,6 +27,14 @@ namespace uno = com::sun::star::uno;
 /// path is made absolute.
 [[nodiscard]] rtl::OUString fileUrl(std::string_view path);
 [[nodiscard]] std::string pathOfUrl(const rtl::OUString& url);
+
+/// The object models write a colour as 0xBBGGRR, LibreOffice as 0xRRGGBB: each way the same swap.
+[[nodiscard]] constexpr std::int32_t swapRedAndBlue(std::int32_t colour) {
+    return ((colour & 0xFF) << 16) | (colour & 0xFF00) | ((colour >> 16) & 0xFF);
+}
+
+/// The names of properties as calls for several of them take them, which is in order.
+[[nodiscard]] uno::Sequence<rtl::OUString> namesOf(const std::vector<std::string_view>& sorted);
 
 /// {"Hidden", true}, ... as the argument list of a UNO call.
 [[nodiscard]] uno::Sequence<css::beans::PropertyValue> propertyValues(

@@ -4,27 +4,7 @@
 
 #include <filesystem>
 
-#include "office_double/loose_object.h"
-
 namespace office_double {
-
-const office::MemberTable<PowerPointApplication>& PowerPointApplication::members() {
-    using Self = PowerPointApplication;
-    static const auto table =
-        office::MemberTable<Self>("Application")
-            .property("Name", reading([](Self&) { return "Microsoft PowerPoint"; }))
-            .property("Version", reading(&Self::version_))
-            .property("Presentations", &Self::readPresentations)
-            .property("ActivePresentation", reading([](Self& self) {
-                          return self.requiredPresentation("ActivePresentation").handle();
-                      }))
-            .property("ActiveWindow", reading([](Self& self) {
-                          return self.requiredPresentation("ActiveWindow").window().handle();
-                      }))
-            .property("Windows", &Self::readWindows)
-            .property("SlideShowWindows", &Self::readSlideShowWindows);
-    return table;
-}
 
 Presentation& PowerPointApplication::addPresentation(const std::string& name,
                                                      const std::string& folder) {
@@ -38,67 +18,59 @@ void PowerPointApplication::addFile(const std::string& path,
     files_[path] = std::move(fill);
 }
 
+void PowerPointApplication::quit() {
+    while (!presentations_.empty()) closePresentation(*presentations_.front());
+    hasQuit_ = true;
+}
+
+office::Object PowerPointApplication::handle() {
+    return model::applicationObject(state_, shared_from_this());
+}
+
 Presentation* PowerPointApplication::activePresentation() const {
-    if (const auto active = std::dynamic_pointer_cast<Presentation>(active_.lock())) {
-        return active.get();
-    }
+    if (const auto active = active_.lock(); active && !active->isGone()) return active.get();
     return presentations_.empty() ? nullptr : presentations_.front().get();
 }
 
 void PowerPointApplication::closePresentation(Presentation& presentation) {
-    if (&presentation == activePresentation()) active_.reset();
-    presentation.remove();
+    presentation.markGone();
     std::erase_if(presentations_, [&](const auto& held) { return held.get() == &presentation; });
 }
 
-Presentation& PowerPointApplication::requiredPresentation(const std::string& member) const {
-    Presentation* presentation = activePresentation();
-    if (presentation != nullptr) return *presentation;
-    throw Failure(FailureNumber::ApplicationDefined, "Application." + member,
-                  "No presentation is open");
+std::string PowerPointApplication::version() {
+    requireRunning();
+    return version_;
 }
 
-Value PowerPointApplication::readPresentations() {
-    auto made = collection(*this, "Presentations", [this] { return itemsOf(presentations_); });
-    made->method("Open", {"FileName", "ReadOnly", "Untitled", "WithWindow"},
-                 [this](const CallArguments& arguments) { return open(arguments); });
-    made->method("Add", {"WithWindow"}, [this](const CallArguments&) {
-        return Value(
-            addPresentation(fmt::format("Presentation{}", presentations_.size() + 1), "").handle());
-    });
-    return valueOf(made);
+std::vector<model::DeckPtr> PowerPointApplication::open() {
+    requireRunning();
+    return {presentations_.begin(), presentations_.end()};
 }
 
-Value PowerPointApplication::readWindows() {
-    return valueOf(collection(*this, "DocumentWindows", [this] {
-        Items windows;
-        for (const auto& presentation : presentations_) {
-            windows.push_back(presentation->window().shared_from_this());
-        }
-        return windows;
-    }));
+model::DeckPtr PowerPointApplication::active() {
+    requireRunning();
+    Presentation* const active = activePresentation();
+    return active != nullptr ? active->shared_from_this() : nullptr;
 }
 
-Value PowerPointApplication::readSlideShowWindows() {
-    return valueOf(collection(*this, "SlideShowWindows", [this] {
-        Items running;
-        for (const auto& presentation : presentations_) {
-            if (presentation->showsSlides()) running.push_back(presentation->slideShowWindow());
-        }
-        return running;
-    }));
-}
-
-Value PowerPointApplication::open(const CallArguments& arguments) {
-    const std::filesystem::path path = arguments.at(0).toText();
-    const auto file = files_.find(path.string());
-    if (file == files_.end()) {
-        throw Failure(FailureNumber::ApplicationDefined, arguments.source(),
-                      "There is no presentation " + path.string());
-    }
+model::DeckPtr PowerPointApplication::load(const std::string& file, bool /*withWindow*/) {
+    const auto known = files_.find(file);
+    if (known == files_.end()) model::refuse("Presentations.Open", "There is no file " + file);
+    const std::filesystem::path path = file;
     Presentation& opened = addPresentation(path.filename().string(), path.parent_path().string());
-    file->second(opened);
-    return opened.handle();
+    known->second(opened);
+    return opened.shared_from_this();
+}
+
+model::DeckPtr PowerPointApplication::create(bool /*withWindow*/) {
+    return addPresentation(fmt::format("Presentation{}", presentations_.size() + 1), "")
+        .shared_from_this();
+}
+
+void PowerPointApplication::requireRunning() const {
+    if (hasQuit_)
+        throw office::Failure(office::FailureNumber::Disconnected, "Application",
+                              "The application has ended");
 }
 
 }  // namespace office_double

@@ -1,37 +1,107 @@
 #include "office_double/powerpoint/presentation.h"
 
-#include <algorithm>
-#include <filesystem>
+#include <fmt/format.h>
 
-#include "office_double/loose_object.h"
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+
 #include "office_double/powerpoint/application.h"
-#include "office_double/powerpoint/window.h"
 #include "support/png_file.h"
 
 namespace office_double {
 
-const office::MemberTable<Presentation>& Presentation::members() {
-    using Self = Presentation;
-    const office::MemberTable<Self>::Names saving = {"FileName", "FileFormat",
-                                                     "EmbedTrueTypeFonts"};
-    static const auto table =
-        office::MemberTable<Self>("Presentation")
-            .property("Name", reading(&Self::name_))
-            .property("FullName", reading(&Self::fullName))
-            .property("Path", reading(&Self::folder_))
-            .property("Saved", readingTriState(&Self::saved_), writing(&Self::saved_))
-            .property("Slides", &Self::readSlides)
-            .property("PageSetup", &Self::readPageSetup)
-            .property("SlideShowWindow", &Self::readSlideShowWindow)
-            .property("Windows", &Self::readWindows)
-            .method("SaveCopyAs", saving, &Self::saveCopyAs)
-            .method("SaveAs", saving, &Self::saveAs)
-            .method("Close", {}, &Self::close);
-    return table;
+namespace {
+
+/// The item at a place from 1; null if there is none.
+template <class Item>
+std::shared_ptr<Item> at(const std::vector<std::shared_ptr<Item>>& items, std::int32_t place) {
+    const auto index = static_cast<std::size_t>(place) - 1;
+    return index < items.size() ? items[index] : nullptr;
+}
+
+/// A PNG keeps its density in whole pixels a metre; without rounding, 240 points would come back as
+/// 239.991.
+double rounded(double points) {
+    return std::round(points * 10) / 10;
+}
+
+}  // namespace
+
+Shape& Slide::shape(Shape::Kind kind, std::string name, const Box& box) {
+    shapes_.push_back(std::make_shared<Shape>(*this, kind, std::move(name), box));
+    return *shapes_.back();
+}
+
+void Slide::makePlaceholders() {
+    const auto layout = static_cast<Layout>(layout_);
+    if (layout == Layout::Blank || title() != nullptr) return;
+    const auto [width, height] = presentation_.slideSize();
+    const auto add = [&, w = width, h = height](const char* name, double top, double share) {
+        shape(Shape::Kind::Placeholder, freshName(name), {w * 0.07, h * top, w * 0.86, h * share});
+    };
+    add("Title", 0.05, 0.19);
+    title_ = shapes_.back();
+    if (layout == Layout::Title) add("Subtitle", 0.55, 0.24);
+    if (layout == Layout::Text) add("Content Placeholder", 0.27, 0.63);
+}
+
+void Slide::removeShape(Shape& shape) {
+    shape.markGone();
+    std::erase_if(shapes_, [&](const auto& held) { return held.get() == &shape; });
+}
+
+void Slide::markGone() {
+    isGone_ = true;
+    for (const auto& shape : shapes_) shape->markGone();
+}
+
+std::int32_t Slide::place() {
+    const auto& all = presentation_.slides();
+    const auto self = std::find_if(all.begin(), all.end(),
+                                   [&](const auto& held) { return held.get() == this; });
+    return static_cast<std::int32_t>(self - all.begin()) + 1;
+}
+
+void Slide::setLayout(std::int32_t layout) {
+    layout_ = layout;
+    makePlaceholders();
+}
+
+model::DeckShapePtr Slide::shapeAt(std::int32_t place) {
+    return at(shapes_, place);
+}
+
+model::DeckShapePtr Slide::addPicture(const std::string& file, const model::Point& corner) {
+    try {
+        const support::PngSize natural = support::pngSizeOf(file);
+        shape(Shape::Kind::Picture, freshName("Picture"),
+              {corner.left, corner.top, rounded(natural.widthPoints()),
+               rounded(natural.heightPoints())});
+    } catch (const std::runtime_error& error) {
+        throw office::Failure(office::FailureNumber::FileNotFound, "Shapes.AddPicture",
+                              error.what());
+    }
+    return shapes_.back();
+}
+
+model::DeckShapePtr Slide::addLabel(const model::Point& corner, const model::Size& size) {
+    return shape(Shape::Kind::TextBox, freshName("TextBox"),
+                 {corner.left, corner.top, size.width, size.height})
+        .shared_from_this();
+}
+
+void Slide::remove() {
+    presentation_.removeSlide(*this);
+}
+
+std::string Slide::freshName(const char* kind) const {
+    return fmt::format("{} {}", kind, shapes_.size() + 1);
 }
 
 Slide& Presentation::addSlide(Layout layout) {
-    return insertSlide(slides_.size(), static_cast<std::int32_t>(layout));
+    addSlide(slideCount() + 1, static_cast<std::int32_t>(layout));
+    return *slides_.back();
 }
 
 Presentation& Presentation::addSlides(int number, Layout layout) {
@@ -40,8 +110,7 @@ Presentation& Presentation::addSlides(int number, Layout layout) {
 }
 
 Presentation& Presentation::slideSize(double width, double height) {
-    slideWidth_ = width;
-    slideHeight_ = height;
+    slideSize_ = {width, height};
     return *this;
 }
 
@@ -50,103 +119,65 @@ Presentation& Presentation::runSlideShow() {
     return *this;
 }
 
-std::string Presentation::fullName() const {
-    return folder_.empty() ? name_ : folder_ + "/" + name_;
-}
-
-PowerPointApplication& Presentation::application() const {
-    return parent<PowerPointApplication>();
-}
-
-DocumentWindow& Presentation::window() {
-    if (!window_) window_ = std::make_shared<DocumentWindow>(*this);
-    return *window_;
-}
-
-std::size_t Presentation::indexOf(const Slide& slide) const {
-    const auto self = std::find_if(slides_.begin(), slides_.end(),
-                                   [&](const auto& held) { return held.get() == &slide; });
-    return static_cast<std::size_t>(self - slides_.begin()) + 1;
-}
-
-std::shared_ptr<DoubleObject> Presentation::slideShowWindow() {
-    auto made = looseObject(*this, "SlideShowWindow");
-    made->reads("View", [this] {
-        auto view = looseObject(*this, "SlideShowView");
-        view->method("Exit", {}, [this](const CallArguments&) {
-            showRuns_ = false;
-            return Value();
-        });
-        return valueOf(view);
-    });
-    return made;
+model::InDeck Presentation::home() {
+    return {application_.guard(), shared_from_this()};
 }
 
 void Presentation::removeSlide(Slide& slide) {
-    slide.remove();
+    slide.markGone();
     std::erase_if(slides_, [&](const auto& held) { return held.get() == &slide; });
-    saved_ = false;
 }
 
-Slide& Presentation::insertSlide(std::size_t at, std::int32_t layout) {
-    auto slide = std::make_shared<Slide>(*this, layout, nextId_++);
-    slides_.insert(slides_.begin() + static_cast<std::ptrdiff_t>(at), slide);
+void Presentation::markGone() {
+    isGone_ = true;
+    for (const auto& slide : slides_) slide->markGone();
+}
+
+model::DeckSlidePtr Presentation::slideAt(std::int32_t place) {
+    return at(slides_, place);
+}
+
+model::DeckSlidePtr Presentation::addSlide(std::int32_t place, std::int32_t layout) {
+    if (place < 1 || place > slideCount() + 1) return nullptr;
+    auto slide = std::make_shared<Slide>(*this, layout);
+    slides_.insert(slides_.begin() + place - 1, slide);
     slide->makePlaceholders();
-    return *slide;
+    return slide;
 }
 
-Value Presentation::readSlides() {
-    auto made = collection(*this, "Slides", [this] { return itemsOf(slides_); });
-    made->method("Add", {"Index", "Layout"},
-                 [this](const CallArguments& arguments) { return addByCall(arguments); });
-    return valueOf(made);
+void Presentation::activate() {
+    application_.activate(*this);
 }
 
-Value Presentation::addByCall(const CallArguments& arguments) {
-    const std::int32_t index = arguments.at(0).toLong();
-    if (index < 1 || static_cast<std::size_t>(index) > slides_.size() + 1) {
-        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                      "There is no such place for a slide");
-    }
-    saved_ = false;
-    return insertSlide(static_cast<std::size_t>(index - 1), arguments.at(1).toLong()).handle();
-}
-
-Value Presentation::readPageSetup() {
-    auto made = looseObject(*this, "PageSetup");
-    made->number("SlideWidth", slideWidth_).number("SlideHeight", slideHeight_);
-    return valueOf(made);
-}
-
-Value Presentation::readSlideShowWindow() {
-    if (showRuns_) return valueOf(slideShowWindow());
-    throw Failure(FailureNumber::ApplicationDefined, "Presentation.SlideShowWindow",
-                  "No slide show runs");
-}
-
-Value Presentation::readWindows() {
-    return valueOf(collection(*this, "DocumentWindows",
-                              [this] { return Items{window().shared_from_this()}; }));
-}
-
-Value Presentation::saveCopyAs(const CallArguments& arguments) {
+void Presentation::saveCopy(const std::string& path) {
     const std::string text = "A copy of " + name_ + "\n";
-    support::writeBytes(arguments.at(0).toText(), {text.begin(), text.end()});
-    return {};
+    support::writeBytes(path, {text.begin(), text.end()});
 }
 
-Value Presentation::saveAs(const CallArguments& arguments) {
-    saveCopyAs(arguments);
-    const std::filesystem::path path = arguments.at(0).toText();
-    folder_ = path.parent_path().string();
-    name_ = path.filename().string();
-    saved_ = true;
-    return {};
+void Presentation::close() {
+    application_.closePresentation(*this);
 }
 
-Value Presentation::close(const CallArguments&) {
-    application().closePresentation(*this);
-    return {};
+model::DeckSlidePtr Presentation::slideInView() {
+    if (const auto shown = inView_.lock(); shown && !shown->isGone()) return shown;
+    return at(slides_, 1);
+}
+
+void Presentation::show(const model::DeckSlidePtr& slide) {
+    unselect();
+    inView_ = slide;
+}
+
+std::vector<model::DeckShapePtr> Presentation::selectedShapes() {
+    const auto shape = selected_.lock();
+    if (!shape || shape->isGone()) return {};
+    return {shape};
+}
+
+void Presentation::select(const model::DeckShapePtr& shape) {
+    if (slideInView().get() != &dynamic_cast<Shape&>(*shape).slide())
+        model::refuse("Shape.Select", "Only a shape of the slide in view can be selected");
+    selected_ = shape;
 }
 
 }  // namespace office_double

@@ -1,94 +1,94 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
+#include "office/model/powerpoint/deck_shape.h"
+#include "office/value.h"
 #include "office_double/box.h"
-#include "office_double/double_object.h"
 
 namespace office_double {
 
+namespace model = office::model::powerpoint;
+
 class Slide;
 
-class Shape : public Doubled<Shape> {
+class Shape : public model::DeckShape,
+              private model::ShapeText,
+              public std::enable_shared_from_this<Shape> {
 public:
-    enum class Kind : std::int32_t { AutoShape = 1, Picture = 13, Placeholder = 14, TextBox = 17 };
+    enum class Kind { Picture, Placeholder, TextBox };
 
-    Shape(Owner slide, Kind kind, std::string name, const Box& box);
-
-    static const office::MemberTable<Shape>& members();
+    Shape(Slide& slide, Kind kind, std::string name, const Box& box)
+        : slide_(slide),
+          kind_(kind),
+          name_(std::move(name)),
+          box_(box),
+          keepsProportions_(kind == Kind::Picture) {}
 
     // Building.
-    Shape& text(std::string text);
-    /// Every call of one of its members that writes fails, as for a shape that the application
-    /// doesn't let be changed.
+    Shape& text(std::string words);
+    /// Every call that would change it fails, as for a shape that the application keeps as it is.
     Shape& refuseChanges();
 
-    [[nodiscard]] std::string name() const override { return name_; }
+    [[nodiscard]] office::Object handle();
     [[nodiscard]] const Box& box() const { return box_; }
     [[nodiscard]] Kind kind() const { return kind_; }
-    [[nodiscard]] const std::string& text() const { return text_; }
+    [[nodiscard]] const std::string& text() const { return words_; }
     [[nodiscard]] const std::string& alternativeText() const { return alternativeText_; }
-    [[nodiscard]] bool hasShadow() const { return shadow_.visible; }
+    [[nodiscard]] bool hasShadow() const { return shadow_.isVisible; }
+    [[nodiscard]] Slide& slide() const { return slide_; }
+    void markGone() { isGone_ = true; }
 
-    void write(std::string_view member, const Arguments& arguments, const Value& value) override;
+    [[nodiscard]] bool isGone() const override { return isGone_; }
+    std::string name() override { return name_; }
+    void setName(const std::string& name) override { changed().name_ = name; }
+    std::string alternativeText() override { return alternativeText_; }
+    void setAlternativeText(const std::string& text) override { changed().alternativeText_ = text; }
+    model::Point corner() override { return {box_.left, box_.top}; }
+    void moveTo(const model::Point& corner) override;
+    model::Size size() override { return {box_.width, box_.height}; }
+    void resize(const model::Size& size) override;
+    bool keepsProportions() override { return keepsProportions_; }
+    void setKeepsProportions(bool keeps) override { changed().keepsProportions_ = keeps; }
+    model::Outline outline() override { return outline_; }
+    void setOutline(model::Outline outline) override;
+    std::optional<double> adjustment(std::int32_t place) override;
+    bool setAdjustment(std::int32_t place, double value) override;
+    model::Shadow shadow() override { return shadow_; }
+    void setShadow(const model::Shadow& shadow) override { changed().shadow_ = shadow; }
+    model::Reflection reflection() override { return reflection_; }
+    void setReflection(const model::Reflection& wanted) override { changed().reflection_ = wanted; }
+    model::ShapeText* textFrame() override { return kind_ == Kind::Picture ? nullptr : this; }
+    void remove() override;
 
 private:
-    struct Font {
-        std::string name = "Calibri";
-        double size = 18;
-        bool bold = false;
-        std::int32_t colour = 0;
-    };
-    struct Shadow {
-        bool visible = false;
-        double blur = 0;
-        double size = 100;
-        double offsetX = 0;
-        double offsetY = 0;
-        double transparency = 0;
-        std::int32_t colour = 0;
-    };
-    struct Reflection {
-        double offset = 0;
-        double size = 0;
-        double blur = 0;
-        double transparency = 0;
-    };
-
-    [[nodiscard]] Slide& slide() const;
-    void resize(double Box::*side, double points);
+    /// The shape, which is about to be changed.
+    Shape& changed();
     void growWithText();
-    Value readAutoShapeType() { return autoShapeType_; }
-    void setAutoShapeType(const Value& type);
 
-    Value readTextFrame();
-    /// Characters `start` to `start + length - 1`; a negative length means all of them.
-    Value textRange(std::int32_t start, std::int32_t length);
-    void replaceText(std::int32_t start, std::int32_t length, const std::string& with);
-    Value readFont();
-    Value colour(std::string className, std::int32_t& rgb);
-    Value readShadow();
-    Value readReflection();
-    Value readAdjustments();
-    Value select(const CallArguments& arguments);
-    Value deleteShape(const CallArguments& arguments);
+    std::string words() override { return words_; }
+    void setWords(const std::string& words) override;
+    bool wraps() override { return wraps_; }
+    void setWraps(bool wraps) override { changed().wraps_ = wraps; }
+    model::Font font() override { return font_; }
+    void setFont(const model::FontChange& change) override;
 
+    Slide& slide_;
     Kind kind_;
     std::string name_;
     Box box_;
-    std::string title_;
     std::string alternativeText_;
-    std::string text_;
-    Font font_;
-    Shadow shadow_;
-    Reflection reflection_;
-    std::int32_t autoShapeType_ = 1;
+    std::string words_;
+    model::Font font_ = {.name = "Calibri", .sizePt = 18, .colour = 0};
+    model::Shadow shadow_;
+    model::Reflection reflection_;
+    model::Outline outline_ = model::Outline::Rectangle;
     std::vector<double> adjustments_;
-    bool lockAspectRatio_;
-    bool wordWrap_ = true;
+    bool keepsProportions_;
+    bool wraps_ = true;
     bool refusesChanges_ = false;
+    bool isGone_ = false;
 };
 
 }  // namespace office_double

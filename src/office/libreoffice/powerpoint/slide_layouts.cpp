@@ -4,14 +4,9 @@
 #include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
 #include <com/sun/star/drawing/XMasterPagesSupplier.hpp>
 #include <com/sun/star/util/XTheme.hpp>
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <array>
 #include <string_view>
-
-#include "office/failure.h"
-
 namespace libreoffice::powerpoint {
 
 namespace {
@@ -25,44 +20,21 @@ struct Layout {
     std::string_view name;
 };
 
-constexpr std::int32_t titleSlide = 1;
-constexpr std::int32_t text = 2;
-constexpr std::int32_t titleOnly = 11;
-constexpr std::int32_t blank = 12;
-constexpr std::int32_t object = 16;
-constexpr std::int32_t twoObjects = 29;
-constexpr std::int32_t custom = 32;
+constexpr std::int32_t otherLayout = 32;
 
-constexpr std::array<Layout, 4> layouts = {{
-    {titleSlide, 0, "Title Slide"},
-    {text, 1, "Title and Content"},
-    {titleOnly, 19, "Title Only"},
-    {blank, 20, "Blank"},
-}};
-/// Layouts that are read and not made.
-constexpr std::array<Layout, 2> furtherLayouts = {{
-    {object, 11, ""},
-    {twoObjects, 3, ""},
+/// The first three are given to slides, the others only read: text, object, two objects.
+constexpr std::array<Layout, 6> layouts = {{
+    {model::layout::title, 0, "Title Slide"},
+    {model::layout::titleOnly, 19, "Title Only"},
+    {model::layout::blank, 20, "Blank"},
+    {2, 1, ""},
+    {16, 11, ""},
+    {29, 3, ""},
 }};
 
 const Layout& layoutNumbered(std::int32_t number) {
-    const auto* found = std::find_if(layouts.begin(), layouts.end(),
-                                     [&](const Layout& layout) { return layout.number == number; });
-    if (found == layouts.end())
-        throw office::Failure(office::FailureNumber::InvalidProcedureCall, "Slide.Layout",
-                              fmt::format("There is no slide layout {} here", number));
-    return *found;
-}
-
-std::int16_t ownLayoutOf(const uno::Reference<drawing::XDrawPage>& page) {
-    return property<sal_Int16>(page, "Layout", -1);
-}
-
-/// Whether a slide of this layout has the placeholders of another one.
-bool isAlike(std::int16_t ownLayout, const Layout& layout) {
-    constexpr std::int16_t titleAndObject = 11;
-    return ownLayout == layout.ofLibreOffice ||
-           (layout.number == text && ownLayout == titleAndObject);
+    return *std::find_if(layouts.begin(), layouts.end(),
+                         [&](const Layout& layout) { return layout.number == number; });
 }
 
 /// LibreOffice 7.4 knows no themes: there all layouts count as one design.
@@ -77,22 +49,16 @@ std::string designOf(const uno::Reference<drawing::XDrawPage>& master) {
 
 SlideLayouts::SlideLayouts(uno::Reference<css::frame::XModel> model) : model_(std::move(model)) {}
 
-std::int32_t SlideLayouts::layoutOf(HeldPage& slide) {
+std::int32_t SlideLayouts::layoutOf(ImpressSlide& slide) {
     sal_Int16 own = -1;
     slide.properties()->getPropertyValue("Layout") >>= own;
-    const auto isOwn = [&](const Layout& layout) { return layout.ofLibreOffice == own; };
-    if (const auto* found = std::find_if(layouts.begin(), layouts.end(), isOwn);
-        found != layouts.end())
-        return found->number;
-    const auto* further = std::find_if(furtherLayouts.begin(), furtherLayouts.end(), isOwn);
-    return further != furtherLayouts.end() ? further->number : custom;
+    const auto* found = std::find_if(layouts.begin(), layouts.end(), [&](const Layout& layout) {
+        return layout.ofLibreOffice == own;
+    });
+    return found != layouts.end() ? found->number : otherLayout;
 }
 
-void SlideLayouts::requireKnown(std::int32_t layout) {
-    static_cast<void>(layoutNumbered(layout));
-}
-
-void SlideLayouts::apply(HeldPage& slide, std::int32_t number) {
+void SlideLayouts::apply(ImpressSlide& slide, std::int32_t number) {
     const Layout& layout = layoutNumbered(number);
     // The number comes last: the placeholders take their places from the master page.
     const auto setNumber = [&] {
@@ -105,16 +71,15 @@ void SlideLayouts::apply(HeldPage& slide, std::int32_t number) {
     const PageRef& wanted = found.is() ? found : inherited;
     if (wanted.get() != inherited.get()) target->setMasterPage(wanted);
     setNumber();
-    if (number != blank) dressTitle(slide, wanted);
+    if (number != model::layout::blank) dressTitle(slide, wanted);
 }
 
-void SlideLayouts::dressTitle(HeldPage& slide, const PageRef& masterPage) {
-    const HeldShapePtr title = slide.title();
+void SlideLayouts::dressTitle(ImpressSlide& slide, const PageRef& masterPage) {
+    const ImpressShapePtr title = slide.title();
     if (!title) return;
     auto& look = titleLooks_[masterPage.get()];
-    if (!look) look = std::make_shared<const TitleLook>(TitleLook::difference(masterPage, *title));
-    look->applyToFrame(*title);
-    title->wearOnceFilled(look);
+    if (!look) look = std::make_shared<const TitleLook>(masterPage, title->reference());
+    title->wear(look);
 }
 
 bool SlideLayouts::isFromPowerPoint() {
@@ -178,7 +143,8 @@ SlideLayouts::PageRef SlideLayouts::masterOfAlikeSlide(std::int32_t layout,
     const sal_Int32 count = slides->getCount();
     for (sal_Int32 i = 0; i < count; ++i) {
         const PageRef slide(slides->getByIndex(i), uno::UNO_QUERY_THROW);
-        if (slide.get() == except.get() || !isAlike(ownLayoutOf(slide), layoutNumbered(layout)))
+        if (slide.get() == except.get() ||
+            property<sal_Int16>(slide, "Layout", -1) != layoutNumbered(layout).ofLibreOffice)
             continue;
         const PageRef master = as<drawing::XMasterPageTarget>(slide)->getMasterPage();
         for (const Master* candidate : candidates) {
@@ -193,13 +159,14 @@ void SlideLayouts::countPlaceholders(Master& master) {
     master.titles = 0;
     const sal_Int32 count = master.page->getCount();
     for (sal_Int32 i = 0; i < count; ++i) {
-        HeldShape shape(
-            uno::Reference<drawing::XShape>(master.page->getByIndex(i), uno::UNO_QUERY_THROW), {});
-        if (shape.isTitle()) {
+        const uno::Reference<drawing::XShape> shape(master.page->getByIndex(i),
+                                                    uno::UNO_QUERY_THROW);
+        const std::string service = serviceOf(shape);
+        if (service == "com.sun.star.presentation.TitleTextShape") {
             master.titles = *master.titles + 1;
-            master.titleTop = shape.position().Y;
+            master.titleTop = shape->getPosition().Y;
         }
-        if (shape.service() == "com.sun.star.presentation.OutlinerShape") ++master.bodies;
+        if (service == "com.sun.star.presentation.OutlinerShape") ++master.bodies;
     }
 }
 
@@ -220,16 +187,14 @@ SlideLayouts::PageRef SlideLayouts::masterByPlaceholders(std::int32_t layout,
         return fitting.empty() ? PageRef() : fitting.front()->page;
     };
     switch (layout) {
-        case titleSlide: {
+        case model::layout::title: {
             // Its subtitle leaves no placeholder behind on its master page, so it looks like title
             // only; but its title stands lower.
             const auto fitting = holding(true, 0);
             return fitting.size() > 1 ? fitting.back()->page : PageRef();
         }
-        case titleOnly:
+        case model::layout::titleOnly:
             return highestOf(holding(true, 0));
-        case text:
-            return highestOf(holding(true, 1));
         default:
             return highestOf(holding(false, 0));
     }

@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "office/libreoffice/powerpoint/held_page.h"
+#include "office/libreoffice/powerpoint/impress_slide.h"
 #include "office/libreoffice/powerpoint/title_look.h"
 
 namespace libreoffice::powerpoint {
@@ -28,13 +28,10 @@ public:
 
     /// The layout of a slide: one of the four numbers, 16 (object), 29 (two objects) or 32
     /// (custom).
-    [[nodiscard]] std::int32_t layoutOf(HeldPage& slide);
-    /// `office::Failure` 5 unless this is one of the four numbers.
-    static void requireKnown(std::int32_t layout);
-    /// Gives a slide one of the four layouts; `office::Failure` 5 for another number. In a
-    /// presentation without such a layout the slide keeps its master page and gets the placeholders
-    /// alone.
-    void apply(HeldPage& slide, std::int32_t number);
+    [[nodiscard]] std::int32_t layoutOf(ImpressSlide& slide);
+    /// Gives a slide one of the three layouts that slides are given. In a presentation without such
+    /// a layout the slide keeps its master page and gets the placeholders alone.
+    void apply(ImpressSlide& slide, std::int32_t number);
 
 private:
     using PageRef = uno::Reference<css::drawing::XDrawPage>;
@@ -49,7 +46,7 @@ private:
         std::int32_t titleTop = 0;
     };
 
-    void dressTitle(HeldPage& slide, const PageRef& masterPage);
+    void dressTitle(ImpressSlide& slide, const PageRef& masterPage);
     void loadMasters();
     [[nodiscard]] bool isFromPowerPoint();
     [[nodiscard]] PageRef masterFor(std::int32_t layout, const PageRef& inherited,

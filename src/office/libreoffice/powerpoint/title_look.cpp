@@ -1,10 +1,12 @@
 #include "office/libreoffice/powerpoint/title_look.h"
 
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
+#include <com/sun/star/text/XText.hpp>
+#include <com/sun/star/text/XTextCursor.hpp>
 
 #include <vector>
 
-#include "office/libreoffice/powerpoint/shape_text.h"
+#include "office/libreoffice/powerpoint/impress_shape.h"
 
 namespace libreoffice::powerpoint {
 
@@ -15,36 +17,36 @@ uno::Sequence<Type> sequenceOf(const std::vector<Type>& elements) {
     return {elements.data(), static_cast<sal_Int32>(elements.size())};
 }
 
+uno::Reference<css::text::XTextCursor> firstCharacterOf(
+    const uno::Reference<css::drawing::XShape>& shape) {
+    const auto cursor = as<css::text::XText>(shape)->createTextCursor();
+    cursor->gotoStart(false);
+    cursor->goRight(1, true);
+    return cursor;
+}
+
 }  // namespace
 
-TitleLook TitleLook::difference(const uno::Reference<css::drawing::XDrawPage>& masterPage,
-                                HeldShape& newTitle) {
-    TitleLook look;
+TitleLook::TitleLook(const uno::Reference<css::drawing::XDrawPage>& masterPage,
+                     const ShapeRef& newTitle) {
     const sal_Int32 count = masterPage->getCount();
     for (sal_Int32 i = 0; i < count; ++i) {
-        HeldShape shape(
-            uno::Reference<css::drawing::XShape>(masterPage->getByIndex(i), uno::UNO_QUERY_THROW),
-            {});
-        if (!shape.isTitle()) continue;
-        look.ofText_ =
-            differing(cursorOver(shape, {.start = 0, .length = 1}), newTitle.properties(),
-                      {"CharCaseMap", "CharColor", "CharFontName", "CharHeight", "CharHeightAsian",
-                       "CharHeightComplex", "CharKerning", "CharPosture", "CharPostureAsian",
-                       "CharPostureComplex", "CharUnderline", "CharWeight", "CharWeightAsian",
-                       "CharWeightComplex", "ParaAdjust"});
-        look.ofFrame_ = differing(shape.properties(), newTitle.properties(),
-                                  {"TextAutoGrowHeight", "TextFitToSize"});
-        break;
+        const ShapeRef shape(masterPage->getByIndex(i), uno::UNO_QUERY_THROW);
+        if (serviceOf(shape) != "com.sun.star.presentation.TitleTextShape") continue;
+        ofText_ = differing(firstCharacterOf(shape), newTitle,
+                            {"CharCaseMap", "CharColor", "CharFontName", "CharHeight",
+                             "CharHeightAsian", "CharHeightComplex", "CharKerning", "CharPosture",
+                             "CharPostureAsian", "CharPostureComplex", "CharUnderline",
+                             "CharWeight", "CharWeightAsian", "CharWeightComplex", "ParaAdjust"});
+        ofFrame_ = differing(shape, newTitle, {"TextAutoGrowHeight", "TextFitToSize"});
+        return;
     }
-    return look;
 }
 
 TitleLook::Settings TitleLook::differing(const uno::Reference<uno::XInterface>& wanted,
                                          const uno::Reference<uno::XInterface>& present,
-                                         std::initializer_list<const char*> sortedNames) {
-    std::vector<rtl::OUString> asked;
-    for (const char* name : sortedNames) asked.push_back(rtl::OUString::createFromAscii(name));
-    const auto names = sequenceOf(asked);
+                                         const std::vector<std::string_view>& sortedNames) {
+    const auto names = namesOf(sortedNames);
     const auto wantedValues = as<css::beans::XMultiPropertySet>(wanted)->getPropertyValues(names);
     const auto presentValues = as<css::beans::XMultiPropertySet>(present)->getPropertyValues(names);
     std::vector<rtl::OUString> differentNames;
@@ -57,18 +59,10 @@ TitleLook::Settings TitleLook::differing(const uno::Reference<uno::XInterface>& 
     return {sequenceOf(differentNames), sequenceOf(values)};
 }
 
-void TitleLook::applyToFrame(HeldShape& title) const {
-    apply(ofFrame_, title);
-}
-
-void TitleLook::applyToText(HeldShape& title) const {
-    apply(ofText_, title);
-}
-
-void TitleLook::apply(const Settings& settings, HeldShape& title) {
+void TitleLook::apply(const Settings& settings, const ShapeRef& title) {
     if (settings.names.hasElements())
-        as<css::beans::XMultiPropertySet>(title.shape())
-            ->setPropertyValues(settings.names, settings.values);
+        as<css::beans::XMultiPropertySet>(title)->setPropertyValues(settings.names,
+                                                                    settings.values);
 }
 
 }  // namespace libreoffice::powerpoint

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <com/sun/star/drawing/XDrawPage.hpp>
-#include <com/sun/star/uno/Any.hxx>
-#include <com/sun/star/uno/Sequence.hxx>
+#include <com/sun/star/drawing/XShape.hpp>
 
-#include "office/libreoffice/powerpoint/held_shape.h"
+#include <string_view>
+#include <vector>
+
+#include "office/libreoffice/uno_values.h"
 
 namespace libreoffice::powerpoint {
 
@@ -15,23 +17,24 @@ namespace libreoffice::powerpoint {
 /// lacks them.
 class TitleLook {
 public:
-    /// What differs between the master page's title and one that a new slide of it has got.
-    static TitleLook difference(const uno::Reference<css::drawing::XDrawPage>& masterPage,
-                                HeldShape& newTitle);
+    using ShapeRef = uno::Reference<css::drawing::XShape>;
 
-    void applyToFrame(HeldShape& title) const;
-    /// For a title that holds words: what is set of an empty one gets lost with its prompt.
-    void applyToText(HeldShape& title) const;
+    /// What differs between the master page's title and one that a new slide of it has got.
+    TitleLook(const uno::Reference<css::drawing::XDrawPage>& masterPage, const ShapeRef& newTitle);
+
+    void applyToFrame(const ShapeRef& title) const { apply(ofFrame_, title); }
+    /// For a title that holds words.
+    void applyToText(const ShapeRef& title) const { apply(ofText_, title); }
 
 private:
     struct Settings {
         uno::Sequence<rtl::OUString> names;
         uno::Sequence<uno::Any> values;
     };
-    static void apply(const Settings& settings, HeldShape& title);
+    static void apply(const Settings& settings, const ShapeRef& title);
     static Settings differing(const uno::Reference<uno::XInterface>& wanted,
                               const uno::Reference<uno::XInterface>& present,
-                              std::initializer_list<const char*> sortedNames);
+                              const std::vector<std::string_view>& sortedNames);
 
     Settings ofText_;
     Settings ofFrame_;

@@ -1,0 +1,226 @@
+#include "office/libreoffice/powerpoint/impress_deck.h"
+
+#include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
+#include <com/sun/star/drawing/XMasterPagesSupplier.hpp>
+#include <com/sun/star/lang/IndexOutOfBoundsException.hpp>
+#include <com/sun/star/lang/XServiceInfo.hpp>
+#include <com/sun/star/presentation/XPresentationSupplier.hpp>
+#include <com/sun/star/util/XModifiable.hpp>
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <utility>
+
+#include "office/failure.h"
+#include "office/libreoffice/units.h"
+#include "office/model/powerpoint/objects.h"
+#include "office/text.h"
+
+namespace libreoffice::powerpoint {
+
+namespace {
+
+using office::Failure;
+using office::FailureNumber;
+
+std::int32_t inProportion(std::int32_t length, std::int32_t before, std::int32_t after) {
+    return static_cast<std::int32_t>(std::lround(static_cast<double>(length) * after / before));
+}
+
+/// The placeholders of a master page keep their share of the slide.
+void resizeShapes(const uno::Reference<css::drawing::XDrawPage>& page, const css::awt::Size& before,
+                  const css::awt::Size& after) {
+    const sal_Int32 count = page->getCount();
+    for (sal_Int32 i = 0; i < count; ++i) {
+        const uno::Reference<css::drawing::XShape> shape(page->getByIndex(i), uno::UNO_QUERY_THROW);
+        const css::awt::Point corner = shape->getPosition();
+        const css::awt::Size size = shape->getSize();
+        shape->setSize({inProportion(size.Width, before.Width, after.Width),
+                        inProportion(size.Height, before.Height, after.Height)});
+        shape->setPosition({inProportion(corner.X, before.Width, after.Width),
+                            inProportion(corner.Y, before.Height, after.Height)});
+    }
+}
+
+css::awt::Size sizeOf(const uno::Reference<css::beans::XPropertySet>& page) {
+    css::awt::Size size;
+    page->getPropertyValue("Width") >>= size.Width;
+    page->getPropertyValue("Height") >>= size.Height;
+    return size;
+}
+
+}  // namespace
+
+ImpressDeck::ImpressDeck(uno::Reference<css::frame::XModel> opened,
+                         std::shared_ptr<Connection> connection)
+    : Document(std::move(opened)),
+      connection_(std::move(connection)),
+      pages_(as<css::drawing::XDrawPagesSupplier>(model())->getDrawPages()),
+      factory_(as<css::lang::XMultiServiceFactory>(model())),
+      window_(*this),
+      layouts_(model()) {}
+
+void ImpressDeck::beginAnew() {
+    // 13 1/3 by 7 1/2 inches.
+    const css::awt::Size wideSlide(33867, 19050);
+    const auto page = pageAt(1)->properties();
+    const css::awt::Size before = sizeOf(page);
+    page->setPropertyValue("Width", uno::Any(wideSlide.Width));
+    page->setPropertyValue("Height", uno::Any(wideSlide.Height));
+    const auto masters = as<css::drawing::XMasterPagesSupplier>(model())->getMasterPages();
+    const sal_Int32 count = masters->getCount();
+    for (sal_Int32 i = 0; i < count; ++i)
+        resizeShapes(
+            uno::Reference<css::drawing::XDrawPage>(masters->getByIndex(i), uno::UNO_QUERY_THROW),
+            before, wideSlide);
+    beginsWithoutSlides_ = true;
+    as<css::util::XModifiable>(model())->setModified(false);
+}
+
+ImpressSlidePtr ImpressDeck::slideOf(const uno::Reference<css::drawing::XDrawPage>& page) {
+    if (!page.is()) return nullptr;
+    for (const auto& known : slides_) {
+        if (known->page().get() == page.get()) return known;
+    }
+    if (as<css::lang::XServiceInfo>(page)->supportsService("com.sun.star.drawing.MasterPage"))
+        return nullptr;
+    // The notes of a slide have its number.
+    return pageAt(property<sal_Int16>(page, "Number"));
+}
+
+void ImpressDeck::removeSlide(ImpressSlide& slide) {
+    // LibreOffice keeps the last slide without a word.
+    if (pages_->getCount() == 1)
+        throw Failure(FailureNumber::ApplicationDefined, "Slide.Delete",
+                      "LibreOffice keeps the last slide of a presentation");
+    pages_->remove(slide.page());
+    slide.markGone();
+    std::erase_if(slides_, [&](const auto& known) { return known.get() == &slide; });
+}
+
+uno::Reference<css::drawing::XShape> ImpressDeck::createShape(const char* service) {
+    return {factory_->createInstance(rtl::OUString::createFromAscii(service)),
+            uno::UNO_QUERY_THROW};
+}
+
+uno::Reference<css::graphic::XGraphic> ImpressDeck::loadPicture(const std::string& file) {
+    if (!std::filesystem::is_regular_file(file))
+        throw Failure(FailureNumber::FileNotFound, "Shapes.AddPicture",
+                      fmt::format("There is no file \"{}\"", file));
+    if (!pictures_.is())
+        pictures_ = as<css::graphic::XGraphicProvider>(
+            connection_->create("com.sun.star.graphic.GraphicProvider"));
+    auto picture = pictures_->queryGraphic(propertyValues({{"URL", uno::Any(fileUrl(file))}}));
+    if (!picture.is())
+        throw Failure(FailureNumber::ApplicationDefined, "Shapes.AddPicture",
+                      fmt::format("\"{}\" holds no picture that LibreOffice reads", file));
+    return picture;
+}
+
+model::Size ImpressDeck::slideSize() {
+    const css::awt::Size size = sizeOf(pageAt(1)->properties());
+    return {pointsOf(size.Width), pointsOf(size.Height)};
+}
+
+std::int32_t ImpressDeck::slideCount() {
+    return beginsWithoutSlides_ ? 0 : pages_->getCount();
+}
+
+model::DeckSlidePtr ImpressDeck::slideAt(std::int32_t place) {
+    return beginsWithoutSlides_ ? nullptr : pageAt(place);
+}
+
+ImpressSlidePtr ImpressDeck::pageAt(std::int32_t place) {
+    try {
+        return held(uno::Reference<css::drawing::XDrawPage>(pages_->getByIndex(place - 1),
+                                                            uno::UNO_QUERY_THROW));
+    } catch (const css::lang::IndexOutOfBoundsException&) {
+        return nullptr;
+    }
+}
+
+ImpressSlidePtr ImpressDeck::held(const uno::Reference<css::drawing::XDrawPage>& page) {
+    for (const auto& known : slides_) {
+        if (known->page().get() == page.get()) return known;
+    }
+    slides_.push_back(std::make_shared<ImpressSlide>(page, *this));
+    return slides_.back();
+}
+
+model::DeckSlidePtr ImpressDeck::addSlide(std::int32_t place, std::int32_t layout) {
+    if (wouldComeBeforeNewSlides(place, layout)) {
+        // LibreOffice counts from 0 and inserts after the page that it is given.
+        const auto last = pages_->insertNewByIndex(place + newSlides_.count - 2);
+        layouts_.apply(*held(last), layout);
+        ++newSlides_.count;
+    } else {
+        if (place < 1 || place > slideCount() + 1) return nullptr;
+        newSlides_ = {.first = insertPage(place), .count = 1, .layout = layout, .callsBefore = 0};
+        layouts_.apply(*newSlides_.first, layout);
+    }
+    newSlides_.callsBefore = connection_->remoteCalls();
+    return newSlides_.first;
+}
+
+/// No, if any call at all has been made since the new slides were added, or one of them is held.
+bool ImpressDeck::wouldComeBeforeNewSlides(std::int32_t place, std::int32_t layout) const {
+    // This record holds the first one twice, and no object of automation does. The others can only
+    // be got by a call.
+    constexpr long ownHolders = 2;
+    return newSlides_.first && newSlides_.layout == layout &&
+           connection_->remoteCalls() == newSlides_.callsBefore &&
+           newSlides_.first.use_count() == ownHolders && newSlides_.first->place() == place;
+}
+
+ImpressSlidePtr ImpressDeck::insertPage(std::int32_t place) {
+    if (std::exchange(beginsWithoutSlides_, false)) return pageAt(1);
+    // LibreOffice counts from 0 and inserts after the page that it is given.
+    const bool atFront = place == 1;
+    auto added = held(pages_->insertNewByIndex(atFront ? 0 : place - 2));
+    if (atFront && !window_.moveToFront(added)) {
+        removeSlide(*added);
+        throw Failure(FailureNumber::ApplicationDefined, "Slides.Add",
+                      "LibreOffice did not move the new slide to the front");
+    }
+    return added;
+}
+
+void ImpressDeck::activate() {
+    markActive();
+    raise();
+}
+
+bool ImpressDeck::showsSlides() {
+    if (!slideShow_.is())
+        slideShow_ = as<css::presentation::XPresentation2>(
+            as<css::presentation::XPresentationSupplier>(model())->getPresentation());
+    return slideShow_->isRunning();
+}
+
+void ImpressDeck::endSlideShow() {
+    if (showsSlides()) slideShow_->end();
+}
+
+void ImpressDeck::saveCopy(const std::string& path) {
+    constexpr const char* member = "Presentation.SaveCopyAs";
+    const auto fail = [&](FailureNumber number, const std::string& why) {
+        throw Failure(number, member, fmt::format("\"{}\" could not be written: {}", path, why));
+    };
+    const auto file = std::filesystem::absolute(path);
+    if (office::lowerCase(file.extension().string()) != ".pptx")
+        fail(FailureNumber::InvalidProcedureCall, "a copy's name ends in .pptx");
+    // LibreOffice would make the folder, also one that is merely mistyped.
+    if (!std::filesystem::is_directory(file.parent_path()))
+        fail(FailureNumber::ApplicationDefined,
+             fmt::format("there is no folder \"{}\"", file.parent_path().string()));
+    storeCopy(path, "Impress MS PowerPoint 2007 XML");
+    // A filter that fails does not always say so.
+    std::error_code problem;
+    const auto size = std::filesystem::file_size(file, problem);
+    if (problem) fail(FailureNumber::ApplicationDefined, problem.message());
+    if (size == 0) fail(FailureNumber::ApplicationDefined, "the file is empty");
+}
+
+}  // namespace libreoffice::powerpoint

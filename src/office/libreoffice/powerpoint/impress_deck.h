@@ -1,0 +1,100 @@
+#pragma once
+
+#include <com/sun/star/drawing/XDrawPages.hpp>
+#include <com/sun/star/graphic/XGraphic.hpp>
+#include <com/sun/star/graphic/XGraphicProvider.hpp>
+#include <com/sun/star/lang/XMultiServiceFactory.hpp>
+#include <com/sun/star/presentation/XPresentation2.hpp>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "office/libreoffice/desk.h"
+#include "office/libreoffice/document.h"
+#include "office/libreoffice/powerpoint/impress_slide.h"
+#include "office/libreoffice/powerpoint/impress_window.h"
+#include "office/libreoffice/powerpoint/slide_layouts.h"
+#include "office/model/powerpoint/deck.h"
+#include "office/value.h"
+
+namespace libreoffice::powerpoint {
+
+/// An open presentation, and what automation remembers about it: the slides and shapes that have
+/// been met.
+class ImpressDeck : public Document, public model::Deck {
+public:
+    ImpressDeck(uno::Reference<css::frame::XModel> opened, std::shared_ptr<Connection> connection);
+
+    [[nodiscard]] Connection& connection() const { return *connection_; }
+    [[nodiscard]] ImpressWindow& impressWindow() { return window_; }
+    [[nodiscard]] SlideLayouts& layouts() { return layouts_; }
+
+    /// Makes a presentation that was just created be as PowerPoint's begin: wide, without slides.
+    void beginAnew();
+    [[nodiscard]] bool hasNoSlides() const { return beginsWithoutSlides_; }
+    /// The slide of a page, or of a page of notes; null for a master page.
+    [[nodiscard]] ImpressSlidePtr slideOf(const uno::Reference<css::drawing::XDrawPage>& page);
+    /// `office::Failure` 1004 for the last one.
+    void removeSlide(ImpressSlide& slide);
+    /// A shape of a service ("com.sun.star.drawing.TextShape"), not on a slide yet.
+    [[nodiscard]] uno::Reference<css::drawing::XShape> createShape(const char* service);
+    /// `office::Failure` 53 if there is no such file, 1004 if it holds no picture.
+    [[nodiscard]] uno::Reference<css::graphic::XGraphic> loadPicture(const std::string& file);
+    /// Stops and resumes drawing; counted, so the two must be called in pairs.
+    void freeze() { model()->lockControllers(); }
+    void thaw() { model()->unlockControllers(); }
+    /// Gives the presentation's window the foreground. False if it has none.
+    bool raise() { return window_.raise(); }
+
+    [[nodiscard]] bool isGone() const override { return isClosed(); }
+    std::string name() override { return Document::name(); }
+    std::string fullName() override { return Document::fullName(); }
+    /// All slides have the size of the first one.
+    model::Size slideSize() override;
+    std::int32_t slideCount() override;
+    model::DeckSlidePtr slideAt(std::int32_t place) override;
+    model::DeckSlidePtr addSlide(std::int32_t place, std::int32_t layout) override;
+    model::DeckWindow& window() override { return window_; }
+    void activate() override;
+    bool showsSlides() override;
+    void endSlideShow() override;
+    void saveCopy(const std::string& path) override;
+    void close() override { Document::close(); }
+
+private:
+    /// New slides that were added one in front of the other and that nobody has touched since.
+    ///
+    /// One of them is like the next. So another one may come after them and the first of them be
+    /// called the new one: nobody can tell the difference, and LibreOffice, in which a slide comes
+    /// in front only by being moved there, takes ten times as long for that.
+    struct NewSlides {
+        ImpressSlidePtr first;
+        std::int32_t count = 0;
+        std::int32_t layout = 0;
+        std::uint64_t callsBefore = 0;
+    };
+
+    [[nodiscard]] bool wouldComeBeforeNewSlides(std::int32_t place, std::int32_t layout) const;
+    [[nodiscard]] ImpressSlidePtr pageAt(std::int32_t place);
+    [[nodiscard]] ImpressSlidePtr held(const uno::Reference<css::drawing::XDrawPage>& page);
+    [[nodiscard]] ImpressSlidePtr insertPage(std::int32_t place);
+
+    std::shared_ptr<Connection> connection_;
+    uno::Reference<css::drawing::XDrawPages> pages_;
+    uno::Reference<css::lang::XMultiServiceFactory> factory_;
+    uno::Reference<css::graphic::XGraphicProvider> pictures_;
+    uno::Reference<css::presentation::XPresentation2> slideShow_;
+    ImpressWindow window_;
+    SlideLayouts layouts_;
+    std::vector<ImpressSlidePtr> slides_;
+    NewSlides newSlides_;
+    /// LibreOffice can't have a presentation without slides: the one that it begins with counts from
+    /// the first slide on that is added, and is that slide.
+    bool beginsWithoutSlides_ = false;
+};
+
+/// LibreOffice's presentations under the name of PowerPoint.
+[[nodiscard]] office::Object applicationObject(const DeskPtr& desk);
+
+}  // namespace libreoffice::powerpoint

@@ -1,0 +1,168 @@
+#include "office/libreoffice/powerpoint/impress_slide.h"
+
+#include <com/sun/star/graphic/XGraphic.hpp>
+#include <com/sun/star/lang/IndexOutOfBoundsException.hpp>
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <utility>
+
+#include "office/failure.h"
+#include "office/libreoffice/powerpoint/impress_deck.h"
+#include "office/libreoffice/units.h"
+
+namespace libreoffice::powerpoint {
+
+namespace {
+
+/// Numbers above this one in a name are dates and the like, and not counted on from.
+constexpr std::int32_t highestCounter = 9999;
+
+/// The counter that a shape's name ends with; 0 if there is none.
+std::int32_t counterOf(std::string_view name) {
+    const auto start = name.find_last_not_of("0123456789") + 1;  // npos + 1 is 0: digits alone
+    std::int32_t number = 0;
+    std::from_chars(name.data() + start, name.data() + name.size(), number);
+    return number <= highestCounter ? number : 0;
+}
+
+/// A picture's own size on paper; for one that carries none, that of its pixels at 96 to the inch.
+css::awt::Size naturalSize(const uno::Reference<css::graphic::XGraphic>& picture) {
+    constexpr double hundredthMmPerPixel = 2540.0 / 96.0;
+    auto size = property<css::awt::Size>(picture, "Size100thMM");
+    if (size.Width > 0 && size.Height > 0) return size;
+    const auto pixels = property<css::awt::Size>(picture, "SizePixel");
+    const auto onPaper = [](sal_Int32 count) {
+        return static_cast<sal_Int32>(std::lround(count * hundredthMmPerPixel));
+    };
+    return {onPaper(pixels.Width), onPaper(pixels.Height)};
+}
+
+}  // namespace
+
+const uno::Reference<css::beans::XPropertySet>& ImpressSlide::properties() {
+    if (!properties_.is()) properties_ = as<css::beans::XPropertySet>(page_);
+    return properties_;
+}
+
+ImpressShapePtr ImpressSlide::title() {
+    const std::int32_t count = shapeCount();
+    if (title_ && titlePlace_ <= count && at(titlePlace_) == title_) return title_;
+    if (countWithoutTitle_ == count) return nullptr;
+    title_ = nullptr;
+    countWithoutTitle_.reset();
+    for (std::int32_t place = 1; place <= count; ++place) {
+        if (auto shape = at(place); shape && shape->isTitle()) {
+            titlePlace_ = place;
+            return title_ = shape;
+        }
+    }
+    countWithoutTitle_ = count;
+    return nullptr;
+}
+
+ImpressShapePtr ImpressSlide::held(const uno::Reference<css::drawing::XShape>& shape) {
+    // One remote shape is one proxy for as long as the proxy is held: comparing pointers is enough
+    // and asks nobody.
+    for (const auto& known : shapes_) {
+        if (known->reference().get() == shape.get()) return known;
+    }
+    shapes_.push_back(std::make_shared<ImpressShape>(shape, *this));
+    return shapes_.back();
+}
+
+void ImpressSlide::removeShape(ImpressShape& shape) {
+    page_->remove(shape.reference());
+    shape.markGone();
+    if (title_.get() == &shape) title_ = nullptr;
+    std::erase_if(shapes_, [&](const auto& known) { return known.get() == &shape; });
+}
+
+void ImpressSlide::markGone() {
+    isGone_ = true;
+    for (const auto& shape : shapes_) shape->markGone();
+}
+
+bool ImpressSlide::isGone() const {
+    return isGone_ || deck_.isGone();
+}
+
+std::int32_t ImpressSlide::place() {
+    sal_Int16 number = 0;
+    properties()->getPropertyValue("Number") >>= number;
+    // A slide that was deleted goes on answering.
+    if (number == 0)
+        throw office::Failure(office::FailureNumber::Disconnected, "Slide", "The slide has gone");
+    return number;
+}
+
+std::int32_t ImpressSlide::layout() {
+    return deck_.layouts().layoutOf(*this);
+}
+
+void ImpressSlide::setLayout(std::int32_t layout) {
+    deck_.layouts().apply(*this, layout);
+}
+
+ImpressShapePtr ImpressSlide::at(std::int32_t place) {
+    try {
+        return held(uno::Reference<css::drawing::XShape>(page_->getByIndex(place - 1),
+                                                         uno::UNO_QUERY_THROW));
+    } catch (const css::lang::IndexOutOfBoundsException&) {
+        return nullptr;
+    }
+}
+
+ImpressShapePtr ImpressSlide::add(const char* service) {
+    const auto shape = deck_.createShape(service);
+    page_->add(shape);
+    return held(shape);
+}
+
+model::DeckShapePtr ImpressSlide::addPicture(const std::string& file, const model::Point& corner) {
+    const auto picture = deck_.loadPicture(file);
+    const css::awt::Size size = naturalSize(picture);
+    const std::string name = freshName("Picture");
+    auto shape = add("com.sun.star.drawing.GraphicObjectShape");
+    shape->set({{"Graphic", uno::Any(picture)}, {"Name", uno::Any(toUno(name))}});
+    shape->reference()->setSize(size);
+    shape->moveTo(corner);
+    shape->setKeepsProportions(true);
+    return shape;
+}
+
+model::DeckShapePtr ImpressSlide::addLabel(const model::Point& corner, const model::Size& size) {
+    const std::string name = freshName("TextBox");
+    auto shape = add("com.sun.star.drawing.TextShape");
+    shape->set({{"Name", uno::Any(toUno(name))},
+                {"TextAutoGrowHeight", uno::Any(true)},
+                {"TextAutoGrowWidth", uno::Any(true)},
+                {"TextWordWrap", uno::Any(false)}});
+    shape->resize(size);
+    shape->moveTo(corner);
+    shape->setKeepsProportions(false);
+    return shape;
+}
+
+void ImpressSlide::remove() {
+    deck_.removeSlide(*this);
+}
+
+std::string ImpressSlide::freshName(std::string_view kind) {
+    if (!highestNumber_) highestNumber_ = highestNumber();
+    highestNumber_ = std::max(*highestNumber_, shapeCount()) + 1;
+    return fmt::format("{} {}", kind, *highestNumber_);
+}
+
+std::int32_t ImpressSlide::highestNumber() {
+    std::int32_t highest = 0;
+    const std::int32_t count = shapeCount();
+    for (std::int32_t place = 1; place <= count; ++place) {
+        if (const auto shape = at(place)) highest = std::max(highest, counterOf(shape->name()));
+    }
+    return highest;
+}
+
+}  // namespace libreoffice::powerpoint

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <com/sun/star/drawing/XDrawPage.hpp>
+#include <com/sun/star/drawing/XDrawView.hpp>
+#include <com/sun/star/drawing/XShape.hpp>
+#include <com/sun/star/frame/XController.hpp>
+#include <com/sun/star/view/XSelectionSupplier.hpp>
+
+#include <cstdint>
+#include <vector>
+
+#include "office/libreoffice/uno_values.h"
+#include "office/model/powerpoint/deck_slide.h"
+
+namespace libreoffice::powerpoint {
+
+namespace model = office::model::powerpoint;
+
+class ImpressDeck;
+
+/// The window of a presentation: the slide in view, what is selected, the kind of view. One that was
+/// opened without a window has all of this too, unseen.
+class ImpressWindow final : public model::DeckWindow {
+public:
+    explicit ImpressWindow(ImpressDeck& deck) : deck_(deck) {}
+
+    std::int32_t viewType() override;
+    /// 1 (slide) is the normal view.
+    void setViewType(std::int32_t viewType) override;
+    model::DeckSlidePtr slideInView() override;
+    void show(const model::DeckSlidePtr& slide) override;
+    std::vector<model::DeckShapePtr> selectedShapes() override;
+    void select(const model::DeckShapePtr& shape) override;
+    void unselect() override;
+
+    void select(const uno::Reference<css::drawing::XShape>& shape);
+    /// The shapes selected, also while the text of one is being edited there.
+    [[nodiscard]] std::vector<uno::Reference<css::drawing::XShape>> selection();
+    /// Moves a slide to the front; false if LibreOffice did not.
+    [[nodiscard]] bool moveToFront(const model::DeckSlidePtr& slide);
+    /// Gives the window the foreground. False if it has no window that is shown.
+    bool raise();
+
+private:
+    [[nodiscard]] const uno::Reference<css::frame::XController>& controller();
+    [[nodiscard]] bool showsMasterPage();
+    /// Runs a command of the menus (".uno:DiaMode") here.
+    void dispatch(const char* command);
+
+    ImpressDeck& deck_;
+    uno::Reference<css::frame::XController> controller_;
+    /// The controller's further interfaces, kept with it since asking for one is a remote call.
+    uno::Reference<css::drawing::XDrawView> view_;
+    uno::Reference<css::view::XSelectionSupplier> selection_;
+};
+
+}  // namespace libreoffice::powerpoint

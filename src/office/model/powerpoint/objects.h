@@ -1,0 +1,72 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "office/failure.h"
+#include "office/model/model_object.h"
+#include "office/model/powerpoint/deck.h"
+
+/// The classes of PowerPoint's object model, made here and reached by their members only.
+namespace office::model::powerpoint {
+
+/// What every object of a presentation holds: its presentation, and what its members run through.
+struct InDeck {
+    GuardPtr guard;
+    DeckPtr deck;
+};
+
+/// Base of the classes that stand for something in a presentation.
+template <class Self>
+class DeckObject : public ModelObject<Self> {
+public:
+    DeckObject(InDeck home, std::shared_ptr<Part> part)
+        : ModelObject<Self>(home.guard),
+          home_(std::move(home)),
+          part_(std::move(part)) {}
+
+    [[nodiscard]] const InDeck& home() const { return home_; }
+    [[nodiscard]] Deck& deck() const { return *home_.deck; }
+
+protected:
+    void requireAlive(std::string_view member) const override {
+        if (part_->isGone())
+            throw Failure(FailureNumber::Disconnected,
+                          Self::members().className() + "." + std::string(member),
+                          "The object has been closed or deleted in the meantime");
+    }
+
+private:
+    InDeck home_;
+    std::shared_ptr<Part> part_;
+};
+
+/// A setting of PowerPoint that it refuses.
+[[noreturn]] void refuse(const std::string& source, const std::string& why);
+
+[[nodiscard]] Object applicationObject(GuardPtr guard, DecksPtr decks);
+[[nodiscard]] Object presentationObject(const InDeck& home);
+[[nodiscard]] Object slideShowWindowObject(const InDeck& home);
+[[nodiscard]] Object windowObject(const InDeck& home);
+/// The windows of presentations, one each.
+[[nodiscard]] Object windowsObject(const GuardPtr& guard, std::vector<DeckPtr> decks);
+[[nodiscard]] Object slidesObject(const InDeck& home);
+[[nodiscard]] Object slideObject(const InDeck& home, const DeckSlidePtr& slide);
+/// A range of one slide.
+[[nodiscard]] Object slideRangeObject(const InDeck& home, const DeckSlidePtr& slide);
+[[nodiscard]] Object shapesObject(const InDeck& home, const DeckSlidePtr& slide);
+[[nodiscard]] Object shapeObject(const InDeck& home, const DeckShapePtr& shape);
+/// At least one shape.
+[[nodiscard]] Object shapeRangeObject(const InDeck& home, std::vector<DeckShapePtr> shapes);
+/// Parts of a shape. The text's: `Failure` 1004 for a shape that holds none.
+[[nodiscard]] Object textFrameObject(const InDeck& home, const DeckShapePtr& shape);
+[[nodiscard]] Object shadowObject(const InDeck& home, const DeckShapePtr& shape);
+[[nodiscard]] Object reflectionObject(const InDeck& home, const DeckShapePtr& shape);
+[[nodiscard]] Object adjustmentsObject(const InDeck& home, const DeckShapePtr& shape);
+
+/// The slide at a place from 1. `Failure` 9 if there is none.
+[[nodiscard]] DeckSlidePtr requiredSlide(Deck& deck, const Value& place, const std::string& source);
+
+}  // namespace office::model::powerpoint

@@ -1,0 +1,291 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <functional>
+#include <utility>
+
+#include "office/model/powerpoint/objects.h"
+
+namespace office::model::powerpoint {
+
+namespace {
+
+/// Base of the objects that are a part of one shape.
+template <class Self>
+class ShapePart : public DeckObject<Self> {
+public:
+    ShapePart(const InDeck& home, DeckShapePtr shape)
+        : DeckObject<Self>(home, shape),
+          shape_(std::move(shape)) {}
+
+    [[nodiscard]] DeckShape& shape() const { return *shape_; }
+    [[nodiscard]] const DeckShapePtr& shapePtr() const { return shape_; }
+    /// Of a shape that was found to hold text.
+    [[nodiscard]] ShapeText& text() const { return *shape_->textFrame(); }
+
+    /// A part of the same shape.
+    template <class Other, class... Args>
+    [[nodiscard]] Object other(Args&&... args) const {
+        return makeObject<Other>(this->home(), shape_, std::forward<Args>(args)...);
+    }
+
+private:
+    DeckShapePtr shape_;
+};
+
+/// A colour, by functions that read and change what has it.
+class ColorFormat : public ShapePart<ColorFormat> {
+public:
+    using Read = std::function<std::int32_t(DeckShape&)>;
+    using Write = std::function<void(DeckShape&, std::int32_t)>;
+
+    ColorFormat(const InDeck& home, DeckShapePtr shape, Read read, Write write)
+        : ShapePart(home, std::move(shape)),
+          read_(std::move(read)),
+          write_(std::move(write)) {}
+
+    static const MemberTable<ColorFormat>& members() {
+        using Self = ColorFormat;
+        static const auto table = MemberTable<Self>("ColorFormat")
+                                      .property(
+                                          "RGB", [](Self& self) { return self.read_(self.shape()); },
+                                          [](Self& self, const Value& colour) {
+                                              self.write_(self.shape(), colour.toLong());
+                                          });
+        return table;
+    }
+
+private:
+    Read read_;
+    Write write_;
+};
+
+class ShapeFont : public ShapePart<ShapeFont> {
+public:
+    using ShapePart::ShapePart;
+
+    static const MemberTable<ShapeFont>& members() {
+        using Self = ShapeFont;
+        static const auto table =
+            MemberTable<Self>("Font")
+                .property(
+                    "Name", [](Self& self) { return self.text().font().name; },
+                    [](Self& self, const Value& name) {
+                        self.text().setFont({.name = name.toText(), .sizePt = {}, .colour = {}});
+                    })
+                .property(
+                    "Size", [](Self& self) { return self.text().font().sizePt; },
+                    [](Self& self, const Value& points) {
+                        self.text().setFont({.name = {}, .sizePt = points.toDouble(), .colour = {}});
+                    })
+                // An object whose RGB is read and set; a number put to it is its RGB.
+                .property(
+                    "Color",
+                    [](Self& self) {
+                        return self.other<ColorFormat>(
+                            [](DeckShape& shape) { return shape.textFrame()->font().colour; }, setColour);
+                    },
+                    [](Self& self, const Value& colour) {
+                        setColour(self.shape(), colour.toLong());
+                    });
+        return table;
+    }
+
+private:
+    static void setColour(DeckShape& shape, std::int32_t colour) {
+        shape.textFrame()->setFont({.name = {}, .sizePt = {}, .colour = colour});
+    }
+};
+
+/// Some characters of a shape's text, for a caret to be put there. Nothing shows one here: a shape
+/// whose text is selected is selected itself already.
+class Characters : public ShapePart<Characters> {
+public:
+    using ShapePart::ShapePart;
+
+    static const MemberTable<Characters>& members() {
+        static const auto table =
+            MemberTable<Characters>("TextRange").method("Select", {}, [](Characters&) {});
+        return table;
+    }
+};
+
+class TextRange : public ShapePart<TextRange> {
+public:
+    using ShapePart::ShapePart;
+
+    static const MemberTable<TextRange>& members() {
+        using Self = TextRange;
+        static const auto table =
+            MemberTable<Self>("TextRange")
+                .property(
+                    "Text", [](Self& self) { return self.text().words(); },
+                    [](Self& self, const Value& words) { self.text().setWords(words.toText()); })
+                .property("Characters", {"Start", "Length"},
+                          [](Self& self, const CallArguments&) { return self.other<Characters>(); })
+                .property("Font", [](Self& self) { return self.other<ShapeFont>(); });
+        return table;
+    }
+};
+
+class TextFrame : public ShapePart<TextFrame> {
+public:
+    using ShapePart::ShapePart;
+
+    static const MemberTable<TextFrame>& members() {
+        using Self = TextFrame;
+        static const auto table =
+            MemberTable<Self>("TextFrame")
+                .property(
+                    "WordWrap", [](Self& self) { return triState(self.text().wraps()); },
+                    [](Self& self, const Value& on) { self.text().setWraps(on.toBool()); })
+                .property("TextRange", [](Self& self) { return self.other<TextRange>(); });
+        return table;
+    }
+};
+
+/// Whatever is set of a shape that has no shadow gives it one, straight behind the shape at first.
+class ShadowFormat : public ShapePart<ShadowFormat> {
+public:
+    using ShapePart::ShapePart;
+    static const MemberTable<ShadowFormat>& members();
+
+private:
+    static Shadow plainShadow(double offsetPt) {
+        constexpr std::int32_t grey = 0x808080;
+        return {.isVisible = true, .offsetXPt = offsetPt, .offsetYPt = offsetPt, .colour = grey};
+    }
+    template <class Type>
+    static void change(DeckShape& shape, Type Shadow::*part, Type value) {
+        Shadow shadow = shape.shadow();
+        if (!shadow.isVisible) shadow = plainShadow(0);
+        shadow.*part = value;
+        shape.setShadow(shadow);
+    }
+    void setVisible(const Value& on);
+};
+
+const MemberTable<ShadowFormat>& ShadowFormat::members() {
+    using Self = ShadowFormat;
+    static const auto table = [] {
+        MemberTable<Self> made("ShadowFormat");
+        made.property(
+                "Visible", [](Self& self) { return triState(self.shape().shadow().isVisible); },
+                &Self::setVisible)
+            .property("ForeColor", [](Self& self) {
+                return self.other<ColorFormat>(
+                    [](DeckShape& shape) { return shape.shadow().colour; },
+                    [](DeckShape& shape, std::int32_t rgb) { change(shape, &Shadow::colour, rgb); });
+            });
+        const auto number = [&](const char* name, double Shadow::*part) {
+            made.property(
+                name, [part](Self& self) { return self.shape().shadow().*part; },
+                [part](Self& self, const Value& value) {
+                    change(self.shape(), part, value.toDouble());
+                });
+        };
+        number("Blur", &Shadow::blurPt);
+        number("Size", &Shadow::sizePercent);
+        number("OffsetX", &Shadow::offsetXPt);
+        number("OffsetY", &Shadow::offsetYPt);
+        return made;
+    }();
+    return table;
+}
+
+void ShadowFormat::setVisible(const Value& on) {
+    /// Where PowerPoint throws a shadow that is merely made visible.
+    constexpr double plainOffsetPt = 2;
+    Shadow shadow = shape().shadow();
+    if (shadow.isVisible == on.toBool()) return;
+    if (on.toBool())
+        shadow = plainShadow(plainOffsetPt);
+    else
+        shadow.isVisible = false;
+    shape().setShadow(shadow);
+}
+
+class ReflectionFormat : public ShapePart<ReflectionFormat> {
+public:
+    using ShapePart::ShapePart;
+
+    static const MemberTable<ReflectionFormat>& members() {
+        using Self = ReflectionFormat;
+        static const auto table = [] {
+            MemberTable<Self> made("ReflectionFormat");
+            const auto number = [&](const char* name, double Reflection::*part) {
+                made.property(
+                    name, [part](Self& self) { return self.shape().reflection().*part; },
+                    [part](Self& self, const Value& value) {
+                        self.change(part, value.toDouble());
+                    });
+            };
+            number("Offset", &Reflection::offsetPt);
+            number("Size", &Reflection::sizePercent);
+            return made;
+        }();
+        return table;
+    }
+
+private:
+    void change(double Reflection::*part, double value) {
+        /// What PowerPoint mirrors of a shape that got a reflection without a size.
+        constexpr double plainPercent = 35;
+        Reflection reflection = shape().reflection();
+        if (reflection.sizePercent == 0) reflection.sizePercent = plainPercent;
+        reflection.*part = value;
+        shape().setReflection(reflection);
+    }
+};
+
+class Adjustments : public ShapePart<Adjustments> {
+public:
+    using ShapePart::ShapePart;
+
+    static const MemberTable<Adjustments>& members() {
+        using Self = Adjustments;
+        static const auto table =
+            MemberTable<Self>("Adjustments")
+                .property(
+                    "Item", {"Index"},
+                    [](Self& self, const CallArguments& arguments) {
+                        const std::int32_t place = arguments.at(0).toLong();
+                        const auto value = self.shape().adjustment(place);
+                        if (!value) failWithout(place, arguments.source());
+                        return *value;
+                    },
+                    [](Self& self, const CallArguments& arguments, const Value& value) {
+                        const std::int32_t place = arguments.at(0).toLong();
+                        if (!self.shape().setAdjustment(place, value.toDouble()))
+                            failWithout(place, arguments.source());
+                    });
+        return table;
+    }
+
+private:
+    [[noreturn]] static void failWithout(std::int32_t place, const std::string& source) {
+        throw Failure(FailureNumber::SubscriptOutOfRange, source,
+                      fmt::format("The shape has no adjustment {}", place));
+    }
+};
+
+}  // namespace
+
+Object textFrameObject(const InDeck& home, const DeckShapePtr& shape) {
+    if (shape->textFrame() == nullptr) refuse("Shape.TextFrame", "The shape holds no text");
+    return makeObject<TextFrame>(home, shape);
+}
+
+Object shadowObject(const InDeck& home, const DeckShapePtr& shape) {
+    return makeObject<ShadowFormat>(home, shape);
+}
+
+Object reflectionObject(const InDeck& home, const DeckShapePtr& shape) {
+    return makeObject<ReflectionFormat>(home, shape);
+}
+
+Object adjustmentsObject(const InDeck& home, const DeckShapePtr& shape) {
+    return makeObject<Adjustments>(home, shape);
+}
+
+}  // namespace office::model::powerpoint

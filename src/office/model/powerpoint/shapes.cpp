@@ -1,0 +1,266 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "office/model/item_index.h"
+#include "office/model/powerpoint/objects.h"
+
+namespace office::model::powerpoint {
+
+namespace {
+
+/// Beyond this PowerPoint takes no place and no length.
+constexpr double furthestPt = 169056;
+/// A shape keeps at least this of each side, so that it stays a shape whatever one side takes from
+/// the other.
+constexpr double smallestSidePt = 0.1;
+
+double placePt(const Value& points, const std::string& source) {
+    const double place = points.toDouble();
+    if (!(std::abs(place) <= furthestPt))
+        throw Failure(FailureNumber::InvalidProcedureCall, source,
+                      fmt::format("{}: the value {} is out of range", source, place));
+    return place;
+}
+
+double lengthPt(const Value& points, const std::string& source) {
+    const double length = placePt(points, source);
+    if (!(length > 0))
+        throw Failure(FailureNumber::InvalidProcedureCall, source,
+                      fmt::format("{}: a shape can't be {} points wide or high", source, length));
+    return std::max(length, smallestSidePt);
+}
+
+void moveTo(DeckShape& shape, double Point::*edge, double toPt) {
+    Point corner = shape.corner();
+    corner.*edge = toPt;
+    shape.moveTo(corner);
+}
+
+void resize(DeckShape& shape, double Size::*side, double toPt) {
+    Size size = shape.size();
+    double Size::*const other = side == &Size::width ? &Size::height : &Size::width;
+    if (shape.keepsProportions() && size.*side > 0 && size.*other > 0)
+        size.*other = std::max(size.*other * toPt / (size.*side), smallestSidePt);
+    size.*side = toPt;
+    shape.resize(size);
+}
+
+Outline outlineOf(const Value& number, const std::string& source) {
+    const auto wanted = static_cast<Outline>(number.toLong());
+    if (wanted != Outline::Rectangle && wanted != Outline::RoundedRectangle)
+        throw Failure(FailureNumber::InvalidProcedureCall, source,
+                      fmt::format("There is no outline {} here", number.toLong()));
+    return wanted;
+}
+
+/// The members that a shape and a range of shapes have in common: each reads the first shape and
+/// writes all of them. A part of a shape is had of one shape only.
+template <class Self>
+class ShapeMembers : public DeckObject<Self> {
+public:
+    ShapeMembers(const InDeck& home, std::vector<DeckShapePtr> shapes)
+        : DeckObject<Self>(home, shapes.front()),
+          shapes_(std::move(shapes)) {}
+
+    [[nodiscard]] const std::vector<DeckShapePtr>& shapes() const { return shapes_; }
+    static MemberTable<Self> table(const char* className);
+
+private:
+    template <class Read>
+    static auto reads(Read read) {
+        return [read](Self& self) { return std::invoke(read, *self.shapes().front()); };
+    }
+    /// `change` takes a shape and the value.
+    template <class Change>
+    static auto writes(Change change) {
+        return [change](Self& self, const Value& value) {
+            for (const auto& shape : self.shapes()) change(*shape, value);
+        };
+    }
+    static auto part(Object (*make)(const InDeck&, const DeckShapePtr&)) {
+        return [make](Self& self, const CallArguments& arguments) {
+            if (self.shapes().size() != 1)
+                refuse(arguments.source(), "The range holds several shapes");
+            return make(self.home(), self.shapes().front());
+        };
+    }
+
+    std::vector<DeckShapePtr> shapes_;
+};
+
+template <class Self>
+MemberTable<Self> ShapeMembers<Self>::table(const char* className) {
+    MemberTable<Self> table(className);
+    table
+        .property("Name", reads(&DeckShape::name),
+                  writes([](DeckShape& shape, const Value& name) { shape.setName(name.toText()); }))
+        .property("AlternativeText", reads(&DeckShape::alternativeText),
+                  writes([](DeckShape& shape, const Value& text) {
+                      shape.setAlternativeText(text.toText());
+                  }))
+        .property("LockAspectRatio",
+                  reads([](DeckShape& shape) { return triState(shape.keepsProportions()); }),
+                  writes([](DeckShape& shape, const Value& on) {
+                      shape.setKeepsProportions(on.toBool());
+                  }))
+        .property("AutoShapeType", reads([](DeckShape& shape) {
+                      return static_cast<std::int32_t>(shape.outline());
+                  }),
+                  writes([](DeckShape& shape, const Value& number) {
+                      shape.setOutline(outlineOf(number, "Shape.AutoShapeType"));
+                  }))
+        .property("TextFrame", {}, part(textFrameObject))
+        .property("Shadow", {}, part(shadowObject))
+        .property("Reflection", {}, part(reflectionObject))
+        .property("Adjustments", {}, part(adjustmentsObject))
+        .method("Select", {}, [](Self& self) { self.deck().window().select(self.shapes().front()); })
+        .method("Delete", {}, [](Self& self) {
+            for (const auto& shape : self.shapes()) shape->remove();
+        });
+    const auto edge = [&](const std::string& name, double Point::*which) {
+        table.property(name, reads([which](DeckShape& shape) { return shape.corner().*which; }),
+                       writes([which, source = "Shape." + name](DeckShape& shape, const Value& to) {
+                           moveTo(shape, which, placePt(to, source));
+                       }));
+    };
+    edge("Left", &Point::left);
+    edge("Top", &Point::top);
+    const auto side = [&](const std::string& name, double Size::*which) {
+        table.property(name, reads([which](DeckShape& shape) { return shape.size().*which; }),
+                       writes([which, source = "Shape." + name](DeckShape& shape, const Value& to) {
+                           resize(shape, which, lengthPt(to, source));
+                       }));
+    };
+    side("Width", &Size::width);
+    side("Height", &Size::height);
+    return table;
+}
+
+class Shape : public ShapeMembers<Shape> {
+public:
+    using ShapeMembers::ShapeMembers;
+    static const MemberTable<Shape>& members() {
+        static const auto all = table("Shape");
+        return all;
+    }
+};
+
+class ShapeRange : public ShapeMembers<ShapeRange> {
+public:
+    using ShapeMembers::ShapeMembers;
+    static const MemberTable<ShapeRange>& members() {
+        static const auto all = table("ShapeRange").property("Count", [](ShapeRange& self) {
+            return countOf(self.shapes().size());
+        });
+        return all;
+    }
+};
+
+class Shapes : public DeckObject<Shapes> {
+public:
+    Shapes(const InDeck& home, const DeckSlidePtr& slide)
+        : DeckObject(home, slide),
+          slide_(*slide) {}
+    static const MemberTable<Shapes>& members();
+
+private:
+    Object item(const CallArguments& arguments);
+    Object title(const CallArguments& arguments);
+    Object addPicture(const CallArguments& arguments);
+    Object addLabel(const CallArguments& arguments);
+
+    DeckSlide& slide_;
+};
+
+const MemberTable<Shapes>& Shapes::members() {
+    using Self = Shapes;
+    static const auto table =
+        MemberTable<Self>("Shapes")
+            .property("Count", [](Self& self) { return self.slide_.shapeCount(); })
+            .property("Item", {"Index"}, &Self::item)
+            .property("HasTitle",
+                      [](Self& self) { return triState(self.slide_.titleShape() != nullptr); })
+            .property("Title", {}, &Self::title)
+            .method(
+                "AddPicture",
+                {"FileName", "LinkToFile", "SaveWithDocument", "Left", "Top", "Width", "Height"},
+                &Self::addPicture)
+            .method("AddLabel", {"Orientation", "Left", "Top", "Width", "Height"},
+                    &Self::addLabel);
+    return table;
+}
+
+Object Shapes::item(const CallArguments& arguments) {
+    const ItemIndex index(arguments.at(0), arguments.source());
+    if (!index.isName()) {
+        if (auto shape = slide_.shapeAt(arguments.at(0).toLong())) return shapeObject(home(), shape);
+        index.fail();
+    }
+    const std::int32_t count = slide_.shapeCount();
+    for (std::int32_t place = 1; place <= count; ++place) {
+        auto shape = slide_.shapeAt(place);
+        if (shape && sameIgnoringCase(shape->name(), index.name()))
+            return shapeObject(home(), shape);
+    }
+    index.fail();
+}
+
+Object Shapes::title(const CallArguments& arguments) {
+    const auto shape = slide_.titleShape();
+    if (!shape) refuse(arguments.source(), "The slide has no title");
+    return shapeObject(home(), shape);
+}
+
+/// A side that is given alone brings the other one along.
+Object Shapes::addPicture(const CallArguments& arguments) {
+    constexpr double ownSize = -1;
+    const std::string& source = arguments.source();
+    if (arguments.at(1, false).toBool())
+        throw Failure(FailureNumber::InvalidProcedureCall, source, "A picture can't be linked here");
+    const Point corner{placePt(arguments.at(3, 0), source), placePt(arguments.at(4, 0), source)};
+    const auto side = [&](std::size_t position) {
+        const Value given = arguments.at(position, ownSize);
+        return given.toDouble() == ownSize ? ownSize : lengthPt(given, source);
+    };
+    const double width = side(5);
+    const double height = side(6);
+    const auto picture = slide_.addPicture(arguments.at(0).toText(), corner);
+    if (width != ownSize && height != ownSize) {
+        picture->resize({width, height});
+    } else if (width != ownSize) {
+        resize(*picture, &Size::width, width);
+    } else if (height != ownSize) {
+        resize(*picture, &Size::height, height);
+    }
+    return shapeObject(home(), picture);
+}
+
+Object Shapes::addLabel(const CallArguments& arguments) {
+    constexpr std::int32_t horizontal = 1;
+    const std::string& source = arguments.source();
+    if (arguments.at(0).toLong() != horizontal)
+        throw Failure(FailureNumber::InvalidProcedureCall, source,
+                      "Only horizontal text can be added");
+    const Point corner{placePt(arguments.at(1), source), placePt(arguments.at(2), source)};
+    const Size size{lengthPt(arguments.at(3), source), lengthPt(arguments.at(4), source)};
+    return shapeObject(home(), slide_.addLabel(corner, size));
+}
+
+}  // namespace
+
+Object shapesObject(const InDeck& home, const DeckSlidePtr& slide) {
+    return makeObject<Shapes>(home, slide);
+}
+
+Object shapeObject(const InDeck& home, const DeckShapePtr& shape) {
+    return makeObject<Shape>(home, std::vector{shape});
+}
+
+Object shapeRangeObject(const InDeck& home, std::vector<DeckShapePtr> shapes) {
+    return makeObject<ShapeRange>(home, std::move(shapes));
+}
+
+}  // namespace office::model::powerpoint

@@ -1,0 +1,125 @@
+#include <fmt/format.h>
+
+#include <array>
+#include <algorithm>
+#include <utility>
+
+#include "office/model/item_index.h"
+#include "office/model/powerpoint/objects.h"
+
+namespace office::model::powerpoint {
+
+namespace {
+
+std::int32_t knownLayout(const Value& number, const std::string& source) {
+    constexpr std::array known = {layout::title, layout::titleOnly, layout::blank};
+    const std::int32_t wanted = number.toLong();
+    if (std::find(known.begin(), known.end(), wanted) == known.end())
+        throw Failure(FailureNumber::InvalidProcedureCall, source,
+                      fmt::format("There is no slide layout {} here", wanted));
+    return wanted;
+}
+
+class Slides : public DeckObject<Slides> {
+public:
+    using DeckObject::DeckObject;
+    static const MemberTable<Slides>& members();
+
+private:
+    Object add(const CallArguments& arguments);
+};
+
+const MemberTable<Slides>& Slides::members() {
+    using Self = Slides;
+    static const auto table =
+        MemberTable<Self>("Slides")
+            .property("Count", [](Self& self) { return self.deck().slideCount(); })
+            .property("Item", {"Index"},
+                      [](Self& self, const CallArguments& arguments) {
+                          return slideObject(self.home(),
+                                             requiredSlide(self.deck(), arguments.at(0),
+                                                           arguments.source()));
+                      })
+            .method("Add", {"Index", "Layout"}, &Self::add);
+    return table;
+}
+
+Object Slides::add(const CallArguments& arguments) {
+    const std::int32_t place = arguments.at(0).toLong();
+    const auto slide = deck().addSlide(place, knownLayout(arguments.at(1), arguments.source()));
+    if (!slide)
+        throw Failure(FailureNumber::SubscriptOutOfRange, arguments.source(),
+                      fmt::format("A slide can't be added at {} to {} slides", place,
+                                  deck().slideCount()));
+    return slideObject(home(), slide);
+}
+
+/// The members that a slide and a range of one slide have in common.
+template <class Self>
+class SlideMembers : public DeckObject<Self> {
+public:
+    SlideMembers(const InDeck& home, const DeckSlidePtr& slide)
+        : DeckObject<Self>(home, slide),
+          slide_(slide) {}
+
+    [[nodiscard]] const DeckSlidePtr& slide() const { return slide_; }
+
+    static MemberTable<Self> table(const char* className) {
+        const auto place = [](Self& self) { return self.slide()->place(); };
+        return MemberTable<Self>(className)
+            .property("SlideIndex", place)
+            .property("SlideNumber", place)
+            .property(
+                "Layout", [](Self& self) { return self.slide()->layout(); },
+                [](Self& self, const Value& number) {
+                    self.slide()->setLayout(knownLayout(number, "Slide.Layout"));
+                })
+            .property("Shapes",
+                      [](Self& self) { return shapesObject(self.home(), self.slide()); })
+            .method("Select", {}, [](Self& self) { self.deck().window().show(self.slide()); })
+            .method("Delete", {}, [](Self& self) { self.slide()->remove(); });
+    }
+
+private:
+    DeckSlidePtr slide_;
+};
+
+class Slide : public SlideMembers<Slide> {
+public:
+    using SlideMembers::SlideMembers;
+    static const MemberTable<Slide>& members() {
+        static const auto all = table("Slide");
+        return all;
+    }
+};
+
+class SlideRange : public SlideMembers<SlideRange> {
+public:
+    using SlideMembers::SlideMembers;
+    static const MemberTable<SlideRange>& members() {
+        static const auto all = table("SlideRange");
+        return all;
+    }
+};
+
+}  // namespace
+
+DeckSlidePtr requiredSlide(Deck& deck, const Value& place, const std::string& source) {
+    auto slide = deck.slideAt(place.toLong());
+    if (!slide) ItemIndex(place.toLong(), source).fail();
+    return slide;
+}
+
+Object slidesObject(const InDeck& home) {
+    return makeObject<Slides>(home, home.deck);
+}
+
+Object slideObject(const InDeck& home, const DeckSlidePtr& slide) {
+    return makeObject<Slide>(home, slide);
+}
+
+Object slideRangeObject(const InDeck& home, const DeckSlidePtr& slide) {
+    return makeObject<SlideRange>(home, slide);
+}
+
+}  // namespace office::model::powerpoint
