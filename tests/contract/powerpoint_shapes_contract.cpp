@@ -19,6 +19,15 @@ TEST_F(PowerPointContract, InsertsAPictureBehindTheOthersAtItsNaturalSize) {
     EXPECT_NEAR(last.get("Width").toDouble(), 240, 0.5);
 }
 
+TEST_F(PowerPointContract, ScalesAPictureByTheSideThatIsGiven) {
+    static_cast<void>(addPicture(3, 200, 100));
+    const Value made = slide(3).get("Shapes").call(
+        "AddPicture", environment().temporaryFile("picture.png"), 0, -1, 10, 20, 50, -1);
+    EXPECT_NEAR(made.get("Height").toDouble(), 25, 0.1);
+    EXPECT_NEAR(made.get("Left").toDouble(), 10, 0.1);
+    EXPECT_NEAR(made.get("Top").toDouble(), 20, 0.1);
+}
+
 TEST_F(PowerPointContract, FailsOnAPictureThatIsntThere) {
     const std::int32_t before = slide(3).get("Shapes").get("Count").toLong();
     EXPECT_NE(failureOf([&] {
@@ -145,9 +154,9 @@ struct Setting {
 /// `Failure`.
 TEST_F(PowerPointContract, AppliesEachSettingOfAStyleOrFails) {
     const std::vector<Setting> settings = {
-        {"Shadow", "Visible", -1},      {"Shadow", "Blur", 25},      {"Shadow", "Size", 100},
-        {"Shadow", "OffsetX", 8.12132}, {"Shadow", "OffsetY", 8.12132},
-        {"Reflection", "Offset", 1},    {"Reflection", "Size", 20},
+        {"Shadow", "Visible", -1},      {"Shadow", "Blur", 25},         {"Shadow", "Size", 100},
+        {"Shadow", "OffsetX", 8.12132}, {"Shadow", "OffsetY", 8.12132}, {"Reflection", "Offset", 1},
+        {"Reflection", "Size", 20},
     };
     const Object picture = addPicture(3, 240, 120);
     for (const auto& [part, member, value] : settings) {
@@ -171,6 +180,7 @@ TEST_F(PowerPointContract, RoundsTheCornersOfAPictureOrFails) {
     const Object picture = addPicture(3, 240, 120);
     EXPECT_NE(failureOf([&] { picture.get("Adjustments").put("Item", 1, 0.03); }), 0)
         << "a plain picture has nothing to adjust";
+    EXPECT_EQ(failureOf([&] { picture.put("AutoShapeType", 77); }), 5);
     if (failureOf([&] { picture.put("AutoShapeType", 5); }) != 0) return;
     EXPECT_EQ(picture.get("AutoShapeType").toLong(), 5);
     picture.get("Adjustments").put("Item", 1, 0.05);

@@ -79,6 +79,7 @@ TEST_F(PowerPointContract, TellsNewSlidesApartAsSoonAsSomebodyCould) {
 TEST_F(PowerPointContract, RefusesASlideWhereThereIsNoPlace) {
     EXPECT_NE(failureOf([&] { slides().call("Add", 0, titleOnly); }), 0);
     EXPECT_NE(failureOf([&] { slides().call("Add", 9, titleOnly); }), 0);
+    EXPECT_EQ(failureOf([&] { slides().call("Add", 3, 99); }), 5) << "no such layout";
     EXPECT_EQ(slides().get("Count").toLong(), 4);
     EXPECT_EQ(failureOf([&] { slides().get("Item", 5); }), subscriptOutOfRange);
 }
@@ -95,10 +96,10 @@ TEST_F(PowerPointContract, ReadsAndWritesTitles) {
     EXPECT_EQ(title.get("TextFrame").get("TextRange").get("Text").toText(), "Chart here");
     EXPECT_GT(title.get("Width").toDouble(), 300);
     EXPECT_GT(title.get("Top").toDouble() + title.get("Height").toDouble(), 20);
-    title.get("TextFrame").get("TextRange").put("Text", "Umsätze – 2026");
+    title.get("TextFrame").get("TextRange").put("Text", "Umsätze –\r2026");
     EXPECT_EQ(
         slide(3).get("Shapes").get("Title").get("TextFrame").get("TextRange").get("Text").toText(),
-        "Umsätze – 2026");
+        "Umsätze –\r2026");
 }
 
 TEST_F(PowerPointContract, FailsOnTheTitleOfASlideWithoutOne) {

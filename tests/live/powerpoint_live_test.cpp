@@ -2,7 +2,7 @@
 
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/excel/package_parts.h"
-#include "office/libreoffice/powerpoint/application.h"
+#include "office/libreoffice/powerpoint/impress_deck.h"
 #include "support/png_file.h"
 
 namespace live {
@@ -14,11 +14,7 @@ void PowerPointLive::SetUp() {
 
 void PowerPointLive::TearDown() {
     const Value open = app.get("Presentations");
-    while (open.get("Count").toLong() > 0) {
-        const Value first = open.get("Item", 1);
-        first.put("Saved", true);
-        first.call("Close");
-    }
+    while (open.get("Count").toLong() > 0) open.get("Item", 1).call("Close");
 }
 
 void PowerPointLive::withWindows() {

@@ -29,7 +29,6 @@ void makeShadow(const Object& shape) {
     shadow.get("ForeColor").put("RGB", 0x336699);
     shadow.put("OffsetX", 8.12132);
     shadow.put("OffsetY", 8.12132);
-    shadow.put("Transparency", 0.25);
 }
 
 void makeReflection(const Object& shape) {
@@ -57,7 +56,7 @@ const std::vector<Style>& styles() {
         {"shadow",
          makeShadow,
          {"<p:pic>", R"(<a:outerShdw dist="146116" dir="2700000" blurRad="0")",
-          R"(<a:srgbClr val="996633"><a:alpha val="75000"/>)"}},
+          R"(<a:srgbClr val="996633"/>)"}},
         {"rounded", roundCorners, {rounded, "<a:blip r:embed="}},
         {"reflection", makeReflection, {"<p:pic>", reflection, plainShadow}},
         {"reflection, rounded",
@@ -110,7 +109,6 @@ TEST_F(PowerPointLive, ReadsItsStylesBackFromTheFile) {
     EXPECT_NEAR(shape.get("Reflection").get("Size").toDouble(), 20, 0.01);
     EXPECT_NEAR(shape.get("Reflection").get("Offset").toDouble(), 1, 0.01);
     EXPECT_NEAR(shape.get("Shadow").get("OffsetX").toDouble(), 8.12, 0.05);
-    EXPECT_NEAR(shape.get("Shadow").get("Transparency").toDouble(), 0.25, 0.01);
     EXPECT_EQ(shape.get("Shadow").get("ForeColor").get("RGB").toLong(), 0x336699);
 
     shape.get("Shadow").put("Visible", 0);
@@ -151,9 +149,6 @@ TEST_F(PowerPointLive, GivesNoOutlineToWhatHasNone) {
     const Object deck = openWithSlides();
     const Object title = slide(deck, 3).get("Shapes").get("Title").toObject();
     EXPECT_EQ(failureOf([&] { title.put("AutoShapeType", 5); }), 1004);
-    const Object picture = addPicture(slide(deck, 3), 100, 50);
-    EXPECT_EQ(failureOf([&] { picture.put("AutoShapeType", 77); }), 5);
-    EXPECT_EQ(failureOf([&] { picture.get("Adjustments").put("Item", 1, 0.03); }), 9);
 }
 
 TEST_F(PowerPointLive, KeepsALabelsCornerAtEachStep) {
@@ -191,21 +186,6 @@ TEST_F(PowerPointLive, KeepsALabelsCornerAtEachStep) {
     }
 }
 
-TEST_F(PowerPointLive, SetsTheFontOfSomeCharactersAlone) {
-    const Object deck = openWithSlides();
-    const Value text = slide(deck, 3).get("Shapes").get("Title").get("TextFrame").get("TextRange");
-    text.put("Text", "Sales of 2026\rand before");
-    EXPECT_EQ(text.get("Text").toText(), "Sales of 2026\rand before");
-    const Value year = text.get("Characters", 10, 4);
-    EXPECT_EQ(year.get("Text").toText(), "2026");
-    year.get("Font").put("Bold", false);
-    year.get("Font").put("Color", 0x0000FF);
-    EXPECT_EQ(year.get("Font").get("Color").get("RGB").toLong(), 0x0000FF);
-    EXPECT_NE(text.get("Characters", 1, 5).get("Font").get("Color").get("RGB").toLong(), 0x0000FF);
-    year.put("Text", "2027");
-    EXPECT_EQ(text.get("Text").toText(), "Sales of 2027\rand before");
-}
-
 TEST_F(PowerPointLive, NamesPicturesAsTheyCome) {
     const Object deck = openWithSlides();
     const Object target = slide(deck, 5);
@@ -217,15 +197,6 @@ TEST_F(PowerPointLive, NamesPicturesAsTheyCome) {
         return openFile(file("names.pptx"));
     }();
     EXPECT_EQ(addPicture(slide(reopened, 5), 50, 50).get("Name").toText(), "Picture 8");
-}
-
-TEST_F(PowerPointLive, ScalesAPictureByTheSideThatIsGiven) {
-    const Object deck = openWithSlides();
-    const Value shapes = slide(deck, 5).get("Shapes");
-    const Value made = shapes.call("AddPicture", picture(200, 100), 0, -1, 10, 20, 50, -1);
-    EXPECT_NEAR(made.get("Height").toDouble(), 25, 0.1);
-    EXPECT_NEAR(made.get("Left").toDouble(), 10, 0.02);
-    EXPECT_NEAR(made.get("Top").toDouble(), 20, 0.02);
 }
 
 TEST_F(PowerPointLive, NamesTheFileThatHoldsNoPicture) {

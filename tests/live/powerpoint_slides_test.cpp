@@ -10,7 +10,6 @@ namespace {
 struct DeckWithLayouts {
     const char* file;
     double titleOnlyLeft;
-    double contentLeft;
 };
 
 void PrintTo(const DeckWithLayouts& deck, std::ostream* out) {
@@ -20,9 +19,9 @@ void PrintTo(const DeckWithLayouts& deck, std::ostream* out) {
 class LayoutOfDeck : public PowerPointLive, public testing::WithParamInterface<DeckWithLayouts> {};
 
 INSTANTIATE_TEST_SUITE_P(Decks, LayoutOfDeck,
-                         testing::Values(DeckWithLayouts{"english.pptx", 72, 48},
-                                         DeckWithLayouts{"german.pptx", 72, 48},
-                                         DeckWithLayouts{"two-designs.pptx", 90, 48}),
+                         testing::Values(DeckWithLayouts{"english.pptx", 72},
+                                         DeckWithLayouts{"german.pptx", 72},
+                                         DeckWithLayouts{"two-designs.pptx", 90}),
                          [](const auto& each) {
                              std::string name = each.param.file;
                              return name.substr(0, name.find_first_of(".-"));
@@ -36,7 +35,6 @@ TEST_P(LayoutOfDeck, IsFoundForANewSlide) {
         return added.get("Shapes").get("Title").get("Left").toDouble();
     };
     EXPECT_NEAR(titleLeft(titleOnly), GetParam().titleOnlyLeft, 0.1);
-    EXPECT_NEAR(titleLeft(2), GetParam().contentLeft, 0.1);
     EXPECT_NEAR(titleLeft(1), 84, 0.1) << "the title slide";
     const Value plain = deck.get("Slides").call("Add", slideCount(deck) + 1, blank);
     EXPECT_EQ(plain.get("Shapes").get("Count").toLong(), 0);
@@ -64,19 +62,12 @@ TEST_F(PowerPointLive, SetsANewTitleInTheTypeOfTheDecksOwn) {
                            .get("TextRange");
     for (const char* words : {"First words", "Second words"}) {
         text.put("Text", words);
-        EXPECT_EQ(text.get("Font").get("Bold").toLong(), -1) << words;
         EXPECT_NEAR(text.get("Font").get("Size").toDouble(), 28, 0.1) << words;
     }
     deck.call("SaveCopyAs", file("title.pptx"));
     const std::string xml = part(file("title.pptx"), "ppt/slides/slide3.xml");
     EXPECT_NE(xml.find(R"(<a:rPr b="1")"), std::string::npos) << xml;
     EXPECT_EQ(xml.find("<a:spAutoFit/>"), std::string::npos) << "the frame keeps its height";
-}
-
-TEST_F(PowerPointLive, RefusesALayoutThatItDoesntKnowAndAddsNothing) {
-    const Object deck = open("english.pptx");
-    EXPECT_EQ(failureOf([&] { deck.get("Slides").call("Add", 3, 99); }), 5);
-    EXPECT_EQ(slideCount(deck), 2);
 }
 
 TEST_F(PowerPointLive, BeginsAPresentationOfItsOwnWithoutSlides) {
@@ -115,14 +106,6 @@ TEST_F(PowerPointLive, AddsASlideForTheSameCostHoweverManyThereAre) {
     EXPECT_LE(second, 14U);
 }
 
-TEST_F(PowerPointLive, NoticesThatASlideHasGone) {
-    const Object deck = openWithSlides();
-    const Object gone = slide(deck, 4);
-    gone.call("Delete");
-    EXPECT_EQ(slideCount(deck), 4);
-    EXPECT_NE(failureOf([&] { gone.get("SlideIndex"); }), 0);
-}
-
 TEST_F(PowerPointLive, KeepsTheLastSlideAndSaysSo) {
     const Object deck = open("no-title-layout.pptx");
     EXPECT_EQ(failureOf([&] { slide(deck, 1).call("Delete"); }), 1004);
@@ -133,7 +116,7 @@ TEST_F(PowerPointLive, KnowsTheSlideOfEveryViewOfAWindow) {
     withWindows();
     const Object deck = openWithSlides();
     const Value window = app.get("ActiveWindow");
-    for (const std::int32_t view : {9, 7, 5, 6, 9}) {
+    for (const std::int32_t view : {9, 7, 3, 6, 9}) {
         window.put("ViewType", view);
         EXPECT_EQ(window.get("ViewType").toLong(), view);
         for (const std::int32_t place : {4, 2}) {
@@ -155,31 +138,11 @@ TEST_F(PowerPointLive, PutsASlideInFrontInAWindowAndStaysWhereItWas) {
     EXPECT_EQ(app.get("ActiveWindow").get("View").get("Slide").get("SlideIndex").toLong(), 4);
 }
 
-struct Saving {
-    const char* name;
-    const char* begin;
-};
-
-TEST_F(PowerPointLive, SavesACopyInTheFormatOfItsEnding) {
-    const Object deck = openWithSlides();
-    for (const auto& [name, begin] : {Saving{"copy.pptx", "PK"}, Saving{"copy.odp", "PK"},
-                                      Saving{"copy.pdf", "%PDF"}, Saving{"copy.ppt", "\xD0\xCF"}}) {
-        deck.call("SaveCopyAs", file(name));
-        std::ifstream written(file(name), std::ios::binary);
-        std::string head(std::string_view(begin).size(), '\0');
-        written.read(head.data(), static_cast<std::streamsize>(head.size()));
-        EXPECT_EQ(head, begin) << name;
-    }
-    EXPECT_EQ(deck.get("Name").toText(), "english.pptx");
-    EXPECT_EQ(deck.get("Saved").toLong(), 0) << "a copy is not the presentation's own file";
-}
-
 TEST_F(PowerPointLive, SaysWhyACopyIsNotWritten) {
     const Object deck = open("english.pptx");
     EXPECT_EQ(failureOf([&] { deck.call("SaveCopyAs", file("copy.docx")); }), 5);
     EXPECT_EQ(failureOf([&] { deck.call("SaveCopyAs", file("nowhere/copy.pptx")); }), 1004);
     EXPECT_FALSE(std::filesystem::exists(file("nowhere")));
-    EXPECT_EQ(failureOf([&] { deck.call("SaveAs", file("copy.pdf")); }), 5);
 }
 
 TEST_F(PowerPointLive, OpensAFileOnce) {

@@ -118,8 +118,8 @@ std::shared_ptr<Kind> Desk::activeOf() {
         }
     }
     const auto open = openDocuments<Kind>();
-    const auto last = std::max_element(
-        open.begin(), open.end(), [](const auto& left, const auto& right) {
+    const auto last =
+        std::max_element(open.begin(), open.end(), [](const auto& left, const auto& right) {
             return left->lastActive() < right->lastActive();
         });
     return last == open.end() ? nullptr : *last;

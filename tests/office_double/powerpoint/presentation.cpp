@@ -58,8 +58,8 @@ void Slide::markGone() {
 
 std::int32_t Slide::place() {
     const auto& all = presentation_.slides();
-    const auto self = std::find_if(all.begin(), all.end(),
-                                   [&](const auto& held) { return held.get() == this; });
+    const auto self =
+        std::find_if(all.begin(), all.end(), [&](const auto& held) { return held.get() == this; });
     return static_cast<std::int32_t>(self - all.begin()) + 1;
 }
 

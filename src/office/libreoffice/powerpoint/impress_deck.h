@@ -89,8 +89,8 @@ private:
     SlideLayouts layouts_;
     std::vector<ImpressSlidePtr> slides_;
     NewSlides newSlides_;
-    /// LibreOffice can't have a presentation without slides: the one that it begins with counts from
-    /// the first slide on that is added, and is that slide.
+    /// LibreOffice can't have a presentation without slides: the one that it begins with counts
+    /// from the first slide on that is added, and is that slide.
     bool beginsWithoutSlides_ = false;
 };
 

@@ -26,7 +26,9 @@ public:
     model::DeckPtr create(bool withWindow) override;
 
 private:
-    [[nodiscard]] bool isHidden(bool withWindow) const { return desk_->opensHidden() || !withWindow; }
+    [[nodiscard]] bool isHidden(bool withWindow) const {
+        return desk_->opensHidden() || !withWindow;
+    }
     [[nodiscard]] std::shared_ptr<ImpressDeck> openedFrom(const rtl::OUString& url) const;
 
     DeskPtr desk_;

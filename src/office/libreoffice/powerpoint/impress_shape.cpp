@@ -22,8 +22,8 @@ constexpr std::string_view drawingServices = "com.sun.star.drawing.";
 
 /// What PowerPoint lets hold text, by the service's name behind the common part. LibreOffice lets
 /// pictures and lines hold text too.
-constexpr std::array<std::string_view, 6> textShapes = {"CustomShape",  "RectangleShape",
-                                                        "EllipseShape", "TextShape",
+constexpr std::array<std::string_view, 6> textShapes = {"CustomShape",      "RectangleShape",
+                                                        "EllipseShape",     "TextShape",
                                                         "PolyPolygonShape", "ClosedBezierShape"};
 constexpr std::array<std::string_view, 9> textPlaceholders = {
     "TitleTextShape", "OutlinerShape", "SubtitleShape",    "NotesShape", "HeaderShape",

@@ -18,8 +18,7 @@ class ImpressDeck;
 
 /// A slide with the shapes of it that have been met, all held for as long as the presentation's
 /// record lives.
-class ImpressSlide : public model::DeckSlide,
-                     public std::enable_shared_from_this<ImpressSlide> {
+class ImpressSlide : public model::DeckSlide, public std::enable_shared_from_this<ImpressSlide> {
 public:
     ImpressSlide(uno::Reference<css::drawing::XDrawPage> page, ImpressDeck& deck)
         : page_(std::move(page)),

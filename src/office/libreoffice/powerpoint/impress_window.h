@@ -18,8 +18,8 @@ namespace model = office::model::powerpoint;
 
 class ImpressDeck;
 
-/// The window of a presentation: the slide in view, what is selected, the kind of view. One that was
-/// opened without a window has all of this too, unseen.
+/// The window of a presentation: the slide in view, what is selected, the kind of view. One that
+/// was opened without a window has all of this too, unseen.
 class ImpressWindow final : public model::DeckWindow {
 public:
     explicit ImpressWindow(ImpressDeck& deck) : deck_(deck) {}

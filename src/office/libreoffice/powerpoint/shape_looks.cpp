@@ -115,10 +115,10 @@ Properties shadowStandIn() {
                                                   {"dist", uno::Any(sal_Int32(0))},
                                                   {"dir", uno::Any(sal_Int32(0))},
                                                   {"rotWithShape", uno::Any(sal_Int32(0))}});
-    return propertyValues(
-        {{shadowEntry, uno::Any(propertyValues({{attributesEntry, uno::Any(attributes)},
-                                                {"RgbClr", uno::Any(sal_Int32(0))},
-                                                {"RgbClrTransparency", uno::Any(sal_Int32(0))}}))}});
+    return propertyValues({{shadowEntry, uno::Any(propertyValues(
+                                             {{attributesEntry, uno::Any(attributes)},
+                                              {"RgbClr", uno::Any(sal_Int32(0))},
+                                              {"RgbClrTransparency", uno::Any(sal_Int32(0))}}))}});
 }
 
 Properties reflectionAttributes(const Properties& effects) {
@@ -190,10 +190,10 @@ void ImpressShape::replacePicture(model::Outline wanted) {
     const bool keeps = keepsProportions();
     ImpressDeck& deck = slide_.deck();
     const auto selected = deck.impressWindow().selection();
-    const bool wasSelected =
-        std::find(selected.begin(), selected.end(), shape_) != selected.end();
+    const bool wasSelected = std::find(selected.begin(), selected.end(), shape_) != selected.end();
 
-    const auto picture = std::exchange(shape_, deck.createShape("com.sun.star.drawing.CustomShape"));
+    const auto picture =
+        std::exchange(shape_, deck.createShape("com.sun.star.drawing.CustomShape"));
     properties_.clear();
     severalProperties_.clear();
     text_.clear();
@@ -283,8 +283,8 @@ void ImpressShape::shadowWasSwitched(bool on) {
     const auto effects = entryOf<Properties>(bag, effectsEntry);
     if (!effects.hasElements()) return;
     const Properties others = without(effects, shadowEntry);
-    set(bagProperty, bagWith(bag, on && others.hasElements() ? joined(shadowStandIn(), others)
-                                                             : others));
+    set(bagProperty,
+        bagWith(bag, on && others.hasElements() ? joined(shadowStandIn(), others) : others));
 }
 
 model::Reflection ImpressShape::reflection() {

@@ -4,6 +4,7 @@
 #include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
 #include <com/sun/star/drawing/XMasterPagesSupplier.hpp>
 #include <com/sun/star/util/XTheme.hpp>
+
 #include <algorithm>
 #include <array>
 #include <string_view>

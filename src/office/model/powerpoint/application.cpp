@@ -42,10 +42,10 @@ const MemberTable<Presentations>& Presentations::members() {
             .property("Count", [](Self& self) { return countOf(self.decks().open().size()); })
             .property("Item", {"Index"},
                       [](Self& self, const CallArguments& arguments) {
-                          return self.object(
-                              ItemIndex(arguments.at(0), arguments.source())
-                                  .of(self.decks().open(),
-                                      [](const DeckPtr& deck) { return deck->name(); }));
+                          return self.object(ItemIndex(arguments.at(0), arguments.source())
+                                                 .of(self.decks().open(), [](const DeckPtr& deck) {
+                                                     return deck->name();
+                                                 }));
                       })
             .method("Open", {"FileName", "ReadOnly", "Untitled", "WithWindow"}, &Self::open)
             .method("Add", {"WithWindow"}, [](Self& self, const CallArguments& arguments) {
@@ -92,10 +92,9 @@ const MemberTable<Application>& Application::members() {
     static const auto table =
         MemberTable<Self>("Application")
             .property("Version", [](Self& self) { return self.decks().version(); })
-            .property("Presentations",
-                      [](Self& self) {
-                          return makeObject<Presentations>(self.guard(), self.decksPtr());
-                      })
+            .property(
+                "Presentations",
+                [](Self& self) { return makeObject<Presentations>(self.guard(), self.decksPtr()); })
             .property("ActivePresentation", {},
                       [](Self& self, const CallArguments& arguments) {
                           return presentationObject(self.active(arguments.source()));
@@ -104,9 +103,8 @@ const MemberTable<Application>& Application::members() {
                       [](Self& self, const CallArguments& arguments) {
                           return windowObject(self.active(arguments.source()));
                       })
-            .property(
-                "Windows",
-                [](Self& self) { return windowsObject(self.guard(), self.decks().open()); })
+            .property("Windows",
+                      [](Self& self) { return windowsObject(self.guard(), self.decks().open()); })
             .property("SlideShowWindows", [](Self& self) {
                 return makeObject<SlideShowWindows>(self.guard(), self.decksPtr());
             });

@@ -32,8 +32,8 @@ public:
     virtual bool showsSlides() = 0;
     virtual void endSlideShow() = 0;
 
-    /// Writes a copy; the presentation keeps its own file, name and state. `Failure` 5 for an ending
-    /// other than .pptx, 1004 with the reason if the file does not come about.
+    /// Writes a copy; the presentation keeps its own file, name and state. `Failure` 5 for an
+    /// ending other than .pptx, 1004 with the reason if the file does not come about.
     virtual void saveCopy(const std::string& path) = 0;
     /// Closes without saving.
     virtual void close() = 0;

@@ -33,8 +33,9 @@ public:
     /// Null if the slide has none.
     virtual DeckShapePtr titleShape() = 0;
 
-    /// Puts a picture on top of the others, in the size that its file says, and names it as no other
-    /// shape of the slide. `Failure` 53 if there is no such file, 1004 if it holds no picture.
+    /// Puts a picture on top of the others, in the size that its file says, and names it as no
+    /// other shape of the slide. `Failure` 53 if there is no such file, 1004 if it holds no
+    /// picture.
     virtual DeckShapePtr addPicture(const std::string& file, const Point& corner) = 0;
     /// The same with an empty label, which grows with its text.
     virtual DeckShapePtr addLabel(const Point& corner, const Size& size) = 0;
@@ -51,7 +52,8 @@ public:
     virtual std::int32_t viewType() = 0;
     /// `Failure` 5 for a view that isn't there, 1004 if the window keeps its own.
     virtual void setViewType(std::int32_t viewType) = 0;
-    /// In the notes view the slide whose notes are in view. Null if none is, as in a view of masters.
+    /// In the notes view the slide whose notes are in view. Null if none is, as in a view of
+    /// masters.
     virtual DeckSlidePtr slideInView() = 0;
     virtual void show(const DeckSlidePtr& slide) = 0;
     virtual std::vector<DeckShapePtr> selectedShapes() = 0;

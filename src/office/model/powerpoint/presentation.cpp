@@ -24,8 +24,9 @@ public:
 
     static const MemberTable<SlideShowView>& members() {
         static const auto table =
-            MemberTable<SlideShowView>("SlideShowView")
-                .method("Exit", {}, [](SlideShowView& self) { self.deck().endSlideShow(); });
+            MemberTable<SlideShowView>("SlideShowView").method("Exit", {}, [](SlideShowView& self) {
+                self.deck().endSlideShow();
+            });
         return table;
     }
 };
@@ -57,10 +58,9 @@ const MemberTable<Presentation>& Presentation::members() {
             .property("Name", [](Self& self) { return self.deck().name(); })
             .property("FullName", [](Self& self) { return self.deck().fullName(); })
             .property("Slides", [](Self& self) { return slidesObject(self.home()); })
-            .property("PageSetup",
-                      [](Self& self) {
-                          return makeObject<PageSetup>(self.home(), self.home().deck);
-                      })
+            .property(
+                "PageSetup",
+                [](Self& self) { return makeObject<PageSetup>(self.home(), self.home().deck); })
             .property("Windows",
                       [](Self& self) { return windowsObject(self.guard(), {self.home().deck}); })
             .property("SlideShowWindow", {},

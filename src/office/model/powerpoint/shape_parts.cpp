@@ -46,12 +46,13 @@ public:
 
     static const MemberTable<ColorFormat>& members() {
         using Self = ColorFormat;
-        static const auto table = MemberTable<Self>("ColorFormat")
-                                      .property(
-                                          "RGB", [](Self& self) { return self.read_(self.shape()); },
-                                          [](Self& self, const Value& colour) {
-                                              self.write_(self.shape(), colour.toLong());
-                                          });
+        static const auto table =
+            MemberTable<Self>("ColorFormat")
+                .property(
+                    "RGB", [](Self& self) { return self.read_(self.shape()); },
+                    [](Self& self, const Value& colour) {
+                        self.write_(self.shape(), colour.toLong());
+                    });
         return table;
     }
 
@@ -76,14 +77,16 @@ public:
                 .property(
                     "Size", [](Self& self) { return self.text().font().sizePt; },
                     [](Self& self, const Value& points) {
-                        self.text().setFont({.name = {}, .sizePt = points.toDouble(), .colour = {}});
+                        self.text().setFont(
+                            {.name = {}, .sizePt = points.toDouble(), .colour = {}});
                     })
                 // An object whose RGB is read and set; a number put to it is its RGB.
                 .property(
                     "Color",
                     [](Self& self) {
                         return self.other<ColorFormat>(
-                            [](DeckShape& shape) { return shape.textFrame()->font().colour; }, setColour);
+                            [](DeckShape& shape) { return shape.textFrame()->font().colour; },
+                            setColour);
                     },
                     [](Self& self, const Value& colour) {
                         setColour(self.shape(), colour.toLong());
@@ -175,7 +178,9 @@ const MemberTable<ShadowFormat>& ShadowFormat::members() {
             .property("ForeColor", [](Self& self) {
                 return self.other<ColorFormat>(
                     [](DeckShape& shape) { return shape.shadow().colour; },
-                    [](DeckShape& shape, std::int32_t rgb) { change(shape, &Shadow::colour, rgb); });
+                    [](DeckShape& shape, std::int32_t rgb) {
+                        change(shape, &Shadow::colour, rgb);
+                    });
             });
         const auto number = [&](const char* name, double Shadow::*part) {
             made.property(

@@ -116,7 +116,8 @@ MemberTable<Self> ShapeMembers<Self>::table(const char* className) {
         .property("Shadow", {}, part(shadowObject))
         .property("Reflection", {}, part(reflectionObject))
         .property("Adjustments", {}, part(adjustmentsObject))
-        .method("Select", {}, [](Self& self) { self.deck().window().select(self.shapes().front()); })
+        .method("Select", {},
+                [](Self& self) { self.deck().window().select(self.shapes().front()); })
         .method("Delete", {}, [](Self& self) {
             for (const auto& shape : self.shapes()) shape->remove();
         });
@@ -188,15 +189,15 @@ const MemberTable<Shapes>& Shapes::members() {
                 "AddPicture",
                 {"FileName", "LinkToFile", "SaveWithDocument", "Left", "Top", "Width", "Height"},
                 &Self::addPicture)
-            .method("AddLabel", {"Orientation", "Left", "Top", "Width", "Height"},
-                    &Self::addLabel);
+            .method("AddLabel", {"Orientation", "Left", "Top", "Width", "Height"}, &Self::addLabel);
     return table;
 }
 
 Object Shapes::item(const CallArguments& arguments) {
     const ItemIndex index(arguments.at(0), arguments.source());
     if (!index.isName()) {
-        if (auto shape = slide_.shapeAt(arguments.at(0).toLong())) return shapeObject(home(), shape);
+        if (auto shape = slide_.shapeAt(arguments.at(0).toLong()))
+            return shapeObject(home(), shape);
         index.fail();
     }
     const std::int32_t count = slide_.shapeCount();
@@ -219,7 +220,8 @@ Object Shapes::addPicture(const CallArguments& arguments) {
     constexpr double ownSize = -1;
     const std::string& source = arguments.source();
     if (arguments.at(1, false).toBool())
-        throw Failure(FailureNumber::InvalidProcedureCall, source, "A picture can't be linked here");
+        throw Failure(FailureNumber::InvalidProcedureCall, source,
+                      "A picture can't be linked here");
     const Point corner{placePt(arguments.at(3, 0), source), placePt(arguments.at(4, 0), source)};
     const auto side = [&](std::size_t position) {
         const Value given = arguments.at(position, ownSize);

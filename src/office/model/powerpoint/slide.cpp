@@ -1,7 +1,7 @@
 #include <fmt/format.h>
 
-#include <array>
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "office/model/item_index.h"
@@ -36,9 +36,9 @@ const MemberTable<Slides>& Slides::members() {
             .property("Count", [](Self& self) { return self.deck().slideCount(); })
             .property("Item", {"Index"},
                       [](Self& self, const CallArguments& arguments) {
-                          return slideObject(self.home(),
-                                             requiredSlide(self.deck(), arguments.at(0),
-                                                           arguments.source()));
+                          return slideObject(
+                              self.home(),
+                              requiredSlide(self.deck(), arguments.at(0), arguments.source()));
                       })
             .method("Add", {"Index", "Layout"}, &Self::add);
     return table;
@@ -48,9 +48,9 @@ Object Slides::add(const CallArguments& arguments) {
     const std::int32_t place = arguments.at(0).toLong();
     const auto slide = deck().addSlide(place, knownLayout(arguments.at(1), arguments.source()));
     if (!slide)
-        throw Failure(FailureNumber::SubscriptOutOfRange, arguments.source(),
-                      fmt::format("A slide can't be added at {} to {} slides", place,
-                                  deck().slideCount()));
+        throw Failure(
+            FailureNumber::SubscriptOutOfRange, arguments.source(),
+            fmt::format("A slide can't be added at {} to {} slides", place, deck().slideCount()));
     return slideObject(home(), slide);
 }
 
@@ -74,8 +74,7 @@ public:
                 [](Self& self, const Value& number) {
                     self.slide()->setLayout(knownLayout(number, "Slide.Layout"));
                 })
-            .property("Shapes",
-                      [](Self& self) { return shapesObject(self.home(), self.slide()); })
+            .property("Shapes", [](Self& self) { return shapesObject(self.home(), self.slide()); })
             .method("Select", {}, [](Self& self) { self.deck().window().show(self.slide()); })
             .method("Delete", {}, [](Self& self) { self.slide()->remove(); });
     }

@@ -45,13 +45,14 @@ public:
             MemberTable<Self>("Selection")
                 .property("SlideRange", {},
                           [](Self& self, const CallArguments& arguments) {
-                              return slideRangeObject(
-                                  self.home(), slideInView(self.deck(), arguments.source()));
+                              return slideRangeObject(self.home(),
+                                                      slideInView(self.deck(), arguments.source()));
                           })
                 .property("ShapeRange", {},
                           [](Self& self, const CallArguments& arguments) {
                               auto shapes = self.deck().window().selectedShapes();
-                              if (shapes.empty()) refuse(arguments.source(), "No shape is selected");
+                              if (shapes.empty())
+                                  refuse(arguments.source(), "No shape is selected");
                               return shapeRangeObject(self.home(), std::move(shapes));
                           })
                 .method("Unselect", {}, [](Self& self) { self.deck().window().unselect(); });
@@ -72,14 +73,12 @@ public:
                     [](Self& self, const Value& viewType) {
                         self.deck().window().setViewType(viewType.toLong());
                     })
-                .property("View",
-                          [](Self& self) {
-                              return makeObject<View>(self.home(), self.home().deck);
-                          })
-                .property("Selection",
-                          [](Self& self) {
-                              return makeObject<Selection>(self.home(), self.home().deck);
-                          })
+                .property(
+                    "View",
+                    [](Self& self) { return makeObject<View>(self.home(), self.home().deck); })
+                .property(
+                    "Selection",
+                    [](Self& self) { return makeObject<Selection>(self.home(), self.home().deck); })
                 .method("Activate", {}, [](Self& self) { self.deck().activate(); });
         return table;
     }
