@@ -31,6 +31,10 @@ public:
     [[nodiscard]] std::string_view icon(std::size_t row) const override;
     [[nodiscard]] std::ptrdiff_t selected() const override { return list_.selected; }
     void select(std::ptrdiff_t row) override { list_.selected = row; }
+    [[nodiscard]] bool isMarked(std::size_t row) const override {
+        return list_.rows.at(row).isMarked;
+    }
+    void setMarked(std::size_t row, bool marked) override { list_.rows.at(row).isMarked = marked; }
 
 private:
     ExportList& list_;

@@ -177,6 +177,7 @@ void Walk::advanceLoadBar() {
         bar.setLoadingValue(static_cast<int>(done * 100 / expected_));
     }
     session_.host.letEventsRun();
+    if (bar.loadingCancelled()) throw session::LoadingCancelled();
 }
 
 }  // namespace

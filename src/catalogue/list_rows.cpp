@@ -15,28 +15,42 @@ namespace catalogue {
 
 namespace {
 
-void exchangeSelectedWith(ExportList& list, std::ptrdiff_t other) {
-    const auto last = static_cast<std::ptrdiff_t>(list.rows.size()) - 1;
-    if (list.selected < 0 || list.selected > last || other < 0 || other > last) return;
-    std::swap(list.rows[static_cast<std::size_t>(list.selected)],
-              list.rows[static_cast<std::size_t>(other)]);
-    list.selected = other;
+using Order = std::vector<std::size_t>;
+
+Order presentOrder(const ExportList& list) {
+    Order order(list.rows.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    return order;
+}
+
+/// Puts the rows into an order of their present indexes. The selected row stays the selected one.
+void reorder(ExportList& list, const Order& order) {
+    std::vector<ExportItem> rows;
+    rows.reserve(order.size());
+    std::ptrdiff_t selected = -1;
+    for (const std::size_t from : order) {
+        if (static_cast<std::ptrdiff_t>(from) == list.selected) {
+            selected = static_cast<std::ptrdiff_t>(rows.size());
+        }
+        rows.push_back(std::move(list.rows[from]));
+    }
+    list.rows = std::move(rows);
+    list.selected = selected;
 }
 
 /// The order of rows by a key that is made once for each.
 template <class Key, class MakeKey>
-std::vector<std::size_t> orderBy(const ExportList& list, MakeKey makeKey) {
+Order orderBy(const ExportList& list, MakeKey makeKey) {
     std::vector<Key> keys;
     keys.reserve(list.rows.size());
     for (const ExportItem& row : list.rows) keys.push_back(makeKey(row));
-    std::vector<std::size_t> order(list.rows.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
+    Order order = presentOrder(list);
     std::stable_sort(order.begin(), order.end(),
                      [&](std::size_t a, std::size_t b) { return keys[a] < keys[b]; });
     return order;
 }
 
-std::vector<std::size_t> orderFor(const ExportList& list, std::size_t column) {
+Order orderFor(const ExportList& list, std::size_t column) {
     if (column == ListColumn::order || column == ListColumn::laterRow) {
         // An empty optional is less than any number: what is no number comes first.
         return orderBy<std::optional<double>>(
@@ -74,26 +88,49 @@ std::int32_t CountExportableRows(session::OfficeSession& session, const ExportLi
                       [&](const ExportItem& row) { return objects.isOnVisibleSheet(row); }));
 }
 
-void MoveSelectedUp(ExportList& list) {
-    exchangeSelectedWith(list, list.selected - 1);
+std::vector<std::size_t> ChosenRows(const ExportList& list) {
+    std::vector<std::size_t> chosen;
+    for (std::size_t i = 0; i < list.rows.size(); ++i) {
+        if (list.rows[i].isMarked) chosen.push_back(i);
+    }
+    const auto count = static_cast<std::ptrdiff_t>(list.rows.size());
+    if (chosen.empty() && list.selected >= 0 && list.selected < count) {
+        chosen.push_back(static_cast<std::size_t>(list.selected));
+    }
+    return chosen;
 }
 
-void MoveSelectedDown(ExportList& list) {
-    exchangeSelectedWith(list, list.selected + 1);
+void MoveChosenRows(ExportList& list, int step) {
+    std::vector<std::size_t> chosen = ChosenRows(list);
+    Order order = presentOrder(list);
+    // The one that goes ahead of the others makes room for the next.
+    if (step > 0) std::reverse(chosen.begin(), chosen.end());
+    std::size_t end = step > 0 ? order.size() - 1 : 0;
+    for (const std::size_t row : chosen) {
+        if (row == end) {
+            end = step > 0 ? end - 1 : end + 1;
+        } else {
+            std::swap(order[row], order[step > 0 ? row + 1 : row - 1]);
+        }
+    }
+    reorder(list, order);
+}
+
+void MoveChosenRowsBefore(ExportList& list, std::size_t before) {
+    const std::vector<std::size_t> chosen = ChosenRows(list);
+    before = std::min(before, list.rows.size());
+    const auto isChosen = [&](std::size_t row) {
+        return std::binary_search(chosen.begin(), chosen.end(), row);
+    };
+    Order order = presentOrder(list);
+    const auto place = order.begin() + static_cast<std::ptrdiff_t>(before);
+    std::stable_partition(order.begin(), place, [&](std::size_t row) { return !isChosen(row); });
+    std::stable_partition(place, order.end(), isChosen);
+    reorder(list, order);
 }
 
 void SortByColumn(ExportList& list, std::size_t column) {
-    std::vector<ExportItem> sorted;
-    sorted.reserve(list.rows.size());
-    std::ptrdiff_t selected = -1;
-    for (const std::size_t from : orderFor(list, column)) {
-        if (static_cast<std::ptrdiff_t>(from) == list.selected) {
-            selected = static_cast<std::ptrdiff_t>(sorted.size());
-        }
-        sorted.push_back(std::move(list.rows[from]));
-    }
-    list.rows = std::move(sorted);
-    list.selected = selected;
+    reorder(list, orderFor(list, column));
 }
 
 }  // namespace catalogue

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 #include "catalogue/export_list.h"
 #include "session/office_session.h"
@@ -23,10 +24,15 @@ void ColorListRows(ExportList& list, bool predefinedSlides);
 [[nodiscard]] std::int32_t CountExportableRows(session::OfficeSession& session,
                                                const ExportList& list);
 
-/// Exchanges the selected row with the one above, or below. Nothing at the end of the list or
-/// without a selected row.
-void MoveSelectedUp(ExportList& list);
-void MoveSelectedDown(ExportList& list);
+/// The rows that a deed of the user is for: the marked ones, or else the selected one. Indexes into
+/// the list, from the top.
+[[nodiscard]] std::vector<std::size_t> ChosenRows(const ExportList& list);
+
+/// Moves each chosen row past the one above (-1) or below (1). Those that stand together at the end
+/// of the list stay.
+void MoveChosenRows(ExportList& list, int step);
+/// Moves the chosen rows in their order to before the row that is at this index now.
+void MoveChosenRowsBefore(ExportList& list, std::size_t before);
 
 /// Sorts the rows by one column, counted from 1, always ascending; rows with equal texts keep their
 /// order, and the selected row stays selected. Orders are compared as numbers, with what is no

@@ -21,7 +21,6 @@ namespace catalogue {
 namespace {
 
 constexpr forms::Twips panelStep = 150;
-constexpr forms::Twips previewWidth = 4296;
 constexpr forms::Twips previewStartWidth = 336;
 constexpr forms::Twips slidePanelWidth = 3135;
 constexpr forms::Twips captionPanelWidth = 3615;
@@ -61,11 +60,20 @@ void UserformObj::Form_Load() {
     topmost = true;
     // A load that fails half-way leaves a form that can still be closed.
     office::ContinueOnFailure scope;
-    scope.attempt([this] { loadForm(); });
+    bool isWanted = true;
+    try {
+        if (!scope.attempt([this] { loadForm(); })) {
+            listCharts.placeholder = fmt::format("The items of the workbook could not be read.\n{}",
+                                                 scope.lastFailure()->description());
+        }
+    } catch (const session::LoadingCancelled&) {
+        isWanted = false;
+    }
     scope.attempt([this] {
         session_.ActiveBook.get("Sheets").get("Item", session_.ActiveSheetName).call("Select");
     });
     session_.progress.unloadLoading();
+    if (!isWanted) desktop().unload(*this);
 }
 
 void UserformObj::loadForm() {
@@ -83,6 +91,7 @@ void UserformObj::loadForm() {
 
     Check1.startWith(stateOf(LoadItemsToForm(session_, list_)));
     listChartsShowPreview();
+    fillBoxes();
     session_.progress.unloadLoading();
 
     renumberRows();
@@ -101,6 +110,7 @@ void UserformObj::loadForm() {
     resizeColumns();
     recolourRows();
     renumberRows();
+    focus = &listCharts;
 }
 
 void UserformObj::prepareList() {
@@ -169,6 +179,8 @@ void UserformObj::OptionNewSlides_Click() {
 void UserformObj::AddCaption_Click() {
     TitlesFrame.place.width = 0;
     TitlesFrame.visible = !TitlesFrame.visible;
+    focus = TitlesFrame.visible ? static_cast<forms::Control*>(&SlideTitle) : &listCharts;
+    if (TitlesFrame.visible) SlideTitle.selectAll();
     for (int i = 1; i <= 5; ++i) timer(i).enabled = i == 5;
 }
 
@@ -190,7 +202,7 @@ void UserformObj::Timer1_Timer(int index) {
 }
 
 void UserformObj::growPreview() {
-    if (grow(imgChart, previewWidth)) timer(2).enabled = false;
+    if (grow(imgChart, previewWidth_)) timer(2).enabled = false;
 }
 
 void UserformObj::growCaptionPanel() {
@@ -218,23 +230,31 @@ void UserformObj::moveSlidePanel() {
     recolourRows();
 }
 
-void UserformObj::Up_Click() {
-    MoveSelectedUp(list_);
+void UserformObj::listCharts_RowsStep(int step) {
+    MoveChosenRows(list_, step);
     renumberRows();
 }
 
-void UserformObj::Down_Click() {
-    MoveSelectedDown(list_);
+void UserformObj::listCharts_RowsMove(std::size_t before) {
+    MoveChosenRowsBefore(list_, before);
     renumberRows();
+}
+
+void UserformObj::listCharts_RowsClear() {
+    for (const std::size_t row : ChosenRows(list_)) list_.rows[row].caption.clear();
+    fillBoxes();
+    listCharts.rowsChanged();
 }
 
 void UserformObj::listCharts_ColumnClick(std::size_t column) {
+    const forms::Working working(desktop());
     SortByColumn(list_, column);
     renumberRows();
 }
 
 void UserformObj::Check1_Click() {
     if (list_.isLoaded) {
+        const forms::Working working(desktop());
         const bool check = Check1.isChecked();
         RowObjects objects(session_);
         for (ExportItem& row : list_.rows) {
@@ -253,6 +273,11 @@ void UserformObj::listCharts_ItemCheck(std::size_t row) {
         listCharts.rowsChanged();
         return;
     }
+    if (checked.isMarked) {
+        for (ExportItem& other : list_.rows) {
+            if (other.isMarked && !other.hasSeveralAreas) other.checked = checked.checked;
+        }
+    }
     recolourRows();
     renumberRows();
 }
@@ -264,16 +289,30 @@ void UserformObj::listCharts_ItemClick(std::size_t /*row*/) {
     const ExportItem* row = selectedRow();
     if (row == nullptr) return;
 
-    office::ContinueOnFailure scope;
-    const PreviewCopy copied =
-        scope.read([&] { return copyForPreview(session_, *row); }, PreviewCopy::Copied);
-    if (copied == PreviewCopy::SeveralAreas) {
+    fillBoxes();
+    if (showPreview(*row) == PreviewCopy::SeveralAreas) {
         desktop().messageBox(
             "Murvane does not support multiple selection. This item could not be pasted",
             "Murvane");
-        return;
     }
-    if (!scope.failed()) imgChart.setPicture(pictureOnClipboard(session_));
+}
+
+PreviewCopy UserformObj::showPreview(const ExportItem& row) {
+    const forms::Working working(desktop());
+    office::ContinueOnFailure scope;
+    const PreviewCopy copied =
+        scope.read([&] { return copyForPreview(session_, row); }, PreviewCopy::Copied);
+    if (copied == PreviewCopy::Copied && !scope.failed()) {
+        imgChart.setPicture(pictureOnClipboard(session_));
+    }
+    return copied;
+}
+
+/// Whatever row is selected, the boxes show its texts: the first letter typed would else put those
+/// of another row into it.
+void UserformObj::fillBoxes() {
+    const ExportItem* row = selectedRow();
+    if (row == nullptr) return;
     // Copied first: writing to one box runs its change, which writes to the row.
     const std::string number = row->slideNumber;
     const std::string title = row->caption;
@@ -281,12 +320,24 @@ void UserformObj::listCharts_ItemClick(std::size_t /*row*/) {
     SlideTitle.setText(title);
 }
 
+void UserformObj::stepFromBox(forms::TextBox& box, int step) {
+    const std::ptrdiff_t next = list_.selected + step;
+    recolourRows();
+    if (next >= 0 && next < static_cast<std::ptrdiff_t>(list_.rows.size())) {
+        listCharts.click(static_cast<std::size_t>(next));
+    }
+    box.selectAll();
+}
+
 void UserformObj::imgChart_DblClick() {
     const ExportItem* row = selectedRow();
     if (row == nullptr || !hooks_.InsertOneItem) return;
     // Inserting lets events run, and nothing may change the rows meanwhile.
     takesInput = false;
-    const bool inserted = hooks_.InsertOneItem(*row, choices());
+    const bool inserted = [&] {
+        const forms::Working working(desktop());
+        return hooks_.InsertOneItem(*row, choices());
+    }();
     takesInput = true;
     if (inserted) desktop().messageBox("Done!", "Murvane");
 }

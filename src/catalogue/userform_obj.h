@@ -5,9 +5,11 @@
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "catalogue/export_list.h"
 #include "catalogue/export_list_view.h"
+#include "catalogue/item_preview.h"
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "forms/list_view.h"
@@ -34,6 +36,7 @@ struct MainFormHooks {
 class UserformObj : public forms::Form {
 public:
     UserformObj(forms::Desktop& desktop, session::OfficeSession& session, MainFormHooks hooks);
+    ~UserformObj() override;
 
     [[nodiscard]] ExportList& list() { return list_; }
     /// What is chosen now.
@@ -41,6 +44,8 @@ public:
 
     void Form_Load() override;
     void Form_Unload() override;
+    /// The list and the preview share what the form has gained.
+    void Form_Resize() override;
 
     // Events.
     void Option1_Click(int index);
@@ -49,13 +54,16 @@ public:
     void OptionPredefSlides_Click();
     void AddCaption_Click();
     void Timer1_Timer(int index);
-    void Up_Click();
-    void Down_Click();
     void Check1_Click();
     void listCharts_ItemCheck(std::size_t row);
     void listCharts_ItemClick(std::size_t row);
     /// Columns count from 1.
     void listCharts_ColumnClick(std::size_t column);
+    /// The chosen rows go one row up (-1) or down (1), or before the row that is at this index.
+    void listCharts_RowsStep(int step);
+    void listCharts_RowsMove(std::size_t before);
+    /// Their captions are wiped out.
+    void listCharts_RowsClear();
     void imgChart_DblClick();
     void SlideTitle_Change();
     void TextBox10_Change();
@@ -102,11 +110,16 @@ private:
     void setFirstState();
     void wireEvents();
     void wireHelp(forms::CommandButton& button);
+    void prepareToGrow();
 
     // Loading.
     void loadForm();
     void prepareList();
     void listChartsShowPreview();
+    void fillBoxes();
+    PreviewCopy showPreview(const ExportItem& row);
+    /// Goes on to the row above (-1) or below (1) and to typing in the same box.
+    void stepFromBox(forms::TextBox& box, int step);
 
     // Destinations (userform_obj_targets.cpp).
     struct Target {
@@ -148,6 +161,11 @@ private:
     SlidePanelMotion slidePanelMotion_ = SlidePanelMotion::None;
     std::optional<furniture::clsShadow> shadow_;
     int FirstColumnState = 0;
+    /// What each control takes of the room that the form gains.
+    struct Gain;
+    std::vector<Gain> gains_;
+    /// Of the preview, once it has grown.
+    forms::Twips previewWidth_;
 };
 
 }  // namespace catalogue

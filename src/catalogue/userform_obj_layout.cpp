@@ -16,6 +16,10 @@ using forms::Place;
 constexpr forms::Twips formWidth = 13425;
 constexpr forms::Twips formHeight = 10245;
 constexpr forms::Twips helpSize = 255;
+constexpr forms::Twips naturalPreviewWidth = 4296;
+/// Of each hundred twips that the form gains in width, what the list gets; the rest is the
+/// preview's.
+constexpr int listShare = 60;
 
 std::array<forms::OptionButton, 5> destinationOptions(Form& form, Frame& frame) {
     const auto at = [](forms::Twips left, forms::Twips top) { return Place{left, top, 855, 375}; };
@@ -56,6 +60,13 @@ constexpr std::array<int, 4> destinationOfImage = {0, 1, 2, 4};
 
 }  // namespace
 
+/// In hundredths of what the form gains, by how much a control moves and grows.
+struct UserformObj::Gain {
+    forms::Control* control;
+    int left, top, width, height;
+    Place natural;
+};
+
 UserformObj::UserformObj(forms::Desktop& desktop, session::OfficeSession& session,
                          MainFormHooks hooks)
     : Form(desktop, "UserformObj", formWidth, formHeight),
@@ -74,7 +85,7 @@ UserformObj::UserformObj(forms::Desktop& desktop, session::OfficeSession& sessio
       SlideTitle(*this, "SlideTitle", {0, 0, 3132, 420}, &TitlesFrame),
       PasteExpress(*this, "PasteExpress", {7560, 3360, 4695, 375}, &Frame4),
       SlideNb(*this, "SlideNb", {240, 4800, 3135, 852}),
-      Label1(*this, "Label1", {120, 240, 2130, 492}, &SlideNb),
+      Label1(*this, "Label1", {120, 300, 2100, 440}, &SlideNb),
       TextBox10(*this, "TextBox10", {2280, 240, 735, 492}, &SlideNb),
       Frame1(*this, "Frame1", {3480, 5025, 6975, 2175}),
       Shape1(destinationShapes(*this, Frame1)),
@@ -92,7 +103,8 @@ UserformObj::UserformObj(forms::Desktop& desktop, session::OfficeSession& sessio
       PasteIT(*this, "PasteIT", {11040, 9360, 2175, 615}),
       session_(session),
       hooks_(std::move(hooks)),
-      listRows_(list_) {
+      listRows_(list_),
+      previewWidth_(naturalPreviewWidth) {
     constexpr std::array<int, 5> intervalsMs = {5, 1, 5, 5, 5};
     for (std::size_t i = 0; i < timers_.size(); ++i) {
         timers_.at(i) = std::make_unique<forms::Timer>(
@@ -101,6 +113,46 @@ UserformObj::UserformObj(forms::Desktop& desktop, session::OfficeSession& sessio
     setCaptionsAndTips();
     setFirstState();
     wireEvents();
+    prepareToGrow();
+}
+
+UserformObj::~UserformObj() = default;
+
+void UserformObj::prepareToGrow() {
+    resizable = true;
+    gains_ = {{&TitelBar1, 0, 0, 100, 0, {}},
+              {&Frame4, 0, 0, 100, 100, {}},
+              {&cmdItemsHelp, 100, 0, 0, 0, {}},
+              {&listCharts, 0, 0, listShare, 100, {}},
+              {&imgChart, listShare, 0, 0, 100, {}},
+              {&PasteExpress, listShare, 100, 100 - listShare, 0, {}},
+              {&Up, 0, 100, 0, 0, {}},
+              {&Down, 0, 100, 0, 0, {}},
+              {&AddCaption, 0, 100, 0, 0, {}},
+              {&TitlesFrame, 0, 100, 0, 0, {}},
+              {&SlideNb, 0, 100, 0, 0, {}},
+              {&Frame1, 50, 100, 0, 0, {}},
+              {&Frame3, 50, 100, 0, 0, {}},
+              {&Frame2, 50, 100, 0, 0, {}},
+              {&PasteIT, 100, 100, 0, 0, {}}};
+    for (Gain& gain : gains_) gain.natural = gain.control->place;
+}
+
+void UserformObj::Form_Resize() {
+    const forms::Twips wider = place.width - naturalWidth();
+    const forms::Twips higher = place.height - naturalHeight();
+    for (const Gain& gain : gains_) {
+        Place& now = gain.control->place;
+        now.left = gain.natural.left + wider * gain.left / 100;
+        now.top = gain.natural.top + higher * gain.top / 100;
+        // The widths of the others change by the clock.
+        if (gain.width > 0) now.width = gain.natural.width + wider * gain.width / 100;
+        now.height = gain.natural.height + higher * gain.height / 100;
+    }
+    const forms::Twips before = previewWidth_;
+    previewWidth_ = naturalPreviewWidth + wider * (100 - listShare) / 100;
+    if (imgChart.place.width == before) imgChart.place.width = previewWidth_;
+    resizeColumns();
 }
 
 void UserformObj::setCaptionsAndTips() {
@@ -173,7 +225,7 @@ void UserformObj::setFirstState() {
     TitlesFrame.visible = false;
     TextBox10.alignment = forms::Alignment::Centre;
     TextBox10.font = {"Tahoma", 12, true};
-    PasteIT.isDefault = true;
+    focus = &listCharts;
 
     // PowerPoint, pictures, new slides: nothing of a choice is kept from one start to the next.
     Option1[0].startWith(true);
@@ -208,15 +260,21 @@ void UserformObj::wireEvents() {
     OptionNewSlides.onClick = [this] { OptionNewSlides_Click(); };
     OptionPredefSlides.onClick = [this] { OptionPredefSlides_Click(); };
     AddCaption.onClick = [this] { AddCaption_Click(); };
-    Up.onClick = [this] { Up_Click(); };
-    Down.onClick = [this] { Down_Click(); };
+    Up.onClick = [this] { listCharts_RowsStep(-1); };
+    Down.onClick = [this] { listCharts_RowsStep(1); };
     Check1.onClick = [this] { Check1_Click(); };
     listCharts.onItemCheck = [this](std::size_t row) { listCharts_ItemCheck(row); };
     listCharts.onItemClick = [this](std::size_t row) { listCharts_ItemClick(row); };
     listCharts.onColumnClick = [this](std::size_t column) { listCharts_ColumnClick(column + 1); };
+    listCharts.onRowsStep = [this](int step) { listCharts_RowsStep(step); };
+    listCharts.onRowsMove = [this](std::size_t before) { listCharts_RowsMove(before); };
+    listCharts.onRowsClear = [this] { listCharts_RowsClear(); };
     imgChart.onDblClick = [this] { imgChart_DblClick(); };
     SlideTitle.onChange = [this] { SlideTitle_Change(); };
     TextBox10.onChange = [this] { TextBox10_Change(); };
+    for (forms::TextBox* box : {&SlideTitle, &TextBox10}) {
+        box->onStep = [this, box](int step) { stepFromBox(*box, step); };
+    }
     PasteIT.onClick = [this] { PasteIT_Click(); };
     for (forms::CommandButton* help :
          {&cmdItemsHelp, &cmdPowerWhere, &cmdExportHelp, &cmdChartsNewSlides}) {

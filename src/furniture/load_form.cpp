@@ -28,6 +28,7 @@ MurvaneLoad::MurvaneLoad(forms::Desktop& desktop)
 }
 
 void MurvaneLoad::Form_Load() {
+    isClosed_ = false;
     shadow_.emplace().Shadow(*this);
     lblCaption.caption = "Loading charts and named ranges...";
     ApplyTheme(*this);

@@ -16,6 +16,9 @@ public:
     explicit MurvaneLoad(forms::Desktop& desktop);
 
     void Form_Load() override;
+    void Form_Unload() override { isClosed_ = true; }
+    /// Whether it has been closed since it was loaded last.
+    [[nodiscard]] bool isClosed() const { return isClosed_; }
 
     TitleBar TitelBar1;
     forms::Image Image1;
@@ -26,6 +29,7 @@ public:
     forms::Label Label4;
 
 private:
+    bool isClosed_ = false;
     std::optional<clsShadow> shadow_;
 };
 

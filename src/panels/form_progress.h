@@ -20,6 +20,7 @@ public:
     void setLoadingValue(int percent) override;
     [[nodiscard]] int loadingValue() const override;
     void clearLoading() override;
+    [[nodiscard]] bool loadingCancelled() const override { return loading_.isClosed(); }
     void unloadLoading() override;
 
     void showItem(int item, int total) override;

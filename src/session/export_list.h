@@ -32,6 +32,8 @@ struct ExportItem {
     bool hasSeveralAreas = false;
     /// Shown in grey: the item lacks something, or isn't checked.
     bool isMuted = false;
+    /// One of the rows that are chosen for a common deed.
+    bool isMarked = false;
 
     /// What makes it the same item from run to run.
     [[nodiscard]] std::string key() const { return name + sheet; }

@@ -1,6 +1,14 @@
 #pragma once
 
+#include <exception>
+
 namespace session {
+
+/// The user has closed the loading form, and the inventory ends where it is.
+class LoadingCancelled : public std::exception {
+public:
+    [[nodiscard]] const char* what() const noexcept override { return "loading was cancelled"; }
+};
 
 /// Where a run shows how far it is: the loading bar while the inventory is taken, the progress form
 /// during a batch. A window moves its bars, a terminal rewrites a line. A bar holds a whole number
@@ -17,6 +25,8 @@ public:
     virtual void setLoadingValue(int percent) = 0;
     [[nodiscard]] virtual int loadingValue() const = 0;
     virtual void clearLoading() = 0;
+    /// Whether the user has closed the loading form.
+    [[nodiscard]] virtual bool loadingCancelled() const { return false; }
     virtual void unloadLoading() = 0;
 
     /// Says that a batch is at its item `item` of `total`; 0 ahead of the first one.

@@ -155,20 +155,64 @@ TEST(TheList, keepsTheOrderOfEqualRowsAndTheSelectedRowWhenItIsSorted) {
     EXPECT_EQ(list.selected, 3);
 }
 
-TEST(TheList, movesTheWholeSelectedRowAndStopsAtItsEnds) {
-    ExportList list = listOf({"a", "b", "c"}, &ExportItem::name);
-    list.rows[1].hasSeveralAreas = true;
+/// Names of one letter, capitals for the chosen ones.
+ExportList listOfLetters(const std::string& letters) {
+    ExportList list;
+    for (const char letter : letters) {
+        ExportItem row;
+        row.name = letter;
+        row.isMarked = letter < 'a';
+        list.rows.push_back(row);
+    }
+    return list;
+}
+
+std::string lettersOf(const ExportList& list) {
+    std::string letters;
+    for (const ExportItem& row : list.rows) letters += row.name;
+    return letters;
+}
+
+TEST(TheList, movesTheChosenRowsByOneAndStopsAtItsEnds) {
+    struct Case {
+        std::string before, up, down;
+    };
+    for (const auto& [before, up, down] : {Case{"aBc", "Bac", "acB"}, Case{"ABcD", "ABDc", "cABD"},
+                                           Case{"aBCd", "BCad", "adBC"}, Case{"", "", ""}}) {
+        ExportList list = listOfLetters(before);
+        catalogue::MoveChosenRows(list, -1);
+        EXPECT_EQ(lettersOf(list), up);
+        list = listOfLetters(before);
+        catalogue::MoveChosenRows(list, 1);
+        EXPECT_EQ(lettersOf(list), down);
+    }
+}
+
+TEST(TheList, movesTheChosenRowsToWhereTheyAreDropped) {
+    struct Case {
+        std::string before;
+        std::size_t to;
+        std::string after;
+    };
+    for (const auto& [before, to, after] :
+         {Case{"aBcDe", 0, "BDace"}, Case{"aBcDe", 3, "acBDe"}, Case{"aBcDe", 5, "aceBD"},
+          Case{"aBcDe", 99, "aceBD"}, Case{"aBcd", 1, "aBcd"}, Case{"aBcd", 2, "aBcd"}}) {
+        ExportList list = listOfLetters(before);
+        list.selected = 1;
+        catalogue::MoveChosenRowsBefore(list, to);
+        EXPECT_EQ(lettersOf(list), after);
+        EXPECT_EQ(list.rows.at(static_cast<std::size_t>(list.selected)).name, "B");
+    }
+}
+
+TEST(TheList, movesTheSelectedRowWhereNoneIsMarked) {
+    ExportList list = listOfLetters("abc");
+    catalogue::MoveChosenRows(list, 1);
+    EXPECT_EQ(lettersOf(list), "abc") << "none is selected";
     list.selected = 1;
-    catalogue::MoveSelectedUp(list);
-    catalogue::MoveSelectedUp(list);
-    EXPECT_EQ(textsOf(list, &ExportItem::name), (std::vector<std::string>{"b", "a", "c"}));
-    EXPECT_TRUE(list.rows[0].hasSeveralAreas);
-    EXPECT_EQ(list.selected, 0);
-    for (int i = 0; i < 4; ++i) catalogue::MoveSelectedDown(list);
-    EXPECT_EQ(textsOf(list, &ExportItem::name), (std::vector<std::string>{"a", "c", "b"}));
-    list.selected = -1;
-    catalogue::MoveSelectedDown(list);
-    EXPECT_EQ(textsOf(list, &ExportItem::name), (std::vector<std::string>{"a", "c", "b"}));
+    catalogue::MoveChosenRows(list, 1);
+    EXPECT_EQ(lettersOf(list), "acb");
+    EXPECT_EQ(list.selected, 2);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -119,6 +120,152 @@ TEST_F(TheMainForm, opensAndClosesThePanelOfSlideNumbersByTheClock) {
     EXPECT_EQ(form.SlideNb.place.width, 0);
     for (const auto* timer : form.timers())
         EXPECT_FALSE(timer->enabled) << "an idle form has no timers";
+}
+
+/// The last letters of the checked rows from the top, a dot for each other one.
+std::string checks(UserformObj& form) {
+    std::string all;
+    for (const auto& row : form.list().rows) all += row.checked ? row.name.back() : '.';
+    return all;
+}
+
+TEST_F(TheMainForm, showsTheTextsOfWhicheverRowIsSelectedFromTheStartOn) {
+    {
+        UserformObj form(desktop, test.session, hooks);
+        show(form);
+        form.SlideTitle.setText("Kept");
+        form.TextBox10.setText("2");
+        forms_double::close(form);
+    }
+    test.attach();
+    UserformObj form(desktop, test.session, hooks);
+    show(form);
+    EXPECT_EQ(form.SlideTitle.text() + form.TextBox10.text(), "Kept2");
+    EXPECT_EQ(form.focus, &form.listCharts);
+    form.listCharts.click(2);
+    EXPECT_EQ(form.SlideTitle.text(), "") << "the row that is refused has texts of its own too";
+}
+
+TEST_F(TheMainForm, takesCaptionsOneAfterTheOtherWithoutTheMouse) {
+    UserformObj form(desktop, test.session, hooks);
+    show(form);
+    forms_double::press(form, "AddCaption");
+    EXPECT_EQ(form.focus, &form.SlideTitle);
+    const int selections = form.SlideTitle.selections();
+    for (const char* caption : {"One", "Two"}) {
+        form.SlideTitle.setText(caption);
+        form.SlideTitle.onStep(1);
+    }
+    EXPECT_EQ(form.list().rows[0].caption + form.list().rows[1].caption, "OneTwo");
+    EXPECT_EQ(form.list().selected, 2);
+    EXPECT_EQ(form.SlideTitle.selections(), selections + 2) << "what is typed next is a new text";
+    form.TextBox10.onStep(-1);
+    form.TextBox10.onStep(-1);
+    form.TextBox10.onStep(-1);
+    EXPECT_EQ(form.list().selected, 0);
+    for (const forms::Control* control : form.controls()) {
+        const auto* button = dynamic_cast<const forms::CommandButton*>(control);
+        EXPECT_FALSE(button != nullptr && button->isDefault) << "Enter belongs to the boxes";
+    }
+    forms_double::press(form, "AddCaption");
+    EXPECT_EQ(form.focus, &form.listCharts);
+}
+
+TEST_F(TheMainForm, checksMovesAndClearsAllRowsThatAreChosen) {
+    using Pick = forms::ListView::Pick;
+    UserformObj form(desktop, test.session, hooks);
+    show(form);
+    form.SlideTitle.setText("Kept");
+    EXPECT_EQ(checks(form), "12.e");
+    form.listCharts.click(1);
+    form.SlideTitle.setText("Wiped out");
+    form.listCharts.click(3, Pick::Through);
+    form.listCharts.check(3, false);
+    EXPECT_EQ(checks(form), "1...");
+    form.listCharts.check(1, true);
+    EXPECT_EQ(checks(form), "12.e") << "a range of several areas is left out";
+    form.listCharts.onRowsMove(0);
+    EXPECT_EQ(orders(form),
+              (std::vector<std::string>{"Chart 2 1", "Parts ", "Whole 2", "Chart 1 3"}));
+    form.listCharts.onRowsStep(1);
+    EXPECT_EQ(form.list().rows[0].name, "Chart 1");
+    form.listCharts.onRowsClear();
+    EXPECT_EQ(form.list().rows[0].caption, "Kept");
+    EXPECT_EQ(form.list().rows[1].caption, "");
+}
+
+TEST_F(TheMainForm, givesTheRoomThatItGainsToTheListAndThePreview) {
+    UserformObj form(desktop, test.session, hooks);
+    show(form);
+    desktop.advance(1s);
+    const auto placesOf = [&] {
+        std::vector<forms::Place> places;
+        for (const auto* control : form.controls()) places.push_back(control->place);
+        return places;
+    };
+    const auto natural = placesOf();
+    const auto list = form.listCharts.place;
+    const auto preview = form.imgChart.place;
+    const auto columns = form.listCharts.columns;
+    form.place.width += 3000;
+    form.place.height += 1500;
+    form.Form_Resize();
+    EXPECT_EQ(form.listCharts.place.width + form.imgChart.place.width,
+              list.width + preview.width + 3000);
+    EXPECT_EQ(form.listCharts.place.height, list.height + 1500);
+    EXPECT_EQ(form.imgChart.place.height, preview.height + 1500);
+    EXPECT_GT(form.listCharts.columns[4].width, columns[4].width);
+    // What stood apart stands apart, within the form.
+    const forms::Control* rows[] = {&form.Frame4, &form.Frame1, &form.Frame3, &form.PasteIT};
+    for (std::size_t i = 0; i + 1 < std::size(rows); ++i) {
+        EXPECT_LT(rows[i]->place.top + rows[i]->place.height, rows[i + 1]->place.top) << i;
+    }
+    EXPECT_LE(form.PasteIT.place.left + form.PasteIT.place.width, form.place.width);
+    EXPECT_LE(form.listCharts.place.left + form.listCharts.place.width, form.imgChart.place.left);
+    form.place.width -= 3000;
+    form.place.height -= 1500;
+    form.Form_Resize();
+    EXPECT_EQ(placesOf(), natural);
+}
+
+TEST_F(TheMainForm, offersADestinationByThePictureInItsShape) {
+    UserformObj form(desktop, test.session, hooks);
+    show(form);
+    const int destinations[] = {0, 1, 2, 4};
+    for (std::size_t i = 0; i < form.Image1.size(); ++i) {
+        const forms::Place& picture = form.Image1.at(i).place;
+        form.Image1.at(i).onClick();
+        const auto chosen = static_cast<std::size_t>(destinations[i]);
+        EXPECT_TRUE(form.Option1.at(chosen).value());
+        const forms::Shape& shape = form.Shape1.at(chosen);
+        EXPECT_TRUE(shape.visible);
+        EXPECT_EQ(2 * picture.left + picture.width, 2 * shape.place.left + shape.place.width);
+        EXPECT_EQ(2 * picture.top + picture.height, 2 * shape.place.top + shape.place.height);
+        EXPECT_LT(picture.width, shape.place.width);
+    }
+}
+
+TEST_F(TheMainForm, endsWithItsLoadingForm) {
+    test.progress.isLoadingCancelled = true;
+    UserformObj form(desktop, test.session, hooks);
+    show(form);
+    EXPECT_FALSE(desktop.isLoaded(form));
+    EXPECT_FALSE(test.session.MainFormOpen);
+    EXPECT_TRUE(desktop.record.empty() || desktop.record.back() != "show UserformObj modeless");
+}
+
+TEST_F(TheMainForm, hasItsListInTheWorkbookBeforeAnExportBegins) {
+    std::string stored;
+    hooks.StartExport = [&](catalogue::ExportList&, const catalogue::ExportChoices&) -> bool {
+        auto again = session::MergeIntoStore(test.session, {});
+        stored = again.items.at(0).caption;
+        throw office::Failure(office::FailureNumber::ApplicationDefined, "Excel", "Lost");
+    };
+    UserformObj form(desktop, test.session, hooks);
+    show(form);
+    form.SlideTitle.setText("Kept");
+    EXPECT_THROW(forms_double::press(form, "PasteIT"), office::Failure);
+    EXPECT_EQ(stored, "Kept");
 }
 
 TEST_F(TheMainForm, numbersTheCheckedRowsFromTheTopWhateverMovesThem) {
@@ -267,6 +414,7 @@ TEST_F(TheMainForm, leavesTheStoredListAloneIfItsOwnNeverCameUp) {
         test.suite.failures().fail("Range.Value");
         show(broken);
         EXPECT_TRUE(broken.list().rows.empty());
+        EXPECT_NE(broken.listCharts.placeholder.find("could not be read"), std::string::npos);
         forms_double::close(broken);
     }
     test.attach();

@@ -48,6 +48,17 @@ TEST_F(FormProgress, IsCancelledByItsButtonByEscapeAndByItsClosing) {
     }
 }
 
+TEST_F(FormProgress, LoadingIsCancelledByTheCrossOfItsForm) {
+    for (int run = 0; run < 2; ++run) {
+        progress.showLoading();
+        progress.setLoadingValue(40);
+        EXPECT_FALSE(progress.loadingCancelled());
+        the<furniture::TitleBar>(form("MurvaneLoad"), "TitelBar1").pressClose();
+        EXPECT_TRUE(progress.loadingCancelled());
+        progress.unloadLoading();
+    }
+}
+
 TEST_F(FormProgress, KeepsTheLoadingBarWithinItsEndsAndBeginsAnew) {
     progress.setLoadingValue(-3);
     EXPECT_EQ(progress.loadingValue(), 0);

@@ -15,6 +15,7 @@ public:
     std::vector<std::string> calls;
     /// What the user has pressed.
     bool isCancelled = false;
+    bool isLoadingCancelled = false;
 
     void showLoading() override { calls.emplace_back("show loading"); }
     void setLoadingValue(int percent) override {
@@ -26,6 +27,7 @@ public:
         loading_ = 0;
         calls.emplace_back("clear loading");
     }
+    [[nodiscard]] bool loadingCancelled() const override { return isLoadingCancelled; }
     void unloadLoading() override { calls.emplace_back("unload loading"); }
 
     void showItem(int item, int total) override {
