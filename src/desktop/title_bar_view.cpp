@@ -4,6 +4,7 @@
 #include <QtGui/QMouseEvent>
 #include <QtGui/QWindow>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
 
 #include "desktop/control_view.h"
 #include "desktop/looks.h"
@@ -134,9 +135,13 @@ protected:
         QWidget::resizeEvent(event);
         layOutButtons();
     }
-    void mousePressEvent(QMouseEvent* event) override {
-        if (event->button() != Qt::LeftButton) return;
-        if (QWindow* handle = window()->windowHandle(); handle != nullptr) {
+    void mousePressEvent(QMouseEvent* event) override { pressedAt_ = event->pos(); }
+    void mouseMoveEvent(QMouseEvent* event) override {
+        // Not by the press itself: the window system keeps what follows it, a second press too.
+        const int way = (event->pos() - pressedAt_).manhattanLength();
+        QWindow* handle = window()->windowHandle();
+        if (event->buttons() == Qt::LeftButton && way >= QApplication::startDragDistance() &&
+            handle != nullptr) {
             handle->startSystemMove();
         }
     }
@@ -185,6 +190,7 @@ private:
 
     furniture::TitleBar& bar_;
     Drawn shown_;
+    QPoint pressedAt_;
     TitleBarButton* minimise_;  ///< as the others, the toolkit's
     TitleBarButton* maximise_;
     TitleBarButton* close_;
