@@ -6,6 +6,8 @@
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 
+#include <optional>
+
 #include "desktop/control_view.h"
 #include "desktop/looks.h"
 #include "desktop/painting.h"
@@ -135,16 +137,22 @@ protected:
         QWidget::resizeEvent(event);
         layOutButtons();
     }
-    void mousePressEvent(QMouseEvent* event) override { pressedAt_ = event->pos(); }
+    void mousePressEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton) pressedAt_ = event->pos();
+    }
     void mouseMoveEvent(QMouseEvent* event) override {
-        // Not by the press itself: the window system keeps what follows it, a second press too.
-        const int way = (event->pos() - pressedAt_).manhattanLength();
-        QWindow* handle = window()->windowHandle();
-        if (event->buttons() == Qt::LeftButton && way >= QApplication::startDragDistance() &&
-            handle != nullptr) {
+        // Not by the press itself: the window system keeps what follows it, a second press too. And
+        // once only: another call would take hold of the window when the button is up again.
+        if (!pressedAt_ ||
+            (event->pos() - *pressedAt_).manhattanLength() < QApplication::startDragDistance()) {
+            return;
+        }
+        pressedAt_.reset();
+        if (QWindow* handle = window()->windowHandle(); handle != nullptr) {
             handle->startSystemMove();
         }
     }
+    void mouseReleaseEvent(QMouseEvent*) override { pressedAt_.reset(); }
     void mouseDoubleClickEvent(QMouseEvent* event) override {
         if (event->button() != Qt::LeftButton) return;
         tell([this] { bar_.doubleClick(); });
@@ -190,7 +198,7 @@ private:
 
     furniture::TitleBar& bar_;
     Drawn shown_;
-    QPoint pressedAt_;
+    std::optional<QPoint> pressedAt_;
     TitleBarButton* minimise_;  ///< as the others, the toolkit's
     TitleBarButton* maximise_;
     TitleBarButton* close_;
