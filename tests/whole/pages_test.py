@@ -68,7 +68,7 @@ class Pages(AtTheScreen):
         hand = self.open_main_form()
         hand.do("click", FORM, "Check1")
         wait_until(lambda: not any(row["checked"] for row in hand.rows()))
-        hand.do("key", FORM, key="Return")
+        hand.do("click", FORM, "PasteIT")
         hand.wait_for(NOTICE)
         hand.wait_for_page(NOTICE, NOTICE_PAGE, "#noticeRoot")
         text = self.text(hand, NOTICE, NOTICE_PAGE)

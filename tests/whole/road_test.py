@@ -111,6 +111,7 @@ class TheRoad(AtTheScreen):
         hand.do("key", DIALOG, key="Return")
         self.assertEqual(hand.ended(120), 0, hand.said())
         self.assertEqual([len(slide.pictures) for slide in self.saved_deck()], [0, 1, 1])
+
     def test_can_be_walked_by_the_keyboard_and_heard(self):
         self.open_sample()
         hand = self.open_main_form()
@@ -122,6 +123,8 @@ class TheRoad(AtTheScreen):
         hand.do("click-row", FORM, LIST, row=0)
         hand.do("key", FORM, key="Space")
         wait_until(lambda: not hand.rows()[0]["checked"], what="the space bar")
+        while hand.do("focus", FORM) != "PasteIT":
+            hand.do("key", FORM, key="Tab")
         hand.do("key", FORM, key="Return")
         hand.wait_for(DIALOG)
         self.assertEqual([stop for stop in hand.do("tab-order", DIALOG) if not stop[1].strip()], [])

@@ -86,7 +86,8 @@ json Hand::carryOut(const json& order) {
         follow(order);
         return nullptr;
     }
-    for (const char* seen : {"forms", "control", "rows", "tab-order", "look", "boxes", "caught"}) {
+    for (const char* seen :
+         {"forms", "focus", "control", "rows", "tab-order", "look", "boxes", "caught"}) {
         if (deed == seen) return inTheWindows([&] { return see(order); });
     }
     inTheWindows([&] {
@@ -108,6 +109,10 @@ json Hand::see(const json& order) const {
         return files;
     }
     const std::string form = text(order, "form");
+    if (deed == "focus") {
+        const forms::Control* focus = formOf(desktop_, form).focus;
+        return focus == nullptr ? json(nullptr) : json(focus->name());
+    }
     if (deed == "tab-order") return tabOrder(desktop_, form);
     if (deed == "look") {
         if (takePicture(desktop_, formOf(desktop_, form), text(order, "file"))) return true;

@@ -17,6 +17,7 @@ namespace by_hand {
 ///
 ///     forms                                 names of the open forms
 ///     control   form, control               what the control shows
+///     focus     form                        the control that has the keyboard
 ///     rows      form, control               what a list shows
 ///     tab-order form                        where Tab leads, and what a screen reader says there
 ///     click, double-click   form, control   on its middle
