@@ -66,7 +66,7 @@ TEST_F(RunFailuresTest, ALostSuiteIsReportedWheneverItGoes) {
 }
 
 TEST_F(RunFailuresTest, ASuiteThatDoesNotStartIsReported) {
-    const unattended::SuiteSource none{[]() -> std::shared_ptr<office::Suite> {
+    const apps::SuiteSource none{[]() -> std::shared_ptr<office::Suite> {
                                            throw office::Failure(
                                                office::FailureNumber::ApplicationDefined,
                                                "LibreOffice", "It is not installed");

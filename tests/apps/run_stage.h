@@ -45,7 +45,7 @@ protected:
         }
         console.out.clear();
         console.error.clear();
-        const unattended::SuiteSource suites{[this]() -> std::shared_ptr<office::Suite> {
+        const apps::SuiteSource suites{[this]() -> std::shared_ptr<office::Suite> {
                                                  ++suitesStarted;
                                                  return suite;
                                              },

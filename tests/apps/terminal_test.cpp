@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "apps/status_line.h"
-#include "apps/terminal_notices.h"
-#include "apps/terminal_progress.h"
+#include "apps/terminal.h"
 #include "scripted_console.h"
 
 namespace {

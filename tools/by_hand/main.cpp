@@ -12,7 +12,8 @@
 #include <thread>
 
 #include "apps/murvane/windowed_run.h"
-#include "apps/posix_console.h"
+#include "apps/suite_source.h"
+#include "apps/this_machine.h"
 #include "desktop/desktop_application.h"
 #include "desktop/qt_desktop.h"
 #include "hand.h"
@@ -49,9 +50,9 @@ int main(int count, char** words) {
         desktop::QtDesktop desktop;
         by_hand::Hand hand(desktop);
         std::thread([&hand] { takeOrders(hand); }).detach();
-        apps::PosixConsole console([] { return false; });
+        apps::MachineConsole console([] { return false; });
         try {
-            status = apps::runCommandOn(desktop, words[1], console);
+            status = apps::runCommandOn(desktop, words[1], console, apps::suitesOfThisMachine());
         } catch (const std::exception& error) {
             say({{"unhandled", error.what()}});
         }

@@ -1,19 +1,14 @@
 #include <fmt/format.h>
 
 #include <exception>
-#include <memory>
 #include <string>
 
-#include "apps/failure_report.h"
-#include "apps/posix_console.h"
-#include "apps/posix_host.h"
-#include "apps/status_line.h"
-#include "apps/terminal_notices.h"
-#include "apps/terminal_progress.h"
+#include "apps/suite_source.h"
+#include "apps/terminal.h"
+#include "apps/this_machine.h"
 #include "apps/version.h"
 #include "catalogue/inventory.h"
 #include "office/failure.h"
-#include "office/libreoffice/libreoffice_suite.h"
 #include "office/text.h"
 #include "session/launcher.h"
 
@@ -33,13 +28,14 @@ std::string commandLineOf(int count, char** words) {
     return line;
 }
 
-int runInTerminal(const std::string& commandLine, apps::Console& console) {
-    apps::PosixHost host(console);
+int runInTerminal(const std::string& commandLine, apps::Console& console,
+                  const apps::SuiteSource& suites) {
+    apps::MachineHost host(console);
     apps::StatusLine line(console, true);
     apps::TerminalNotices notices(
         console, line, console.canAsk() ? apps::Answering::AsksUser : apps::Answering::Refuses);
     apps::TerminalProgress progress(line);
-    const auto suite = libreoffice::LibreOfficeSuite::attachToRunning();
+    const auto suite = suites.attachToRunning();
     session::OfficeSession session(*suite, host, notices, progress);
 
     session::CommandHandlers handlers;
@@ -49,17 +45,20 @@ int runInTerminal(const std::string& commandLine, apps::Console& console) {
 
 /// With a screen the program shows windows; without one it says what it has to say in the terminal.
 int runCommand(int count, char** words, const std::string& commandLine, apps::Console& console) {
+    const apps::SuiteSource suites = apps::suitesOfThisMachine();
 #ifdef MURVANE_HAS_WINDOWS
-    if (apps::canShowWindows()) return apps::runInWindows(count, words, commandLine, console);
+    if (apps::canShowWindows()) {
+        return apps::runInWindows(count, words, commandLine, console, suites);
+    }
 #endif
-    return runInTerminal(commandLine, console);
+    return runInTerminal(commandLine, console, suites);
 }
 
 }  // namespace
 
 int main(int count, char** words) {
     constexpr int unhandled = 1;
-    apps::PosixConsole console([] { return false; });
+    apps::MachineConsole console([] { return false; });
     const std::string commandLine = commandLineOf(count, words);
     if (commandLine == "--version") {
         console.writeOut(fmt::format("murvane {}\n", apps::version));

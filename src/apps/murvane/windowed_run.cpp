@@ -1,28 +1,107 @@
 #include "apps/murvane/windowed_run.h"
 
-#include "apps/failure_report.h"
-#include "apps/murvane/windows.h"
+#include <memory>
+#include <utility>
+
+#include "apps/terminal.h"
+#include "apps/this_machine.h"
+#include "apps/version.h"
+#include "catalogue/inventory.h"
+#include "catalogue/userform_obj.h"
 #include "desktop/forms_runner.h"
-#include "office/libreoffice/libreoffice_suite.h"
+#include "panels/about_form.h"
 #include "panels/form_progress.h"
 #include "panels/notices.h"
+#include "powerpoint/layout_form.h"
+#include "powerpoint/options_dialog.h"
+#include "powerpoint/pictures.h"
+#include "session/launcher.h"
 
 namespace apps {
+
+namespace {
+
+/// The machine of a program with windows: events come from its desktop, and so does the plain box.
+class DesktopHost : public MachineHost {
+public:
+    DesktopHost(Console& console, forms::Desktop& desktop)
+        : MachineHost(console),
+          desktop_(desktop) {}
+
+    void letEventsRun() override { desktop_.letEventsRun(); }
+    void messageBox(std::string_view text, std::string_view title) override {
+        desktop_.messageBox(text, title);
+    }
+
+private:
+    forms::Desktop& desktop_;
+};
+
+/// The forms of the program, and what leads from one to the other.
+class Windows {
+public:
+    Windows(forms::Desktop& desktop, session::OfficeSession& session)
+        : desktop_(desktop),
+          session_(session) {}
+
+    /// What the commands run that opens windows.
+    [[nodiscard]] session::CommandHandlers handlers();
+
+private:
+    void showMainForm();
+
+    forms::Desktop& desktop_;
+    session::OfficeSession& session_;
+    std::unique_ptr<catalogue::UserformObj> mainForm_;
+};
+
+session::CommandHandlers Windows::handlers() {
+    session::CommandHandlers handlers;
+    handlers.CountWorkbookItems = [this] { catalogue::CountWorkbookItems(session_); };
+    handlers.ShowAboutForm = [this] { panels::ShowAboutForm(session_, desktop_, version); };
+    handlers.ShowLayoutUtility = [this] { powerpoint::ShowLayoutUtility(session_, desktop_); };
+    handlers.ShowMainForm = [this] { showMainForm(); };
+    handlers.UnloadAllForms = [this] { desktop_.unloadAll(); };
+    return handlers;
+}
+
+void Windows::showMainForm() {
+    catalogue::MainFormHooks hooks;
+    hooks.StartExport = [this](catalogue::ExportList& list,
+                               const catalogue::ExportChoices& choices) {
+        if (choices.destination != catalogue::Destination::PowerPoint) return false;
+        powerpoint::StartPowerPointExport(session_, desktop_, list, choices);
+        return true;
+    };
+    hooks.InsertOneItem = [this](const catalogue::ExportItem& row,
+                                 const catalogue::ExportChoices& choices) {
+        return powerpoint::InsertOneItem(session_, row, choices);
+    };
+    mainForm_ = std::make_unique<catalogue::UserformObj>(desktop_, session_, std::move(hooks));
+    desktop_.show(*mainForm_, forms::ShowMode::Modeless);
+    // Not by `MainFormOpen`: the form may be closed while a dialog above it is up.
+    while (desktop_.isLoaded(*mainForm_)) desktop_.waitForEvents();
+    session_.MainFormOpen = false;
+}
+
+}  // namespace
 
 bool canShowWindows() {
     return desktop::screenAnswers();
 }
 
-int runInWindows(int count, char** words, const std::string& commandLine, Console& console) {
+int runInWindows(int count, char** words, const std::string& commandLine, Console& console,
+                 const SuiteSource& suites) {
     desktop::FormsRunner runner(count, words);
-    return runCommandOn(runner.desktop(), commandLine, console);
+    return runCommandOn(runner.desktop(), commandLine, console, suites);
 }
 
-int runCommandOn(forms::Desktop& desktop, const std::string& commandLine, Console& console) {
+int runCommandOn(forms::Desktop& desktop, const std::string& commandLine, Console& console,
+                 const SuiteSource& suites) {
     DesktopHost host(console, desktop);
     panels::NoticePanel notices(desktop, host);
     panels::FormProgress progress(desktop);
-    const auto suite = libreoffice::LibreOfficeSuite::attachToRunning();
+    const auto suite = suites.attachToRunning();
     session::OfficeSession session(*suite, host, notices, progress);
     Windows windows(desktop, session);
     try {

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "apps/console.h"
+#include "apps/suite_source.h"
 #include "forms/desktop.h"
 
 namespace apps {
@@ -10,11 +11,13 @@ namespace apps {
 /// Whether there is a screen that answers.
 [[nodiscard]] bool canShowWindows();
 
-/// Carries out a command with windows; returns its exit status. Failures go to the caller, after
-/// the windows have been closed.
-int runInWindows(int count, char** words, const std::string& commandLine, Console& console);
+/// Carries out a command with windows; returns its exit status. Failures are shown in a box and go
+/// to the caller, after the windows have been closed.
+int runInWindows(int count, char** words, const std::string& commandLine, Console& console,
+                 const SuiteSource& suites);
 
 /// The same on a desktop that is there already.
-int runCommandOn(forms::Desktop& desktop, const std::string& commandLine, Console& console);
+int runCommandOn(forms::Desktop& desktop, const std::string& commandLine, Console& console,
+                 const SuiteSource& suites);
 
 }  // namespace apps

@@ -4,14 +4,14 @@
 
 #include "apps/console.h"
 #include "apps/murvane_export/options.h"
-#include "apps/murvane_export/suite_source.h"
+#include "apps/suite_source.h"
 #include "session/host.h"
 
 namespace unattended {
 
 /// What a run stands on besides its options.
 struct Surroundings {
-    SuiteSource suites;
+    apps::SuiteSource suites;
     session::Host& host;
     apps::Console& console;
     /// Whether the user has had enough.

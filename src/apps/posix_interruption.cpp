@@ -1,9 +1,9 @@
-#include "apps/interruption.h"
-
 #include <pthread.h>
 #include <signal.h>
 
 #include <utility>
+
+#include "apps/interruption.h"
 
 namespace apps {
 

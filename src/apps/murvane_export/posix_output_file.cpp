@@ -1,5 +1,3 @@
-#include "apps/murvane_export/output_file.h"
-
 #include <fcntl.h>
 #include <fmt/format.h>
 #include <sys/stat.h>
@@ -12,6 +10,7 @@
 #include <system_error>
 
 #include "apps/murvane_export/errors.h"
+#include "apps/murvane_export/output_file.h"
 #include "office/text.h"
 
 namespace unattended {

@@ -1,5 +1,8 @@
-#include "apps/terminal_notices.h"
+#include "apps/terminal.h"
 
+#include <fmt/format.h>
+
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -9,6 +12,10 @@
 namespace apps {
 
 namespace {
+
+/// Back to the line's start; then, erase what stands right of the cursor.
+constexpr const char* lineStart = "\r";
+constexpr const char* eraseRest = "\x1b[K";
 
 constexpr int cancelFlag = 1;
 constexpr int yesNoFlag = 4;
@@ -33,6 +40,18 @@ std::string labelOf(const session::Notice& notice) {
 }
 
 }  // namespace
+
+void StatusLine::show(std::string_view text) {
+    if (!isWanted_) return;
+    console_.writeError(std::string(lineStart) + std::string(text) + eraseRest);
+    isShown_ = true;
+}
+
+void StatusLine::clear() {
+    if (!isShown_) return;
+    console_.writeError(std::string(lineStart) + eraseRest);
+    isShown_ = false;
+}
 
 void TerminalNotices::print(const session::Notice& notice) {
     const std::vector<std::string> lines = linesOf(notice.message);
@@ -65,6 +84,21 @@ int TerminalNotices::show(const session::Notice& notice) {
         return isAccept ? session::answer::yes : session::answer::no;
     }
     return isAccept ? session::answer::ok : session::answer::cancel;
+}
+
+void TerminalProgress::setLoadingValue(int percent) {
+    loading_ = std::clamp(percent, 0, 100);
+    line_.show(fmt::format("Reading the workbook  {}%", loading_));
+}
+
+void TerminalProgress::showItem(int item, int total) {
+    line_.show(
+        fmt::format("Exporting item {} of {}  {}%", item, total, item * 100 / std::max(total, 1)));
+}
+
+std::string unhandledFailureReport(const office::Failure& failure) {
+    return fmt::format("Murvane: unhandled failure {} from {}: {}", failure.number(),
+                       failure.source(), failure.description());
 }
 
 }  // namespace apps

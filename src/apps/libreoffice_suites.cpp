@@ -1,0 +1,37 @@
+#include <chrono>
+
+#include "apps/interruption.h"
+#include "apps/suite_source.h"
+#include "office/libreoffice/libreoffice_suite.h"
+
+namespace apps {
+
+namespace {
+
+using libreoffice::LibreOfficeSuite;
+
+std::shared_ptr<office::Suite> interruptible(std::shared_ptr<LibreOfficeSuite> suite,
+                                             Interruption* interruption) {
+    if (interruption != nullptr) {
+        interruption->onceHappened([weak = std::weak_ptr<LibreOfficeSuite>(suite)] {
+            if (const auto held = weak.lock()) held->interrupt();
+        });
+    }
+    return suite;
+}
+
+}  // namespace
+
+SuiteSource suitesOfThisMachine(Interruption* interruption) {
+    constexpr std::chrono::seconds patience{60};
+    const auto isUnwanted = [interruption] {
+        return interruption != nullptr && interruption->hasHappened();
+    };
+    return {[=] {
+                return interruptible(LibreOfficeSuite::startPrivate(patience, isUnwanted),
+                                     interruption);
+            },
+            [=] { return interruptible(LibreOfficeSuite::attachToRunning(), interruption); }};
+}
+
+}  // namespace apps
