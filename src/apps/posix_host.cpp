@@ -1,10 +1,14 @@
 #include "apps/posix_host.h"
 
 #include <fcntl.h>
+#include <fmt/format.h>
+#include <signal.h>
 #include <spawn.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <charconv>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -12,6 +16,7 @@
 #include <filesystem>
 #include <system_error>
 #include <thread>
+#include <vector>
 
 #include "office/failure.h"
 #include "session/file_names.h"
@@ -57,10 +62,39 @@ private:
     int file_;
 };
 
+constexpr std::string_view folderStart = "murvane-of-";
+
+/// Whether a folder's name says that it belongs to a process which has ended.
+bool isOrphan(const fs::path& folder) {
+    const std::string name = folder.filename().string();
+    int owner = 0;
+    if (!name.starts_with(folderStart)) return false;
+    const char* const number = name.data() + folderStart.size();
+    const auto [end, error] = std::from_chars(number, name.data() + name.size(), owner);
+    if (error != std::errc{} || *end != '-' || owner <= 0) return false;
+    return ::kill(owner, 0) != 0 && errno == ESRCH;
+}
+
+/// Takes away what runs of this user have left that were killed.
+void sweep(const std::string& parent) {
+    std::error_code error;
+    std::vector<fs::path> orphans;
+    for (const auto& entry : fs::directory_iterator(parent, error)) {
+        struct stat status = {};
+        const bool isOwn = ::lstat(entry.path().c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
+                           status.st_uid == ::geteuid();
+        if (isOwn && isOrphan(entry.path())) orphans.push_back(entry.path());
+    }
+    for (const fs::path& orphan : orphans) fs::remove_all(orphan, error);
+}
+
+/// The folder's name tells its process, so that a later one knows whether it is still in use.
 std::string makePrivateFolder(const std::string& parent) {
-    std::string path = parent + "/murvane-XXXXXX";
+    std::string path = fmt::format("{}/{}{}-XXXXXX", parent, folderStart, ::getpid());
     // mkdtemp makes it for this user alone.
-    return ::mkdtemp(path.data()) != nullptr ? path : std::string();
+    if (::mkdtemp(path.data()) == nullptr) return {};
+    sweep(parent);
+    return path;
 }
 
 }  // namespace

@@ -99,4 +99,13 @@ std::string printable(std::string_view text) {
     return shown;
 }
 
+std::filesystem::path pathOf(std::string_view text) {
+    return std::u8string(text.begin(), text.end());
+}
+
+std::string utf8Of(const std::filesystem::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
 }  // namespace apps

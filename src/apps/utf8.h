@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -15,5 +16,9 @@ namespace apps {
 
 /// The text on one line that a terminal shows as it is: control characters become blanks.
 [[nodiscard]] std::string printable(std::string_view text);
+
+/// A path as the system has it, from UTF-8, and back: `path::string` is another encoding elsewhere.
+[[nodiscard]] std::filesystem::path pathOf(std::string_view text);
+[[nodiscard]] std::string utf8Of(const std::filesystem::path& path);
 
 }  // namespace apps

@@ -1,4 +1,5 @@
 #include <fcntl.h>
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -35,6 +36,22 @@ TEST_F(PosixHostTest, TemporaryFilesStandInAFolderForThisUserAloneThatGoesWithTh
     EXPECT_EQ(std::filesystem::path(host->temporaryFile("b")).parent_path(), file.parent_path());
     host.reset();
     EXPECT_EQ(folder.names(), std::set<std::string>{});
+}
+
+TEST_F(PosixHostTest, FoldersOfProcessesThatAreNoMoreAreSweptAndNothingElse) {
+    const pid_t ended = ::fork();
+    if (ended == 0) ::_exit(0);
+    ::waitpid(ended, nullptr, 0);
+    const std::string orphan = fmt::format("murvane-of-{}-abc", ended);
+    const std::set<std::string> others = {fmt::format("murvane-of-{}-abc", ::getppid()),
+                                          "murvane-of-", "murvane-of-12x", "murvane-of--1-a",
+                                          fmt::format("murvane-{}-abc", ended)};
+    std::filesystem::create_directories(folder.path() / orphan / "inner");
+    for (const std::string& name : others) std::filesystem::create_directory(folder.path() / name);
+    std::filesystem::create_symlink("/", folder.path() / fmt::format("murvane-of-{}-link", ended));
+    static_cast<void>(host->temporaryFile("a.png"));
+    EXPECT_FALSE(folder.names().contains(orphan));
+    EXPECT_EQ(folder.names().size(), others.size() + 2) << "the link and the host's own";
 }
 
 TEST_F(PosixHostTest, NoFolderIsMadeWithoutAFile) {

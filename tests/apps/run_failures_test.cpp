@@ -7,10 +7,23 @@ class RunFailuresTest : public RunStage {};
 TEST_F(RunFailuresTest, AFailureNamesTheItemAndLeavesNoFile) {
     suite->failures().fail("Chart.Export", 2);
     EXPECT_EQ(exportWith(), 1);
-    EXPECT_TRUE(console.errorHas("\"Chart 2\" on sheet \"North\" could not be exported"))
+    EXPECT_TRUE(console.errorHas("Could not export \"Chart 2\" on sheet \"North\""))
         << console.error;
+    EXPECT_TRUE(console.errorHas("--keep-going"));
     EXPECT_TRUE(hasOnlyInputs());
     EXPECT_EQ(suite->excel().activeWorkbook(), nullptr);
+}
+
+TEST_F(RunFailuresTest, KeptGoingTheRunSavesTheOthersAndListsWhatFailed) {
+    suite->failures().fail("Chart.Export", 2);
+    EXPECT_EQ(exportWith({"--keep-going"}), 1);
+    EXPECT_EQ(pictures(), (std::vector<std::string>{"Chart 1", "Total", "Chart 1", "Overview"}));
+    EXPECT_TRUE(console.errorHas("of 5 items 1 could not be exported:\n  \"Chart 2\" on sheet "))
+        << console.error;
+    EXPECT_TRUE(hasOutput());
+    suite->failures().fail("Slides.Add");
+    EXPECT_EQ(exportWith({"--keep-going", "--overwrite"}), 1);
+    EXPECT_FALSE(console.errorHas("incomplete")) << console.error;
 }
 
 TEST_F(RunFailuresTest, AFailureAheadOfTheItemsNamesNone) {
@@ -67,11 +80,11 @@ TEST_F(RunFailuresTest, ALostSuiteIsReportedWheneverItGoes) {
 
 TEST_F(RunFailuresTest, ASuiteThatDoesNotStartIsReported) {
     const apps::SuiteSource none{[]() -> std::shared_ptr<office::Suite> {
-                                           throw office::Failure(
-                                               office::FailureNumber::ApplicationDefined,
-                                               "LibreOffice", "It is not installed");
-                                       },
-                                       nullptr};
+                                     throw office::Failure(
+                                         office::FailureNumber::ApplicationDefined, "LibreOffice",
+                                         "It is not installed");
+                                 },
+                                 nullptr};
     unattended::Options options;
     options.book = bookFile;
     options.output = folder.file("Out.pptx");

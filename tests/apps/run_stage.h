@@ -46,10 +46,10 @@ protected:
         console.out.clear();
         console.error.clear();
         const apps::SuiteSource suites{[this]() -> std::shared_ptr<office::Suite> {
-                                                 ++suitesStarted;
-                                                 return suite;
-                                             },
-                                             [this] { return suite; }};
+                                           ++suitesStarted;
+                                           return suite;
+                                       },
+                                       [this] { return suite; }};
         return unattended::run(std::get<unattended::Options>(parsed),
                                {suites, host, console, [this] { return isInterrupted(); }});
     }

@@ -5,15 +5,104 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
-#include "apps/murvane_export/csv.h"
 #include "apps/murvane_export/errors.h"
 #include "apps/murvane_export/item_selection.h"
+#include "apps/utf8.h"
 #include "office/text.h"
 
 namespace unattended {
 
 namespace {
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+std::size_t lineAt(std::string_view text, std::size_t position) {
+    return 1 + static_cast<std::size_t>(std::count(
+                   text.begin(), text.begin() + static_cast<std::ptrdiff_t>(position), '\n'));
+}
+
+char separatorOf(std::string_view text) {
+    const std::string_view head = text.substr(0, text.find_first_of("\r\n"));
+    const bool semicolons = head.find(';') != std::string_view::npos;
+    return semicolons && head.find(',') == std::string_view::npos ? ';' : ',';
+}
+
+class CsvReader {
+public:
+    CsvReader(std::string_view text, std::string_view fileName)
+        : text_(text),
+          fileName_(fileName),
+          separator_(separatorOf(text)) {}
+
+    std::vector<CsvRecord> read() {
+        std::vector<CsvRecord> records;
+        while (at_ < text_.size()) {
+            CsvRecord record = readRecord();
+            const bool isEmptyLine = record.fields.size() == 1 && record.fields.front().empty();
+            if (!isEmptyLine) records.push_back(std::move(record));
+        }
+        return records;
+    }
+
+private:
+    CsvRecord readRecord() {
+        CsvRecord record;
+        record.line = line_;
+        record.fields.push_back(readField());
+        while (at_ < text_.size() && text_[at_] == separator_) {
+            ++at_;
+            record.fields.push_back(readField());
+        }
+        skipLineEnd();
+        return record;
+    }
+
+    std::string readField() {
+        if (at_ < text_.size() && text_[at_] == '"') return readQuotedField();
+        const std::size_t start = at_;
+        while (at_ < text_.size() && !endsField(text_[at_])) ++at_;
+        return std::string(text_.substr(start, at_ - start));
+    }
+
+    std::string readQuotedField() {
+        const std::size_t openedOn = line_;
+        std::string field;
+        for (++at_;; ++at_) {
+            if (at_ == text_.size()) complain(openedOn, "a double quote is never closed");
+            if (text_[at_] == '"') {
+                ++at_;
+                if (at_ == text_.size() || text_[at_] != '"') break;
+            }
+            if (text_[at_] == '\n') ++line_;
+            field += text_[at_];
+        }
+        if (at_ < text_.size() && !endsField(text_[at_])) {
+            complain(line_, "text follows a closing double quote");
+        }
+        return field;
+    }
+
+    [[nodiscard]] bool endsField(char c) const { return c == separator_ || c == '\n' || c == '\r'; }
+
+    void skipLineEnd() {
+        if (at_ == text_.size()) return;
+        if (text_.substr(at_, 2) == "\r\n") ++at_;
+        ++at_;
+        ++line_;
+    }
+
+    [[noreturn]] void complain(std::size_t line, std::string_view what) const {
+        throw UsageError(fmt::format("{}, line {}: {}.", fileName_, line, what));
+    }
+
+    std::string_view text_;
+    std::string_view fileName_;
+    char separator_;
+    std::size_t at_ = 0;
+    std::size_t line_ = 1;
+};
 
 constexpr std::array<std::string_view, 4> columnNames = {"item", "sheet", "caption", "slide"};
 enum Column : std::size_t { item, sheet, caption, slide };
@@ -50,6 +139,16 @@ std::string fieldOf(const CsvRecord& record, const Header& header, Column column
 }
 
 }  // namespace
+
+std::vector<CsvRecord> parseCsv(std::string_view text, std::string_view fileName) {
+    if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
+    if (const std::size_t bad = apps::firstBadUtf8(text); bad != std::string_view::npos) {
+        throw UsageError(
+            fmt::format("{}, line {}: this is not UTF-8. Save the file as \"CSV UTF-8\".", fileName,
+                        lineAt(text, bad)));
+    }
+    return CsvReader(text, fileName).read();
+}
 
 std::vector<CaptionLine> readCaptions(std::string_view text, std::string_view fileName) {
     const std::vector<CsvRecord> records = parseCsv(text, fileName);

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "apps/murvane_export/errors.h"
+#include "apps/utf8.h"
 #include "office/failure_patterns.h"
 
 namespace unattended {
@@ -26,14 +27,14 @@ Object applicationOf(office::Suite& suite, std::string_view className) {
 
 std::string absolutePath(const fs::path& file) {
     std::error_code ignored;
-    return fs::weakly_canonical(fs::absolute(file, ignored), ignored).string();
+    return apps::utf8Of(fs::weakly_canonical(fs::absolute(file, ignored), ignored));
 }
 
 [[noreturn]] void complainUnopened(const fs::path& file, const office::Failure& failure) {
     const std::string reason = failure.description();
-    const bool namesFile = reason.find(file.filename().string()) != std::string::npos;
+    const bool namesFile = reason.find(apps::utf8Of(file.filename())) != std::string::npos;
     throw RunError(namesFile ? reason + "."
-                             : fmt::format("{} can't be opened: {}.", file.string(), reason));
+                             : fmt::format("{} can't be opened: {}.", apps::utf8Of(file), reason));
 }
 
 bool isSameFile(const fs::path& left, const fs::path& right) {
@@ -116,7 +117,7 @@ void takeActiveDocuments(OfficeSession& session, const Options& options) {
     }
     session.ActiveSheetName = session.ActiveBook.get("ActiveSheet").get("Name").toText();
     const std::string active = session.ActiveBook.get("FullName").toText();
-    if (!options.book.empty() && !isSameFile(options.book, active)) {
+    if (!options.book.empty() && !isSameFile(apps::pathOf(options.book), apps::pathOf(active))) {
         throw RunError(
             fmt::format("The active workbook is {}, not {}. Bring that one to the front, "
                         "or leave its name out.",

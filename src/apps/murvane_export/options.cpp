@@ -177,6 +177,9 @@ std::variant<Options, ParseEnd> parseOptions(const std::vector<std::string>& arg
     declareFiles(app, options);
     declareItems(app, options, raw);
     declareSlides(app, options, raw);
+    app.add_flag(
+        "--keep-going", options.keepGoing,
+        "Leave out items that fail, list them at the end and save the others; 1 if there are any");
     app.add_flag("--yes", options.yes, "Go on over the warnings of the review");
     app.add_flag("--quiet", options.quiet, "No progress and no closing line");
 

@@ -43,6 +43,8 @@ struct Options {
     std::optional<PlacementValue> width;
     std::optional<PlacementValue> left;
 
+    /// An item that fails is left out and the others are saved.
+    bool keepGoing = false;
     bool yes = false;
     bool quiet = false;
 

@@ -11,6 +11,7 @@
 
 #include "apps/murvane_export/errors.h"
 #include "apps/murvane_export/output_file.h"
+#include "apps/utf8.h"
 #include "office/text.h"
 
 namespace unattended {
@@ -49,24 +50,24 @@ void requireReadable(const fs::path& file, const std::string& what) {
     std::error_code ignored;
     if (fs::is_directory(file, ignored)) {
         throw UsageError(
-            fmt::format("The {} {} is a folder. Name the file itself.", what, file.string()));
+            fmt::format("The {} {} is a folder. Name the file itself.", what, apps::utf8Of(file)));
     }
     if (::access(file.c_str(), R_OK) == 0) return;
     throw UsageError(fmt::format("The {} {} can't be read: {}. Check its name and its permissions.",
-                                 what, file.string(), reason()));
+                                 what, apps::utf8Of(file), reason()));
 }
 
 OutputFile::OutputFile(const fs::path& file, IfExists ifExists)
     : file_(behindLinks(file)),
       ifExists_(ifExists) {
-    const std::string name = file.string();
+    const std::string name = apps::utf8Of(file);
     const auto refuse = [&](const std::string& why) {
         throw UsageError(fmt::format("{} can't be written: {}", name, why));
     };
-    if (office::lowerCase(file_.extension().string()) != extension) {
+    if (office::lowerCase(apps::utf8Of(file_.extension())) != extension) {
         refuse("its name has to end in .pptx.");
     }
-    const std::string folder = file_.parent_path().string();
+    const std::string folder = apps::utf8Of(file_.parent_path());
     std::error_code ignored;
     if (!fs::is_directory(folder, ignored)) {
         refuse(
@@ -90,18 +91,18 @@ void OutputFile::requireOtherThan(const fs::path& input) const {
     if (!fs::equivalent(file_, input, ignored)) return;
     throw UsageError(fmt::format(
         "{} is what this run reads; it is never written over. Choose another output file.",
-        input.string()));
+        apps::utf8Of(input)));
 }
 
 const fs::path& OutputFile::neighbour() {
     if (!neighbour_.empty()) return neighbour_;
     std::string name =
-        (file_.parent_path() / fmt::format(".{}.XXXXXX{}", file_.stem().string(), extension))
+        (file_.parent_path() / fmt::format(".{}.XXXXXX{}", apps::utf8Of(file_.stem()), extension))
             .string();
     const int made = ::mkstemps(name.data(), static_cast<int>(extension.size()));
     if (made < 0) {
-        throw RunError(
-            fmt::format("No file can be made in {}: {}.", file_.parent_path().string(), reason()));
+        throw RunError(fmt::format("No file can be made in {}: {}.",
+                                   apps::utf8Of(file_.parent_path()), reason()));
     }
     ::close(made);
     neighbour_ = name;
@@ -111,7 +112,8 @@ const fs::path& OutputFile::neighbour() {
 void OutputFile::commit() {
     std::error_code ignored;
     if (neighbour_.empty() || fs::file_size(neighbour_, ignored) == 0) {
-        throw RunError(fmt::format("The suite wrote nothing, so {} was not made.", file_.string()));
+        throw RunError(
+            fmt::format("The suite wrote nothing, so {} was not made.", apps::utf8Of(file_)));
     }
     adoptMode();
     takeName();
@@ -135,19 +137,21 @@ void OutputFile::adoptMode() const {
 }
 
 void OutputFile::takeName() {
-    int failed = -1;
-    if (ifExists_ == IfExists::Refuse) {
-        failed =
-            ::renameat2(AT_FDCWD, neighbour_.c_str(), AT_FDCWD, file_.c_str(), RENAME_NOREPLACE);
-        if (failed != 0 && errno == EEXIST) {
-            throw RunError(fmt::format("{} was made by somebody else meanwhile and was left alone.",
-                                       file_.string()));
-        }
+    const auto rename = [&](unsigned flags) {
+        const bool isDone =
+            ::renameat2(AT_FDCWD, neighbour_.c_str(), AT_FDCWD, file_.c_str(), flags) == 0;
+        return isDone ? 0 : errno;
+    };
+    int error = rename(ifExists_ == IfExists::Refuse ? RENAME_NOREPLACE : 0);
+    if (error == EEXIST) {
+        throw RunError(fmt::format("{} was made by somebody else meanwhile and was left alone.",
+                                   apps::utf8Of(file_)));
     }
-    // Also for file systems that can't rename without replacing.
-    if (failed != 0) failed = std::rename(neighbour_.c_str(), file_.c_str());
-    if (failed != 0) {
-        throw RunError(fmt::format("{} can't be written: {}.", file_.string(), reason()));
+    // Some file systems can't rename without replacing.
+    if (error == EINVAL) error = rename(0);
+    if (error != 0) {
+        throw RunError(
+            fmt::format("{} can't be written: {}.", apps::utf8Of(file_), std::strerror(error)));
     }
 }
 

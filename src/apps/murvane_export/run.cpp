@@ -14,14 +14,17 @@
 #include "apps/murvane_export/item_listing.h"
 #include "apps/murvane_export/item_selection.h"
 #include "apps/murvane_export/output_file.h"
-#include "apps/murvane_export/slide_export.h"
 #include "apps/terminal.h"
+#include "apps/utf8.h"
 #include "catalogue/export_run.h"
 #include "catalogue/inventory.h"
 #include "catalogue/list_rows.h"
 #include "catalogue/review.h"
 #include "office/failure.h"
+#include "powerpoint/pictures.h"
 #include "session/launcher.h"
+#include "session/powerpoint_session.h"
+#include "session/workbook_store.h"
 
 namespace unattended {
 
@@ -38,7 +41,7 @@ constexpr const char* interruptedText = "Interrupted; nothing was written.";
 class Interrupted : public std::exception {};
 
 std::string readFile(const std::string& path) {
-    const std::ifstream file(path, std::ios::binary);
+    const std::ifstream file(apps::pathOf(path), std::ios::binary);
     std::ostringstream text;
     text << file.rdbuf();
     return text.str();
@@ -58,20 +61,53 @@ struct Order {
 
 Order checkOrder(const Options& options) {
     Order order;
-    if (!options.book.empty()) requireReadable(options.book, "workbook");
-    if (!options.deck.empty()) requireReadable(options.deck, "presentation");
+    if (!options.book.empty()) requireReadable(apps::pathOf(options.book), "workbook");
+    if (!options.deck.empty()) requireReadable(apps::pathOf(options.deck), "presentation");
     if (!options.captionsFile.empty()) {
-        requireReadable(options.captionsFile, "captions file");
+        requireReadable(apps::pathOf(options.captionsFile), "captions file");
         order.captions = readCaptions(readFile(options.captionsFile), options.captionsFile);
     }
     if (options.task == Task::Export) {
         order.output = std::make_unique<OutputFile>(
-            options.output, options.overwrite ? IfExists::Overwrite : IfExists::Refuse);
+            apps::pathOf(options.output),
+            options.overwrite ? IfExists::Overwrite : IfExists::Refuse);
         for (const std::string& input : {options.book, options.deck}) {
-            if (!input.empty()) order.output->requireOtherThan(input);
+            if (!input.empty()) order.output->requireOtherThan(apps::pathOf(input));
         }
     }
     return order;
+}
+
+/// Puts the placement of the options into the store of the workbook, where the export looks for it.
+/// What they leave out keeps what the workbook has.
+void storePlacement(session::OfficeSession& session, const Options& options) {
+    session::Placement placement = session::readStoredPlacement(session);
+    const auto take = [](const std::optional<PlacementValue>& wanted, std::optional<double>& held) {
+        if (wanted) held = wanted->share;
+    };
+    take(options.top, placement.top);
+    take(options.width, placement.width);
+    take(options.left, placement.left);
+    session::writeStoredPlacement(session, placement);
+}
+
+/// As the options dialog and its button do.
+void exportToSlides(powerpoint::Batch& batch, const Options& options) {
+    OfficeSession& session = batch.session;
+    session::AttachPowerPoint(session);
+    session.ExcelApp.put("DisplayAlerts", false);
+    session.slideTitle = options.titles;
+    session.sourceInc = options.source;
+    session.checkShadow = options.shadow;
+    session.PictureStyle = options.pictureStyle;
+    session.DefaultPlacement = !options.placesShapes();
+    if (options.placesShapes()) storePlacement(session, options);
+    powerpoint::ExportRowsAsPictures(batch);
+}
+
+std::string describe(const ExportItem& row, const office::Failure& failure) {
+    return fmt::format("\"{}\" on sheet \"{}\": {} ({}).", itemName(row), row.sheet,
+                       failure.description(), failure.source());
 }
 
 /// One run, from the open documents to the output.
@@ -119,6 +155,8 @@ private:
     std::string bookName_;
     catalogue::ExportList list_;
     catalogue::ExportChoices choices_;
+    /// A line for each item that failed.
+    std::vector<std::string> failures_;
 };
 
 int Run::perform() {
@@ -147,12 +185,12 @@ void Run::openDocuments() {
             order_.output->requireOtherThan(session_.SessionPresentation.get("FullName").toText());
         }
     } else {
-        documents_.openWorkbook(options_.book);
+        documents_.openWorkbook(apps::pathOf(options_.book));
         if (options_.task == Task::List) return;
         if (options_.deck.empty()) {
             documents_.newPresentation();
         } else {
-            documents_.openPresentation(options_.deck);
+            documents_.openPresentation(apps::pathOf(options_.deck));
         }
     }
 }
@@ -208,8 +246,15 @@ int Run::exportItems() {
 
 void Run::runBatch() {
     list_.selected = -1;
+    powerpoint::Batch batch{session_, list_, choices_, {}};
+    if (options_.keepGoing) {
+        batch.onFailedItem = [this](const ExportItem& row, const office::Failure& failure) {
+            stopIfInterrupted();
+            failures_.push_back(describe(row, failure));
+        };
+    }
     try {
-        exportToSlides(session_, list_, choices_, options_);
+        exportToSlides(batch, options_);
     } catch (const office::SuiteLost&) {
         throw;
     } catch (const office::Failure& failure) {
@@ -217,9 +262,9 @@ void Run::runBatch() {
         letUserSee();
         if (list_.selected < 0 || surroundings_.isInterrupted()) throw;
         const ExportItem& row = list_.rows[static_cast<std::size_t>(list_.selected)];
-        throw RunError(fmt::format("\"{}\" on sheet \"{}\" could not be exported: {} ({}).",
-                                   itemName(row), row.sheet, failure.description(),
-                                   failure.source()));
+        throw RunError(fmt::format(
+            "Could not export {}\n--keep-going leaves such items out and saves the others.",
+            describe(row, failure)));
     }
     letUserSee();
     documents_.removeFirstSlides();
@@ -232,7 +277,7 @@ void Run::letUserSee() {
 
 void Run::save() {
     line_.show("Saving the presentation");
-    const std::string neighbour = order_.output->neighbour().string();
+    const std::string neighbour = apps::utf8Of(order_.output->neighbour());
     session_.SessionPresentation.call("SaveCopyAs", neighbour);
     stopIfInterrupted();
     order_.output->commit();
@@ -240,17 +285,20 @@ void Run::save() {
 }
 
 int Run::sumUp(int remarksOfBatch) {
-    const int taken = session_.ProgressCount;
-    if (remarksOfBatch > 0) {
-        surroundings_.console.writeError(
-            fmt::format("{} is incomplete: of {} items {} could not be exported; see above.\n",
-                        order_.output->file().string(), taken, remarksOfBatch));
+    const int taken = session_.CheckedCount;
+    const auto failed = static_cast<int>(failures_.size());
+    if (remarksOfBatch + failed > 0) {
+        std::string text = fmt::format("{} is incomplete: of {} items {} could not be exported{}\n",
+                                       apps::utf8Of(order_.output->file()), taken,
+                                       remarksOfBatch + failed, failed == 0 ? "; see above." : ":");
+        for (const std::string& line : failures_) text += "  " + line + "\n";
+        surroundings_.console.writeError(text);
         return exit_code::failed;
     }
     if (!options_.quiet) {
         surroundings_.console.writeError(fmt::format("Exported {} item{} to {}\n", taken,
                                                      taken == 1 ? "" : "s",
-                                                     order_.output->file().string()));
+                                                     apps::utf8Of(order_.output->file())));
     }
     return exit_code::done;
 }
