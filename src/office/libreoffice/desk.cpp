@@ -2,8 +2,12 @@
 
 #include <com/sun/star/container/XChild.hpp>
 #include <com/sun/star/container/XEnumerationAccess.hpp>
+#include <com/sun/star/frame/XDispatchHelper.hpp>
+#include <com/sun/star/frame/XDispatchProvider.hpp>
+#include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/lang/XServiceInfo.hpp>
 #include <fmt/format.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -133,6 +137,24 @@ std::shared_ptr<powerpoint::ImpressDeck> Desk::activePresentation() {
     return activeOf<powerpoint::ImpressDeck>();
 }
 
+/// `file` names the file of a document that was loaded apart from it.
+void Desk::makeChangeable(const uno::Reference<css::frame::XModel>& model,
+                          const rtl::OUString& file) {
+    if (!file.isEmpty()) {
+        if (isOfKind<excel::CalcDocument>(model)) workbook(model)->standFor(file);
+        if (isOfKind<powerpoint::ImpressDeck>(model)) presentation(model)->standFor(file);
+    }
+    // Files say that they are better opened for reading; in a window a click goes over that.
+    const auto storable = tryAs<css::frame::XStorable>(model);
+    if (!storable.is() || !storable->isReadonly()) return;
+    const auto controller = model->getCurrentController();
+    if (!controller.is()) return;
+    const auto dispatcher =
+        as<css::frame::XDispatchHelper>(connection_->create("com.sun.star.frame.DispatchHelper"));
+    dispatcher->executeDispatch(as<css::frame::XDispatchProvider>(controller->getFrame()),
+                                ".uno:EditDoc", rtl::OUString(), 0, {});
+}
+
 uno::Reference<css::frame::XModel> Desk::load(const rtl::OUString& url, bool hidden,
                                               const std::string& password, bool readOnly) {
     if (url.startsWith("file:") && !std::filesystem::exists(pathOfUrl(url)))
@@ -140,19 +162,27 @@ uno::Reference<css::frame::XModel> Desk::load(const rtl::OUString& url, bool hid
     const rtl::Reference<PasswordAnswer> answer(new PasswordAnswer(toUno(password)));
     uno::Reference<css::lang::XComponent> component;
     std::string reason;
+    // A private suite locks nothing, and without a lock it opens only what can be written.
+    const bool isApart = hidden_ && !readOnly && url.startsWith("file:") &&
+                         access(pathOfUrl(url).c_str(), W_OK) != 0;
     try {
         component = connection_->desktop()->loadComponentFromURL(
             url, "_blank", 0,
             propertyValues(
                 {{"Hidden", uno::Any(hidden)},
-                 {"ReadOnly", uno::Any(readOnly)},
+                 {"ReadOnly", uno::Any(readOnly || isApart)},
+                 {"AsTemplate", uno::Any(isApart)},
                  {"InteractionHandler",
                   uno::Any(uno::Reference<css::task::XInteractionHandler>(answer.get()))}}));
     } catch (const css::uno::Exception& error) {
         if (connection_->isLost()) throw;
         reason = fromUno(error.Message);
     }
-    if (component.is()) return as<css::frame::XModel>(component);
+    if (component.is()) {
+        auto model = as<css::frame::XModel>(component);
+        if (hidden_ && !readOnly) makeChangeable(model, isApart ? url : rtl::OUString());
+        return model;
+    }
     // A password that is missing or wrong comes as "type detection aborted", or as no document and
     // no exception, like a damaged file and one that another instance holds.
     if (answer->wasAsked())

@@ -61,6 +61,9 @@ public:
     /// Opens a file, or makes a new document from a factory URL. `office::Failure` 1004 with the
     /// reason if the suite gives no document: no such file, not of a kind it reads, locked by
     /// another instance, wrong password.
+    ///
+    /// A private suite's document can be changed also where its file may not be written or asks to
+    /// be opened for reading: it is never saved over the file.
     uno::Reference<css::frame::XModel> load(const rtl::OUString& url, bool hidden,
                                             const std::string& password = {},
                                             bool readOnly = false);
@@ -79,6 +82,7 @@ public:
     bool displayAlerts = true;
 
 private:
+    void makeChangeable(const uno::Reference<css::frame::XModel>& model, const rtl::OUString& file);
     template <class Kind>
     std::shared_ptr<Kind> recordOf(const uno::Reference<css::frame::XModel>& model);
     template <class Kind>

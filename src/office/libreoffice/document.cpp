@@ -48,14 +48,14 @@ void Document::requireOpen(std::string_view member) const {
 }
 
 std::string Document::name() const {
-    if (const std::string path = pathOfUrl(model_->getURL()); !path.empty()) {
+    if (const std::string path = pathOfUrl(url()); !path.empty()) {
         return std::filesystem::path(path).filename().string();
     }
     return fromUno(as<css::frame::XTitle>(model_)->getTitle());
 }
 
 std::string Document::fullName() const {
-    const std::string path = pathOfUrl(model_->getURL());
+    const std::string path = pathOfUrl(url());
     return path.empty() ? name() : path;
 }
 

@@ -32,6 +32,10 @@ public:
     [[nodiscard]] std::string name() const;
     /// The path of the file; the name alone for a document never saved.
     [[nodiscard]] std::string fullName() const;
+    /// The file's address; empty for a document never saved.
+    [[nodiscard]] rtl::OUString url() const { return file_.isEmpty() ? model_->getURL() : file_; }
+    /// Names the file of a document that was loaded apart from it.
+    void standFor(const rtl::OUString& file) { file_ = file; }
     [[nodiscard]] uno::Reference<css::frame::XController> controller() const {
         return model_->getCurrentController();
     }
@@ -49,6 +53,7 @@ public:
 
 private:
     uno::Reference<css::frame::XModel> model_;
+    rtl::OUString file_;
     std::shared_ptr<std::atomic<bool>> closed_;
     std::uint64_t lastActive_ = 0;
 };

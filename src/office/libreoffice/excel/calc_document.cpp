@@ -28,7 +28,7 @@ bool CalcDocument::structureIsLocked(const Connection& connection) {
 }
 
 const WorkbookFacts& CalcDocument::facts(const Connection& connection) {
-    if (!facts_) facts_ = readWorkbookFacts(connection, model()->getURL());
+    if (!facts_) facts_ = readWorkbookFacts(connection, url());
     return *facts_;
 }
 

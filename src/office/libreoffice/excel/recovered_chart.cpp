@@ -137,7 +137,7 @@ private:
 
 RecoveredChart::RecoveredChart(Desk& desk, CalcDocument& book, SheetRecord& sheet) {
     const Connection& connection = desk.connection();
-    const rtl::OUString url = book.model()->getURL();
+    const rtl::OUString url = book.url();
     const auto parts = PackageParts::open(connection, url);
     if (!parts || sheet.part.empty() || !url.startsWith("file:"))
         fail(sheet, "its file is not at hand");
