@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <map>
 #include <utility>
 
 #include "office/failure.h"
@@ -120,13 +121,37 @@ std::shared_ptr<Kind> Desk::activeOf() {
             document->markActive();
             return document;
         }
+        noteOrderOfWindows();
     }
+    std::shared_ptr<Kind> latest;
+    for (const auto& document : documents_) {
+        const auto record = std::dynamic_pointer_cast<Kind>(document);
+        if (record && !record->isClosed() && record->lastActive() > 0 &&
+            (!latest || record->lastActive() > latest->lastActive()))
+            latest = record;
+    }
+    if (latest) return latest;
+    // None was ever active: the one that was opened last.
     const auto open = openDocuments<Kind>();
-    const auto last =
-        std::max_element(open.begin(), open.end(), [](const auto& left, const auto& right) {
-            return left->lastActive() < right->lastActive();
-        });
-    return last == open.end() ? nullptr : *last;
+    return open.empty() ? nullptr : open.back();
+}
+
+/// The user is in another application or in a document of another kind: the documents that the user
+/// was in before lie below in the order in which they were left. Nothing in LibreOffice tells it.
+void Desk::noteOrderOfWindows() {
+    auto order = WindowOrder::now();
+    if (order == windowsBefore_) return;
+    windowsBefore_ = std::move(order);
+    std::map<std::size_t, std::shared_ptr<Document>> fromLowest;
+    const auto place = [&](const auto& documents) {
+        for (const auto& document : documents) {
+            if (const auto at = windowsBefore_.placeOf(document->controller()))
+                fromLowest[*at] = document;
+        }
+    };
+    place(workbooks());
+    place(presentations());
+    for (const auto& [at, document] : fromLowest) document->markActive();
 }
 
 std::shared_ptr<excel::CalcDocument> Desk::activeWorkbook() {

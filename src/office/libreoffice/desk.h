@@ -7,6 +7,7 @@
 
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/document.h"
+#include "office/libreoffice/window_order.h"
 #include "office/model/guard.h"
 #include "office/value.h"
 
@@ -89,11 +90,13 @@ private:
     std::vector<std::shared_ptr<Kind>> openDocuments();
     template <class Kind>
     std::shared_ptr<Kind> activeOf();
+    void noteOrderOfWindows();
 
     std::shared_ptr<Connection> connection_;
     office::model::GuardPtr guard_;
     bool hidden_;
     std::vector<std::shared_ptr<Document>> documents_;
+    WindowOrder windowsBefore_;
 };
 
 using DeskPtr = std::shared_ptr<Desk>;

@@ -89,12 +89,17 @@ model::DeckSlidePtr ImpressWindow::slideInView() {
 void ImpressWindow::show(const model::DeckSlidePtr& slide) {
     static_cast<void>(controller());
     view_->setCurrentPage(std::static_pointer_cast<ImpressSlide>(slide)->page());
+    selectedByCall_.reset();
 }
 
 std::vector<model::DeckShapePtr> ImpressWindow::selectedShapes() {
     std::vector<model::DeckShapePtr> shapes;
     const auto selected = selection();
-    if (selected.empty()) return shapes;
+    if (selected.empty()) {
+        if (const auto shape = selectedByCall_.lock(); shape && !shape->isGone())
+            shapes.push_back(shape);
+        return shapes;
+    }
     const auto slide = std::static_pointer_cast<ImpressSlide>(slideInView());
     if (!slide) return shapes;
     for (const auto& shape : selected) shapes.push_back(slide->held(shape));
@@ -106,6 +111,7 @@ void ImpressWindow::select(const model::DeckShapePtr& shape) {
     const auto slide = wanted.slide().shared_from_this();
     if (slideInView() != slide) show(slide);
     select(wanted.reference());
+    selectedByCall_ = shape;
 }
 
 void ImpressWindow::select(const uno::Reference<css::drawing::XShape>& shape) {
@@ -116,6 +122,7 @@ void ImpressWindow::select(const uno::Reference<css::drawing::XShape>& shape) {
 void ImpressWindow::unselect() {
     static_cast<void>(controller());
     selection_->select(uno::Any());
+    selectedByCall_.reset();
 }
 
 std::vector<uno::Reference<css::drawing::XShape>> ImpressWindow::selection() {

@@ -52,6 +52,9 @@ private:
     /// The controller's further interfaces, kept with it since asking for one is a remote call.
     uno::Reference<css::drawing::XDrawView> view_;
     uno::Reference<css::view::XSelectionSupplier> selection_;
+    /// In the sorter and in the outline LibreOffice says that it has selected a shape and has none
+    /// selected then: there the one counts that was selected by a call.
+    std::weak_ptr<model::DeckShape> selectedByCall_;
 };
 
 }  // namespace libreoffice::powerpoint

@@ -1,0 +1,180 @@
+// A LibreOffice with windows on a screen, as a user has it.
+
+#include <com/sun/star/awt/XTopWindow.hpp>
+#include <com/sun/star/frame/XController.hpp>
+#include <com/sun/star/frame/XFrame.hpp>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <map>
+#include <memory>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "office/libreoffice/connection.h"
+#include "office/libreoffice/desk.h"
+#include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/installation.h"
+#include "office/libreoffice/powerpoint/impress_deck.h"
+#include "office/libreoffice/process.h"
+#include "support/png_file.h"
+#include "support/temporary_folder.h"
+
+namespace live {
+
+namespace {
+
+using namespace libreoffice;
+using namespace std::chrono_literals;
+using office::Object;
+using office::Value;
+
+/// The suite of all tests here.
+class Screen : public testing::Environment {
+public:
+    void SetUp() override {
+        const std::string pipe = "murvane-windows-" + std::to_string(getpid());
+        process = std::make_unique<Process>(
+            Process::start({programFolder() + "/soffice",
+                            "-env:UserInstallation=file://" + folder.path().string() + "/profile",
+                            "--accept=pipe,name=" + pipe + ";urp", "--norestore", "--nologo",
+                            "--nodefault", "--nolockcheck"},
+                           true));
+        const auto deadline = std::chrono::steady_clock::now() + 60s;
+        while (!connection && std::chrono::steady_clock::now() < deadline) {
+            connection = Connection::open(pipe);
+            if (!connection) std::this_thread::sleep_for(50ms);
+        }
+        ASSERT_TRUE(connection);
+    }
+    void TearDown() override {
+        if (connection) static_cast<void>(connection->desktop()->terminate());
+        connection.reset();
+        process->waitFor(20s);
+    }
+
+    support::TemporaryFolder folder;
+    std::unique_ptr<Process> process;
+    std::shared_ptr<Connection> connection;
+};
+
+// The framework owns it.
+auto* const screen =
+    static_cast<Screen*>(testing::AddGlobalTestEnvironment(std::make_unique<Screen>().release()));
+
+class Windows : public testing::Test {
+protected:
+    void TearDown() override {
+        const auto desk = freshDesk();
+        for (const auto& book : desk->workbooks()) book->close();
+        for (const auto& deck : desk->presentations()) deck->close();
+    }
+
+    /// What automation that was just started knows.
+    [[nodiscard]] static DeskPtr freshDesk() {
+        return std::make_shared<Desk>(screen->connection, false);
+    }
+};
+
+using Model = uno::Reference<css::frame::XModel>;
+
+template <class Condition>
+bool becomesTrue(const Condition& condition) {
+    const auto deadline = std::chrono::steady_clock::now() + 10s;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > deadline) return false;
+        std::this_thread::sleep_for(20ms);
+    }
+    return true;
+}
+
+/// As a click on the document's window does.
+void goTo(const Model& document) {
+    const auto frame = document->getCurrentController()->getFrame();
+    const auto window = frame->getContainerWindow();
+    as<css::awt::XTopWindow>(window)->toFront();
+    frame->activate();
+    window->setFocus();
+    ASSERT_TRUE(becomesTrue([&] {
+        return tryAs<css::frame::XModel>(screen->connection->desktop()->getCurrentComponent()) ==
+               document;
+    }));
+}
+
+TEST_F(Windows, TheActiveDocumentOfAKindIsTheOneThatTheUserWasInLast) {
+    const auto desk = freshDesk();
+    std::vector<Model> documents;
+    for (const char* kind : {"scalc", "scalc", "simpress", "simpress"})
+        documents.push_back(desk->load("private:factory/" + toUno(kind), false));
+    std::vector<std::size_t> order = {0, 1, 2, 3};
+    do {
+        for (const std::size_t each : order) goTo(documents[each]);
+        const auto place = [&](std::size_t each) {
+            return std::find(order.begin(), order.end(), each) - order.begin();
+        };
+        const auto last = [&](std::size_t one, std::size_t other) {
+            return documents[place(one) > place(other) ? one : other];
+        };
+        std::string told;
+        for (const std::size_t each : order) told += std::to_string(each);
+        // The window system raises a window a moment after it is asked to.
+        for (const bool anew : {true, false}) {
+            EXPECT_TRUE(becomesTrue([&] {
+                const DeskPtr asked = anew ? freshDesk() : desk;
+                return asked->activeWorkbook()->model() == last(0, 1) &&
+                       asked->activePresentation()->model() == last(2, 3);
+            })) << told;
+        }
+    } while (std::next_permutation(order.begin(), order.end()));
+}
+
+/// The steps that a batch takes with an item, begun in each of the views that a user may be in.
+TEST_F(Windows, AnItemComesToItsSlideFromEveryView) {
+    const auto desk = freshDesk();
+    const Object app = powerpoint::applicationObject(desk);
+    const Object deck = app.get("Presentations").call("Add").toObject();
+    const Object slides = deck.get("Slides").toObject();
+    const std::string file = screen->folder.file("picture.png");
+    support::writeBytes(file, support::pngPictureOfPoints(240, 120));
+    constexpr std::int32_t titleOnly = 11;
+    slides.call("Add", 1, titleOnly);
+    std::int32_t place = 1;
+    for (const std::int32_t view : {7, 6, 3, 9}) {
+        const Object window = app.get("ActiveWindow").toObject();
+        window.put("ViewType", view);
+        slides.call("Add", ++place, titleOnly);
+        EXPECT_GT(window.get("View").get("Slide").get("SlideIndex").toLong(), 0) << view;
+        window.get("View").call("GotoSlide", place);
+        const Value shapes = slides.get("Item", place).get("Shapes");
+        shapes.call("AddPicture", file, 0, -1, 0, 0, -1, -1);
+        const Value selection = window.get("Selection");
+        EXPECT_EQ(selection.get("SlideRange").get("SlideIndex").toLong(), place) << view;
+        EXPECT_EQ(selection.get("SlideRange").get("Shapes").get("HasTitle").toLong(), -1) << view;
+        shapes.get("Item", shapes.get("Count")).call("Select");
+        const Value selected = selection.get("ShapeRange");
+        selected.put("LockAspectRatio", true);
+        selected.put("Width", 480);
+        selected.put("Left", 100);
+        const Value label =
+            selection.get("SlideRange").get("Shapes").call("AddLabel", 1, 20, 500, 9, 29);
+        label.call("Select");
+        label.get("TextFrame").put("WordWrap", false);
+        selection.get("ShapeRange").get("TextFrame").get("TextRange").put("Text", "From where");
+        shapes.get("Title").get("TextFrame").get("TextRange").put("Text", "An item");
+        selection.call("Unselect");
+
+        EXPECT_EQ(window.get("ViewType").toLong(), view);
+        ASSERT_EQ(shapes.get("Count").toLong(), 3) << view;
+        EXPECT_NEAR(shapes.get("Item", 2).get("Height").toDouble(), 240, 0.5) << view;
+        EXPECT_NEAR(shapes.get("Item", 2).get("Left").toDouble(), 100, 0.5) << view;
+        EXPECT_GT(shapes.get("Item", 3).get("Width").toDouble(), 30) << view;
+    }
+    EXPECT_EQ(slides.get("Count").toLong(), place);
+}
+
+}  // namespace
+
+}  // namespace live
