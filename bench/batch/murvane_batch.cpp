@@ -66,17 +66,14 @@ BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, const std::strin
     // Charts only, as the bare program takes them.
     for (auto& row : list.rows) row.checked = row.isEmbeddedChart() && !row.isChartSheet();
     session.SessionPresentation = deck;
-    session.slideTitle = true;
-    session.sourceInc = true;
 
     BatchCost cost;
     const std::uint64_t callsBefore = suite.remoteCalls();
     const auto start = std::chrono::steady_clock::now();
     const catalogue::ExportChoices choices;
-    powerpoint::Batch batch{session, list, choices, {}};
-    powerpoint::ExportRowsAsPictures(batch);
+    powerpoint::Batch batch{session, list, choices, {}, {.titles = true, .sourceLine = true}};
+    cost.items = powerpoint::ExportRowsAsPictures(batch);
     cost.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    cost.items = session.CheckedCount;
     cost.secondsOfItems = progress.secondsOfItems();
     cost.remoteCalls = suite.remoteCalls() - callsBefore;
 

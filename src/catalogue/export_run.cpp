@@ -33,13 +33,11 @@ std::vector<TakenRow> takeRows(session::OfficeSession& session, const ExportList
     }
     // A sheet that has gone is passed over; a workbook that has gone ends the export here.
     if (isAnyPassedOver) static_cast<void>(session.ActiveBook.get("Name"));
-    session.CheckedCount = static_cast<std::int16_t>(taken.size());
     return taken;
 }
 
-void ProgressStep(session::OfficeSession& session) {
-    ++session.ProgressCount;
-    session.progress.showItem(session.ProgressCount, session.CheckedCount);
+void ProgressStep(session::OfficeSession& session, std::int32_t item, std::int32_t total) {
+    session.progress.showItem(item, total);
     session.host.letEventsRun();
 }
 

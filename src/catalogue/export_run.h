@@ -25,13 +25,12 @@ struct TakenRow {
 [[nodiscard]] std::int32_t slideNumberOf(std::string_view text);
 
 /// The rows that an export takes, in display order: those checked and on a visible sheet and, where
-/// slides are predefined, with a slide number. Sets `CheckedCount` to their number. A failure if
-/// the workbook has gone.
+/// slides are predefined, with a slide number. A failure if the workbook has gone.
 [[nodiscard]] std::vector<TakenRow> takeRows(session::OfficeSession& session,
                                              const ExportList& list, const ExportChoices& choices);
 
-/// One item further: counts it, shows it and lets events run.
-void ProgressStep(session::OfficeSession& session);
+/// Shows that the export is at its item `item` of `total`, and lets events run.
+void ProgressStep(session::OfficeSession& session, std::int32_t item, std::int32_t total);
 
 /// Lets both applications draw again, failures ignored, and lets events run.
 void RestoreScreenUpdating(session::OfficeSession& session);

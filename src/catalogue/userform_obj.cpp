@@ -138,8 +138,7 @@ void UserformObj::listChartsShowPreview() {
 
 void UserformObj::Form_Unload() {
     session_.MainFormOpen = false;
-    session_.ActiveBook = workbook_;
-    session::SaveListToStore(session_, list_);
+    keepList();
     office::ContinueOnFailure scope;
     scope.attempt([this] { session_.ExcelApp.put("ScreenUpdating", true); });
     session_.PowerPointApp.release();
@@ -334,12 +333,19 @@ void UserformObj::imgChart_DblClick() {
     if (row == nullptr || !hooks_.InsertOneItem) return;
     // Inserting lets events run, and nothing may change the rows meanwhile.
     takesInput = false;
+    keepList();
     const bool inserted = [&] {
         const forms::Working working(desktop());
         return hooks_.InsertOneItem(*row, choices());
     }();
     takesInput = true;
     if (inserted) desktop().messageBox("Done!", "Murvane");
+}
+
+/// Also ahead of each export, which may end the program by a failure.
+void UserformObj::keepList() {
+    session_.ActiveBook = workbook_;
+    session::SaveListToStore(session_, list_);
 }
 
 void UserformObj::SlideTitle_Change() {

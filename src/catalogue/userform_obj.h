@@ -141,6 +141,7 @@ private:
     void renumberRows();
     void resizeColumns();
     void activateWorkbook();
+    void keepList();
 
     // Panels.
     [[nodiscard]] forms::Timer& timer(int index) {

@@ -10,7 +10,6 @@
 #include "catalogue/userform_obj.h"
 #include "office/failure_patterns.h"
 #include "session/powerpoint_session.h"
-#include "session/workbook_store.h"
 
 namespace catalogue {
 
@@ -107,8 +106,7 @@ void UserformObj::PasteIT_Click() {
     activateWorkbook();
     if (PreExportReview(session_, list_, choices()) != ReviewResult::Go) return;
 
-    // Whatever ends the export or the program, what the user has decided is in the workbook.
-    session::SaveListToStore(session_, list_);
+    keepList();
     if (hooks_.StartExport && hooks_.StartExport(list_, choices())) return;
     static constexpr std::array<std::string_view, 5> names = {"PowerPoint", "Word", "HTML", "PDF",
                                                               "image files"};

@@ -32,13 +32,13 @@ void RaiseMainForm(forms::Desktop& desktop) {
     if (forms::Form* main = desktop.findLoaded(mainForm)) main->topmost = true;
 }
 
-void RunExport(session::OfficeSession& session, forms::Form& dialog,
+void RunExport(session::OfficeSession& session, forms::Form& dialog, std::int32_t total,
                const std::function<void()>& batch) {
     forms::Desktop& desktop = dialog.desktop();
     desktop.unload(dialog);
     desktop.letEventsRun();
     if (forms::Form* main = desktop.findLoaded(mainForm)) main->takesInput = false;
-    session.progress.showItem(0, session.CheckedCount);
+    session.progress.showItem(0, total);
     batch();
     CloseAllAndEnd(session, desktop);
 }

@@ -19,10 +19,11 @@ bool DropTopmost(forms::Desktop& desktop);
 /// Gives the main form its topmost mark back, if it is still loaded.
 void RaiseMainForm(forms::Desktop& desktop);
 
-/// What the button of an options dialog leads to: the dialog gives way to the progress form,
-/// `batch` runs, and the session ends by `CloseAllAndEnd`. The main form takes no input meanwhile:
-/// the batch reads its rows while it lets events run. Failures of the batch go to the caller.
-void RunExport(session::OfficeSession& session, forms::Form& dialog,
+/// What the button of an options dialog leads to: the dialog gives way to the progress form with
+/// its `total` of items, `batch` runs, and the session ends by `CloseAllAndEnd`. The main form
+/// takes no input meanwhile: the batch reads its rows while it lets events run. Failures of the
+/// batch go to the caller.
+void RunExport(session::OfficeSession& session, forms::Form& dialog, std::int32_t total,
                const std::function<void()>& batch);
 
 /// The end after an export: unloads the main form, which saves its list, then all others, and lets

@@ -7,7 +7,6 @@
 
 #include "catalogue/export_run.h"
 #include "office/failure_patterns.h"
-#include "powerpoint/picture_styles.h"
 #include "powerpoint/placement.h"
 #include "session/powerpoint_session.h"
 #include "session/window_helpers.h"
@@ -29,15 +28,16 @@ public:
     BatchFrame(Batch& batch, const BatchRoute& route)
         : batch_(batch),
           session_(batch.session),
-          route_(route) {}
+          route_(route),
+          pictureStyle_(batch.options.pictureStyle) {}
 
-    void run();
+    std::int32_t run();
 
 private:
     void prepare();
     void exportRow(const TakenRow& taken);
-    void showSlideOf(const TakenRow& taken);
-    void finishItem(const ExportItem& row, bool isThere);
+    [[nodiscard]] std::int32_t showSlideOf(const TakenRow& taken);
+    void finishItem(const ExportItem& row, std::int32_t slide, bool isThere);
     void styleLastShape(const Object& shapes);
     void removeSlidesLeft();
     void putBack();
@@ -48,11 +48,15 @@ private:
     std::vector<TakenRow> rows_;
     Object slides_;
     Object window_;
+    std::int32_t viewType_ = 0;
+    std::int32_t slidesAtStart_ = 0;
+    std::int16_t pictureStyle_;
+    TitlePlace title_;
     /// Rows that have had their turn, also those that failed.
     std::int32_t done_ = 0;
 };
 
-void BatchFrame::run() {
+std::int32_t BatchFrame::run() {
     prepare();
     for (const TakenRow& taken : rows_) {
         if (session_.progress.cancelled()) break;
@@ -63,22 +67,23 @@ void BatchFrame::run() {
     if (done_ < total) removeSlidesLeft();
     session_.ExcelApp.put("ScreenUpdating", true);
     putBack();
-    if (done_ == total) return;
+    if (done_ == total) return done_;
     session::ShowNotice(
         session_.notices,
         fmt::format("The export was cancelled: {} of {} items were exported.", done_, total),
         "Murvane", "info", session::buttons::okOnly);
+    return done_;
 }
 
 void BatchFrame::prepare() {
-    session::PrepareSlideView(session_);
+    viewType_ = session::PrepareSlideView(session_);
     slides_ = session_.SessionPresentation.get("Slides").toObject();
     window_ = session::PresentationWindow(session_);
     rows_ = catalogue::takeRows(session_, batch_.list, batch_.choices);
-    session_.SlideCountAtStart = slides_.get("Count").toLong();
+    slidesAtStart_ = slides_.get("Count").toLong();
     if (!batch_.choices.predefinedSlides) {
         for (std::size_t i = 0; i < rows_.size(); ++i) {
-            slides_.call("Add", session_.SlideCountAtStart + 1, titleOnlyLayout);
+            slides_.call("Add", slidesAtStart_ + 1, titleOnlyLayout);
         }
     }
     session::SetExcelWindow(session_, session::ExcelWindow::Normal);
@@ -91,9 +96,9 @@ void BatchFrame::exportRow(const TakenRow& taken) {
     const ExportItem& row = batch_.list.rows[taken.index];
     batch_.list.selected = static_cast<std::ptrdiff_t>(taken.index);
     const auto work = [&] {
-        showSlideOf(taken);
-        catalogue::ProgressStep(session_);
-        finishItem(row, route_.insertItem(batch_, row, session_.CurrentSlideIndex));
+        const std::int32_t slide = showSlideOf(taken);
+        catalogue::ProgressStep(session_, done_ + 1, static_cast<std::int32_t>(rows_.size()));
+        finishItem(row, slide, route_.insertItem(batch_, row, slide));
         window_.get("Selection").call("Unselect");
     };
     if (!batch_.onFailedItem) {
@@ -104,46 +109,44 @@ void BatchFrame::exportRow(const TakenRow& taken) {
     if (!scope.attempt(work)) batch_.onFailedItem(row, *scope.lastFailure());
 }
 
-void BatchFrame::showSlideOf(const TakenRow& taken) {
+std::int32_t BatchFrame::showSlideOf(const TakenRow& taken) {
     if (batch_.choices.predefinedSlides) {
         slides_.get("Item", taken.slide).call("Select");
-        session_.CurrentSlideIndex = static_cast<std::int16_t>(taken.slide);
-    } else {
-        const std::int32_t slide = session_.SlideCountAtStart + done_ + 1;
-        window_.get("View").call("GotoSlide", slide);
-        session_.CurrentSlideIndex = static_cast<std::int16_t>(slide);
+        return taken.slide;
     }
+    const std::int32_t slide = slidesAtStart_ + done_ + 1;
+    window_.get("View").call("GotoSlide", slide);
+    return slide;
 }
 
 /// An item that isn't there leaves the slide's other shapes as they are.
-void BatchFrame::finishItem(const ExportItem& row, bool isThere) {
-    const Object shapes =
-        slides_.get("Item", std::int32_t{session_.CurrentSlideIndex}).get("Shapes").toObject();
-    if (isThere && !session_.DefaultPlacement) PlaceLastShape(session_);
+void BatchFrame::finishItem(const ExportItem& row, std::int32_t slide, bool isThere) {
+    const SlideOptions& options = batch_.options;
+    const Object shapes = slides_.get("Item", slide).get("Shapes").toObject();
+    if (isThere && options.placesShapes) PlaceLastShape(session_, shapes, title_);
     if (isThere) styleLastShape(shapes);
-    if (session_.sourceInc) AddSourceLine(session_);
-    if (session_.slideTitle) {
+    if (options.sourceLine) AddSourceLine(session_, shapes);
+    if (options.titles) {
         shapes.get("Title").get("TextFrame").get("TextRange").put("Text", row.caption);
     }
-    if (isThere && session_.checkShadow) {
+    if (isThere && options.shadow) {
         // The option has no look of its own: it sets the style for the rest of the batch. Coming
         // after the source line, it gives the shadow to that one where there is one.
-        session_.PictureStyle = style::shadow;
+        pictureStyle_ = style::shadow;
         styleLastShape(shapes);
     }
 }
 
 void BatchFrame::styleLastShape(const Object& shapes) {
-    if (session_.PictureStyle == style::none) return;
-    ApplyPictureStyle(session_.PictureStyle,
-                      shapes.get("Item", shapes.get("Count").toLong()).toObject());
+    if (pictureStyle_ == style::none) return;
+    ApplyPictureStyle(pictureStyle_, shapes.get("Item", shapes.get("Count").toLong()).toObject());
 }
 
 /// The new slides of a cancelled batch that no item has come to.
 void BatchFrame::removeSlidesLeft() {
     if (batch_.choices.predefinedSlides) return;
     for (auto left = static_cast<std::int32_t>(rows_.size()); left > done_; --left) {
-        slides_.get("Item", session_.SlideCountAtStart + left).call("Delete");
+        slides_.get("Item", slidesAtStart_ + left).call("Delete");
     }
 }
 
@@ -155,13 +158,13 @@ void BatchFrame::putBack() {
     // A blanket repair of whatever copying has left hidden.
     scope.attempt(
         [&] { session_.ExcelApp.get("Rows", "1:500000").get("EntireRow").put("Hidden", false); });
-    scope.attempt([&] { window_.put("ViewType", std::int32_t{session_.SavedViewType}); });
+    scope.attempt([&] { window_.put("ViewType", viewType_); });
 }
 
 }  // namespace
 
-void RunBatch(Batch& batch, const BatchRoute& route) {
-    BatchFrame(batch, route).run();
+std::int32_t RunBatch(Batch& batch, const BatchRoute& route) {
+    return BatchFrame(batch, route).run();
 }
 
 }  // namespace powerpoint

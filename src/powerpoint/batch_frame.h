@@ -5,9 +5,20 @@
 
 #include "catalogue/export_list.h"
 #include "office/failure.h"
+#include "powerpoint/picture_styles.h"
 #include "session/office_session.h"
 
 namespace powerpoint {
+
+/// How items are put on slides.
+struct SlideOptions {
+    bool titles = false;      ///< captions become slide titles
+    bool sourceLine = false;  ///< a line with the workbook's path
+    bool shadow = false;      ///< for the last shape of each slide
+    std::int16_t pictureStyle = style::none;
+    /// By the placement in the store; otherwise shapes stay as they are inserted.
+    bool placesShapes = false;
+};
 
 /// What a batch works on. It goes to the session's presentation, whichever the user looks at
 /// meanwhile.
@@ -19,6 +30,7 @@ struct Batch {
     /// none, the failure goes to the caller.
     std::function<void(const catalogue::ExportItem& row, const office::Failure& failure)>
         onFailedItem;
+    SlideOptions options = {};
 };
 
 /// What tells the formats of a batch apart; the frame is the same for all.
@@ -26,14 +38,14 @@ struct BatchRoute {
     /// Takes Excel's drawing to the state that the items need, before the first one.
     std::function<void(Batch&)> prepareScreen;
     /// Puts the row's object on slide `slideIndex`. False if it isn't there and the user knows.
-    std::function<bool(Batch&, const catalogue::ExportItem& row, std::int16_t slideIndex)>
+    std::function<bool(Batch&, const catalogue::ExportItem& row, std::int32_t slideIndex)>
         insertItem;
 };
 
 /// Walks the taken rows in display order and brings each one to its slide: to new slides at the
 /// end, all added before the first item, or to the slides that the rows name. Each item is
-/// inserted, placed, styled and labelled by the options in the session. The row at hand is the
-/// list's selected one.
+/// inserted, placed, styled and labelled by the options. The row at hand is the list's selected
+/// one. Returns how many have had their turn.
 ///
 /// When the user cancels, the batch ends after the item at hand: what was made stays, new slides
 /// without an item go, and a notice says how far it came.
@@ -41,6 +53,6 @@ struct BatchRoute {
 /// A failure up to the last row goes to the caller, or to `onFailedItem`, and nothing is taken
 /// back: the slides stay, and where the batch ends by it Excel's drawing stays as the route has
 /// left it. What puts the windows back afterwards ignores failures.
-void RunBatch(Batch& batch, const BatchRoute& route);
+std::int32_t RunBatch(Batch& batch, const BatchRoute& route);
 
 }  // namespace powerpoint

@@ -120,6 +120,7 @@ void LayoutForm::wireEvents() {
 
 void LayoutForm::Form_Load() {
     topmost = true;
+    isApplied_ = false;
     shadow_.emplace().Shadow(*this);
     const session::Placement stored = office::orElse(
         [&] { return session::readStoredPlacement(session_); }, session::Placement());
@@ -168,7 +169,7 @@ void LayoutForm::CloseLayout_Click() {
                                                scope.lastFailure()->description()));
         return;
     }
-    session_.DefaultPlacement = false;
+    isApplied_ = true;
     desktop().unload(*this);
 }
 

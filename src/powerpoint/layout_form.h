@@ -20,6 +20,8 @@ public:
     LayoutForm(forms::Desktop& desktop, session::OfficeSession& session);
 
     void Form_Load() override;
+    /// Whether the values have been written since the form was loaded.
+    [[nodiscard]] bool isApplied() const { return isApplied_; }
     /// Writes the values and unloads the form; where they can't be written a notice says why, and
     /// the form stays.
     void CloseLayout_Click();
@@ -51,6 +53,7 @@ private:
     void showValues();
 
     session::OfficeSession& session_;
+    bool isApplied_ = false;
     std::optional<furniture::clsShadow> shadow_;
 };
 

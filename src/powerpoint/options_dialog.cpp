@@ -91,7 +91,7 @@ Dialog::Dialog(forms::Desktop& theDesktop, session::OfficeSession& session,
 
 void Dialog::Form_Load() {
     topmost = true;
-    session_.DefaultPlacement = true;
+    options_ = {};
     // Slides that exist already have their titles.
     SlideTitle.enabled = !choices_.predefinedSlides;
     CreateBlankPPT.enabled = !choices_.predefinedSlides;
@@ -125,19 +125,21 @@ bool Dialog::findsPresentation() {
 
 /// Decides which presentation the export goes to, and tells the user.
 void Dialog::namePresentation(office::ContinueOnFailure& scope) {
-    scope.attempt([&] { static_cast<void>(catalogue::takeRows(session_, list_, choices_)); });
-    if (session_.CheckedCount < 1) {
+    taken_ = 0;
+    scope.attempt([&] {
+        taken_ = static_cast<std::int32_t>(catalogue::takeRows(session_, list_, choices_).size());
+    });
+    if (taken_ < 1) {
         ContinueOk.enabled = false;
         SetPanelMessage("No objects were selected for pasting", "warning");
         return;
     }
     scope.attempt([&] {
         session_.SessionPresentation = session_.PowerPointApp.get("ActivePresentation").toObject();
-        SetPanelMessage(
-            fmt::format("{} object(s) will be pasted to \r{}\ras {}", session_.CheckedCount,
-                        session_.SessionPresentation.get("Name").toText(),
-                        formatNames.at(static_cast<std::size_t>(choices_.format))),
-            "info");
+        SetPanelMessage(fmt::format("{} object(s) will be pasted to \r{}\ras {}", taken_,
+                                    session_.SessionPresentation.get("Name").toText(),
+                                    formatNames.at(static_cast<std::size_t>(choices_.format))),
+                        "info");
     });
 }
 
@@ -213,11 +215,12 @@ void Dialog::ToggleOption(std::string_view key) {
 void Dialog::RunPanelAction(std::string_view key) {
     const std::string lower = office::lowerCase(key);
     if (lower == "style") {
-        PredefinedStyles styles(desktop(), session_);
+        PredefinedStyles styles(desktop(), options_.pictureStyle);
         panels::ShowToolForm(styles);
     } else if (lower == "layout") {
         LayoutForm layout(desktop(), session_);
         panels::ShowToolForm(layout);
+        if (layout.isApplied()) options_.placesShapes = true;
     }
 }
 
@@ -234,15 +237,15 @@ void Dialog::ContinueOk_Click() {
         session::ShowWarningNotice(session_.notices, slideNumberTooHigh);
         return;
     }
-    session_.slideTitle = SlideTitle.isChecked();
-    session_.sourceInc = SourceInc.isChecked();
-    session_.checkShadow = CheckShadow.isChecked();
+    options_.titles = SlideTitle.isChecked();
+    options_.sourceLine = SourceInc.isChecked();
+    options_.shadow = CheckShadow.isChecked();
     if (choices_.format != ExportFormat::Pictures) {
         SetPanelMessage("This version of Murvane can't export in this format yet.", "warning");
         return;
     }
-    panels::RunExport(session_, *this, [this] {
-        Batch batch{session_, list_, choices_, {}};
+    panels::RunExport(session_, *this, taken_, [this] {
+        Batch batch{session_, list_, choices_, {}, options_};
         ExportRowsAsPictures(batch);
     });
 }

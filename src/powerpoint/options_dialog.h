@@ -12,6 +12,7 @@
 #include "furniture/title_bar.h"
 #include "office/failure_patterns.h"
 #include "panels/action_panel.h"
+#include "powerpoint/batch_frame.h"
 #include "session/office_session.h"
 
 namespace powerpoint {
@@ -65,6 +66,8 @@ private:
     session::OfficeSession& session_;
     catalogue::ExportList& list_;
     catalogue::ExportChoices choices_;
+    SlideOptions options_;
+    std::int32_t taken_ = 0;
     std::string message_;
     std::string kind_;
     std::optional<furniture::clsShadow> shadow_;

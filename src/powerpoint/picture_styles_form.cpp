@@ -46,7 +46,7 @@ std::array<forms::OptionButton, 6> optionsOf(forms::Form& form, forms::Frame& fr
 
 }  // namespace
 
-PredefinedStyles::PredefinedStyles(forms::Desktop& theDesktop, session::OfficeSession& session)
+PredefinedStyles::PredefinedStyles(forms::Desktop& theDesktop, std::int16_t& chosen)
     : Form(theDesktop, "PredefinedStyles", width, height),
       TitelBar1(*this, "TitelBar1", {0, 0, width, 420}),
       Image1(*this, "Image1", {240, 600, 360, 360}),
@@ -55,7 +55,7 @@ PredefinedStyles::PredefinedStyles(forms::Desktop& theDesktop, session::OfficeSe
       Picture1(*this, "Picture1", {4110, 180, 3600, 2340}, &Frame3),
       OptionStyle(optionsOf(*this, Frame3)),
       Styles(*this, "Styles", {width - 240 - 1920, 4860, 1920, 480}),
-      session_(session) {
+      chosen_(chosen) {
     caption = "Murvane";
     escapeCloses = true;
     TitelBar1.caption = "Murvane";
@@ -82,7 +82,7 @@ void PredefinedStyles::Form_Load() {
 }
 
 void PredefinedStyles::OptionStyle_Click(int index) {
-    session_.PictureStyle = static_cast<std::int16_t>(index);
+    chosen_ = static_cast<std::int16_t>(index);
     const std::string_view sample = samples.at(static_cast<std::size_t>(index));
     Picture1.setPicture({.bytes = {}, .drawing = std::string(sample)});
     for (std::size_t i = 0; i < OptionStyle.size(); ++i) {

@@ -7,7 +7,6 @@
 #include "forms/form.h"
 #include "furniture/shadow.h"
 #include "furniture/title_bar.h"
-#include "session/office_session.h"
 
 namespace powerpoint {
 
@@ -15,7 +14,8 @@ namespace powerpoint {
 /// counts from the click on, and the form begins without a style each time it opens.
 class PredefinedStyles : public forms::Form {
 public:
-    PredefinedStyles(forms::Desktop& desktop, session::OfficeSession& session);
+    /// `chosen` is one of `style`.
+    PredefinedStyles(forms::Desktop& desktop, std::int16_t& chosen);
 
     void Form_Load() override;
     void OptionStyle_Click(int index);
@@ -31,7 +31,7 @@ public:
     forms::CommandButton Styles;
 
 private:
-    session::OfficeSession& session_;
+    std::int16_t& chosen_;
     std::optional<furniture::clsShadow> shadow_;
 };
 

@@ -19,7 +19,7 @@ using office::arg;
 using office::Object;
 using session::OfficeSession;
 
-void insertPictureFile(OfficeSession& session, const std::string& file, std::int16_t slideIndex,
+void insertPictureFile(OfficeSession& session, const std::string& file, std::int32_t slideIndex,
                        std::string_view description) {
     constexpr std::int32_t noLink = 0;
     constexpr std::int32_t saveWithDocument = -1;
@@ -27,7 +27,7 @@ void insertPictureFile(OfficeSession& session, const std::string& file, std::int
 
     const Object picture =
         session.SessionPresentation.get("Slides")
-            .get("Item", std::int32_t{slideIndex})
+            .get("Item", slideIndex)
             .get("Shapes")
             .call("AddPicture", file, noLink, saveWithDocument, 0, 0, naturalSize, naturalSize)
             .toObject();
@@ -70,16 +70,16 @@ void exportChart(const Object& chart, const std::string& file) {
 
 }  // namespace
 
-void ExportRowsAsPictures(Batch& batch) {
+std::int32_t ExportRowsAsPictures(Batch& batch) {
     BatchRoute route;
     route.prepareScreen = [](Batch& b) { b.session.ExcelApp.put("ScreenUpdating", false); };
-    route.insertItem = [](Batch& b, const ExportItem& row, std::int16_t slideIndex) {
+    route.insertItem = [](Batch& b, const ExportItem& row, std::int32_t slideIndex) {
         return InsertPicture(b.session, row, slideIndex);
     };
-    RunBatch(batch, route);
+    return RunBatch(batch, route);
 }
 
-bool InsertPicture(OfficeSession& session, const ExportItem& row, std::int16_t slideIndex) {
+bool InsertPicture(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex) {
     const auto temporaryFile = [&](std::string_view kind, std::string_view name) {
         return session.host.temporaryFile(
             fmt::format("{}_{}.png", kind, session::safeFileName(name)));
@@ -127,11 +127,11 @@ bool InsertOneItem(OfficeSession& session, const ExportItem& row,
         return false;
     }
     office::ContinueOnFailure scope;
+    std::int32_t slide = 0;
     const bool slideIsShown = scope.attempt([&] {
         const Object& app = session.PowerPointApp;
         session.SessionPresentation = app.get("ActivePresentation").toObject();
-        session.CurrentSlideIndex = static_cast<std::int16_t>(
-            app.get("ActiveWindow").get("View").get("Slide").get("SlideIndex").toLong());
+        slide = app.get("ActiveWindow").get("View").get("Slide").get("SlideIndex").toLong();
     });
     if (!slideIsShown) {
         session::ShowWarningNotice(
@@ -141,7 +141,7 @@ bool InsertOneItem(OfficeSession& session, const ExportItem& row,
     }
     scope.attempt([&] { session::SetExcelWindow(session, session::ExcelWindow::Normal); });
     bool isThere = false;
-    if (!scope.attempt([&] { isThere = InsertPicture(session, row, session.CurrentSlideIndex); })) {
+    if (!scope.attempt([&] { isThere = InsertPicture(session, row, slide); })) {
         session::ShowWarningNotice(session.notices, scope.lastFailure()->description());
     }
     return isThere;

@@ -8,8 +8,8 @@
 /// inserted into the session's presentation, and the file is deleted.
 namespace powerpoint {
 
-/// Exports the taken rows as pictures. Failures as with `RunBatch`.
-void ExportRowsAsPictures(Batch& batch);
+/// Exports the taken rows as pictures. Result and failures as with `RunBatch`.
+std::int32_t ExportRowsAsPictures(Batch& batch);
 
 /// Puts one row's object on slide `slideIndex` (from 1) of the session's presentation. The
 /// picture's alternative text is the row's caption, or the object's own name where that is empty.
@@ -17,7 +17,7 @@ void ExportRowsAsPictures(Batch& batch);
 ///
 /// The file of a chart sheet's picture stays, and the next chart sheet's overwrites it.
 bool InsertPicture(session::OfficeSession& session, const catalogue::ExportItem& row,
-                   std::int16_t slideIndex);
+                   std::int32_t slideIndex);
 
 /// Puts one row on the slide in view of the active presentation, whether it is checked or not. True
 /// if it is there; otherwise a notice has said why not.

@@ -35,19 +35,12 @@ SlideSize slideSizeOf(const Object& presentation) {
     return {setup.get("SlideWidth").toDouble(), setup.get("SlideHeight").toDouble()};
 }
 
-Object shapesOfSlide(const OfficeSession& session) {
-    return session.SessionPresentation.get("Slides")
-        .get("Item", std::int32_t{session.CurrentSlideIndex})
-        .get("Shapes")
-        .toObject();
-}
-
 /// The title of the slide being worked on; one that has none keeps what the slide before had.
-void readTitle(OfficeSession& session, const Object& shapes) {
+void readTitle(const Object& shapes, TitlePlace& place) {
     if (!shapes.get("HasTitle").toBool()) return;
     const Object title = shapes.get("Title").toObject();
-    session.TitleTop = title.get("Top").toDouble();
-    session.TitleHeight = title.get("Height").toDouble();
+    place.topPt = title.get("Top").toDouble();
+    place.heightPt = title.get("Height").toDouble();
 }
 
 /// Half of a length in whole points: the length is rounded to whole points first (halves to the
@@ -56,10 +49,9 @@ double halfInWholePoints(double lengthPt) {
     return std::trunc(std::nearbyint(lengthPt) / 2);
 }
 
-double topOf(const session::Placement& placement, const OfficeSession& session,
-             const SlideSize& slide) {
+double topOf(const session::Placement& placement, const TitlePlace& title, const SlideSize& slide) {
     const double topPt = placement.top ? *placement.top * slide.heightPt
-                                       : (session.TitleTop + session.TitleHeight) * titleClearance;
+                                       : (title.topPt + title.heightPt) * titleClearance;
     return std::clamp(topPt, 0.0, slide.heightPt * (bottomShare - smallestShare));
 }
 
@@ -118,30 +110,27 @@ void FitPictureToSlide(const Object& picture, const Object& presentation) {
     picture.put("Top", (slide.heightPt - heightPt) / 2);
 }
 
-void PlaceLastShape(OfficeSession& session) {
+void PlaceLastShape(OfficeSession& session, const Object& shapes, TitlePlace& title) {
     if (!session::SheetExists(session, session::store::sheetName)) return;
     {
         const session::PowerPointWindowLockScope lock(session);
         const SlideSize slide = slideSizeOf(session.SessionPresentation);
-        const Object shapes = shapesOfSlide(session);
         // What can't be read is left to the program's choice.
         office::ContinueOnFailure scope;
         session::Placement placement;
         scope.attempt([&] { placement = session::readStoredPlacement(session); });
-        scope.attempt([&] { readTitle(session, shapes); });
+        scope.attempt([&] { readTitle(shapes, title); });
         moveShape(shapes.get("Item", shapes.get("Count").toLong()).toObject(),
-                  topOf(placement, session, slide), placement, slide);
+                  topOf(placement, title, slide), placement, slide);
     }
     session.suite.clearClipboard();
 }
 
-void AddSourceLine(OfficeSession& session) {
+void AddSourceLine(OfficeSession& session, const Object& shapes) {
     const std::string path = session.ActiveBook.get("FullName").toText();
     // The place is fixed, whatever the slide's size.
-    const Object frame = shapesOfSlide(session)
-                             .call("AddLabel", 1, 20.25, 518.0, 8.5, 28.875)
-                             .get("TextFrame")
-                             .toObject();
+    const Object frame =
+        shapes.call("AddLabel", 1, 20.25, 518.0, 8.5, 28.875).get("TextFrame").toObject();
     // Without wrapping the label grows from its narrow start to the length of the path.
     frame.put("WordWrap", false);
     const Object text = frame.get("TextRange").toObject();

@@ -11,14 +11,21 @@ namespace powerpoint {
 /// height, each on its own, to nine tenths of the slide's. A smaller picture is never enlarged.
 void FitPictureToSlide(const office::Object& picture, const office::Object& presentation);
 
-/// Moves and sizes the last shape of slide `CurrentSlideIndex` as the store of the workbook says:
-/// below the slide's title where it leaves the top open, and always so that the shape stays
-/// visible. The clipboard is empty afterwards. Does nothing without a store; failures go to the
-/// caller.
-void PlaceLastShape(session::OfficeSession& session);
+/// The title of a slide, in points. A slide without one takes that of the slide before.
+struct TitlePlace {
+    double topPt = 0;
+    double heightPt = 0;
+};
 
-/// Writes the workbook's full path in small grey letters on slide `CurrentSlideIndex`.
-/// Failures go to the caller.
-void AddSourceLine(session::OfficeSession& session);
+/// Moves and sizes the last of a slide's shapes as the store of the workbook says: below the
+/// slide's title where it leaves the top open, and always so that the shape stays visible. `title`
+/// is that of the slide before and becomes that of this one. The clipboard is empty afterwards.
+/// Does nothing without a store; failures go to the caller.
+void PlaceLastShape(session::OfficeSession& session, const office::Object& shapes,
+                    TitlePlace& title);
+
+/// Writes the workbook's full path in small grey letters below a slide's shapes. Failures go to the
+/// caller.
+void AddSourceLine(session::OfficeSession& session, const office::Object& shapes);
 
 }  // namespace powerpoint

@@ -9,16 +9,12 @@ namespace session {
 
 namespace {
 
-constexpr std::int16_t normalView = 9;
+constexpr std::int32_t normalView = 9;
 
 void endShow(OfficeSession& session, const office::Object& presentation) {
     if (session.PowerPointApp.get("SlideShowWindows").get("Count").toLong() > 0) {
         presentation.get("SlideShowWindow").get("View").call("Exit");
     }
-}
-
-void noteView(OfficeSession& session, const office::Object& window) {
-    session.SavedViewType = static_cast<std::int16_t>(window.get("ViewType").toLong());
 }
 
 }  // namespace
@@ -41,23 +37,24 @@ void RaisePresentation(OfficeSession& session) {
     BringWindowToFront(session, caption, window, showNormal);
 }
 
-void PrepareSlideView(OfficeSession& session) {
+std::int32_t PrepareSlideView(OfficeSession& session) {
     office::ContinueOnFailure scope;
-    session.ProgressCount = 0;
     scope.attempt([&] { session.suite.clearClipboard(); });
     scope.attempt([&] { endShow(session, session.SessionPresentation); });
-    scope.attempt([&] { noteView(session, PresentationWindow(session)); });
+    return scope.read([&] { return PresentationWindow(session).get("ViewType").toLong(); }, 0);
 }
 
-void ExitShowNormalView(OfficeSession& session) {
+std::int32_t ExitShowNormalView(OfficeSession& session) {
     office::ContinueOnFailure scope;
     const office::Object& app = session.PowerPointApp;
     scope.attempt([&] { session.suite.clearClipboard(); });
     scope.attempt([&] { endShow(session, app.get("ActivePresentation").toObject()); });
-    scope.attempt([&] { noteView(session, app.get("ActiveWindow").toObject()); });
-    if (session.SavedViewType != normalView) {
-        scope.attempt([&] { app.get("ActiveWindow").put("ViewType", int{normalView}); });
+    const std::int32_t found =
+        scope.read([&] { return app.get("ActiveWindow").get("ViewType").toLong(); }, 0);
+    if (found != normalView) {
+        scope.attempt([&] { app.get("ActiveWindow").put("ViewType", normalView); });
     }
+    return found;
 }
 
 }  // namespace session

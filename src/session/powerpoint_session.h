@@ -15,12 +15,13 @@ void AttachPowerPoint(OfficeSession& session);
 /// Brings that window to the front, by its caption. Nothing moves where there is none.
 void RaisePresentation(OfficeSession& session);
 
-/// Ahead of a batch: no progress yet, an empty clipboard, no running show; notes the view type and
-/// leaves it alone, since a batch works in whatever view the user has. Failures are passed over.
-void PrepareSlideView(OfficeSession& session);
+/// Ahead of a batch: an empty clipboard and no running show. Returns the view type, 0 if it can't
+/// be read, and leaves it alone, since a batch works in whatever view the user has. Failures are
+/// passed over.
+std::int32_t PrepareSlideView(OfficeSession& session);
 
-/// Ahead of a paste of the selection: an empty clipboard, no running show, and normal view; the
-/// view type found is noted. Failures are passed over.
-void ExitShowNormalView(OfficeSession& session);
+/// Ahead of a paste of the selection: an empty clipboard, no running show, and normal view. Returns
+/// the view type found, 0 if it can't be read. Failures are passed over.
+std::int32_t ExitShowNormalView(OfficeSession& session);
 
 }  // namespace session

@@ -401,6 +401,29 @@ TEST_F(TheMainForm, keepsItsListInTheWorkbookWhenItCloses) {
     EXPECT_FALSE(again.list().rows[1].checked);
 }
 
+TEST_F(TheMainForm, keepsItsListAheadOfWhatMayEndTheProgram) {
+    std::vector<std::string> stored;
+    const auto look = [&] {
+        stored.push_back(
+            test.sheet(session::store::sheetName).get("Range", "T1").get("Value").toText());
+    };
+    hooks.StartExport = [&](auto&, const auto&) {
+        look();
+        return true;
+    };
+    hooks.InsertOneItem = [&](const auto&, const auto&) {
+        look();
+        return false;
+    };
+    UserformObj form(desktop, test.session, hooks);
+    show(form);
+    form.SlideTitle.setText("First");
+    forms_double::press(form, "PasteIT");
+    form.SlideTitle.setText("Second");
+    form.imgChart.onDblClick();
+    EXPECT_EQ(stored, (std::vector<std::string>{"First", "Second"}));
+}
+
 TEST_F(TheMainForm, leavesTheStoredListAloneIfItsOwnNeverCameUp) {
     {
         UserformObj form(desktop, test.session, hooks);

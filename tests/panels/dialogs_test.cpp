@@ -55,10 +55,9 @@ TEST_F(ToolForms, AnExportEndsWithTheMainFormUnloadedAheadOfTheOthers) {
     session_doubles::TestSession test;
     test.suite.excel().addWorkbook("Book1.xlsx").sheet("Sales");
     test.attach();
-    test.session.CheckedCount = 3;
     test.session.MainFormOpen = true;
     for (Named* form : {&main, &tool, &dialog}) desktop.load(*form);
-    panels::RunExport(test.session, dialog, [&] {
+    panels::RunExport(test.session, dialog, 3, [&] {
         EXPECT_FALSE(desktop.isLoaded(dialog));
         EXPECT_FALSE(main.takesInput);
         EXPECT_EQ(test.progress.calls, std::vector<std::string>{"item 0 of 3"});

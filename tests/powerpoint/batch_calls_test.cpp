@@ -35,11 +35,11 @@ TEST_F(BatchCallsTest, AnItemCostsTheSameNumberOfCallsHoweverManyThereAre) {
 }
 
 TEST_F(BatchCallsTest, AnItemWithAllOptionsDoesSoToo) {
-    session.slideTitle = true;
-    session.sourceInc = true;
-    session.checkShadow = true;
-    session.PictureStyle = 1;
-    session.DefaultPlacement = false;
+    options.titles = true;
+    options.sourceLine = true;
+    options.shadow = true;
+    options.pictureStyle = 1;
+    options.placesShapes = true;
     storePlacement(0.3, 0.5, {});
     callsFor(1);  // From now on the shadow is the style.
     EXPECT_LE(callsAnItem(), 129U);

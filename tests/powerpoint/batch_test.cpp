@@ -63,7 +63,7 @@ TEST_F(BatchTest, RowsOnSheetsThatAreHiddenOrGoneTakeNoSlide) {
     exportRows();
     ASSERT_EQ(deck.slides().size(), 3U);
     EXPECT_EQ(picturesOn(3), Texts{"Chart 1"});
-    EXPECT_EQ(session.CheckedCount, 1);
+    EXPECT_EQ(done, 1);
 }
 
 TEST_F(BatchTest, PredefinedSlidesTakeWhatNamesThemAndRowsWithoutANumberAreSkipped) {
@@ -76,13 +76,13 @@ TEST_F(BatchTest, PredefinedSlidesTakeWhatNamesThemAndRowsWithoutANumberAreSkipp
     EXPECT_EQ(deck.slides().size(), 2U);
     EXPECT_EQ(picturesOn(2), (Texts{"Chart 1", "Chart 3"}));
     EXPECT_EQ(picturesOn(1), Texts{});
-    EXPECT_EQ(session.ProgressCount, 2);
+    EXPECT_EQ(done, 2);
     EXPECT_TRUE(notices.shown.empty());
 }
 
 TEST_F(BatchTest, PredefinedSlidesAreShownSoThatTheStyleMeetsTheirPictures) {
     choices.predefinedSlides = true;
-    session.PictureStyle = powerpoint::style::shadow;
+    options.pictureStyle = powerpoint::style::shadow;
     add(chartRow("Chart 1", "Sales", "2"));
     exportRows();
     EXPECT_TRUE(deck.slide(2).shapes().back()->hasShadow());
@@ -96,7 +96,7 @@ TEST_F(BatchTest, ASlideNumberBeyondTheEndFailsForTheCaller) {
 }
 
 TEST_F(BatchTest, TitlesAreTheCaptions) {
-    session.slideTitle = true;
+    options.titles = true;
     add(chartRow("Chart 1", "Sales", "", "North"));
     add(chartRow("Chart 2", "Sales"));
     exportRows();
@@ -106,16 +106,16 @@ TEST_F(BatchTest, TitlesAreTheCaptions) {
 
 TEST_F(BatchTest, ATitleForASlideWithoutOneFailsForTheCaller) {
     choices.predefinedSlides = true;
-    session.slideTitle = true;
+    options.titles = true;
     deck.addSlide(Layout::Blank);
     add(chartRow("Chart 1", "Sales", "3", "North"));
     EXPECT_THROW(exportRows(), office::Failure);
 }
 
 TEST_F(BatchTest, AMissingRangeGetsItsNoticeAndItsTitleAndMovesNothingElse) {
-    session.slideTitle = true;
-    session.DefaultPlacement = false;
-    session.PictureStyle = powerpoint::style::shadow;
+    options.titles = true;
+    options.placesShapes = true;
+    options.pictureStyle = powerpoint::style::shadow;
     storePlacement(0.5, 0.25, 0.1);
     add(rangeRow("Nowhere", "Sales", "", "Lost"));
     add(chartRow("Chart 1", "Sales"));
@@ -128,8 +128,8 @@ TEST_F(BatchTest, AMissingRangeGetsItsNoticeAndItsTitleAndMovesNothingElse) {
 }
 
 TEST_F(BatchTest, AStyleGoesToThePictureAheadOfTheSourceLine) {
-    session.PictureStyle = powerpoint::style::shadow;
-    session.sourceInc = true;
+    options.pictureStyle = powerpoint::style::shadow;
+    options.sourceLine = true;
     add(chartRow("Chart 1", "Sales"));
     exportRows();
     const auto& shapes = deck.slide(3).shapes();
@@ -139,8 +139,8 @@ TEST_F(BatchTest, AStyleGoesToThePictureAheadOfTheSourceLine) {
 }
 
 TEST_F(BatchTest, TheShadowOptionReplacesTheStyleAfterTheFirstItem) {
-    session.PictureStyle = powerpoint::style::roundedCorners;
-    session.checkShadow = true;
+    options.pictureStyle = powerpoint::style::roundedCorners;
+    options.shadow = true;
     add(chartRow("Chart 1", "Sales"));
     add(chartRow("Chart 2", "Sales"));
     exportRows();
@@ -151,12 +151,11 @@ TEST_F(BatchTest, TheShadowOptionReplacesTheStyleAfterTheFirstItem) {
     EXPECT_EQ(typeOf(4), 1);
     EXPECT_TRUE(deck.slide(3).shapes().back()->hasShadow());
     EXPECT_TRUE(deck.slide(4).shapes().back()->hasShadow());
-    EXPECT_EQ(session.PictureStyle, powerpoint::style::shadow);
 }
 
 TEST_F(BatchTest, WithASourceLineTheShadowOptionMeetsThatOneAndLaterPictures) {
-    session.sourceInc = true;
-    session.checkShadow = true;
+    options.sourceLine = true;
+    options.shadow = true;
     add(chartRow("Chart 1", "Sales"));
     add(chartRow("Chart 2", "Sales"));
     exportRows();
@@ -173,7 +172,7 @@ TEST_F(BatchTest, TheUsersPlacementIsUsedOnlyWhenItWasConfirmed) {
     add(chartRow("Chart 1", "Sales"));
     exportRows();
     EXPECT_NE(deck.slide(3).shapes().back()->box().left, 96);
-    session.DefaultPlacement = false;
+    options.placesShapes = true;
     exportRows();
     EXPECT_DOUBLE_EQ(deck.slide(4).shapes().back()->box().left, 96);
     EXPECT_DOUBLE_EQ(deck.slide(4).shapes().back()->box().top, 270);
@@ -214,7 +213,7 @@ TEST_F(BatchTest, EachItemMovesTheProgress) {
 
 TEST_F(BatchTest, ACancelledBatchEndsAfterTheItemAtHandAndLeavesNoEmptySlides) {
     for (const char* name : {"Chart 1", "Chart 2", "Chart 3"}) add(chartRow(name, "Sales"));
-    host.onEvents = [this] { progress.isCancelled = session.ProgressCount == 2; };
+    host.onEvents = [this] { progress.isCancelled = progress.calls.size() == 2; };
     exportRows();
     ASSERT_EQ(deck.slides().size(), 4U);
     EXPECT_EQ(picturesOn(3), Texts{"Chart 1"});

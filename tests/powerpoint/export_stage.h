@@ -87,8 +87,8 @@ protected:
 
     void exportRows() {
         suite.log().clear();
-        powerpoint::Batch batch{session, list, choices, {}};
-        powerpoint::ExportRowsAsPictures(batch);
+        powerpoint::Batch batch{session, list, choices, {}, options};
+        done = powerpoint::ExportRowsAsPictures(batch);
     }
 
     /// Names of the shapes on a slide apart from its placeholders.
@@ -115,6 +115,8 @@ protected:
     session::OfficeSession session{suite, host, notices, progress};
     catalogue::ExportList list;
     catalogue::ExportChoices choices;
+    powerpoint::SlideOptions options;
+    std::int32_t done = 0;
 };
 
 }  // namespace stage

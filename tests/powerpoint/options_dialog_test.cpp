@@ -196,9 +196,14 @@ TEST_F(PowerPointDialog, ExportsToThePresentationThatItNamesWhateverTheUserLooks
     auto& other = suite.powerPoint().addPresentation("Other.pptx").addSlides(1);
     suite.powerPoint().activate(deck);
     storePlacement(0.5, 0.25, 0.1);
-    session.PictureStyle = powerpoint::style::shadow;
     open([&](powerpoint::Dialog& dialog) {
-        session.DefaultPlacement = false;
+        desktop.answer("PredefinedStyles", [](forms::Form& form) {
+            forms_double::choose(form, "OptionStyle", powerpoint::style::shadow);
+            press(form, "Styles");
+        });
+        desktop.answer("LayoutForm", [](forms::Form& form) { press(form, "CloseLayout"); });
+        dialog.RunPanelAction("style");
+        dialog.RunPanelAction("layout");
         for (const char* option : {"slideTitle", "sourceInc"}) dialog.ToggleOption(option);
         suite.powerPoint().activate(other);
         suite.excel().addWorkbook("Other.xlsx").sheet("Sheet1");
@@ -267,7 +272,6 @@ TEST_F(PowerPointDialog, LeavesAFailureOfTheBatchToItsCaller) {
 
 TEST_F(PowerPointDialog, GivesWayToTheMainFormWhenItIsClosed) {
     open([&](powerpoint::Dialog& dialog) {
-        EXPECT_TRUE(session.DefaultPlacement);
         forms_double::pressEscape(dialog);
         EXPECT_FALSE(desktop.isLoaded(dialog));
     });

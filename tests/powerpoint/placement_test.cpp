@@ -53,16 +53,18 @@ TEST_F(ExportStage, ACutPictureIsAsWideAsSinglePrecisionSays) {
 /// Slides of the stage: 960 by 540, title 27 to 129.6.
 class PlacementTest : public ExportStage {
 protected:
-    PlacementTest() {
-        deck.addSlides(1);
-        session.CurrentSlideIndex = 1;
-    }
+    PlacementTest() { deck.addSlides(1); }
 
     Shape& pictureOf(double width, double height) {
         return deck.slide(1).shape(Shape::Kind::Picture, "Picture", {0, 0, width, height});
     }
 
-    void place() { powerpoint::PlaceLastShape(session); }
+    [[nodiscard]] office::Object shapesOf(int slide) const {
+        return deck.handle().get("Slides").get("Item", slide).get("Shapes").toObject();
+    }
+    void place(int slide = 1) { powerpoint::PlaceLastShape(session, shapesOf(slide), title); }
+
+    powerpoint::TitlePlace title;
 };
 
 TEST_F(PlacementTest, WithoutAStoreNothingMoves) {
@@ -117,27 +119,24 @@ TEST_F(PlacementTest, PlacesAsTheStoreSaysAndKeepsTheShapeVisible) {
 TEST_F(PlacementTest, ASlideWithoutATitleInheritsTheTitleOfTheOneBefore) {
     storePlacement({}, {}, {});
     deck.addSlide(Layout::Blank);
-    session.CurrentSlideIndex = 2;
     Shape& atTheEdge = deck.slide(2).shape(Shape::Kind::Picture, "Picture", {0, 50, 240, 15});
-    place();
+    place(2);
     EXPECT_EQ(atTheEdge.box().top, 0) << "there was none before";
-    session.CurrentSlideIndex = 1;
     pictureOf(240, 15);
     place();
-    session.CurrentSlideIndex = 2;
-    place();
+    place(2);
     EXPECT_NEAR(atTheEdge.box().top, 136.08, 1e-9);
 }
 
 TEST_F(PlacementTest, AShapeThatCannotMoveFailsForTheCallerWithTheLockGivenBack) {
     storePlacement(0.5, 0.25, 0.1);
     pictureOf(480, 240).refuseChanges();
-    EXPECT_THROW(powerpoint::PlaceLastShape(session), office::Failure);
+    EXPECT_THROW(place(), office::Failure);
     EXPECT_EQ(suite.lockedWindow(), 0U);
 }
 
 TEST_F(PlacementTest, TheSourceLineNamesTheWorkbookAtItsFixedPlace) {
-    powerpoint::AddSourceLine(session);
+    powerpoint::AddSourceLine(session, shapesOf(1));
     const Shape& label = *deck.slide(1).shapes().back();
     EXPECT_EQ(label.text(), "/documents/Book1.xlsx");
     EXPECT_EQ(label.box().left, 20.25);

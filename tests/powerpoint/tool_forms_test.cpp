@@ -39,7 +39,8 @@ protected:
     session_doubles::TestSession test;
     forms_double::WindowlessDesktop desktop;
     powerpoint::LayoutForm layout{desktop, test.session};
-    powerpoint::PredefinedStyles styles{desktop, test.session};
+    std::int16_t chosenStyle = 0;
+    powerpoint::PredefinedStyles styles{desktop, chosenStyle};
 };
 
 /// What a group of the layout form shows: which option, and where the slider stands.
@@ -116,7 +117,7 @@ TEST_F(ToolForms, ApplyWritesTheStoreForTheExportsOfThisRun) {
     EXPECT_DOUBLE_EQ(stored("O1").toDouble(), 0.25);
     EXPECT_DOUBLE_EQ(stored("P1").toDouble(), 0.65);
     EXPECT_EQ(stored("R1").toText(), "Default");
-    EXPECT_FALSE(test.session.DefaultPlacement);
+    EXPECT_TRUE(layout.isApplied());
     EXPECT_FALSE(desktop.isLoaded(layout));
 }
 
@@ -128,7 +129,7 @@ TEST_F(ToolForms, ApplySaysWhyNothingWasKeptAndTheFormStays) {
     press(layout, "CloseLayout");
     ASSERT_EQ(test.notices.shown.size(), 1U);
     EXPECT_TRUE(test.notices.messages()[0].starts_with("The slide position could not be kept"));
-    EXPECT_TRUE(test.session.DefaultPlacement);
+    EXPECT_FALSE(layout.isApplied());
     EXPECT_TRUE(desktop.isLoaded(layout));
 }
 
@@ -146,7 +147,7 @@ TEST_F(ToolForms, ClosingWritesNothing) {
     forms_double::pressEscape(layout);
     EXPECT_FALSE(desktop.isLoaded(layout));
     EXPECT_EQ(stored("O1").toText(), "Default");
-    EXPECT_TRUE(test.session.DefaultPlacement);
+    EXPECT_FALSE(layout.isApplied());
 }
 
 TEST_F(ToolForms, TheUtilityMakesTheStoreAndShowsTheForm) {
@@ -180,18 +181,18 @@ std::vector<int> boldOnes(const powerpoint::PredefinedStyles& form) {
 TEST_F(ToolForms, StylesBeginWithNoneEachTimeAndKeepTheLastClick) {
     for (int i = 0; i < 2; ++i) {
         desktop.load(styles);
-        EXPECT_EQ(test.session.PictureStyle, 0);
+        EXPECT_EQ(chosenStyle, 0);
         EXPECT_EQ(boldOnes(styles), std::vector<int>{0});
         choose(styles, "OptionStyle", 4);
         EXPECT_EQ(boldOnes(styles), std::vector<int>{4});
         forms_double::close(styles);
-        EXPECT_EQ(test.session.PictureStyle, 4);
+        EXPECT_EQ(chosenStyle, 4);
     }
     desktop.load(styles);
     choose(styles, "OptionStyle", 2);
     press(styles, "Styles");
     EXPECT_FALSE(desktop.isLoaded(styles));
-    EXPECT_EQ(test.session.PictureStyle, 2);
+    EXPECT_EQ(chosenStyle, 2);
 }
 
 TEST_F(ToolForms, StylesStandFromRightToLeft) {

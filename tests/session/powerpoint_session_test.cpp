@@ -29,7 +29,6 @@ protected:
         test.session.SessionPresentation =
             test.session.PowerPointApp.get("ActivePresentation").toObject();
         window().put("ViewType", sorter);
-        test.session.ProgressCount = 4;
     }
 
     static constexpr int sorter = 7;
@@ -40,18 +39,14 @@ protected:
 };
 
 TEST_F(SlideView, OfABatchStaysAsTheUserHasIt) {
-    session::PrepareSlideView(test.session);
-    EXPECT_EQ(test.session.SavedViewType, sorter);
+    EXPECT_EQ(session::PrepareSlideView(test.session), sorter);
     EXPECT_EQ(viewType(), sorter);
-    EXPECT_EQ(test.session.ProgressCount, 0);
     EXPECT_EQ(test.suite.clipboardClears(), 1);
 }
 
 TEST_F(SlideView, OfASelectionPasteBecomesNormal) {
-    session::ExitShowNormalView(test.session);
-    EXPECT_EQ(test.session.SavedViewType, sorter);
+    EXPECT_EQ(session::ExitShowNormalView(test.session), sorter);
     EXPECT_EQ(viewType(), 9);
-    EXPECT_EQ(test.session.ProgressCount, 4);
 }
 
 TEST_F(SlideView, EndsARunningShow) {

@@ -107,6 +107,8 @@ int runCommandOn(forms::Desktop& desktop, const std::string& commandLine, Consol
     try {
         return session::Main(session, commandLine, windows.handlers());
     } catch (const office::Failure& failure) {
+        // The main form keeps its list in the workbook, unless that has gone with the suite.
+        if (dynamic_cast<const office::SuiteLost*>(&failure) == nullptr) desktop.unloadAll();
         // Whoever starts the program with a click sees no terminal.
         desktop.messageBox(unhandledFailureReport(failure), "Murvane");
         throw;

@@ -92,17 +92,16 @@ void storePlacement(session::OfficeSession& session, const Options& options) {
 }
 
 /// As the options dialog and its button do.
-void exportToSlides(powerpoint::Batch& batch, const Options& options) {
-    OfficeSession& session = batch.session;
-    session::AttachPowerPoint(session);
-    session.ExcelApp.put("DisplayAlerts", false);
-    session.slideTitle = options.titles;
-    session.sourceInc = options.source;
-    session.checkShadow = options.shadow;
-    session.PictureStyle = options.pictureStyle;
-    session.DefaultPlacement = !options.placesShapes();
-    if (options.placesShapes()) storePlacement(session, options);
-    powerpoint::ExportRowsAsPictures(batch);
+std::int32_t exportToSlides(powerpoint::Batch& batch, const Options& options) {
+    session::AttachPowerPoint(batch.session);
+    batch.session.ExcelApp.put("DisplayAlerts", false);
+    batch.options = {.titles = options.titles,
+                     .sourceLine = options.source,
+                     .shadow = options.shadow,
+                     .pictureStyle = options.pictureStyle,
+                     .placesShapes = options.placesShapes()};
+    if (options.placesShapes()) storePlacement(batch.session, options);
+    return powerpoint::ExportRowsAsPictures(batch);
 }
 
 std::string describe(const ExportItem& row, const office::Failure& failure) {
@@ -155,6 +154,8 @@ private:
     std::string bookName_;
     catalogue::ExportList list_;
     catalogue::ExportChoices choices_;
+    /// Items that have had their turn.
+    std::int32_t taken_ = 0;
     /// A line for each item that failed.
     std::vector<std::string> failures_;
 };
@@ -254,7 +255,7 @@ void Run::runBatch() {
         };
     }
     try {
-        exportToSlides(batch, options_);
+        taken_ = exportToSlides(batch, options_);
     } catch (const office::SuiteLost&) {
         throw;
     } catch (const office::Failure& failure) {
@@ -285,19 +286,18 @@ void Run::save() {
 }
 
 int Run::sumUp(int remarksOfBatch) {
-    const int taken = session_.CheckedCount;
     const auto failed = static_cast<int>(failures_.size());
     if (remarksOfBatch + failed > 0) {
         std::string text = fmt::format("{} is incomplete: of {} items {} could not be exported{}\n",
-                                       apps::utf8Of(order_.output->file()), taken,
+                                       apps::utf8Of(order_.output->file()), taken_,
                                        remarksOfBatch + failed, failed == 0 ? "; see above." : ":");
         for (const std::string& line : failures_) text += "  " + line + "\n";
         surroundings_.console.writeError(text);
         return exit_code::failed;
     }
     if (!options_.quiet) {
-        surroundings_.console.writeError(fmt::format("Exported {} item{} to {}\n", taken,
-                                                     taken == 1 ? "" : "s",
+        surroundings_.console.writeError(fmt::format("Exported {} item{} to {}\n", taken_,
+                                                     taken_ == 1 ? "" : "s",
                                                      apps::utf8Of(order_.output->file())));
     }
     return exit_code::done;
