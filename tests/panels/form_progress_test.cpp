@@ -42,8 +42,13 @@ TEST_F(FormProgress, IsCancelledByItsButtonByEscapeAndByItsClosing) {
         EXPECT_FALSE(progress.cancelled());
         way();
         EXPECT_TRUE(progress.cancelled());
+        const Strings before = desktop.record;
         progress.showItem(2, 5);
         EXPECT_TRUE(progress.cancelled());
+        EXPECT_EQ(desktop.record, before) << "a form that was closed stays away";
+        if (auto* shown = desktop.findLoaded("Progress")) {
+            EXPECT_FALSE(the<forms::CommandButton>(*shown, "Cancel").enabled);
+        }
         progress.unload();
     }
 }
