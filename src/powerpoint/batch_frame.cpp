@@ -54,6 +54,7 @@ private:
     TitlePlace title_;
     /// Rows that have had their turn, also those that failed.
     std::int32_t done_ = 0;
+    std::int32_t exported_ = 0;
 };
 
 std::int32_t BatchFrame::run() {
@@ -70,7 +71,7 @@ std::int32_t BatchFrame::run() {
     if (done_ == total) return done_;
     session::ShowNotice(
         session_.notices,
-        fmt::format("The export was cancelled: {} of {} items were exported.", done_, total),
+        fmt::format("The export was cancelled: {} of {} items were exported.", exported_, total),
         "Murvane", "info", session::buttons::okOnly);
     return done_;
 }
@@ -88,7 +89,6 @@ void BatchFrame::prepare() {
     }
     session::SetExcelWindow(session_, session::ExcelWindow::Normal);
     session::RaisePresentation(session_);
-    session_.suite.clearClipboard();
     route_.prepareScreen(batch_);
 }
 
@@ -98,7 +98,9 @@ void BatchFrame::exportRow(const TakenRow& taken) {
     const auto work = [&] {
         const std::int32_t slide = showSlideOf(taken);
         catalogue::ProgressStep(session_, done_ + 1, static_cast<std::int32_t>(rows_.size()));
-        finishItem(row, slide, route_.insertItem(batch_, row, slide));
+        const bool isThere = route_.insertItem(batch_, row, slide);
+        if (isThere) ++exported_;
+        finishItem(row, slide, isThere);
         window_.get("Selection").call("Unselect");
     };
     if (!batch_.onFailedItem) {

@@ -35,9 +35,8 @@ SlideSize slideSizeOf(const Object& presentation) {
     return {setup.get("SlideWidth").toDouble(), setup.get("SlideHeight").toDouble()};
 }
 
-/// The title of the slide being worked on; one that has none keeps what the slide before had.
+/// Fails for a slide without a title, which keeps what the slide before had.
 void readTitle(const Object& shapes, TitlePlace& place) {
-    if (!shapes.get("HasTitle").toBool()) return;
     const Object title = shapes.get("Title").toObject();
     place.topPt = title.get("Top").toDouble();
     place.heightPt = title.get("Height").toDouble();
