@@ -115,27 +115,22 @@ class ABadInput(ProgramTest):
         self.assertEqual(result, DONE, errors)
         items = json.loads(listing)["items"]
         self.assertGreater(len(items), 10)
-        for number, item in enumerate(items):
-            with self.subTest(item=item["name"][:40], sheet=item["sheet"]):
-                inside = self.folder / f"case-{number}"
-                inside.mkdir()
-                output = inside / "x.pptx"
-                result, _, errors = self.export(BAD / "odd-names.xlsx", "--titles", "--items",
-                                                f'{item["name"]}@{item["sheet"]}', "--output", output)
-                if result == DONE:
-                    slides = slides_of(output)
-                    self.assertTrue(any(slide.pictures for slide in slides))
-                else:
-                    self.assertIn(result, (FAILED, USAGE))
-                    self.assertGreater(len(errors.strip()), 20)
-                self.assertEqual([p.name for p in inside.iterdir()], ["x.pptx"] if result == DONE else [])
+        inside = self.folder / "inside"
+        inside.mkdir()
+        output = inside / "x.pptx"
+        result, _, errors = self.export(BAD / "odd-names.xlsx", "--all", "--keep-going", "--output", output)
+        self.assertIn(result, (DONE, FAILED), errors)
+        self.assertEqual([p.name for p in inside.iterdir()], ["x.pptx"])
+        arrived = [picture["description"] for slide in slides_of(output) for picture in slide.pictures]
+        expected = [item["caption"] or (item["sheet"] if item["name"] == "{Chart Sheet}" else item["name"])
+                    for item in items if not item["severalAreas"]]
+        self.assertEqual(len(arrived), len(expected) - errors.count("on sheet"), errors)
+        self.assertLessEqual(set(arrived), set(expected))
 
     def test_a_markup_name_stays_text_in_the_presentation(self):
         output = self.folder / "x.pptx"
         captions = self.folder / "captions.csv"
         captions.write_text('item,sheet,caption,slide\nFigures,Data,"<script>alert(1)</script>",\n', encoding="utf-8")
-        result, _, errors = self.export(BAD / "negative-chartsheet.xlsx", "--list", "--json")
-        self.assertEqual(result, DONE, errors)
         result, _, errors = self.export(BAD / "grouped-chart.xlsx", "--items", "Figures", "--titles",
                                         "--captions", captions, "--output", output)
         self.assertEqual(result, DONE, errors)

@@ -154,7 +154,8 @@ RecoveredChart::RecoveredChart(Desk& desk, CalcDocument& book, SheetRecord& shee
     }
     const rtl::OUString copyUrl = fileUrl(file);
     replacePart(connection, copyUrl, drawing, mended);
-    copy_ = std::make_unique<OpenCopy>(desk.load(copyUrl, true));
+    // Only looked at: nothing of it has to be made changeable.
+    copy_ = std::make_unique<OpenCopy>(desk.load(copyUrl, true, {}, true));
     charts_ = std::make_unique<ChartShapes>(copy_->sheet(sheet.fileName));
     if (charts_->all().empty()) fail(sheet, "it has none");
     chart_ = charts_->all().front();
