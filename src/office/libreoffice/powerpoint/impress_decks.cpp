@@ -53,7 +53,7 @@ model::DeckPtr ImpressDecks::load(const std::string& file, bool withWindow) {
 std::shared_ptr<ImpressDeck> ImpressDecks::openedFrom(const rtl::OUString& url) const {
     // LibreOffice would open a file twice, and the two would go separate ways.
     for (const auto& deck : desk_->presentations()) {
-        if (deck->model()->getURL() == url) return deck;
+        if (deck->url() == url) return deck;
     }
     return nullptr;
 }
