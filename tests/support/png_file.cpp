@@ -95,8 +95,9 @@ PngSize pngSizeOf(const std::string& path) {
                   [](Png& held) { png_destroy_read_struct(&held.file, &held.info, nullptr); });
     png_init_io(png.file, file.get());
     png_read_info(png.file, png.info);
+    // Across alone: with sides that differ by rounding the library knows no common density.
     return {png_get_image_width(png.file, png.info), png_get_image_height(png.file, png.info),
-            png_get_pixels_per_meter(png.file, png.info)};
+            png_get_x_pixels_per_meter(png.file, png.info)};
 }
 
 void writeBytes(const std::string& path, const Bytes& bytes) {
