@@ -9,7 +9,6 @@
 #include "office/failure_patterns.h"
 #include "powerpoint/placement.h"
 #include "session/powerpoint_session.h"
-#include "session/window_helpers.h"
 
 namespace powerpoint {
 

@@ -8,7 +8,7 @@
 #include "office/failure_patterns.h"
 #include "powerpoint/placement.h"
 #include "session/file_names.h"
-#include "session/window_helpers.h"
+#include "session/powerpoint_session.h"
 
 namespace powerpoint {
 

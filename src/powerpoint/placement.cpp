@@ -5,7 +5,7 @@
 #include <string>
 
 #include "office/failure_patterns.h"
-#include "session/window_lock.h"
+#include "session/powerpoint_session.h"
 #include "session/workbook_store.h"
 
 namespace powerpoint {

@@ -8,8 +8,6 @@
 
 #include "office/failure_patterns.h"
 #include "office/text.h"
-#include "session/embedded_charts.h"
-#include "session/version_tag.h"
 #include "session/web_pages.h"
 #include "session/workbook_prompt.h"
 #include "session/workbook_store.h"
@@ -26,9 +24,6 @@ std::optional<office::Failure> attachApplications(OfficeSession& session) {
     needed.attempt([&] { session.ExcelApp = session.suite.attach("Excel.Application"); });
     scope.attempt([&] { session.PowerPointApp = session.suite.attach("PowerPoint.Application"); });
     if (session.ExcelApp) {
-        scope.attempt([&] {
-            session.ExcelVersionTag = versionTag(session.ExcelApp.get("Version").toText());
-        });
         needed.attempt(
             [&] { session.ActiveBook = session.ExcelApp.get("ActiveWorkbook").toObject(); });
         if (session.ActiveBook) {
@@ -137,10 +132,34 @@ int runMainForm(OfficeSession& session, const CommandHandlers& handlers) {
     return commandDone;
 }
 
+/// Whether the selection has a cell under a chart of the active sheet. False where that can't be
+/// told: another selection than a range, a chart sheet.
+bool selectionTouchesEmbeddedChart(OfficeSession& session) {
+    office::ContinueOnFailure scope;
+    const office::Object& excel = session.ExcelApp;
+    office::Object charts;
+    std::int32_t count = 0;
+    scope.attempt([&] {
+        charts = excel.get("ActiveSheet").get("ChartObjects").toObject();
+        count = charts.get("Count").toLong();
+    });
+    for (std::int32_t i = 1; i <= count; ++i) {
+        bool meets = false;
+        scope.attempt([&] {
+            const office::Value chart = charts.get("Item", i);
+            const office::Value under =
+                excel.get("Range", chart.get("TopLeftCell"), chart.get("BottomRightCell"));
+            // Ranges of different sheets fail, and so have no cell in common either.
+            meets = !excel.call("Intersect", excel.get("Selection"), under).toObject().isNothing();
+        });
+        if (meets) return true;
+    }
+    return false;
+}
+
 /// `/3122`. An embedded object of cells would bring along the charts that lie on them.
 int pasteAsEmbeddedObject(OfficeSession& session, std::string_view command,
                           const CommandHandlers& handlers) {
-    session.EmbeddedSelectionRun = 1;
     if (selectionTouchesEmbeddedChart(session)) {
         ShowWarningNotice(
             session.notices,
@@ -215,6 +234,15 @@ int Main(OfficeSession& session, std::string_view commandLine, const CommandHand
     }
     CloseSession(session, handlers.UnloadAllForms);
     return status;
+}
+
+void CloseSession(OfficeSession& session, const std::function<void()>& unloadAllForms) {
+    session.MainFormOpen = false;
+    session.ActiveBook.release();
+    session.SessionPresentation.release();
+    session.ExcelApp.release();
+    session.PowerPointApp.release();
+    if (unloadAllForms) office::ContinueOnFailure().attempt(unloadAllForms);
 }
 
 int OpenMainForm(OfficeSession& session, const CommandHandlers& handlers) {

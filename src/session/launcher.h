@@ -3,7 +3,6 @@
 #include <functional>
 #include <string_view>
 
-#include "session/closing.h"
 #include "session/office_session.h"
 
 namespace session {
@@ -41,6 +40,14 @@ inline constexpr int commandFailed = 1;
 /// Plain code: a `Failure` that no handler keeps passes through, with nothing closed; the program
 /// reports it and ends with another status.
 int Main(OfficeSession& session, std::string_view commandLine, const CommandHandlers& handlers);
+
+/// The single way out of a command: lets go of workbook, presentation and applications, and unloads
+/// all forms, which live in higher layers. The applications keep running. Failures are passed over.
+///
+/// The process ends by `Main` returning to the program, which leaves with the exit status of the
+/// command: an end from in here would skip the destructors that give back locks, files and
+/// connections.
+void CloseSession(OfficeSession& session, const std::function<void()>& unloadAllForms);
 
 /// Shows the main form and returns when it has closed. A workbook that is read-only or can't take
 /// the store sheet is refused with a notice.

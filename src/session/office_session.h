@@ -30,17 +30,12 @@ struct OfficeSession {
     office::Object ActiveBook;
     office::Object PowerPointApp;
     office::Object SessionPresentation;
-    office::Object WordApp;
-    /// The part of `Version` ahead of its first "."; PowerPoint's once the window lock has run.
-    std::string ExcelVersionTag;
     std::string ActiveSheetName;
     bool PowerPointFound = false;
     bool MainFormOpen = false;
     bool MainFormStarted = false;
     std::int16_t ItemCount = 0;
     office::WindowHandle PowerPointFrameHandle = 0;
-    /// 1 once `/3122` has looked for charts under the selection.
-    std::int16_t EmbeddedSelectionRun = 0;
 };
 
 }  // namespace session

@@ -1,9 +1,9 @@
 #include "session/powerpoint_session.h"
 
 #include <string>
+#include <string_view>
 
 #include "office/failure_patterns.h"
-#include "session/window_helpers.h"
 
 namespace session {
 
@@ -15,6 +15,43 @@ void endShow(OfficeSession& session, const office::Object& presentation) {
     if (session.PowerPointApp.get("SlideShowWindows").get("Count").toLong() > 0) {
         presentation.get("SlideShowWindow").get("View").call("Exit");
     }
+}
+
+/// PowerPoint's top window class by version; empty for a version that isn't known, and there never
+/// was a 13.
+std::string_view frameClass(std::string_view versionTag) {
+    if (versionTag == "8") return "PP97FrameClass";
+    if (versionTag == "9") return "PP9FrameClass";
+    if (versionTag == "10") return "PP10FrameClass";
+    if (versionTag == "11") return "PP11FrameClass";
+    if (versionTag == "12") return "PP12FrameClass";
+    if (versionTag == "14" || versionTag == "15" || versionTag == "16") return "PPTFrameClass";
+    return {};
+}
+
+office::Failure lockFailure(LockFailure number, const std::string& description) {
+    return {static_cast<std::int32_t>(number), "PowerPointWindowLock", description};
+}
+
+void takeLock(OfficeSession& session, office::ContinueOnFailure& scope) {
+    std::string version;
+    scope.attempt([&] { version = session.PowerPointApp.get("Version").toText(); });
+    const std::string_view className = frameClass(version.substr(0, version.find('.')));
+    if (className.empty()) {
+        scope.raise(lockFailure(LockFailure::NewerVersion, "Newer version."));
+        return;
+    }
+    scope.attempt([&] { session.PowerPointFrameHandle = session.suite.findWindow(className, {}); });
+    if (session.PowerPointFrameHandle == 0) {
+        scope.raise(
+            lockFailure(LockFailure::NoWindow, "Unable to get the PowerPoint Window handle"));
+        return;
+    }
+    scope.attempt([&] {
+        if (!session.suite.lockDrawing(session.PowerPointFrameHandle)) {
+            throw lockFailure(LockFailure::NotLocked, "Unable to set a  PowerPoint window lock");
+        }
+    });
 }
 
 }  // namespace
@@ -55,6 +92,37 @@ std::int32_t ExitShowNormalView(OfficeSession& session) {
         scope.attempt([&] { app.get("ActiveWindow").put("ViewType", normalView); });
     }
     return found;
+}
+
+void SetExcelWindow(OfficeSession& session, ExcelWindow state) {
+    session.ExcelApp.put("WindowState", static_cast<std::int32_t>(state));
+}
+
+bool BringWindowToFront(OfficeSession& session, std::string_view caption,
+                        office::WindowHandle& window, int showCommand) {
+    if (window == 0) window = session.suite.findWindow({}, caption);
+    if (window == 0) return false;
+    return session.suite.raiseWindow(window, showCommand);
+}
+
+std::optional<office::Failure> PowerPointWindowLock(OfficeSession& session, bool release) {
+    office::ContinueOnFailure scope;
+    if (release) {
+        scope.attempt([&] { session.suite.unlockDrawing(); });
+        scope.attempt([&] { session.suite.redraw(session.PowerPointFrameHandle); });
+        session.PowerPointFrameHandle = 0;
+    } else {
+        takeLock(session, scope);
+    }
+    return scope.lastFailure();
+}
+
+PowerPointWindowLockScope::~PowerPointWindowLockScope() {
+    try {
+        PowerPointWindowLock(session_, true);
+    } catch (const office::SuiteLost&) {
+        session_.PowerPointFrameHandle = 0;
+    }
 }
 
 }  // namespace session

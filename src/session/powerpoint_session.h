@@ -1,5 +1,10 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include "office/failure.h"
 #include "session/office_session.h"
 
 /// What the exports to slides do with PowerPoint before their own work. Nothing here tells the user
@@ -23,5 +28,41 @@ std::int32_t PrepareSlideView(OfficeSession& session);
 /// Ahead of a paste of the selection: an empty clipboard, no running show, and normal view. Returns
 /// the view type found, 0 if it can't be read. Failures are passed over.
 std::int32_t ExitShowNormalView(OfficeSession& session);
+
+enum class ExcelWindow : std::int32_t { Normal = -4143, Maximised = -4137 };
+
+void SetExcelWindow(OfficeSession& session, ExcelWindow state);
+
+/// Shows a window by a show command (1 is normal) and gives it the foreground. A `window` of 0 is
+/// looked up by its caption and stored. False, and nothing has moved, if there is no such window.
+bool BringWindowToFront(OfficeSession& session, std::string_view caption,
+                        office::WindowHandle& window, int showCommand);
+
+/// What stands in the last-failure record when the lock could not be taken. Nobody is told: without
+/// a lock PowerPoint merely redraws while a shape is moved.
+enum class LockFailure : std::int32_t {
+    NoWindow = static_cast<std::int32_t>(0x80040000U + 1000U),
+    NotLocked = static_cast<std::int32_t>(0x80040000U + 1001U),
+    NewerVersion = static_cast<std::int32_t>(0x80040000U + 1002U),
+};
+
+/// Freezes the drawing of PowerPoint's top window, or thaws it with `release`. Returns the last
+/// failure; there is no need to look at it.
+std::optional<office::Failure> PowerPointWindowLock(OfficeSession& session, bool release);
+
+/// Holds the lock while it lives.
+class PowerPointWindowLockScope {
+public:
+    explicit PowerPointWindowLockScope(OfficeSession& session) : session_(session) {
+        PowerPointWindowLock(session_, false);
+    }
+    /// A lost application has no window left to thaw.
+    ~PowerPointWindowLockScope();
+    PowerPointWindowLockScope(const PowerPointWindowLockScope&) = delete;
+    PowerPointWindowLockScope& operator=(const PowerPointWindowLockScope&) = delete;
+
+private:
+    OfficeSession& session_;
+};
 
 }  // namespace session

@@ -1,7 +1,5 @@
 #include "session/web_pages.h"
 
-#include "session/addresses.h"
-
 namespace session {
 
 void OpenDocOverview(OfficeSession& session) {

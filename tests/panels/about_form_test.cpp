@@ -6,7 +6,7 @@
 #include "forms_double/user.h"
 #include "forms_double/windowless_desktop.h"
 #include "panels/about_form.h"
-#include "session/addresses.h"
+#include "session/web_pages.h"
 #include "session_doubles/test_session.h"
 
 namespace {

@@ -5,8 +5,8 @@
 
 #include "command_recorder.h"
 #include "office/failure.h"
-#include "session/addresses.h"
 #include "session/launcher.h"
+#include "session/web_pages.h"
 #include "session_doubles/test_session.h"
 
 namespace {
@@ -100,12 +100,10 @@ TEST_F(Launcher, EndsWithoutAWordWhereAPasteHasNoWorkbook) {
     EXPECT_EQ(test.session.ItemCount, 0);
 }
 
-TEST_F(Launcher, TakesVersionWorkbookSheetAndPresentationForTheHandlers) {
+TEST_F(Launcher, TakesWorkbookSheetAndPresentationForTheHandlers) {
     openWorkbook();
-    test.suite.excel().setVersion("12.0.6");
     test.suite.powerPoint().addPresentation("Deck.pptx");
     recorder.handlers.ShowAboutForm = [&] {
-        EXPECT_EQ(test.session.ExcelVersionTag, "12");
         EXPECT_EQ(test.session.ActiveSheetName, "Sales");
         EXPECT_EQ(test.session.ActiveBook.get("Name").toText(), "Book1.xlsx");
         EXPECT_EQ(test.session.SessionPresentation.get("Name").toText(), "Deck.pptx");
@@ -118,7 +116,7 @@ TEST_F(Launcher, TakesVersionWorkbookSheetAndPresentationForTheHandlers) {
 TEST_F(Launcher, GoesOnWithoutWhatItCannotRead) {
     openWorkbook();
     test.suite.powerPoint();
-    test.suite.failures().failAlways("Application.Version");
+    test.suite.failures().failAlways("Application.ActivePresentation");
     test.suite.failures().failAlways("Workbook.ActiveSheet");
     EXPECT_EQ(run("/212"), 0);
     EXPECT_EQ(recorder.ran.at(1), "slide 0");
@@ -195,6 +193,26 @@ TEST_F(Launcher, PastesAnEmbeddedObjectFromAChartSheet) {
     book.chartSheet("Overview");
     run("/3122");
     EXPECT_EQ(recorder.ran.at(1), "slide 2");
+}
+
+TEST(Closing, LetsGoOfEverythingAndEndsNoApplication) {
+    session_doubles::TestSession test;
+    test.suite.excel().addWorkbook("Book1.xlsx").sheet("Sales");
+    test.suite.powerPoint().addPresentation("Deck.pptx");
+    test.attach();
+    test.session.SessionPresentation =
+        test.session.PowerPointApp.get("ActivePresentation").toObject();
+    test.session.MainFormOpen = true;
+    int unloaded = 0;
+    session::CloseSession(test.session, [&] {
+        ++unloaded;
+        throw office::Failure(5, "Form", "no");
+    });
+    EXPECT_FALSE(test.session.MainFormOpen);
+    EXPECT_FALSE(test.session.ActiveBook || test.session.SessionPresentation ||
+                 test.session.ExcelApp || test.session.PowerPointApp);
+    EXPECT_EQ(unloaded, 1);
+    EXPECT_EQ(test.suite.log().count("Quit") + test.suite.log().count("Close"), 0U);
 }
 
 }  // namespace

@@ -1,11 +1,12 @@
 #include <gtest/gtest.h>
 
 #include "session/powerpoint_session.h"
-#include "session/ranges.h"
 #include "session_doubles/test_session.h"
 
 namespace {
 
+using session::LockFailure;
+using session::PowerPointWindowLock;
 using session_doubles::TestSession;
 
 TEST(AttachingPowerPoint, LeavesNothingBehindWhereItIsClosed) {
@@ -67,20 +68,64 @@ TEST_F(SlideView, PassesOverWhatFails) {
     EXPECT_EQ(test.suite.clipboardClears(), 2);
 }
 
-TEST(Ranges, OfDifferentSheetsAreAFailureAndNotAnAnswer) {
+class PowerPointWindow : public testing::Test {
+protected:
     TestSession test;
-    auto& book = test.suite.excel().addWorkbook("Book1.xlsx");
-    book.sheet("A");
-    book.sheet("B");
-    test.attach();
-    const auto range = [&](const char* sheet, const char* address) {
-        return test.sheet(sheet).get("Range", address).toObject();
-    };
-    EXPECT_TRUE(session::RangesIntersect(test.session, range("A", "A1:B2"), range("A", "B2:C9")));
-    EXPECT_FALSE(session::RangesIntersect(test.session, range("A", "A1"), range("A", "B2")));
-    EXPECT_THROW(static_cast<void>(
-                     session::RangesIntersect(test.session, range("A", "A1"), range("B", "A1"))),
-                 office::Failure);
+
+    PowerPointWindow() {
+        test.suite.powerPoint().addPresentation("Deck.pptx");
+        test.attach();
+    }
+
+    [[nodiscard]] std::int32_t lockAs(const std::string& version) {
+        test.suite.powerPoint().setVersion(version);
+        const auto failure = PowerPointWindowLock(test.session, false);
+        return failure ? failure->number() : 0;
+    }
+};
+
+TEST_F(PowerPointWindow, ComesForwardByItsCaptionAndIsRemembered) {
+    office::WindowHandle window = 0;
+    EXPECT_TRUE(session::BringWindowToFront(test.session, "Deck.pptx - PowerPoint", window, 1));
+    EXPECT_NE(window, 0U);
+    EXPECT_EQ(test.suite.raisedWindow(), window);
+}
+
+TEST_F(PowerPointWindow, StaysWhereItIsWhenTheCaptionIsAnother) {
+    office::WindowHandle window = 0;
+    EXPECT_FALSE(session::BringWindowToFront(test.session, "Deck - PowerPoint", window, 1));
+    EXPECT_EQ(test.suite.raisedWindow(), 0U);
+}
+
+TEST_F(PowerPointWindow, IsLockedForTheVersionsWhoseClassIsKnown) {
+    EXPECT_EQ(lockAs("16.0"), 0);
+    EXPECT_NE(test.session.PowerPointFrameHandle, 0U);
+
+    PowerPointWindowLock(test.session, true);
+    EXPECT_EQ(test.session.PowerPointFrameHandle, 0U);
+    EXPECT_EQ(test.suite.lockedWindow(), 0U);
+    EXPECT_EQ(test.suite.redraws(), 1);
+}
+
+TEST_F(PowerPointWindow, StaysUnlockedWithoutAWordOtherwise) {
+    for (const char* version : {"13.0", "17.0", "7.1"}) {
+        EXPECT_EQ(lockAs(version), static_cast<std::int32_t>(LockFailure::NewerVersion)) << version;
+    }
+    EXPECT_EQ(lockAs("12.0"), static_cast<std::int32_t>(LockFailure::NoWindow));
+    test.suite.lockDrawing(99);
+    EXPECT_EQ(lockAs("15.0"), static_cast<std::int32_t>(LockFailure::NotLocked));
+    EXPECT_EQ(static_cast<std::uint32_t>(LockFailure::NoWindow), 0x800403E8U);
+    EXPECT_TRUE(test.notices.shown.empty());
+}
+
+TEST_F(PowerPointWindow, IsUnlockedAtTheEndOfAScopeAlsoAfterAFailure) {
+    try {
+        const session::PowerPointWindowLockScope lock(test.session);
+        EXPECT_NE(test.suite.lockedWindow(), 0U);
+        throw office::Failure(1004, "Shape", "no");
+    } catch (const office::Failure&) {
+        EXPECT_EQ(test.suite.lockedWindow(), 0U);
+    }
 }
 
 }  // namespace
