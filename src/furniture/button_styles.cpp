@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "furniture/palette.h"
-#include "furniture/theme.h"
 
 namespace furniture {
 
@@ -30,26 +29,27 @@ void StyleNeutralButton(forms::CommandButton& button, std::string_view caption, 
     style(button, caption, palette::ThemeNeutralButton, sizePt);
 }
 
-void StyleQuietButton(forms::CommandButton& button, std::string_view caption, double sizePt) {
-    style(button, caption, palette::ThemeQuietButton, sizePt);
-}
-
 void StyleFlatButton(forms::CommandButton& button) {
     button.backColour = palette::ThemeAccentButton;
+}
+
+namespace {
+
+/// Close, cancel and help.
+void StyleQuietButton(forms::CommandButton& button, std::string_view caption, double sizePt) {
+    style(button, caption, palette::ThemeQuietButton, sizePt);
 }
 
 void StyleHelpButton(forms::CommandButton& button) {
     style(button, "?", palette::ThemeQuietButton, 8.25);
 }
 
-void StyleArrowButton(forms::CommandButton& button, Arrow arrow) {
+void StyleArrowButton(forms::CommandButton& button, bool up) {
     // The digits are the arrow glyphs of this font.
-    style(button, arrow == Arrow::Up ? "5" : "6", palette::ThemeNeutralButton, 10);
+    style(button, up ? "5" : "6", palette::ThemeNeutralButton, 10);
     button.font.name = "Marlett";
     button.font.bold = false;
 }
-
-namespace {
 
 using Style = void (*)(forms::CommandButton& button, std::string_view caption, double sizePt);
 
@@ -104,7 +104,7 @@ void themeButton(forms::CommandButton& button) {
     if (rule != rules.end()) {
         apply(*rule, button);
     } else if (name == "up" || name == "down") {
-        StyleArrowButton(button, name == "up" ? Arrow::Up : Arrow::Down);
+        StyleArrowButton(button, name == "up");
     } else if (name.find("help") != std::string::npos) {
         StyleHelpButton(button);
     } else if (button.visible) {

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <stdexcept>
-#include <string>
 
 #include "forms/form.h"
 
@@ -12,7 +11,6 @@ namespace furniture {
 class ShadowRefused : public std::logic_error {
 public:
     ShadowRefused() : logic_error("Only a single form per cShadow instance is allowed") {}
-    [[nodiscard]] static std::string source() { return "Shadow"; }
 };
 
 /// The soft edge around a form. A form makes one instance in its `Form_Load`, keeps it in a field

@@ -5,6 +5,8 @@
 #include <string_view>
 
 #include "forms/controls.h"
+#include "forms/list_view.h"
+#include "furniture/button_styles.h"
 #include "furniture/palette.h"
 #include "furniture/title_bar.h"
 
@@ -28,6 +30,24 @@ bool beginsWith(std::string_view name, std::string_view start) {
     return sameFormName(name.substr(0, start.size()), start);
 }
 
+/// Dark letters on a light ground, light ones on a dark ground.
+forms::Colour readableOn(forms::Colour ground) {
+    const int brightness = (ground.red * 299 + ground.green * 587 + ground.blue * 114) / 1000;
+    return brightness > 127 ? forms::Colour{30, 41, 59} : palette::ThemeText;
+}
+
+/// The main form's list, which is light in the dark form.
+void ThemeMainList(forms::ListView& list) {
+    static constexpr std::size_t firstNamed = 1;
+    static constexpr std::array<std::string_view, 3> captions = {"Sheet", "Slide", "Order"};
+    list.backColour = palette::ThemeNeutralButton;
+    list.foreColour = readableOn(palette::ThemeNeutralButton);
+    list.gridLines = true;
+    for (std::size_t i = 0; i < captions.size(); ++i) {
+        if (firstNamed + i < list.columns.size()) list.columns[firstNamed + i].text = captions[i];
+    }
+}
+
 void paintList(forms::ListView& list) {
     if (sameFormName(list.name(), "listCharts")) {
         ThemeMainList(list);
@@ -44,38 +64,6 @@ void paintText(forms::TextBox& text) {
 
 void paintOption(forms::OptionButton& option) {
     paint(option, option.graphical ? palette::ThemeField : palette::ThemeSurface);
-}
-
-/// Dark letters on a light ground, light ones on a dark ground.
-forms::Colour readableOn(forms::Colour ground) {
-    const int brightness = (ground.red * 299 + ground.green * 587 + ground.blue * 114) / 1000;
-    return brightness > 127 ? forms::Colour{30, 41, 59} : palette::ThemeText;
-}
-
-}  // namespace
-
-void ApplyTheme(forms::Form& form) {
-    PaintFormGround(form);
-    form.backColour = palette::ThemeGround;
-    form.foreColour = palette::ThemeText;
-    ThemeControlsIn(form);
-    ThemeTitleBars(form);
-    ThemeSlidePanel(form);
-    ThemeButtonsIn(form);
-}
-
-void PaintFormGround(forms::Form& form) {
-    // The ground is flat: a gradient drawn first would be wiped out by this colour.
-    form.backColour = palette::ThemeGround;
-}
-
-void ThemeControlsIn(forms::Form& form, const forms::Frame* container) {
-    for (forms::Control* control : form.controls()) {
-        if (control->container() != container) continue;
-        ThemeControl(*control);
-        const auto* frame = dynamic_cast<const forms::Frame*>(control);
-        if (frame != nullptr && !isSlidePanel(*frame)) ThemeControlsIn(form, frame);
-    }
 }
 
 void ThemeControl(forms::Control& control) {
@@ -112,6 +100,17 @@ void ThemeControl(forms::Control& control) {
     }
 }
 
+/// All controls but the buttons, those in frames too. The frame `SlideNb` keeps what is in it for
+/// `ThemeSlidePanel`.
+void ThemeControlsIn(forms::Form& form, const forms::Frame* container) {
+    for (forms::Control* control : form.controls()) {
+        if (control->container() != container) continue;
+        ThemeControl(*control);
+        const auto* frame = dynamic_cast<const forms::Frame*>(control);
+        if (frame != nullptr && !isSlidePanel(*frame)) ThemeControlsIn(form, frame);
+    }
+}
+
 void ThemeTitleBars(forms::Form& form) {
     for (forms::Control* control : form.controls()) {
         auto* bar = dynamic_cast<TitleBar*>(control);
@@ -124,7 +123,6 @@ void ThemeTitleBars(forms::Form& form) {
         bar->foreColour = palette::ThemeText;
         bar->CaptionColor = palette::ThemeText;
         bar->BorderColorDarkLight = palette::ThemeText;
-        bar->IconStyle = 2;
         bar->ShowClose = true;
         bar->ShowCloseEnabled = true;
         bar->ShowMinimized = false;
@@ -145,15 +143,15 @@ void ThemeSlidePanel(forms::Form& form) {
     }
 }
 
-void ThemeMainList(forms::ListView& list) {
-    static constexpr std::size_t firstNamed = 1;
-    static constexpr std::array<std::string_view, 3> captions = {"Sheet", "Slide", "Order"};
-    list.backColour = palette::ThemeNeutralButton;
-    list.foreColour = readableOn(palette::ThemeNeutralButton);
-    list.gridLines = true;
-    for (std::size_t i = 0; i < captions.size(); ++i) {
-        if (firstNamed + i < list.columns.size()) list.columns[firstNamed + i].text = captions[i];
-    }
+}  // namespace
+
+void ApplyTheme(forms::Form& form) {
+    form.backColour = palette::ThemeGround;
+    form.foreColour = palette::ThemeText;
+    ThemeControlsIn(form, nullptr);
+    ThemeTitleBars(form);
+    ThemeSlidePanel(form);
+    ThemeButtonsIn(form);
 }
 
 void ApplyBrowserBackground(forms::WebBrowser& browser, std::string_view colour) {

@@ -28,7 +28,6 @@ public:
     bool ShowCloseEnabled = true;
     bool ShowMinimizedEnabled = true;
     bool ShowMaximizedEnabled = true;
-    int IconStyle = 0;
 
     /// The two gradients, from the top to the middle and from there to the bottom.
     forms::Colour BackColorV1Begin;
@@ -36,7 +35,6 @@ public:
     forms::Colour BackColorV2Begin;
     forms::Colour BackColorV2End;
     forms::Colour CaptionColor;
-    forms::Colour BorderColorHighLight;
     forms::Colour BorderColorDarkLight;
 
 private:

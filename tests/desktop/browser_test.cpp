@@ -1,16 +1,35 @@
+#include <QtCore/QTemporaryFile>
 #include <QtGui/QImage>
 #include <QtTest/QTest>
 #include <QtWebEngineCore/QWebEngineScript>
 #include <QtWebEngineWidgets/QWebEngineView>
-#include <gtest/gtest.h>
 
 #include "desktop/browser_view.h"
 #include "desktop/fixture.h"
-#include "desktop/page_file.h"
 
 namespace {
 
 using namespace std::chrono_literals;
+
+/// A page on the disk for as long as this lives.
+class PageFile {
+public:
+    explicit PageFile(std::string_view body) : file_(QStringLiteral("XXXXXX.html")) {
+        file_.setFileTemplate(QStringLiteral("/tmp/murvane-page-XXXXXX.html"));
+        if (!file_.open()) qFatal("no temporary file");
+        const std::string page =
+            "<!DOCTYPE html><html><head><meta charset='utf-8'></head>"
+            "<body style='margin:0;background:#111827;color:white'>" +
+            std::string(body) + "</body></html>\r\n";
+        file_.write(page.data(), static_cast<qint64>(page.size()));
+        file_.close();
+    }
+
+    [[nodiscard]] std::string url() const { return "file://" + file_.fileName().toStdString(); }
+
+private:
+    QTemporaryFile file_;
+};
 
 /// The upper half of the strip is a link.
 std::string linkTo(const std::string& url) {
@@ -21,18 +40,16 @@ class Browser : public OnTheDesktop {
 protected:
     void open(const std::string& url) {
         form.wbStatus.navigate(url);
-        ASSERT_TRUE(input::waitUntil(desk, [this] { return page().isComplete(); }));
+        ASSERT_TRUE(waitUntil([this] { return page().isComplete(); }));
     }
     forms::BrowserView& page() { return *form.wbStatus.view; }
     QWebEngineView& engine() { return *widgetOf<desktop::BrowserView>(form.wbStatus).engineView(); }
     bool waitFor(const std::string& event, long howOften = 1,
                  std::chrono::milliseconds patience = 10s) {
-        return input::waitUntil(
-            desk, [&] { return times(event) >= howOften; }, patience);
+        return waitUntil([&] { return times(event) >= howOften; }, patience);
     }
     void clickPage() {
-        input::waitUntil(
-            desk, [] { return false; }, 100ms);
+        letPass(100ms);
         QTest::mouseClick(engine().focusProxy(), Qt::LeftButton, {}, {60, 20});
     }
     /// Clicks the link until the event comes: a page takes no click before it has been painted,
@@ -65,7 +82,7 @@ TEST_F(Browser, AFormMayShowANewPageFromWithinTheClick) {
     };
     open(before.url());
     ASSERT_TRUE(clickLinkFor("document"));
-    EXPECT_TRUE(input::waitUntil(desk, [this] { return page().fieldValue("f") == "new"; }));
+    EXPECT_TRUE(waitUntil([this] { return page().fieldValue("f") == "new"; }));
 }
 
 TEST_F(Browser, ALinkThatTheFormLetsPassIsFollowed) {
@@ -80,11 +97,9 @@ TEST_F(Browser, TheKeyboardReachesALinkAndFollowsIt) {
     const PageFile file(linkTo("murvane://action/style"));
     open(file.url());
     form.focus = &form.wbStatus;
-    input::waitUntil(
-        desk, [] { return false; }, 100ms);
+    letPass(100ms);
     QTest::keyClick(engine().focusProxy(), Qt::Key_Tab);
-    input::waitUntil(
-        desk, [] { return false; }, 100ms);
+    letPass(100ms);
     QTest::keyClick(engine().focusProxy(), Qt::Key_Return);
     EXPECT_TRUE(waitFor("murvane://action/style"));
     EXPECT_EQ(times("Continue"), 0) << "the key was the link's, not the default button's";
@@ -104,7 +119,7 @@ TEST_F(Browser, AClickedLinkLeavesTheKeyboardWhereItWas) {
     form.focus = &form.ContinueOk;
     ASSERT_TRUE(clickLinkFor("murvane://toggle/slideTitle"));
     EXPECT_EQ(form.focus, &form.ContinueOk);
-    input::key(desk, form, Qt::Key_Return);
+    key(Qt::Key_Return);
     EXPECT_EQ(times("Continue"), 1);
 }
 
@@ -114,17 +129,15 @@ TEST_F(Browser, ALinkFollowedByAKeyHasTheKeyboardOnThePageThatAnswersIt) {
     engine().focusProxy()->setFocus(Qt::TabFocusReason);
     const auto press = [&](Qt::Key key) {
         QTest::keyClick(engine().focusProxy(), key);
-        input::waitUntil(
-            desk, [] { return false; }, 100ms);
+        letPass(100ms);
     };
     engine().page()->runJavaScript(QStringLiteral("document.links[1].focus()"),
                                    QWebEngineScript::ApplicationWorld);
-    input::waitUntil(
-        desk, [] { return false; }, 200ms);
+    letPass(200ms);
     press(Qt::Key_Return);
     ASSERT_TRUE(waitFor("murvane://two"));
     open(file.url());
-    EXPECT_TRUE(input::waitUntil(desk, [&] {
+    EXPECT_TRUE(waitUntil([&] {
         press(Qt::Key_Return);
         return times("murvane://two") > 1;
     }));
@@ -133,12 +146,11 @@ TEST_F(Browser, ALinkFollowedByAKeyHasTheKeyboardOnThePageThatAnswersIt) {
 
 TEST_F(Browser, AMissingPageLeavesTheFormAliveAndTheNextOneComes) {
     form.wbStatus.navigate("file:///nowhere/at/all.html");
-    input::waitUntil(
-        desk, [] { return false; }, 800ms);
+    letPass(800ms);
     EXPECT_FALSE(page().isComplete());
     EXPECT_EQ(page().fieldValue("f"), std::nullopt);
     EXPECT_EQ(page().contentHeight("noticeRoot"), 0);
-    input::click(desk, form.ContinueOk);
+    click(form.ContinueOk);
     EXPECT_EQ(times("Continue"), 1);
     const PageFile file("<p>here</p>");
     open(file.url());
@@ -149,63 +161,41 @@ TEST_F(Browser, ADeadEngineProcessLeavesTheFormAliveAndTheNextPageComes) {
     open(file.url());
     ASSERT_GT(engine().page()->renderProcessPid(), 0);
     form.wbStatus.navigate("chrome://crash");
-    input::waitUntil(
-        desk, [] { return false; }, 800ms);
+    letPass(800ms);
     EXPECT_FALSE(page().isComplete());
-    input::click(desk, form.ContinueOk);
+    click(form.ContinueOk);
     EXPECT_EQ(times("Continue"), 1);
     open(file.url());
     EXPECT_EQ(page().fieldValue("f"), "again");
 }
 
-TEST_F(Browser, FieldsAreReadByTheirIds) {
-    const PageFile file("<input id='width' value='a\"b'><input id=\"it's\" value='ü'><p id='p'>x");
-    open(file.url());
-    EXPECT_EQ(page().fieldValue("width"), "a\"b");
-    EXPECT_EQ(page().fieldValue("it's"), "ü");
-    EXPECT_EQ(page().fieldValue("missing"), std::nullopt);
-    EXPECT_EQ(page().fieldValue("p"), std::nullopt) << "an element without a value";
-}
-
 TEST_F(Browser, ATypedValueIsRead) {
     const PageFile file("<input id='f' value='' style='display:block;height:40px'>");
     open(file.url());
-    EXPECT_TRUE(input::waitUntil(desk, [&] {
+    EXPECT_TRUE(waitUntil([&] {
         clickPage();
         QTest::keyClick(engine().focusProxy(), Qt::Key_4);
         return page().fieldValue("f").value_or("").starts_with("4");
     }));
 }
 
-TEST_F(Browser, TheHeightOfAnElementOrOfThePageIsMeasured) {
-    const PageFile file("<div id='noticeRoot' style='height:230px'></div><p style='height:70px'>");
+TEST_F(Browser, APageAnswersAboutItselfAndItsOwnScriptsDoNotRun) {
+    const PageFile file(
+        "<div id='noticeRoot' style='height:230px'></div><input id='width' value='a\"b'>"
+        "<input id=\"it's\" value='ü'><p id='p' style='height:70px'>x</p>"
+        "<input type=checkbox name=mvAccept value=a checked><input type=checkbox name=mvAccept "
+        "value=b><input type=checkbox name=mvAccept value=c checked>"
+        "<script>document.getElementById('width').value='script';</script>");
     open(file.url());
+    EXPECT_EQ(page().fieldValue("width"), "a\"b");
+    EXPECT_EQ(page().fieldValue("it's"), "ü");
+    EXPECT_EQ(page().fieldValue("missing"), std::nullopt);
+    EXPECT_EQ(page().fieldValue("p"), std::nullopt) << "an element without a value";
     EXPECT_EQ(page().contentHeight("noticeRoot"), 230);
     EXPECT_GE(page().contentHeight("missing"), 300);
-}
-
-TEST_F(Browser, TheValuesOfCheckedBoxesComeInTheOrderOfThePage) {
-    const PageFile file(
-        "<input type=checkbox name=mvAccept value=a checked><input type=checkbox name=mvAccept "
-        "value=b><input type=checkbox name=mvAccept value=c checked>");
-    open(file.url());
     EXPECT_EQ(page().checkedValues("mvAccept"), "a,c");
-    EXPECT_EQ(page().checkedValues("other"), "");
-}
-
-TEST_F(Browser, StylesAreSetByTheirScriptNamesInAnyCase) {
-    const PageFile file("<div id='d'></div>");
-    open(file.url());
-    page().setStyle("HEIGHT", "432px");
-    EXPECT_GE(page().contentHeight("none"), 432);
-}
-
-TEST_F(Browser, ThePagesOwnScriptsDoNotRun) {
-    const PageFile file(
-        "<input id='f' value='plain'><script>"
-        "document.getElementById('f').value='script';</script>");
-    open(file.url());
-    EXPECT_EQ(page().fieldValue("f"), "plain");
+    page().setStyle("HEIGHT", "932px");
+    EXPECT_GE(page().contentHeight("missing"), 932) << "by the name in scripts, in any case";
 }
 
 TEST_F(Browser, NoTimerTicksWhileAPageIsBeingAsked) {
@@ -233,14 +223,14 @@ TEST_F(Browser, TheStripIsDarkFromTheFirstToTheLast) {
     const PageFile file("<p>dark</p>");
     form.wbStatus.navigate(file.url());
     bool wasBright = false;
-    EXPECT_TRUE(input::waitUntil(desk, [&] {
+    EXPECT_TRUE(waitUntil([&] {
         wasBright = wasBright || isBright();
         return page().isComplete();
     }));
     EXPECT_FALSE(wasBright);
-    EXPECT_FALSE(input::waitUntil(desk, isBright, 200ms));
+    EXPECT_FALSE(waitUntil(isBright, 200ms));
     form.wbStatus.navigate("file:///nowhere/at/all.html");
-    EXPECT_FALSE(input::waitUntil(desk, isBright, 500ms));
+    EXPECT_FALSE(waitUntil(isBright, 500ms));
 }
 
 TEST_F(Browser, AScreenReaderHearsTheNameThatTheFormGivesThePageLater) {
@@ -263,8 +253,7 @@ TEST_F(Browser, AFormMayBeUnloadedFromWithinALink) {
 }
 
 TEST_F(Browser, AFormWithoutAPageStartsNoEngine) {
-    input::waitUntil(
-        desk, [] { return false; }, 150ms);
+    letPass(150ms);
     EXPECT_EQ(widgetOf<desktop::BrowserView>(form.wbStatus).engineView(), nullptr);
 }
 

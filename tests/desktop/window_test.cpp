@@ -3,7 +3,6 @@
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
-#include <gtest/gtest.h>
 
 #include <ctime>
 #include <stdexcept>
@@ -21,10 +20,6 @@ protected:
     [[nodiscard]] QWidget& window(const forms::Form& of) {
         desk.letEventsRun();
         return *desk.plateOf(of)->window();
-    }
-    void letPass(std::chrono::milliseconds time) {
-        input::waitUntil(
-            desk, [] { return false; }, time);
     }
 };
 
@@ -53,36 +48,26 @@ TEST_F(Windows, OtherFormsTakeNoInputBeneathAModalOne) {
     });
     desk.show(dialog, ShowMode::Modal);
     EXPECT_EQ(times("Continue"), 0);
-    EXPECT_EQ(window(form).windowHandle(),
-              nullptr == QGuiApplication::modalWindow() ? window(form).windowHandle() : nullptr);
+    EXPECT_EQ(QGuiApplication::modalWindow(), nullptr);
 }
 
 TEST_F(Windows, AFormThatTakesNoInputLetsClicksKeysAndItsClosingPass) {
     form.takesInput = false;
-    input::click(desk, form.ContinueOk);
-    input::key(desk, form, Qt::Key_Return);
+    click(form.ContinueOk);
+    key(Qt::Key_Return);
     window(form).close();
     desk.letEventsRun();
     EXPECT_TRUE(form.happened.empty());
     EXPECT_TRUE(desk.isLoaded(form));
     form.takesInput = true;
-    input::click(desk, form.ContinueOk);
+    click(form.ContinueOk);
     EXPECT_EQ(times("Continue"), 1);
-}
-
-TEST_F(Windows, AModalFormStandsAboveTheFormThatOpenedIt) {
-    sample::SampleForm dialog(desk);
-    whenModal([&] {
-        EXPECT_EQ(window(dialog).windowHandle()->transientParent(), window(form).windowHandle());
-        desk.unload(dialog);
-    });
-    desk.show(dialog, ShowMode::Modal);
 }
 
 TEST_F(Windows, AFormThatIsShownOnceMoreLeavesTheKeyboardWhereItIs) {
     sample::SampleForm other(desk);
     desk.show(other, ShowMode::Modeless);
-    ASSERT_TRUE(input::waitUntil(desk, [&] { return window(other).isActiveWindow(); }));
+    ASSERT_TRUE(waitUntil([&] { return window(other).isActiveWindow(); }));
     desk.show(form, ShowMode::Modeless);
     letPass(50ms);
     EXPECT_TRUE(window(other).isActiveWindow());
@@ -103,16 +88,9 @@ TEST_F(Windows, AFormWithoutASoftEdgeHasAHardOne) {
 
 TEST_F(Windows, AFailureOfAnEventComesOutWhereEventsAreLetRun) {
     form.Up.onClick = [] { throw std::runtime_error("lost"); };
-    EXPECT_THROW(input::click(desk, form.Up), std::runtime_error);
-    input::click(desk, form.ContinueOk);
+    EXPECT_THROW(click(form.Up), std::runtime_error);
+    click(form.ContinueOk);
     EXPECT_EQ(times("Continue"), 1) << "and the form goes on";
-}
-
-TEST_F(Windows, AFailureInAModalFormEndsItsShowing) {
-    sample::SampleForm dialog(desk);
-    dialog.Up.onClick = [] { throw std::runtime_error("lost"); };
-    whenModal([&] { QTest::mouseClick(desk.widgetOf(dialog.Up), Qt::LeftButton); });
-    EXPECT_THROW(desk.show(dialog, ShowMode::Modal), std::runtime_error);
 }
 
 TEST_F(Windows, AFormMayOpenAnotherFromItsEventAndBeUnloadedBeneathIt) {
@@ -123,7 +101,7 @@ TEST_F(Windows, AFormMayOpenAnotherFromItsEventAndBeUnloadedBeneathIt) {
     };
     dialog.Up.onClick = [&] { desk.unloadAll(); };
     whenModal([&] { QTest::mouseClick(desk.widgetOf(dialog.Up), Qt::LeftButton); });
-    input::click(desk, form.Up);
+    click(form.Up);
     EXPECT_EQ(form.happened, (std::vector<std::string>{"unload", "back"}));
     EXPECT_TRUE(desk.loadedForms().empty());
 }
@@ -144,20 +122,13 @@ TEST_F(Windows, TheTitleBarAndAltF4CloseTheForm) {
         sample::SampleForm other(desk);
         desk.show(other, ShowMode::Modeless);
         if (byKey) {
-            input::key(desk, other, Qt::Key_F4, Qt::AltModifier);
+            keyTo(other, Qt::Key_F4, Qt::AltModifier);
         } else {
             QWidget& bar = widgetOf<QWidget>(other.TitelBar1);
-            input::clickAt(desk, *bar.childAt(bar.width() - 10, 10), {10, 10});
+            clickAt(*bar.childAt(bar.width() - 10, 10), {10, 10});
         }
         EXPECT_EQ(other.happened, std::vector<std::string>{"unload"}) << byKey;
     }
-}
-
-TEST_F(Windows, ATitleBarWhoseCloseButtonIsOffKeepsTheForm) {
-    form.TitelBar1.ShowCloseEnabled = false;
-    QWidget& bar = widgetOf<QWidget>(form.TitelBar1);
-    input::clickAt(desk, *bar.childAt(bar.width() - 10, 10), {10, 10});
-    EXPECT_TRUE(desk.isLoaded(form));
 }
 
 TEST_F(Windows, AFormComesUpInTheMiddleUnlessItPlacesItself) {
@@ -207,13 +178,6 @@ TEST_F(Windows, TheTopmostMarkComesAndGoesWithoutANewWindow) {
     EXPECT_TRUE(window(form).isVisible());
 }
 
-TEST_F(Windows, TheWindowIsMinimisedWithItsForm) {
-    form.windowState = forms::WindowState::Minimised;
-    EXPECT_TRUE(window(form).isMinimized());
-    form.windowState = forms::WindowState::Normal;
-    EXPECT_FALSE(window(form).isMinimized());
-}
-
 TEST_F(Windows, AFormThatMayBeEnlargedIsByItsCornerAndItsTitleBar) {
     form.resizable = true;
     form.place.left += 15;
@@ -223,9 +187,7 @@ TEST_F(Windows, AFormThatMayBeEnlargedIsByItsCornerAndItsTitleBar) {
     const auto dragCorner = [&](QPoint by) {
         const QPoint from = corner.rect().center();
         QTest::mousePress(&corner, Qt::LeftButton, {}, from);
-        QMouseEvent move(QEvent::MouseMove, from + by, corner.mapToGlobal(from + by), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&corner, &move);
+        dragTo(corner, from + by);
         QTest::mouseRelease(&corner, Qt::LeftButton, {}, from);
         desk.letEventsRun();
     };
@@ -253,7 +215,7 @@ TEST_F(Windows, ATimerTicksWhileItIsEnabledAndItsFormLoaded) {
         if (++ticks == 3) form.Timer1.enabled = false;
     };
     form.Timer1.enabled = true;
-    EXPECT_TRUE(input::waitUntil(desk, [&] { return ticks == 3; }));
+    EXPECT_TRUE(waitUntil([&] { return ticks == 3; }));
     letPass(60ms);
     EXPECT_EQ(ticks, 3);
     form.Timer1.enabled = true;
@@ -274,7 +236,7 @@ TEST_F(Windows, ATimerThatLetsEventsRunIsNotInterruptedByItself) {
         form.Timer1.enabled = false;
     };
     form.Timer1.enabled = true;
-    EXPECT_TRUE(input::waitUntil(desk, [&] { return deepest > 0 && !form.Timer1.enabled; }));
+    EXPECT_TRUE(waitUntil([&] { return deepest > 0 && !form.Timer1.enabled; }));
     EXPECT_EQ(deepest, 1);
 }
 
@@ -284,7 +246,7 @@ TEST_F(Windows, ATimerOfAFormThatIsOnlyLoadedTicksToo) {
     bool ticked = false;
     hidden.Timer1.onTimer = [&] { ticked = true; };
     hidden.Timer1.enabled = true;
-    EXPECT_TRUE(input::waitUntil(desk, [&] { return ticked; }));
+    EXPECT_TRUE(waitUntil([&] { return ticked; }));
     EXPECT_EQ(desk.plateOf(hidden), nullptr);
 }
 
@@ -296,15 +258,6 @@ TEST_F(Windows, WaitingForEventsUsesNoProcessorTime) {
     while (!woken) desk.waitForEvents();
     const double usedMs = 1000.0 * static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
     EXPECT_LT(usedMs, 30);
-}
-
-TEST_F(Windows, AMessageBoxIsAnsweredByTheScriptOfATest) {
-    std::string said;
-    desk.answerMessageBoxes([&](std::string_view text, std::string_view title) {
-        said = std::string(title) + ": " + std::string(text);
-    });
-    desk.messageBox("Help file not found: x", "Error");
-    EXPECT_EQ(said, "Error: Help file not found: x");
 }
 
 TEST_F(Windows, TheSystemsMessageBoxWaitsForItsButton) {

@@ -32,10 +32,6 @@ ScriptedBrowser* WindowlessDesktop::browser(const forms::Form& form) const {
     return found->second.browsers.front().get();
 }
 
-bool WindowlessDesktop::hasWindow(const forms::Form& form) const {
-    return windows_.contains(&form);
-}
-
 void WindowlessDesktop::letEventsRun() {
     ++pumps;
     finishPages();

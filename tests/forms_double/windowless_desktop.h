@@ -48,15 +48,12 @@ public:
     /// The next modal form must have this name; the answer has to get it unloaded. A modal form
     /// without an answer fails the test and is unloaded.
     void answer(std::string formName, Answer answer);
-    /// Answers that no form has asked for.
-    [[nodiscard]] std::size_t openAnswers() const { return answers_.size(); }
 
     /// Lets time pass, a millisecond at a time: pages load and timers tick.
     void advance(std::chrono::milliseconds duration);
 
     /// The browser behind the form's first browser control. Null while there is no window.
     [[nodiscard]] ScriptedBrowser* browser(const forms::Form& form) const;
-    [[nodiscard]] bool hasWindow(const forms::Form& form) const;
 
     void letEventsRun() override;
     void waitForEvents() override;

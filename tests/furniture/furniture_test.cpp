@@ -51,6 +51,11 @@ TEST_F(Furniture, ATitleBarClosesMinimisesAndMaximisesWhereItMay) {
     sheet.bar.ShowMaximizedEnabled = false;
     sheet.bar.pressMaximise();
     EXPECT_EQ(sheet.windowState, forms::WindowState::Normal);
+    sheet.bar.doubleClick();
+    EXPECT_EQ(sheet.windowState, forms::WindowState::Normal) << "not a form that can be enlarged";
+    sheet.resizable = true;
+    sheet.bar.doubleClick();
+    EXPECT_EQ(sheet.windowState, forms::WindowState::Maximised);
     sheet.bar.pressMinimise();
     EXPECT_EQ(sheet.windowState, forms::WindowState::Minimised);
 
@@ -67,13 +72,7 @@ TEST_F(Furniture, AShadowServesOneFormAndGoesWithItsInstance) {
     EXPECT_TRUE(shadow->Shadow(sheet));
     EXPECT_EQ(sheet.shadowDepthPx, 7);
     EXPECT_EQ(sheet.shadowOpacity, 140);
-    try {
-        shadow->Shadow(sheet);
-        FAIL() << "a second form was taken";
-    } catch (const furniture::ShadowRefused& refused) {
-        EXPECT_STREQ(refused.what(), "Only a single form per cShadow instance is allowed");
-        EXPECT_EQ(furniture::ShadowRefused::source(), "Shadow");
-    }
+    EXPECT_THROW(shadow->Shadow(sheet), furniture::ShadowRefused);
     shadow->setDepth(12);
     shadow->setTransparency(80);
     shadow->setColor(0x0000FFU);
