@@ -48,6 +48,8 @@ public:
     /// The next modal form must have this name; the answer has to get it unloaded. A modal form
     /// without an answer fails the test and is unloaded.
     void answer(std::string formName, Answer answer);
+    /// Answers that no form has asked for.
+    [[nodiscard]] std::size_t openAnswers() const { return answers_.size(); }
 
     /// Lets time pass, a millisecond at a time: pages load and timers tick.
     void advance(std::chrono::milliseconds duration);
