@@ -31,8 +31,8 @@ template <class Write, class Self>
 concept MemberWriter = std::invocable<const Write&, Self&, const Value&> ||
     std::invocable<const Write&, Self&, const CallArguments&, const Value&>;
 
-/// The members of one object-model class: name, argument names, functions. An adapter class has one
-/// such table and reaches its members through `Scripted`.
+/// The members of one object-model class: name, argument names, functions. A model object has
+/// one such table.
 ///
 ///     static const MemberTable<Worksheet> table = MemberTable<Worksheet>("Worksheet")
 ///         .property("Name", &Worksheet::name, &Worksheet::setName)

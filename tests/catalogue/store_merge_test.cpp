@@ -122,7 +122,7 @@ TEST_F(StoreMerge, KeepsTheRowsOfWhatHasVanished) {
     book.define("Total", "=Sales!$A$1");
     run();
     test.sheet("Sales").get("ChartObjects").get("Item", "Chart 1").call("Delete");
-    test.session.ActiveBook.get("Names").get("Item", "Total").call("Delete");
+    book.undefine("Total");
     const LoadedList loaded(test);
     EXPECT_EQ(loaded.names(), (Words{"Chart 1@Sales", "Chart 2@Sales", "Total@Sales"}));
     EXPECT_FALSE(loaded.list.rows.at(2).hasSeveralAreas);

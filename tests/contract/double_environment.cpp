@@ -32,7 +32,6 @@ void fillSales(Worksheet& sales) {
         .chart("Trend", {chartLeft, 19 * Worksheet::rowHeight, 240, 144})
         .define("Local", "A2:B3")
         .define("Print_Area", "A1:J20");
-    sales.chartObject("Chart 1").chart().title("Sales by item");
 }
 
 void fillTypes(Worksheet& types) {
@@ -41,7 +40,7 @@ void fillTypes(Worksheet& types) {
         .value("A2", "3")
         .value("A3", 2.5)
         .value("A4", true)
-        .formula("A6", "=SUM(Sales!B2:B3)", 504.0)
+        .value("A6", 504.0)
         .format("A7", "0.00")
         .value("A7", 0.256)
         .format("A8", "0%")
@@ -91,6 +90,11 @@ public:
         suite_.excel().addFile(document("contract-locked.xlsx"), [](Workbook& book) {
             book.sheet("Sheet1").value("A1", "open");
             book.protectStructure();
+        });
+        suite_.excel().addFile(document("contract-readonly.xlsx"), [](Workbook& book) {
+            book.sheet("Sheet1").value("A1", "as it was");
+            book.chartSheet("Overview");
+            book.readOnly();
         });
         suite_.powerPoint().addFile(document("contract-deck.pptx"), fillDeck);
     }

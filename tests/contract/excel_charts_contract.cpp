@@ -45,14 +45,13 @@ TEST_F(ExcelContract, DescribesAChart) {
     EXPECT_NEAR(object.get("Width").toDouble(), 360, 2 * point);
     EXPECT_NEAR(object.get("Height").toDouble(), 216, 2 * point);
     EXPECT_EQ(object.get("TopLeftCell").get("Address").toText(), "$L$2");
-    EXPECT_GT(object.get("BottomRightCell").get("Column").toLong(), 12);
-    EXPECT_GT(object.get("BottomRightCell").get("Row").toLong(), 2);
+    const Value under =
+        excel.get("Range", object.get("TopLeftCell"), object.get("BottomRightCell"));
+    EXPECT_GT(under.get("Columns").get("Count").toLong(), 1);
+    EXPECT_GT(under.get("Rows").get("Count").toLong(), 1);
     EXPECT_EQ(object.get("Parent").get("Name").toText(), "Sales");
     EXPECT_EQ(object.get("Chart").toObject().typeName(), "Chart");
     EXPECT_EQ(object.get("Chart").get("Parent").get("Name").toText(), "Chart 1");
-    EXPECT_TRUE(object.get("Chart").get("HasTitle").toBool());
-    EXPECT_EQ(object.get("Chart").get("ChartTitle").get("Text").toText(), "Sales by item");
-    EXPECT_FALSE(sheet("Sales").call("ChartObjects", 2).get("Chart").get("HasTitle").toBool());
 }
 
 TEST_F(ExcelContract, ExportsAChartAsACrispPictureOfItsSize) {

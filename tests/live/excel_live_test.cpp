@@ -1,6 +1,7 @@
 #include "live/excel_live_test.h"
 
 #include <com/sun/star/container/XEnumerationAccess.hpp>
+#include <com/sun/star/frame/XStorable.hpp>
 
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/excel/application.h"
@@ -40,6 +41,14 @@ std::vector<std::string> ExcelLive::namesIn(const Value& collection) {
 
 uno::Reference<css::frame::XModel> ExcelLive::model() const {
     return desk_->activeWorkbook()->model();
+}
+
+std::string ExcelLive::savedCopy() const {
+    const std::string path = file("copy.xlsx");
+    as<css::frame::XStorable>(model())->storeToURL(
+        fileUrl(path),
+        propertyValues({{"FilterName", uno::Any(rtl::OUString("Calc MS Excel 2007 XML"))}}));
+    return path;
 }
 
 std::vector<std::string> ExcelLive::openDocuments() const {

@@ -18,6 +18,8 @@ protected:
 
     /// One of the workbooks that `make-books` writes, as a copy of the test's own.
     Object open(std::string_view name);
+    /// The active workbook, saved under another name.
+    [[nodiscard]] std::string savedCopy() const;
     /// What automation started anew knows of the same suite: nothing that the other one remembers.
     [[nodiscard]] Object freshApplication() const;
 

@@ -32,7 +32,6 @@ TEST_F(ExcelSheets, TellsChartSheetsFromWorksheetsByTheFile) {
     EXPECT_EQ(namesIn(book.get("Worksheets")), (Names{"Data", "Alike", "Hidden", "Buried"}));
     EXPECT_EQ(namesIn(book.get("Charts")), Names{"Trend"});
     EXPECT_EQ(sheet(book, "Trend").typeName(), "Chart");
-    EXPECT_EQ(sheet(book, "Trend").get("ChartTitle").get("Text").toText(), "The trend");
     EXPECT_EQ(sheet(book, "Alike").typeName(), "Worksheet");
 }
 
@@ -141,11 +140,6 @@ TEST_F(ExcelSheets, ClosesNoChangedWorkbookWithoutBeingToldWhetherToSave) {
     const Object book = open("sheets.xlsx");
     sheet(book, "Data").get("Range", "A1").put("Value", "changed");
     EXPECT_EQ(failureOf([&] { book.call("Close"); }), refused);
-    const Object copied = [&] {
-        book.call("SaveCopyAs", file("copy.xlsx"));
-        return app.get("Workbooks").call("Open", file("copy.xlsx")).toObject();
-    }();
-    EXPECT_EQ(sheet(copied, "Data").get("Range", "A1").get("Value").toText(), "changed");
     EXPECT_FALSE(book.get("Saved").toBool());
     book.call("Close", false);
     EXPECT_EQ(failureOf([&] { book.get("Name"); }), disconnected);

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "office/member_table.h"
-#include "office/scripted.h"
+#include "office/model/model_object.h"
 
 namespace {
 
@@ -21,21 +21,25 @@ using office::Value;
 struct ForeignError {};
 
 /// Turns foreign errors into failures, and notes that it was asked.
-struct Translating {
-    template <class Self, class Statement>
-    static Value run(Self& self, std::string_view member, Statement&& statement) {
-        self.guarded.emplace_back(member);
+struct Translating : office::model::Guard {
+    Value run(const office::model::MemberUse& use,
+              const std::function<Value()>& statement) override {
+        guarded.emplace_back(use.member);
         try {
             return statement();
         } catch (const ForeignError&) {
-            throw Failure(FailureNumber::ApplicationDefined, std::string(member), "translated");
+            throw Failure(FailureNumber::ApplicationDefined, std::string(use.member), "translated");
         }
     }
+
+    std::vector<std::string> guarded;
 };
 
 /// A small object with a member of each sort.
-class Lamp : public office::Scripted<Lamp, Translating> {
+class Lamp : public office::model::ModelObject<Lamp> {
 public:
+    using ModelObject::ModelObject;
+
     static const office::MemberTable<Lamp>& members() {
         static const auto table =
             office::MemberTable<Lamp>("Lamp")
@@ -47,8 +51,6 @@ public:
                         [](Lamp&, const CallArguments&) -> Value { throw ForeignError(); });
         return table;
     }
-
-    std::vector<std::string> guarded;
 
 private:
     Value readName() { return name_; }
@@ -70,8 +72,8 @@ private:
 
 class MemberTableTest : public testing::Test {
 protected:
-    std::shared_ptr<Lamp> lamp = std::make_shared<Lamp>();
-    Object object{lamp};
+    std::shared_ptr<Translating> guard = std::make_shared<Translating>();
+    Object object = office::model::makeObject<Lamp>(guard);
 
     /// The failure that a statement ends in.
     template <class Statement>
@@ -136,7 +138,7 @@ TEST_F(MemberTableTest, RunsEveryCallThroughTheGuard) {
     object.get("Name");
     object.put("Name", "x");
     object.call("Blink", 1);
-    EXPECT_EQ(lamp->guarded, (std::vector<std::string>{"Name", "Name", "Blink"}));
+    EXPECT_EQ(guard->guarded, (std::vector<std::string>{"Name", "Name", "Blink"}));
     const Failure failure = failureOf([&] { object.call("Break"); });
     EXPECT_EQ(failure.description(), "translated");
 }

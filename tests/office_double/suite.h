@@ -22,6 +22,8 @@ namespace office_double {
 class DoubleSuite : public office::Suite {
 public:
     DoubleSuite() : state_(std::make_shared<SuiteState>()) {}
+    /// Handles that outlive the suite find it lost.
+    ~DoubleSuite() override { kill(); }
 
     /// The application of the name; the first call makes it run.
     ExcelApplication& excel();

@@ -2,11 +2,17 @@
 
 #include <optional>
 
+#include "office/failure.h"
 #include "office/model/guard.h"
 #include "support/call_log.h"
 #include "support/failure_plan.h"
 
 namespace office_double {
+
+using office::Failure;
+using office::FailureNumber;
+using office::Object;
+using office::Value;
 
 /// A picture on the applications' clipboard; its size in points.
 struct CopiedPicture {

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <type_traits>
 #include <utility>
 
 #include "office/failure.h"
@@ -68,10 +69,11 @@ std::shared_ptr<Kind> Desk::recordOf(const uno::Reference<css::frame::XModel>& m
         if (document->model() == model) return std::dynamic_pointer_cast<Kind>(document);
     }
     std::shared_ptr<Kind> record;
-    if constexpr (std::is_constructible_v<Kind, decltype(model), std::shared_ptr<Connection>>)
+    if constexpr (std::is_constructible_v<Kind, Desk&, decltype(model)>) {
+        record = std::make_shared<Kind>(*this, model);
+    } else {
         record = std::make_shared<Kind>(model, connection_);
-    else
-        record = std::make_shared<Kind>(model);
+    }
     documents_.push_back(record);
     return record;
 }

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/document.h"
 #include "office/libreoffice/window_order.h"
+#include "office/model/excel/books.h"
 #include "office/model/guard.h"
 #include "office/value.h"
 
@@ -23,10 +23,15 @@ class ImpressDeck;
 
 /// A picture of a range as `Range.CopyPicture` takes it: the suite's own vector format, with the
 /// range's size.
-struct CopiedPicture {
+struct CopiedPicture : office::model::excel::Picture {
+    CopiedPicture(uno::Sequence<sal_Int8> bytes, std::int32_t width, std::int32_t height)
+        : metafile(std::move(bytes)),
+          widthHundredthMm(width),
+          heightHundredthMm(height) {}
+
     uno::Sequence<sal_Int8> metafile;
-    std::int32_t widthHundredthMm = 0;
-    std::int32_t heightHundredthMm = 0;
+    std::int32_t widthHundredthMm;
+    std::int32_t heightHundredthMm;
 };
 
 /// What all objects of one suite share: the connection, the documents that have been met, and what
@@ -57,7 +62,6 @@ public:
     /// last, or else the first. Null with none open.
     std::shared_ptr<excel::CalcDocument> activeWorkbook();
     std::shared_ptr<powerpoint::ImpressDeck> activePresentation();
-    void setActive(const std::shared_ptr<Document>& document) { document->markActive(); }
 
     /// Opens a file, or makes a new document from a factory URL. `office::Failure` 1004 with the
     /// reason if the suite gives no document: no such file, not of a kind it reads, locked by
@@ -70,17 +74,13 @@ public:
                                             bool readOnly = false);
 
     /// What `Range.CopyPicture` copied last; `Chart.Paste` takes it.
-    std::optional<CopiedPicture> copiedPicture;
+    std::shared_ptr<const CopiedPicture> copiedPicture;
 
     /// Makes picture files; null until the first one is asked for.
     std::shared_ptr<excel::PictureMaker> pictureMaker;
 
-    /// Values of the application objects that nothing in the suite answers to.
-    std::int32_t calculation = -4105;
-    std::int32_t excelWindowState = -4143;
-    bool screenUpdating = true;
-    bool enableEvents = true;
-    bool displayAlerts = true;
+    /// Nothing in the suite answers to these.
+    office::model::excel::Settings excelSettings;
 
 private:
     void makeChangeable(const uno::Reference<css::frame::XModel>& model, const rtl::OUString& file);

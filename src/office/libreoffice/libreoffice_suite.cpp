@@ -13,7 +13,6 @@
 #include "office/failure.h"
 #include "office/libreoffice/desk.h"
 #include "office/libreoffice/excel/application.h"
-#include "office/libreoffice/excel/chart_export.h"
 #include "office/libreoffice/excel/picture_maker.h"
 #include "office/libreoffice/guard.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"

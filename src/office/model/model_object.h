@@ -79,6 +79,11 @@ template <class Class>
     return on ? -1 : 0;
 }
 
+/// Nothing as the empty value.
+[[nodiscard]] inline Value valueOf(const Object& object) {
+    return object ? Value(object) : Value();
+}
+
 [[nodiscard]] inline Value countOf(std::size_t number) {
     return static_cast<std::int32_t>(number);
 }

@@ -7,20 +7,17 @@
 #include <string_view>
 #include <vector>
 
-#include "office_double/double_object.h"
-#include "office_double/excel/chart.h"
-#include "office_double/excel/chart_object.h"
+#include "office/model/excel/books.h"
 #include "office_double/excel/workbook.h"
-#include "office_double/excel/worksheet.h"
+#include "office_double/suite_state.h"
 
 namespace office_double {
 
 /// A running Excel.
-class ExcelApplication : public Doubled<ExcelApplication> {
+class ExcelApplication : public excel::Books,
+                         public std::enable_shared_from_this<ExcelApplication> {
 public:
-    using Doubled::Doubled;
-
-    static const office::MemberTable<ExcelApplication>& members();
+    explicit ExcelApplication(std::shared_ptr<SuiteState> state) : state_(std::move(state)) {}
 
     // Building.
     /// An open workbook without sheets, which becomes the active one.
@@ -28,48 +25,41 @@ public:
     /// A file that `Workbooks.Open` finds; `fill` makes its content.
     void addFile(const std::string& path, std::function<void(Workbook&)> fill);
     /// What the file prompt answers; "False" until told otherwise.
-    void answerOpenPrompt(Value answer) { openPromptAnswer_ = std::move(answer); }
+    void answerOpenPrompt(office::Value answer) { openPromptAnswer_ = std::move(answer); }
     void setVersion(std::string version) { version_ = std::move(version); }
-    /// The user selects a range by its address or name on the active sheet.
+    /// The user selects cells on the active sheet.
     void selectRange(const std::string& address);
-    void selectChart(Chart& chart);
-    void select(Object selection);
 
+    [[nodiscard]] office::Object handle();
+    [[nodiscard]] office::Object handleOf(Workbook& book);
     [[nodiscard]] Workbook* activeWorkbook() const;
     [[nodiscard]] Workbook* findOpen(std::string_view name) const;
-    void activate(Workbook& book) { active_ = book.weak_from_this(); }
-    void closeBook(Workbook& book);
+    void activate(const Workbook& book);
+    void closeBook(const Workbook& book);
+
+    std::string version() override { return version_; }
+    excel::Settings& settings() override { return settings_; }
+    std::vector<excel::BookPtr> open() override { return {books_.begin(), books_.end()}; }
+    excel::BookPtr active() override;
+    excel::BookPtr load(const std::string& file, const std::string& password,
+                        bool readOnly) override;
+    office::Value askForFile(const std::string&, const std::string&) override {
+        return openPromptAnswer_;
+    }
+    excel::PicturePtr copied() override;
+    void setCopied(excel::PicturePtr picture) override;
+    void writePicture(const excel::PicturePtr& picture, const excel::Box& area,
+                      const std::string& path) override;
 
 private:
-    using Reader = office::MemberTable<ExcelApplication>::Reader;
-
-    [[nodiscard]] Workbook& requiredBook(const std::string& source) const;
-    [[nodiscard]] Worksheet& requiredSheet(const std::string& source) const;
-    /// A member of the active workbook, or of its active worksheet.
-    static Reader ofBook(std::string member);
-    static Reader ofSheet(Value (Worksheet::*read)(const CallArguments&));
-    static void addWorksheetFunctions(office::MemberTable<ExcelApplication>& table);
-    static void addSettings(office::MemberTable<ExcelApplication>& table);
-
-    Value readActiveWorkbook();
-    Value readActiveSheet();
-    Value readWorkbooks();
-    Value openBook(const CallArguments& arguments);
-    Value range(const CallArguments& arguments);
-    Value intersect(const CallArguments& arguments);
-
+    std::shared_ptr<SuiteState> state_;
     std::string version_ = "16.0";
+    excel::Settings settings_;
+    /// The one that was active last stands at the end of `recent_`.
     std::vector<std::shared_ptr<Workbook>> books_;
-    std::weak_ptr<DoubleObject> active_;
+    std::vector<const Workbook*> recent_;
     std::map<std::string, std::function<void(Workbook&)>> files_;
-    Object selection_;
-    std::weak_ptr<DoubleObject> activeChart_;
-    Value openPromptAnswer_ = false;
-    std::map<std::string, Value> settings_ = {{"ScreenUpdating", true},
-                                              {"EnableEvents", true},
-                                              {"DisplayAlerts", true},
-                                              {"Calculation", -4105},
-                                              {"WindowState", -4143}};
+    office::Value openPromptAnswer_ = false;
 };
 
 }  // namespace office_double

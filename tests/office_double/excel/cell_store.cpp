@@ -1,146 +1,101 @@
 #include "office_double/excel/cell_store.h"
 
-#include <fmt/format.h>
-
-#include "office/text.h"
+#include <algorithm>
 
 namespace office_double {
 
+using excel::CellBlock;
+using office::Table;
 using office::Value;
 
 namespace {
 
-Value asTyped(const Value& value, bool textCell) {
-    if (value.isBlank() || value.isMissing()) return {};
-    if (textCell) return value.isBool() ? Value(value.toBool() ? "TRUE" : "FALSE") : value.toText();
-    if (value.isBool()) return value;
-    if (value.isNumber()) return value.toDouble();
-    const std::string text = value.toText();
-    if (const auto number = office::numberOf(text)) return *number;
-    if (office::sameIgnoringCase(text, "TRUE")) return true;
-    if (office::sameIgnoringCase(text, "FALSE")) return false;
-    return text;
-}
-
-bool covers(const Area& area, int row, int column) {
-    return intersection(area, {row, column, row, column}).has_value();
+bool covers(const CellBlock& block, std::int32_t row, std::int32_t column) {
+    return excel::intersection(block, CellBlock::cell(row, column)).has_value();
 }
 
 }  // namespace
 
-Value CellStore::value(int row, int column) const {
-    const auto found = cells_.find({row, column});
-    return found == cells_.end() ? Value() : found->second.value;
+Table CellStore::read(const CellBlock& block) const {
+    Table table(static_cast<std::size_t>(block.rows()), static_cast<std::size_t>(block.columns()));
+    for (auto cell = cells_.lower_bound({block.firstRow, block.firstColumn});
+         cell != cells_.end() && cell->first.first <= block.lastRow; ++cell) {
+        const auto& [place, value] = *cell;
+        if (covers(block, place.first, place.second))
+            table.at(static_cast<std::size_t>(place.first - block.firstRow) + 1,
+                     static_cast<std::size_t>(place.second - block.firstColumn) + 1) = value;
+    }
+    return table;
 }
 
-void CellStore::enter(int row, int column, const Value& value) {
-    const Value typed = asTyped(value, format(row, column) == "@");
-    if (typed.isEmpty()) {
-        cells_.erase({row, column});
-    } else {
-        cells_[{row, column}] = {typed, {}};
+void CellStore::enter(std::int32_t row, std::int32_t column, const Table& values) {
+    for (std::size_t i = 0; i < values.rows(); ++i) {
+        for (std::size_t j = 0; j < values.columns(); ++j) {
+            const std::pair place(row + static_cast<std::int32_t>(i),
+                                  column + static_cast<std::int32_t>(j));
+            const Value typed =
+                excel::typedIn(values.at(i + 1, j + 1), format(place.first, place.second) == "@");
+            if (typed.isEmpty()) {
+                cells_.erase(place);
+            } else {
+                cells_[place] = typed;
+            }
+        }
     }
 }
 
-void CellStore::setFormula(int row, int column, std::string formula, Value result) {
-    cells_[{row, column}] = {std::move(result), std::move(formula)};
-}
-
-std::string CellStore::formula(int row, int column) const {
-    const auto found = cells_.find({row, column});
-    if (found == cells_.end()) return {};
-    return found->second.formula.empty() ? found->second.value.toText() : found->second.formula;
-}
-
-void CellStore::clear(const Area& area) {
+void CellStore::clear(const CellBlock& block) {
     std::erase_if(cells_, [&](const auto& entry) {
-        return covers(area, entry.first.first, entry.first.second);
+        return covers(block, entry.first.first, entry.first.second);
     });
 }
 
-std::string CellStore::format(int row, int column) const {
+std::string CellStore::format(std::int32_t row, std::int32_t column) const {
     for (auto entry = formats_.rbegin(); entry != formats_.rend(); ++entry) {
         if (covers(entry->first, row, column)) return entry->second;
     }
     return "General";
 }
 
-void CellStore::setFormat(const Area& area, std::string format) {
-    formats_.emplace_back(area, std::move(format));
+void CellStore::setFormat(const CellBlock& block, std::string format) {
+    formats_.emplace_back(block, std::move(format));
 }
 
-std::string CellStore::shown(int row, int column) const {
-    const Value held = value(row, column);
-    if (held.isBool()) return held.toBool() ? "TRUE" : "FALSE";
-    if (!held.isNumber()) return held.toText();
-    const std::string pattern = format(row, column);
-    if (pattern == "0") return fmt::format("{:.0f}", held.toDouble());
-    if (pattern == "0.00") return fmt::format("{:.2f}", held.toDouble());
-    if (pattern == "0%") return fmt::format("{:.0f}%", held.toDouble() * 100);
-    return held.toText();
-}
-
-bool CellStore::isFilled(int row, int column) const {
-    return cells_.contains({row, column});
-}
-
-bool CellStore::anyFilled(const Area& area) const {
-    for (auto cell = cells_.lower_bound({area.top, area.left}); cell != cells_.end(); ++cell) {
-        if (cell->first.first > area.bottom) return false;
-        if (covers(area, cell->first.first, cell->first.second)) return true;
+CellBlock CellStore::used() const {
+    CellBlock block;
+    for (const auto& [place, value] : cells_) {
+        block.lastRow = std::max(block.lastRow, place.first);
+        block.lastColumn = std::max(block.lastColumn, place.second);
     }
-    return false;
+    return block;
 }
 
-Area CellStore::used() const {
-    Area area;
-    for (const auto& [place, cell] : cells_) {
-        area.bottom = std::max(area.bottom, place.first);
-        area.right = std::max(area.right, place.second);
+std::vector<std::pair<std::int32_t, std::int32_t>> CellStore::filledRows(
+    const CellBlock& block) const {
+    std::vector<std::pair<std::int32_t, std::int32_t>> stretches;
+    for (const auto& [place, value] : cells_) {
+        if (!covers(block, place.first, place.second)) continue;
+        if (!stretches.empty() && stretches.back().second + 1 >= place.first) {
+            stretches.back().second = place.first;
+        } else {
+            stretches.emplace_back(place.first, place.first);
+        }
     }
-    return area;
+    return stretches;
 }
 
-Area CellStore::regionAround(const Area& start) const {
-    Area region = start;
-    for (bool grown = true; grown;) {
-        grown = false;
-        const Area around{std::max(1, region.top - 1), std::max(1, region.left - 1),
-                          std::min(lastRow, region.bottom + 1),
-                          std::min(lastColumn, region.right + 1)};
-        const auto extend = [&](int Area::*side, Area edge) {
-            if (region.*side == around.*side || !anyFilled(edge)) return;
-            region.*side = around.*side;
-            grown = true;
-        };
-        extend(&Area::top, {around.top, around.left, around.top, around.right});
-        extend(&Area::bottom, {around.bottom, around.left, around.bottom, around.right});
-        extend(&Area::left, {around.top, around.left, around.bottom, around.left});
-        extend(&Area::right, {around.top, around.right, around.bottom, around.right});
-    }
-    return region;
+void CellStore::hide(const CellBlock& block, excel::Lines lines, bool hidden) {
+    hidden_.push_back({block, lines, hidden});
 }
 
-int CellStore::endUp(int row, int column) const {
-    const bool insideBlock = row > 1 && isFilled(row, column) && isFilled(row - 1, column);
-    if (insideBlock) {
-        while (row > 1 && isFilled(row - 1, column)) --row;
-        return row;
-    }
-    int end = 1;
-    for (const auto& [place, cell] : cells_) {
-        if (place.second == column && place.first < row) end = std::max(end, place.first);
-    }
-    return end;
-}
-
-void CellStore::hideRows(const Area& area, bool hidden) {
-    hiddenRows_.emplace_back(Area{area.top, 1, area.bottom, lastColumn}, hidden);
-}
-
-bool CellStore::isRowHidden(int row) const {
-    for (auto entry = hiddenRows_.rbegin(); entry != hiddenRows_.rend(); ++entry) {
-        if (covers(entry->first, row, 1)) return entry->second;
+bool CellStore::isHidden(const CellBlock& block, excel::Lines lines) const {
+    for (auto entry = hidden_.rbegin(); entry != hidden_.rend(); ++entry) {
+        const bool covered =
+            lines == excel::Lines::Rows
+                ? entry->block.firstRow <= block.firstRow && block.firstRow <= entry->block.lastRow
+                : entry->block.firstColumn <= block.firstColumn &&
+                      block.firstColumn <= entry->block.lastColumn;
+        if (covered && entry->lines == lines) return entry->hidden;
     }
     return false;
 }

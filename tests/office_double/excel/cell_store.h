@@ -1,56 +1,49 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "office/model/excel/cells.h"
 #include "office/value.h"
-#include "office_double/excel/address.h"
 
 namespace office_double {
 
-/// The contents of one worksheet, sparse: values, formulas, number formats, hidden rows.
+namespace excel = office::model::excel;
+
+/// The contents of one worksheet, sparse: values, number formats, hidden rows and columns.
 class CellStore {
 public:
-    [[nodiscard]] office::Value value(int row, int column) const;
-    /// What typing would make of it: in a text cell ("@") all stays text, elsewhere a text that is
-    /// a number becomes one.
-    void enter(int row, int column, const office::Value& value);
-    void setFormula(int row, int column, std::string formula, office::Value result);
-    [[nodiscard]] std::string formula(int row, int column) const;
-    void clear(const Area& area);
+    [[nodiscard]] office::Table read(const excel::CellBlock& block) const;
+    /// Values from a cell on, as if they had been typed in.
+    void enter(std::int32_t row, std::int32_t column, const office::Table& values);
+    void clear(const excel::CellBlock& block);
 
-    [[nodiscard]] std::string format(int row, int column) const;
-    void setFormat(const Area& area, std::string format);
+    [[nodiscard]] std::string format(std::int32_t row, std::int32_t column) const;
+    void setFormat(const excel::CellBlock& block, std::string format);
 
-    /// The cell as it is shown, in the few formats that occur here.
-    [[nodiscard]] std::string shown(int row, int column) const;
+    /// The smallest block from A1 on that holds all that is filled.
+    [[nodiscard]] excel::CellBlock used() const;
+    /// Stretches of filled rows of a block.
+    [[nodiscard]] std::vector<std::pair<std::int32_t, std::int32_t>> filledRows(
+        const excel::CellBlock& block) const;
 
-    [[nodiscard]] bool isFilled(int row, int column) const;
-    /// The smallest rectangle from A1 on that holds all that is filled.
-    [[nodiscard]] Area used() const;
-    /// The block around a cell that empty rows and columns border.
-    [[nodiscard]] Area regionAround(const Area& start) const;
-    /// Where a jump upwards from a cell ends.
-    [[nodiscard]] int endUp(int row, int column) const;
-
-    void hideRows(const Area& area, bool hidden);
-    [[nodiscard]] bool isRowHidden(int row) const;
+    void hide(const excel::CellBlock& block, excel::Lines lines, bool hidden);
+    [[nodiscard]] bool isHidden(const excel::CellBlock& block, excel::Lines lines) const;
 
 private:
-    struct Cell {
-        office::Value value;
-        std::string formula;
-    };
-
-    [[nodiscard]] bool anyFilled(const Area& area) const;
-
-    std::map<std::pair<int, int>, Cell> cells_;
+    /// By row, then column.
+    std::map<std::pair<std::int32_t, std::int32_t>, office::Value> cells_;
     /// The last one that covers a cell counts.
-    std::vector<std::pair<Area, std::string>> formats_;
-    std::vector<std::pair<Area, bool>> hiddenRows_;
+    std::vector<std::pair<excel::CellBlock, std::string>> formats_;
+    struct HiddenLines {
+        excel::CellBlock block;
+        excel::Lines lines;
+        bool hidden;
+    };
+    std::vector<HiddenLines> hidden_;
 };
 
 }  // namespace office_double

@@ -1,86 +1,76 @@
 #pragma once
 
-#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "office_double/loose_object.h"
+#include "office/model/excel/book.h"
+#include "office/value.h"
+#include "office_double/excel/worksheet.h"
 
 namespace office_double {
 
-class Chart;
 class ExcelApplication;
-class Name;
-class Sheet;
-class Worksheet;
 
-class Workbook : public Doubled<Workbook> {
+class Workbook : public excel::Book, public std::enable_shared_from_this<Workbook> {
 public:
-    Workbook(Owner application, std::string folder, std::string name)
-        : Doubled(application),
+    Workbook(ExcelApplication& application, std::string folder, std::string name)
+        : application_(application),
           folder_(std::move(folder)),
           name_(std::move(name)) {}
-
-    static const office::MemberTable<Workbook>& members();
 
     // Building. A sheet is made when it is first named; the first one is the active one.
     Worksheet& sheet(const std::string& name);
     Chart& chartSheet(const std::string& name);
     /// A name of the workbook. The formula may be anything: "=Sales!$A$1", "=42",
-    /// "=SUM(Sales!A1:A3)", "=#REF!$A$1",
-    /// "=[Other.xlsx]Sheet1!$A$1".
+    /// "=SUM(Sales!A1:A3)", "=#REF!$A$1", "=[Other.xlsx]Sheet1!$A$1".
     Workbook& define(const std::string& name, const std::string& formula);
     Workbook& defineHidden(const std::string& name, const std::string& formula);
+    void undefine(const std::string& name) { names_.remove(name); }
     Workbook& protectStructure(bool on = true);
     Workbook& readOnly();
 
-    [[nodiscard]] std::string name() const override { return name_; }
-    [[nodiscard]] std::string fullName() const;
-    [[nodiscard]] ExcelApplication& application() const;
-    [[nodiscard]] const std::vector<std::shared_ptr<Sheet>>& tabs() const { return tabs_; }
-    [[nodiscard]] std::shared_ptr<Sheet> findTab(const std::string& name) const;
+    [[nodiscard]] office::Object handle();
+    [[nodiscard]] ExcelApplication& application() const { return application_; }
+    [[nodiscard]] std::shared_ptr<Sheet> findTab(std::string_view name) const;
     [[nodiscard]] std::shared_ptr<Sheet> activeTab() const;
-    [[nodiscard]] std::size_t visibleTabs() const;
+    [[nodiscard]] const std::vector<std::shared_ptr<Sheet>>& tabs() const { return tabs_; }
     void activateSheet(const std::string& name);
-    void removeTab(Sheet& sheet);
     void sheetRenamed(const std::string& from, const std::string& to);
-    /// `Failure` 1004 while the structure is protected.
-    void requireOpenStructure(const std::string& source) const;
-    void touch() { saved_ = false; }
+    void select(excel::Selection selection) { selection_ = std::move(selection); }
 
-    Name& addName(const std::string& name, const std::string& formula, Worksheet* scope);
-    void removeName(Name& name);
-    /// A name as written on a sheet (null: none): of that sheet first, then of the workbook, or
-    /// "Sheet!Name".
-    [[nodiscard]] std::shared_ptr<Name> findName(const std::string& name,
-                                                 const Worksheet* sheet) const;
-    /// The collection of the names of one sheet, or of all names.
-    [[nodiscard]] Value namesOf(const Worksheet* sheet);
+    [[nodiscard]] bool isGone() const override { return closed_; }
+    std::string name() override { return name_; }
+    std::string fullName() override { return folder_ + "/" + name_; }
+    bool isReadOnly() override { return readOnly_; }
+    bool isModified() override { return modified_; }
+    void setModified(bool modified) override { modified_ = modified; }
+    bool structureIsProtected() override { return structureProtected_; }
+    void activate() override;
+    void close() override;
+    std::vector<excel::SheetPtr> sheets() override { return {tabs_.begin(), tabs_.end()}; }
+    std::vector<std::string> sheetNames() override;
+    excel::SheetPtr findSheet(std::string_view name) override { return findTab(name); }
+    excel::SheetPtr activeSheet() override { return activeTab(); }
+    excel::SheetPtr addSheet(const std::string& name, std::int32_t place) override;
+    void removeSheet(const excel::SheetPtr& sheet) override;
+    excel::Selection selection() override { return selection_; }
+    excel::NameScope& names() override { return names_; }
 
 private:
-    Value readSheets();
-    /// A collection of sheets that takes new ones.
-    Value growing(std::function<Items()> list);
-    Value readWorksheets();
-    Value readCharts();
-    Value addSheet(const CallArguments& arguments);
-    Value addNameByCall(const CallArguments& arguments);
-    Value activate(const CallArguments& arguments);
-    Value save(const CallArguments& arguments);
-    Value saveCopyAs(const CallArguments& arguments);
-    Value close(const CallArguments& arguments);
-    void insertTab(std::shared_ptr<Sheet> sheet, std::size_t at);
-    [[nodiscard]] std::string freshName() const;
-
+    ExcelApplication& application_;
     std::string folder_;
     std::string name_;
     std::vector<std::shared_ptr<Sheet>> tabs_;
-    std::vector<std::shared_ptr<Name>> names_;
     std::weak_ptr<Sheet> active_;
+    excel::Selection selection_;
+    NameList names_{*this};
     bool structureProtected_ = false;
     bool readOnly_ = false;
-    bool saved_ = true;
+    bool modified_ = false;
+    bool closed_ = false;
 };
 
 }  // namespace office_double

@@ -2,104 +2,202 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <cmath>
+#include <stdexcept>
 
-#include "office_double/excel/chart.h"
-#include "office_double/excel/name.h"
-#include "office_double/excel/workbook.h"
-#include "office_double/loose_object.h"
+#include "office/text.h"
+#include "office_double/excel/application.h"
+#include "office_double/excel/picture.h"
 
 namespace office_double {
 
 namespace {
 
-Area requiredArea(std::string_view address) {
-    const auto area = areaOf(address);
-    if (!area) throw std::invalid_argument("No address: " + std::string(address));
-    return *area;
+excel::CellBlocks requiredBlocks(std::string_view address) {
+    const auto blocks = excel::blocksOf(address);
+    if (!blocks) throw std::invalid_argument("No address: " + std::string(address));
+    return *blocks;
 }
 
-/// What `Rows` and `Columns` take: a number, or "B:D", or "1:5".
-std::optional<Area> rowsOrColumns(const Value& which, bool rows) {
-    if (which.isNumber()) {
-        const int number = which.toLong();
-        return rows ? Area{number, 1, number, lastColumn} : Area{1, number, lastRow, number};
+/// One block of cells of a worksheet.
+class StoredCells : public excel::Cells {
+public:
+    StoredCells(Worksheet& sheet, const excel::CellBlock& block) : sheet_(sheet), block_(block) {}
+
+    office::Table read() override { return sheet_.store().read(block_); }
+    void write(const office::Table& values) override {
+        sheet_.store().enter(block_.firstRow, block_.firstColumn, values);
+        sheet_.book().setModified(true);
     }
-    const std::string text = which.toText();
-    return areaOf(text.find(':') == std::string::npos ? text + ":" + text : text);
-}
+    void clear() override {
+        sheet_.store().clear(block_);
+        sheet_.book().setModified(true);
+    }
+    std::string numberFormat() override {
+        return sheet_.store().format(block_.firstRow, block_.firstColumn);
+    }
+    void setNumberFormat(const std::string& code) override {
+        sheet_.store().setFormat(block_, code);
+    }
+    excel::Box place() override {
+        return {block_.firstColumn * Worksheet::columnWidth, block_.firstRow * Worksheet::rowHeight,
+                block_.columns() * Worksheet::columnWidth, block_.rows() * Worksheet::rowHeight};
+    }
+    bool areHidden(excel::Lines lines) override { return sheet_.store().isHidden(block_, lines); }
+    void hide(excel::Lines lines, bool hidden) override {
+        sheet_.store().hide(block_, lines, hidden);
+    }
+    std::vector<std::pair<std::int32_t, std::int32_t>> filledRows() override {
+        return sheet_.store().filledRows(block_);
+    }
+    excel::PicturePtr picture() override {
+        return std::make_shared<SizedPicture>(CopiedPicture{place().width, place().height});
+    }
+
+private:
+    Worksheet& sheet_;
+    excel::CellBlock block_;
+};
 
 }  // namespace
 
-const office::MemberTable<Worksheet>& Worksheet::members() {
-    using Self = Worksheet;
-    static const office::MemberTable<Self> table = [] {
-        office::MemberTable<Self> made("Worksheet");
-        return addTo(made)
-            .property("Type", reading([](Self&) { return -4167; }))
-            .property("CodeName", reading(&Self::name))
-            .property("Parent", &Self::readBook)
-            .property("ProtectContents", reading(&Self::protected_))
-            .property("Names", &Self::readNames)
-            .property("UsedRange",
-                      reading([](Self& self) { return self.rangeOf({self.cells_.used()}); }))
-            .method("ChartObjects", {"Index"}, &Self::chartObjects)
-            .method("Range", {"Cell1", "Cell2"}, &Self::range)
-            .method("Cells", {"RowIndex", "ColumnIndex"}, &Self::cell)
-            .method("Rows", {"RowIndex"}, &Self::rows)
-            .method("Columns", {"ColumnIndex"}, &Self::columns);
-    }();
-    return table;
+void NameList::add(const std::string& name, const std::string& formula, bool visible) {
+    names_.push_back({name, excel::cellsOfFormula(formula, excel::Notation::A1), visible});
 }
 
-Worksheet& Worksheet::chart(std::string name, const Box& box) {
-    charts_.push_back(std::make_shared<ChartObject>(*this, std::move(name), box));
+void NameList::remove(const std::string& name) {
+    std::erase_if(names_, [&](const DefinedName& each) {
+        return office::sameIgnoringCase(each.name, name);
+    });
+}
+
+void NameList::sheetRenamed(const std::string& from, const std::string& to) {
+    for (DefinedName& each : names_) {
+        if (!each.cells || each.cells->sheet != from) continue;
+        if (to.empty()) {
+            each.cells.reset();
+        } else {
+            each.cells->sheet = to;
+        }
+    }
+}
+
+std::vector<std::string> NameList::all() {
+    std::vector<std::string> names;
+    for (const DefinedName& each : names_) names.push_back(each.name);
+    return names;
+}
+
+bool NameList::has(std::string_view name) {
+    return std::any_of(names_.begin(), names_.end(), [&](const DefinedName& each) {
+        return office::sameIgnoringCase(each.name, name);
+    });
+}
+
+NameList::DefinedName& NameList::find(std::string_view name) {
+    for (DefinedName& each : names_) {
+        if (office::sameIgnoringCase(each.name, name)) return each;
+    }
+    throw office::Failure(office::FailureNumber::SubscriptOutOfRange, "Names", "No such name");
+}
+
+std::optional<excel::NamedCells> NameList::cells(const std::string& name) {
+    const auto& cells = find(name).cells;
+    if (!cells) return std::nullopt;
+    std::string sheet = cells->sheet;
+    Workbook* where = &book_;
+    if (const auto close = sheet.find(']'); sheet.starts_with('[') && close != std::string::npos) {
+        where = book_.application().findOpen(sheet.substr(1, close - 1));
+        sheet.erase(0, close + 1);
+    }
+    const auto found = where == nullptr ? nullptr : where->findTab(sheet);
+    if (!found) return std::nullopt;
+    return excel::NamedCells{where->shared_from_this(), found, cells->blocks};
+}
+
+void NameList::define(const std::string& name, const excel::CellsOfSheet& cells, bool visible) {
+    std::erase_if(
+        names_, [&](const DefinedName& each) { return office::sameIgnoringCase(each.name, name); });
+    names_.push_back({name, cells, visible});
+    book_.setModified(true);
+}
+
+bool Sheet::isGone() const {
+    const auto& tabs = book_.tabs();
+    return std::none_of(tabs.begin(), tabs.end(),
+                        [this](const auto& tab) { return tab.get() == this; });
+}
+
+void Sheet::rename(const std::string& name) {
+    book_.sheetRenamed(name_, name);
+    name_ = name;
+}
+
+std::int32_t Sheet::place() {
+    const auto& tabs = book_.tabs();
+    const auto self = std::find_if(tabs.begin(), tabs.end(),
+                                   [this](const auto& tab) { return tab.get() == this; });
+    return static_cast<std::int32_t>(self - tabs.begin());
+}
+
+void Sheet::activate() {
+    book_.activateSheet(name_);
+}
+
+excel::PicturePtr PlacedChart::picture() {
+    return std::make_shared<SizedPicture>(CopiedPicture{box_.width, box_.height});
+}
+
+void PlacedChart::writePicture(const std::string& path) {
+    writePng({box_.width, box_.height}, path);
+}
+
+void PlacedChart::paste(const excel::PicturePtr&) {
+    excel::refuse("Chart.Paste", "This chart has data of its own");
+}
+
+void PlacedChart::select() {
+    sheet_.book().select({sheet_.shared_from_this(), {}, sheet_.findChart(name_)});
+}
+
+void PlacedChart::remove() {
+    removed_ = true;
+    dynamic_cast<Worksheet&>(sheet_).removeChart(*this);
+}
+
+Worksheet& Worksheet::chart(std::string name, const excel::Box& box) {
+    charts_.push_back(std::make_shared<PlacedChart>(*this, std::move(name), box));
     return *this;
 }
 
-Worksheet& Worksheet::value(std::string_view cell, const Value& value) {
-    const Area area = requiredArea(cell);
-    cells_.enter(area.top, area.left, value);
-    return *this;
-}
-
-Worksheet& Worksheet::formula(std::string_view cell, std::string formula, const Value& result) {
-    const Area area = requiredArea(cell);
-    cells_.setFormula(area.top, area.left, std::move(formula), result);
-    return *this;
+Worksheet& Worksheet::value(std::string_view cell, const office::Value& value) {
+    return block(cell, {{value}});
 }
 
 Worksheet& Worksheet::block(std::string_view firstCell,
-                            const std::vector<std::vector<Value>>& rows) {
-    const Area first = requiredArea(firstCell);
-    for (std::size_t row = 0; row < rows.size(); ++row) {
-        for (std::size_t column = 0; column < rows[row].size(); ++column) {
-            cells_.enter(first.top + static_cast<int>(row), first.left + static_cast<int>(column),
-                         rows[row][column]);
-        }
+                            const std::vector<std::vector<office::Value>>& rows) {
+    const excel::CellBlock first = requiredBlocks(firstCell).front();
+    auto row = first.firstRow;
+    for (const auto& values : rows) {
+        office::Table table(1, values.size());
+        for (std::size_t i = 0; i < values.size(); ++i) table.at(1, i + 1) = values[i];
+        store_.enter(row++, first.firstColumn, table);
     }
     return *this;
 }
 
 Worksheet& Worksheet::format(std::string_view address, std::string numberFormat) {
-    cells_.setFormat(requiredArea(address), std::move(numberFormat));
+    store_.setFormat(requiredBlocks(address).front(), std::move(numberFormat));
     return *this;
 }
 
 Worksheet& Worksheet::hideRows(int first, int last) {
-    cells_.hideRows({first, 1, last, lastColumn}, true);
+    store_.hide({0, first - 1, 0, last - 1}, excel::Lines::Rows, true);
     return *this;
 }
 
 Worksheet& Worksheet::define(const std::string& name, std::string_view address) {
-    std::vector<Reference> references;
-    for (std::string_view rest = address; !rest.empty();) {
-        const auto comma = std::min(rest.find(','), rest.size());
-        references.push_back({{}, this->name(), requiredArea(rest.substr(0, comma))});
-        rest.remove_prefix(std::min(comma + 1, rest.size()));
-    }
-    book().addName(name, formulaOf(references), this);
+    names_.define(name, {this->name(), requiredBlocks(address)}, true);
     return *this;
 }
 
@@ -108,114 +206,37 @@ Worksheet& Worksheet::protect() {
     return *this;
 }
 
-Value Worksheet::rangeOf(std::vector<Area> areas, Range::Unit unit) {
-    return Object(std::make_shared<Range>(*this, std::move(areas), unit));
+excel::CellsPtr Worksheet::cells(const excel::CellBlock& block) {
+    return std::make_shared<StoredCells>(*this, block);
 }
 
-std::shared_ptr<Range> Worksheet::find(const std::string& nameOrAddress) {
-    const auto named = book().findName(nameOrAddress, this);
-    if (named) return named->range();
-    std::vector<Area> areas;
-    for (const Reference& reference :
-         referencesOf(office::replaceAll("x!" + nameOrAddress, ",", ",x!"))) {
-        areas.push_back(reference.area);
+excel::CellBlock Worksheet::cellAt(double left, double top) {
+    return excel::CellBlock::cell(static_cast<std::int32_t>(std::floor(top / rowHeight)),
+                                  static_cast<std::int32_t>(std::floor(left / columnWidth)));
+}
+
+void Worksheet::select(const excel::CellBlocks& blocks) {
+    book().select({shared_from_this(), blocks, nullptr});
+}
+
+excel::SheetChartPtr Worksheet::findChart(std::string_view name) {
+    for (const auto& chart : charts_) {
+        if (office::sameIgnoringCase(chart->name(), name)) return chart;
     }
-    if (areas.empty()) return nullptr;
-    return std::make_shared<Range>(*this, std::move(areas));
+    return nullptr;
 }
 
-Area Worksheet::oneArea(const Value& nameOrRange, const std::string& source) {
-    auto range = doubleOf<Range>(nameOrRange);
-    if (!range && nameOrRange.isText()) range = find(nameOrRange.toText());
-    if (!range || &range->sheet() != this) {
-        throw Failure(FailureNumber::ApplicationDefined, source,
-                      "There is no such range on this sheet: " + support::literal(nameOrRange));
-    }
-    return range->areas().front();
-}
-
-Value Worksheet::range(const CallArguments& arguments) {
-    if (!arguments.has(1) && arguments.at(0).isText()) {
-        auto found = find(arguments.at(0).toText());
-        if (found && &found->sheet() == this) return Object(found);
-    }
-    Area area = oneArea(arguments.at(0), arguments.source());
-    if (arguments.has(1)) {
-        const Area other = oneArea(arguments.at(1), arguments.source());
-        area = {std::min(area.top, other.top), std::min(area.left, other.left),
-                std::max(area.bottom, other.bottom), std::max(area.right, other.right)};
-    }
-    return rangeOf({area});
-}
-
-Value Worksheet::cell(const CallArguments& arguments) {
-    if (!arguments.has(0)) return rangeOf({{1, 1, lastRow, lastColumn}});
-    const int row = arguments.at(0).toLong();
-    const Value which = arguments.at(1, 1);
-    const int column = which.isText() ? columnNumber(which.toText()) : which.toLong();
-    if (row < 1 || row > lastRow || column < 1 || column > lastColumn) {
-        throw Failure(FailureNumber::ApplicationDefined, arguments.source(),
-                      fmt::format("There is no cell ({}, {})", row, column));
-    }
-    return rangeOf({{row, column, row, column}});
-}
-
-Value Worksheet::rows(const CallArguments& arguments) {
-    if (!arguments.has(0)) return rangeOf({{1, 1, lastRow, lastColumn}}, Range::Unit::Rows);
-    const auto area = rowsOrColumns(arguments.at(0), true);
-    if (area) return rangeOf({*area}, Range::Unit::Rows);
-    throw Failure(FailureNumber::TypeMismatch, arguments.source(), "These are no rows");
-}
-
-Value Worksheet::columns(const CallArguments& arguments) {
-    if (!arguments.has(0)) return rangeOf({{1, 1, lastRow, lastColumn}}, Range::Unit::Columns);
-    const auto area = rowsOrColumns(arguments.at(0), false);
-    if (area) return rangeOf({*area}, Range::Unit::Columns);
-    throw Failure(FailureNumber::TypeMismatch, arguments.source(), "These are no columns");
-}
-
-Area Worksheet::cellAt(double left, double top) {
-    const int row = static_cast<int>(std::floor(top / rowHeight)) + 1;
-    const int column = static_cast<int>(std::floor(left / columnWidth)) + 1;
-    return {row, column, row, column};
-}
-
-Value Worksheet::indexOf(const ChartObject& chart) const {
-    const auto self = std::find_if(charts_.begin(), charts_.end(),
-                                   [&](const auto& held) { return held.get() == &chart; });
-    return count(static_cast<std::size_t>(self - charts_.begin()) + 1);
-}
-
-ChartObject& Worksheet::chartObject(std::string_view name) {
-    return *lookUp(charts_, Value(name), "ChartObjects.Item");
-}
-
-void Worksheet::removeChart(ChartObject& chart) {
-    chart.remove();
+void Worksheet::removeChart(const excel::SheetChart& chart) {
     std::erase_if(charts_, [&](const auto& held) { return held.get() == &chart; });
 }
 
-Value Worksheet::chartObjects(const CallArguments& arguments) {
-    if (arguments.has(0)) return Object(lookUp(charts_, arguments.at(0), arguments.source()));
-    auto made = collection(*this, "ChartObjects", [this] { return itemsOf(charts_); });
-    made->method("Add", {"Left", "Top", "Width", "Height"},
-                 [this](const CallArguments& box) { return addChart(box); });
-    return valueOf(made);
+Chart& Chart::size(double width, double height) {
+    box_ = {0, 0, width, height};
+    return *this;
 }
 
-Value Worksheet::addChart(const CallArguments& arguments) {
-    if (protected_) {
-        throw Failure(FailureNumber::ApplicationDefined, arguments.source(),
-                      "The sheet is protected");
-    }
-    chart(fmt::format("Chart {}", charts_.size() + 1),
-          {arguments.at(0).toDouble(), arguments.at(1).toDouble(), arguments.at(2).toDouble(),
-           arguments.at(3).toDouble()});
-    return charts_.back()->handle();
-}
-
-Value Worksheet::readNames() {
-    return book().namesOf(this);
+excel::SheetChartPtr Chart::ownChart() {
+    return std::make_shared<PlacedChart>(*this, name(), box_);
 }
 
 }  // namespace office_double

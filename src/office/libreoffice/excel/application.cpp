@@ -1,181 +1,155 @@
 #include "office/libreoffice/excel/application.h"
 
+#include <com/sun/star/container/XEnumerationAccess.hpp>
+#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/ui/dialogs/ExecutableDialogResults.hpp>
+#include <com/sun/star/ui/dialogs/XFilePicker2.hpp>
+#include <com/sun/star/ui/dialogs/XFilterManager.hpp>
+#include <com/sun/star/util/XCloseable.hpp>
+#include <fmt/format.h>
+
 #include <utility>
 
-#include "office/libreoffice/excel/application_object.h"
-#include "office/libreoffice/excel/objects.h"
-#include "office/libreoffice/excel/open_prompt.h"
-#include "office/libreoffice/excel/range.h"
-#include "office/libreoffice/excel/range_lookup.h"
-#include "office/libreoffice/excel/selection.h"
-#include "office/libreoffice/excel/workbooks.h"
-#include "office/libreoffice/excel/worksheet_functions.h"
+#include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/picture_maker.h"
+#include "office/libreoffice/units.h"
+#include "office/model/excel/objects.h"
+#include "office/text.h"
 
 namespace libreoffice::excel {
 
 namespace {
 
-using Table = office::MemberTable<Application>;
+using ModelRef = uno::Reference<css::frame::XModel>;
 
-Table::Reader always(const char* text) {
-    return [text](Application&, const CallArguments&) { return Value(text); };
+/// The workbooks of LibreOffice.
+///
+/// The settings are remembered and change nothing in LibreOffice: what is locked or switched off
+/// there stays so if this process dies, and the user would sit in front of a frozen workbook. No
+/// call of Murvane needs them for speed.
+class CalcBooks : public model::Books {
+public:
+    explicit CalcBooks(DeskPtr desk) : desk_(std::move(desk)) {}
+
+    std::string version() override { return "16.0"; }
+    model::Settings& settings() override { return desk_->excelSettings; }
+    std::vector<model::BookPtr> open() override;
+    model::BookPtr active() override { return desk_->activeWorkbook(); }
+    model::BookPtr load(const std::string& file, const std::string& password,
+                        bool readOnly) override;
+    /// By LibreOffice's own dialog; false where nobody is there to be asked.
+    office::Value askForFile(const std::string& filter, const std::string& title) override;
+
+    model::PicturePtr copied() override { return desk_->copiedPicture; }
+    void setCopied(model::PicturePtr picture) override {
+        desk_->copiedPicture = std::dynamic_pointer_cast<const CopiedPicture>(picture);
+    }
+    void writePicture(const model::PicturePtr& picture, const model::Box& area,
+                      const std::string& path) override;
+
+private:
+    [[nodiscard]] std::shared_ptr<CalcDocument> alreadyOpen(const rtl::OUString& url);
+    [[nodiscard]] std::shared_ptr<CalcDocument> loaded(const rtl::OUString& url,
+                                                       const std::string& password);
+
+    DeskPtr desk_;
+};
+
+bool isWorkbook(const ModelRef& document) {
+    return tryAs<css::sheet::XSpreadsheetDocument>(document).is();
 }
 
-/// A collection of the active workbook.
-template <class Make>
-Table::Reader ofBook(Make make) {
-    return [make](Application& self, const CallArguments& arguments) {
-        return make(self.deskPtr(), self.requiredBook(arguments.source()));
-    };
+[[noreturn]] void failOnOther(const rtl::OUString& url) {
+    model::refuse("Workbooks.Open",
+                  fmt::format("\"{}\" could not be opened: it is no workbook", pathOfUrl(url)));
 }
 
-template <class Setting>
-void addSetting(Table& table, const char* name, Setting Desk::*where,
-                Setting (Value::*as)() const) {
-    table.property(
-        name,
-        [where](Application& self, const CallArguments&) { return Value(self.desk().*where); },
-        [where, as](Application& self, const CallArguments&, const Value& value) {
-            self.desk().*where = (value.*as)();
-        });
+std::vector<model::BookPtr> CalcBooks::open() {
+    const auto books = desk_->workbooks();
+    return {books.begin(), books.end()};
+}
+
+/// Looked for first: loading an open file gives the user's own document, which is not ours to
+/// close.
+std::shared_ptr<CalcDocument> CalcBooks::alreadyOpen(const rtl::OUString& url) {
+    const auto components = desk_->connection().desktop()->getComponents()->createEnumeration();
+    while (components->hasMoreElements()) {
+        const uno::Reference<uno::XInterface> component(components->nextElement(), uno::UNO_QUERY);
+        const auto document = tryAs<css::frame::XModel>(component);
+        if (!document.is()) continue;
+        if (document->getURL() == url && !isWorkbook(document)) failOnOther(url);
+        if (!isWorkbook(document)) continue;
+        if (auto book = desk_->workbook(document); book->url() == url) return book;
+    }
+    return nullptr;
+}
+
+std::shared_ptr<CalcDocument> CalcBooks::loaded(const rtl::OUString& url,
+                                                const std::string& password) {
+    const auto document = desk_->load(url, desk_->opensHidden(), password);
+    if (isWorkbook(document)) return desk_->workbook(document);
+    as<css::util::XCloseable>(document)->close(true);
+    failOnOther(url);
+}
+
+model::BookPtr CalcBooks::load(const std::string& file, const std::string& password,
+                               bool readOnly) {
+    const rtl::OUString url = fileUrl(file);
+    auto book = alreadyOpen(url);
+    if (!book) {
+        book = loaded(url, password);
+        if (readOnly) book->leaveFileAlone();
+    }
+    book->markActive();
+    return book;
+}
+
+/// The pattern of a filter; if it is left out, the one that the words show in brackets: "Excel
+/// Files *.xls* (*.xls*),".
+std::string patternOf(std::string_view filter) {
+    const auto comma = filter.rfind(',');
+    if (comma != std::string_view::npos && comma + 1 < filter.size())
+        return std::string(office::trim(filter.substr(comma + 1)));
+    const auto open = filter.rfind('(');
+    const auto close = filter.rfind(')');
+    if (open == std::string_view::npos || close == std::string_view::npos || close < open)
+        return "*.*";
+    return std::string(filter.substr(open + 1, close - open - 1));
+}
+
+office::Value CalcBooks::askForFile(const std::string& filter, const std::string& title) {
+    if (desk_->opensHidden()) return false;
+    const auto picker = as<css::ui::dialogs::XFilePicker2>(
+        desk_->connection().create("com.sun.star.ui.dialogs.FilePicker"));
+    if (!title.empty()) picker->setTitle(toUno(title));
+    if (!filter.empty()) {
+        const std::string words = filter.substr(0, filter.rfind(','));
+        as<css::ui::dialogs::XFilterManager>(picker)->appendFilter(toUno(words),
+                                                                   toUno(patternOf(filter)));
+    }
+    if (picker->execute() != css::ui::dialogs::ExecutableDialogResults::OK) return false;
+    const auto files = picker->getSelectedFiles();
+    if (!files.hasElements()) return false;
+    return pathOfUrl(files[0]);
+}
+
+void CalcBooks::writePicture(const model::PicturePtr& picture, const model::Box& area,
+                             const std::string& path) {
+    const auto* copied = dynamic_cast<const CopiedPicture*>(picture.get());
+    if (copied == nullptr) {
+        pictureMaker(*desk_).writeMetafile(
+            {}, {hundredthMmOf(area.width), hundredthMmOf(area.height)}, path);
+    } else {
+        pictureMaker(*desk_).writeMetafile(
+            copied->metafile, {copied->widthHundredthMm, copied->heightHundredthMm}, path);
+    }
 }
 
 }  // namespace
 
 office::Object applicationObject(DeskPtr desk) {
-    return makeObject<Application>(std::move(desk));
-}
-
-Application::Application(DeskPtr desk) : UnoObject(std::move(desk)) {}
-
-const Table& Application::members() {
-    static const Table table = [] {
-        Table made("Application");
-        made.property("Name", always("Microsoft Excel")).property("Version", always("16.0"));
-        addBookMembers(made);
-        addSettings(made);
-        addWorksheetFunctions(made);
-        return made;
-    }();
-    return table;
-}
-
-void Application::addBookMembers(Table& table) {
-    using Kind = SheetList::Kind;
-    const auto sheets = [](Kind kind) {
-        return ofBook([kind](const DeskPtr& desk, const BookPtr& book) {
-            return sheetsObject(desk, book, kind);
-        });
-    };
-    table.property("Workbooks", &Application::workbooks)
-        .property("ActiveWorkbook", &Application::activeWorkbook)
-        .property("ActiveSheet", &Application::activeSheet)
-        .property("ActiveChart", &Application::activeChart)
-        .property("Selection", &Application::selection)
-        .property("Sheets", sheets(Kind::Any))
-        .property("Worksheets", sheets(Kind::Worksheet))
-        .property("Charts", sheets(Kind::ChartSheet))
-        .property("Names", ofBook([](const DeskPtr& desk, const BookPtr& book) {
-                      return namesObject(desk, book);
-                  }))
-        .property("Range", {"Cell1", "Cell2"}, &Application::range)
-        .property("Cells", {"RowIndex", "ColumnIndex"}, &Application::cells)
-        .property("Rows", {"RowIndex"}, &Application::rows)
-        .property("Columns", {"ColumnIndex"}, &Application::columns)
-        .method("Intersect", {"Arg1", "Arg2"}, &Application::intersect)
-        .method("GetOpenFilename",
-                {"FileFilter", "FilterIndex", "Title", "ButtonText", "MultiSelect"},
-                [](Application& self, const CallArguments& arguments) {
-                    return askForFile(self.desk(), arguments.at(0, "").toText(),
-                                      arguments.at(2, "").toText());
-                });
-}
-
-void Application::addSettings(Table& table) {
-    addSetting(table, "ScreenUpdating", &Desk::screenUpdating, &Value::toBool);
-    addSetting(table, "EnableEvents", &Desk::enableEvents, &Value::toBool);
-    addSetting(table, "DisplayAlerts", &Desk::displayAlerts, &Value::toBool);
-    addSetting(table, "Calculation", &Desk::calculation, &Value::toLong);
-    addSetting(table, "WindowState", &Desk::excelWindowState, &Value::toLong);
-}
-
-BookPtr Application::requiredBook(const std::string& source) const {
-    if (auto book = desk().activeWorkbook()) return book;
-    throw Failure(FailureNumber::ApplicationDefined, source, "No workbook is open");
-}
-
-SheetPtr Application::requiredWorksheet(const BookPtr& book, const std::string& source) const {
-    SheetPtr sheet = book->activeSheet(desk().connection());
-    if (sheet && !sheet->isChartSheet) return sheet;
-    throw Failure(FailureNumber::ApplicationDefined, source, "The active sheet is no worksheet");
-}
-
-Value Application::activeWorkbook() {
-    const BookPtr book = desk().activeWorkbook();
-    return book ? workbookObject(deskPtr(), book) : Value();
-}
-
-Value Application::activeSheet() {
-    const BookPtr book = desk().activeWorkbook();
-    return book ? sheetObject(deskPtr(), book, book->activeSheet(desk().connection())) : Value();
-}
-
-Value Application::activeChart() {
-    const BookPtr book = desk().activeWorkbook();
-    return book ? activeChartOf(deskPtr(), book) : Value();
-}
-
-Value Application::selection() {
-    const BookPtr book = desk().activeWorkbook();
-    return book ? selectionIn(deskPtr(), book) : Value();
-}
-
-Value Application::workbooks() {
-    return makeObject<Workbooks>(deskPtr());
-}
-
-Value Application::range(const CallArguments& arguments) {
-    const std::string& source = arguments.source();
-    if (arguments.at(0).isObject()) {
-        const Range& given = rangeOf(arguments.at(0), source);
-        return rangeByArguments(deskPtr(), given.bookPtr(), given.sheetPtr(), arguments, true);
-    }
-    const BookPtr book = requiredBook(source);
-    return rangeByArguments(deskPtr(), book, requiredWorksheet(book, source), arguments, true);
-}
-
-Value Application::cells(const CallArguments& arguments) {
-    const BookPtr book = requiredBook(arguments.source());
-    return cellsByArguments(deskPtr(), book, requiredWorksheet(book, arguments.source()),
-                            arguments);
-}
-
-Value Application::rows(const CallArguments& arguments) {
-    const BookPtr book = requiredBook(arguments.source());
-    return rowsByArguments(deskPtr(), book, requiredWorksheet(book, arguments.source()), arguments);
-}
-
-Value Application::columns(const CallArguments& arguments) {
-    const BookPtr book = requiredBook(arguments.source());
-    return columnsByArguments(deskPtr(), book, requiredWorksheet(book, arguments.source()),
-                              arguments);
-}
-
-Value Application::intersect(const CallArguments& arguments) {
-    const Range& one = rangeOf(arguments.at(0), arguments.source());
-    const Range& other = rangeOf(arguments.at(1), arguments.source());
-    if (one.sheetPtr() != other.sheetPtr()) {
-        throw Failure(FailureNumber::ApplicationDefined, arguments.source(),
-                      "Only ranges of one sheet can meet");
-    }
-    CellBlocks common;
-    for (const CellBlock& block : one.blocks()) {
-        for (const CellBlock& otherBlock : other.blocks()) {
-            if (const auto meeting = intersection(block, otherBlock)) common.push_back(*meeting);
-        }
-    }
-    if (common.empty()) return {};
-    return rangeObject(deskPtr(), one.bookPtr(), one.sheetPtr(), std::move(common));
+    const auto guard = desk->guard();
+    return model::applicationObject(guard, std::make_shared<CalcBooks>(std::move(desk)));
 }
 
 }  // namespace libreoffice::excel

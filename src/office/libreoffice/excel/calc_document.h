@@ -7,46 +7,70 @@
 #include <optional>
 #include <string>
 
-#include "office/libreoffice/connection.h"
+#include "office/libreoffice/desk.h"
 #include "office/libreoffice/document.h"
+#include "office/libreoffice/excel/named_ranges.h"
 #include "office/libreoffice/excel/number_formats.h"
 #include "office/libreoffice/excel/sheet_list.h"
 #include "office/libreoffice/excel/workbook_facts.h"
+#include "office/model/excel/book.h"
 
 namespace libreoffice::excel {
 
+namespace model = office::model::excel;
+
 /// An open workbook, and what automation remembers about it: the sheets that were met, the shapes
 /// of their charts, and what its file says that LibreOffice does not keep.
-class CalcDocument : public Document {
+class CalcDocument : public Document,
+                     public model::Book,
+                     public std::enable_shared_from_this<CalcDocument> {
 public:
-    explicit CalcDocument(uno::Reference<css::frame::XModel> model);
+    CalcDocument(Desk& desk, uno::Reference<css::frame::XModel> calc);
 
-    [[nodiscard]] SheetList& sheets(const Connection& connection);
-    /// Whether sheets may be added, removed, renamed, shown and hidden. LibreOffice drops this
-    /// protection when it loads a file, so the file's word counts as well.
-    [[nodiscard]] bool structureIsLocked(const Connection& connection);
-
-    [[nodiscard]] const uno::Reference<css::sheet::XNamedRanges>& names();
+    [[nodiscard]] Desk& desk() const { return desk_; }
+    [[nodiscard]] const Connection& connection() const { return desk_.connection(); }
+    [[nodiscard]] SheetList& sheetList();
     [[nodiscard]] NumberFormats& formats() { return formats_; }
-
     [[nodiscard]] uno::Reference<css::sheet::XSpreadsheetView> view() const;
-    /// The sheet on top; of a workbook without a window, the first visible one.
-    [[nodiscard]] SheetPtr activeSheet(const Connection& connection);
+    /// The workbook as `NamedCells` give it.
+    [[nodiscard]] model::BookPtr self() { return shared_from_this(); }
 
-    [[nodiscard]] bool isModified() const;
-    void setModified(bool modified);
+    /// Its file counts as one that may not be written.
+    void leaveFileAlone() { leavesFileAlone_ = true; }
+
+    [[nodiscard]] bool isGone() const override { return isClosed(); }
+    std::string name() override { return Document::name(); }
+    std::string fullName() override { return Document::fullName(); }
+    bool isReadOnly() override;
+    bool isModified() override;
+    void setModified(bool modified) override;
+    /// LibreOffice drops this protection when it loads a file, so the file's word counts as well.
+    bool structureIsProtected() override;
+    void activate() override;
+    void close() override { Document::close(); }
+    std::vector<model::SheetPtr> sheets() override;
+    std::vector<std::string> sheetNames() override { return sheetList().names(); }
+    model::SheetPtr findSheet(std::string_view name) override { return sheetList().find(name); }
+    /// Of a workbook without a window, the first visible one.
+    model::SheetPtr activeSheet() override;
+    model::SheetPtr addSheet(const std::string& name, std::int32_t place) override {
+        return sheetList().add(name, place);
+    }
+    void removeSheet(const model::SheetPtr& sheet) override { sheetList().remove(sheet); }
+    model::Selection selection() override;
+    NamedRanges& names() override;
 
 private:
-    [[nodiscard]] const WorkbookFacts& facts(const Connection& connection);
+    [[nodiscard]] const WorkbookFacts& facts();
     [[nodiscard]] bool comesFromExcel() const;
 
+    Desk& desk_;
+    bool leavesFileAlone_ = false;
     std::optional<WorkbookFacts> facts_;
     std::optional<SheetList> sheets_;
-    uno::Reference<css::sheet::XNamedRanges> names_;
+    std::optional<NamedRanges> names_;
     NumberFormats formats_;
 };
-
-using BookPtr = std::shared_ptr<CalcDocument>;
 
 /// Puts the document's modified flag back when it goes: for what is done to a workbook for a moment
 /// and undone.

@@ -1,15 +1,18 @@
 #include "office/libreoffice/excel/cell_values.h"
 
+#include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/beans/XPropertyState.hpp>
+#include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangeData.hpp>
 #include <com/sun/star/sheet/XCellRangeFormula.hpp>
+#include <com/sun/star/sheet/XSheetCellRanges.hpp>
+#include <com/sun/star/sheet/XUniqueCellFormatRangesSupplier.hpp>
 
 #include <algorithm>
 #include <optional>
 #include <utility>
 #include <vector>
-
-#include "office/libreoffice/excel/column_formats.h"
-#include "office/text.h"
 
 namespace libreoffice::excel {
 
@@ -26,6 +29,47 @@ Value valueOf(const uno::Any& cell) {
     rtl::OUString text;
     if ((cell >>= text) && !text.isEmpty()) return fromUno(text);
     return {};
+}
+
+Kind kindOf(NumberFormats& formats, const uno::Reference<uno::XInterface>& cells) {
+    return formats.kindOf(property<sal_Int32>(cells, "NumberFormat"));
+}
+
+/// What kinds of number formats the cells of one column of a range have, row by row. A few calls,
+/// however many cells.
+std::vector<Kind> formatKindsOfColumn(NumberFormats& formats,
+                                      const uno::Reference<css::table::XCellRange>& range,
+                                      std::int32_t column, std::int32_t rows) {
+    const auto cells = range->getCellRangeByPosition(column, 0, column, rows - 1);
+    const auto count = static_cast<std::size_t>(rows);
+    const auto state = as<css::beans::XPropertyState>(cells)->getPropertyState("NumberFormat");
+    if (rows == 1 || state != css::beans::PropertyState_AMBIGUOUS_VALUE)
+        return {count, kindOf(formats, cells)};
+
+    std::vector<Kind> kinds(count, Kind::Other);
+    const sal_Int32 start =
+        as<css::sheet::XCellRangeAddressable>(cells)->getRangeAddress().StartRow;
+    const auto groups =
+        as<css::sheet::XUniqueCellFormatRangesSupplier>(cells)->getUniqueCellFormatRanges();
+    for (sal_Int32 i = 0; i < groups->getCount(); ++i) {
+        const uno::Reference<css::sheet::XSheetCellRanges> group(groups->getByIndex(i),
+                                                                 uno::UNO_QUERY_THROW);
+        const Kind kind = kindOf(formats, group);
+        if (kind == Kind::Other) continue;
+        const auto addresses = group->getRangeAddresses();
+        for (const css::table::CellRangeAddress& address : addresses) {
+            std::fill(kinds.begin() + (address.StartRow - start),
+                      kinds.begin() + (address.EndRow - start + 1), kind);
+        }
+    }
+    return kinds;
+}
+
+/// Gives cells of a column that follow each other a number format.
+void setFormatOfRows(const uno::Reference<css::table::XCellRange>& range, std::int32_t column,
+                     std::int32_t firstRow, std::int32_t lastRow, std::int32_t formatKey) {
+    setProperty(range->getCellRangeByPosition(column, firstRow, column, lastRow), "NumberFormat",
+                formatKey);
 }
 
 bool couldBeTruth(const Value& value) {
@@ -72,21 +116,6 @@ void tellTruthValues(NumberFormats& formats, const uno::Reference<css::table::XC
     }
 }
 
-/// What a value becomes in a cell with a format of the kind.
-Value asTyped(const Value& value, Kind kind) {
-    if (value.isBlank() || value.isMissing()) return {};
-    if (value.isObject()) return asTyped(value.get("Value"), kind);
-    if (kind == Kind::Text)
-        return value.isBool() ? Value(value.toBool() ? "TRUE" : "FALSE") : value.toText();
-    if (value.isBool()) return value;
-    if (value.isNumber()) return value.toDouble();
-    const std::string text = value.toText();
-    if (const auto number = office::numberOf(text)) return *number;
-    if (office::sameIgnoringCase(text, "TRUE")) return true;
-    if (office::sameIgnoringCase(text, "FALSE")) return false;
-    return text;
-}
-
 uno::Any cellOf(const Value& typed) {
     if (typed.isBool()) return uno::Any(typed.toBool() ? 1.0 : 0.0);
     if (typed.isNumber()) return uno::Any(typed.toDouble());
@@ -102,7 +131,7 @@ public:
           range_(std::move(range)),
           place_(static_cast<std::int32_t>(column - 1)) {
         for (std::size_t row = 1; row <= table.rows(); ++row)
-            cells_.push_back(asTyped(table.at(row, column), Kind::Other));
+            cells_.push_back(model::typedIn(table.at(row, column), false));
         // Plain texts are the same under every format.
         if (std::all_of(cells_.begin(), cells_.end(),
                         [](const Value& cell) { return cell.isEmpty() || cell.isText(); }))
@@ -110,7 +139,7 @@ public:
         kinds_ =
             formatKindsOfColumn(formats_, range_, place_, static_cast<std::int32_t>(table.rows()));
         for (std::size_t row = 1; row <= table.rows(); ++row)
-            cells_[row - 1] = asTyped(table.at(row, column), kinds_[row - 1]);
+            cells_[row - 1] = model::typedIn(table.at(row, column), kinds_[row - 1] == Kind::Text);
     }
 
     [[nodiscard]] const Value& cell(std::size_t row) const { return cells_[row]; }
@@ -144,29 +173,10 @@ private:
     std::vector<Kind> kinds_;
 };
 
-Table tableFor(const Value& value, const CellBlock& size) {
-    const auto rows = static_cast<std::size_t>(size.rows());
-    const auto columns = static_cast<std::size_t>(size.columns());
-    if (!value.isTable()) {
-        Table table(rows, columns);
-        for (std::size_t row = 1; row <= rows; ++row) {
-            for (std::size_t column = 1; column <= columns; ++column) table.at(row, column) = value;
-        }
-        return table;
-    }
-    const Table given = value.toTable();
-    Table table(std::min(rows, given.rows()), std::min(columns, given.columns()));
-    for (std::size_t row = 1; row <= table.rows(); ++row) {
-        for (std::size_t column = 1; column <= table.columns(); ++column)
-            table.at(row, column) = given.at(row, column);
-    }
-    return table;
-}
-
 }  // namespace
 
-Value readCells(NumberFormats& formats, const uno::Reference<css::table::XCellRange>& range,
-                const CellBlock& size) {
+Table readCells(NumberFormats& formats, const uno::Reference<css::table::XCellRange>& range,
+                const model::CellBlock& size) {
     const Rows rows = as<css::sheet::XCellRangeData>(range)->getDataArray();
     Table table(static_cast<std::size_t>(size.rows()), static_cast<std::size_t>(size.columns()));
     for (std::size_t row = 1; row <= table.rows(); ++row) {
@@ -176,16 +186,13 @@ Value readCells(NumberFormats& formats, const uno::Reference<css::table::XCellRa
         }
     }
     tellTruthValues(formats, range, table);
-    if (table.rows() == 1 && table.columns() == 1) return table.at(1, 1);
     return table;
 }
 
 void writeCells(NumberFormats& formats, const uno::Reference<css::table::XCellRange>& range,
-                const CellBlock& size, const Value& value) {
-    const Table table = tableFor(value, size);
+                const model::CellBlock& size, const Table& table) {
     const auto rowCount = static_cast<sal_Int32>(table.rows());
     const auto columnCount = static_cast<sal_Int32>(table.columns());
-    if (rowCount == 0 || columnCount == 0) return;
     std::vector<TypedColumn> columns;
     for (std::size_t column = 1; column <= table.columns(); ++column)
         columns.emplace_back(formats, range, table, column);

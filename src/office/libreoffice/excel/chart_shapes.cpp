@@ -1,12 +1,19 @@
 #include "office/libreoffice/excel/chart_shapes.h"
 
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
+#include <com/sun/star/container/XChild.hpp>
 #include <com/sun/star/drawing/XDrawPageSupplier.hpp>
-#include <com/sun/star/table/XTableChartsSupplier.hpp>
+#include <com/sun/star/drawing/XShapes.hpp>
+#include <com/sun/star/frame/XController.hpp>
+#include <com/sun/star/view/XSelectionSupplier.hpp>
 
 #include <algorithm>
 #include <utility>
 
+#include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/picture_maker.h"
+#include "office/libreoffice/units.h"
+#include "office/model/excel/objects.h"
 #include "office/text.h"
 
 namespace libreoffice::excel {
@@ -47,12 +54,50 @@ uno::Reference<css::drawing::XDrawPage> drawPageOf(
 
 }  // namespace
 
-std::string ChartShape::readName() const {
-    return hasName ? fromUno(named->getName()) : name;
+ChartShape::ChartShape(CalcDocument& book, uno::Reference<css::drawing::XShape> shape,
+                       std::string name, bool hasName)
+    : book_(book),
+      shape_(std::move(shape)),
+      named_(as<css::container::XNamed>(shape_)),
+      name_(std::move(name)),
+      hasName_(hasName) {}
+
+std::string ChartShape::name() {
+    return hasName_ ? fromUno(named_->getName()) : name_;
 }
 
-ChartShapes::ChartShapes(uno::Reference<css::sheet::XSpreadsheet> sheet)
-    : sheet_(std::move(sheet)) {}
+model::Box ChartShape::box() {
+    const css::awt::Point corner = shape_->getPosition();
+    const css::awt::Size size = shape_->getSize();
+    return {pointsOf(corner.X), pointsOf(corner.Y), pointsOf(size.Width), pointsOf(size.Height)};
+}
+
+model::PicturePtr ChartShape::picture() {
+    const css::awt::Size size = shape_->getSize();
+    return std::make_shared<CopiedPicture>(pictureMaker(book_.desk()).metafileOf(shape_),
+                                           size.Width, size.Height);
+}
+
+void ChartShape::writePicture(const std::string& path) {
+    pictureMaker(book_.desk()).writeChart(shape_, path);
+}
+
+void ChartShape::paste(const model::PicturePtr&) {
+    model::refuse("Chart.Paste", "This chart has data of its own");
+}
+
+void ChartShape::select() {
+    as<css::view::XSelectionSupplier>(book_.controller())->select(uno::Any(shape_));
+}
+
+void ChartShape::remove() {
+    const auto page = as<css::container::XChild>(shape_)->getParent();
+    as<css::drawing::XShapes>(page)->remove(shape_);
+}
+
+ChartShapes::ChartShapes(CalcDocument& book, uno::Reference<css::sheet::XSpreadsheet> sheet)
+    : book_(book),
+      sheet_(std::move(sheet)) {}
 
 const std::vector<ChartShapePtr>& ChartShapes::all() {
     // Asked of the sheet anew each time: the collection keeps the place that the sheet had when it
@@ -70,10 +115,10 @@ ChartShapePtr ChartShapes::find(std::string_view name) {
     const auto& charts = all();
     // The name last seen leads to the chart; one call tells whether it still has it.
     for (const ChartShapePtr& chart : charts) {
-        if (isCalled(chart->name) && isCalled(chart->readName())) return chart;
+        if (isCalled(chart->knownName()) && isCalled(chart->name())) return chart;
     }
     for (const ChartShapePtr& chart : charts) {
-        if (isCalled(chart->readName())) return chart;
+        if (isCalled(chart->name())) return chart;
     }
     return nullptr;
 }
@@ -99,9 +144,9 @@ void ChartShapes::collect(const uno::Reference<css::container::XIndexAccess>& sh
         }
         const Identity identity = identityOf(shape);
         if (identity.classId == chartClass) {
-            into.push_back(std::make_shared<ChartShape>(ChartShape{
-                shape, as<css::beans::XPropertySet>(shape), as<css::container::XNamed>(shape),
-                identity.name.empty() ? identity.key : identity.name, !identity.name.empty()}));
+            into.push_back(std::make_shared<ChartShape>(
+                book_, shape, identity.name.empty() ? identity.key : identity.name,
+                !identity.name.empty()));
         } else if (const auto group = tryAs<css::container::XIndexAccess>(shape); group.is()) {
             collect(group, into);
         }
@@ -109,7 +154,7 @@ void ChartShapes::collect(const uno::Reference<css::container::XIndexAccess>& sh
 }
 
 ChartShapePtr ChartShapes::held(const uno::Reference<css::drawing::XShape>& shape) const {
-    const auto same = [&](const ChartShapePtr& chart) { return chart->shape == shape; };
+    const auto same = [&](const ChartShapePtr& chart) { return chart->shape() == shape; };
     const auto found = std::find_if(charts_.begin(), charts_.end(), same);
     return found == charts_.end() ? nullptr : *found;
 }

@@ -13,24 +13,43 @@
 #include <vector>
 
 #include "office/libreoffice/uno_values.h"
+#include "office/model/excel/sheet.h"
 
 namespace libreoffice::excel {
 
-/// The shape that shows a chart on a sheet.
-struct ChartShape {
-    uno::Reference<css::drawing::XShape> shape;
-    uno::Reference<css::beans::XPropertySet> properties;
-    uno::Reference<css::container::XNamed> named;
-    /// As last seen. A chart made in LibreOffice may have no name; then the key under which the
-    /// document stores it.
-    std::string name;
-    bool hasName = true;
+class CalcDocument;
 
-    /// The name as it is now.
-    [[nodiscard]] std::string readName() const;
+/// The shape that shows a chart on a sheet. A chart made in LibreOffice may have no name; then the
+/// key under which the document stores it stands for one.
+class ChartShape : public office::model::excel::SheetChart {
+public:
+    ChartShape(CalcDocument& book, uno::Reference<css::drawing::XShape> shape, std::string name,
+               bool hasName);
+
+    [[nodiscard]] const uno::Reference<css::drawing::XShape>& shape() const { return shape_; }
+    /// As last seen.
+    [[nodiscard]] const std::string& knownName() const { return name_; }
+
+    [[nodiscard]] bool isGone() const override { return false; }
+    std::string name() override;
+    office::model::excel::Box box() override;
+    office::model::excel::PicturePtr picture() override;
+    void writePicture(const std::string& path) override;
+    void paste(const office::model::excel::PicturePtr& picture) override;
+    /// LibreOffice selects the frame; the chart is not opened for editing, which would take the
+    /// keyboard from the user.
+    void select() override;
+    void remove() override;
+
+private:
+    CalcDocument& book_;
+    uno::Reference<css::drawing::XShape> shape_;
+    uno::Reference<css::container::XNamed> named_;
+    std::string name_;
+    bool hasName_;
 };
 
-using ChartShapePtr = std::shared_ptr<const ChartShape>;
+using ChartShapePtr = std::shared_ptr<ChartShape>;
 
 /// The charts of one sheet, those inside groups too, in the order in which they lie upon each
 /// other.
@@ -40,7 +59,7 @@ using ChartShapePtr = std::shared_ptr<const ChartShape>;
 /// size of 100).
 class ChartShapes {
 public:
-    explicit ChartShapes(uno::Reference<css::sheet::XSpreadsheet> sheet);
+    ChartShapes(CalcDocument& book, uno::Reference<css::sheet::XSpreadsheet> sheet);
 
     /// All charts as of now.
     [[nodiscard]] const std::vector<ChartShapePtr>& all();
@@ -53,6 +72,7 @@ private:
                  std::vector<ChartShapePtr>& into);
     [[nodiscard]] ChartShapePtr held(const uno::Reference<css::drawing::XShape>& shape) const;
 
+    CalcDocument& book_;
     uno::Reference<css::sheet::XSpreadsheet> sheet_;
     uno::Reference<css::table::XTableChartsSupplier> supplier_;
     uno::Sequence<rtl::OUString> seenKeys_;

@@ -18,6 +18,7 @@
 #include <cmath>
 #include <utility>
 
+#include "office/libreoffice/desk.h"
 #include "office/libreoffice/excel/png_file.h"
 
 namespace libreoffice::excel {
@@ -246,6 +247,12 @@ uno::Sequence<sal_Int8> PictureMaker::metafileOf(
         ->filter(propertyValues({{"OutputStream", uno::Any(as<css::io::XOutputStream>(bytes))},
                                  {"MediaType", uno::Any(rtl::OUString("image/x-svm"))}}));
     return bytes->getWrittenBytes();
+}
+
+PictureMaker& pictureMaker(Desk& desk) {
+    if (!desk.pictureMaker)
+        desk.pictureMaker = std::make_shared<PictureMaker>(desk.connectionPtr());
+    return *desk.pictureMaker;
 }
 
 PictureSize sizeOfMetafile(const uno::Sequence<sal_Int8>& metafile) {

@@ -11,6 +11,12 @@
 
 #include "office/libreoffice/connection.h"
 
+namespace libreoffice {
+
+class Desk;
+
+}  // namespace libreoffice
+
 namespace libreoffice::excel {
 
 /// Size in hundredths of a millimetre.
@@ -61,6 +67,9 @@ private:
     uno::Reference<css::document::XExporter> shapeExporter_;
     uno::Reference<css::graphic::XGraphicProvider> graphics_;
 };
+
+/// The session's maker of pictures; made when it is first asked for.
+[[nodiscard]] PictureMaker& pictureMaker(Desk& desk);
 
 /// The size that a metafile gives for itself, in hundredths of a millimetre; 0 by 0 if it gives
 /// none in that unit.

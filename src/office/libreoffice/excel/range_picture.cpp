@@ -2,17 +2,16 @@
 
 #include <com/sun/star/awt/Size.hpp>
 #include <com/sun/star/datatransfer/XTransferableSupplier.hpp>
-#include <com/sun/star/lang/XMultiServiceFactory.hpp>
-#include <com/sun/star/sheet/XSheetCellRangeContainer.hpp>
 #include <com/sun/star/text/XTextRange.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
 #include <cstdlib>
+#include <optional>
 #include <utility>
 
 #include "office/failure.h"
+#include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/picture_maker.h"
-#include "office/libreoffice/excel/used_block.h"
 
 namespace libreoffice::excel {
 
@@ -29,19 +28,19 @@ constexpr std::int32_t closeEnough = 100;
 /// them is empty.
 class ShownForNow {
 public:
-    ShownForNow(CalcDocument& book, SheetPtr sheet) : sheet_(std::move(sheet)) {
-        if (sheet_->isShown()) {
-            sheet_.reset();
+    explicit ShownForNow(SheetRecord& sheet) : sheet_(&sheet) {
+        if (sheet.isShown()) {
+            sheet_ = nullptr;
             return;
         }
-        flag_.emplace(book);
-        sheet_->show(true);
+        flag_.emplace(sheet.book());
+        sheet.show(true);
     }
     ShownForNow(const ShownForNow&) = delete;
     ShownForNow& operator=(const ShownForNow&) = delete;
     ~ShownForNow() {
         try {
-            if (sheet_) sheet_->show(false);
+            if (sheet_ != nullptr) sheet_->show(false);
         } catch (const uno::Exception&) {
             // The document or the suite has gone.
         }
@@ -49,7 +48,7 @@ public:
 
 private:
     std::optional<KeptModifiedFlag> flag_;
-    SheetPtr sheet_;
+    SheetRecord* sheet_;
 };
 
 /// Selects cells and puts the selection back that was there.
@@ -89,20 +88,12 @@ uno::Sequence<sal_Int8> metafileOfSelection(CalcDocument& book) {
     return bytes;
 }
 
-/// The part of a block that a picture is taken of: whole rows and columns are endless otherwise.
-CellBlock picturedPart(const SheetPtr& sheet, const CellBlock& block) {
-    if (!block.spansAllRows() && !block.spansAllColumns()) return block;
-    const auto part = intersection(block, usedBlock(sheet));
-    if (!part) fail("There is nothing in these rows or columns");
-    return *part;
-}
-
 /// Columns behind the last one that the sheet has memory for are drawn with the default width. An
 /// empty text in the last column of the block makes it have memory for all of them.
-void allocateColumns(CalcDocument& book, const SheetPtr& sheet, const CellBlock& block) {
-    const KeptModifiedFlag flag(book);
+void allocateColumns(const SheetRecord& sheet, const model::CellBlock& block) {
+    const KeptModifiedFlag flag(sheet.book());
     const auto corner = as<css::text::XTextRange>(
-        sheet->sheet()->getCellByPosition(block.lastColumn, block.lastRow));
+        sheet.sheet()->getCellByPosition(block.lastColumn, block.lastRow));
     if (corner->getString().isEmpty()) corner->setString("");
 }
 
@@ -113,36 +104,23 @@ bool differs(const PictureSize& picture, const css::awt::Size& cells) {
 
 }  // namespace
 
-uno::Any selectionOf(CalcDocument& book, const SheetPtr& sheet, const CellBlocks& blocks) {
-    if (blocks.size() == 1) return uno::Any(sheet->cells(blocks.front()));
-    const auto ranges = as<css::sheet::XSheetCellRangeContainer>(
-        as<css::lang::XMultiServiceFactory>(book.model())
-            ->createInstance("com.sun.star.sheet.SheetCellRanges"));
-    const auto place = static_cast<sal_Int16>(sheet->place());
-    for (const CellBlock& block : blocks) {
-        ranges->addRangeAddress(
-            {place, block.firstColumn, block.firstRow, block.lastColumn, block.lastRow}, false);
-    }
-    return uno::Any(ranges);
-}
-
-CopiedPicture takePictureOfCells(CalcDocument& book, const SheetPtr& sheet,
-                                 const CellBlock& block) {
-    const CellBlock part = picturedPart(sheet, block);
+model::PicturePtr takePictureOfCells(SheetRecord& sheet,
+                                     const uno::Reference<css::table::XCellRange>& cells,
+                                     const model::CellBlock& block) {
+    CalcDocument& book = sheet.book();
     if (!book.controller().is()) fail("The workbook has no window to copy from");
-    const auto cells = sheet->cells(part);
-    const ShownForNow shown(book, sheet);
+    const ShownForNow shown(sheet);
     const SelectedForNow selected(book, uno::Any(cells));
     uno::Sequence<sal_Int8> metafile = metafileOfSelection(book);
     const auto size = property<css::awt::Size>(cells, "Size");
     if (differs(sizeOfMetafile(metafile), size)) {
-        allocateColumns(book, sheet, part);
+        allocateColumns(sheet, block);
         metafile = metafileOfSelection(book);
     }
     if (!metafile.hasElements() || size.Width <= 0 || size.Height <= 0) {
         fail("There is nothing to take a picture of");
     }
-    return {metafile, size.Width, size.Height};
+    return std::make_shared<CopiedPicture>(metafile, size.Width, size.Height);
 }
 
 }  // namespace libreoffice::excel

@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "office/failure.h"
+#include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/package_parts.h"
 
 namespace libreoffice::excel {
@@ -81,37 +82,6 @@ void replacePart(const Connection& connection, const rtl::OUString& package,
 
 }  // namespace
 
-/// A folder that only this user can look into, for the copy.
-class RecoveredChart::PrivateFolder {
-public:
-    PrivateFolder() {
-        std::error_code error;
-        const auto parent = std::filesystem::temp_directory_path(error);
-        std::string pattern = (parent / "murvane-XXXXXX").string();
-        if (error || mkdtemp(pattern.data()) == nullptr) {
-            throw office::Failure(office::FailureNumber::PathFileAccess, "Chart",
-                                  "No temporary folder can be made");
-        }
-        path_ = pattern;
-    }
-    PrivateFolder(const PrivateFolder&) = delete;
-    PrivateFolder& operator=(const PrivateFolder&) = delete;
-    ~PrivateFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-
-    [[nodiscard]] std::string copyOf(const std::string& file) const {
-        const auto target = path_ / std::filesystem::path(file).filename();
-        std::filesystem::copy_file(file, target);
-        chmod(target.c_str(), S_IRUSR | S_IWUSR);
-        return target.string();
-    }
-
-private:
-    std::filesystem::path path_;
-};
-
 /// The copy of the workbook while it is open.
 class RecoveredChart::OpenCopy {
 public:
@@ -135,9 +105,9 @@ private:
     uno::Reference<css::frame::XModel> model_;
 };
 
-RecoveredChart::RecoveredChart(Desk& desk, CalcDocument& book, SheetRecord& sheet) {
-    const Connection& connection = desk.connection();
-    const rtl::OUString url = book.url();
+RecoveredChart::RecoveredChart(SheetRecord& sheet) {
+    const Connection& connection = sheet.book().connection();
+    const rtl::OUString url = sheet.book().url();
     const auto parts = PackageParts::open(connection, url);
     if (!parts || sheet.part.empty() || !url.startsWith("file:"))
         fail(sheet, "its file is not at hand");
@@ -145,18 +115,12 @@ RecoveredChart::RecoveredChart(Desk& desk, CalcDocument& book, SheetRecord& shee
     const std::string mended = withoutNegativePlaces(parts->read(drawing));
     if (mended.empty()) fail(sheet, "it has none");
 
-    folder_ = std::make_unique<PrivateFolder>();
-    std::string file;
-    try {
-        file = folder_->copyOf(pathOfUrl(url));
-    } catch (const std::filesystem::filesystem_error& error) {
-        fail(sheet, error.what());
-    }
+    const std::string file = folder_.copyOf(pathOfUrl(url));
     const rtl::OUString copyUrl = fileUrl(file);
     replacePart(connection, copyUrl, drawing, mended);
     // Only looked at: nothing of it has to be made changeable.
-    copy_ = std::make_unique<OpenCopy>(desk.load(copyUrl, true, {}, true));
-    charts_ = std::make_unique<ChartShapes>(copy_->sheet(sheet.fileName));
+    copy_ = std::make_unique<OpenCopy>(sheet.book().desk().load(copyUrl, true, {}, true));
+    charts_ = std::make_unique<ChartShapes>(sheet.book(), copy_->sheet(sheet.fileName));
     if (charts_->all().empty()) fail(sheet, "it has none");
     chart_ = charts_->all().front();
 }

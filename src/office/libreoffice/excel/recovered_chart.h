@@ -6,7 +6,8 @@
 #include <string>
 
 #include "office/libreoffice/desk.h"
-#include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/sheet_record.h"
+#include "office/libreoffice/private_folder.h"
 
 namespace libreoffice::excel {
 
@@ -17,21 +18,18 @@ namespace libreoffice::excel {
 class RecoveredChart {
 public:
     /// `office::Failure` 1004 if the chart can't be found that way either.
-    RecoveredChart(Desk& desk, CalcDocument& book, SheetRecord& sheet);
+    explicit RecoveredChart(SheetRecord& sheet);
     RecoveredChart(const RecoveredChart&) = delete;
     RecoveredChart& operator=(const RecoveredChart&) = delete;
     ~RecoveredChart();
 
-    [[nodiscard]] const uno::Reference<css::drawing::XShape>& shape() const {
-        return chart_->shape;
-    }
+    [[nodiscard]] const ChartShapePtr& chart() const { return chart_; }
 
 private:
-    class PrivateFolder;
     class OpenCopy;
 
     // In this order, so that they go in the other: the shape first, the folder last.
-    std::unique_ptr<PrivateFolder> folder_;
+    PrivateFolder folder_;
     std::unique_ptr<OpenCopy> copy_;
     std::unique_ptr<ChartShapes> charts_;
     ChartShapePtr chart_;

@@ -15,7 +15,7 @@ namespace libreoffice::excel {
 
 namespace {
 
-bool hasContents(const SheetPtr& sheet) {
+bool hasContents(const SheetRecordPtr& sheet) {
     const auto filled =
         as<css::sheet::XCellRangesQuery>(sheet->sheet())
             ->queryContentCells(css::sheet::CellFlags::VALUE | css::sheet::CellFlags::DATETIME |
@@ -24,23 +24,24 @@ bool hasContents(const SheetPtr& sheet) {
 }
 
 /// How a chart sheet arrives: no cells, and one chart in the corner.
-bool looksLikeChartSheet(const SheetPtr& sheet) {
-    const auto& charts = sheet->charts().all();
+bool looksLikeChartSheet(const SheetRecordPtr& sheet) {
+    const auto& charts = sheet->chartShapes().all();
     if (charts.size() != 1) return false;
-    const css::awt::Point corner = charts.front()->shape->getPosition();
+    const css::awt::Point corner = charts.front()->shape()->getPosition();
     return corner.X == 0 && corner.Y == 0 && !hasContents(sheet);
 }
 
 }  // namespace
 
-SheetList::SheetList(uno::Reference<css::sheet::XSpreadsheets> sheets, const WorkbookFacts& facts)
-    : sheets_(std::move(sheets)),
-      byPlace_(as<css::container::XIndexAccess>(sheets_)) {
+SheetList::SheetList(CalcDocument& book, uno::Reference<css::sheet::XSpreadsheets> sheets,
+                     const WorkbookFacts& facts)
+    : book_(book),
+      sheets_(std::move(sheets)) {
     // All of them at once: a record made later could not be told from one whose sheet was deleted.
-    for (const SheetPtr& record : all()) {
+    for (const SheetRecordPtr& record : all()) {
         for (const WorkbookFacts::Sheet& fact : facts.sheets) {
             if (fact.name != record->knownName()) continue;
-            record->isChartSheet = fact.isChartSheet;
+            record->showsChart = fact.isChartSheet;
             record->isVeryHidden = fact.isVeryHidden;
             record->part = fact.part;
             record->fileName = fact.name;
@@ -48,87 +49,71 @@ SheetList::SheetList(uno::Reference<css::sheet::XSpreadsheets> sheets, const Wor
     }
 }
 
-std::vector<std::string> SheetList::readNames() {
-    std::vector<std::string> names;
+std::vector<std::string> SheetList::names() {
+    std::vector<std::string> all;
     const auto elements = sheets_->getElementNames();
-    for (const rtl::OUString& name : elements) names.push_back(fromUno(name));
-    return names;
+    for (const rtl::OUString& name : elements) all.push_back(fromUno(name));
+    return all;
 }
 
-std::vector<SheetPtr> SheetList::all(Kind kind) {
-    const auto names = readNames();
-    if (names != namesSeen_) followNames(names);
-    std::vector<SheetPtr> sheets;
-    for (const std::string& name : names) {
-        const SheetPtr record = recordFor(name);
-        const bool fits = kind == Kind::Any || record->isChartSheet == (kind == Kind::ChartSheet);
-        if (fits) sheets.push_back(record);
-    }
+std::vector<SheetRecordPtr> SheetList::all() {
+    const auto now = names();
+    if (now != namesSeen_) followNames(now);
+    std::vector<SheetRecordPtr> sheets;
+    for (const std::string& name : now) sheets.push_back(recordFor(name));
     return sheets;
 }
 
-std::int32_t SheetList::count() {
-    return byPlace_->getCount();
-}
-
-SheetPtr SheetList::find(std::string_view name) {
+SheetRecordPtr SheetList::find(std::string_view name) {
     const auto isCalled = [&](const std::string& known) {
         return office::sameIgnoringCase(known, name);
     };
-    for (const SheetPtr& record : records_) {
-        if (isCalled(record->knownName()) && isCalled(record->readName())) return record;
+    for (const SheetRecordPtr& record : records_) {
+        if (isCalled(record->knownName()) && isCalled(record->name())) return record;
     }
-    followNames(readNames());
-    for (const SheetPtr& record : records_) {
+    followNames(names());
+    for (const SheetRecordPtr& record : records_) {
         if (isCalled(record->knownName())) return record;
     }
     if (!sheets_->hasByName(toUno(name))) return nullptr;
     return recordFor(std::string(name));
 }
 
-SheetPtr SheetList::at(std::int32_t place) {
+SheetRecordPtr SheetList::at(std::int32_t place) {
     if (place < 0) return nullptr;
     const auto sheets = all();
     const auto index = static_cast<std::size_t>(place);
     return index < sheets.size() ? sheets[index] : nullptr;
 }
 
-void SheetList::requireThere(const SheetPtr& sheet, const std::string& source) {
-    if (!sheet->isGone && sheet->readName() != sheet->knownName()) followNames(readNames());
-    sheet->requireNotGone(source);
+bool SheetList::isThere(SheetRecord& sheet) {
+    if (!sheet.foundDeleted && sheet.name() != sheet.knownName()) followNames(names());
+    return !sheet.foundDeleted;
 }
 
-SheetPtr SheetList::add(std::int32_t place) {
-    const auto names = readNames();
-    const auto isTaken = [&](const std::string& wanted) {
-        return std::any_of(names.begin(), names.end(), [&](const std::string& name) {
-            return office::sameIgnoringCase(name, wanted);
-        });
-    };
-    std::size_t number = names.size() + 1;
-    while (isTaken(fmt::format("Sheet{}", number))) ++number;
-    const std::string name = fmt::format("Sheet{}", number);
+SheetRecordPtr SheetList::add(const std::string& name, std::int32_t place) {
     sheets_->insertNewByName(toUno(name), static_cast<sal_Int16>(place));
     return recordFor(name);
 }
 
-void SheetList::remove(const SheetPtr& sheet) {
-    sheets_->removeByName(toUno(sheet->readName()));
-    sheet->isGone = true;
-    std::erase(records_, sheet);
+void SheetList::remove(const model::SheetPtr& sheet) {
+    sheets_->removeByName(toUno(sheet->name()));
+    const auto record = std::dynamic_pointer_cast<SheetRecord>(sheet);
+    record->foundDeleted = true;
+    std::erase(records_, record);
 }
 
 void SheetList::tellKindsByLooks() {
-    for (const SheetPtr& sheet : all()) sheet->isChartSheet = looksLikeChartSheet(sheet);
+    for (const SheetRecordPtr& sheet : all()) sheet->showsChart = looksLikeChartSheet(sheet);
 }
 
-SheetPtr SheetList::recordFor(const std::string& name) {
-    for (const SheetPtr& record : records_) {
+SheetRecordPtr SheetList::recordFor(const std::string& name) {
+    for (const SheetRecordPtr& record : records_) {
         if (record->knownName() == name) return record;
     }
     const uno::Reference<css::sheet::XSpreadsheet> sheet(sheets_->getByName(toUno(name)),
                                                          uno::UNO_QUERY_THROW);
-    records_.push_back(std::make_shared<SheetRecord>(sheet, name));
+    records_.push_back(std::make_shared<SheetRecord>(book_, sheet, name));
     return records_.back();
 }
 
@@ -136,10 +121,10 @@ SheetPtr SheetList::recordFor(const std::string& name) {
 /// now reads the name of a neighbour; the neighbour's own record, which bore that name already, is
 /// the right one.
 void SheetList::followNames(const std::vector<std::string>& names) {
-    std::vector<std::pair<SheetPtr, std::string>> changed;
+    std::vector<std::pair<SheetRecordPtr, std::string>> changed;
     std::vector<std::string> kept;
-    for (const SheetPtr& record : records_) {
-        const std::string now = record->readName();
+    for (const SheetRecordPtr& record : records_) {
+        const std::string now = record->name();
         if (now == record->knownName()) {
             kept.push_back(now);
         } else {
@@ -153,10 +138,10 @@ void SheetList::followNames(const std::vector<std::string>& names) {
             record->noteName(now);
             kept.push_back(now);
         } else {
-            record->isGone = true;
+            record->foundDeleted = true;
         }
     }
-    std::erase_if(records_, [](const SheetPtr& record) { return record->isGone; });
+    std::erase_if(records_, [](const SheetRecordPtr& record) { return record->foundDeleted; });
     namesSeen_ = names;
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/sheet/XSpreadsheets.hpp>
 
 #include <string>
@@ -17,36 +16,32 @@ namespace libreoffice::excel {
 /// follow the sheet.
 class SheetList {
 public:
-    enum class Kind { Any, Worksheet, ChartSheet };
-
-    SheetList(uno::Reference<css::sheet::XSpreadsheets> sheets, const WorkbookFacts& facts);
+    SheetList(CalcDocument& book, uno::Reference<css::sheet::XSpreadsheets> sheets,
+              const WorkbookFacts& facts);
 
     /// Reads the order and the kinds anew.
-    [[nodiscard]] std::vector<SheetPtr> all(Kind kind = Kind::Any);
-    [[nodiscard]] std::int32_t count();
+    [[nodiscard]] std::vector<SheetRecordPtr> all();
+    [[nodiscard]] std::vector<std::string> names();
     /// Null if there is none of that name or place (from 0).
-    [[nodiscard]] SheetPtr find(std::string_view name);
-    [[nodiscard]] SheetPtr at(std::int32_t place);
+    [[nodiscard]] SheetRecordPtr find(std::string_view name);
+    [[nodiscard]] SheetRecordPtr at(std::int32_t place);
 
-    /// `office::Failure` Disconnected if the sheet has been deleted. Asked before a sheet is
-    /// changed.
-    void requireThere(const SheetPtr& sheet, const std::string& source);
+    /// Whether a sheet is still in the workbook. Asked before it is changed.
+    [[nodiscard]] bool isThere(SheetRecord& sheet);
 
-    /// A new worksheet at a place from 0, with the first free name "Sheet1", "Sheet2", ...
-    SheetPtr add(std::int32_t place);
-    void remove(const SheetPtr& sheet);
+    SheetRecordPtr add(const std::string& name, std::int32_t place);
+    void remove(const model::SheetPtr& sheet);
 
     /// Without the file's word: takes sheets that look like chart sheets for such.
     void tellKindsByLooks();
 
 private:
-    [[nodiscard]] std::vector<std::string> readNames();
-    [[nodiscard]] SheetPtr recordFor(const std::string& name);
+    [[nodiscard]] SheetRecordPtr recordFor(const std::string& name);
     void followNames(const std::vector<std::string>& names);
 
+    CalcDocument& book_;
     uno::Reference<css::sheet::XSpreadsheets> sheets_;
-    uno::Reference<css::container::XIndexAccess> byPlace_;
-    std::vector<SheetPtr> records_;
+    std::vector<SheetRecordPtr> records_;
     std::vector<std::string> namesSeen_;
 };
 

@@ -3,69 +3,91 @@
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
-#include <com/sun/star/sheet/XNamedRanges.hpp>
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
-#include <com/sun/star/table/XCellRange.hpp>
+#include <com/sun/star/table/CellRangeAddress.hpp>
 
-#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
-#include "office/libreoffice/excel/addresses.h"
 #include "office/libreoffice/excel/chart_shapes.h"
+#include "office/libreoffice/excel/named_ranges.h"
+#include "office/libreoffice/uno_values.h"
+#include "office/model/excel/sheet.h"
 
 namespace libreoffice::excel {
 
+namespace model = office::model::excel;
+
+class CalcDocument;
+
 /// A sheet that was met, and what automation knows of it beyond LibreOffice. The reference held
 /// follows the sheet when it is renamed or moved. When the sheet is deleted it silently stands for
-/// a neighbour, so writing goes through `SheetList::requireThere`.
-class SheetRecord {
+/// a neighbour, so before it is changed the list of sheets is asked whether it is still there.
+class SheetRecord : public model::Sheet, public std::enable_shared_from_this<SheetRecord> {
 public:
-    SheetRecord(uno::Reference<css::sheet::XSpreadsheet> sheet, std::string name);
+    SheetRecord(CalcDocument& book, uno::Reference<css::sheet::XSpreadsheet> sheet,
+                std::string name);
 
+    [[nodiscard]] CalcDocument& book() const { return book_; }
     [[nodiscard]] const uno::Reference<css::sheet::XSpreadsheet>& sheet() const { return sheet_; }
-    [[nodiscard]] const uno::Reference<css::beans::XPropertySet>& properties();
-    [[nodiscard]] uno::Reference<css::table::XCellRange> cells(const CellBlock& block) const;
-    [[nodiscard]] const uno::Reference<css::sheet::XNamedRanges>& names();
-    [[nodiscard]] ChartShapes& charts() { return charts_; }
-
-    /// The name as last seen, and as it is now.
-    [[nodiscard]] const std::string& knownName() const { return name_; }
-    [[nodiscard]] std::string readName();
-    void rename(const std::string& name);
+    [[nodiscard]] uno::Reference<css::table::XCellRange> range(const model::CellBlock& block) const;
+    [[nodiscard]] ChartShapes& chartShapes() { return charts_; }
     void noteName(std::string name) { name_ = std::move(name); }
-
-    /// `office::Failure` Disconnected if the sheet has been found deleted.
-    void requireNotGone(const std::string& source) const;
-
-    /// The place among all sheets, from 0.
-    [[nodiscard]] std::int32_t place();
-
     [[nodiscard]] bool isShown();
     void show(bool shown);
 
     /// A sheet of a kind that LibreOffice does not know: it shows one as a sheet with one chart and
     /// no cells.
-    bool isChartSheet = false;
+    bool showsChart = false;
     /// Hidden so that no menu of Excel shows it; LibreOffice knows plain hiding only.
     bool isVeryHidden = false;
     /// The part of the file that the sheet was loaded from, and its name there; empty for one made
     /// in this session.
     std::string part;
     std::string fileName;
-    /// Found deleted.
-    bool isGone = false;
+    bool foundDeleted = false;
+
+    [[nodiscard]] bool isGone() const override { return foundDeleted; }
+    bool isThere() override;
+    std::string name() override;
+    [[nodiscard]] const std::string& knownName() const override { return name_; }
+    void rename(const std::string& name) override;
+    [[nodiscard]] bool isChartSheet() const override { return showsChart; }
+    std::int32_t place() override;
+    model::Visibility visibility() override;
+    void setVisibility(model::Visibility visibility) override;
+    bool isProtected() override;
+    void activate() override;
+
+    model::CellsPtr cells(const model::CellBlock& block) override;
+    model::CellBlock used() override;
+    model::CellBlock cellAt(double left, double top) override;
+    void select(const model::CellBlocks& blocks) override;
+
+    std::vector<model::SheetChartPtr> charts() override;
+    model::SheetChartPtr findChart(std::string_view name) override { return charts_.find(name); }
+    model::SheetChartPtr ownChart() override;
+    NamedRanges& names() override;
 
 private:
+    [[nodiscard]] const uno::Reference<css::beans::XPropertySet>& properties();
+    [[nodiscard]] const uno::Reference<css::container::XNamed>& named();
+
+    CalcDocument& book_;
     uno::Reference<css::sheet::XSpreadsheet> sheet_;
     uno::Reference<css::beans::XPropertySet> properties_;
     uno::Reference<css::container::XNamed> named_;
     uno::Reference<css::sheet::XCellRangeAddressable> addressable_;
-    uno::Reference<css::sheet::XNamedRanges> names_;
     std::string name_;
     ChartShapes charts_;
+    std::optional<NamedRanges> names_;
 };
 
-using SheetPtr = std::shared_ptr<SheetRecord>;
+using SheetRecordPtr = std::shared_ptr<SheetRecord>;
+
+[[nodiscard]] inline model::CellBlock blockOf(const css::table::CellRangeAddress& address) {
+    return {address.StartColumn, address.StartRow, address.EndColumn, address.EndRow};
+}
 
 }  // namespace libreoffice::excel

@@ -5,22 +5,10 @@
 #include <optional>
 #include <string>
 
+#include "office/model/part.h"
 #include "office/model/powerpoint/shape_looks.h"
 
 namespace office::model::powerpoint {
-
-/// Anything of a presentation that can go while objects stand for it.
-class Part {
-public:
-    Part() = default;
-    Part(const Part&) = delete;
-    Part& operator=(const Part&) = delete;
-    virtual ~Part() = default;
-
-    /// Whether it is known to have been closed or deleted, alone or with what it was on. Makes no
-    /// remote call.
-    [[nodiscard]] virtual bool isGone() const = 0;
-};
 
 /// The text of a shape, with carriage returns between its paragraphs.
 class ShapeText {

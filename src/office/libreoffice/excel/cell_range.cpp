@@ -1,0 +1,109 @@
+#include "office/libreoffice/excel/cell_range.h"
+
+#include <com/sun/star/awt/Point.hpp>
+#include <com/sun/star/awt/Size.hpp>
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
+#include <com/sun/star/sheet/CellFlags.hpp>
+#include <com/sun/star/sheet/XCellRangesQuery.hpp>
+#include <com/sun/star/sheet/XSheetOperation.hpp>
+#include <com/sun/star/table/XColumnRowRange.hpp>
+
+#include <algorithm>
+
+#include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/cell_values.h"
+#include "office/libreoffice/excel/range_picture.h"
+#include "office/libreoffice/units.h"
+
+namespace libreoffice::excel {
+
+namespace {
+
+constexpr sal_Int32 contents = css::sheet::CellFlags::VALUE | css::sheet::CellFlags::DATETIME |
+                               css::sheet::CellFlags::STRING | css::sheet::CellFlags::FORMULA;
+
+}  // namespace
+
+const uno::Reference<css::table::XCellRange>& CellRange::range() {
+    if (!range_.is()) range_ = sheet_->range(block_);
+    return range_;
+}
+
+office::Table CellRange::read() {
+    return readCells(sheet_->book().formats(), range(), block_);
+}
+
+void CellRange::write(const office::Table& values) {
+    writeCells(sheet_->book().formats(), range(), block_, values);
+}
+
+void CellRange::clear() {
+    as<css::sheet::XSheetOperation>(range())->clearContents(contents);
+}
+
+std::string CellRange::numberFormat() {
+    return sheet_->book().formats().codeOf(property<sal_Int32>(range(), "NumberFormat"));
+}
+
+void CellRange::setNumberFormat(const std::string& code) {
+    setProperty(range(), "NumberFormat", sheet_->book().formats().keyFor(code));
+}
+
+model::Box CellRange::place() {
+    uno::Sequence<rtl::OUString> names(2);
+    names[0] = "Position";
+    names[1] = "Size";
+    const auto values = as<css::beans::XMultiPropertySet>(range())->getPropertyValues(names);
+    css::awt::Point corner;
+    css::awt::Size size;
+    values[0] >>= corner;
+    values[1] >>= size;
+    return {pointsOf(corner.X), pointsOf(corner.Y), pointsOf(size.Width), pointsOf(size.Height)};
+}
+
+uno::Reference<uno::XInterface> CellRange::linesOf(model::Lines lines) {
+    const auto all = as<css::table::XColumnRowRange>(range());
+    if (lines == model::Lines::Columns) return all->getColumns();
+    return all->getRows();
+}
+
+bool CellRange::areHidden(model::Lines lines) {
+    return !property<bool>(linesOf(lines), "IsVisible", true);
+}
+
+bool CellRange::isAllShown() {
+    const auto shown =
+        as<css::sheet::XCellRangesQuery>(range())->queryVisibleCells()->getRangeAddresses();
+    return shown.getLength() == 1 && blockOf(shown[0]) == block_;
+}
+
+void CellRange::hide(model::Lines lines, bool hidden) {
+    // Where nothing is hidden the workbook stays untouched: it would count as changed otherwise.
+    if (!hidden && isAllShown()) return;
+    setProperty(linesOf(lines), "IsVisible", !hidden);
+}
+
+std::vector<std::pair<std::int32_t, std::int32_t>> CellRange::filledRows() {
+    const auto filled = as<css::sheet::XCellRangesQuery>(range())
+                            ->queryContentCells(static_cast<sal_Int16>(contents))
+                            ->getRangeAddresses();
+    std::vector<std::pair<std::int32_t, std::int32_t>> found;
+    for (const css::table::CellRangeAddress& part : filled)
+        found.emplace_back(part.StartRow, part.EndRow);
+    std::sort(found.begin(), found.end());
+    std::vector<std::pair<std::int32_t, std::int32_t>> joined;
+    for (const auto& stretch : found) {
+        if (!joined.empty() && joined.back().second + 1 >= stretch.first) {
+            joined.back().second = std::max(joined.back().second, stretch.second);
+        } else {
+            joined.push_back(stretch);
+        }
+    }
+    return joined;
+}
+
+model::PicturePtr CellRange::picture() {
+    return takePictureOfCells(*sheet_, range(), block_);
+}
+
+}  // namespace libreoffice::excel

@@ -1,0 +1,142 @@
+#include "office/libreoffice/excel/named_ranges.h"
+
+#include <com/sun/star/container/NoSuchElementException.hpp>
+#include <com/sun/star/sheet/XCellRangeAddressable.hpp>
+#include <com/sun/star/sheet/XCellRangeReferrer.hpp>
+
+#include <algorithm>
+
+#include "office/libreoffice/excel/calc_document.h"
+#include "office/text.h"
+
+namespace libreoffice::excel {
+
+namespace {
+
+constexpr std::string_view builtIn = "_xlnm.";
+
+/// The flag of a hidden name; the headers of older LibreOffice versions don't know it.
+constexpr sal_Int32 hiddenNameFlag = 16;
+
+/// "$'Q1''s'.$A$1" as sheet and rest. A quoted name may hold a point.
+std::optional<model::OnSheet> splitAtPoint(std::string_view reference) {
+    if (reference.starts_with('$')) reference.remove_prefix(1);
+    const auto parts = model::splitOutsideQuotes(reference, ".");
+    if (parts.size() != 2 || parts[0].empty()) return std::nullopt;
+    return model::splitSheet(std::string(parts[0]) + "!" + std::string(parts[1]));
+}
+
+/// Each letter part and each number part of a fixed reference has its own "$".
+bool isAbsolute(std::string_view address) {
+    const auto ends = model::splitOutsideQuotes(address, ":");
+    return std::all_of(ends.begin(), ends.end(), [](std::string_view corner) {
+        const bool hasDigits = corner.find_first_of("0123456789") != std::string_view::npos;
+        const bool hasLetters = corner.find_first_not_of("$0123456789") != std::string_view::npos;
+        const auto marks = std::count(corner.begin(), corner.end(), '$');
+        return corner.starts_with('$') && marks == (hasDigits && hasLetters ? 2 : 1);
+    });
+}
+
+/// The cells that the contents of a name stand for, in LibreOffice's own notation
+/// ("$Sales.$A$1:$B$2", several areas joined by ";" or "~"). Nothing if they are no fixed cells of
+/// one sheet of this workbook: a constant, a formula, a broken or relative reference, cells of
+/// another file.
+std::optional<model::CellsOfSheet> cellsOfContents(std::string_view contents) {
+    model::CellsOfSheet cells;
+    for (const std::string_view reference : model::splitOutsideQuotes(contents, ";~")) {
+        const auto split = splitAtPoint(reference);
+        if (!split || !isAbsolute(split->text)) return std::nullopt;
+        const auto block = model::blockOf(split->text);
+        if (!block || (!cells.sheet.empty() && cells.sheet != split->sheet)) return std::nullopt;
+        cells.sheet = split->sheet;
+        cells.blocks.push_back(*block);
+    }
+    return cells;
+}
+
+std::string contentsOf(const model::CellsOfSheet& cells) {
+    std::string contents;
+    for (const model::CellBlock& block : cells.blocks) {
+        if (!contents.empty()) contents += '~';
+        contents += "$'" + office::replaceAll(cells.sheet, "'", "''") + "'." + addressOf(block);
+    }
+    return contents;
+}
+
+/// Whether the contents may be one reference that moves with the cell it is used in ("$Sales.A1").
+bool couldBeRelative(std::string_view contents) {
+    const auto split = splitAtPoint(contents);
+    return split && !isAbsolute(split->text) && model::blockOf(split->text);
+}
+
+}  // namespace
+
+std::vector<std::string> NamedRanges::all() {
+    std::vector<std::string> names;
+    const auto stored = ranges_->getElementNames();
+    for (const rtl::OUString& each : stored) {
+        std::string name = fromUno(each);
+        if (name.starts_with(builtIn)) name.erase(0, builtIn.size());
+        names.push_back(std::move(name));
+    }
+    return names;
+}
+
+std::optional<rtl::OUString> NamedRanges::storedName(std::string_view name) const {
+    if (const rtl::OUString plain = toUno(name); ranges_->hasByName(plain)) return plain;
+    const std::string lower = office::lowerCase(name);
+    if (!lower.starts_with("print_") && !lower.starts_with("_filter")) return std::nullopt;
+    const rtl::OUString prefixed = toUno(std::string(builtIn) + std::string(name));
+    return ranges_->hasByName(prefixed) ? std::optional(prefixed) : std::nullopt;
+}
+
+uno::Reference<css::sheet::XNamedRange> NamedRanges::fetch(const std::string& name) const {
+    try {
+        return {ranges_->getByName(toUno(name)), uno::UNO_QUERY_THROW};
+    } catch (const css::container::NoSuchElementException&) {
+        const auto stored = storedName(name);
+        if (!stored) throw;
+        return {ranges_->getByName(*stored), uno::UNO_QUERY_THROW};
+    }
+}
+
+std::optional<model::NamedCells> NamedRanges::cells(const std::string& name) {
+    const auto range = fetch(name);
+    const std::string contents = fromUno(range->getContent());
+    if (const auto cells = cellsOfContents(contents)) {
+        const model::SheetPtr sheet = book_.findSheet(cells->sheet);
+        if (!sheet) return std::nullopt;
+        return model::NamedCells{book_.self(), sheet, cells->blocks};
+    }
+    return couldBeRelative(contents) ? referred(range) : std::nullopt;
+}
+
+/// Cells that are no fixed ones ("$Sales.A1") are where LibreOffice finds them from the name's own
+/// position.
+std::optional<model::NamedCells> NamedRanges::referred(
+    const uno::Reference<css::sheet::XNamedRange>& range) const {
+    const auto cells = as<css::sheet::XCellRangeReferrer>(range)->getReferredCells();
+    if (!cells.is()) return std::nullopt;
+    const auto address = as<css::sheet::XCellRangeAddressable>(cells)->getRangeAddress();
+    const model::SheetPtr sheet = book_.sheetList().at(address.Sheet);
+    if (!sheet) return std::nullopt;
+    return model::NamedCells{book_.self(), sheet, {blockOf(address)}};
+}
+
+bool NamedRanges::isVisible(const std::string& name) {
+    return (fetch(name)->getType() & hiddenNameFlag) == 0;
+}
+
+void NamedRanges::define(const std::string& name, const model::CellsOfSheet& cells, bool visible) {
+    const rtl::OUString contents = toUno(contentsOf(cells));
+    const sal_Int32 type = visible ? 0 : hiddenNameFlag;
+    if (has(name)) {
+        const auto known = fetch(name);
+        known->setContent(contents);
+        known->setType(type);
+    } else {
+        ranges_->addNewByName(toUno(name), contents, css::table::CellAddress(), type);
+    }
+}
+
+}  // namespace libreoffice::excel

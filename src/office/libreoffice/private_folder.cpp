@@ -1,0 +1,39 @@
+#include "office/libreoffice/private_folder.h"
+
+#include <cstdlib>
+#include <system_error>
+
+#include "office/failure.h"
+
+namespace libreoffice {
+
+namespace fs = std::filesystem;
+
+PrivateFolder::PrivateFolder() {
+    std::error_code error;
+    std::string pattern = (fs::temp_directory_path(error) / "murvane-XXXXXX").string();
+    if (error || mkdtemp(pattern.data()) == nullptr) {
+        throw office::Failure(office::FailureNumber::PathFileAccess, "PrivateFolder",
+                              "No temporary folder can be made");
+    }
+    path_ = pattern;
+}
+
+PrivateFolder::~PrivateFolder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+}
+
+std::string PrivateFolder::copyOf(const std::string& file) const {
+    const fs::path target = path_ / fs::path(file).filename();
+    std::error_code error;
+    fs::copy_file(file, target, error);
+    if (!error) fs::permissions(target, fs::perms::owner_read | fs::perms::owner_write, error);
+    if (error) {
+        throw office::Failure(office::FailureNumber::PathFileAccess, "PrivateFolder",
+                              "\"" + file + "\" can't be copied: " + error.message());
+    }
+    return target.string();
+}
+
+}  // namespace libreoffice

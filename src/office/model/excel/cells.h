@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "office/model/excel/cell_block.h"
+#include "office/value.h"
+
+/// What the object model of Excel asks of what lies below: a suite, a file, or plain values in
+/// memory. Places count from 0, lengths are points.
+namespace office::model::excel {
+
+struct Box {
+    double left = 0;
+    double top = 0;
+    double width = 0;
+    double height = 0;
+};
+
+/// A picture that was copied. What it is made of is known below only.
+class Picture {
+public:
+    Picture() = default;
+    Picture(const Picture&) = delete;
+    Picture& operator=(const Picture&) = delete;
+    virtual ~Picture() = default;
+};
+
+using PicturePtr = std::shared_ptr<const Picture>;
+
+enum class Lines { Rows, Columns };
+
+/// One block of cells of a sheet. What reads or writes does so for the whole block at once.
+class Cells {
+public:
+    Cells() = default;
+    Cells(const Cells&) = delete;
+    Cells& operator=(const Cells&) = delete;
+    virtual ~Cells() = default;
+
+    /// Numbers, texts and truth values; errors and empty cells as empty.
+    virtual Table read() = 0;
+    /// Enters values from the first cell on, each as `typedIn` has it. A table smaller than the
+    /// block leaves the rest as it was; none is larger.
+    virtual void write(const Table& values) = 0;
+    /// Takes values and formulas out.
+    virtual void clear() = 0;
+    /// "General", "0.00", "@": the format of the first cell.
+    virtual std::string numberFormat() = 0;
+    virtual void setNumberFormat(const std::string& code) = 0;
+
+    virtual Box place() = 0;
+    virtual bool areHidden(Lines lines) = 0;
+    /// Hides or shows the block's rows or columns. What is so already leaves the workbook
+    /// unchanged.
+    virtual void hide(Lines lines, bool hidden) = 0;
+    /// First and last places of the rows of the block that are filled, in stretches.
+    virtual std::vector<std::pair<std::int32_t, std::int32_t>> filledRows() = 0;
+
+    /// As they look on the screen. `Failure` 1004 if there is nothing to take a picture of.
+    virtual PicturePtr picture() = 0;
+};
+
+using CellsPtr = std::shared_ptr<Cells>;
+
+/// What a cell holds when a value has been typed in: a text that is a number becomes one, unless
+/// the cell's format is for text ("@"), where everything stays text. A formula is never made.
+[[nodiscard]] Value typedIn(const Value& value, bool textCell);
+
+}  // namespace office::model::excel

@@ -1,0 +1,247 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "office/model/excel/objects.h"
+#include "office/text.h"
+
+namespace office::model::excel {
+
+namespace {
+
+/// A chart that only holds a picture. Excel's way from a range to a picture file leads over one;
+/// here it lives beside the workbook, which stays as it is.
+class PictureHolder : public SheetChart {
+public:
+    PictureHolder(BooksPtr books, const Box& box) : books_(std::move(books)), box_(box) {}
+
+    [[nodiscard]] bool isGone() const override { return removed_; }
+    [[nodiscard]] bool isOnSheet() const override { return false; }
+    std::string name() override { return "Picture"; }
+    Box box() override { return box_; }
+    PicturePtr picture() override { return picture_; }
+    void writePicture(const std::string& path) override {
+        books_->writePicture(picture_, box_, path);
+    }
+    void paste(const PicturePtr& picture) override { picture_ = picture; }
+    void select() override {}
+    void remove() override { removed_ = true; }
+
+private:
+    BooksPtr books_;
+    Box box_;
+    PicturePtr picture_;
+    bool removed_ = false;
+};
+
+/// Base of the objects of one chart of a worksheet.
+template <class Self>
+class ObjectOfChart : public ObjectIn<Self, InSheet> {
+public:
+    ObjectOfChart(InSheet home, SheetChartPtr chart)
+        : ObjectIn<Self, InSheet>(std::move(home)),
+          chart_(std::move(chart)) {}
+
+    [[nodiscard]] SheetChart& chart() const { return *chart_; }
+    [[nodiscard]] const SheetChartPtr& chartPtr() const { return chart_; }
+
+    /// Selects it, on top of its sheet.
+    void select(const CallArguments& arguments) {
+        if (chart_->isOnSheet()) activateSheet(this->home(), arguments.source());
+        chart_->select();
+    }
+    void copyPicture() { this->books().setCopied(chart_->picture()); }
+
+protected:
+    void requireAlive(std::string_view member) const override {
+        ObjectIn<Self, InSheet>::requireAlive(member);
+        if (chart_->isGone()) failGone(Self::members().className() + "." + std::string(member));
+    }
+
+private:
+    SheetChartPtr chart_;
+};
+
+/// A chart on a worksheet: the frame around it, with a name and a place.
+class ChartObject : public ObjectOfChart<ChartObject> {
+public:
+    using ObjectOfChart::ObjectOfChart;
+
+    static const MemberTable<ChartObject>& members() {
+        using Self = ChartObject;
+        static const auto table =
+            MemberTable<Self>("ChartObject")
+                .property("Name", [](Self& self) { return self.chart().name(); })
+                .property("Index", &Self::index)
+                .property("Chart",
+                          [](Self& self) { return chartObject(self.home(), self.chartPtr()); })
+                .property("Parent",
+                          [](Self& self) { return sheetObject(self.home(), self.home().sheet); })
+                .property("TopLeftCell",
+                          [](Self& self) {
+                              const Box box = self.chart().box();
+                              return self.cellAt(box.left, box.top);
+                          })
+                .property("BottomRightCell",
+                          [](Self& self) {
+                              // The last point inside: a chart that ends with a cell does not reach
+                              // into the next one.
+                              constexpr double inside = 0.02;
+                              const Box box = self.chart().box();
+                              return self.cellAt(box.left + box.width - inside,
+                                                 box.top + box.height - inside);
+                          })
+                .property("Left", [](Self& self) { return self.chart().box().left; })
+                .property("Top", [](Self& self) { return self.chart().box().top; })
+                .property("Width", [](Self& self) { return self.chart().box().width; })
+                .property("Height", [](Self& self) { return self.chart().box().height; })
+                .method("Activate", {}, &Self::select)
+                .method("Select", {"Replace"}, &Self::select)
+                .method("Copy", {}, &Self::copyPicture)
+                .method("CopyPicture", {"Appearance", "Format"}, &Self::copyPicture)
+                .method("Delete", {}, [](Self& self, const CallArguments& arguments) {
+                    if (self.chart().isOnSheet()) requireThere(self.home(), arguments.source());
+                    self.chart().remove();
+                });
+        return table;
+    }
+
+private:
+    [[nodiscard]] Object cellAt(double left, double top) const {
+        return rangeObject(home(), {sheet().cellAt(left, top)});
+    }
+
+    Value index() {
+        const auto charts = sheet().charts();
+        const auto place = std::find(charts.begin(), charts.end(), chartPtr());
+        if (place == charts.end()) failGone("ChartObject.Index");
+        return countOf(static_cast<std::size_t>(place - charts.begin()) + 1);
+    }
+};
+
+/// The chart in a chart object.
+class Chart : public ObjectOfChart<Chart> {
+public:
+    using ObjectOfChart::ObjectOfChart;
+
+    static const MemberTable<Chart>& members() {
+        using Self = Chart;
+        static const auto table =
+            MemberTable<Self>("Chart")
+                // As Excel calls it: by the sheet and the object.
+                .property(
+                    "Name",
+                    [](Self& self) { return self.sheet().name() + " " + self.chart().name(); })
+                .property(
+                    "Parent",
+                    [](Self& self) { return chartObjectObject(self.home(), self.chartPtr()); })
+                .property("ChartArea",
+                          [](Self& self) { return chartAreaObject(self.home(), self.chartPtr()); })
+                .method("Export", {"Filename", "FilterName", "Interactive"},
+                        [](Self& self, const CallArguments& arguments) {
+                            self.chart().writePicture(exportPath(arguments));
+                        })
+                .method("CopyPicture", {"Appearance", "Format", "Size"}, &Self::copyPicture)
+                .method("Paste", {"Type"},
+                        [](Self& self, const CallArguments& arguments) {
+                            const PicturePtr copied = self.books().copied();
+                            if (!copied) refuse(arguments.source(), "No picture has been copied");
+                            self.chart().paste(copied);
+                        })
+                .method("Select", {"Replace"}, &Self::select)
+                .method("Activate", {}, &Self::select);
+        return table;
+    }
+};
+
+/// The whole area of a chart, of a chart sheet for no chart: what it does, it has the chart do.
+class ChartArea : public ObjectIn<ChartArea, InSheet> {
+public:
+    ChartArea(InSheet home, SheetChartPtr chart)
+        : ObjectIn(std::move(home)),
+          chart_(std::move(chart)) {}
+
+    static const MemberTable<ChartArea>& members() {
+        using Self = ChartArea;
+        static const auto table =
+            MemberTable<Self>("ChartArea")
+                .property("Parent", [](Self& self) { return self.parent(); })
+                .method("Select", {}, [](Self& self) { self.parent().call("Select"); })
+                .method("Copy", {}, [](Self& self) { self.parent().call("CopyPicture"); });
+        return table;
+    }
+
+private:
+    [[nodiscard]] Object parent() const {
+        return chart_ ? chartObject(home(), chart_) : sheetObject(home(), home().sheet);
+    }
+
+    SheetChartPtr chart_;
+};
+
+/// The charts of a worksheet. `Add` makes one that holds a picture: it is not counted here.
+class ChartObjects : public ObjectIn<ChartObjects, InSheet> {
+public:
+    using ObjectIn::ObjectIn;
+
+    static const MemberTable<ChartObjects>& members() {
+        using Self = ChartObjects;
+        static const auto table =
+            MemberTable<Self>("ChartObjects")
+                .property("Count", [](Self& self) { return countOf(self.sheet().charts().size()); })
+                .property("Item", {"Index"},
+                          [](Self& self, const CallArguments& arguments) {
+                              return chartObjectByIndex(self.home(), arguments);
+                          })
+                .method("Add", {"Left", "Top", "Width", "Height"},
+                        [](Self& self, const CallArguments& at) {
+                            const Box box{at.at(0).toDouble(), at.at(1).toDouble(),
+                                          at.at(2).toDouble(), at.at(3).toDouble()};
+                            return chartObjectObject(self.home(), std::make_shared<PictureHolder>(
+                                                                      self.home().books, box));
+                        });
+        return table;
+    }
+};
+
+}  // namespace
+
+Object chartObjectByIndex(const InSheet& home, const CallArguments& arguments) {
+    const ItemIndex index(arguments.at(0), arguments.source());
+    SheetChartPtr chart;
+    if (index.isName()) {
+        chart = home.sheet->findChart(index.name());
+        if (!chart) index.fail();
+    } else {
+        const auto charts = home.sheet->charts();
+        chart = charts[index.placeBelow(charts.size())];
+    }
+    return chartObjectObject(home, chart);
+}
+
+Object chartObjectsObject(const InSheet& home) {
+    return makeObject<ChartObjects>(home);
+}
+
+Object chartObjectObject(const InSheet& home, const SheetChartPtr& chart) {
+    return makeObject<ChartObject>(home, chart);
+}
+
+Object chartObject(const InSheet& home, const SheetChartPtr& chart) {
+    return makeObject<Chart>(home, chart);
+}
+
+Object chartAreaObject(const InSheet& home, const SheetChartPtr& chart) {
+    return makeObject<ChartArea>(home, chart);
+}
+
+std::string exportPath(const CallArguments& arguments) {
+    const std::string format = arguments.at(1, "PNG").toText();
+    if (!sameIgnoringCase(format, "PNG")) {
+        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
+                      fmt::format("A chart can't be exported as \"{}\", only as PNG", format));
+    }
+    return arguments.at(0).toText();
+}
+
+}  // namespace office::model::excel

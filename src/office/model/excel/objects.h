@@ -1,0 +1,104 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "office/model/excel/books.h"
+#include "office/model/item_index.h"
+#include "office/model/model_object.h"
+
+/// The classes of Excel's object model, made here and reached by their members only.
+namespace office::model::excel {
+
+/// What every object of a workbook holds.
+struct InBook {
+    GuardPtr guard;
+    BooksPtr books;
+    BookPtr book;
+
+    [[nodiscard]] bool isGone() const { return book->isGone(); }
+};
+struct InSheet : InBook {
+    SheetPtr sheet;
+
+    [[nodiscard]] bool isGone() const { return InBook::isGone() || sheet->isGone(); }
+};
+
+/// Something that Excel refuses: `Failure` 1004.
+[[noreturn]] void refuse(const std::string& source, const std::string& why);
+/// Before a sheet is changed: `Failure` Disconnected if it has been deleted.
+void requireThere(const InSheet& home, const std::string& source);
+
+/// Base of the objects of a workbook or, with `InSheet`, of a sheet.
+template <class Self, class Home = InBook>
+class ObjectIn : public ModelObject<Self> {
+public:
+    explicit ObjectIn(Home home) : ModelObject<Self>(home.guard), home_(std::move(home)) {}
+
+    [[nodiscard]] const Home& home() const { return home_; }
+    [[nodiscard]] Books& books() const { return *home_.books; }
+    [[nodiscard]] Book& book() const { return *home_.book; }
+    [[nodiscard]] Sheet& sheet() const { return *home_.sheet; }
+
+protected:
+    void requireAlive(std::string_view member) const override {
+        if (home_.isGone()) failGone(Self::members().className() + "." + std::string(member));
+    }
+
+private:
+    Home home_;
+};
+
+[[nodiscard]] Object applicationObject(GuardPtr guard, BooksPtr books);
+[[nodiscard]] Object workbooksObject(GuardPtr guard, BooksPtr books);
+[[nodiscard]] Object workbookObject(const InBook& home);
+/// What is selected: a "Range", a "ChartArea", or empty for anything else.
+[[nodiscard]] Value selectionObject(const InBook& home);
+/// The chart sheet on top, or the chart that is selected; empty if there is none.
+[[nodiscard]] Value activeChart(const InBook& home);
+
+enum class SheetKind { Any, Worksheet, ChartSheet };
+[[nodiscard]] Object sheetsObject(const InBook& home, SheetKind kind);
+/// A "Worksheet", or a "Chart" for a chart sheet; nothing for no sheet.
+[[nodiscard]] Object sheetObject(const InBook& home, const SheetPtr& sheet);
+/// Brings a sheet to the top. `Failure` 1004 for a hidden one.
+void activateSheet(const InSheet& home, const std::string& source);
+/// All names of the workbook, or those of one sheet.
+[[nodiscard]] Object namesObject(const InBook& home, const SheetPtr& ofSheet = nullptr);
+[[nodiscard]] Object chartObjectsObject(const InSheet& home);
+/// The chart that an index asks for: a number or a name. `Failure` 9 if there is none.
+[[nodiscard]] Object chartObjectByIndex(const InSheet& home, const CallArguments& arguments);
+/// A chart on a worksheet: the frame around it, and the chart in it.
+[[nodiscard]] Object chartObjectObject(const InSheet& home, const SheetChartPtr& chart);
+[[nodiscard]] Object chartObject(const InSheet& home, const SheetChartPtr& chart);
+/// The area of a chart, or of a chart sheet for no chart.
+[[nodiscard]] Object chartAreaObject(const InSheet& home, const SheetChartPtr& chart);
+/// The file that an `Export` asks for. `Failure` 5 for a format other than PNG.
+[[nodiscard]] std::string exportPath(const CallArguments& arguments);
+
+/// What a range counts and steps by: `Rows` and `Columns` give ranges of their own kind.
+enum class RangeUnit { Cells, Rows, Columns };
+[[nodiscard]] Object rangeObject(const InSheet& home, CellBlocks blocks,
+                                 RangeUnit unit = RangeUnit::Cells);
+/// The arguments of `Range`: an address, a name, or two cells. `Failure` 1004 if there is no such
+/// range, or if it is on another sheet and may not be.
+[[nodiscard]] Object rangeByArguments(const InSheet& home, const CallArguments& arguments,
+                                      bool mayLeaveSheet);
+/// Those of `Cells`, and of `Rows` and `Columns`.
+[[nodiscard]] Object cellsByArguments(const InSheet& home, const CallArguments& arguments);
+[[nodiscard]] Object linesByArguments(const InSheet& home, const CallArguments& arguments,
+                                      RangeUnit unit);
+/// The sheet that a range lies on, and its blocks. `Failure` 13 if the value is no range.
+struct RangePlace {
+    InSheet home;
+    CellBlocks blocks;
+};
+[[nodiscard]] RangePlace placeOfRange(const Value& range, const std::string& source);
+
+/// Cells by a text: an address or a name, with the name of a sheet ahead or meant on the given one.
+/// A sheet's own name goes ahead of the workbook's.
+[[nodiscard]] std::optional<RangePlace> findCells(const InSheet& home, std::string_view text);
+
+}  // namespace office::model::excel
