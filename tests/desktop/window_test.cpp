@@ -8,7 +8,6 @@
 #include <stdexcept>
 
 #include "desktop/fixture.h"
-#include "desktop/looks.h"
 
 namespace {
 
@@ -29,24 +28,18 @@ void whenModal(Answer answer) {
     QTimer::singleShot(30, answer);
 }
 
-TEST_F(Windows, AModalFormReturnsWhenItsButtonUnloadsIt) {
+TEST_F(Windows, AModalFormReturnsWhenItIsUnloadedAndTheOthersTakeNoInputUntilThen) {
     sample::SampleForm dialog(desk);
     dialog.ContinueOk.onClick = [&] { desk.unload(dialog); };
-    whenModal([&] { QTest::mouseClick(desk.widgetOf(dialog.ContinueOk), Qt::LeftButton); });
-    desk.show(dialog, ShowMode::Modal);
-    EXPECT_EQ(dialog.happened, std::vector<std::string>{"unload"});
-    EXPECT_EQ(desk.plateOf(dialog), nullptr);
-}
-
-TEST_F(Windows, OtherFormsTakeNoInputBeneathAModalOne) {
-    sample::SampleForm dialog(desk);
     whenModal([&] {
         QTest::mouseClick(window(form).windowHandle(), Qt::LeftButton, {},
                           desk.widgetOf(form.ContinueOk)->mapTo(&window(form), QPoint(20, 10)));
         EXPECT_EQ(QGuiApplication::modalWindow(), window(dialog).windowHandle());
-        desk.unload(dialog);
+        QTest::mouseClick(desk.widgetOf(dialog.ContinueOk), Qt::LeftButton);
     });
     desk.show(dialog, ShowMode::Modal);
+    EXPECT_EQ(dialog.happened, std::vector<std::string>{"unload"});
+    EXPECT_EQ(desk.plateOf(dialog), nullptr);
     EXPECT_EQ(times("Continue"), 0);
     EXPECT_EQ(QGuiApplication::modalWindow(), nullptr);
 }
@@ -71,19 +64,6 @@ TEST_F(Windows, AFormThatIsShownOnceMoreLeavesTheKeyboardWhereItIs) {
     desk.show(form, ShowMode::Modeless);
     letPass(50ms);
     EXPECT_TRUE(window(other).isActiveWindow());
-}
-
-TEST_F(Windows, AFormWithoutASoftEdgeHasAHardOne) {
-    form.shadow.setDepth(0);
-    sample::SampleForm plain(desk);
-    plain.shadow.setDepth(0);
-    desk.show(plain, ShowMode::Modeless);
-    const QImage picture = window(plain).grab().toImage();
-    EXPECT_EQ(picture.size(), desk.plateOf(plain)->size() + QSize(4, 4));
-    const QColor ground = desktop::colourOf(plain.backColour);
-    for (const QPoint at : {QPoint(0, 0), picture.rect().bottomRight(), QPoint(1, 200)}) {
-        EXPECT_GT(picture.pixelColor(at).lightness(), ground.lightness() + 40) << at.x();
-    }
 }
 
 TEST_F(Windows, AFailureOfAnEventComesOutWhereEventsAreLetRun) {
@@ -131,7 +111,7 @@ TEST_F(Windows, TheTitleBarAndAltF4CloseTheForm) {
     }
 }
 
-TEST_F(Windows, AFormComesUpInTheMiddleUnlessItPlacesItself) {
+TEST_F(Windows, AFormComesUpWhereItIsPlacedAndFollowsItsWindow) {
     const forms::Screen screen = desk.screen();
     EXPECT_NEAR(form.place.left + form.place.width / 2, screen.width / 2, 15);
     sample::SampleForm other(desk);
@@ -140,9 +120,6 @@ TEST_F(Windows, AFormComesUpInTheMiddleUnlessItPlacesItself) {
     other.place.top = 3000;
     desk.show(other, ShowMode::Modeless);
     EXPECT_EQ(desk.plateOf(other)->mapToGlobal(QPoint(0, 0)), QPoint(100, 200));
-}
-
-TEST_F(Windows, TheWindowFollowsTheFormsPlaceAndTheFormTheWindows) {
     form.place = {300, 450, 9000, 6000};
     desk.letEventsRun();
     EXPECT_EQ(desk.plateOf(form)->size(), QSize(600, 400));
@@ -154,27 +131,21 @@ TEST_F(Windows, TheWindowFollowsTheFormsPlaceAndTheFormTheWindows) {
 
 TEST_F(Windows, AModalFormIsAsTopmostAsTheFormBeneathIt) {
     sample::SampleForm dialog(desk);
+    const WId before = window(form).winId();
     const auto isOnTop = [&](const forms::Form& of) {
         return window(of).windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint);
     };
     whenModal([&] {
         EXPECT_FALSE(isOnTop(dialog));
-        form.topmost = true;
-        EXPECT_TRUE(isOnTop(form) && isOnTop(dialog));
-        form.topmost = false;
-        EXPECT_FALSE(isOnTop(form) || isOnTop(dialog));
+        for (const bool topmost : {true, false}) {
+            form.topmost = topmost;
+            EXPECT_EQ(isOnTop(form), topmost);
+            EXPECT_EQ(isOnTop(dialog), topmost);
+        }
         desk.unload(dialog);
     });
     desk.show(dialog, ShowMode::Modal);
-}
-
-TEST_F(Windows, TheTopmostMarkComesAndGoesWithoutANewWindow) {
-    const WId before = window(form).winId();
-    for (const bool topmost : {true, false}) {
-        form.topmost = topmost;
-        EXPECT_EQ(window(form).windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint), topmost);
-    }
-    EXPECT_EQ(window(form).winId(), before);
+    EXPECT_EQ(window(form).winId(), before) << "and no new window was made for it";
     EXPECT_TRUE(window(form).isVisible());
 }
 
@@ -209,45 +180,30 @@ TEST_F(Windows, AFormThatMayBeEnlargedIsByItsCornerAndItsTitleBar) {
     EXPECT_EQ(desk.plateOf(form)->size(), natural);
 }
 
-TEST_F(Windows, ATimerTicksWhileItIsEnabledAndItsFormLoaded) {
+TEST_F(Windows, ATimerTicksWhileItIsEnabledAndItsFormLoadedIfNotShown) {
+    sample::SampleForm hidden(desk);
+    desk.load(hidden);
     int ticks = 0;
-    form.Timer1.onTimer = [&] {
-        if (++ticks == 3) form.Timer1.enabled = false;
-    };
-    form.Timer1.enabled = true;
-    EXPECT_TRUE(waitUntil([&] { return ticks == 3; }));
-    letPass(60ms);
-    EXPECT_EQ(ticks, 3);
-    form.Timer1.enabled = true;
-    desk.letEventsRun();
-    desk.unload(form);
-    letPass(60ms);
-    EXPECT_EQ(ticks, 3);
-}
-
-TEST_F(Windows, ATimerThatLetsEventsRunIsNotInterruptedByItself) {
     int depth = 0;
-    int deepest = 0;
-    form.Timer1.onTimer = [&] {
-        deepest = std::max(deepest, ++depth);
+    forms::Timer& timer = hidden.Timer1;
+    timer.onTimer = [&] {
+        EXPECT_EQ(++depth, 1) << "it lets events run and is not interrupted by itself";
         QTest::qWait(30);
         desk.letEventsRun();
         --depth;
-        form.Timer1.enabled = false;
+        if (++ticks == 3) timer.enabled = false;
     };
-    form.Timer1.enabled = true;
-    EXPECT_TRUE(waitUntil([&] { return deepest > 0 && !form.Timer1.enabled; }));
-    EXPECT_EQ(deepest, 1);
-}
-
-TEST_F(Windows, ATimerOfAFormThatIsOnlyLoadedTicksToo) {
-    sample::SampleForm hidden(desk);
-    desk.load(hidden);
-    bool ticked = false;
-    hidden.Timer1.onTimer = [&] { ticked = true; };
-    hidden.Timer1.enabled = true;
-    EXPECT_TRUE(waitUntil([&] { return ticked; }));
+    timer.enabled = true;
+    EXPECT_TRUE(waitUntil([&] { return ticks == 3; }));
     EXPECT_EQ(desk.plateOf(hidden), nullptr);
+    letPass(60ms);
+    EXPECT_EQ(ticks, 3);
+    timer.enabled = true;
+    desk.letEventsRun();
+    desk.unload(hidden);
+    const int before = ticks;
+    letPass(60ms);
+    EXPECT_EQ(ticks, before);
 }
 
 TEST_F(Windows, WaitingForEventsUsesNoProcessorTime) {

@@ -14,7 +14,10 @@ std::string readPage(std::string_view url, const PageScript& script) {
     constexpr std::string_view scheme = "file://";
     if (!url.starts_with(scheme)) return {};
     url.remove_prefix(scheme.size());
-    if (script.readFile) return script.readFile(url);
+    if (script.files != nullptr) {
+        const auto found = script.files->find(url);
+        return found == script.files->end() ? std::string() : found->second;
+    }
     const std::ifstream file{std::string(url)};
     std::ostringstream text;
     text << file.rdbuf();

@@ -19,8 +19,8 @@ struct PageScript {
     std::map<std::string, int, std::less<>> contentHeights;
     std::string checkedValues;
     bool completes = true;
-    /// The text of a file; the disk's where it is not set.
-    std::function<std::string(std::string_view path)> readFile;
+    /// The texts of files by their paths; the disk's where it is not set.
+    const std::map<std::string, std::string, std::less<>>* files = nullptr;
 };
 
 /// A browser that loads a page by reading its file, when events are let run. It draws nothing;

@@ -46,13 +46,6 @@ void press(const forms::Form& form, std::string_view button) {
     if (const auto* found = reachable<forms::CommandButton>(form, button)) found->press();
 }
 
-void flip(const forms::Form& form, std::string_view checkBox) {
-    auto* found = reachable<forms::CheckBox>(form, checkBox);
-    if (found == nullptr) return;
-    using State = forms::CheckBox::State;
-    found->setValue(found->isChecked() ? State::Unchecked : State::Checked);
-}
-
 void choose(const forms::Form& form, std::string_view option, int index) {
     if (auto* found = reachable<forms::OptionButton>(form, option, index)) found->setValue(true);
 }

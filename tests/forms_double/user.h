@@ -19,7 +19,6 @@ template <class ControlType>
 }
 
 void press(const forms::Form& form, std::string_view button);
-void flip(const forms::Form& form, std::string_view checkBox);
 void choose(const forms::Form& form, std::string_view option, int index = 0);
 /// The cross of the title bar.
 void close(forms::Form& form);

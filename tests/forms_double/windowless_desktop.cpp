@@ -13,7 +13,7 @@ namespace forms_double {
 using std::chrono::milliseconds;
 
 void WindowlessDesktop::answer(std::string formName, Answer answer) {
-    answers_.push_back({std::move(formName), std::move(answer)});
+    answers_.emplace_back(std::move(formName), std::move(answer));
 }
 
 void WindowlessDesktop::advance(milliseconds duration) {
@@ -28,8 +28,8 @@ void WindowlessDesktop::advance(milliseconds duration) {
 
 ScriptedBrowser* WindowlessDesktop::browser(const forms::Form& form) const {
     const auto found = windows_.find(&form);
-    if (found == windows_.end() || found->second.browsers.empty()) return nullptr;
-    return found->second.browsers.front().get();
+    if (found == windows_.end() || found->second.empty()) return nullptr;
+    return found->second.front().get();
 }
 
 void WindowlessDesktop::letEventsRun() {
@@ -40,11 +40,7 @@ void WindowlessDesktop::letEventsRun() {
 }
 
 void WindowlessDesktop::waitForEvents() {
-    finishPages();
-    if (posted.empty()) throw std::logic_error("the program waits for an event that never comes");
-    const auto event = std::move(posted.front());
-    posted.pop_front();
-    event();
+    throw std::logic_error("the program waits for an event that never comes");
 }
 
 void WindowlessDesktop::messageBox(std::string_view text, std::string_view title) {
@@ -60,7 +56,7 @@ void WindowlessDesktop::openWindow(forms::Form& form, forms::ShowMode mode) {
     for (forms::Control* control : form.controls()) {
         auto* browser = dynamic_cast<forms::WebBrowser*>(control);
         if (browser == nullptr) continue;
-        auto& views = place->second.browsers;
+        auto& views = place->second;
         views.push_back(std::make_unique<ScriptedBrowser>(*browser, page));
         browser->view = views.back().get();
         // What was asked for before there was a window.
@@ -75,10 +71,10 @@ void WindowlessDesktop::runModal(forms::Form& form) {
             unload(form);
             return;
         }
-        const PlannedAnswer next = std::move(answers_.front());
+        const auto [name, next] = std::move(answers_.front());
         answers_.pop_front();
-        EXPECT_EQ(next.formName, form.name()) << "another modal form was to be shown";
-        next.answer(form);
+        EXPECT_EQ(name, form.name()) << "another modal form was to be shown";
+        next(form);
     }
 }
 

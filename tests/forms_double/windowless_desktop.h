@@ -26,7 +26,6 @@ public:
     struct Message {
         std::string text;
         std::string title;
-        bool operator==(const Message&) const = default;
     };
     using Answer = std::function<void(forms::Form&)>;
 
@@ -42,8 +41,6 @@ public:
     bool opensWindows = true;
     /// Run at each letting of events.
     std::function<void()> onEvents;
-    /// What a waiting loop gets, one event a wait.
-    std::deque<std::function<void()>> posted;
 
     /// The next modal form must have this name; the answer has to get it unloaded. A modal form
     /// without an answer fails the test and is unloaded.
@@ -68,20 +65,13 @@ protected:
     void closeWindow(forms::Form& form) override;
 
 private:
-    struct PlannedAnswer {
-        std::string formName;
-        Answer answer;
-    };
-    struct Window {
-        std::vector<std::unique_ptr<ScriptedBrowser>> browsers;
-    };
-
     void finishPages();
     void tickTimers();
     void tick(forms::Timer& timer);
 
-    std::deque<PlannedAnswer> answers_;
-    std::map<const forms::Form*, Window> windows_;
+    std::deque<std::pair<std::string, Answer>> answers_;
+    /// The browsers of each form that has a window.
+    std::map<const forms::Form*, std::vector<std::unique_ptr<ScriptedBrowser>>> windows_;
     std::map<const forms::Timer*, std::chrono::milliseconds> due_;
     std::chrono::milliseconds now_{0};
 };

@@ -6,26 +6,20 @@
 
 #include "forms/controls.h"
 #include "forms/form.h"
-#include "forms/list_view.h"
 #include "forms/web_browser.h"
 #include "forms_double/windowless_desktop.h"
 #include "furniture/palette.h"
 #include "furniture/theme.h"
-#include "furniture/title_bar.h"
 
 namespace {
 
 using forms::Colour;
 namespace palette = furniture::palette;
 
-struct Sheet : forms::Form {
-    explicit Sheet(forms::Desktop& desktop) : Form(desktop, "Sheet", 6000, 6000) {}
-};
-
 class Theme : public testing::Test {
 protected:
     forms_double::WindowlessDesktop desktop;
-    Sheet sheet{desktop};
+    forms::Form sheet{desktop, "Sheet", 6000, 6000};
 };
 
 TEST_F(Theme, StylesButtonsByTheirNames) {
@@ -52,7 +46,7 @@ TEST_F(Theme, StylesButtonsByTheirNames) {
         {"CreateBlankPPT", " New ", "New", neutral, 9.75},
     };
     for (const Case& it : cases) {
-        Sheet form(desktop);
+        forms::Form form(desktop, "Sheet", 6000, 6000);
         forms::Frame frame(form, "Frame1", {});
         forms::CommandButton button(form, it.name, {}, &frame);
         button.caption = it.caption;
@@ -77,7 +71,6 @@ TEST_F(Theme, PaintsWhatHasAGroundAndLeavesTheRest) {
     forms::Frame panel(sheet, "SlideNb", {});
     forms::Label inPanel(sheet, "Label20", {}, &panel);
     forms::CheckBox other(sheet, "Check9", {}, &panel);
-    furniture::TitleBar bar(sheet, "TitelBar1", {});
     furniture::ApplyTheme(sheet);
 
     struct Case {
@@ -94,21 +87,6 @@ TEST_F(Theme, PaintsWhatHasAGroundAndLeavesTheRest) {
         EXPECT_EQ(it.control.backColour, it.ground) << it.control.name();
         EXPECT_EQ(it.control.foreColour, it.ink) << it.control.name();
     }
-    EXPECT_TRUE(bar.ShowClose && !bar.ShowMinimized && !bar.ShowMaximized);
-    EXPECT_EQ(bar.BackColorV1End, (Colour{17, 28, 46}));
-}
-
-TEST_F(Theme, TheMainListIsLightWithDarkLettersAndTheProgramsWords) {
-    forms::ListView list(sheet, "listCharts", {});
-    list.columns.resize(8);
-    list.columns[0].text = "Name/Type";
-    furniture::ApplyTheme(sheet);
-    EXPECT_EQ(list.backColour, palette::ThemeNeutralButton);
-    EXPECT_LT(list.foreColour->green, 100);
-    std::vector<std::string> captions;
-    for (const auto& column : list.columns) captions.push_back(column.text);
-    EXPECT_EQ(captions,
-              (std::vector<std::string>{"Name/Type", "Sheet", "Slide", "Order", "", "", "", ""}));
 }
 
 TEST_F(Theme, PaintsThePageOfABrowserOnceItIsComplete) {

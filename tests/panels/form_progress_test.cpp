@@ -70,17 +70,13 @@ TEST_F(FormProgress, KeepsTheLoadingBarWithinItsEndsAndBeginsAnew) {
     EXPECT_EQ(forms_double::control(form("MurvaneLoad"), "prbHorizontalOnLoad").caption, "0%");
     progress.showLoading();
     progress.setLoadingValue(70);
-    progress.unloadLoading();
-    EXPECT_EQ(progress.loadingValue(), 0);
-    EXPECT_EQ(desktop.findLoaded("MurvaneLoad"), nullptr);
-}
-
-TEST_F(FormProgress, ClearsTheLoadingBarWithoutAText) {
-    progress.showLoading();
-    progress.setLoadingValue(70);
     progress.clearLoading();
     EXPECT_EQ(progress.loadingValue(), 0);
     EXPECT_EQ(forms_double::control(form("MurvaneLoad"), "prbHorizontalOnLoad").caption, "");
+    progress.setLoadingValue(70);
+    progress.unloadLoading();
+    EXPECT_EQ(progress.loadingValue(), 0);
+    EXPECT_EQ(desktop.findLoaded("MurvaneLoad"), nullptr);
 }
 
 }  // namespace

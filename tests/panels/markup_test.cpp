@@ -8,7 +8,6 @@
 namespace {
 
 using panels::HtmlEscape;
-using panels::NormalizeNoticeKind;
 using panels::TextToParagraphs;
 
 TEST(Markup, EscapesTheFiveCharactersOnceEach) {
@@ -31,19 +30,6 @@ TEST(Markup, MakesAParagraphOfEveryLineThatIsNotBlank) {
         {" \r ", "<p> \r </p>"},
     };
     for (const Case& it : cases) EXPECT_EQ(TextToParagraphs(it.text), it.paragraphs) << it.text;
-}
-
-TEST(Markup, KnowsTheKindsOfNoticesAndTheirAliases) {
-    struct Case {
-        std::string given;
-        std::string kind;
-    };
-    const std::vector<Case> cases = {
-        {"warning", "warning"}, {" Warn ", "warning"},  {"ERROR", "error"},
-        {"critical", "error"},  {"success", "success"}, {"Done", "success"},
-        {"info", "info"},       {"", "info"},           {"fatal", "info"},
-    };
-    for (const Case& it : cases) EXPECT_EQ(NormalizeNoticeKind(it.given), it.kind) << it.given;
 }
 
 }  // namespace

@@ -40,7 +40,8 @@ TEST(NoticePage, HasTheBadgeOfItsKindUnlessOneIsGiven) {
     };
     const std::vector<Case> cases = {
         {"info", "", "Murvane notice"},
-        {"warn", "", "Please review and continue"},
+        {" Warn ", "", "Please review and continue"},
+        {"fatal", "", "Murvane notice"},
         {"critical", "", "Action could not be completed"},
         {"success", "", "Completed successfully"},
         {"error", "Check <1>", "Check &lt;1&gt;"},
@@ -57,18 +58,14 @@ TEST(BlockedNotice, ListsWhatToFixAndWhatToReview) {
     panels::ShowExportBlockedNotice(notices, "<li>Fix &quot;A&quot;</li><li>Fix B</li>",
                                     "<li>Look at &lt;C&gt;</li>");
     ASSERT_EQ(notices.shown.size(), 1U);
-    const session::Notice& notice = notices.shown.front();
+    const session::Notice notice = notices.shown.front();
     EXPECT_EQ(notice.title, "Export blocked");
     EXPECT_EQ(notice.buttons, session::buttons::okOnly);
     EXPECT_EQ(notice.message, "Fix \"A\"\r\nFix B\r\n\r\nLook at <C>");
     expectNotice(notice.page, "export_blocked.html");
-}
-
-TEST(BlockedNotice, SaysNothingOfReviewsWhenThereAreNone) {
-    RecordingNotices notices;
     panels::ShowExportBlockedNotice(notices, "<li>Fix A</li>", "");
-    EXPECT_EQ(notices.shown.front().page.find("Also review:"), std::string::npos);
-    EXPECT_EQ(notices.shown.front().message, "Fix A");
+    EXPECT_EQ(notices.shown.back().page.find("Also review:"), std::string::npos);
+    EXPECT_EQ(notices.shown.back().message, "Fix A");
 }
 
 }  // namespace

@@ -52,15 +52,12 @@ TEST(PanelPage, FallsBackOnParagraphsAndDrawsNoEmptyBlocks) {
     expectPanel(panel, "nothing_selected.html");
 }
 
-TEST(PanelBlocks, HaveNoLinkWhileTheyAreDisabled) {
+TEST(PanelBlocks, HaveNoLinkWhileDisabledAndVanishWhileEmpty) {
     EXPECT_EQ(panels::OptionRowHtml("k", "It's", true, false).find("href"), std::string::npos);
     EXPECT_EQ(panels::ChoiceChipHtml("g", "k", "PNG", true, false).find("href"), std::string::npos);
     EXPECT_NE(panels::FieldRowHtml("width", "Width", "80", "%", false)
                   .find(" value=\"80\" disabled=\"disabled\" />"),
               std::string::npos);
-}
-
-TEST(PanelBlocks, VanishWhenTheyHoldNothing) {
     EXPECT_EQ(panels::ToolBarHtml("  "), "");
     EXPECT_EQ(panels::OptionsBlockHtml("Options", " "), "");
     EXPECT_EQ(panels::ChoiceGroupHtml("Format", ""), "");

@@ -50,70 +50,52 @@ TEST_F(BatchFailuresTest, AFailureAfterTheExportLeavesItsFile) {
 }
 
 TEST_F(BatchFailuresTest, AFileThatCannotBeDeletedIsNoFailure) {
-    class StubbornHost : public stage::DiskHost {
-        void deleteFile(std::string_view) override {
-            throw office::Failure(office::FailureNumber::PermissionDenied, "Host", "No");
-        }
-    };
-    StubbornHost stubborn;
-    session::OfficeSession other{suite, stubborn, notices, progress};
-    other.ExcelApp = session.ExcelApp;
-    other.ActiveBook = session.ActiveBook;
-    other.PowerPointApp = session.PowerPointApp;
-    other.SessionPresentation = session.SessionPresentation;
-    powerpoint::Batch batch{other, list, choices, {}};
-    EXPECT_NO_THROW(powerpoint::ExportRowsAsPictures(batch));
-    EXPECT_EQ(stubborn.filesLeft().size(), 3U);
-}
-
-/// In the head and in the loop, each of these ends the batch.
-class UnhandledFailureTest : public BatchFailuresTest,
-                             public testing::WithParamInterface<const char*> {};
-
-TEST_P(UnhandledFailureTest, ReachesTheCaller) {
-    options.titles = true;
-    suite.failures().fail(GetParam());
-    EXPECT_THROW(exportRows(), office::Failure) << GetParam();
-}
-
-INSTANTIATE_TEST_SUITE_P(Members, UnhandledFailureTest,
-                         testing::Values("Presentation.Slides", "Slides.Add",
-                                         "Application.WindowState", "Application.ScreenUpdating",
-                                         "View.GotoSlide", "Shapes.AddPicture", "Shape.Left",
-                                         "TextRange.Text", "Selection.Unselect"));
-
-/// What puts things back ignores failures, one by one.
-class TailFailureTest : public BatchFailuresTest,
-                        public testing::WithParamInterface<const char*> {};
-
-TEST_P(TailFailureTest, DoesNotKeepTheRestFromBeingPutBack) {
-    session.PowerPointApp.get("ActiveWindow").put("ViewType", 7);
-    suite.failures().fail(GetParam(), GetParam() == std::string("Application.WindowState") ? 2 : 1);
+    host.deletesFiles = false;
     EXPECT_NO_THROW(exportRows());
-    EXPECT_EQ(session.PowerPointApp.get("ActiveWindow").get("ViewType").toLong(), 7);
+    EXPECT_EQ(host.filesLeft().size(), 3U);
 }
 
-INSTANTIATE_TEST_SUITE_P(Members, TailFailureTest,
-                         testing::Values("Application.WindowState", "Application.Rows",
-                                         "Range.EntireRow"));
+/// A stage of its own for each of several failures.
+struct Fresh : BatchFailuresTest {
+    using BatchFailuresTest::exportRows;
+    using BatchFailuresTest::options;
+    using BatchFailuresTest::session;
+    using BatchFailuresTest::suite;
+    void TestBody() override {}
+};
 
-TEST_F(BatchFailuresTest, ALostSuitePassesThroughWhereverItHappens) {
-    exportRows();
-    const int calls = static_cast<int>(suite.log().count());
+TEST(BatchFailures, OfTheHeadAndTheLoopReachTheCaller) {
+    for (const char* member : {"Presentation.Slides", "Slides.Add", "Application.WindowState",
+                               "Application.ScreenUpdating", "View.GotoSlide", "Shapes.AddPicture",
+                               "Shape.Left", "TextRange.Text", "Selection.Unselect"}) {
+        Fresh fresh;
+        fresh.options.titles = true;
+        fresh.suite.failures().fail(member);
+        EXPECT_THROW(fresh.exportRows(), office::Failure) << member;
+    }
+}
+
+TEST(BatchFailures, DoNotKeepTheRestFromBeingPutBack) {
+    for (const std::string member :
+         {"Application.WindowState", "Application.Rows", "Range.EntireRow"}) {
+        Fresh fresh;
+        const auto window = fresh.session.PowerPointApp.get("ActiveWindow").toObject();
+        window.put("ViewType", 7);
+        fresh.suite.failures().fail(member, member == "Application.WindowState" ? 2 : 1);
+        EXPECT_NO_THROW(fresh.exportRows()) << member;
+        EXPECT_EQ(window.get("ViewType").toLong(), 7) << member;
+    }
+}
+
+TEST(BatchFailures, ALostSuitePassesThroughWhereverItHappens) {
+    Fresh whole;
+    whole.exportRows();
+    const int calls = static_cast<int>(whole.suite.log().count());
     ASSERT_GT(calls, 50);
     for (int at = 1; at <= calls; at += 7) {
-        office_double::DoubleSuite fresh;
-        auto& workbook = fresh.excel().addWorkbook("Book1.xlsx");
-        workbook.sheet("Sales").chart("Chart 1").chart("Chart 2").chart("Chart 3");
-        auto& presentation = fresh.powerPoint().addPresentation("Deck.pptx").addSlides(1);
-        session::OfficeSession lost{fresh, host, notices, progress};
-        lost.ExcelApp = fresh.attach("Excel.Application");
-        lost.ActiveBook = workbook.handle();
-        lost.PowerPointApp = fresh.attach("PowerPoint.Application");
-        lost.SessionPresentation = presentation.handle();
-        powerpoint::Batch batch{lost, list, choices, {}};
-        fresh.failures().loseSuiteAt(at);
-        EXPECT_THROW(powerpoint::ExportRowsAsPictures(batch), office::SuiteLost) << at;
+        Fresh fresh;
+        fresh.suite.failures().loseSuiteAt(at);
+        EXPECT_THROW(fresh.exportRows(), office::SuiteLost) << at;
     }
 }
 

@@ -21,17 +21,13 @@ protected:
         deck.addSlides(2);
     }
 
-    void hide(const char* sheet) {
-        book.handle().get("Sheets").get("Item", sheet).put("Visible", 0);
-    }
-
     [[nodiscard]] std::string titleOf(std::size_t slide) const {
         return deck.slide(slide).title()->text();
     }
 };
 
 TEST_F(BatchTest, NewSlidesFollowTheOldOnesInTheOrderOfTheRows) {
-    add(rangeRow("Total", "Sales", "", "The total"));
+    add(rangeRow("Total", "Sales", "The total"));
     add(chartSheetRow("Overview"));
     add(chartRow("Chart 2", "Sales"));
     exportRows();
@@ -43,22 +39,16 @@ TEST_F(BatchTest, NewSlidesFollowTheOldOnesInTheOrderOfTheRows) {
     EXPECT_EQ(suite.log().texts("Slides.Add"),
               (Texts{"Slides.Add(3, 11)", "Slides.Add(3, 11)", "Slides.Add(3, 11)"}));
     EXPECT_EQ(list.selected, 2);
+    EXPECT_EQ(progress.calls, (Texts{"item 1 of 3", "item 2 of 3", "item 3 of 3", "unload"}));
 }
 
-TEST_F(BatchTest, UncheckedRowsTakeNoSlide) {
-    add(chartRow("Chart 1", "Sales"));
-    add(chartRow("Chart 2", "Sales"));
-    list.rows[0].checked = false;
-    exportRows();
-    EXPECT_EQ(deck.slides().size(), 3U);
-    EXPECT_EQ(picturesOn(3), Texts{"Chart 2"});
-}
-
-TEST_F(BatchTest, RowsOnSheetsThatAreHiddenOrGoneTakeNoSlide) {
-    hide("Hidden");
+TEST_F(BatchTest, RowsThatAreUncheckedOrOnSheetsHiddenOrGoneTakeNoSlide) {
+    book.handle().get("Sheets").get("Item", "Hidden").put("Visible", 0);
     add(chartRow("Chart 4", "Hidden"));
     add(chartRow("Chart 1", "Deleted sheet"));
     add(chartRow("", ""));
+    add(chartRow("Chart 2", "Sales"));
+    list.rows.back().checked = false;
     add(chartRow("Chart 1", "Sales"));
     exportRows();
     ASSERT_EQ(deck.slides().size(), 3U);
@@ -68,6 +58,7 @@ TEST_F(BatchTest, RowsOnSheetsThatAreHiddenOrGoneTakeNoSlide) {
 
 TEST_F(BatchTest, PredefinedSlidesTakeWhatNamesThemAndRowsWithoutANumberAreSkipped) {
     choices.predefinedSlides = true;
+    options.pictureStyle = powerpoint::style::shadow;
     add(chartRow("Chart 1", "Sales", "2"));
     for (const char* slide : {"0", "", "abc", "-1", "0.4"})
         add(chartRow("Chart 2", "Sales", slide));
@@ -77,39 +68,19 @@ TEST_F(BatchTest, PredefinedSlidesTakeWhatNamesThemAndRowsWithoutANumberAreSkipp
     EXPECT_EQ(deck.slides().size(), 2U);
     EXPECT_EQ(picturesOn(2), (Texts{"Chart 1", "Chart 3"}));
     EXPECT_EQ(picturesOn(1), Texts{"Chart 2"});
+    for (const std::size_t slide : {1U, 2U}) {
+        EXPECT_TRUE(deck.slide(slide).shapes().back()->hasShadow()) << "each slide is shown first";
+    }
     EXPECT_EQ(done, 3);
     EXPECT_TRUE(notices.shown.empty());
 }
 
-TEST_F(BatchTest, PredefinedSlidesAreShownSoThatTheStyleMeetsTheirPictures) {
-    choices.predefinedSlides = true;
-    options.pictureStyle = powerpoint::style::shadow;
-    add(chartRow("Chart 1", "Sales", "2"));
-    exportRows();
-    EXPECT_TRUE(deck.slide(2).shapes().back()->hasShadow());
-    EXPECT_FALSE(deck.slide(1).shapes().back()->hasShadow());
-}
-
-TEST_F(BatchTest, ASlideNumberBeyondTheEndFailsForTheCaller) {
-    choices.predefinedSlides = true;
-    add(chartRow("Chart 1", "Sales", "3"));
-    EXPECT_THROW(exportRows(), office::Failure);
-}
-
-TEST_F(BatchTest, TitlesAreTheCaptions) {
-    options.titles = true;
-    add(chartRow("Chart 1", "Sales", "", "North"));
-    add(chartRow("Chart 2", "Sales"));
-    exportRows();
-    EXPECT_EQ(titleOf(3), "North");
-    EXPECT_EQ(titleOf(4), "");
-}
-
-TEST_F(BatchTest, ATitleForASlideWithoutOneFailsForTheCaller) {
+TEST_F(BatchTest, ASlideBeyondTheEndOrWithoutATitleToFillFailsForTheCaller) {
     choices.predefinedSlides = true;
     options.titles = true;
-    deck.addSlide(Layout::Blank);
     add(chartRow("Chart 1", "Sales", "3", "North"));
+    EXPECT_THROW(exportRows(), office::Failure);
+    deck.addSlide(Layout::Blank);
     EXPECT_THROW(exportRows(), office::Failure);
 }
 
@@ -119,7 +90,7 @@ TEST_F(BatchTest, AMissingRangeGetsItsNoticeAndItsTitleAndMovesNothingElse) {
     options.pictureStyle = powerpoint::style::shadow;
     options.shadow = true;
     storePlacement(0.5, 0.25, 0.1);
-    add(rangeRow("Nowhere", "Sales", "", "Lost"));
+    add(rangeRow("Nowhere", "Sales", "Lost"));
     add(chartRow("Chart 1", "Sales"));
     exportRows();
     EXPECT_EQ(notices.messages(), Texts{"? Named range 'Nowhere' not found or invalid."});
@@ -180,8 +151,9 @@ TEST_F(BatchTest, TheUsersPlacementIsUsedOnlyWhenItWasConfirmed) {
     EXPECT_DOUBLE_EQ(deck.slide(4).shapes().back()->box().top, 270);
 }
 
-TEST_F(BatchTest, ARunningShowEndsAndTheViewIsPutBack) {
+TEST_F(BatchTest, ARunningShowEndsAndTheViewAndHiddenRowsArePutBack) {
     deck.runSlideShow();
+    book.sheet("Sales").hideRows(3, 5);
     session.PowerPointApp.get("ActiveWindow").put("ViewType", 7);
     add(chartRow("Chart 1", "Sales"));
     exportRows();
@@ -189,28 +161,8 @@ TEST_F(BatchTest, ARunningShowEndsAndTheViewIsPutBack) {
     EXPECT_EQ(session.PowerPointApp.get("ActiveWindow").get("ViewType").toLong(), 7);
     EXPECT_EQ(session.ExcelApp.get("WindowState").toLong(), -4137);
     EXPECT_TRUE(excelDraws());
-}
-
-TEST_F(BatchTest, PowerPointsWindowComesToTheFrontByItsCaption) {
-    add(chartRow("Chart 1", "Sales"));
-    exportRows();
-    EXPECT_NE(suite.raisedWindow(), 0U);
-    EXPECT_EQ(suite.raisedWindow(), suite.findWindow("", "Deck.pptx - PowerPoint"));
-}
-
-TEST_F(BatchTest, HiddenRowsOfTheActiveSheetAreShownAgainAtTheEnd) {
-    book.sheet("Sales").hideRows(3, 5);
-    add(chartRow("Chart 1", "Sales"));
-    exportRows();
     const auto rows = book.handle().get("Sheets").get("Item", "Sales").get("Rows", "3:5");
-    EXPECT_FALSE(rows.get("EntireRow").get("Hidden").toBool());
-}
-
-TEST_F(BatchTest, EachItemMovesTheProgress) {
-    add(chartRow("Chart 1", "Sales"));
-    add(chartRow("Chart 2", "Sales"));
-    exportRows();
-    EXPECT_EQ(progress.calls, (Texts{"item 1 of 2", "item 2 of 2", "unload"}));
+    EXPECT_FALSE(rows.get("EntireRow").get("Hidden").toBool()) << "of the active sheet";
 }
 
 TEST_F(BatchTest, ACancelledBatchEndsAfterTheItemAtHandAndLeavesNoEmptySlides) {

@@ -18,34 +18,26 @@ namespace stage {
 
 using catalogue::ItemKind;
 
-inline catalogue::ExportItem row(std::string name, std::string sheet, ItemKind kind,
-                                 std::string slide = "", std::string caption = "") {
+inline catalogue::ExportItem chartRow(std::string_view name, std::string_view sheet,
+                                      std::string_view slide = "", std::string_view caption = "",
+                                      ItemKind kind = ItemKind::Chart) {
     catalogue::ExportItem made;
-    made.name = std::move(name);
+    made.name = name;
     made.checked = true;
-    made.sheet = std::move(sheet);
-    made.slideNumber = std::move(slide);
-    made.caption = std::move(caption);
+    made.sheet = sheet;
+    made.slideNumber = slide;
+    made.caption = caption;
     made.kind = kind;
     return made;
 }
 
-inline catalogue::ExportItem chartRow(std::string name, std::string sheet, std::string slide = "",
-                                      std::string caption = "") {
-    return row(std::move(name), std::move(sheet), ItemKind::Chart, std::move(slide),
-               std::move(caption));
+inline catalogue::ExportItem rangeRow(std::string_view name, std::string_view sheet,
+                                      std::string_view caption = "") {
+    return chartRow(name, sheet, "", caption, ItemKind::Range);
 }
 
-inline catalogue::ExportItem rangeRow(std::string name, std::string sheet, std::string slide = "",
-                                      std::string caption = "") {
-    return row(std::move(name), std::move(sheet), ItemKind::Range, std::move(slide),
-               std::move(caption));
-}
-
-inline catalogue::ExportItem chartSheetRow(std::string sheet, std::string slide = "",
-                                           std::string caption = "") {
-    return row(std::string(session::chartSheetText), std::move(sheet), ItemKind::ChartSheet,
-               std::move(slide), std::move(caption));
+inline catalogue::ExportItem chartSheetRow(std::string_view sheet) {
+    return chartRow(session::chartSheetText, sheet, "", "", ItemKind::ChartSheet);
 }
 
 /// A host whose temporary files are real, since the applications write them.
@@ -54,10 +46,12 @@ public:
     DiskHost() { temporaryFolder = folder_.path().string(); }
 
     void deleteFile(std::string_view path) override {
-        if (!std::filesystem::remove(path)) {
+        if (!deletesFiles || !std::filesystem::remove(path)) {
             throw office::Failure(office::FailureNumber::FileNotFound, "Host", "File not found");
         }
     }
+
+    bool deletesFiles = true;
 
     /// Names of the files left in the temporary folder.
     [[nodiscard]] std::set<std::string> filesLeft() const { return folder_.names(); }

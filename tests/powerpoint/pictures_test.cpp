@@ -22,6 +22,10 @@ protected:
     bool insert(const catalogue::ExportItem& row, std::int16_t slide) {
         return powerpoint::InsertPicture(session, row, slide);
     }
+    [[nodiscard]] std::int32_t chartsLeft() const {
+        const auto sales = book.handle().get("Sheets").get("Item", "Sales");
+        return sales.get("ChartObjects").get("Count").toLong();
+    }
     const Shape& lastShape(std::size_t slide) { return *deck.slide(slide).shapes().back(); }
 };
 
@@ -32,6 +36,9 @@ TEST_F(PicturesTest, AChartArrivesAtItsNaturalSizeInTheMiddleOfTheSlide) {
     EXPECT_DOUBLE_EQ(lastShape(2).box().left, 360);
     EXPECT_DOUBLE_EQ(lastShape(2).box().top, 195);
     EXPECT_EQ(host.filesLeft(), Names{});
+    const std::string call = suite.log().texts("AddPicture").at(0);
+    EXPECT_NE(call.find("EmbeddedChart_Chart 1.png\", 0, -1, 0, 0, -1, -1)"), std::string::npos)
+        << "neither linked nor left out of the file: " << call;
 }
 
 TEST_F(PicturesTest, ChartSheetsShareOneFileThatStays) {
@@ -47,9 +54,7 @@ TEST_F(PicturesTest, ARangeGoesThroughAChartThatIsGoneAfterwards) {
     EXPECT_EQ(lastShape(1).kind(), Shape::Kind::Picture);
     EXPECT_DOUBLE_EQ(lastShape(1).box().width, 3 * office_double::Worksheet::columnWidth);
     EXPECT_DOUBLE_EQ(lastShape(1).box().height, 4 * office_double::Worksheet::rowHeight);
-    EXPECT_EQ(
-        book.handle().get("Sheets").get("Item", "Sales").get("ChartObjects").get("Count").toLong(),
-        1);
+    EXPECT_EQ(chartsLeft(), 1);
     EXPECT_EQ(host.filesLeft(), Names{});
 }
 
@@ -61,20 +66,6 @@ TEST_F(PicturesTest, ANameThatLeadsToNoRangeGetsANoticeAndNoPicture) {
               (std::vector<std::string>{"? Named range 'Rate' not found or invalid.",
                                         "? Named range 'Nowhere' not found or invalid."}));
     EXPECT_EQ(deck.slide(1).shapes().size(), 1U);
-}
-
-TEST_F(PicturesTest, ThePictureIsNeitherLinkedNorLeftOutOfTheFile) {
-    insert(chartRow("Chart 1", "Sales"), 1);
-    const std::string call = suite.log().texts("AddPicture").at(0);
-    EXPECT_NE(call.find("EmbeddedChart_Chart 1.png\", 0, -1, 0, 0, -1, -1)"), std::string::npos)
-        << call;
-}
-
-TEST_F(PicturesTest, TheAlternativeTextIsTheCaptionOrElseTheName) {
-    insert(chartRow("Chart 1", "Sales", "", "Sales by region"), 1);
-    EXPECT_EQ(lastShape(1).alternativeText(), "Sales by region");
-    insert(chartRow("Chart 1", "Sales"), 1);
-    EXPECT_EQ(lastShape(1).alternativeText(), "Chart 1");
 }
 
 TEST_F(PicturesTest, APictureThatTakesNoAlternativeTextIsAPictureAllTheSame) {
@@ -108,12 +99,12 @@ TEST_F(PicturesTest, NamesThatNoFileCanHaveExportAndStayInTheFolder) {
     EXPECT_EQ(host.filesLeft(), Names{});
 }
 
-TEST_F(PicturesTest, ARangeThatFailsLeavesNoChartBehind) {
+TEST_F(PicturesTest, WhatIsMissingFailsForTheCallerAndARangeLeavesNoChartBehind) {
+    EXPECT_THROW(insert(chartRow("Chart 9", "Sales"), 1), office::Failure);
+    EXPECT_THROW(insert(stage::chartSheetRow("Nowhere"), 1), office::Failure);
     suite.failures().fail("Chart.Export");
     EXPECT_THROW(insert(rangeRow("Total", "Sales"), 1), office::Failure);
-    EXPECT_EQ(
-        book.handle().get("Sheets").get("Item", "Sales").get("ChartObjects").get("Count").toLong(),
-        1);
+    EXPECT_EQ(chartsLeft(), 1);
 }
 
 TEST_F(PicturesTest, OneItemGoesToTheSlideInViewOfTheActivePresentation) {
@@ -138,11 +129,6 @@ TEST_F(PicturesTest, OneItemThatIsNotThereHasBeenExplained) {
     ASSERT_EQ(notices.shown.size(), 4U);
     EXPECT_EQ(notices.messages().back(),
               "No PowerPoint presentation is open. Open or create a presentation, then try again.");
-}
-
-TEST_F(PicturesTest, AMissingChartFailsForTheCaller) {
-    EXPECT_THROW(insert(chartRow("Chart 9", "Sales"), 1), office::Failure);
-    EXPECT_THROW(insert(stage::chartSheetRow("Nowhere"), 1), office::Failure);
 }
 
 }  // namespace
