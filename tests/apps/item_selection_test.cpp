@@ -14,23 +14,23 @@ struct Reference {
     Indices rows;
 };
 
-class ReferenceTest : public testing::TestWithParam<Reference> {};
-
-TEST_P(ReferenceTest, MeansItsRows) {
-    EXPECT_EQ(unattended::findItems(sampleList(), GetParam().texts), GetParam().rows);
+TEST(ItemSelection, AReferenceMeansItsRows) {
+    const Reference references[] = {
+        {{"Chart 1@North"}, {0}},
+        {{"Chart 1@South,Chart 1@North"}, {1, 0}},
+        {{"Chart 1@South", "Chart 1@South"}, {1}},
+        // A comma in a name: as the whole text, and among others in quotes.
+        {{"Sales, total"}, {2}},
+        {{"Overview, \"Sales, total\"@North"}, {4, 2}},
+        {{"sales, TOTAL"}, {2}},
+        {{"Overview"}, {4}},
+        {{"{Chart Sheet}"}, {4}},
+        {{"{Chart Sheet}@Overview"}, {4}},
+        {{",, Overview ,"}, {4}}};
+    for (const auto& [texts, rows] : references) {
+        EXPECT_EQ(unattended::findItems(sampleList(), texts), rows) << texts.front();
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, ReferenceTest,
-    testing::Values(Reference{{"Chart 1@North"}, {0}},
-                    Reference{{"Chart 1@South,Chart 1@North"}, {1, 0}},
-                    Reference{{"Chart 1@South", "Chart 1@South"}, {1}},
-                    // A comma in a name: as the whole text, and among others in quotes.
-                    Reference{{"Sales, total"}, {2}},
-                    Reference{{"Overview, \"Sales, total\"@North"}, {4, 2}},
-                    Reference{{"sales, TOTAL"}, {2}}, Reference{{"Overview"}, {4}},
-                    Reference{{"{Chart Sheet}"}, {4}}, Reference{{"{Chart Sheet}@Overview"}, {4}},
-                    Reference{{",, Overview ,"}, {4}}));
 
 TEST(ItemSelection, ANameMayHoldTheSignThatSetsTheSheetOff) {
     catalogue::ExportList list;
@@ -48,27 +48,23 @@ TEST(ItemSelection, TheExactNameGoesBeforeOneOfOtherCase) {
     EXPECT_THROW(unattended::findItems(list, {"total"}), unattended::UsageError);
 }
 
-struct Unknown {
-    const char* reference;
-    const char* message;
-};
-
 TEST(ItemSelection, AnUnknownItemIsToldWithNamesThatAreNear) {
-    for (const Unknown& unknown :
-         {Unknown{"Overveiw", "The workbook has no item \"Overveiw\". Did you mean \"Overview\"?"},
-          {"Chart 2",
-           "The workbook has no item \"Chart 2\". Did you mean \"Chart 1@North\", \"Chart "
-           "1@South\"?"},
-          {"Weather",
-           "The workbook has no item \"Weather\". Run murvane-export --list to see its items."},
-          {"Chart 1",
-           "\"Chart 1\" is the name of 2 items. Say which one: \"Chart 1@North\", "
-           "\"Chart 1@South\"."}}) {
+    const std::pair<const char*, const char*> unknown[] = {
+        {"Overveiw", "The workbook has no item \"Overveiw\". Did you mean \"Overview\"?"},
+        {"Chart 2",
+         "The workbook has no item \"Chart 2\". Did you mean \"Chart 1@North\", \"Chart "
+         "1@South\"?"},
+        {"Weather",
+         "The workbook has no item \"Weather\". Run murvane-export --list to see its items."},
+        {"Chart 1",
+         "\"Chart 1\" is the name of 2 items. Say which one: \"Chart 1@North\", "
+         "\"Chart 1@South\"."}};
+    for (const auto& [reference, message] : unknown) {
         try {
-            static_cast<void>(unattended::findItems(sampleList(), {unknown.reference}));
-            ADD_FAILURE() << unknown.reference;
+            static_cast<void>(unattended::findItems(sampleList(), {reference}));
+            ADD_FAILURE() << reference;
         } catch (const unattended::UsageError& error) {
-            EXPECT_STREQ(error.what(), unknown.message);
+            EXPECT_STREQ(error.what(), message);
         }
     }
 }
@@ -79,15 +75,10 @@ std::string checksOf(const catalogue::ExportList& list) {
     return marks;
 }
 
-TEST(ItemSelection, AllMeansWhatCanBeExported) {
+TEST(ItemSelection, AllMeansWhatCanBeExportedAndOnlyMeansNoOthers) {
     auto list = sampleList();
     unattended::checkAll(list);
     EXPECT_EQ(checksOf(list), "xxx-x");
-}
-
-TEST(ItemSelection, OnlyMeansNoOthers) {
-    auto list = sampleList();
-    unattended::checkAll(list);
     unattended::checkOnly(list, {3, 0});
     EXPECT_EQ(checksOf(list), "x--x-");
 }

@@ -10,16 +10,9 @@ namespace answer = session::answer;
 
 TEST(StatusLine, WritesOverItselfOnATerminalAndNothingElsewhere) {
     ScriptedConsole console;
-    {
-        apps::StatusLine line(console, true);
-        line.show("one");
-    }
-    EXPECT_EQ(console.error, "");
+    apps::StatusLine(console, true).show("one");
     console.isTerminal = true;
-    {
-        apps::StatusLine quiet(console, false);
-        quiet.show("one");
-    }
+    apps::StatusLine(console, false).show("one");
     EXPECT_EQ(console.error, "");
     {
         apps::StatusLine line(console, true);
@@ -29,19 +22,6 @@ TEST(StatusLine, WritesOverItselfOnATerminalAndNothingElsewhere) {
         line.show("two");
     }
     EXPECT_EQ(console.error, "\rone\x1b[K\r\x1b[K\rtwo\x1b[K\r\x1b[K");
-}
-
-TEST(TerminalProgress, ShowsTheItemAndTheShare) {
-    ScriptedConsole console;
-    console.isTerminal = true;
-    apps::StatusLine line(console, true);
-    apps::TerminalProgress progress(line);
-    progress.showItem(3, 12);
-    EXPECT_TRUE(console.errorHas("Exporting item 3 of 12  25%"));
-    progress.setLoadingValue(140);
-    EXPECT_EQ(progress.loadingValue(), 100);
-    progress.clearLoading();
-    EXPECT_EQ(progress.loadingValue(), 0);
 }
 
 class TerminalNoticesTest : public testing::Test {

@@ -8,7 +8,7 @@ import shutil
 import unittest
 import zipfile
 
-from program import SAMPLES, ProgramTest, colours_of, slides_of
+from program import SAMPLES, ProgramTest, slides_of
 
 BAD = SAMPLES / "bad-inputs"
 BOOK = SAMPLES / "Harbour Logistics 2026.xlsx"
@@ -31,6 +31,7 @@ class ABadInput(ProgramTest):
             (FAILED, "Board deck.pptx", [SAMPLES / "Board deck.pptx"]),
             (FAILED, "not-a-workbook.xlsx", [BOOK, "--into", BAD / "not-a-workbook.xlsx"]),
             (FAILED, "Harbour Logistics 2026.xlsx", [BOOK, "--into", BOOK]),
+            (BLOCKED, "didn't find any chart", [BAD / "empty.xlsx"]),
             (BLOCKED, "protected", [BAD / "structure-protected.xlsx"]),
         ]
         for number, (code, word, arguments) in enumerate(cases):
@@ -77,34 +78,6 @@ class ABadInput(ProgramTest):
                 self.assertEqual(book.read_bytes(), before)
         self.assertTrue(lock.exists(), "the other program's lock is its own")
 
-    def test_a_workbook_without_items_is_told_apart_from_a_failure(self):
-        result, _, errors = self.export(BAD / "empty.xlsx", "--output", self.folder / "x.pptx")
-        self.assertEqual(result, BLOCKED, errors)
-        self.assertIn("didn't find any chart", errors)
-
-    def test_an_output_folder_that_cannot_be_written_is_found_out_before_the_suite_starts(self):
-        cases = [self.folder / "missing" / "x.pptx", "/proc/x.pptx", self.folder / "x.docx"]
-        for output in cases:
-            with self.subTest(output=str(output)):
-                result, _, errors = self.export(BOOK, "--output", output)
-                self.assertEqual(result, USAGE, errors)
-                self.assertIn(os.path.basename(output), errors)
-
-    def test_a_deck_without_a_title_layout_still_takes_titles(self):
-        output = self.folder / "x.pptx"
-        result, _, errors = self.export(BOOK, "--into", BAD / "no-title-layout.pptx", "--titles", "--items",
-                                        "{Chart Sheet}", "--output", output)
-        self.assertEqual(result, DONE, errors)
-        self.assertTrue(all(len(slide.pictures) == 1 for slide in slides_of(output)[1:]))
-
-    def test_a_chart_sheet_that_arrives_empty_is_still_exported(self):
-        output = self.folder / "x.pptx"
-        result, _, errors = self.export(BAD / "negative-chartsheet.xlsx", "--items", "{Chart Sheet}", "--output", output)
-        self.assertEqual(result, DONE, errors)
-        pictures = [picture for slide in slides_of(output) for picture in slide.pictures]
-        self.assertEqual(len(pictures), 1)
-        self.assertGreater(colours_of(pictures[0]["bytes"]), 8)
-
     def test_a_chart_in_a_group_is_found(self):
         result, output, errors = self.export(BAD / "grouped-chart.xlsx", "--list", "--json")
         self.assertEqual(result, DONE, errors)
@@ -126,17 +99,6 @@ class ABadInput(ProgramTest):
                     for item in items if not item["severalAreas"]]
         self.assertEqual(len(arrived), len(expected) - errors.count("on sheet"), errors)
         self.assertLessEqual(set(arrived), set(expected))
-
-    def test_a_markup_name_stays_text_in_the_presentation(self):
-        output = self.folder / "x.pptx"
-        captions = self.folder / "captions.csv"
-        captions.write_text('item,sheet,caption,slide\nFigures,Data,"<script>alert(1)</script>",\n', encoding="utf-8")
-        result, _, errors = self.export(BAD / "grouped-chart.xlsx", "--items", "Figures", "--titles",
-                                        "--captions", captions, "--output", output)
-        self.assertEqual(result, DONE, errors)
-        self.assertEqual(slides_of(output)[-1].title, "<script>alert(1)</script>")
-        with zipfile.ZipFile(output) as package:
-            self.assertFalse([n for n in package.namelist() if b"<script>" in package.read(n)])
 
 
 if __name__ == "__main__":

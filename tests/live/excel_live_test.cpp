@@ -23,10 +23,6 @@ Object ExcelLive::open(std::string_view name) {
     return app.get("Workbooks").call("Open", copyOf(MURVANE_TEST_BOOKS, name)).toObject();
 }
 
-Object ExcelLive::freshApplication() const {
-    return excel::applicationObject(std::make_shared<Desk>(connection(), true));
-}
-
 Object ExcelLive::sheet(const Object& book, const Value& which) {
     return book.get("Sheets").get("Item", which).toObject();
 }

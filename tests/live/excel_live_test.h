@@ -20,8 +20,6 @@ protected:
     Object open(std::string_view name);
     /// The active workbook, saved under another name.
     [[nodiscard]] std::string savedCopy() const;
-    /// What automation started anew knows of the same suite: nothing that the other one remembers.
-    [[nodiscard]] Object freshApplication() const;
 
     [[nodiscard]] static Object sheet(const Object& book, const Value& which);
     [[nodiscard]] static std::vector<std::string> namesIn(const Value& collection);

@@ -63,9 +63,11 @@ protected:
     }
 };
 
-TEST_F(ExcelPictures, ExportsChartsCrispAndAtTheirTrueSize) {
+TEST_F(ExcelPictures, ExportsChartsCrispAtTheirTrueSizeAndTransparentWhereTheirBackgroundIs) {
     const Object book = open("charts.xlsx");
-    for (const char* name : {"Plain", "Clear", "Veiled", "Dark"}) {
+    const std::pair<const char*, bool> charts[] = {
+        {"Plain", false}, {"Clear", true}, {"Veiled", true}, {"Dark", false}};
+    for (const auto& [name, translucent] : charts) {
         const Value object = sheet(book, "Data").call("ChartObjects", name);
         const std::string path = exported(object.get("Chart"));
         const support::PngSize size = support::pngSizeOf(path);
@@ -73,18 +75,8 @@ TEST_F(ExcelPictures, ExportsChartsCrispAndAtTheirTrueSize) {
         EXPECT_NEAR(size.widthPoints(), object.get("Width").toDouble(), 0.5) << name;
         EXPECT_NEAR(size.heightPoints(), object.get("Height").toDouble(), 0.5) << name;
         EXPECT_GT(bytesOf(path).size(), 2 * bytesOf(blank(360, 216)).size()) << name;
+        EXPECT_EQ(isTranslucent(path), translucent) << name;
     }
-}
-
-TEST_F(ExcelPictures, KeepsAChartTransparentOnlyWhereItsBackgroundIs) {
-    const Object book = open("charts.xlsx");
-    const auto translucent = [&](const char* name) {
-        return isTranslucent(exported(sheet(book, "Data").call("ChartObjects", name).get("Chart")));
-    };
-    EXPECT_FALSE(translucent("Plain"));
-    EXPECT_FALSE(translucent("Dark"));
-    EXPECT_TRUE(translucent("Clear"));
-    EXPECT_TRUE(translucent("Veiled"));
 }
 
 TEST_F(ExcelPictures, ShowsTheDataOfTheMoment) {
@@ -97,21 +89,13 @@ TEST_F(ExcelPictures, ShowsTheDataOfTheMoment) {
     EXPECT_NE(bytesOf(exported(chart)), before);
 }
 
-TEST_F(ExcelPictures, ReadsEveryChartNameRightHoweverOften) {
+TEST_F(ExcelPictures, FindsTheLastChartOfManyForTheCallsOfTheFirstAndEachOneHoweverOften) {
     const Object book = open("many.xlsx");
     const Value charts = sheet(book, "Many").get("ChartObjects");
-    for (int round = 0; round < 10; ++round) {
-        for (std::int32_t i = 1; i <= 40; ++i) {
-            ASSERT_EQ(charts.get("Item", i).get("Name").toText(), "Chart " + std::to_string(i));
-        }
+    for (std::int32_t i = 0; i < 400; ++i) {
+        ASSERT_EQ(charts.get("Item", i % 40 + 1).get("Name").toText(),
+                  "Chart " + std::to_string(i % 40 + 1));
     }
-    EXPECT_EQ(charts.get("Item", "Chart 40").get("Index").toLong(), 40);
-}
-
-TEST_F(ExcelPictures, FindsTheLastChartOfManyForTheCallsOfTheFirst) {
-    const Object book = open("many.xlsx");
-    const Value charts = sheet(book, "Many").get("ChartObjects");
-    static_cast<void>(charts.get("Count"));
     const auto export1 = [&](const char* name) {
         return callsOf([&] { static_cast<void>(exported(charts.get("Item", name).get("Chart"))); });
     };

@@ -26,19 +26,11 @@ protected:
     }
 };
 
-TEST_F(ExcelSheets, TellsChartSheetsFromWorksheetsByTheFile) {
-    const Object book = open("sheets.xlsx");
-    EXPECT_EQ(namesIn(book.get("Sheets")), (Names{"Data", "Trend", "Alike", "Hidden", "Buried"}));
-    EXPECT_EQ(namesIn(book.get("Worksheets")), (Names{"Data", "Alike", "Hidden", "Buried"}));
-    EXPECT_EQ(namesIn(book.get("Charts")), Names{"Trend"});
-    EXPECT_EQ(sheet(book, "Trend").typeName(), "Chart");
-    EXPECT_EQ(sheet(book, "Alike").typeName(), "Worksheet");
-}
-
 TEST_F(ExcelSheets, KeepsItsKnowledgeOfSheetsThatTheUserRenamesMovesAndDeletes) {
     const Object book = open("sheets.xlsx");
     const Object trend = sheet(book, "Trend");
     const Object buried = sheet(book, "Buried");
+    EXPECT_EQ(namesIn(book.get("Charts")), Names{"Trend"}) << "and not what is alike";
     userRenames("Trend", "Direction");
     userSheets()->moveByName("Direction", 0);
     userSheets()->insertNewByName("Mine", 0);
@@ -59,36 +51,13 @@ TEST_F(ExcelSheets, KeepsItsKnowledgeOfSheetsThatTheUserRenamesMovesAndDeletes) 
     EXPECT_EQ(namesIn(book.get("Sheets")), (Names{"Mine", "Data", "Alike", "Buried"}));
 }
 
-TEST_F(ExcelSheets, ReadsVeryHiddenFromTheFileAndFromThisSession) {
-    const Object book = open("sheets.xlsx");
-    EXPECT_EQ(sheet(book, "Hidden").get("Visible").toLong(), 0);
-    EXPECT_EQ(sheet(book, "Buried").get("Visible").toLong(), 2);
-    const Object made = book.get("Worksheets").call("Add").toObject();
-    made.put("Visible", 2);
-    EXPECT_EQ(sheet(book, made.get("Name")).get("Visible").toLong(), 2);
-    made.put("Visible", -1);
-    EXPECT_EQ(made.get("Visible").toLong(), -1);
-    made.put("Visible", false);
-    EXPECT_EQ(made.get("Visible").toLong(), 0);
-}
-
 TEST_F(ExcelSheets, SaysSoWhenLibreOfficeKeepsTheLastSheetVisible) {
-    const Object book = open("locked.xlsx");
-    const Object second = open("lost.xlsx");
-    second.get("Charts").get("Item", 1).put("Visible", false);
-    const Object last = sheet(second, "Data");
+    const Object book = open("lost.xlsx");
+    book.get("Charts").get("Item", 1).put("Visible", false);
+    const Object last = sheet(book, "Data");
     EXPECT_EQ(failureOf([&] { last.put("Visible", false); }), refused);
     EXPECT_EQ(last.get("Visible").toLong(), -1);
     EXPECT_EQ(failureOf([&] { last.call("Delete"); }), refused);
-}
-
-TEST_F(ExcelSheets, KeepsToTheProtectionOfTheStructureThatLibreOfficeDrops) {
-    const Object book = open("locked.xlsx");
-    EXPECT_TRUE(book.get("ProtectStructure").toBool());
-    EXPECT_EQ(failureOf([&] { book.get("Worksheets").call("Add"); }), refused);
-    EXPECT_EQ(failureOf([&] { sheet(book, 1).put("Name", "Other"); }), refused);
-    EXPECT_EQ(namesIn(book.get("Sheets")), Names{"Data"});
-    EXPECT_TRUE(book.get("Saved").toBool());
 }
 
 TEST_F(ExcelSheets, TellsTheChartSheetsOfAnEncryptedFileByTheirLooks) {
@@ -113,8 +82,6 @@ TEST_F(ExcelSheets, OpensNothingButWorkbooksAndSaysWhy) {
     const Object book = open("sheets.xlsx");
     const auto before = openDocuments();
     const std::string text = file("deck.fodp");
-    const std::string damaged = file("damaged.xlsx");
-    std::filesystem::copy_file(std::filesystem::path(MURVANE_TEST_BOOKS) / "damaged.xlsx", damaged);
     const auto presentation = connection()->desktop()->loadComponentFromURL(
         "private:factory/simpress", "_blank", 0, propertyValues({{"Hidden", uno::Any(true)}}));
     as<css::frame::XStorable>(presentation)
@@ -128,7 +95,6 @@ TEST_F(ExcelSheets, OpensNothingButWorkbooksAndSaysWhy) {
     EXPECT_EQ(openDocuments().size(), before.size() + 1) << "what was open already stays open";
     as<css::lang::XComponent>(presentation)->dispose();
     EXPECT_EQ(failureOf([&] { books.call("Open", text); }), refused);
-    EXPECT_EQ(failureOf([&] { books.call("Open", damaged); }), refused);
     EXPECT_EQ(failureOf([&] { books.call("Open", file("nowhere.xlsx")); }), refused);
     EXPECT_NE(lastWords.find("no such file"), std::string::npos) << lastWords;
     EXPECT_EQ(openDocuments(), before);

@@ -99,16 +99,6 @@ class TheSampleWorkbook(ProgramTest):
                               text=True).stdout
         self.assertEqual(text.count("\f"), len(slides))
 
-    def test_goes_to_the_slides_that_are_named(self):
-        chart = self.charts()[0]
-        captions = self.folder / "captions.csv"
-        captions.write_text(f'item,sheet,caption,slide\n"{chart["name"]}","{chart["sheet"]}",Here,3\n', encoding="utf-8")
-        slides = self.export("--slides", "predefined", "--titles", "--captions", captions,
-                             "--items", f'{chart["name"]}@{chart["sheet"]}')
-        self.assertEqual(len(slides), SLIDES_OF_DECK)
-        self.assertEqual(slides[2].title, "Here")
-        self.assertEqual(len(slides[2].pictures), 1)
-
 
 if __name__ == "__main__":
     unittest.main(verbosity=2)

@@ -17,11 +17,6 @@ void PowerPointLive::TearDown() {
     while (open.get("Count").toLong() > 0) open.get("Item", 1).call("Close");
 }
 
-void PowerPointLive::withWindows() {
-    app = libreoffice::powerpoint::applicationObject(
-        std::make_shared<libreoffice::Desk>(connection(), false));
-}
-
 Object PowerPointLive::open(std::string_view deck) {
     return openFile(copyOf(MURVANE_TEST_DECKS, deck));
 }

@@ -8,7 +8,7 @@
 
 namespace live {
 
-/// Presentations in the shared LibreOffice, without windows unless a test asks for them.
+/// Presentations in the shared LibreOffice, without windows.
 class PowerPointLive : public LiveSuite {
 protected:
     static constexpr std::int32_t titleOnly = 11;
@@ -16,9 +16,6 @@ protected:
 
     void SetUp() override;
     void TearDown() override;
-
-    /// From here on presentations are opened with a window.
-    void withWindows();
 
     /// One of the presentations that `make-decks` writes.
     Object open(std::string_view deck);

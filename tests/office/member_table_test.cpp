@@ -99,11 +99,6 @@ TEST_F(MemberTableTest, TakesThePropertysArgumentsApartFromItsValue) {
     EXPECT_EQ(object.get("Level", 1).toLong(), 0);
 }
 
-TEST_F(MemberTableTest, ReadsAMethodAndCallsAProperty) {
-    EXPECT_EQ(object.get("Blink", 2).toText(), "2/left out/white");
-    EXPECT_EQ(object.call("Serial").toLong(), 17);
-}
-
 TEST_F(MemberTableTest, SortsNamedArgumentsIntoTheirPlaces) {
     EXPECT_EQ(object.call("Blink", 3, arg("colour", "red")).toText(), "3/left out/red");
     EXPECT_EQ(object.call("Blink", arg("Slowly", true), arg("Times", 1)).toText(), "1/given/white");

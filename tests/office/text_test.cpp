@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <string>
+#include <tuple>
 #include <vector>
 
 #include "office/text.h"
@@ -22,32 +24,14 @@ TEST(Text, TakesOnlyAWholeTextForANumber) {
     }
 }
 
-TEST(Text, ReplacesEveryOccurrenceOnce) {
-    EXPECT_EQ(office::replaceAll("a!b!c", "!", "--"), "a--b--c");
-    EXPECT_EQ(office::replaceAll("''", "'", "''"), "''''");
-    EXPECT_EQ(office::replaceAll("aaa", "aa", "b"), "ba");
-}
-
-TEST(Text, TrimsBlanksAlone) {
-    EXPECT_EQ(office::trim("  /112 "), "/112");
-    EXPECT_EQ(office::trim("\t/112"), "\t/112");
-    EXPECT_EQ(office::trim("   "), "");
-}
-
 TEST(Text, IgnoresTheCaseOfLettersAlone) {
-    struct Case {
-        const char* left;
-        const char* right;
-        bool same;
-    };
-    const std::vector<Case> cases = {
+    const std::tuple<const char*, const char*, bool> cases[] = {
         {"SlideIndex", "slideindex", true}, {"Slide", "Slides", false},  {"[", "{", false},
         {"ÜBERSICHT", "Übersicht", true},   {"Straße", "STRASSE", true}, {"Ελλάς", "ΕΛΛΆΣ", true},
         {"Übersicht", "Ubersicht", false},
     };
-    for (const Case& it : cases) {
-        EXPECT_EQ(office::sameIgnoringCase(it.left, it.right), it.same) << it.left;
-    }
+    for (const auto& [left, right, same] : cases)
+        EXPECT_EQ(office::sameIgnoringCase(left, right), same) << left;
 }
 
 TEST(Text, SortsAsTheEyeDoes) {

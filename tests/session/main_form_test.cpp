@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -24,10 +25,7 @@ protected:
 
     int run() { return session::Main(test.session, "/112", recorder.handlers); }
     [[nodiscard]] bool formWasShown() const {
-        for (const std::string& step : recorder.ran) {
-            if (step == "main form") return true;
-        }
-        return false;
+        return std::count(recorder.ran.begin(), recorder.ran.end(), "main form") > 0;
     }
 };
 
@@ -58,66 +56,47 @@ TEST_F(MainForm, LeavesAWorkbookWithoutItemsAlone) {
                     "mode"});
 }
 
-TEST_F(MainForm, RefusesAProtectedWorkbookThatHasNoStore) {
+TEST_F(MainForm, RefusesAWorkbookThatCannotTakeAStoreAndSaysWhatToDo) {
     book.protectStructure();
     run();
+    EXPECT_EQ(test.notices.shown.back().kind, "warning");
+    book.readOnly();
+    run();
     EXPECT_FALSE(formWasShown());
-    ASSERT_EQ(test.notices.shown.size(), 1U);
-    EXPECT_EQ(test.notices.shown.front().kind, "warning");
-    EXPECT_EQ(test.notices.shown.front().message,
-              "              The workbook looks protected\r\r"
-              "Please remove the protection and reopen Murvane\r"
-              "After that you may reprotect the workbook.\r"
-              "The message will not longer appear");
+    EXPECT_EQ(book.findTab(session::store::sheetName), nullptr);
+    EXPECT_EQ(test.notices.messages(),
+              (Words{"              The workbook looks protected\r\r"
+                     "Please remove the protection and reopen Murvane\r"
+                     "After that you may reprotect the workbook.\r"
+                     "The message will not longer appear",
+                     "The workbook is read-only, and Murvane keeps its list in the workbook.\r"
+                     "Open it for editing or save it under another name,\rthen reopen Murvane."}));
 }
 
 TEST_F(MainForm, OpensForAProtectedWorkbookThatHasItsStore) {
     book.sheet(session::store::sheetName).veryHide();
     book.protectStructure();
     run();
-    EXPECT_TRUE(formWasShown());
-    EXPECT_TRUE(test.notices.shown.empty());
+    EXPECT_TRUE(formWasShown() && test.notices.shown.empty());
 }
 
-TEST_F(MainForm, RefusesAReadOnlyWorkbookAndSaysWhatToDo) {
-    book.readOnly();
-    run();
-    EXPECT_FALSE(formWasShown());
-    EXPECT_EQ(test.notices.messages(),
-              Words{"The workbook is read-only, and Murvane keeps its list in the workbook.\r"
-                    "Open it for editing or save it under another name,\rthen reopen Murvane."});
-    EXPECT_EQ(book.findTab(session::store::sheetName), nullptr);
-}
-
-class MainFormWithoutWorkbook : public testing::Test {
-protected:
-    TestSession test;
-    CommandRecorder recorder{test.session};
-
-    void runAnswering(int answer) {
+TEST(MainFormWithoutWorkbook, OffersToOpenOneAndEndsThere) {
+    for (const int answer : {session::answer::ok, session::answer::cancel}) {
+        TestSession test;
+        CommandRecorder recorder{test.session};
         test.suite.excel().addFile("/documents/Budget.xlsx", [](office_double::Workbook& opened) {
             opened.sheet("Sales").chart("Chart 1");
         });
         test.suite.excel().answerOpenPrompt("/documents/Budget.xlsx");
         test.notices.answers = {answer};
         session::Main(test.session, "/112", recorder.handlers);
+        EXPECT_EQ(test.notices.messages(),
+                  Words{"Murvane didn't found an open Excel file \r\rWould you want to open one?"});
+        EXPECT_EQ(test.notices.shown.front().buttons, 33);
+        EXPECT_EQ(test.suite.excel().findOpen("Budget.xlsx") != nullptr,
+                  answer == session::answer::ok);
+        EXPECT_EQ(recorder.ran, Words{"unload all"});
     }
-};
-
-TEST_F(MainFormWithoutWorkbook, OffersToOpenOneAndEndsThere) {
-    runAnswering(session::answer::ok);
-    ASSERT_EQ(test.notices.shown.size(), 1U);
-    EXPECT_EQ(test.notices.shown.front().message,
-              "Murvane didn't found an open Excel file \r\rWould you want to open one?");
-    EXPECT_EQ(test.notices.shown.front().buttons, 33);
-    EXPECT_NE(test.suite.excel().findOpen("Budget.xlsx"), nullptr);
-    EXPECT_EQ(recorder.ran, Words{"unload all"});
-}
-
-TEST_F(MainFormWithoutWorkbook, OpensNothingWhenTheOfferIsDeclined) {
-    runAnswering(session::answer::cancel);
-    EXPECT_EQ(test.suite.excel().findOpen("Budget.xlsx"), nullptr);
-    EXPECT_EQ(recorder.ran, Words{"unload all"});
 }
 
 }  // namespace

@@ -39,13 +39,10 @@ protected:
     [[nodiscard]] int viewType() const { return window().get("ViewType").toLong(); }
 };
 
-TEST_F(SlideView, OfABatchStaysAsTheUserHasIt) {
+TEST_F(SlideView, OfABatchStaysAsTheUserHasItAndThatOfASelectionBecomesNormal) {
     EXPECT_EQ(session::PrepareSlideView(test.session), sorter);
     EXPECT_EQ(viewType(), sorter);
     EXPECT_EQ(test.suite.clipboardClears(), 1);
-}
-
-TEST_F(SlideView, OfASelectionPasteBecomesNormal) {
     EXPECT_EQ(session::ExitShowNormalView(test.session), sorter);
     EXPECT_EQ(viewType(), 9);
 }
@@ -86,15 +83,11 @@ protected:
 
 TEST_F(PowerPointWindow, ComesForwardByItsCaptionAndIsRemembered) {
     office::WindowHandle window = 0;
+    EXPECT_FALSE(session::BringWindowToFront(test.session, "Deck - PowerPoint", window, 1));
+    EXPECT_EQ(test.suite.raisedWindow(), 0U);
     EXPECT_TRUE(session::BringWindowToFront(test.session, "Deck.pptx - PowerPoint", window, 1));
     EXPECT_NE(window, 0U);
     EXPECT_EQ(test.suite.raisedWindow(), window);
-}
-
-TEST_F(PowerPointWindow, StaysWhereItIsWhenTheCaptionIsAnother) {
-    office::WindowHandle window = 0;
-    EXPECT_FALSE(session::BringWindowToFront(test.session, "Deck - PowerPoint", window, 1));
-    EXPECT_EQ(test.suite.raisedWindow(), 0U);
 }
 
 TEST_F(PowerPointWindow, IsLockedForTheVersionsWhoseClassIsKnown) {

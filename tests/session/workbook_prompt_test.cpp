@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "session/workbook_prompt.h"
@@ -37,21 +38,15 @@ TEST(WorkbookPrompt, OpensAFileThatIsInUseAfterSayingSo) {
 }
 
 TEST(FileInUse, IsTheFallbackForAFileThatIsNotThere) {
-    struct Case {
-        std::string name;
-        bool fallback;
-        bool isOpen;
-    };
-    const std::vector<Case> cases = {
+    const std::tuple<const char*, bool, bool> cases[] = {
         {"", false, false},    {"  ", true, true},     {"/none", false, false},
         {"/none", true, true}, {"/free", true, false}, {"/held", false, true},
     };
     TestSession test;
     test.host.files = {"/free", "/held"};
     test.host.heldFiles = {"/held"};
-    for (const Case& it : cases) {
-        EXPECT_EQ(session::IsFileOpen(test.session, it.name, it.fallback), it.isOpen) << it.name;
-    }
+    for (const auto& [name, fallback, isOpen] : cases)
+        EXPECT_EQ(session::IsFileOpen(test.session, name, fallback), isOpen) << name;
 }
 
 }  // namespace
