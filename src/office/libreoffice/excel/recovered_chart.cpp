@@ -4,6 +4,7 @@
 #include <com/sun/star/container/XHierarchicalNameAccess.hpp>
 #include <com/sun/star/io/XActiveDataSink.hpp>
 #include <com/sun/star/io/XInputStream.hpp>
+#include <com/sun/star/lang/XComponent.hpp>
 #include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/util/XChangesBatch.hpp>
@@ -125,6 +126,16 @@ RecoveredChart::RecoveredChart(SheetRecord& sheet) {
     chart_ = charts_->all().front();
 }
 
-RecoveredChart::~RecoveredChart() = default;
+RecoveredChart::~RecoveredChart() {
+    // LibreOffice lets a shape that is no longer held go on a thread of its own, which may be after
+    // its document has been closed, and that ends the suite. So the shapes go here, at once.
+    try {
+        for (const ChartShapePtr& chart : charts_->all()) {
+            as<css::lang::XComponent>(chart->shape())->dispose();
+        }
+    } catch (const uno::Exception&) {
+        // The suite has ended and the copy with it.
+    }
+}
 
 }  // namespace libreoffice::excel
