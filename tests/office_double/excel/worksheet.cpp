@@ -66,9 +66,8 @@ void NameList::add(const std::string& name, const std::string& formula, bool vis
 }
 
 void NameList::remove(const std::string& name) {
-    std::erase_if(names_, [&](const DefinedName& each) {
-        return office::sameIgnoringCase(each.name, name);
-    });
+    std::erase_if(
+        names_, [&](const DefinedName& each) { return office::sameIgnoringCase(each.name, name); });
 }
 
 void NameList::sheetRenamed(const std::string& from, const std::string& to) {
