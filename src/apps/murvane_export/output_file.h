@@ -11,8 +11,8 @@ enum class IfExists { Refuse, Overwrite };
 void requireReadable(const std::filesystem::path& file, const std::string& what);
 
 /// The file that a run writes. It comes into being as a whole or not at all: the suite writes a
-/// neighbour of it, which `commit` gives its name; without that the neighbour goes with this
-/// object.
+/// neighbour of it, which `commit` gives its name. The neighbour's folder goes with this object,
+/// and with it whatever a suite that ends half-way leaves there.
 class OutputFile {
 public:
     /// `UsageError` if the name doesn't end in ".pptx", if its folder is missing or can't be
@@ -27,8 +27,8 @@ public:
     /// `UsageError` if the output is this file, which the run reads.
     void requireOtherThan(const std::filesystem::path& input) const;
 
-    /// A file of this run's own beside the output, ready to be written to. `RunError` if it can't
-    /// be made.
+    /// A file in a folder of this run's own beside the output, ready to be written to. `RunError`
+    /// if it can't be made.
     [[nodiscard]] const std::filesystem::path& neighbour();
 
     /// `RunError` if nothing was written to the neighbour, or if the name was taken meanwhile and
@@ -38,6 +38,7 @@ public:
 private:
     void takeName();
     void adoptMode() const;
+    void removeNeighbour();
 
     std::filesystem::path file_;
     IfExists ifExists_;

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 #include <system_error>
 
 #include "apps/murvane_export/errors.h"
@@ -83,7 +84,7 @@ OutputFile::OutputFile(const fs::path& file, IfExists ifExists)
 }
 
 OutputFile::~OutputFile() {
-    if (!neighbour_.empty()) ::unlink(neighbour_.c_str());
+    if (!neighbour_.empty()) removeNeighbour();
 }
 
 void OutputFile::requireOtherThan(const fs::path& input) const {
@@ -96,16 +97,14 @@ void OutputFile::requireOtherThan(const fs::path& input) const {
 
 const fs::path& OutputFile::neighbour() {
     if (!neighbour_.empty()) return neighbour_;
-    std::string name =
-        (file_.parent_path() / fmt::format(".{}.XXXXXX{}", apps::utf8Of(file_.stem()), extension))
-            .string();
-    const int made = ::mkstemps(name.data(), static_cast<int>(extension.size()));
-    if (made < 0) {
+    std::string folder =
+        (file_.parent_path() / fmt::format(".{}.XXXXXX", apps::utf8Of(file_.stem()))).string();
+    if (::mkdtemp(folder.data()) == nullptr) {
         throw RunError(fmt::format("No file can be made in {}: {}.",
                                    apps::utf8Of(file_.parent_path()), reason()));
     }
-    ::close(made);
-    neighbour_ = name;
+    neighbour_ = fs::path(folder) / fmt::format("output{}", extension);
+    std::ofstream{neighbour_};
     return neighbour_;
 }
 
@@ -117,6 +116,13 @@ void OutputFile::commit() {
     }
     adoptMode();
     takeName();
+    removeNeighbour();
+}
+
+/// With all that a suite that was killed has left beside it.
+void OutputFile::removeNeighbour() {
+    std::error_code ignored;
+    fs::remove_all(neighbour_.parent_path(), ignored);
     neighbour_.clear();
 }
 
