@@ -96,13 +96,21 @@ class Screen:
             profile.mkdir(parents=True)
             shutil.copy(pathlib.Path(__file__).parent / "quiet-suite.xcu", profile / "registrymodifications.xcu")
         for document in documents:
-            process = subprocess.Popen(["soffice", "--nologo", "--norestore", str(document)], env=self.environment,
-                                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True)
-            if self.suite is None:
-                self.suite = process
-            else:
-                process.wait(60)  # hands the document over and ends
-            wait_until(lambda: self.window_named(pathlib.Path(document).name), 60, f"the window of {document}")
+            # LibreOffice now and then comes up without the document that it was started with; a user asks again.
+            for patience in (20, 60):
+                process = subprocess.Popen(["soffice", "--nologo", "--norestore", str(document)], env=self.environment,
+                                           stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True)
+                if self.suite is None or self.suite.poll() is not None:
+                    self.suite = process
+                else:
+                    process.wait(60)  # hands the document over and ends
+                try:
+                    wait_until(lambda: self.window_named(pathlib.Path(document).name), patience,
+                               f"the window of {document}")
+                    break
+                except AssertionError:
+                    if patience == 60:
+                        raise
 
     def window_named(self, text):
         found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", text.replace(".", r"\.")],
