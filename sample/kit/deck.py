@@ -1,5 +1,6 @@
 """A small presentation, part by part. Lengths are points; a slide has 960 by 540 of them."""
 
+import dataclasses
 from xml.sax.saxutils import escape
 
 from . import look
@@ -51,11 +52,10 @@ class Shapes:
         )
 
     def holder(self, name, kind, frame=None, paragraphs=(), index=None, body="<a:bodyPr/>", style="",
-               size=None):
+               size=None, upright=False):
         """A placeholder. Without a frame it stands where the layout, or else the master, puts it."""
-        attributes = "".join(
-            f' {key}="{value}"' for key, value in (("type", kind), ("sz", size), ("idx", index)) if value is not None
-        )
+        given = (("type", kind), ("orient", "vert" if upright else None), ("sz", size), ("idx", index))
+        attributes = "".join(f' {key}="{value}"' for key, value in given if value is not None)
         place = f'{box(*frame)}<a:prstGeom prst="rect"><a:avLst/></a:prstGeom>' if frame else ""
         text = "".join(paragraphs) or '<a:p><a:endParaRPr lang="en-US"/></a:p>'
         styles = f"<a:lstStyle>{style}</a:lstStyle>" if style else "<a:lstStyle/>"
@@ -86,7 +86,8 @@ def paragraph(text, level=0):
 
 
 def field(kind, text):
-    identity = {"slidenum": "{6C2E0E1A-6B1B-4E0A-9B57-2D5B7D7C1A01}"}[kind]
+    identity = {"slidenum": "{6C2E0E1A-6B1B-4E0A-9B57-2D5B7D7C1A01}",
+                "datetimeFigureOut": "{6C2E0E1A-6B1B-4E0A-9B57-2D5B7D7C1A02}"}[kind]
     return (f'<a:p><a:fld id="{identity}" type="{kind}"><a:rPr lang="en-US"/><a:t>{text}</a:t></a:fld>'
             '<a:endParaRPr lang="en-US"/></a:p>')
 
@@ -99,28 +100,28 @@ BODY = (MARGIN, 104, SLIDE_WIDTH - 2 * MARGIN, 388)
 NUMBER = (SLIDE_WIDTH - MARGIN - 90, 512, 90, 20)
 
 
-def theme():
+def theme(name, dark, light, accents, links, fonts):
+    """A theme of two background colours, six accents, the colours of new and visited links, head and body font."""
     def color(name, value):
         return f'<a:{name}><a:srgbClr val="{value.lstrip("#")}"/></a:{name}>'
 
-    names = ["accent1", "accent2", "accent3", "accent4", "accent5", "accent6"]
     scheme = (
         '<a:dk1><a:sysClr val="windowText" lastClr="000000"/></a:dk1>'
         '<a:lt1><a:sysClr val="window" lastClr="FFFFFF"/></a:lt1>'
-        + color("dk2", look.NAVY) + color("lt2", look.PALE)
-        + "".join(color(name, value) for name, value in zip(names, look.SERIES))
-        + color("hlink", look.TEAL) + color("folHlink", look.SLATE)
+        + color("dk2", dark) + color("lt2", light)
+        + "".join(color(f"accent{n}", value) for n, value in enumerate(accents, start=1))
+        + color("hlink", links[0]) + color("folHlink", links[1])
     )
-    font = f'<a:latin typeface="{look.FONT}"/><a:ea typeface=""/><a:cs typeface=""/>'
+    major, minor = (f'<a:latin typeface="{font}"/><a:ea typeface=""/><a:cs typeface=""/>' for font in fonts)
     plain = '<a:solidFill><a:schemeClr val="phClr"/></a:solidFill>'
     line = (f'<a:ln w="{{}}" cap="flat" cmpd="sng" algn="ctr">{plain}<a:prstDash val="solid"/>'
             '<a:miter lim="800000"/></a:ln>')
     effect = "<a:effectStyle><a:effectLst/></a:effectStyle>"
     return (
-        f'{HEAD}<a:theme xmlns:a="http://schemas.openxmlformats.org/drawingml/2006/main" name="Harbour">'
-        f'<a:themeElements><a:clrScheme name="Harbour">{scheme}</a:clrScheme>'
-        f'<a:fontScheme name="Harbour"><a:majorFont>{font}</a:majorFont><a:minorFont>{font}</a:minorFont>'
-        f'</a:fontScheme><a:fmtScheme name="Harbour"><a:fillStyleLst>{plain * 3}</a:fillStyleLst>'
+        f'{HEAD}<a:theme xmlns:a="http://schemas.openxmlformats.org/drawingml/2006/main" name="{name}">'
+        f'<a:themeElements><a:clrScheme name="{name}">{scheme}</a:clrScheme>'
+        f'<a:fontScheme name="{name}"><a:majorFont>{major}</a:majorFont><a:minorFont>{minor}</a:minorFont>'
+        f'</a:fontScheme><a:fmtScheme name="{name}"><a:fillStyleLst>{plain * 3}</a:fillStyleLst>'
         f'<a:lnStyleLst>{"".join(line.format(w) for w in (6350, 12700, 19050))}</a:lnStyleLst>'
         f"<a:effectStyleLst>{effect * 3}</a:effectStyleLst><a:bgFillStyleLst>{plain * 3}</a:bgFillStyleLst>"
         "</a:fmtScheme></a:themeElements><a:objectDefaults/><a:extraClrSchemeLst/></a:theme>"
@@ -143,7 +144,29 @@ def small(align, color="accent4"):
     return f'<a:lvl1pPr algn="{align}"><a:defRPr sz="1100">{fill(color)}</a:defRPr></a:lvl1pPr>'
 
 
-def master(layout_count):
+def plain_style():
+    """How text looks that stands in no placeholder."""
+    return '<a:defPPr><a:defRPr lang="en-US"/></a:defPPr>' + "".join(
+        f'<a:lvl{n}pPr marL="{457200 * (n - 1)}" algn="l" defTabSz="914400" rtl="0" eaLnBrk="1" latinLnBrk="0" '
+        f'hangingPunct="1"><a:defRPr sz="1800" kern="1200">{fill("tx1")}<a:latin typeface="+mn-lt"/>'
+        f'<a:ea typeface="+mn-ea"/><a:cs typeface="+mn-cs"/></a:defRPr></a:lvl{n}pPr>'
+        for n in range(1, 10)
+    )
+
+
+def master(shapes, title_style, body_style, layout_count):
+    layouts = "".join(f'<p:sldLayoutId id="{2147483649 + n}" r:id="rId{1 + n}"/>' for n in range(layout_count))
+    return (
+        f'{HEAD}<p:sldMaster {SPACES}><p:cSld><p:bg><p:bgPr>{fill("bg1")}<a:effectLst/></p:bgPr></p:bg>{shapes.tree()}'
+        '</p:cSld><p:clrMap bg1="lt1" tx1="dk1" bg2="lt2" tx2="dk2" accent1="accent1" accent2="accent2" '
+        'accent3="accent3" accent4="accent4" accent5="accent5" accent6="accent6" hlink="hlink" folHlink="folHlink"/>'
+        f"<p:sldLayoutIdLst>{layouts}</p:sldLayoutIdLst><p:txStyles><p:titleStyle>{title_style}</p:titleStyle>"
+        f"<p:bodyStyle>{body_style}</p:bodyStyle><p:otherStyle>{plain_style()}</p:otherStyle></p:txStyles>"
+        "</p:sldMaster>"
+    )
+
+
+def harbour_master(layout_count):
     shapes = Shapes()
     shapes.bar("Edge", (0, 0, 12, SLIDE_HEIGHT), "tx2")
     shapes.bar("Rule", (MARGIN, 80, 60, 3), "accent2")
@@ -157,21 +180,7 @@ def master(layout_count):
     title_style = level(1, 28, "tx2", bold=True).replace("+mn-", "+mj-")
     body_style = (level(1, 22, "tx1", 18, "•") + level(2, 18, "tx1", 40, "–") + level(3, 16, "tx1", 62, "•")
                   + "".join(level(n, 16, "tx1", 62 + 22 * (n - 3), "•") for n in range(4, 10)))
-    other = "".join(
-        f'<a:lvl{n}pPr marL="{457200 * (n - 1)}" algn="l" defTabSz="914400" rtl="0" eaLnBrk="1" latinLnBrk="0" '
-        f'hangingPunct="1"><a:defRPr sz="1800" kern="1200">{fill("tx1")}<a:latin typeface="+mn-lt"/>'
-        f'<a:ea typeface="+mn-ea"/><a:cs typeface="+mn-cs"/></a:defRPr></a:lvl{n}pPr>'
-        for n in range(1, 10)
-    )
-    layouts = "".join(f'<p:sldLayoutId id="{2147483649 + n}" r:id="rId{1 + n}"/>' for n in range(layout_count))
-    return (
-        f'{HEAD}<p:sldMaster {SPACES}><p:cSld><p:bg><p:bgPr>{fill("bg1")}<a:effectLst/></p:bgPr></p:bg>{shapes.tree()}'
-        '</p:cSld><p:clrMap bg1="lt1" tx1="dk1" bg2="lt2" tx2="dk2" accent1="accent1" accent2="accent2" '
-        'accent3="accent3" accent4="accent4" accent5="accent5" accent6="accent6" hlink="hlink" folHlink="folHlink"/>'
-        f"<p:sldLayoutIdLst>{layouts}</p:sldLayoutIdLst><p:txStyles><p:titleStyle>{title_style}</p:titleStyle>"
-        f'<p:bodyStyle>{body_style}</p:bodyStyle><p:otherStyle><a:defPPr><a:defRPr lang="en-US"/></a:defPPr>{other}'
-        "</p:otherStyle></p:txStyles></p:sldMaster>"
-    )
+    return master(shapes, title_style, body_style, layout_count)
 
 
 def layout(name, kind, shapes, own_background=None):
@@ -228,6 +237,20 @@ LAYOUTS = {
     "Title Only": title_only,
     "Blank": blank,
 }
+
+
+@dataclasses.dataclass(frozen=True)
+class Design:
+    """What a presentation looks like: its parts, the layouts by their names."""
+
+    theme: str
+    master: str
+    layouts: dict
+
+
+def harbour(layouts=tuple(LAYOUTS)):
+    colors = theme("Harbour", look.NAVY, look.PALE, look.SERIES[:6], (look.TEAL, look.SLATE), (look.FONT, look.FONT))
+    return Design(colors, harbour_master(len(layouts)), {name: LAYOUTS[name]() for name in layouts})
 
 
 class Slide:
@@ -295,31 +318,33 @@ def presentation(slide_count):
     return (
         f'{HEAD}<p:presentation {SPACES} saveSubsetFonts="1"><p:sldMasterIdLst><p:sldMasterId id="2147483648" '
         f'r:id="rId1"/></p:sldMasterIdLst>{slide_list}<p:sldSz cx="{emu(SLIDE_WIDTH)}" cy="{emu(SLIDE_HEIGHT)}"/>'
-        '<p:notesSz cx="6858000" cy="9144000"/></p:presentation>'
+        f'<p:notesSz cx="6858000" cy="9144000"/><p:defaultTextStyle>{plain_style()}</p:defaultTextStyle>'
+        "</p:presentation>"
     )
 
 
-def core(title):
+def core(title, author, created):
+    date = (f'<dcterms:created xsi:type="dcterms:W3CDTF">{created}</dcterms:created>'
+            f'<dcterms:modified xsi:type="dcterms:W3CDTF">{created}</dcterms:modified>') if created else ""
     return (
         f'{HEAD}<cp:coreProperties xmlns:cp="http://schemas.openxmlformats.org/package/2006/metadata/core-properties" '
         'xmlns:dc="http://purl.org/dc/elements/1.1/" xmlns:dcterms="http://purl.org/dc/terms/" '
         'xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">'
-        f"<dc:title>{escape(title)}</dc:title><dc:creator>Group Controlling</dc:creator>"
-        f'<dcterms:created xsi:type="dcterms:W3CDTF">{CREATED}</dcterms:created>'
-        f'<dcterms:modified xsi:type="dcterms:W3CDTF">{CREATED}</dcterms:modified></cp:coreProperties>'
+        f"<dc:title>{escape(title)}</dc:title><dc:creator>{escape(author)}</dc:creator>{date}</cp:coreProperties>"
     )
 
 
-def app(slide_count):
+def app(application, slide_count, company):
     return (
         f'{HEAD}<Properties xmlns="http://schemas.openxmlformats.org/officeDocument/2006/extended-properties">'
-        f"<Application>Microsoft Office PowerPoint</Application><Slides>{slide_count}</Slides>"
-        "<Company>Harbour Logistics</Company><AppVersion>16.0000</AppVersion></Properties>"
+        f"<Application>{application}</Application><Slides>{slide_count}</Slides>"
+        f"<Company>{company}</Company><AppVersion>16.0000</AppVersion></Properties>"
     )
 
 
-def write_deck(path, title, slides, layouts=tuple(LAYOUTS)):
-    layouts = list(layouts)
+def package_parts(design, slides, core_properties, app_properties):
+    """All parts of a presentation, [Content_Types].xml first."""
+    layouts = list(design.layouts)
     properties = f"{HEAD}<p:{{}} {SPACES}/>"
     parts = [
         ("_rels/.rels", relations(
@@ -335,14 +360,14 @@ def write_deck(path, title, slides, layouts=tuple(LAYOUTS)):
             ("presProps", "presProps.xml"), ("viewProps", "viewProps.xml"), ("theme", "theme/theme1.xml"),
             ("tableStyles", "tableStyles.xml"),
         )),
-        ("ppt/slideMasters/slideMaster1.xml", master(len(layouts))),
+        ("ppt/slideMasters/slideMaster1.xml", design.master),
         ("ppt/slideMasters/_rels/slideMaster1.xml.rels", relations(
             *(("slideLayout", f"../slideLayouts/slideLayout{n + 1}.xml") for n in range(len(layouts))),
             ("theme", "../theme/theme1.xml"),
         )),
     ]
     for n, name in enumerate(layouts, start=1):
-        parts.append((f"ppt/slideLayouts/slideLayout{n}.xml", LAYOUTS[name]()))
+        parts.append((f"ppt/slideLayouts/slideLayout{n}.xml", design.layouts[name]))
         parts.append((f"ppt/slideLayouts/_rels/slideLayout{n}.xml.rels",
                       relations(("slideMaster", "../slideMasters/slideMaster1.xml"))))
     for n, slide in enumerate(slides, start=1):
@@ -353,14 +378,19 @@ def write_deck(path, title, slides, layouts=tuple(LAYOUTS)):
     parts += [
         ("ppt/presProps.xml", properties.format("presentationPr")),
         ("ppt/viewProps.xml", properties.format("viewPr")),
-        ("ppt/theme/theme1.xml", theme()),
+        ("ppt/theme/theme1.xml", design.theme),
         ("ppt/tableStyles.xml",
          f'{HEAD}<a:tblStyleLst xmlns:a="http://schemas.openxmlformats.org/drawingml/2006/main" '
          'def="{5C22544A-7EE6-4342-B048-85BDC9FD1C3A}"/>'),
-        ("docProps/core.xml", core(title)),
-        ("docProps/app.xml", app(len(slides))),
+        ("docProps/core.xml", core_properties),
+        ("docProps/app.xml", app_properties),
     ]
-    write_package(path, [("[Content_Types].xml", content_types(parts)), *parts])
+    return [("[Content_Types].xml", content_types(parts)), *parts]
+
+
+def write_deck(path, title, slides, layouts=tuple(LAYOUTS)):
+    write_package(path, package_parts(harbour(layouts), slides, core(title, "Group Controlling", CREATED),
+                                      app("Microsoft Office PowerPoint", len(slides), "Harbour Logistics")))
 
 
 def board_deck():
