@@ -6,15 +6,6 @@ namespace contract {
 
 std::unique_ptr<Environment> ContractTest::environment_;
 
-std::vector<std::string> namesIn(const Value& collection) {
-    std::vector<std::string> names;
-    const std::int32_t count = collection.get("Count").toLong();
-    for (std::int32_t i = 1; i <= count; ++i) {
-        names.push_back(collection.get("Item", i).get("Name").toText());
-    }
-    return names;
-}
-
 void ContractTest::SetUpTestSuite() {
     environment_ = makeEnvironment();
 }

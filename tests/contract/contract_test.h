@@ -11,6 +11,7 @@
 #include "contract/contract_environment.h"
 #include "office/failure.h"
 #include "office/value.h"
+#include "support/automation.h"
 
 namespace contract {
 
@@ -24,19 +25,9 @@ using office::Value;
 inline constexpr std::int32_t subscriptOutOfRange = 9;
 inline constexpr std::int32_t refused = 1004;
 
-/// The number of the failure that a statement ends in; 0 if it goes through.
-template <class Statement>
-std::int32_t failureOf(Statement&& statement) {
-    try {
-        statement();
-        return 0;
-    } catch (const Failure& failure) {
-        return failure.number();
-    }
-}
-
-/// The names of the members of a collection, in order.
-std::vector<std::string> namesIn(const Value& collection);
+using support::expectMembers;
+using support::failureOf;
+using support::namesIn;
 
 /// One environment for all tests of a suite: a live one takes a second to start.
 class ContractTest : public testing::Test {

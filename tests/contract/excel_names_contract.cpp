@@ -35,30 +35,25 @@ TEST_F(ExcelContract, ListsTheNamesOfTheWorkbookAndThoseOfItsSheets) {
     EXPECT_EQ(names, expected);
 }
 
-TEST_F(ExcelContract, LeadsFromANameToItsRange) {
+TEST_F(ExcelContract, LeadsFromANameToItsRangeAlsoThroughTheApplication) {
     for (const auto& [name, sheetName, address] : ranges) {
-        const Value found = book.get("Names").get("Item", name).get("RefersToRange");
-        EXPECT_EQ(found.toObject().typeName(), "Range") << name;
-        EXPECT_EQ(found.get("Address").toText(), address) << name;
-        EXPECT_EQ(found.get("Worksheet").get("Name").toText(), sheetName) << name;
-        EXPECT_EQ(found.get("Worksheet").get("Parent").get("Name").toText(), "contract-book.xlsx");
-        EXPECT_EQ(found.get("Parent").get("Name").toText(), sheetName) << name;
-    }
-}
-
-TEST_F(ExcelContract, FindsARangeByAnyNameThroughTheApplication) {
-    for (const auto& [name, sheetName, address] : ranges) {
-        const Value found = excel.get("Range", name);
-        EXPECT_EQ(found.get("Address").toText(), address) << name;
-        EXPECT_EQ(found.get("Worksheet").get("Name").toText(), sheetName) << name;
+        for (const Value& found :
+             {book.get("Names").get("Item", name).get("RefersToRange"), excel.get("Range", name)}) {
+            EXPECT_EQ(found.toObject().typeName(), "Range") << name;
+            expectMembers(found, {{"Address", address},
+                                  {"Worksheet.Name", sheetName},
+                                  {"Parent.Name", sheetName},
+                                  {"Worksheet.Parent.Name", "contract-book.xlsx"}});
+        }
     }
     EXPECT_EQ(failureOf([&] { excel.get("Range", "Nonesuch"); }), refused);
-}
-
-TEST_F(ExcelContract, FindsANameOfASheetByItsBareNameWhenNoOtherHasIt) {
-    const Value found = book.get("Names").get("Item", "own").get("RefersToRange");
-    EXPECT_EQ(found.get("Address").toText(), "$B$2");
-    EXPECT_EQ(sheet("Data, 2026").get("Range", "Own").get("Address").toText(), "$B$2");
+    // A name of a sheet is found by its bare name where no other has it.
+    expectMembers(book.get("Names").get("Item", "own"), {{"RefersToRange.Address", "$B$2"}});
+    EXPECT_EQ(range("Data, 2026", "Own").get("Address").toText(), "$B$2");
+    for (const char* name : {"Constant", "Formula", "Broken", "Elsewhere"}) {
+        const Value found = book.get("Names").get("Item", name);
+        EXPECT_EQ(failureOf([&] { found.get("RefersToRange"); }), refused) << name;
+    }
 }
 
 TEST_F(ExcelContract, FindsASheetsOwnNameAheadOfTheWorkbooks) {
@@ -97,25 +92,10 @@ TEST_F(ExcelContract, ListsNoNamesThatExcelKeepsForItself) {
     EXPECT_EQ(range("Sales", "Print_Titles").get("Address").toText(), "$1:$1");
 }
 
-TEST_F(ExcelContract, FailsOnNamesThatReferToNoRange) {
-    for (const char* name : {"Constant", "Formula", "Broken", "Elsewhere"}) {
-        const Value found = book.get("Names").get("Item", name);
-        EXPECT_EQ(failureOf([&] { found.get("RefersToRange"); }), refused) << name;
-    }
-}
-
-TEST_F(ExcelContract, KnowsHiddenNames) {
-    EXPECT_FALSE(book.get("Names").get("Item", "Concealed").get("Visible").toBool());
-    EXPECT_TRUE(book.get("Names").get("Item", "Total").get("Visible").toBool());
-}
-
 TEST_F(ExcelContract, CountsTheAreasOfARange) {
-    const auto areasOf = [&](const char* name) {
-        return sheet("Sales").get("Range", name).get("Areas").get("Count").toLong();
-    };
-    EXPECT_EQ(areasOf("TwoAreas"), 2);
-    EXPECT_EQ(areasOf("Total"), 1);
-    const Value areas = sheet("Sales").get("Range", "TwoAreas").get("Areas");
+    expectMembers(range("Sales", "Total"), {{"Areas.Count", 1}});
+    const Value areas = range("Sales", "TwoAreas").get("Areas");
+    EXPECT_EQ(areas.get("Count").toLong(), 2);
     EXPECT_EQ(areas.get("Item", 2).get("Address").toText(), "$C$1:$C$5");
 }
 
@@ -123,32 +103,25 @@ TEST_F(ExcelContract, DefinesNamesInRowAndColumnNotation) {
     const Value names = book.get("Names");
     names.call("Add", arg("Name", "Columns"), arg("RefersToR1C1", "=Types!C1:C8"));
     names.call("Add", arg("Name", "Block"), arg("RefersToR1C1", "='Data, 2026'!R23C15:R30C22"));
-    const auto addressOf = [&](const char* name) {
-        return names.get("Item", name).get("RefersToRange").get("Address").toText();
-    };
-    EXPECT_EQ(addressOf("Columns"), "$A:$H");
-    EXPECT_EQ(addressOf("Block"), "$O$23:$V$30");
-    EXPECT_EQ(names.get("Item", "Block").get("RefersToRange").get("Parent").get("Name").toText(),
-              "Data, 2026");
+    expectMembers(names.get("Item", "Columns"), {{"RefersToRange.Address", "$A:$H"}});
+    expectMembers(names.get("Item", "Block"), {{"RefersToRange.Address", "$O$23:$V$30"},
+                                               {"RefersToRange.Parent.Name", "Data, 2026"}});
     for (const char* formula : {"=42", "no cells", "=SUM(Sales!$A$1)"})
         EXPECT_EQ(failureOf([&] { names.call("Add", "Other", formula); }), refused) << formula;
     for (const char* name : {"", "A1", "loc1", "two words", "7th"})
         EXPECT_EQ(failureOf([&] { names.call("Add", name, "=Sales!$A$1"); }), refused) << name;
 }
 
-TEST_F(ExcelContract, DefinesAHiddenNameAndGivesOneAnotherMeaning) {
+TEST_F(ExcelContract, HidesANameAndGivesOneAnotherMeaning) {
     const Value names = book.get("Names");
+    EXPECT_FALSE(names.get("Item", "Concealed").get("Visible").toBool());
     names.call("Add", arg("Name", "Unseen"), arg("RefersTo", "=Sales!$A$1"), arg("Visible", false));
     EXPECT_FALSE(names.get("Item", "Unseen").get("Visible").toBool());
     names.call("Add", "Unseen", "=Types!$B$2");
-    EXPECT_TRUE(names.get("Item", "Unseen").get("Visible").toBool());
-    EXPECT_EQ(names.get("Item", "Unseen").get("RefersToRange").get("Address").toText(), "$B$2");
-}
-
-TEST_F(ExcelContract, FollowsASheetThatIsRenamed) {
+    expectMembers(names.get("Item", "Unseen"),
+                  {{"Visible", true}, {"RefersToRange.Address", "$B$2"}});
     sheet("Data, 2026").put("Name", "Renamed");
-    const Value found = book.get("Names").get("Item", "Quoted").get("RefersToRange");
-    EXPECT_EQ(found.get("Worksheet").get("Name").toText(), "Renamed");
+    expectMembers(names.get("Item", "Quoted"), {{"RefersToRange.Worksheet.Name", "Renamed"}});
 }
 
 }  // namespace

@@ -32,6 +32,16 @@ using namespace std::chrono_literals;
 using office::Object;
 using office::Value;
 
+template <class Condition>
+bool becomesTrue(const Condition& condition, std::chrono::seconds patience = 10s) {
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > deadline) return false;
+        std::this_thread::sleep_for(20ms);
+    }
+    return true;
+}
+
 /// The suite of all tests here.
 class Screen : public testing::Environment {
 public:
@@ -43,12 +53,8 @@ public:
                             "--accept=pipe,name=" + pipe + ";urp", "--norestore", "--nologo",
                             "--nodefault", "--nolockcheck"},
                            true));
-        const auto deadline = std::chrono::steady_clock::now() + 60s;
-        while (!connection && std::chrono::steady_clock::now() < deadline) {
-            connection = Connection::open(pipe);
-            if (!connection) std::this_thread::sleep_for(50ms);
-        }
-        ASSERT_TRUE(connection);
+        ASSERT_TRUE(
+            becomesTrue([&] { return (connection = Connection::open(pipe)) != nullptr; }, 60s));
     }
     void TearDown() override {
         if (connection) static_cast<void>(connection->desktop()->terminate());
@@ -80,16 +86,6 @@ protected:
 };
 
 using Model = uno::Reference<css::frame::XModel>;
-
-template <class Condition>
-bool becomesTrue(const Condition& condition) {
-    const auto deadline = std::chrono::steady_clock::now() + 10s;
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > deadline) return false;
-        std::this_thread::sleep_for(20ms);
-    }
-    return true;
-}
 
 /// As a click on the document's window does.
 void goTo(const Model& document) {
