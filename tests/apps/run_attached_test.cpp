@@ -37,19 +37,16 @@ TEST_F(RunAttachedTest, LeavesExcelDrawingAlsoAfterAFailure) {
     EXPECT_TRUE(suite->attach("Excel.Application").get("ScreenUpdating").toBool());
 }
 
-TEST_F(RunAttachedTest, WithoutAWorkbookItSaysWhatIsMissing) {
+TEST_F(RunAttachedTest, SaysWhatIsMissing) {
     EXPECT_EQ(attach(), 1);
     EXPECT_TRUE(console.errorHas("No running suite has a workbook open")) << console.error;
-    suite->quitExcel();
-    EXPECT_EQ(attach(), 1);
-    EXPECT_TRUE(console.errorHas("No running suite has a workbook open")) << console.error;
-}
-
-TEST_F(RunAttachedTest, WithoutAPresentationTheReviewBlocks) {
     suite->quitPowerPoint();
     fill(suite->excel().addWorkbook("Mine.xlsx"));
     EXPECT_EQ(attach(), 3);
     EXPECT_TRUE(console.errorHas("PowerPoint is not running")) << console.error;
+    suite->quitExcel();
+    EXPECT_EQ(attach(), 1);
+    EXPECT_TRUE(console.errorHas("No running suite has a workbook open")) << console.error;
 }
 
 TEST_F(RunAttachedTest, AWorkbookThatIsNamedHasToBeTheActiveOne) {
@@ -59,16 +56,13 @@ TEST_F(RunAttachedTest, AWorkbookThatIsNamedHasToBeTheActiveOne) {
     EXPECT_EQ(attach({folder.write("Mine.xlsx", "x")}), 0) << console.error;
 }
 
-TEST_F(RunAttachedTest, TheActivePresentationIsTakenWhicheverComesFirst) {
+TEST_F(RunAttachedTest, TheActivePresentationIsTakenAndTheUsersIsNeverTheOutput) {
     openUsersDocuments();
     suite->powerPoint().addPresentation("Second.pptx").addSlides(1);
     EXPECT_EQ(attach(), 0) << console.error;
     EXPECT_EQ(folder.read("Out.pptx"), "A copy of Second.pptx\n");
-}
-
-TEST_F(RunAttachedTest, TheUsersPresentationIsNeverTheOutput) {
-    openUsersDocuments();
     folder.write("Talk.pptx", "theirs");
+    suite->powerPoint().activate(*deck);
     EXPECT_EQ(run({"--attach", "--output", folder.file("Talk.pptx"), "--overwrite"}), 2);
     EXPECT_EQ(folder.read("Talk.pptx"), "theirs");
 }

@@ -27,21 +27,19 @@ protected:
     }
 };
 
-TEST_F(RunReviewTest, ABlockedExportEndsWithThreeAndTheReasons) {
-    EXPECT_EQ(exportWith({"--slides", "predefined", "--items", "Total"}), 3);
-    EXPECT_TRUE(console.errorHas("Export blocked")) << console.error;
-    EXPECT_TRUE(console.errorHas("Missing slide number for \"Total\"")) << console.error;
-    EXPECT_TRUE(hasOnlyInputs());
-    EXPECT_EQ(suite->log().count("Slides.Add"), 0U);
-}
-
-TEST_F(RunReviewTest, ACheckRunsTheReviewAlone) {
+TEST_F(RunReviewTest, ABlockedExportEndsWithThreeAndTheReasonsAndACheckRunsTheReviewAlone) {
     EXPECT_EQ(run({bookFile, "--check"}), 0);
     EXPECT_EQ(console.error, "5 of 5 items can be exported.\n");
-    EXPECT_EQ(run({bookFile, "--into", deckFile, "--slides", "predefined", "--check"}), 3);
-    EXPECT_TRUE(console.errorHas("Missing slide number"));
-    EXPECT_EQ(suite->log().count("Slides.Add"), 0U);
+    const std::vector<std::string> checks[] = {
+        {"--output", folder.file("Out.pptx"), "--items", "Total"}, {"--check"}};
+    for (std::vector<std::string> words : checks) {
+        words.insert(words.begin(), {bookFile, "--into", deckFile, "--slides", "predefined"});
+        EXPECT_EQ(run(words), 3);
+        EXPECT_TRUE(console.errorHas("Export blocked")) << console.error;
+        EXPECT_TRUE(console.errorHas("Missing slide number for \"Total\"")) << console.error;
+    }
     EXPECT_TRUE(hasOnlyInputs());
+    EXPECT_EQ(suite->log().count("Slides.Add"), 0U);
 }
 
 TEST_F(RunReviewTest, AWarningEndsTheRunUnlessItWasAgreedToBeforehand) {
@@ -57,15 +55,10 @@ TEST_F(RunReviewTest, AWarningEndsTheRunUnlessItWasAgreedToBeforehand) {
     EXPECT_TRUE(hasOutput());
     EXPECT_EQ(deck->slides().size(), 2U + pictures().size()) << "no slide for the hidden one";
     EXPECT_TRUE(console.errorHas(fmt::format("Exported {} items", pictures().size())));
-}
-
-TEST_F(RunReviewTest, WhoSitsAtTheTerminalIsAsked) {
-    storeHiddenItem();
     console.somebodyIsThere = true;
-    console.typed = {"n"};
-    EXPECT_EQ(exportWith(), 3);
-    console.typed = {"y"};
-    EXPECT_EQ(exportWith(), 0) << console.error;
+    console.typed = {"n", "y"};
+    EXPECT_EQ(exportWith({"--overwrite"}), 3);
+    EXPECT_EQ(exportWith({"--overwrite"}), 0) << console.error;
 }
 
 TEST_F(RunReviewTest, AWorkbookWithoutItemsIsBlockedAndListsAsNothing) {

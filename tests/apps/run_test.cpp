@@ -33,20 +33,22 @@ TEST_F(RunTest, ListsTheItemsWithoutTouchingAnything) {
     EXPECT_TRUE(hasOnlyInputs());
 }
 
-TEST_F(RunTest, TakesTheItemsAndTheOrderThatAreAskedFor) {
-    ASSERT_EQ(exportWith({"--items", "Total,Chart 1@South,Overview", "--order", "Overview,Total"}),
-              0)
-        << console.error;
-    EXPECT_EQ(pictures(), (Texts{"Overview", "Total", "Chart 1"}));
-}
-
-TEST_F(RunTest, CaptionsBecomeTitlesAndAlternativeTexts) {
+TEST_F(RunTest, TakesItemsOrderCaptionsPlacementAndStyleAsTheyAreAskedFor) {
     const std::string captions =
         folder.write("c.csv", "item,caption\nTotal,\"All, in all\"\nOverview,The whole\n");
-    ASSERT_EQ(exportWith({"--captions", captions, "--titles", "--items", "Overview,Total"}), 0)
+    ASSERT_EQ(exportWith({"--items", "Total,Chart 1@South,Overview", "--order", "Overview,Total",
+                          "--captions", captions, "--titles", "--style", "shadow", "--source",
+                          "--top", "0.5", "--width", "0.25", "--left", "0.1"}),
+              0)
         << console.error;
-    EXPECT_EQ(pictures(), (Texts{"All, in all", "The whole"}));
-    EXPECT_EQ(deck->slide(3).title()->text(), "All, in all");
+    EXPECT_EQ(pictures(), (Texts{"The whole", "All, in all", "Chart 1"}));
+    EXPECT_EQ(deck->slide(4).title()->text(), "All, in all");
+    const auto& shapes = deck->slide(5).shapes();
+    ASSERT_EQ(shapes.size(), 3U);
+    EXPECT_TRUE(shapes[1]->hasShadow());
+    EXPECT_EQ(shapes[2]->text(), bookFile);
+    const auto& box = shapes[1]->box();
+    EXPECT_EQ(fmt::format("{} {} {}", box.top, box.left, box.width), "270 96 240");
 }
 
 TEST_F(RunTest, PredefinedSlidesComeFromTheCaptionsFile) {
@@ -59,24 +61,6 @@ TEST_F(RunTest, PredefinedSlidesComeFromTheCaptionsFile) {
     EXPECT_EQ(pictures(), (Texts{"Overview", "Total"}));
 }
 
-TEST_F(RunTest, PlacementOptionsPlaceThePictures) {
-    ASSERT_EQ(
-        exportWith({"--items", "Chart 2", "--top", "0.5", "--width", "0.25", "--left", "0.1"}), 0)
-        << console.error;
-    const auto& picture = *deck->slide(3).shapes().back();
-    EXPECT_DOUBLE_EQ(picture.box().top, 270);
-    EXPECT_DOUBLE_EQ(picture.box().left, 96);
-    EXPECT_DOUBLE_EQ(picture.box().width, 240);
-}
-
-TEST_F(RunTest, StyleSourceAndShadowReachTheBatch) {
-    ASSERT_EQ(exportWith({"--items", "Chart 2", "--style", "shadow", "--source"}), 0);
-    const auto& shapes = deck->slide(3).shapes();
-    ASSERT_EQ(shapes.size(), 3U);
-    EXPECT_TRUE(shapes[1]->hasShadow());
-    EXPECT_EQ(shapes[2]->text(), bookFile);
-}
-
 TEST_F(RunTest, OnATerminalTheProgressIsDrawnAndGoneAtTheEnd) {
     console.isTerminal = true;
     ASSERT_EQ(exportWith(), 0);
@@ -87,18 +71,21 @@ TEST_F(RunTest, OnATerminalTheProgressIsDrawnAndGoneAtTheEnd) {
 }
 
 TEST_F(RunTest, WhatIsWrongWithTheFilesIsFoundOutBeforeASuiteStarts) {
-    EXPECT_EQ(run({bookFile, "--output", folder.file("missing/Out.pptx")}), 2);
-    EXPECT_TRUE(console.errorHas("missing/Out.pptx can't be written"));
-    EXPECT_EQ(run({bookFile, "--output", folder.file("Out.odp")}), 2);
-    EXPECT_EQ(run({folder.file("None.xlsx"), "--output", folder.file("Out.pptx")}), 2);
-    EXPECT_TRUE(console.errorHas("None.xlsx can't be read"));
-    EXPECT_EQ(
-        run({bookFile, "--into", folder.file("None.pptx"), "--output", folder.file("Out.pptx")}),
-        2);
-    EXPECT_EQ(run({bookFile, "--into", deckFile, "--output", deckFile, "--overwrite"}), 2);
-    EXPECT_TRUE(console.errorHas("never written over"));
-    EXPECT_EQ(exportWith({"--captions", folder.write("c.csv", "name\n")}), 2);
-    EXPECT_TRUE(console.errorHas("c.csv, line 1: unknown column"));
+    const std::string out = folder.file("Out.pptx");
+    const std::pair<std::vector<std::string>, const char*> cases[] = {
+        {{bookFile, "--output", folder.file("missing/Out.pptx")},
+         "missing/Out.pptx can't be written"},
+        {{bookFile, "--output", folder.file("Out.odp")}, "Out.odp"},
+        {{folder.file("None.xlsx"), "--output", out}, "None.xlsx can't be read"},
+        {{bookFile, "--into", folder.file("None.pptx"), "--output", out}, "None.pptx"},
+        {{bookFile, "--into", deckFile, "--output", deckFile, "--overwrite"}, "never written over"},
+        {{bookFile, "--output", out, "--captions", folder.write("c.csv", "name\n")},
+         "c.csv, line 1: unknown column"},
+    };
+    for (const auto& [words, said] : cases) {
+        EXPECT_EQ(run(words), 2) << said;
+        EXPECT_TRUE(console.errorHas(said)) << console.error;
+    }
     EXPECT_EQ(suitesStarted, 0);
 }
 

@@ -14,37 +14,17 @@ using catalogue_tests::ItemKind;
 using catalogue_tests::row;
 using session_doubles::TestSession;
 
-TEST(ListRows, AreNumberedInTheOrderOfTheCheckedOnes) {
-    ExportList list;
-    list.rows = {row("A", "S", ItemKind::Chart), row("B", "S", ItemKind::Chart, false),
-                 row("C", "S", ItemKind::Chart)};
-    for (auto& each : list.rows) each.order = "7";
-    catalogue::RenumberIncludedRows(list);
-    EXPECT_EQ(list.rows.at(0).order, "1");
-    EXPECT_EQ(list.rows.at(1).order, "");
-    EXPECT_EQ(list.rows.at(2).order, "2");
-}
-
 TEST(ListRows, AreMutedByCheckAndSlideNumber) {
-    struct Case {
-        bool checked;
-        std::string slideNumber;
-        bool isMutedInNewSlides;
-        bool isMutedInPredefined;
-    };
-    const std::vector<Case> cases = {
-        {true, "3", false, false},
-        {true, " ", false, true},
-        {false, "3", true, true},
-    };
-    for (const Case& it : cases) {
+    const std::tuple<bool, const char*, bool, bool> cases[] = {
+        {true, "3", false, false}, {true, " ", false, true}, {false, "3", true, true}};
+    for (const auto& [checked, slideNumber, isMutedInNewSlides, isMutedInPredefined] : cases) {
         ExportList list;
-        list.rows = {row("A", "S", ItemKind::Chart, it.checked)};
-        list.rows.front().slideNumber = it.slideNumber;
+        list.rows = {row("A", "S", ItemKind::Chart, checked)};
+        list.rows.front().slideNumber = slideNumber;
         catalogue::ColorListRows(list, false);
-        EXPECT_EQ(list.rows.front().isMuted, it.isMutedInNewSlides);
+        EXPECT_EQ(list.rows.front().isMuted, isMutedInNewSlides);
         catalogue::ColorListRows(list, true);
-        EXPECT_EQ(list.rows.front().isMuted, it.isMutedInPredefined);
+        EXPECT_EQ(list.rows.front().isMuted, isMutedInPredefined);
     }
 }
 
@@ -106,46 +86,28 @@ std::vector<std::string> textsOf(const ExportList& list, Field field) {
     return texts;
 }
 
-struct SortCase {
-    std::string what;
-    std::size_t column;
-    Field field;
-    std::vector<std::string> before;
-    std::vector<std::string> after;
-};
-
-class AClickOnAColumn : public testing::TestWithParam<SortCase> {};
-
-TEST_P(AClickOnAColumn, sortsAscendingByTheColumnsOwnType) {
-    const SortCase& given = GetParam();
-    ExportList list = listOf(given.before, given.field);
-    catalogue::SortByColumn(list, given.column);
-    EXPECT_EQ(textsOf(list, given.field), given.after) << given.what;
-    catalogue::SortByColumn(list, given.column);
-    EXPECT_EQ(textsOf(list, given.field), given.after) << "a second click changes nothing";
+TEST(TheList, isSortedAscendingByTheColumnsOwnType) {
+    struct Case {
+        std::size_t column;
+        Field field;
+        std::vector<std::string> before, after;
+    };
+    const Case cases[] = {
+        {1,
+         &ExportItem::name,
+         {"beta", "Übersicht", "alpha 2", "Zeit", "Beta"},
+         {"alpha 2", "beta", "Beta", "Übersicht", "Zeit"}},
+        {3, &ExportItem::slideNumber, {"9", "10", "2", ""}, {"", "10", "2", "9"}},
+        {4, &ExportItem::order, {"10", "", "9", "1"}, {"", "1", "9", "10"}},
+        {7, &ExportItem::laterRow, {"0", "-5", "3", "-20", "x"}, {"x", "-20", "-5", "0", "3"}}};
+    for (const auto& [column, field, before, after] : cases) {
+        ExportList list = listOf(before, field);
+        for (int click = 0; click < 2; ++click) {
+            catalogue::SortByColumn(list, column);
+            EXPECT_EQ(textsOf(list, field), after) << "a second click changes nothing";
+        }
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Columns, AClickOnAColumn,
-                         testing::Values(SortCase{"names, case aside",
-                                                  1,
-                                                  &ExportItem::name,
-                                                  {"beta", "Übersicht", "alpha 2", "Zeit", "Beta"},
-                                                  {"alpha 2", "beta", "Beta", "Übersicht", "Zeit"}},
-                                         SortCase{"slide numbers as text",
-                                                  3,
-                                                  &ExportItem::slideNumber,
-                                                  {"9", "10", "2", ""},
-                                                  {"", "10", "2", "9"}},
-                                         SortCase{"order by value, unchecked rows first",
-                                                  4,
-                                                  &ExportItem::order,
-                                                  {"10", "", "9", "1"},
-                                                  {"", "1", "9", "10"}},
-                                         SortCase{"negative numbers ahead of zero",
-                                                  7,
-                                                  &ExportItem::laterRow,
-                                                  {"0", "-5", "3", "-20", "x"},
-                                                  {"x", "-20", "-5", "0", "3"}}));
 
 TEST(TheList, keepsTheOrderOfEqualRowsAndTheSelectedRowWhenItIsSorted) {
     ExportList list = listOf({"2", "1", "2", "1"}, &ExportItem::order);
@@ -207,11 +169,11 @@ TEST(TheList, movesTheChosenRowsToWhereTheyAreDropped) {
 
 TEST(TheList, movesTheSelectedRowWhereNoneIsMarked) {
     ExportList list = listOfLetters("abc");
-    catalogue::MoveChosenRows(list, 1);
-    EXPECT_EQ(lettersOf(list), "abc") << "none is selected";
-    list.selected = 1;
-    catalogue::MoveChosenRows(list, 1);
-    EXPECT_EQ(lettersOf(list), "acb");
+    for (const auto& [selected, after] : {std::pair(-1, "abc"), std::pair(1, "acb")}) {
+        list.selected = selected;
+        catalogue::MoveChosenRows(list, 1);
+        EXPECT_EQ(lettersOf(list), after);
+    }
     EXPECT_EQ(list.selected, 2);
 }
 

@@ -24,9 +24,7 @@ class TheMainForm : public testing::Test {
 protected:
     TestSession test;
     forms_double::WindowlessDesktop desktop;
-    int started = 0;
     catalogue::ExportChoices choices;
-    std::vector<std::string> inserted;
     MainFormHooks hooks;
     std::vector<std::unique_ptr<UserformObj>> opened;
 
@@ -38,11 +36,6 @@ protected:
         sales.value("A1", 1.0).define("Parts", "A1:A5,C1:C5").define("Whole", "A1:B2");
         test.suite.powerPoint().addPresentation("Deck.pptx").addSlides(2);
         test.attach();
-        hooks.StartExport = [this](catalogue::ExportList&, const catalogue::ExportChoices& chosen) {
-            choices = chosen;
-            ++started;
-            return chosen.destination == catalogue::Destination::PowerPoint;
-        };
     }
 
     /// A new main form, which stays as an object when it is closed.
@@ -127,15 +120,6 @@ std::string checks(UserformObj& form) {
     return all;
 }
 
-TEST_F(TheMainForm, showsTheTextsOfWhicheverRowIsSelectedFromTheStartOn) {
-    keepCaption();
-    UserformObj& form = open();
-    EXPECT_EQ(form.SlideTitle.text() + form.TextBox10.text(), "Kept2");
-    EXPECT_EQ(form.focus, &form.listCharts);
-    form.listCharts.click(2);
-    EXPECT_EQ(form.SlideTitle.text(), "") << "the row that is refused has texts of its own too";
-}
-
 TEST_F(TheMainForm, takesCaptionsOneAfterTheOtherWithoutTheMouse) {
     UserformObj& form = open();
     forms_double::press(form, "AddCaption");
@@ -183,23 +167,24 @@ TEST_F(TheMainForm, checksMovesAndClearsAllRowsThatAreChosen) {
 TEST_F(TheMainForm, givesTheRoomThatItGainsToTheListAndThePreview) {
     UserformObj& form = open();
     desktop.advance(1s);
-    const auto placesOf = [&] {
+    const auto placesAfter = [&](forms::Twips wider, forms::Twips higher) {
+        form.place.width += wider;
+        form.place.height += higher;
+        form.Form_Resize();
         std::vector<forms::Place> places;
         for (const auto* control : form.controls()) places.push_back(control->place);
         return places;
     };
-    const auto natural = placesOf();
+    const auto natural = placesAfter(0, 0);
     const auto list = form.listCharts.place;
     const auto preview = form.imgChart.place;
-    const auto columns = form.listCharts.columns;
-    form.place.width += 3000;
-    form.place.height += 1500;
-    form.Form_Resize();
+    const auto caption = form.listCharts.columns[4].width;
+    placesAfter(3000, 1500);
     EXPECT_EQ(form.listCharts.place.width + form.imgChart.place.width,
               list.width + preview.width + 3000);
     EXPECT_EQ(form.listCharts.place.height, list.height + 1500);
     EXPECT_EQ(form.imgChart.place.height, preview.height + 1500);
-    EXPECT_GT(form.listCharts.columns[4].width, columns[4].width);
+    EXPECT_GT(form.listCharts.columns[4].width, caption);
     // What stood apart stands apart, within the form.
     const forms::Control* rows[] = {&form.Frame4, &form.Frame1, &form.Frame3, &form.PasteIT};
     for (std::size_t i = 0; i + 1 < std::size(rows); ++i) {
@@ -207,10 +192,7 @@ TEST_F(TheMainForm, givesTheRoomThatItGainsToTheListAndThePreview) {
     }
     EXPECT_LE(form.PasteIT.place.left + form.PasteIT.place.width, form.place.width);
     EXPECT_LE(form.listCharts.place.left + form.listCharts.place.width, form.imgChart.place.left);
-    form.place.width -= 3000;
-    form.place.height -= 1500;
-    form.Form_Resize();
-    EXPECT_EQ(placesOf(), natural);
+    EXPECT_EQ(placesAfter(-3000, -1500), natural);
 }
 
 TEST_F(TheMainForm, offersADestinationByThePictureInItsShape) {
@@ -258,22 +240,24 @@ TEST_F(TheMainForm, refusesARangeOfSeveralAreas) {
               "Murvane does not support multiple selection. This item could not be pasted");
 }
 
-TEST_F(TheMainForm, writesCaptionAndSlideNumberThroughToTheSelectedRow) {
+TEST_F(TheMainForm, writesCaptionAndSlideNumberThroughToTheSelectedRowAndShowsThemAgain) {
     UserformObj& form = open();
     form.listCharts.click(1);
     form.SlideTitle.setText("Sales\tin May");
     form.TextBox10.setText("12a");
     EXPECT_EQ(form.list().rows[1].caption, "Sales\tin May");
     EXPECT_EQ(form.list().rows[1].slideNumber, "12");
-    form.TextBox10.setText(" 7");
-    EXPECT_EQ(form.list().rows[1].slideNumber, "7");
-    form.listCharts.click(0);
-    EXPECT_EQ(form.SlideTitle.text(), "");
+    form.listCharts.click(2);
+    EXPECT_EQ(form.SlideTitle.text(), "") << "the row that is refused has texts of its own too";
     form.listCharts.click(1);
-    EXPECT_EQ(form.SlideTitle.text(), "Sales\tin May");
-    EXPECT_EQ(form.TextBox10.text(), "7");
+    EXPECT_EQ(form.SlideTitle.text() + form.TextBox10.text(), "Sales\tin May12");
     form.TextBox10.setText("-");
     EXPECT_EQ(form.TextBox10.text(), "") << "a lone sign is wiped";
+    closeAndAttach(form);
+    keepCaption();
+    UserformObj& again = open();
+    EXPECT_EQ(again.SlideTitle.text() + again.TextBox10.text(), "Kept2") << "from the start on";
+    EXPECT_EQ(again.focus, &again.listCharts);
 }
 
 TEST_F(TheMainForm, previewsTheRowThatIsClicked) {
@@ -291,6 +275,7 @@ TEST_F(TheMainForm, previewsTheRowThatIsClicked) {
 TEST_F(TheMainForm, putsOneItemOnItsSlideAndTakesNoInputMeanwhile) {
     bool tookInput = true;
     bool succeeds = false;
+    std::vector<std::string> inserted;
     hooks.InsertOneItem = [&](const catalogue::ExportItem& row, const auto&) {
         inserted.push_back(row.name);
         tookInput = desktop.findLoaded("UserformObj")->takesInput;
@@ -308,40 +293,18 @@ TEST_F(TheMainForm, putsOneItemOnItsSlideAndTakesNoInputMeanwhile) {
     EXPECT_EQ(desktop.messages[0].text, "Done!");
 }
 
-TEST_F(TheMainForm, startsAnExportOnlyAfterTheReview) {
-    UserformObj& form = open();
-    forms_double::press(form, "PasteIT");
-    EXPECT_EQ(started, 1);
-    form.OptionFormat[2].setValue(true);
-    form.OptionPredefSlides.setValue(true);
-    for (auto& row : form.list().rows) row.slideNumber = "1";
-    forms_double::press(form, "PasteIT");
-    EXPECT_EQ(started, 2);
-    EXPECT_EQ(choices.format, catalogue::ExportFormat::Embedded);
-    EXPECT_TRUE(choices.predefinedSlides);
-    form.Check1.setValue(CheckBox::State::Unchecked);
-    forms_double::press(form, "PasteIT");
-    EXPECT_EQ(started, 2);
-    ASSERT_FALSE(test.notices.shown.empty());
-    EXPECT_EQ(test.notices.shown.back().title, "Export blocked");
-    form.Option1[3].setValue(true);
-    form.Check1.setValue(CheckBox::State::Checked);
-    forms_double::press(form, "PasteIT");
-    EXPECT_EQ(test.notices.messages().back(), "The export to PDF is not part of this version yet.");
-}
-
-TEST_F(TheMainForm, keepsItsListAheadOfWhatMayEndTheProgram) {
+TEST_F(TheMainForm, startsAnExportOnlyAfterTheReviewAndKeepsItsListAheadOfWhatMayEndTheProgram) {
     std::vector<std::string> stored;
-    const auto look = [&] {
-        stored.push_back(
-            test.sheet(session::store::sheetName).get("Range", "T1").get("Value").toText());
+    const auto storedCaption = [&] {
+        return test.sheet(session::store::sheetName).get("Range", "T1").get("Value").toText();
     };
-    hooks.StartExport = [&](auto&, const auto&) {
-        look();
-        return true;
+    hooks.StartExport = [&](auto&, const auto& chosen) {
+        stored.push_back(storedCaption());
+        choices = chosen;
+        return chosen.destination == catalogue::Destination::PowerPoint;
     };
     hooks.InsertOneItem = [&](const auto&, const auto&) {
-        look();
+        stored.push_back(storedCaption());
         return false;
     };
     UserformObj& form = open();
@@ -349,7 +312,21 @@ TEST_F(TheMainForm, keepsItsListAheadOfWhatMayEndTheProgram) {
     forms_double::press(form, "PasteIT");
     form.SlideTitle.setText("Second");
     form.imgChart.onDblClick();
-    EXPECT_EQ(stored, (std::vector<std::string>{"First", "Second"}));
+    form.OptionFormat[2].setValue(true);
+    form.OptionPredefSlides.setValue(true);
+    for (auto& row : form.list().rows) row.slideNumber = "1";
+    forms_double::press(form, "PasteIT");
+    EXPECT_EQ(choices.format, catalogue::ExportFormat::Embedded);
+    EXPECT_TRUE(choices.predefinedSlides);
+    form.Check1.setValue(CheckBox::State::Unchecked);
+    forms_double::press(form, "PasteIT");
+    EXPECT_EQ(stored, (std::vector<std::string>{"First", "Second", "Second"}));
+    ASSERT_FALSE(test.notices.shown.empty());
+    EXPECT_EQ(test.notices.shown.back().title, "Export blocked");
+    form.Option1[3].setValue(true);
+    form.Check1.setValue(CheckBox::State::Checked);
+    forms_double::press(form, "PasteIT");
+    EXPECT_EQ(test.notices.messages().back(), "The export to PDF is not part of this version yet.");
 }
 
 TEST_F(TheMainForm, leavesTheStoredListAloneIfItsOwnNeverCameUp) {

@@ -5,6 +5,7 @@
 
 #include "catalogue/review.h"
 #include "loaded_list.h"
+#include "office/text.h"
 #include "panels/notices.h"
 
 namespace {

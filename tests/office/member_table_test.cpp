@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "office/failure.h"
 #include "office/member_table.h"
 #include "office/model/model_object.h"
 

@@ -8,16 +8,15 @@
 
 namespace {
 
-using panels::ActionPanel;
 using panels_tests::expectApproved;
 
-void expectPanel(const ActionPanel& panel, const std::string& name) {
+void expectPanel(const panels::ActionPanel& panel, const std::string& name) {
     expectApproved(
         panels_tests::withoutStyle(panels::BuildActionPanelHtml(panel), panels::PanelCss()), name);
 }
 
 TEST(PanelPage, ShowsASummaryWithToolsOptionsAndFooter) {
-    ActionPanel panel;
+    panels::ActionPanel panel;
     panel.message =
         "3 object(s) will be pasted to\rQ3 <draft>.pptx\ras Pictures\rstarting at slide 4";
     panel.kind = "info";
@@ -32,7 +31,7 @@ TEST(PanelPage, ShowsASummaryWithToolsOptionsAndFooter) {
 }
 
 TEST(PanelPage, ShowsTheChoicesAndFieldsOfAnImageExport) {
-    ActionPanel panel;
+    panels::ActionPanel panel;
     panel.message = "2 image file(s) will be saved to C:\\MurvaneImages";
     panel.kind = "success";
     panel.destinationWord = "Images";
@@ -45,7 +44,7 @@ TEST(PanelPage, ShowsTheChoicesAndFieldsOfAnImageExport) {
 }
 
 TEST(PanelPage, FallsBackOnParagraphsAndDrawsNoEmptyBlocks) {
-    ActionPanel panel;
+    panels::ActionPanel panel;
     panel.message = "No objects were selected for pasting\r\n\r\nCheck \"at least\" one";
     panel.kind = "Warn";
     panel.destinationWord = "PowerPoint";

@@ -25,7 +25,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr auto patience = std::chrono::seconds(10);
-constexpr auto pollInterval = std::chrono::milliseconds(10);
+constexpr auto pipePollInterval = std::chrono::milliseconds(10);
 
 /// Where the name of the pipe is remembered that the running suite was asked for, so that every run
 /// finds the same one instead of having another opened. The name is random: nobody else can have
@@ -77,7 +77,7 @@ std::shared_ptr<Connection> connectToRunning() {
             launcher.waitFor(patience);
             return connection;
         }
-        std::this_thread::sleep_for(pollInterval);
+        std::this_thread::sleep_for(pipePollInterval);
     }
     throw office::Failure(
         office::FailureNumber::ApplicationDefined, "LibreOffice",

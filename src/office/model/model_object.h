@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -11,54 +10,39 @@
 
 namespace office::model {
 
-/// Base of the classes of an object model. `Self` has `static const MemberTable<Self>& members()`.
-template <class Self>
-class ModelObject : public Automation {
+/// Base of the classes of an object model: each member runs through the guard.
+class GuardedObject : public Automation {
 public:
-    explicit ModelObject(GuardPtr guard) : guard_(std::move(guard)) {}
+    explicit GuardedObject(GuardPtr guard) : guard_(std::move(guard)) {}
 
-    [[nodiscard]] std::string typeName() const final { return Self::members().className(); }
+    [[nodiscard]] std::string typeName() const final { return memberTable().className(); }
 
-    Value get(std::string_view member, const Arguments& arguments) final {
-        return read(MemberUse::Kind::Get, member, arguments);
-    }
-    Value call(std::string_view member, const Arguments& arguments) final {
-        return read(MemberUse::Kind::Call, member, arguments);
-    }
-    void put(std::string_view member, const Arguments& arguments, const Value& value) final {
-        run(MemberUse::Kind::Put, member, arguments, &value, [&] {
-            Self::members().write(self(), member, arguments, value);
-            return Value();
-        });
-    }
+    Value get(std::string_view member, const Arguments& arguments) final;
+    Value call(std::string_view member, const Arguments& arguments) final;
+    void put(std::string_view member, const Arguments& arguments, const Value& value) final;
 
     [[nodiscard]] const GuardPtr& guard() const { return guard_; }
 
 protected:
+    [[nodiscard]] virtual const Members& memberTable() const = 0;
     /// `Failure` Disconnected if what the object stands for has been closed or deleted. Asked ahead
     /// of each member.
     virtual void requireAlive(std::string_view /*member*/) const {}
 
 private:
-    Self& self() { return static_cast<Self&>(*this); }
-
-    Value read(MemberUse::Kind kind, std::string_view member, const Arguments& arguments) {
-        return run(kind, member, arguments, nullptr,
-                   [&] { return Self::members().read(self(), member, arguments); });
-    }
-
-    template <class Statement>
-    Value run(MemberUse::Kind kind, std::string_view member, const Arguments& arguments,
-              const Value* value, const Statement& statement) {
-        const auto whileAlive = [&]() -> Value {
-            requireAlive(member);
-            return statement();
-        };
-        return guard_->run({kind, Self::members().className(), member, arguments, value},
-                           std::cref(whileAlive));
-    }
+    Value run(const MemberUse& use);
 
     GuardPtr guard_;
+};
+
+/// The same for a class with `static const MemberTable<Self>& members()`.
+template <class Self>
+class ModelObject : public GuardedObject {
+public:
+    using GuardedObject::GuardedObject;
+
+protected:
+    [[nodiscard]] const Members& memberTable() const final { return Self::members(); }
 };
 
 /// A new model object as the core sees it.

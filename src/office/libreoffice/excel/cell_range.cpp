@@ -19,8 +19,8 @@ namespace libreoffice::excel {
 
 namespace {
 
-constexpr sal_Int32 contents = css::sheet::CellFlags::VALUE | css::sheet::CellFlags::DATETIME |
-                               css::sheet::CellFlags::STRING | css::sheet::CellFlags::FORMULA;
+constexpr sal_Int32 allContents = css::sheet::CellFlags::VALUE | css::sheet::CellFlags::DATETIME |
+                                  css::sheet::CellFlags::STRING | css::sheet::CellFlags::FORMULA;
 
 }  // namespace
 
@@ -38,7 +38,7 @@ void CellRange::write(const office::Table& values) {
 }
 
 void CellRange::clear() {
-    as<css::sheet::XSheetOperation>(range())->clearContents(contents);
+    as<css::sheet::XSheetOperation>(range())->clearContents(allContents);
 }
 
 std::string CellRange::numberFormat() {
@@ -85,7 +85,7 @@ void CellRange::hide(model::Lines lines, bool hidden) {
 
 std::vector<std::pair<std::int32_t, std::int32_t>> CellRange::filledRows() {
     const auto filled = as<css::sheet::XCellRangesQuery>(range())
-                            ->queryContentCells(static_cast<sal_Int16>(contents))
+                            ->queryContentCells(static_cast<sal_Int16>(allContents))
                             ->getRangeAddresses();
     std::vector<std::pair<std::int32_t, std::int32_t>> found;
     for (const css::table::CellRangeAddress& part : filled)
