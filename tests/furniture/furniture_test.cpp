@@ -4,11 +4,13 @@
 #include <string>
 #include <vector>
 
+#include "forms/web_browser.h"
 #include "forms_double/user.h"
 #include "forms_double/windowless_desktop.h"
 #include "furniture/progress_bar.h"
 #include "furniture/progress_form.h"
 #include "furniture/shadow.h"
+#include "furniture/theme.h"
 #include "furniture/title_bar.h"
 
 namespace {
@@ -86,6 +88,23 @@ TEST_F(Furniture, TheProgressFormStartsAtNoneOfItsItemsEachTime) {
         EXPECT_EQ(form.shadowDepthPx, 7);
         forms_double::close(form);
     }
+}
+
+TEST_F(Furniture, AThemePaintsThePageOfABrowserOnceItIsComplete) {
+    forms::WebBrowser browser(sheet, "wbStatus", {});
+    desktop.show(sheet, forms::ShowMode::Modeless);
+    desktop.page.completes = false;
+    browser.navigate("file:///nowhere.html");
+    desktop.letEventsRun();
+    furniture::ApplyTheme(sheet);
+    EXPECT_TRUE(desktop.browser(sheet)->styles.empty());
+    desktop.page.completes = true;
+    desktop.letEventsRun();
+    furniture::ApplyTheme(sheet);
+    EXPECT_EQ(desktop.browser(sheet)->styles.at("background-color"), "#111827");
+    EXPECT_EQ(desktop.browser(sheet)->styles.at("height"), "100%");
+    EXPECT_EQ(desktop.browser(sheet)->bodyStyles.at("margin"), "0");
+    EXPECT_FALSE(desktop.browser(sheet)->styles.contains("margin"));
 }
 
 }  // namespace

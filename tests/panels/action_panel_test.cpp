@@ -73,15 +73,6 @@ protected:
     Sheet sheet{desktop, 9000, 7200};
 };
 
-TEST_F(ActionPanel, StandsOnTopOfEverythingAboveTheDefaultButton) {
-    panels::SetupActionPanel(sheet, sheet.wbStatus, sheet.bar());
-    EXPECT_EQ(sheet.ContinueOk.caption, "Continue  >");
-    EXPECT_TRUE(sheet.ContinueOk.isDefault);
-    for (const forms::Control* control : sheet.controls()) {
-        EXPECT_TRUE(control == &sheet.wbStatus || control->layer() < sheet.wbStatus.layer());
-    }
-}
-
 TEST_F(ActionPanel, KeepsAReadableHeightOnASmallForm) {
     struct Case {
         forms::Twips formHeight;

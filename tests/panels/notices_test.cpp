@@ -3,18 +3,18 @@
 #include <string>
 #include <vector>
 
-#include "approved.h"
 #include "panels/notices.h"
 #include "panels/style_sheets.h"
 #include "session_doubles/recording_notices.h"
+#include "support/approved.h"
 
 namespace {
 
-using panels_tests::expectApproved;
 using session_doubles::RecordingNotices;
+using support::expectApproved;
 
 void expectNotice(const std::string& page, const std::string& name) {
-    expectApproved(panels_tests::withoutStyle(page, panels::NoticeCss()), name);
+    expectApproved(support::withoutStyle(page, panels::NoticeCss()), name);
 }
 
 TEST(NoticePage, IsACardWithTheMessageAsParagraphs) {

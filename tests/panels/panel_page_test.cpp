@@ -2,17 +2,17 @@
 
 #include <string>
 
-#include "approved.h"
 #include "panels/panel_page.h"
 #include "panels/style_sheets.h"
+#include "support/approved.h"
 
 namespace {
 
-using panels_tests::expectApproved;
+using support::expectApproved;
 
 void expectPanel(const panels::ActionPanel& panel, const std::string& name) {
-    expectApproved(
-        panels_tests::withoutStyle(panels::BuildActionPanelHtml(panel), panels::PanelCss()), name);
+    expectApproved(support::withoutStyle(panels::BuildActionPanelHtml(panel), panels::PanelCss()),
+                   name);
 }
 
 TEST(PanelPage, ShowsASummaryWithToolsOptionsAndFooter) {

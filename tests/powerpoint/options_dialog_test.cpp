@@ -106,6 +106,9 @@ TEST_F(PowerPointDialog, FlipsAnOptionByItsLinkAndShowsItAnew) {
         dialog.ToggleOption("SOURCEINC");
         EXPECT_TRUE(dialog.SourceInc.isChecked());
         dialog.ToggleOption("other");
+        EXPECT_FALSE(dialog.CheckShadow.isChecked());
+        dialog.ToggleOption("checkShadow");
+        EXPECT_TRUE(dialog.CheckShadow.isChecked());
         EXPECT_FALSE(dialog.wbStatus_BeforeNavigate2("file:///a.html"));
     });
 }
@@ -172,6 +175,7 @@ TEST_F(PowerPointDialog, HandsItsOptionsToTheExportAndEndsTheSession) {
     EXPECT_TRUE(session.PowerPointApp.isNothing());
     EXPECT_FALSE(session.ExcelApp || session.SessionPresentation || session.MainFormOpen);
     EXPECT_EQ(progress.calls.front(), "item 0 of 2");
+    EXPECT_EQ(suite.log().texts("DisplayAlerts").front(), "Application.DisplayAlerts = False");
 }
 
 TEST_F(PowerPointDialog, ExportsToThePresentationThatItNamesWhateverTheUserLooksAtMeanwhile) {

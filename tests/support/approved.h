@@ -9,7 +9,7 @@
 
 #include "office/text.h"
 
-namespace panels_tests {
+namespace support {
 
 /// A page or sheet is one line. It is kept and compared with a line break behind every rule and
 /// every tag that is followed by another, so that a reviewer can read it.
@@ -25,13 +25,10 @@ inline std::string withoutStyle(const std::string& page, const std::string& shee
     return office::replaceAll(page, head, "<style></style>");
 }
 
-/// Passes if the page equals the approved text of this name. Otherwise the page as received is left
+/// Passes if the text equals the approved one of this name. Otherwise the text as received is left
 /// in the build folder, from where it can be compared and, once read and found right, copied over
 /// the approved one.
-inline void expectApproved(const std::string& page, const std::string& name) {
-    ASSERT_EQ(page.find('\n'), std::string::npos) << "a page is one line";
-    const std::string received = brokenForReading(page);
-
+inline void expectApprovedText(const std::string& received, const std::string& name) {
     std::ifstream file(std::filesystem::path(APPROVED_FOLDER) / name);
     std::ostringstream approved;
     approved << file.rdbuf();
@@ -42,4 +39,10 @@ inline void expectApproved(const std::string& page, const std::string& name) {
     ADD_FAILURE() << "not as approved: compare approved/" << name << " with " << place;
 }
 
-}  // namespace panels_tests
+/// The same of a page or sheet.
+inline void expectApproved(const std::string& page, const std::string& name) {
+    ASSERT_EQ(page.find('\n'), std::string::npos) << "a page is one line";
+    expectApprovedText(brokenForReading(page), name);
+}
+
+}  // namespace support
