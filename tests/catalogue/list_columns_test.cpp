@@ -1,19 +1,15 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <vector>
+#include <tuple>
 
 #include "catalogue/list_columns.h"
+#include "catalogue/number_entry.h"
 
 namespace {
 
 TEST(ListColumns, ShareTheWidthOfTheList) {
-    struct Case {
-        std::int32_t listWidth;
-        bool predefinedSlides;
-        std::array<std::int32_t, 5> widths;
-    };
-    const std::vector<Case> cases = {
+    const std::tuple<std::int32_t, bool, std::array<std::int32_t, 5>> cases[] = {
         // usable 6375: 32, 16 and 12 per cent
         {6915, false, {2040, 1020, 0, 765, 2550}},
         // usable 5655: sum 1809 + 904 + 720 + 2264 = 5697 with order at its floor, scaled
@@ -25,12 +21,21 @@ TEST(ListColumns, ShareTheWidthOfTheList) {
         // its own
         {3000, true, {900, 565, 720, 522, 600}},
     };
-    for (const Case& it : cases) {
-        const auto widths = catalogue::SizeListColumns(it.listWidth, it.predefinedSlides);
-        for (std::size_t i = 0; i < it.widths.size(); ++i) {
-            EXPECT_EQ(widths.at(i), it.widths.at(i)) << it.listWidth << ", column " << i + 1;
-        }
+    for (const auto& [listWidth, predefinedSlides, expected] : cases) {
+        const auto widths = catalogue::SizeListColumns(listWidth, predefinedSlides);
+        for (std::size_t i = 0; i < expected.size(); ++i)
+            EXPECT_EQ(widths.at(i), expected.at(i)) << listWidth << ", column " << i + 1;
         EXPECT_EQ(widths.at(5) + widths.at(6) + widths.at(7), 0);
+    }
+}
+
+TEST(ANumberBox, losesTheLastCharacterOfWhatIsNoNumber) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"", ""},       {"12", "12"},   {"12a", "12"}, {"-", "-"},  {"-5", "-5"},  {"1.5", "1.5"},
+        {"1,5", "1,5"}, {"1e3", "1e3"}, {" 7", " 7"},  {"7é", "7"}, {"abc", "ab"}, {"1-", "1"},
+    };
+    for (const auto& [typed, kept] : cases) {
+        EXPECT_EQ(catalogue::Validate_Number_Entry(typed), kept) << typed;
     }
 }
 

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -43,11 +44,8 @@ protected:
         const std::string markup = catalogue::reviewExport(test.session, list, choices).Blockers;
         const std::string text = office::replaceAll(panels::listText(markup), "\r\n", "\n");
         Words lines;
-        for (std::size_t start = 0; start < text.size();) {
-            const std::size_t end = std::min(text.find('\n', start), text.size());
-            lines.push_back(text.substr(start, end - start));
-            start = end + 1;
-        }
+        std::istringstream stream(text);
+        for (std::string line; std::getline(stream, line);) lines.push_back(line);
         return lines;
     }
 };
@@ -67,14 +65,20 @@ TEST_F(Review, LetsAReadyExportGoWithoutAWord) {
 TEST_F(Review, CollectsTheBlockersOfItemsAndDestination) {
     list.rows.front().checked = false;
     EXPECT_EQ(blockers(), (Words{nothingChecked, noPowerPoint}));
-}
-
-TEST_F(Review, BlocksWhereAllCheckedItemsAreHidden) {
     list.rows = {row("Chart 2", "Hidden", session::ItemKind::Chart)};
     choices.destination = Destination::Html;
     EXPECT_EQ(blockers(),
               Words{"All checked items are on hidden worksheets and cannot be exported. Show those "
                     "sheets or uncheck them."});
+    list.rows = {row("Chart 1", "Sales", session::ItemKind::Chart)};
+    choices.destination = Destination::Word;
+    EXPECT_EQ(blockers(),
+              Words{"Word is not running. Open Word with an active document, then try again."});
+    choices.destination = Destination::PowerPoint;
+    test.suite.powerPoint();
+    EXPECT_EQ(blockers(),
+              Words{"No PowerPoint presentation is open. Open or create a presentation, then try "
+                    "again."});
 }
 
 TEST_F(Review, BlocksARangeOfSeveralAreasForEveryDestination) {
@@ -112,13 +116,6 @@ TEST_F(Review, AsksWhetherToGoOnWithoutTheHiddenItems) {
               "Continue anyway?");
 }
 
-TEST_F(Review, WantsAPresentation) {
-    test.suite.powerPoint();
-    EXPECT_EQ(blockers(),
-              Words{"No PowerPoint presentation is open. Open or create a presentation, then try "
-                    "again."});
-}
-
 TEST_F(Review, AttachesAgainWhereTheFirstReferenceDoesNotAnswer) {
     openDeck(1);
     test.suite.failures().fail("Presentations.Count");
@@ -129,11 +126,7 @@ TEST_F(Review, AttachesAgainWhereTheFirstReferenceDoesNotAnswer) {
 
 TEST_F(Review, ChecksTheSlideNumbersWhereSlidesArePredefined) {
     openDeck(3);
-    struct Case {
-        std::string number;
-        Words blockers;
-    };
-    const std::vector<Case> cases = {
+    const std::pair<std::string, Words> cases[] = {
         {"3", {}},
         {"1.6", {}},
         {" 2 ", {}},
@@ -145,9 +138,9 @@ TEST_F(Review, ChecksTheSlideNumbersWhereSlidesArePredefined) {
         {"9999999999",
          {"Slide 2147483647 for \"Chart 1\" exceeds the presentation size (3 slides)."}},
     };
-    for (const Case& it : cases) {
-        predefine(it.number);
-        EXPECT_EQ(blockers(), it.blockers) << it.number;
+    for (const auto& [number, expected] : cases) {
+        predefine(number);
+        EXPECT_EQ(blockers(), expected) << number;
     }
     choices.predefinedSlides = false;
     EXPECT_EQ(blockers(), Words{}) << "the numbers don't matter where slides are new";
@@ -167,12 +160,6 @@ TEST_F(Review, SaysThatThePresentationCannotBeRead) {
     predefine("2");
     test.suite.failures().failAlways("Slides.Count");
     EXPECT_EQ(blockers(), Words{"Could not read the open PowerPoint presentation."});
-}
-
-TEST_F(Review, WantsWordToRun) {
-    choices.destination = Destination::Word;
-    EXPECT_EQ(blockers(),
-              Words{"Word is not running. Open Word with an active document, then try again."});
 }
 
 TEST_F(Review, EscapesNamesInItsPage) {

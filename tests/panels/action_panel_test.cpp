@@ -15,13 +15,7 @@ namespace {
 using forms::Place;
 
 TEST(PanelLinks, GiveTheKeyBehindTheirPrefix) {
-    struct Case {
-        std::string url;
-        std::string action;
-        std::string toggle;
-        std::string select;
-    };
-    const std::vector<Case> cases = {
+    const std::tuple<std::string, std::string, std::string, std::string> cases[] = {
         {"murvane://action/style", "style", "", ""},
         {"murvane://toggle/slideTitle", "", "slideTitle", ""},
         {"murvane://select/format/png", "", "", "format/png"},
@@ -33,14 +27,14 @@ TEST(PanelLinks, GiveTheKeyBehindTheirPrefix) {
         {"file:///temporary/MurvaneDialogStatus.html", "", "", ""},
         {"", "", "", ""},
     };
-    for (const Case& it : cases) {
-        EXPECT_EQ(panels::ActionKeyFromUrl(it.url), it.action) << it.url;
-        EXPECT_EQ(panels::ToggleKeyFromUrl(it.url), it.toggle) << it.url;
-        EXPECT_EQ(panels::SelectKeyFromUrl(it.url), it.select) << it.url;
+    for (const auto& [url, action, toggle, select] : cases) {
+        EXPECT_EQ(panels::ActionKeyFromUrl(url), action) << url;
+        EXPECT_EQ(panels::ToggleKeyFromUrl(url), toggle) << url;
+        EXPECT_EQ(panels::SelectKeyFromUrl(url), select) << url;
         for (const bool before : {false, true}) {
             bool cancel = before;
-            EXPECT_EQ(panels::CancelIfToggle(it.url, cancel), it.toggle) << it.url;
-            EXPECT_EQ(cancel, before || !it.toggle.empty()) << it.url;
+            EXPECT_EQ(panels::CancelIfToggle(url, cancel), toggle) << url;
+            EXPECT_EQ(cancel, before || !toggle.empty()) << url;
         }
     }
 }
@@ -74,18 +68,13 @@ protected:
 };
 
 TEST_F(ActionPanel, KeepsAReadableHeightOnASmallForm) {
-    struct Case {
-        forms::Twips formHeight;
-        forms::Twips maximum;
-        forms::Twips height;
-    };
-    const std::vector<Case> cases = {
+    const std::tuple<forms::Twips, forms::Twips, forms::Twips> cases[] = {
         {7200, 0, 5667}, {7200, 3000, 3000}, {7200, 900, 1500}, {2000, 0, 1500}, {500, 0, 1500}};
-    for (const Case& it : cases) {
-        Sheet form(desktop, 6000, it.formHeight);
+    for (const auto& [formHeight, maximum, height] : cases) {
+        Sheet form(desktop, 6000, formHeight);
         panels::LayoutActionBar(form, form.bar());
-        panels::LayoutActionBrowser(form, form.wbStatus, form.lblActionBar, 720, 48, it.maximum);
-        EXPECT_EQ(form.wbStatus.place, (Place{120, 720, 5760, it.height})) << it.formHeight;
+        panels::LayoutActionBrowser(form, form.wbStatus, form.lblActionBar, 720, 48, maximum);
+        EXPECT_EQ(form.wbStatus.place, (Place{120, 720, 5760, height})) << formHeight;
     }
 }
 

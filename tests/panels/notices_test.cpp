@@ -1,3 +1,4 @@
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -25,20 +26,8 @@ TEST(NoticePage, IsACardWithTheMessageAsParagraphs) {
     expectNotice(panels::noticePage(notice), "notice_success.html");
 }
 
-TEST(NoticePage, TakesThePageThatTheCallerComposed) {
-    session::Notice notice;
-    notice.message = "not this";
-    notice.page = "<p>this</p>";
-    EXPECT_EQ(panels::noticePage(notice), "<p>this</p>");
-}
-
-TEST(NoticePage, HasTheBadgeOfItsKindUnlessOneIsGiven) {
-    struct Case {
-        std::string kind;
-        std::string given;
-        std::string badge;
-    };
-    const std::vector<Case> cases = {
+TEST(NoticePage, HasTheBadgeOfItsKindUnlessOneIsGivenOrThePageIsTheCallers) {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
         {"info", "", "Murvane notice"},
         {" Warn ", "", "Please review and continue"},
         {"fatal", "", "Murvane notice"},
@@ -46,11 +35,14 @@ TEST(NoticePage, HasTheBadgeOfItsKindUnlessOneIsGiven) {
         {"success", "", "Completed successfully"},
         {"error", "Check <1>", "Check &lt;1&gt;"},
     };
-    for (const Case& it : cases) {
-        const std::string page = panels::BuildNoticeHtml("T", "", it.kind, it.given);
-        EXPECT_NE(page.find("<div class=\"badge\">" + it.badge + "</div>"), std::string::npos)
-            << it.kind;
+    for (const auto& [kind, given, badge] : cases) {
+        const std::string page = panels::BuildNoticeHtml("T", "", kind, given);
+        EXPECT_NE(page.find(fmt::format("<div class=\"badge\">{}</div>", badge)), std::string::npos)
+            << kind;
     }
+    session::Notice notice;
+    notice.page = "<p>this</p>";
+    EXPECT_EQ(panels::noticePage(notice), "<p>this</p>");
 }
 
 TEST(BlockedNotice, ListsWhatToFixAndWhatToReview) {

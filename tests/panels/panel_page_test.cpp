@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "panels/markup.h"
 #include "panels/panel_page.h"
 #include "panels/style_sheets.h"
 #include "support/approved.h"
@@ -64,6 +65,21 @@ TEST(PanelBlocks, HaveNoLinkWhileDisabledAndVanishWhileEmpty) {
               "<div class=\"opts\"><i>rows</i></div>");
     EXPECT_EQ(panels::ToolButtonHtml("style", "Style", "icon", "  ").find("title"),
               std::string::npos);
+}
+
+TEST(Markup, EscapesTheFiveCharactersOnceEachAndMakesAParagraphOfEveryLineThatIsNotBlank) {
+    EXPECT_EQ(panels::HtmlEscape(R"(<b> & "it's")"), "&lt;b&gt; &amp; &quot;it&#39;s&quot;");
+    EXPECT_EQ(panels::HtmlEscape("&amp; Größe – 5 €"), "&amp;amp; Größe – 5 €");
+    const std::pair<const char*, const char*> cases[] = {
+        {"one", "<p>one</p>"},
+        {"  one  \r\n\r\n two", "<p>one</p><p>two</p>"},
+        {"one\rtwo\nthree", "<p>one</p><p>two</p><p>three</p>"},
+        {"a < b", "<p>a &lt; b</p>"},
+        {"", "<p></p>"},
+        {" \r ", "<p> \r </p>"},
+    };
+    for (const auto& [text, paragraphs] : cases)
+        EXPECT_EQ(panels::TextToParagraphs(text), paragraphs) << text;
 }
 
 }  // namespace

@@ -28,11 +28,7 @@ std::string summaryOf(const Expected& parts) {
 }
 
 TEST(Summary, TellsCountLeadDestinationFormatAndDetailApart) {
-    struct Case {
-        std::string message;
-        Expected parts;
-    };
-    const std::vector<Case> cases = {
+    const std::pair<std::string, Expected> cases[] = {
         {"3 object(s) will be pasted to\r\nBook1.pptx\r\nas Pictures",
          {"3", "object(s) will be pasted to", "Book1.pptx", "Pictures", ""}},
         {"3 object(s) will be pasted to\rBook1.pptx\ras Pictures",
@@ -51,9 +47,8 @@ TEST(Summary, TellsCountLeadDestinationFormatAndDetailApart) {
          {"3", "3 object(s) will be", "C:\\MurvaneHTML\\MurvaneXXX.Html", "", ""}},
         {"1 object\n<Deck>", {"1", "object", "&lt;Deck&gt;", "", ""}},
     };
-    for (const Case& it : cases) {
-        EXPECT_EQ(BuildSummaryHtml(it.message, ""), summaryOf(it.parts)) << it.message;
-    }
+    for (const auto& [message, parts] : cases)
+        EXPECT_EQ(BuildSummaryHtml(message, ""), summaryOf(parts)) << message;
 }
 
 TEST(Summary, IsEmptyForAMessageOfAnotherShape) {
@@ -64,17 +59,12 @@ TEST(Summary, IsEmptyForAMessageOfAnotherShape) {
 }
 
 TEST(Summary, DrawsABadgeForEveryDestinationThatItKnows) {
-    struct Case {
-        std::string word;
-        std::string badge;
-    };
-    for (const Case& it :
-         {Case{"PowerPoint", "app-badge ppt\">PPT<"}, Case{" pp ", "app-badge ppt\">PPT<"},
-          Case{"Word", "app-badge word\">DOC<"}, Case{"PDF", "app-badge pdf\">PDF<"},
-          Case{"htm", "app-badge html\">HTML<"}, Case{"folder", "app-badge images\">IMG<"}}) {
-        EXPECT_NE(BuildSummaryHtml("2 objects\nDeck", it.word).find(it.badge), std::string::npos)
-            << it.word;
-    }
+    const std::pair<const char*, const char*> cases[] = {
+        {"PowerPoint", "app-badge ppt\">PPT<"}, {" pp ", "app-badge ppt\">PPT<"},
+        {"Word", "app-badge word\">DOC<"},      {"PDF", "app-badge pdf\">PDF<"},
+        {"htm", "app-badge html\">HTML<"},      {"folder", "app-badge images\">IMG<"}};
+    for (const auto& [word, badge] : cases)
+        EXPECT_NE(BuildSummaryHtml("2 objects\nDeck", word).find(badge), std::string::npos) << word;
 }
 
 }  // namespace
