@@ -107,12 +107,7 @@ TEST_F(MemberTableTest, SortsNamedArgumentsIntoTheirPlaces) {
 }
 
 TEST_F(MemberTableTest, NamesClassAndMemberOfWhatItRefuses) {
-    struct Refusal {
-        std::function<void()> statement;
-        FailureNumber number;
-        std::string source;
-    };
-    const std::vector<Refusal> refusals = {
+    const std::tuple<std::function<void()>, FailureNumber, const char*> refusals[] = {
         {[&] { object.get("Weight"); }, FailureNumber::NoSuchMember, "Lamp.Weight"},
         {[&] { object.put("Weight", 1); }, FailureNumber::NoSuchMember, "Lamp.Weight"},
         {[&] { object.put("Serial", 18); }, FailureNumber::NoSuchMember, "Lamp.Serial"},

@@ -7,6 +7,7 @@
 
 #include "office/failure.h"
 #include "office/value.h"
+#include "support/automation.h"
 
 namespace {
 
@@ -16,67 +17,51 @@ using office::Object;
 using office::Table;
 using office::Value;
 
-/// The number of the failure that a statement ends in; 0 if it goes through.
-template <class Statement>
-std::int32_t failureOf(Statement&& statement) {
-    try {
-        statement();
-        return 0;
-    } catch (const Failure& failure) {
-        return failure.number();
-    }
-}
+using support::failureOf;
 
 constexpr auto mismatch = static_cast<std::int32_t>(FailureNumber::TypeMismatch);
 
-struct Conversion {
-    const char* what;
-    Value value;
-    std::optional<std::string> text;
-    std::optional<double> number;
-    std::optional<bool> flag;
-};
+/// What a conversion gives, nothing where it fails with a mismatch.
+template <class Conversion>
+auto converted(const Conversion& conversion) -> std::optional<decltype(conversion())> {
+    try {
+        return conversion();
+    } catch (const Failure& failure) {
+        EXPECT_TRUE(failure.is(FailureNumber::TypeMismatch));
+        return std::nullopt;
+    }
+}
 
 TEST(Value, ConvertsByTheRulesOfAutomation) {
     Table cell(1, 1);
-    const std::vector<Conversion> conversions = {
-        {"empty", Value(), "", 0.0, false},
-        {"true", true, "True", -1.0, true},
-        {"false", false, "False", 0.0, false},
-        {"integer", 7, "7", 7.0, true},
-        {"double", 2.5, "2.5", 2.5, true},
-        {"a whole double", 3.0, "3", 3.0, true},
-        {"minus nothing", -0.0, "0", 0.0, false},
-        {"text", "Sales", "Sales", std::nullopt, std::nullopt},
-        {"a text that is a number", " 12.5 ", " 12.5 ", 12.5, true},
-        {"a text with an exponent", "1e3", "1e3", 1000.0, true},
-        {"a text with a plus", "+4", "+4", 4.0, true},
-        {"a number with words behind it", "12 px", "12 px", std::nullopt, std::nullopt},
-        {"a decimal comma", "1,5", "1,5", std::nullopt, std::nullopt},
-        {"infinity", "inf", "inf", std::nullopt, std::nullopt},
-        {"an empty text", "", "", std::nullopt, std::nullopt},
-        {"the word true", " TRUE", " TRUE", std::nullopt, true},
-        {"missing", office::missing, std::nullopt, std::nullopt, std::nullopt},
-        {"nothing as object", Object(), std::nullopt, std::nullopt, std::nullopt},
-        {"a table", cell, std::nullopt, std::nullopt, std::nullopt},
-    };
+    using Texts = std::optional<std::string>;
+    const std::tuple<const char*, Value, Texts, std::optional<double>, std::optional<bool>>
+        conversions[] = {
+            {"empty", Value(), "", 0.0, false},
+            {"true", true, "True", -1.0, true},
+            {"false", false, "False", 0.0, false},
+            {"integer", 7, "7", 7.0, true},
+            {"double", 2.5, "2.5", 2.5, true},
+            {"a whole double", 3.0, "3", 3.0, true},
+            {"minus nothing", -0.0, "0", 0.0, false},
+            {"text", "Sales", "Sales", std::nullopt, std::nullopt},
+            {"a text that is a number", " 12.5 ", " 12.5 ", 12.5, true},
+            {"a text with an exponent", "1e3", "1e3", 1000.0, true},
+            {"a text with a plus", "+4", "+4", 4.0, true},
+            {"a number with words behind it", "12 px", "12 px", std::nullopt, std::nullopt},
+            {"a decimal comma", "1,5", "1,5", std::nullopt, std::nullopt},
+            {"infinity", "inf", "inf", std::nullopt, std::nullopt},
+            {"an empty text", "", "", std::nullopt, std::nullopt},
+            {"the word true", " TRUE", " TRUE", std::nullopt, true},
+            {"missing", office::missing, std::nullopt, std::nullopt, std::nullopt},
+            {"nothing as object", Object(), std::nullopt, std::nullopt, std::nullopt},
+            {"a table", cell, std::nullopt, std::nullopt, std::nullopt},
+        };
     for (const auto& [what, value, text, number, flag] : conversions) {
         SCOPED_TRACE(what);
-        if (text) {
-            EXPECT_EQ(value.toText(), *text);
-        } else {
-            EXPECT_EQ(failureOf([&v = value] { (void)v.toText(); }), mismatch);
-        }
-        if (number) {
-            EXPECT_EQ(value.toDouble(), *number);
-        } else {
-            EXPECT_EQ(failureOf([&v = value] { (void)v.toDouble(); }), mismatch);
-        }
-        if (flag) {
-            EXPECT_EQ(value.toBool(), *flag);
-        } else {
-            EXPECT_EQ(failureOf([&v = value] { (void)v.toBool(); }), mismatch);
-        }
+        EXPECT_EQ(converted([&v = value] { return v.toText(); }), text);
+        EXPECT_EQ(converted([&v = value] { return v.toDouble(); }), number);
+        EXPECT_EQ(converted([&v = value] { return v.toBool(); }), flag);
     }
 }
 

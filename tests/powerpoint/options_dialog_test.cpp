@@ -90,6 +90,10 @@ TEST_F(PowerPointDialog, TellsHowManyObjectsGoWhereAndOffersWhatTheirFormatHas) 
             EXPECT_EQ(browser->hasLink("murvane://action/style"), it.hasTools) << it.name;
             EXPECT_EQ(browser->hasLink("murvane://action/layout"), it.hasTools) << it.name;
             EXPECT_EQ(browser->hasLink("murvane://toggle/checkShadow"), it.hasShadow) << it.name;
+            if (it.format == ExportFormat::Pictures) return;
+            press(dialog, "ContinueOk");
+            EXPECT_TRUE(shows(dialog, "can&#39;t export in this format yet")) << it.name;
+            EXPECT_EQ(deck.slides().size(), 3U);
         });
     }
 }
@@ -204,33 +208,21 @@ TEST_F(PowerPointDialog, ExportsToThePresentationThatItNamesWhateverTheUserLooks
     EXPECT_EQ(suite.raisedWindow(), suite.findWindow("", "Deck.pptx - PowerPoint"));
 }
 
-TEST_F(PowerPointDialog, SaysWhichFormatsThisVersionHasNotGot) {
-    choices.format = ExportFormat::Embedded;
-    open([&](powerpoint::Dialog& dialog) {
-        press(dialog, "ContinueOk");
-        EXPECT_TRUE(shows(dialog, "can&#39;t export in this format yet"));
-    });
-    EXPECT_EQ(deck.slides().size(), 3U);
-}
-
 TEST_F(PowerPointDialog, RefusesASlideNumberBeyondTheDeck) {
-    struct Case {
-        std::string number;
-        bool runs;
-    };
+    const std::pair<const char*, bool> cases[] = {{"3", true},  {"3.4", true},  {"2 ", true},
+                                                  {"4", false}, {"3.6", false}, {"70000", false}};
     choices.predefinedSlides = true;
-    for (const Case& it : {Case{"3", true}, Case{"3.4", true}, Case{"2 ", true}, Case{"4", false},
-                           Case{"3.6", false}, Case{"70000", false}}) {
+    for (const auto& [number, runs] : cases) {
         attachAgain();
         notices.shown.clear();
         progress.calls.clear();
-        list.rows[0].slideNumber = it.number;
+        list.rows[0].slideNumber = number;
         open([&](powerpoint::Dialog& dialog) {
             press(dialog, "ContinueOk");
-            EXPECT_EQ(desktop.isLoaded(dialog), !it.runs) << it.number;
+            EXPECT_EQ(desktop.isLoaded(dialog), !runs) << number;
         });
-        EXPECT_EQ(notices.messages(), it.runs ? Strings{} : Strings{numberTooHigh});
-        EXPECT_EQ(progress.calls.size(), it.runs ? 5U : 0U) << it.number;
+        EXPECT_EQ(notices.messages(), runs ? Strings{} : Strings{numberTooHigh});
+        EXPECT_EQ(progress.calls.size(), runs ? 5U : 0U) << number;
     }
 }
 
@@ -248,12 +240,6 @@ TEST_F(PowerPointDialog, StaysOpenWhenThePresentationHasGoneAndNamesAnotherOneFi
         EXPECT_EQ(other.slides().size(), 2U);
         EXPECT_FALSE(desktop.isLoaded(dialog));
     });
-}
-
-TEST_F(PowerPointDialog, LeavesAFailureOfTheBatchToItsCaller) {
-    suite.failures().fail("Shapes.AddPicture");
-    EXPECT_THROW(open([&](powerpoint::Dialog& dialog) { press(dialog, "ContinueOk"); }),
-                 office::Failure);
 }
 
 TEST_F(PowerPointDialog, WorksWithoutAPanel) {

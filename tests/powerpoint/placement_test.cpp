@@ -5,6 +5,7 @@
 
 namespace {
 
+using office::Value;
 using office_double::Box;
 using office_double::Layout;
 using office_double::Shape;
@@ -18,18 +19,15 @@ void expectBox(const Box& box, const Box& expected, std::string_view what) {
 }
 
 TEST_F(ExportStage, APictureIsCutOnEachSideForItselfAndCentred) {
-    struct Case {
-        Box natural;
-        Box fitted;
-    };
     // Slides are 960 by 540.
-    for (const Case& it : {Case{{0, 0, 240, 150}, {360, 195, 240, 150}},
-                           Case{{0, 0, 1920, 150}, {48, 195, 864, 150}},
-                           Case{{0, 0, 1920, 1080}, {48, 27, 864, 486}},
-                           Case{{0, 0, 864, 10}, {48, 265, 864, 10}}}) {
-        Shape& picture = deck.addSlide().shape(Shape::Kind::Picture, "Picture", it.natural);
+    const std::pair<Box, Box> cases[] = {{{0, 0, 240, 150}, {360, 195, 240, 150}},
+                                         {{0, 0, 1920, 150}, {48, 195, 864, 150}},
+                                         {{0, 0, 1920, 1080}, {48, 27, 864, 486}},
+                                         {{0, 0, 864, 10}, {48, 265, 864, 10}}};
+    for (const auto& [natural, fitted] : cases) {
+        Shape& picture = deck.addSlide().shape(Shape::Kind::Picture, "Picture", natural);
         powerpoint::FitPictureToSlide(picture.handle(), deck.handle());
-        expectBox(picture.box(), it.fitted, fmt::format("{} wide", it.natural.width));
+        expectBox(picture.box(), fitted, fmt::format("{} wide", natural.width));
     }
 }
 
@@ -70,40 +68,32 @@ TEST_F(PlacementTest, WithoutAStoreNothingMoves) {
     EXPECT_EQ(suite.locksTaken(), 0);
 }
 
-struct PlacedCase {
-    const char* what;
-    office::Value top;
-    office::Value width;
-    office::Value left;
-    Box natural;
-    Box placed;
-};
-
 TEST_F(PlacementTest, PlacesAsTheStoreSaysAndKeepsTheShapeVisible) {
-    const office::Value open;
+    const Value open;
     const Box square = {0, 0, 400, 400};
     const Box flat = {0, 0, 1000, 100};
     // Five hundredths of the slide are 48 by 27, and the margin at its foot is at 513.
-    for (const PlacedCase& it : std::vector<PlacedCase>{
-             {"open", open, open, open, flat, {48, 136.08, 864, 86.4}},
-             {"words", "Default", "Default", "Default", flat, {48, 136.08, 864, 86.4}},
-             {"shares", 0.5, 0.25, 0.1, {0, 0, 480, 240}, {96, 270, 240, 120}},
-             {"shrunk at the foot, then centred in whole points",
-              0.5,
-              0.9,
-              open,
-              square,
-              {358, 270, 243, 243}},
-             {"cut at the right edge", 0.3, 0.9, 0.5, flat, {480, 162, 480, 48}},
-             {"no width", 0.0, 0.0, 0.0, square, {0, 0, 48, 48}},
-             {"top at the foot", 1.0, 0.5, 0.0, square, {0, 486, 27, 27}},
-             {"top below the margin", 0.97, 0.5, open, square, {466, 486, 27, 27}},
-             {"left at the right edge", 0.0, 0.5, 1.0, square, {912, 0, 48, 48}},
-             {"off the slide", -3.0, 7.0, -2.0, square, {0, 0, 513, 513}}}) {
-        storePlacement(it.top, it.width, it.left);
-        Shape& picture = pictureOf(it.natural.width, it.natural.height);
+    const std::tuple<const char*, Value, Value, Value, Box, Box> cases[] = {
+        {"open", open, open, open, flat, {48, 136.08, 864, 86.4}},
+        {"words", "Default", "Default", "Default", flat, {48, 136.08, 864, 86.4}},
+        {"shares", 0.5, 0.25, 0.1, {0, 0, 480, 240}, {96, 270, 240, 120}},
+        {"shrunk at the foot, then centred in whole points",
+         0.5,
+         0.9,
+         open,
+         square,
+         {358, 270, 243, 243}},
+        {"cut at the right edge", 0.3, 0.9, 0.5, flat, {480, 162, 480, 48}},
+        {"no width", 0.0, 0.0, 0.0, square, {0, 0, 48, 48}},
+        {"top at the foot", 1.0, 0.5, 0.0, square, {0, 486, 27, 27}},
+        {"top below the margin", 0.97, 0.5, open, square, {466, 486, 27, 27}},
+        {"left at the right edge", 0.0, 0.5, 1.0, square, {912, 0, 48, 48}},
+        {"off the slide", -3.0, 7.0, -2.0, square, {0, 0, 513, 513}}};
+    for (const auto& [what, top, width, left, natural, placed] : cases) {
+        storePlacement(top, width, left);
+        Shape& picture = pictureOf(natural.width, natural.height);
         place();
-        expectBox(picture.box(), it.placed, it.what);
+        expectBox(picture.box(), placed, what);
     }
     EXPECT_EQ(suite.locksTaken(), 10);
     EXPECT_EQ(suite.lockedWindow(), 0U);

@@ -59,18 +59,10 @@ Shown shown(const std::array<forms::OptionButton, 2>& options, const forms::Slid
 }
 
 TEST_F(ToolForms, ShowWhatTheStoreHolds) {
-    struct Case {
-        Value top;
-        Value width;
-        Value left;
-        Shown shownTop;
-        Shown shownWidth;
-        Shown shownLeft;
-    };
     const Shown defaultTop = {true, 75, false};
     const Shown defaultWidth = {true, 90, false};
     const Shown defaultLeft = {true, 10, false};
-    const std::vector<Case> cases = {
+    const std::tuple<Value, Value, Value, Shown, Shown, Shown> cases[] = {
         {"Default", "Default", "Default", defaultTop, defaultWidth, defaultLeft},
         {Value(), Value(), Value(), defaultTop, defaultWidth, defaultLeft},
         {0.25, 0.5, 0.0, {false, 75, true}, {false, 50, true}, {false, 0, true}},
@@ -78,34 +70,27 @@ TEST_F(ToolForms, ShowWhatTheStoreHolds) {
         {"here", "Default", "there", defaultTop, defaultWidth, defaultLeft},
         {0.114, 7e30, -3.0, {false, 89, true}, {false, 100, true}, {false, 0, true}},
     };
-    for (const Case& it : cases) {
-        store(it.top, it.width, it.left);
+    for (const auto& [top, width, left, shownTop, shownWidth, shownLeft] : cases) {
+        store(top, width, left);
         desktop.load(layout);
-        EXPECT_EQ(shown(layout.OptionTop, layout.TopSlider, layout.Label1), it.shownTop);
-        EXPECT_EQ(shown(layout.OptionWidth, layout.WidthSlider, layout.Label2), it.shownWidth);
-        EXPECT_EQ(shown(layout.OptionAlign, layout.AlignSlider, layout.Label3), it.shownLeft);
+        EXPECT_EQ(shown(layout.OptionTop, layout.TopSlider, layout.Label1), shownTop);
+        EXPECT_EQ(shown(layout.OptionWidth, layout.WidthSlider, layout.Label2), shownWidth);
+        EXPECT_EQ(shown(layout.OptionAlign, layout.AlignSlider, layout.Label3), shownLeft);
         desktop.unload(layout);
     }
 }
 
-TEST_F(ToolForms, AnOptionTurnsItsSliderOnAndOff) {
-    desktop.load(layout);
-    choose(layout, "OptionWidth", 1);
-    EXPECT_EQ(shown(layout.OptionWidth, layout.WidthSlider, layout.Label2),
-              (Shown{false, 90, true}));
-    EXPECT_FALSE(layout.TopSlider.enabled || layout.AlignSlider.enabled);
-    layout.WidthSlider.setValue(65);
-    EXPECT_EQ(layout.Label2.caption, "65% of the width");
-    choose(layout, "OptionWidth", 0);
-    EXPECT_EQ(shown(layout.OptionWidth, layout.WidthSlider, layout.Label2),
-              (Shown{true, 65, false}));
-}
-
-TEST_F(ToolForms, ApplyWritesTheStoreForTheExportsOfThisRun) {
+TEST_F(ToolForms, AnOptionTurnsItsSliderOnAndApplyWritesTheStoreForTheExportsOfThisRun) {
+    const auto width = [&] { return shown(layout.OptionWidth, layout.WidthSlider, layout.Label2); };
     store(0.25, "Default", 0.3);
     desktop.load(layout);
     choose(layout, "OptionWidth", 1);
+    EXPECT_EQ(width(), (Shown{false, 90, true}));
+    choose(layout, "OptionWidth", 0);
+    EXPECT_EQ(width(), (Shown{true, 90, false}));
+    choose(layout, "OptionWidth", 1);
     layout.WidthSlider.setValue(65);
+    EXPECT_EQ(layout.Label2.caption, "65% of the width");
     choose(layout, "OptionAlign", 0);
     press(layout, "CloseLayout");
     EXPECT_DOUBLE_EQ(stored("O1").toDouble(), 0.25);
@@ -113,14 +98,6 @@ TEST_F(ToolForms, ApplyWritesTheStoreForTheExportsOfThisRun) {
     EXPECT_EQ(stored("R1").toText(), "Default");
     EXPECT_TRUE(layout.isApplied());
     EXPECT_FALSE(desktop.isLoaded(layout));
-}
-
-TEST_F(ToolForms, ApplyMakesAStoreWhereThereIsNone) {
-    desktop.load(layout);
-    EXPECT_EQ(shown(layout.OptionTop, layout.TopSlider, layout.Label1), (Shown{true, 75, false}));
-    press(layout, "CloseLayout");
-    EXPECT_EQ(stored("O1").toText(), "Default");
-    EXPECT_EQ(test.sheet(session::store::sheetName).get("Visible").toLong(), 2);
 }
 
 TEST_F(ToolForms, ApplySaysWhyNothingWasKeptAndClosingWritesNothing) {
@@ -141,6 +118,7 @@ TEST_F(ToolForms, TheUtilityMakesTheStoreAndSaysWhatKeepsItFromComingUp) {
     desktop.answer("LayoutForm", [](forms::Form& form) { press(form, "CloseLayout"); });
     powerpoint::ShowLayoutUtility(test.session, desktop);
     EXPECT_EQ(stored("O1").toText(), "Default");
+    EXPECT_EQ(test.sheet(session::store::sheetName).get("Visible").toLong(), 2);
     desktop.opensWindows = false;
     powerpoint::ShowLayoutUtility(test.session, desktop);
     test.session.ActiveBook.release();

@@ -1,19 +1,49 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
-#include "command_recorder.h"
 #include "office/failure.h"
 #include "session/launcher.h"
 #include "session/web_pages.h"
+#include "session/workbook_store.h"
 #include "session_doubles/test_session.h"
+#include "support/automation.h"
 
 namespace {
 
 using session_doubles::TestSession;
-using session_tests::CommandRecorder;
 using Words = std::vector<std::string>;
+
+/// Handlers of all commands; each notes that it ran. The main form closes at once.
+struct CommandRecorder {
+    explicit CommandRecorder(session::OfficeSession& theSession) : session(theSession) {
+        handlers.CountWorkbookItems = [this] {
+            ran.emplace_back("count");
+            session.ItemCount = itemsToCount;
+        };
+        handlers.ShowAboutForm = [this] { ran.emplace_back("about"); };
+        handlers.ShowLayoutUtility = [this] { ran.emplace_back("layout"); };
+        handlers.ShowMainForm = [this] {
+            ran.emplace_back("main form");
+            session.MainFormOpen = false;
+        };
+        handlers.PasteSelectionToSlide = [this](session::SlidePaste mode) {
+            ran.push_back("slide " + std::to_string(static_cast<int>(mode)));
+        };
+        handlers.PasteSelectionToWord = [this](session::WordPaste mode) {
+            ran.push_back("word " + std::to_string(static_cast<int>(mode)));
+        };
+        handlers.SaveSelectionAsImage = [this] { ran.emplace_back("image"); };
+        handlers.UnloadAllForms = [this] { ran.emplace_back("unload all"); };
+    }
+
+    session::OfficeSession& session;
+    session::CommandHandlers handlers;
+    std::vector<std::string> ran;
+    std::int16_t itemsToCount = 1;
+};
 
 class Launcher : public testing::Test {
 protected:
@@ -66,12 +96,10 @@ TEST_F(Launcher, RunsTheHandlerOfEachCodeAndLeavesThroughTheOneWayOut) {
 }
 
 TEST_F(Launcher, OpensTheWebPagesWithoutAnyApplication) {
-    run("/001");
-    run("/002");
-    run("/003");
-    EXPECT_EQ(test.host.links, (Words{std::string(session::address::docOverview),
-                                      std::string(session::address::docOverview) + "#faqs",
-                                      std::string(session::address::contact)}));
+    for (const char* code : {"/001", "/002", "/003"}) run(code);
+    const std::string overview(session::address::docOverview);
+    EXPECT_EQ(test.host.links,
+              (Words{overview, overview + "#faqs", std::string(session::address::contact)}));
 }
 
 TEST_F(Launcher, EndsWithoutAWordWhereExcelIsMissing) {
@@ -98,12 +126,7 @@ TEST_F(Launcher, GoesOnWithoutWhatItCannotRead) {
 
 TEST_F(Launcher, FailsWithoutClosingForTheCodeThatHasNoForm) {
     openWorkbook();
-    try {
-        run("/922");
-        FAIL() << "the failure must reach the program";
-    } catch (const office::Failure& failure) {
-        EXPECT_TRUE(failure.is(office::FailureNumber::ObjectNotSet));
-    }
+    EXPECT_EQ(support::failureOf([&] { run("/922"); }), 91);
     EXPECT_TRUE(recorder.ran.empty());
     EXPECT_TRUE(test.session.ExcelApp);
 }
@@ -159,6 +182,82 @@ TEST_F(Launcher, RefusesAnEmbeddedPasteOfCellsUnderAChart) {
     test.suite.excel().addWorkbook("Book2.xlsx").chartSheet("Overview");
     run("/3122");
     EXPECT_EQ(recorder.ran.at(1), "slide 2");
+}
+
+class MainForm : public Launcher {
+protected:
+    office_double::Workbook& book = openWorkbook();
+
+    [[nodiscard]] bool formWasShown() const {
+        return std::count(recorder.ran.begin(), recorder.ran.end(), "main form") > 0;
+    }
+};
+
+TEST_F(MainForm, IsShownOnceTheWorkbookHasItsStoreAndKeepsTheCommandRunning) {
+    int pumpsUntilClosed = 3;
+    recorder.handlers.ShowMainForm = [&] {
+        recorder.ran.emplace_back("main form");
+        EXPECT_TRUE(session::SheetExists(test.session, session::store::sheetName));
+        test.host.pumps = 0;
+    };
+    test.host.onEvents = [&] {
+        if (formWasShown() && --pumpsUntilClosed == 0) test.session.MainFormOpen = false;
+    };
+    EXPECT_EQ(run("/112"), 0);
+    EXPECT_TRUE(formWasShown());
+    EXPECT_EQ(test.host.pumps, 3);
+}
+
+TEST_F(MainForm, LeavesAWorkbookWithoutItemsAlone) {
+    recorder.itemsToCount = 0;
+    run("/112");
+    EXPECT_FALSE(formWasShown());
+    EXPECT_EQ(book.findTab(session::store::sheetName), nullptr);
+    EXPECT_EQ(test.notices.messages(),
+              Words{"Murvane didn't find any chart ot named range to paste from the current "
+                    "workbook!\r\rPlease open another workbook or create at least one chart or "
+                    "named range in the current one in order to open Murvane main form in batch "
+                    "mode"});
+}
+
+TEST_F(MainForm, RefusesAWorkbookThatCannotTakeAStoreAndSaysWhatToDo) {
+    book.protectStructure();
+    run("/112");
+    EXPECT_EQ(test.notices.shown.back().kind, "warning");
+    book.readOnly();
+    run("/112");
+    EXPECT_FALSE(formWasShown());
+    EXPECT_EQ(book.findTab(session::store::sheetName), nullptr);
+    EXPECT_EQ(test.notices.messages(),
+              (Words{"              The workbook looks protected\r\r"
+                     "Please remove the protection and reopen Murvane\r"
+                     "After that you may reprotect the workbook.\r"
+                     "The message will not longer appear",
+                     "The workbook is read-only, and Murvane keeps its list in the workbook.\r"
+                     "Open it for editing or save it under another name,\rthen reopen Murvane."}));
+}
+
+TEST_F(MainForm, OpensForAProtectedWorkbookThatHasItsStore) {
+    book.sheet(session::store::sheetName).veryHide();
+    book.protectStructure();
+    run("/112");
+    EXPECT_TRUE(formWasShown() && test.notices.shown.empty());
+}
+
+TEST_F(Launcher, OffersToOpenAWorkbookForTheMainFormAndEndsThere) {
+    test.suite.excel().addFile("/documents/Budget.xlsx", [](auto&) {});
+    test.suite.excel().answerOpenPrompt("/documents/Budget.xlsx");
+    for (const int answer : {session::answer::cancel, session::answer::ok}) {
+        test.notices.shown.clear();
+        test.notices.answers = {answer};
+        run("/112");
+        EXPECT_EQ(test.notices.messages(),
+                  Words{"Murvane didn't found an open Excel file \r\rWould you want to open one?"});
+        EXPECT_EQ(test.notices.shown.front().buttons, 33);
+        EXPECT_EQ(test.suite.excel().findOpen("Budget.xlsx") != nullptr,
+                  answer == session::answer::ok);
+        EXPECT_EQ(recorder.ran, Words{"unload all"});
+    }
 }
 
 TEST(Closing, LetsGoOfEverythingAndEndsNoApplication) {

@@ -5,6 +5,7 @@
 
 #include "session/workbook_store.h"
 #include "session_doubles/test_session.h"
+#include "support/automation.h"
 
 namespace {
 
@@ -45,16 +46,13 @@ TEST_F(WorkbookStore, IsAVeryHiddenSheetWithItsNamesAndFormats) {
     session::EnsureStoreSheet(test.session);
     const office::Object sheet = test.sheet(store::sheetName);
     EXPECT_EQ(sheet.get("Visible").toLong(), 2);
-    EXPECT_EQ(sheet.get("Range", "C7").get("NumberFormat").toText(), "@");
-    EXPECT_EQ(sheet.get("Range", "D7").get("NumberFormat").toText(), "0");
-    EXPECT_EQ(sheet.get("Range", "H7").get("NumberFormat").toText(), "@");
-    EXPECT_EQ(sheet.get("Range", "T7").get("NumberFormat").toText(), "@");
-
+    for (const auto& [cell, format] : {std::pair("C7", "@"), {"D7", "0"}, {"H7", "@"}, {"T7", "@"}})
+        EXPECT_EQ(sheet.get("Range", cell).get("NumberFormat").toText(), format) << cell;
     const office::Value names = test.session.ActiveBook.get("Names");
-    EXPECT_EQ(names.get("Item", store::itemsName).get("RefersToRange").get("Address").toText(),
-              "$A:$H");
-    EXPECT_EQ(names.get("Item", store::reservedName).get("RefersToRange").get("Address").toText(),
-              "$O$23:$V$30");
+    support::expectMembers(names.get("Item", store::itemsName),
+                           {{"RefersToRange.Address", "$A:$H"}});
+    support::expectMembers(names.get("Item", store::reservedName),
+                           {{"RefersToRange.Address", "$O$23:$V$30"}});
 }
 
 TEST_F(WorkbookStore, CannotBeMadeInAProtectedWorkbookAndSaysNothing) {
@@ -101,9 +99,7 @@ TEST_F(WorkbookStore, KeepsTextsAsTextAndTheOrderAsANumber) {
         {"D1", 12.0},      {"E1", true},           {"F1", "Embedded"},
         {"G1", "9"},       {"H1", "Chart 1Sales"}, {"T1", "007"}};
     for (const auto& [address, value] : cells) {
-        const office::Value held = test.sheet(store::sheetName).get("Range", address).get("Value");
-        EXPECT_EQ(held.isText(), value.isText()) << address;
-        EXPECT_EQ(held.toText(), value.toText()) << address;
+        support::expectCell(test.sheet(store::sheetName).get("Range", address).get("Value"), value);
     }
 }
 

@@ -4,8 +4,11 @@
 #include <tuple>
 #include <vector>
 
+#include "session/file_names.h"
+#include "session/waits.h"
 #include "session/workbook_prompt.h"
 #include "session_doubles/test_session.h"
+#include "support/automation.h"
 
 namespace {
 
@@ -47,6 +50,38 @@ TEST(FileInUse, IsTheFallbackForAFileThatIsNotThere) {
     test.host.heldFiles = {"/held"};
     for (const auto& [name, fallback, isOpen] : cases)
         EXPECT_EQ(session::IsFileOpen(test.session, name, fallback), isOpen) << name;
+}
+
+TEST(FileNames, MayBeAnythingThatStaysInItsFolder) {
+    for (const char* name : {"Chart 1.png", "Größe.png", "..png", "a:b", "EmbeddedChart_.png"})
+        EXPECT_NO_THROW(session::requireFileName(name)) << name;
+    for (const std::string name : {"", ".", "..", "../a", "a/b", "a\\b", "a\nb", "a\x7F"})
+        EXPECT_EQ(support::failureOf([&] { session::requireFileName(name); }), 75) << name;
+    EXPECT_EQ(support::failureOf([&] { session::requireFileName(std::string("a\0b", 3)); }), 75);
+}
+
+TEST(Waits, LastAsLongAsTheySayWithAnAsynchronousClipboardAlone) {
+    TestSession test;
+    session::WaitMilliseconds(test.session, 250);
+    EXPECT_EQ(test.host.sleptMs, 0U);
+    EXPECT_EQ(test.host.pumps, 1);
+    test.suite.setPacing(office::Pacing::Asynchronous);
+    session::WaitMilliseconds(test.session, 250);
+    EXPECT_EQ(test.host.sleptMs, 250U);
+    EXPECT_EQ(test.host.pumps, 251);
+    session::WaitMilliseconds(test.session, 0);
+    EXPECT_EQ(test.host.sleptMs, 250U);
+}
+
+TEST(Waits, EndWhenTheClockWrapsAround) {
+    TestSession test;
+    test.suite.setPacing(office::Pacing::Asynchronous);
+    for (const std::uint32_t start : {0xFFFFFFF0U, 0x7FFFFFF0U}) {
+        test.host.now = start;
+        session::WaitMilliseconds(test.session, 100);
+        EXPECT_LE(test.host.sleptMs, 100U);
+        test.host.sleptMs = 0;
+    }
 }
 
 }  // namespace
