@@ -27,9 +27,10 @@ class AtTheScreen(unittest.TestCase):
 
     def open_sample(self, *names):
         """Copies of the samples, open in the suite."""
-        for name in names or (DECK, BOOK):
+        names = names or (DECK, BOOK)
+        for name in names:
             shutil.copy(SAMPLES / name, self.folder / name)
-            self.screen.open_in_suite(self.folder / name)
+        self.screen.open_in_suite(*(self.folder / name for name in names))
 
     def open_main_form(self):
         hand = self.screen.use("/112")

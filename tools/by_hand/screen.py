@@ -90,27 +90,30 @@ class Screen:
             return server, ":" + number.readline().strip()
 
     def open_in_suite(self, *documents):
-        """As a user does who double-clicks them: the first starts the suite, without a pipe to listen on."""
+        """As a user does who opens them in one go: the suite starts, without a pipe to listen on."""
         profile = self.folder / "home" / ".config" / "libreoffice" / "4" / "user"
         if not profile.exists():
             profile.mkdir(parents=True)
             shutil.copy(pathlib.Path(__file__).parent / "quiet-suite.xcu", profile / "registrymodifications.xcu")
-        for document in documents:
-            # LibreOffice now and then comes up without the document that it was started with; a user asks again.
-            for patience in (20, 60):
-                process = subprocess.Popen(["soffice", "--nologo", "--norestore", str(document)], env=self.environment,
-                                           stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True)
-                if self.suite is None or self.suite.poll() is not None:
-                    self.suite = process
-                else:
-                    process.wait(60)  # hands the document over and ends
-                try:
-                    wait_until(lambda: self.window_named(pathlib.Path(document).name), patience,
-                               f"the window of {document}")
-                    break
-                except AssertionError:
-                    if patience == 60:
-                        raise
+        # LibreOffice now and then comes up without a document that it was started with; a user asks again.
+        for patience in (20, 60):
+            missing = [each for each in documents if not self.window_named(pathlib.Path(each).name)]
+            if not missing:
+                return
+            process = subprocess.Popen(["soffice", "--nologo", "--norestore", *map(str, missing)],
+                                       env=self.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                                       start_new_session=True)
+            if self.suite is None or self.suite.poll() is not None:
+                self.suite = process
+            else:
+                process.wait(60)  # hands the documents over and ends
+            try:
+                wait_until(lambda: all(self.window_named(pathlib.Path(each).name) for each in documents), patience,
+                           f"the windows of {documents}")
+                return
+            except AssertionError:
+                if patience == 60:
+                    raise
 
     def window_named(self, text):
         found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", text.replace(".", r"\.")],
