@@ -54,6 +54,7 @@ TEST(Captions, AFileThatDoesNotFitIsRefusedWithItsLine) {
         {"item,caption\nOverview,x\nOverwiev,y\n", "line 3: The workbook has no item \"Overwiev\""},
         {"item,caption\nChart 1,x\n", "line 2: \"Chart 1\" is the name of 2 items"},
         {"item,sheet,caption\nChart 1,West,x\n", "no item \"Chart 1@West\""},
+        {"item,caption\n\"Over\nview\",\n\n,B\n", "line 5: the item has no name"},
         {"a\n\"b", "c.csv, line 2: a double quote is never closed."},
         {"\"a\"b", "c.csv, line 1: text follows a closing double quote."},
         {"a\nb\nGr\xF6\xDF", "c.csv, line 3: this is not UTF-8."},
@@ -73,40 +74,27 @@ TEST(Captions, AFileThatDoesNotFitIsRefusedWithItsLine) {
 
 using Fields = std::vector<std::string>;
 
-std::vector<Fields> fieldsOf(std::string_view text) {
-    std::vector<Fields> all;
-    for (const auto& record : unattended::parseCsv(text, "file.csv")) all.push_back(record.fields);
-    return all;
-}
-
-struct CsvCase {
-    const char* what;
-    std::string text;
-    std::vector<Fields> records;
-};
-
 TEST(Csv, IsReadAsItIsMeant) {
-    const CsvCase cases[] = {{"nothing", "", {}},
-                             {"lines of all kinds",
-                              "a,b\nc,d\r\ne,f\rg,h",
-                              {{"a", "b"}, {"c", "d"}, {"e", "f"}, {"g", "h"}}},
-                             {"empty fields", ",\n", {{"", ""}}},
-                             {"empty lines", "a\n\n\nb\n", {{"a"}, {"b"}}},
-                             {"quotes", "\"a,b\",\"say \"\"so\"\"\"", {{"a,b", "say \"so\""}}},
-                             {"a line break in quotes", "\"one\ntwo\",x", {{"one\ntwo", "x"}}},
-                             {"an empty quoted field", "\"\",x", {{"", "x"}}},
-                             {"a byte-order mark", "\xEF\xBB\xBF\"a\",b", {{"a", "b"}}},
-                             {"semicolons", "a;b\n1,5;2", {{"a", "b"}, {"1,5", "2"}}},
-                             {"a semicolon among commas", "a,b;c", {{"a", "b;c"}}},
-                             {"other scripts", "Größe,売上,😀", {{"Größe", "売上", "😀"}}}};
-    for (const CsvCase& it : cases) EXPECT_EQ(fieldsOf(it.text), it.records) << it.what;
-}
-
-TEST(Csv, RecordsKnowTheLineTheyBeginOn) {
-    const auto records = unattended::parseCsv("a\n\"b\nc\"\n\nd", "file.csv");
-    ASSERT_EQ(records.size(), 3U);
-    EXPECT_EQ(records[1].line, 2U);
-    EXPECT_EQ(records[2].line, 5U);
+    const std::tuple<const char*, std::string, std::vector<Fields>> cases[] = {
+        {"nothing", "", {}},
+        {"lines of all kinds",
+         "a,b\nc,d\r\ne,f\rg,h",
+         {{"a", "b"}, {"c", "d"}, {"e", "f"}, {"g", "h"}}},
+        {"empty fields", ",\n", {{"", ""}}},
+        {"empty lines", "a\n\n\nb\n", {{"a"}, {"b"}}},
+        {"quotes", "\"a,b\",\"say \"\"so\"\"\"", {{"a,b", "say \"so\""}}},
+        {"a line break in quotes", "\"one\ntwo\",x", {{"one\ntwo", "x"}}},
+        {"an empty quoted field", "\"\",x", {{"", "x"}}},
+        {"a byte-order mark", "\xEF\xBB\xBF\"a\",b", {{"a", "b"}}},
+        {"semicolons", "a;b\n1,5;2", {{"a", "b"}, {"1,5", "2"}}},
+        {"a semicolon among commas", "a,b;c", {{"a", "b;c"}}},
+        {"other scripts", "Größe,売上,😀", {{"Größe", "売上", "😀"}}}};
+    for (const auto& [what, text, records] : cases) {
+        std::vector<Fields> all;
+        for (const auto& record : unattended::parseCsv(text, "file.csv"))
+            all.push_back(record.fields);
+        EXPECT_EQ(all, records) << what;
+    }
 }
 
 }  // namespace

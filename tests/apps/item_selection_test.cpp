@@ -9,13 +9,8 @@ namespace {
 using Indices = std::vector<std::size_t>;
 using Texts = std::vector<std::string>;
 
-struct Reference {
-    Texts texts;
-    Indices rows;
-};
-
 TEST(ItemSelection, AReferenceMeansItsRows) {
-    const Reference references[] = {
+    const std::pair<Texts, Indices> references[] = {
         {{"Chart 1@North"}, {0}},
         {{"Chart 1@South,Chart 1@North"}, {1, 0}},
         {{"Chart 1@South", "Chart 1@South"}, {1}},

@@ -40,14 +40,8 @@ TEST(Options, EverythingThatCanBeSaidIsHeard) {
     EXPECT_TRUE(options.yes && options.quiet && options.overwrite);
 }
 
-struct WrongUsage {
-    const char* what;
-    Words words;
-    const char* saysAtLeast;
-};
-
 TEST(Options, WrongUsageEndsWithTwoAndSaysWhy) {
-    const WrongUsage all[] = {
+    const std::tuple<const char*, Words, const char*> all[] = {
         {"nothing at all", {}, "workbook"},
         {"no output", {"b.xlsx"}, "--output"},
         {"unknown option", {"b.xlsx", "--frobnicate"}, "--frobnicate"},
@@ -63,14 +57,14 @@ TEST(Options, WrongUsageEndsWithTwoAndSaysWhy) {
         {"share below nothing", {"b.xlsx", "--list", "--left", "-0.1"}, "--left"},
         {"too wide", {"b.xlsx", "--list", "--width", "1.2"}, "--width"},
         {"percent", {"b.xlsx", "--list", "--width", "90%"}, "90%"}};
-    for (const WrongUsage& wrong : all) {
-        SCOPED_TRACE(wrong.what);
-        const auto result = unattended::parseOptions(wrong.words);
+    for (const auto& [what, words, saysAtLeast] : all) {
+        SCOPED_TRACE(what);
+        const auto result = unattended::parseOptions(words);
         ASSERT_TRUE(std::holds_alternative<ParseEnd>(result));
         const auto& end = std::get<ParseEnd>(result);
         EXPECT_EQ(end.exitCode, unattended::exit_code::wrongUsage);
         EXPECT_TRUE(end.out.empty());
-        EXPECT_NE(end.error.find(wrong.saysAtLeast), std::string::npos) << end.error;
+        EXPECT_NE(end.error.find(saysAtLeast), std::string::npos) << end.error;
     }
 }
 

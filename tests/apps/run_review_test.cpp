@@ -61,23 +61,6 @@ TEST_F(RunReviewTest, AWarningEndsTheRunUnlessItWasAgreedToBeforehand) {
     EXPECT_EQ(exportWith({"--overwrite"}), 0) << console.error;
 }
 
-TEST_F(RunReviewTest, AWorkbookWithoutItemsIsBlockedAndListsAsNothing) {
-    fillWith([](Workbook& book) { book.sheet("Empty"); });
-    EXPECT_EQ(exportWith(), 3);
-    EXPECT_TRUE(console.errorHas("didn't find any chart"));
-    EXPECT_EQ(run({bookFile, "--list"}), 0);
-    EXPECT_EQ(console.out, "ITEM  SHEET  KIND  EXPORT  SLIDE  CAPTION\n");
-}
-
-TEST_F(RunReviewTest, AProtectedWorkbookWithoutAStoreIsBlocked) {
-    fillWith([](Workbook& book) {
-        fill(book);
-        book.protectStructure();
-    });
-    EXPECT_EQ(exportWith(), 3);
-    EXPECT_TRUE(console.errorHas("The workbook looks protected")) << console.error;
-}
-
 TEST_F(RunReviewTest, ARangeOfSeveralAreasIsLeftOutByAllAndBlocksByName) {
     fillWith([](Workbook& book) {
         fill(book);

@@ -96,6 +96,7 @@ TEST_F(TheMainForm, changesWithTheDestination) {
 
 TEST_F(TheMainForm, opensAndClosesThePanelOfSlideNumbersByTheClock) {
     UserformObj& form = open();
+    const forms::Twips nameWidth = form.listCharts.columns[0].width;
     forms_double::choose(form, "OptionPredefSlides");
     desktop.advance(20ms);
     EXPECT_GT(form.SlideNb.place.width, 0);
@@ -106,6 +107,7 @@ TEST_F(TheMainForm, opensAndClosesThePanelOfSlideNumbersByTheClock) {
     EXPECT_TRUE(form.list().rows[0].isMuted) << "no slide number yet";
     forms_double::choose(form, "OptionNewSlides");
     EXPECT_EQ(form.listCharts.columns[2].width, 1);
+    EXPECT_EQ(form.listCharts.columns[0].width, nameWidth);
     EXPECT_FALSE(form.list().rows[0].isMuted);
     desktop.advance(1s);
     EXPECT_EQ(form.SlideNb.place.width, 0);
@@ -253,6 +255,8 @@ TEST_F(TheMainForm, writesCaptionAndSlideNumberThroughToTheSelectedRowAndShowsTh
     EXPECT_EQ(form.SlideTitle.text() + form.TextBox10.text(), "Sales\tin May12");
     form.TextBox10.setText("-");
     EXPECT_EQ(form.TextBox10.text(), "") << "a lone sign is wiped";
+    form.list().selected = -1;
+    form.SlideTitle.setText("nobody's");
     closeAndAttach(form);
     keepCaption();
     UserformObj& again = open();

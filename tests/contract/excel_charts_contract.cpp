@@ -79,6 +79,7 @@ TEST_F(ExcelContract, TurnsARangeIntoAPictureThroughATemporaryChart) {
         const std::string file = environment().temporaryFile("Range_.png");
         object.get("Chart").call("Export", file, "PNG");
         object.call("Delete");
+        EXPECT_NE(failureOf([&] { object.get("Name"); }), 0);
         expectCrisp(file, width, height);
         EXPECT_EQ(where.get("ChartObjects").get("Count").toLong(), before);
     }

@@ -23,26 +23,12 @@ void expectNoSuchMember(const Object& object) {
 }
 
 TEST_F(ExcelContract, NamesClassAndMemberThatItDoesntHave) {
-    const Object sales = sheet("Sales");
-    const Object object = sales.call("ChartObjects", 1).toObject();
-    for (const Object& each :
-         {excel, book, book.get("Sheets").toObject(), sales, sheet("Overview"),
-          range("Sales", "A1"), book.get("Names").toObject(),
-          book.get("Names").get("Item", "Total").toObject(), sales.get("ChartObjects").toObject(),
-          object, object.get("Chart").toObject()}) {
+    for (const Object& each : {excel, sheet("Sales"), range("Sales", "A1")})
         expectNoSuchMember(each);
-    }
 }
 
 TEST_F(PowerPointContract, NamesClassAndMemberThatItDoesntHave) {
-    const Object title = slide(1).get("Shapes").get("Title").toObject();
-    const Object text = title.get("TextFrame").get("TextRange").toObject();
-    for (const Object& each :
-         {powerPoint, deck, slides(), slide(1), slide(1).get("Shapes").toObject(), title, text,
-          text.get("Font").toObject(), title.get("Shadow").toObject(), window(),
-          window().get("View").toObject(), selection()}) {
-        expectNoSuchMember(each);
-    }
+    for (const Object& each : {powerPoint, slide(1), window()}) expectNoSuchMember(each);
     EXPECT_EQ(failureOf([&] { powerPoint.put("ScreenUpdating", true); }), 438);
 }
 

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <map>
 #include <memory>
 #include <string>
 #include <thread>
@@ -20,7 +19,6 @@
 #include "office/libreoffice/installation.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/process.h"
-#include "support/png_file.h"
 #include "support/temporary_folder.h"
 
 namespace live {
@@ -29,8 +27,6 @@ namespace {
 
 using namespace libreoffice;
 using namespace std::chrono_literals;
-using office::Object;
-using office::Value;
 
 template <class Condition>
 bool becomesTrue(const Condition& condition, std::chrono::seconds patience = 10s) {
@@ -125,50 +121,6 @@ TEST_F(Windows, TheActiveDocumentOfAKindIsTheOneThatTheUserWasInLast) {
             })) << told;
         }
     } while (std::next_permutation(order.begin(), order.end()));
-}
-
-/// The steps that a batch takes with an item, begun in each of the views that a user may be in.
-TEST_F(Windows, AnItemComesToItsSlideFromEveryView) {
-    const auto desk = freshDesk();
-    const Object app = powerpoint::applicationObject(desk);
-    const Object deck = app.get("Presentations").call("Add").toObject();
-    const Object slides = deck.get("Slides").toObject();
-    const std::string file = screen->folder.file("picture.png");
-    support::writeBytes(file, support::pngPictureOfPoints(240, 120));
-    constexpr std::int32_t titleOnly = 11;
-    slides.call("Add", 1, titleOnly);
-    std::int32_t place = 1;
-    for (const std::int32_t view : {7, 6, 3, 9}) {
-        const Object window = app.get("ActiveWindow").toObject();
-        window.put("ViewType", view);
-        slides.call("Add", ++place, titleOnly);
-        EXPECT_GT(window.get("View").get("Slide").get("SlideIndex").toLong(), 0) << view;
-        window.get("View").call("GotoSlide", place);
-        const Value shapes = slides.get("Item", place).get("Shapes");
-        shapes.call("AddPicture", file, 0, -1, 0, 0, -1, -1);
-        const Value selection = window.get("Selection");
-        EXPECT_EQ(selection.get("SlideRange").get("SlideIndex").toLong(), place) << view;
-        EXPECT_EQ(selection.get("SlideRange").get("Shapes").get("HasTitle").toLong(), -1) << view;
-        shapes.get("Item", shapes.get("Count")).call("Select");
-        const Value selected = selection.get("ShapeRange");
-        selected.put("LockAspectRatio", true);
-        selected.put("Width", 480);
-        selected.put("Left", 100);
-        const Value label =
-            selection.get("SlideRange").get("Shapes").call("AddLabel", 1, 20, 500, 9, 29);
-        label.call("Select");
-        label.get("TextFrame").put("WordWrap", false);
-        selection.get("ShapeRange").get("TextFrame").get("TextRange").put("Text", "From where");
-        shapes.get("Title").get("TextFrame").get("TextRange").put("Text", "An item");
-        selection.call("Unselect");
-
-        EXPECT_EQ(window.get("ViewType").toLong(), view);
-        ASSERT_EQ(shapes.get("Count").toLong(), 3) << view;
-        EXPECT_NEAR(shapes.get("Item", 2).get("Height").toDouble(), 240, 0.5) << view;
-        EXPECT_NEAR(shapes.get("Item", 2).get("Left").toDouble(), 100, 0.5) << view;
-        EXPECT_GT(shapes.get("Item", 3).get("Width").toDouble(), 30) << view;
-    }
-    EXPECT_EQ(slides.get("Count").toLong(), place);
 }
 
 }  // namespace

@@ -36,7 +36,6 @@ public:
     [[nodiscard]] support::CallLog& log() { return state_->log; }
     [[nodiscard]] support::FailurePlan& failures() { return state_->failures; }
     [[nodiscard]] int clipboardClears() const { return clipboardClears_; }
-    [[nodiscard]] bool clipboardHasPicture() const { return state_->clipboard.has_value(); }
     [[nodiscard]] office::WindowHandle raisedWindow() const { return raised_; }
     [[nodiscard]] office::WindowHandle lockedWindow() const { return locked_; }
     /// How often drawing was frozen.

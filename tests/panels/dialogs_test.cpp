@@ -5,7 +5,9 @@
 
 #include "forms_double/user.h"
 #include "forms_double/windowless_desktop.h"
+#include "panels/about_form.h"
 #include "panels/dialogs.h"
+#include "session/web_pages.h"
 #include "session_doubles/test_session.h"
 
 namespace {
@@ -66,6 +68,24 @@ TEST_F(ToolForms, AnExportEndsWithTheMainFormUnloadedAheadOfTheOthers) {
     EXPECT_EQ(unloaded, (std::vector<std::string>{"Dialog", "UserformObj", "LayoutForm"}));
     EXPECT_FALSE(test.session.MainFormOpen || test.session.ExcelApp);
     EXPECT_TRUE(test.session.ActiveBook) << "the list is saved there";
+}
+
+TEST(About, TellsTheVersionAndLeadsToTheWebPagesUntilItIsClosed) {
+    session_doubles::TestSession test;
+    forms_double::WindowlessDesktop desktop;
+    desktop.answer("MurvaneAbout", [&](forms::Form& form) {
+        EXPECT_EQ(form.find("lblVersion")->caption, "Version 1.2.3");
+        for (const char* button : {"btnOverview", "btnFaq", "btnContact"}) {
+            forms_double::press(form, button);
+        }
+        EXPECT_TRUE(desktop.isLoaded(form));
+        forms_double::pressEscape(form);
+    });
+    panels::ShowAboutForm(test.session, desktop, "1.2.3");
+    EXPECT_EQ(test.host.links, (std::vector<std::string>{std::string(session::address::docOverview),
+                                                         std::string(session::address::docFaq),
+                                                         std::string(session::address::contact)}));
+    EXPECT_TRUE(desktop.loadedForms().empty());
 }
 
 }  // namespace

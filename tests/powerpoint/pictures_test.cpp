@@ -1,7 +1,9 @@
 #include <fmt/format.h>
 
 #include "export_stage.h"
+#include "powerpoint/picture_styles.h"
 #include "powerpoint/pictures.h"
+#include "support/approved.h"
 
 namespace {
 
@@ -127,6 +129,35 @@ TEST_F(PicturesTest, OneItemThatIsNotThereHasBeenExplained) {
     ASSERT_EQ(notices.shown.size(), 4U);
     EXPECT_EQ(notices.messages().back(),
               "No PowerPoint presentation is open. Open or create a presentation, then try again.");
+}
+
+class PictureStyle : public stage::ExportStage {
+protected:
+    Shape& newPicture() {
+        return deck.addSlide().shape(Shape::Kind::Picture, "Picture", {0, 0, 100, 100});
+    }
+};
+
+TEST_F(PictureStyle, SetsWhatIsApproved) {
+    std::string all;
+    for (std::int16_t look = 0; look <= 7; ++look) {
+        suite.log().clear();
+        powerpoint::ApplyPictureStyle(look, newPicture().handle());
+        all += fmt::format("style {}\n", look);
+        for (const auto& call : suite.log().calls()) {
+            if (call.kind == support::CallKind::Put) all += "  " + call.text() + "\n";
+        }
+    }
+    support::expectApprovedText(all, "picture_styles.txt");
+}
+
+TEST_F(PictureStyle, GoesOnWhereTheShapeRefusesASetting) {
+    Shape& picture = newPicture();
+    suite.failures().failAlways("ColorFormat.RGB");
+    suite.failures().fail("ShadowFormat.Size");
+    powerpoint::ApplyPictureStyle(powerpoint::style::shadow, picture.handle());
+    EXPECT_TRUE(picture.hasShadow());
+    EXPECT_DOUBLE_EQ(picture.handle().get("Shadow").get("OffsetY").toDouble(), 8.12132);
 }
 
 }  // namespace

@@ -9,17 +9,6 @@ using session::LockFailure;
 using session::PowerPointWindowLock;
 using session_doubles::TestSession;
 
-TEST(AttachingPowerPoint, LeavesNothingBehindWhereItIsClosed) {
-    TestSession test;
-    test.suite.powerPoint();
-    session::AttachPowerPoint(test.session);
-    EXPECT_TRUE(test.session.PowerPointFound);
-    test.suite.quitPowerPoint();
-    session::AttachPowerPoint(test.session);
-    EXPECT_FALSE(test.session.PowerPointFound || test.session.PowerPointApp);
-    EXPECT_TRUE(test.notices.shown.empty());
-}
-
 class SlideView : public testing::Test {
 protected:
     TestSession test;
@@ -47,24 +36,6 @@ TEST_F(SlideView, OfABatchStaysAsTheUserHasItAndThatOfASelectionBecomesNormal) {
     EXPECT_EQ(viewType(), 9);
 }
 
-TEST_F(SlideView, EndsARunningShow) {
-    auto& shown = test.suite.powerPoint().addPresentation("Show.pptx").runSlideShow();
-    test.session.SessionPresentation = shown.handle();
-    session::PrepareSlideView(test.session);
-    EXPECT_FALSE(shown.showsSlides());
-    shown.runSlideShow();
-    session::ExitShowNormalView(test.session);
-    EXPECT_FALSE(shown.showsSlides());
-}
-
-TEST_F(SlideView, PassesOverWhatFails) {
-    test.suite.failures().failAlways("Application.ActiveWindow");
-    test.suite.failures().failAlways("Presentation.Windows");
-    session::PrepareSlideView(test.session);
-    session::ExitShowNormalView(test.session);
-    EXPECT_EQ(test.suite.clipboardClears(), 2);
-}
-
 class PowerPointWindow : public testing::Test {
 protected:
     TestSession test;
@@ -80,15 +51,6 @@ protected:
         return failure ? failure->number() : 0;
     }
 };
-
-TEST_F(PowerPointWindow, ComesForwardByItsCaptionAndIsRemembered) {
-    office::WindowHandle window = 0;
-    EXPECT_FALSE(session::BringWindowToFront(test.session, "Deck - PowerPoint", window, 1));
-    EXPECT_EQ(test.suite.raisedWindow(), 0U);
-    EXPECT_TRUE(session::BringWindowToFront(test.session, "Deck.pptx - PowerPoint", window, 1));
-    EXPECT_NE(window, 0U);
-    EXPECT_EQ(test.suite.raisedWindow(), window);
-}
 
 TEST_F(PowerPointWindow, IsLockedForTheVersionsWhoseClassIsKnown) {
     EXPECT_EQ(lockAs("16.0"), 0);

@@ -16,12 +16,6 @@ void FailurePlan::failAlways(std::string member, office::FailureNumber number) {
     planned_.push_back({std::move(member), 0, true, number});
 }
 
-void FailurePlan::forget() {
-    planned_.clear();
-    callsUntilLost_.reset();
-    lost_ = false;
-}
-
 void FailurePlan::check(std::string_view className, std::string_view member) {
     if (callsUntilLost_ && --*callsUntilLost_ <= 0) lost_ = true;
     if (lost_) throw office::SuiteLost("The application has gone, as planned.");

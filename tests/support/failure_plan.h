@@ -22,7 +22,6 @@ public:
     /// The application goes away at the n-th call of any member from now on, and stays away.
     void loseSuiteAt(int nth) { callsUntilLost_ = nth; }
     void loseSuite() { lost_ = true; }
-    void forget();
 
     [[nodiscard]] bool suiteIsLost() const { return lost_; }
 
