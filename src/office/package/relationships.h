@@ -1,0 +1,51 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace office::package {
+
+struct Relationship {
+    std::string id;
+    std::string type;
+    /// As it stands in the file.
+    std::string target;
+    bool isExternal = false;
+};
+
+/// The relationships of one part, or of the package. They keep their order and what else stands
+/// with them.
+class Relationships {
+public:
+    /// Of the part `source` ("/" for the package), from the XML of its relationships part; empty
+    /// for a part that has none. `PackageError` Damaged.
+    explicit Relationships(std::string source, std::string_view xml = {});
+
+    [[nodiscard]] const std::vector<Relationship>& all() const { return all_; }
+    /// Null if there is none.
+    [[nodiscard]] const Relationship* withId(std::string_view id) const;
+    /// The first of a type. A type of the standard is named by its last word ("slideLayout") and
+    /// found under both its transitional and its strict address; others by their full address.
+    [[nodiscard]] const Relationship* ofType(std::string_view type) const;
+    /// The part that a relationship leads to. `PackageError` Damaged for one that is external or
+    /// leads out of the package.
+    [[nodiscard]] std::string partOf(const Relationship& relationship) const;
+
+    /// The id of a relationship to a part; one of the same type and part that is there already is
+    /// taken again. `type` as in `ofType`, written in its transitional form.
+    std::string add(std::string_view type, std::string_view part);
+    void remove(std::string_view id);
+
+    [[nodiscard]] bool isChanged() const { return isChanged_; }
+    /// The whole part, by the smallest edit of what it was read as.
+    [[nodiscard]] std::string xml() const;
+
+private:
+    std::string source_;
+    std::string xml_;
+    std::vector<Relationship> all_;
+    bool isChanged_ = false;
+};
+
+}  // namespace office::package
