@@ -1,8 +1,10 @@
 #pragma once
 
 #include <pugixml.hpp>
+
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace office::package {
 
@@ -15,6 +17,8 @@ inline constexpr std::string_view relationships =
     "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
 inline constexpr std::string_view presentation2010 =
     "http://schemas.microsoft.com/office/powerpoint/2010/main";
+inline constexpr std::string_view compatibility =
+    "http://schemas.openxmlformats.org/markup-compatibility/2006";
 }  // namespace ns
 
 /// The XML of one part, kept in all that isn't changed: blanks, comments, instructions, elements
@@ -40,11 +44,27 @@ private:
 /// The first child of that name; null if there is none.
 [[nodiscard]] pugi::xml_node childNamed(pugi::xml_node parent, std::string_view space,
                                         std::string_view name);
-/// The value of an attribute in a namespace, such as r:id; empty if it isn't there.
-[[nodiscard]] std::string attributeNamed(pugi::xml_node node, std::string_view space,
-                                         std::string_view name);
-/// The name for an element or attribute here, with the prefix that the namespace has at `at`. A
-/// namespace without a prefix there gets one, declared on the document's root.
-[[nodiscard]] std::string nameAt(pugi::xml_node at, std::string_view space, std::string_view name);
+[[nodiscard]] std::vector<pugi::xml_node> childrenNamed(pugi::xml_node parent,
+                                                        std::string_view space,
+                                                        std::string_view name);
+/// An attribute in a namespace, such as r:id; null if it isn't there.
+[[nodiscard]] pugi::xml_attribute attributeNamed(pugi::xml_node node, std::string_view space,
+                                                 std::string_view name);
+/// An attribute without a namespace, made if it isn't there yet.
+[[nodiscard]] pugi::xml_attribute attributeFor(pugi::xml_node node, const char* name);
+
+/// The child of that name, made where the schema wants it if it isn't there: `order` is the
+/// schema's sequence of children, all of the namespace of the new one.
+pugi::xml_node childInOrder(pugi::xml_node parent, std::string_view space, std::string_view name,
+                            const std::vector<std::string_view>& order);
+/// Puts markup in as the last child ahead of `before`, or as the last of all. The markup is one
+/// element, written with the prefixes p, a and r; they are declared on it where the document has
+/// others.
+pugi::xml_node insertMarkup(pugi::xml_node parent, const std::string& markup,
+                            pugi::xml_node before = {});
+
+/// Text as the content of an element or a quoted attribute; characters that XML can't hold are left
+/// out.
+[[nodiscard]] std::string escaped(std::string_view text);
 
 }  // namespace office::package

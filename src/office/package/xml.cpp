@@ -1,0 +1,192 @@
+#include "office/package/xml.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "office/package/package.h"
+
+namespace office::package {
+
+namespace {
+
+constexpr unsigned int keepEverything = pugi::parse_full | pugi::parse_ws_pcdata;
+/// The deepest that Office itself reads.
+constexpr int deepest = 256;
+
+constexpr std::array<std::pair<std::string_view, std::string_view>, 3> ownPrefixes = {{
+    {"xmlns:p", ns::presentation},
+    {"xmlns:a", ns::drawing},
+    {"xmlns:r", ns::relationships},
+}};
+
+class Checker : public pugi::xml_tree_walker {
+public:
+    bool for_each(pugi::xml_node& node) override {
+        hasDocumentType = hasDocumentType || node.type() == pugi::node_doctype;
+        isTooDeep = depth() > deepest;
+        return !hasDocumentType && !isTooDeep;
+    }
+
+    bool hasDocumentType = false;
+    bool isTooDeep = false;
+};
+
+struct BytesWriter : pugi::xml_writer {
+    void write(const void* data, size_t size) override {
+        bytes.append(static_cast<const char*>(data), size);
+    }
+    std::string bytes;
+};
+
+/// The namespace that a prefix stands for at an element; of the empty one the default namespace.
+std::string_view namespaceOf(pugi::xml_node at, std::string_view prefix) {
+    const std::string declaration = prefix.empty() ? "xmlns" : fmt::format("xmlns:{}", prefix);
+    for (; at; at = at.parent()) {
+        if (const auto found = at.attribute(declaration.c_str())) return found.value();
+    }
+    return {};
+}
+
+std::pair<std::string_view, std::string_view> split(std::string_view qualified) {
+    const auto colon = qualified.find(':');
+    if (colon == std::string_view::npos) return {{}, qualified};
+    return {qualified.substr(0, colon), qualified.substr(colon + 1)};
+}
+
+/// Declares the prefix of an element that stands where its document has another or none.
+void declarePrefixes(pugi::xml_node element) {
+    for (const auto& [declaration, space] : ownPrefixes) {
+        if (namespaceOf(element, split(declaration).second) != space)
+            element.append_attribute(std::string(declaration).c_str())
+                .set_value(std::string(space).c_str());
+    }
+}
+
+/// The name of an element here, in our own prefix where the document has none for it.
+std::string nameAt(pugi::xml_node at, std::string_view space, std::string_view name) {
+    if (namespaceOf(at, {}) == space) return std::string(name);
+    for (pugi::xml_node node = at; node; node = node.parent()) {
+        for (const pugi::xml_attribute attribute : node.attributes()) {
+            const auto [kind, prefix] = split(attribute.name());
+            if (kind == "xmlns" && space == attribute.value() && namespaceOf(at, prefix) == space)
+                return fmt::format("{}:{}", prefix, name);
+        }
+    }
+    const auto* own = std::find_if(ownPrefixes.begin(), ownPrefixes.end(),
+                                   [&](const auto& prefix) { return prefix.second == space; });
+    return fmt::format("{}:{}", split(own->first).second, name);
+}
+
+}  // namespace
+
+Xml::Xml(std::string_view bytes, std::string_view part) {
+    const auto result = document_.load_buffer(bytes.data(), bytes.size(), keepEverything);
+    if (!result)
+        throw PackageError(Fault::Damaged,
+                           fmt::format("its part {} is no XML ({})", part, result.description()));
+    Checker checker;
+    document_.traverse(checker);
+    if (checker.hasDocumentType)
+        throw PackageError(Fault::Damaged,
+                           fmt::format("its part {} has a document type, which none may", part));
+    if (checker.isTooDeep)
+        throw PackageError(Fault::Damaged, fmt::format("its part {} is nested too deep", part));
+    // Whatever it was read as, it is written as UTF-8.
+    if (const auto encoding = document_.child("xml").attribute("encoding"))
+        document_.first_child().attribute("encoding").set_value("UTF-8");
+}
+
+std::string Xml::bytes() const {
+    BytesWriter writer;
+    document_.save(writer, "", pugi::format_raw, pugi::encoding_utf8);
+    return std::move(writer.bytes);
+}
+
+bool isNamed(pugi::xml_node node, std::string_view space, std::string_view name) {
+    const auto [prefix, own] = split(node.name());
+    return own == name && namespaceOf(node, prefix) == space;
+}
+
+pugi::xml_node childNamed(pugi::xml_node parent, std::string_view space, std::string_view name) {
+    return parent.find_child(
+        [&](const pugi::xml_node& child) { return isNamed(child, space, name); });
+}
+
+std::vector<pugi::xml_node> childrenNamed(pugi::xml_node parent, std::string_view space,
+                                          std::string_view name) {
+    std::vector<pugi::xml_node> found;
+    for (const pugi::xml_node child : parent.children()) {
+        if (isNamed(child, space, name)) found.push_back(child);
+    }
+    return found;
+}
+
+pugi::xml_attribute attributeNamed(pugi::xml_node node, std::string_view space,
+                                   std::string_view name) {
+    return node.find_attribute([&](const pugi::xml_attribute& attribute) {
+        const auto [prefix, own] = split(attribute.name());
+        return !prefix.empty() && own == name && namespaceOf(node, prefix) == space;
+    });
+}
+
+pugi::xml_attribute attributeFor(pugi::xml_node node, const char* name) {
+    const auto found = node.attribute(name);
+    return found ? found : node.append_attribute(name);
+}
+
+pugi::xml_node childInOrder(pugi::xml_node parent, std::string_view space, std::string_view name,
+                            const std::vector<std::string_view>& order) {
+    if (const auto found = childNamed(parent, space, name)) return found;
+    const std::string qualified = nameAt(parent, space, name);
+    auto later = std::find(order.begin(), order.end(), name);
+    const pugi::xml_node follower = parent.find_child([&](const pugi::xml_node& child) {
+        return std::any_of(later, order.end(),
+                           [&](std::string_view one) { return isNamed(child, space, one); });
+    });
+    pugi::xml_node made = follower ? parent.insert_child_before(qualified.c_str(), follower)
+                                   : parent.append_child(qualified.c_str());
+    if (!isNamed(made, space, name)) declarePrefixes(made);
+    return made;
+}
+
+pugi::xml_node insertMarkup(pugi::xml_node parent, const std::string& markup,
+                            pugi::xml_node before) {
+    pugi::xml_document fragment;
+    fragment.load_buffer(markup.data(), markup.size(), keepEverything);
+    const pugi::xml_node element = fragment.document_element();
+    pugi::xml_node inserted =
+        before ? parent.insert_copy_before(element, before) : parent.append_copy(element);
+    declarePrefixes(inserted);
+    return inserted;
+}
+
+std::string escaped(std::string_view text) {
+    std::string out;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        const auto code = static_cast<unsigned char>(c);
+        // U+FFFE and U+FFFF, the only ones of more than one byte that are no characters of XML.
+        const std::string_view three = text.substr(i, 3);
+        if (three == "\xEF\xBF\xBE" || three == "\xEF\xBF\xBF") {
+            i += 2;
+        } else if (c == '&') {
+            out += "&amp;";
+        } else if (c == '<') {
+            out += "&lt;";
+        } else if (c == '>') {
+            out += "&gt;";
+        } else if (c == '"') {
+            out += "&quot;";
+        } else if (c == '\t' || c == '\n' || c == '\r') {
+            out += fmt::format("&#{};", code);
+        } else if (code >= 0x20) {
+            out += c;
+        }
+    }
+    return out;
+}
+
+}  // namespace office::package
