@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <map>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -53,22 +52,27 @@ struct Limits {
     std::uint64_t partBytes = 64ULL << 20;
     /// Of all parts together that one package reads in its life.
     std::uint64_t bytesRead = 512ULL << 20;
+    /// Of the content types and of each part of relationships, which are always markup.
+    std::uint64_t markupBytes = 16ULL << 20;
 };
 
 enum class Storage { Deflated, Stored };
 
 class Package {
 public:
-    /// `PackageError`. The file is only read, and has to stay until the package goes.
+    /// `PackageError`. The file is only read, and stays open until the package goes.
     [[nodiscard]] static Package open(const std::filesystem::path& file, const Limits& limits = {});
     /// The same from a file in memory, which has to outlive the package.
     [[nodiscard]] static Package fromBytes(std::string_view file, const Limits& limits = {});
+    Package(const Package&) = delete;
+    Package& operator=(const Package&) = delete;
     Package(Package&&) noexcept;
     Package& operator=(Package&&) noexcept;
     ~Package();
 
     [[nodiscard]] bool has(std::string_view part) const;
-    /// The names of all parts, as the file spells them and in its order, new ones last.
+    /// The names of all parts, as the file spells them and in its order, new ones last. The content
+    /// types are none.
     [[nodiscard]] std::vector<std::string> parts() const;
     /// Empty for a part without one.
     [[nodiscard]] std::string contentTypeOf(std::string_view part) const;
@@ -83,13 +87,16 @@ public:
     /// Takes the part out with its relationships. Those that lead to it are the caller's.
     void remove(std::string_view part);
     void setContentType(std::string_view part, std::string_view contentType);
-    /// A part of these bytes, which is `stem` + number + `ending` if there was none yet.
+    /// A part of these bytes, which is `stem` + number + `ending` if none has been added yet.
     std::string addMedia(std::string_view stem, std::string_view ending,
-                         std::string_view contentType, std::string bytes);
-    /// `stem` + the lowest number from 1 that no part has + `ending`.
+                         std::string_view contentType, std::string bytes,
+                         Storage storage = Storage::Stored);
+    /// `stem` + the lowest number from 1 that neither a part has nor relationships without their
+    /// part + `ending`.
     [[nodiscard]] std::string freeName(std::string_view stem, std::string_view ending) const;
 
     /// Of a part; of the package itself for "/". A change through it is written with the package.
+    /// It stays where it is until the part is removed. `PackageError`.
     [[nodiscard]] Relationships& relationshipsOf(std::string_view part);
 
     /// Writes the package to a file that isn't there yet. `PackageError` Unreadable with the

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace office::package {
@@ -37,15 +40,25 @@ public:
     std::string add(std::string_view type, std::string_view part);
     void remove(std::string_view id);
 
-    [[nodiscard]] bool isChanged() const { return isChanged_; }
+    [[nodiscard]] const std::string& source() const { return source_; }
+    [[nodiscard]] bool isChanged() const { return !added_.empty() || !removed_.empty(); }
     /// The whole part, by the smallest edit of what it was read as.
     [[nodiscard]] std::string xml() const;
 
 private:
+    [[nodiscard]] std::string destinationOf(const Relationship& relationship) const;
+    std::string freeId();
+
     std::string source_;
     std::string xml_;
     std::vector<Relationship> all_;
-    bool isChanged_ = false;
+    /// The ids that aren't, or aren't any more, as they were read.
+    std::unordered_set<std::string> added_;
+    std::unordered_set<std::string> removed_;
+    /// The ids by type and part.
+    std::unordered_map<std::string, std::string> byDestination_;
+    std::unordered_set<std::string> ids_;
+    std::size_t lastNumber_ = 0;
 };
 
 }  // namespace office::package

@@ -1,0 +1,248 @@
+#include "office/package/package.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <unordered_map>
+
+#include "office/package/compound_file.h"
+#include "office/package/content_types.h"
+#include "office/package/part_name.h"
+#include "office/package/zip_archive.h"
+
+namespace office::package {
+
+namespace {
+
+constexpr std::string_view contentTypesPart = "/[Content_Types].xml";
+constexpr std::string_view relationshipsType =
+    "application/vnd.openxmlformats-package.relationships+xml";
+
+struct Part {
+    /// Empty for what is only carried, such as the entry of a folder.
+    std::string name;
+    /// Of the archive; none for a new one.
+    std::optional<std::uint64_t> index;
+    /// None while it is as it was read.
+    std::optional<std::string> bytes;
+    Storage storage = Storage::Deflated;
+    bool isRemoved = false;
+};
+
+}  // namespace
+
+class Package::Content {
+public:
+    Content(ZipInput from, const Limits& within)
+        : limits(within),
+          input(std::move(from)),
+          archive(checked(input), limits) {
+        for (std::uint64_t index = 0; index < archive.entries().size(); ++index) take(index);
+        if (find(contentTypesPart) == nullptr)
+            throw PackageError(Fault::NotAPackage, "it is a ZIP file without content types");
+    }
+
+    Part* find(std::string_view name) {
+        const auto found = byKey.find(partKey(name));
+        return found == byKey.end() ? nullptr : &parts[found->second];
+    }
+
+    Part& at(std::string_view name) {
+        Part* part = find(name);
+        if (part == nullptr)
+            throw PackageError(Fault::Damaged, fmt::format("it has no part {}", shown(name)));
+        return *part;
+    }
+
+    std::string read(std::string_view name, std::uint64_t most) {
+        const Part& part = at(name);
+        if (part.bytes) return *part.bytes;
+        const std::uint64_t size = archive.entries()[*part.index].bytes;
+        if (size > most)
+            throw PackageError(Fault::TooLarge,
+                               fmt::format("its part {} takes {} bytes", shown(name), size));
+        if (size > limits.bytesRead - bytesRead)
+            throw PackageError(Fault::TooLarge, "its parts are too large together");
+        bytesRead += size;
+        return archive.read(*part.index);
+    }
+
+    void put(std::string_view name, std::string bytes, Storage storage) {
+        const auto [place, isNew] = byKey.try_emplace(partKey(name), parts.size());
+        if (isNew) parts.push_back({std::string(name), {}, {}, storage});
+        parts[place->second].bytes = std::move(bytes);
+    }
+
+    void remove(std::string_view name) {
+        const auto found = byKey.find(partKey(name));
+        if (found == byKey.end()) return;
+        Part& part = parts[found->second];
+        part.isRemoved = true;
+        part.bytes.reset();
+        byKey.erase(found);
+        contentTypes().remove(name);
+    }
+
+    ContentTypes& contentTypes() {
+        if (!types) types.emplace(read(contentTypesPart, limits.markupBytes));
+        return *types;
+    }
+
+    Relationships& relationshipsOf(std::string_view name) {
+        auto& found = relationships[partKey(name)];
+        if (!found) {
+            const std::string part = relationshipsPartOf(name);
+            found = std::make_unique<Relationships>(
+                std::string(name),
+                find(part) != nullptr ? read(part, limits.markupBytes) : std::string());
+        }
+        return *found;
+    }
+
+    void putMarkup() {
+        for (const auto& [source, one] : relationships) {
+            if (!one || !one->isChanged()) continue;
+            const std::string part = relationshipsPartOf(one->source());
+            contentTypes().setByExtension(part, relationshipsType);
+            put(part, one->xml(), Storage::Deflated);
+        }
+        if (types && types->isChanged()) put(contentTypesPart, types->xml(), Storage::Deflated);
+    }
+
+    [[nodiscard]] std::vector<ZipChange> changes() const {
+        std::vector<ZipChange> found;
+        for (const Part& part : parts) {
+            if (part.isRemoved && part.index) found.push_back({part.index, {}, {}, {}});
+            if (!part.bytes) continue;
+            found.push_back({part.index, part.name.substr(1), *part.bytes, part.storage});
+        }
+        return found;
+    }
+
+    const Limits limits;
+    ZipInput input;
+    ZipArchive archive;
+    std::vector<Part> parts;
+    std::unordered_map<std::string, std::size_t> byKey;
+    std::unordered_map<std::string, std::unique_ptr<Relationships>> relationships;
+    /// The names of what has been added, by the hash of the bytes.
+    std::unordered_multimap<std::size_t, std::string> media;
+    std::uint64_t bytesRead = 0;
+
+private:
+    static ZipInput& checked(ZipInput& input) {
+        refuseCompoundFile(input);
+        return input;
+    }
+
+    void take(std::uint64_t index) {
+        const ZipEntry& entry = archive.entries()[index];
+        if (entry.name.empty() || entry.name.ends_with('/') || entry.name.ends_with('\\')) {
+            parts.push_back({{}, index, {}, {}});
+            return;
+        }
+        const std::string name = partOfEntry(entry.name);
+        if (entry.isEncrypted)
+            throw PackageError(Fault::Password,
+                               fmt::format("its part {} is encrypted", shown(name)));
+        if (!byKey.try_emplace(partKey(name), parts.size()).second)
+            throw PackageError(Fault::Damaged,
+                               fmt::format("it holds two parts named {}", shown(name)));
+        parts.push_back({name, index, {}, {}});
+    }
+
+    std::optional<ContentTypes> types;
+};
+
+Package::Package(std::unique_ptr<Content> content) : content_(std::move(content)) {}
+Package::Package(Package&&) noexcept = default;
+Package& Package::operator=(Package&&) noexcept = default;
+Package::~Package() = default;
+
+Package Package::open(const std::filesystem::path& file, const Limits& limits) {
+    return Package(std::make_unique<Content>(ZipInput(file), limits));
+}
+
+Package Package::fromBytes(std::string_view file, const Limits& limits) {
+    return Package(std::make_unique<Content>(ZipInput(file), limits));
+}
+
+bool Package::has(std::string_view part) const {
+    return content_->find(part) != nullptr;
+}
+
+std::vector<std::string> Package::parts() const {
+    std::vector<std::string> names;
+    for (const Part& part : content_->parts) {
+        if (!part.name.empty() && !part.isRemoved &&
+            partKey(part.name) != partKey(contentTypesPart))
+            names.push_back(part.name);
+    }
+    return names;
+}
+
+std::string Package::contentTypeOf(std::string_view part) const {
+    return content_->contentTypes().of(part);
+}
+
+std::string Package::read(std::string_view part) const {
+    return content_->read(part, content_->limits.partBytes);
+}
+
+void Package::replace(std::string_view part, std::string bytes) {
+    content_->at(part).bytes = std::move(bytes);
+}
+
+void Package::add(std::string_view part, std::string_view contentType, std::string bytes,
+                  Storage storage) {
+    content_->put(part, std::move(bytes), storage);
+    content_->contentTypes().set(part, contentType);
+}
+
+void Package::remove(std::string_view part) {
+    content_->at(part);
+    content_->relationships.erase(partKey(part));
+    content_->remove(relationshipsPartOf(part));
+    content_->remove(part);
+}
+
+void Package::setContentType(std::string_view part, std::string_view contentType) {
+    content_->contentTypes().set(part, contentType);
+}
+
+std::string Package::addMedia(std::string_view stem, std::string_view ending,
+                              std::string_view contentType, std::string bytes, Storage storage) {
+    const std::size_t hash = std::hash<std::string_view>()(bytes);
+    const auto [first, last] = content_->media.equal_range(hash);
+    for (auto one = first; one != last; ++one) {
+        const Part* part = content_->find(one->second);
+        if (part != nullptr && part->bytes == bytes && one->second.ends_with(ending))
+            return one->second;
+    }
+    const std::string name = freeName(stem, ending);
+    content_->put(name, std::move(bytes), storage);
+    content_->contentTypes().setByExtension(name, contentType);
+    content_->media.emplace(hash, name);
+    return name;
+}
+
+std::string Package::freeName(std::string_view stem, std::string_view ending) const {
+    for (std::size_t number = 1;; ++number) {
+        std::string name = fmt::format("{}{}{}", stem, number, ending);
+        if (!has(name) && !has(relationshipsPartOf(name))) return name;
+    }
+}
+
+Relationships& Package::relationshipsOf(std::string_view part) {
+    return content_->relationshipsOf(part);
+}
+
+void Package::save(const std::filesystem::path& file) {
+    content_->putMarkup();
+    content_->archive.write(file, content_->changes());
+}
+
+}  // namespace office::package

@@ -1,0 +1,165 @@
+#include "office/package/zip_archive.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <system_error>
+
+#include "office/package/part_name.h"
+
+namespace office::package {
+
+namespace {
+
+/// What an entry of the directory takes with a long name, and what may stand behind the directory.
+constexpr std::uint64_t directoryBytesAnEntry = 160;
+constexpr std::uint64_t tailBytes = 256 << 10;
+/// 1 January 1980, the first day that a ZIP file can name: equal packages are equal files.
+constexpr zip_uint16_t firstDay = 1 << 5 | 1;
+/// More takes much longer and saves little in markup.
+constexpr zip_uint32_t deflateLevel = 6;
+constexpr std::size_t blockBytes = 1 << 16;
+
+PackageError errorOf(zip_error_t& error, std::string_view what) {
+    const std::string reason = zip_error_strerror(&error);
+    const int system = zip_error_code_system(&error);
+    const bool isSystems = zip_error_system_type(&error) == ZIP_ET_SYS && system != 0;
+    switch (zip_error_code_zip(&error)) {
+        case ZIP_ER_NOZIP:
+            return {Fault::NotAPackage, "it is no ZIP file"};
+        case ZIP_ER_CRC:
+        case ZIP_ER_INCONS:
+        case ZIP_ER_EOF:
+        case ZIP_ER_ZLIB:
+        case ZIP_ER_COMPRESSED_DATA:
+        case ZIP_ER_COMPNOTSUPP:
+        case ZIP_ER_ENCRNOTSUPP:
+            return {Fault::Damaged, fmt::format("{} ({})", what, reason)};
+        default:
+            return {Fault::Unreadable,
+                    fmt::format("{} ({})", what,
+                                isSystems ? std::generic_category().message(system) : reason)};
+    }
+}
+
+}  // namespace
+
+ZipArchive::ZipArchive(ZipInput& input, const Limits& limits)
+    : input_(input),
+      limits_(limits),
+      source_(std::make_unique<ZipSource>(input, nullptr,
+                                          limits.parts * directoryBytesAnEntry + tailBytes)) {
+    archive_ = open(*source_);
+    source_->openAll();
+    const auto count = static_cast<std::uint64_t>(zip_get_num_entries(archive_.get(), 0));
+    if (count > limits.parts)
+        throw PackageError(Fault::TooLarge, fmt::format("it holds {} parts", count));
+
+    std::uint64_t left = input.size();
+    for (std::uint64_t index = 0; index < count; ++index) {
+        zip_stat_t stat;
+        zip_stat_init(&stat);
+        const char* name = zip_get_name(archive_.get(), index, ZIP_FL_ENC_RAW);
+        if (name == nullptr || zip_stat_index(archive_.get(), index, 0, &stat) != 0)
+            throw errorOf(*zip_get_error(archive_.get()), "its directory can't be read");
+        // Entries that share their bytes would make a small file a large one when they are copied.
+        if (stat.comp_size > left)
+            throw PackageError(Fault::Damaged, "its parts take more room than it has");
+        left -= stat.comp_size;
+        entries_.push_back({name, stat.size, stat.encryption_method != ZIP_EM_NONE});
+    }
+}
+
+ZipArchive::Handle ZipArchive::open(ZipSource& source) {
+    zip_error_t error;
+    zip_error_init(&error);
+    zip_source_t* made = source.make(error);
+    zip_t* archive = made != nullptr ? zip_open_from_source(made, 0, &error) : nullptr;
+    if (archive != nullptr) return Handle(archive);
+    zip_source_free(made);
+    const PackageError problem = source.isExhausted()
+                                     ? PackageError(Fault::TooLarge, "its directory is too large")
+                                     : errorOf(error, "it is a damaged ZIP file");
+    zip_error_fini(&error);
+    throw problem;
+}
+
+std::string ZipArchive::read(std::uint64_t index) const {
+    const ZipEntry& entry = entries_[index];
+    const std::string what = fmt::format("its part {} can't be read", shown("/" + entry.name));
+    const auto close = [](zip_file_t* file) { zip_fclose(file); };
+    const std::unique_ptr<zip_file_t, decltype(close)> file(
+        zip_fopen_index(archive_.get(), index, 0), close);
+    if (file == nullptr) throw errorOf(*zip_get_error(archive_.get()), what);
+
+    // Grows with what comes, since the size is only a claim.
+    std::string bytes;
+    while (true) {
+        const std::size_t before = bytes.size();
+        bytes.resize(before + blockBytes);
+        const auto got = zip_fread(file.get(), bytes.data() + before, blockBytes);
+        if (got < 0) throw errorOf(*zip_file_get_error(file.get()), what);
+        bytes.resize(before + static_cast<std::size_t>(got));
+        if (bytes.size() > entry.bytes || (got == 0 && bytes.size() < entry.bytes))
+            throw PackageError(Fault::Damaged, what + " (its size is another than the file says)");
+        if (got == 0) return bytes;
+    }
+}
+
+void ZipArchive::copy(ZipOutput& output) const {
+    std::array<char, blockBytes> block{};
+    for (std::uint64_t at = 0; at < input_.size();) {
+        const auto got = input_.read(at, block.data(), block.size());
+        if (got <= 0) throw PackageError(Fault::Unreadable, "it can't be read to its end");
+        if (!output.write(block.data(), static_cast<std::uint64_t>(got))) break;
+        at += static_cast<std::uint64_t>(got);
+    }
+    if (output.error() != 0 || !output.keep())
+        throw PackageError(Fault::Unreadable,
+                           fmt::format("it can't be written ({})",
+                                       std::generic_category().message(output.error())));
+}
+
+void ZipArchive::write(const std::filesystem::path& file,
+                       const std::vector<ZipChange>& changes) const {
+    ZipOutput output(file);
+    // libzip writes nothing at all if nothing has changed.
+    if (changes.empty()) {
+        copy(output);
+        return;
+    }
+    ZipSource source(input_, &output, UINT64_MAX);
+    Handle archive = open(source);
+    const auto check = [&](bool isGood) {
+        if (!isGood) throw errorOf(*zip_get_error(archive.get()), "it can't be written");
+    };
+    for (const ZipChange& change : changes) {
+        if (!change.bytes) {
+            check(zip_delete(archive.get(), *change.index) == 0);
+            continue;
+        }
+        zip_source_t* bytes =
+            zip_source_buffer(archive.get(), change.bytes->data(), change.bytes->size(), 0);
+        check(bytes != nullptr);
+        zip_int64_t index = -1;
+        if (!change.index) {
+            index = zip_file_add(archive.get(), change.name.c_str(), bytes, ZIP_FL_ENC_UTF_8);
+        } else if (zip_file_replace(archive.get(), *change.index, bytes, 0) == 0) {
+            index = static_cast<zip_int64_t>(*change.index);
+        }
+        if (index < 0) zip_source_free(bytes);
+        check(index >= 0);
+        const auto at = static_cast<zip_uint64_t>(index);
+        const bool isDeflated = change.storage == Storage::Deflated;
+        check(zip_set_file_compression(archive.get(), at,
+                                       isDeflated ? ZIP_CM_DEFLATE : ZIP_CM_STORE,
+                                       isDeflated ? deflateLevel : 0) == 0);
+        check(zip_file_set_dostime(archive.get(), at, 0, firstDay, 0) == 0);
+    }
+    check(zip_close(archive.get()) == 0);
+    // It has gone by closing.
+    static_cast<void>(archive.release());
+}
+
+}  // namespace office::package
