@@ -163,27 +163,21 @@ pugi::xml_node insertMarkup(pugi::xml_node parent, const std::string& markup,
     return inserted;
 }
 
-std::string escaped(std::string_view text) {
+void copyInto(pugi::xml_node from, pugi::xml_node to) {
+    for (const pugi::xml_attribute attribute : from.attributes()) to.append_copy(attribute);
+    for (const pugi::xml_node child : from.children()) to.append_copy(child);
+}
+
+std::string legible(std::string_view text) {
     std::string out;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const char c = text[i];
-        const auto code = static_cast<unsigned char>(c);
-        // U+FFFE and U+FFFF, the only ones of more than one byte that are no characters of XML.
+        // U+FFFE and U+FFFF, the only ones beside control characters.
         const std::string_view three = text.substr(i, 3);
+        const auto code = static_cast<unsigned char>(text[i]);
         if (three == "\xEF\xBF\xBE" || three == "\xEF\xBF\xBF") {
             i += 2;
-        } else if (c == '&') {
-            out += "&amp;";
-        } else if (c == '<') {
-            out += "&lt;";
-        } else if (c == '>') {
-            out += "&gt;";
-        } else if (c == '"') {
-            out += "&quot;";
-        } else if (c == '\t' || c == '\n' || c == '\r') {
-            out += fmt::format("&#{};", code);
-        } else if (code >= 0x20) {
-            out += c;
+        } else if (code >= 0x20 || code == '\t' || code == '\n' || code == '\r') {
+            out += text[i];
         }
     }
     return out;

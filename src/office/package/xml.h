@@ -63,8 +63,10 @@ pugi::xml_node childInOrder(pugi::xml_node parent, std::string_view space, std::
 pugi::xml_node insertMarkup(pugi::xml_node parent, const std::string& markup,
                             pugi::xml_node before = {});
 
-/// Text as the content of an element or a quoted attribute; characters that XML can't hold are left
-/// out.
-[[nodiscard]] std::string escaped(std::string_view text);
+/// Gives an element the attributes and the children of another one.
+void copyInto(pugi::xml_node from, pugi::xml_node to);
+
+/// Without the characters that XML can't hold.
+[[nodiscard]] std::string legible(std::string_view text);
 
 }  // namespace office::package

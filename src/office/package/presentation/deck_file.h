@@ -1,0 +1,37 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "office/model/powerpoint/deck.h"
+
+/// PowerPoint's object model over presentations as files (.pptx and its relatives). Nothing of a
+/// file changes but what the object model is told to: new slides and shapes are added to it, and
+/// all else is written again as it was.
+namespace office::package {
+
+namespace model = office::model::powerpoint;
+
+/// What one has to know of a file before it is opened.
+struct DeckFacts {
+    /// In the namespaces of the strict standard, which aren't written here.
+    bool isStrict = false;
+    /// A signature stands for its content and holds for no other.
+    bool isSigned = false;
+    bool hasMacros = false;
+};
+
+/// `PackageError`: NotAPackage too for a package that is no presentation.
+[[nodiscard]] DeckFacts factsOf(const std::filesystem::path& file);
+
+/// The size of a text as it is drawn in one line after another, lines broken at the width if there
+/// is one. In points.
+using MeasureText = std::function<model::Size(const std::string& words, const model::Font& font,
+                                              std::optional<double> widthPt)>;
+
+/// A running PowerPoint that opens files and shows nothing.
+[[nodiscard]] Object powerPointOfFiles(MeasureText measure);
+
+}  // namespace office::package

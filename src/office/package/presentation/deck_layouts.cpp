@@ -1,0 +1,198 @@
+#include "office/package/presentation/deck_layouts.h"
+
+#include <algorithm>
+#include <array>
+
+#include "office/text.h"
+
+namespace office::package {
+
+namespace {
+
+constexpr std::int32_t otherLayout = 32;
+
+struct LayoutKind {
+    std::int32_t number;
+    /// As a layout's part says it, and as PowerPoint's English templates name it.
+    const char* type;
+    const char* name;
+};
+
+/// The first three are given to slides, the others only read.
+constexpr std::array<LayoutKind, 6> kinds = {{
+    {model::layout::title, "title", "Title Slide"},
+    {model::layout::titleOnly, "titleOnly", "Title Only"},
+    {model::layout::blank, "blank", "Blank"},
+    {2, "tx", ""},
+    {16, "obj", ""},
+    {29, "twoObj", ""},
+}};
+
+const LayoutKind& kindOf(std::int32_t number) {
+    return *std::find_if(kinds.begin(), kinds.end(),
+                         [&](const LayoutKind& kind) { return kind.number == number; });
+}
+
+std::string layoutName(const Xml& layout) {
+    return childNamed(layout.root(), ns::presentation, "cSld").attribute("name").value();
+}
+
+std::size_t titlesIn(const std::vector<Placeholder>& content) {
+    return static_cast<std::size_t>(std::count_if(content.begin(), content.end(),
+                                                  [](const auto& one) { return one.isTitle(); }));
+}
+
+/// How badly a layout of these placeholders serves for a number; the best is 0.
+std::size_t misfit(std::int32_t number, const std::vector<Placeholder>& content) {
+    const std::size_t titles = titlesIn(content);
+    const std::size_t others = content.size() - titles;
+    if (number == model::layout::blank) return content.size();
+    const bool isTitleSlide =
+        titles > 0 &&
+        std::any_of(content.begin(), content.end(), [](auto& p) { return p.type == "ctrTitle"; });
+    if (number == model::layout::title) return isTitleSlide ? 0 : 1 + (titles == 0 ? 100 : others);
+    return (titles == 0 ? 100 : 0) + others;
+}
+
+}  // namespace
+
+std::optional<Placeholder> placeholderOf(pugi::xml_node shape) {
+    const pugi::xml_node properties = shape.first_child();
+    const auto inner = properties.find_child(
+        [](const pugi::xml_node& child) { return isNamed(child, ns::presentation, "nvPr"); });
+    const pugi::xml_node found = childNamed(inner, ns::presentation, "ph");
+    if (!found) return std::nullopt;
+    return Placeholder{found.attribute("type").as_string("obj"),
+                       found.attribute("idx").as_string("0")};
+}
+
+pugi::xml_node shapeTreeOf(const Xml& page) {
+    return childNamed(childNamed(page.root(), ns::presentation, "cSld"), ns::presentation,
+                      "spTree");
+}
+
+const Xml& DeckLayouts::page(const std::string& part) {
+    auto& held = pages_[part];
+    if (!held) held = std::make_unique<Xml>(package_.read(part), part);
+    return *held;
+}
+
+std::string DeckLayouts::masterOf(const std::string& layout) {
+    const Relationships& relationships = package_.relationshipsOf(layout);
+    const Relationship* const found = relationships.ofType("slideMaster");
+    if (found == nullptr)
+        throw PackageError(Fault::Damaged, "its layout " + layout + " has no master");
+    return relationships.partOf(*found);
+}
+
+std::vector<std::string> DeckLayouts::layoutsOf(const std::string& master) {
+    const Relationships& relationships = package_.relationshipsOf(master);
+    std::vector<std::string> found;
+    const auto list = childNamed(page(master).root(), ns::presentation, "sldLayoutIdLst");
+    for (const auto& entry : childrenNamed(list, ns::presentation, "sldLayoutId")) {
+        const Relationship* const one =
+            relationships.withId(attributeNamed(entry, ns::relationships, "id").value());
+        if (one == nullptr || one->isExternal) continue;
+        if (std::string part = relationships.partOf(*one); package_.has(part))
+            found.push_back(std::move(part));
+    }
+    return found;
+}
+
+std::vector<Placeholder> DeckLayouts::contentOf(const std::string& layout) {
+    std::vector<Placeholder> found;
+    for (const pugi::xml_node shape : shapeTreeOf(page(layout)).children()) {
+        const auto placeholder = placeholderOf(shape);
+        if (placeholder && !placeholder->isFurniture()) found.push_back(*placeholder);
+    }
+    return found;
+}
+
+std::string DeckLayouts::firstOf(const std::string& master) {
+    const auto layouts = layoutsOf(master);
+    if (layouts.empty())
+        throw PackageError(Fault::Damaged, "its master " + master + " has no layouts");
+    return layouts.front();
+}
+
+std::string DeckLayouts::find(std::int32_t number, const std::string& neighbour) {
+    const std::string master = masterOf(neighbour);
+    std::string& found = found_[{number, master}];
+    if (!found.empty()) return found;
+    auto layouts = layoutsOf(master);
+    // A master that lists none still has the one that is in use.
+    if (layouts.empty()) layouts.push_back(neighbour);
+    const LayoutKind& kind = kindOf(number);
+    const auto where = [&](const auto& fits) {
+        return std::find_if(layouts.begin(), layouts.end(), fits);
+    };
+    auto chosen = where([&](const std::string& layout) {
+        return page(layout).root().attribute("type").value() == std::string_view(kind.type);
+    });
+    if (chosen == layouts.end())
+        chosen = where([&](const std::string& layout) {
+            return sameIgnoringCase(layoutName(page(layout)), kind.name);
+        });
+    if (chosen == layouts.end())
+        chosen = std::min_element(layouts.begin(), layouts.end(), [&](auto& left, auto& right) {
+            return misfit(number, contentOf(left)) < misfit(number, contentOf(right));
+        });
+    return found = *chosen;
+}
+
+std::int32_t DeckLayouts::numberOf(const std::string& layout) {
+    const std::string_view type = page(layout).root().attribute("type").value();
+    const std::string name = layoutName(page(layout));
+    for (const LayoutKind& kind : kinds) {
+        if (type == kind.type || (type.empty() && sameIgnoringCase(name, kind.name)))
+            return kind.number;
+    }
+    return otherLayout;
+}
+
+std::vector<Placeholder> DeckLayouts::placeholdersFor(std::int32_t number,
+                                                      const std::string& layout) {
+    std::vector<Placeholder> wanted;
+    if (number == model::layout::blank) return wanted;
+    for (const Placeholder& placeholder : contentOf(layout)) {
+        const bool isSubtitle = placeholder.type == "subTitle";
+        if (placeholder.isTitle() || (number == model::layout::title && isSubtitle))
+            wanted.push_back(placeholder);
+    }
+    return wanted;
+}
+
+std::vector<pugi::xml_node> DeckLayouts::ancestorsOf(const Placeholder& placeholder,
+                                                     const std::string& layout) {
+    std::vector<pugi::xml_node> found;
+    // A slide's placeholder is found on its layout by its place among them, the title by what it
+    // is; on the master by what it is.
+    const auto look = [&](const std::string& part, bool byIndex) {
+        for (const pugi::xml_node shape : shapeTreeOf(page(part)).children()) {
+            const auto other = placeholderOf(shape);
+            if (!other) continue;
+            const bool fits = placeholder.isTitle() ? other->isTitle()
+                              : byIndex             ? other->index == placeholder.index
+                              : placeholder.type == "subTitle" || placeholder.type == "obj"
+                                  ? other->type == "body"
+                                  : other->type == placeholder.type;
+            if (!fits) continue;
+            found.push_back(shape);
+            return;
+        }
+    };
+    look(layout, true);
+    look(masterOf(layout), false);
+    return found;
+}
+
+pugi::xml_node DeckLayouts::masterTextOf(const Placeholder* placeholder,
+                                         const std::string& layout) {
+    const auto styles = childNamed(page(masterOf(layout)).root(), ns::presentation, "txStyles");
+    const char* const kind = placeholder == nullptr   ? "otherStyle"
+                             : placeholder->isTitle() ? "titleStyle"
+                                                      : "bodyStyle";
+    return childNamed(childNamed(styles, ns::presentation, kind), ns::drawing, "lvl1pPr");
+}
+
+}  // namespace office::package

@@ -1,0 +1,309 @@
+#include "office/package/presentation/file_deck.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <filesystem>
+#include <set>
+
+#include "office/model/powerpoint/objects.h"
+#include "office/text.h"
+
+namespace office::package {
+
+namespace {
+
+constexpr std::string_view slideType =
+    "application/vnd.openxmlformats-officedocument.presentationml.slide+xml";
+
+/// What a package about a presentation says that it is, by the kinds of file.
+struct MainType {
+    const char* contentType;
+    bool hasMacros;
+};
+constexpr std::array<MainType, 6> mainTypes = {{
+    {"application/vnd.openxmlformats-officedocument.presentationml.presentation.main+xml", false},
+    {"application/vnd.ms-powerpoint.presentation.macroEnabled.main+xml", true},
+    {"application/vnd.openxmlformats-officedocument.presentationml.template.main+xml", false},
+    {"application/vnd.ms-powerpoint.template.macroEnabled.main+xml", true},
+    {"application/vnd.openxmlformats-officedocument.presentationml.slideshow.main+xml", false},
+    {"application/vnd.ms-powerpoint.slideshow.macroEnabled.main+xml", true},
+}};
+constexpr const MainType& plainPresentation = mainTypes[0];
+constexpr const MainType& macroPresentation = mainTypes[1];
+
+const std::vector<std::string_view> presentationOrder = {
+    "sldMasterIdLst", "notesMasterIdLst", "handoutMasterIdLst", "sldIdLst",       "sldSz",
+    "notesSz",        "smartTags",        "embeddedFontLst",    "custShowLst",    "photoAlbum",
+    "custDataLst",    "kinsoku",          "defaultTextStyle",   "modifyVerifier", "extLst"};
+
+constexpr const char* emptySlide =
+    R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
+    "\n"
+    R"(<p:sld xmlns:a="http://schemas.openxmlformats.org/drawingml/2006/main")"
+    R"( xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships")"
+    R"( xmlns:p="http://schemas.openxmlformats.org/presentationml/2006/main"><p:cSld><p:spTree>)"
+    R"(<p:nvGrpSpPr><p:cNvPr id="1" name=""/><p:cNvGrpSpPr/><p:nvPr/></p:nvGrpSpPr><p:grpSpPr/>)"
+    R"(</p:spTree></p:cSld><p:clrMapOvr><a:masterClrMapping/></p:clrMapOvr></p:sld>)";
+
+std::string folderOf(const std::string& part) {
+    return part.substr(0, part.rfind('/'));
+}
+
+/// The sections of a presentation, each a list of slides by their numbers.
+std::vector<pugi::xml_node> sectionsIn(pugi::xml_node presentation) {
+    std::vector<pugi::xml_node> lists;
+    const auto extensions = childNamed(presentation, ns::presentation, "extLst");
+    for (const pugi::xml_node extension : extensions.children()) {
+        const auto all = childNamed(extension, ns::presentation2010, "sectionLst");
+        for (const auto& section : childrenNamed(all, ns::presentation2010, "section")) {
+            if (const auto list = childNamed(section, ns::presentation2010, "sldIdLst"))
+                lists.push_back(list);
+        }
+    }
+    return lists;
+}
+
+pugi::xml_node entryOf(pugi::xml_node list, const std::string& id) {
+    return list.find_child_by_attribute("id", id.c_str());
+}
+
+/// A slide joins the section of the one that it stands before; at the end it joins the last one.
+void joinSection(const std::vector<pugi::xml_node>& sections, const std::string& id,
+                 const std::string& before) {
+    if (sections.empty()) return;
+    auto list = sections.back();
+    pugi::xml_node next;
+    for (const auto& section : sections) {
+        if (const auto found = entryOf(section, before); found && !before.empty()) {
+            list = section;
+            next = found;
+        }
+    }
+    std::string name = list.name();
+    name.replace(name.find("sldIdLst"), std::string::npos, "sldId");
+    auto entry =
+        next ? list.insert_child_before(name.c_str(), next) : list.append_child(name.c_str());
+    entry.append_attribute("id").set_value(id.c_str());
+}
+
+}  // namespace
+
+std::string presentationPartOf(Package& package) {
+    const Relationships& relationships = package.relationshipsOf("/");
+    const Relationship* const found = relationships.ofType("officeDocument");
+    if (found == nullptr) throw PackageError(Fault::NotAPackage, "it is no presentation");
+    std::string part = relationships.partOf(*found);
+    const std::string type = package.contentTypeOf(part);
+    const bool isPresentation =
+        std::any_of(mainTypes.begin(), mainTypes.end(),
+                    [&](const auto& one) { return type == one.contentType; });
+    if (!isPresentation) throw PackageError(Fault::NotAPackage, "it is no presentation");
+    return part;
+}
+
+FileDeck::FileDeck(Package package, std::string path, std::string name, MeasureText measure)
+    : package_(std::move(package)),
+      path_(std::move(path)),
+      name_(std::move(name)),
+      measure_(std::move(measure)),
+      main_(presentationPartOf(package_)),
+      presentation_(package_.read(main_), main_),
+      layouts_(package_) {
+    if (!isNamed(presentation_.root(), ns::presentation, "presentation"))
+        throw PackageError(Fault::NotAPackage, "it is no presentation of the usual kind");
+    readSlides();
+}
+
+void FileDeck::readSlides() {
+    const Relationships& relationships = package_.relationshipsOf(main_);
+    std::set<std::string> seen;
+    const auto list = childNamed(presentation_.root(), ns::presentation, "sldIdLst");
+    for (const auto& entry : childrenNamed(list, ns::presentation, "sldId")) {
+        const std::string id = attributeNamed(entry, ns::relationships, "id").value();
+        const Relationship* const found = relationships.withId(id);
+        if (found == nullptr || found->isExternal)
+            throw PackageError(Fault::Damaged, "its list of slides names one that isn't there");
+        std::string part = relationships.partOf(*found);
+        if (!package_.has(part))
+            throw PackageError(Fault::Damaged, "its slide " + part + " is missing");
+        if (!seen.insert(lowerCase(part)).second)
+            throw PackageError(Fault::Damaged, "its list of slides names " + part + " twice");
+        slides_.push_back(
+            std::make_shared<FileSlide>(*this, std::move(part), id, entry.attribute("id").value()));
+    }
+}
+
+std::int32_t FileDeck::placeOf(const FileSlide& slide) const {
+    const auto self = std::find_if(slides_.begin(), slides_.end(),
+                                   [&](const auto& held) { return held.get() == &slide; });
+    return static_cast<std::int32_t>(self - slides_.begin()) + 1;
+}
+
+std::string FileDeck::mediaStem() const {
+    return folderOf(main_) + "/media/image";
+}
+
+model::Size FileDeck::slideSize() {
+    constexpr double plainWidth = 9144000;
+    constexpr double plainHeight = 6858000;
+    const auto size = childNamed(presentation_.root(), ns::presentation, "sldSz");
+    const auto side = [&](const char* name, double plain) {
+        const double emu = size.attribute(name).as_double();
+        return (emu > 0 ? emu : plain) / emuPerPoint;
+    };
+    return {side("cx", plainWidth), side("cy", plainHeight)};
+}
+
+model::DeckSlidePtr FileDeck::slideAt(std::int32_t place) {
+    const auto index = static_cast<std::size_t>(place) - 1;
+    return index < slides_.size() ? slides_[index] : nullptr;
+}
+
+/// The layout whose master's layouts new slides get.
+std::string FileDeck::neighbourLayout() {
+    if (!slides_.empty()) return slides_.back()->layoutPart();
+    const auto masters = childNamed(presentation_.root(), ns::presentation, "sldMasterIdLst");
+    const auto first = childNamed(masters, ns::presentation, "sldMasterId");
+    const Relationships& relationships = package_.relationshipsOf(main_);
+    const Relationship* const found =
+        relationships.withId(attributeNamed(first, ns::relationships, "id").value());
+    if (found == nullptr) throw PackageError(Fault::Damaged, "it has no slide master");
+    return layouts_.firstOf(relationships.partOf(*found));
+}
+
+model::DeckSlidePtr FileDeck::addSlide(std::int32_t place, std::int32_t layout) {
+    if (place < 1 || place > slideCount() + 1) return nullptr;
+    const std::string layoutPart = layouts_.find(layout, neighbourLayout());
+    const std::string part = package_.freeName(folderOf(main_) + "/slides/slide", ".xml");
+    package_.add(part, slideType, emptySlide);
+    package_.relationshipsOf(part).add("slideLayout", layoutPart);
+    const std::string relationship = package_.relationshipsOf(main_).add("slide", part);
+    const std::string id = freeSlideId();
+    listSlide(place, relationship, id);
+    auto slide = std::make_shared<FileSlide>(*this, part, relationship, id);
+    slides_.insert(slides_.begin() + place - 1, slide);
+    slide->makePlaceholders(layout);
+    return slide;
+}
+
+/// Above all that are taken, as long as there are numbers; those of masters lie higher.
+std::string FileDeck::freeSlideId() const {
+    constexpr unsigned lowest = 256;
+    constexpr unsigned end = 2147483648U;
+    std::set<unsigned> taken;
+    for (const auto& slide : slides_)
+        taken.insert(static_cast<unsigned>(leadingNumber(slide->id())));
+    unsigned id = taken.empty() ? lowest : std::max(lowest, *taken.rbegin() + 1);
+    if (id >= end) {
+        for (id = lowest; taken.contains(id);) ++id;
+    }
+    return std::to_string(id);
+}
+
+void FileDeck::listSlide(std::int32_t place, const std::string& relationshipId,
+                         const std::string& id) {
+    auto root = presentation_.root();
+    const auto list = childInOrder(root, ns::presentation, "sldIdLst", presentationOrder);
+    const bool isLast = place > slideCount();
+    const std::string before = isLast ? "" : slides_[static_cast<std::size_t>(place) - 1]->id();
+    insertMarkup(list, fmt::format(R"(<p:sldId id="{}" r:id="{}"/>)", id, relationshipId),
+                 isLast ? pugi::xml_node() : entryOf(list, before));
+    joinSection(sectionsIn(root), id, before);
+}
+
+void FileDeck::removeSlide(FileSlide& slide) {
+    auto root = presentation_.root();
+    auto list = childNamed(root, ns::presentation, "sldIdLst");
+    list.remove_child(entryOf(list, slide.id()));
+    for (auto& section : sectionsIn(root)) section.remove_child(entryOf(section, slide.id()));
+    const auto shows = childNamed(root, ns::presentation, "custShowLst");
+    for (const auto& show : shows.children()) {
+        auto slides = childNamed(show, ns::presentation, "sldLst");
+        for (const auto& entry : childrenNamed(slides, ns::presentation, "sld")) {
+            if (attributeNamed(entry, ns::relationships, "id").value() == slide.relationshipId())
+                slides.remove_child(entry);
+        }
+    }
+    package_.relationshipsOf(main_).remove(slide.relationshipId());
+    package_.remove(slide.part());
+    slide.markGone();
+    std::erase_if(slides_, [&](const auto& held) { return held.get() == &slide; });
+}
+
+void FileDeck::markGone() {
+    isGone_ = true;
+    for (const auto& slide : slides_) slide->markGone();
+}
+
+void FileDeck::saveCopy(const std::string& path) {
+    const std::string lower = lowerCase(path);
+    const bool keepsMacros = lower.ends_with(".pptm");
+    if (!keepsMacros && !lower.ends_with(".pptx"))
+        throw Failure(FailureNumber::InvalidProcedureCall, "Presentation.SaveCopyAs",
+                      "A presentation is saved as .pptx or .pptm, not as " + path);
+    for (const auto& slide : slides_) slide->write();
+    writeKind(keepsMacros);
+    writeCount();
+    package_.replace(main_, presentation_.bytes());
+    package_.save(std::filesystem::path(std::u8string(path.begin(), path.end())));
+}
+
+void FileDeck::writeKind(bool keepsMacros) {
+    package_.setContentType(main_,
+                            (keepsMacros ? macroPresentation : plainPresentation).contentType);
+    if (keepsMacros) return;
+    Relationships& relationships = package_.relationshipsOf(main_);
+    if (const Relationship* const macros = relationships.ofType(macroProject)) {
+        const std::string part = relationships.partOf(*macros);
+        relationships.remove(std::string(macros->id));
+        package_.remove(part);
+    }
+}
+
+/// The number that file managers show.
+void FileDeck::writeCount() {
+    const Relationships& relationships = package_.relationshipsOf("/");
+    const Relationship* const found = relationships.ofType("extended-properties");
+    if (found == nullptr || found->isExternal) return;
+    const std::string part = relationships.partOf(*found);
+    if (!package_.has(part)) return;
+    Xml properties(package_.read(part), part);
+    auto count = properties.root().child("Slides");
+    if (!count || count.text().as_int() == slideCount()) return;
+    count.text().set(slideCount());
+    package_.replace(part, properties.bytes());
+}
+
+void FileDeck::setViewType(std::int32_t viewType) {
+    constexpr std::int32_t lastView = 12;
+    if (viewType < 1 || viewType > lastView)
+        throw Failure(FailureNumber::InvalidProcedureCall, "DocumentWindow.ViewType",
+                      fmt::format("There is no view {}", viewType));
+    viewType_ = viewType;
+}
+
+model::DeckSlidePtr FileDeck::slideInView() {
+    if (const auto shown = inView_.lock(); shown && !shown->isGone()) return shown;
+    return slideAt(1);
+}
+
+void FileDeck::show(const model::DeckSlidePtr& slide) {
+    unselect();
+    inView_ = std::dynamic_pointer_cast<FileSlide>(slide);
+}
+
+std::vector<model::DeckShapePtr> FileDeck::selectedShapes() {
+    const auto shape = selected_.lock();
+    if (!shape || shape->isGone()) return {};
+    return {shape};
+}
+
+void FileDeck::select(const model::DeckShapePtr& shape) {
+    show(std::dynamic_pointer_cast<FileShape>(shape)->slide().shared_from_this());
+    selected_ = shape;
+}
+
+}  // namespace office::package

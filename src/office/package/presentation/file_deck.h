@@ -1,0 +1,98 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "office/model/powerpoint/deck.h"
+#include "office/package/package.h"
+#include "office/package/presentation/deck_file.h"
+#include "office/package/presentation/deck_layouts.h"
+#include "office/package/presentation/file_slide.h"
+#include "office/package/xml.h"
+
+namespace office::package {
+
+/// A presentation in a package. Its window remembers what it shows and what is selected in it.
+class FileDeck : public model::Deck,
+                 private model::DeckWindow,
+                 public std::enable_shared_from_this<FileDeck> {
+public:
+    /// `path` is empty for a deck that has no file yet. `PackageError` if the package is damaged or
+    /// no presentation.
+    FileDeck(Package package, std::string path, std::string name, MeasureText measure);
+
+    [[nodiscard]] Package& package() { return package_; }
+    [[nodiscard]] const MeasureText& measure() const { return measure_; }
+    [[nodiscard]] DeckLayouts& layouts() { return layouts_; }
+    /// Where pictures go: their names without number and ending.
+    [[nodiscard]] std::string mediaStem() const;
+    [[nodiscard]] std::int32_t placeOf(const FileSlide& slide) const;
+    void removeSlide(FileSlide& slide);
+    void markGone();
+    /// What is called when it is closed.
+    void onClosed(std::function<void(FileDeck&)> closed) { closed_ = std::move(closed); }
+    void onActivated(std::function<void(FileDeck&)> activated) {
+        activated_ = std::move(activated);
+    }
+
+    [[nodiscard]] bool isGone() const override { return isGone_; }
+    std::string name() override { return name_; }
+    std::string fullName() override { return path_.empty() ? name_ : path_; }
+    model::Size slideSize() override;
+    std::int32_t slideCount() override { return static_cast<std::int32_t>(slides_.size()); }
+    model::DeckSlidePtr slideAt(std::int32_t place) override;
+    model::DeckSlidePtr addSlide(std::int32_t place, std::int32_t layout) override;
+    model::DeckWindow& window() override { return *this; }
+    void activate() override { activated_(*this); }
+    bool showsSlides() override { return false; }
+    void endSlideShow() override {}
+    /// Also with the ending .pptm. A deck with macros leaves them out of a .pptx.
+    void saveCopy(const std::string& path) override;
+    void close() override { closed_(*this); }
+
+private:
+    std::int32_t viewType() override { return viewType_; }
+    void setViewType(std::int32_t viewType) override;
+    model::DeckSlidePtr slideInView() override;
+    void show(const model::DeckSlidePtr& slide) override;
+    std::vector<model::DeckShapePtr> selectedShapes() override;
+    void select(const model::DeckShapePtr& shape) override;
+    void unselect() override { selected_.reset(); }
+
+    void readSlides();
+    void listSlide(std::int32_t place, const std::string& relationshipId, const std::string& id);
+    [[nodiscard]] std::string freeSlideId() const;
+    [[nodiscard]] std::string neighbourLayout();
+    void writeCount();
+    void writeKind(bool keepsMacros);
+
+    Package package_;
+    std::string path_;
+    std::string name_;
+    MeasureText measure_;
+    std::string main_;
+    Xml presentation_;
+    DeckLayouts layouts_;
+    std::vector<std::shared_ptr<FileSlide>> slides_;
+    std::int32_t viewType_ = 9;
+    std::weak_ptr<FileSlide> inView_;
+    std::weak_ptr<model::DeckShape> selected_;
+    std::function<void(FileDeck&)> closed_;
+    std::function<void(FileDeck&)> activated_;
+    bool isGone_ = false;
+};
+
+using FileDeckPtr = std::shared_ptr<FileDeck>;
+
+/// Relationships that other makers have added to the standard.
+inline constexpr std::string_view macroProject =
+    "http://schemas.microsoft.com/office/2006/relationships/vbaProject";
+inline constexpr std::string_view signatureOrigin =
+    "http://schemas.openxmlformats.org/package/2006/relationships/digital-signature/origin";
+
+/// The part that a package is about. `PackageError` NotAPackage if that is no presentation.
+[[nodiscard]] std::string presentationPartOf(Package& package);
+
+}  // namespace office::package

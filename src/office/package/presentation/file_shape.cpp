@@ -1,0 +1,183 @@
+#include "office/package/presentation/file_shape.h"
+
+#include <array>
+#include <cmath>
+
+#include "office/model/powerpoint/objects.h"
+#include "office/package/presentation/file_deck.h"
+#include "office/package/presentation/file_slide.h"
+
+namespace office::package {
+
+namespace {
+
+const std::vector<std::string_view> transformOrder = {"off", "ext", "chOff", "chExt"};
+
+/// The element that says what is locked of a shape, by the shape's own name.
+struct Locks {
+    const char* shape;
+    const char* holder;
+    const char* name;
+};
+constexpr std::array<Locks, 5> lockNames = {{
+    {"pic", "cNvPicPr", "picLocks"},
+    {"sp", "cNvSpPr", "spLocks"},
+    {"cxnSp", "cNvCxnSpPr", "cxnSpLocks"},
+    {"graphicFrame", "cNvGraphicFramePr", "graphicFrameLocks"},
+    {"grpSp", "cNvGrpSpPr", "grpSpLocks"},
+}};
+
+pugi::xml_node shapeIn(pugi::xml_node element) {
+    if (!isNamed(element, ns::compatibility, "AlternateContent")) return element;
+    for (const pugi::xml_node branch : element.children()) {
+        for (const pugi::xml_node shape : branch.children()) {
+            if (shape.type() == pugi::node_element) return shape;
+        }
+    }
+    return element;
+}
+
+pugi::xml_node transformOf(pugi::xml_node shape, pugi::xml_node looks) {
+    const auto own = childNamed(shape, ns::presentation, "xfrm");
+    return own ? own : childNamed(looks, ns::drawing, "xfrm");
+}
+
+pugi::xml_node looksOf(pugi::xml_node shape) {
+    const auto own = childNamed(shape, ns::presentation, "spPr");
+    return own ? own : childNamed(shape, ns::presentation, "grpSpPr");
+}
+
+double pointsOf(pugi::xml_attribute emu) {
+    return emu.as_double() / emuPerPoint;
+}
+
+void setEmu(pugi::xml_node node, const char* name, double points) {
+    attributeFor(node, name).set_value(emuOf(points));
+}
+
+}  // namespace
+
+long long emuOf(double points) {
+    return std::llround(points * emuPerPoint);
+}
+
+FileShape::FileShape(FileSlide& slide, pugi::xml_node element)
+    : slide_(slide),
+      element_(element),
+      node_(shapeIn(element)) {}
+
+pugi::xml_node FileShape::changed() {
+    slide_.touch();
+    return node_;
+}
+
+pugi::xml_node FileShape::properties(std::string_view name) const {
+    return childNamed(node_.find_child([](const pugi::xml_node& child) {
+        return child.type() == pugi::node_element;
+    }),
+                      ns::presentation, name);
+}
+
+bool FileShape::isEmptyPlaceholder() {
+    const auto own = placeholder();
+    return own && textBody() && words().empty();
+}
+
+std::string FileShape::name() {
+    return properties("cNvPr").attribute("name").value();
+}
+
+void FileShape::setName(const std::string& name) {
+    changed();
+    attributeFor(properties("cNvPr"), "name").set_value(name.c_str());
+}
+
+std::string FileShape::alternativeText() {
+    return properties("cNvPr").attribute("descr").value();
+}
+
+void FileShape::setAlternativeText(const std::string& text) {
+    changed();
+    attributeFor(properties("cNvPr"), "descr").set_value(legible(text).c_str());
+}
+
+FileShape::Frame FileShape::frame() {
+    const auto read = [](pugi::xml_node transform) -> Frame {
+        const auto corner = childNamed(transform, ns::drawing, "off");
+        const auto size = childNamed(transform, ns::drawing, "ext");
+        return {{pointsOf(corner.attribute("x")), pointsOf(corner.attribute("y"))},
+                {pointsOf(size.attribute("cx")), pointsOf(size.attribute("cy"))}};
+    };
+    if (const auto own = transformOf(node_, looksOf(node_))) return read(own);
+    if (const auto kind = placeholder()) {
+        for (const auto& shape : slide_.deck().layouts().ancestorsOf(*kind, slide_.layoutPart())) {
+            if (const auto inherited = transformOf(shape, looksOf(shape))) return read(inherited);
+        }
+    }
+    return {};
+}
+
+void FileShape::setFrame(const Frame& frame) {
+    changed();
+    auto transform = transformOf(node_, looksOf(node_));
+    if (!transform) transform = childInOrder(looks("Left"), ns::drawing, "xfrm", looksOrder);
+    const auto corner = childInOrder(transform, ns::drawing, "off", transformOrder);
+    const auto size = childInOrder(transform, ns::drawing, "ext", transformOrder);
+    setEmu(corner, "x", frame.corner.left);
+    setEmu(corner, "y", frame.corner.top);
+    setEmu(size, "cx", frame.size.width);
+    setEmu(size, "cy", frame.size.height);
+}
+
+model::Point FileShape::corner() {
+    return frame().corner;
+}
+
+void FileShape::moveTo(const model::Point& corner) {
+    setFrame({corner, frame().size});
+}
+
+model::Size FileShape::size() {
+    return frame().size;
+}
+
+void FileShape::resize(const model::Size& size) {
+    setFrame({frame().corner, size});
+}
+
+pugi::xml_node FileShape::locks(bool made) {
+    for (const Locks& one : lockNames) {
+        if (!isNamed(node_, ns::presentation, one.shape)) continue;
+        const auto holder = properties(one.holder);
+        return made ? childInOrder(holder, ns::drawing, one.name, {one.name, "stCxn", "extLst"})
+                    : childNamed(holder, ns::drawing, one.name);
+    }
+    return {};
+}
+
+bool FileShape::keepsProportions() {
+    return locks(false).attribute("noChangeAspect").as_bool();
+}
+
+void FileShape::setKeepsProportions(bool keeps) {
+    if (keeps == keepsProportions()) return;
+    changed();
+    attributeFor(locks(true), "noChangeAspect").set_value(keeps ? "1" : "0");
+}
+
+pugi::xml_node FileShape::drawnProperties() const {
+    return looksOf(node_);
+}
+
+pugi::xml_node FileShape::looks(std::string_view member) {
+    const auto found = drawnProperties();
+    if (!found)
+        model::refuse("Shape." + std::string(member), "A shape of this kind has no such property");
+    return found;
+}
+
+void FileShape::remove() {
+    slide_.removeShape(*this);
+}
+
+}  // namespace office::package

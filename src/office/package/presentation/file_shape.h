@@ -1,0 +1,104 @@
+#pragma once
+
+#include <pugixml.hpp>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "office/model/powerpoint/deck_shape.h"
+#include "office/package/presentation/deck_layouts.h"
+
+namespace office::package {
+
+class FileSlide;
+
+/// Lengths in the files are English metric units.
+inline constexpr double emuPerPoint = 12700;
+[[nodiscard]] long long emuOf(double points);
+/// The schema's order of what says how a shape looks.
+extern const std::vector<std::string_view> looksOrder;
+/// The plain colour that an element holds, and its markup; 0xBBGGRR.
+[[nodiscard]] std::int32_t colourIn(pugi::xml_node holder);
+[[nodiscard]] std::string colourMarkup(std::int32_t colour);
+
+/// A shape of a slide in a package.
+class FileShape : public model::DeckShape,
+                  private model::ShapeText,
+                  public std::enable_shared_from_this<FileShape> {
+public:
+    /// `element` is the shape, or what holds the alternatives of one.
+    FileShape(FileSlide& slide, pugi::xml_node element);
+
+    [[nodiscard]] FileSlide& slide() const { return slide_; }
+    [[nodiscard]] pugi::xml_node element() const { return element_; }
+    [[nodiscard]] std::optional<Placeholder> placeholder() const { return placeholderOf(node_); }
+    /// Whether it is a placeholder that nothing has been put into.
+    [[nodiscard]] bool isEmptyPlaceholder();
+    void markGone() { isGone_ = true; }
+
+    [[nodiscard]] bool isGone() const override { return isGone_; }
+    std::string name() override;
+    void setName(const std::string& name) override;
+    std::string alternativeText() override;
+    void setAlternativeText(const std::string& text) override;
+    model::Point corner() override;
+    void moveTo(const model::Point& corner) override;
+    model::Size size() override;
+    void resize(const model::Size& size) override;
+    bool keepsProportions() override;
+    void setKeepsProportions(bool keeps) override;
+    model::Outline outline() override;
+    void setOutline(model::Outline outline) override;
+    std::optional<double> adjustment(std::int32_t place) override;
+    bool setAdjustment(std::int32_t place, double value) override;
+    model::Shadow shadow() override;
+    void setShadow(const model::Shadow& shadow) override;
+    model::Reflection reflection() override;
+    void setReflection(const model::Reflection& reflection) override;
+    model::ShapeText* textFrame() override;
+    void remove() override;
+
+private:
+    std::string words() override;
+    void setWords(const std::string& words) override;
+    bool wraps() override;
+    void setWraps(bool wraps) override;
+    model::Font font() override;
+    void setFont(const model::FontChange& change) override;
+
+    struct Frame {
+        model::Point corner;
+        model::Size size;
+    };
+    [[nodiscard]] Frame frame();
+    void setFrame(const Frame& frame);
+    /// The element that says what the shape looks like; `Failure` 1004 for a kind without one.
+    [[nodiscard]] pugi::xml_node looks(std::string_view member);
+    [[nodiscard]] pugi::xml_node drawnProperties() const;
+    /// Of the picture's or the shape's own: what it is called, what may be done with it.
+    [[nodiscard]] pugi::xml_node properties(std::string_view name) const;
+    [[nodiscard]] pugi::xml_node locks(bool made);
+    [[nodiscard]] pugi::xml_node effect(std::string_view name);
+    pugi::xml_node madeEffect(std::string_view member, std::string_view name);
+    void dropEffect(std::string_view name);
+    [[nodiscard]] pugi::xml_node guide(std::int32_t place);
+    [[nodiscard]] pugi::xml_node textBody() const;
+    /// The properties of its characters, its own and those that it inherits, the nearest first.
+    [[nodiscard]] std::vector<pugi::xml_node> characterProperties();
+    /// Fits a box to its text that is made to grow with it. Its upper left corner stays.
+    void growWithText();
+    /// The node, which is about to be changed.
+    pugi::xml_node changed();
+
+    FileSlide& slide_;
+    pugi::xml_node element_;
+    pugi::xml_node node_;
+    bool isGone_ = false;
+};
+
+using FileShapePtr = std::shared_ptr<FileShape>;
+
+}  // namespace office::package

@@ -1,0 +1,190 @@
+#include "office/package/presentation/file_slide.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+
+#include "office/package/presentation/file_deck.h"
+#include "office/package/presentation/picture_file.h"
+
+namespace office::package {
+
+namespace {
+
+constexpr std::array<std::string_view, 6> shapeNames = {"sp",    "pic",   "graphicFrame",
+                                                        "grpSp", "cxnSp", "contentPart"};
+
+bool isShape(pugi::xml_node node) {
+    if (isNamed(node, ns::compatibility, "AlternateContent")) return true;
+    return std::any_of(shapeNames.begin(), shapeNames.end(), [&](std::string_view name) {
+        return isNamed(node, ns::presentation, name);
+    });
+}
+
+std::string boxMarkup(const model::Point& corner, const model::Size& size) {
+    return fmt::format(R"(<a:xfrm><a:off x="{}" y="{}"/><a:ext cx="{}" cy="{}"/></a:xfrm>)",
+                       emuOf(corner.left), emuOf(corner.top), emuOf(size.width),
+                       emuOf(size.height));
+}
+
+const char* nameOf(const Placeholder& placeholder) {
+    if (placeholder.isTitle()) return "Title";
+    return placeholder.type == "subTitle" ? "Subtitle" : "Placeholder";
+}
+
+}  // namespace
+
+pugi::xml_node FileSlide::tree() {
+    if (!xml_) xml_ = std::make_unique<Xml>(deck_.package().read(part_), part_);
+    const auto found = shapeTreeOf(*xml_);
+    if (!found) throw PackageError(Fault::Damaged, "its slide " + part_ + " has no tree of shapes");
+    return found;
+}
+
+std::vector<FileShapePtr>& FileSlide::shapes() {
+    if (!xml_) {
+        for (const pugi::xml_node child : tree().children()) {
+            if (isShape(child)) shapes_.push_back(std::make_shared<FileShape>(*this, child));
+        }
+    }
+    return shapes_;
+}
+
+std::string FileSlide::layoutPart() {
+    const Relationships& relationships = deck_.package().relationshipsOf(part_);
+    const Relationship* const found = relationships.ofType("slideLayout");
+    if (found == nullptr)
+        throw PackageError(Fault::Damaged, "its slide " + part_ + " has no layout");
+    return relationships.partOf(*found);
+}
+
+std::int32_t FileSlide::place() {
+    return deck_.placeOf(*this);
+}
+
+std::int32_t FileSlide::layout() {
+    return deck_.layouts().numberOf(layoutPart());
+}
+
+void FileSlide::setLayout(std::int32_t layout) {
+    Relationships& relationships = deck_.package().relationshipsOf(part_);
+    const std::string found = deck_.layouts().find(layout, layoutPart());
+    relationships.remove(relationships.ofType("slideLayout")->id);
+    relationships.add("slideLayout", found);
+    const auto empty = [](const FileShapePtr& shape) { return shape->isEmptyPlaceholder(); };
+    while (true) {
+        const auto leftOver = std::find_if(shapes().begin(), shapes().end(), empty);
+        if (leftOver == shapes().end()) break;
+        removeShape(**leftOver);
+    }
+    makePlaceholders(layout);
+}
+
+/// Those of the layout that the slide hasn't yet.
+void FileSlide::makePlaceholders(std::int32_t layout) {
+    for (const Placeholder& wanted : deck_.layouts().placeholdersFor(layout, layoutPart())) {
+        const bool isThere = std::any_of(shapes().begin(), shapes().end(), [&](const auto& shape) {
+            const auto own = shape->placeholder();
+            return own && (wanted.isTitle() ? own->isTitle() : own->index == wanted.index);
+        });
+        if (isThere) continue;
+        const auto made = addShape(nameOf(wanted), R"(<p:sp><p:nvSpPr><p:cNvPr/><p:cNvSpPr>)"
+                                                   R"(<a:spLocks noGrp="1"/></p:cNvSpPr>)"
+                                                   R"(<p:nvPr><p:ph/></p:nvPr></p:nvSpPr><p:spPr/>)"
+                                                   R"(<p:txBody><a:bodyPr/><a:lstStyle/><a:p/>)"
+                                                   R"(</p:txBody></p:sp>)");
+        auto kind = made->element().first_child().last_child().first_child();
+        if (wanted.type != "obj") kind.append_attribute("type").set_value(wanted.type.c_str());
+        if (wanted.index != "0") kind.append_attribute("idx").set_value(wanted.index.c_str());
+    }
+}
+
+model::DeckShapePtr FileSlide::shapeAt(std::int32_t place) {
+    const auto index = static_cast<std::size_t>(place) - 1;
+    return index < shapes().size() ? shapes()[index] : nullptr;
+}
+
+model::DeckShapePtr FileSlide::titleShape() {
+    const auto found = std::find_if(shapes().begin(), shapes().end(), [](const auto& shape) {
+        const auto kind = shape->placeholder();
+        return kind && kind->isTitle();
+    });
+    return found != shapes().end() ? *found : nullptr;
+}
+
+std::int32_t FileSlide::freeShapeId() {
+    std::int32_t highest = 1;
+    struct Walker : pugi::xml_tree_walker {
+        explicit Walker(std::int32_t& id) : highest(id) {}
+        bool for_each(pugi::xml_node& node) override {
+            if (std::string_view(node.name()).ends_with("cNvPr"))
+                highest = std::max(highest, node.attribute("id").as_int());
+            return true;
+        }
+        std::int32_t& highest;
+    } walker(highest);
+    tree().traverse(walker);
+    return highest + 1;
+}
+
+FileShapePtr FileSlide::addShape(std::string_view kind, const std::string& markup) {
+    static_cast<void>(shapes());
+    const std::int32_t id = freeShapeId();
+    // What its maker adds to a tree stands behind the shapes.
+    const auto element =
+        insertMarkup(tree(), markup, childNamed(tree(), ns::presentation, "extLst"));
+    shapes_.push_back(std::make_shared<FileShape>(*this, element));
+    auto properties = element.first_child().first_child();
+    properties.append_attribute("id").set_value(id);
+    properties.append_attribute("name").set_value(fmt::format("{} {}", kind, id - 1).c_str());
+    touch();
+    return shapes_.back();
+}
+
+model::DeckShapePtr FileSlide::addPicture(const std::string& file, const model::Point& corner) {
+    PictureFile picture = readPicture(file);
+    const std::string media = deck_.package().addMedia(
+        deck_.mediaStem(), picture.ending, picture.contentType, std::move(picture.bytes));
+    const std::string relationship = deck_.package().relationshipsOf(part_).add("image", media);
+    return addShape(
+        "Picture",
+        fmt::format(R"(<p:pic><p:nvPicPr><p:cNvPr/><p:cNvPicPr><a:picLocks noChangeAspect="1"/>)"
+                    R"(</p:cNvPicPr><p:nvPr/></p:nvPicPr><p:blipFill><a:blip r:embed="{}"/>)"
+                    R"(<a:stretch><a:fillRect/></a:stretch></p:blipFill><p:spPr>{})"
+                    R"(<a:prstGeom prst="rect"><a:avLst/></a:prstGeom></p:spPr></p:pic>)",
+                    relationship, boxMarkup(corner, picture.size)));
+}
+
+model::DeckShapePtr FileSlide::addLabel(const model::Point& corner, const model::Size& size) {
+    return addShape(
+        "TextBox",
+        fmt::format(R"(<p:sp><p:nvSpPr><p:cNvPr/><p:cNvSpPr txBox="1"/><p:nvPr/></p:nvSpPr>)"
+                    R"(<p:spPr>{}<a:prstGeom prst="rect"><a:avLst/></a:prstGeom><a:noFill/>)"
+                    R"(</p:spPr><p:txBody><a:bodyPr wrap="square"><a:spAutoFit/></a:bodyPr>)"
+                    R"(<a:lstStyle/><a:p/></p:txBody></p:sp>)",
+                    boxMarkup(corner, size)));
+}
+
+void FileSlide::removeShape(FileShape& shape) {
+    touch();
+    shape.element().parent().remove_child(shape.element());
+    shape.markGone();
+    std::erase_if(shapes_, [&](const auto& held) { return held.get() == &shape; });
+}
+
+void FileSlide::remove() {
+    deck_.removeSlide(*this);
+}
+
+void FileSlide::markGone() {
+    isGone_ = true;
+    for (const auto& shape : shapes_) shape->markGone();
+}
+
+void FileSlide::write() {
+    if (isChanged_) deck_.package().replace(part_, xml_->bytes());
+    isChanged_ = false;
+}
+
+}  // namespace office::package

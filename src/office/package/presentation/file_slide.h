@@ -1,0 +1,68 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "office/model/powerpoint/deck_slide.h"
+#include "office/package/presentation/file_shape.h"
+#include "office/package/xml.h"
+
+namespace office::package {
+
+class FileDeck;
+
+/// A slide in a package; its part is read once somebody asks for what it holds.
+class FileSlide : public model::DeckSlide, public std::enable_shared_from_this<FileSlide> {
+public:
+    FileSlide(FileDeck& deck, std::string part, std::string relationshipId, std::string id)
+        : deck_(deck),
+          part_(std::move(part)),
+          relationshipId_(std::move(relationshipId)),
+          id_(std::move(id)) {}
+
+    [[nodiscard]] FileDeck& deck() const { return deck_; }
+    [[nodiscard]] const std::string& part() const { return part_; }
+    /// How the presentation names it: by its relationship and by its own number.
+    [[nodiscard]] const std::string& relationshipId() const { return relationshipId_; }
+    [[nodiscard]] const std::string& id() const { return id_; }
+    [[nodiscard]] std::string layoutPart();
+    void makePlaceholders(std::int32_t layout);
+    void removeShape(FileShape& shape);
+    void touch() { isChanged_ = true; }
+    void markGone();
+    /// Hands a changed slide to the package.
+    void write();
+
+    [[nodiscard]] bool isGone() const override { return isGone_; }
+    std::int32_t place() override;
+    std::int32_t layout() override;
+    void setLayout(std::int32_t layout) override;
+    std::int32_t shapeCount() override { return static_cast<std::int32_t>(shapes().size()); }
+    model::DeckShapePtr shapeAt(std::int32_t place) override;
+    model::DeckShapePtr titleShape() override;
+    model::DeckShapePtr addPicture(const std::string& file, const model::Point& corner) override;
+    model::DeckShapePtr addLabel(const model::Point& corner, const model::Size& size) override;
+    void remove() override;
+
+private:
+    [[nodiscard]] std::vector<FileShapePtr>& shapes();
+    [[nodiscard]] pugi::xml_node tree();
+    /// Puts a shape on top of the others, and names it by its kind and its number.
+    FileShapePtr addShape(std::string_view kind, const std::string& markup);
+    [[nodiscard]] std::int32_t freeShapeId();
+
+    FileDeck& deck_;
+    std::string part_;
+    std::string relationshipId_;
+    std::string id_;
+    std::unique_ptr<Xml> xml_;
+    std::vector<FileShapePtr> shapes_;
+    bool isChanged_ = false;
+    bool isGone_ = false;
+};
+
+using FileSlidePtr = std::shared_ptr<FileSlide>;
+
+}  // namespace office::package

@@ -1,0 +1,202 @@
+// What a shape of a file looks like: its outline, its shadow, its reflection.
+
+#include <fmt/format.h>
+
+#include <array>
+#include <cmath>
+#include <numbers>
+
+#include "office/package/presentation/file_shape.h"
+#include "office/package/presentation/file_slide.h"
+#include "office/text.h"
+
+namespace office::package {
+
+namespace {
+
+const std::vector<std::string_view> effectOrder = {
+    "blur", "fillOverlay", "glow", "innerShdw", "outerShdw", "prstShdw", "reflection", "softEdge"};
+
+struct OutlineName {
+    model::Outline outline;
+    const char* name;
+};
+constexpr std::array<OutlineName, 2> outlines = {{
+    {model::Outline::Rectangle, "rect"},
+    {model::Outline::RoundedRectangle, "roundRect"},
+}};
+
+/// Shares are of 100000, angles of 60000 to the degree.
+constexpr double emuShare = 100000;
+constexpr double perPercent = emuShare / 100;
+constexpr double perDegree = 60000;
+/// The radius of a rounded rectangle that says none.
+constexpr double plainRadius = 16667 / emuShare;
+
+void setNumber(pugi::xml_node node, const char* name, double value) {
+    attributeFor(node, name).set_value(std::llround(value));
+}
+
+constexpr double radiansPerDegree = std::numbers::pi / 180;
+
+double degreesOf(double x, double y) {
+    const double degrees = std::atan2(y, x) / radiansPerDegree;
+    return degrees < 0 ? degrees + 360 : degrees;
+}
+
+/// 0xBBGGRR from and to the files' "RRGGBB".
+std::int32_t swapped(std::int32_t colour) {
+    return (colour & 0xFF) << 16 | (colour & 0xFF00) | (colour >> 16 & 0xFF);
+}
+
+}  // namespace
+
+const std::vector<std::string_view> looksOrder = {"xfrm",      "custGeom", "prstGeom",  "noFill",
+                                                  "solidFill", "gradFill", "blipFill",  "pattFill",
+                                                  "grpFill",   "ln",       "effectLst", "effectDag",
+                                                  "scene3d",   "sp3d",     "extLst"};
+
+std::int32_t colourIn(pugi::xml_node holder) {
+    const auto colour = childNamed(holder, ns::drawing, "srgbClr");
+    return swapped(static_cast<std::int32_t>(
+        std::strtol(colour.attribute("val").as_string("0"), nullptr, 16)));
+}
+
+std::string colourMarkup(std::int32_t colour) {
+    return fmt::format("<a:srgbClr val=\"{:06X}\"/>", swapped(colour));
+}
+
+model::Outline FileShape::outline() {
+    const auto drawn = drawnProperties();
+    if (childNamed(drawn, ns::drawing, "custGeom")) return model::Outline::Other;
+    const auto geometry = childNamed(drawn, ns::drawing, "prstGeom");
+    if (!geometry) return model::Outline::Rectangle;
+    const std::string_view name = geometry.attribute("prst").value();
+    for (const OutlineName& one : outlines) {
+        if (name == one.name) return one.outline;
+    }
+    return model::Outline::Other;
+}
+
+void FileShape::setOutline(model::Outline wanted) {
+    if (outline() == wanted) return;
+    auto drawn = looks("AutoShapeType");
+    changed();
+    drawn.remove_child(childNamed(drawn, ns::drawing, "custGeom"));
+    auto geometry = childInOrder(drawn, ns::drawing, "prstGeom", looksOrder);
+    for (const OutlineName& one : outlines) {
+        if (one.outline == wanted) attributeFor(geometry, "prst").set_value(one.name);
+    }
+    geometry.remove_child(childNamed(geometry, ns::drawing, "avLst"));
+    childInOrder(geometry, ns::drawing, "avLst", {"avLst"});
+}
+
+/// The number that forms an outline, at a place from 1; null where none is said.
+pugi::xml_node FileShape::guide(std::int32_t place) {
+    const auto geometry = childNamed(drawnProperties(), ns::drawing, "prstGeom");
+    const auto guides =
+        childrenNamed(childNamed(geometry, ns::drawing, "avLst"), ns::drawing, "gd");
+    const auto index = static_cast<std::size_t>(place) - 1;
+    return index < guides.size() ? guides[index] : pugi::xml_node();
+}
+
+std::optional<double> FileShape::adjustment(std::int32_t place) {
+    const auto found = guide(place);
+    const std::string formula = found.attribute("fmla").value();
+    if (formula.starts_with("val ")) return leadingNumber(formula.substr(4)) / emuShare;
+    const bool isRound = outline() == model::Outline::RoundedRectangle;
+    return isRound && place == 1 && !found ? std::optional(plainRadius) : std::nullopt;
+}
+
+bool FileShape::setAdjustment(std::int32_t place, double value) {
+    if (!adjustment(place)) return false;
+    changed();
+    auto found = guide(place);
+    if (!found) {
+        const auto geometry = childNamed(drawnProperties(), ns::drawing, "prstGeom");
+        found = childInOrder(childInOrder(geometry, ns::drawing, "avLst", {"avLst"}), ns::drawing,
+                             "gd", {"gd"});
+        attributeFor(found, "name").set_value("adj");
+    }
+    attributeFor(found, "fmla")
+        .set_value(fmt::format("val {}", std::llround(value * emuShare)).c_str());
+    return true;
+}
+
+pugi::xml_node FileShape::effect(std::string_view name) {
+    return childNamed(childNamed(drawnProperties(), ns::drawing, "effectLst"), ns::drawing, name);
+}
+
+/// Effects that stand in the order of a graph are left to their maker: a list takes their place.
+pugi::xml_node FileShape::madeEffect(std::string_view member, std::string_view name) {
+    auto drawn = looks(member);
+    changed();
+    drawn.remove_child(childNamed(drawn, ns::drawing, "effectDag"));
+    return childInOrder(childInOrder(drawn, ns::drawing, "effectLst", looksOrder), ns::drawing,
+                        name, effectOrder);
+}
+
+void FileShape::dropEffect(std::string_view name) {
+    const auto found = effect(name);
+    if (!found) return;
+    changed();
+    found.parent().remove_child(found);
+}
+
+model::Shadow FileShape::shadow() {
+    const auto found = effect("outerShdw");
+    if (!found) return {};
+    const double distance = found.attribute("dist").as_double() / emuPerPoint;
+    const double angle = found.attribute("dir").as_double() / perDegree * radiansPerDegree;
+    return {.isVisible = true,
+            .blurPt = found.attribute("blurRad").as_double() / emuPerPoint,
+            .sizePercent = found.attribute("sx").as_double(emuShare) / perPercent,
+            .offsetXPt = distance * std::cos(angle),
+            .offsetYPt = distance * std::sin(angle),
+            .colour = colourIn(found)};
+}
+
+void FileShape::setShadow(const model::Shadow& shadow) {
+    if (!shadow.isVisible) return dropEffect("outerShdw");
+    auto made = madeEffect("Shadow", "outerShdw");
+    setNumber(made, "blurRad", shadow.blurPt * emuPerPoint);
+    setNumber(made, "dist", std::hypot(shadow.offsetXPt, shadow.offsetYPt) * emuPerPoint);
+    setNumber(made, "dir", degreesOf(shadow.offsetXPt, shadow.offsetYPt) * perDegree);
+    setNumber(made, "sx", shadow.sizePercent * perPercent);
+    setNumber(made, "sy", shadow.sizePercent * perPercent);
+    attributeFor(made, "algn").set_value("ctr");
+    attributeFor(made, "rotWithShape").set_value("0");
+    if (const auto before = childNamed(made, ns::drawing, "srgbClr")) {
+        attributeFor(before, "val")
+            .set_value(fmt::format("{:06X}", swapped(shadow.colour)).c_str());
+    } else {
+        made.remove_children();
+        insertMarkup(made, colourMarkup(shadow.colour));
+    }
+}
+
+model::Reflection FileShape::reflection() {
+    const auto found = effect("reflection");
+    if (!found) return {};
+    return {.offsetPt = found.attribute("dist").as_double() / emuPerPoint,
+            .sizePercent = found.attribute("endPos").as_double(emuShare) / perPercent};
+}
+
+/// Blur and transparency stay those of the reflection before.
+void FileShape::setReflection(const model::Reflection& reflection) {
+    if (reflection.sizePercent <= 0) return dropEffect("reflection");
+    constexpr double halfSeen = emuShare / 2;
+    constexpr double fadedOut = 300;
+    auto made = madeEffect("Reflection", "reflection");
+    setNumber(made, "blurRad", made.attribute("blurRad").as_double());
+    setNumber(made, "stA", made.attribute("stA").as_double(halfSeen));
+    setNumber(made, "endA", fadedOut);
+    setNumber(made, "endPos", reflection.sizePercent * perPercent);
+    setNumber(made, "dist", reflection.offsetPt * emuPerPoint);
+    setNumber(made, "dir", 90 * perDegree);
+    setNumber(made, "sy", -emuShare);
+    attributeFor(made, "algn").set_value("bl");
+    attributeFor(made, "rotWithShape").set_value("0");
+}
+
+}  // namespace office::package

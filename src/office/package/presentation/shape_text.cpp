@@ -1,0 +1,216 @@
+// The text of a shape of a file.
+
+#include <algorithm>
+#include <cmath>
+
+#include "office/package/presentation/file_deck.h"
+#include "office/package/presentation/file_shape.h"
+#include "office/package/presentation/file_slide.h"
+#include "office/text.h"
+
+namespace office::package {
+
+namespace {
+
+const std::vector<std::string_view> characterOrder = {
+    "ln",         "noFill",         "solidFill", "gradFill",  "blipFill", "pattFill",
+    "grpFill",    "effectLst",      "effectDag", "highlight", "uLnTx",    "uLn",
+    "uFillTx",    "uFill",          "latin",     "ea",        "cs",       "sym",
+    "hlinkClick", "hlinkMouseOver", "rtl",       "extLst"};
+const std::vector<std::string_view> paragraphOrder = {"pPr", "br", "r", "fld", "endParaRPr"};
+const std::vector<std::string_view> runOrder = {"rPr", "pPr", "t"};
+
+/// The sizes of characters are hundredths of a point.
+constexpr double perPoint = 100;
+constexpr double plainSizePt = 18;
+constexpr double plainSideMarginPt = 7.2;
+constexpr double plainUpperMarginPt = 3.6;
+
+constexpr char lineBreak = '\v';
+
+bool isRun(pugi::xml_node node) {
+    return isNamed(node, ns::drawing, "r") || isNamed(node, ns::drawing, "fld");
+}
+
+bool isBreak(pugi::xml_node node) {
+    return isNamed(node, ns::drawing, "br");
+}
+
+std::string wordsOf(pugi::xml_node paragraph) {
+    std::string words;
+    for (const pugi::xml_node part : paragraph.children()) {
+        if (isBreak(part)) words += lineBreak;
+        if (isRun(part)) words += childNamed(part, ns::drawing, "t").text().get();
+    }
+    return words;
+}
+
+/// Writes the words of a paragraph into it; all its characters get these properties.
+void writeWords(pugi::xml_node paragraph, std::string_view words, pugi::xml_node properties) {
+    const auto add = [&](const char* markup) {
+        const auto part = insertMarkup(paragraph, markup);
+        if (properties) copyInto(properties, childInOrder(part, ns::drawing, "rPr", runOrder));
+        return part;
+    };
+    while (!words.empty()) {
+        const auto end = std::min(words.find(lineBreak), words.size());
+        if (end > 0) {
+            const auto run = add("<a:r><a:t/></a:r>");
+            childNamed(run, ns::drawing, "t").text().set(legible(words.substr(0, end)).c_str());
+        }
+        if (end < words.size()) add("<a:br/>");
+        words.remove_prefix(std::min(end + 1, words.size()));
+    }
+}
+
+}  // namespace
+
+model::ShapeText* FileShape::textFrame() {
+    return isNamed(node_, ns::presentation, "sp") ? this : nullptr;
+}
+
+pugi::xml_node FileShape::textBody() const {
+    return childNamed(node_, ns::presentation, "txBody");
+}
+
+std::string FileShape::words() {
+    std::string words;
+    for (const auto& paragraph : childrenNamed(textBody(), ns::drawing, "p")) {
+        if (paragraph != childNamed(textBody(), ns::drawing, "p")) words += '\r';
+        words += wordsOf(paragraph);
+    }
+    return words;
+}
+
+/// The new text looks as the first paragraph and the first characters of the old one did.
+void FileShape::setWords(const std::string& words) {
+    changed();
+    auto body = textBody();
+    if (!body) {
+        body = childInOrder(node_, ns::presentation, "txBody", {"txBody", "extLst"});
+        insertMarkup(body, "<a:bodyPr/>");
+    }
+    const auto first = childNamed(body, ns::drawing, "p");
+    auto properties = childNamed(first.find_child(isRun), ns::drawing, "rPr");
+    if (!properties) properties = childNamed(first, ns::drawing, "endParaRPr");
+    const auto ofParagraph = childNamed(first, ns::drawing, "pPr");
+    const auto before = childrenNamed(body, ns::drawing, "p");
+
+    const std::string text = replaceAll(replaceAll(words, "\r\n", "\r"), "\n", "\r");
+    for (std::size_t start = 0; start <= text.size();) {
+        const std::size_t end = std::min(text.find('\r', start), text.size());
+        const auto paragraph = insertMarkup(body, "<a:p/>");
+        if (ofParagraph)
+            copyInto(ofParagraph, childInOrder(paragraph, ns::drawing, "pPr", paragraphOrder));
+        writeWords(paragraph, std::string_view(text).substr(start, end - start), properties);
+        if (properties && start == end)
+            copyInto(properties,
+                     childInOrder(paragraph, ns::drawing, "endParaRPr", paragraphOrder));
+        start = end + 1;
+    }
+    for (const auto& paragraph : before) body.remove_child(paragraph);
+    growWithText();
+}
+
+bool FileShape::wraps() {
+    const auto body = childNamed(textBody(), ns::drawing, "bodyPr");
+    return body.attribute("wrap").as_string("square") != std::string_view("none");
+}
+
+void FileShape::setWraps(bool wraps) {
+    changed();
+    attributeFor(childNamed(textBody(), ns::drawing, "bodyPr"), "wrap")
+        .set_value(wraps ? "square" : "none");
+    growWithText();
+}
+
+std::vector<pugi::xml_node> FileShape::characterProperties() {
+    std::vector<pugi::xml_node> found;
+    const auto add = [&](pugi::xml_node node) {
+        if (node) found.push_back(node);
+    };
+    const auto addLevel = [&](pugi::xml_node body) {
+        const auto levels = childNamed(body, ns::drawing, "lstStyle");
+        add(childNamed(childNamed(levels, ns::drawing, "lvl1pPr"), ns::drawing, "defRPr"));
+    };
+    const auto paragraph = childNamed(textBody(), ns::drawing, "p");
+    add(childNamed(paragraph.find_child(isRun), ns::drawing, "rPr"));
+    add(childNamed(paragraph, ns::drawing, "endParaRPr"));
+    addLevel(textBody());
+    const auto own = placeholder();
+    DeckLayouts& layouts = slide_.deck().layouts();
+    const std::string layout = slide_.layoutPart();
+    if (own) {
+        for (const auto& shape : layouts.ancestorsOf(*own, layout))
+            addLevel(childNamed(shape, ns::presentation, "txBody"));
+    }
+    add(childNamed(layouts.masterTextOf(own ? &*own : nullptr, layout), ns::drawing, "defRPr"));
+    return found;
+}
+
+model::Font FileShape::font() {
+    model::Font font{.name = "Calibri", .sizePt = plainSizePt, .colour = 0};
+    const auto properties = characterProperties();
+    const auto nearest = [&](const auto& says) {
+        const auto found = std::find_if(properties.begin(), properties.end(), says);
+        return found != properties.end() ? *found : pugi::xml_node();
+    };
+    if (const auto named =
+            nearest([](auto node) { return !!childNamed(node, ns::drawing, "latin"); }))
+        font.name = childNamed(named, ns::drawing, "latin").attribute("typeface").value();
+    if (const auto sized = nearest([](auto node) { return !!node.attribute("sz"); }))
+        font.sizePt = sized.attribute("sz").as_double() / perPoint;
+    if (const auto filled =
+            nearest([](auto node) { return !!childNamed(node, ns::drawing, "solidFill"); }))
+        font.colour = colourIn(childNamed(filled, ns::drawing, "solidFill"));
+    return font;
+}
+
+void FileShape::setFont(const model::FontChange& change) {
+    changed();
+    const auto apply = [&](pugi::xml_node properties) {
+        if (change.sizePt)
+            attributeFor(properties, "sz").set_value(std::llround(*change.sizePt * perPoint));
+        if (change.colour) {
+            for (const char* fill : {"noFill", "gradFill", "blipFill", "pattFill", "grpFill"})
+                properties.remove_child(childNamed(properties, ns::drawing, fill));
+            auto fill = childInOrder(properties, ns::drawing, "solidFill", characterOrder);
+            fill.remove_children();
+            insertMarkup(fill, colourMarkup(*change.colour));
+        }
+        if (!change.name) return;
+        for (const char* script : {"latin", "ea", "cs"})
+            attributeFor(childInOrder(properties, ns::drawing, script, characterOrder), "typeface")
+                .set_value(legible(*change.name).c_str());
+    };
+    for (const auto& paragraph : childrenNamed(textBody(), ns::drawing, "p")) {
+        for (const pugi::xml_node part : paragraph.children()) {
+            if (isRun(part) || isBreak(part))
+                apply(childInOrder(part, ns::drawing, "rPr", runOrder));
+        }
+        if (wordsOf(paragraph).empty() || childNamed(paragraph, ns::drawing, "endParaRPr"))
+            apply(childInOrder(paragraph, ns::drawing, "endParaRPr", paragraphOrder));
+    }
+    growWithText();
+}
+
+void FileShape::growWithText() {
+    const auto body = childNamed(textBody(), ns::drawing, "bodyPr");
+    if (!childNamed(body, ns::drawing, "spAutoFit") || placeholder()) return;
+    const auto margin = [&](const char* name, double plain) {
+        return body.attribute(name).as_double(plain * emuPerPoint) / emuPerPoint;
+    };
+    const double sidesPt = margin("lIns", plainSideMarginPt) + margin("rIns", plainSideMarginPt);
+    const double heightsPt =
+        margin("tIns", plainUpperMarginPt) + margin("bIns", plainUpperMarginPt);
+    Frame place = frame();
+    const auto width =
+        wraps() ? std::optional(std::max(place.size.width - sidesPt, 1.0)) : std::nullopt;
+    const model::Size text = slide_.deck().measure()(
+        replaceAll(replaceAll(words(), "\v", "\n"), "\r", "\n"), font(), width);
+    if (!width) place.size.width = text.width + sidesPt;
+    place.size.height = text.height + heightsPt;
+    setFrame(place);
+}
+
+}  // namespace office::package
