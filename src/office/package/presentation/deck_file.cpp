@@ -61,10 +61,14 @@ public:
 private:
     model::DeckPtr add(Package package, const std::string& path, const std::string& name) {
         decks_.push_back(std::make_shared<FileDeck>(std::move(package), path, name, measure_));
-        decks_.back()->onActivated([this](FileDeck& deck) { activate(deck); });
-        decks_.back()->onClosed([this](FileDeck& deck) {
+        decks_.back()->onActivated([self = weak_from_this()](FileDeck& deck) {
+            if (const auto decks = self.lock()) decks->activate(deck);
+        });
+        decks_.back()->onClosed([self = weak_from_this()](FileDeck& deck) {
             deck.markGone();
-            std::erase_if(decks_, [&](const auto& held) { return held.get() == &deck; });
+            if (const auto decks = self.lock())
+                std::erase_if(decks->decks_,
+                              [&](const auto& held) { return held.get() == &deck; });
         });
         return decks_.back();
     }

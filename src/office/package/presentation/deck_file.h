@@ -6,6 +6,7 @@
 #include <string>
 
 #include "office/model/powerpoint/deck.h"
+#include "office/value.h"
 
 /// PowerPoint's object model over presentations as files (.pptx and its relatives). Nothing of a
 /// file changes but what the object model is told to: new slides and shapes are added to it, and

@@ -35,7 +35,7 @@ double inPoints(std::uint32_t pixels, double pixelsPerInch) {
 }
 
 /// A file of chunks: length, name, content, checksum. The first one says the size in pixels.
-model::powerpoint::Size sizeOfPng(std::string_view bytes) {
+office::model::powerpoint::Size sizeOfPng(std::string_view bytes) {
     constexpr std::size_t firstChunk = 8;
     constexpr std::size_t chunkFrame = 12;
     double horizontal = plainPixelsPerInch;

@@ -12,7 +12,7 @@ struct PictureFile {
     std::string ending;
     std::string contentType;
     /// In points, as the file's density says; 96 pixels to the inch where it says none.
-    model::powerpoint::Size size;
+    office::model::powerpoint::Size size;
 };
 
 /// `Failure` 53 if there is no such file, 1004 if it holds no PNG.
