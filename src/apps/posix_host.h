@@ -26,6 +26,8 @@ public:
     void deleteFile(std::string_view path) override;
     [[nodiscard]] bool fileExists(std::string_view path) override;
     [[nodiscard]] bool fileIsHeld(std::string_view path) override;
+    [[nodiscard]] session::TextSize textSize(std::string_view text, const session::TextFont& font,
+                                             std::optional<double> widthPt) override;
     void openLink(std::string_view address) override;
     void messageBox(std::string_view text, std::string_view title) override;
 

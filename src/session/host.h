@@ -7,6 +7,16 @@
 
 namespace session {
 
+struct TextSize {
+    double widthPt = 0;
+    double heightPt = 0;
+};
+
+struct TextFont {
+    std::string name;
+    double sizePt = 0;
+};
+
 /// The machine that the program runs on: its clock, files, environment and the plainest way to tell
 /// the user something. Every path, clock and wait of the core goes through here, so that a test can
 /// answer it.
@@ -45,6 +55,11 @@ public:
 
     /// True if another process holds the file, or it can't be opened for reading.
     [[nodiscard]] virtual bool fileIsHeld(std::string_view path) = 0;
+
+    /// How much room a text takes in the fonts of this machine, or in what stands in for the one
+    /// that isn't there. Lines end at line feeds, and at the width if there is one.
+    [[nodiscard]] virtual TextSize textSize(std::string_view text, const TextFont& font,
+                                            std::optional<double> widthPt) = 0;
 
     /// Opens a web address with the user's browser. Failures are silent.
     virtual void openLink(std::string_view address) = 0;

@@ -99,6 +99,13 @@ public:
         return heldFiles.contains(path);
     }
 
+    /// Letters as wide as half their height.
+    [[nodiscard]] session::TextSize textSize(std::string_view text, const session::TextFont& font,
+                                             std::optional<double> widthPt) override {
+        const double inOneLine = static_cast<double>(text.size()) * font.sizePt * 0.5;
+        return {widthPt.value_or(inOneLine), font.sizePt * 1.2};
+    }
+
     void openLink(std::string_view address) override { links.emplace_back(address); }
     void messageBox(std::string_view text, std::string_view title) override {
         messages.push_back({std::string(text), std::string(title)});

@@ -86,7 +86,8 @@ void declareFiles(CLI::App& app, Options& options) {
     app.add_option("BOOK", options.book, "The workbook");
     app.add_option("--into", options.deck, "Presentation that the slides are added to")
         ->type_name("DECK");
-    app.add_option("--output", options.output, "File to write, .pptx")->type_name("OUT.pptx");
+    app.add_option("--output", options.output, "File to write, .pptx or .pptm")
+        ->type_name("OUT.pptx");
     app.add_flag("--overwrite", options.overwrite, "Replace the output file if it exists");
     app.add_flag("--attach", options.attach,
                  "Use the workbook and the presentation that are active in the running suite.\n"

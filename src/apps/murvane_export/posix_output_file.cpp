@@ -3,6 +3,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -21,7 +23,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view extension = ".pptx";
+constexpr std::array<std::string_view, 2> extensions = {".pptx", ".pptm"};
 
 /// The file itself where the name is a link to it, so that replacing it leaves the link alone.
 fs::path behindLinks(const fs::path& file) {
@@ -45,6 +47,10 @@ bool takesFiles(const std::string& folder) {
     return true;
 }
 
+std::string extensionOf(const fs::path& file) {
+    return office::lowerCase(apps::utf8Of(file.extension()));
+}
+
 }  // namespace
 
 void requireReadable(const fs::path& file, const std::string& what) {
@@ -65,8 +71,8 @@ OutputFile::OutputFile(const fs::path& file, IfExists ifExists)
     const auto refuse = [&](const std::string& why) {
         throw UsageError(fmt::format("{} can't be written: {}", name, why));
     };
-    if (office::lowerCase(apps::utf8Of(file_.extension())) != extension) {
-        refuse("its name has to end in .pptx.");
+    if (std::find(extensions.begin(), extensions.end(), extensionOf(file_)) == extensions.end()) {
+        refuse("its name has to end in .pptx or .pptm.");
     }
     const std::string folder = apps::utf8Of(file_.parent_path());
     std::error_code ignored;
@@ -103,7 +109,7 @@ const fs::path& OutputFile::neighbour() {
         throw RunError(fmt::format("No file can be made in {}: {}.",
                                    apps::utf8Of(file_.parent_path()), reason()));
     }
-    neighbour_ = fs::path(folder) / fmt::format("output{}", extension);
+    neighbour_ = fs::path(folder) / ("output" + extensionOf(file_));
     std::ofstream{neighbour_};
     return neighbour_;
 }

@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "apps/murvane_export/captions_csv.h"
+#include "apps/murvane_export/deck_file_suite.h"
+#include "apps/murvane_export/deck_route.h"
 #include "apps/murvane_export/documents.h"
 #include "apps/murvane_export/errors.h"
 #include "apps/murvane_export/item_listing.h"
@@ -57,6 +59,7 @@ apps::Answering answeringFor(const Options& options, const apps::Console& consol
 struct Order {
     std::vector<CaptionLine> captions;
     std::unique_ptr<OutputFile> output;
+    DeckRoute deck;
 };
 
 Order checkOrder(const Options& options) {
@@ -75,6 +78,7 @@ Order checkOrder(const Options& options) {
             if (!input.empty()) order.output->requireOtherThan(apps::pathOf(input));
         }
     }
+    if (options.task != Task::List) order.deck = routeFor(options);
     return order;
 }
 
@@ -322,7 +326,11 @@ int runInSuite(const Options& options, const Surroundings& surroundings) {
                                : surroundings.suites.startPrivate();
     }
     if (surroundings.isInterrupted()) throw Interrupted();
-    return Run(options, surroundings, order, *suite).perform();
+    for (const std::string& remark : order.deck.remarks)
+        surroundings.console.writeError("murvane-export: " + remark + "\n");
+    if (!order.deck.isFile) return Run(options, surroundings, order, *suite).perform();
+    DeckFileSuite withFiles(*suite, surroundings.host);
+    return Run(options, surroundings, order, withFiles).perform();
 }
 
 }  // namespace

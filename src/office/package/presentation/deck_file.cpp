@@ -67,8 +67,7 @@ private:
         decks_.back()->onClosed([self = weak_from_this()](FileDeck& deck) {
             deck.markGone();
             if (const auto decks = self.lock())
-                std::erase_if(decks->decks_,
-                              [&](const auto& held) { return held.get() == &deck; });
+                std::erase_if(decks->decks_, [&](const auto& held) { return held.get() == &deck; });
         });
         return decks_.back();
     }
@@ -93,9 +92,12 @@ DeckFacts factsOf(const std::filesystem::path& file) {
     const auto has = [&](const std::string& source, std::string_view type) {
         return package.relationshipsOf(source).ofType(type) != nullptr;
     };
-    return {.isStrict = !isNamed(presentation.root(), ns::presentation, "presentation"),
-            .isSigned = has("/", signatureOrigin),
-            .hasMacros = has(main, macroProject)};
+    const DeckFacts facts{
+        .isStrict = !isNamed(presentation.root(), ns::presentation, "presentation"),
+        .isSigned = has("/", signatureOrigin),
+        .hasMacros = has(main, macroProject)};
+    if (!facts.isStrict) FileDeck(std::move(package), {}, {}, {});
+    return facts;
 }
 
 Object powerPointOfFiles(MeasureText measure) {

@@ -248,7 +248,12 @@ void FileDeck::saveCopy(const std::string& path) {
     writeKind(keepsMacros);
     writeCount();
     package_.replace(main_, presentation_.bytes());
-    package_.save(std::filesystem::path(std::u8string(path.begin(), path.end())));
+    // What stands there is replaced by the whole, or stays.
+    const std::filesystem::path file(std::u8string(path.begin(), path.end()));
+    std::filesystem::path fresh = file;
+    fresh += ".new";
+    package_.save(fresh);
+    std::filesystem::rename(fresh, file);
 }
 
 void FileDeck::writeKind(bool keepsMacros) {

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "office/suite.h"
+#include "session/host.h"
+
+namespace unattended {
+
+/// A suite whose PowerPoint works on presentations as files. Excel and the clipboard are those of
+/// the suite below; no window of either is looked for, since a run without a user shows none.
+class DeckFileSuite : public office::Suite {
+public:
+    /// Both have to outlive the suite. The host measures texts.
+    DeckFileSuite(office::Suite& below, session::Host& host);
+
+    office::Object attach(std::string_view className) override;
+    office::Object start(std::string_view className) override;
+    void clearClipboard() override { below_.clearClipboard(); }
+    office::ClipboardPicture clipboardPicture(office::ClipboardPicture::Kind kind) override {
+        return below_.clipboardPicture(kind);
+    }
+    office::WindowHandle findWindow(std::string_view, std::string_view) override { return 0; }
+    bool raiseWindow(office::WindowHandle, int) override { return false; }
+    bool lockDrawing(office::WindowHandle) override { return false; }
+    void unlockDrawing() override {}
+    void redraw(office::WindowHandle) override {}
+    [[nodiscard]] office::Pacing pacing() const override { return below_.pacing(); }
+
+private:
+    office::Suite& below_;
+    office::Object powerPoint_;
+};
+
+}  // namespace unattended

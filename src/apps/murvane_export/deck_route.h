@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "apps/murvane_export/options.h"
+
+namespace unattended {
+
+/// How the presentation of a run is written.
+struct DeckRoute {
+    /// As a file, in which all that is not ours stays as it was; otherwise by the suite, which
+    /// reads it and writes it anew.
+    bool isFile = false;
+    /// What the user has to know beforehand, a sentence each.
+    std::vector<std::string> remarks;
+};
+
+/// Looks at the presentation that the options name. `RunError` for one that nothing here opens:
+/// encrypted, damaged, or larger than is taken.
+[[nodiscard]] DeckRoute routeFor(const Options& options);
+
+}  // namespace unattended
