@@ -22,25 +22,6 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 3> ownPrefix
     {"xmlns:r", ns::relationships},
 }};
 
-class Checker : public pugi::xml_tree_walker {
-public:
-    bool for_each(pugi::xml_node& node) override {
-        hasDocumentType = hasDocumentType || node.type() == pugi::node_doctype;
-        isTooDeep = depth() > deepest;
-        return !hasDocumentType && !isTooDeep;
-    }
-
-    bool hasDocumentType = false;
-    bool isTooDeep = false;
-};
-
-struct BytesWriter : pugi::xml_writer {
-    void write(const void* data, size_t size) override {
-        bytes.append(static_cast<const char*>(data), size);
-    }
-    std::string bytes;
-};
-
 /// The namespace that a prefix stands for at an element; of the empty one the default namespace.
 std::string_view namespaceOf(pugi::xml_node at, std::string_view prefix) {
     const std::string declaration = prefix.empty() ? "xmlns" : fmt::format("xmlns:{}", prefix);
@@ -55,6 +36,47 @@ std::pair<std::string_view, std::string_view> split(std::string_view qualified) 
     if (colon == std::string_view::npos) return {{}, qualified};
     return {qualified.substr(0, colon), qualified.substr(colon + 1)};
 }
+
+class Checker : public pugi::xml_tree_walker {
+public:
+    bool for_each(pugi::xml_node& node) override {
+        hasDocumentType = hasDocumentType || node.type() == pugi::node_doctype;
+        isTooDeep = depth() > deepest;
+        return !hasDocumentType && !isTooDeep;
+    }
+
+    bool hasDocumentType = false;
+    bool isTooDeep = false;
+};
+
+/// Whether an element is understood where it stands, and needs no other part.
+class Independence : public pugi::xml_tree_walker {
+public:
+    bool for_each(pugi::xml_node& node) override {
+        holds = holds && isKnown(node, node.name());
+        for (const pugi::xml_attribute attribute : node.attributes()) {
+            const auto prefix = split(attribute.name()).first;
+            holds = holds && (prefix.empty() || prefix == "xml" || prefix == "xmlns" ||
+                              (isKnown(node, attribute.name()) &&
+                               namespaceOf(node, prefix) != ns::relationships));
+        }
+        return holds;
+    }
+
+    bool holds = true;
+
+private:
+    static bool isKnown(pugi::xml_node at, std::string_view qualified) {
+        return at.type() != pugi::node_element || !namespaceOf(at, split(qualified).first).empty();
+    }
+};
+
+struct BytesWriter : pugi::xml_writer {
+    void write(const void* data, size_t size) override {
+        bytes.append(static_cast<const char*>(data), size);
+    }
+    std::string bytes;
+};
 
 /// Declares the prefix of an element that stands where its document has another or none.
 void declarePrefixes(pugi::xml_node element) {
@@ -110,6 +132,11 @@ bool isNamed(pugi::xml_node node, std::string_view space, std::string_view name)
     return own == name && namespaceOf(node, prefix) == space;
 }
 
+pugi::xml_node firstElement(pugi::xml_node parent) {
+    return parent.find_child(
+        [](const pugi::xml_node& child) { return child.type() == pugi::node_element; });
+}
+
 pugi::xml_node childNamed(pugi::xml_node parent, std::string_view space, std::string_view name) {
     return parent.find_child(
         [&](const pugi::xml_node& child) { return isNamed(child, space, name); });
@@ -161,6 +188,16 @@ pugi::xml_node insertMarkup(pugi::xml_node parent, const std::string& markup,
         before ? parent.insert_copy_before(element, before) : parent.append_copy(element);
     declarePrefixes(inserted);
     return inserted;
+}
+
+pugi::xml_node adopt(pugi::xml_node parent, pugi::xml_node element) {
+    pugi::xml_node copy = parent.append_copy(element);
+    Independence independence;
+    independence.for_each(copy);
+    copy.traverse(independence);
+    if (independence.holds) return copy;
+    parent.remove_child(copy);
+    return {};
 }
 
 void copyInto(pugi::xml_node from, pugi::xml_node to) {

@@ -41,6 +41,8 @@ private:
 
 /// Whether an element has this name, whatever prefix its document gives to the namespace.
 [[nodiscard]] bool isNamed(pugi::xml_node node, std::string_view space, std::string_view name);
+/// The first child that is an element; null if there is none.
+[[nodiscard]] pugi::xml_node firstElement(pugi::xml_node parent);
 /// The first child of that name; null if there is none.
 [[nodiscard]] pugi::xml_node childNamed(pugi::xml_node parent, std::string_view space,
                                         std::string_view name);
@@ -63,6 +65,9 @@ pugi::xml_node childInOrder(pugi::xml_node parent, std::string_view space, std::
 pugi::xml_node insertMarkup(pugi::xml_node parent, const std::string& markup,
                             pugi::xml_node before = {});
 
+/// Puts a copy of an element of another document in as the last child. Null, and nothing is put in,
+/// for one that needs a namespace which isn't known here, or that leads to other parts.
+pugi::xml_node adopt(pugi::xml_node parent, pugi::xml_node element);
 /// Gives an element the attributes and the children of another one.
 void copyInto(pugi::xml_node from, pugi::xml_node to);
 

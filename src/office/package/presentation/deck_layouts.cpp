@@ -57,9 +57,7 @@ std::size_t misfit(std::int32_t number, const std::vector<Placeholder>& content)
 }  // namespace
 
 std::optional<Placeholder> placeholderOf(pugi::xml_node shape) {
-    const pugi::xml_node properties = shape.first_child();
-    const auto inner = properties.find_child(
-        [](const pugi::xml_node& child) { return isNamed(child, ns::presentation, "nvPr"); });
+    const auto inner = childNamed(firstElement(shape), ns::presentation, "nvPr");
     const pugi::xml_node found = childNamed(inner, ns::presentation, "ph");
     if (!found) return std::nullopt;
     return Placeholder{found.attribute("type").as_string("obj"),
@@ -160,6 +158,14 @@ std::vector<Placeholder> DeckLayouts::placeholdersFor(std::int32_t number,
             wanted.push_back(placeholder);
     }
     return wanted;
+}
+
+bool DeckLayouts::hasPlace(const Placeholder& placeholder, const std::string& layout) {
+    const auto shapes = shapeTreeOf(page(layout)).children();
+    return std::any_of(shapes.begin(), shapes.end(), [&](const pugi::xml_node& shape) {
+        const auto other = placeholderOf(shape);
+        return other && other->type == placeholder.type;
+    });
 }
 
 std::vector<pugi::xml_node> DeckLayouts::ancestorsOf(const Placeholder& placeholder,

@@ -48,6 +48,8 @@ public:
     /// What a new slide of this layout holds.
     [[nodiscard]] std::vector<Placeholder> placeholdersFor(std::int32_t number,
                                                            const std::string& layout);
+    /// Whether a layout has a placeholder of this kind.
+    [[nodiscard]] bool hasPlace(const Placeholder& placeholder, const std::string& layout);
     /// The shapes that a placeholder inherits from, the nearest first: on the layout, on its
     /// master.
     [[nodiscard]] std::vector<pugi::xml_node> ancestorsOf(const Placeholder& placeholder,

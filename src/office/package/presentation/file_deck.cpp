@@ -176,6 +176,7 @@ std::string FileDeck::neighbourLayout() {
 
 model::DeckSlidePtr FileDeck::addSlide(std::int32_t place, std::int32_t layout) {
     if (place < 1 || place > slideCount() + 1) return nullptr;
+    const FileSlidePtr neighbour = slides_.empty() ? nullptr : slides_.back();
     const std::string layoutPart = layouts_.find(layout, neighbourLayout());
     const std::string part = package_.freeName(folderOf(main_) + "/slides/slide", ".xml");
     package_.add(part, slideType, emptySlide);
@@ -186,6 +187,7 @@ model::DeckSlidePtr FileDeck::addSlide(std::int32_t place, std::int32_t layout) 
     auto slide = std::make_shared<FileSlide>(*this, part, relationship, id);
     slides_.insert(slides_.begin() + place - 1, slide);
     slide->makePlaceholders(layout);
+    if (neighbour) slide->takeFurnitureOf(*neighbour);
     return slide;
 }
 

@@ -30,9 +30,7 @@ constexpr std::array<Locks, 5> lockNames = {{
 pugi::xml_node shapeIn(pugi::xml_node element) {
     if (!isNamed(element, ns::compatibility, "AlternateContent")) return element;
     for (const pugi::xml_node branch : element.children()) {
-        for (const pugi::xml_node shape : branch.children()) {
-            if (shape.type() == pugi::node_element) return shape;
-        }
+        if (const auto shape = firstElement(branch)) return shape;
     }
     return element;
 }
@@ -72,10 +70,7 @@ pugi::xml_node FileShape::changed() {
 }
 
 pugi::xml_node FileShape::properties(std::string_view name) const {
-    return childNamed(node_.find_child([](const pugi::xml_node& child) {
-        return child.type() == pugi::node_element;
-    }),
-                      ns::presentation, name);
+    return childNamed(firstElement(node_), ns::presentation, name);
 }
 
 bool FileShape::isEmptyPlaceholder() {

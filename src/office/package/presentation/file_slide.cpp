@@ -30,6 +30,9 @@ std::string boxMarkup(const model::Point& corner, const model::Size& size) {
 
 const char* nameOf(const Placeholder& placeholder) {
     if (placeholder.isTitle()) return "Title";
+    if (placeholder.type == "sldNum") return "Slide Number Placeholder";
+    if (placeholder.type == "dt") return "Date Placeholder";
+    if (placeholder.type == "ftr") return "Footer Placeholder";
     return placeholder.type == "subTitle" ? "Subtitle" : "Placeholder";
 }
 
@@ -130,16 +133,30 @@ std::int32_t FileSlide::freeShapeId() {
 
 FileShapePtr FileSlide::addShape(std::string_view kind, const std::string& markup) {
     static_cast<void>(shapes());
-    const std::int32_t id = freeShapeId();
     // What its maker adds to a tree stands behind the shapes.
-    const auto element =
-        insertMarkup(tree(), markup, childNamed(tree(), ns::presentation, "extLst"));
-    shapes_.push_back(std::make_shared<FileShape>(*this, element));
-    auto properties = element.first_child().first_child();
-    properties.append_attribute("id").set_value(id);
-    properties.append_attribute("name").set_value(fmt::format("{} {}", kind, id - 1).c_str());
+    return nameShape(kind,
+                     insertMarkup(tree(), markup, childNamed(tree(), ns::presentation, "extLst")));
+}
+
+/// Takes a new element in as the topmost shape, named by its kind and its number.
+FileShapePtr FileSlide::nameShape(std::string_view kind, pugi::xml_node element) {
+    const std::int32_t id = freeShapeId();
+    auto properties = firstElement(firstElement(element));
+    attributeFor(properties, "id").set_value(id);
+    attributeFor(properties, "name").set_value(fmt::format("{} {}", kind, id - 1).c_str());
     touch();
+    shapes_.push_back(std::make_shared<FileShape>(*this, element));
     return shapes_.back();
+}
+
+void FileSlide::takeFurnitureOf(FileSlide& other) {
+    for (const FileShapePtr& shape : other.shapes()) {
+        const auto kind = shape->placeholder();
+        if (!kind || !kind->isFurniture() || !deck_.layouts().hasPlace(*kind, layoutPart()))
+            continue;
+        static_cast<void>(shapes());
+        if (const auto copy = adopt(tree(), shape->element())) nameShape(nameOf(*kind), copy);
+    }
 }
 
 model::DeckShapePtr FileSlide::addPicture(const std::string& file, const model::Point& corner) {

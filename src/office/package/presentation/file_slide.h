@@ -29,6 +29,9 @@ public:
     [[nodiscard]] const std::string& id() const { return id_; }
     [[nodiscard]] std::string layoutPart();
     void makePlaceholders(std::int32_t layout);
+    /// Date, footer and number, as another slide shows them, where the own layout has a place for
+    /// them.
+    void takeFurnitureOf(FileSlide& other);
     void removeShape(FileShape& shape);
     void touch() { isChanged_ = true; }
     void markGone();
@@ -51,6 +54,7 @@ private:
     [[nodiscard]] pugi::xml_node tree();
     /// Puts a shape on top of the others, and names it by its kind and its number.
     FileShapePtr addShape(std::string_view kind, const std::string& markup);
+    FileShapePtr nameShape(std::string_view kind, pugi::xml_node element);
     [[nodiscard]] std::int32_t freeShapeId();
 
     FileDeck& deck_;
