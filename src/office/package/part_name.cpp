@@ -103,8 +103,7 @@ std::string partOfEntry(std::string_view entry) {
         failOn(entry, "which has a control character");
     if (name.front() == '/') failOn(entry, "which begins with a slash");
     for (const std::string_view segment : segmentsOf(name)) {
-        if (segment.empty() || segment == "." || segment == "..")
-            failOn(entry, "which leads elsewhere");
+        if (segment == "." || segment == "..") failOn(entry, "which leads elsewhere");
     }
     return "/" + name;
 }

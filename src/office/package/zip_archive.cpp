@@ -78,10 +78,11 @@ ZipArchive::Handle ZipArchive::open(ZipSource& source) {
     zip_t* archive = made != nullptr ? zip_open_from_source(made, 0, &error) : nullptr;
     if (archive != nullptr) return Handle(archive);
     zip_source_free(made);
-    const PackageError problem = source.isExhausted()
-                                     ? PackageError(Fault::TooLarge, "its directory is too large")
-                                     : errorOf(error, "it is a damaged ZIP file");
+    const PackageError problem = errorOf(error, "it is a damaged ZIP file");
     zip_error_fini(&error);
+    if (source.isExhausted()) throw PackageError(Fault::TooLarge, "its directory is too large");
+    if (problem.fault() == Fault::NotAPackage && source.beginsAsZip())
+        throw PackageError(Fault::Damaged, "it is a ZIP file without an end");
     throw problem;
 }
 
@@ -144,7 +145,7 @@ void ZipArchive::write(const std::filesystem::path& file,
         check(bytes != nullptr);
         zip_int64_t index = -1;
         if (!change.index) {
-            index = zip_file_add(archive.get(), change.name.c_str(), bytes, ZIP_FL_ENC_UTF_8);
+            index = zip_file_add(archive.get(), change.name.c_str(), bytes, 0);
         } else if (zip_file_replace(archive.get(), *change.index, bytes, 0) == 0) {
             index = static_cast<zip_int64_t>(*change.index);
         }

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <system_error>
 
@@ -104,6 +105,12 @@ ZipSource::~ZipSource() {
 
 zip_source_t* ZipSource::make(zip_error_t& error) {
     return zip_source_function_create(&ZipSource::answer, this, &error);
+}
+
+bool ZipSource::beginsAsZip() const {
+    std::array<char, 4> magic{};
+    return input_.read(0, magic.data(), magic.size()) == 4 &&
+           std::string_view(magic.data(), magic.size()) == "PK\x03\x04";
 }
 
 zip_int64_t ZipSource::fail(int zipCode, int systemCode) {

@@ -72,6 +72,7 @@ public:
     [[nodiscard]] zip_source_t* make(zip_error_t& error);
     void openAll() { readable_ = UINT64_MAX; }
     [[nodiscard]] bool isExhausted() const { return isExhausted_; }
+    [[nodiscard]] bool beginsAsZip() const;
 
 private:
     static zip_int64_t answer(void* self, void* data, zip_uint64_t length,
