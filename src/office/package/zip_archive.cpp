@@ -30,6 +30,7 @@ PackageError errorOf(zip_error_t& error, std::string_view what) {
             return {Fault::NotAPackage, "it is no ZIP file"};
         case ZIP_ER_CRC:
         case ZIP_ER_INCONS:
+        case ZIP_ER_INVAL:
         case ZIP_ER_EOF:
         case ZIP_ER_ZLIB:
         case ZIP_ER_COMPRESSED_DATA:
