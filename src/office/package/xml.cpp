@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "office/package/package.h"
+#include "office/package/part_name.h"
 
 namespace office::package {
 
@@ -15,6 +16,10 @@ namespace {
 constexpr unsigned int keepEverything = pugi::parse_full | pugi::parse_ws_pcdata;
 /// The deepest that Office itself reads.
 constexpr int deepest = 256;
+/// Namespaces are looked for in the attributes of each element above, which has to stay quick.
+constexpr std::ptrdiff_t mostAttributes = 500;
+/// What makes a node or an attribute of the tree, each of which takes up to 70 bytes twice.
+constexpr std::ptrdiff_t mostMarks = 4'000'000;
 
 constexpr std::array<std::pair<std::string_view, std::string_view>, 3> ownPrefixes = {{
     {"xmlns:p", ns::presentation},
@@ -41,12 +46,14 @@ class Checker : public pugi::xml_tree_walker {
 public:
     bool for_each(pugi::xml_node& node) override {
         hasDocumentType = hasDocumentType || node.type() == pugi::node_doctype;
-        isTooDeep = depth() > deepest;
-        return !hasDocumentType && !isTooDeep;
+        const auto attributes = node.attributes();
+        isTooRich = depth() > deepest ||
+                    std::distance(attributes.begin(), attributes.end()) > mostAttributes;
+        return !hasDocumentType && !isTooRich;
     }
 
     bool hasDocumentType = false;
-    bool isTooDeep = false;
+    bool isTooRich = false;
 };
 
 /// Whether an element is understood where it stands, and needs no other part.
@@ -105,17 +112,23 @@ std::string nameAt(pugi::xml_node at, std::string_view space, std::string_view n
 }  // namespace
 
 Xml::Xml(std::string_view bytes, std::string_view part) {
+    if (std::count_if(bytes.begin(), bytes.end(), [](char c) { return c == '<' || c == '='; }) >
+        mostMarks)
+        throw PackageError(Fault::TooLarge,
+                           fmt::format("its part {} holds too many elements", shown(part)));
     const auto result = document_.load_buffer(bytes.data(), bytes.size(), keepEverything);
     if (!result)
-        throw PackageError(Fault::Damaged,
-                           fmt::format("its part {} is no XML ({})", part, result.description()));
+        throw PackageError(Fault::Damaged, fmt::format("its part {} is no XML ({})", shown(part),
+                                                       result.description()));
     Checker checker;
     document_.traverse(checker);
     if (checker.hasDocumentType)
+        throw PackageError(
+            Fault::Damaged,
+            fmt::format("its part {} has a document type, which none may", shown(part)));
+    if (checker.isTooRich)
         throw PackageError(Fault::Damaged,
-                           fmt::format("its part {} has a document type, which none may", part));
-    if (checker.isTooDeep)
-        throw PackageError(Fault::Damaged, fmt::format("its part {} is nested too deep", part));
+                           fmt::format("its part {} is nested as no document is", shown(part)));
     // Whatever it was read as, it is written as UTF-8.
     if (const auto encoding = document_.child("xml").attribute("encoding"))
         document_.first_child().attribute("encoding").set_value("UTF-8");

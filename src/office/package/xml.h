@@ -26,7 +26,7 @@ inline constexpr std::string_view compatibility =
 class Xml {
 public:
     /// `PackageError` Damaged for what isn't well-formed, has a document type or is nested deeper
-    /// than any document of an office; `part` is for its text.
+    /// than any document of an office, TooLarge for too many elements; `part` is for its text.
     Xml(std::string_view bytes, std::string_view part);
     Xml(const Xml&) = delete;
     Xml& operator=(const Xml&) = delete;
