@@ -3,6 +3,7 @@
 #include <chrono>
 #include <vector>
 
+#include "apps/murvane_export/deck_file_suite.h"
 #include "apps/posix_console.h"
 #include "apps/posix_host.h"
 #include "catalogue/inventory.h"
@@ -47,15 +48,17 @@ private:
 
 }  // namespace
 
-BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, const std::string& workbook,
-                          const std::string& output) {
+BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, Deck where,
+                          const std::string& workbook, const std::string& output) {
     apps::PosixConsole console([] { return false; });
     apps::PosixHost host(console);
     NoNotices notices;
     Stopwatch progress;
-    session::OfficeSession session(suite, host, notices, progress);
-    session.ExcelApp = suite.attach("Excel.Application");
-    session.PowerPointApp = suite.attach("PowerPoint.Application");
+    unattended::DeckFileSuite withFiles(suite, host);
+    office::Suite& used = where == Deck::AsFile ? static_cast<office::Suite&>(withFiles) : suite;
+    session::OfficeSession session(used, host, notices, progress);
+    session.ExcelApp = used.attach("Excel.Application");
+    session.PowerPointApp = used.attach("PowerPoint.Application");
     session.ActiveBook = session.ExcelApp.get("Workbooks").call("Open", workbook).toObject();
     const office::Object deck =
         session.PowerPointApp.get("Presentations").call("Add", false).toObject();
@@ -69,15 +72,20 @@ BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, const std::strin
 
     BatchCost cost;
     const std::uint64_t callsBefore = suite.remoteCalls();
-    const auto start = std::chrono::steady_clock::now();
+    const auto start = Stopwatch::Clock::now();
+    const auto secondsSince = [](Stopwatch::Clock::time_point begin) {
+        return std::chrono::duration<double>(Stopwatch::Clock::now() - begin).count();
+    };
     const catalogue::ExportChoices choices;
     powerpoint::Batch batch{session, list, choices, {}, {.titles = true, .sourceLine = true}};
     cost.items = powerpoint::ExportRowsAsPictures(batch);
-    cost.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    const auto saving = Stopwatch::Clock::now();
+    deck.call("SaveCopyAs", output);
+    cost.savingSeconds = secondsSince(saving);
+    cost.seconds = secondsSince(start);
     cost.secondsOfItems = progress.secondsOfItems();
     cost.remoteCalls = suite.remoteCalls() - callsBefore;
 
-    deck.call("SaveCopyAs", output);
     deck.call("Close");
     session.ActiveBook.call("Close", false);
     return cost;

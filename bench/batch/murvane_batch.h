@@ -10,8 +10,10 @@ namespace bench {
 
 struct BatchCost {
     int items = 0;
-    /// From the first slide to the last item, without opening and saving.
+    /// From the first slide to the saved presentation.
     double seconds = 0;
+    /// The part of it in which the presentation is saved.
+    double savingSeconds = 0;
     /// Calls answered by the suite in that time.
     std::uint64_t remoteCalls = 0;
     /// Each item's own, the last one's left out.
@@ -21,9 +23,12 @@ struct BatchCost {
     [[nodiscard]] double callsAnItem() const { return static_cast<double>(remoteCalls) / items; }
 };
 
+/// Where the slides are made.
+enum class Deck { InTheSuite, AsFile };
+
 /// The product's own batch: opens the workbook and a new presentation, fills the list, exports all
 /// rows as pictures with titles and source line, saves. The inventory is not part of the time.
-BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, const std::string& workbook,
-                          const std::string& output);
+BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, Deck where,
+                          const std::string& workbook, const std::string& output);
 
 }  // namespace bench

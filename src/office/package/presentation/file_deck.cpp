@@ -162,9 +162,12 @@ model::DeckSlidePtr FileDeck::slideAt(std::int32_t place) {
     return index < slides_.size() ? slides_[index] : nullptr;
 }
 
-/// The layout whose master's layouts new slides get.
+/// The layout whose master's layouts new slides get: that of the last slide which has one.
 std::string FileDeck::neighbourLayout() {
-    if (!slides_.empty()) return slides_.back()->layoutPart();
+    for (auto slide = slides_.rbegin(); slide != slides_.rend(); ++slide) {
+        if (package_.relationshipsOf((*slide)->part()).ofType("slideLayout") != nullptr)
+            return (*slide)->layoutPart();
+    }
     const auto masters = childNamed(presentation_.root(), ns::presentation, "sldMasterIdLst");
     const auto first = childNamed(masters, ns::presentation, "sldMasterId");
     const Relationships& relationships = package_.relationshipsOf(main_);
