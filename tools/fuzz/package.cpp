@@ -87,7 +87,7 @@ void change(Package& package) {
     const std::string name = package.freeName("/new/part", ".xml");
     trying([&] {
         package.add(name, "application/x-new+xml", "<new/>");
-        const std::string media = package.addMedia("/new/image", ".png", "image/png", "pixels");
+        const std::string media = package.addMedia("/media/image", ".png", "image/png", "pixels");
         const std::string id = package.relationshipsOf(name).add("image", media);
         if (package.relationshipsOf(name).add("image", media) != id) stop("a second relationship");
         if (!before.empty()) {
@@ -107,6 +107,8 @@ void change(Package& package) {
         Relationships& all = again.relationshipsOf("/");
         if (all.all().size() != 1 || again.read(all.partOf(all.all().front())) != "<new/>")
             stop("other relationships than were written");
+        Relationships& own = again.relationshipsOf(name);
+        if (again.read(own.partOf(*own.ofType("image"))) != "pixels") stop("another picture");
     } catch (const PackageError& error) {
         stop(std::string("its own file is refused: ") + error.what());
     }

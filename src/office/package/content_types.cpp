@@ -12,7 +12,7 @@ namespace office::package {
 namespace {
 
 constexpr std::string_view space = "http://schemas.openxmlformats.org/package/2006/content-types";
-constexpr std::string_view part = "/[Content_Types].xml";
+constexpr std::string_view ownPart = "/[Content_Types].xml";
 
 /// Some makers leave the first slash out.
 std::string keyOf(std::string_view name) {
@@ -28,7 +28,7 @@ pugi::xml_node append(pugi::xml_node root, const char* name) {
 }  // namespace
 
 ContentTypes::ContentTypes(std::string xml) : xml_(std::move(xml)) {
-    const Xml document(xml_, part);
+    const Xml document(xml_, ownPart);
     if (!isNamed(document.root(), space, "Types"))
         throw PackageError(Fault::Damaged, "its content types are of an unknown kind");
     for (const pugi::xml_node node : document.root().children()) {
@@ -41,30 +41,30 @@ ContentTypes::ContentTypes(std::string xml) : xml_(std::move(xml)) {
     }
 }
 
-std::string ContentTypes::of(std::string_view name) const {
-    if (const auto own = byPart_.find(partKey(name)); own != byPart_.end()) return own->second;
-    const auto common = byExtension_.find(extensionOf(name));
+std::string ContentTypes::of(std::string_view part) const {
+    if (const auto own = byPart_.find(partKey(part)); own != byPart_.end()) return own->second;
+    const auto common = byExtension_.find(extensionOf(part));
     return common == byExtension_.end() ? std::string() : common->second;
 }
 
-void ContentTypes::set(std::string_view name, std::string_view type) {
-    if (of(name) == type) return;
-    const auto [own, isNew] = byPart_.insert_or_assign(partKey(name), std::string(type));
-    if (isNew) newParts_.emplace_back(name);
+void ContentTypes::set(std::string_view part, std::string_view type) {
+    if (of(part) == type) return;
+    const auto [own, isNew] = byPart_.insert_or_assign(partKey(part), std::string(type));
+    if (isNew) newParts_.emplace_back(part);
     isChanged_ = true;
 }
 
-void ContentTypes::setByExtension(std::string_view name, std::string_view type) {
-    const std::string extension = extensionOf(name);
+void ContentTypes::setByExtension(std::string_view part, std::string_view type) {
+    const std::string extension = extensionOf(part);
     if (!extension.empty() && byExtension_.try_emplace(extension, type).second) {
         newExtensions_.push_back(extension);
         isChanged_ = true;
     }
-    set(name, type);
+    set(part, type);
 }
 
-void ContentTypes::remove(std::string_view name) {
-    const std::string key = partKey(name);
+void ContentTypes::remove(std::string_view part) {
+    const std::string key = partKey(part);
     if (byPart_.erase(key) == 0) return;
     std::erase_if(newParts_, [&](const std::string& one) { return partKey(one) == key; });
     isChanged_ = true;
@@ -72,7 +72,7 @@ void ContentTypes::remove(std::string_view name) {
 
 std::string ContentTypes::xml() const {
     if (!isChanged_) return xml_;
-    const Xml document(xml_, part);
+    const Xml document(xml_, ownPart);
     pugi::xml_node root = document.root();
     std::unordered_set<std::string> written;
     for (pugi::xml_node node = root.first_child(); node;) {

@@ -198,8 +198,8 @@ void Package::replace(std::string_view part, std::string bytes) {
 
 void Package::add(std::string_view part, std::string_view contentType, std::string bytes,
                   Storage storage) {
-    content_->put(part, std::move(bytes), storage);
     content_->contentTypes().set(part, contentType);
+    content_->put(part, std::move(bytes), storage);
 }
 
 void Package::remove(std::string_view part) {
@@ -222,7 +222,7 @@ std::string Package::addMedia(std::string_view stem, std::string_view ending,
         if (part != nullptr && part->bytes == bytes && one->second.ends_with(ending))
             return one->second;
     }
-    const std::string name = freeName(stem, ending);
+    std::string name = freeName(stem, ending);
     content_->put(name, std::move(bytes), storage);
     content_->contentTypes().setByExtension(name, contentType);
     content_->media.emplace(hash, name);

@@ -21,12 +21,17 @@ std::string withRelationships(std::string_view more) {
     return package({{"a/_rels/one.xml.rels", relationships(more)}});
 }
 
+std::string wide(std::string_view ascii) {
+    std::string text;
+    for (const char c : ascii) text += std::string{c, '\0'};
+    return text;
+}
+
 /// One with a directory of compound files that names these streams.
 std::string compoundFile(const std::vector<std::string>& streams) {
     std::string file = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1" + std::string(504, '\0');
     for (const std::string& name : streams) {
-        std::string entry;
-        for (const char c : name) entry += std::string{c, '\0'};
+        std::string entry = wide(name);
         entry.resize(64);
         file += entry + number(name.size() * 2 + 2, 2) + '\2' + std::string(61, '\0');
     }
@@ -51,7 +56,7 @@ void exhaust(Package& package) {
     for (const std::string& part : package.parts()) {
         static_cast<void>(package.contentTypeOf(part));
         const std::string bytes = package.read(part);
-        if (part.ends_with(".xml")) Xml(bytes, part);
+        if (part.ends_with(".xml")) static_cast<void>(Xml(bytes, part).root());
         const Relationships& all = package.relationshipsOf(part);
         for (const Relationship& one : all.all()) {
             if (!one.isExternal) static_cast<void>(all.partOf(one));
@@ -71,7 +76,8 @@ TEST(HostilePackages, AreRefusedForTheirReasonAndOddOnesAreRead) {
         {"password", compoundFile({"EncryptionInfo", "EncryptedPackage"}), Fault::Password},
         {"rights", compoundFile({"EncryptedPackage", "DRMEncryptedDataSpace"}), Fault::Rights},
         {"rights of a binary file", compoundFile({"\tDRMContent"}), Fault::Rights},
-        {"a stream's name as text", compoundFile({"Text"}) + "E\0n\0c\0r\0", Fault::NotAPackage},
+        {"a stream's name as text", compoundFile({"Text"}) + wide("EncryptedPackage"),
+         Fault::NotAPackage},
         {"no content types", zipOf({{"mimetype", "x"}}), Fault::NotAPackage},
         {"cut off", file.substr(0, file.size() - 30), Fault::Damaged},
         {"cut in the middle", file.substr(0, 100), Fault::Damaged},
@@ -192,7 +198,7 @@ TEST(HostilePackages, MayHoldNoMarkupThatTakesMuchMoreThanItsBytes) {
     };
     for (const auto& [text, expected] : cases) {
         try {
-            Xml(text, "/a.xml");
+            const Xml document(text, "/a.xml");
             FAIL() << text.substr(0, 20);
         } catch (const PackageError& error) {
             EXPECT_EQ(error.fault(), expected) << error.what();
