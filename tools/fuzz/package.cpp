@@ -11,11 +11,12 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "office/failure.h"
+#include "office/package/presentation/deck_file.h"
 #include "office/package/xml.h"
 #include "office/package/zip_bytes.h"
 
@@ -44,11 +45,9 @@ std::string fileOf(std::string_view input) {
     return zip_bytes::zipOf(items);
 }
 
-const std::string& outputPath() {
-    static const std::string path =
-        (std::filesystem::temp_directory_path() / ("fuzz-package-" + std::to_string(getpid())))
-            .string();
-    return path;
+std::string pathOf(const char* name) {
+    const std::string file = std::string("fuzz-package-") + name + "-" + std::to_string(getpid());
+    return (std::filesystem::temp_directory_path() / file).string();
 }
 
 /// Refusals are what is wanted.
@@ -62,7 +61,8 @@ void trying(const std::function<void()>& step) {
     } catch (const office::Failure&) {}
 }
 
-void readAll(Package& package) {
+void readAll(const std::string& file) {
+    Package package = Package::open(file, limits);
     for (const std::string& part : package.parts()) {
         trying([&] {
             const std::string bytes = package.read(part);
@@ -82,7 +82,9 @@ void readAll(Package& package) {
 }
 
 /// A package that was opened can be added to, and is then read again as it was written.
-void change(Package& package) {
+void change(const std::string& file) {
+    Package package = Package::open(file, limits);
+    const std::string output = pathOf("output");
     const auto before = package.parts();
     const std::string name = package.freeName("/new/part", ".xml");
     trying([&] {
@@ -97,11 +99,11 @@ void change(Package& package) {
         for (const Relationship& one : std::vector(package.relationshipsOf("/").all()))
             package.relationshipsOf("/").remove(one.id);
         package.relationshipsOf("/").add("officeDocument", name);
-        package.save(outputPath());
+        package.save(output);
     });
-    if (!std::filesystem::exists(outputPath())) return;
+    if (!std::filesystem::exists(output)) return;
     try {
-        Package again = Package::open(outputPath(), limits);
+        Package again = Package::open(output, limits);
         if (again.read(name) != "<new/>") stop("a part that isn't as it was written");
         if (again.contentTypeOf(name) != "application/x-new+xml") stop("another content type");
         Relationships& all = again.relationshipsOf("/");
@@ -112,23 +114,43 @@ void change(Package& package) {
     } catch (const PackageError& error) {
         stop(std::string("its own file is refused: ") + error.what());
     }
-    std::filesystem::remove(outputPath());
+    std::filesystem::remove(output);
+}
+
+/// What an export does to a presentation.
+void addToDeck(const std::string& file) {
+    static_cast<void>(factsOf(file));
+    const auto powerPoint =
+        powerPointOfFiles([](const std::string&, const model::Font&, std::optional<double>) {
+            return model::Size{100, 20};
+        });
+    const auto deck = powerPoint.get("Presentations").call("Open", file).toObject();
+    const auto slides = deck.get("Slides").toObject();
+    const auto count = slides.get("Count").toLong();
+    for (int slide = 1; slide <= std::min(count, 5); ++slide) {
+        const auto shapes = slides.call("Item", slide).get("Shapes").toObject();
+        static_cast<void>(shapes.get("Count"));
+    }
+    for (const int layout : {1, 11, 12}) {
+        trying([&] {
+            const auto shapes = slides.call("Add", 1, layout).get("Shapes").toObject();
+            const auto label = shapes.call("AddLabel", 1, 20, 20, 100, 20).toObject();
+            label.get("TextFrame").get("TextRange").put("Text", "words");
+            if (layout != 12)
+                shapes.get("Title").get("TextFrame").get("TextRange").put("Text", "Title");
+        });
+    }
+    deck.call("SaveCopyAs", pathOf("deck"));
+    const bool isSaved = std::filesystem::remove(pathOf("deck"));
+    if (!isSaved) stop("no file was written");
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string file = fileOf({reinterpret_cast<const char*>(data), size});
-    // Each step has a package of its own, so that none hides something from the next.
-    const std::vector<std::function<void(Package&)>> steps = {
-        readAll,
-        change,
-    };
-    for (const auto& step : steps) {
-        trying([&] {
-            Package package = Package::fromBytes(file, limits);
-            step(package);
-        });
-    }
+    static const std::string path = pathOf("input");
+    std::ofstream(path, std::ios::binary) << fileOf({reinterpret_cast<const char*>(data), size});
+    // Each step opens the file by itself, so that none hides something from the next.
+    for (const auto step : {readAll, change, addToDeck}) trying([&] { step(path); });
     return 0;
 }

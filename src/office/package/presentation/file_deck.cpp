@@ -188,7 +188,7 @@ model::DeckSlidePtr FileDeck::addSlide(std::int32_t place, std::int32_t layout) 
     const std::string id = freeSlideId();
     listSlide(place, relationship, id);
     auto slide = std::make_shared<FileSlide>(*this, part, relationship, id);
-    slides_.insert(slides_.begin() + place - 1, slide);
+    slides_.insert(slides_.begin() + (place - 1), slide);
     slide->makePlaceholders(layout);
     if (neighbour) slide->takeFurnitureOf(*neighbour);
     return slide;
