@@ -3,7 +3,6 @@
 import glob
 import os
 import pathlib
-import re
 import shutil
 import signal
 import subprocess
@@ -54,47 +53,73 @@ def suite_of(process, cache):
     return None
 
 
+class Package:
+    """The parts of a package, whose names are the same in capitals, and where their relationships lead."""
+
+    def __init__(self, path):
+        self.file = zipfile.ZipFile(path)
+        self.names = {name.lower(): name for name in self.file.namelist()}
+        self.main = next(part for kind, part in self.related("").values() if kind.endswith("/officeDocument"))
+
+    def read(self, part):
+        return self.file.read(self.names[part.lower()])
+
+    def related(self, source):
+        """The types and parts of a part's relationships by their ids; of the package's own for ""."""
+        folder, name = os.path.split(source)
+        rels = ElementTree.fromstring(self.read(os.path.join(folder, "_rels", f"{name}.rels")))
+
+        def part(target):
+            return os.path.normpath(os.path.join("/", folder, target)).lower()[1:]
+        return {rel.get("Id"): (rel.get("Type"), part(rel.get("Target"))) for rel in rels}
+
+    def compressed(self, part):
+        """The bytes of a part as the file holds them."""
+        info = self.file.getinfo(self.names[part])
+        self.file.fp.seek(info.header_offset + 26)
+        begin = info.header_offset + 30 + sum(int.from_bytes(self.file.fp.read(2), "little") for _ in range(2))
+        self.file.fp.seek(begin)
+        return info.compress_type, self.file.fp.read(info.compress_size)
+
+
 class Slide:
     """One slide of a saved presentation, as its XML has it."""
 
     def __init__(self, package, part):
-        self.xml = ElementTree.fromstring(package.read(part))
-        rels = ElementTree.fromstring(package.read(re.sub(r"slides/(.*)", r"slides/_rels/\1.rels", part)))
-        self.targets = {rel.get("Id"): rel.get("Target") for rel in rels}
+        self.xml, related = ElementTree.fromstring(package.read(part)), package.related(part)
+        self.layout = next(part for kind, part in related.values() if kind.endswith("/slideLayout"))
         self.texts = ["".join(t.text or "" for t in shape.iter(f"{{{NAMESPACES['a']}}}t"))
                       for shape in self.xml.iterfind(".//p:sp", NAMESPACES)]
         self.title = next(("".join(t.text or "" for t in shape.iter(f"{{{NAMESPACES['a']}}}t"))
                            for shape in self.xml.iterfind(".//p:sp", NAMESPACES)
                            if shape.find(".//p:ph[@type='title']", NAMESPACES) is not None), None)
-        self.pictures = [self._picture(package, part, shape) for shape in self.xml.iter()
+        self.pictures = [self._picture(package, related, shape) for shape in self.xml.iter()
                          if shape.find(".//a:blip", NAMESPACES) is not None
                          and shape.tag.split("}")[1] in ("pic", "sp")]
 
-    def _picture(self, package, part, shape):
+    @staticmethod
+    def _picture(package, related, shape):
         blip = shape.find(".//a:blip", NAMESPACES).get(f"{{{NAMESPACES['r']}}}embed")
         properties = shape.find(".//p:cNvPr", NAMESPACES)
         extent = shape.find(".//a:ext[@cx]", NAMESPACES)
         offset = shape.find(".//a:off", NAMESPACES)
-        media = os.path.normpath(os.path.join(os.path.dirname(part), self.targets[blip]))
         return {
             "description": properties.get("descr", ""),
             "left": int(offset.get("x")) / 12700, "top": int(offset.get("y")) / 12700,
             "width": int(extent.get("cx")) / 12700, "height": int(extent.get("cy")) / 12700,
-            "bytes": package.read(media),
+            "bytes": package.read(related[blip][1]),
         }
 
 
-def slides_of(path):
-    """The slides of a .pptx in their order. It has to be valid, whatever a test wants of it."""
-    assert_no_new_faults(path)
-    with zipfile.ZipFile(path) as package:
-        assert package.testzip() is None
-        rels = ElementTree.fromstring(package.read("ppt/_rels/presentation.xml.rels"))
-        targets = {rel.get("Id"): rel.get("Target") for rel in rels}
-        presentation = ElementTree.fromstring(package.read("ppt/presentation.xml"))
-        ids = [entry.get(f"{{{NAMESPACES['r']}}}id")
-               for entry in presentation.iterfind(".//p:sldId", NAMESPACES)]
-        return [Slide(package, "ppt/" + targets[i]) for i in ids]
+def slides_of(path, source=None):
+    """The slides of a .pptx in their order. It must have no faults but those of its source, whatever a test wants."""
+    assert_no_new_faults(path, source)
+    package = Package(path)
+    assert package.file.testzip() is None
+    related = package.related(package.main)
+    ids = [entry.get(f"{{{NAMESPACES['r']}}}id")
+           for entry in ElementTree.fromstring(package.read(package.main)).iterfind(".//p:sldId", NAMESPACES)]
+    return [Slide(package, related[i][1]) for i in ids]
 
 
 def png_size(data):
@@ -164,5 +189,5 @@ class ProgramTest(unittest.TestCase):
                               or p.name.startswith(".")], [])
 
 
-__all__ = ["ProgramTest", "SAMPLES", "BUILD", "slides_of", "png_size", "colours_of", "suite_of",
+__all__ = ["Package", "ProgramTest", "SAMPLES", "BUILD", "slides_of", "png_size", "colours_of", "suite_of",
            "processes_naming", "signal"]
