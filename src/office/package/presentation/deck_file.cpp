@@ -96,7 +96,10 @@ DeckFacts factsOf(const std::filesystem::path& file) {
         .isStrict = !isNamed(presentation.root(), ns::presentation, "presentation"),
         .isSigned = has("/", signatureOrigin),
         .hasMacros = has(main, macroProject)};
-    if (!facts.isStrict) FileDeck(std::move(package), {}, {}, {});
+    if (facts.isStrict) return facts;
+    // What is wrong with its slides, layouts and masters shows in a deck that is then dropped.
+    const auto deck = std::make_shared<FileDeck>(std::move(package), "", "", MeasureText());
+    static_cast<void>(deck->addSlide(1, model::layout::titleOnly));
     return facts;
 }
 

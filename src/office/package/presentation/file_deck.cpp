@@ -210,6 +210,7 @@ std::string FileDeck::freeSlideId() const {
 
 void FileDeck::listSlide(std::int32_t place, const std::string& relationshipId,
                          const std::string& id) {
+    isChanged_ = true;
     auto root = presentation_.root();
     const auto list = childInOrder(root, ns::presentation, "sldIdLst", presentationOrder);
     const bool isLast = place > slideCount();
@@ -220,6 +221,7 @@ void FileDeck::listSlide(std::int32_t place, const std::string& relationshipId,
 }
 
 void FileDeck::removeSlide(FileSlide& slide) {
+    isChanged_ = true;
     auto root = presentation_.root();
     auto list = childNamed(root, ns::presentation, "sldIdLst");
     list.remove_child(entryOf(list, slide.id()));
@@ -252,7 +254,7 @@ void FileDeck::saveCopy(const std::string& path) {
     for (const auto& slide : slides_) slide->write();
     writeKind(keepsMacros);
     writeCount();
-    package_.replace(main_, presentation_.bytes());
+    if (isChanged_) package_.replace(main_, presentation_.bytes());
     // What stands there is replaced by the whole, or stays.
     const std::filesystem::path file(std::u8string(path.begin(), path.end()));
     std::filesystem::path fresh = file;

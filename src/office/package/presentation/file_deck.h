@@ -81,6 +81,8 @@ private:
     std::weak_ptr<model::DeckShape> selected_;
     std::function<void(FileDeck&)> closed_;
     std::function<void(FileDeck&)> activated_;
+    /// Whether the list of slides is another than it was.
+    bool isChanged_ = false;
     bool isGone_ = false;
 };
 
