@@ -34,29 +34,33 @@ class AnEndedRun(ProgramTest):
         return AnEndedRun.whole_run
 
     def strike_at_many_points(self, strike, points):
-        total = self.whole_run_seconds()
-        struck = 0
+        self.whole_run_seconds()
         for point in range(points):
-            # Up to three quarters: on a busy machine the run must not be over before it is struck.
-            moment = total * 0.75 * (point + 0.5) / points
-            with self.subTest(seconds=round(moment, 2)):
-                process, output = self.begin()
-                started = time.monotonic()
-                suite = suite_of(process, self.cache)
-                time.sleep(max(0.0, moment - (time.monotonic() - started)))
-                if process.poll() is not None:
-                    process.communicate()
-                    continue
-                strike(process, suite)
-                struck += 1
-                hit = time.monotonic()
-                _, errors = process.communicate(timeout=60)
-                self.assertLess(time.monotonic() - hit, PATIENCE)
-                self.assertNotEqual(process.returncode, 0)
-                self.assertGreater(len(errors.strip()), 20, "no report")
-                self.assertFalse(output.exists())
-                self.assert_nothing_left(output)
-        self.assertGreater(struck, points // 2)
+            with self.subTest(point=point):
+                # A run that is over first shows that runs are shorter than the one that was measured.
+                while not self.struck_at((point + 0.5) / points, strike):
+                    AnEndedRun.whole_run *= 0.7
+                    self.assertGreater(AnEndedRun.whole_run, 0.5, "no run lasts until it is struck")
+
+    def struck_at(self, share, strike):
+        process, output = self.begin()
+        started = time.monotonic()
+        suite = suite_of(process, self.cache)
+        # Up to three quarters: on a busy machine the run must not be over before it is struck.
+        time.sleep(max(0.0, AnEndedRun.whole_run * 0.75 * share - (time.monotonic() - started)))
+        if process.poll() is not None:
+            process.communicate()
+            output.unlink()
+            return False
+        strike(process, suite)
+        hit = time.monotonic()
+        _, errors = process.communicate(timeout=60)
+        self.assertLess(time.monotonic() - hit, PATIENCE)
+        self.assertNotEqual(process.returncode, 0)
+        self.assertGreater(len(errors.strip()), 20, "no report")
+        self.assertFalse(output.exists())
+        self.assert_nothing_left(output)
+        return True
 
     def test_ends_with_a_report_when_the_suite_is_killed(self):
         def kill_suite(process, suite):
