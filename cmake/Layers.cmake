@@ -4,7 +4,8 @@
 # from reaching upwards is the mirror made here: a target sees only a folder of links to its own sources and to those of
 # the layers it needs, never src/ itself. A forbidden include finds no file.
 #
-# HEADERS are precompiled for the layer alone; without them it takes the standard ones.
+# HEADERS are precompiled for the layer alone, or they are the target whose precompiled headers it takes; without them it
+# takes the standard ones.
 function(murvane_layer target)
     cmake_parse_arguments(ARG "" "FOLDER" "NEEDS;PUBLIC_NEEDS;HEADERS" ${ARGN})
     if(NOT ARG_FOLDER)
@@ -18,7 +19,9 @@ function(murvane_layer target)
     target_include_directories(${target} PUBLIC ${mirror})
     target_link_libraries(${target} PRIVATE ${ARG_NEEDS} PUBLIC ${ARG_PUBLIC_NEEDS})
     murvane_warnings(${target})
-    if(ARG_HEADERS)
+    if(TARGET "${ARG_HEADERS}")
+        murvane_precompiled(${target} ${ARG_HEADERS})
+    elseif(ARG_HEADERS)
         target_precompile_headers(${target} PRIVATE ${ARG_HEADERS})
         murvane_cached_precompiled(${target})
     else()

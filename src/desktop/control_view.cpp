@@ -87,6 +87,7 @@ ControlView* makeControlView(forms::Control& control, QWidget& parent, ViewHost&
         case Kind::CommandButton:
         case Kind::CheckBox:
         case Kind::OptionButton:
+            return makeButtonView(control, parent, host);
         case Kind::TextBox:
         case Kind::Slider:
             return makeInputView(control, parent, host);

@@ -104,6 +104,7 @@ private:
 
 // The same by families, each in the file of its name.
 [[nodiscard]] ControlView* makeStillView(forms::Control& control, QWidget& parent, ViewHost& host);
+[[nodiscard]] ControlView* makeButtonView(forms::Control& control, QWidget& parent, ViewHost& host);
 [[nodiscard]] ControlView* makeInputView(forms::Control& control, QWidget& parent, ViewHost& host);
 [[nodiscard]] ControlView* makeTitleBarView(forms::Control& control, QWidget& parent,
                                             ViewHost& host);

@@ -135,4 +135,12 @@ void drawArrow(QPainter& painter, const QRectF& box, bool up, const QColor& colo
     painter.restore();
 }
 
+QColor buttonFace(const QColor& own, bool enabled, bool hovered, bool down) {
+    const bool dark = isDark(own);
+    if (!enabled) return blend(own, QColor(0x80, 0x84, 0x8c), dark ? 0.25 : 0.55);
+    if (down) return blend(own, Qt::black, dark ? 0.3 : 0.18);
+    if (hovered) return blend(own, Qt::white, dark ? 0.12 : 0.5);
+    return own;
+}
+
 }  // namespace desktop

@@ -33,4 +33,7 @@ bool drawIcon(QPainter& painter, const QRectF& box, std::string_view name);
 /// A triangle that points up or down.
 void drawArrow(QPainter& painter, const QRectF& box, bool up, const QColor& colour);
 
+/// The colour of a button's face while it is hovered, held down or disabled.
+[[nodiscard]] QColor buttonFace(const QColor& own, bool enabled, bool hovered, bool down);
+
 }  // namespace desktop

@@ -223,38 +223,28 @@ TEST_F(Windows, TheSystemsMessageBoxWaitsForItsButton) {
 }
 
 /// Run at several scales of the screen.
-class Scale : public OnTheDesktop {
-protected:
-    /// Whether anything but the ground is painted along the right and lower edges, where text that
-    /// has no room would be cut.
-    static bool isCut(const QImage& picture) {
-        const QColor ground = picture.pixelColor(picture.width() - 1, 0);
-        const auto isInk = [&](int x, int y) {
-            return std::abs(picture.pixelColor(x, y).lightness() - ground.lightness()) > 40;
-        };
-        for (int y = 0; y < picture.height(); ++y) {
-            if (isInk(picture.width() - 1, y)) return true;
-        }
-        for (int x = 0; x < picture.width(); ++x) {
-            if (isInk(x, picture.height() - 1)) return true;
-        }
-        return false;
-    }
-};
+using Scale = OnTheDesktop;
 
 TEST_F(Scale, NoCaptionIsCut) {
     const double ratio = QGuiApplication::primaryScreen()->devicePixelRatio();
-    for (const forms::Control* control :
-         {static_cast<forms::Control*>(&form.Check1), static_cast<forms::Control*>(&form.NbCharts),
-          static_cast<forms::Control*>(&form.OptionPpt),
-          static_cast<forms::Control*>(&form.DestinationFile)}) {
+    for (const forms::Control* control : std::initializer_list<const forms::Control*>{
+             &form.Check1, &form.NbCharts, &form.OptionPpt, &form.DestinationFile}) {
         QWidget& widget = widgetOf<QWidget>(*control);
+        QWidget& plate = *desk.plateOf(form);
         const QImage picture =
-            desk.plateOf(form)
-                ->grab(QRect(widget.mapTo(desk.plateOf(form), QPoint(0, 0)), widget.size()))
-                .toImage();
+            plate.grab(QRect(widget.mapTo(&plate, QPoint(0, 0)), widget.size())).toImage();
         EXPECT_NEAR(picture.width(), widget.width() * ratio, 1.0);
-        EXPECT_FALSE(isCut(picture)) << control->name() << " at " << ratio;
+        // Nothing but the ground is painted along the edges where text without room would be cut.
+        const int right = picture.width() - 1;
+        const int bottom = picture.height() - 1;
+        const int ground = picture.pixelColor(right, 0).lightness();
+        const auto isInk = [&](int x, int y) {
+            return std::abs(picture.pixelColor(x, y).lightness() - ground) > 40;
+        };
+        bool isCut = false;
+        for (int y = 0; y <= bottom; ++y) isCut = isCut || isInk(right, y);
+        for (int x = 0; x <= right; ++x) isCut = isCut || isInk(x, bottom);
+        EXPECT_FALSE(isCut) << control->name() << " at " << ratio;
     }
 }
 

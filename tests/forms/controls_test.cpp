@@ -93,16 +93,6 @@ TEST_F(Controls, AreLaidOutWithoutAnEvent) {
     EXPECT_TRUE(sheet.shadow.isChecked());
 }
 
-TEST_F(Controls, GoInFrontOfAllOthersAndBehindThem) {
-    sheet.title.setZOrder(forms::ZOrder::Front);
-    sheet.shadow.setZOrder(forms::ZOrder::Front);
-    sheet.apply.setZOrder(forms::ZOrder::Back);
-    for (const forms::Control* other : sheet.controls()) {
-        EXPECT_TRUE(other == &sheet.shadow || other->layer() < sheet.shadow.layer());
-        EXPECT_TRUE(other == &sheet.apply || other->layer() > sheet.apply.layer());
-    }
-}
-
 /// Two rows that any list could show.
 struct TwoRows : forms::ListRows {
     [[nodiscard]] std::size_t count() const override { return 2; }

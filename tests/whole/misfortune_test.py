@@ -11,23 +11,20 @@ NOTICE = "MurvaneNotice"
 
 
 class WithoutTheSuite(AtTheScreen):
-    def test_a_suite_that_dies_under_the_form_ends_the_program_with_a_report(self):
-        self.open_sample()
-        hand = self.open_main_form()
-        self.screen.kill_suite()
-        hand.do("click-row", FORM, LIST, row=2)
-        self.assertEqual(hand.ended(15), 1)
-        self.assertGreater(len(hand.said()), 20)
-
-    def test_a_suite_that_dies_during_the_export_ends_the_program_with_a_report(self):
-        self.open_sample()
-        hand = self.open_main_form()
-        self.open_dialog(hand)
-        hand.do("click", DIALOG, "ContinueOk")
-        hand.wait_for("Progress")
-        self.screen.kill_suite()
-        self.assertEqual(hand.ended(15), 1)
-        self.assertGreater(len(hand.said()), 20)
+    def test_a_suite_that_dies_under_the_form_or_during_the_export_ends_the_program_with_a_report(self):
+        for exporting in (False, True):
+            with self.subTest(exporting=exporting):
+                self.open_sample()
+                hand = self.open_main_form()
+                if exporting:
+                    self.open_dialog(hand)
+                    hand.do("click", DIALOG, "ContinueOk")
+                    hand.wait_for("Progress")
+                self.screen.kill_suite()
+                if not exporting:
+                    hand.do("click-row", FORM, LIST, row=2)
+                self.assertEqual(hand.ended(15), 1)
+                self.assertGreater(len(hand.said()), 20)
 
     def test_commands_without_a_suite_end_in_silence_or_with_their_notice(self):
         hand = self.screen.use("/112")
@@ -63,14 +60,11 @@ class UnderTheForm(AtTheScreen):
         hand = self.open_main_form()
         self.in_the_suite("document('Workbook').close(True)")
         hand.do("click-row", FORM, LIST, row=2)
-        hand.do("double-click", FORM, "imgChart")
-        hand.wait_for(NOTICE)
-        hand.do("key", NOTICE, key="Return")
-        wait_until(lambda: NOTICE not in hand.do("forms"))
-        hand.do("click", FORM, "PasteIT")
-        hand.wait_for(NOTICE)
-        hand.do("key", NOTICE, key="Return")
-        wait_until(lambda: NOTICE not in hand.do("forms"))
+        for deed, control in (("double-click", "imgChart"), ("click", "PasteIT")):
+            hand.do(deed, FORM, control)
+            hand.wait_for(NOTICE)
+            hand.do("key", NOTICE, key="Return")
+            wait_until(lambda: NOTICE not in hand.do("forms"))
         hand.do("key", FORM, key="Alt+F4")
         self.assertEqual(hand.ended(), 0, hand.said())
 
