@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
 #include <utility>
 
 namespace forms_double {
@@ -14,14 +12,9 @@ std::string readPage(std::string_view url, const PageScript& script) {
     constexpr std::string_view scheme = "file://";
     if (!url.starts_with(scheme)) return {};
     url.remove_prefix(scheme.size());
-    if (script.files != nullptr) {
-        const auto found = script.files->find(url);
-        return found == script.files->end() ? std::string() : found->second;
-    }
-    const std::ifstream file{std::string(url)};
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
+    if (script.files == nullptr) return {};
+    const auto found = script.files->find(url);
+    return found == script.files->end() ? std::string() : found->second;
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ struct PageScript {
     std::map<std::string, int, std::less<>> contentHeights;
     std::string checkedValues;
     bool completes = true;
-    /// The texts of files by their paths; the disk's where it is not set.
+    /// The texts of files by their paths; all are empty where it is not set.
     const std::map<std::string, std::string, std::less<>>* files = nullptr;
 };
 

@@ -63,29 +63,6 @@ TEST_F(PowerPointLive, WritesTheStylesIntoTheFile) {
         expectSaved(deck, static_cast<int>(i) + 3, styles[i].written);
 }
 
-TEST_F(PowerPointLive, ReadsItsStylesBackFromTheFile) {
-    const Object deck = open("english.pptx");
-    const Object picture = addPicture(slide(deck, 2), 360, 180);
-    makeReflection(picture);
-    makeShadow(picture);
-    roundCorners(picture);
-    deck.call("SaveCopyAs", file("styles.pptx"));
-
-    const Object again = openFile(file("styles.pptx"));
-    const Value shape = slide(again, 2).get("Shapes").get("Item", 1);
-    EXPECT_NEAR(shape.get("Adjustments").get("Item", 1).toDouble(), 0.05, 0.001);
-    EXPECT_NEAR(shape.get("Shadow").get("OffsetX").toDouble(), 8.12, 0.05);
-    expectMembers(shape, {{"AutoShapeType", 5},
-                          {"Reflection.Size", 20.0},
-                          {"Reflection.Offset", 1.0},
-                          {"Shadow.ForeColor.RGB", 0x336699}});
-
-    shape.get("Shadow").put("Visible", 0);
-    shape.get("Reflection").put("Size", 0);
-    shape.get("Adjustments").put("Item", 1, 0.2);
-    expectSaved(again, 2, {"val 20000"}, {"outerShdw", "a:reflection"});
-}
-
 TEST_F(PowerPointLive, GoesOnWithAPictureThatWasReplacedToRoundIt) {
     const Object deck = openWithSlides();
     const Object target = slide(deck, 3);
@@ -129,17 +106,6 @@ TEST_F(PowerPointLive, WritesALabelAtItsCornerAsWideAsItsText) {
                 {R"(txBox="1")", R"(wrap="none")", "<a:spAutoFit/>", R"(sz="1000")",
                  R"(<a:latin typeface="Tahoma"/>)", R"(<a:srgbClr val="b2b2b2"/>)",
                  R"(<a:off x="257040" y="6578640"/>)", "a book with a long name.xlsx"});
-}
-
-TEST_F(PowerPointLive, NamesPicturesAsTheyCome) {
-    const Object deck = openWithSlides();
-    const Object target = slide(deck, 5);
-    addPicture(target, 50, 50).put("Name", "Chart 7");
-    EXPECT_EQ(addPicture(target, 50, 50).get("Name").toText(), "Picture 2");
-    EXPECT_EQ(addPicture(target, 50, 50).get("Name").toText(), "Picture 3");
-    deck.call("SaveCopyAs", file("names.pptx"));
-    const Object reopened = openFile(file("names.pptx"));
-    EXPECT_EQ(addPicture(slide(reopened, 5), 50, 50).get("Name").toText(), "Picture 8");
 }
 
 TEST_F(PowerPointLive, NamesTheFileThatHoldsNoPicture) {
