@@ -79,6 +79,22 @@ std::string replaceAll(std::string_view text, std::string_view what, std::string
     return result.append(text, from);
 }
 
+std::size_t characterLength(std::string_view text, std::size_t at) {
+    const auto byteAt = [&](std::size_t place) { return static_cast<unsigned char>(text[place]); };
+    const unsigned char lead = byteAt(at);
+    if (lead < 0x80U) return 1;
+    const std::size_t length = lead >= 0xF0U ? 4 : lead >= 0xE0U ? 3 : 2;
+    if (lead < 0xC2U || lead > 0xF4U || at + length > text.size()) return 0;
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((byteAt(at + i) & 0xC0U) != 0x80U) return 0;
+    }
+    // Overlong forms, surrogates, and what lies beyond the last plane.
+    const unsigned char second = byteAt(at + 1);
+    const bool wrong = (lead == 0xE0U && second < 0xA0U) || (lead == 0xEDU && second > 0x9FU) ||
+                       (lead == 0xF0U && second < 0x90U) || (lead == 0xF4U && second > 0x8FU);
+    return wrong ? 0 : length;
+}
+
 double leadingNumber(std::string_view text) {
     std::string digits;
     for (const char c : text) {

@@ -24,6 +24,9 @@ namespace office {
 [[nodiscard]] std::string replaceAll(std::string_view text, std::string_view what,
                                      std::string_view with);
 
+/// Bytes of the character that begins at a byte of the text; 0 if none does that is well-formed.
+[[nodiscard]] std::size_t characterLength(std::string_view text, std::size_t at);
+
 /// The number that a text begins with, the way `Val` reads it: blanks skipped, a point as decimal
 /// mark, 0 when there is none. "12 px" is 12, "abc" is 0.
 [[nodiscard]] double leadingNumber(std::string_view text);

@@ -8,6 +8,7 @@
 
 #include "office/package/package.h"
 #include "office/package/part_name.h"
+#include "office/text.h"
 
 namespace office::package {
 
@@ -220,15 +221,15 @@ void copyInto(pugi::xml_node from, pugi::xml_node to) {
 
 std::string legible(std::string_view text) {
     std::string out;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        // U+FFFE and U+FFFF, the only ones beside control characters.
-        const std::string_view three = text.substr(i, 3);
+    for (std::size_t i = 0; i < text.size();) {
+        const std::size_t length = characterLength(text, i);
+        const std::string_view character = text.substr(i, length);
         const auto code = static_cast<unsigned char>(text[i]);
-        if (three == "\xEF\xBF\xBE" || three == "\xEF\xBF\xBF") {
-            i += 2;
-        } else if (code >= 0x20 || code == '\t' || code == '\n' || code == '\r') {
-            out += text[i];
-        }
+        const bool isControl = code < 0x20 && code != '\t' && code != '\n' && code != '\r';
+        // U+FFFE and U+FFFF, the only ones beside control characters.
+        const bool isNone = character == "\xEF\xBF\xBE" || character == "\xEF\xBF\xBF";
+        if (!isControl && !isNone) out += character;
+        i += std::max<std::size_t>(length, 1);
     }
     return out;
 }

@@ -71,7 +71,7 @@ pugi::xml_node adopt(pugi::xml_node parent, pugi::xml_node element);
 /// Gives an element the attributes and the children of another one.
 void copyInto(pugi::xml_node from, pugi::xml_node to);
 
-/// Without the characters that XML can't hold.
+/// Without the characters that XML can't hold, and bytes that are none.
 [[nodiscard]] std::string legible(std::string_view text);
 
 }  // namespace office::package

@@ -253,14 +253,30 @@ void FileDeck::saveCopy(const std::string& path) {
                       "A presentation is saved as .pptx or .pptm, not as " + path);
     for (const auto& slide : slides_) slide->write();
     writeKind(keepsMacros);
-    writeCount();
+    try {
+        writeCount();
+    } catch (const PackageError&) {
+        // What only tells about the deck may be wrong with it.
+    }
     if (isChanged_) package_.replace(main_, presentation_.bytes());
     // What stands there is replaced by the whole, or stays.
     const std::filesystem::path file(std::u8string(path.begin(), path.end()));
     std::filesystem::path fresh = file;
     fresh += ".new";
     package_.save(fresh);
-    std::filesystem::rename(fresh, file);
+    std::error_code problem;
+    std::filesystem::rename(fresh, file, problem);
+    if (!problem) return;
+    std::error_code ignored;
+    std::filesystem::remove(fresh, ignored);
+    throw PackageError(Fault::Unreadable,
+                       fmt::format("it can't be written ({})", problem.message()));
+}
+
+void FileDeck::close() {
+    // Whoever is called lets go of it.
+    const auto self = shared_from_this();
+    closed_(*this);
 }
 
 void FileDeck::writeKind(bool keepsMacros) {

@@ -50,7 +50,7 @@ public:
     void endSlideShow() override {}
     /// Also with the ending .pptm. A deck with macros leaves them out of a .pptx.
     void saveCopy(const std::string& path) override;
-    void close() override { closed_(*this); }
+    void close() override;
 
 private:
     std::int32_t viewType() override { return viewType_; }

@@ -84,7 +84,7 @@ std::string FileShape::name() {
 
 void FileShape::setName(const std::string& name) {
     changed();
-    attributeFor(properties("cNvPr"), "name").set_value(name.c_str());
+    attributeFor(properties("cNvPr"), "name").set_value(legible(name).c_str());
 }
 
 std::string FileShape::alternativeText() {

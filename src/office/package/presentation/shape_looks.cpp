@@ -39,9 +39,10 @@ void setNumber(pugi::xml_node node, const char* name, double value) {
 
 constexpr double radiansPerDegree = std::numbers::pi / 180;
 
-double degreesOf(double x, double y) {
-    const double degrees = std::atan2(y, x) / radiansPerDegree;
-    return degrees < 0 ? degrees + 360 : degrees;
+/// The direction of an offset, as the files count angles: below a full turn.
+double directionOf(double x, double y) {
+    const double direction = std::round(std::atan2(y, x) / radiansPerDegree * perDegree);
+    return direction < 0 ? direction + 360 * perDegree : direction;
 }
 
 /// 0xBBGGRR from and to the files' "RRGGBB".
@@ -161,7 +162,7 @@ void FileShape::setShadow(const model::Shadow& shadow) {
     auto made = madeEffect("Shadow", "outerShdw");
     setNumber(made, "blurRad", shadow.blurPt * emuPerPoint);
     setNumber(made, "dist", std::hypot(shadow.offsetXPt, shadow.offsetYPt) * emuPerPoint);
-    setNumber(made, "dir", degreesOf(shadow.offsetXPt, shadow.offsetYPt) * perDegree);
+    setNumber(made, "dir", directionOf(shadow.offsetXPt, shadow.offsetYPt));
     setNumber(made, "sx", shadow.sizePercent * perPercent);
     setNumber(made, "sy", shadow.sizePercent * perPercent);
     attributeFor(made, "algn").set_value("ctr");
