@@ -8,9 +8,7 @@ protected:
     void openUsersDocuments() {
         auto& book = suite->excel().addWorkbook("Mine.xlsx", folder.path().string());
         fill(book);
-        deck = &suite->powerPoint().addPresentation("Talk.pptx", folder.path().string());
-        deck->addSlides(1);
-        deckHandle = deck->handle();
+        keep(suite->powerPoint().addPresentation("Talk.pptx", folder.path().string()).addSlides(1));
     }
 
     int attach(std::vector<std::string> more = {}) {
@@ -26,8 +24,8 @@ TEST_F(RunAttachedTest, UsesWhatIsActiveStartsNothingAndClosesNothing) {
     EXPECT_EQ(suitesStarted, 0);
     EXPECT_EQ(pictures().size(), 5U);
     EXPECT_NE(suite->excel().activeWorkbook(), nullptr);
-    EXPECT_EQ(suite->powerPoint().presentations().size(), 1U);
-    EXPECT_EQ(folder.read("Out.pptx"), "A copy of Talk.pptx\n");
+    EXPECT_EQ(suite->powerPoint().open().size(), 1U);
+    EXPECT_EQ(slidesIn("Out.pptx"), 6);
 }
 
 TEST_F(RunAttachedTest, LeavesExcelDrawingAlsoAfterAFailure) {
@@ -58,11 +56,11 @@ TEST_F(RunAttachedTest, AWorkbookThatIsNamedHasToBeTheActiveOne) {
 
 TEST_F(RunAttachedTest, TheActivePresentationIsTakenAndTheUsersIsNeverTheOutput) {
     openUsersDocuments();
-    suite->powerPoint().addPresentation("Second.pptx").addSlides(1);
+    suite->powerPoint().addPresentation("Second.pptx").addSlides(2);
     EXPECT_EQ(attach(), 0) << console.error;
-    EXPECT_EQ(folder.read("Out.pptx"), "A copy of Second.pptx\n");
+    EXPECT_EQ(slidesIn("Out.pptx"), 7);
     folder.write("Talk.pptx", "theirs");
-    suite->powerPoint().activate(*deck);
+    deck->activate();
     EXPECT_EQ(run({"--attach", "--output", folder.file("Talk.pptx"), "--overwrite"}), 2);
     EXPECT_EQ(folder.read("Talk.pptx"), "theirs");
 }

@@ -53,7 +53,7 @@ TEST_F(RunReviewTest, AWarningEndsTheRunUnlessItWasAgreedToBeforehand) {
     EXPECT_FALSE(hasOutput());
     EXPECT_EQ(exportWith({"--yes"}), 0) << console.error;
     EXPECT_TRUE(hasOutput());
-    EXPECT_EQ(deck->slides().size(), 2U + pictures().size()) << "no slide for the hidden one";
+    EXPECT_EQ(deck->slideCount(), 2U + pictures().size()) << "no slide for the hidden one";
     EXPECT_TRUE(console.errorHas(fmt::format("Exported {} items", pictures().size())));
     console.somebodyIsThere = true;
     console.typed = {"n", "y"};

@@ -24,9 +24,13 @@ protected:
         suite->excel().addFile(bookFile, [](office_double::Workbook& book) { fill(book); });
         suite->powerPoint().addFile(deckFile, [this](office_double::Presentation& opened) {
             opened.addSlides(2);
-            deckHandle = opened.handle();
-            deck = &opened;
+            keep(opened);
         });
+    }
+
+    /// To be looked into also after it was closed.
+    void keep(office_double::Presentation& opened) {
+        deck = std::dynamic_pointer_cast<office_double::Presentation>(opened.shared_from_this());
     }
 
     static void fill(office_double::Workbook& book) {
@@ -65,16 +69,19 @@ protected:
     /// Alternative texts of the pictures that the deck has got, in the order of its slides.
     [[nodiscard]] std::vector<std::string> pictures() const {
         std::vector<std::string> texts;
-        for (const auto& slide : deck->slides()) {
-            for (const auto& shape : slide->shapes()) {
-                if (shape->kind() == office_double::Shape::Kind::Picture) {
-                    texts.push_back(shape->alternativeText());
-                }
-            }
+        for (std::int32_t place = 1; place <= deck->slideCount(); ++place) {
+            for (const auto& shape : deck->slide(place).shapes())
+                if (shape.isPicture()) texts.push_back(shape.alternativeText());
         }
         return texts;
     }
 
+    /// What a file has of slides.
+    [[nodiscard]] std::int32_t slidesIn(const std::string& name) const {
+        return std::make_shared<office::package::FileDecks>(office::package::MeasureText())
+            ->load(folder.file(name), false)
+            ->slideCount();
+    }
     [[nodiscard]] bool hasOutput() const { return folder.names().contains("Out.pptx"); }
     [[nodiscard]] bool hasOnlyInputs() const {
         return folder.names() == std::set<std::string>{"Book.xlsx", "Deck.pptx"};
@@ -90,7 +97,5 @@ protected:
     ScriptedConsole console;
     int suitesStarted = 0;
     std::function<bool()> isInterrupted = [] { return false; };
-    /// Keeps the deck to be looked into after it was closed.
-    office::Object deckHandle;
-    office_double::Presentation* deck = nullptr;
+    std::shared_ptr<office_double::Presentation> deck;
 };

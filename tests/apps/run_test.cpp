@@ -10,14 +10,14 @@ class RunTest : public RunStage {};
 TEST_F(RunTest, ExportsWhatTheWorkbookHasAndSavesItUnderTheNewName) {
     ASSERT_EQ(exportWith(), 0) << console.error;
     EXPECT_EQ(pictures(), (Texts{"Chart 1", "Chart 2", "Total", "Chart 1", "Overview"}));
-    EXPECT_EQ(deck->slides().size(), 7U);
+    EXPECT_EQ(deck->slideCount(), 7);
     EXPECT_EQ(console.error, "Exported 5 items to " + folder.file("Out.pptx") + "\n");
     EXPECT_EQ(folder.names(), (std::set<std::string>{"Book.xlsx", "Deck.pptx", "Out.pptx"}));
     EXPECT_EQ(folder.read("Book.xlsx") + ", " + folder.read("Deck.pptx"), "a workbook, a deck");
     EXPECT_EQ(suite->log().count("Workbook.Save") + suite->log().count("Presentation.Save"), 0U);
     EXPECT_EQ(suite->excel().activeWorkbook(), nullptr);
-    EXPECT_TRUE(suite->powerPoint().presentations().empty());
-    EXPECT_EQ(folder.read("Out.pptx"), "A copy of Deck.pptx\n");
+    EXPECT_TRUE(suite->powerPoint().open().empty());
+    EXPECT_EQ(slidesIn("Out.pptx"), 7);
 }
 
 TEST_F(RunTest, ListsTheItemsWithoutTouchingAnything) {
@@ -36,12 +36,12 @@ TEST_F(RunTest, TakesItemsOrderCaptionsPlacementAndStyleAsTheyAreAskedFor) {
               0)
         << console.error;
     EXPECT_EQ(pictures(), (Texts{"The whole", "All, in all", "Chart 1"}));
-    EXPECT_EQ(deck->slide(4).title()->text(), "All, in all");
-    const auto& shapes = deck->slide(5).shapes();
+    EXPECT_EQ(deck->slide(4).title().text(), "All, in all");
+    const auto shapes = deck->slide(5).shapes();
     ASSERT_EQ(shapes.size(), 3U);
-    EXPECT_TRUE(shapes[1]->hasShadow());
-    EXPECT_EQ(shapes[2]->text(), bookFile);
-    const auto& box = shapes[1]->box();
+    EXPECT_TRUE(shapes[1].hasShadow());
+    EXPECT_EQ(shapes[2].text(), bookFile);
+    const auto& box = shapes[1].box();
     EXPECT_EQ(fmt::format("{} {} {}", box.top, box.left, box.width), "270 96 240");
 }
 
@@ -51,7 +51,7 @@ TEST_F(RunTest, PredefinedSlidesComeFromTheCaptionsFile) {
         exportWith({"--captions", captions, "--slides", "predefined", "--items", "Total,Overview"}),
         0)
         << console.error;
-    EXPECT_EQ(deck->slides().size(), 2U);
+    EXPECT_EQ(deck->slideCount(), 2);
     EXPECT_EQ(pictures(), (Texts{"Overview", "Total"}));
 }
 
@@ -88,7 +88,7 @@ TEST_F(RunTest, AnExistingOutputIsReplacedOnlyWhenToldSo) {
     EXPECT_EQ(exportWith(), 2);
     EXPECT_EQ(folder.read("Out.pptx"), "old");
     EXPECT_EQ(exportWith({"--overwrite"}), 0);
-    EXPECT_EQ(folder.read("Out.pptx"), "A copy of Deck.pptx\n");
+    EXPECT_EQ(slidesIn("Out.pptx"), 7);
 }
 
 TEST_F(RunTest, AFileThatTheSuiteCannotOpenIsNamed) {

@@ -10,11 +10,10 @@ namespace contract {
 
 namespace {
 
+namespace layout = office::model::powerpoint::layout;
 using office::Value;
 using office_double::DoubleSuite;
-using office_double::Layout;
 using office_double::Presentation;
-using office_double::Shape;
 using office_double::Workbook;
 using office_double::Worksheet;
 
@@ -73,13 +72,14 @@ void fillBook(Workbook& book) {
 }
 
 void fillDeck(Presentation& deck) {
-    const auto titled = [&](Layout layout, const char* title) {
-        deck.addSlide(layout).title()->text(title);
+    const auto titled = [&](std::int32_t layout, const char* title) {
+        const auto frame = deck.addSlide(layout).title().handle().get("TextFrame");
+        frame.get("TextRange").put("Text", title);
     };
-    titled(Layout::Title, "Contract");
-    titled(Layout::Text, "Points");
-    titled(Layout::TitleOnly, "Chart here");
-    deck.addSlide(Layout::Blank);
+    titled(layout::title, "Contract");
+    titled(layout::titleOnly, "Points");
+    titled(layout::titleOnly, "Chart here");
+    deck.addSlide(layout::blank);
 }
 
 class DoubleEnvironment : public Environment {
@@ -96,7 +96,10 @@ public:
             book.chartSheet("Overview");
             book.readOnly();
         });
-        suite_.powerPoint().addFile(document("contract-deck.pptx"), fillDeck);
+        auto& deck = suite_.powerPoint().addPresentation("New.pptx");
+        fillDeck(deck);
+        deck.saveCopy(document("contract-deck.pptx"));
+        deck.close();
     }
 
     ~DoubleEnvironment() override {
@@ -106,9 +109,7 @@ public:
 
     office::Suite& suite() override { return suite_; }
 
-    std::string document(std::string_view fileName) override {
-        return "/documents/" + std::string(fileName);
-    }
+    std::string document(std::string_view fileName) override { return temporaryFile(fileName); }
 
     std::string temporaryFile(std::string_view fileName) override {
         return (folder_ / fileName).string();

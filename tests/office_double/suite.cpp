@@ -18,7 +18,8 @@ PowerPointApplication& DoubleSuite::powerPoint() {
 }
 
 void DoubleSuite::quitPowerPoint() {
-    if (powerPoint_) powerPoint_->quit();
+    if (!powerPoint_) return;
+    for (const auto& open : powerPoint_->open()) open->close();
     powerPoint_.reset();
 }
 
@@ -62,10 +63,9 @@ office::ClipboardPicture DoubleSuite::clipboardPicture(office::ClipboardPicture:
 
 office::WindowHandle DoubleSuite::findWindow(std::string_view className, std::string_view caption) {
     if (!powerPoint_ || (!className.empty() && className != "PPTFrameClass")) return 0;
-    const auto& open = powerPoint_->presentations();
-    if (caption.empty()) return open.empty() ? 0 : 1;
-    for (std::size_t i = 0; i < open.size(); ++i) {
-        if (caption == open[i]->name() + " - PowerPoint") return i + 1;
+    for (const auto& open : powerPoint_->open()) {
+        if (caption.empty() || caption == open->name() + " - PowerPoint")
+            return std::hash<model::Deck*>()(open.get());
     }
     return 0;
 }

@@ -14,7 +14,7 @@ office::Value SuiteState::run(const office::model::MemberUse& use,
     log.add({kind, std::string(use.className), std::string(use.member), literal(use.arguments),
              use.value == nullptr ? std::string() : literal(*use.value)});
     failures.check(use.className, use.member);
-    return statement();
+    return PackageGuard::run(use, statement);
 }
 
 }  // namespace office_double

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "office/failure.h"
-#include "office/model/guard.h"
+#include "office/package/presentation/file_decks.h"
 #include "support/call_log.h"
 #include "support/failure_plan.h"
 
@@ -22,7 +22,7 @@ struct CopiedPicture {
 
 /// What all objects of one suite share. Each member that is used is recorded, and fails if it is
 /// planned to.
-struct SuiteState : office::model::Guard {
+struct SuiteState : office::package::PackageGuard {
     office::Value run(const office::model::MemberUse& use,
                       const std::function<office::Value()>& statement) override;
 

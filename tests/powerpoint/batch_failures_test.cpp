@@ -16,7 +16,7 @@ protected:
 TEST_F(BatchFailuresTest, AFailureInTheLoopReachesTheCallerAndNothingIsTakenBack) {
     suite.failures().fail("Chart.Export", 2);
     EXPECT_THROW(exportRows(), office::Failure);
-    EXPECT_EQ(deck.slides().size(), 4U);
+    EXPECT_EQ(deck.slideCount(), 4);
     EXPECT_EQ(picturesOn(2).size(), 1U);
     EXPECT_EQ(picturesOn(3).size(), 0U);
     EXPECT_FALSE(excelDraws());

@@ -5,8 +5,6 @@
 namespace {
 
 using Texts = std::vector<std::string>;
-using office_double::Layout;
-using office_double::Shape;
 using stage::chartRow;
 using stage::chartSheetRow;
 using stage::rangeRow;
@@ -21,8 +19,8 @@ protected:
         deck.addSlides(2);
     }
 
-    [[nodiscard]] std::string titleOf(std::size_t slide) const {
-        return deck.slide(slide).title()->text();
+    [[nodiscard]] std::string titleOf(std::int32_t slide) {
+        return deck.slide(slide).title().text();
     }
 };
 
@@ -31,7 +29,7 @@ TEST_F(BatchTest, NewSlidesFollowTheOldOnesInTheOrderOfTheRows) {
     add(chartSheetRow("Overview"));
     add(chartRow("Chart 2", "Sales"));
     exportRows();
-    ASSERT_EQ(deck.slides().size(), 5U);
+    ASSERT_EQ(deck.slideCount(), 5);
     EXPECT_EQ(picturesOn(1), Texts{});
     EXPECT_EQ(picturesOn(3), Texts{"The total"});
     EXPECT_EQ(picturesOn(4), Texts{"Overview"});
@@ -51,7 +49,7 @@ TEST_F(BatchTest, RowsThatAreUncheckedOrOnSheetsHiddenOrGoneTakeNoSlide) {
     list.rows.back().checked = false;
     add(chartRow("Chart 1", "Sales"));
     exportRows();
-    ASSERT_EQ(deck.slides().size(), 3U);
+    ASSERT_EQ(deck.slideCount(), 3);
     EXPECT_EQ(picturesOn(3), Texts{"Chart 1"});
     EXPECT_EQ(done, 1);
 }
@@ -65,11 +63,11 @@ TEST_F(BatchTest, PredefinedSlidesTakeWhatNamesThemAndRowsWithoutANumberAreSkipp
     add(chartRow("Chart 3", "Sales", "1.6"));
     add(chartRow("Chart 2", "Sales", "0.6"));
     exportRows();
-    EXPECT_EQ(deck.slides().size(), 2U);
+    EXPECT_EQ(deck.slideCount(), 2);
     EXPECT_EQ(picturesOn(2), (Texts{"Chart 1", "Chart 3"}));
     EXPECT_EQ(picturesOn(1), Texts{"Chart 2"});
-    for (const std::size_t slide : {1U, 2U}) {
-        EXPECT_TRUE(deck.slide(slide).shapes().back()->hasShadow()) << "each slide is shown first";
+    for (const std::int32_t slide : {1, 2}) {
+        EXPECT_TRUE(deck.slide(slide).shapes().back().hasShadow()) << "each slide is shown first";
     }
     EXPECT_EQ(done, 3);
     EXPECT_TRUE(notices.shown.empty());
@@ -80,7 +78,7 @@ TEST_F(BatchTest, ASlideBeyondTheEndOrWithoutATitleToFillFailsForTheCaller) {
     options.titles = true;
     add(chartRow("Chart 1", "Sales", "3", "North"));
     EXPECT_THROW(exportRows(), office::Failure);
-    deck.addSlide(Layout::Blank);
+    deck.addSlide(office_double::model::layout::blank);
     EXPECT_THROW(exportRows(), office::Failure);
 }
 
@@ -95,8 +93,8 @@ TEST_F(BatchTest, AMissingRangeGetsItsNoticeAndItsTitleAndMovesNothingElse) {
     exportRows();
     EXPECT_EQ(notices.messages(), Texts{"? Named range 'Nowhere' not found or invalid."});
     EXPECT_EQ(titleOf(3), "Lost");
-    EXPECT_NE(deck.slide(3).title()->box().left, 96);
-    EXPECT_FALSE(deck.slide(3).title()->hasShadow());
+    EXPECT_NE(deck.slide(3).title().box().left, 96);
+    EXPECT_FALSE(deck.slide(3).title().hasShadow());
     EXPECT_EQ(picturesOn(4), Texts{"Chart 1"});
 }
 
@@ -106,17 +104,17 @@ TEST_F(BatchTest, TheShadowOptionReplacesTheStyleAfterTheFirstItem) {
     add(chartRow("Chart 1", "Sales"));
     add(chartRow("Chart 2", "Sales"));
     exportRows();
-    for (const auto& [slide, type] : {std::pair(3U, 5), std::pair(4U, 1)}) {
-        const Shape& picture = *deck.slide(slide).shapes().back();
-        EXPECT_EQ(deck.slide(slide).shapes().back()->handle().get("AutoShapeType").toLong(), type);
+    for (const auto& [slide, type] : {std::pair(3, 5), std::pair(4, 1)}) {
+        const auto picture = deck.slide(slide).shapes().back();
+        EXPECT_EQ(picture.handle().get("AutoShapeType").toLong(), type);
         EXPECT_TRUE(picture.hasShadow());
     }
 }
 
 TEST_F(BatchTest, WithASourceLineTheShadowOptionMeetsThatOneAndLaterPictures) {
-    const auto shadowsOn = [&](std::size_t slide) {
+    const auto shadowsOn = [&](std::int32_t slide) {
         std::string all;
-        for (const auto& shape : deck.slide(slide).shapes()) all += shape->hasShadow() ? 'x' : '.';
+        for (const auto& shape : deck.slide(slide).shapes()) all += shape.hasShadow() ? 'x' : '.';
         return all;
     };
     options.sourceLine = true;
@@ -135,11 +133,11 @@ TEST_F(BatchTest, TheUsersPlacementIsUsedOnlyWhenItWasConfirmed) {
     storePlacement(0.5, 0.25, 0.1);
     add(chartRow("Chart 1", "Sales"));
     exportRows();
-    EXPECT_NE(deck.slide(3).shapes().back()->box().left, 96);
+    EXPECT_NE(deck.slide(3).shapes().back().box().left, 96);
     options.placesShapes = true;
     exportRows();
-    EXPECT_DOUBLE_EQ(deck.slide(4).shapes().back()->box().left, 96);
-    EXPECT_DOUBLE_EQ(deck.slide(4).shapes().back()->box().top, 270);
+    EXPECT_DOUBLE_EQ(deck.slide(4).shapes().back().box().left, 96);
+    EXPECT_DOUBLE_EQ(deck.slide(4).shapes().back().box().top, 270);
 }
 
 TEST_F(BatchTest, ARunningShowEndsAndTheViewAndHiddenRowsArePutBack) {
@@ -161,7 +159,7 @@ TEST_F(BatchTest, ACancelledBatchEndsAfterTheItemAtHandAndLeavesNoEmptySlides) {
     for (const char* name : {"Chart 2", "Chart 3"}) add(chartRow(name, "Sales"));
     host.onEvents = [this] { progress.isCancelled = progress.calls.size() == 2; };
     exportRows();
-    ASSERT_EQ(deck.slides().size(), 4U);
+    ASSERT_EQ(deck.slideCount(), 4);
     EXPECT_EQ(picturesOn(3), Texts{});
     EXPECT_EQ(picturesOn(4), Texts{"Chart 2"});
     EXPECT_EQ(notices.messages().back(), "The export was cancelled: 1 of 3 items were exported.");

@@ -86,12 +86,10 @@ protected:
     }
 
     /// Names of the shapes on a slide apart from its placeholders.
-    [[nodiscard]] std::vector<std::string> picturesOn(std::size_t slide) const {
+    [[nodiscard]] std::vector<std::string> picturesOn(std::int32_t slide) {
         std::vector<std::string> texts;
         for (const auto& shape : deck.slide(slide).shapes()) {
-            if (shape->kind() == office_double::Shape::Kind::Picture) {
-                texts.push_back(shape->alternativeText());
-            }
+            if (shape.isPicture()) texts.push_back(shape.alternativeText());
         }
         return texts;
     }

@@ -1,76 +1,68 @@
 #include "office_double/powerpoint/application.h"
 
-#include <fmt/format.h>
-
 #include <filesystem>
+
+#include "support/png_file.h"
+#include "support/temporary_folder.h"
 
 namespace office_double {
 
+Box Shape::box() const {
+    const auto [left, top] = part->corner();
+    const auto [width, height] = part->size();
+    return {left, top, width, height};
+}
+
+Shape Slide::addPicture(const Box& box) const {
+    static const support::TemporaryFolder folder;
+    const std::string file = folder.file("picture.png");
+    support::writeBytes(file, support::pngPictureOfPoints(24, 15));
+    const auto picture = part->addPicture(file, {box.left, box.top});
+    picture->resize({box.width, box.height});
+    return {home, picture};
+}
+
+std::vector<Shape> Slide::shapes() const {
+    std::vector<Shape> all;
+    for (std::int32_t place = 1; place <= part->shapeCount(); ++place)
+        all.push_back({home, part->shapeAt(place)});
+    return all;
+}
+
+Slide Presentation::addSlide(std::int32_t layout) {
+    return {home(), addSlide(slideCount() + 1, layout)};
+}
+
+Presentation& Presentation::addSlides(int number) {
+    for (int i = 0; i < number; ++i) addSlide();
+    return *this;
+}
+
+Presentation& Presentation::runSlideShow() {
+    showRuns = true;
+    return *this;
+}
+
+PowerPointApplication::PowerPointApplication(std::shared_ptr<SuiteState> state)
+    // Characters half as wide as they are high, in one line.
+    : FileDecks([](const std::string& words, const model::Font& font, auto) -> model::Size {
+          return {static_cast<double>(words.size()) * font.sizePt / 2, font.sizePt};
+      }),
+      state_(std::move(state)) {}
+
 Presentation& PowerPointApplication::addPresentation(const std::string& name,
-                                                     const std::string& folder) {
-    presentations_.push_back(std::make_shared<Presentation>(*this, folder, name));
-    activate(*presentations_.back());
-    return *presentations_.back();
+                                                     const std::string& folder,
+                                                     package::Package content) {
+    return dynamic_cast<Presentation&>(*add(std::move(content), folder + "/" + name, name));
 }
 
-void PowerPointApplication::addFile(const std::string& path,
-                                    std::function<void(Presentation&)> fill) {
-    files_[path] = std::move(fill);
-}
-
-void PowerPointApplication::quit() {
-    while (!presentations_.empty()) closePresentation(*presentations_.front());
-    hasQuit_ = true;
-}
-
-office::Object PowerPointApplication::handle() {
-    return model::applicationObject(state_, shared_from_this());
-}
-
-Presentation* PowerPointApplication::activePresentation() const {
-    if (const auto active = active_.lock(); active && !active->isGone()) return active.get();
-    return presentations_.empty() ? nullptr : presentations_.front().get();
-}
-
-void PowerPointApplication::closePresentation(Presentation& presentation) {
-    presentation.markGone();
-    std::erase_if(presentations_, [&](const auto& held) { return held.get() == &presentation; });
-}
-
-std::string PowerPointApplication::version() {
-    requireRunning();
-    return version_;
-}
-
-std::vector<model::DeckPtr> PowerPointApplication::open() {
-    requireRunning();
-    return {presentations_.begin(), presentations_.end()};
-}
-
-model::DeckPtr PowerPointApplication::active() {
-    requireRunning();
-    Presentation* const active = activePresentation();
-    return active != nullptr ? active->shared_from_this() : nullptr;
-}
-
-model::DeckPtr PowerPointApplication::load(const std::string& file, bool /*withWindow*/) {
+model::DeckPtr PowerPointApplication::load(const std::string& file, bool withWindow) {
     const auto known = files_.find(file);
-    if (known == files_.end()) model::refuse("Presentations.Open", "There is no file " + file);
+    if (known == files_.end()) return FileDecks::load(file, withWindow);
     const std::filesystem::path path = file;
     Presentation& opened = addPresentation(path.filename().string(), path.parent_path().string());
     known->second(opened);
     return opened.shared_from_this();
-}
-
-model::DeckPtr PowerPointApplication::create(bool /*withWindow*/) {
-    return addPresentation(fmt::format("Presentation{}", presentations_.size() + 1), "")
-        .shared_from_this();
-}
-
-void PowerPointApplication::requireRunning() const {
-    if (hasQuit_)
-        throw office::Failure(office::FailureNumber::Disconnected, "Application",
-                              "The application has ended");
 }
 
 }  // namespace office_double

@@ -6,51 +6,92 @@
 #include <string>
 #include <vector>
 
-#include "office_double/powerpoint/presentation.h"
+#include "office/model/powerpoint/objects.h"
+#include "office/package/presentation/file_decks.h"
+#include "office_double/box.h"
 #include "office_double/suite_state.h"
+#include "support/package_edit.h"
 
 namespace office_double {
 
-/// A running PowerPoint.
-class PowerPointApplication : public model::Decks,
-                              public std::enable_shared_from_this<PowerPointApplication> {
+namespace model = office::model::powerpoint;
+namespace package = office::package;
+
+/// A shape as a test sees it, also after its presentation has been closed.
+struct Shape {
+    model::InDeck home;
+    model::DeckShapePtr part;
+
+    [[nodiscard]] office::Object handle() const { return model::shapeObject(home, part); }
+    [[nodiscard]] Box box() const;
+    [[nodiscard]] bool isPicture() const { return part->textFrame() == nullptr; }
+    [[nodiscard]] std::string text() const { return part->textFrame()->words(); }
+    [[nodiscard]] std::string alternativeText() const { return part->alternativeText(); }
+    [[nodiscard]] bool hasShadow() const { return part->shadow().isVisible; }
+};
+
+struct Slide {
+    model::InDeck home;
+    model::DeckSlidePtr part;
+
+    [[nodiscard]] Shape addPicture(const Box& box) const;
+    [[nodiscard]] std::vector<Shape> shapes() const;
+    [[nodiscard]] Shape title() const { return {home, part->titleShape()}; }
+};
+
+/// A presentation of which a slide show can run.
+struct Presentation : package::FileDeck {
+    template <class... Args>
+    explicit Presentation(office::model::GuardPtr guardOfAll, Args&&... args)
+        : FileDeck(std::forward<Args>(args)...),
+          guard(std::move(guardOfAll)) {}
+
+    using FileDeck::addSlide;
+    Slide addSlide(std::int32_t layout = model::layout::titleOnly);
+    Presentation& addSlides(int number);
+    Presentation& runSlideShow();
+
+    [[nodiscard]] model::InDeck home() { return {guard, shared_from_this()}; }
+    [[nodiscard]] office::Object handle() { return model::presentationObject(home()); }
+    [[nodiscard]] Slide slide(std::int32_t place) { return {home(), slideAt(place)}; }
+
+    bool showsSlides() override { return showRuns; }
+    void endSlideShow() override { showRuns = false; }
+
+    office::model::GuardPtr guard;
+    bool showRuns = false;
+};
+
+/// A running PowerPoint: the one for files, with calls recorded and failures planned.
+class PowerPointApplication : public package::FileDecks {
 public:
-    explicit PowerPointApplication(std::shared_ptr<SuiteState> state) : state_(std::move(state)) {}
+    explicit PowerPointApplication(std::shared_ptr<SuiteState> state);
 
-    // Building.
-    /// An open presentation without slides, which becomes the active one.
-    Presentation& addPresentation(const std::string& name,
-                                  const std::string& folder = "/documents");
-    /// A file that `Presentations.Open` finds; `fill` makes its content.
-    void addFile(const std::string& path, std::function<void(Presentation&)> fill);
-    void setVersion(std::string version) { version_ = std::move(version); }
-    /// Closes everything; each further call of an object is a `Failure`.
-    void quit();
-
-    [[nodiscard]] office::Object handle();
-    [[nodiscard]] office::model::GuardPtr guard() const { return state_; }
-    [[nodiscard]] Presentation* activePresentation() const;
-    [[nodiscard]] const std::vector<std::shared_ptr<Presentation>>& presentations() const {
-        return presentations_;
+    /// An open presentation, which becomes the active one; without slides if it is a new one.
+    Presentation& addPresentation(const std::string& name, const std::string& folder = "/documents",
+                                  package::Package content = support::emptyDeck());
+    /// A file of another kind, which `Presentations.Open` reads all the same.
+    void addFile(const std::string& path, const std::function<void(Presentation&)>& fill) {
+        files_[path] = fill;
     }
-    void activate(Presentation& presentation) { active_ = presentation.weak_from_this(); }
-    void closePresentation(Presentation& presentation);
+    void setVersion(const std::string& version) { version_ = version; }
 
-    std::string version() override;
-    std::vector<model::DeckPtr> open() override;
-    model::DeckPtr active() override;
+    [[nodiscard]] office::Object handle() {
+        return model::applicationObject(state_, shared_from_this());
+    }
+    std::string version() override { return version_; }
     model::DeckPtr load(const std::string& file, bool withWindow) override;
-    model::DeckPtr create(bool withWindow) override;
 
 private:
-    void requireRunning() const;
+    package::FileDeckPtr makeDeck(package::Package content, const std::string& path,
+                                  const std::string& name,
+                                  const package::MeasureText& measure) override {
+        return std::make_shared<Presentation>(state_, std::move(content), path, name, measure);
+    }
 
     std::shared_ptr<SuiteState> state_;
     std::string version_ = "16.0";
-    std::vector<std::shared_ptr<Presentation>> presentations_;
-    std::weak_ptr<Presentation> active_;
     std::map<std::string, std::function<void(Presentation&)>> files_;
-    bool hasQuit_ = false;
 };
 
 }  // namespace office_double
