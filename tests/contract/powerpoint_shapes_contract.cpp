@@ -169,6 +169,27 @@ TEST_F(PowerPointContract, AppliesEachSettingOfAStyleOrFails) {
     EXPECT_EQ(picture.get("Shadow").get("Visible").toLong(), -1);
 }
 
+TEST_F(PowerPointContract, RefusesSettingsThatNoShapeHas) {
+    const Object picture = addPicture(3, 240, 120);
+    if (failureOf([&] { picture.put("AutoShapeType", 5); }) == 0) {
+        EXPECT_EQ(failureOf([&] { picture.get("Adjustments").put("Item", 1, std::nan("")); }), 5);
+        EXPECT_EQ(failureOf([&] { picture.get("Adjustments").put("Item", 2, 0.1); }),
+                  subscriptOutOfRange);
+    }
+    const std::vector<Setting> settings = {
+        {"Shadow", "Blur", -1},      {"Shadow", "OffsetX", std::nan("")}, {"Shadow", "Size", 1e9},
+        {"Reflection", "Size", 101}, {"Reflection", "Offset", -1},
+    };
+    for (const auto& [part, member, value] : settings)
+        EXPECT_EQ(failureOf([&, &p = part, &m = member, &v = value] { picture.get(p).put(m, v); }),
+                  5)
+            << part << "." << member;
+    EXPECT_EQ(picture.get("Shadow").get("Visible").toLong(), 0);
+    const Value text = slide(3).get("Shapes").get("Title").get("TextFrame").get("TextRange");
+    for (const double size : {0.0, -10.0, 4001.0, std::nan("")})
+        EXPECT_EQ(failureOf([&] { text.get("Font").put("Size", size); }), 5) << size;
+}
+
 TEST_F(PowerPointContract, ColoursAShadow) {
     const Object picture = addPicture(3, 240, 120);
     picture.get("Shadow").put("Visible", 1);

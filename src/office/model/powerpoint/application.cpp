@@ -1,3 +1,5 @@
+#include <fmt/format.h>
+
 #include <utility>
 
 #include "office/model/item_index.h"
@@ -121,6 +123,14 @@ InDeck Application::active(const std::string& source) const {
 
 void refuse(const std::string& source, const std::string& why) {
     throw Failure(FailureNumber::ApplicationDefined, source, why);
+}
+
+double numberWithin(double low, double high, const Value& value, const std::string& source) {
+    const double number = value.toDouble();
+    if (!(number >= low && number <= high))
+        throw Failure(FailureNumber::InvalidProcedureCall, source,
+                      fmt::format("{}: the value {} is out of range", source, number));
+    return number;
 }
 
 Object applicationObject(GuardPtr guard, DecksPtr decks) {

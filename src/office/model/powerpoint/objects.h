@@ -46,6 +46,12 @@ private:
 /// A setting of PowerPoint that it refuses.
 [[noreturn]] void refuse(const std::string& source, const std::string& why);
 
+/// Beyond this PowerPoint takes no place, no length and no other measure of a shape.
+inline constexpr double furthestPt = 169056;
+/// The number that a setting gets. `Failure` 5 if it lies outside.
+[[nodiscard]] double numberWithin(double low, double high, const Value& value,
+                                  const std::string& source);
+
 [[nodiscard]] Object applicationObject(GuardPtr guard, DecksPtr decks);
 [[nodiscard]] Object presentationObject(const InDeck& home);
 [[nodiscard]] Object slideShowWindowObject(const InDeck& home);

@@ -77,8 +77,8 @@ public:
                 .property(
                     "Size", [](Self& self) { return self.text().font().sizePt; },
                     [](Self& self, const Value& points) {
-                        self.text().setFont(
-                            {.name = {}, .sizePt = points.toDouble(), .colour = {}});
+                        const double sizePt = numberWithin(1, 4000, points, "Font.Size");
+                        self.text().setFont({.name = {}, .sizePt = sizePt, .colour = {}});
                     })
                 // An object whose RGB is read and set; a number put to it is its RGB.
                 .property(
@@ -182,17 +182,18 @@ const MemberTable<ShadowFormat>& ShadowFormat::members() {
                         change(shape, &Shadow::colour, rgb);
                     });
             });
-        const auto number = [&](const char* name, double Shadow::*part) {
+        const auto number = [&](const char* name, double Shadow::*part, double lowest) {
             made.property(
                 name, [part](Self& self) { return self.shape().shadow().*part; },
-                [part](Self& self, const Value& value) {
-                    change(self.shape(), part, value.toDouble());
+                [part, lowest](Self& self, const Value& value) {
+                    change(self.shape(), part,
+                           numberWithin(lowest, furthestPt, value, "ShadowFormat"));
                 });
         };
-        number("Blur", &Shadow::blurPt);
-        number("Size", &Shadow::sizePercent);
-        number("OffsetX", &Shadow::offsetXPt);
-        number("OffsetY", &Shadow::offsetYPt);
+        number("Blur", &Shadow::blurPt, 0);
+        number("Size", &Shadow::sizePercent, 0);
+        number("OffsetX", &Shadow::offsetXPt, -furthestPt);
+        number("OffsetY", &Shadow::offsetYPt, -furthestPt);
         return made;
     }();
     return table;
@@ -218,15 +219,15 @@ public:
         using Self = ReflectionFormat;
         static const auto table = [] {
             MemberTable<Self> made("ReflectionFormat");
-            const auto number = [&](const char* name, double Reflection::*part) {
+            const auto number = [&](const char* name, double Reflection::*part, double highest) {
                 made.property(
                     name, [part](Self& self) { return self.shape().reflection().*part; },
-                    [part](Self& self, const Value& value) {
-                        self.change(part, value.toDouble());
+                    [part, highest](Self& self, const Value& value) {
+                        self.change(part, numberWithin(0, highest, value, "ReflectionFormat"));
                     });
             };
-            number("Offset", &Reflection::offsetPt);
-            number("Size", &Reflection::sizePercent);
+            number("Offset", &Reflection::offsetPt, furthestPt);
+            number("Size", &Reflection::sizePercent, 100);
             return made;
         }();
         return table;
@@ -261,7 +262,9 @@ public:
                     },
                     [](Self& self, const CallArguments& arguments, const Value& value) {
                         const std::int32_t place = arguments.at(0).toLong();
-                        if (!self.shape().setAdjustment(place, value.toDouble()))
+                        const double number =
+                            numberWithin(-furthestPt, furthestPt, value, arguments.source());
+                        if (!self.shape().setAdjustment(place, number))
                             failWithout(place, arguments.source());
                     });
         return table;

@@ -11,18 +11,12 @@ namespace office::model::powerpoint {
 
 namespace {
 
-/// Beyond this PowerPoint takes no place and no length.
-constexpr double furthestPt = 169056;
 /// A shape keeps at least this of each side, so that it stays a shape whatever one side takes from
 /// the other.
 constexpr double smallestSidePt = 0.1;
 
 double placePt(const Value& points, const std::string& source) {
-    const double place = points.toDouble();
-    if (!(std::abs(place) <= furthestPt))
-        throw Failure(FailureNumber::InvalidProcedureCall, source,
-                      fmt::format("{}: the value {} is out of range", source, place));
-    return place;
+    return numberWithin(-furthestPt, furthestPt, points, source);
 }
 
 double lengthPt(const Value& points, const std::string& source) {
