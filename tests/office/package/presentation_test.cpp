@@ -1,3 +1,4 @@
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -89,7 +90,7 @@ TEST_F(PresentationFile, KeepsTextsWhateverTheyHold) {
     const std::pair<std::string, std::string> titles[] = {
         {"<a> & \"b\" ]]>", "<a> & \"b\" ]]>"},
         {"Größe 😀\ttab", "Größe 😀\ttab"},
-        {std::string("n\x01o\x1F \0x", 8), "no x"},
+        {std::string("n\x01o\x1F \0x", 7), "no x"},
         {"\xEF\xBF\xBE\xFF\xED\xA0\x80half \xC3", "half "},
         {"one\rtwo\r", "one\rtwo\r"},
         {"one\r\ntwo\nthree", "one\rtwo\rthree"},
@@ -148,7 +149,7 @@ TEST_F(PresentationFile, SaysInItsXmlHowLabelsAndPicturesLook) {
         "<a:latin typeface=\"Tahoma\"/><a:ea typeface=\"Tahoma\"/><a:cs typeface=\"Tahoma\"/>"
         "</a:rPr>";
     for (const std::string& markup :
-         Texts{"<a:r>" + characters + "<a:t>one</a:t></a:r><a:br>" + characters + "</a:br>",
+         Texts{fmt::format("<a:r>{0}<a:t>one</a:t></a:r><a:br>{0}</a:br>", characters),
                "<a:ext cx=\"1452880\" cy=\"345440\"/>",
                "<a:bodyPr wrap=\"none\"><a:spAutoFit/></a:bodyPr>",
                "prst=\"roundRect\"><a:avLst><a:gd name=\"adj\" fmla=\"val 5000\"/>",

@@ -21,7 +21,7 @@ Value PackageGuard::run(const office::model::MemberUse& use,
 }
 
 FileDeckPtr FileDecks::add(Package package, const std::string& path, const std::string& name) {
-    const FileDeckPtr deck = makeDeck(std::move(package), path, name, measure_);
+    FileDeckPtr deck = makeDeck(std::move(package), path, name, measure_);
     deck->onActivated([self = weak_from_this()](FileDeck& active) {
         if (const auto decks = self.lock()) decks->activate(active);
     });

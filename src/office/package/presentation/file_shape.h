@@ -51,7 +51,7 @@ public:
     bool keepsProportions() override;
     void setKeepsProportions(bool keeps) override;
     model::Outline outline() override;
-    void setOutline(model::Outline outline) override;
+    void setOutline(model::Outline wanted) override;
     std::optional<double> adjustment(std::int32_t place) override;
     bool setAdjustment(std::int32_t place, double value) override;
     model::Shadow shadow() override;
