@@ -120,6 +120,18 @@ TEST_F(PresentationFile, KeepsTextsWhateverTheyHold) {
     }
 }
 
+TEST_F(PresentationFile, DressesATitleAsTheLayoutShowsItWhereNoStyleSaysIt) {
+    for (const bool hasStyle : {true, false}) {
+        Package package = support::emptyDeck();
+        edit(package, "/ppt/slideLayouts/slideLayout6.xml", R"(<a:rPr lang="en-US"/>)",
+             R"(<a:rPr lang="en-US" sz="2300" b="1"/>)");
+        if (!hasStyle) edit(package, "/ppt/slideMasters/slideMaster1.xml", "titleStyle", "other");
+        const Object deck = open(std::move(package));
+        addSlide(deck, 1, "Revenue");
+        EXPECT_EQ(titleOf(deck, 1).get("Font").get("Size").toDouble(), hasStyle ? 30 : 23);
+    }
+}
+
 TEST_F(PresentationFile, SaysInItsXmlHowLabelsAndPicturesLook) {
     const Package before = deckOf(1);
     const Object deck = open(deckOf(1));

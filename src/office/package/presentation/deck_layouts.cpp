@@ -192,6 +192,17 @@ std::vector<pugi::xml_node> DeckLayouts::ancestorsOf(const Placeholder& placehol
     return found;
 }
 
+pugi::xml_node DeckLayouts::shownTextOf(const Placeholder& placeholder, const std::string& layout) {
+    if (masterTextOf(&placeholder, layout)) return {};
+    pugi::xml_node nearest;
+    for (const auto& shape : ancestorsOf(placeholder, layout)) {
+        const auto body = childNamed(shape, ns::presentation, "txBody");
+        if (firstElement(childNamed(body, ns::drawing, "lstStyle"))) return {};
+        if (!nearest) nearest = childNamed(body, ns::drawing, "p");
+    }
+    return nearest;
+}
+
 pugi::xml_node DeckLayouts::masterTextOf(const Placeholder* placeholder,
                                          const std::string& layout) {
     const auto styles = childNamed(page(masterOf(layout)).root(), ns::presentation, "txStyles");

@@ -54,6 +54,11 @@ public:
     /// master.
     [[nodiscard]] std::vector<pugi::xml_node> ancestorsOf(const Placeholder& placeholder,
                                                           const std::string& layout);
+    /// The paragraph that shows on the layout what a placeholder's text looks like, where nothing
+    /// else says it: some makers put the look of their titles there alone, and what isn't a style
+    /// is not inherited. Null if a style says it.
+    [[nodiscard]] pugi::xml_node shownTextOf(const Placeholder& placeholder,
+                                             const std::string& layout);
     /// The master's texts of titles, bodies and others: the properties of their first level.
     [[nodiscard]] pugi::xml_node masterTextOf(const Placeholder* placeholder,
                                               const std::string& layout);

@@ -36,6 +36,18 @@ const char* nameOf(const Placeholder& placeholder) {
     return placeholder.type == "subTitle" ? "Subtitle" : "Placeholder";
 }
 
+/// Gives an empty paragraph the look of one that has text.
+void takeLook(pugi::xml_node paragraph, pugi::xml_node shown) {
+    if (const auto alignment = childNamed(shown, ns::drawing, "pPr")) adopt(paragraph, alignment);
+    const auto run = childNamed(shown, ns::drawing, "r");
+    const auto characters = childNamed(run, ns::drawing, "rPr");
+    if (!characters) return;
+    if (auto copy = adopt(paragraph, characters)) {
+        std::string name = copy.name();
+        copy.set_name(name.replace(name.find("rPr"), std::string::npos, "endParaRPr").c_str());
+    }
+}
+
 }  // namespace
 
 pugi::xml_node FileSlide::tree() {
@@ -100,6 +112,8 @@ void FileSlide::makePlaceholders(std::int32_t layout) {
         auto kind = made->element().first_child().last_child().first_child();
         if (wanted.type != "obj") kind.append_attribute("type").set_value(wanted.type.c_str());
         if (wanted.index != "0") kind.append_attribute("idx").set_value(wanted.index.c_str());
+        if (const auto shown = deck_.layouts().shownTextOf(wanted, layoutPart()))
+            takeLook(made->element().last_child().last_child(), shown);
     }
 }
 
