@@ -1,6 +1,7 @@
 #include "office/package/presentation/file_deck.h"
 #include "run_stage.h"
 #include "support/package_edit.h"
+#include "support/written_decks.h"
 
 namespace {
 
@@ -53,6 +54,7 @@ TEST_F(DeckFileTest, GetsTheSlidesAndIsLeftAsItWas) {
     ASSERT_EQ(run({bookFile, "--output", folder.file("New.pptx")}), 0) << console.error;
     EXPECT_EQ(slidesIn("New.pptx"), 5) << "a new one begins without slides";
     EXPECT_EQ(suite->log().count("Presentations.Open"), 0U);
+    support::keepDecks(folder.path(), {});
 }
 
 TEST_F(DeckFileTest, IsAddedToWithAWordWhereSomethingWillNotHold) {

@@ -5,6 +5,7 @@
 
 #include "contract/contract_environment.h"
 #include "office_double/suite.h"
+#include "support/written_decks.h"
 
 namespace contract {
 
@@ -103,6 +104,7 @@ public:
     }
 
     ~DoubleEnvironment() override {
+        support::keepDecks(folder_, {});
         std::error_code ignored;
         std::filesystem::remove_all(folder_, ignored);
     }

@@ -9,7 +9,7 @@
 namespace support {
 
 /// Keeps the presentations that a test wrote, for the validator, which looks at them after all
-/// tests; those that go by the name of an input are copies of it. They go into
+/// tests; those that go by the name of a file in `inputs` are copies of it. They go into
 /// $MURVANE_WRITTEN_DECKS, a folder of this program's own, without which none is kept.
 inline void keepDecks(const std::filesystem::path& written, const std::filesystem::path& inputs) {
     namespace fs = std::filesystem;

@@ -9,6 +9,7 @@
 #include "support/package_edit.h"
 #include "support/png_file.h"
 #include "support/temporary_folder.h"
+#include "support/written_decks.h"
 
 namespace {
 
@@ -168,6 +169,7 @@ TEST_F(PresentationFile, SaysInItsXmlHowLabelsAndPicturesLook) {
                "<a:effectLst><a:outerShdw blurRad=\"317500\" dist=\"38100\" dir=\"0\"",
                "endPos=\"20000\" dist=\"12700\" dir=\"5400000\" sy=\"-100000\""})
         EXPECT_NE(xml.find(markup), std::string::npos) << markup << "\n" << xml;
+    support::keepDecks(folder.path(), {});
 }
 
 TEST_F(PresentationFile, PutsSlidesIntoTheOrderTheSectionsAndTheCount) {
