@@ -94,6 +94,9 @@ std::string makePrivateFolder(const std::string& parent) {
     // mkdtemp makes it for this user alone.
     if (::mkdtemp(path.data()) == nullptr) return {};
     sweep(parent);
+    // An office suite's pictures pass through folders of the same names here.
+    std::error_code ignored;
+    sweep(fs::temp_directory_path(ignored).string());
     return path;
 }
 

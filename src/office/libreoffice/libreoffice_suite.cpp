@@ -2,8 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string_view>
@@ -16,6 +14,7 @@
 #include "office/libreoffice/excel/picture_maker.h"
 #include "office/libreoffice/guard.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
+#include "office/libreoffice/private_folder.h"
 #include "office/libreoffice/private_instance.h"
 #include "office/libreoffice/running_instance.h"
 #include "office/text.h"
@@ -30,24 +29,15 @@ constexpr std::string_view captionEnd = " - PowerPoint";
 /// The suite writes pictures to files only: one in a folder that only this user can read, and gone
 /// again at once.
 std::vector<std::uint8_t> pngOfCopied(Desk& desk) {
-    std::string folder =
-        (std::filesystem::temp_directory_path() / "murvane-preview-XXXXXX").string();
-    if (mkdtemp(folder.data()) == nullptr) return {};
-    const std::string file = folder + "/preview.png";
+    const PrivateFolder folder;
+    const std::string file = folder.file("preview.png");
     const CopiedPicture& copied = *desk.copiedPicture;
-    std::vector<std::uint8_t> bytes;
-    try {
-        excel::pictureMaker(desk).writeMetafile(
-            copied.metafile, {copied.widthHundredthMm, copied.heightHundredthMm}, file);
-        std::ifstream png(file, std::ios::binary);
-        bytes.assign(std::istreambuf_iterator<char>(png), {});
-    } catch (const office::Failure&) {
-        std::filesystem::remove_all(folder);
-        throw;
-    }
-    std::filesystem::remove_all(folder);
-    return bytes;
+    excel::pictureMaker(desk).writeMetafile(
+        copied.metafile, {copied.widthHundredthMm, copied.heightHundredthMm}, file);
+    std::ifstream png(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(png), {}};
 }
+
 /// The class of PowerPoint's windows in the version that the application object tells.
 constexpr std::string_view frameClass = "PPTFrameClass";
 

@@ -1,5 +1,8 @@
 #include "office/libreoffice/private_folder.h"
 
+#include <fmt/format.h>
+#include <unistd.h>
+
 #include <cstdlib>
 #include <system_error>
 
@@ -11,7 +14,8 @@ namespace fs = std::filesystem;
 
 PrivateFolder::PrivateFolder() {
     std::error_code error;
-    std::string pattern = (fs::temp_directory_path(error) / "murvane-XXXXXX").string();
+    std::string pattern =
+        (fs::temp_directory_path(error) / fmt::format("murvane-of-{}-XXXXXX", getpid())).string();
     if (error || mkdtemp(pattern.data()) == nullptr) {
         throw office::Failure(office::FailureNumber::PathFileAccess, "PrivateFolder",
                               "No temporary folder can be made");

@@ -5,7 +5,8 @@
 
 namespace libreoffice {
 
-/// A folder that only this user can look into. It goes with this object.
+/// A folder that only this user can look into. It goes with this object; what a killed run leaves,
+/// the next one takes away by the process in its name (`apps::PosixHost`).
 class PrivateFolder {
 public:
     /// `office::Failure` 75 if none can be made.
@@ -17,6 +18,8 @@ public:
     /// Copies a file into the folder, under its own name and so that it can be written.
     /// `office::Failure` 75 if it can't be copied.
     [[nodiscard]] std::string copyOf(const std::string& file) const;
+
+    [[nodiscard]] std::string file(const char* name) const { return (path_ / name).string(); }
 
 private:
     std::filesystem::path path_;
