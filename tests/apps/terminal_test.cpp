@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "apps/interruption.h"
+#include "apps/posix_console.h"
 #include "apps/terminal.h"
 #include "scripted_console.h"
 
@@ -103,6 +104,22 @@ TEST(Interruption, RunsItsActionOnceOnEachSignalThatEndsAProgram) {
         EXPECT_EQ(late.times, 1) << "at once";
         EXPECT_EQ(action.times, 1);
     }
+}
+
+TEST(PosixConsole, ReadsALineAtATimeUntilTheEnd) {
+    int ends[2];
+    ASSERT_EQ(::pipe(ends), 0);
+    ASSERT_EQ(::write(ends[1], "y\nno\n", 5), 5);
+    ::close(ends[1]);
+    const int before = ::dup(STDIN_FILENO);
+    ::dup2(ends[0], STDIN_FILENO);
+    apps::PosixConsole console([] { return false; });
+    EXPECT_EQ(console.readLine(), "y");
+    EXPECT_EQ(console.readLine(), "no");
+    EXPECT_EQ(console.readLine(), std::nullopt);
+    ::dup2(before, STDIN_FILENO);
+    ::close(before);
+    ::close(ends[0]);
 }
 
 }  // namespace

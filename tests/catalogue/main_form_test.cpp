@@ -134,7 +134,9 @@ TEST_F(TheMainForm, takesCaptionsOneAfterTheOtherWithoutTheMouse) {
     EXPECT_EQ(form.list().rows[0].caption + form.list().rows[1].caption, "OneTwo");
     EXPECT_EQ(form.list().selected, 2);
     EXPECT_EQ(form.SlideTitle.selections(), selections + 2) << "what is typed next is a new text";
-    for (int i = 0; i < 3; ++i) form.TextBox10.onStep(-1);
+    for (int i = 0; i < 3; ++i) form.TextBox10.onStep(1);
+    EXPECT_EQ(form.list().selected, 3);
+    for (int i = 0; i < 5; ++i) form.TextBox10.onStep(-1);
     EXPECT_EQ(form.list().selected, 0);
     for (const forms::Control* control : form.controls()) {
         const auto* button = dynamic_cast<const forms::CommandButton*>(control);

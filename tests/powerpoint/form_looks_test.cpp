@@ -41,6 +41,8 @@ std::string particulars(const forms::Control& control) {
     if (const auto* slider = dynamic_cast<const forms::Slider*>(&control))
         return fmt::format("{} of {}..{} by {} and {}", slider->value(), slider->minimum,
                            slider->maximum, slider->smallChange, slider->largeChange);
+    if (const auto* image = dynamic_cast<const forms::Image*>(&control))
+        return image->stretch ? "stretched" : "";
     if (const auto* list = dynamic_cast<const forms::ListView*>(&control)) {
         std::string columns;
         for (const auto& column : list->columns)
