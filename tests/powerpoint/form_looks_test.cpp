@@ -48,7 +48,9 @@ std::string particulars(const forms::Control& control) {
         for (const auto& column : list->columns)
             columns += fmt::format("{} {} {} ", column.text, column.width,
                                    static_cast<int>(column.alignment));
-        return columns + fmt::format("first row {}", list->rows->text(0, 0));
+        return columns + fmt::format("boxes {} grid {} scroll bar {} first row {}",
+                                     list->checkBoxes, list->gridLines, list->horizontalScrollBar,
+                                     list->rows->text(0, 0));
     }
     return {};
 }
