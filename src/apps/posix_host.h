@@ -4,6 +4,7 @@
 #include <string>
 
 #include "apps/console.h"
+#include "apps/pango_text.h"
 #include "session/host.h"
 
 namespace apps {
@@ -27,7 +28,10 @@ public:
     [[nodiscard]] bool fileExists(std::string_view path) override;
     [[nodiscard]] bool fileIsHeld(std::string_view path) override;
     [[nodiscard]] session::TextSize textSize(std::string_view text, const session::TextFont& font,
-                                             std::optional<double> widthPt) override;
+                                             std::optional<double> widthPt) override {
+        if (!texts_) texts_.emplace();
+        return texts_->sizeOf(text, font, widthPt);
+    }
     void openLink(std::string_view address) override;
     void messageBox(std::string_view text, std::string_view title) override;
 
@@ -36,6 +40,7 @@ private:
 
     Console& console_;
     std::optional<std::string> privateFolder_;
+    std::optional<TextMeasure> texts_;
 };
 
 }  // namespace apps

@@ -189,7 +189,13 @@ void EnsureStoreSheet(OfficeSession& session) {
     office::ContinueOnFailure scope;
     const Object& book = session.ActiveBook;
     Object sheet;
-    scope.attempt([&] { sheet = book.get("Worksheets").call("Add").toObject(); });
+    // Behind the others: one in front of them would move what all charts refer to, and a suite then
+    // draws each of them anew.
+    scope.attempt([&] {
+        const Object sheets = book.get("Sheets").toObject();
+        const Value last = sheets.get("Item", sheets.get("Count"));
+        sheet = book.get("Worksheets").call("Add", office::arg("After", last)).toObject();
+    });
     scope.attempt([&] { sheet.put("Name", store::sheetName); });
     scope.attempt([&] {
         book.get("Names").call("Add", office::arg("Name", store::itemsName),

@@ -118,7 +118,7 @@ void OutputFile::commit() {
     std::error_code ignored;
     if (neighbour_.empty() || fs::file_size(neighbour_, ignored) == 0) {
         throw RunError(
-            fmt::format("The suite wrote nothing, so {} was not made.", apps::utf8Of(file_)));
+            fmt::format("Nothing was written, so {} was not made.", apps::utf8Of(file_)));
     }
     adoptMode();
     takeName();

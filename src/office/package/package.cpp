@@ -130,6 +130,8 @@ public:
     std::unordered_map<std::string, std::unique_ptr<Relationships>> relationships;
     /// The names of what has been added, by the hash of the bytes.
     std::unordered_multimap<std::size_t, std::string> media;
+    /// By stem and ending, the numbers up to which all names are taken.
+    std::unordered_map<std::string, std::size_t> takenNumbers;
     std::uint64_t bytesRead = 0;
 
 private:
@@ -205,6 +207,7 @@ void Package::add(std::string_view part, std::string_view contentType, std::stri
 void Package::remove(std::string_view part) {
     content_->at(part);
     content_->relationships.erase(partKey(part));
+    content_->takenNumbers.clear();
     content_->remove(relationshipsPartOf(part));
     content_->remove(part);
 }
@@ -230,9 +233,12 @@ std::string Package::addMedia(std::string_view stem, std::string_view ending,
 }
 
 std::string Package::freeName(std::string_view stem, std::string_view ending) const {
-    for (std::size_t number = 1;; ++number) {
-        std::string name = fmt::format("{}{}{}", stem, number, ending);
+    // Many names are asked for one after the other.
+    std::size_t& taken = content_->takenNumbers[fmt::format("{}|{}", stem, ending)];
+    while (true) {
+        std::string name = fmt::format("{}{}{}", stem, taken + 1, ending);
         if (!has(name) && !has(relationshipsPartOf(name))) return name;
+        ++taken;
     }
 }
 

@@ -45,15 +45,15 @@ Relationships::Relationships(std::string source, std::string_view xml)
                            std::string_view(node.attribute("TargetMode").value()) == "External"};
         // Of two with one id the first counts, as in the programs that read such files at all.
         ids_.insert(found.id);
+        places_.try_emplace(found.id, all_.size());
         byDestination_.try_emplace(destinationOf(found), found.id);
         all_.push_back(std::move(found));
     }
 }
 
 const Relationship* Relationships::withId(std::string_view id) const {
-    const auto found = std::find_if(all_.begin(), all_.end(),
-                                    [&](const Relationship& one) { return one.id == id; });
-    return found == all_.end() ? nullptr : &*found;
+    const auto found = places_.find(std::string(id));
+    return found == places_.end() ? nullptr : &all_[found->second];
 }
 
 const Relationship* Relationships::ofType(std::string_view type) const {
@@ -97,14 +97,18 @@ std::string Relationships::add(std::string_view type, std::string_view part) {
     ids_.insert(added.id);
     added_.insert(added.id);
     byDestination_.emplace(destination, added.id);
+    places_.emplace(added.id, all_.size());
     all_.push_back(added);
     return added.id;
 }
 
-void Relationships::remove(std::string_view id) {
+void Relationships::remove(std::string id) {
     const auto gone = [&](const Relationship& one) { return one.id == id; };
     const auto count = std::erase_if(all_, gone);
     if (count == 0) return;
+    places_.clear();
+    for (std::size_t place = 0; place < all_.size(); ++place)
+        places_.try_emplace(all_[place].id, place);
     if (added_.erase(std::string(id)) == 0) removed_.emplace(id);
     std::erase_if(byDestination_, [&](const auto& one) { return one.second == id; });
     for (const Relationship& one : all_) byDestination_.try_emplace(destinationOf(one), one.id);

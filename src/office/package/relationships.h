@@ -38,7 +38,7 @@ public:
     /// The id of a relationship to a part; one of the same type and part that is there already is
     /// taken again. `type` as in `ofType`, written in its transitional form.
     std::string add(std::string_view type, std::string_view part);
-    void remove(std::string_view id);
+    void remove(std::string id);
 
     [[nodiscard]] const std::string& source() const { return source_; }
     [[nodiscard]] bool isChanged() const { return !added_.empty() || !removed_.empty(); }
@@ -58,6 +58,8 @@ private:
     /// The ids by type and part.
     std::unordered_map<std::string, std::string> byDestination_;
     std::unordered_set<std::string> ids_;
+    /// Where each stands.
+    std::unordered_map<std::string, std::size_t> places_;
     std::size_t lastNumber_ = 0;
 };
 

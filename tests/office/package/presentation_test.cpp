@@ -133,6 +133,45 @@ TEST_F(PresentationFile, DressesATitleAsTheLayoutShowsItWhereNoStyleSaysIt) {
     }
 }
 
+TEST_F(PresentationFile, PutsATitleWhereNoLayoutHasAPlaceForOne) {
+    Package package = support::emptyDeck();
+    for (int layout = 1; layout <= 11; ++layout) {
+        const std::string part = fmt::format("/ppt/slideLayouts/slideLayout{}.xml", layout);
+        std::string text = package.read(part);
+        for (const char* kind : {R"(<p:ph type="title")", R"(<p:ph type="ctrTitle")"})
+            text = office::replaceAll(text, kind, R"(<p:ph type="body")");
+        package.replace(part, text);
+    }
+    const Object deck = open(std::move(package));
+    addSlide(deck, 1, "Revenue");
+    const Value title = shapesOf(deck, 1).get("Title");
+    EXPECT_NEAR(title.get("Top").toDouble(), 18, 0.01) << "where the master has its own";
+    const std::string slide = saved(deck).read(firstSlide);
+    EXPECT_NE(slide.find("<a:off"), std::string::npos) << "nothing is inherited past the layout";
+}
+
+TEST_F(PresentationFile, ChangesTheLayoutOfASlideThatHasMoreThanThat) {
+    const Object deck = open(deckOf(1));
+    addPicture(deck, 1);
+    const Value slide = deck.get("Slides").get("Item", 1);
+    slide.put("Layout", model::layout::blank);
+    EXPECT_EQ(slide.get("Layout").toLong(), model::layout::blank);
+    Package package = saved(deck);
+    EXPECT_EQ(package.relationshipsOf(firstSlide).all().size(), 2U);
+    EXPECT_NE(package.relationshipsOf(firstSlide).ofType("image"), nullptr);
+}
+
+TEST_F(PresentationFile, ShowsTheSlideNumberInThePlaceOfTheNewLayout) {
+    Package package = deckOf(1);
+    edit(package, firstSlide, "</p:spTree>",
+         R"(<p:sp><p:nvSpPr><p:cNvPr id="9" name="N"/><p:cNvSpPr/><p:nvPr>)"
+         R"(<p:ph type="sldNum" idx="4"/></p:nvPr></p:nvSpPr><p:spPr/></p:sp></p:spTree>)");
+    const Object deck = open(std::move(package));
+    addSlide(deck, 2, "next");
+    const std::string slide = saved(deck).read("/ppt/slides/slide2.xml");
+    EXPECT_EQ(between(slide, R"(<p:ph type="sldNum" idx=")", "\""), Texts{"12"});
+}
+
 TEST_F(PresentationFile, SaysInItsXmlHowLabelsAndPicturesLook) {
     const Package before = deckOf(1);
     const Object deck = open(deckOf(1));

@@ -8,6 +8,8 @@
 
 namespace office::package {
 
+constexpr std::string_view strictPresentation = "http://purl.oclc.org/ooxml/presentationml/main";
+
 DeckFacts factsOf(const std::filesystem::path& file) {
     Package package = Package::open(file);
     const std::string main = presentationPartOf(package);
@@ -16,7 +18,7 @@ DeckFacts factsOf(const std::filesystem::path& file) {
         return package.relationshipsOf(source).ofType(type) != nullptr;
     };
     const DeckFacts facts{
-        .isStrict = !isNamed(presentation.root(), ns::presentation, "presentation"),
+        .isStrict = isNamed(presentation.root(), strictPresentation, "presentation"),
         .isSigned = has("/", signatureOrigin),
         .hasMacros = has(main, macroProject)};
     if (facts.isStrict) return facts;

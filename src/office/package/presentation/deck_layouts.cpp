@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "office/package/part_name.h"
 #include "office/text.h"
 
 namespace office::package {
@@ -79,7 +80,7 @@ std::string DeckLayouts::masterOf(const std::string& layout) {
     const Relationships& relationships = package_.relationshipsOf(layout);
     const Relationship* const found = relationships.ofType("slideMaster");
     if (found == nullptr)
-        throw PackageError(Fault::Damaged, "its layout " + layout + " has no master");
+        throw PackageError(Fault::Damaged, "its layout " + shown(layout) + " has no master");
     return relationships.partOf(*found);
 }
 
@@ -109,7 +110,7 @@ std::vector<Placeholder> DeckLayouts::contentOf(const std::string& layout) {
 std::string DeckLayouts::firstOf(const std::string& master) {
     const auto layouts = layoutsOf(master);
     if (layouts.empty())
-        throw PackageError(Fault::Damaged, "its master " + master + " has no layouts");
+        throw PackageError(Fault::Damaged, "its master " + shown(master) + " has no layouts");
     return layouts.front();
 }
 
@@ -124,12 +125,17 @@ std::string DeckLayouts::find(std::int32_t number, const std::string& neighbour)
     const auto where = [&](const auto& fits) {
         return std::find_if(layouts.begin(), layouts.end(), fits);
     };
+    // What is a title layout by its kind may have lost its title.
+    const auto suits = [&](const std::string& layout) {
+        return number == model::layout::blank || titlesIn(contentOf(layout)) > 0;
+    };
     auto chosen = where([&](const std::string& layout) {
-        return page(layout).root().attribute("type").value() == std::string_view(kind.type);
+        return page(layout).root().attribute("type").value() == std::string_view(kind.type) &&
+               suits(layout);
     });
     if (chosen == layouts.end())
         chosen = where([&](const std::string& layout) {
-            return sameIgnoringCase(layoutName(page(layout)), kind.name);
+            return sameIgnoringCase(layoutName(page(layout)), kind.name) && suits(layout);
         });
     if (chosen == layouts.end())
         chosen = std::min_element(layouts.begin(), layouts.end(), [&](auto& left, auto& right) {
@@ -157,15 +163,18 @@ std::vector<Placeholder> DeckLayouts::placeholdersFor(std::int32_t number,
         if (placeholder.isTitle() || (number == model::layout::title && isSubtitle))
             wanted.push_back(placeholder);
     }
+    if (titlesIn(wanted) == 0) wanted.push_back({"title", "0"});
     return wanted;
 }
 
-bool DeckLayouts::hasPlace(const Placeholder& placeholder, const std::string& layout) {
-    const auto shapes = shapeTreeOf(page(layout)).children();
-    return std::any_of(shapes.begin(), shapes.end(), [&](const pugi::xml_node& shape) {
-        const auto other = placeholderOf(shape);
-        return other && other->type == placeholder.type;
-    });
+std::optional<Placeholder> DeckLayouts::placeFor(const Placeholder& placeholder,
+                                                 const std::string& layout) {
+    for (const pugi::xml_node shape : shapeTreeOf(page(layout)).children()) {
+        auto other = placeholderOf(shape);
+        if (other && (placeholder.isTitle() ? other->isTitle() : other->type == placeholder.type))
+            return other;
+    }
+    return std::nullopt;
 }
 
 std::vector<pugi::xml_node> DeckLayouts::ancestorsOf(const Placeholder& placeholder,

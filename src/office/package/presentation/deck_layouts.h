@@ -45,11 +45,12 @@ public:
     [[nodiscard]] std::string firstOf(const std::string& master);
     /// PowerPoint's number of a layout.
     [[nodiscard]] std::int32_t numberOf(const std::string& layout);
-    /// What a new slide of this layout holds.
+    /// What a new slide of this layout holds: a title in any case, unless it is to be blank.
     [[nodiscard]] std::vector<Placeholder> placeholdersFor(std::int32_t number,
                                                            const std::string& layout);
-    /// Whether a layout has a placeholder of this kind.
-    [[nodiscard]] bool hasPlace(const Placeholder& placeholder, const std::string& layout);
+    /// The layout's own placeholder of this kind; nothing if it has none.
+    [[nodiscard]] std::optional<Placeholder> placeFor(const Placeholder& placeholder,
+                                                      const std::string& layout);
     /// The shapes that a placeholder inherits from, the nearest first: on the layout, on its
     /// master.
     [[nodiscard]] std::vector<pugi::xml_node> ancestorsOf(const Placeholder& placeholder,

@@ -9,6 +9,7 @@
 #include <set>
 
 #include "office/model/powerpoint/objects.h"
+#include "office/package/part_name.h"
 #include "office/text.h"
 
 namespace office::package {
@@ -19,20 +20,17 @@ constexpr std::string_view slideType =
     "application/vnd.openxmlformats-officedocument.presentationml.slide+xml";
 
 /// What a package about a presentation says that it is, by the kinds of file.
-struct MainType {
-    const char* contentType;
-    bool hasMacros;
-};
-constexpr std::array<MainType, 6> mainTypes = {{
-    {"application/vnd.openxmlformats-officedocument.presentationml.presentation.main+xml", false},
-    {"application/vnd.ms-powerpoint.presentation.macroEnabled.main+xml", true},
-    {"application/vnd.openxmlformats-officedocument.presentationml.template.main+xml", false},
-    {"application/vnd.ms-powerpoint.template.macroEnabled.main+xml", true},
-    {"application/vnd.openxmlformats-officedocument.presentationml.slideshow.main+xml", false},
-    {"application/vnd.ms-powerpoint.slideshow.macroEnabled.main+xml", true},
-}};
-constexpr const MainType& plainPresentation = mainTypes[0];
-constexpr const MainType& macroPresentation = mainTypes[1];
+constexpr const char* plainPresentation =
+    "application/vnd.openxmlformats-officedocument.presentationml.presentation.main+xml";
+constexpr const char* macroPresentation =
+    "application/vnd.ms-powerpoint.presentation.macroEnabled.main+xml";
+constexpr std::array<std::string_view, 6> mainTypes = {
+    plainPresentation,
+    macroPresentation,
+    "application/vnd.openxmlformats-officedocument.presentationml.template.main+xml",
+    "application/vnd.ms-powerpoint.template.macroEnabled.main+xml",
+    "application/vnd.openxmlformats-officedocument.presentationml.slideshow.main+xml",
+    "application/vnd.ms-powerpoint.slideshow.macroEnabled.main+xml"};
 
 const std::vector<std::string_view> presentationOrder = {
     "sldMasterIdLst", "notesMasterIdLst", "handoutMasterIdLst", "sldIdLst",       "sldSz",
@@ -98,8 +96,7 @@ std::string presentationPartOf(Package& package) {
     std::string part = relationships.partOf(*found);
     const std::string type = package.contentTypeOf(part);
     const bool isPresentation =
-        std::any_of(mainTypes.begin(), mainTypes.end(),
-                    [&](const auto& one) { return type == one.contentType; });
+        std::find(mainTypes.begin(), mainTypes.end(), type) != mainTypes.end();
     if (!isPresentation) throw PackageError(Fault::NotAPackage, "it is no presentation");
     return part;
 }
@@ -125,12 +122,15 @@ void FileDeck::readSlides() {
         const std::string id = attributeNamed(entry, ns::relationships, "id").value();
         const Relationship* const found = relationships.withId(id);
         if (found == nullptr || found->isExternal)
-            throw PackageError(Fault::Damaged, "its list of slides names one that isn't there");
+            throw PackageError(
+                Fault::Damaged,
+                fmt::format("its list of slides names {}, which isn't there", shown(id)));
         std::string part = relationships.partOf(*found);
         if (!package_.has(part))
-            throw PackageError(Fault::Damaged, "its slide " + part + " is missing");
-        if (!seen.insert(lowerCase(part)).second)
-            throw PackageError(Fault::Damaged, "its list of slides names " + part + " twice");
+            throw PackageError(Fault::Damaged, "its slide " + shown(part) + " is missing");
+        if (!seen.insert(partKey(part)).second)
+            throw PackageError(Fault::Damaged,
+                               "its list of slides names " + shown(part) + " twice");
         slides_.push_back(
             std::make_shared<FileSlide>(*this, std::move(part), id, entry.attribute("id").value()));
     }
@@ -198,10 +198,17 @@ model::DeckSlidePtr FileDeck::addSlide(std::int32_t place, std::int32_t layout) 
 std::string FileDeck::freeSlideId() const {
     constexpr unsigned lowest = 256;
     constexpr unsigned end = 2147483648U;
-    std::set<unsigned> taken;
-    for (const auto& slide : slides_)
-        taken.insert(static_cast<unsigned>(leadingNumber(slide->id())));
-    unsigned id = taken.empty() ? lowest : std::max(lowest, *taken.rbegin() + 1);
+    std::set<unsigned> taken = {lowest - 1};
+    const auto add = [&](pugi::xml_node list) {
+        for (const pugi::xml_node entry : list.children()) {
+            const unsigned id = entry.attribute("id").as_uint();
+            if (id < end) taken.insert(id);
+        }
+    };
+    add(childNamed(presentation_.root(), ns::presentation, "sldIdLst"));
+    // A section may still name slides that have gone.
+    for (const auto& section : sectionsIn(presentation_.root())) add(section);
+    unsigned id = std::max(lowest, *taken.rbegin() + 1);
     if (id >= end) {
         for (id = lowest; taken.contains(id);) ++id;
     }
@@ -280,13 +287,17 @@ void FileDeck::close() {
 }
 
 void FileDeck::writeKind(bool keepsMacros) {
-    package_.setContentType(main_,
-                            (keepsMacros ? macroPresentation : plainPresentation).contentType);
+    package_.setContentType(main_, keepsMacros ? macroPresentation : plainPresentation);
     if (keepsMacros) return;
     Relationships& relationships = package_.relationshipsOf(main_);
     if (const Relationship* const macros = relationships.ofType(macroProject)) {
         const std::string part = relationships.partOf(*macros);
-        relationships.remove(std::string(macros->id));
+        relationships.remove(macros->id);
+        // Their signatures hang on them.
+        const Relationships& own = package_.relationshipsOf(part);
+        for (const Relationship& one : own.all()) {
+            if (!one.isExternal && package_.has(own.partOf(one))) package_.remove(own.partOf(one));
+        }
         package_.remove(part);
     }
 }

@@ -4,7 +4,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <set>
 
+#include "office/package/part_name.h"
 #include "office/package/presentation/file_deck.h"
 #include "office/package/presentation/picture_file.h"
 
@@ -53,8 +56,26 @@ void takeLook(pugi::xml_node paragraph, pugi::xml_node shown) {
 pugi::xml_node FileSlide::tree() {
     if (!xml_) xml_ = std::make_unique<Xml>(deck_.package().read(part_), part_);
     const auto found = shapeTreeOf(*xml_);
-    if (!found) throw PackageError(Fault::Damaged, "its slide " + part_ + " has no tree of shapes");
+    if (!found)
+        throw PackageError(Fault::Damaged, "its slide " + shown(part_) + " has no tree of shapes");
     return found;
+}
+
+/// A title that its layout has no place for stands where the master has its own, or along the upper
+/// edge: nothing is inherited from beyond the layout.
+void FileSlide::placeForItself(FileShape& title) {
+    constexpr double plainSizePt = 28;
+    model::DeckShape& shape = title;
+    model::Size size = shape.size();
+    if (size.width > 0) {
+        shape.moveTo(shape.corner());
+    } else {
+        const model::Size slide = deck_.slideSize();
+        size = {slide.width * 0.9, slide.height * 0.12};
+        shape.moveTo({slide.width * 0.05, slide.height * 0.04});
+        shape.textFrame()->setFont({.name = {}, .sizePt = plainSizePt, .colour = {}});
+    }
+    shape.resize(size);
 }
 
 std::vector<FileShapePtr>& FileSlide::shapes() {
@@ -70,7 +91,7 @@ std::string FileSlide::layoutPart() {
     const Relationships& relationships = deck_.package().relationshipsOf(part_);
     const Relationship* const found = relationships.ofType("slideLayout");
     if (found == nullptr)
-        throw PackageError(Fault::Damaged, "its slide " + part_ + " has no layout");
+        throw PackageError(Fault::Damaged, "its slide " + shown(part_) + " has no layout");
     return relationships.partOf(*found);
 }
 
@@ -114,6 +135,7 @@ void FileSlide::makePlaceholders(std::int32_t layout) {
         if (wanted.index != "0") kind.append_attribute("idx").set_value(wanted.index.c_str());
         if (const auto shown = deck_.layouts().shownTextOf(wanted, layoutPart()))
             takeLook(made->element().last_child().last_child(), shown);
+        if (!deck_.layouts().placeFor(wanted, layoutPart())) placeForItself(*made);
     }
 }
 
@@ -131,18 +153,21 @@ model::DeckShapePtr FileSlide::titleShape() {
 }
 
 std::int32_t FileSlide::freeShapeId() {
-    std::int32_t highest = 1;
+    constexpr std::uint32_t highest = 0x7FFFFFFE;
     struct Walker : pugi::xml_tree_walker {
-        explicit Walker(std::int32_t& id) : highest(id) {}
         bool for_each(pugi::xml_node& node) override {
             if (std::string_view(node.name()).ends_with("cNvPr"))
-                highest = std::max(highest, node.attribute("id").as_int());
+                taken.insert(node.attribute("id").as_uint());
             return true;
         }
-        std::int32_t& highest;
-    } walker(highest);
+        std::set<std::uint32_t> taken = {1};
+    } walker;
     tree().traverse(walker);
-    return highest + 1;
+    std::uint32_t id = *walker.taken.rbegin() + 1;
+    if (*walker.taken.rbegin() > highest) {
+        for (id = 2; walker.taken.contains(id);) ++id;
+    }
+    return static_cast<std::int32_t>(id);
 }
 
 FileShapePtr FileSlide::addShape(std::string_view kind, const std::string& markup) {
@@ -166,10 +191,18 @@ FileShapePtr FileSlide::nameShape(std::string_view kind, pugi::xml_node element)
 void FileSlide::takeFurnitureOf(FileSlide& other) {
     for (const FileShapePtr& shape : other.shapes()) {
         const auto kind = shape->placeholder();
-        if (!kind || !kind->isFurniture() || !deck_.layouts().hasPlace(*kind, layoutPart()))
+        if (!kind || !kind->isFurniture() || !isNamed(shape->element(), ns::presentation, "sp"))
             continue;
+        const auto place = deck_.layouts().placeFor(*kind, layoutPart());
+        if (!place) continue;
         static_cast<void>(shapes());
-        if (const auto copy = adopt(tree(), shape->element())) nameShape(nameOf(*kind), copy);
+        const auto copy = adopt(tree(), shape->element());
+        if (!copy) continue;
+        // It is found on its layout by this number, and each layout has its own.
+        const auto inner = childNamed(firstElement(copy), ns::presentation, "nvPr");
+        attributeFor(childNamed(inner, ns::presentation, "ph"), "idx")
+            .set_value(place->index.c_str());
+        nameShape(nameOf(*kind), copy);
     }
 }
 

@@ -54,6 +54,7 @@ private:
     [[nodiscard]] pugi::xml_node tree();
     /// Puts a shape on top of the others, and names it by its kind and its number.
     FileShapePtr addShape(std::string_view kind, const std::string& markup);
+    void placeForItself(FileShape& title);
     FileShapePtr nameShape(std::string_view kind, pugi::xml_node element);
     [[nodiscard]] std::int32_t freeShapeId();
 

@@ -156,8 +156,12 @@ model::Font FileShape::font() {
         return found != properties.end() ? *found : pugi::xml_node();
     };
     if (const auto named =
-            nearest([](auto node) { return !!childNamed(node, ns::drawing, "latin"); }))
-        font.name = childNamed(named, ns::drawing, "latin").attribute("typeface").value();
+            nearest([](auto node) { return !!childNamed(node, ns::drawing, "latin"); })) {
+        // One with a plus sign stands for a font of the theme.
+        const std::string name =
+            childNamed(named, ns::drawing, "latin").attribute("typeface").value();
+        if (!name.starts_with('+')) font.name = name;
+    }
     if (const auto sized = nearest([](auto node) { return !!node.attribute("sz"); }))
         font.sizePt = sized.attribute("sz").as_double() / perPoint;
     if (const auto filled =
