@@ -15,8 +15,8 @@ void requireReadable(const std::filesystem::path& file, const std::string& what)
 /// and with it whatever a suite that ends half-way leaves there.
 class OutputFile {
 public:
-    /// `UsageError` if the name ends in neither ".pptx" nor ".pptm", if its folder is missing or can't be
-    /// written, if a folder bears the name, or if it exists and may not be overwritten.
+    /// `UsageError` if the name ends in neither ".pptx" nor ".pptm", if its folder is missing or
+    /// can't be written, if a folder bears the name, or if it exists and may not be overwritten.
     OutputFile(const std::filesystem::path& file, IfExists ifExists);
     ~OutputFile();
     OutputFile(const OutputFile&) = delete;
