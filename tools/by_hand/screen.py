@@ -130,8 +130,11 @@ class Screen:
         """Runs a script of the suite's own language binding over the user's suite, by the pipe that Murvane has
         asked it for; what it prints."""
         pipe = (pathlib.Path(self.environment["XDG_RUNTIME_DIR"]) / "murvane" / "suite-pipe").read_text().strip()
-        return subprocess.run(["/usr/bin/python3", "-c", PREAMBLE + script, pipe, *map(str, arguments)], check=True,
-                              env=self.environment, capture_output=True, text=True, timeout=120).stdout
+        ran = subprocess.run(["/usr/bin/python3", "-c", PREAMBLE + script, pipe, *map(str, arguments)],
+                             env=self.environment, capture_output=True, text=True, timeout=120)
+        if ran.returncode != 0:
+            raise AssertionError("the script in the suite failed: " + ran.stderr)
+        return ran.stdout
 
     def use(self, code):
         """Starts Murvane with a code; the one at the screen."""
