@@ -49,6 +49,13 @@ def document(kind):
 def filter(name):
     return (PropertyValue("FilterName", 0, name, 0),)
 """
+# The bridge at times crashes a Python that takes itself down in order.
+END = """
+import os
+sys.stdout.flush()
+os._exit(0)
+"""
+
 
 
 class Screen:
@@ -130,10 +137,10 @@ class Screen:
         """Runs a script of the suite's own language binding over the user's suite, by the pipe that Murvane has
         asked it for; what it prints."""
         pipe = (pathlib.Path(self.environment["XDG_RUNTIME_DIR"]) / "murvane" / "suite-pipe").read_text().strip()
-        ran = subprocess.run(["/usr/bin/python3", "-c", PREAMBLE + script, pipe, *map(str, arguments)],
+        ran = subprocess.run(["/usr/bin/python3", "-c", PREAMBLE + script + END, pipe, *map(str, arguments)],
                              env=self.environment, capture_output=True, text=True, timeout=120)
         if ran.returncode != 0:
-            raise AssertionError("the script in the suite failed: " + ran.stderr)
+            raise AssertionError(f"the script in the suite ended with {ran.returncode}: {ran.stderr}")
         return ran.stdout
 
     def use(self, code):
