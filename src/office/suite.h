@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "office/copied.h"
 #include "office/value.h"
 
 namespace office {
@@ -25,6 +26,13 @@ struct ClipboardPicture {
     std::vector<std::uint8_t> bytes;
 };
 
+/// Something that is to be pasted, under the name that the user knows it by.
+struct PasteItem {
+    std::string name;
+    /// As far as it is known before the copy: the address of cells is not.
+    CopySource source;
+};
+
 /// The office applications of this machine, apart from their object models: which of them run,
 /// their windows and the clipboard. One implementation for each platform's suite.
 class Suite {
@@ -42,6 +50,13 @@ public:
 
     virtual void clearClipboard() = 0;
     virtual ClipboardPicture clipboardPicture(ClipboardPicture::Kind kind) = 0;
+    /// Where its Excel leaves what was copied, for a PowerPoint that stands elsewhere.
+    virtual ClipboardPtr clipboard() = 0;
+    /// What the user should know before items are pasted in this form into the active presentation,
+    /// a line each.
+    virtual std::vector<std::string> remarksOn(PasteAs, const std::vector<PasteItem>&) {
+        return {};
+    }
 
     /// The top window with this class and caption; an empty one of the two means any. 0 if there is
     /// none.

@@ -5,7 +5,7 @@
 
 namespace {
 
-using office::package::MeasureText;
+using office::package::FileRules;
 using office::package::Package;
 using support::edit;
 
@@ -22,7 +22,8 @@ protected:
     /// A deck with one slide, and what `change` makes of it.
     void makeDeck(const std::function<void(Package&)>& change) {
         const std::string plain = temporary.file("Plain.pptx");
-        const auto decks = std::make_shared<office::package::FileDecks>(MeasureText());
+        const auto decks =
+            std::make_shared<office::package::FileDecks>(std::make_shared<FileRules>());
         const auto made = decks->create(false);
         made->addSlide(1, office_double::model::layout::titleOnly);
         made->saveCopy(plain);

@@ -78,7 +78,8 @@ protected:
 
     /// What a file has of slides.
     [[nodiscard]] std::int32_t slidesIn(const std::string& name) const {
-        return std::make_shared<office::package::FileDecks>(office::package::MeasureText())
+        return std::make_shared<office::package::FileDecks>(
+                   std::make_shared<office::package::FileRules>())
             ->load(folder.file(name), false)
             ->slideCount();
     }

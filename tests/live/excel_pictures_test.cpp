@@ -13,6 +13,7 @@
 #include "live/live_suite.h"
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/copied.h"
 #include "office/libreoffice/excel/picture_maker.h"
 #include "support/png_file.h"
 
@@ -183,10 +184,10 @@ TEST_F(ExcelPictures, DrawsColumnsBehindTheLastFilledOneAsWideAsTheyAre) {
     const Object book = open("cells.xlsx");
     const Value range = sheet(book, "Wide").get("Range", "A1:BK6");
     range.call("CopyPicture");
-    const CopiedPicture& copied = *desk->copiedPicture;
-    const excel::PictureSize drawn = excel::sizeOfMetafile(copied.metafile);
-    EXPECT_NEAR(drawn.width, copied.widthHundredthMm, 100);
-    EXPECT_NEAR(copied.widthHundredthMm * 72 / 2540.0, range.get("Width").toDouble(), 0.5);
+    const auto& copied = dynamic_cast<const excel::CopiedPicture&>(*desk->clipboard().copied);
+    const excel::PictureSize drawn = excel::sizeOfMetafile(copied.metafile());
+    EXPECT_NEAR(drawn.width, copied.size().width, 100);
+    EXPECT_NEAR(copied.widthPt(), range.get("Width").toDouble(), 0.5);
     EXPECT_TRUE(book.get("Saved").toBool());
 }
 

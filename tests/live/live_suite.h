@@ -48,8 +48,8 @@ protected:
         return connection()->remoteCalls() - before;
     }
 
-    std::shared_ptr<libreoffice::Desk> desk =
-        std::make_shared<libreoffice::Desk>(connection(), true);
+    std::shared_ptr<libreoffice::Desk> desk = std::make_shared<libreoffice::Desk>(
+        connection(), true, std::make_shared<office::Clipboard>());
     Object app;
     std::string lastWords;
 

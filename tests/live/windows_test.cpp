@@ -77,7 +77,8 @@ protected:
 
     /// What automation that was just started knows.
     [[nodiscard]] static DeskPtr freshDesk() {
-        return std::make_shared<Desk>(screen->connection, false);
+        return std::make_shared<Desk>(screen->connection, false,
+                                      std::make_shared<office::Clipboard>());
     }
 };
 

@@ -40,25 +40,36 @@ Object DoubleSuite::start(std::string_view className) {
 
 void DoubleSuite::clearClipboard() {
     ++clipboardClears_;
-    state_->clipboard.reset();
+    state_->clipboard->copied.reset();
 }
 
 office::ClipboardPicture DoubleSuite::clipboardPicture(office::ClipboardPicture::Kind kind) {
     office::ClipboardPicture picture;
     picture.kind = kind;
-    if (!state_->clipboard) return picture;
-    const auto [width, height] = *state_->clipboard;
+    const office::CopiedPtr& copied = state_->clipboard->copied;
+    if (!copied) return picture;
     if (kind == office::ClipboardPicture::Kind::Bitmap) {
         picture.mediaType = "image/png";
-        picture.bytes = support::pngPictureOfPoints(width, height);
+        const std::string png = copied->png();
+        picture.bytes.assign(png.begin(), png.end());
     } else {
         picture.mediaType = "image/svg+xml";
         const std::string svg =
             fmt::format(R"(<svg xmlns="http://www.w3.org/2000/svg" width="{}pt" height="{}pt"/>)",
-                        width, height);
+                        copied->widthPt(), copied->heightPt());
         picture.bytes.assign(svg.begin(), svg.end());
     }
     return picture;
+}
+
+std::vector<std::string> DoubleSuite::remarksOn(office::PasteAs as,
+                                                const std::vector<office::PasteItem>& items) {
+    std::vector<std::string> lines;
+    const auto remark = remarks_.find(as);
+    for (const office::PasteItem& item : items) {
+        if (remark != remarks_.end()) lines.push_back(item.name + ": " + remark->second);
+    }
+    return lines;
 }
 
 office::WindowHandle DoubleSuite::findWindow(std::string_view className, std::string_view caption) {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "office/suite.h"
 #include "office_double/excel/application.h"
@@ -48,6 +50,11 @@ public:
     Object start(std::string_view className) override;
     void clearClipboard() override;
     office::ClipboardPicture clipboardPicture(office::ClipboardPicture::Kind kind) override;
+    office::ClipboardPtr clipboard() override { return state_->clipboard; }
+    std::vector<std::string> remarksOn(office::PasteAs as,
+                                       const std::vector<office::PasteItem>& items) override;
+    /// What the suite says of each item that is to be pasted in this form.
+    void remarkOn(office::PasteAs as, std::string remark) { remarks_[as] = std::move(remark); }
     /// Presentations have windows with captions such as "Deck.pptx - PowerPoint" and the class
     /// "PPTFrameClass".
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;
@@ -67,6 +74,7 @@ private:
     int redraws_ = 0;
     office::WindowHandle raised_ = 0;
     office::WindowHandle locked_ = 0;
+    std::map<office::PasteAs, std::string> remarks_;
 };
 
 }  // namespace office_double

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <optional>
+#include <memory>
 
+#include "office/copied.h"
 #include "office/failure.h"
 #include "office/package/presentation/file_decks.h"
 #include "support/call_log.h"
@@ -14,12 +15,6 @@ using office::FailureNumber;
 using office::Object;
 using office::Value;
 
-/// A picture on the applications' clipboard; its size in points.
-struct CopiedPicture {
-    double width = 0;
-    double height = 0;
-};
-
 /// What all objects of one suite share. Each member that is used is recorded, and fails if it is
 /// planned to.
 struct SuiteState : office::package::PackageGuard {
@@ -28,7 +23,7 @@ struct SuiteState : office::package::PackageGuard {
 
     support::CallLog log;
     support::FailurePlan failures;
-    std::optional<CopiedPicture> clipboard;
+    office::ClipboardPtr clipboard = std::make_shared<office::Clipboard>();
 };
 
 }  // namespace office_double

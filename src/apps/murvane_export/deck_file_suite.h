@@ -18,6 +18,7 @@ public:
     office::ClipboardPicture clipboardPicture(office::ClipboardPicture::Kind kind) override {
         return below_.clipboardPicture(kind);
     }
+    office::ClipboardPtr clipboard() override { return below_.clipboard(); }
     office::WindowHandle findWindow(std::string_view, std::string_view) override { return 0; }
     bool raiseWindow(office::WindowHandle, int) override { return false; }
     bool lockDrawing(office::WindowHandle) override { return false; }

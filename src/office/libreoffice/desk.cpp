@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
-#include <type_traits>
 #include <utility>
 
 #include "office/failure.h"
@@ -57,10 +56,11 @@ uno::Reference<css::frame::XModel> modelOf(uno::Reference<uno::XInterface> compo
 
 }  // namespace
 
-Desk::Desk(std::shared_ptr<Connection> connection, bool hidden)
+Desk::Desk(std::shared_ptr<Connection> connection, bool hidden, office::ClipboardPtr clipboard)
     : connection_(std::move(connection)),
       guard_(std::make_shared<ConnectionGuard>(connection_)),
-      hidden_(hidden) {}
+      hidden_(hidden),
+      clipboard_(std::move(clipboard)) {}
 
 template <class Kind>
 std::shared_ptr<Kind> Desk::recordOf(const uno::Reference<css::frame::XModel>& model) {
@@ -68,12 +68,7 @@ std::shared_ptr<Kind> Desk::recordOf(const uno::Reference<css::frame::XModel>& m
     for (const auto& document : documents_) {
         if (document->model() == model) return std::dynamic_pointer_cast<Kind>(document);
     }
-    std::shared_ptr<Kind> record;
-    if constexpr (std::is_constructible_v<Kind, Desk&, decltype(model)>) {
-        record = std::make_shared<Kind>(*this, model);
-    } else {
-        record = std::make_shared<Kind>(model, connection_);
-    }
+    auto record = std::make_shared<Kind>(*this, model);
     documents_.push_back(record);
     return record;
 }

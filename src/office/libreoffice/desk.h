@@ -21,32 +21,20 @@ namespace powerpoint {
 class ImpressDeck;
 }
 
-/// A picture of a range as `Range.CopyPicture` takes it: the suite's own vector format, with the
-/// range's size.
-struct CopiedPicture : office::model::excel::Picture {
-    CopiedPicture(uno::Sequence<sal_Int8> bytes, std::int32_t width, std::int32_t height)
-        : metafile(std::move(bytes)),
-          widthHundredthMm(width),
-          heightHundredthMm(height) {}
-
-    uno::Sequence<sal_Int8> metafile;
-    std::int32_t widthHundredthMm;
-    std::int32_t heightHundredthMm;
-};
-
 /// What all objects of one suite share: the connection, the documents that have been met, and what
 /// automation keeps for an application and LibreOffice does not (calculation mode, window state,
 /// the picture copied last).
 class Desk {
 public:
     /// `hidden`: documents are opened without a window, as in a private suite that nobody looks at.
-    Desk(std::shared_ptr<Connection> connection, bool hidden);
+    Desk(std::shared_ptr<Connection> connection, bool hidden, office::ClipboardPtr clipboard);
 
     [[nodiscard]] Connection& connection() const { return *connection_; }
     [[nodiscard]] const std::shared_ptr<Connection>& connectionPtr() const { return connection_; }
     /// What the members of model objects run through.
     [[nodiscard]] const office::model::GuardPtr& guard() const { return guard_; }
     [[nodiscard]] bool opensHidden() const { return hidden_; }
+    [[nodiscard]] office::Clipboard& clipboard() const { return *clipboard_; }
 
     /// The record of an open document, made when it is met for the first time. It stays the same
     /// for the document's life, since it holds what automation remembers about it.
@@ -73,9 +61,6 @@ public:
                                             const std::string& password = {},
                                             bool readOnly = false);
 
-    /// What `Range.CopyPicture` copied last; `Chart.Paste` takes it.
-    std::shared_ptr<const CopiedPicture> copiedPicture;
-
     /// Makes picture files; null until the first one is asked for.
     std::shared_ptr<excel::PictureMaker> pictureMaker;
 
@@ -95,6 +80,7 @@ private:
     std::shared_ptr<Connection> connection_;
     office::model::GuardPtr guard_;
     bool hidden_;
+    office::ClipboardPtr clipboard_;
     std::vector<std::shared_ptr<Document>> documents_;
     WindowOrder windowsBefore_;
 };

@@ -2,8 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <fstream>
-#include <iterator>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -11,10 +9,9 @@
 #include "office/failure.h"
 #include "office/libreoffice/desk.h"
 #include "office/libreoffice/excel/application.h"
-#include "office/libreoffice/excel/picture_maker.h"
+#include "office/libreoffice/excel/copied.h"
 #include "office/libreoffice/guard.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
-#include "office/libreoffice/private_folder.h"
 #include "office/libreoffice/private_instance.h"
 #include "office/libreoffice/running_instance.h"
 #include "office/text.h"
@@ -25,18 +22,6 @@ namespace {
 
 /// What the core looks for behind a presentation's name in a window's caption.
 constexpr std::string_view captionEnd = " - PowerPoint";
-
-/// The suite writes pictures to files only: one in a folder that only this user can read, and gone
-/// again at once.
-std::vector<std::uint8_t> pngOfCopied(Desk& desk) {
-    const PrivateFolder folder;
-    const std::string file = folder.file("preview.png");
-    const CopiedPicture& copied = *desk.copiedPicture;
-    excel::pictureMaker(desk).writeMetafile(
-        copied.metafile, {copied.widthHundredthMm, copied.heightHundredthMm}, file);
-    std::ifstream png(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(png), {}};
-}
 
 /// The class of PowerPoint's windows in the version that the application object tells.
 constexpr std::string_view frameClass = "PPTFrameClass";
@@ -71,7 +56,7 @@ void LibreOfficeSuite::connect(std::shared_ptr<Connection> connection) {
         const std::lock_guard lock(connecting_);
         connection_ = std::move(connection);
     }
-    if (connection_) desk_ = std::make_shared<Desk>(connection_, instance_ != nullptr);
+    if (connection_) desk_ = std::make_shared<Desk>(connection_, instance_ != nullptr, clipboard_);
 }
 
 LibreOfficeSuite::~LibreOfficeSuite() {
@@ -118,7 +103,7 @@ office::Object LibreOfficeSuite::start(std::string_view className) {
 void LibreOfficeSuite::clearClipboard() {
     // Pictures travel by files and by the desk, never over the system's clipboard: the user's own
     // stays as it is.
-    if (desk_) desk_->copiedPicture.reset();
+    clipboard_->copied.reset();
 }
 
 template <class Statement>
@@ -133,15 +118,19 @@ auto LibreOfficeSuite::translated(const char* source, Statement&& statement) {
 office::ClipboardPicture LibreOfficeSuite::clipboardPicture(office::ClipboardPicture::Kind kind) {
     office::ClipboardPicture picture;
     picture.kind = kind;
-    if (!desk_ || !desk_->copiedPicture) return picture;
+    const office::CopiedPtr copied = clipboard_->copied;
+    if (!copied) return picture;
     if (kind == office::ClipboardPicture::Kind::Bitmap) {
         picture.mediaType = "image/png";
-        picture.bytes = translated("Suite.clipboardPicture", [&] { return pngOfCopied(*desk_); });
+        const std::string png = copied->png();
+        picture.bytes.assign(png.begin(), png.end());
         return picture;
     }
     picture.mediaType = "application/x-openoffice-gdimetafile";
-    const auto& metafile = desk_->copiedPicture->metafile;
-    picture.bytes.assign(metafile.begin(), metafile.end());
+    if (const auto* drawn = dynamic_cast<const excel::CopiedPicture*>(copied.get())) {
+        const auto& metafile = drawn->metafile();
+        picture.bytes.assign(metafile.begin(), metafile.end());
+    }
     return picture;
 }
 

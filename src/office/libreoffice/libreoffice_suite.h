@@ -54,6 +54,7 @@ public:
     office::Object start(std::string_view className) override;
     void clearClipboard() override;
     office::ClipboardPicture clipboardPicture(office::ClipboardPicture::Kind kind) override;
+    office::ClipboardPtr clipboard() override { return clipboard_; }
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;
     bool raiseWindow(office::WindowHandle window, int showCommand) override;
     bool lockDrawing(office::WindowHandle window) override;
@@ -84,6 +85,7 @@ private:
     /// Whether the user's suite has still to be looked for.
     bool seeksRunning_ = false;
     std::shared_ptr<Desk> desk_;
+    office::ClipboardPtr clipboard_ = std::make_shared<office::Clipboard>();
     std::vector<std::weak_ptr<powerpoint::ImpressDeck>> windows_;
     office::WindowHandle locked_ = 0;
 };

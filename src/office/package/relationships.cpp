@@ -102,6 +102,15 @@ std::string Relationships::add(std::string_view type, std::string_view part) {
     return added.id;
 }
 
+std::string Relationships::addExternal(std::string_view type, const std::string& address) {
+    const Relationship added{freeId(), fullType(type), address, true};
+    ids_.insert(added.id);
+    added_.insert(added.id);
+    places_.emplace(added.id, all_.size());
+    all_.push_back(added);
+    return added.id;
+}
+
 void Relationships::remove(std::string id) {
     const auto gone = [&](const Relationship& one) { return one.id == id; };
     const auto count = std::erase_if(all_, gone);
@@ -133,6 +142,7 @@ std::string Relationships::xml() const {
         node.append_attribute("Id").set_value(one.id.c_str());
         node.append_attribute("Type").set_value(one.type.c_str());
         node.append_attribute("Target").set_value(one.target.c_str());
+        if (one.isExternal) node.append_attribute("TargetMode").set_value("External");
     }
     return document.bytes();
 }

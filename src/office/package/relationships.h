@@ -38,6 +38,8 @@ public:
     /// The id of a relationship to a part; one of the same type and part that is there already is
     /// taken again. `type` as in `ofType`, written in its transitional form.
     std::string add(std::string_view type, std::string_view part);
+    /// The id of a new relationship to something outside of the package, by its address.
+    std::string addExternal(std::string_view type, const std::string& address);
     void remove(std::string id);
 
     [[nodiscard]] const std::string& source() const { return source_; }

@@ -76,9 +76,10 @@ protected:
     }
 
     support::TemporaryFolder folder;
-    Object app = powerPointOfFiles([](const std::string&, const model::Font&, auto) {
-        return model::Size{100, 20};
-    });
+    Object app = powerPointOfFiles({[](const std::string&, const model::Font&, auto) {
+                                        return model::Size{100, 20};
+                                    },
+                                    {}});
 
 private:
     std::string freshFile(const std::string& ending) {

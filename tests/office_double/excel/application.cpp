@@ -71,18 +71,9 @@ excel::BookPtr ExcelApplication::load(const std::string& file, const std::string
     return book.shared_from_this();
 }
 
-excel::PicturePtr ExcelApplication::copied() {
-    return state_->clipboard ? std::make_shared<SizedPicture>(*state_->clipboard) : nullptr;
-}
-
-void ExcelApplication::setCopied(excel::PicturePtr picture) {
-    state_->clipboard = dynamic_cast<const SizedPicture&>(*picture).size;
-}
-
-void ExcelApplication::writePicture(const excel::PicturePtr& picture, const excel::Box& area,
+void ExcelApplication::writePicture(const office::CopiedPtr& picture, const excel::Box& area,
                                     const std::string& path) {
-    const auto* sized = dynamic_cast<const SizedPicture*>(picture.get());
-    writePng(sized == nullptr ? CopiedPicture{area.width, area.height} : sized->size, path);
+    writePng(picture ? excel::Box{0, 0, picture->widthPt(), picture->heightPt()} : area, path);
 }
 
 }  // namespace office_double

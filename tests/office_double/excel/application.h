@@ -46,9 +46,8 @@ public:
     office::Value askForFile(const std::string&, const std::string&) override {
         return openPromptAnswer_;
     }
-    excel::PicturePtr copied() override;
-    void setCopied(excel::PicturePtr picture) override;
-    void writePicture(const excel::PicturePtr& picture, const excel::Box& area,
+    office::Clipboard& clipboard() override { return *state_->clipboard; }
+    void writePicture(const office::CopiedPtr& picture, const excel::Box& area,
                       const std::string& path) override;
 
 private:

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "office/model/excel/objects.h"
 #include "office_double/suite_state.h"
@@ -11,15 +12,33 @@ namespace office_double {
 
 namespace excel = office::model::excel;
 
-/// A picture in memory has a size and nothing else, in points.
-struct SizedPicture : excel::Picture {
-    explicit SizedPicture(const CopiedPicture& s) : size(s) {}
-    CopiedPicture size;
+/// What is copied in memory has a size, in points, and the texts of its cells.
+class CopiedThing : public office::Copied {
+public:
+    CopiedThing(office::CopySource source, const excel::Box& box, office::TableLook table = {})
+        : Copied(std::move(source)),
+          box_(box),
+          table_(std::move(table)) {}
+
+    [[nodiscard]] double widthPt() const override { return box_.width; }
+    [[nodiscard]] double heightPt() const override { return box_.height; }
+    [[nodiscard]] std::string png() const override {
+        const auto bytes = support::pngPictureOfPoints(box_.width, box_.height);
+        return {bytes.begin(), bytes.end()};
+    }
+    [[nodiscard]] office::TableLook table() const override {
+        if (table_.cells.empty()) excel::refuse("Range.Copy", "These are no cells");
+        return table_;
+    }
+
+private:
+    excel::Box box_;
+    office::TableLook table_;
 };
 
-inline void writePng(const CopiedPicture& size, const std::string& path) {
+inline void writePng(const excel::Box& box, const std::string& path) {
     try {
-        support::writeBytes(path, support::pngPictureOfPoints(size.width, size.height));
+        support::writeBytes(path, support::pngPictureOfPoints(box.width, box.height));
     } catch (const office::Failure&) {
         throw;
     } catch (const std::runtime_error& error) {

@@ -50,8 +50,20 @@ public:
     std::vector<std::pair<std::int32_t, std::int32_t>> filledRows() override {
         return sheet_.store().filledRows(block_);
     }
-    excel::PicturePtr picture() override {
-        return std::make_shared<SizedPicture>(CopiedPicture{place().width, place().height});
+    office::CopiedPtr copy(office::CopySource source) override {
+        office::TableLook table;
+        const office::Table values = read();
+        if (source.kind == office::CopySource::Kind::Cells) {
+            table.columnWidthsPt.assign(values.columns(), Worksheet::columnWidth);
+            table.rowHeightsPt.assign(values.rows(), Worksheet::rowHeight);
+            for (std::size_t row = 1; row <= values.rows(); ++row) {
+                for (std::size_t column = 1; column <= values.columns(); ++column) {
+                    table.cells.emplace_back();
+                    table.cells.back().text = values.at(row, column).toText();
+                }
+            }
+        }
+        return std::make_shared<CopiedThing>(std::move(source), place(), std::move(table));
     }
 
 private:
@@ -143,15 +155,15 @@ void Sheet::activate() {
     book_.activateSheet(name_);
 }
 
-excel::PicturePtr PlacedChart::picture() {
-    return std::make_shared<SizedPicture>(CopiedPicture{box_.width, box_.height});
+office::CopiedPtr PlacedChart::copy(office::CopySource source) {
+    return std::make_shared<CopiedThing>(std::move(source), box_);
 }
 
 void PlacedChart::writePicture(const std::string& path) {
-    writePng({box_.width, box_.height}, path);
+    writePng(box_, path);
 }
 
-void PlacedChart::paste(const excel::PicturePtr&) {
+void PlacedChart::paste(const office::CopiedPtr&) {
     excel::refuse("Chart.Paste", "This chart has data of its own");
 }
 

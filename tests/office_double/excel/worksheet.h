@@ -84,9 +84,9 @@ public:
     [[nodiscard]] bool isGone() const override { return removed_; }
     std::string name() override { return name_; }
     excel::Box box() override { return box_; }
-    excel::PicturePtr picture() override;
+    office::CopiedPtr copy(office::CopySource source) override;
     void writePicture(const std::string& path) override;
-    void paste(const excel::PicturePtr& picture) override;
+    void paste(const office::CopiedPtr& picture) override;
     void select() override;
     void remove() override;
 

@@ -85,8 +85,8 @@ public:
 private:
     package::FileDeckPtr makeDeck(package::Package content, const std::string& path,
                                   const std::string& name,
-                                  const package::MeasureText& measure) override {
-        return std::make_shared<Presentation>(state_, std::move(content), path, name, measure);
+                                  const package::FileRulesPtr& rules) override {
+        return std::make_shared<Presentation>(state_, std::move(content), path, name, rules);
     }
 
     std::shared_ptr<SuiteState> state_;

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/copied.h"
 #include "office/libreoffice/excel/picture_maker.h"
 #include "office/libreoffice/units.h"
 #include "office/model/excel/objects.h"
@@ -40,11 +41,8 @@ public:
     /// By LibreOffice's own dialog; false where nobody is there to be asked.
     office::Value askForFile(const std::string& filter, const std::string& title) override;
 
-    model::PicturePtr copied() override { return desk_->copiedPicture; }
-    void setCopied(model::PicturePtr picture) override {
-        desk_->copiedPicture = std::dynamic_pointer_cast<const CopiedPicture>(picture);
-    }
-    void writePicture(const model::PicturePtr& picture, const model::Box& area,
+    office::Clipboard& clipboard() override { return desk_->clipboard(); }
+    void writePicture(const office::CopiedPtr& picture, const model::Box& area,
                       const std::string& path) override;
 
 private:
@@ -133,15 +131,16 @@ office::Value CalcBooks::askForFile(const std::string& filter, const std::string
     return pathOfUrl(files[0]);
 }
 
-void CalcBooks::writePicture(const model::PicturePtr& picture, const model::Box& area,
+void CalcBooks::writePicture(const office::CopiedPtr& picture, const model::Box& area,
                              const std::string& path) {
     const auto* copied = dynamic_cast<const CopiedPicture*>(picture.get());
-    if (copied == nullptr) {
+    if (copied != nullptr) {
+        pictureMaker(*desk_).writeMetafile(copied->metafile(), copied->size(), path);
+    } else if (!picture) {
         pictureMaker(*desk_).writeMetafile(
             {}, {hundredthMmOf(area.width), hundredthMmOf(area.height)}, path);
     } else {
-        pictureMaker(*desk_).writeMetafile(
-            copied->metafile, {copied->widthHundredthMm, copied->heightHundredthMm}, path);
+        model::refuse("Chart.Export", "The chart holds something else than a picture");
     }
 }
 

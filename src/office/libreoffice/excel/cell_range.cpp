@@ -12,6 +12,7 @@
 
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/cell_values.h"
+#include "office/libreoffice/excel/copied.h"
 #include "office/libreoffice/excel/range_picture.h"
 #include "office/libreoffice/units.h"
 
@@ -102,8 +103,12 @@ std::vector<std::pair<std::int32_t, std::int32_t>> CellRange::filledRows() {
     return joined;
 }
 
-model::PicturePtr CellRange::picture() {
-    return takePictureOfCells(*sheet_, range(), block_);
+office::CopiedPtr CellRange::copy(office::CopySource source) {
+    if (source.kind == office::CopySource::Kind::Cells)
+        return std::make_shared<CopiedCells>(sheet_, std::move(source), range(), block_);
+    CellsPicture picture = takePictureOfCells(*sheet_, range(), block_);
+    return std::make_shared<CopiedPicture>(sheet_->book().desk(), std::move(source),
+                                           std::move(picture.metafile), picture.size);
 }
 
 }  // namespace libreoffice::excel

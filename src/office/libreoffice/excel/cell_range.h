@@ -29,7 +29,7 @@ public:
     bool areHidden(model::Lines lines) override;
     void hide(model::Lines lines, bool hidden) override;
     std::vector<std::pair<std::int32_t, std::int32_t>> filledRows() override;
-    model::PicturePtr picture() override;
+    office::CopiedPtr copy(office::CopySource source) override;
 
 private:
     [[nodiscard]] const uno::Reference<css::table::XCellRange>& range();

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/copied.h"
 #include "office/libreoffice/excel/picture_maker.h"
 #include "office/libreoffice/units.h"
 #include "office/model/excel/objects.h"
@@ -72,17 +73,20 @@ model::Box ChartShape::box() {
     return {pointsOf(corner.X), pointsOf(corner.Y), pointsOf(size.Width), pointsOf(size.Height)};
 }
 
-model::PicturePtr ChartShape::picture() {
+office::CopiedPtr ChartShape::copy(office::CopySource source) {
+    if (source.kind == office::CopySource::Kind::Chart)
+        return std::make_shared<CopiedChart>(book_, std::move(source), shape_);
     const css::awt::Size size = shape_->getSize();
-    return std::make_shared<CopiedPicture>(pictureMaker(book_.desk()).metafileOf(shape_),
-                                           size.Width, size.Height);
+    return std::make_shared<CopiedPicture>(book_.desk(), std::move(source),
+                                           pictureMaker(book_.desk()).metafileOf(shape_),
+                                           PictureSize{size.Width, size.Height});
 }
 
 void ChartShape::writePicture(const std::string& path) {
     pictureMaker(book_.desk()).writeChart(shape_, path);
 }
 
-void ChartShape::paste(const model::PicturePtr&) {
+void ChartShape::paste(const office::CopiedPtr&) {
     model::refuse("Chart.Paste", "This chart has data of its own");
 }
 

@@ -33,9 +33,9 @@ public:
     [[nodiscard]] bool isGone() const override { return false; }
     std::string name() override;
     office::model::excel::Box box() override;
-    office::model::excel::PicturePtr picture() override;
+    office::CopiedPtr copy(office::CopySource source) override;
     void writePicture(const std::string& path) override;
-    void paste(const office::model::excel::PicturePtr& picture) override;
+    void paste(const office::CopiedPtr& picture) override;
     /// LibreOffice selects the frame; the chart is not opened for editing, which would take the
     /// keyboard from the user.
     void select() override;

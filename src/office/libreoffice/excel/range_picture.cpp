@@ -11,7 +11,6 @@
 
 #include "office/failure.h"
 #include "office/libreoffice/excel/calc_document.h"
-#include "office/libreoffice/excel/picture_maker.h"
 
 namespace libreoffice::excel {
 
@@ -104,9 +103,9 @@ bool differs(const PictureSize& picture, const css::awt::Size& cells) {
 
 }  // namespace
 
-model::PicturePtr takePictureOfCells(SheetRecord& sheet,
-                                     const uno::Reference<css::table::XCellRange>& cells,
-                                     const model::CellBlock& block) {
+CellsPicture takePictureOfCells(SheetRecord& sheet,
+                                const uno::Reference<css::table::XCellRange>& cells,
+                                const model::CellBlock& block) {
     CalcDocument& book = sheet.book();
     if (!book.controller().is()) fail("The workbook has no window to copy from");
     const ShownForNow shown(sheet);
@@ -120,7 +119,7 @@ model::PicturePtr takePictureOfCells(SheetRecord& sheet,
     if (!metafile.hasElements() || size.Width <= 0 || size.Height <= 0) {
         fail("There is nothing to take a picture of");
     }
-    return std::make_shared<CopiedPicture>(metafile, size.Width, size.Height);
+    return {metafile, {size.Width, size.Height}};
 }
 
 }  // namespace libreoffice::excel

@@ -53,10 +53,9 @@ css::awt::Size sizeOf(const uno::Reference<css::beans::XPropertySet>& page) {
 
 }  // namespace
 
-ImpressDeck::ImpressDeck(uno::Reference<css::frame::XModel> opened,
-                         std::shared_ptr<Connection> connection)
+ImpressDeck::ImpressDeck(Desk& desk, uno::Reference<css::frame::XModel> opened)
     : Document(std::move(opened)),
-      connection_(std::move(connection)),
+      desk_(desk),
       pages_(as<css::drawing::XDrawPagesSupplier>(model())->getDrawPages()),
       factory_(as<css::lang::XMultiServiceFactory>(model())),
       window_(*this),
@@ -111,7 +110,7 @@ uno::Reference<css::graphic::XGraphic> ImpressDeck::loadPicture(const std::strin
                       fmt::format("There is no file \"{}\"", file));
     if (!pictures_.is())
         pictures_ = as<css::graphic::XGraphicProvider>(
-            connection_->create("com.sun.star.graphic.GraphicProvider"));
+            connection().create("com.sun.star.graphic.GraphicProvider"));
     auto picture = pictures_->queryGraphic(propertyValues({{"URL", uno::Any(fileUrl(file))}}));
     if (!picture.is())
         throw Failure(FailureNumber::ApplicationDefined, "Shapes.AddPicture",
@@ -160,7 +159,7 @@ model::DeckSlidePtr ImpressDeck::addSlide(std::int32_t place, std::int32_t layou
         newSlides_ = {.first = insertPage(place), .count = 1, .layout = layout, .callsBefore = 0};
         layouts_.apply(*newSlides_.first, layout);
     }
-    newSlides_.callsBefore = connection_->remoteCalls();
+    newSlides_.callsBefore = connection().remoteCalls();
     return newSlides_.first;
 }
 
@@ -170,7 +169,7 @@ bool ImpressDeck::wouldComeBeforeNewSlides(std::int32_t place, std::int32_t layo
     // be got by a call.
     constexpr long ownHolders = 2;
     return newSlides_.first && newSlides_.layout == layout &&
-           connection_->remoteCalls() == newSlides_.callsBefore &&
+           connection().remoteCalls() == newSlides_.callsBefore &&
            newSlides_.first.use_count() == ownHolders && newSlides_.first->place() == place;
 }
 

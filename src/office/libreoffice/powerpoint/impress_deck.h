@@ -24,9 +24,10 @@ namespace libreoffice::powerpoint {
 /// been met.
 class ImpressDeck : public Document, public model::Deck {
 public:
-    ImpressDeck(uno::Reference<css::frame::XModel> opened, std::shared_ptr<Connection> connection);
+    ImpressDeck(Desk& desk, uno::Reference<css::frame::XModel> opened);
 
-    [[nodiscard]] Connection& connection() const { return *connection_; }
+    [[nodiscard]] Desk& desk() const { return desk_; }
+    [[nodiscard]] Connection& connection() const { return desk_.connection(); }
     [[nodiscard]] ImpressWindow& impressWindow() { return window_; }
     [[nodiscard]] SlideLayouts& layouts() { return layouts_; }
 
@@ -56,6 +57,7 @@ public:
     model::DeckSlidePtr slideAt(std::int32_t place) override;
     model::DeckSlidePtr addSlide(std::int32_t place, std::int32_t layout) override;
     model::DeckWindow& window() override { return window_; }
+    office::CopiedPtr copied() override { return desk_.clipboard().copied; }
     void activate() override;
     bool showsSlides() override;
     void endSlideShow() override;
@@ -80,7 +82,7 @@ private:
     [[nodiscard]] ImpressSlidePtr held(const uno::Reference<css::drawing::XDrawPage>& page);
     [[nodiscard]] ImpressSlidePtr insertPage(std::int32_t place);
 
-    std::shared_ptr<Connection> connection_;
+    Desk& desk_;
     uno::Reference<css::drawing::XDrawPages> pages_;
     uno::Reference<css::lang::XMultiServiceFactory> factory_;
     uno::Reference<css::graphic::XGraphicProvider> pictures_;

@@ -44,6 +44,7 @@ public:
     model::DeckShapePtr titleShape() override { return title(); }
     model::DeckShapePtr addPicture(const std::string& file, const model::Point& corner) override;
     model::DeckShapePtr addLabel(const model::Point& corner, const model::Size& size) override;
+    model::DeckShapePtr paste(const office::Copied& copied, office::PasteAs as) override;
     void remove() override;
 
 private:

@@ -39,11 +39,9 @@ public:
     /// Asks the user for a file. A filter is "What it shows,*.pattern". The path, or false.
     virtual Value askForFile(const std::string& filter, const std::string& title) = 0;
 
-    /// The picture copied last; null if there is none.
-    virtual PicturePtr copied() = 0;
-    virtual void setCopied(PicturePtr picture) = 0;
+    virtual Clipboard& clipboard() = 0;
     /// Writes a picture as `SheetChart::writePicture` does; none gives a white area.
-    virtual void writePicture(const PicturePtr& picture, const Box& area,
+    virtual void writePicture(const CopiedPtr& picture, const Box& area,
                               const std::string& path) = 0;
 };
 

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "office/copied.h"
 #include "office/model/excel/cell_block.h"
 #include "office/value.h"
 
@@ -19,17 +20,6 @@ struct Box {
     double width = 0;
     double height = 0;
 };
-
-/// A picture that was copied. What it is made of is known below only.
-class Picture {
-public:
-    Picture() = default;
-    Picture(const Picture&) = delete;
-    Picture& operator=(const Picture&) = delete;
-    virtual ~Picture() = default;
-};
-
-using PicturePtr = std::shared_ptr<const Picture>;
 
 enum class Lines { Rows, Columns };
 
@@ -60,8 +50,9 @@ public:
     /// First and last places of the rows of the block that are filled, in stretches.
     virtual std::vector<std::pair<std::int32_t, std::int32_t>> filledRows() = 0;
 
-    /// As they look on the screen. `Failure` 1004 if there is nothing to take a picture of.
-    virtual PicturePtr picture() = 0;
+    /// The cells, or a picture of them as they look on the screen, which is taken now. `Failure`
+    /// 1004 if there is nothing to take a picture of.
+    virtual CopiedPtr copy(CopySource source) = 0;
 };
 
 using CellsPtr = std::shared_ptr<Cells>;

@@ -19,18 +19,18 @@ public:
     [[nodiscard]] bool isOnSheet() const override { return false; }
     std::string name() override { return "Picture"; }
     Box box() override { return box_; }
-    PicturePtr picture() override { return picture_; }
+    CopiedPtr copy(CopySource) override { return picture_; }
     void writePicture(const std::string& path) override {
         books_->writePicture(picture_, box_, path);
     }
-    void paste(const PicturePtr& picture) override { picture_ = picture; }
+    void paste(const CopiedPtr& picture) override { picture_ = picture; }
     void select() override {}
     void remove() override { removed_ = true; }
 
 private:
     BooksPtr books_;
     Box box_;
-    PicturePtr picture_;
+    CopiedPtr picture_;
     bool removed_ = false;
 };
 
@@ -50,7 +50,8 @@ public:
         if (chart_->isOnSheet()) activateSheet(this->home(), arguments.source());
         chart_->select();
     }
-    void copyPicture() { this->books().setCopied(chart_->picture()); }
+    void copy() { copyAs(CopySource::Kind::Chart); }
+    void copyPicture() { copyAs(CopySource::Kind::Picture); }
 
 protected:
     void requireAlive(std::string_view member) const override {
@@ -59,6 +60,12 @@ protected:
     }
 
 private:
+    void copyAs(CopySource::Kind kind) {
+        CopySource source = sourceOf(this->home(), kind);
+        source.chart = chart_->name();
+        this->books().clipboard().copied = chart_->copy(std::move(source));
+    }
+
     SheetChartPtr chart_;
 };
 
@@ -97,7 +104,7 @@ public:
                 .property("Height", [](Self& self) { return self.chart().box().height; })
                 .method("Activate", {}, &Self::select)
                 .method("Select", {"Replace"}, &Self::select)
-                .method("Copy", {}, &Self::copyPicture)
+                .method("Copy", {}, &Self::copy)
                 .method("CopyPicture", {"Appearance", "Format"}, &Self::copyPicture)
                 .method("Delete", {}, [](Self& self, const CallArguments& arguments) {
                     if (self.chart().isOnSheet()) requireThere(self.home(), arguments.source());
@@ -144,7 +151,7 @@ public:
                 .method("CopyPicture", {"Appearance", "Format", "Size"}, &Self::copyPicture)
                 .method("Paste", {"Type"},
                         [](Self& self, const CallArguments& arguments) {
-                            const PicturePtr copied = self.books().copied();
+                            const CopiedPtr copied = self.books().clipboard().copied;
                             if (!copied) refuse(arguments.source(), "No picture has been copied");
                             self.chart().paste(copied);
                         })
@@ -167,11 +174,17 @@ public:
             MemberTable<Self>("ChartArea")
                 .property("Parent", [](Self& self) { return self.parent(); })
                 .method("Select", {}, [](Self& self) { self.parent().call("Select"); })
-                .method("Copy", {}, [](Self& self) { self.parent().call("CopyPicture"); });
+                .method("Copy", {}, &Self::copy);
         return table;
     }
 
 private:
+    void copy() {
+        CopySource source = sourceOf(home(), CopySource::Kind::Chart);
+        if (chart_) source.chart = chart_->name();
+        const SheetChartPtr chart = chart_ ? chart_ : sheet().ownChart();
+        books().clipboard().copied = chart->copy(std::move(source));
+    }
     [[nodiscard]] Object parent() const {
         return chart_ ? chartObject(home(), chart_) : sheetObject(home(), home().sheet);
     }
@@ -233,6 +246,16 @@ Object chartObject(const InSheet& home, const SheetChartPtr& chart) {
 
 Object chartAreaObject(const InSheet& home, const SheetChartPtr& chart) {
     return makeObject<ChartArea>(home, chart);
+}
+
+CopySource sourceOf(const InSheet& home, CopySource::Kind kind) {
+    const std::string file = home.book->fullName();
+    // A workbook that was never saved has a name and no path.
+    return {.kind = kind,
+            .file = file == home.book->name() ? std::string() : file,
+            .sheet = home.sheet->name(),
+            .chart = {},
+            .address = {}};
 }
 
 std::string exportPath(const CallArguments& arguments) {

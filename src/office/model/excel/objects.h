@@ -75,6 +75,8 @@ void activateSheet(const InSheet& home, const std::string& source);
 [[nodiscard]] Object chartObject(const InSheet& home, const SheetChartPtr& chart);
 /// The area of a chart, or of a chart sheet for no chart.
 [[nodiscard]] Object chartAreaObject(const InSheet& home, const SheetChartPtr& chart);
+/// Where a sheet's things are copied from, with the chart or the cells left open.
+[[nodiscard]] CopySource sourceOf(const InSheet& home, CopySource::Kind kind);
 /// The file that an `Export` asks for. `Failure` 5 for a format other than PNG.
 [[nodiscard]] std::string exportPath(const CallArguments& arguments);
 

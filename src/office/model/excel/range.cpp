@@ -75,7 +75,7 @@ private:
     Object end(const CallArguments& arguments);
     void setHidden(const Value& hidden);
     void select(const CallArguments& arguments);
-    void copyPicture(const CallArguments& arguments);
+    void copyAs(CopySource::Kind kind, const std::string& source);
 
     CellBlocks blocks_;
     RangeUnit unit_;
@@ -121,8 +121,14 @@ const MemberTable<Range>& Range::members() {
                         self.change(arguments.source(), [](Cells& cells) { cells.clear(); });
                     })
             .method("Select", {}, &Self::select)
-            .method("Copy", {}, &Self::copyPicture)
-            .method("CopyPicture", {"Appearance", "Format"}, &Self::copyPicture);
+            .method("Copy", {},
+                    [](Self& self, const CallArguments& arguments) {
+                        self.copyAs(CopySource::Kind::Cells, arguments.source());
+                    })
+            .method("CopyPicture", {"Appearance", "Format"},
+                    [](Self& self, const CallArguments& arguments) {
+                        self.copyAs(CopySource::Kind::Picture, arguments.source());
+                    });
     return table;
 }
 
@@ -245,15 +251,17 @@ void Range::select(const CallArguments& arguments) {
     sheet().select(blocks_);
 }
 
-/// A copy is taken for its picture: what else can be made of cells goes another way than through
-/// this object. Whole rows and columns end with the used part of the sheet.
-void Range::copyPicture(const CallArguments& arguments) {
-    if (blocks_.size() > 1) refuse(arguments.source(), "This can't be done with several areas");
-    if (!first().spansAllRows() && !first().spansAllColumns())
-        return books().setCopied(cells().picture());
-    const auto used = intersection(first(), sheet().used());
-    if (!used) refuse(arguments.source(), "There is nothing in these rows or columns");
-    books().setCopied(sheet().cells(*used)->picture());
+/// Whole rows and columns end with the used part of the sheet.
+void Range::copyAs(CopySource::Kind kind, const std::string& source) {
+    if (blocks_.size() > 1) refuse(source, "This can't be done with several areas");
+    std::optional<CellBlock> block = first();
+    if (block->spansAllRows() || block->spansAllColumns())
+        block = intersection(*block, sheet().used());
+    if (!block) refuse(source, "There is nothing in these rows or columns");
+    CopySource from = sourceOf(home(), kind);
+    from.address = addressOf(*block);
+    const CellsPtr copied = *block == first() ? nullptr : sheet().cells(*block);
+    books().clipboard().copied = (copied ? *copied : cells()).copy(std::move(from));
 }
 
 [[noreturn]] void noSuchRange(const std::string& source, const Value& wanted,

@@ -19,12 +19,13 @@ public:
     [[nodiscard]] virtual bool isOnSheet() const { return true; }
     virtual std::string name() = 0;
     virtual Box box() = 0;
-    virtual PicturePtr picture() = 0;
+    /// The chart, or a picture of it as it looks now.
+    virtual CopiedPtr copy(CopySource source) = 0;
     /// Writes a PNG file with 288 dots to the inch and its true size. `Failure` 1004 if it can't be
     /// written; then there is no file of that name.
     virtual void writePicture(const std::string& path) = 0;
     /// Takes a picture in. `Failure` 1004 from a chart that has data of its own.
-    virtual void paste(const PicturePtr& picture) = 0;
+    virtual void paste(const CopiedPtr& picture) = 0;
     /// Selects it on its sheet, which is the one on top.
     virtual void select() = 0;
     virtual void remove() = 0;

@@ -159,7 +159,8 @@ public:
                             self.sheet().ownChart()->writePicture(path);
                         })
                 .method("CopyPicture", {"Appearance", "Format", "Size"}, [](Self& self) {
-                    self.books().setCopied(self.sheet().ownChart()->picture());
+                    self.books().clipboard().copied = self.sheet().ownChart()->copy(
+                        sourceOf(self.home(), CopySource::Kind::Picture));
                 });
         return table;
     }

@@ -4,6 +4,8 @@
 
 #include "office/model/item_index.h"
 #include "office/model/powerpoint/objects.h"
+#include "office/model/powerpoint/paste.h"
+#include "office/text.h"
 
 namespace office::model::powerpoint {
 
@@ -80,6 +82,32 @@ public:
     }
 };
 
+/// The ribbon, as far as its commands are run by name. What it does has been done when it returns.
+class CommandBars : public ApplicationObject<CommandBars> {
+public:
+    using ApplicationObject::ApplicationObject;
+
+    static const MemberTable<CommandBars>& members() {
+        static const auto table = MemberTable<CommandBars>("CommandBars")
+                                      .method("ExecuteMso", {"idMso"}, &CommandBars::execute)
+                                      .method("ReleaseFocus", {}, [](CommandBars&) {});
+        return table;
+    }
+
+private:
+    void execute(const CallArguments& arguments) {
+        const std::string& source = arguments.source();
+        const std::string command = arguments.at(0).toText();
+        if (!sameIgnoringCase(command, "PasteSourceFormatting"))
+            throw Failure(FailureNumber::InvalidProcedureCall, source,
+                          fmt::format("There is no command \"{}\" here", command));
+        const DeckPtr deck = decks().active();
+        const DeckSlidePtr slide = deck ? deck->window().slideInView() : nullptr;
+        if (!slide) refuse(source, "No slide is in view");
+        static_cast<void>(pasteDefault(*deck, *slide, source));
+    }
+};
+
 class Application : public ApplicationObject<Application> {
 public:
     using ApplicationObject::ApplicationObject;
@@ -107,8 +135,12 @@ const MemberTable<Application>& Application::members() {
                       })
             .property("Windows",
                       [](Self& self) { return windowsObject(self.guard(), self.decks().open()); })
-            .property("SlideShowWindows", [](Self& self) {
-                return makeObject<SlideShowWindows>(self.guard(), self.decksPtr());
+            .property("SlideShowWindows",
+                      [](Self& self) {
+                          return makeObject<SlideShowWindows>(self.guard(), self.decksPtr());
+                      })
+            .property("CommandBars", [](Self& self) {
+                return makeObject<CommandBars>(self.guard(), self.decksPtr());
             });
     return table;
 }

@@ -27,6 +27,8 @@ public:
     virtual DeckSlidePtr addSlide(std::int32_t place, std::int32_t layout) = 0;
 
     virtual DeckWindow& window() = 0;
+    /// What a paste finds; null if nothing was copied.
+    virtual CopiedPtr copied() = 0;
     /// Makes it the active presentation and gives its window the foreground.
     virtual void activate() = 0;
     virtual bool showsSlides() = 0;

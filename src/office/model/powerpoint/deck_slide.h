@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "office/copied.h"
 #include "office/model/powerpoint/deck_shape.h"
 
 namespace office::model::powerpoint {
@@ -39,6 +40,9 @@ public:
     virtual DeckShapePtr addPicture(const std::string& file, const Point& corner) = 0;
     /// The same with an empty label, which grows with its text.
     virtual DeckShapePtr addLabel(const Point& corner, const Size& size) = 0;
+    /// Puts what was copied on top of the others, as `pastePlaceFor` has it. `Failure` 1004 if it
+    /// can't be had in this form; then nothing is put there.
+    virtual DeckShapePtr paste(const Copied& copied, PasteAs as) = 0;
 
     virtual void remove() = 0;
 };

@@ -6,6 +6,7 @@
 
 #include "office/model/item_index.h"
 #include "office/model/powerpoint/objects.h"
+#include "office/model/powerpoint/paste.h"
 
 namespace office::model::powerpoint {
 
@@ -183,7 +184,13 @@ const MemberTable<Shapes>& Shapes::members() {
                 "AddPicture",
                 {"FileName", "LinkToFile", "SaveWithDocument", "Left", "Top", "Width", "Height"},
                 &Self::addPicture)
-            .method("AddLabel", {"Orientation", "Left", "Top", "Width", "Height"}, &Self::addLabel);
+            .method("AddLabel", {"Orientation", "Left", "Top", "Width", "Height"}, &Self::addLabel)
+            .method("PasteSpecial",
+                    {"DataType", "DisplayAsIcon", "IconFileName", "IconIndex", "IconLabel", "Link"},
+                    [](Self& self, const CallArguments& arguments) {
+                        return shapeRangeObject(
+                            self.home(), {pasteSpecial(self.deck(), self.slide_, arguments)});
+                    });
     return table;
 }
 

@@ -2,6 +2,7 @@
 
 #include "office/model/item_index.h"
 #include "office/model/powerpoint/objects.h"
+#include "office/model/powerpoint/paste.h"
 
 namespace office::model::powerpoint {
 
@@ -26,10 +27,18 @@ public:
                               return slideObject(self.home(),
                                                  slideInView(self.deck(), arguments.source()));
                           })
-                .method("GotoSlide", {"Index"}, [](Self& self, const CallArguments& arguments) {
-                    self.deck().window().show(
-                        requiredSlide(self.deck(), arguments.at(0), arguments.source()));
-                });
+                .method("GotoSlide", {"Index"},
+                        [](Self& self, const CallArguments& arguments) {
+                            self.deck().window().show(
+                                requiredSlide(self.deck(), arguments.at(0), arguments.source()));
+                        })
+                .method(
+                    "PasteSpecial",
+                    {"DataType", "DisplayAsIcon", "IconFileName", "IconIndex", "IconLabel", "Link"},
+                    [](Self& self, const CallArguments& arguments) {
+                        static_cast<void>(pasteSpecial(
+                            self.deck(), *slideInView(self.deck(), arguments.source()), arguments));
+                    });
         return table;
     }
 };

@@ -23,14 +23,16 @@ DeckFacts factsOf(const std::filesystem::path& file) {
         .hasMacros = has(main, macroProject)};
     if (facts.isStrict) return facts;
     // What is wrong with its slides, layouts and masters shows in a deck that is then dropped.
-    const auto deck = std::make_shared<FileDeck>(std::move(package), "", "", MeasureText());
+    const auto deck =
+        std::make_shared<FileDeck>(std::move(package), "", "", std::make_shared<FileRules>());
     static_cast<void>(deck->addSlide(1, model::layout::titleOnly));
     return facts;
 }
 
-Object powerPointOfFiles(MeasureText measure) {
-    return model::applicationObject(std::make_shared<PackageGuard>(),
-                                    std::make_shared<FileDecks>(std::move(measure)));
+Object powerPointOfFiles(FileRules rules) {
+    return model::applicationObject(
+        std::make_shared<PackageGuard>(),
+        std::make_shared<FileDecks>(std::make_shared<const FileRules>(std::move(rules))));
 }
 
 }  // namespace office::package

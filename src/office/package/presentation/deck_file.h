@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -32,7 +33,15 @@ struct DeckFacts {
 using MeasureText = std::function<model::Size(const std::string& words, const model::Font& font,
                                               std::optional<double> widthPt)>;
 
+/// What a PowerPoint of files works with.
+struct FileRules {
+    MeasureText measure;
+    /// Where Excel leaves what was copied; none for a PowerPoint that nothing is pasted into.
+    ClipboardPtr clipboard;
+};
+using FileRulesPtr = std::shared_ptr<const FileRules>;
+
 /// A running PowerPoint that opens files and shows nothing.
-[[nodiscard]] Object powerPointOfFiles(MeasureText measure);
+[[nodiscard]] Object powerPointOfFiles(FileRules rules);
 
 }  // namespace office::package

@@ -101,11 +101,11 @@ std::string presentationPartOf(Package& package) {
     return part;
 }
 
-FileDeck::FileDeck(Package package, std::string path, std::string name, MeasureText measure)
+FileDeck::FileDeck(Package package, std::string path, std::string name, FileRulesPtr rules)
     : package_(std::move(package)),
       path_(std::move(path)),
       name_(std::move(name)),
-      measure_(std::move(measure)),
+      rules_(std::move(rules)),
       main_(presentationPartOf(package_)),
       presentation_(package_.read(main_), main_),
       layouts_(package_) {

@@ -21,10 +21,11 @@ class FileDeck : public model::Deck,
 public:
     /// `path` is empty for a deck that has no file yet. `PackageError` if the package is damaged or
     /// no presentation.
-    FileDeck(Package package, std::string path, std::string name, MeasureText measure);
+    FileDeck(Package package, std::string path, std::string name, FileRulesPtr rules);
 
     [[nodiscard]] Package& package() { return package_; }
-    [[nodiscard]] const MeasureText& measure() const { return measure_; }
+    [[nodiscard]] const FileRules& rules() const { return *rules_; }
+    [[nodiscard]] const MeasureText& measure() const { return rules_->measure; }
     [[nodiscard]] DeckLayouts& layouts() { return layouts_; }
     /// Where pictures go: their names without number and ending.
     [[nodiscard]] std::string mediaStem() const;
@@ -45,6 +46,7 @@ public:
     model::DeckSlidePtr slideAt(std::int32_t place) override;
     model::DeckSlidePtr addSlide(std::int32_t place, std::int32_t layout) override;
     model::DeckWindow& window() override { return *this; }
+    CopiedPtr copied() override { return rules_->clipboard ? rules_->clipboard->copied : nullptr; }
     void activate() override { activated_(*this); }
     bool showsSlides() override { return false; }
     void endSlideShow() override {}
@@ -71,7 +73,7 @@ private:
     Package package_;
     std::string path_;
     std::string name_;
-    MeasureText measure_;
+    FileRulesPtr rules_;
     std::string main_;
     Xml presentation_;
     DeckLayouts layouts_;

@@ -21,7 +21,7 @@ Value PackageGuard::run(const office::model::MemberUse& use,
 }
 
 FileDeckPtr FileDecks::add(Package package, const std::string& path, const std::string& name) {
-    FileDeckPtr deck = makeDeck(std::move(package), path, name, measure_);
+    FileDeckPtr deck = makeDeck(std::move(package), path, name, rules_);
     deck->onActivated([self = weak_from_this()](FileDeck& active) {
         if (const auto decks = self.lock()) decks->activate(active);
     });
@@ -51,8 +51,8 @@ model::DeckPtr FileDecks::create(bool /*withWindow*/) {
 }
 
 FileDeckPtr FileDecks::makeDeck(Package package, const std::string& path, const std::string& name,
-                                const MeasureText& measure) {
-    return std::make_shared<FileDeck>(std::move(package), path, name, measure);
+                                const FileRulesPtr& rules) {
+    return std::make_shared<FileDeck>(std::move(package), path, name, rules);
 }
 
 void FileDecks::activate(const FileDeck& wanted) {

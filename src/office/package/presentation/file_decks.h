@@ -20,7 +20,7 @@ public:
 /// The presentations that are open, as files or to become such.
 class FileDecks : public model::Decks, public std::enable_shared_from_this<FileDecks> {
 public:
-    explicit FileDecks(MeasureText measure) : measure_(std::move(measure)) {}
+    explicit FileDecks(FileRulesPtr rules) : rules_(std::move(rules)) {}
 
     /// Opens what is in a package as the active presentation. `path` is empty for one that has no
     /// file yet.
@@ -36,10 +36,10 @@ public:
 private:
     /// The presentation of a package; another application may have one that can do more.
     virtual FileDeckPtr makeDeck(Package package, const std::string& path, const std::string& name,
-                                 const MeasureText& measure);
+                                 const FileRulesPtr& rules);
     void activate(const FileDeck& wanted);
 
-    MeasureText measure_;
+    FileRulesPtr rules_;
     std::vector<FileDeckPtr> decks_;
     int created_ = 0;
 };

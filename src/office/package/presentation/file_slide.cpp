@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <set>
 
+#include "office/model/powerpoint/objects.h"
+#include "office/model/powerpoint/paste.h"
 #include "office/package/part_name.h"
 #include "office/package/presentation/file_deck.h"
 #include "office/package/presentation/picture_file.h"
@@ -207,7 +209,10 @@ void FileSlide::takeFurnitureOf(FileSlide& other) {
 }
 
 model::DeckShapePtr FileSlide::addPicture(const std::string& file, const model::Point& corner) {
-    PictureFile picture = readPicture(file);
+    return addPicture(readPicture(file), corner);
+}
+
+FileShapePtr FileSlide::addPicture(PictureFile picture, const model::Point& corner) {
     const std::string media = deck_.package().addMedia(
         deck_.mediaStem(), picture.ending, picture.contentType, std::move(picture.bytes));
     const std::string relationship = deck_.package().relationshipsOf(part_).add("image", media);
@@ -228,6 +233,16 @@ model::DeckShapePtr FileSlide::addLabel(const model::Point& corner, const model:
                     R"(</p:spPr><p:txBody><a:bodyPr wrap="square"><a:spAutoFit/></a:bodyPr>)"
                     R"(<a:lstStyle/><a:p/></p:txBody></p:sp>)",
                     boxMarkup(corner, size)));
+}
+
+model::DeckShapePtr FileSlide::paste(const Copied& copied, PasteAs as) {
+    const bool isPicture = copied.source().kind == CopySource::Kind::Picture;
+    if (!isPicture && as != PasteAs::Png && as != PasteAs::Metafile)
+        model::refuse("Shapes.PasteSpecial", "It can't be pasted in this form");
+    PictureFile picture = pictureOf(copied.png(), "What was copied");
+    const model::PastePlace place = model::pastePlaceFor(picture.size, deck_, *this);
+    picture.size = place.size;
+    return addPicture(std::move(picture), place.corner);
 }
 
 void FileSlide::removeShape(FileShape& shape) {

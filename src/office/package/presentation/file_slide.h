@@ -7,6 +7,7 @@
 
 #include "office/model/powerpoint/deck_slide.h"
 #include "office/package/presentation/file_shape.h"
+#include "office/package/presentation/picture_file.h"
 #include "office/package/xml.h"
 
 namespace office::package {
@@ -47,13 +48,16 @@ public:
     model::DeckShapePtr titleShape() override;
     model::DeckShapePtr addPicture(const std::string& file, const model::Point& corner) override;
     model::DeckShapePtr addLabel(const model::Point& corner, const model::Size& size) override;
+    model::DeckShapePtr paste(const Copied& copied, PasteAs as) override;
     void remove() override;
+
+    /// Puts a shape on top of the others, and names it by its kind and its number.
+    FileShapePtr addShape(std::string_view kind, const std::string& markup);
 
 private:
     [[nodiscard]] std::vector<FileShapePtr>& shapes();
     [[nodiscard]] pugi::xml_node tree();
-    /// Puts a shape on top of the others, and names it by its kind and its number.
-    FileShapePtr addShape(std::string_view kind, const std::string& markup);
+    FileShapePtr addPicture(PictureFile picture, const model::Point& corner);
     void placeForItself(FileShape& title);
     FileShapePtr nameShape(std::string_view kind, pugi::xml_node element);
     [[nodiscard]] std::int32_t freeShapeId();

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iterator>
 #include <string_view>
+#include <utility>
 
 #include "office/failure.h"
 
@@ -60,15 +61,17 @@ PictureFile readPicture(const std::string& file) {
     std::ifstream stream(std::filesystem::path(std::u8string(file.begin(), file.end())),
                          std::ios::binary);
     if (!stream) throw Failure(FailureNumber::FileNotFound, source, "There is no file " + file);
-    PictureFile picture{.bytes = {std::istreambuf_iterator<char>(stream), {}},
-                        .ending = ".png",
-                        .contentType = "image/png",
-                        .size = {}};
+    return pictureOf({std::istreambuf_iterator<char>(stream), {}}, file);
+}
+
+PictureFile pictureOf(std::string bytes, const std::string& what) {
+    PictureFile picture{
+        .bytes = std::move(bytes), .ending = ".png", .contentType = "image/png", .size = {}};
     constexpr std::size_t headSize = 33;
     if (picture.bytes.size() >= headSize && picture.bytes.starts_with(signature))
         picture.size = sizeOfPng(picture.bytes);
     if (!(picture.size.width > 0 && picture.size.height > 0))
-        throw Failure(FailureNumber::ApplicationDefined, source, file + " holds no PNG picture");
+        throw Failure(FailureNumber::ApplicationDefined, source, what + " holds no PNG picture");
     return picture;
 }
 

@@ -17,5 +17,7 @@ struct PictureFile {
 
 /// `Failure` 53 if there is no such file, 1004 if it holds no PNG.
 [[nodiscard]] PictureFile readPicture(const std::string& file);
+/// The same from the bytes of a file, which `what` names in the failure's text.
+[[nodiscard]] PictureFile pictureOf(std::string bytes, const std::string& what);
 
 }  // namespace office::package

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "office/table_look.h"
+
+namespace office {
+
+/// Where something stands that was copied in Excel.
+struct CopySource {
+    enum class Kind { Chart, Cells, Picture };
+
+    Kind kind = Kind::Picture;
+    /// The workbook's file; empty for one that was never saved.
+    std::string file;
+    std::string sheet;
+    /// Of a chart that lies on its sheet; empty for that of a chart sheet, and for cells.
+    std::string chart;
+    /// Of cells: "$B$4:$H$20".
+    std::string address;
+};
+
+/// What was copied in Excel last. PowerPoint's back end says what a paste of it makes: from here it
+/// can be had as a picture and, of cells, as a table; what else a paste wants it fetches from the
+/// source itself.
+class Copied {
+public:
+    explicit Copied(CopySource source) : source_(std::move(source)) {}
+    Copied(const Copied&) = delete;
+    Copied& operator=(const Copied&) = delete;
+    virtual ~Copied() = default;
+
+    [[nodiscard]] const CopySource& source() const { return source_; }
+    /// In points, as it is in the workbook.
+    [[nodiscard]] virtual double widthPt() const = 0;
+    [[nodiscard]] virtual double heightPt() const = 0;
+    /// A PNG file with 288 dots to the inch and the true size. `Failure` 1004 if there is nothing
+    /// to take a picture of.
+    [[nodiscard]] virtual std::string png() const = 0;
+    /// `Failure` 1004 for anything but cells.
+    [[nodiscard]] virtual TableLook table() const = 0;
+
+private:
+    CopySource source_;
+};
+
+using CopiedPtr = std::shared_ptr<const Copied>;
+
+/// Where the applications of one machine leave what was copied, for each other.
+struct Clipboard {
+    CopiedPtr copied;
+};
+
+using ClipboardPtr = std::shared_ptr<Clipboard>;
+
+/// What a paste is to make of it.
+enum class PasteAs {
+    /// A chart or a table that can be edited in the presentation; of a picture, a picture.
+    Default,
+    Metafile,
+    Png,
+    /// An object that opens as a workbook of its own.
+    Embedded,
+    /// An object that follows the workbook's file.
+    Linked
+};
+
+}  // namespace office

@@ -1,0 +1,146 @@
+#include "office/libreoffice/excel/copied.h"
+
+#include <com/sun/star/awt/Size.hpp>
+
+#include <fstream>
+#include <iterator>
+#include <utility>
+
+#include "office/failure.h"
+#include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/range_picture.h"
+#include "office/libreoffice/guard.h"
+#include "office/libreoffice/private_folder.h"
+#include "office/libreoffice/units.h"
+
+namespace libreoffice::excel {
+
+namespace {
+
+/// What was copied is asked for more by objects of another application, which know nothing of this
+/// suite's exceptions.
+template <class Statement>
+auto translated(const Desk& desk, Statement statement) {
+    try {
+        return statement();
+    } catch (const uno::Exception&) {
+        throwTranslated(desk.connection(), "Copy");
+    }
+}
+
+/// The suite writes pictures to files only: one in a folder that only this user can read, and gone
+/// again at once.
+template <class Write>
+std::string pngOf(Write write) {
+    const PrivateFolder folder;
+    const std::string file = folder.file("copied.png");
+    write(file);
+    std::ifstream png(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(png), {}};
+}
+
+[[noreturn]] void failWithoutCells() {
+    throw office::Failure(office::FailureNumber::ApplicationDefined, "Copy",
+                          "What was copied has no cells");
+}
+
+}  // namespace
+
+CopiedPicture::CopiedPicture(Desk& desk, office::CopySource source,
+                             uno::Sequence<sal_Int8> metafile, const PictureSize& size)
+    : Copied(std::move(source)),
+      desk_(desk),
+      metafile_(std::move(metafile)),
+      size_(size) {}
+
+double CopiedPicture::widthPt() const {
+    return pointsOf(size_.width);
+}
+
+double CopiedPicture::heightPt() const {
+    return pointsOf(size_.height);
+}
+
+std::string CopiedPicture::png() const {
+    return translated(desk_, [&] {
+        return pngOf([&](const std::string& file) {
+            pictureMaker(desk_).writeMetafile(metafile_, size_, file);
+        });
+    });
+}
+
+office::TableLook CopiedPicture::table() const {
+    failWithoutCells();
+}
+
+CopiedChart::CopiedChart(CalcDocument& book, office::CopySource source,
+                         uno::Reference<css::drawing::XShape> shape)
+    : Copied(std::move(source)),
+      book_(book.shared_from_this()),
+      shape_(std::move(shape)),
+      size_(shape_->getSize()) {}
+
+CalcDocument& CopiedChart::book() const {
+    book_->requireOpen("Copy");
+    return *book_;
+}
+
+double CopiedChart::widthPt() const {
+    return pointsOf(size_.Width);
+}
+
+double CopiedChart::heightPt() const {
+    return pointsOf(size_.Height);
+}
+
+std::string CopiedChart::png() const {
+    Desk& desk = book().desk();
+    return translated(desk, [&] {
+        return pngOf([&](const std::string& file) { pictureMaker(desk).writeChart(shape_, file); });
+    });
+}
+
+office::TableLook CopiedChart::table() const {
+    failWithoutCells();
+}
+
+CopiedCells::CopiedCells(SheetRecordPtr sheet, office::CopySource source,
+                         uno::Reference<css::table::XCellRange> cells,
+                         const office::model::excel::CellBlock& block)
+    : Copied(std::move(source)),
+      sheet_(std::move(sheet)),
+      book_(sheet_->book().shared_from_this()),
+      cells_(std::move(cells)),
+      block_(block),
+      size_(property<css::awt::Size>(cells_, "Size")) {}
+
+SheetRecord& CopiedCells::sheet() const {
+    book_->requireOpen("Copy");
+    return *sheet_;
+}
+
+double CopiedCells::widthPt() const {
+    return pointsOf(size_.Width);
+}
+
+double CopiedCells::heightPt() const {
+    return pointsOf(size_.Height);
+}
+
+std::string CopiedCells::png() const {
+    SheetRecord& source = sheet();
+    Desk& desk = source.book().desk();
+    return translated(desk, [&] {
+        const CellsPicture picture = takePictureOfCells(source, cells_, block_);
+        return pngOf([&](const std::string& file) {
+            pictureMaker(desk).writeMetafile(picture.metafile, picture.size, file);
+        });
+    });
+}
+
+office::TableLook CopiedCells::table() const {
+    throw office::Failure(office::FailureNumber::ApplicationDefined, "Copy",
+                          "Cells can't be had as a table here");
+}
+
+}  // namespace libreoffice::excel

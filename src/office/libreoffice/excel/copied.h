@@ -1,0 +1,73 @@
+#pragma once
+
+#include <memory>
+
+#include "office/copied.h"
+#include "office/libreoffice/excel/chart_shapes.h"
+#include "office/libreoffice/excel/picture_maker.h"
+#include "office/libreoffice/excel/sheet_record.h"
+#include "office/model/excel/cell_block.h"
+
+namespace libreoffice::excel {
+
+/// A picture of a chart or of cells, in the suite's own vector format.
+class CopiedPicture : public office::Copied {
+public:
+    CopiedPicture(Desk& desk, office::CopySource source, uno::Sequence<sal_Int8> metafile,
+                  const PictureSize& size);
+
+    [[nodiscard]] const uno::Sequence<sal_Int8>& metafile() const { return metafile_; }
+    [[nodiscard]] const PictureSize& size() const { return size_; }
+    [[nodiscard]] double widthPt() const override;
+    [[nodiscard]] double heightPt() const override;
+    [[nodiscard]] std::string png() const override;
+    [[nodiscard]] office::TableLook table() const override;
+
+private:
+    Desk& desk_;
+    uno::Sequence<sal_Int8> metafile_;
+    PictureSize size_;
+};
+
+/// A chart. Its workbook has to be open still when more of it is asked for.
+class CopiedChart : public office::Copied {
+public:
+    CopiedChart(CalcDocument& book, office::CopySource source,
+                uno::Reference<css::drawing::XShape> shape);
+
+    [[nodiscard]] CalcDocument& book() const;
+    [[nodiscard]] const uno::Reference<css::drawing::XShape>& shape() const { return shape_; }
+    [[nodiscard]] double widthPt() const override;
+    [[nodiscard]] double heightPt() const override;
+    [[nodiscard]] std::string png() const override;
+    [[nodiscard]] office::TableLook table() const override;
+
+private:
+    std::shared_ptr<CalcDocument> book_;
+    uno::Reference<css::drawing::XShape> shape_;
+    css::awt::Size size_;
+};
+
+/// One block of cells. Its workbook has to be open still when more of it is asked for.
+class CopiedCells : public office::Copied {
+public:
+    CopiedCells(SheetRecordPtr sheet, office::CopySource source,
+                uno::Reference<css::table::XCellRange> cells,
+                const office::model::excel::CellBlock& block);
+
+    [[nodiscard]] SheetRecord& sheet() const;
+    [[nodiscard]] const office::model::excel::CellBlock& block() const { return block_; }
+    [[nodiscard]] double widthPt() const override;
+    [[nodiscard]] double heightPt() const override;
+    [[nodiscard]] std::string png() const override;
+    [[nodiscard]] office::TableLook table() const override;
+
+private:
+    SheetRecordPtr sheet_;
+    std::shared_ptr<CalcDocument> book_;
+    uno::Reference<css::table::XCellRange> cells_;
+    office::model::excel::CellBlock block_;
+    css::awt::Size size_;
+};
+
+}  // namespace libreoffice::excel

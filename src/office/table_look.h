@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace office {
+
+/// A line along one side of a cell; none if it has no width. Colours are 0xBBGGRR, as the object
+/// models write them.
+struct CellLine {
+    enum class Style { Solid, Dashed, Dotted, Double };
+
+    double widthPt = 0;
+    std::int32_t colour = 0;
+    Style style = Style::Solid;
+
+    bool operator==(const CellLine&) const = default;
+};
+
+/// One cell as it is seen: conditional formats are applied, and the text is the number as shown.
+struct CellLook {
+    enum class Across { Left, Centre, Right, Justified };
+    enum class Down { Top, Middle, Bottom };
+
+    /// Line feeds between lines that were broken by hand.
+    std::string text;
+    std::string fontName;
+    double fontSizePt = 11;
+    std::int32_t fontColour = 0;
+    bool isBold = false;
+    bool isItalic = false;
+    bool isUnderlined = false;
+    bool isStruckOut = false;
+    /// Nothing for a cell that lets the ground shine through.
+    std::optional<std::int32_t> fill;
+    Across across = Across::Left;
+    Down down = Down::Bottom;
+    double indentPt = 0;
+    bool wraps = false;
+    /// Degrees counter-clockwise: 0, 90 or 270.
+    std::int32_t rotation = 0;
+    CellLine left;
+    CellLine right;
+    CellLine top;
+    CellLine bottom;
+    /// How many shown columns and rows a merged cell spans. Those that it covers beside its first
+    /// one have `isCovered` and nothing else that counts.
+    std::int32_t columns = 1;
+    std::int32_t rows = 1;
+    bool isCovered = false;
+};
+
+/// A block of cells as it is seen, hidden rows and columns left out.
+struct TableLook {
+    std::vector<double> columnWidthsPt;
+    std::vector<double> rowHeightsPt;
+    /// Row by row.
+    std::vector<CellLook> cells;
+
+    [[nodiscard]] const CellLook& at(std::size_t row, std::size_t column) const {
+        return cells.at(row * columnWidthsPt.size() + column);
+    }
+    [[nodiscard]] double widthPt() const {
+        double all = 0;
+        for (const double width : columnWidthsPt) all += width;
+        return all;
+    }
+    [[nodiscard]] double heightPt() const {
+        double all = 0;
+        for (const double height : rowHeightsPt) all += height;
+        return all;
+    }
+};
+
+}  // namespace office
