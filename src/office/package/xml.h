@@ -17,6 +17,11 @@ inline constexpr std::string_view relationships =
     "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
 inline constexpr std::string_view presentation2010 =
     "http://schemas.microsoft.com/office/powerpoint/2010/main";
+inline constexpr std::string_view spreadsheet =
+    "http://schemas.openxmlformats.org/spreadsheetml/2006/main";
+inline constexpr std::string_view spreadsheetDrawing =
+    "http://schemas.openxmlformats.org/drawingml/2006/spreadsheetDrawing";
+inline constexpr std::string_view chart = "http://schemas.openxmlformats.org/drawingml/2006/chart";
 inline constexpr std::string_view compatibility =
     "http://schemas.openxmlformats.org/markup-compatibility/2006";
 }  // namespace ns

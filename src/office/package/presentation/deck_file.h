@@ -7,6 +7,7 @@
 #include <string>
 
 #include "office/model/powerpoint/deck.h"
+#include "office/package/workbook/workbook_file.h"
 #include "office/value.h"
 
 /// PowerPoint's object model over presentations as files (.pptx and its relatives). Nothing of a
@@ -38,6 +39,8 @@ struct FileRules {
     MeasureText measure;
     /// Where Excel leaves what was copied; none for a PowerPoint that nothing is pasted into.
     ClipboardPtr clipboard;
+    /// What it pastes charts and workbooks of.
+    WorkbookFilesPtr workbooks = std::make_shared<WorkbookFiles>();
 };
 using FileRulesPtr = std::shared_ptr<const FileRules>;
 

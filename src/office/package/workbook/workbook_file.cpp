@@ -1,0 +1,206 @@
+#include "office/package/workbook/workbook_file.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <optional>
+#include <system_error>
+#include <utility>
+
+#include "office/package/part_name.h"
+#include "office/package/xml.h"
+#include "office/text.h"
+
+namespace office::package {
+
+namespace {
+
+constexpr std::string_view strictSpreadsheet = "http://purl.oclc.org/ooxml/spreadsheetml/main";
+constexpr std::string_view extendedChart =
+    "http://schemas.microsoft.com/office/drawing/2014/chartex";
+constexpr std::uintmax_t mostBytes = 512ULL << 20;
+
+/// What a package about a workbook says that it is.
+struct MainType {
+    std::string_view type;
+    bool hasMacros;
+    bool isTemplate;
+};
+constexpr std::array<MainType, 4> mainTypes = {{
+    {"application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml", false, false},
+    {"application/vnd.ms-excel.sheet.macroEnabled.main+xml", true, false},
+    {"application/vnd.openxmlformats-officedocument.spreadsheetml.template.main+xml", false, true},
+    {"application/vnd.ms-excel.template.macroEnabled.main+xml", true, true},
+}};
+constexpr std::string_view binaryType = "application/vnd.ms-excel.sheet.binary.macroEnabled.main";
+
+[[noreturn]] void refuseKind(const char* text) {
+    throw PackageError(Fault::NotAPackage, text);
+}
+
+WorkbookSheet::Kind kindOf(const Relationship& relationship) {
+    if (relationship.type.ends_with("/worksheet")) return WorkbookSheet::Kind::Worksheet;
+    if (relationship.type.ends_with("/chartsheet")) return WorkbookSheet::Kind::ChartSheet;
+    return WorkbookSheet::Kind::Other;
+}
+
+WorkbookSheet::State stateOf(std::string_view word) {
+    if (word == "hidden") return WorkbookSheet::State::Hidden;
+    return word == "veryHidden" ? WorkbookSheet::State::VeryHidden : WorkbookSheet::State::Visible;
+}
+
+/// The part that an id leads to; empty if it leads out of the package or to nothing.
+std::string partOfId(Package& package, const std::string& source, std::string_view id) {
+    const Relationships& relationships = package.relationshipsOf(source);
+    const Relationship* const found = relationships.withId(id);
+    if (found == nullptr || found->isExternal) return {};
+    std::string part = relationships.partOf(*found);
+    return package.has(part) ? part : std::string();
+}
+
+std::optional<WorkbookChart> chartIn(Package& package, const std::string& drawing,
+                                     pugi::xml_node frame) {
+    const auto graphic =
+        childNamed(childNamed(frame, ns::drawing, "graphic"), ns::drawing, "graphicData");
+    const auto standard = childNamed(graphic, ns::chart, "chart");
+    const auto extended = childNamed(graphic, extendedChart, "chart");
+    if (!standard && !extended) return {};
+    const auto about = childNamed(frame, ns::spreadsheetDrawing, "nvGraphicFramePr");
+    const auto id = attributeNamed(standard ? standard : extended, ns::relationships, "id");
+    return WorkbookChart{
+        .name = childNamed(about, ns::spreadsheetDrawing, "cNvPr").attribute("name").value(),
+        .part = partOfId(package, drawing, id.value()),
+        .isExtended = !standard};
+}
+
+bool isUnreserved(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+           std::string_view("-._~/:").find(c) != std::string_view::npos;
+}
+
+}  // namespace
+
+WorkbookFile::WorkbookFile(std::filesystem::path file)
+    : path_(std::move(file)),
+      package_(Package::open(path_)) {
+    const Relationships& relationships = package_.relationshipsOf("/");
+    const Relationship* const found = relationships.ofType("officeDocument");
+    if (found == nullptr) refuseKind("it is no Open XML workbook");
+    main_ = relationships.partOf(*found);
+    const std::string type = package_.contentTypeOf(main_);
+    if (type == binaryType) refuseKind("it is a binary workbook");
+    const auto* const known = std::find_if(mainTypes.begin(), mainTypes.end(),
+                                           [&](const MainType& one) { return one.type == type; });
+    if (known == mainTypes.end()) refuseKind("it is no Open XML workbook");
+    hasMacros_ = known->hasMacros;
+    isTemplate_ = known->isTemplate;
+    readSheets();
+}
+
+void WorkbookFile::readSheets() {
+    const Xml workbook(package_.read(main_), main_);
+    if (isNamed(workbook.root(), strictSpreadsheet, "workbook"))
+        refuseKind("it is a strict Open XML workbook");
+    const Relationships& relationships = package_.relationshipsOf(main_);
+    const auto list = childNamed(workbook.root(), ns::spreadsheet, "sheets");
+    for (const auto& entry : childrenNamed(list, ns::spreadsheet, "sheet")) {
+        const std::string id = attributeNamed(entry, ns::relationships, "id").value();
+        const std::string part = partOfId(package_, main_, id);
+        if (part.empty()) continue;
+        sheets_.push_back({.name = entry.attribute("name").value(),
+                           .part = part,
+                           .kind = kindOf(*relationships.withId(id)),
+                           .state = stateOf(entry.attribute("state").value())});
+    }
+}
+
+const WorkbookSheet* WorkbookFile::sheet(std::string_view name) const {
+    const auto found = std::find_if(sheets_.begin(), sheets_.end(), [&](const auto& one) {
+        return sameIgnoringCase(one.name, name);
+    });
+    return found == sheets_.end() ? nullptr : &*found;
+}
+
+const std::vector<WorkbookChart>& WorkbookFile::chartsOf(const WorkbookSheet& sheet) {
+    const auto [place, isNew] = charts_.try_emplace(sheet.part);
+    if (!isNew) return place->second;
+    const Relationships& relationships = package_.relationshipsOf(sheet.part);
+    const Relationship* const found = relationships.ofType("drawing");
+    if (found == nullptr || found->isExternal) return place->second;
+    const std::string drawing = relationships.partOf(*found);
+    if (!package_.has(drawing)) return place->second;
+    const Xml xml(package_.read(drawing), drawing);
+    struct Walker : pugi::xml_tree_walker {
+        bool for_each(pugi::xml_node& node) override {
+            if (isNamed(node, ns::spreadsheetDrawing, "graphicFrame")) frames.push_back(node);
+            return true;
+        }
+        std::vector<pugi::xml_node> frames;
+    } walker;
+    xml.root().traverse(walker);
+    for (const pugi::xml_node frame : walker.frames) {
+        if (auto chart = chartIn(package_, drawing, frame))
+            place->second.push_back(*std::move(chart));
+    }
+    return place->second;
+}
+
+const WorkbookChart* WorkbookFile::chart(const WorkbookSheet& sheet, std::string_view name) {
+    const std::vector<WorkbookChart>& charts = chartsOf(sheet);
+    if (name.empty()) return charts.size() == 1 ? charts.data() : nullptr;
+    const auto found = std::find_if(charts.begin(), charts.end(), [&](const auto& one) {
+        return sameIgnoringCase(one.name, name);
+    });
+    return found == charts.end() ? nullptr : &*found;
+}
+
+std::string WorkbookFile::themePart() {
+    const Relationships& relationships = package_.relationshipsOf(main_);
+    const Relationship* const found = relationships.ofType("theme");
+    if (found == nullptr || found->isExternal) return {};
+    std::string part = relationships.partOf(*found);
+    return package_.has(part) ? part : std::string();
+}
+
+std::string WorkbookFile::bytes() const {
+    std::ifstream file(path_, std::ios::binary | std::ios::ate);
+    const std::streamoff size = file.tellg();
+    if (size < 0) throw PackageError(Fault::Unreadable, "it can't be read any more");
+    if (static_cast<std::uintmax_t>(size) > mostBytes)
+        throw PackageError(Fault::TooLarge, fmt::format("it takes {} bytes", size));
+    std::string bytes(static_cast<std::size_t>(size), '\0');
+    file.seekg(0);
+    if (!file.read(bytes.data(), size))
+        throw PackageError(Fault::Unreadable, "it can't be read any more");
+    return bytes;
+}
+
+WorkbookFilePtr WorkbookFiles::at(const std::string& path) {
+    const std::filesystem::path file(std::u8string(path.begin(), path.end()));
+    std::error_code problem;
+    const auto changed = std::filesystem::last_write_time(file, problem);
+    if (problem)
+        throw PackageError(Fault::Unreadable,
+                           fmt::format("it can't be read ({})", problem.message()));
+    Opened& known = files_[path];
+    if (!known.file || known.changed != changed)
+        known = {changed, std::make_shared<WorkbookFile>(file)};
+    return known.file;
+}
+
+std::string fileAddress(const std::filesystem::path& file) {
+    const std::u8string generic = std::filesystem::absolute(file).generic_u8string();
+    std::string address = generic.starts_with(u8"/") ? "file://" : "file:///";
+    for (const char8_t byte : generic) {
+        const char c = static_cast<char>(byte);
+        if (isUnreserved(c))
+            address += c;
+        else
+            address += fmt::format("%{:02X}", static_cast<unsigned char>(c));
+    }
+    return address;
+}
+
+}  // namespace office::package

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "office/package/package.h"
+
+namespace office::package {
+
+struct WorkbookSheet {
+    enum class Kind { Worksheet, ChartSheet, Other };
+    enum class State { Visible, Hidden, VeryHidden };
+
+    std::string name;
+    std::string part;
+    Kind kind = Kind::Worksheet;
+    State state = State::Visible;
+};
+
+/// A chart in a sheet's drawing.
+struct WorkbookChart {
+    std::string name;
+    /// Empty if the drawing names a part that isn't there.
+    std::string part;
+    /// Of the kinds that came after the standard (waterfall, treemap, ...), in a format of their
+    /// own.
+    bool isExtended = false;
+};
+
+/// A workbook's package, of which something is pasted elsewhere. It is only read, and no more of it
+/// than is asked for. All members throw `PackageError` for what is damaged.
+class WorkbookFile {
+public:
+    /// `PackageError`, NotAPackage too for a package that is no workbook, or a strict or a binary
+    /// one.
+    explicit WorkbookFile(std::filesystem::path file);
+
+    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+    [[nodiscard]] Package& package() { return package_; }
+    /// The part with the list of the sheets.
+    [[nodiscard]] const std::string& mainPart() const { return main_; }
+    [[nodiscard]] bool hasMacros() const { return hasMacros_; }
+    [[nodiscard]] bool isTemplate() const { return isTemplate_; }
+    /// In the order of their tabs.
+    [[nodiscard]] const std::vector<WorkbookSheet>& sheets() const { return sheets_; }
+    /// By its name in any case; null if there is none.
+    [[nodiscard]] const WorkbookSheet* sheet(std::string_view name) const;
+    /// Those in groups too, in the order of the drawing.
+    [[nodiscard]] const std::vector<WorkbookChart>& chartsOf(const WorkbookSheet& sheet);
+    /// By its name in any case; of an empty name the only one that the sheet has. Null if there is
+    /// none.
+    [[nodiscard]] const WorkbookChart* chart(const WorkbookSheet& sheet, std::string_view name);
+    /// Empty if it has none.
+    [[nodiscard]] std::string themePart();
+    /// The whole file. TooLarge for one that no presentation should carry.
+    [[nodiscard]] std::string bytes() const;
+
+private:
+    void readSheets();
+
+    std::filesystem::path path_;
+    Package package_;
+    std::string main_;
+    bool hasMacros_ = false;
+    bool isTemplate_ = false;
+    std::vector<WorkbookSheet> sheets_;
+    /// By the part of the sheet.
+    std::unordered_map<std::string, std::vector<WorkbookChart>> charts_;
+};
+
+using WorkbookFilePtr = std::shared_ptr<WorkbookFile>;
+
+/// The workbooks that things are pasted of, each opened once as long as its file stays the same.
+class WorkbookFiles {
+public:
+    /// By its path in UTF-8. `PackageError`.
+    [[nodiscard]] WorkbookFilePtr at(const std::string& path);
+
+private:
+    struct Opened {
+        std::filesystem::file_time_type changed;
+        WorkbookFilePtr file;
+    };
+    std::map<std::string, Opened> files_;
+};
+
+using WorkbookFilesPtr = std::shared_ptr<WorkbookFiles>;
+
+/// The address of a file, with the characters escaped that an address can't hold:
+/// "file:///home/ann/Sales%202026.xlsx".
+[[nodiscard]] std::string fileAddress(const std::filesystem::path& file);
+
+}  // namespace office::package
