@@ -41,6 +41,11 @@ struct FileRules {
     ClipboardPtr clipboard;
     /// What it pastes charts and workbooks of.
     WorkbookFilesPtr workbooks = std::make_shared<WorkbookFiles>();
+    /// Whether the workbook behind an embedded object keeps the object's sheet alone.
+    bool embedsSheetAlone = false;
+    /// The folder that links are written relative to, which has to be the presentation's own. Empty
+    /// for links that hold the whole path.
+    std::filesystem::path linkBase = {};
 };
 using FileRulesPtr = std::shared_ptr<const FileRules>;
 

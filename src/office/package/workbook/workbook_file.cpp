@@ -75,9 +75,18 @@ std::optional<WorkbookChart> chartIn(Package& package, const std::string& drawin
         .isExtended = !standard};
 }
 
-bool isUnreserved(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
-           std::string_view("-._~/:").find(c) != std::string_view::npos;
+/// Of a path with slashes between its names. A colon stays after the letter of a drive only, since
+/// it would make a scheme of the first name of a relative one.
+std::string addressOf(const std::filesystem::path& path) {
+    std::string address;
+    for (const std::filesystem::path& name : path) {
+        const auto text = name.generic_u8string();
+        if (text == u8"/") continue;
+        if (!address.empty()) address += '/';
+        const std::string word(text.begin(), text.end());
+        address += name == path.root_name() ? word : addressWord(word);
+    }
+    return address;
 }
 
 }  // namespace
@@ -190,17 +199,34 @@ WorkbookFilePtr WorkbookFiles::at(const std::string& path) {
     return known.file;
 }
 
-std::string fileAddress(const std::filesystem::path& file) {
-    const std::u8string generic = std::filesystem::absolute(file).generic_u8string();
-    std::string address = generic.starts_with(u8"/") ? "file://" : "file:///";
-    for (const char8_t byte : generic) {
-        const char c = static_cast<char>(byte);
-        if (isUnreserved(c))
-            address += c;
-        else
-            address += fmt::format("%{:02X}", static_cast<unsigned char>(c));
+std::string addressWord(std::string_view text) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    constexpr std::string_view plain = "-._~";
+    std::string word;
+    for (const char c : text) {
+        const bool isLetter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+        if (isLetter || (c >= '0' && c <= '9') || plain.find(c) != std::string_view::npos) {
+            word += c;
+        } else {
+            const auto code = static_cast<unsigned char>(c);
+            word += {'%', digits[code >> 4], digits[code & 15]};
+        }
     }
-    return address;
+    return word;
+}
+
+std::string fileAddress(const std::filesystem::path& file, const std::filesystem::path& base) {
+    if (!base.empty()) {
+        // Where a link of the file system is on the way, ".." leads to where it points.
+        const auto whole = [](const std::filesystem::path& path) {
+            std::error_code problem;
+            return std::filesystem::weakly_canonical(std::filesystem::absolute(path), problem);
+        };
+        const auto way = whole(file).lexically_relative(whole(base));
+        if (!way.empty()) return addressOf(way);
+    }
+    const std::string path = addressOf(std::filesystem::absolute(file));
+    return (path.starts_with("//") ? "file:" : "file:///") + path;
 }
 
 }  // namespace office::package
