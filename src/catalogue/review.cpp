@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <optional>
+#include <vector>
 
 #include "catalogue/export_run.h"
 #include "catalogue/list_rows.h"
@@ -145,6 +146,40 @@ void reviewPowerPoint(session::OfficeSession& session, const ExportList& list,
     if (choices.predefinedSlides) reviewSlideNumbers(session, list, blockers);
 }
 
+/// What the chosen format can't do for the items that it will be asked for.
+void reviewFormat(session::OfficeSession& session, const ExportList& list, ExportFormat format,
+                  ReviewTexts& texts) {
+    using office::CopySource;
+    if (format == ExportFormat::Pictures) return;
+    office::ContinueOnFailure scope;
+    std::string file;
+    scope.attempt([&] {
+        file = session.ActiveBook.get("FullName").toText();
+        // A workbook that was never saved has a name and no path.
+        if (file == session.ActiveBook.get("Name").toText()) file.clear();
+    });
+    RowObjects objects(session);
+    std::vector<office::PasteItem> items;
+    for (const ExportItem& row : list.rows) {
+        if (!objects.isOnVisibleSheet(row)) continue;
+        const bool isRange = !row.isChartSheet() && !row.isEmbeddedChart();
+        items.push_back(
+            {.name = row.isChartSheet() ? row.sheet : row.name,
+             .source = {.kind = isRange ? CopySource::Kind::Cells : CopySource::Kind::Chart,
+                        .file = file,
+                        .sheet = row.sheet,
+                        .chart = row.isEmbeddedChart() ? row.name : "",
+                        .address = {}}});
+    }
+    const auto as = format == ExportFormat::Editable   ? office::PasteAs::Default
+                    : format == ExportFormat::Embedded ? office::PasteAs::Embedded
+                                                       : office::PasteAs::Linked;
+    scope.attempt([&] {
+        for (const std::string& line : session.suite.remarksOn(as, items))
+            AddReviewItem(texts.ReviewItems, texts.ReviewLines, line);
+    });
+}
+
 /// What keeps an export to Word from running: Word and its document.
 void reviewWord(session::OfficeSession& session, std::string& blockers) {
     office::ContinueOnFailure scope;
@@ -170,6 +205,7 @@ ReviewTexts reviewExport(session::OfficeSession& session, const ExportList& list
     reviewItems(session, list, texts);
     if (choices.destination == Destination::PowerPoint) {
         reviewPowerPoint(session, list, choices, texts.Blockers);
+        if (texts.Blockers.empty()) reviewFormat(session, list, choices.format, texts);
     } else if (choices.destination == Destination::Word) {
         reviewWord(session, texts.Blockers);
     }

@@ -57,6 +57,8 @@ private:
 };
 
 std::int32_t BatchFrame::run() {
+    rows_ = catalogue::takeRows(session_, batch_.list, batch_.choices);
+    if (rows_.empty() && route_.endsWithoutItems) return 0;
     prepare();
     for (const TakenRow& taken : rows_) {
         if (session_.progress.cancelled()) break;
@@ -66,12 +68,16 @@ std::int32_t BatchFrame::run() {
     const auto total = static_cast<std::int32_t>(rows_.size());
     if (done_ < total) removeSlidesLeft();
     session_.ExcelApp.put("ScreenUpdating", true);
+    if (route_.showsCompletion && done_ == total) catalogue::ProgressStep(session_, total, total);
     putBack();
-    if (done_ == total) return done_;
-    session::ShowNotice(
-        session_.notices,
-        fmt::format("The export was cancelled: {} of {} items were exported.", exported_, total),
-        "Murvane", "info", session::buttons::okOnly);
+    if (done_ < total) {
+        session::ShowNotice(session_.notices,
+                            fmt::format("The export was cancelled: {} of {} items were exported.",
+                                        exported_, total),
+                            "Murvane", "info", session::buttons::okOnly);
+    } else if (exported_ == 0 && !route_.noneArrived.empty()) {
+        session::ShowWarningNotice(session_.notices, route_.noneArrived);
+    }
     return done_;
 }
 
@@ -79,7 +85,6 @@ void BatchFrame::prepare() {
     viewType_ = session::PrepareSlideView(session_);
     slides_ = session_.SessionPresentation.get("Slides").toObject();
     window_ = session::PresentationWindow(session_);
-    rows_ = catalogue::takeRows(session_, batch_.list, batch_.choices);
     slidesAtStart_ = slides_.get("Count").toLong();
     if (!batch_.choices.predefinedSlides) {
         for (std::size_t i = 0; i < rows_.size(); ++i) {
@@ -140,7 +145,16 @@ void BatchFrame::finishItem(const ExportItem& row, std::int32_t slide, bool isTh
 
 void BatchFrame::styleLastShape(const Object& shapes) {
     if (pictureStyle_ == style::none) return;
-    ApplyPictureStyle(pictureStyle_, shapes.get("Item", shapes.get("Count").toLong()).toObject());
+    const auto apply = [&] {
+        ApplyPictureStyle(pictureStyle_,
+                          shapes.get("Item", shapes.get("Count").toLong()).toObject());
+    };
+    // A picture takes every style; charts, tables and objects take what they can.
+    if (batch_.choices.format == catalogue::ExportFormat::Pictures) {
+        apply();
+    } else {
+        office::ContinueOnFailure().attempt(apply);
+    }
 }
 
 /// The new slides of a cancelled batch that no item has come to.
@@ -155,10 +169,12 @@ void BatchFrame::putBack() {
     office::ContinueOnFailure scope;
     session_.progress.unload();
     session_.host.letEventsRun();
-    scope.attempt([&] { session::SetExcelWindow(session_, session::ExcelWindow::Maximised); });
-    // A blanket repair of whatever copying has left hidden.
-    scope.attempt(
-        [&] { session_.ExcelApp.get("Rows", "1:500000").get("EntireRow").put("Hidden", false); });
+    if (route_.restoresExcel) {
+        scope.attempt([&] { session::SetExcelWindow(session_, session::ExcelWindow::Maximised); });
+        scope.attempt([&] {
+            session_.ExcelApp.get("Rows", "1:500000").get("EntireRow").put("Hidden", false);
+        });
+    }
     scope.attempt([&] { window_.put("ViewType", viewType_); });
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
 
 #include "catalogue/export_list.h"
 #include "office/failure.h"
@@ -36,10 +37,18 @@ struct Batch {
 /// What tells the formats of a batch apart; the frame is the same for all.
 struct BatchRoute {
     /// Takes Excel's drawing to the state that the items need, before the first one.
-    std::function<void(Batch&)> prepareScreen;
+    void (*prepareScreen)(Batch& batch);
     /// Puts the row's object on slide `slideIndex`. False if it isn't there and the user knows.
-    std::function<bool(Batch&, const catalogue::ExportItem& row, std::int32_t slideIndex)>
-        insertItem;
+    bool (*insertItem)(Batch& batch, const catalogue::ExportItem& row, std::int32_t slideIndex);
+    /// Without items nothing is touched.
+    bool endsWithoutItems = false;
+    /// Progress ends with the last item as done.
+    bool showsCompletion = false;
+    /// Excel's window is made large and its rows are shown at the end: copying may have left some
+    /// hidden.
+    bool restoresExcel = true;
+    /// The warning where no item has arrived; none if empty.
+    std::string noneArrived = {};
 };
 
 /// Walks the taken rows in display order and brings each one to its slide: to new slides at the

@@ -15,9 +15,9 @@
 #include "panels/action_panel.h"
 #include "panels/dialogs.h"
 #include "panels/panel_page.h"
+#include "powerpoint/formats.h"
 #include "powerpoint/layout_form.h"
 #include "powerpoint/picture_styles_form.h"
-#include "powerpoint/pictures.h"
 #include "session/powerpoint_session.h"
 
 namespace powerpoint {
@@ -240,13 +240,9 @@ void Dialog::ContinueOk_Click() {
     options_.titles = SlideTitle.isChecked();
     options_.sourceLine = SourceInc.isChecked();
     options_.shadow = CheckShadow.isChecked();
-    if (choices_.format != ExportFormat::Pictures) {
-        SetPanelMessage("This version of Murvane can't export in this format yet.", "warning");
-        return;
-    }
     panels::RunExport(session_, *this, taken_, [this] {
         Batch batch{session_, list_, choices_, {}, options_};
-        ExportRowsAsPictures(batch);
+        ExportRows(batch);
     });
 }
 

@@ -6,6 +6,7 @@
 
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
+#include "powerpoint/pasted_shape.h"
 #include "powerpoint/placement.h"
 #include "session/file_names.h"
 #include "session/powerpoint_session.h"
@@ -19,21 +20,20 @@ using office::arg;
 using office::Object;
 using session::OfficeSession;
 
-void insertPictureFile(OfficeSession& session, const std::string& file, std::int32_t slideIndex,
-                       std::string_view description) {
+void insertPictureFile(OfficeSession& session, const ExportItem& row, const std::string& file,
+                       std::int32_t slideIndex) {
     constexpr std::int32_t noLink = 0;
     constexpr std::int32_t saveWithDocument = -1;
     constexpr std::int32_t naturalSize = -1;
 
     const Object picture =
-        session.SessionPresentation.get("Slides")
-            .get("Item", slideIndex)
+        slideOf(session, slideIndex)
             .get("Shapes")
             .call("AddPicture", file, noLink, saveWithDocument, 0, 0, naturalSize, naturalSize)
             .toObject();
     session.host.letEventsRun();
     FitPictureToSlide(picture, session.SessionPresentation);
-    office::ContinueOnFailure().attempt([&] { picture.put("AlternativeText", description); });
+    describeShape(picture, row);
 }
 
 /// The picture's file, made from `range` by way of a chart on its sheet: a range has no export of
@@ -71,12 +71,13 @@ void exportChart(const Object& chart, const std::string& file) {
 }  // namespace
 
 std::int32_t ExportRowsAsPictures(Batch& batch) {
-    BatchRoute route;
-    route.prepareScreen = [](Batch& b) { b.session.ExcelApp.put("ScreenUpdating", false); };
-    route.insertItem = [](Batch& b, const ExportItem& row, std::int32_t slideIndex) {
-        return InsertPicture(b.session, row, slideIndex);
-    };
-    return RunBatch(batch, route);
+    return RunBatch(
+        batch, {.prepareScreen = [](Batch& b) { b.session.ExcelApp.put("ScreenUpdating", false); },
+                .insertItem =
+                    [](Batch& b, const ExportItem& row, std::int32_t slideIndex) {
+                        return InsertPicture(b.session, row, slideIndex);
+                    },
+                .noneArrived = {}});
 }
 
 bool InsertPicture(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex) {
@@ -85,9 +86,7 @@ bool InsertPicture(OfficeSession& session, const ExportItem& row, std::int32_t s
             fmt::format("{}_{}.png", kind, session::safeFileName(name)));
     };
     const std::string& sheet = row.sheet;
-    const std::string& name = row.isChartSheet() ? sheet : row.name;
-    const std::string& caption = row.caption;
-    const std::string& description = caption.empty() ? name : caption;
+    const std::string& name = row.name;
     std::string file;
     if (row.isChartSheet()) {
         // One name for every chart sheet: the file of the last one is what stays in the folder.
@@ -112,39 +111,11 @@ bool InsertPicture(OfficeSession& session, const ExportItem& row, std::int32_t s
         file = temporaryFile("Range", name);
         exportRange(range, file);
     }
-    insertPictureFile(session, file, slideIndex, description);
+    insertPictureFile(session, row, file, slideIndex);
     if (!row.isChartSheet()) {
         office::ContinueOnFailure().attempt([&] { session.host.deleteFile(file); });
     }
     return true;
-}
-
-bool InsertOneItem(OfficeSession& session, const ExportItem& row,
-                   const catalogue::ExportChoices& choices) {
-    if (choices.format != catalogue::ExportFormat::Pictures) {
-        session::ShowNotice(session.notices, "This output format is not part of this version yet.",
-                            "Murvane", "info", session::buttons::okOnly);
-        return false;
-    }
-    office::ContinueOnFailure scope;
-    std::int32_t slide = 0;
-    const bool slideIsShown = scope.attempt([&] {
-        const Object& app = session.PowerPointApp;
-        session.SessionPresentation = app.get("ActivePresentation").toObject();
-        slide = app.get("ActiveWindow").get("View").get("Slide").get("SlideIndex").toLong();
-    });
-    if (!slideIsShown) {
-        session::ShowWarningNotice(
-            session.notices,
-            "No PowerPoint presentation is open. Open or create a presentation, then try again.");
-        return false;
-    }
-    scope.attempt([&] { session::SetExcelWindow(session, session::ExcelWindow::Normal); });
-    bool isThere = false;
-    if (!scope.attempt([&] { isThere = InsertPicture(session, row, slide); })) {
-        session::ShowWarningNotice(session.notices, scope.lastFailure()->description());
-    }
-    return isThere;
 }
 
 }  // namespace powerpoint

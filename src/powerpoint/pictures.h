@@ -19,9 +19,4 @@ std::int32_t ExportRowsAsPictures(Batch& batch);
 bool InsertPicture(session::OfficeSession& session, const catalogue::ExportItem& row,
                    std::int32_t slideIndex);
 
-/// Puts one row on the slide in view of the active presentation, whether it is checked or not. True
-/// if it is there; otherwise a notice has said why not.
-bool InsertOneItem(session::OfficeSession& session, const catalogue::ExportItem& row,
-                   const catalogue::ExportChoices& choices);
-
 }  // namespace powerpoint

@@ -25,4 +25,14 @@ void WaitMilliseconds(OfficeSession& session, std::int32_t duration) {
     }
 }
 
+void SleepMilliseconds(OfficeSession& session, std::uint32_t duration) {
+    if (session.suite.pacing() == office::Pacing::Asynchronous) session.host.sleep(duration);
+}
+
+void PumpEvents(OfficeSession& session, std::int32_t rounds) {
+    const bool goesOn = session.suite.pacing() == office::Pacing::Asynchronous;
+    for (std::int32_t round = 0; round < (goesOn ? rounds : 1); ++round)
+        session.host.letEventsRun();
+}
+
 }  // namespace session

@@ -11,4 +11,11 @@ namespace session {
 /// events then run once.
 void WaitMilliseconds(OfficeSession& session, std::int32_t duration);
 
+/// The same without letting events run.
+void SleepMilliseconds(OfficeSession& session, std::uint32_t duration);
+
+/// Lets events run so many times, for a command that goes on in the application after its call has
+/// returned; once where none does.
+void PumpEvents(OfficeSession& session, std::int32_t rounds);
+
 }  // namespace session

@@ -172,4 +172,18 @@ TEST_F(Review, EscapesNamesInItsPage) {
               std::string::npos);
 }
 
+TEST_F(Review, AsksOverWhatTheFormatCannotDoForAnItem) {
+    openDeck(1);
+    list.rows.push_back(row("Chart 2", "Hidden", session::ItemKind::Chart));
+    test.suite.remarkOn(office::PasteAs::Embedded, "it stays <small>");
+    const auto lines = [&](catalogue::ExportFormat format) {
+        choices.format = format;
+        return catalogue::reviewExport(test.session, list, choices).ReviewLines;
+    };
+    const std::string hidden = "- 1 checked item(s) are on hidden worksheets and will be skipped.";
+    EXPECT_EQ(lines(catalogue::ExportFormat::Embedded),
+              hidden + "\r\n- Chart 1 of /documents/Book1.xlsx, sheet Sales: it stays <small>\r\n");
+    EXPECT_EQ(lines(catalogue::ExportFormat::Linked), hidden + "\r\n");
+}
+
 }  // namespace

@@ -67,7 +67,9 @@ std::vector<std::string> DoubleSuite::remarksOn(office::PasteAs as,
     std::vector<std::string> lines;
     const auto remark = remarks_.find(as);
     for (const office::PasteItem& item : items) {
-        if (remark != remarks_.end()) lines.push_back(item.name + ": " + remark->second);
+        if (remark != remarks_.end())
+            lines.push_back(fmt::format("{} of {}, sheet {}: {}", item.name, item.source.file,
+                                        item.source.sheet, remark->second));
     }
     return lines;
 }

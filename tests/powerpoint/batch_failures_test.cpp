@@ -32,7 +32,7 @@ TEST_F(BatchFailuresTest, AFailedItemIsToldAndTheOthersGoOnWhereTheCallerAsks) {
     batch.onFailedItem = [&](const catalogue::ExportItem& row, const office::Failure& failure) {
         failed.push_back(row.name + ": " + failure.source());
     };
-    EXPECT_EQ(powerpoint::ExportRowsAsPictures(batch), 3);
+    EXPECT_EQ(powerpoint::ExportRows(batch), 3);
     EXPECT_EQ(failed, std::vector<std::string>{"Chart 2: Chart.Export"});
     EXPECT_EQ(picturesOn(3).size(), 0U);
     EXPECT_EQ(picturesOn(4).size(), 1U);

@@ -7,7 +7,7 @@
 
 #include "catalogue/export_list.h"
 #include "office_double/suite.h"
-#include "powerpoint/pictures.h"
+#include "powerpoint/formats.h"
 #include "session/office_session.h"
 #include "session_doubles/recording_notices.h"
 #include "session_doubles/recording_progress.h"
@@ -82,7 +82,7 @@ protected:
     void exportRows() {
         suite.log().clear();
         powerpoint::Batch batch{session, list, choices, {}, options};
-        done = powerpoint::ExportRowsAsPictures(batch);
+        done = powerpoint::ExportRows(batch);
     }
 
     /// Names of the shapes on a slide apart from its placeholders.

@@ -90,10 +90,6 @@ TEST_F(PowerPointDialog, TellsHowManyObjectsGoWhereAndOffersWhatTheirFormatHas) 
             EXPECT_EQ(browser->hasLink("murvane://action/style"), it.hasTools) << it.name;
             EXPECT_EQ(browser->hasLink("murvane://action/layout"), it.hasTools) << it.name;
             EXPECT_EQ(browser->hasLink("murvane://toggle/checkShadow"), it.hasShadow) << it.name;
-            if (it.format == ExportFormat::Pictures) return;
-            press(dialog, "ContinueOk");
-            EXPECT_TRUE(shows(dialog, "can&#39;t export in this format yet")) << it.name;
-            EXPECT_EQ(deck.slideCount(), 3);
         });
     }
 }

@@ -10,6 +10,7 @@
 #include "catalogue/inventory.h"
 #include "office/failure.h"
 #include "office/text.h"
+#include "powerpoint/selection_to_slide.h"
 #include "session/launcher.h"
 
 #ifdef MURVANE_HAS_WINDOWS
@@ -40,6 +41,9 @@ int runInTerminal(const std::string& commandLine, apps::Console& console,
 
     session::CommandHandlers handlers;
     handlers.CountWorkbookItems = [&] { catalogue::CountWorkbookItems(session); };
+    handlers.PasteSelectionToSlide = [&](session::SlidePaste mode) {
+        powerpoint::PasteSelectionToSlide(session, mode);
+    };
     return session::Main(session, commandLine, handlers);
 }
 

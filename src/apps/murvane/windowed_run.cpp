@@ -12,9 +12,10 @@
 #include "panels/about_form.h"
 #include "panels/form_progress.h"
 #include "panels/notices.h"
+#include "powerpoint/formats.h"
 #include "powerpoint/layout_form.h"
 #include "powerpoint/options_dialog.h"
-#include "powerpoint/pictures.h"
+#include "powerpoint/selection_to_slide.h"
 #include "session/launcher.h"
 
 namespace apps {
@@ -61,6 +62,9 @@ session::CommandHandlers Windows::handlers() {
     handlers.ShowAboutForm = [this] { panels::ShowAboutForm(session_, desktop_, version); };
     handlers.ShowLayoutUtility = [this] { powerpoint::ShowLayoutUtility(session_, desktop_); };
     handlers.ShowMainForm = [this] { showMainForm(); };
+    handlers.PasteSelectionToSlide = [this](session::SlidePaste mode) {
+        powerpoint::PasteSelectionToSlide(session_, mode);
+    };
     handlers.UnloadAllForms = [this] { desktop_.unloadAll(); };
     return handlers;
 }

@@ -1,6 +1,7 @@
 #include "apps/murvane_export/options.h"
 
 #include <CLI/CLI.hpp>
+#include <fmt/format.h>
 
 #include <algorithm>
 #include <map>
@@ -47,9 +48,21 @@ const std::map<std::string, std::int16_t>& stylesByName() {
     return styles;
 }
 
-std::vector<std::string> styleNames() {
+const std::map<std::string, catalogue::ExportFormat>& formatsByName() {
+    using catalogue::ExportFormat;
+    static const std::map<std::string, ExportFormat> formats = {
+        {"pictures", ExportFormat::Pictures},
+        {"editable", ExportFormat::Editable},
+        {"embedded", ExportFormat::Embedded},
+        {"linked", ExportFormat::Linked},
+    };
+    return formats;
+}
+
+template <class Number>
+std::vector<std::string> namesOf(const std::map<std::string, Number>& known) {
     std::vector<std::string> names;
-    for (const auto& [name, number] : stylesByName()) names.push_back(name);
+    for (const auto& [name, number] : known) names.push_back(name);
     return names;
 }
 
@@ -62,6 +75,8 @@ CLI::Validator oneOf(std::vector<std::string> words) {
 struct RawTexts {
     std::string destination = "slides";
     std::string slides = "new";
+    std::string format = "pictures";
+    std::string links;
     std::string style = "none";
     std::string top;
     std::string width;
@@ -115,6 +130,19 @@ void declareSlides(CLI::App& app, Options& options, RawTexts& raw) {
     app.add_option("--to", raw.destination, "Destination")
         ->check(oneOf({"slides"}))
         ->type_name("slides");
+    app.add_option("--format", raw.format,
+                   "What items become: pictures; charts and tables that can be edited in the\n"
+                   "presentation; embedded workbooks; objects linked to the workbook's file")
+        ->check(oneOf(namesOf(formatsByName())))
+        ->type_name("pictures|editable|embedded|linked");
+    app.add_flag("--embed-only-sheet", options.embedsSheetAlone,
+                 "With --format embedded: hand on the item's sheet alone, with values in place of\n"
+                 "references to the rest of the workbook");
+    app.add_option("--links", raw.links,
+                   "With --format linked: name the workbook by its full path, or by its way from\n"
+                   "the presentation")
+        ->check(oneOf({"absolute", "relative"}))
+        ->type_name("absolute|relative");
     app.add_option("--slides", raw.slides, "New slides at the end, or those that the items name")
         ->check(oneOf({"new", "predefined"}))
         ->type_name("new|predefined");
@@ -123,7 +151,7 @@ void declareSlides(CLI::App& app, Options& options, RawTexts& raw) {
     app.add_option("--style", raw.style,
                    "Look of the pictures: none, shadow-around, shadow, rounded, reflection or\n"
                    "reflection-rounded")
-        ->check(oneOf(styleNames()))
+        ->check(oneOf(namesOf(stylesByName())))
         ->type_name("NAME");
     app.add_flag("--shadow", options.shadow, "A shadow for the last shape of each slide");
     app.add_option("--top", raw.top, "Top edge, as a share of the slide's height")
@@ -138,6 +166,8 @@ void declareSlides(CLI::App& app, Options& options, RawTexts& raw) {
 void finish(Options& options, const RawTexts& raw) {
     if (raw.list && raw.check) throw UsageError("--list and --check don't go together.");
     options.task = raw.list ? Task::List : raw.check ? Task::Check : Task::Export;
+    options.format = formatsByName().at(raw.format);
+    options.linksAreRelative = raw.links == "relative";
     options.predefinedSlides = raw.slides == "predefined";
     options.pictureStyle = stylesByName().at(raw.style);
     options.top = placementOf("--top", raw.top);
@@ -150,6 +180,13 @@ void finish(Options& options, const RawTexts& raw) {
     if (options.task == Task::Export && options.output.empty()) {
         throw UsageError("Name the file to write with --output OUT.pptx.");
     }
+    const auto requireFormat = [&](bool isGiven, const char* option, const char* format) {
+        if (isGiven && raw.format != format)
+            throw UsageError(fmt::format("{} goes with --format {}.", option, format));
+    };
+    requireFormat(options.embedsSheetAlone, "--embed-only-sheet", "embedded");
+    requireFormat(!raw.links.empty(), "--links", "linked");
+    requireFormat(raw.style != "none", "--style", "pictures");
     if (options.json && options.task != Task::List) throw UsageError("--json goes with --list.");
     if (options.allItems && !options.items.empty()) {
         throw UsageError("--all and --items don't go together.");

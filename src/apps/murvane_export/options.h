@@ -6,6 +6,8 @@
 #include <variant>
 #include <vector>
 
+#include "catalogue/export_list.h"
+
 namespace unattended {
 
 enum class Task { Export, List, Check };
@@ -34,6 +36,11 @@ struct Options {
     std::vector<std::string> order;
     std::string captionsFile;
 
+    catalogue::ExportFormat format = catalogue::ExportFormat::Pictures;
+    /// Embedded workbooks hold the item's sheet and nothing else.
+    bool embedsSheetAlone = false;
+    /// Links name the workbook by its way from the output's folder.
+    bool linksAreRelative = false;
     bool predefinedSlides = false;
     bool titles = false;
     bool source = false;

@@ -23,7 +23,7 @@
 #include "catalogue/list_rows.h"
 #include "catalogue/review.h"
 #include "office/failure.h"
-#include "powerpoint/pictures.h"
+#include "powerpoint/formats.h"
 #include "session/launcher.h"
 #include "session/powerpoint_session.h"
 #include "session/workbook_store.h"
@@ -105,7 +105,7 @@ std::int32_t exportToSlides(powerpoint::Batch& batch, const Options& options) {
                      .pictureStyle = options.pictureStyle,
                      .placesShapes = options.placesShapes()};
     if (options.placesShapes()) storePlacement(batch.session, options);
-    return powerpoint::ExportRowsAsPictures(batch);
+    return powerpoint::ExportRows(batch);
 }
 
 std::string describe(const ExportItem& row, const office::Failure& failure) {
@@ -128,6 +128,7 @@ public:
           session_(suite, surroundings.host, notices_, progress_),
           documents_(session_) {
         choices_.predefinedSlides = options.predefinedSlides;
+        choices_.format = options.format;
     }
 
     int perform();

@@ -278,11 +278,15 @@ RangePlace cellsOf(const InSheet& home, const Value& wanted, const std::string& 
     return *found;
 }
 
-/// What `Rows` and `Columns` take: a number, "B:D" or "1:5", or a single "B".
+/// What `Rows` and `Columns` take: a number, "B:D" or "1:5", or a single "B". Columns may be
+/// counted too.
 CellBlock linesOf(const Value& which, bool rows, const std::string& source) {
     if (which.isText()) {
         const std::string text = which.toText();
-        const auto block = blockOf(text.find(':') == std::string::npos ? text + ":" + text : text);
+        auto block = blockOf(text.find(':') == std::string::npos ? text + ":" + text : text);
+        if (!rows && block && block->spansAllColumns() &&
+            block->lastRow <= CellBlock::lastColumnOfSheet)
+            return {block->firstRow, 0, block->lastRow, CellBlock::lastRowOfSheet};
         if (block && (rows ? block->spansAllColumns() : block->spansAllRows())) return *block;
     } else {
         const std::int32_t place = which.toLong() - 1;

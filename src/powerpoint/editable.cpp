@@ -1,0 +1,103 @@
+#include "powerpoint/editable.h"
+
+#include <fmt/format.h>
+
+#include "catalogue/export_run.h"
+#include "office/failure_patterns.h"
+#include "powerpoint/pasted_shape.h"
+#include "powerpoint/row_copies.h"
+
+namespace powerpoint {
+
+namespace {
+
+using catalogue::ExportItem;
+using office::arg;
+using office::Object;
+using session::OfficeSession;
+
+constexpr std::int32_t defaultData = 0;
+
+void pasteChart(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex) {
+    const Object slide = slideOf(session, slideIndex);
+    catalogue::RestoreScreenUpdating(session);
+    slide.call("Select");
+    slide.get("Shapes").call("PasteSpecial", defaultData);
+    session.host.letEventsRun();
+    describeLastShape(slide, row);
+}
+
+bool PasteChartSheetEditable(OfficeSession& session, const ExportItem& row,
+                             std::int32_t slideIndex) {
+    if (!CopyChartSheet(session, row.sheet, CopyPause::None)) {
+        office::ContinueOnFailure scope;
+        Object chart;
+        scope.attempt([&] {
+            chart = session.ActiveBook.get("Sheets")
+                        .get("Item", row.sheet)
+                        .call("ChartObjects")
+                        .get("Item", 1)
+                        .get("Chart")
+                        .toObject();
+        });
+        if (!chart) {
+            session::ShowWarningNotice(session.notices, "No chart found in sheet: " + row.sheet);
+            return false;
+        }
+        chart.get("ChartArea").call("Copy");
+    }
+    pasteChart(session, row, slideIndex);
+    return true;
+}
+
+bool PasteEmbeddedChartEditable(OfficeSession& session, const ExportItem& row,
+                                std::int32_t slideIndex) {
+    session.ActiveBook.get("Sheets")
+        .get("Item", row.sheet)
+        .call("ChartObjects")
+        .get("Item", row.name)
+        .get("Chart")
+        .get("ChartArea")
+        .call("Copy");
+    pasteChart(session, row, slideIndex);
+    return true;
+}
+
+bool PasteRangeEditable(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex) {
+    if (!CopyRange(session, row, CopyPause::None)) {
+        session::ShowWarningNotice(session.notices,
+                                   fmt::format("Named range '{}' not found.", row.name));
+        return false;
+    }
+    const Object slide = slideOf(session, slideIndex);
+    slide.call("Select");
+    catalogue::RestoreScreenUpdating(session);
+    slide.get("Shapes").call("PasteSpecial", arg("DataType", defaultData),
+                             arg("DisplayAsIcon", false), arg("IconFileName", ""),
+                             arg("IconIndex", 0), arg("IconLabel", ""), arg("Link", false));
+    session.host.letEventsRun();
+    describeLastShape(slide, row);
+    return true;
+}
+
+}  // namespace
+
+bool PasteRowEditable(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex) {
+    catalogue::RestoreScreenUpdating(session);
+    if (row.isChartSheet()) return PasteChartSheetEditable(session, row, slideIndex);
+    if (row.isEmbeddedChart()) return PasteEmbeddedChartEditable(session, row, slideIndex);
+    return PasteRangeEditable(session, row, slideIndex);
+}
+
+std::int32_t ExportRowsAsEditable(Batch& batch) {
+    return RunBatch(batch,
+                    {.prepareScreen = [](Batch& b) { catalogue::RestoreScreenUpdating(b.session); },
+                     .insertItem =
+                         [](Batch& b, const ExportItem& row, std::int32_t slideIndex) {
+                             return PasteRowEditable(b.session, row, slideIndex);
+                         },
+                     .endsWithoutItems = true,
+                     .showsCompletion = true});
+}
+
+}  // namespace powerpoint

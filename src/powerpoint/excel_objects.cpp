@@ -1,0 +1,62 @@
+#include "powerpoint/excel_objects.h"
+
+#include "catalogue/export_run.h"
+#include "powerpoint/object_paste.h"
+#include "session/powerpoint_session.h"
+
+namespace powerpoint {
+
+namespace {
+
+using catalogue::ExportItem;
+using office::arg;
+using office::Object;
+using office::Value;
+using session::OfficeSession;
+
+/// PowerPoint's number of an embedded OLE object.
+constexpr std::int32_t oleObject = 10;
+
+bool PasteEmbeddedObject(OfficeSession& session, std::int32_t slideIndex) {
+    return pasteByAttempts(
+        session, slideIndex, NextAttempt::AfterFailureOrNothing,
+        {[](const Object& slide) {
+             return slide.get("Shapes").call("PasteSpecial", arg("DataType", oleObject),
+                                             arg("Link", false));
+         },
+         [](const Object& slide) { return slide.get("Shapes").call("PasteSpecial", oleObject); },
+         [&](const Object&) {
+             session::PresentationWindow(session).get("View").call(
+                 "PasteSpecial", arg("DataType", oleObject), arg("DisplayAsIcon", false),
+                 arg("Link", false));
+             return Value();
+         }});
+}
+
+constexpr ObjectRoute embedded{.paste = PasteEmbeddedObject,
+                               .pause = CopyPause::UntilRendered,
+                               .chartSheetTarget = "as an embedded Excel object.",
+                               .chartTarget = "to PowerPoint.",
+                               .rangeTarget = "as an embedded Excel object."};
+
+}  // namespace
+
+bool PasteRowAsExcelObject(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex) {
+    return pasteRowAsObject(session, row, slideIndex, embedded);
+}
+
+std::int32_t ExportRowsAsExcelObjects(Batch& batch) {
+    return RunBatch(
+        batch, {.prepareScreen = [](Batch& b) { catalogue::RestoreScreenUpdating(b.session); },
+                .insertItem =
+                    [](Batch& b, const ExportItem& row, std::int32_t slideIndex) {
+                        return PasteRowAsExcelObject(b.session, row, slideIndex);
+                    },
+                .endsWithoutItems = true,
+                .showsCompletion = true,
+                .noneArrived = "No objects could be pasted as embedded Excel objects.\r\n\r\n"
+                               "Check that the selected sheets are visible and that PowerPoint can "
+                               "accept Excel objects from the clipboard."});
+}
+
+}  // namespace powerpoint

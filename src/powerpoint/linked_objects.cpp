@@ -1,0 +1,53 @@
+#include "powerpoint/linked_objects.h"
+
+#include "catalogue/export_run.h"
+#include "powerpoint/object_paste.h"
+#include "session/powerpoint_session.h"
+
+namespace powerpoint {
+
+namespace {
+
+using catalogue::ExportItem;
+using office::arg;
+using office::Object;
+using office::Value;
+using session::OfficeSession;
+
+bool PasteLinkedObject(OfficeSession& session, std::int32_t slideIndex) {
+    return pasteByAttempts(session, slideIndex, NextAttempt::AfterFailure,
+                           {[](const Object& slide) {
+                                return slide.get("Shapes").call("PasteSpecial", arg("Link", true));
+                            },
+                            [&](const Object&) {
+                                session::PresentationWindow(session).get("View").call(
+                                    "PasteSpecial", arg("Link", true));
+                                return Value();
+                            }});
+}
+
+constexpr ObjectRoute linked{.paste = PasteLinkedObject,
+                             .pause = CopyPause::None,
+                             .chartSheetTarget = "as a linked object.",
+                             .chartTarget = "as a linked object.",
+                             .rangeTarget = "as a linked object."};
+
+}  // namespace
+
+bool PasteRowAsLink(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex) {
+    return pasteRowAsObject(session, row, slideIndex, linked);
+}
+
+std::int32_t ExportRowsAsLinkedObjects(Batch& batch) {
+    return RunBatch(batch,
+                    {.prepareScreen = [](Batch& b) { catalogue::RestoreScreenUpdating(b.session); },
+                     .insertItem =
+                         [](Batch& b, const ExportItem& row, std::int32_t slideIndex) {
+                             return PasteRowAsLink(b.session, row, slideIndex);
+                         },
+                     .endsWithoutItems = true,
+                     .showsCompletion = true,
+                     .restoresExcel = false});
+}
+
+}  // namespace powerpoint

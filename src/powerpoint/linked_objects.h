@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdint>
+
+#include "powerpoint/batch_frame.h"
+
+/// The linked route: an object that keeps a reference to the workbook's file and can be updated
+/// when that changes.
+namespace powerpoint {
+
+/// Exports the taken rows as linked objects. Result and failures as with `RunBatch`. Excel's window
+/// and rows stay as they are.
+std::int32_t ExportRowsAsLinkedObjects(Batch& batch);
+
+/// Puts one row's object on slide `slideIndex` (from 1) of the session's presentation. Whether it
+/// is there; if not, a notice has said why.
+bool PasteRowAsLink(session::OfficeSession& session, const catalogue::ExportItem& row,
+                    std::int32_t slideIndex);
+
+}  // namespace powerpoint

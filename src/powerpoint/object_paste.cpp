@@ -1,0 +1,87 @@
+#include "powerpoint/object_paste.h"
+
+#include <fmt/format.h>
+
+#include <string>
+
+#include "catalogue/export_run.h"
+#include "office/failure_patterns.h"
+#include "powerpoint/pasted_shape.h"
+#include "session/powerpoint_session.h"
+#include "session/waits.h"
+
+namespace powerpoint {
+
+namespace {
+
+using catalogue::ExportItem;
+using office::Object;
+using office::Value;
+using session::OfficeSession;
+
+/// A row's copy, and the notices of its kind.
+struct RowTexts {
+    bool isCopied;
+    std::string copyFailed;
+    std::string pasteFailed;
+};
+
+RowTexts copyRow(OfficeSession& session, const ExportItem& row, const ObjectRoute& route) {
+    if (row.isChartSheet())
+        return {
+            CopyChartSheet(session, row.sheet, route.pause),
+            fmt::format("No chart found in sheet: {}", row.sheet),
+            fmt::format("Could not paste chart sheet '{}' {}", row.sheet, route.chartSheetTarget)};
+    if (row.isEmbeddedChart())
+        return {CopyEmbeddedChart(session, row.sheet, row.name, route.pause),
+                fmt::format("Chart '{}' was not found on sheet '{}'.", row.name, row.sheet),
+                fmt::format("Could not paste embedded chart '{}' {}", row.name, route.chartTarget)};
+    return {CopyRange(session, row, route.pause),
+            fmt::format("Named range '{}' not found.", row.name),
+            fmt::format("Could not paste '{}' {}", row.name, route.rangeTarget)};
+}
+
+}  // namespace
+
+bool pasteByAttempts(OfficeSession& session, std::int32_t slideIndex, NextAttempt next,
+                     const std::vector<PasteAttempt>& attempts) {
+    constexpr std::int32_t slideShownMs = 250;
+    office::ContinueOnFailure scope;
+    Object shapes;
+    Object slide;
+    std::int32_t before = 0;
+    const bool isShown = scope.attempt([&] {
+        slide = slideOf(session, slideIndex);
+        shapes = slide.get("Shapes").toObject();
+        before = shapes.get("Count").toLong();
+        session::PresentationWindow(session).get("View").call("GotoSlide", slideIndex);
+        slide.call("Select");
+    });
+    if (!isShown) return false;
+    catalogue::RestoreScreenUpdating(session);
+    session::WaitMilliseconds(session, slideShownMs);
+    Value pasted;
+    for (const PasteAttempt& attempt : attempts) {
+        const bool went = scope.attempt([&] { pasted = attempt(slide); });
+        if (went && (!pasted.isEmpty() || next == NextAttempt::AfterFailure)) break;
+    }
+    session.host.letEventsRun();
+    return !pasted.isEmpty() ||
+           scope.read([&] { return shapes.get("Count").toLong() > before; }, false);
+}
+
+bool pasteRowAsObject(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex,
+                      const ObjectRoute& route) {
+    catalogue::RestoreScreenUpdating(session);
+    const RowTexts texts = copyRow(session, row, route);
+    const bool isThere = texts.isCopied && route.paste(session, slideIndex);
+    if (isThere) {
+        describeLastShape(slideOf(session, slideIndex), row);
+    } else {
+        session::ShowWarningNotice(session.notices,
+                                   texts.isCopied ? texts.pasteFailed : texts.copyFailed);
+    }
+    return isThere;
+}
+
+}  // namespace powerpoint

@@ -1,0 +1,27 @@
+#include "powerpoint/pasted_shape.h"
+
+#include "office/failure_patterns.h"
+
+namespace powerpoint {
+
+using catalogue::ExportItem;
+using office::Object;
+
+Object slideOf(const session::OfficeSession& session, std::int32_t slideIndex) {
+    return session.SessionPresentation.get("Slides").get("Item", slideIndex).toObject();
+}
+
+void describeShape(const Object& shape, const ExportItem& row) {
+    const std::string& name = row.isChartSheet() ? row.sheet : row.name;
+    office::ContinueOnFailure().attempt(
+        [&] { shape.put("AlternativeText", row.caption.empty() ? name : row.caption); });
+}
+
+void describeLastShape(const Object& slide, const ExportItem& row) {
+    office::ContinueOnFailure().attempt([&] {
+        const Object shapes = slide.get("Shapes").toObject();
+        describeShape(shapes.get("Item", shapes.get("Count").toLong()).toObject(), row);
+    });
+}
+
+}  // namespace powerpoint

@@ -1,0 +1,261 @@
+#include "powerpoint/selection_to_slide.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "office/failure_patterns.h"
+#include "office/text.h"
+#include "session/powerpoint_session.h"
+#include "session/waits.h"
+
+namespace powerpoint {
+
+namespace {
+
+using office::arg;
+using office::Object;
+using session::OfficeSession;
+using session::SlidePaste;
+
+constexpr std::int32_t titleLayout = 1;
+constexpr std::int32_t titleOnlyLayout = 11;
+constexpr std::int32_t blankLayout = 12;
+constexpr std::int32_t enhancedMetafile = 2;
+constexpr std::int32_t png = 6;
+constexpr std::int32_t oleObject = 10;
+
+enum class SourceKind { Chart, Range };
+
+/// One run of the command: what was found at its start is held.
+class SelectionPaste {
+public:
+    SelectionPaste(OfficeSession& session, SlidePaste mode) : session_(session), mode_(mode) {}
+
+    void run();
+
+private:
+    [[nodiscard]] bool findsPresentation();
+    void findSlide();
+    void prepareOldSlide();
+    /// False if the command has told the user that it can't go on.
+    [[nodiscard]] bool copyAndPaste();
+    void PasteByMode(SourceKind kind);
+    void pasteChartAsPicture();
+    void pasteRangeAsPicture();
+    [[nodiscard]] bool PasteRangeAsPicture();
+    void pasteFormatted(SourceKind kind);
+    void PasteWithSourceFormatting();
+    void putBack(std::int32_t viewType);
+
+    [[nodiscard]] Object window() const {
+        return session_.PowerPointApp.get("ActiveWindow").toObject();
+    }
+    [[nodiscard]] Object slide() const {
+        return session_.SessionPresentation.get("Slides").get("Item", slideIndex_).toObject();
+    }
+    void showSlide() const { window().get("View").call("GotoSlide", slideIndex_); }
+    void executeSourceFormatting() const {
+        session_.PowerPointApp.get("CommandBars").call("ExecuteMso", "PasteSourceFormatting");
+    }
+
+    OfficeSession& session_;
+    SlidePaste mode_;
+    std::int32_t slideIndex_ = 0;
+    /// Before version 15 there is no command for source formatting that charts could use, and a
+    /// blank slide takes none.
+    bool isOld_ = false;
+};
+
+void SelectionPaste::run() {
+    if (!findsPresentation()) {
+        session::ShowWarningNotice(
+            session_.notices,
+            "No open PowerPoint found. \r Please open an existing presentation or create a new "
+            "one");
+        return;
+    }
+    findSlide();
+    const std::int32_t viewType = session::ExitShowNormalView(session_);
+    constexpr double firstWithRibbonPaste = 15;
+    isOld_ = office::leadingNumber(session_.PowerPointApp.get("Version").toText()) <
+             firstWithRibbonPaste;
+    if (isOld_) prepareOldSlide();
+    if (!copyAndPaste()) return;
+    session_.host.letEventsRun();
+    window().get("Selection").call("Unselect");
+    putBack(viewType);
+}
+
+bool SelectionPaste::findsPresentation() {
+    session::AttachPowerPoint(session_);
+    if (!session_.PowerPointFound ||
+        session_.PowerPointApp.get("Presentations").get("Count").toLong() == 0)
+        return false;
+    session_.SessionPresentation = session_.PowerPointApp.get("ActivePresentation").toObject();
+    return true;
+}
+
+/// The slide on show, read before a running show ends; the last one where none is.
+void SelectionPaste::findSlide() {
+    office::ContinueOnFailure scope;
+    const auto readSlide = [&] {
+        scope.attempt(
+            [&] { slideIndex_ = window().get("View").get("Slide").get("SlideIndex").toLong(); });
+    };
+    readSlide();
+    scope.attempt([&] { session::SetExcelWindow(session_, session::ExcelWindow::Normal); });
+    scope.attempt([&] { session::RaisePresentation(session_); });
+    if (!scope.failed()) return;
+    scope.attempt([&] {
+        slideIndex_ = session_.SessionPresentation.get("Slides").get("Count").toLong();
+        showSlide();
+    });
+    readSlide();
+}
+
+void SelectionPaste::prepareOldSlide() {
+    office::ContinueOnFailure scope;
+    scope.attempt([&] {
+        const Object slides = window().get("Selection").get("SlideRange").toObject();
+        if (slides.get("Layout").toLong() == blankLayout) slides.put("Layout", titleLayout);
+        const Object shapes = slides.get("Shapes").toObject();
+        shapes.get("Item", shapes.get("Count").toLong()).call("Select");
+    });
+}
+
+bool SelectionPaste::copyAndPaste() {
+    constexpr std::uint32_t chartSheetMs = 300;
+    constexpr std::uint32_t embeddedChartMs = 1000;
+    constexpr std::uint32_t cellsMs = 300;
+    constexpr std::int32_t asOnScreen = 1;
+    constexpr std::int32_t pictureFormat = -4147;
+
+    const Object& book = session_.ActiveBook;
+    const auto pasteChart = [&](std::uint32_t pauseMs) {
+        book.get("ActiveChart").get("ChartArea").call("Copy");
+        session::SleepMilliseconds(session_, pauseMs);
+        PasteByMode(SourceKind::Chart);
+        return true;
+    };
+    if (book.get("ActiveSheet").toObject().typeName() == "Chart") return pasteChart(chartSheetMs);
+    const office::Value selected = session_.ExcelApp.get("Selection");
+    const std::string type = selected.isObject() ? selected.toObject().typeName() : std::string();
+    if (type == "ChartArea") return pasteChart(embeddedChartMs);
+    if (type != "Range") return true;
+    const Object cells = selected.toObject();
+    if (cells.get("Areas").get("Count").toLong() > 1) {
+        session::ShowWarningNotice(session_.notices, "Murvane does not support multiple selection");
+        return false;
+    }
+    if (mode_ == SlidePaste::Pictures) {
+        cells.call("CopyPicture", arg("Appearance", asOnScreen), arg("Format", pictureFormat));
+        session::SleepMilliseconds(session_, cellsMs);
+    } else {
+        cells.call("Copy");
+    }
+    PasteByMode(SourceKind::Range);
+    return true;
+}
+
+void SelectionPaste::PasteByMode(SourceKind kind) {
+    switch (mode_) {
+        case SlidePaste::Pictures:
+            kind == SourceKind::Chart ? pasteChartAsPicture() : pasteRangeAsPicture();
+            break;
+        case SlidePaste::SourceFormatting:
+            pasteFormatted(kind);
+            break;
+        case SlidePaste::EmbeddedObject:
+            slide().get("Shapes").call("PasteSpecial", oleObject);
+            break;
+        case SlidePaste::LinkedObject:
+            slide().get("Shapes").call("PasteSpecial", arg("Link", true));
+            break;
+    }
+}
+
+void SelectionPaste::pasteChartAsPicture() {
+    office::ContinueOnFailure scope;
+    scope.attempt([&] { showSlide(); });
+    scope.attempt([&] { window().get("View").call("PasteSpecial", enhancedMetafile); });
+    if (!scope.failed()) return;
+    scope.attempt([&] { slide().get("Shapes").call("PasteSpecial", enhancedMetafile); });
+}
+
+void SelectionPaste::pasteRangeAsPicture() {
+    constexpr std::int32_t sheetShownMs = 500;
+    if (PasteRangeAsPicture()) return;
+    office::ContinueOnFailure scope;
+    scope.attempt([&] {
+        session_.ActiveBook.get("Sheets").get("Item", session_.ActiveSheetName).call("Select");
+    });
+    session::WaitMilliseconds(session_, sheetShownMs);
+    session::ShowWarningNotice(
+        session_.notices,
+        "Could not paste the selection to PowerPoint. Click the target slide and try again.");
+}
+
+bool SelectionPaste::PasteRangeAsPicture() {
+    constexpr std::uint32_t slideShownMs = 200;
+    office::ContinueOnFailure scope;
+    const bool isReady = scope.attempt([&] {
+        showSlide();
+        session_.host.letEventsRun();
+        session::SleepMilliseconds(session_, slideShownMs);
+        if (slide().get("Layout").toLong() == blankLayout) slide().put("Layout", titleOnlyLayout);
+    });
+    return isReady && (scope.attempt([&] { window().get("View").call("PasteSpecial", png); }) ||
+                       scope.attempt([&] { slide().get("Shapes").call("PasteSpecial", png); }) ||
+                       scope.attempt([&] { window().get("View").call("PasteSpecial"); }));
+}
+
+void SelectionPaste::pasteFormatted(SourceKind kind) {
+    constexpr std::int32_t defaultData = 0;
+    constexpr std::int32_t ribbonMs = 1000;
+    if (kind == SourceKind::Range) {
+        showSlide();
+        if (isOld_) {
+            if (slide().get("Layout").toLong() == blankLayout)
+                slide().put("Layout", titleOnlyLayout);
+            const Object shapes = slide().get("Shapes").toObject();
+            shapes.get("Item", shapes.get("Count").toLong()).call("Select");
+        }
+        PasteWithSourceFormatting();
+    } else if (isOld_) {
+        slide().get("Shapes").call("PasteSpecial", arg("DataType", defaultData));
+    } else {
+        executeSourceFormatting();
+        session::WaitMilliseconds(session_, ribbonMs);
+    }
+}
+
+/// The ribbon's command runs on its own after the call; the pauses around it are rounds of events.
+void SelectionPaste::PasteWithSourceFormatting() {
+    constexpr std::int32_t rounds = 5000;
+    const Object target = slide();
+    target.call("Select");
+    session::PumpEvents(session_, rounds);
+    target.call("Select");
+    session::PumpEvents(session_, rounds);
+    executeSourceFormatting();
+    session_.PowerPointApp.get("CommandBars").call("ReleaseFocus");
+    session::PumpEvents(session_, rounds);
+}
+
+void SelectionPaste::putBack(std::int32_t viewType) {
+    office::ContinueOnFailure scope;
+    const Object& excel = session_.ExcelApp;
+    scope.attempt([&] { window().put("ViewType", viewType); });
+    scope.attempt([&] { session::SetExcelWindow(session_, session::ExcelWindow::Maximised); });
+    scope.attempt([&] { excel.get("Rows", "1:500000").get("EntireRow").put("Hidden", false); });
+    scope.attempt([&] { excel.get("Columns", "1:200").get("EntireColumn").put("Hidden", false); });
+}
+
+}  // namespace
+
+void PasteSelectionToSlide(OfficeSession& session, SlidePaste mode) {
+    SelectionPaste(session, mode).run();
+}
+
+}  // namespace powerpoint

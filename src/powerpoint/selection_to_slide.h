@@ -1,0 +1,15 @@
+#pragma once
+
+#include "session/launcher.h"
+#include "session/office_session.h"
+
+/// What is selected in Excel goes onto the slide on show in PowerPoint, at once and without a form.
+namespace powerpoint {
+
+/// The whole command. Selections other than a chart or cells are passed over without a word, and
+/// several areas get a notice. A paste that fails is a failure but for pictures, which have their
+/// own notice or none. PowerPoint's view is put back; Excel's window is made large, and the rows
+/// and columns of its active sheet are shown.
+void PasteSelectionToSlide(session::OfficeSession& session, session::SlidePaste mode);
+
+}  // namespace powerpoint
