@@ -54,7 +54,7 @@ BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, Deck where,
     apps::PosixHost host(console);
     NoNotices notices;
     Stopwatch progress;
-    unattended::DeckFileSuite withFiles(suite, host);
+    unattended::DeckFileSuite withFiles(suite, host, {});
     office::Suite& used = where == Deck::AsFile ? static_cast<office::Suite&>(withFiles) : suite;
     session::OfficeSession session(used, host, notices, progress);
     session.ExcelApp = used.attach("Excel.Application");

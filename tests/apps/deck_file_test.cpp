@@ -93,6 +93,12 @@ TEST_F(DeckFileTest, GoesThroughTheSuiteWhereItIsStrict) {
     EXPECT_EQ(deck->slideCount(), 7) << "as the suite reads it";
     EXPECT_EQ(run({bookFile, "--into", deckFile, "--output", folder.file("Out.pptm")}), 2);
     EXPECT_TRUE(console.errorHas("the suite writes no .pptm")) << console.error;
+    for (const std::vector<std::string>& words :
+         {std::vector<std::string>{"--format", "embedded", "--embed-only-sheet", "--overwrite"},
+          {"--format", "linked", "--links", "relative", "--overwrite"}}) {
+        EXPECT_EQ(exportWith(words), 2);
+        EXPECT_TRUE(console.errorHas("written without the suite")) << console.error;
+    }
 }
 
 TEST_F(DeckFileTest, IsRefusedAheadOfTheSuiteWhereNothingOpensIt) {

@@ -1,5 +1,8 @@
 #include "apps/murvane_export/deck_file_suite.h"
 
+#include <filesystem>
+
+#include "apps/utf8.h"
 #include "office/package/presentation/deck_file.h"
 
 namespace unattended {
@@ -18,11 +21,19 @@ package::MeasureText measureWith(session::Host& host) {
     };
 }
 
+package::FileRules rulesOf(office::Suite& below, session::Host& host, const Options& options) {
+    package::FileRules rules{.measure = measureWith(host), .clipboard = below.clipboard()};
+    rules.embedsSheetAlone = options.embedsSheetAlone;
+    if (options.linksAreRelative)
+        rules.linkBase = std::filesystem::absolute(apps::pathOf(options.output)).parent_path();
+    return rules;
+}
+
 }  // namespace
 
-DeckFileSuite::DeckFileSuite(office::Suite& below, session::Host& host)
+DeckFileSuite::DeckFileSuite(office::Suite& below, session::Host& host, const Options& options)
     : below_(below),
-      powerPoint_(package::powerPointOfFiles({measureWith(host), below.clipboard()})) {}
+      powerPoint_(package::powerPointOfFiles(rulesOf(below, host, options))) {}
 
 office::Object DeckFileSuite::attach(std::string_view className) {
     return className == powerPoint ? powerPoint_ : below_.attach(className);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/murvane_export/options.h"
 #include "office/suite.h"
 #include "session/host.h"
 
@@ -9,8 +10,9 @@ namespace unattended {
 /// the suite below; no window of either is looked for, since a run without a user shows none.
 class DeckFileSuite : public office::Suite {
 public:
-    /// Both have to outlive the suite. The host measures texts.
-    DeckFileSuite(office::Suite& below, session::Host& host);
+    /// Suite and host have to outlive this one. The host measures texts; the options say what of a
+    /// workbook goes into the presentation.
+    DeckFileSuite(office::Suite& below, session::Host& host, const Options& options);
 
     office::Object attach(std::string_view className) override;
     office::Object start(std::string_view className) override;

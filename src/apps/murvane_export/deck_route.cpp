@@ -58,6 +58,10 @@ DeckRoute routeFor(const Options& options) {
     if (!route.isFile && keepsMacros(options.output))
         throw UsageError(fmt::format(
             "{} can't be written: the suite writes no .pptm. Choose .pptx.", options.output));
+    if (!route.isFile && (options.embedsSheetAlone || options.linksAreRelative))
+        throw UsageError(
+            "--embed-only-sheet and --links relative need a .pptx that is written without the "
+            "suite.");
     return route;
 }
 

@@ -330,7 +330,7 @@ int runInSuite(const Options& options, const Surroundings& surroundings) {
     for (const std::string& remark : order.deck.remarks)
         surroundings.console.writeError("murvane-export: " + remark + "\n");
     if (!order.deck.isFile) return Run(options, surroundings, order, *suite).perform();
-    DeckFileSuite withFiles(*suite, surroundings.host);
+    DeckFileSuite withFiles(*suite, surroundings.host, options);
     return Run(options, surroundings, order, withFiles).perform();
 }
 
