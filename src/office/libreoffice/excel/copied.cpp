@@ -9,6 +9,7 @@
 #include "office/failure.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/range_picture.h"
+#include "office/libreoffice/excel/table_of_cells.h"
 #include "office/libreoffice/guard.h"
 #include "office/libreoffice/private_folder.h"
 #include "office/libreoffice/units.h"
@@ -139,8 +140,8 @@ std::string CopiedCells::png() const {
 }
 
 office::TableLook CopiedCells::table() const {
-    throw office::Failure(office::FailureNumber::ApplicationDefined, "Copy",
-                          "Cells can't be had as a table here");
+    SheetRecord& source = sheet();
+    return translated(source.book().desk(), [&] { return tableOfCells(source, block_); });
 }
 
 }  // namespace libreoffice::excel

@@ -1,0 +1,177 @@
+#include "office/libreoffice/excel/cell_formats.h"
+
+#include <com/sun/star/awt/FontSlant.hpp>
+#include <com/sun/star/awt/FontWeight.hpp>
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
+#include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/sheet/XSheetCellRanges.hpp>
+#include <com/sun/star/sheet/XUniqueCellFormatRangesSupplier.hpp>
+#include <com/sun/star/table/BorderLine2.hpp>
+#include <com/sun/star/table/BorderLineStyle.hpp>
+#include <com/sun/star/table/CellHoriJustify.hpp>
+#include <com/sun/star/table/CellOrientation.hpp>
+#include <com/sun/star/table/CellVertJustify2.hpp>
+
+#include <algorithm>
+
+#include "office/libreoffice/units.h"
+
+namespace libreoffice::excel {
+
+namespace {
+
+using office::CellLine;
+using office::CellLook;
+
+CellLine::Style styleOfLine(std::int16_t style) {
+    using namespace css::table::BorderLineStyle;
+    switch (style) {
+        case DOTTED:
+            return CellLine::Style::Dotted;
+        case DASHED:
+        case FINE_DASHED:
+        case DASH_DOT:
+        case DASH_DOT_DOT:
+            return CellLine::Style::Dashed;
+        case SOLID:
+        case NONE:
+            return CellLine::Style::Solid;
+        // All others are made of two.
+        default:
+            return CellLine::Style::Double;
+    }
+}
+
+/// Cells are turned in quarters here: what stands askew lies or stands up, whichever is nearer.
+std::int32_t quarterOf(std::int32_t hundredthDegrees) {
+    constexpr std::int32_t eighth = 4500;
+    if (hundredthDegrees >= eighth && hundredthDegrees <= 3 * eighth) return 90;
+    if (hundredthDegrees >= 5 * eighth && hundredthDegrees <= 7 * eighth) return 270;
+    return 0;
+}
+
+/// Takes what the properties of a format say, by their names.
+class FormatReader {
+public:
+    explicit FormatReader(const uno::Reference<uno::XInterface>& cells)
+        : values_(as<css::beans::XMultiPropertySet>(cells)->getPropertyValues(names())) {}
+
+    [[nodiscard]] CellFormat read() const {
+        CellFormat format;
+        CellLook& look = format.look;
+        look.fontName = fromUno(value<rtl::OUString>("CharFontName"));
+        look.fontSizePt = value<float>("CharHeight");
+        look.fontColour = swapRedAndBlue(std::max(value<std::int32_t>("CharColor"), 0));
+        look.isBold = value<float>("CharWeight") > css::awt::FontWeight::NORMAL;
+        look.isItalic = value<css::awt::FontSlant>("CharPosture") != css::awt::FontSlant_NONE;
+        look.isUnderlined = value<std::int16_t>("CharUnderline") != 0;
+        look.isStruckOut = value<std::int16_t>("CharStrikeout") != 0;
+        if (const auto fill = value<std::int32_t>("CellBackColor"); fill >= 0)
+            look.fill = swapRedAndBlue(fill);
+        look.across = across();
+        look.down = down();
+        look.indentPt = pointsOf(value<std::int16_t>("ParaIndent"));
+        look.wraps = value<bool>("IsTextWrapped") || look.across == CellLook::Across::Justified;
+        const auto orientation = value<css::table::CellOrientation>("Orientation");
+        look.rotation = orientation == css::table::CellOrientation_STACKED
+                            ? 270
+                            : quarterOf(value<std::int32_t>("RotateAngle"));
+        look.left = line("LeftBorder2");
+        look.right = line("RightBorder2");
+        look.top = line("TopBorder2");
+        look.bottom = line("BottomBorder2");
+        format.shrinksToFit = value<bool>("ShrinkToFit");
+        format.numberFormat = value<std::int32_t>("NumberFormat");
+        return format;
+    }
+
+private:
+    static const std::vector<std::string_view>& sortedNames() {
+        static const std::vector<std::string_view> names = {
+            "BottomBorder2", "CellBackColor", "CharColor",     "CharFontName", "CharHeight",
+            "CharPosture",   "CharStrikeout", "CharUnderline", "CharWeight",   "HoriJustify",
+            "IsTextWrapped", "LeftBorder2",   "NumberFormat",  "Orientation",  "ParaIndent",
+            "RightBorder2",  "RotateAngle",   "ShrinkToFit",   "TopBorder2",   "VertJustify"};
+        return names;
+    }
+    static const uno::Sequence<rtl::OUString>& names() {
+        static const uno::Sequence<rtl::OUString> names = namesOf(sortedNames());
+        return names;
+    }
+
+    template <class Type>
+    [[nodiscard]] Type value(std::string_view name) const {
+        const auto& all = sortedNames();
+        const auto place = std::lower_bound(all.begin(), all.end(), name) - all.begin();
+        Type found = Type();
+        values_[static_cast<sal_Int32>(place)] >>= found;
+        return found;
+    }
+    [[nodiscard]] CellLine line(std::string_view name) const {
+        const auto border = value<css::table::BorderLine2>(name);
+        return {pointsOf(static_cast<std::int32_t>(border.LineWidth)), swapRedAndBlue(border.Color),
+                styleOfLine(border.LineStyle)};
+    }
+    [[nodiscard]] CellLook::Across across() const {
+        switch (value<css::table::CellHoriJustify>("HoriJustify")) {
+            case css::table::CellHoriJustify_CENTER:
+                return CellLook::Across::Centre;
+            case css::table::CellHoriJustify_RIGHT:
+                return CellLook::Across::Right;
+            case css::table::CellHoriJustify_BLOCK:
+                return CellLook::Across::Justified;
+            default:
+                return CellLook::Across::Left;
+        }
+    }
+    [[nodiscard]] CellLook::Down down() const {
+        switch (value<std::int32_t>("VertJustify")) {
+            case css::table::CellVertJustify2::TOP:
+            case css::table::CellVertJustify2::BLOCK:
+                return CellLook::Down::Top;
+            case css::table::CellVertJustify2::CENTER:
+                return CellLook::Down::Middle;
+            default:
+                return CellLook::Down::Bottom;
+        }
+    }
+
+    uno::Sequence<uno::Any> values_;
+};
+
+/// The places in `shown` of what stands from one place on the sheet to another.
+std::pair<std::size_t, std::size_t> shownBetween(const std::vector<std::int32_t>& shown,
+                                                 std::int32_t first, std::int32_t last) {
+    const auto from = std::lower_bound(shown.begin(), shown.end(), first);
+    const auto to = std::upper_bound(from, shown.end(), last);
+    return {static_cast<std::size_t>(from - shown.begin()),
+            static_cast<std::size_t>(to - shown.begin())};
+}
+
+}  // namespace
+
+CellFormats readCellFormats(const uno::Reference<css::table::XCellRange>& cells,
+                            const ShownLines& shown) {
+    CellFormats read;
+    read.ofCells.resize(shown.rows.size() * shown.columns.size());
+    const auto formats =
+        as<css::sheet::XUniqueCellFormatRangesSupplier>(cells)->getUniqueCellFormatRanges();
+    for (sal_Int32 i = 0; i < formats->getCount(); ++i) {
+        const uno::Reference<css::sheet::XSheetCellRanges> alike(formats->getByIndex(i),
+                                                                 uno::UNO_QUERY_THROW);
+        const std::size_t place = read.formats.size();
+        read.formats.push_back(FormatReader(alike).read());
+        for (const css::table::CellRangeAddress& part : alike->getRangeAddresses()) {
+            const auto [firstRow, lastRow] = shownBetween(shown.rows, part.StartRow, part.EndRow);
+            const auto [firstColumn, lastColumn] =
+                shownBetween(shown.columns, part.StartColumn, part.EndColumn);
+            for (std::size_t row = firstRow; row < lastRow; ++row) {
+                for (std::size_t column = firstColumn; column < lastColumn; ++column)
+                    read.ofCells[row * shown.columns.size() + column] = place;
+            }
+        }
+    }
+    return read;
+}
+
+}  // namespace libreoffice::excel

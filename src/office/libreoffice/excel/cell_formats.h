@@ -1,0 +1,38 @@
+#pragma once
+
+#include <com/sun/star/table/XCellRange.hpp>
+
+#include <cstdint>
+#include <vector>
+
+#include "office/libreoffice/uno_values.h"
+#include "office/table_look.h"
+
+namespace libreoffice::excel {
+
+/// The columns and the rows of a block that aren't hidden, by their places on the sheet from 0.
+struct ShownLines {
+    std::vector<std::int32_t> columns;
+    std::vector<std::int32_t> rows;
+};
+
+/// What was set for cells, before conditional formats are applied.
+struct CellFormat {
+    /// No text, and not what merged cells span. The lines are its own: its neighbour's may be in
+    /// their place.
+    office::CellLook look;
+    bool shrinksToFit = false;
+    std::int32_t numberFormat = 0;
+};
+
+/// The formats of a block of cells: one call for each format, not for each cell.
+struct CellFormats {
+    std::vector<CellFormat> formats;
+    /// The place in `formats` of each shown cell, row by row.
+    std::vector<std::size_t> ofCells;
+};
+
+[[nodiscard]] CellFormats readCellFormats(const uno::Reference<css::table::XCellRange>& cells,
+                                          const ShownLines& shown);
+
+}  // namespace libreoffice::excel

@@ -1,0 +1,69 @@
+#include "office/libreoffice/excel/selected_cells.h"
+
+#include <com/sun/star/datatransfer/XTransferableSupplier.hpp>
+
+#include "office/failure.h"
+
+namespace libreoffice::excel {
+
+namespace {
+
+[[noreturn]] void failToCopy(const char* why) {
+    throw office::Failure(office::FailureNumber::ApplicationDefined, "Range.Copy", why);
+}
+
+CalcDocument& withWindow(CalcDocument& book) {
+    if (!book.controller().is()) failToCopy("The workbook has no window to copy from");
+    return book;
+}
+
+}  // namespace
+
+ShownForNow::ShownForNow(SheetRecord& sheet) : sheet_(&sheet) {
+    if (sheet.isShown()) {
+        sheet_ = nullptr;
+        return;
+    }
+    flag_.emplace(sheet.book());
+    sheet.show(true);
+}
+
+ShownForNow::~ShownForNow() {
+    try {
+        if (sheet_ != nullptr) sheet_->show(false);
+    } catch (const uno::Exception&) {
+        // The document or the suite has gone.
+    }
+}
+
+SelectedCells::SelectedCells(SheetRecord& sheet,
+                             const uno::Reference<css::table::XCellRange>& cells)
+    : book_(withWindow(sheet.book())),
+      shown_(sheet),
+      selection_(as<css::view::XSelectionSupplier>(book_.controller())),
+      before_(selection_->getSelection()) {
+    selection_->select(uno::Any(cells));
+}
+
+SelectedCells::~SelectedCells() {
+    try {
+        selection_->select(before_);
+    } catch (const uno::Exception&) {
+        // The document or the suite has gone.
+    }
+}
+
+/// Asked for by its name alone: the list of all offers, and the answer of one that is not offered,
+/// cost more than the copy.
+uno::Sequence<sal_Int8> SelectedCells::copyAs(const char* mimeType) const {
+    const auto copy =
+        as<css::datatransfer::XTransferableSupplier>(book_.controller())->getTransferable();
+    if (!copy.is()) failToCopy("These cells can't be copied");
+    const css::datatransfer::DataFlavor flavour(rtl::OUString::createFromAscii(mimeType), "",
+                                                cppu::UnoType<uno::Sequence<sal_Int8>>::get());
+    uno::Sequence<sal_Int8> bytes;
+    copy->getTransferData(flavour) >>= bytes;
+    return bytes;
+}
+
+}  // namespace libreoffice::excel

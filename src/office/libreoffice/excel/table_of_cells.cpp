@@ -1,0 +1,273 @@
+#include "office/libreoffice/excel/table_of_cells.h"
+
+#include <com/sun/star/awt/Size.hpp>
+#include <com/sun/star/sheet/XCellRangesQuery.hpp>
+#include <com/sun/star/sheet/XSheetCellCursor.hpp>
+#include <com/sun/star/sheet/XSheetCellRange.hpp>
+#include <com/sun/star/table/XColumnRowRange.hpp>
+#include <com/sun/star/text/XTextRange.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+#include <set>
+
+#include "office/failure.h"
+#include "office/libreoffice/excel/cell_formats.h"
+#include "office/libreoffice/excel/cells_as_html.h"
+#include "office/libreoffice/excel/selected_cells.h"
+#include "office/libreoffice/units.h"
+
+namespace libreoffice::excel {
+
+namespace {
+
+using office::CellLine;
+using office::CellLook;
+using office::TableLook;
+
+/// More are no table that anybody reads on a slide, and no presentation opens with them in time.
+constexpr std::size_t mostCells = 5000;
+
+[[noreturn]] void refuseTable(const char* why) {
+    throw office::Failure(office::FailureNumber::ApplicationDefined, "Range.Copy", why);
+}
+
+/// The block and the rest of the merged cells that it holds a part of.
+model::CellBlock wholeCells(const SheetRecord& sheet, const model::CellBlock& block) {
+    const auto cursor =
+        sheet.sheet()->createCursorByRange(as<css::sheet::XSheetCellRange>(sheet.range(block)));
+    cursor->collapseToMergedArea();
+    return blockOf(as<css::sheet::XCellRangeAddressable>(cursor)->getRangeAddress());
+}
+
+ShownLines shownLinesOf(const uno::Reference<css::table::XCellRange>& cells) {
+    std::set<std::int32_t> columns, rows;
+    const auto shown = as<css::sheet::XCellRangesQuery>(cells)->queryVisibleCells();
+    for (const css::table::CellRangeAddress& part : shown->getRangeAddresses()) {
+        if (blockOf(part).cells() > mostCells) refuseTable("These are too many cells for a table");
+        for (sal_Int32 column = part.StartColumn; column <= part.EndColumn; ++column)
+            columns.insert(column);
+        for (sal_Int32 row = part.StartRow; row <= part.EndRow; ++row) rows.insert(row);
+    }
+    if (columns.empty()) refuseTable("There is nothing to make a table of");
+    if (columns.size() * rows.size() > mostCells)
+        refuseTable("These are too many cells for a table");
+    return {{columns.begin(), columns.end()}, {rows.begin(), rows.end()}};
+}
+
+/// The widths of columns or the heights of rows. Those that are known in pixels of the screen are
+/// made to fill the whole, so that rounding doesn't add up; the suite is asked one by one for the
+/// others, and for all if the pixels are of another size.
+std::vector<double> lengthsOf(const uno::Reference<css::container::XIndexAccess>& lines,
+                              const char* property, const std::vector<std::int32_t>& shown,
+                              const std::vector<std::optional<double>>& pixels, double wholePt) {
+    constexpr double pointsPerPixel = 0.75;
+    const auto ask = [&](std::int32_t line) {
+        const uno::Reference<uno::XInterface> one(lines->getByIndex(line), uno::UNO_QUERY_THROW);
+        return pointsOf(libreoffice::property<std::int32_t>(one, property));
+    };
+    std::vector<double> lengths;
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        const auto known = i < pixels.size() ? pixels[i] : std::nullopt;
+        lengths.push_back(known ? *known * pointsPerPixel : ask(shown[i]));
+    }
+    const double sum = std::accumulate(lengths.begin(), lengths.end(), 0.0);
+    const double rounding = static_cast<double>(shown.size()) * pointsPerPixel;
+    if (std::abs(sum - wholePt) > rounding) {
+        std::transform(shown.begin(), shown.end(), lengths.begin(), ask);
+    } else {
+        for (double& length : lengths) length *= wholePt / sum;
+    }
+    return lengths;
+}
+
+/// Fills a table from what the suite says of its cells.
+class TableMaker {
+public:
+    TableMaker(const SheetRecord& sheet, const ShownLines& shown, const CellFormats& formats)
+        : sheet_(sheet),
+          shown_(shown),
+          formats_(formats),
+          isPut_(formats.ofCells.size()) {
+        for (const std::size_t format : formats.ofCells) {
+            const CellLook& own = formats.formats[format].look;
+            CellLook look;
+            // A cell that holds nothing is as high as its characters would be.
+            look.fontName = own.fontName;
+            look.fontSizePt = own.fontSizePt;
+            look.fill = own.fill;
+            cells_.push_back(look);
+        }
+    }
+
+    /// A row of cells as the suite writes it: those that are covered are left out.
+    void putRow(const HtmlRow& html, std::size_t row) {
+        if (!fillsRow(html, row)) putHiddenMerged(row);
+        std::size_t column = 0;
+        for (const HtmlCell& cell : html.cells) {
+            column = freeFrom(row, column);
+            if (column == width()) return;
+            put(dressed(cell.look, row, column), {shown_.columns[column], shown_.rows[row]});
+        }
+    }
+
+    [[nodiscard]] std::vector<CellLook> take() {
+        for (std::size_t row = 0; row < height(); ++row) {
+            for (std::size_t column = 0; column < width(); ++column) {
+                if (!at(row, column).isCovered) drawLines(row, column);
+            }
+        }
+        return std::move(cells_);
+    }
+
+private:
+    /// A place on the sheet, from 0.
+    struct Place {
+        std::int32_t column;
+        std::int32_t row;
+    };
+
+    [[nodiscard]] std::size_t width() const { return shown_.columns.size(); }
+    [[nodiscard]] std::size_t height() const { return shown_.rows.size(); }
+    CellLook& at(std::size_t row, std::size_t column) { return cells_[row * width() + column]; }
+    [[nodiscard]] const CellLook& format(std::size_t row, std::size_t column) const {
+        return formats_.formats[formats_.ofCells[row * width() + column]].look;
+    }
+
+    /// The first cell of a row, from a column on, that nothing has been put into.
+    [[nodiscard]] std::size_t freeFrom(std::size_t row, std::size_t column) const {
+        while (column < width() && isPut_[row * width() + column]) ++column;
+        return column;
+    }
+
+    /// Whether the cells as the suite writes them are as many as there is room for.
+    [[nodiscard]] bool fillsRow(const HtmlRow& html, std::size_t row) const {
+        std::size_t column = freeFrom(row, 0);
+        for (const HtmlCell& cell : html.cells) {
+            if (column == width()) return true;
+            const auto [first, count] =
+                shownFrom(shown_.columns, shown_.columns[column], cell.look.columns);
+            column = freeFrom(row, first + count);
+        }
+        return column == width();
+    }
+
+    /// The suite leaves out what is covered by merged cells that begin in a hidden column or row,
+    /// and what they hold.
+    void putHiddenMerged(std::size_t row) {
+        for (std::size_t column = freeFrom(row, 0); column < width();
+             column = freeFrom(row, column + 1)) {
+            const model::CellBlock block = wholeCells(
+                sheet_, model::CellBlock::cell(shown_.rows[row], shown_.columns[column]));
+            if (block.firstRow == shown_.rows[row] && block.firstColumn == shown_.columns[column])
+                continue;
+            const auto cell = sheet_.sheet()->getCellByPosition(block.firstColumn, block.firstRow);
+            CellLook look = format(row, column);
+            look.text = fromUno(as<css::text::XTextRange>(cell)->getString());
+            look.columns = block.columns();
+            look.rows = block.rows();
+            put(std::move(look), {block.firstColumn, block.firstRow});
+        }
+    }
+
+    /// Puts a cell over all that it spans.
+    void put(CellLook look, const Place& place) {
+        const auto [firstColumn, columns] = shownFrom(shown_.columns, place.column, look.columns);
+        const auto [firstRow, rows] = shownFrom(shown_.rows, place.row, look.rows);
+        for (std::size_t row = firstRow; row < firstRow + rows; ++row) {
+            for (std::size_t column = firstColumn; column < firstColumn + columns; ++column) {
+                at(row, column).isCovered = true;
+                isPut_[row * width() + column] = true;
+            }
+        }
+        look.columns = static_cast<std::int32_t>(columns);
+        look.rows = static_cast<std::int32_t>(rows);
+        at(firstRow, firstColumn) = std::move(look);
+    }
+
+    /// The place among the shown lines, and how many of a stretch on the sheet are shown.
+    static std::pair<std::size_t, std::size_t> shownFrom(const std::vector<std::int32_t>& shown,
+                                                         std::int32_t first, std::int32_t count) {
+        const auto from = std::lower_bound(shown.begin(), shown.end(), first);
+        const auto to = std::lower_bound(from, shown.end(), first + count);
+        return {static_cast<std::size_t>(from - shown.begin()),
+                static_cast<std::size_t>(to - from)};
+    }
+
+    [[nodiscard]] CellLook dressed(CellLook look, std::size_t row, std::size_t column) const {
+        const CellLook& own = format(row, column);
+        look.fontName = own.fontName;
+        look.fontSizePt = own.fontSizePt;
+        look.indentPt = own.indentPt;
+        look.wraps = own.wraps;
+        look.rotation = own.rotation;
+        return look;
+    }
+
+    /// Two cells share a line: the heavier of theirs is drawn.
+    static const CellLine& heavier(const CellLine& one, const CellLine& other) {
+        return other.widthPt > one.widthPt ? other : one;
+    }
+    [[nodiscard]] CellLine lineAbove(std::size_t row, std::size_t column) const {
+        if (row == 0) return format(row, column).top;
+        if (row == height()) return format(row - 1, column).bottom;
+        return heavier(format(row - 1, column).bottom, format(row, column).top);
+    }
+    [[nodiscard]] CellLine lineLeftOf(std::size_t row, std::size_t column) const {
+        if (column == 0) return format(row, column).left;
+        if (column == width()) return format(row, column - 1).right;
+        return heavier(format(row, column - 1).right, format(row, column).left);
+    }
+    void drawLines(std::size_t row, std::size_t column) {
+        CellLook& look = at(row, column);
+        look.left = look.right = look.top = look.bottom = {};
+        const auto right = column + static_cast<std::size_t>(look.columns);
+        const auto bottom = row + static_cast<std::size_t>(look.rows);
+        for (std::size_t i = row; i < bottom; ++i) {
+            look.left = heavier(look.left, lineLeftOf(i, column));
+            look.right = heavier(look.right, lineLeftOf(i, right));
+        }
+        for (std::size_t i = column; i < right; ++i) {
+            look.top = heavier(look.top, lineAbove(row, i));
+            look.bottom = heavier(look.bottom, lineAbove(bottom, i));
+        }
+    }
+
+    const SheetRecord& sheet_;
+    const ShownLines& shown_;
+    const CellFormats& formats_;
+    std::vector<CellLook> cells_;
+    /// Whether they are what they are to be.
+    std::vector<bool> isPut_;
+};
+
+}  // namespace
+
+TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block) {
+    const auto cells = sheet.range(wholeCells(sheet, block));
+    const ShownLines shown = shownLinesOf(cells);
+    const CellFormats formats = readCellFormats(cells, shown);
+    const uno::Sequence<sal_Int8> copy = SelectedCells(sheet, cells).copyAs("text/html");
+    const CellsAsHtml html = readCellsAsHtml({reinterpret_cast<const char*>(copy.getConstArray()),
+                                              static_cast<std::size_t>(copy.getLength())});
+
+    TableLook table;
+    const auto size = property<css::awt::Size>(cells, "Size");
+    const auto lines = as<css::table::XColumnRowRange>(sheet.sheet());
+    std::vector<std::optional<double>> rowHeights;
+    for (const HtmlRow& row : html.rows) rowHeights.push_back(row.heightPx);
+    table.columnWidthsPt =
+        lengthsOf(as<css::container::XIndexAccess>(lines->getColumns()), "Width", shown.columns,
+                  {html.columnWidthsPx.begin(), html.columnWidthsPx.end()}, pointsOf(size.Width));
+    table.rowHeightsPt = lengthsOf(as<css::container::XIndexAccess>(lines->getRows()), "Height",
+                                   shown.rows, rowHeights, pointsOf(size.Height));
+
+    TableMaker maker(sheet, shown, formats);
+    for (std::size_t row = 0; row < std::min(html.rows.size(), shown.rows.size()); ++row)
+        maker.putRow(html.rows[row], row);
+    table.cells = maker.take();
+    return table;
+}
+
+}  // namespace libreoffice::excel

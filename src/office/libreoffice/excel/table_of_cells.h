@@ -1,0 +1,14 @@
+#pragma once
+
+#include "office/libreoffice/excel/sheet_record.h"
+#include "office/table_look.h"
+
+namespace libreoffice::excel {
+
+/// A block of cells as it is seen, in a number of calls that grows with the formats in it and not
+/// with the cells. Merged cells that stick out of the block belong to it. The user's clipboard
+/// stays, his selection is put back. `office::Failure` 1004 if nothing of it is shown, or more than
+/// a table holds.
+[[nodiscard]] office::TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block);
+
+}  // namespace libreoffice::excel

@@ -1,0 +1,145 @@
+#include <fmt/format.h>
+
+#include <utility>
+
+#include "live/live_suite.h"
+#include "office/copied.h"
+
+namespace live {
+
+namespace {
+
+using office::CellLine;
+using office::CellLook;
+using office::TableLook;
+
+std::string described(const char* side, const CellLine& line) {
+    constexpr const char* styles[] = {"", " dashed", " dotted", " double"};
+    if (line.widthPt == 0) return "";
+    return fmt::format(" {}={:.1f}{}{}", side, line.widthPt,
+                       styles[static_cast<std::size_t>(line.style)],
+                       line.colour != 0 ? fmt::format(" {:06X}", line.colour) : "");
+}
+
+/// What is particular to a cell: all that differs from black 11 pt Calibri at the bottom left.
+std::string described(const CellLook& look) {
+    if (look.isCovered) return "covered";
+    std::string all = look.text;
+    for (const auto& [holds, word] : {std::pair(look.isBold, " bold"),
+                                      {look.isItalic, " italic"},
+                                      {look.isUnderlined, " underlined"},
+                                      {look.isStruckOut, " struck"},
+                                      {look.across == CellLook::Across::Centre, " centre"},
+                                      {look.across == CellLook::Across::Right, " right"},
+                                      {look.across == CellLook::Across::Justified, " justified"},
+                                      {look.down == CellLook::Down::Top, " top"},
+                                      {look.down == CellLook::Down::Middle, " middle"},
+                                      {look.wraps, " wraps"}}) {
+        if (holds) all += word;
+    }
+    if (look.fontName != "Calibri") all += " " + look.fontName;
+    if (look.fontSizePt != 11) all += fmt::format(" {}pt", look.fontSizePt);
+    if (look.fontColour != 0) all += fmt::format(" ink={:06X}", look.fontColour);
+    if (look.fill) all += fmt::format(" fill={:06X}", *look.fill);
+    if (look.indentPt != 0) all += fmt::format(" indent={:.0f}", look.indentPt);
+    if (look.rotation != 0) all += fmt::format(" turned={}", look.rotation);
+    all += described("left", look.left) + described("right", look.right) +
+           described("top", look.top) + described("bottom", look.bottom);
+    if (look.columns * look.rows > 1) all += fmt::format(" {}x{}", look.columns, look.rows);
+    return all;
+}
+
+class ExcelTables : public ExcelLive {
+protected:
+    [[nodiscard]] TableLook tableOf(const char* sheetName, const char* address) {
+        sheet(book, sheetName).get("Range", address).call("Copy");
+        return desk->clipboard().copied->table();
+    }
+
+    Object book = open("tables.xlsx");
+};
+
+TEST_F(ExcelTables, LookAsTheirCellsDo) {
+    const std::vector<std::string> expected = {
+        "Styled bold italic underlined struck Arial 14pt ink=0000FF fill=00FF00 bottom=0.7",
+        "1,234.50 EUR right bottom=0.7",
+        "<&lt;> \"q\"  centre middle",
+        "by\nhand top wraps bottom=1.8 FF0000",
+        "up right turned=90 bottom=1.8 FF0000",
+        "down turned=270",
+
+        "merged fill=00EEFF left=0.7 right=0.7 top=0.7 bottom=0.7 2x2",
+        "covered",
+        " left=0.7 right=1.8 FF0000",
+        "over hidden left=1.8 FF0000 right=1.8 FF0000 top=1.8 FF0000 bottom=1.8 FF0000 2x1",
+        "covered",
+        " left=1.8 FF0000",
+
+        "covered",
+        "covered",
+        " left=0.7",
+        " top=1.8 FF0000 bottom=0.7 0000FF",
+        " top=1.8 FF0000",
+        "begins shown 1x3",
+
+        "indented indent=15 top=0.7",
+        "right right indent=8 top=0.7",
+        "begins hidden bold right=0.7 dashed 1x2",
+        "lines left=0.7 dashed right=0.7 dotted top=0.7 0000FF bottom=1.8 double 00FF00",
+        " left=0.7 dotted",
+        "covered",
+
+        "",
+        "",
+        "covered",
+        "beneath left=0.7 top=1.8 double 00FF00",
+        "",
+        "covered",
+
+        "1 right fill=6B69F8",
+        "2 right fill=84EBFF",
+        "3 right fill=7BBE63",
+        "-5 bold right ink=06009C fill=CEC7FF",
+        "noted",
+        "#DIV/0! right",
+    };
+    const TableLook table = tableOf("Looks", "A1:G7");
+    std::vector<std::string> found;
+    for (const CellLook& look : table.cells) found.push_back(described(look));
+    EXPECT_EQ(found, expected);
+    ASSERT_EQ(table.columnWidthsPt.size(), 6U);
+    ASSERT_EQ(table.rowHeightsPt.size(), 6U);
+    const Object cells = sheet(book, "Looks").get("Range", "A1:G7").toObject();
+    EXPECT_NEAR(table.widthPt(), cells.get("Width").toDouble(), 0.1);
+    EXPECT_NEAR(table.heightPt(), cells.get("Height").toDouble(), 0.1);
+    for (const double height : table.rowHeightsPt)
+        EXPECT_NEAR(height, height == table.rowHeightsPt.front() ? 30 : 15, 3);
+}
+
+TEST_F(ExcelTables, HoldWholeCellsOfAnySheet) {
+    EXPECT_EQ(described(tableOf("Looks", "B3:B3").at(0, 0)).substr(0, 6), "merged");
+    EXPECT_EQ(tableOf("Secret", "A1:B2").at(0, 0).text, "secret");
+    // Past the last column that anything was ever done to.
+    EXPECT_NEAR(tableOf("Grid", "A1:M1").columnWidthsPt.back(),
+                sheet(book, "Grid").get("Range", "M1").get("Width").toDouble(), 0.1);
+    for (const auto& [name, address] : {std::pair("None", "A1:B2"), {"Grid", "A1:H2000"}})
+        EXPECT_EQ(failureOf([&, each = std::pair(name, address)] {
+                      static_cast<void>(tableOf(each.first, each.second));
+                  }),
+                  refused)
+            << name;
+}
+
+TEST_F(ExcelTables, CostNoMoreCallsForMoreCells) {
+    const auto callsFor = [&](const char* address) {
+        return callsOf([&] { EXPECT_EQ(tableOf("Grid", address).cells.back().text.size(), 4U); });
+    };
+    static_cast<void>(callsFor("A1:B20"));
+    const auto few = callsFor("A11:B20");
+    EXPECT_LE(callsFor("A11:H60"), few + 5);
+    EXPECT_LE(few, 60U);
+}
+
+}  // namespace
+
+}  // namespace live
