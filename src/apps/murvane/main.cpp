@@ -3,7 +3,6 @@
 #include <exception>
 #include <string>
 
-#include "apps/end_of_process.h"
 #include "apps/suite_source.h"
 #include "apps/terminal.h"
 #include "apps/this_machine.h"
@@ -59,7 +58,9 @@ int runCommand(int count, char** words, const std::string& commandLine, apps::Co
     return runInTerminal(commandLine, console, suites);
 }
 
-int runOrReport(int count, char** words) {
+}  // namespace
+
+int main(int count, char** words) {
     constexpr int unhandled = 1;
     apps::MachineConsole console([] { return false; });
     const std::string commandLine = commandLineOf(count, words);
@@ -77,10 +78,4 @@ int runOrReport(int count, char** words) {
         console.writeError(fmt::format("Murvane: {}\n", error.what()));
     }
     return unhandled;
-}
-
-}  // namespace
-
-int main(int count, char** words) {
-    apps::endProcess(runOrReport(count, words));
 }

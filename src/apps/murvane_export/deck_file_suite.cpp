@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "apps/utf8.h"
-#include "office/package/presentation/deck_file.h"
+#include "office/package/presentation/paste_remarks.h"
 
 namespace unattended {
 
@@ -33,7 +33,8 @@ package::FileRules rulesOf(office::Suite& below, session::Host& host, const Opti
 
 DeckFileSuite::DeckFileSuite(office::Suite& below, session::Host& host, const Options& options)
     : below_(below),
-      powerPoint_(package::powerPointOfFiles(rulesOf(below, host, options))) {}
+      rules_(rulesOf(below, host, options)),
+      powerPoint_(package::powerPointOfFiles(rules_)) {}
 
 office::Object DeckFileSuite::attach(std::string_view className) {
     return className == powerPoint ? powerPoint_ : below_.attach(className);
@@ -41,6 +42,11 @@ office::Object DeckFileSuite::attach(std::string_view className) {
 
 office::Object DeckFileSuite::start(std::string_view className) {
     return className == powerPoint ? powerPoint_ : below_.start(className);
+}
+
+std::vector<std::string> DeckFileSuite::remarksOn(office::PasteAs as,
+                                                  const std::vector<office::PasteItem>& items) {
+    return package::pasteRemarks(as, items, *rules_.workbooks);
 }
 
 }  // namespace unattended

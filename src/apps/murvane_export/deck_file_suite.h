@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apps/murvane_export/options.h"
+#include "office/package/presentation/deck_file.h"
 #include "office/suite.h"
 #include "session/host.h"
 
@@ -21,6 +22,8 @@ public:
         return below_.clipboardPicture(kind);
     }
     office::ClipboardPtr clipboard() override { return below_.clipboard(); }
+    std::vector<std::string> remarksOn(office::PasteAs as,
+                                       const std::vector<office::PasteItem>& items) override;
     office::WindowHandle findWindow(std::string_view, std::string_view) override { return 0; }
     bool raiseWindow(office::WindowHandle, int) override { return false; }
     bool lockDrawing(office::WindowHandle) override { return false; }
@@ -30,6 +33,7 @@ public:
 
 private:
     office::Suite& below_;
+    office::package::FileRules rules_;
     office::Object powerPoint_;
 };
 

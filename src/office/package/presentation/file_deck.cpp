@@ -108,7 +108,8 @@ FileDeck::FileDeck(Package package, std::string path, std::string name, FileRule
       rules_(std::move(rules)),
       main_(presentationPartOf(package_)),
       presentation_(package_.read(main_), main_),
-      layouts_(package_) {
+      layouts_(package_),
+      charts_(package_, folderOf(main_)) {
     if (!isNamed(presentation_.root(), ns::presentation, "presentation"))
         throw PackageError(Fault::NotAPackage, "it is no presentation of the usual kind");
     readSlides();

@@ -7,6 +7,7 @@
 
 #include "office/model/powerpoint/deck.h"
 #include "office/package/package.h"
+#include "office/package/presentation/chart_parts.h"
 #include "office/package/presentation/deck_file.h"
 #include "office/package/presentation/deck_layouts.h"
 #include "office/package/presentation/file_slide.h"
@@ -27,6 +28,7 @@ public:
     [[nodiscard]] const FileRules& rules() const { return *rules_; }
     [[nodiscard]] const MeasureText& measure() const { return rules_->measure; }
     [[nodiscard]] DeckLayouts& layouts() { return layouts_; }
+    [[nodiscard]] ChartParts& charts() { return charts_; }
     /// Where pictures go: their names without number and ending.
     [[nodiscard]] std::string mediaStem() const;
     [[nodiscard]] std::int32_t placeOf(const FileSlide& slide) const;
@@ -77,6 +79,7 @@ private:
     std::string main_;
     Xml presentation_;
     DeckLayouts layouts_;
+    ChartParts charts_;
     std::vector<std::shared_ptr<FileSlide>> slides_;
     std::int32_t viewType_ = 9;
     std::weak_ptr<FileSlide> inView_;

@@ -33,6 +33,16 @@ std::string boxMarkup(const model::Point& corner, const model::Size& size) {
                        emuOf(size.height));
 }
 
+std::string chartFrameMarkup(const std::string& relationship, const model::PastePlace& place) {
+    return fmt::format(
+        R"(<p:graphicFrame><p:nvGraphicFramePr><p:cNvPr/><p:cNvGraphicFramePr/><p:nvPr/>)"
+        R"(</p:nvGraphicFramePr><p:xfrm><a:off x="{}" y="{}"/><a:ext cx="{}" cy="{}"/></p:xfrm>)"
+        R"(<a:graphic><a:graphicData uri="{}"><c:chart xmlns:c="{}" r:id="{}"/></a:graphicData>)"
+        R"(</a:graphic></p:graphicFrame>)",
+        emuOf(place.corner.left), emuOf(place.corner.top), emuOf(place.size.width),
+        emuOf(place.size.height), ns::chart, ns::chart, relationship);
+}
+
 const char* nameOf(const Placeholder& placeholder) {
     if (placeholder.isTitle()) return "Title";
     if (placeholder.type == "sldNum") return "Slide Number Placeholder";
@@ -235,10 +245,31 @@ model::DeckShapePtr FileSlide::addLabel(const model::Point& corner, const model:
                     boxMarkup(corner, size)));
 }
 
+/// Null for one that goes as a picture.
+FileShapePtr FileSlide::pasteChart(const Copied& copied, PasteAs as) {
+    SourceChart chart = findChart(copied.source(), *deck_.rules().workbooks);
+    if (!chart.obstacle.empty()) {
+        if (as == PasteAs::Default) return nullptr;
+        model::refuse("Shapes.PasteSpecial", "The chart can't be linked to: " + chart.obstacle);
+    }
+    const std::string link =
+        as == PasteAs::Linked ? fileAddress(chart.book->path(), deck_.rules().linkBase) : "";
+    const std::string part = deck_.charts().add(std::move(chart), link);
+    const std::string id = deck_.package().relationshipsOf(part_).add("chart", part);
+    const model::PastePlace place =
+        model::pastePlaceFor({copied.widthPt(), copied.heightPt()}, deck_, *this);
+    return addShape("Chart", chartFrameMarkup(id, place));
+}
+
 model::DeckShapePtr FileSlide::paste(const Copied& copied, PasteAs as) {
-    const bool isPicture = copied.source().kind == CopySource::Kind::Picture;
-    if (!isPicture && as != PasteAs::Png && as != PasteAs::Metafile)
+    const CopySource::Kind kind = copied.source().kind;
+    const bool isChart =
+        kind == CopySource::Kind::Chart && (as == PasteAs::Default || as == PasteAs::Linked);
+    if (isChart) {
+        if (FileShapePtr chart = pasteChart(copied, as)) return chart;
+    } else if (kind != CopySource::Kind::Picture && as != PasteAs::Png && as != PasteAs::Metafile) {
         model::refuse("Shapes.PasteSpecial", "It can't be pasted in this form");
+    }
     PictureFile picture = pictureOf(copied.png(), "What was copied");
     const model::PastePlace place = model::pastePlaceFor(picture.size, deck_, *this);
     picture.size = place.size;

@@ -58,6 +58,7 @@ private:
     [[nodiscard]] std::vector<FileShapePtr>& shapes();
     [[nodiscard]] pugi::xml_node tree();
     FileShapePtr addPicture(PictureFile picture, const model::Point& corner);
+    [[nodiscard]] FileShapePtr pasteChart(const Copied& copied, PasteAs as);
     void placeForItself(FileShape& title);
     FileShapePtr nameShape(std::string_view kind, pugi::xml_node element);
     [[nodiscard]] std::int32_t freeShapeId();

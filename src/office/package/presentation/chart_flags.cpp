@@ -1,0 +1,239 @@
+#include "office/package/presentation/chart_flags.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <vector>
+
+namespace office::package {
+
+namespace {
+
+struct Flag {
+    /// The element that has it, with the one around it where that matters: "ser" of a "lineChart".
+    std::string_view around;
+    std::string_view parent;
+    std::string_view name;
+    const char* standard;
+    const char* excel2007;
+};
+
+/// The schema's sequences of what stands ahead of a flag, or in between flags.
+constexpr std::string_view chartOrder =
+    "title autoTitleDeleted pivotFmts view3D floor sideWall backWall plotArea legend plotVisOnly "
+    "dispBlanksAs showDLblsOverMax";
+constexpr std::string_view axisOrder =
+    "axId scaling delete axPos majorGridlines minorGridlines title numFmt majorTickMark "
+    "minorTickMark tickLblPos spPr txPr crossAx crosses crossesAt auto lblAlgn lblOffset "
+    "tickLblSkip tickMarkSkip noMultiLvlLbl";
+constexpr std::string_view groupOrder =
+    "barDir grouping ofPieType radarStyle scatterStyle wireframe varyColors ser dLbls dropLines "
+    "hiLowLines upDownBars marker smooth bubble3D bubbleScale showNegBubbles";
+constexpr std::string_view seriesOrder =
+    "idx order tx spPr invertIfNegative pictureOptions marker explosion dPt dLbls trendline "
+    "errBars cat val xVal yVal bubbleSize smooth shape bubble3D";
+constexpr std::string_view pointOrder = "idx invertIfNegative";
+constexpr std::string_view labelOrder =
+    "idx dLbl delete layout tx numFmt spPr txPr dLblPos showLegendKey showVal showCatName "
+    "showSerName showPercent showBubbleSize separator showLeaderLines";
+constexpr std::string_view textOrder = "legendPos legendEntry tx layout overlay";
+constexpr std::string_view trendOrder =
+    "name spPr trendlineType order period forward backward intercept dispRSqr dispEq";
+constexpr std::string_view errorOrder = "errDir errBarType errValType noEndCap";
+constexpr std::string_view viewOrder = "rotX hPercent rotY depthPercent rAngAx";
+constexpr std::string_view pictureOrder = "applyToFront applyToSides applyToEnd";
+
+struct Sequence {
+    std::string_view parent;
+    std::string_view order;
+};
+constexpr std::array<Sequence, 16> sequences = {{
+    {"chartSpace", chartSpaceOrder},
+    {"chart", chartOrder},
+    {"catAx", axisOrder},
+    {"dateAx", axisOrder},
+    {"valAx", axisOrder},
+    {"serAx", axisOrder},
+    {"ser", seriesOrder},
+    {"dPt", pointOrder},
+    {"dLbls", labelOrder},
+    {"dLbl", labelOrder},
+    {"title", textOrder},
+    {"legend", textOrder},
+    {"trendline", trendOrder},
+    {"errBars", errorOrder},
+    {"view3D", viewOrder},
+    {"pictureOptions", pictureOrder},
+}};
+
+constexpr const char* on = "1";
+constexpr const char* off = "0";
+constexpr std::string_view any;
+
+constexpr auto flags = std::to_array<Flag>({
+    {any, "chartSpace", "roundedCorners", on, off},
+    {any, "chart", "autoTitleDeleted", on, off},
+    {any, "chart", "plotVisOnly", on, off},
+    {any, "chart", "dispBlanksAs", "zero", "gap"},
+    {any, "chart", "showDLblsOverMax", on, off},
+    {any, "title", "overlay", off, off},
+    {any, "legend", "overlay", on, off},
+    {any, "view3D", "rAngAx", on, off},
+    {any, "catAx", "delete", on, off},
+    {any, "catAx", "majorTickMark", "cross", "out"},
+    {any, "catAx", "minorTickMark", "cross", "none"},
+    {any, "catAx", "auto", on, off},
+    {any, "catAx", "noMultiLvlLbl", on, off},
+    {any, "dateAx", "delete", on, off},
+    {any, "dateAx", "majorTickMark", "cross", "out"},
+    {any, "dateAx", "minorTickMark", "cross", "none"},
+    {any, "dateAx", "auto", on, off},
+    {any, "valAx", "delete", on, off},
+    {any, "valAx", "majorTickMark", "cross", "out"},
+    {any, "valAx", "minorTickMark", "cross", "none"},
+    {any, "serAx", "delete", on, off},
+    {any, "serAx", "majorTickMark", "cross", "out"},
+    {any, "serAx", "minorTickMark", "cross", "none"},
+    {any, "barChart", "grouping", "clustered", "standard"},
+    {any, "barChart", "varyColors", on, off},
+    {any, "bar3DChart", "grouping", "clustered", "standard"},
+    {any, "bar3DChart", "varyColors", on, off},
+    {any, "lineChart", "varyColors", on, off},
+    {any, "lineChart", "marker", on, off},
+    {any, "line3DChart", "varyColors", on, off},
+    {any, "areaChart", "varyColors", on, off},
+    {any, "area3DChart", "varyColors", on, off},
+    {any, "pieChart", "varyColors", on, off},
+    {any, "pie3DChart", "varyColors", on, off},
+    {any, "doughnutChart", "varyColors", on, off},
+    {any, "ofPieChart", "varyColors", on, off},
+    {any, "radarChart", "varyColors", on, off},
+    {any, "scatterChart", "varyColors", on, off},
+    {any, "bubbleChart", "varyColors", on, off},
+    {any, "bubbleChart", "bubble3D", on, off},
+    {any, "bubbleChart", "showNegBubbles", on, off},
+    {any, "surfaceChart", "wireframe", on, off},
+    {any, "surface3DChart", "wireframe", on, off},
+    {"barChart", "ser", "invertIfNegative", on, off},
+    {"bar3DChart", "ser", "invertIfNegative", on, off},
+    {"bubbleChart", "ser", "invertIfNegative", on, off},
+    {"bubbleChart", "ser", "bubble3D", on, off},
+    {"lineChart", "ser", "smooth", on, off},
+    {"line3DChart", "ser", "smooth", on, off},
+    {"stockChart", "ser", "smooth", on, off},
+    {"scatterChart", "ser", "smooth", on, off},
+    {any, "dPt", "invertIfNegative", on, off},
+    {any, "errBars", "noEndCap", on, off},
+    {any, "trendline", "dispRSqr", on, off},
+    {any, "trendline", "dispEq", on, off},
+    {any, "pictureOptions", "applyToFront", on, off},
+    {any, "pictureOptions", "applyToSides", on, off},
+    {any, "pictureOptions", "applyToEnd", on, off},
+    {any, "dLbls", "showLeaderLines", on, off},
+});
+
+/// What a label shows.
+constexpr std::array<const char*, 6> labelFlags = {
+    "showLegendKey", "showVal", "showCatName", "showSerName", "showPercent", "showBubbleSize"};
+
+std::string_view localName(pugi::xml_node node) {
+    const std::string_view name = node.name();
+    const auto colon = name.find(':');
+    return colon == std::string_view::npos ? name : name.substr(colon + 1);
+}
+
+std::string_view orderIn(pugi::xml_node parent) {
+    const auto* const found =
+        std::find_if(sequences.begin(), sequences.end(),
+                     [&](const Sequence& one) { return one.parent == localName(parent); });
+    return found == sequences.end() ? groupOrder : found->order;
+}
+
+pugi::xml_node childOf(pugi::xml_node parent, std::string_view name) {
+    return parent.find_child([&](const pugi::xml_node& child) {
+        return child.type() == pugi::node_element && localName(child) == name;
+    });
+}
+
+/// The place of a name in a sequence; behind all for one that isn't in it.
+std::size_t placeIn(std::string_view order, std::string_view name) {
+    for (std::size_t at = 0; at < order.size();) {
+        const auto end = std::min(order.find(' ', at), order.size());
+        if (order.substr(at, end - at) == name) return at;
+        at = end + 1;
+    }
+    return order.size();
+}
+
+void write(pugi::xml_node parent, std::string_view name, const char* value) {
+    if (childOf(parent, name)) return;
+    chartChild(parent, name, orderIn(parent)).append_attribute("val").set_value(value);
+}
+
+bool hasAnyFlag(pugi::xml_node labels) {
+    return std::any_of(labelFlags.begin(), labelFlags.end(),
+                       [&](const char* name) { return childOf(labels, name); });
+}
+
+/// A label of one point that says nothing shows what those of its series show.
+void writeLabelFlags(pugi::xml_node labels, FlagDefaults defaults) {
+    if (childOf(labels, "delete")) return;
+    const bool isLikeOthers = defaults == FlagDefaults::Excel2007 && localName(labels) == "dLbl" &&
+                              !hasAnyFlag(labels) && !childOf(labels, "dLblPos") &&
+                              !childOf(labels, "separator");
+    for (const char* const name : labelFlags) {
+        const auto common = isLikeOthers ? childOf(labels.parent(), name) : pugi::xml_node();
+        const char* const plain = defaults == FlagDefaults::Excel2007 ? off : on;
+        write(labels, name, common ? common.attribute("val").as_string(on) : plain);
+    }
+}
+
+/// Elements that hold no flags, and much else.
+bool isPassedOver(std::string_view name) {
+    constexpr std::array<std::string_view, 7> names = {
+        "numCache", "strCache", "multiLvlStrCache", "spPr", "txPr", "rich", "extLst"};
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+void writeOwnFlags(pugi::xml_node node, FlagDefaults defaults) {
+    const std::string_view name = localName(node);
+    if (name == "dLbls" || name == "dLbl") writeLabelFlags(node, defaults);
+    if (name == "dLbls" && childOf(node, "delete")) return;
+    for (const Flag& flag : flags) {
+        if (flag.parent != name) continue;
+        if (!flag.around.empty() && flag.around != localName(node.parent())) continue;
+        write(node, flag.name,
+              defaults == FlagDefaults::Excel2007 ? flag.excel2007 : flag.standard);
+    }
+}
+
+}  // namespace
+
+pugi::xml_node chartChild(pugi::xml_node parent, std::string_view name, std::string_view order) {
+    if (const auto found = childOf(parent, name)) return found;
+    const std::size_t place = placeIn(order, name);
+    pugi::xml_node ahead;
+    for (const pugi::xml_node child : parent.children()) {
+        if (placeIn(order, localName(child)) < place) ahead = child;
+    }
+    // In the prefix of its parent.
+    std::string qualified = parent.name();
+    qualified.replace(qualified.size() - localName(parent).size(), std::string::npos, name);
+    return ahead ? parent.insert_child_after(qualified.c_str(), ahead)
+                 : parent.prepend_child(qualified.c_str());
+}
+
+void writeFlags(pugi::xml_node chartSpace, FlagDefaults defaults) {
+    std::vector<pugi::xml_node> open = {chartSpace};
+    while (!open.empty()) {
+        const pugi::xml_node node = open.back();
+        open.pop_back();
+        writeOwnFlags(node, defaults);
+        for (const pugi::xml_node child : node.children()) {
+            if (child.type() == pugi::node_element && !isPassedOver(localName(child)))
+                open.push_back(child);
+        }
+    }
+}
+
+}  // namespace office::package

@@ -1,0 +1,186 @@
+#include "office/package/presentation/chart_parts.h"
+
+#include <fmt/format.h>
+
+#include <array>
+#include <utility>
+
+#include "office/package/part_name.h"
+#include "office/text.h"
+
+namespace office::package {
+
+namespace {
+
+constexpr std::string_view chartType =
+    "application/vnd.openxmlformats-officedocument.drawingml.chart+xml";
+constexpr std::string_view themeType =
+    "application/vnd.openxmlformats-officedocument.themeOverride+xml";
+
+constexpr const char* emptyTheme =
+    R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
+    "\n"
+    R"(<a:themeOverride xmlns:a="http://schemas.openxmlformats.org/drawingml/2006/main")"
+    R"( xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships"/>)";
+
+/// The colours of a theme by the names that charts know them by.
+constexpr std::array<std::pair<const char*, const char*>, 12> plainColours = {{
+    {"bg1", "lt1"},
+    {"tx1", "dk1"},
+    {"bg2", "lt2"},
+    {"tx2", "dk2"},
+    {"accent1", "accent1"},
+    {"accent2", "accent2"},
+    {"accent3", "accent3"},
+    {"accent4", "accent4"},
+    {"accent5", "accent5"},
+    {"accent6", "accent6"},
+    {"hlink", "hlink"},
+    {"folHlink", "folHlink"},
+}};
+
+/// Programs tell by these properties what the file was written by.
+FlagDefaults defaultsOf(Package& book) {
+    try {
+        const Relationships& relationships = book.relationshipsOf("/");
+        const Relationship* const found = relationships.ofType("extended-properties");
+        if (found == nullptr) return FlagDefaults::Standard;
+        const std::string part = relationships.partOf(*found);
+        const Xml properties(book.read(part), part);
+        const std::string writer = properties.root().child("Application").text().get();
+        const std::string version = properties.root().child("AppVersion").text().get();
+        return lowerCase(writer).starts_with("microsoft") && version.starts_with("12.")
+                   ? FlagDefaults::Excel2007
+                   : FlagDefaults::Standard;
+    } catch (const PackageError&) {
+        // Without the properties, too, a program goes by the standard.
+        return FlagDefaults::Standard;
+    }
+}
+
+std::string themeOf(WorkbookFile& book) {
+    const std::string part = book.themePart();
+    if (part.empty()) return {};
+    const Xml theme(book.package().read(part), part);
+    const Xml made(emptyTheme, part);
+    const auto elements = childNamed(theme.root(), ns::drawing, "themeElements");
+    for (const char* const name : {"clrScheme", "fontScheme", "fmtScheme"}) {
+        if (const auto scheme = childNamed(elements, ns::drawing, name)) adopt(made.root(), scheme);
+    }
+    return made.bytes();
+}
+
+/// The name without its number, and its ending: "/ppt/charts/style".
+std::string stemOf(const std::string& part) {
+    const std::string name = part.substr(part.rfind('/') + 1);
+    const auto end = name.find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    return name.substr(0, end);
+}
+
+/// Says by a relationship where the data is.
+void connect(pugi::xml_node chartSpace, const std::string& relationship) {
+    auto external = chartChild(chartSpace, "externalData", chartSpaceOrder);
+    external.append_attribute("xmlns:r").set_value(ns::relationships.data());
+    external.append_attribute("r:id").set_value(relationship.c_str());
+    chartChild(external, "autoUpdate", "autoUpdate").append_attribute("val").set_value("0");
+}
+
+}  // namespace
+
+ChartParts::Origin& ChartParts::originOf(const WorkbookFilePtr& book) {
+    const auto [place, isNew] = origins_.try_emplace(book);
+    if (isNew) {
+        place->second.defaults = defaultsOf(book->package());
+        place->second.theme = themeOf(*book);
+    }
+    return place->second;
+}
+
+std::string ChartParts::add(SourceChart chart, const std::string& link) {
+    WorkbookFile& book = *chart.book;
+    Origin& origin = originOf(chart.book);
+    auto root = chart.xml->root();
+    root.remove_child(childNamed(root, ns::chart, "printSettings"));
+    writeFlags(root, origin.defaults);
+    const std::string part = deck_.freeName(folder_ + "/charts/chart", ".xml");
+    deck_.add(part, chartType, {});
+    takeCompanions(book, origin, chart.part, part, *chart.xml, Holder::Chart);
+    overrideTheme(origin, part, *chart.xml);
+    Relationships& relationships = deck_.relationshipsOf(part);
+    connect(root, link.empty() ? relationships.add("package", copyOf(book, origin))
+                               : relationships.addExternal("oleObject", link));
+    deck_.replace(part, chart.xml->bytes());
+    return part;
+}
+
+void ChartParts::takeCompanions(WorkbookFile& book, Origin& origin, const std::string& source,
+                                const std::string& part, const Xml& xml, Holder holder) {
+    Relationships& relationships = deck_.relationshipsOf(part);
+    std::map<std::string, std::string> ids;
+    for (const Companion& one : companionsOf(book.package(), source, holder)) {
+        const std::string& type = one.relationship.type;
+        ids[one.relationship.id] = one.kind == Companion::Kind::Address
+                                       ? relationships.addExternal(type, one.relationship.target)
+                                       : relationships.add(type, take(book, origin, one));
+    }
+    for (pugi::xml_attribute id : relationshipIdsIn(xml)) {
+        if (const auto found = ids.find(id.value()); found != ids.end())
+            id.set_value(found->second.c_str());
+    }
+}
+
+std::string ChartParts::take(WorkbookFile& book, Origin& origin, const Companion& companion) {
+    Package& package = book.package();
+    const std::string& source = companion.part;
+    const std::string type = package.contentTypeOf(source);
+    if (companion.kind == Companion::Kind::Picture) {
+        std::string& taken = origin.pictures[partKey(source)];
+        if (taken.empty())
+            taken = deck_.addMedia(folder_ + "/media/image", "." + extensionOf(source), type,
+                                   package.read(source));
+        return taken;
+    }
+    const bool isShapes = companion.relationship.type.ends_with("/chartUserShapes");
+    const char* const subfolder = companion.kind == Companion::Kind::Style ? "charts"
+                                  : isShapes                               ? "drawings"
+                                                                           : "theme";
+    std::string part =
+        deck_.freeName(fmt::format("{}/{}/{}", folder_, subfolder, stemOf(source)), ".xml");
+    deck_.add(part, type, package.read(source));
+    if (companion.kind == Companion::Kind::Markup) {
+        const Xml xml(package.read(source), source);
+        takeCompanions(book, origin, source, part, xml, Holder::Markup);
+        deck_.replace(part, xml.bytes());
+    }
+    return part;
+}
+
+/// Colours that the chart names by their place in the theme stay those of its workbook.
+void ChartParts::overrideTheme(const Origin& origin, const std::string& part, const Xml& xml) {
+    Relationships& relationships = deck_.relationshipsOf(part);
+    if (relationships.ofType("themeOverride") == nullptr) {
+        if (origin.theme.empty()) return;
+        const std::string theme = deck_.freeName(folder_ + "/theme/themeOverride", ".xml");
+        deck_.add(theme, themeType, origin.theme);
+        relationships.add("themeOverride", theme);
+    }
+    if (childNamed(xml.root(), ns::chart, "clrMapOvr")) return;
+    auto colours = chartChild(xml.root(), "clrMapOvr", chartSpaceOrder);
+    for (const auto& [name, value] : plainColours) colours.append_attribute(name).set_value(value);
+}
+
+/// One copy for all charts of a workbook, however many there are.
+std::string ChartParts::copyOf(const WorkbookFile& book, Origin& origin) {
+    if (!origin.copy.empty()) return origin.copy;
+    const bool hasMacros = book.hasMacros();
+    const char* const stem = hasMacros ? "/embeddings/Microsoft_Excel_Macro-Enabled_Worksheet"
+                                       : "/embeddings/Microsoft_Excel_Worksheet";
+    origin.copy = deck_.addMedia(
+        folder_ + stem, hasMacros ? ".xlsm" : ".xlsx",
+        hasMacros ? "application/vnd.ms-excel.sheet.macroEnabled.12"
+                  : "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet",
+        book.bytes());
+    return origin.copy;
+}
+
+}  // namespace office::package
