@@ -194,6 +194,11 @@ std::string Package::read(std::string_view part) const {
     return content_->read(part, content_->limits.partBytes);
 }
 
+std::string Package::head(std::string_view part, std::size_t most) const {
+    const auto& found = content_->at(part);
+    return found.bytes ? found.bytes->substr(0, most) : content_->archive.read(*found.index, most);
+}
+
 void Package::replace(std::string_view part, std::string bytes) {
     content_->at(part).bytes = std::move(bytes);
 }
@@ -248,7 +253,16 @@ Relationships& Package::relationshipsOf(std::string_view part) {
 
 void Package::save(const std::filesystem::path& file) {
     content_->putMarkup();
-    content_->archive.write(file, content_->changes());
+    ZipOutput output(file);
+    content_->archive.write(output, content_->changes());
+}
+
+std::string Package::bytes() {
+    content_->putMarkup();
+    std::string bytes;
+    ZipOutput output(bytes);
+    content_->archive.write(output, content_->changes());
+    return bytes;
 }
 
 }  // namespace office::package

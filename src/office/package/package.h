@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -78,6 +79,8 @@ public:
     [[nodiscard]] std::string contentTypeOf(std::string_view part) const;
     /// `PackageError` Damaged if there is no such part or its data are wrong, TooLarge.
     [[nodiscard]] std::string read(std::string_view part) const;
+    /// What a part begins with: all of it, or so many bytes.
+    [[nodiscard]] std::string head(std::string_view part, std::size_t most) const;
 
     /// Changes the content of a part that is there.
     void replace(std::string_view part, std::string bytes);
@@ -102,6 +105,8 @@ public:
     /// Writes the package to a file that isn't there yet. `PackageError` Unreadable with the
     /// system's reason; what was begun is removed.
     void save(const std::filesystem::path& file);
+    /// The same file in memory. `PackageError`.
+    [[nodiscard]] std::string bytes();
 
 private:
     class Content;

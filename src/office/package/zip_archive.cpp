@@ -88,6 +88,10 @@ ZipArchive::Handle ZipArchive::open(ZipSource& source) {
 }
 
 std::string ZipArchive::read(std::uint64_t index) const {
+    return read(index, UINT64_MAX);
+}
+
+std::string ZipArchive::read(std::uint64_t index, std::uint64_t most) const {
     const ZipEntry& entry = entries_[index];
     const std::string what = fmt::format("its part {} can't be read", shown("/" + entry.name));
     const auto close = [](zip_file_t* file) { zip_fclose(file); };
@@ -105,7 +109,8 @@ std::string ZipArchive::read(std::uint64_t index) const {
         bytes.resize(before + static_cast<std::size_t>(got));
         if (bytes.size() > entry.bytes || (got == 0 && bytes.size() < entry.bytes))
             throw PackageError(Fault::Damaged, what + " (its size is another than the file says)");
-        if (got == 0) return bytes;
+        if (bytes.size() >= most) bytes.resize(most);
+        if (got == 0 || bytes.size() == most) return bytes;
     }
 }
 
@@ -123,9 +128,7 @@ void ZipArchive::copy(ZipOutput& output) const {
                                        std::generic_category().message(output.error())));
 }
 
-void ZipArchive::write(const std::filesystem::path& file,
-                       const std::vector<ZipChange>& changes) const {
-    ZipOutput output(file);
+void ZipArchive::write(ZipOutput& output, const std::vector<ZipChange>& changes) const {
     // libzip writes nothing at all if nothing has changed.
     if (changes.empty()) {
         copy(output);

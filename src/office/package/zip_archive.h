@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -41,9 +40,11 @@ public:
     /// `PackageError` Damaged if what is there isn't what its entry says; the caller has looked
     /// whether that is too much.
     [[nodiscard]] std::string read(std::uint64_t index) const;
-    /// Writes a new file: the entries in their order, those that don't change as the same
-    /// compressed bytes, new ones last. `PackageError`; nothing is left then.
-    void write(const std::filesystem::path& file, const std::vector<ZipChange>& changes) const;
+    /// At most so many bytes from its beginning.
+    [[nodiscard]] std::string read(std::uint64_t index, std::uint64_t most) const;
+    /// Writes a new archive: the entries in their order, those that don't change as the same
+    /// compressed bytes, new ones last. `PackageError`.
+    void write(ZipOutput& output, const std::vector<ZipChange>& changes) const;
 
 private:
     struct Discard {

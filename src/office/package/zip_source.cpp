@@ -60,7 +60,7 @@ ZipOutput::ZipOutput(std::filesystem::path file) : path_(std::move(file)), buffe
 }
 
 ZipOutput::~ZipOutput() {
-    if (isKept_) return;
+    if (isKept_ || memory_ != nullptr) return;
     file_.close();
     std::error_code ignored;
     std::filesystem::remove(path_, ignored);
@@ -68,7 +68,12 @@ ZipOutput::~ZipOutput() {
 
 bool ZipOutput::write(const char* bytes, std::uint64_t count) {
     errno = 0;
-    const bool isGood = noted(!!file_.write(bytes, static_cast<std::streamsize>(count)));
+    if (memory_ != nullptr) {
+        memory_->resize(std::max<std::size_t>(memory_->size(), position_ + count));
+        memory_->replace(position_, count, bytes, count);
+    }
+    const bool isGood =
+        memory_ != nullptr || noted(!!file_.write(bytes, static_cast<std::streamsize>(count)));
     if (isGood) position_ += count;
     size_ = std::max(size_, position_);
     return isGood;
@@ -77,11 +82,12 @@ bool ZipOutput::write(const char* bytes, std::uint64_t count) {
 bool ZipOutput::seek(std::uint64_t to) {
     errno = 0;
     position_ = to;
-    return noted(!!file_.seekp(static_cast<std::streamoff>(to)));
+    return memory_ != nullptr || noted(!!file_.seekp(static_cast<std::streamoff>(to)));
 }
 
 bool ZipOutput::keep() {
     errno = 0;
+    if (memory_ != nullptr) return true;
     file_.close();
     isKept_ = noted(!file_.fail());
     return isKept_;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -28,11 +29,12 @@ private:
     std::uint64_t size_ = 0;
 };
 
-/// A new file that goes again unless it is kept.
+/// A new file that goes again unless it is kept, or the memory of somebody else.
 class ZipOutput {
 public:
     /// `PackageError` Unreadable; also if there is such a file already.
     explicit ZipOutput(std::filesystem::path file);
+    explicit ZipOutput(std::string& bytes) : memory_(&bytes) {}
     ZipOutput(const ZipOutput&) = delete;
     ZipOutput& operator=(const ZipOutput&) = delete;
     ~ZipOutput();
@@ -49,6 +51,7 @@ public:
 private:
     bool noted(bool isGood);
 
+    std::string* memory_ = nullptr;
     std::filesystem::path path_;
     std::vector<char> buffer_;
     std::ofstream file_;

@@ -147,6 +147,10 @@ std::string FileDeck::mediaStem() const {
     return folderOf(main_) + "/media/image";
 }
 
+std::string FileDeck::embeddingStem() const {
+    return folderOf(main_) + "/embeddings/Microsoft_Excel_Worksheet";
+}
+
 model::Size FileDeck::slideSize() {
     constexpr double plainWidth = 9144000;
     constexpr double plainHeight = 6858000;

@@ -31,6 +31,8 @@ public:
     [[nodiscard]] ChartParts& charts() { return charts_; }
     /// Where pictures go: their names without number and ending.
     [[nodiscard]] std::string mediaStem() const;
+    /// Where workbooks go, in the same way.
+    [[nodiscard]] std::string embeddingStem() const;
     [[nodiscard]] std::int32_t placeOf(const FileSlide& slide) const;
     void removeSlide(FileSlide& slide);
     void markGone();

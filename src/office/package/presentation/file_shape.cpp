@@ -40,9 +40,18 @@ pugi::xml_node transformOf(pugi::xml_node shape, pugi::xml_node looks) {
     return own ? own : childNamed(looks, ns::drawing, "xfrm");
 }
 
+/// The picture that an object shows on the slide; null for any other shape.
+pugi::xml_node previewIn(pugi::xml_node shape) {
+    if (!isNamed(shape, ns::presentation, "graphicFrame")) return {};
+    return shape.find_node(
+        [](const pugi::xml_node& node) { return isNamed(node, ns::presentation, "pic"); });
+}
+
 pugi::xml_node looksOf(pugi::xml_node shape) {
-    const auto own = childNamed(shape, ns::presentation, "spPr");
-    return own ? own : childNamed(shape, ns::presentation, "grpSpPr");
+    for (const char* name : {"spPr", "grpSpPr"}) {
+        if (const auto own = childNamed(shape, ns::presentation, name)) return own;
+    }
+    return childNamed(previewIn(shape), ns::presentation, "spPr");
 }
 
 double pointsOf(pugi::xml_attribute emu) {
@@ -116,6 +125,12 @@ void FileShape::setFrame(const Frame& frame) {
     changed();
     auto transform = transformOf(node_, looksOf(node_));
     if (!transform) transform = childInOrder(looks("Left"), ns::drawing, "xfrm", looksOrder);
+    write(transform, frame);
+    if (auto own = childNamed(previewIn(node_), ns::presentation, "spPr"))
+        write(childInOrder(own, ns::drawing, "xfrm", looksOrder), frame);
+}
+
+void FileShape::write(pugi::xml_node transform, const Frame& frame) {
     const auto corner = childInOrder(transform, ns::drawing, "off", transformOrder);
     const auto size = childInOrder(transform, ns::drawing, "ext", transformOrder);
     setEmu(corner, "x", frame.corner.left);

@@ -75,6 +75,7 @@ private:
     };
     [[nodiscard]] Frame frame();
     void setFrame(const Frame& frame);
+    static void write(pugi::xml_node transform, const Frame& frame);
     /// The element that says what the shape looks like; `Failure` 1004 for a kind without one.
     [[nodiscard]] pugi::xml_node looks(std::string_view member);
     [[nodiscard]] pugi::xml_node drawnProperties() const;

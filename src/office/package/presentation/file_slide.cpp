@@ -11,6 +11,7 @@
 #include "office/model/powerpoint/paste.h"
 #include "office/package/part_name.h"
 #include "office/package/presentation/file_deck.h"
+#include "office/package/presentation/object_parts.h"
 #include "office/package/presentation/picture_file.h"
 
 namespace office::package {
@@ -263,6 +264,8 @@ FileShapePtr FileSlide::pasteChart(const Copied& copied, PasteAs as) {
 
 model::DeckShapePtr FileSlide::paste(const Copied& copied, PasteAs as) {
     const CopySource::Kind kind = copied.source().kind;
+    if (as == PasteAs::Embedded || (as == PasteAs::Linked && kind == CopySource::Kind::Cells))
+        return pasteObject(*this, copied, as);
     const bool isChart =
         kind == CopySource::Kind::Chart && (as == PasteAs::Default || as == PasteAs::Linked);
     if (isChart) {

@@ -60,6 +60,34 @@ std::string partOfId(Package& package, const std::string& source, std::string_vi
     return package.has(part) ? part : std::string();
 }
 
+/// Of what is bound to cells, which are counted from 0 there: the number from 1.
+std::uint32_t numberIn(pugi::xml_node corner, std::string_view name) {
+    return childNamed(corner, ns::spreadsheetDrawing, name).text().as_uint() + 1;
+}
+
+/// The cells under what stands in a drawing. Where only one corner is bound to a cell, all cells
+/// are taken to have their usual size.
+std::optional<CellBox> cellsUnder(pugi::xml_node frame) {
+    constexpr double columnEmu = 609600;
+    constexpr double rowEmu = 190500;
+    const auto corner = [&](const char* name) {
+        return childNamed(frame, ns::spreadsheetDrawing, name);
+    };
+    while (frame && !corner("from")) frame = frame.parent();
+    if (!frame) return {};
+    CellBox box{.left = numberIn(corner("from"), "col"), .top = numberIn(corner("from"), "row")};
+    const auto cells = [&](const char* side, double emu) {
+        const double length = std::max(0.0, corner("ext").attribute(side).as_double());
+        return static_cast<std::uint32_t>(length / emu);
+    };
+    const auto to = corner("to");
+    box.right = to ? numberIn(to, "col") : box.left + cells("cx", columnEmu);
+    box.bottom = to ? numberIn(to, "row") : box.top + cells("cy", rowEmu);
+    box.right = std::clamp(box.right, box.left, CellBox::lastColumn);
+    box.bottom = std::clamp(box.bottom, box.top, CellBox::lastRow);
+    return box;
+}
+
 std::optional<WorkbookChart> chartIn(Package& package, const std::string& drawing,
                                      pugi::xml_node frame) {
     const auto graphic =
@@ -72,7 +100,8 @@ std::optional<WorkbookChart> chartIn(Package& package, const std::string& drawin
     return WorkbookChart{
         .name = childNamed(about, ns::spreadsheetDrawing, "cNvPr").attribute("name").value(),
         .part = partOfId(package, drawing, id.value()),
-        .isExtended = !standard};
+        .isExtended = !standard,
+        .cells = cellsUnder(frame)};
 }
 
 /// Of a path with slashes between its names. A colon stays after the letter of a drive only, since

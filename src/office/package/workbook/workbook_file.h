@@ -3,12 +3,14 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
 #include "office/package/package.h"
+#include "office/package/workbook/cell_box.h"
 
 namespace office::package {
 
@@ -30,6 +32,8 @@ struct WorkbookChart {
     /// Of the kinds that came after the standard (waterfall, treemap, ...), in a format of their
     /// own.
     bool isExtended = false;
+    /// The cells that it covers; nothing for one that isn't bound to cells.
+    std::optional<CellBox> cells;
 };
 
 /// A workbook's package, of which something is pasted elsewhere. It is only read, and no more of it

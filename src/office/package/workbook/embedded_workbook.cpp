@@ -1,0 +1,155 @@
+#include "office/package/workbook/embedded_workbook.h"
+
+#include <fmt/format.h>
+
+#include <optional>
+#include <vector>
+
+#include "office/package/part_name.h"
+#include "office/package/workbook/cell_box.h"
+#include "office/package/xml.h"
+
+namespace office::package {
+
+namespace {
+
+constexpr const char* plainMain =
+    "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml";
+constexpr const char* macroMain = "application/vnd.ms-excel.sheet.macroEnabled.main+xml";
+constexpr const char* plainType =
+    "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet";
+constexpr const char* macroType = "application/vnd.ms-excel.sheet.macroEnabled.12";
+constexpr std::string_view signatureOrigin =
+    "http://schemas.openxmlformats.org/package/2006/relationships/digital-signature/origin";
+
+/// The schema's order in a workbook, as far as something is put in.
+const std::vector<std::string_view> workbookOrder = {"fileVersion",    "fileSharing",
+                                                     "workbookPr",     "workbookProtection",
+                                                     "bookViews",      "sheets",
+                                                     "functionGroups", "externalReferences",
+                                                     "definedNames",   "calcPr",
+                                                     "oleSize",        "customWorkbookViews",
+                                                     "pivotCaches",    "smartTagPr",
+                                                     "smartTagTypes",  "webPublishing",
+                                                     "fileRecoveryPr", "webPublishObjects",
+                                                     "extLst"};
+
+/// What a sheet says of its windows stands ahead of its cells.
+bool mayBeSelected(const Package& workbook, const std::string& sheet) {
+    constexpr std::size_t headBytes = 16 << 10;
+    return workbook.head(sheet, headBytes).find("tabSelected") != std::string::npos;
+}
+
+/// Two selected sheets would be a group, in which what is done to one is done to the other.
+void selectSheet(Package& workbook, const std::string& sheet, bool isSelected) {
+    const Xml xml(workbook.read(sheet), sheet);
+    const auto views = childNamed(xml.root(), ns::spreadsheet, "sheetViews");
+    bool isChanged = false;
+    for (pugi::xml_node view : childrenNamed(views, ns::spreadsheet, "sheetView")) {
+        if (view.attribute("tabSelected").as_bool() == isSelected) continue;
+        isChanged = true;
+        if (isSelected)
+            attributeFor(view, "tabSelected").set_value("1");
+        else
+            view.remove_attribute("tabSelected");
+    }
+    if (isChanged) workbook.replace(sheet, xml.bytes());
+}
+
+/// The cells that the sheet says are in use.
+CellBox usedCells(const Package& workbook, const std::string& sheet) {
+    const Xml xml(workbook.read(sheet), sheet);
+    const auto used = childNamed(xml.root(), ns::spreadsheet, "dimension");
+    return cellBox(used.attribute("ref").value()).value_or(CellBox());
+}
+
+/// Nothing for a sheet that is a chart.
+std::optional<CellBox> shownCells(WorkbookFile& workbook, const WorkbookSheet& sheet,
+                                  const CopySource& source) {
+    if (sheet.kind != WorkbookSheet::Kind::Worksheet) return {};
+    std::optional<CellBox> cells = cellBox(source.address);
+    if (source.kind == CopySource::Kind::Chart) {
+        const WorkbookChart* const chart = workbook.chart(sheet, source.chart);
+        cells = chart != nullptr ? chart->cells : std::nullopt;
+    }
+    const bool isBlock = cells && !cells->hasWholeColumns() && !cells->hasWholeRows();
+    return isBlock ? *cells : usedCells(workbook.package(), sheet.part);
+}
+
+void show(Package& workbook, const std::string& main, const WorkbookSheet& sheet,
+          const std::optional<CellBox>& cells) {
+    const Xml xml(workbook.read(main), main);
+    pugi::xml_node root = xml.root();
+    int place = 0;
+    const auto entries =
+        childrenNamed(childNamed(root, ns::spreadsheet, "sheets"), ns::spreadsheet, "sheet");
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (entries[i].attribute("name").value() != sheet.name) continue;
+        place = static_cast<int>(i);
+        // A hidden sheet can't be the active one.
+        pugi::xml_node entry = entries[i];
+        entry.remove_attribute("state");
+    }
+    auto views = childInOrder(root, ns::spreadsheet, "bookViews", workbookOrder);
+    static_cast<void>(childInOrder(views, ns::spreadsheet, "workbookView", {"workbookView"}));
+    for (pugi::xml_node view : childrenNamed(views, ns::spreadsheet, "workbookView")) {
+        attributeFor(view, "activeTab").set_value(place);
+        view.remove_attribute("firstSheet");
+        view.remove_attribute("visibility");
+    }
+    root.remove_child(childNamed(root, ns::spreadsheet, "oleSize"));
+    if (cells) {
+        auto size = childInOrder(root, ns::spreadsheet, "oleSize", workbookOrder);
+        attributeFor(size, "ref").set_value(cells->name().c_str());
+    }
+    workbook.replace(main, xml.bytes());
+}
+
+/// They hold for the file as it was.
+void dropSignatures(Package& workbook) {
+    Relationships& relationships = workbook.relationshipsOf("/");
+    const Relationship* const found = relationships.ofType(signatureOrigin);
+    if (found == nullptr || found->isExternal) return;
+    const std::string origin = relationships.partOf(*found);
+    relationships.remove(found->id);
+    if (!workbook.has(origin)) return;
+    const Relationships& signatures = workbook.relationshipsOf(origin);
+    for (const Relationship& one : signatures.all()) {
+        if (!one.isExternal && workbook.has(signatures.partOf(one)))
+            workbook.remove(signatures.partOf(one));
+    }
+    workbook.remove(origin);
+}
+
+}  // namespace
+
+const WorkbookSheet& sheetOf(const WorkbookFile& workbook, const CopySource& source) {
+    const WorkbookSheet* const sheet = workbook.sheet(source.sheet);
+    if (sheet == nullptr)
+        throw PackageError(
+            Fault::Damaged,
+            fmt::format("it has no sheet {} as long as it isn't saved", source.sheet));
+    return *sheet;
+}
+
+EmbeddedWorkbook embeddedWorkbook(WorkbookFile& workbook, const CopySource& source,
+                                  bool /*sheetAlone*/) {
+    const WorkbookSheet& sheet = sheetOf(workbook, source);
+    const std::string file = workbook.bytes();
+    Package copy = Package::fromBytes(file);
+    dropSignatures(copy);
+    for (const WorkbookSheet& one : workbook.sheets()) {
+        const bool isShown = &one == &sheet;
+        if (isShown || mayBeSelected(copy, one.part)) selectSheet(copy, one.part, isShown);
+    }
+    show(copy, workbook.mainPart(), sheet, shownCells(workbook, sheet, source));
+    // A template would be opened as a new file of its own.
+    const bool hasMacros = workbook.hasMacros();
+    copy.setContentType(workbook.mainPart(), hasMacros ? macroMain : plainMain);
+    return {.bytes = copy.bytes(),
+            .ending = hasMacros ? ".xlsm" : ".xlsx",
+            .contentType = hasMacros ? macroType : plainType,
+            .programId = hasMacros ? macroWorkbook : plainWorkbook};
+}
+
+}  // namespace office::package

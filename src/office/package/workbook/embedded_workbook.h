@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+
+#include "office/copied.h"
+#include "office/package/workbook/workbook_file.h"
+
+namespace office::package {
+
+/// The names by which the program is found that opens a workbook.
+inline constexpr const char* plainWorkbook = "Excel.Sheet.12";
+inline constexpr const char* macroWorkbook = "Excel.SheetMacroEnabled.12";
+
+/// A workbook as it goes into a presentation behind an object.
+struct EmbeddedWorkbook {
+    std::string bytes;
+    std::string ending;
+    std::string contentType;
+    std::string programId;
+};
+
+/// The sheet that something was copied of. `PackageError` Damaged, with a clause about the file, if
+/// it isn't in the file.
+[[nodiscard]] const WorkbookSheet& sheetOf(const WorkbookFile& workbook, const CopySource& source);
+
+/// A copy of a workbook that shows what was copied of it: its sheet is the active one, and its
+/// cells are those that the object shows; of a chart the cells that it covers. With `sheetAlone`
+/// nothing of the other sheets is left in it. `PackageError`.
+[[nodiscard]] EmbeddedWorkbook embeddedWorkbook(WorkbookFile& workbook, const CopySource& source,
+                                                bool sheetAlone);
+
+}  // namespace office::package
