@@ -92,8 +92,7 @@ std::string FileShape::name() {
 }
 
 void FileShape::setName(const std::string& name) {
-    changed();
-    attributeFor(properties("cNvPr"), "name").set_value(legible(name).c_str());
+    describe("name", name);
 }
 
 std::string FileShape::alternativeText() {
@@ -101,8 +100,16 @@ std::string FileShape::alternativeText() {
 }
 
 void FileShape::setAlternativeText(const std::string& text) {
-    changed();
-    attributeFor(properties("cNvPr"), "descr").set_value(legible(text).c_str());
+    describe("descr", text);
+}
+
+/// Of an object some programs read what it is called from the shape, others from its picture.
+void FileShape::describe(const char* attribute, const std::string& text) {
+    const auto preview = firstElement(previewIn(changed()));
+    for (const auto& holder :
+         {properties("cNvPr"), childNamed(preview, ns::presentation, "cNvPr")}) {
+        if (holder) attributeFor(holder, attribute).set_value(legible(text).c_str());
+    }
 }
 
 FileShape::Frame FileShape::frame() {

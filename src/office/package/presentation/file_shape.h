@@ -69,6 +69,7 @@ private:
     model::Font font() override;
     void setFont(const model::FontChange& change) override;
 
+    void describe(const char* attribute, const std::string& text);
     struct Frame {
         model::Point corner;
         model::Size size;

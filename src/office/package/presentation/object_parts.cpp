@@ -95,7 +95,7 @@ FileShapePtr pasteObject(FileSlide& slide, const Copied& copied, PasteAs as) {
     const std::string box =
         fmt::format(R"(<a:off x="{}" y="{}"/><a:ext cx="{}" cy="{}"/>)", emuOf(place.corner.left),
                     emuOf(place.corner.top), emuOf(place.size.width), emuOf(place.size.height));
-    return slide.addShape(
+    FileShapePtr shape = slide.addShape(
         "Object",
         fmt::format(
             R"(<p:graphicFrame><p:nvGraphicFramePr><p:cNvPr/><p:cNvGraphicFramePr>)"
@@ -109,6 +109,8 @@ FileShapePtr pasteObject(FileSlide& slide, const Copied& copied, PasteAs as) {
             R"(</p:oleObj></a:graphicData></a:graphic></p:graphicFrame>)",
             box, behind.relationship, emuOf(picture.size.width), emuOf(picture.size.height),
             behind.programId, behind.kind, preview));
+    shape->setName(shape->name());
+    return shape;
 }
 
 }  // namespace office::package
