@@ -169,12 +169,14 @@ TEST_F(ObjectOnASlide, IsRefusedWithAReasonWhereTheFileHoldsNoSuchSheet) {
         bool isLink;
         std::string said;
     } const rows[] = {
-        {{Kind::Cells, "", "Data", "", "$A$1"}, false, "save it first"},
-        {{Kind::Cells, old, "Data", "", "$A$1"}, false, "Save it as .xlsx"},
-        {{Kind::Cells, open, "Data", "", "$A$1"}, true, "Open.ods can't be linked to"},
-        {{Kind::Cells, book, "New", "", "$A$1"}, true, "no sheet New"},
+        {{Kind::Cells, "", "Data", "", "$A$1"}, false, "not been saved"},
+        {{Kind::Cells, old, "Data", "", "$A$1"},
+         false,
+         "no .xlsx or .xlsm file (it is a file of the older"},
+        {{Kind::Cells, open, "Data", "", "$A$1"}, true, "It can't be linked"},
+        {{Kind::Cells, book, "New", "", "$A$1"}, true, "does not hold its sheet"},
         {{Kind::Cells, book + "x", "Data", "", "$A$1"}, false, "can't be read"},
-        {{Kind::Cells, book, "Data", "", "$A$1,$C$1"}, true, "Several areas"},
+        {{Kind::Cells, book, "Data", "", "$A$1,$C$1"}, true, "several areas"},
     };
     const Object deck = openDeck();
     for (const auto& row : rows) {

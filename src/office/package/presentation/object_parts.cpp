@@ -23,12 +23,6 @@ struct Behind {
     const char* kind;
 };
 
-std::string fileNameOf(const CopySource& source) {
-    const std::filesystem::path path(std::u8string(source.file.begin(), source.file.end()));
-    const auto name = path.filename().u8string();
-    return {name.begin(), name.end()};
-}
-
 Behind embed(FileSlide& slide, const CopySource& source) {
     FileDeck& deck = slide.deck();
     const WorkbookFilePtr workbook = deck.rules().workbooks->at(source.file);
@@ -63,28 +57,32 @@ Behind link(FileSlide& slide, const CopySource& source) {
 
 }  // namespace
 
-std::string objectObstacle(const FileRules& rules, const CopySource& source, PasteAs as) {
-    if (source.kind == CopySource::Kind::Picture) return "It is a picture";
-    if (source.file.empty()) return "The workbook has no file yet: save it first";
-    const char* const verb = as == PasteAs::Linked ? "linked to" : "embedded";
+std::string objectObstacle(PasteAs as, const CopySource& source, WorkbookFiles& workbooks) {
+    if (source.kind == CopySource::Kind::Picture) return "it is a picture";
+    if (source.file.empty()) return "its workbook has not been saved yet";
+    if (as == PasteAs::Linked && source.address.find(',') != std::string::npos)
+        return "it has several areas";
     try {
-        const WorkbookFilePtr workbook = rules.workbooks->at(source.file);
-        static_cast<void>(sheetOf(*workbook, source));
+        const WorkbookFilePtr workbook = workbooks.at(source.file);
+        return workbook->sheet(source.sheet) == nullptr
+                   ? "the workbook's file does not hold its sheet"
+                   : "";
     } catch (const PackageError& error) {
-        const bool isOtherKind = error.fault() == Fault::NotAPackage;
-        return fmt::format("{} can't be {}: {}{}", fileNameOf(source), verb, error.what(),
-                           isOtherKind ? ". Save it as .xlsx or .xlsm first" : "");
+        const char* const text = error.fault() == Fault::NotAPackage
+                                     ? "its workbook is no .xlsx or .xlsm file ({})"
+                                     : "its workbook's file can't be used ({})";
+        return fmt::format(fmt::runtime(text), std::string(error.what()));
     }
-    const bool isOneBlock = source.address.find(',') == std::string::npos;
-    if (as == PasteAs::Linked && !isOneBlock) return "Several areas can't be linked to";
-    return {};
 }
 
 FileShapePtr pasteObject(FileSlide& slide, const Copied& copied, PasteAs as) {
     const CopySource& source = copied.source();
     FileDeck& deck = slide.deck();
-    if (const std::string obstacle = objectObstacle(deck.rules(), source, as); !obstacle.empty())
-        model::refuse("Shapes.PasteSpecial", obstacle);
+    const std::string obstacle = objectObstacle(as, source, *deck.rules().workbooks);
+    if (!obstacle.empty())
+        model::refuse("Shapes.PasteSpecial",
+                      fmt::format("It can't be {}: {}",
+                                  as == PasteAs::Linked ? "linked" : "embedded", obstacle));
     PictureFile picture = pictureOf(copied.png(), "What was copied");
     const model::PastePlace place = model::pastePlaceFor(picture.size, deck, slide);
     const Behind behind = as == PasteAs::Linked ? link(slide, source) : embed(slide, source);

@@ -9,12 +9,12 @@
 namespace office::package {
 
 /// Puts what was copied on a slide as an object behind its picture: a workbook of its own, or a
-/// link to the cells in their file. `Failure` 1004 with what `objectObstacle` says.
+/// link to the cells in their file. `Failure` 1004 for what has an obstacle.
 FileShapePtr pasteObject(FileSlide& slide, const Copied& copied, PasteAs as);
 
-/// Why something can't become an embedded or a linked object, in a sentence for the user without
-/// its full stop; empty if it can.
-[[nodiscard]] std::string objectObstacle(const FileRules& rules, const CopySource& source,
-                                         PasteAs as);
+/// Why something can't become an embedded or a linked object, as a clause about it: "its workbook
+/// has not been saved yet". Empty if it can.
+[[nodiscard]] std::string objectObstacle(PasteAs as, const CopySource& source,
+                                         WorkbookFiles& workbooks);
 
 }  // namespace office::package

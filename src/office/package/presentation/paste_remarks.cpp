@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "office/package/presentation/object_parts.h"
 #include "office/package/workbook/source_chart.h"
 
 namespace office::package {
@@ -13,9 +14,25 @@ namespace {
 
 /// Why an item can't be pasted in this form; empty if it can.
 std::string obstacleTo(PasteAs as, const PasteItem& item, WorkbookFiles& workbooks) {
-    const bool isChart = item.source.kind == CopySource::Kind::Chart &&
-                         (as == PasteAs::Default || as == PasteAs::Linked);
-    return isChart ? findChart(item.source, workbooks).obstacle : std::string();
+    const bool isChart = item.source.kind == CopySource::Kind::Chart;
+    if (isChart && (as == PasteAs::Default || as == PasteAs::Linked))
+        return findChart(item.source, workbooks).obstacle;
+    const bool isObject = as == PasteAs::Embedded || as == PasteAs::Linked;
+    return isObject ? objectObstacle(as, item.source, workbooks) : std::string();
+}
+
+/// What becomes of items that can't be pasted in a form.
+struct Outcome {
+    const char* one;
+    const char* many;
+};
+
+const Outcome& outcomeOf(PasteAs as) {
+    static constexpr Outcome picture = {"{} will be a picture", "Each of {} will be a picture"};
+    static constexpr Outcome noLink = {"{} can't be linked", "None of {} can be linked"};
+    static constexpr Outcome notEmbedded = {"{} can't be embedded", "None of {} can be embedded"};
+    if (as == PasteAs::Linked) return noLink;
+    return as == PasteAs::Embedded ? notEmbedded : picture;
 }
 
 std::string shownName(const PasteItem& item) {
@@ -50,13 +67,12 @@ std::vector<std::string> pasteRemarks(PasteAs as, const std::vector<PasteItem>& 
     }
     std::vector<std::string> remarks;
     for (const auto& [reason, names] : byReason) {
-        const bool isLink = as == PasteAs::Linked;
-        const char* const many =
-            isLink ? "None of {} can be linked" : "Each of {} will be a picture";
-        const char* const one = isLink ? "{} can't be linked" : "{} will be a picture";
-        remarks.push_back(fmt::format(
-            "{}: {}.", fmt::format(fmt::runtime(names.size() > 1 ? many : one), enumerated(names)),
-            reason));
+        const Outcome& outcome = outcomeOf(as);
+        remarks.push_back(
+            fmt::format("{}: {}.",
+                        fmt::format(fmt::runtime(names.size() > 1 ? outcome.many : outcome.one),
+                                    enumerated(names)),
+                        reason));
     }
     return remarks;
 }

@@ -123,18 +123,9 @@ void dropSignatures(Package& workbook) {
 
 }  // namespace
 
-const WorkbookSheet& sheetOf(const WorkbookFile& workbook, const CopySource& source) {
-    const WorkbookSheet* const sheet = workbook.sheet(source.sheet);
-    if (sheet == nullptr)
-        throw PackageError(
-            Fault::Damaged,
-            fmt::format("it has no sheet {} as long as it isn't saved", source.sheet));
-    return *sheet;
-}
-
 EmbeddedWorkbook embeddedWorkbook(WorkbookFile& workbook, const CopySource& source,
                                   bool /*sheetAlone*/) {
-    const WorkbookSheet& sheet = sheetOf(workbook, source);
+    const WorkbookSheet& sheet = *workbook.sheet(source.sheet);
     const std::string file = workbook.bytes();
     Package copy = Package::fromBytes(file);
     dropSignatures(copy);

@@ -19,13 +19,9 @@ struct EmbeddedWorkbook {
     std::string programId;
 };
 
-/// The sheet that something was copied of. `PackageError` Damaged, with a clause about the file, if
-/// it isn't in the file.
-[[nodiscard]] const WorkbookSheet& sheetOf(const WorkbookFile& workbook, const CopySource& source);
-
 /// A copy of a workbook that shows what was copied of it: its sheet is the active one, and its
 /// cells are those that the object shows; of a chart the cells that it covers. With `sheetAlone`
-/// nothing of the other sheets is left in it. `PackageError`.
+/// nothing of the other sheets is left in it. The file has to hold the sheet. `PackageError`.
 [[nodiscard]] EmbeddedWorkbook embeddedWorkbook(WorkbookFile& workbook, const CopySource& source,
                                                 bool sheetAlone);
 
