@@ -38,7 +38,7 @@ std::string described(const CellLook& look) {
         if (holds) all += word;
     }
     if (look.fontName != "Calibri") all += " " + look.fontName;
-    if (look.fontSizePt != 11) all += fmt::format(" {}pt", look.fontSizePt);
+    if (look.fontSizePt != 11) all += fmt::format(" {:.2g}pt", look.fontSizePt);
     if (look.fontColour != 0) all += fmt::format(" ink={:06X}", look.fontColour);
     if (look.fill) all += fmt::format(" fill={:06X}", *look.fill);
     if (look.indentPt != 0) all += fmt::format(" indent={:.0f}", look.indentPt);
@@ -114,6 +114,33 @@ TEST_F(ExcelTables, LookAsTheirCellsDo) {
     EXPECT_NEAR(table.heightPt(), cells.get("Height").toDouble(), 0.1);
     for (const double height : table.rowHeightsPt)
         EXPECT_NEAR(height, height == table.rowHeightsPt.front() ? 30 : 15, 3);
+}
+
+TEST_F(ExcelTables, DoWithWideTextsWhatASheetDoes) {
+    const std::vector<std::string> expected = {
+        "runs over to the right 2x1",
+        "x",
+        "runs over till it meets 2x1",
+        "another",
+        "is cut off her",
+        "x",
+        "to the left it runs right 2x1",
+        "in the middle, centred centre 3x1",
+        "########## right",
+        "33.3333333 right",
+        "1.2346E+11 right",
+        "-0.00001235 right",
+        "breaks into lines wraps",
+        "shrinks to its cell 8.5pt",
+        "横浜と神戸と東京と大 2x1",
+        "ends…",
+    };
+    const TableLook table = tableOf("Wide", "A1:D8");
+    std::vector<std::string> found;
+    for (const CellLook& look : table.cells) {
+        if (!look.isCovered && !look.text.empty()) found.push_back(described(look));
+    }
+    EXPECT_EQ(found, expected);
 }
 
 TEST_F(ExcelTables, HoldWholeCellsOfAnySheet) {

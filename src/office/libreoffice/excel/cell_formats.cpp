@@ -70,7 +70,10 @@ public:
             look.fill = swapRedAndBlue(fill);
         look.across = across();
         look.down = down();
-        look.indentPt = pointsOf(value<std::int16_t>("ParaIndent"));
+        // A text that stands where its kind stands by itself has none.
+        if (value<css::table::CellHoriJustify>("HoriJustify") !=
+            css::table::CellHoriJustify_STANDARD)
+            look.indentPt = pointsOf(value<std::int16_t>("ParaIndent"));
         look.wraps = value<bool>("IsTextWrapped") || look.across == CellLook::Across::Justified;
         const auto orientation = value<css::table::CellOrientation>("Orientation");
         look.rotation = orientation == css::table::CellOrientation_STACKED

@@ -2,6 +2,7 @@
 
 #include <libxml/HTMLparser.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <string>
@@ -93,6 +94,8 @@ HtmlCell readCell(const xmlNode& node) {
     HtmlCell cell;
     CellLook& look = cell.look;
     readText(node, look);
+    // A cell has no stops that a tabulator could lead to.
+    std::replace(look.text.begin(), look.text.end(), '\t', ' ');
     // An empty line stands in an empty cell.
     if (look.text == "\n") look.text.clear();
     look.fill = colourOf(node, "bgcolor");

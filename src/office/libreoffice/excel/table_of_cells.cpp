@@ -15,6 +15,7 @@
 #include "office/failure.h"
 #include "office/libreoffice/excel/cell_formats.h"
 #include "office/libreoffice/excel/cells_as_html.h"
+#include "office/libreoffice/excel/fitted_texts.h"
 #include "office/libreoffice/excel/selected_cells.h"
 #include "office/libreoffice/units.h"
 
@@ -89,6 +90,7 @@ public:
         : sheet_(sheet),
           shown_(shown),
           formats_(formats),
+          values_(formats.ofCells.size()),
           isPut_(formats.ofCells.size()) {
         for (const std::size_t format : formats.ofCells) {
             const CellLook& own = formats.formats[format].look;
@@ -109,10 +111,15 @@ public:
             column = freeFrom(row, column);
             if (column == width()) return;
             put(dressed(cell.look, row, column), {shown_.columns[column], shown_.rows[row]});
+            const CellFormat& own = formatAt(row, column);
+            values_[row * width() + column] = {cell.number, own.numberFormat, own.shrinksToFit};
         }
     }
 
-    [[nodiscard]] std::vector<CellLook> take() {
+    /// Of each cell, row by row.
+    [[nodiscard]] const std::vector<CellValue>& values() const { return values_; }
+
+    [[nodiscard]] std::vector<CellLook> takeCells() {
         for (std::size_t row = 0; row < height(); ++row) {
             for (std::size_t column = 0; column < width(); ++column) {
                 if (!at(row, column).isCovered) drawLines(row, column);
@@ -131,8 +138,11 @@ private:
     [[nodiscard]] std::size_t width() const { return shown_.columns.size(); }
     [[nodiscard]] std::size_t height() const { return shown_.rows.size(); }
     CellLook& at(std::size_t row, std::size_t column) { return cells_[row * width() + column]; }
+    [[nodiscard]] const CellFormat& formatAt(std::size_t row, std::size_t column) const {
+        return formats_.formats[formats_.ofCells[row * width() + column]];
+    }
     [[nodiscard]] const CellLook& format(std::size_t row, std::size_t column) const {
-        return formats_.formats[formats_.ofCells[row * width() + column]].look;
+        return formatAt(row, column).look;
     }
 
     /// The first cell of a row, from a column on, that nothing has been put into.
@@ -238,9 +248,49 @@ private:
     const ShownLines& shown_;
     const CellFormats& formats_;
     std::vector<CellLook> cells_;
+    std::vector<CellValue> values_;
     /// Whether they are what they are to be.
     std::vector<bool> isPut_;
 };
+
+/// Adds up the lengths of those that become one line with the last one before that is kept.
+std::vector<double> joined(const std::vector<double>& lengths, const std::set<std::size_t>& kept) {
+    std::vector<double> all;
+    for (std::size_t i = 0; i < lengths.size(); ++i) {
+        if (kept.contains(i)) all.push_back(0);
+        all.back() += lengths[i];
+    }
+    return all;
+}
+
+/// How many of a stretch are kept.
+std::int32_t keptFrom(const std::set<std::size_t>& kept, std::size_t first, std::int32_t count) {
+    const auto end = first + static_cast<std::size_t>(count);
+    return static_cast<std::int32_t>(std::distance(kept.lower_bound(first), kept.lower_bound(end)));
+}
+
+/// Makes one line of columns, or of rows, in which no cell begins: they are seen as one, and some
+/// programs lose their way in a table that says otherwise.
+TableLook withoutUnseenLines(const TableLook& table) {
+    const std::size_t columns = table.columnWidthsPt.size();
+    std::set<std::size_t> keptColumns, keptRows;
+    for (std::size_t i = 0; i < table.cells.size(); ++i) {
+        if (table.cells[i].isCovered) continue;
+        keptRows.insert(i / columns);
+        keptColumns.insert(i % columns);
+    }
+    TableLook seen{
+        joined(table.columnWidthsPt, keptColumns), joined(table.rowHeightsPt, keptRows), {}};
+    for (const std::size_t row : keptRows) {
+        for (const std::size_t column : keptColumns) {
+            seen.cells.push_back(table.at(row, column));
+            CellLook& look = seen.cells.back();
+            look.columns = keptFrom(keptColumns, column, look.columns);
+            look.rows = keptFrom(keptRows, row, look.rows);
+        }
+    }
+    return seen;
+}
 
 }  // namespace
 
@@ -266,8 +316,10 @@ TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block) {
     TableMaker maker(sheet, shown, formats);
     for (std::size_t row = 0; row < std::min(html.rows.size(), shown.rows.size()); ++row)
         maker.putRow(html.rows[row], row);
-    table.cells = maker.take();
-    return table;
+    table.cells = maker.takeCells();
+    TextWidths widths(sheet.book().desk().connection());
+    fitTexts(table, maker.values(), widths, sheet.book().formats());
+    return withoutUnseenLines(table);
 }
 
 }  // namespace libreoffice::excel

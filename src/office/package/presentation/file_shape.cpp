@@ -6,6 +6,7 @@
 #include "office/model/powerpoint/objects.h"
 #include "office/package/presentation/file_deck.h"
 #include "office/package/presentation/file_slide.h"
+#include "office/package/presentation/table_markup.h"
 
 namespace office::package {
 
@@ -159,7 +160,10 @@ model::Size FileShape::size() {
 }
 
 void FileShape::resize(const model::Size& size) {
-    setFrame({frame().corner, size});
+    const Frame before = frame();
+    if (const auto table = tableIn(node_); table && before.size.width > 0 && before.size.height > 0)
+        stretchTable(table, size.width / before.size.width, size.height / before.size.height);
+    setFrame({before.corner, size});
 }
 
 pugi::xml_node FileShape::locks(bool made) {

@@ -83,6 +83,8 @@ private:
     /// Of the picture's or the shape's own: what it is called, what may be done with it.
     [[nodiscard]] pugi::xml_node properties(std::string_view name) const;
     [[nodiscard]] pugi::xml_node locks(bool made);
+    /// What holds its effects: a table has some, though it has no other looks.
+    [[nodiscard]] pugi::xml_node effectsHolder() const;
     [[nodiscard]] pugi::xml_node effect(std::string_view name);
     pugi::xml_node madeEffect(std::string_view member, std::string_view name);
     void dropEffect(std::string_view name);

@@ -13,6 +13,7 @@
 #include "office/package/presentation/file_deck.h"
 #include "office/package/presentation/object_parts.h"
 #include "office/package/presentation/picture_file.h"
+#include "office/package/presentation/table_markup.h"
 
 namespace office::package {
 
@@ -268,6 +269,7 @@ model::DeckShapePtr FileSlide::paste(const Copied& copied, PasteAs as) {
         return pasteObject(*this, copied, as);
     const bool isChart =
         kind == CopySource::Kind::Chart && (as == PasteAs::Default || as == PasteAs::Linked);
+    if (kind == CopySource::Kind::Cells && as == PasteAs::Default) return pasteTable(*this, copied);
     if (isChart) {
         if (FileShapePtr chart = pasteChart(copied, as)) return chart;
     } else if (kind != CopySource::Kind::Picture && as != PasteAs::Png && as != PasteAs::Metafile) {

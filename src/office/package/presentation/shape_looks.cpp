@@ -8,6 +8,7 @@
 
 #include "office/package/presentation/file_shape.h"
 #include "office/package/presentation/file_slide.h"
+#include "office/package/presentation/table_markup.h"
 #include "office/text.h"
 
 namespace office::package {
@@ -52,10 +53,10 @@ std::int32_t swapped(std::int32_t colour) {
 
 }  // namespace
 
-const std::vector<std::string_view> looksOrder = {"xfrm",      "custGeom", "prstGeom",  "noFill",
-                                                  "solidFill", "gradFill", "blipFill",  "pattFill",
-                                                  "grpFill",   "ln",       "effectLst", "effectDag",
-                                                  "scene3d",   "sp3d",     "extLst"};
+const std::vector<std::string_view> looksOrder = {
+    "xfrm",     "custGeom", "prstGeom",   "noFill",       "solidFill", "gradFill",
+    "blipFill", "pattFill", "grpFill",    "ln",           "effectLst", "effectDag",
+    "scene3d",  "sp3d",     "tableStyle", "tableStyleId", "extLst"};
 
 std::int32_t colourIn(pugi::xml_node holder) {
     const auto colour = childNamed(holder, ns::drawing, "srgbClr");
@@ -124,13 +125,19 @@ bool FileShape::setAdjustment(std::int32_t place, double value) {
     return true;
 }
 
+pugi::xml_node FileShape::effectsHolder() const {
+    const auto ofTable = childNamed(tableIn(node_), ns::drawing, "tblPr");
+    return ofTable ? ofTable : drawnProperties();
+}
+
 pugi::xml_node FileShape::effect(std::string_view name) {
-    return childNamed(childNamed(drawnProperties(), ns::drawing, "effectLst"), ns::drawing, name);
+    return childNamed(childNamed(effectsHolder(), ns::drawing, "effectLst"), ns::drawing, name);
 }
 
 /// Effects that stand in the order of a graph are left to their maker: a list takes their place.
 pugi::xml_node FileShape::madeEffect(std::string_view member, std::string_view name) {
-    auto drawn = looks(member);
+    auto drawn = effectsHolder();
+    if (!drawn) drawn = looks(member);
     changed();
     drawn.remove_child(childNamed(drawn, ns::drawing, "effectDag"));
     return childInOrder(childInOrder(drawn, ns::drawing, "effectLst", looksOrder), ns::drawing,

@@ -1,0 +1,215 @@
+#include "office/libreoffice/excel/fitted_texts.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "office/text.h"
+
+namespace libreoffice::excel {
+
+namespace {
+
+using office::CellLine;
+using office::CellLook;
+using office::TableLook;
+
+/// What a sheet leaves free on each side of a text.
+constexpr double sideMarginPt = 1;
+/// Widths are those of single characters: close to one another they take less.
+constexpr double tolerancePt = 1;
+
+class TextFitter {
+public:
+    TextFitter(TableLook& table, TextWidths& widths, NumberFormats& formats)
+        : table_(table),
+          widths_(widths),
+          formats_(formats) {}
+
+    void fit(std::size_t row, std::size_t column, const CellValue& value) {
+        CellLook& cell = at(row, column);
+        if (cell.isCovered || cell.text.empty() || cell.rotation != 0) return;
+        if (cell.wraps && !value.number) return;
+        const double room = roomIn(row, column);
+        const double wide = widthOf(cell);
+        if (wide <= room + tolerancePt) return;
+        if (value.shrinksToFit) {
+            cell.fontSizePt *= std::max(room, 1.0) / wide;
+        } else if (value.number) {
+            fitNumber(cell, value, room);
+        } else {
+            fitText(row, column, wide);
+        }
+    }
+
+private:
+    CellLook& at(std::size_t row, std::size_t column) {
+        return table_.cells[row * table_.columnWidthsPt.size() + column];
+    }
+
+    [[nodiscard]] double roomIn(std::size_t row, std::size_t column) {
+        const CellLook& cell = at(row, column);
+        double room = -2 * sideMarginPt - cell.indentPt;
+        for (std::size_t i = 0; i < static_cast<std::size_t>(cell.columns); ++i)
+            room += table_.columnWidthsPt[column + i];
+        return room;
+    }
+
+    /// Of the widest line. Blanks at the end take no room.
+    [[nodiscard]] double widthOf(const CellLook& cell) {
+        double widest = 0;
+        for (std::size_t start = 0; start <= cell.text.size();) {
+            const std::size_t end = std::min(cell.text.find('\n', start), cell.text.size());
+            const std::string line = cell.text.substr(start, end - start);
+            widest =
+                std::max(widest, widths_.of(line.substr(0, line.find_last_not_of(' ') + 1), cell));
+            start = end + 1;
+        }
+        return widest;
+    }
+
+    void fitNumber(CellLook& cell, const CellValue& value, double room) {
+        if (formats_.codeOf(value.numberFormat) == "General" &&
+            (roundToFit(cell, value, room) || writeShort(cell, value, room)))
+            return;
+        const double one = widths_.of("#", cell);
+        cell.text.assign(static_cast<std::size_t>(std::max(room / one, 1.0)), '#');
+    }
+
+    /// With as many decimals as there is room for.
+    bool roundToFit(CellLook& cell, const CellValue& value, double room) {
+        const auto [mark, decimals] = decimalsOf(cell.text);
+        for (std::size_t i = decimals; i-- > 0;) {
+            if (take(cell, withMark(fmt::format("{:.{}f}", *value.number, i), mark), room))
+                return true;
+        }
+        return false;
+    }
+
+    /// As a number of few digits with a power of ten.
+    bool writeShort(CellLook& cell, const CellValue& value, double room) {
+        constexpr int mostDecimals = 5;
+        // A short number has too few characters to save any.
+        if (std::abs(*value.number) < 1e5 && std::abs(*value.number) > 1e-5) return false;
+        const auto [mark, decimals] = decimalsOf(cell.text);
+        for (int i = mostDecimals; i >= 0; --i) {
+            if (take(cell, withMark(fmt::format("{:.{}E}", *value.number, i), mark), room))
+                return true;
+        }
+        return false;
+    }
+
+    bool take(CellLook& cell, const std::string& text, double room) {
+        if (widths_.of(text, cell) > room) return false;
+        cell.text = text;
+        return true;
+    }
+
+    /// The decimal mark of a number as it is written, and how many digits follow it.
+    static std::pair<std::string, std::size_t> decimalsOf(const std::string& number) {
+        constexpr const char* digits = "0123456789";
+        const std::size_t first = number.find_first_of(digits);
+        const std::size_t mark = std::min(number.find_first_not_of(digits, first), number.size());
+        const std::size_t after = std::min(number.find_first_of(digits, mark), number.size());
+        const std::size_t end = std::min(number.find_first_not_of(digits, after), number.size());
+        if (after == end) return {".", 0};
+        return {number.substr(mark, after - mark), end - after};
+    }
+    static std::string withMark(std::string number, const std::string& mark) {
+        const std::size_t point = number.find('.');
+        return point == std::string::npos ? number : number.replace(point, 1, mark);
+    }
+
+    void fitText(std::size_t row, std::size_t column, double wide) {
+        const CellLook::Across across = at(row, column).across;
+        const bool isSingle = at(row, column).columns == 1 && at(row, column).rows == 1;
+        bool goesOn = isSingle;
+        while (goesOn && wide > roomIn(row, column) + tolerancePt) {
+            goesOn = false;
+            if (across != CellLook::Across::Right) goesOn = spanNext(row, column);
+            if (across != CellLook::Across::Left && spanBefore(row, column)) {
+                --column;
+                goesOn = true;
+            }
+        }
+        if (widthOf(at(row, column)) > roomIn(row, column) + tolerancePt)
+            cut(at(row, column), roomIn(row, column));
+    }
+
+    /// Whether a text of the row can run over into the cell at this place.
+    [[nodiscard]] bool isFree(std::size_t row, std::size_t column) {
+        if (column >= table_.columnWidthsPt.size()) return false;
+        const CellLook& cell = at(row, column);
+        return !cell.isCovered && cell.text.empty() && cell.columns == 1 && cell.rows == 1;
+    }
+
+    bool spanNext(std::size_t row, std::size_t column) {
+        const std::size_t next = column + static_cast<std::size_t>(at(row, column).columns);
+        if (!isFree(row, next)) return false;
+        at(row, column).right = at(row, next).right;
+        span(at(row, column), at(row, next));
+        return true;
+    }
+
+    bool spanBefore(std::size_t row, std::size_t column) {
+        if (column == 0 || !isFree(row, column - 1)) return false;
+        at(row, column).left = at(row, column - 1).left;
+        span(at(row, column), at(row, column - 1));
+        std::swap(at(row, column), at(row, column - 1));
+        return true;
+    }
+
+    static void span(CellLook& cell, CellLook& other) {
+        if (other.top.widthPt > cell.top.widthPt) cell.top = other.top;
+        if (other.bottom.widthPt > cell.bottom.widthPt) cell.bottom = other.bottom;
+        ++cell.columns;
+        other.isCovered = true;
+    }
+
+    /// Leaves what is seen of a text: its beginning, its end if it stands on the right, or its
+    /// middle.
+    void cut(CellLook& cell, double room) {
+        struct Character {
+            std::string_view bytes;
+            double width;
+        };
+        std::vector<Character> characters;
+        double wide = 0;
+        for (std::size_t i = 0; i < cell.text.size();) {
+            const std::size_t length =
+                std::max<std::size_t>(office::characterLength(cell.text, i), 1);
+            const auto bytes = std::string_view(cell.text).substr(i, length);
+            if (bytes == "\n") return;
+            characters.push_back({bytes, widths_.of(std::string(bytes), cell)});
+            wide += characters.back().width;
+            i += length;
+        }
+        auto first = characters.begin(), last = characters.end();
+        bool fromFront = cell.across == CellLook::Across::Right;
+        while (last - first > 1 && wide > room) {
+            wide -= fromFront ? first++->width : (--last)->width;
+            if (cell.across == CellLook::Across::Centre) fromFront = !fromFront;
+        }
+        std::string seen;
+        for (auto each = first; each != last; ++each) seen += each->bytes;
+        cell.text = seen;
+    }
+
+    TableLook& table_;
+    TextWidths& widths_;
+    NumberFormats& formats_;
+};
+
+}  // namespace
+
+void fitTexts(TableLook& table, const std::vector<CellValue>& values, TextWidths& widths,
+              NumberFormats& formats) {
+    TextFitter fitter(table, widths, formats);
+    const std::size_t columns = table.columnWidthsPt.size();
+    for (std::size_t place = 0; place < table.cells.size(); ++place)
+        fitter.fit(place / columns, place % columns, values[place]);
+}
+
+}  // namespace libreoffice::excel

@@ -1,0 +1,371 @@
+#include "office/package/presentation/table_markup.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <sstream>
+
+#include "office/model/powerpoint/paste.h"
+#include "office/package/presentation/file_deck.h"
+#include "office/package/xml.h"
+
+namespace office::package {
+
+namespace {
+
+constexpr const char* tableSpace = "http://schemas.openxmlformats.org/drawingml/2006/table";
+/// The style that adds neither lines nor fills.
+constexpr const char* plainStyle = "{2D5ABB26-0587-4C30-8999-92F81FD0307C}";
+/// Between a cell's edges and its text: as little as a sheet has.
+constexpr double marginPt = 1;
+/// Sizes of characters are hundredths of a point, shares of 100000.
+constexpr double perPoint = 100;
+constexpr double wholeShare = 100000;
+constexpr double smallestSizePt = 1;
+/// Lines of a text that is broken by the cell's width come no closer to each other.
+constexpr double closestLines = 0.8;
+/// The thinnest line that is drawn at all.
+constexpr double thinnestPt = 0.25;
+
+void setRounded(pugi::xml_node node, const char* name, double value) {
+    node.append_attribute(name).set_value(std::llround(value));
+}
+
+/// Lengths one after another, rounded so that their sum is the rounded sum.
+std::vector<long long> emuOfAll(const std::vector<double>& lengthsPt, double scale) {
+    std::vector<long long> all;
+    double endPt = 0;
+    long long end = 0;
+    for (const double length : lengthsPt) {
+        endPt += length * scale;
+        all.push_back(emuOf(endPt) - end);
+        end += all.back();
+    }
+    return all;
+}
+
+class TableWriter {
+public:
+    TableWriter(const TableLook& look, double scale, const MeasureText& measure)
+        : look_(look),
+          scale_(scale),
+          measure_(measure) {}
+
+    void write(pugi::xml_node table) {
+        table.append_child("a:tblPr").append_child("a:tableStyleId").text().set(plainStyle);
+        auto grid = table.append_child("a:tblGrid");
+        for (const long long width : emuOfAll(look_.columnWidthsPt, scale_))
+            grid.append_child("a:gridCol").append_attribute("w").set_value(width);
+        const auto heights = emuOfAll(look_.rowHeightsPt, scale_);
+        const std::vector<Origin> origins = findOrigins();
+        for (std::size_t row = 0; row < heights.size(); ++row) {
+            auto element = table.append_child("a:tr");
+            element.append_attribute("h").set_value(heights[row]);
+            for (std::size_t column = 0; column < columns(); ++column)
+                writeCell(element.append_child("a:tc"), origins[row * columns() + column], row,
+                          column);
+        }
+    }
+
+private:
+    /// Where the cell begins that a place of the grid belongs to.
+    struct Origin {
+        std::size_t row = 0;
+        std::size_t column = 0;
+    };
+    /// How a text stands in its cell, in points of the sheet.
+    struct Fit {
+        double leftPt = marginPt;
+        double rightPt = marginPt;
+        double topPt = 0;
+        double bottomPt = 0;
+        double sizePt = 0;
+        /// Of the usual distance between lines.
+        double spacing = 1;
+    };
+
+    [[nodiscard]] std::size_t columns() const { return look_.columnWidthsPt.size(); }
+
+    [[nodiscard]] std::vector<Origin> findOrigins() const {
+        std::vector<Origin> origins(look_.cells.size());
+        for (std::size_t row = 0; row < look_.rowHeightsPt.size(); ++row) {
+            for (std::size_t column = 0; column < columns(); ++column) {
+                const CellLook& cell = look_.at(row, column);
+                if (cell.isCovered) continue;
+                for (std::size_t down = 0; down < static_cast<std::size_t>(cell.rows); ++down) {
+                    for (std::size_t i = 0; i < static_cast<std::size_t>(cell.columns); ++i)
+                        origins.at((row + down) * columns() + column + i) = {row, column};
+                }
+            }
+        }
+        return origins;
+    }
+
+    void writeCell(pugi::xml_node element, const Origin& origin, std::size_t row,
+                   std::size_t column) const {
+        const CellLook& cell = look_.at(origin.row, origin.column);
+        const bool isRight = column > origin.column;
+        const bool isBelow = row > origin.row;
+        if (cell.rows > 1 && !isBelow) element.append_attribute("rowSpan").set_value(cell.rows);
+        if (cell.columns > 1 && !isRight)
+            element.append_attribute("gridSpan").set_value(cell.columns);
+        if (isRight) element.append_attribute("hMerge").set_value("1");
+        if (isBelow) element.append_attribute("vMerge").set_value("1");
+        const Fit fit = fitFor(cell, origin);
+        auto body = element.append_child("a:txBody");
+        body.append_child("a:bodyPr");
+        body.append_child("a:lstStyle");
+        if (isRight || isBelow) {
+            writeCharacters(body.append_child("a:p").append_child("a:endParaRPr"), cell, fit);
+        } else {
+            writeText(body, cell, fit);
+        }
+
+        auto properties = element.append_child("a:tcPr");
+        setRounded(properties, "marL", fit.leftPt * scale_ * emuPerPoint);
+        setRounded(properties, "marR", fit.rightPt * scale_ * emuPerPoint);
+        setRounded(properties, "marT", fit.topPt * scale_ * emuPerPoint);
+        setRounded(properties, "marB", fit.bottomPt * scale_ * emuPerPoint);
+        writeDirection(properties, cell);
+        const bool isLastColumn =
+            column + 1 == origin.column + static_cast<std::size_t>(cell.columns);
+        const bool isLastRow = row + 1 == origin.row + static_cast<std::size_t>(cell.rows);
+        writeLine(properties, "a:lnL", isRight ? CellLine() : cell.left);
+        writeLine(properties, "a:lnR", isLastColumn ? cell.right : CellLine());
+        writeLine(properties, "a:lnT", isBelow ? CellLine() : cell.top);
+        writeLine(properties, "a:lnB", isLastRow ? cell.bottom : CellLine());
+        if (cell.fill)
+            writeColour(properties, *cell.fill);
+        else
+            properties.append_child("a:noFill");
+    }
+
+    [[nodiscard]] static double sum(const std::vector<double>& lengths, std::size_t first,
+                                    std::int32_t count) {
+        double all = 0;
+        for (std::size_t i = first; i < first + static_cast<std::size_t>(count); ++i)
+            all += lengths.at(i);
+        return all;
+    }
+
+    [[nodiscard]] Fit fitFor(const CellLook& cell, const Origin& origin) const {
+        Fit fit;
+        const bool isUpright = cell.rotation != 0;
+        const double widthPt = sum(look_.columnWidthsPt, origin.column, cell.columns);
+        const double heightPt = sum(look_.rowHeightsPt, origin.row, cell.rows);
+        fit.sizePt = cell.fontSizePt;
+        if (cell.across == CellLook::Across::Left) fit.leftPt += cell.indentPt;
+        if (cell.across == CellLook::Across::Right) fit.rightPt += cell.indentPt;
+        if (isUpright) return fit;
+        const double roomPt = std::max(widthPt - fit.leftPt - fit.rightPt, 1.0);
+        const double textPt =
+            measure_(cell.text.empty() ? "X" : cell.text, {cell.fontName, cell.fontSizePt, 0},
+                     cell.wraps && !cell.text.empty() ? std::optional(roomPt) : std::nullopt)
+                .height;
+        if (!cell.wraps) giveRoomAside(cell, fit);
+        const double sparePt = heightPt - textPt;
+        if (sparePt < 0 && cell.text.empty()) {
+            fit.sizePt = std::max(cell.fontSizePt * heightPt / textPt, smallestSizePt);
+        } else if (sparePt < 0) {
+            fit.spacing = std::max(heightPt / textPt, cell.wraps ? closestLines : 0.0);
+        } else if (cell.down == CellLook::Down::Top) {
+            fit.topPt = std::min(sparePt, marginPt);
+        } else if (cell.down == CellLook::Down::Bottom) {
+            fit.bottomPt = std::min(sparePt, marginPt);
+        }
+        return fit;
+    }
+
+    /// A text that its cell holds with nothing to spare breaks elsewhere, where characters are a
+    /// little wider: it may go to the edge that it doesn't begin at.
+    static void giveRoomAside(const CellLook& cell, Fit& fit) {
+        if (cell.across == CellLook::Across::Left) fit.rightPt = 0;
+        if (cell.across == CellLook::Across::Right) fit.leftPt = 0;
+        if (cell.across == CellLook::Across::Centre) fit.leftPt = fit.rightPt = 0;
+    }
+
+    void writeText(pugi::xml_node body, const CellLook& cell, const Fit& fit) const {
+        std::istringstream lines(legible(cell.text));
+        std::string line;
+        do {
+            line.clear();
+            std::getline(lines, line);
+            auto paragraph = body.append_child("a:p");
+            writeParagraph(paragraph.append_child("a:pPr"), cell, fit);
+            if (line.empty()) {
+                writeCharacters(paragraph.append_child("a:endParaRPr"), cell, fit);
+                continue;
+            }
+            auto run = paragraph.append_child("a:r");
+            writeCharacters(run.append_child("a:rPr"), cell, fit);
+            run.append_child("a:t").text().set(line.c_str());
+        } while (lines.good());
+    }
+
+    static void writeParagraph(pugi::xml_node properties, const CellLook& cell, const Fit& fit) {
+        properties.append_attribute("marL").set_value("0");
+        properties.append_attribute("indent").set_value("0");
+        properties.append_attribute("algn").set_value(alignmentOf(cell));
+        if (fit.spacing < 1)
+            setRounded(properties.append_child("a:lnSpc").append_child("a:spcPct"), "val",
+                       fit.spacing * wholeShare);
+        properties.append_child("a:buNone");
+    }
+
+    /// Along the lines of the text, which run upwards or downwards in a cell that is turned.
+    static const char* alignmentOf(const CellLook& cell) {
+        const bool runsUp = cell.rotation == 90;
+        if (cell.rotation != 0) {
+            if (cell.down == CellLook::Down::Middle) return "ctr";
+            return (cell.down == CellLook::Down::Bottom) == runsUp ? "l" : "r";
+        }
+        switch (cell.across) {
+            case CellLook::Across::Centre:
+                return "ctr";
+            case CellLook::Across::Right:
+                return "r";
+            case CellLook::Across::Justified:
+                return "just";
+            default:
+                return "l";
+        }
+    }
+
+    static void writeDirection(pugi::xml_node properties, const CellLook& cell) {
+        if (cell.rotation != 0)
+            properties.append_attribute("vert").set_value(cell.rotation == 90 ? "vert270" : "vert");
+        properties.append_attribute("anchor").set_value(anchorOf(cell));
+    }
+
+    /// Across the lines of the text, the first of which is on the left of those that run upwards.
+    static const char* anchorOf(const CellLook& cell) {
+        if (cell.rotation != 0) {
+            if (cell.across == CellLook::Across::Centre) return "ctr";
+            return (cell.across == CellLook::Across::Right) == (cell.rotation == 90) ? "b" : "t";
+        }
+        switch (cell.down) {
+            case CellLook::Down::Top:
+                return "t";
+            case CellLook::Down::Middle:
+                return "ctr";
+            default:
+                return "b";
+        }
+    }
+
+    void writeCharacters(pugi::xml_node properties, const CellLook& cell, const Fit& fit) const {
+        setRounded(properties, "sz", std::max(fit.sizePt * scale_, smallestSizePt) * perPoint);
+        properties.append_attribute("b").set_value(cell.isBold ? "1" : "0");
+        properties.append_attribute("i").set_value(cell.isItalic ? "1" : "0");
+        properties.append_attribute("u").set_value(cell.isUnderlined ? "sng" : "none");
+        properties.append_attribute("strike").set_value(cell.isStruckOut ? "sngStrike"
+                                                                         : "noStrike");
+        writeColour(properties, cell.fontColour);
+        for (const char* script : {"a:latin", "a:ea", "a:cs"})
+            properties.append_child(script)
+                .append_attribute("typeface")
+                .set_value(legible(cell.fontName).c_str());
+    }
+
+    static void writeColour(pugi::xml_node holder, std::int32_t colour) {
+        const std::string markup = colourMarkup(colour);
+        holder.append_child("a:solidFill").append_buffer(markup.data(), markup.size());
+    }
+
+    /// Where there is none that is said too: some programs draw the line of the other side else.
+    static void writeLine(pugi::xml_node properties, const char* side, const CellLine& line) {
+        auto element = properties.append_child(side);
+        setRounded(element, "w", std::max(line.widthPt, thinnestPt) * emuPerPoint);
+        element.append_attribute("cap").set_value("flat");
+        element.append_attribute("cmpd").set_value(line.style == CellLine::Style::Double ? "dbl"
+                                                                                         : "sng");
+        if (line.widthPt <= 0) {
+            element.append_child("a:noFill");
+            return;
+        }
+        writeColour(element, line.colour);
+        element.append_child("a:prstDash").append_attribute("val").set_value(dashOf(line.style));
+    }
+
+    static const char* dashOf(CellLine::Style style) {
+        switch (style) {
+            case CellLine::Style::Dashed:
+                return "sysDash";
+            case CellLine::Style::Dotted:
+                return "sysDot";
+            default:
+                return "solid";
+        }
+    }
+
+    const TableLook& look_;
+    double scale_;
+    const MeasureText& measure_;
+};
+
+void stretch(pugi::xml_attribute length, double factor) {
+    if (length) length.set_value(std::llround(length.as_double() * factor));
+}
+
+}  // namespace
+
+std::string tableMarkup(const TableLook& look, double scale, const MeasureText& measure) {
+    pugi::xml_document document;
+    TableWriter(look, scale, measure).write(document.append_child("a:tbl"));
+    std::ostringstream markup;
+    document.save(markup, "", pugi::format_raw | pugi::format_no_declaration);
+    return markup.str();
+}
+
+FileShapePtr pasteTable(FileSlide& slide, const Copied& copied) {
+    const TableLook look = copied.table();
+    const model::PastePlace place =
+        model::pastePlaceFor({look.widthPt(), look.heightPt()}, slide.deck(), slide);
+    return slide.addShape(
+        "Table",
+        fmt::format(R"(<p:graphicFrame><p:nvGraphicFramePr><p:cNvPr/><p:cNvGraphicFramePr>)"
+                    R"(<a:graphicFrameLocks noGrp="1"/></p:cNvGraphicFramePr><p:nvPr/>)"
+                    R"(</p:nvGraphicFramePr><p:xfrm><a:off x="{}" y="{}"/><a:ext cx="{}" cy="{}"/>)"
+                    R"(</p:xfrm><a:graphic><a:graphicData uri="{}">{}</a:graphicData>)"
+                    R"(</a:graphic></p:graphicFrame>)",
+                    emuOf(place.corner.left), emuOf(place.corner.top), emuOf(place.size.width),
+                    emuOf(place.size.height), tableSpace,
+                    tableMarkup(look, place.scale, slide.deck().measure())));
+}
+
+pugi::xml_node tableIn(pugi::xml_node shape) {
+    const auto graphic = childNamed(shape, ns::drawing, "graphic");
+    return childNamed(childNamed(graphic, ns::drawing, "graphicData"), ns::drawing, "tbl");
+}
+
+void stretchTable(pugi::xml_node table, double across, double down) {
+    for (const auto& column :
+         childrenNamed(childNamed(table, ns::drawing, "tblGrid"), ns::drawing, "gridCol"))
+        stretch(column.attribute("w"), across);
+    const double ofText = std::min(across, down);
+    for (const auto& row : childrenNamed(table, ns::drawing, "tr")) {
+        stretch(row.attribute("h"), down);
+        for (const auto& cell : childrenNamed(row, ns::drawing, "tc")) {
+            const auto properties = childNamed(cell, ns::drawing, "tcPr");
+            for (const char* margin : {"marL", "marR", "marT", "marB"})
+                stretch(properties.attribute(margin), ofText);
+        }
+    }
+    struct Characters : pugi::xml_tree_walker {
+        double factor = 1;
+        bool for_each(pugi::xml_node& node) override {
+            auto size = node.attribute("sz");
+            if (size &&
+                (isNamed(node, ns::drawing, "rPr") || isNamed(node, ns::drawing, "endParaRPr")))
+                size.set_value(std::max(std::llround(size.as_double() * factor),
+                                        std::llround(smallestSizePt * perPoint)));
+            return true;
+        }
+    } characters;
+    characters.factor = ofText;
+    table.traverse(characters);
+}
+
+}  // namespace office::package
