@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <string>
@@ -15,6 +16,31 @@
 namespace session {
 
 namespace {
+
+constexpr std::string_view mainFormCode = "/112";
+constexpr std::string_view embeddedObjectCode = "/3122";
+constexpr std::string_view imageCode = "/111";
+
+struct ToSlide {
+    std::string_view code;
+    SlidePaste mode;
+};
+constexpr std::array<ToSlide, 3> slideCommands = {{
+    {"/212", SlidePaste::Pictures},
+    {"/312", SlidePaste::SourceFormatting},
+    {"/412", SlidePaste::LinkedObject},
+}};
+
+struct ToWord {
+    std::string_view code;
+    WordPaste mode;
+};
+constexpr std::array<ToWord, 4> wordCommands = {{
+    {"/512", WordPaste::Picture},
+    {"/612", WordPaste::InlineEmbedded},
+    {"/712", WordPaste::FloatingLinked},
+    {"/812", WordPaste::Table},
+}};
 
 /// Nothing running is no failure, and leaves Excel and PowerPoint empty. Returns why a running
 /// Excel or its workbook could not be had, if that is so.
@@ -171,37 +197,16 @@ int pasteAsEmbeddedObject(OfficeSession& session, std::string_view command,
 
 int runSelectionCommand(OfficeSession& session, std::string_view command,
                         const CommandHandlers& handlers) {
-    struct ToSlide {
-        std::string_view code;
-        SlidePaste mode;
-    };
-    struct ToWord {
-        std::string_view code;
-        WordPaste mode;
-    };
-    static constexpr std::array<ToSlide, 3> slideCommands = {{
-        {"/212", SlidePaste::Pictures},
-        {"/312", SlidePaste::SourceFormatting},
-        {"/412", SlidePaste::LinkedObject},
-    }};
-    static constexpr std::array<ToWord, 4> wordCommands = {{
-        {"/512", WordPaste::Picture},
-        {"/612", WordPaste::InlineEmbedded},
-        {"/712", WordPaste::FloatingLinked},
-        {"/812", WordPaste::Table},
-    }};
-    if (command == "/3122") return pasteAsEmbeddedObject(session, command, handlers);
+    if (command == embeddedObjectCode) return pasteAsEmbeddedObject(session, command, handlers);
     for (const ToSlide& known : slideCommands) {
-        if (command == known.code) {
+        if (command == known.code)
             return perform(session, command, handlers.PasteSelectionToSlide, known.mode);
-        }
     }
     for (const ToWord& known : wordCommands) {
-        if (command == known.code) {
+        if (command == known.code)
             return perform(session, command, handlers.PasteSelectionToWord, known.mode);
-        }
     }
-    if (command == "/111") return perform(session, command, handlers.SaveSelectionAsImage);
+    if (command == imageCode) return perform(session, command, handlers.SaveSelectionAsImage);
     return commandDone;
 }
 
@@ -210,20 +215,27 @@ int runCommand(OfficeSession& session, std::string_view command, const CommandHa
     if (const auto status = runFreeCommand(session, command, handlers, refusal)) return *status;
     if (refusal && session.ActiveBook.isNothing()) return refuse(session, refusal->description());
     if (session.ExcelApp.isNothing()) return commandDone;
-
-    // The count is taken for every code of the rest of the chain, also for those that make nothing
-    // of it.
-    session.ItemCount = 0;
-    if (session.ActiveBook) {
-        const int status = perform(session, command, handlers.CountWorkbookItems);
-        if (status != commandDone) return status;
+    if (command == mainFormCode) {
+        session.ItemCount = 0;
+        if (session.ActiveBook) {
+            const int status = perform(session, command, handlers.CountWorkbookItems);
+            if (status != commandDone) return status;
+        }
+        return runMainForm(session, handlers);
     }
-    if (command == "/112") return runMainForm(session, handlers);
     if (session.ActiveBook.isNothing()) return commandDone;
     return runSelectionCommand(session, command, handlers);
 }
 
 }  // namespace
+
+bool worksOnTheSelection(std::string_view commandLine) {
+    const std::string_view command = office::trim(commandLine);
+    const auto isCommand = [&](const auto& known) { return known.code == command; };
+    return command == embeddedObjectCode || command == imageCode ||
+           std::any_of(slideCommands.begin(), slideCommands.end(), isCommand) ||
+           std::any_of(wordCommands.begin(), wordCommands.end(), isCommand);
+}
 
 int Main(OfficeSession& session, std::string_view commandLine, const CommandHandlers& handlers) {
     const std::string_view command = office::trim(commandLine);

@@ -33,6 +33,10 @@ struct CommandHandlers {
 inline constexpr int commandDone = 0;
 inline constexpr int commandFailed = 1;
 
+/// Whether a command line asks for what is done to the selection at once: such a command shows no
+/// window but a notice where something is wrong.
+[[nodiscard]] bool worksOnTheSelection(std::string_view commandLine);
+
 /// Carries out the one command that the command line names and leaves through `CloseSession`.
 /// Returns the exit status: 0 also for an empty command line and for an unknown code, which end
 /// without a word.

@@ -73,18 +73,18 @@ TEST_F(Launcher, RunsTheHandlerOfEachCodeAndLeavesThroughTheOneWayOut) {
         {"/006", {"layout"}},
         {"/112", {"count", "main form"}},
         {"  /112 ", {"count", "main form"}},
-        {"/212", {"count", "slide 0"}},
-        {"/312", {"count", "slide 1"}},
-        {"/3122", {"count", "slide 2"}},
-        {"/412", {"count", "slide 3"}},
-        {"/512", {"count", "word 0"}},
-        {"/612", {"count", "word 1"}},
-        {"/712", {"count", "word 2"}},
-        {"/812", {"count", "word 3"}},
-        {"/111", {"count", "image"}},
-        {"/112 more", {"count"}},
-        {"/1122", {"count"}},
-        {"/11", {"count"}},
+        {"/212", {"slide 0"}},
+        {"/312", {"slide 1"}},
+        {"/3122", {"slide 2"}},
+        {"/412", {"slide 3"}},
+        {"/512", {"word 0"}},
+        {"/612", {"word 1"}},
+        {"/712", {"word 2"}},
+        {"/812", {"word 3"}},
+        {"/111", {"image"}},
+        {"/112 more", {}},
+        {"/1122", {}},
+        {"/11", {}},
     };
     for (const auto& [commandLine, ran] : cases) {
         Words expected = ran;
@@ -121,7 +121,7 @@ TEST_F(Launcher, GoesOnWithoutWhatItCannotRead) {
     test.suite.failures().failAlways("Application.ActivePresentation");
     test.suite.failures().failAlways("Workbook.ActiveSheet");
     EXPECT_EQ(run("/212"), 0);
-    EXPECT_EQ(recorder.ran.at(1), "slide 0");
+    EXPECT_EQ(recorder.ran.at(0), "slide 0");
 }
 
 TEST_F(Launcher, FailsWithoutClosingForTheCodeThatHasNoForm) {
@@ -138,7 +138,7 @@ TEST_F(Launcher, SaysTrulyWhyACommandHasNoHandlerAndFails) {
     recorder.handlers.ShowLayoutUtility = nullptr;
     recorder.handlers.ShowMainForm = nullptr;
     EXPECT_EQ(run("/712"), 1);
-    EXPECT_EQ(recorder.ran, (Words{"count", "unload all"}));
+    EXPECT_EQ(recorder.ran, (Words{"unload all"}));
     for (const char* code : {"/004", "/006", "/112"}) EXPECT_EQ(run(code), 1) << code;
     const auto noScreen = [](const std::string& code) {
         return "The command " + code + " opens a window, and there is no screen to show it on.";
@@ -174,14 +174,14 @@ TEST_F(Launcher, RefusesAnEmbeddedPasteOfCellsUnderAChart) {
                                   "in another format."}
                           : Words{})
             << selection;
-        EXPECT_EQ(recorder.ran.size(), refused ? 2U : 3U) << selection;
+        EXPECT_EQ(recorder.ran.size(), refused ? 1U : 2U) << selection;
     }
     test.suite.excel().selectRange("C3");
     run("/312");
-    EXPECT_EQ(recorder.ran.at(1), "slide 1");
+    EXPECT_EQ(recorder.ran.at(0), "slide 1");
     test.suite.excel().addWorkbook("Book2.xlsx").chartSheet("Overview");
     run("/3122");
-    EXPECT_EQ(recorder.ran.at(1), "slide 2");
+    EXPECT_EQ(recorder.ran.at(0), "slide 2");
 }
 
 class MainForm : public Launcher {

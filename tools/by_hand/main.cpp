@@ -52,7 +52,8 @@ int main(int count, char** words) {
         std::thread([&hand] { takeOrders(hand); }).detach();
         apps::MachineConsole console([] { return false; });
         try {
-            status = apps::runCommandOn(desktop, words[1], console, apps::suitesOfThisMachine());
+            status = apps::runCommandOn([&]() -> forms::Desktop& { return desktop; }, words[1],
+                                        console, apps::suitesOfThisMachine());
         } catch (const std::exception& error) {
             say({{"unhandled", error.what()}});
         }

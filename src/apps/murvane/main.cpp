@@ -3,6 +3,7 @@
 #include <exception>
 #include <string>
 
+#include "apps/end_of_process.h"
 #include "apps/suite_source.h"
 #include "apps/terminal.h"
 #include "apps/this_machine.h"
@@ -58,9 +59,7 @@ int runCommand(int count, char** words, const std::string& commandLine, apps::Co
     return runInTerminal(commandLine, console, suites);
 }
 
-}  // namespace
-
-int main(int count, char** words) {
+int runOrReport(int count, char** words) {
     constexpr int unhandled = 1;
     apps::MachineConsole console([] { return false; });
     const std::string commandLine = commandLineOf(count, words);
@@ -78,4 +77,10 @@ int main(int count, char** words) {
         console.writeError(fmt::format("Murvane: {}\n", error.what()));
     }
     return unhandled;
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+    apps::endProcess(runOrReport(count, words));
 }

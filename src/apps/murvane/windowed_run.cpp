@@ -1,6 +1,8 @@
 #include "apps/murvane/windowed_run.h"
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "apps/terminal.h"
@@ -38,6 +40,24 @@ private:
     forms::Desktop& desktop_;
 };
 
+/// Notices of a command that shows none as a rule: starting the windows takes longer than the
+/// command.
+class LateNotices : public session::NoticePresenter {
+public:
+    LateNotices(DesktopSource desktop, Console& console)
+        : desktop_(std::move(desktop)),
+          console_(console) {}
+
+    int show(const session::Notice& notice) override {
+        DesktopHost host(console_, desktop_());
+        return panels::NoticePanel(desktop_(), host).show(notice);
+    }
+
+private:
+    DesktopSource desktop_;
+    Console& console_;
+};
+
 /// The forms of the program, and what leads from one to the other.
 class Windows {
 public:
@@ -62,9 +82,6 @@ session::CommandHandlers Windows::handlers() {
     handlers.ShowAboutForm = [this] { panels::ShowAboutForm(session_, desktop_, version); };
     handlers.ShowLayoutUtility = [this] { powerpoint::ShowLayoutUtility(session_, desktop_); };
     handlers.ShowMainForm = [this] { showMainForm(); };
-    handlers.PasteSelectionToSlide = [this](session::SlidePaste mode) {
-        powerpoint::PasteSelectionToSlide(session_, mode);
-    };
     handlers.UnloadAllForms = [this] { desktop_.unloadAll(); };
     return handlers;
 }
@@ -88,19 +105,27 @@ void Windows::showMainForm() {
     session_.MainFormOpen = false;
 }
 
-}  // namespace
-
-bool canShowWindows() {
-    return desktop::screenAnswers();
+int pasteSelection(const DesktopSource& desktop, const std::string& commandLine, Console& console,
+                   const SuiteSource& suites) {
+    LateNotices notices(desktop, console);
+    MachineHost host(console);
+    StatusLine line(console, false);
+    TerminalProgress progress(line);
+    const auto suite = suites.attachToRunning();
+    session::OfficeSession session(*suite, host, notices, progress);
+    session::CommandHandlers handlers;
+    handlers.PasteSelectionToSlide = [&](session::SlidePaste mode) {
+        powerpoint::PasteSelectionToSlide(session, mode);
+    };
+    try {
+        return session::Main(session, commandLine, handlers);
+    } catch (const office::Failure& failure) {
+        desktop().messageBox(unhandledFailureReport(failure), "Murvane");
+        throw;
+    }
 }
 
-int runInWindows(int count, char** words, const std::string& commandLine, Console& console,
-                 const SuiteSource& suites) {
-    desktop::FormsRunner runner(count, words);
-    return runCommandOn(runner.desktop(), commandLine, console, suites);
-}
-
-int runCommandOn(forms::Desktop& desktop, const std::string& commandLine, Console& console,
+int runWithForms(forms::Desktop& desktop, const std::string& commandLine, Console& console,
                  const SuiteSource& suites) {
     DesktopHost host(console, desktop);
     panels::NoticePanel notices(desktop, host);
@@ -117,6 +142,29 @@ int runCommandOn(forms::Desktop& desktop, const std::string& commandLine, Consol
         desktop.messageBox(unhandledFailureReport(failure), "Murvane");
         throw;
     }
+}
+
+}  // namespace
+
+bool canShowWindows() {
+    return desktop::screenAnswers();
+}
+
+int runInWindows(int count, char** words, const std::string& commandLine, Console& console,
+                 const SuiteSource& suites) {
+    std::optional<desktop::FormsRunner> runner;
+    const auto desktop = [&]() -> forms::Desktop& {
+        if (!runner) runner.emplace(count, words);
+        return runner->desktop();
+    };
+    return runCommandOn(desktop, commandLine, console, suites);
+}
+
+int runCommandOn(const DesktopSource& desktop, const std::string& commandLine, Console& console,
+                 const SuiteSource& suites) {
+    if (session::worksOnTheSelection(commandLine))
+        return pasteSelection(desktop, commandLine, console, suites);
+    return runWithForms(desktop(), commandLine, console, suites);
 }
 
 }  // namespace apps

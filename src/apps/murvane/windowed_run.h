@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "apps/console.h"
@@ -16,8 +17,12 @@ namespace apps {
 int runInWindows(int count, char** words, const std::string& commandLine, Console& console,
                  const SuiteSource& suites);
 
+/// Where windows come from once there is something to show: starting them takes longer than some
+/// commands.
+using DesktopSource = std::function<forms::Desktop&()>;
+
 /// The same on a desktop that is there already.
-int runCommandOn(forms::Desktop& desktop, const std::string& commandLine, Console& console,
+int runCommandOn(const DesktopSource& desktop, const std::string& commandLine, Console& console,
                  const SuiteSource& suites);
 
 }  // namespace apps

@@ -4,13 +4,16 @@
 #include <variant>
 #include <vector>
 
+#include "apps/end_of_process.h"
 #include "apps/interruption.h"
 #include "apps/murvane_export/options.h"
 #include "apps/murvane_export/run.h"
 #include "apps/suite_source.h"
 #include "apps/this_machine.h"
 
-int main(int count, char** words) {
+namespace {
+
+int runOrder(int count, char** words) {
     // A reader that has gone away is no reason to leave a suite behind.
     ::signal(SIGPIPE, SIG_IGN);
     apps::Interruption interruption;
@@ -28,4 +31,10 @@ int main(int count, char** words) {
     return unattended::run(
         std::get<unattended::Options>(parsed),
         {apps::suitesOfThisMachine(&interruption), host, console, isInterrupted});
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+    apps::endProcess(runOrder(count, words));
 }
