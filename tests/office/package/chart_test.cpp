@@ -165,6 +165,8 @@ private:
 TEST_F(Chart, TakesAlongWhatItNeedsOutsideOfItsWorkbook) {
     const Object shape = paste(sourceIn(chartWorkbook()));
     shape.put("AlternativeText", "Sales by quarter");
+    shape.get("Shadow").put("Visible", true);
+    EXPECT_THROW(shape.put("AutoShapeType", 5), office::Failure);
     paste(clipboard->copied->source());
     paste(sourceIn(chartWorkbook(), "Trend", ""), true);
     EXPECT_EQ(shape.get("Name").toText(), "Chart 2");
@@ -197,6 +199,7 @@ TEST_F(Chart, TakesAlongWhatItNeedsOutsideOfItsWorkbook) {
                 << part << id.value();
     }
     EXPECT_EQ(package.read(first).find("printSettings"), std::string::npos);
+    EXPECT_NE(package.read(first).find("<a:effectLst><a:outerShdw "), std::string::npos);
 }
 
 TEST_F(Chart, WritesOutWhatItsWorkbooksReaderTakesForGranted) {
@@ -206,9 +209,9 @@ TEST_F(Chart, WritesOutWhatItsWorkbooksReaderTakesForGranted) {
         R"(</c:ser><c:marker val="{0}"/><c:axId)",
         R"(<c:lang val="en"/><c:roundedCorners val="{0}"/><c:clrMapOvr)",
         R"(<c:chart><c:autoTitleDeleted val="{0}"/><c:plotArea>)",
-        R"(<c:scaling/><c:delete val="{0}"/><c:axPos val="b"/>)",
-        R"(<c:legend><c:overlay val="{0}"/></c:legend><c:plotVisOnly val="{0}"/><c:dispBlanksAs val="{1}"/>)",
-        R"(<c:varyColors val="{0}"/><c:ser>)",
+        R"(<c:scaling/><c:delete val="0"/><c:axPos val="b"/>)",
+        R"(<c:legend><c:overlay val="0"/></c:legend><c:plotVisOnly val="{0}"/><c:dispBlanksAs val="{1}"/>)",
+        R"(<c:varyColors val="0"/><c:ser>)",
         R"(<c:dLbl><c:idx val="1"/><c:showLegendKey val="{0}"/><c:showVal val="1"/><c:showCatName val="{0}"/>)"
         R"(<c:showSerName val="{0}"/><c:showPercent val="{0}"/><c:showBubbleSize val="{0}"/></c:dLbl>)"
         R"(<c:showLegendKey val="{0}"/><c:showVal val="1"/>)"};

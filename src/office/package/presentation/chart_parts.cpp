@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "office/package/part_name.h"
+#include "office/package/presentation/chart_looks.h"
 #include "office/text.h"
 
 namespace office::package {
@@ -58,11 +59,8 @@ FlagDefaults defaultsOf(Package& book) {
     }
 }
 
-std::string themeOf(WorkbookFile& book) {
-    const std::string part = book.themePart();
-    if (part.empty()) return {};
-    const Xml theme(book.package().read(part), part);
-    const Xml made(emptyTheme, part);
+std::string overrideOf(const Xml& theme) {
+    const Xml made(emptyTheme, "theme");
     const auto elements = childNamed(theme.root(), ns::drawing, "themeElements");
     for (const char* const name : {"clrScheme", "fontScheme", "fmtScheme"}) {
         if (const auto scheme = childNamed(elements, ns::drawing, name)) adopt(made.root(), scheme);
@@ -91,7 +89,11 @@ ChartParts::Origin& ChartParts::originOf(const WorkbookFilePtr& book) {
     const auto [place, isNew] = origins_.try_emplace(book);
     if (isNew) {
         place->second.defaults = defaultsOf(book->package());
-        place->second.theme = themeOf(*book);
+        if (const std::string part = book->themePart(); !part.empty()) {
+            const Xml theme(book->package().read(part), part);
+            place->second.theme = overrideOf(theme);
+            place->second.thinLine = thinLineOf(theme);
+        }
     }
     return place->second;
 }
@@ -102,6 +104,7 @@ std::string ChartParts::add(SourceChart chart, const std::string& link) {
     auto root = chart.xml->root();
     root.remove_child(childNamed(root, ns::chart, "printSettings"));
     writeFlags(root, origin.defaults);
+    writeLooks(root, origin.thinLine);
     const std::string part = deck_.freeName(folder_ + "/charts/chart", ".xml");
     deck_.add(part, chartType, {});
     takeCompanions(book, origin, chart.part, part, *chart.xml, Holder::Chart);

@@ -25,6 +25,7 @@ private:
         FlagDefaults defaults = FlagDefaults::Standard;
         /// Its theme as one that overrides another; empty if it has none.
         std::string theme;
+        int thinLine = 0;
         /// The copy of the workbook; empty while no chart has needed one.
         std::string copy;
         /// Which of its pictures have become which.

@@ -10,6 +10,7 @@
 
 #include "office/model/powerpoint/deck_shape.h"
 #include "office/package/presentation/deck_layouts.h"
+#include "office/package/xml.h"
 
 namespace office::package {
 
@@ -38,6 +39,8 @@ public:
     /// Whether it is a placeholder that nothing has been put into.
     [[nodiscard]] bool isEmptyPlaceholder();
     void markGone() { isGone_ = true; }
+    /// Hands the chart that it shows to the package if that has changed.
+    void write();
 
     [[nodiscard]] bool isGone() const override { return isGone_; }
     std::string name() override;
@@ -83,8 +86,9 @@ private:
     /// Of the picture's or the shape's own: what it is called, what may be done with it.
     [[nodiscard]] pugi::xml_node properties(std::string_view name) const;
     [[nodiscard]] pugi::xml_node locks(bool made);
-    /// What holds its effects: a table has some, though it has no other looks.
-    [[nodiscard]] pugi::xml_node effectsHolder() const;
+    /// What holds its effects: a table has some, though it has no other looks, and of a chart the
+    /// ground has a shadow.
+    [[nodiscard]] pugi::xml_node effectsHolder();
     [[nodiscard]] pugi::xml_node effect(std::string_view name);
     pugi::xml_node madeEffect(std::string_view member, std::string_view name);
     void dropEffect(std::string_view name);
@@ -100,6 +104,10 @@ private:
     FileSlide& slide_;
     pugi::xml_node element_;
     pugi::xml_node node_;
+    /// Of a frame with a chart, once it has been asked for.
+    std::unique_ptr<Xml> chart_;
+    std::string chartPart_;
+    bool isChartChanged_ = false;
     bool isGone_ = false;
 };
 

@@ -37,7 +37,8 @@ std::string boxMarkup(const model::Point& corner, const model::Size& size) {
 
 std::string chartFrameMarkup(const std::string& relationship, const model::PastePlace& place) {
     return fmt::format(
-        R"(<p:graphicFrame><p:nvGraphicFramePr><p:cNvPr/><p:cNvGraphicFramePr/><p:nvPr/>)"
+        R"(<p:graphicFrame><p:nvGraphicFramePr><p:cNvPr/><p:cNvGraphicFramePr>)"
+        R"(<a:graphicFrameLocks noChangeAspect="1"/></p:cNvGraphicFramePr><p:nvPr/>)"
         R"(</p:nvGraphicFramePr><p:xfrm><a:off x="{}" y="{}"/><a:ext cx="{}" cy="{}"/></p:xfrm>)"
         R"(<a:graphic><a:graphicData uri="{}"><c:chart xmlns:c="{}" r:id="{}"/></a:graphicData>)"
         R"(</a:graphic></p:graphicFrame>)",
@@ -298,6 +299,7 @@ void FileSlide::markGone() {
 }
 
 void FileSlide::write() {
+    for (const auto& shape : shapes_) shape->write();
     if (isChanged_) deck_.package().replace(part_, xml_->bytes());
     isChanged_ = false;
 }

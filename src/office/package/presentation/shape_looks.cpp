@@ -6,6 +6,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "office/package/presentation/chart_flags.h"
+#include "office/package/presentation/file_deck.h"
 #include "office/package/presentation/file_shape.h"
 #include "office/package/presentation/file_slide.h"
 #include "office/package/presentation/table_markup.h"
@@ -125,9 +127,27 @@ bool FileShape::setAdjustment(std::int32_t place, double value) {
     return true;
 }
 
-pugi::xml_node FileShape::effectsHolder() const {
+pugi::xml_node FileShape::effectsHolder() {
     const auto ofTable = childNamed(tableIn(node_), ns::drawing, "tblPr");
-    return ofTable ? ofTable : drawnProperties();
+    if (const auto own = ofTable ? ofTable : drawnProperties()) return own;
+    const auto graphic =
+        childNamed(childNamed(node_, ns::drawing, "graphic"), ns::drawing, "graphicData");
+    const auto id =
+        attributeNamed(childNamed(graphic, ns::chart, "chart"), ns::relationships, "id");
+    if (!chart_ && id) {
+        Package& package = slide_.deck().package();
+        const Relationships& relationships = package.relationshipsOf(slide_.part());
+        const Relationship* const found = relationships.withId(id.value());
+        if (found == nullptr) return {};
+        chartPart_ = relationships.partOf(*found);
+        chart_ = std::make_unique<Xml>(package.read(chartPart_), chartPart_);
+    }
+    return chart_ ? chartChild(chart_->root(), "spPr", chartSpaceOrder) : pugi::xml_node();
+}
+
+void FileShape::write() {
+    if (isChartChanged_) slide_.deck().package().replace(chartPart_, chart_->bytes());
+    isChartChanged_ = false;
 }
 
 pugi::xml_node FileShape::effect(std::string_view name) {
@@ -137,8 +157,11 @@ pugi::xml_node FileShape::effect(std::string_view name) {
 /// Effects that stand in the order of a graph are left to their maker: a list takes their place.
 pugi::xml_node FileShape::madeEffect(std::string_view member, std::string_view name) {
     auto drawn = effectsHolder();
+    // The ground of a chart takes a shadow alone.
+    if (chart_ && name != "outerShdw") drawn = {};
     if (!drawn) drawn = looks(member);
     changed();
+    isChartChanged_ = chart_ != nullptr;
     drawn.remove_child(childNamed(drawn, ns::drawing, "effectDag"));
     return childInOrder(childInOrder(drawn, ns::drawing, "effectLst", looksOrder), ns::drawing,
                         name, effectOrder);
@@ -148,6 +171,7 @@ void FileShape::dropEffect(std::string_view name) {
     const auto found = effect(name);
     if (!found) return;
     changed();
+    isChartChanged_ = chart_ != nullptr;
     found.parent().remove_child(found);
 }
 

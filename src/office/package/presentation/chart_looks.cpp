@@ -1,0 +1,130 @@
+#include "office/package/presentation/chart_looks.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "office/package/presentation/chart_flags.h"
+#include "office/package/presentation/file_shape.h"
+
+namespace office::package {
+
+namespace {
+
+/// An element whose line is drawn whether or not it says how.
+struct Lined {
+    std::string_view name;
+    /// The schema's order of its children up to their looks.
+    std::string_view order;
+};
+constexpr std::string_view axisOrder =
+    "axId scaling delete axPos majorGridlines minorGridlines title numFmt majorTickMark "
+    "minorTickMark tickLblPos spPr";
+constexpr std::string_view alone = "spPr";
+constexpr std::array<Lined, 12> lined = {{
+    {"catAx", axisOrder},
+    {"dateAx", axisOrder},
+    {"valAx", axisOrder},
+    {"serAx", axisOrder},
+    {"majorGridlines", alone},
+    {"minorGridlines", alone},
+    {"dropLines", alone},
+    {"hiLowLines", alone},
+    {"serLines", alone},
+    {"leaderLines", alone},
+    {"errBars", "errDir errBarType errValType noEndCap plus minus val spPr"},
+    {"trendline", "name spPr"},
+}};
+/// The groups whose series are lines.
+constexpr std::array<std::string_view, 3> lineGroups = {"lineChart", "scatterChart", "radarChart"};
+constexpr std::array<std::string_view, 6> fills = {"noFill",   "solidFill", "gradFill",
+                                                   "blipFill", "pattFill",  "grpFill"};
+
+template <class Names>
+bool isOneOf(pugi::xml_node node, std::string_view space, const Names& names) {
+    return std::any_of(names.begin(), names.end(),
+                       [&](std::string_view name) { return isNamed(node, space, name); });
+}
+
+/// The number of the chart's style, by which programs dress what it leaves out.
+int styleOf(pugi::xml_node chartSpace) {
+    constexpr int plainStyle = 2;
+    auto style = childNamed(chartSpace, ns::chart, "style");
+    if (!style) {
+        const auto choice = childNamed(chartSpace, ns::compatibility, "AlternateContent");
+        style = childNamed(childNamed(choice, ns::compatibility, "Fallback"), ns::chart, "style");
+    }
+    return style.attribute("val").as_int(plainStyle);
+}
+
+/// How much thicker than the theme's finest line a series is drawn.
+int seriesFactor(int style) {
+    if (style <= 8) return 3;
+    return style >= 25 && style <= 32 ? 7 : 5;
+}
+
+void writeWidth(pugi::xml_node element, std::string_view order, int width) {
+    const auto looks = chartChild(element, "spPr", order);
+    auto line = childInOrder(looks, ns::drawing, "ln", looksOrder);
+    if (!line.attribute("w") && !childNamed(line, ns::drawing, "noFill"))
+        line.append_attribute("w").set_value(width);
+}
+
+/// Of the styles with a light ground; the others are seldom and dressed by the program.
+void writeFrame(pugi::xml_node chartSpace, int thinLine) {
+    auto looks = chartChild(chartSpace, "spPr", chartSpaceOrder);
+    const auto has = [&](const auto& names) {
+        return looks.find_child(
+            [&](const pugi::xml_node& child) { return isOneOf(child, ns::drawing, names); });
+    };
+    const auto light = [](pugi::xml_node holder, const char* name) {
+        auto colour = childInOrder(childInOrder(holder, ns::drawing, "solidFill", looksOrder),
+                                   ns::drawing, "schemeClr", {"schemeClr"});
+        colour.append_attribute("val").set_value(name);
+        return colour;
+    };
+    if (!has(fills)) light(looks, "bg1");
+    if (has(std::array<std::string_view, 1>{"ln"})) return;
+    auto line = childInOrder(looks, ns::drawing, "ln", looksOrder);
+    if (thinLine > 0) line.append_attribute("w").set_value(thinLine);
+    auto grey = light(line, "tx1");
+    for (const auto& [name, value] : {std::pair{"lumMod", 15'000}, {"lumOff", 85'000}})
+        childInOrder(grey, ns::drawing, name, {name}).append_attribute("val").set_value(value);
+}
+
+}  // namespace
+
+void writeLooks(pugi::xml_node chartSpace, int thinLine) {
+    constexpr int lastLightStyle = 32;
+    const int style = styleOf(chartSpace);
+    if (style <= lastLightStyle) writeFrame(chartSpace, thinLine);
+    if (thinLine <= 0) return;
+    std::vector<pugi::xml_node> open = {
+        childNamed(childNamed(chartSpace, ns::chart, "chart"), ns::chart, "plotArea")};
+    while (!open.empty()) {
+        const pugi::xml_node node = open.back();
+        open.pop_back();
+        for (const pugi::xml_node child : node.children()) {
+            if (child.type() != pugi::node_element) continue;
+            if (isNamed(child, ns::chart, "ser") && isOneOf(node, ns::chart, lineGroups))
+                writeWidth(child, "idx order tx spPr", thinLine * seriesFactor(style));
+            for (const Lined& one : lined) {
+                if (isNamed(child, ns::chart, one.name)) writeWidth(child, one.order, thinLine);
+            }
+            // Deeper there are values and texts.
+            if (isNamed(node, ns::chart, "plotArea") || isNamed(child, ns::chart, "ser"))
+                open.push_back(child);
+        }
+    }
+}
+
+int thinLineOf(const Xml& theme) {
+    const auto elements = childNamed(theme.root(), ns::drawing, "themeElements");
+    const auto formats = childNamed(elements, ns::drawing, "fmtScheme");
+    const auto lines = childNamed(formats, ns::drawing, "lnStyleLst");
+    return std::max(childNamed(lines, ns::drawing, "ln").attribute("w").as_int(), 0);
+}
+
+}  // namespace office::package
