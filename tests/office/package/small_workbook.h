@@ -69,7 +69,9 @@ inline std::string bytes(const std::vector<zip_bytes::Item>& changes = {}) {
          "<xdr:from><xdr:col>5</xdr:col><xdr:row>1</xdr:row></xdr:from>"
          "<xdr:to><xdr:col>12</xdr:col><xdr:row>15</xdr:row></xdr:to><xdr:graphicFrame>"
          "<xdr:nvGraphicFramePr><xdr:cNvPr id=\"2\" name=\"Sales\"/></xdr:nvGraphicFramePr>"
-         "<a:graphic><a:graphicData><c:chart "
+         "<a:graphic><a:graphicData "
+         "uri=\"http://schemas.openxmlformats.org/drawingml/2006/chart\"><c:chart r:id=\"rId1\" "
+         "xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\" "
          "xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\"/></a:graphicData>"
          "</a:graphic></xdr:graphicFrame></xdr:twoCellAnchor></xdr:wsDr>"},
     };

@@ -7,6 +7,7 @@
 
 #include "office/package/part_name.h"
 #include "office/package/workbook/cell_box.h"
+#include "office/package/workbook/sheet_alone.h"
 #include "office/package/xml.h"
 
 namespace office::package {
@@ -124,18 +125,20 @@ void dropSignatures(Package& workbook) {
 }  // namespace
 
 EmbeddedWorkbook embeddedWorkbook(WorkbookFile& workbook, const CopySource& source,
-                                  bool /*sheetAlone*/) {
+                                  bool sheetAlone) {
     const WorkbookSheet& sheet = *workbook.sheet(source.sheet);
     const std::string file = workbook.bytes();
     Package copy = Package::fromBytes(file);
+    if (sheetAlone) keepSheetAlone(copy, workbook.mainPart(), sheet);
     dropSignatures(copy);
     for (const WorkbookSheet& one : workbook.sheets()) {
+        if (!copy.has(one.part)) continue;
         const bool isShown = &one == &sheet;
         if (isShown || mayBeSelected(copy, one.part)) selectSheet(copy, one.part, isShown);
     }
     show(copy, workbook.mainPart(), sheet, shownCells(workbook, sheet, source));
     // A template would be opened as a new file of its own.
-    const bool hasMacros = workbook.hasMacros();
+    const bool hasMacros = workbook.hasMacros() && !sheetAlone;
     copy.setContentType(workbook.mainPart(), hasMacros ? macroMain : plainMain);
     return {.bytes = copy.bytes(),
             .ending = hasMacros ? ".xlsm" : ".xlsx",

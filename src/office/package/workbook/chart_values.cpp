@@ -1,0 +1,114 @@
+#include "office/package/workbook/chart_values.h"
+
+#include <array>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "office/package/workbook/sheet_markup.h"
+
+namespace office::package {
+
+namespace {
+
+/// In the prefix of another element.
+std::string named(pugi::xml_node like, std::string_view name) {
+    const std::string_view other = like.name();
+    return std::string(other.substr(0, other.find(':') + 1)) + std::string(name);
+}
+
+pugi::xml_node chartChild(pugi::xml_node parent, std::string_view name) {
+    return childNamed(parent, ns::chart, name);
+}
+
+/// The remembered points of all levels, the outer one first, as one text each.
+std::map<unsigned, std::string> joinedPoints(pugi::xml_node levels) {
+    std::map<unsigned, std::string> texts;
+    for (const pugi::xml_node level : childrenNamed(levels, ns::chart, "lvl")) {
+        std::map<unsigned, std::string> own;
+        for (const pugi::xml_node point : childrenNamed(level, ns::chart, "pt"))
+            own[point.attribute("idx").as_uint()] = chartChild(point, "v").text().get();
+        if (texts.empty()) {
+            texts = own;
+            continue;
+        }
+        // Of an outer level each point holds until the next one.
+        for (auto& [index, text] : texts) {
+            const auto next = own.upper_bound(index);
+            if (next != own.begin()) text = std::prev(next)->second + " " + text;
+        }
+    }
+    return texts;
+}
+
+/// Takes a reference's place with literal points.
+void putPoints(pugi::xml_node reference, pugi::xml_node cache, const char* name) {
+    pugi::xml_node holder = reference.parent();
+    auto literal = holder.insert_child_before(named(reference, name).c_str(), reference);
+    if (localName(cache) != "multiLvlStrCache") {
+        copyInto(cache, literal);
+    } else {
+        const auto texts = joinedPoints(cache);
+        literal.append_copy(chartChild(cache, "ptCount"));
+        for (const auto& [index, text] : texts) {
+            auto point = literal.append_child(named(reference, "pt").c_str());
+            point.append_attribute("idx").set_value(index);
+            point.append_child(named(reference, "v").c_str()).text().set(text.c_str());
+        }
+    }
+    holder.remove_child(reference);
+}
+
+/// A name of a series becomes its text; a title gets it as its own.
+void putText(pugi::xml_node reference, pugi::xml_node cache) {
+    const std::string text = chartChild(chartChild(cache, "pt"), "v").text().get();
+    pugi::xml_node holder = reference.parent();
+    if (isNamed(holder.parent(), ns::chart, "ser")) {
+        holder.insert_child_before(named(reference, "v").c_str(), reference)
+            .text()
+            .set(text.c_str());
+    } else {
+        auto rich = holder.insert_child_before(named(reference, "rich").c_str(), reference);
+        insertMarkup(rich, "<a:bodyPr/>");
+        auto run = insertMarkup(rich, "<a:p><a:r><a:t/></a:r></a:p>").first_child().first_child();
+        run.text().set(text.c_str());
+    }
+    holder.remove_child(reference);
+}
+
+void putValues(pugi::xml_node reference) {
+    const std::string_view kind = localName(reference);
+    if (kind == "numRef") {
+        putPoints(reference, chartChild(reference, "numCache"), "numLit");
+    } else if (kind == "multiLvlStrRef") {
+        putPoints(reference, chartChild(reference, "multiLvlStrCache"), "strLit");
+    } else if (localName(reference.parent()) == "tx") {
+        putText(reference, chartChild(reference, "strCache"));
+    } else {
+        putPoints(reference, chartChild(reference, "strCache"), "strLit");
+    }
+}
+
+/// Those of the standard and those that later versions have added.
+bool isFormula(pugi::xml_node node) {
+    return localName(node) == "f" || localName(node) == "sqref";
+}
+
+}  // namespace
+
+void keepChartValues(const Xml& chart, const FormulaReach& reach) {
+    for (pugi::xml_node formula : elementsBelow(chart.root(), isFormula)) {
+        if (!reach.leavesSheet(formula.text().get())) continue;
+        const pugi::xml_node reference = formula.parent();
+        // What was added later has no literals: it is left as if its cells had been deleted.
+        if (isNamed(reference, ns::chart, localName(reference)))
+            putValues(reference);
+        else
+            formula.text().set("#REF!");
+    }
+    for (const char* gone : {"pivotSource", "externalData"}) {
+        if (const auto found = chartChild(chart.root(), gone)) chart.root().remove_child(found);
+    }
+}
+
+}  // namespace office::package

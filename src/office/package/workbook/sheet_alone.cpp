@@ -1,0 +1,261 @@
+#include "office/package/workbook/sheet_alone.h"
+
+#include <algorithm>
+#include <set>
+#include <utility>
+#include <vector>
+
+#include "office/package/part_name.h"
+#include "office/package/workbook/chart_values.h"
+#include "office/package/workbook/sheet_markup.h"
+#include "office/text.h"
+
+namespace office::package {
+
+namespace {
+
+/// What a kept part may lead to, by the last words of the relationships' types.
+const std::set<std::string_view> keptRelationships = {
+    "theme",       "styles",          "sharedStrings",     "drawing",         "chart",
+    "chartEx",     "chartUserShapes", "chartStyle",        "chartColorStyle", "themeOverride",
+    "image",       "table",           "comments",          "vmlDrawing",      "hyperlink",
+    "diagramData", "diagramLayout",   "diagramQuickStyle", "diagramColors",   "diagramDrawing"};
+
+const std::set<std::string_view> keptInWorkbook = {"fileVersion", "workbookPr",   "bookViews",
+                                                   "sheets",      "definedNames", "calcPr"};
+
+std::string_view kindOf(const Relationship& relationship) {
+    const std::string_view type = relationship.type;
+    return type.substr(type.rfind('/') + 1);
+}
+
+/// Notes are boxes in a drawing of the old kind, which holds controls, too.
+bool holdsNotesAlone(const std::string& drawing) {
+    constexpr std::string_view mark = "ObjectType=\"";
+    std::size_t notes = 0;
+    for (auto at = drawing.find(mark); at != std::string::npos; at = drawing.find(mark, at)) {
+        at += mark.size();
+        if (!std::string_view(drawing).substr(at).starts_with("Note\"")) return false;
+        ++notes;
+    }
+    return notes > 0;
+}
+
+/// Takes the elements out that need relationships which have gone.
+void dropDependent(const Xml& xml, const std::set<std::string>& gone) {
+    const auto dependent = elementsBelow(xml.root(), [](pugi::xml_node node) {
+        const auto attributes = node.attributes();
+        return std::any_of(attributes.begin(), attributes.end(), [](const auto& attribute) {
+            return std::string_view(attribute.name()).find(':') != std::string_view::npos;
+        });
+    });
+    std::for_each(dependent.rbegin(), dependent.rend(), [&](pugi::xml_node node) {
+        for (const char* name : {"id", "embed", "link", "pict", "dm", "lo", "qs", "cs"}) {
+            const auto id = attributeNamed(node, ns::relationships, name);
+            if (!id || !gone.contains(id.value())) continue;
+            // The settings of a printer are only a part of what stands there.
+            if (localName(node) == "pageSetup")
+                node.remove_attribute(id);
+            else
+                node.parent().remove_child(node);
+            break;
+        }
+    });
+}
+
+class SheetAlone {
+public:
+    SheetAlone(Package& workbook, std::string main, const WorkbookSheet& sheet)
+        : workbook_(workbook),
+          main_(std::move(main)),
+          sheet_(sheet),
+          reach_(sheet.name) {}
+
+    void keep() {
+        const Xml xml(workbook_.read(main_), main_);
+        knowTables();
+        reduceWorkbook(xml.root());
+        workbook_.replace(main_, xml.bytes());
+        dropRelationships("/", [](const Relationship& one) {
+            return kindOf(one) == "officeDocument" || kindOf(one) == "extended-properties";
+        });
+        keepMaker();
+        dropRelationships(main_, [&](const Relationship& one) { return isOfWorkbook(one); });
+        visit(main_, "workbook");
+        for (const std::string& part : workbook_.parts()) {
+            if (extensionOf(part) != "rels" && !kept_.contains(partKey(part)))
+                workbook_.remove(part);
+        }
+    }
+
+private:
+    bool isOfWorkbook(const Relationship& one) {
+        const std::string_view kind = kindOf(one);
+        if (one.isExternal) return false;
+        if (kind == "sharedStrings") return sheet_.kind == WorkbookSheet::Kind::Worksheet;
+        return kind == "theme" || kind == "styles" ||
+               partKey(workbook_.relationshipsOf(main_).partOf(one)) == partKey(sheet_.part);
+    }
+
+    /// Of what the file says about itself, which program wrote it stays: what charts leave out
+    /// means one thing or the other by its version.
+    void keepMaker() {
+        const Relationships& relationships = workbook_.relationshipsOf("/");
+        const Relationship* const found = relationships.ofType("extended-properties");
+        if (found == nullptr) return;
+        const std::string part = relationships.partOf(*found);
+        const Xml xml(workbook_.read(part), part);
+        keepChildren(xml.root(), [](pugi::xml_node child) {
+            return localName(child) == "Application" || localName(child) == "AppVersion";
+        });
+        workbook_.replace(part, xml.bytes());
+        kept_.insert(partKey(part));
+    }
+
+    void knowTables() {
+        const Relationships& relationships = workbook_.relationshipsOf(sheet_.part);
+        for (const Relationship& one : relationships.all()) {
+            if (one.isExternal || kindOf(one) != "table") continue;
+            const std::string part = relationships.partOf(one);
+            if (!workbook_.has(part)) continue;
+            const Xml table(workbook_.read(part), part);
+            reach_.add(table.root().attribute("displayName").value());
+        }
+    }
+
+    /// Those names stay that are about the sheet and need nothing else.
+    void reduceNames(pugi::xml_node list, const std::string& place) {
+        keepChildren(list, [&](pugi::xml_node name) {
+            const std::string_view owner = name.attribute("localSheetId").value();
+            return (owner.empty() || owner == place) && reach_.namesSheet(name.text().get());
+        });
+        for (const pugi::xml_node name : list.children())
+            reach_.add(name.attribute("name").value());
+        // A name may need one that goes.
+        for (bool isDone = false; !isDone;) {
+            isDone = true;
+            keepChildren(list, [&](pugi::xml_node name) {
+                if (!reach_.leavesSheet(name.text().get())) return true;
+                reach_.remove(name.attribute("name").value());
+                isDone = false;
+                return false;
+            });
+        }
+        for (const pugi::xml_node name : list.children()) {
+            if (auto owner = name.attribute("localSheetId")) owner.set_value("0");
+        }
+        if (list && !list.first_child()) list.parent().remove_child(list);
+    }
+
+    void reduceWorkbook(pugi::xml_node root) {
+        keepChildren(root, [](pugi::xml_node child) {
+            return keptInWorkbook.contains(localName(child)) &&
+                   isNamed(child, ns::spreadsheet, localName(child));
+        });
+        auto sheets = childNamed(root, ns::spreadsheet, "sheets");
+        const auto all = childrenNamed(sheets, ns::spreadsheet, "sheet");
+        const auto own = std::find_if(all.begin(), all.end(), [&](const auto& entry) {
+            return entry.attribute("name").value() == sheet_.name;
+        });
+        reduceNames(childNamed(root, ns::spreadsheet, "definedNames"),
+                    std::to_string(own - all.begin()));
+        keepChildren(sheets,
+                     [&](pugi::xml_node entry) { return own != all.end() && entry == *own; });
+        childNamed(root, ns::spreadsheet, "workbookPr").remove_attribute("codeName");
+    }
+
+    /// The ids of those that went.
+    template <typename Test>
+    std::set<std::string> dropRelationships(const std::string& part, Test isKept) {
+        Relationships& relationships = workbook_.relationshipsOf(part);
+        std::set<std::string> gone;
+        for (const Relationship& one : relationships.all()) {
+            const bool isExternalLink = one.isExternal && kindOf(one) == "hyperlink";
+            const bool isPart = !one.isExternal && kindOf(one) != "hyperlink" &&
+                                workbook_.has(relationships.partOf(one));
+            if (!(isExternalLink || isPart) || !isKept(one)) gone.insert(one.id);
+        }
+        for (const std::string& id : gone) relationships.remove(id);
+        return gone;
+    }
+
+    bool isKept(const std::string& part, const Relationship& one) {
+        const std::string_view kind = kindOf(one);
+        if (!keptRelationships.contains(kind)) return false;
+        const auto target = [&] {
+            return workbook_.read(workbook_.relationshipsOf(part).partOf(one));
+        };
+        if (kind == "vmlDrawing") return holdsNotesAlone(target());
+        if (kind != "chartEx") return true;
+        // Charts of the later kinds know no values without cells.
+        const Xml chart(target(), part);
+        const auto formulas =
+            elementsBelow(chart.root(), [](pugi::xml_node node) { return localName(node) == "f"; });
+        return std::none_of(formulas.begin(), formulas.end(), [&](const pugi::xml_node& formula) {
+            return reach_.leavesSheet(formula.text().get());
+        });
+    }
+
+    /// Keeps a part and all that it leads to, reduced to what the sheet needs.
+    void visit(const std::string& part, std::string_view kind) {
+        if (!kept_.insert(partKey(part)).second) return;
+        if (kind != "workbook") {
+            const auto gone =
+                dropRelationships(part, [&](const Relationship& one) { return isKept(part, one); });
+            reduce(part, kind, gone);
+        }
+        const Relationships& relationships = workbook_.relationshipsOf(part);
+        for (const Relationship& one : relationships.all()) {
+            if (!one.isExternal) visit(relationships.partOf(one), kindOf(one));
+        }
+    }
+
+    void reduce(const std::string& part, std::string_view kind, const std::set<std::string>& gone) {
+        const bool isSheet = kind == "worksheet" || kind == "chartsheet";
+        const bool isDrawing = kind == "drawing" || kind == "chartUserShapes";
+        if (!isSheet && !isDrawing && kind != "chart" && kind != "table") return;
+        const Xml xml(workbook_.read(part), part);
+        dropDependent(xml, gone);
+        if (isSheet) {
+            reduceSheet(xml, reach_);
+            reduceShared(xml);
+        } else if (isDrawing) {
+            reduceDrawing(xml, reach_);
+        } else if (kind == "table") {
+            reduceTable(xml, reach_);
+        } else {
+            keepChartValues(xml, reach_);
+        }
+        workbook_.replace(part, xml.bytes());
+    }
+
+    /// What all sheets have in common.
+    void reduceShared(const Xml& sheet) {
+        const Relationships& relationships = workbook_.relationshipsOf(main_);
+        for (const Relationship& one : relationships.all()) {
+            const std::string_view kind = kindOf(one);
+            if (kind != "sharedStrings" && kind != "styles") continue;
+            const std::string part = relationships.partOf(one);
+            const Xml xml(workbook_.read(part), part);
+            if (kind == "styles")
+                reduceFormats(xml, sheet);
+            else
+                reduceStrings(xml, sheet);
+            workbook_.replace(part, xml.bytes());
+        }
+    }
+
+    Package& workbook_;
+    std::string main_;
+    const WorkbookSheet& sheet_;
+    FormulaReach reach_;
+    std::set<std::string> kept_;
+};
+
+}  // namespace
+
+void keepSheetAlone(Package& workbook, const std::string& main, const WorkbookSheet& sheet) {
+    SheetAlone(workbook, main, sheet).keep();
+}
+
+}  // namespace office::package

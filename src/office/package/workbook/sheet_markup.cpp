@@ -1,0 +1,267 @@
+#include "office/package/workbook/sheet_markup.h"
+
+#include <algorithm>
+#include <set>
+
+namespace office::package {
+
+namespace {
+
+const std::set<std::string_view> keptInSheet = {"sheetPr",
+                                                "dimension",
+                                                "sheetViews",
+                                                "sheetFormatPr",
+                                                "cols",
+                                                "sheetData",
+                                                "sheetCalcPr",
+                                                "sheetProtection",
+                                                "protectedRanges",
+                                                "autoFilter",
+                                                "sortState",
+                                                "mergeCells",
+                                                "phoneticPr",
+                                                "conditionalFormatting",
+                                                "dataValidations",
+                                                "hyperlinks",
+                                                "printOptions",
+                                                "pageMargins",
+                                                "pageSetup",
+                                                "headerFooter",
+                                                "rowBreaks",
+                                                "colBreaks",
+                                                "ignoredErrors",
+                                                "drawing",
+                                                "legacyDrawing",
+                                                "picture",
+                                                "tableParts",
+                                                "extLst"};
+
+/// Extensions of a sheet: conditional formats, validation, sparklines, errors that aren't shown.
+const std::set<std::string_view> keptExtensions = {
+    "{78C0D931-6437-407d-A8EE-F0AAD7539E65}", "{CCE6A557-97BC-4b89-ADB6-D9C93CAAB3DF}",
+    "{05C60535-1F16-4fd2-B633-F4F36F0B64E0}", "{01252117-D84E-4E92-8308-4BE1C098FCBB}"};
+
+/// What goes as a whole with one of its formulas, and what goes with the last of those.
+const std::set<std::string_view> rules = {"cfRule", "dataValidation", "sparkline",
+                                          "sparklineGroup"};
+const std::set<std::string_view> ruleHolders = {"conditionalFormatting",
+                                                "conditionalFormattings",
+                                                "dataValidations",
+                                                "sparklines",
+                                                "sparklineGroup",
+                                                "sparklineGroups",
+                                                "ext",
+                                                "extLst"};
+
+const std::set<std::string_view> keptGraphics = {
+    "http://schemas.openxmlformats.org/drawingml/2006/chart",
+    "http://schemas.microsoft.com/office/drawing/2014/chartex",
+    "http://schemas.openxmlformats.org/drawingml/2006/diagram"};
+
+pugi::xml_node sheetChild(pugi::xml_node parent, std::string_view name) {
+    return childNamed(parent, ns::spreadsheet, name);
+}
+
+bool isRuleFormula(pugi::xml_node node) {
+    const std::string_view name = localName(node);
+    if (name == "cfvo") return std::string_view(node.attribute("type").value()) == "formula";
+    // The formula of a cell is none of these.
+    return name == "formula" || name == "formula1" || name == "formula2" ||
+           (name == "f" && localName(node.parent()) != "c");
+}
+
+/// Whether nothing is left in a holder but the cells that it was about.
+bool isBare(pugi::xml_node holder) {
+    return !holder.find_child([](const pugi::xml_node& child) {
+        return child.type() == pugi::node_element && localName(child) != "sqref" &&
+               child.first_child();
+    }) && !holder.find_child([](const pugi::xml_node& child) {
+        return rules.contains(localName(child));
+    });
+}
+
+void dropRule(pugi::xml_node rule) {
+    pugi::xml_node holder = rule.parent();
+    holder.remove_child(rule);
+    while (ruleHolders.contains(localName(holder)) && isBare(holder)) {
+        const pugi::xml_node empty = holder;
+        holder = holder.parent();
+        holder.remove_child(empty);
+    }
+    if (auto count = holder.attribute("count"); count && localName(holder) == "dataValidations")
+        count.set_value(count.as_uint() - 1);
+}
+
+void reduceRules(pugi::xml_node root, const FormulaReach& reach) {
+    std::vector<pugi::xml_node> gone;
+    for (const pugi::xml_node formula : elementsBelow(root, isRuleFormula)) {
+        const pugi::xml_attribute value = formula.attribute("val");
+        if (!reach.leavesSheet(value ? value.value() : formula.text().get())) continue;
+        pugi::xml_node rule = formula;
+        while (rule && !rules.contains(localName(rule))) rule = rule.parent();
+        if (rule && std::find(gone.begin(), gone.end(), rule) == gone.end()) gone.push_back(rule);
+    }
+    // From the innermost: a group may go with one of its own.
+    std::for_each(gone.rbegin(), gone.rend(), dropRule);
+}
+
+void reduceCells(pugi::xml_node data, const FormulaReach& reach) {
+    // A shared formula stands with its first cell.
+    std::set<std::string_view> sharedGone;
+    const auto leaves = [&](pugi::xml_node formula) {
+        const std::string_view shared = formula.attribute("si").value();
+        const std::string_view text = formula.text().get();
+        const bool isGone = text.empty() ? sharedGone.contains(shared) : reach.leavesSheet(text);
+        if (isGone && !shared.empty()) sharedGone.insert(shared);
+        return isGone;
+    };
+    for (const pugi::xml_node row : data.children()) {
+        for (pugi::xml_node cell : row.children()) {
+            // They lead to a table of the workbook that goes.
+            cell.remove_attribute("cm");
+            cell.remove_attribute("vm");
+            if (const auto formula = sheetChild(cell, "f"); formula && leaves(formula))
+                cell.remove_child(formula);
+        }
+    }
+}
+
+}  // namespace
+
+std::string_view localName(pugi::xml_node node) {
+    const std::string_view name = node.name();
+    return name.substr(name.find(':') + 1);
+}
+
+std::vector<pugi::xml_node> elementsBelow(pugi::xml_node root, bool (*test)(pugi::xml_node)) {
+    struct Walker : pugi::xml_tree_walker {
+        bool for_each(pugi::xml_node& node) override {
+            if (node.type() == pugi::node_element && test(node)) found.push_back(node);
+            return true;
+        }
+        bool (*test)(pugi::xml_node) = nullptr;
+        std::vector<pugi::xml_node> found;
+    } walker;
+    walker.test = test;
+    root.traverse(walker);
+    return walker.found;
+}
+
+void reduceSheet(const Xml& sheet, const FormulaReach& reach) {
+    pugi::xml_node root = sheet.root();
+    keepChildren(root, [](pugi::xml_node child) {
+        return isNamed(child, ns::spreadsheet, localName(child)) &&
+               keptInSheet.contains(localName(child));
+    });
+    sheetChild(root, "sheetPr").remove_attribute("codeName");
+    for (pugi::xml_node view : sheetChild(root, "sheetViews").children())
+        keepChildren(view,
+                     [](pugi::xml_node child) { return localName(child) != "pivotSelection"; });
+    if (auto extensions = sheetChild(root, "extLst")) {
+        keepChildren(extensions, [](pugi::xml_node child) {
+            return keptExtensions.contains(child.attribute("uri").value());
+        });
+        if (!extensions.first_child()) root.remove_child(extensions);
+    }
+    reduceRules(root, reach);
+    reduceCells(sheetChild(root, "sheetData"), reach);
+    if (auto links = sheetChild(root, "hyperlinks")) {
+        keepChildren(links, [&](pugi::xml_node link) {
+            return !reach.leavesSheet(link.attribute("location").value());
+        });
+        if (!links.first_child()) root.remove_child(links);
+    }
+}
+
+void reduceDrawing(const Xml& drawing, const FormulaReach& reach) {
+    const auto isForeign = [&](pugi::xml_node anchor) {
+        const auto inner = elementsBelow(anchor, [](pugi::xml_node node) {
+            // What a control looks like, and a picture of cells.
+            const std::string_view name = localName(node);
+            return name == "graphicData" || name == "compatExt" || name == "cameraTool";
+        });
+        return std::any_of(inner.begin(), inner.end(), [](const pugi::xml_node& node) {
+            return !keptGraphics.contains(node.attribute("uri").value()) || !firstElement(node);
+        });
+    };
+    keepChildren(drawing.root(), [&](pugi::xml_node anchor) { return !isForeign(anchor); });
+    const auto followers = elementsBelow(drawing.root(), [](pugi::xml_node node) {
+        return node.attribute("macro") || node.attribute("textlink");
+    });
+    for (pugi::xml_node shape : followers) {
+        if (auto macro = shape.attribute("macro")) macro.set_value("");
+        if (reach.leavesSheet(shape.attribute("textlink").value()))
+            shape.remove_attribute("textlink");
+    }
+}
+
+void reduceTable(const Xml& table, const FormulaReach& reach) {
+    pugi::xml_node root = table.root();
+    for (const char* source : {"tableType", "connectionId"}) root.remove_attribute(source);
+    for (pugi::xml_node column : sheetChild(root, "tableColumns").children()) {
+        column.remove_attribute("queryTableFieldId");
+        keepChildren(column, [&](pugi::xml_node child) {
+            return localName(child) != "xmlColumnPr" && !reach.leavesSheet(child.text().get());
+        });
+        if (!sheetChild(column, "totalsRowFormula") &&
+            std::string_view(column.attribute("totalsRowFunction").value()) == "custom")
+            column.remove_attribute("totalsRowFunction");
+    }
+}
+
+void reduceStrings(const Xml& strings, const Xml& sheet) {
+    pugi::xml_node root = strings.root();
+    const auto all = childrenNamed(root, ns::spreadsheet, "si");
+    std::vector<int> places(all.size(), -1);
+    std::vector<std::size_t> used;
+    unsigned count = 0;
+    for (const pugi::xml_node row : sheetChild(sheet.root(), "sheetData").children()) {
+        for (const pugi::xml_node cell : row.children()) {
+            auto value = sheetChild(cell, "v").text();
+            const auto index = static_cast<std::size_t>(value.as_ullong());
+            if (std::string_view(cell.attribute("t").value()) != "s" || index >= all.size())
+                continue;
+            if (places[index] < 0) {
+                places[index] = static_cast<int>(used.size());
+                used.push_back(index);
+            }
+            value.set(places[index]);
+            ++count;
+        }
+    }
+    for (const std::size_t index : used) root.append_copy(all[index]);
+    for (const pugi::xml_node text : all) root.remove_child(text);
+    keepChildren(root, [](pugi::xml_node child) { return localName(child) == "si"; });
+    attributeFor(root, "count").set_value(count);
+    attributeFor(root, "uniqueCount").set_value(used.size());
+}
+
+void reduceFormats(const Xml& styles, const Xml& sheet) {
+    std::set<unsigned> used = {0};
+    for (const pugi::xml_node column : sheetChild(sheet.root(), "cols").children())
+        used.insert(column.attribute("style").as_uint());
+    for (const pugi::xml_node row : sheetChild(sheet.root(), "sheetData").children()) {
+        used.insert(row.attribute("s").as_uint());
+        for (const pugi::xml_node cell : row.children()) used.insert(cell.attribute("s").as_uint());
+    }
+    std::set<std::string_view> formats;
+    unsigned place = 0;
+    for (pugi::xml_node format :
+         childrenNamed(sheetChild(styles.root(), "cellXfs"), ns::spreadsheet, "xf")) {
+        if (!used.contains(place++)) attributeFor(format, "numFmtId").set_value("0");
+        formats.insert(format.attribute("numFmtId").value());
+    }
+    for (pugi::xml_node format : sheetChild(styles.root(), "cellStyleXfs").children())
+        formats.insert(format.attribute("numFmtId").value());
+    auto all = sheetChild(styles.root(), "numFmts");
+    keepChildren(all, [&](pugi::xml_node format) {
+        return formats.contains(format.attribute("numFmtId").value());
+    });
+    const auto left = std::distance(all.begin(), all.end());
+    if (left == 0)
+        styles.root().remove_child(all);
+    else
+        attributeFor(all, "count").set_value(static_cast<unsigned>(left));
+}
+
+}  // namespace office::package

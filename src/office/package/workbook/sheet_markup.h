@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "office/package/workbook/formula_reach.h"
+#include "office/package/xml.h"
+
+namespace office::package {
+
+/// The name without its prefix.
+[[nodiscard]] std::string_view localName(pugi::xml_node node);
+/// All elements below one that satisfy something, in their order.
+[[nodiscard]] std::vector<pugi::xml_node> elementsBelow(pugi::xml_node root,
+                                                        bool (*test)(pugi::xml_node));
+/// Takes the children out that don't satisfy something.
+template <typename Test>
+void keepChildren(pugi::xml_node parent, Test isKept) {
+    for (pugi::xml_node child = parent.first_child(); child;) {
+        const pugi::xml_node next = child.next_sibling();
+        if (!isKept(child)) parent.remove_child(child);
+        child = next;
+    }
+}
+
+/// Takes out of a sheet what needs more than the sheet: cells keep their values in place of their
+/// formulas, and conditional formats, validation, sparklines and hyperlinks go.
+void reduceSheet(const Xml& sheet, const FormulaReach& reach);
+/// Takes out of a drawing what isn't drawn but lives in the workbook: controls, objects, slicers,
+/// macros, texts that follow a cell elsewhere.
+void reduceDrawing(const Xml& drawing, const FormulaReach& reach);
+/// Takes out of a table the formulas of its columns that need more, and where it was read from.
+void reduceTable(const Xml& table, const FormulaReach& reach);
+
+/// The texts that cells have in common, with those that a sheet uses alone; its cells name them by
+/// their new numbers then.
+void reduceStrings(const Xml& strings, const Xml& sheet);
+/// Takes the number formats out that a sheet doesn't use; they may hold texts.
+void reduceFormats(const Xml& styles, const Xml& sheet);
+
+}  // namespace office::package

@@ -1,0 +1,152 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "office/package/small_workbook.h"
+#include "office/package/workbook/embedded_workbook.h"
+#include "office/package/workbook/formula_reach.h"
+#include "support/temporary_folder.h"
+
+namespace {
+
+using namespace office::package;
+using office::CopySource;
+using small_workbook::relationshipsTo;
+using small_workbook::sheet;
+
+TEST(AFormula, LeavesItsSheetForOtherSheetsNamesTablesAndTexts) {
+    FormulaReach reach("My 'own' data");
+    for (const char* name : {"Rates", "Orders"}) reach.add(name);
+    const std::pair<std::string, bool> rows[] = {
+        {"SUM(A1:$B$20,C:C,2:3)*1.5E+3", false},
+        {"'my ''own'' data'!A1+Rates", false},
+        {"IF(A1=\"Other!B2\",TRUE,#N/A)", false},
+        {"Orders[[#This Row],[Net ']x]]*LET(_xlpm.a,1,_xlpm.a)", false},
+        {"_xlfn.XLOOKUP(A1,{\"x\";\"y\"},B1:B2)", false},
+        {"#REF!$A$1", false},
+        {"Other!A1", true},
+        {"'my own data'!A1", true},
+        {"SUM(Übersicht!$A$1)", true},
+        {"SUM(Jan:'My ''own'' data'!A1)", true},
+        {"[1]Sheet1!A1", true},
+        {"Secret", true},
+        {"1+Costs[Net]", true},
+        {"INDIRECT(A1)", true},
+        {"getpivotdata(\"x\",A1)", true},
+    };
+    for (const auto& [formula, leaves] : rows)
+        EXPECT_EQ(reach.leavesSheet(formula), leaves) << formula;
+}
+
+/// Some text of the other sheet, however it is written, begins with this.
+const std::string secret = "Zebra";
+
+std::string chart() {
+    const auto series = [](const std::string& sheet) {
+        return "<c:ser><c:tx><c:strRef><c:f>" + sheet +
+               "!$A$1</c:f><c:strCache><c:pt idx=\"0\"><c:v>Shown</c:v></c:pt></c:strCache>"
+               "</c:strRef></c:tx><c:val><c:numRef><c:f>" +
+               sheet +
+               "!$B$1</c:f><c:numCache><c:ptCount val=\"1\"/><c:pt idx=\"0\"><c:v>7</c:v></c:pt>"
+               "</c:numCache></c:numRef></c:val></c:ser>";
+    };
+    return "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\">"
+           "<c:pivotSource><c:name>Zebra</c:name></c:pivotSource>" +
+           series("Data") + series("Zebra") + "</c:chartSpace>";
+}
+
+TEST(ASheetAlone, HandsOnNothingOfTheOthers) {
+    const support::TemporaryFolder folder;
+    const std::string cells =
+        "<row r=\"1\"><c r=\"A1\" t=\"s\"><v>1</v></c><c r=\"B1\" "
+        "s=\"1\"><f>Zebra!A1</f><v>5</v></c>"
+        "<c r=\"C1\"><f>B1*2</f><v>10</v></c><c r=\"D1\"><f>ZebraTotal</f><v>6</v></c></row>"
+        "<row r=\"2\"><c r=\"A2\" t=\"s\"><v>2</v></c>"
+        "<c r=\"B2\"><f t=\"shared\" ref=\"B2:B3\" si=\"0\">Zebra!A2</f><v>8</v></c></row>"
+        "<row r=\"3\"><c r=\"B3\"><f t=\"shared\" si=\"0\"/><v>9</v></c></row>";
+    const std::string rules =
+        "<conditionalFormatting sqref=\"A1\"><cfRule type=\"expression\" priority=\"1\">"
+        "<formula>Zebra!A1&gt;1</formula></cfRule></conditionalFormatting>"
+        "<conditionalFormatting sqref=\"B1\"><cfRule type=\"expression\" priority=\"2\">"
+        "<formula>B1&gt;1</formula></cfRule></conditionalFormatting>"
+        "<dataValidations count=\"2\"><dataValidation sqref=\"A1\"><formula1>Zebra!A1:A3</formula1>"
+        "</dataValidation><dataValidation sqref=\"B1\"><formula1>C1:C3</formula1></dataValidation>"
+        "</dataValidations><hyperlinks><hyperlink ref=\"A1\" "
+        "location=\"'Zebra'!A1\"/></hyperlinks>";
+    const std::string text = folder.write(
+        "Book.xlsx",
+        small_workbook::bytes({
+            {"xl/workbook.xml",
+             sheet(
+                 "<fileSharing userName=\"Zebra\"/><workbookPr/><sheets>"
+                 "<sheet name=\"Zebra\" sheetId=\"2\" r:id=\"rId2\"/>"
+                 "<sheet name=\"Data\" sheetId=\"1\" r:id=\"rId1\"/></sheets><definedNames>"
+                 "<definedName name=\"Own\">Data!$A$1</definedName>"
+                 "<definedName name=\"Half\">Data!$A$1+ZebraTotal</definedName>"
+                 "<definedName name=\"Local\" localSheetId=\"1\">Data!$B$1</definedName>"
+                 "<definedName name=\"Local\" localSheetId=\"0\">Zebra!$B$1</definedName>"
+                 "<definedName name=\"ZebraTotal\">\"Zebra\"</definedName></definedNames><calcPr/>",
+                 "workbook")},
+            {"xl/_rels/workbook.xml.rels", relationshipsTo({{"worksheet", "sheet1.xml"},
+                                                            {"worksheet", "sheet2.xml"},
+                                                            {"sharedStrings", "strings.xml"},
+                                                            {"styles", "styles.xml"},
+                                                            {"connections", "connections.xml"},
+                                                            {"calcChain", "calcChain.xml"}})},
+            {"xl/strings.xml",
+             sheet("<si><t>Zebra one</t></si><si><t>mine</t></si><si><t>too</t></si>", "sst")},
+            {"xl/styles.xml",
+             sheet("<numFmts count=\"2\"><numFmt numFmtId=\"170\" formatCode=\"0 "
+                   "&quot;Zebra&quot;\"/>"
+                   "<numFmt numFmtId=\"171\" formatCode=\"0 &quot;t&quot;\"/></numFmts><cellXfs>"
+                   "<xf numFmtId=\"0\"/><xf numFmtId=\"171\"/><xf numFmtId=\"170\"/></cellXfs>",
+                   "styleSheet")},
+            {"xl/connections.xml", sheet("Zebra", "connections")},
+            {"xl/calcChain.xml", sheet("", "calcChain")},
+            {"docProps/core.xml", "<Zebra/>"},
+            {"xl/sheet1.xml",
+             sheet("<sheetData>" + cells + "</sheetData>" + rules +
+                   "<drawing r:id=\"rId1\"/><oleObjects><oleObject r:id=\"rId9\"/></oleObjects>")},
+            {"xl/sheet2.xml",
+             sheet("<sheetData><row r=\"1\"><c r=\"A1\" t=\"inlineStr\"><is><t>Zebra"
+                   "</t></is></c></row></sheetData>")},
+            {"xl/_rels/drawing1.xml.rels", relationshipsTo({{"chart", "chart1.xml"}})},
+            {"xl/chart1.xml", chart()},
+        }));
+    WorkbookFile workbook{std::filesystem::path(text)};
+    const EmbeddedWorkbook made =
+        embeddedWorkbook(workbook, {CopySource::Kind::Cells, text, "Data", "", "$A$1:$D$3"}, true);
+    const Package copy = Package::fromBytes(made.bytes);
+    for (const std::string& part : copy.parts()) {
+        EXPECT_EQ(part.find(secret), std::string::npos) << part;
+        EXPECT_EQ(copy.read(part).find(secret), std::string::npos) << part << copy.read(part);
+    }
+    const std::string main = copy.read("/xl/workbook.xml");
+    EXPECT_NE(main.find("<definedNames><definedName name=\"Own\">Data!$A$1</definedName>"
+                        "<definedName name=\"Local\" localSheetId=\"0\">Data!$B$1</definedName>"
+                        "</definedNames>"),
+              std::string::npos)
+        << main;
+    EXPECT_NE(main.find("activeTab=\"0\""), std::string::npos);
+    const std::string left = copy.read("/xl/sheet1.xml");
+    for (const char* kept :
+         {"<c r=\"A1\" t=\"s\"><v>0</v></c><c r=\"B1\" s=\"1\"><v>5</v></c><c r=\"C1\"><f>B1*2</f>",
+          "<c r=\"D1\"><v>6</v>", "<c r=\"A2\" t=\"s\"><v>1</v>", "<c r=\"B2\"><v>8</v>",
+          "<c r=\"B3\"><v>9</v>", "<formula>B1&gt;1</formula>", "<dataValidations count=\"1\">"})
+        EXPECT_NE(left.find(kept), std::string::npos) << kept << " in " << left;
+    for (const char* gone : {"sqref=\"A1\"", "hyperlinks", "oleObject"})
+        EXPECT_EQ(left.find(gone), std::string::npos) << gone;
+    EXPECT_NE(copy.read("/xl/strings.xml").find("<si><t>mine</t></si><si><t>too</t></si>"),
+              std::string::npos);
+    const std::string values = copy.read("/xl/chart1.xml");
+    EXPECT_NE(values.find("<c:f>Data!$B$1</c:f>"), std::string::npos);
+    EXPECT_NE(values.find("<c:tx><c:v>Shown</c:v></c:tx><c:val><c:numLit><c:ptCount val=\"1\"/>"
+                          "<c:pt idx=\"0\"><c:v>7</c:v></c:pt></c:numLit></c:val>"),
+              std::string::npos)
+        << values;
+    EXPECT_FALSE(copy.has("/docProps/core.xml"));
+}
+
+}  // namespace
