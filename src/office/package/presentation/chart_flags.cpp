@@ -195,8 +195,18 @@ bool isPassedOver(std::string_view name) {
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
+/// A chart in depth is seen from somewhere, also one that doesn't say from where.
+void writeView(pugi::xml_node chart) {
+    const auto isDeep = [](const pugi::xml_node& group) {
+        const std::string_view name = localName(group);
+        return name.ends_with("3DChart") || name == "surfaceChart";
+    };
+    if (childOf(chart, "plotArea").find_child(isDeep)) chartChild(chart, "view3D", chartOrder);
+}
+
 void writeOwnFlags(pugi::xml_node node, FlagDefaults defaults) {
     const std::string_view name = localName(node);
+    if (name == "chart") writeView(node);
     if (name == "dLbls" || name == "dLbl") writeLabelFlags(node, defaults);
     if (name == "dLbls" && childOf(node, "delete")) return;
     for (const Flag& flag : flags) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -116,6 +117,32 @@ void writeLooks(pugi::xml_node chartSpace, int thinLine) {
             // Deeper there are values and texts.
             if (isNamed(node, ns::chart, "plotArea") || isNamed(child, ns::chart, "ser"))
                 open.push_back(child);
+        }
+    }
+}
+
+void writeDates(pugi::xml_node chartSpace) {
+    constexpr std::string_view plain = "General";
+    const auto area = childNamed(childNamed(chartSpace, ns::chart, "chart"), ns::chart, "plotArea");
+    for (const pugi::xml_node axis : childrenNamed(area, ns::chart, "dateAx")) {
+        const std::string id = childNamed(axis, ns::chart, "axId").attribute("val").value();
+        const auto wanted = childNamed(axis, ns::chart, "numFmt").attribute("formatCode");
+        const bool isPlain = !wanted || wanted.value() == plain;
+        for (const pugi::xml_node group : area.children()) {
+            const auto ids = childrenNamed(group, ns::chart, "axId");
+            if (isOneOf(group, ns::chart, std::array<std::string_view, 1>{"dateAx"}) ||
+                std::none_of(ids.begin(), ids.end(),
+                             [&](const auto& one) { return one.attribute("val").value() == id; }))
+                continue;
+            for (const pugi::xml_node series : childrenNamed(group, ns::chart, "ser")) {
+                const auto reference =
+                    childNamed(childNamed(series, ns::chart, "cat"), ns::chart, "numRef");
+                const auto cache = childNamed(reference, ns::chart, "numCache");
+                if (!cache) continue;
+                auto format = chartChild(cache, "formatCode", "formatCode");
+                if (format.text().get() == plain || format.text().empty())
+                    format.text().set(isPlain ? "yyyy\\-mm\\-dd" : wanted.value());
+            }
         }
     }
 }

@@ -105,6 +105,7 @@ std::string ChartParts::add(SourceChart chart, const std::string& link) {
     root.remove_child(childNamed(root, ns::chart, "printSettings"));
     writeFlags(root, origin.defaults);
     writeLooks(root, origin.thinLine);
+    writeDates(root);
     const std::string part = deck_.freeName(folder_ + "/charts/chart", ".xml");
     deck_.add(part, chartType, {});
     takeCompanions(book, origin, chart.part, part, *chart.xml, Holder::Chart);

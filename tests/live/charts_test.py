@@ -1,0 +1,152 @@
+"""Charts of every kind go into a presentation as charts, and look there as they do in their workbook."""
+
+import re
+import subprocess
+import unittest
+import urllib.parse
+import zipfile
+
+import program  # noqa: F401  (finds the validator)
+import xlsxwriter
+from program import Package, ProgramTest, slides_of
+
+SUBTYPES = {
+    "bar": (None, "stacked", "percent_stacked"), "column": (None, "percent_stacked"), "line": (None, "stacked"),
+    "area": (None, "percent_stacked"), "radar": (None, "with_markers", "filled"), "pie": (None,), "doughnut": (None,),
+    "scatter": (None, "straight_with_markers", "straight", "smooth_with_markers", "smooth"), "stock": (None,),
+}
+# What the library has no option for: the kind that it comes from, and what is said instead.
+REWRITTEN = {
+    "pie of pie": ("pie", [("<c:pieChart>", '<c:ofPieChart><c:ofPieType val="pie"/>'),
+                           ('<c:firstSliceAng val="0"/></c:pieChart>', "</c:ofPieChart>")]),
+    "bubble": ("scatter", [("scatterChart>", "bubbleChart>"), ('<c:scatterStyle val="lineMarker"/>', ""),
+                           (r"<c:spPr>.*?</c:spPr>(<c:xVal>)", r"\1"),
+                           (r"<c:yVal>(.*?)</c:yVal>", r"<c:yVal>\1</c:yVal><c:bubbleSize>\1</c:bubbleSize>")]),
+    "column in depth": ("column", [("barChart>", "bar3DChart>"),
+                                   ("<c:plotArea>", '<c:view3D><c:rotX val="15"/><c:rotY val="20"/></c:view3D><c:plotArea>')]),
+    "surface": ("column", [('<c:barChart><c:barDir val="col"/><c:grouping val="clustered"/>', "<c:surface3DChart>"),
+                           ("</c:barChart>", '<c:axId val="7"/></c:surface3DChart>'),
+                           (r'(<c:axId val="(\d+)"/>.*)</c:plotArea>',
+                            r'\1<c:serAx><c:axId val="7"/><c:scaling/><c:axPos val="b"/><c:crossAx val="\2"/></c:serAx>'
+                            "</c:plotArea>")]),
+}
+ROWS = 6
+SHEET = "'Port O''Call'"
+
+
+def cells(column):
+    return f"={SHEET}!${column}$2:${column}${ROWS + 1}"
+
+
+def chart(book, kind, name, **looks):
+    made = book.add_chart({"type": kind})
+    made.add_series({"name": name, "categories": cells("A"), "values": cells("B"), **looks})
+    return made
+
+
+def dressed(book):
+    """Charts that have more than their kind."""
+    both = chart(book, "column", "two axes")
+    line = chart(book, "line", "second", y2_axis=True)
+    both.combine(line)
+    yield both
+    yield chart(book, "column", "errors", y_error_bars={"type": "percentage", "value": 20},
+                trendline={"type": "linear", "display_equation": True})
+    yield chart(book, "column", "labels", data_labels={"value": True, "custom": [
+        {"value": f"={SHEET}!$A${row}"} for row in range(2, ROWS + 2)]})
+    yield chart(book, "line", "some labels", data_labels={"series_name": True, "value": True, "custom": [{"delete": True}]})
+    yield chart(book, "column", "pattern", pattern={"pattern": "wide_upward_diagonal", "fg_color": "red"},
+                points=[None, {"fill": {"color": "green"}}])
+    log = chart(book, "line", "logarithm")
+    log.set_y_axis({"log_base": 10, "name": "orders", "reverse": True})
+    yield log
+    dates = book.add_chart({"type": "line"})
+    dates.add_series({"name": "days", "categories": cells("D"), "values": cells("B")})
+    dates.set_x_axis({"date_axis": True, "num_format": "d mmm"})
+    yield dates
+
+
+def write(path, version):
+    with xlsxwriter.Workbook(path) as book:
+        data = book.add_worksheet(SHEET.strip("'").replace("''", "'"))
+        data.write_row(0, 0, ["Port", "2025", "2026", "Day"])
+        for row in range(1, ROWS + 1):
+            data.write_row(row, 0, [f"port {row}", 7 * row % 11 + 1, 5 * row % 7 + 2])
+            data.write(row, 3, 46000 + row * row, book.add_format({"num_format": "yyyy-mm-dd"}))
+        rewrites, charts = {}, []
+        for kind, subtype, edits in [*((kind, sub, []) for kind, subs in SUBTYPES.items() for sub in subs),
+                                     *((kind, None, edits) for kind, edits in REWRITTEN.values())]:
+            made = book.add_chart({"type": kind, **({"subtype": subtype} if subtype else {})})
+            for column in "BCB" if kind == "stock" else "B" if edits else "BC":
+                made.add_series({"name": f"{kind} {column}", "categories": cells("A"), "values": cells(column)})
+            charts.append(made)
+            rewrites[f"xl/charts/chart{len(charts)}.xml"] = edits
+        charts += dressed(book)
+        for number, made in enumerate(charts):
+            if number % 8 == 0:
+                sheet = book.add_worksheet()
+            sheet.insert_chart(number % 8 * 16, 0, made)
+        book.add_chartsheet("Whole").set_chart(chart(book, "line", "whole"))
+    with zipfile.ZipFile(path) as old:
+        parts = [(name, old.read(name)) for name in old.namelist()]
+    with zipfile.ZipFile(path, "w", zipfile.ZIP_DEFLATED) as new:
+        for name, content in parts:
+            for pattern, text in rewrites.get(name, []):
+                edited = re.sub(pattern, text, content.decode(), flags=re.DOTALL).encode()
+                assert edited != content, (name, pattern)
+                content = edited
+            new.writestr(name, content.replace(b"12.0000", version.encode()))
+    return len(charts) + 1
+
+
+class Charts(ProgramTest):
+    def pages(self, deck):
+        """Each slide of a deck as a small picture."""
+        subprocess.run(["soffice", f"-env:UserInstallation={(self.folder / 'profile').as_uri()}", "--headless",
+                        "--convert-to", "pdf", "--outdir", self.folder, deck], check=True, capture_output=True, timeout=120)
+        subprocess.run(["pdftoppm", "-r", "40", "-png", deck.with_suffix(".pdf"), deck.with_suffix("")], check=True)
+        return sorted(self.folder.glob(f"{deck.stem}-*.png"))
+
+    def test_look_as_in_their_workbook(self):
+        """Whichever program the workbook says that it is of, by which flags that are left out mean other things."""
+        for version in ("12.0000", "16.0300"):
+            book = self.folder / f"It's {version}.xlsx"
+            count = write(book, version)
+            pages = {}
+            for kind in ("pictures", "editable", "linked"):
+                deck = self.folder / f"{kind}-{version.split('.')[0]}.pptx"
+                code, output, errors = self.run_program(book, "--all", "--format", kind, "--output", deck,
+                                                        "--top", "0.1", "--left", "0.1", "--width", "0.36")
+                self.assertEqual(code, 0, output + errors)
+                self.assertEqual(len(slides_of(deck)), count)
+                if kind != "linked":
+                    pages[kind] = self.pages(deck)
+                self.check_data(Package(deck), kind, book, 0 if kind == "pictures" else count)
+            for number, (expected, found) in enumerate(zip(pages["pictures"], pages["editable"], strict=True)):
+                compared = subprocess.run(["convert", expected, found, "-blur", "0x2", "-metric", "RMSE", "-compare",
+                                           "-format", "%[distortion]", "info:"], check=True, capture_output=True)
+                difference = float(compared.stdout)
+                with self.subTest(version=version, slide=number + 1):
+                    self.assertLess(difference, 0.025)
+
+    def check_data(self, package, kind, book, count):
+        """The data of each chart is in a workbook that has the sheets of its formulas, one for all of them."""
+        charts = [name for name in package.names if re.fullmatch(r"ppt/charts/chart\d+\.xml", name)]
+        self.assertEqual(len(charts), count)
+        sources = set()
+        for chart in charts:
+            xml = package.read(chart).decode()
+            self.assertEqual(set(re.findall(r"<c:f>('[^!]*')!", xml)), {SHEET})
+            where = re.search(r'<c:externalData [^>]*r:id="(\w+)"', xml).group(1)
+            rels = package.read(re.sub(r"charts/(.*)", r"charts/_rels/\1.rels", chart)).decode()
+            sources.add(re.search(rf'Id="{where}"[^>]*Target="([^"]*)"', rels).group(1))
+        if kind == "editable":
+            (copy,) = sources
+            self.assertEqual(package.read(copy.replace("../", "ppt/")), book.read_bytes())
+        elif kind == "linked":
+            (link,) = sources
+            self.assertEqual(urllib.parse.unquote(link), f"file://{book}")
+
+
+if __name__ == "__main__":
+    unittest.main()
