@@ -70,7 +70,7 @@ TEST_F(ExcelTables, LookAsTheirCellsDo) {
 
         "merged fill=00EEFF left=0.7 right=0.7 top=0.7 bottom=0.7 2x2",
         "covered",
-        " left=0.7 right=1.8 FF0000",
+        "#DIV/0! right left=0.7 right=1.8 FF0000",
         "over hidden left=1.8 FF0000 right=1.8 FF0000 top=1.8 FF0000 bottom=1.8 FF0000 2x1",
         "covered",
         " left=1.8 FF0000",
@@ -101,7 +101,7 @@ TEST_F(ExcelTables, LookAsTheirCellsDo) {
         "3 right fill=7BBE63",
         "-5 bold right ink=06009C fill=CEC7FF",
         "noted",
-        "#DIV/0! right",
+        "-1.50 right ink=0000FF",
     };
     const TableLook table = tableOf("Looks", "A1:G7");
     std::vector<std::string> found;

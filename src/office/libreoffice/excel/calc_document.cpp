@@ -52,7 +52,7 @@ model::SheetChartPtr editedChart(const Connection& connection, SheetRecord* acti
 CalcDocument::CalcDocument(Desk& desk, uno::Reference<css::frame::XModel> calc)
     : Document(std::move(calc)),
       desk_(desk),
-      formats_(this->model()) {}
+      formats_(desk.connection(), this->model()) {}
 
 SheetList& CalcDocument::sheetList() {
     if (!sheets_) {

@@ -2,11 +2,13 @@
 
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/util/XNumberFormats.hpp>
+#include <com/sun/star/util/XNumberFormatter.hpp>
 
 #include <cstdint>
 #include <map>
 #include <string>
 
+#include "office/libreoffice/connection.h"
 #include "office/libreoffice/uno_values.h"
 
 namespace libreoffice::excel {
@@ -17,11 +19,14 @@ class NumberFormats {
 public:
     enum class Kind { Boolean, Text, Other };
 
-    explicit NumberFormats(uno::Reference<css::frame::XModel> model);
+    NumberFormats(const Connection& connection, uno::Reference<css::frame::XModel> model);
 
     [[nodiscard]] Kind kindOf(std::int32_t key);
     /// "General", "0.00", "@", ...
     [[nodiscard]] std::string codeOf(std::int32_t key);
+    /// The colour that a format gives a number, such as red to one below zero; `otherwise` if it
+    /// gives none. 0xBBGGRR.
+    [[nodiscard]] std::int32_t colourOf(double number, std::int32_t key, std::int32_t otherwise);
     /// The key of a code, made if the workbook hasn't got it. `css::uno::Exception` if it is none.
     [[nodiscard]] std::int32_t keyFor(const std::string& code);
     [[nodiscard]] std::int32_t booleanKey();
@@ -30,13 +35,17 @@ private:
     struct Format {
         Kind kind = Kind::Other;
         std::string code;
+        /// By the number's sign, or by the number where the code compares it with others.
+        std::map<double, std::int32_t> colours;
     };
 
     [[nodiscard]] const uno::Reference<css::util::XNumberFormats>& formats();
-    [[nodiscard]] const Format& format(std::int32_t key);
+    [[nodiscard]] Format& format(std::int32_t key);
 
+    const Connection& connection_;
     uno::Reference<css::frame::XModel> model_;
     uno::Reference<css::util::XNumberFormats> formats_;
+    uno::Reference<css::util::XNumberFormatter> formatter_;
     std::map<std::int32_t, Format> known_;
     std::int32_t booleanKey_ = -1;
 };

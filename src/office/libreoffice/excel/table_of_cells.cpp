@@ -112,6 +112,9 @@ public:
             if (column == width()) return;
             put(dressed(cell.look, row, column), {shown_.columns[column], shown_.rows[row]});
             const CellFormat& own = formatAt(row, column);
+            if (cell.number)
+                at(row, column).fontColour = sheet_.book().formats().colourOf(
+                    *cell.number, own.numberFormat, cell.look.fontColour);
             values_[row * width() + column] = {cell.number, own.numberFormat, own.shrinksToFit};
         }
     }
