@@ -19,6 +19,18 @@ struct CellLine {
     bool operator==(const CellLine&) const = default;
 };
 
+/// A bar behind the text of a cell, which shows how large its number is.
+struct CellBar {
+    /// Shares of the cell's width, from the left.
+    double from = 0;
+    double to = 0;
+    /// Of its left and of its right end, 0xBBGGRR.
+    std::int32_t leftColour = 0;
+    std::int32_t rightColour = 0;
+
+    bool operator==(const CellBar&) const = default;
+};
+
 /// One cell as it is seen: conditional formats are applied, and the text is the number as shown.
 struct CellLook {
     enum class Across { Left, Centre, Right, Justified };
@@ -35,6 +47,7 @@ struct CellLook {
     bool isStruckOut = false;
     /// Nothing for a cell that lets the ground shine through.
     std::optional<std::int32_t> fill;
+    std::optional<CellBar> bar;
     Across across = Across::Left;
     Down down = Down::Bottom;
     double indentPt = 0;

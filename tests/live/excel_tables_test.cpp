@@ -143,6 +143,34 @@ TEST_F(ExcelTables, DoWithWideTextsWhatASheetDoes) {
     EXPECT_EQ(found, expected);
 }
 
+TEST_F(ExcelTables, HaveTheBarsThatFormatsDraw) {
+    std::vector<std::string> found;
+    for (const CellLook& look : tableOf("Bars", "A1:E3").cells) {
+        found.push_back(look.bar
+                            ? fmt::format("{:.3g}-{:.3g} {:06X}-{:06X}", look.bar->from,
+                                          look.bar->to, look.bar->leftColour, look.bar->rightColour)
+                            : "none");
+    }
+    const std::vector<std::string> expected = {
+        "0.5-0.75 0000FF-0000FF",
+        "0-0.5 0000FF-CCCCFF",
+        "0-0.25 0000FF-0000FF",
+        "0-0.667 0000FF-0000FF",
+        "none",
+        "0.5-1 0000FF-0000FF",
+        "0-1 0000FF-CCCCFF",
+        "0-0.5 0000FF-0000FF",
+        "0-1 0000FF-0000FF",
+        "none",
+        "0-0.5 0000FF-0000FF",
+        "0-0 0000FF-CCCCFF",
+        "0-0 0000FF-0000FF",
+        "0-0 0000FF-0000FF",
+        "none",
+    };
+    EXPECT_EQ(found, expected);
+}
+
 TEST_F(ExcelTables, HoldWholeCellsOfAnySheet) {
     EXPECT_EQ(described(tableOf("Looks", "B3:B3").at(0, 0)).substr(0, 6), "merged");
     EXPECT_EQ(tableOf("Secret", "A1:B2").at(0, 0).text, "secret");

@@ -66,6 +66,9 @@ std::string described(pugi::xml_node cell) {
                                line.attribute("cmpd").value(),
                                line.child("a:prstDash").attribute("val").value());
     }
+    for (const pugi::xml_node stop : properties.child("a:gradFill").child("a:gsLst").children())
+        all += fmt::format(" {}={}", stop.attribute("pos").value(),
+                           stop.first_child().attribute("val").value());
     const auto fill = properties.child("a:solidFill").child("a:srgbClr");
     return all + (fill ? std::string(" fill=") + fill.attribute("val").value() : "");
 }
@@ -133,6 +136,7 @@ TEST_F(Table, LooksAsItsCellsDo) {
     look.cells[7].down = CellLook::Down::Top;
     look.cells[8].text = "in";
     look.cells[8].indentPt = 9;
+    look.cells[8].bar = {0.25, 0.5, 0x0000FF, 0x00FF00};
     look.cells[8].down = CellLook::Down::Middle;
     const Object shape = paste(std::move(look));
     EXPECT_EQ(shape.get("Name").toText(), "Table 2");
@@ -151,7 +155,8 @@ TEST_F(Table, LooksAsItsCellsDo) {
         " | algn=ctr marL=0 anchor=b lnL=3175 sng sysDot",
         " |up algn=l marL=12700 vert=vert270 anchor=b",
         " |down algn=l marL=12700 vert=vert anchor=b",
-        " |in algn=l marL=127000 anchor=ctr",
+        " |in algn=l marL=127000 anchor=ctr 0=FFFFFF 25000=FFFFFF 25000=FF0000 50000=00FF00"
+        " 50000=FFFFFF 100000=FFFFFF",
     };
     std::vector<std::string> found;
     for (const pugi::xml_node row : saved().children("a:tr")) {

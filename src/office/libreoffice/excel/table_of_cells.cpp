@@ -15,6 +15,7 @@
 #include "office/failure.h"
 #include "office/libreoffice/excel/cell_formats.h"
 #include "office/libreoffice/excel/cells_as_html.h"
+#include "office/libreoffice/excel/data_bars.h"
 #include "office/libreoffice/excel/fitted_texts.h"
 #include "office/libreoffice/excel/selected_cells.h"
 #include "office/libreoffice/units.h"
@@ -86,8 +87,10 @@ std::vector<double> lengthsOf(const uno::Reference<css::container::XIndexAccess>
 /// Fills a table from what the suite says of its cells.
 class TableMaker {
 public:
-    TableMaker(const SheetRecord& sheet, const ShownLines& shown, const CellFormats& formats)
+    TableMaker(SheetRecord& sheet, const model::CellBlock& block, const ShownLines& shown,
+               const CellFormats& formats)
         : sheet_(sheet),
+          bars_(sheet, block),
           shown_(shown),
           formats_(formats),
           values_(formats.ofCells.size()),
@@ -112,9 +115,12 @@ public:
             if (column == width()) return;
             put(dressed(cell.look, row, column), {shown_.columns[column], shown_.rows[row]});
             const CellFormat& own = formatAt(row, column);
-            if (cell.number)
+            if (cell.number) {
+                at(row, column).bar =
+                    bars_.barOf(shown_.columns[column], shown_.rows[row], *cell.number);
                 at(row, column).fontColour = sheet_.book().formats().colourOf(
                     *cell.number, own.numberFormat, cell.look.fontColour);
+            }
             values_[row * width() + column] = {cell.number, own.numberFormat, own.shrinksToFit};
         }
     }
@@ -248,6 +254,7 @@ private:
     }
 
     const SheetRecord& sheet_;
+    DataBars bars_;
     const ShownLines& shown_;
     const CellFormats& formats_;
     std::vector<CellLook> cells_;
@@ -298,7 +305,8 @@ TableLook withoutUnseenLines(const TableLook& table) {
 }  // namespace
 
 TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block) {
-    const auto cells = sheet.range(wholeCells(sheet, block));
+    const model::CellBlock whole = wholeCells(sheet, block);
+    const auto cells = sheet.range(whole);
     const ShownLines shown = shownLinesOf(cells);
     const CellFormats formats = readCellFormats(cells, shown);
     const uno::Sequence<sal_Int8> copy = SelectedCells(sheet, cells).copyAs("text/html");
@@ -316,7 +324,7 @@ TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block) {
     table.rowHeightsPt = lengthsOf(as<css::container::XIndexAccess>(lines->getRows()), "Height",
                                    shown.rows, rowHeights, pointsOf(size.Height));
 
-    TableMaker maker(sheet, shown, formats);
+    TableMaker maker(sheet, whole, shown, formats);
     for (std::size_t row = 0; row < std::min(html.rows.size(), shown.rows.size()); ++row)
         maker.putRow(html.rows[row], row);
     table.cells = maker.takeCells();

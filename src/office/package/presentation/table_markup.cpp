@@ -136,10 +136,40 @@ private:
         writeLine(properties, "a:lnR", isLastColumn ? cell.right : CellLine());
         writeLine(properties, "a:lnT", isBelow ? CellLine() : cell.top);
         writeLine(properties, "a:lnB", isLastRow ? cell.bottom : CellLine());
-        if (cell.fill)
+        writeFill(properties, cell);
+    }
+
+    static void writeFill(pugi::xml_node properties, const CellLook& cell) {
+        if (cell.bar && cell.bar->from < cell.bar->to) {
+            writeBar(properties, cell);
+        } else if (cell.fill) {
             writeColour(properties, *cell.fill);
-        else
+        } else {
             properties.append_child("a:noFill");
+        }
+    }
+
+    /// A bar is a gradient from the left to the right that changes its colour at one place.
+    static void writeBar(pugi::xml_node properties, const CellLook& cell) {
+        auto gradient = properties.append_child("a:gradFill");
+        auto stops = gradient.append_child("a:gsLst");
+        const auto addStop = [&](double share, std::optional<std::int32_t> colour) {
+            auto stop = stops.append_child("a:gs");
+            setRounded(stop, "pos", share * wholeShare);
+            const std::string markup = colourMarkup(colour.value_or(0xFFFFFF));
+            stop.append_buffer(markup.data(), markup.size());
+            if (!colour)
+                stop.first_child().append_child("a:alpha").append_attribute("val").set_value("0");
+        };
+        addStop(0, cell.fill);
+        addStop(cell.bar->from, cell.fill);
+        addStop(cell.bar->from, cell.bar->leftColour);
+        addStop(cell.bar->to, cell.bar->rightColour);
+        addStop(cell.bar->to, cell.fill);
+        addStop(1, cell.fill);
+        auto line = gradient.append_child("a:lin");
+        line.append_attribute("ang").set_value("0");
+        line.append_attribute("scaled").set_value("0");
     }
 
     [[nodiscard]] static double sum(const std::vector<double>& lengths, std::size_t first,

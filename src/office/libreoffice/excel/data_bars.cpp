@@ -1,0 +1,155 @@
+#include "office/libreoffice/excel/data_bars.h"
+
+#include <com/sun/star/sheet/ConditionEntryType.hpp>
+#include <com/sun/star/sheet/DataBarAxis.hpp>
+#include <com/sun/star/sheet/DataBarEntryType.hpp>
+#include <com/sun/star/sheet/XCellRangeData.hpp>
+#include <com/sun/star/sheet/XConditionEntry.hpp>
+#include <com/sun/star/sheet/XConditionalFormat.hpp>
+#include <com/sun/star/sheet/XConditionalFormats.hpp>
+#include <com/sun/star/sheet/XDataBarEntry.hpp>
+#include <com/sun/star/sheet/XSheetCellRanges.hpp>
+
+#include <algorithm>
+#include <cmath>
+
+#include "office/text.h"
+
+namespace libreoffice::excel {
+
+namespace {
+
+namespace EntryType = css::sheet::DataBarEntryType;
+
+/// All numbers in the blocks, the least first.
+std::vector<double> sortedNumbers(SheetRecord& sheet, const std::vector<model::CellBlock>& blocks) {
+    std::vector<double> numbers;
+    const model::CellBlock used = sheet.used();
+    for (const model::CellBlock& block : blocks) {
+        const auto filled = intersection(block, used);
+        if (!filled) continue;
+        for (const auto& row :
+             as<css::sheet::XCellRangeData>(sheet.range(*filled))->getDataArray()) {
+            for (const uno::Any& value : row) {
+                if (double number = 0; value >>= number) numbers.push_back(number);
+            }
+        }
+    }
+    std::sort(numbers.begin(), numbers.end());
+    return numbers;
+}
+
+/// The number below which this share of all numbers is.
+double percentile(const std::vector<double>& sorted, double share) {
+    const double place = std::clamp(share, 0.0, 1.0) * static_cast<double>(sorted.size() - 1);
+    const auto below = static_cast<std::size_t>(place);
+    const std::size_t above = std::min(below + 1, sorted.size() - 1);
+    return std::lerp(sorted[below], sorted[above], place - static_cast<double>(below));
+}
+
+/// One end of the scale; nothing if it is a formula's result. The suite gives the automatic end and
+/// the least number the same name.
+std::optional<double> endOf(const uno::Reference<css::sheet::XDataBarEntry>& entry, bool isUpper,
+                            bool isAutomatic, const std::vector<double>& sorted) {
+    const double value = office::leadingNumber(fromUno(entry->getFormula()));
+    switch (entry->getType()) {
+        case EntryType::DATABAR_AUTO:
+            if (isUpper) return std::max(0.0, sorted.back());
+            return isAutomatic ? std::min(0.0, sorted.front()) : sorted.front();
+        case EntryType::DATABAR_MAX:
+            return sorted.back();
+        case EntryType::DATABAR_PERCENT:
+            return std::lerp(sorted.front(), sorted.back(), value / 100);
+        case EntryType::DATABAR_PERCENTILE:
+            return percentile(sorted, value / 100);
+        case EntryType::DATABAR_VALUE:
+            return value;
+        default:
+            return std::nullopt;
+    }
+}
+
+/// As a bar fades away from the axis.
+std::int32_t faded(std::int32_t colour) {
+    constexpr double towardsWhite = 0.8;
+    std::int32_t light = 0;
+    for (const int shift : {0, 8, 16}) {
+        const std::int32_t part = colour >> shift & 0xFF;
+        light |= static_cast<std::int32_t>(std::lround(std::lerp(part, 255, towardsWhite)))
+                 << shift;
+    }
+    return light;
+}
+
+}  // namespace
+
+DataBars::DataBars(SheetRecord& sheet, const model::CellBlock& block) {
+    const auto formats = property<uno::Reference<css::sheet::XConditionalFormats>>(
+        sheet.sheet(), "ConditionalFormats");
+    if (!formats.is()) return;
+    for (const auto& format : formats->getConditionalFormats()) {
+        const auto ranges = property<uno::Reference<css::sheet::XSheetCellRanges>>(format, "Range");
+        std::vector<model::CellBlock> blocks;
+        for (const auto& address : ranges->getRangeAddresses()) blocks.push_back(blockOf(address));
+        if (std::none_of(blocks.begin(), blocks.end(), [&](const model::CellBlock& each) {
+                return intersection(each, block).has_value();
+            }))
+            continue;
+        for (sal_Int32 i = 0; i < format->getCount(); ++i) {
+            const uno::Reference<css::sheet::XConditionEntry> entry(format->getByIndex(i),
+                                                                    uno::UNO_QUERY_THROW);
+            if (entry->getType() != css::sheet::ConditionEntryType::DATABAR) continue;
+            if (auto bars = read(sheet, as<css::beans::XPropertySet>(entry), blocks))
+                all_.push_back(*std::move(bars));
+        }
+    }
+}
+
+std::optional<DataBars::Bars> DataBars::read(SheetRecord& sheet,
+                                             const uno::Reference<css::beans::XPropertySet>& entry,
+                                             const std::vector<model::CellBlock>& blocks) {
+    const auto ends =
+        property<uno::Sequence<uno::Reference<css::sheet::XDataBarEntry>>>(entry, "DataBarEntries");
+    const std::vector<double> numbers = sortedNumbers(sheet, blocks);
+    if (ends.getLength() != 2 || numbers.empty()) return std::nullopt;
+    const bool isAutomatic = ends[1]->getType() != EntryType::DATABAR_MAX;
+    const auto least = endOf(ends[0], false, isAutomatic, numbers);
+    const auto most = endOf(ends[1], true, isAutomatic, numbers);
+    if (!least || !most || *least >= *most) return std::nullopt;
+    Bars bars{blocks, *least, *most};
+    const auto axis = property<sal_Int32>(entry, "AxisPosition");
+    if (axis == css::sheet::DataBarAxis::AXIS_AUTOMATIC) bars.axis = Axis::Automatic;
+    if (axis == css::sheet::DataBarAxis::AXIS_MIDDLE) bars.axis = Axis::Middle;
+    bars.isFading = property<bool>(entry, "UseGradient");
+    bars.colour = swapRedAndBlue(property<sal_Int32>(entry, "Color"));
+    bars.negativeColour = property<bool>(entry, "UseNegativeColor")
+                              ? swapRedAndBlue(property<sal_Int32>(entry, "NegativeColor"))
+                              : bars.colour;
+    return bars;
+}
+
+std::optional<office::CellBar> DataBars::barOf(std::int32_t column, std::int32_t row,
+                                               double number) const {
+    const auto found = std::find_if(all_.begin(), all_.end(), [&](const Bars& bars) {
+        return std::any_of(bars.blocks.begin(), bars.blocks.end(), [&](const auto& block) {
+            return intersection(block, model::CellBlock::cell(row, column)).has_value();
+        });
+    });
+    if (found == all_.end()) return std::nullopt;
+    const auto& [blocks, least, most, axis, isFading, colour, negativeColour] = *found;
+    const double value = std::clamp(number, least, most);
+    if (axis == Axis::None || least >= 0) {
+        const double zero = axis == Axis::Middle ? 0.5 : 0;
+        const double to = zero + (1 - zero) * (value - least) / (most - least);
+        return office::CellBar{zero, to, colour, isFading ? faded(colour) : colour};
+    }
+    double zero = most <= 0 ? 1 : -least / (most - least);
+    if (axis == Axis::Middle) zero = 0.5;
+    if (value >= 0)
+        return office::CellBar{zero, zero + (1 - zero) * (most > 0 ? value / most : 0), colour,
+                               isFading ? faded(colour) : colour};
+    return office::CellBar{zero * (1 - value / least), zero,
+                           isFading ? faded(negativeColour) : negativeColour, negativeColour};
+}
+
+}  // namespace libreoffice::excel

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "office/libreoffice/excel/sheet_record.h"
+#include "office/table_look.h"
+
+namespace libreoffice::excel {
+
+/// The conditional formats of a block of cells that draw bars.
+class DataBars {
+public:
+    DataBars(SheetRecord& sheet, const model::CellBlock& block);
+
+    /// The bar of a cell with this number, by its place on the sheet.
+    [[nodiscard]] std::optional<office::CellBar> barOf(std::int32_t column, std::int32_t row,
+                                                       double number) const;
+
+private:
+    enum class Axis { None, Middle, Automatic };
+    struct Bars {
+        std::vector<model::CellBlock> blocks;
+        double least = 0;
+        double most = 0;
+        Axis axis = Axis::None;
+        bool isFading = false;
+        std::int32_t colour = 0;
+        std::int32_t negativeColour = 0;
+    };
+
+    static std::optional<Bars> read(SheetRecord& sheet,
+                                    const uno::Reference<css::beans::XPropertySet>& entry,
+                                    const std::vector<model::CellBlock>& blocks);
+
+    std::vector<Bars> all_;
+};
+
+}  // namespace libreoffice::excel
