@@ -122,11 +122,8 @@ void dropSignatures(Package& workbook) {
     workbook.remove(origin);
 }
 
-}  // namespace
-
-EmbeddedWorkbook embeddedWorkbook(WorkbookFile& workbook, const CopySource& source,
-                                  bool sheetAlone) {
-    const WorkbookSheet& sheet = *workbook.sheet(source.sheet);
+/// A copy in which one sheet is selected, or left alone.
+std::string copyOnSheet(const WorkbookFile& workbook, const WorkbookSheet& sheet, bool sheetAlone) {
     const std::string file = workbook.bytes();
     Package copy = Package::fromBytes(file);
     if (sheetAlone) keepSheetAlone(copy, workbook.mainPart(), sheet);
@@ -136,10 +133,23 @@ EmbeddedWorkbook embeddedWorkbook(WorkbookFile& workbook, const CopySource& sour
         const bool isShown = &one == &sheet;
         if (isShown || mayBeSelected(copy, one.part)) selectSheet(copy, one.part, isShown);
     }
-    show(copy, workbook.mainPart(), sheet, shownCells(workbook, sheet, source));
     // A template would be opened as a new file of its own.
     const bool hasMacros = workbook.hasMacros() && !sheetAlone;
     copy.setContentType(workbook.mainPart(), hasMacros ? macroMain : plainMain);
+    return copy.bytes();
+}
+
+}  // namespace
+
+EmbeddedWorkbook embeddedWorkbook(WorkbookFile& workbook, const CopySource& source,
+                                  bool sheetAlone) {
+    const WorkbookSheet& sheet = *workbook.sheet(source.sheet);
+    const std::string& onSheet =
+        workbook.remembered(fmt::format("{}|{}", sheet.part, sheetAlone),
+                            [&] { return copyOnSheet(workbook, sheet, sheetAlone); });
+    Package copy = Package::fromBytes(onSheet);
+    show(copy, workbook.mainPart(), sheet, shownCells(workbook, sheet, source));
+    const bool hasMacros = workbook.hasMacros() && !sheetAlone;
     return {.bytes = copy.bytes(),
             .ending = hasMacros ? ".xlsm" : ".xlsx",
             .contentType = hasMacros ? macroType : plainType,

@@ -215,6 +215,13 @@ std::string WorkbookFile::bytes() const {
     return bytes;
 }
 
+const std::string& WorkbookFile::remembered(const std::string& purpose,
+                                            const std::function<std::string()>& make) {
+    const auto known = remembered_.find(purpose);
+    return known != remembered_.end() ? known->second
+                                      : remembered_.emplace(purpose, make()).first->second;
+}
+
 WorkbookFilePtr WorkbookFiles::at(const std::string& path) {
     const std::filesystem::path file(std::u8string(path.begin(), path.end()));
     std::error_code problem;

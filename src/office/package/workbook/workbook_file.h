@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -63,6 +64,9 @@ public:
     [[nodiscard]] std::string themePart();
     /// The whole file. TooLarge for one that no presentation should carry.
     [[nodiscard]] std::string bytes() const;
+    /// What is made of it for a purpose, once for all that ask.
+    [[nodiscard]] const std::string& remembered(const std::string& purpose,
+                                                const std::function<std::string()>& make);
 
 private:
     void readSheets();
@@ -75,6 +79,7 @@ private:
     std::vector<WorkbookSheet> sheets_;
     /// By the part of the sheet.
     std::unordered_map<std::string, std::vector<WorkbookChart>> charts_;
+    std::unordered_map<std::string, std::string> remembered_;
 };
 
 using WorkbookFilePtr = std::shared_ptr<WorkbookFile>;
