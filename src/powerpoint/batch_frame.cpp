@@ -105,7 +105,12 @@ void BatchFrame::exportRow(const TakenRow& taken) {
         const bool isThere = route_.insertItem(batch_, row, slide);
         if (isThere) ++exported_;
         finishItem(row, slide, isThere);
-        window_.get("Selection").call("Unselect");
+        const auto unselect = [&] { window_.get("Selection").call("Unselect"); };
+        if (route_.ignoresSelection) {
+            office::ContinueOnFailure().attempt(unselect);
+        } else {
+            unselect();
+        }
     };
     if (!batch_.onFailedItem) {
         work();
@@ -179,6 +184,10 @@ void BatchFrame::putBack() {
 }
 
 }  // namespace
+
+void letExcelDraw(Batch& batch) {
+    catalogue::RestoreScreenUpdating(batch.session);
+}
 
 std::int32_t RunBatch(Batch& batch, const BatchRoute& route) {
     return BatchFrame(batch, route).run();

@@ -34,16 +34,21 @@ struct Batch {
     SlideOptions options = {};
 };
 
+/// As the formats need it that paste.
+void letExcelDraw(Batch& batch);
+
 /// What tells the formats of a batch apart; the frame is the same for all.
 struct BatchRoute {
     /// Takes Excel's drawing to the state that the items need, before the first one.
-    void (*prepareScreen)(Batch& batch);
+    void (*prepareScreen)(Batch& batch) = letExcelDraw;
     /// Puts the row's object on slide `slideIndex`. False if it isn't there and the user knows.
     bool (*insertItem)(Batch& batch, const catalogue::ExportItem& row, std::int32_t slideIndex);
     /// Without items nothing is touched.
     bool endsWithoutItems = false;
     /// Progress ends with the last item as done.
     bool showsCompletion = false;
+    /// A selection that the application doesn't drop is left in peace.
+    bool ignoresSelection = false;
     /// Excel's window is made large and its rows are shown at the end: copying may have left some
     /// hidden.
     bool restoresExcel = true;

@@ -90,14 +90,12 @@ bool PasteRowEditable(OfficeSession& session, const ExportItem& row, std::int32_
 }
 
 std::int32_t ExportRowsAsEditable(Batch& batch) {
-    return RunBatch(batch,
-                    {.prepareScreen = [](Batch& b) { catalogue::RestoreScreenUpdating(b.session); },
-                     .insertItem =
-                         [](Batch& b, const ExportItem& row, std::int32_t slideIndex) {
-                             return PasteRowEditable(b.session, row, slideIndex);
-                         },
-                     .endsWithoutItems = true,
-                     .showsCompletion = true});
+    return RunBatch(batch, {.insertItem =
+                                [](Batch& b, const ExportItem& row, std::int32_t slideIndex) {
+                                    return PasteRowEditable(b.session, row, slideIndex);
+                                },
+                            .endsWithoutItems = true,
+                            .showsCompletion = true});
 }
 
 }  // namespace powerpoint

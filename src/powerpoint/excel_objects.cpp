@@ -47,13 +47,13 @@ bool PasteRowAsExcelObject(OfficeSession& session, const ExportItem& row, std::i
 
 std::int32_t ExportRowsAsExcelObjects(Batch& batch) {
     return RunBatch(
-        batch, {.prepareScreen = [](Batch& b) { catalogue::RestoreScreenUpdating(b.session); },
-                .insertItem =
+        batch, {.insertItem =
                     [](Batch& b, const ExportItem& row, std::int32_t slideIndex) {
                         return PasteRowAsExcelObject(b.session, row, slideIndex);
                     },
                 .endsWithoutItems = true,
                 .showsCompletion = true,
+                .ignoresSelection = true,
                 .noneArrived = "No objects could be pasted as embedded Excel objects.\r\n\r\n"
                                "Check that the selected sheets are visible and that PowerPoint can "
                                "accept Excel objects from the clipboard."});

@@ -39,15 +39,13 @@ bool PasteRowAsLink(OfficeSession& session, const ExportItem& row, std::int32_t 
 }
 
 std::int32_t ExportRowsAsLinkedObjects(Batch& batch) {
-    return RunBatch(batch,
-                    {.prepareScreen = [](Batch& b) { catalogue::RestoreScreenUpdating(b.session); },
-                     .insertItem =
-                         [](Batch& b, const ExportItem& row, std::int32_t slideIndex) {
-                             return PasteRowAsLink(b.session, row, slideIndex);
-                         },
-                     .endsWithoutItems = true,
-                     .showsCompletion = true,
-                     .restoresExcel = false});
+    return RunBatch(batch, {.insertItem =
+                                [](Batch& b, const ExportItem& row, std::int32_t slideIndex) {
+                                    return PasteRowAsLink(b.session, row, slideIndex);
+                                },
+                            .endsWithoutItems = true,
+                            .showsCompletion = true,
+                            .restoresExcel = false});
 }
 
 }  // namespace powerpoint

@@ -1,4 +1,5 @@
 #include "export_stage.h"
+#include "office/package/small_workbook.h"
 #include "powerpoint/formats.h"
 
 namespace {
@@ -115,6 +116,37 @@ TEST_F(FormatsTest, AnEditableChartThatIsGoneFailsAndASheetStandsForItsFirstChar
     EXPECT_EQ(notices.messages().back(), "No chart found in sheet: Empty");
     list.rows = {chartRow("Chart 9", "Sales")};
     EXPECT_THROW(exportRows(), office::Failure);
+}
+
+/// A workbook with a file, of which everything can be pasted.
+class FileFormatsTest : public FormatsTest {
+protected:
+    FileFormatsTest() {
+        folder.write("Small.xlsx", small_workbook::bytes());
+        auto& small = suite.excel().addWorkbook("Small.xlsx", folder.path().string());
+        small.sheet("Data").chart("Sales").value("A1", 7.0).define("Area", "A1:C4");
+        small.chartSheet("Plot");
+        session.ActiveBook = small.handle();
+        add(rangeRow("Area", "Data", "A caption"));
+        add(chartRow("Sales", "Data"));
+    }
+
+    support::TemporaryFolder folder;
+};
+
+TEST_F(FileFormatsTest, ArriveAndCountWhetherTheShapesAreHandedOverOrOnlyThere) {
+    for (const bool handsOver : {true, false}) {
+        if (!handsOver) suite.failures().failAlways("Shapes.PasteSpecial");
+        for (const auto format : {ExportFormat::Embedded, ExportFormat::Linked}) {
+            const int before = deck.slideCount();
+            // A chart without a part of its own in the file can't be linked.
+            list.rows.back().checked = format == ExportFormat::Embedded;
+            exportAs(format);
+            EXPECT_EQ(notices.messages(), Texts{});
+            EXPECT_EQ(picturesOn(before + 1), Texts{"A caption"});
+            if (format == ExportFormat::Embedded) EXPECT_EQ(picturesOn(before + 2), Texts{"Sales"});
+        }
+    }
 }
 
 }  // namespace

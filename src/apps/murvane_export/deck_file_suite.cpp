@@ -24,7 +24,7 @@ package::MeasureText measureWith(session::Host& host) {
 package::FileRules rulesOf(office::Suite& below, session::Host& host, const Options& options) {
     package::FileRules rules{.measure = measureWith(host), .clipboard = below.clipboard()};
     rules.embedsSheetAlone = options.embedsSheetAlone;
-    if (options.linksAreRelative)
+    if (options.linksAreRelative && !options.output.empty())
         rules.linkBase = std::filesystem::absolute(apps::pathOf(options.output)).parent_path();
     return rules;
 }

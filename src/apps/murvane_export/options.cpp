@@ -186,7 +186,6 @@ void finish(Options& options, const RawTexts& raw) {
     };
     requireFormat(options.embedsSheetAlone, "--embed-only-sheet", "embedded");
     requireFormat(!raw.links.empty(), "--links", "linked");
-    requireFormat(raw.style != "none", "--style", "pictures");
     if (options.json && options.task != Task::List) throw UsageError("--json goes with --list.");
     if (options.allItems && !options.items.empty()) {
         throw UsageError("--all and --items don't go together.");

@@ -23,7 +23,7 @@ class ImpressDeck;
 
 /// What all objects of one suite share: the connection, the documents that have been met, and what
 /// automation keeps for an application and LibreOffice does not (calculation mode, window state,
-/// the picture copied last).
+/// what was copied last).
 class Desk {
 public:
     /// `hidden`: documents are opened without a window, as in a private suite that nobody looks at.
