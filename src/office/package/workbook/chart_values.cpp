@@ -1,6 +1,7 @@
 #include "office/package/workbook/chart_values.h"
 
-#include <array>
+#include <fmt/format.h>
+
 #include <map>
 #include <string>
 #include <vector>
@@ -35,7 +36,7 @@ std::map<unsigned, std::string> joinedPoints(pugi::xml_node levels) {
         // Of an outer level each point holds until the next one.
         for (auto& [index, text] : texts) {
             const auto next = own.upper_bound(index);
-            if (next != own.begin()) text = std::prev(next)->second + " " + text;
+            if (next != own.begin()) text.insert(0, fmt::format("{} ", std::prev(next)->second));
         }
     }
     return texts;
