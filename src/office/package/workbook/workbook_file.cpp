@@ -162,13 +162,18 @@ const WorkbookSheet* WorkbookFile::sheet(std::string_view name) const {
 }
 
 const std::vector<WorkbookChart>& WorkbookFile::chartsOf(const WorkbookSheet& sheet) {
-    const auto [place, isNew] = charts_.try_emplace(sheet.part);
-    if (!isNew) return place->second;
+    // What is damaged is so each time that it is asked for.
+    const auto known = charts_.find(sheet.part);
+    return known != charts_.end() ? known->second
+                                  : charts_.emplace(sheet.part, readCharts(sheet)).first->second;
+}
+
+std::vector<WorkbookChart> WorkbookFile::readCharts(const WorkbookSheet& sheet) {
     const Relationships& relationships = package_.relationshipsOf(sheet.part);
     const Relationship* const found = relationships.ofType("drawing");
-    if (found == nullptr || found->isExternal) return place->second;
+    if (found == nullptr || found->isExternal) return {};
     const std::string drawing = relationships.partOf(*found);
-    if (!package_.has(drawing)) return place->second;
+    if (!package_.has(drawing)) return {};
     const Xml xml(package_.read(drawing), drawing);
     struct Walker : pugi::xml_tree_walker {
         bool for_each(pugi::xml_node& node) override {
@@ -178,11 +183,11 @@ const std::vector<WorkbookChart>& WorkbookFile::chartsOf(const WorkbookSheet& sh
         std::vector<pugi::xml_node> frames;
     } walker;
     xml.root().traverse(walker);
+    std::vector<WorkbookChart> charts;
     for (const pugi::xml_node frame : walker.frames) {
-        if (auto chart = chartIn(package_, drawing, frame))
-            place->second.push_back(*std::move(chart));
+        if (auto chart = chartIn(package_, drawing, frame)) charts.push_back(*std::move(chart));
     }
-    return place->second;
+    return charts;
 }
 
 const WorkbookChart* WorkbookFile::chart(const WorkbookSheet& sheet, std::string_view name) {

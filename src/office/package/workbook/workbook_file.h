@@ -70,6 +70,7 @@ public:
 
 private:
     void readSheets();
+    [[nodiscard]] std::vector<WorkbookChart> readCharts(const WorkbookSheet& sheet);
 
     std::filesystem::path path_;
     Package package_;
