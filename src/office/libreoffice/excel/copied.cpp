@@ -49,7 +49,7 @@ std::string pngOf(Write write) {
 
 CopiedPicture::CopiedPicture(Desk& desk, office::CopySource source,
                              uno::Sequence<sal_Int8> metafile, const PictureSize& size)
-    : Copied(std::move(source)),
+    : CopiedHere(std::move(source)),
       desk_(desk),
       metafile_(std::move(metafile)),
       size_(size) {}
@@ -70,13 +70,17 @@ std::string CopiedPicture::png() const {
     });
 }
 
+uno::Reference<css::graphic::XGraphic> CopiedPicture::graphic() const {
+    return translated(desk_, [&] { return pictureMaker(desk_).graphicOf(metafile_); });
+}
+
 office::TableLook CopiedPicture::table() const {
     failWithoutCells();
 }
 
 CopiedChart::CopiedChart(CalcDocument& book, office::CopySource source,
                          uno::Reference<css::drawing::XShape> shape)
-    : Copied(std::move(source)),
+    : CopiedHere(std::move(source)),
       book_(book.shared_from_this()),
       shape_(std::move(shape)),
       size_(shape_->getSize()) {}
@@ -101,6 +105,12 @@ std::string CopiedChart::png() const {
     });
 }
 
+uno::Reference<css::graphic::XGraphic> CopiedChart::graphic() const {
+    return translated(book().desk(), [&] {
+        return property<uno::Reference<css::graphic::XGraphic>>(shape_, "Graphic");
+    });
+}
+
 office::TableLook CopiedChart::table() const {
     failWithoutCells();
 }
@@ -108,7 +118,7 @@ office::TableLook CopiedChart::table() const {
 CopiedCells::CopiedCells(SheetRecordPtr sheet, office::CopySource source,
                          uno::Reference<css::table::XCellRange> cells,
                          const office::model::excel::CellBlock& block)
-    : Copied(std::move(source)),
+    : CopiedHere(std::move(source)),
       sheet_(std::move(sheet)),
       book_(sheet_->book().shared_from_this()),
       cells_(std::move(cells)),
@@ -136,6 +146,14 @@ std::string CopiedCells::png() const {
         return pngOf([&](const std::string& file) {
             pictureMaker(desk).writeMetafile(picture.metafile, picture.size, file);
         });
+    });
+}
+
+uno::Reference<css::graphic::XGraphic> CopiedCells::graphic() const {
+    SheetRecord& source = sheet();
+    Desk& desk = source.book().desk();
+    return translated(desk, [&] {
+        return pictureMaker(desk).graphicOf(takePictureOfCells(source, cells_, block_).metafile);
     });
 }
 

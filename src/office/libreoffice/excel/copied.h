@@ -10,8 +10,17 @@
 
 namespace libreoffice::excel {
 
+/// What was copied in Calc. An Impress of the same suite can take it over without a file between.
+class CopiedHere : public office::Copied {
+public:
+    using Copied::Copied;
+    /// A picture of it in vectors, of the size that it has in the workbook. `office::Failure` 1004
+    /// if there is nothing to take a picture of.
+    [[nodiscard]] virtual uno::Reference<css::graphic::XGraphic> graphic() const = 0;
+};
+
 /// A picture of a chart or of cells, in the suite's own vector format.
-class CopiedPicture : public office::Copied {
+class CopiedPicture : public CopiedHere {
 public:
     CopiedPicture(Desk& desk, office::CopySource source, uno::Sequence<sal_Int8> metafile,
                   const PictureSize& size);
@@ -21,6 +30,7 @@ public:
     [[nodiscard]] double widthPt() const override;
     [[nodiscard]] double heightPt() const override;
     [[nodiscard]] std::string png() const override;
+    [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
     [[nodiscard]] office::TableLook table() const override;
 
 private:
@@ -30,7 +40,7 @@ private:
 };
 
 /// A chart. Its workbook has to be open still when more of it is asked for.
-class CopiedChart : public office::Copied {
+class CopiedChart : public CopiedHere {
 public:
     CopiedChart(CalcDocument& book, office::CopySource source,
                 uno::Reference<css::drawing::XShape> shape);
@@ -40,6 +50,7 @@ public:
     [[nodiscard]] double widthPt() const override;
     [[nodiscard]] double heightPt() const override;
     [[nodiscard]] std::string png() const override;
+    [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
     [[nodiscard]] office::TableLook table() const override;
 
 private:
@@ -49,17 +60,19 @@ private:
 };
 
 /// One block of cells. Its workbook has to be open still when more of it is asked for.
-class CopiedCells : public office::Copied {
+class CopiedCells : public CopiedHere {
 public:
     CopiedCells(SheetRecordPtr sheet, office::CopySource source,
                 uno::Reference<css::table::XCellRange> cells,
                 const office::model::excel::CellBlock& block);
 
     [[nodiscard]] SheetRecord& sheet() const;
+    [[nodiscard]] const uno::Reference<css::table::XCellRange>& cells() const { return cells_; }
     [[nodiscard]] const office::model::excel::CellBlock& block() const { return block_; }
     [[nodiscard]] double widthPt() const override;
     [[nodiscard]] double heightPt() const override;
     [[nodiscard]] std::string png() const override;
+    [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
     [[nodiscard]] office::TableLook table() const override;
 
 private:

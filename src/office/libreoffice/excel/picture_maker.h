@@ -50,6 +50,9 @@ public:
     /// A chart in the suite's own vector format, as a range is copied.
     [[nodiscard]] uno::Sequence<sal_Int8> metafileOf(
         const uno::Reference<css::drawing::XShape>& chart);
+    /// A copied picture as shapes show it; none if it is empty.
+    [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphicOf(
+        const uno::Sequence<sal_Int8>& metafile);
 
 private:
     struct Page;
@@ -57,8 +60,6 @@ private:
     Page& page();
     void writePage(const uno::Reference<css::graphic::XGraphic>& graphic, const PictureSize& size,
                    const std::string& path);
-    [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphicOf(
-        const uno::Sequence<sal_Int8>& metafile);
     [[nodiscard]] const uno::Reference<css::document::XExporter>& exporterOf(
         const uno::Reference<css::drawing::XShape>& shape);
 

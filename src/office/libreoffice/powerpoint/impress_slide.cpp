@@ -7,14 +7,11 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <fstream>
 #include <utility>
 
 #include "office/failure.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
-#include "office/libreoffice/private_folder.h"
 #include "office/libreoffice/units.h"
-#include "office/model/powerpoint/paste.h"
 
 namespace libreoffice::powerpoint {
 
@@ -146,21 +143,6 @@ model::DeckShapePtr ImpressSlide::addLabel(const model::Point& corner, const mod
     shape->resize(size);
     shape->moveTo(corner);
     shape->setKeepsProportions(false);
-    return shape;
-}
-
-model::DeckShapePtr ImpressSlide::paste(const office::Copied& copied, office::PasteAs as) {
-    using office::PasteAs;
-    const bool isPicture = copied.source().kind == office::CopySource::Kind::Picture;
-    if (!isPicture && as != PasteAs::Png && as != PasteAs::Metafile)
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "Shapes.PasteSpecial",
-                              "It can't be pasted in this form");
-    const PrivateFolder folder;
-    const std::string file = folder.file("copied.png");
-    std::ofstream(file, std::ios::binary) << copied.png();
-    const auto place = model::pastePlaceFor({copied.widthPt(), copied.heightPt()}, deck_, *this);
-    auto shape = addPicture(file, place.corner);
-    shape->resize(place.size);
     return shape;
 }
 

@@ -11,6 +11,7 @@
 
 #include "office/libreoffice/powerpoint/impress_shape.h"
 #include "office/model/powerpoint/deck_slide.h"
+#include "office/model/powerpoint/paste.h"
 
 namespace libreoffice::powerpoint {
 
@@ -50,6 +51,11 @@ public:
 private:
     [[nodiscard]] ImpressShapePtr at(std::int32_t place);
     [[nodiscard]] ImpressShapePtr add(const char* service);
+    [[nodiscard]] model::DeckShapePtr pastePicture(const office::Copied& copied,
+                                                   const model::PastePlace& place);
+    /// Names and places what was put on the slide.
+    [[nodiscard]] ImpressShapePtr pasted(const uno::Reference<css::drawing::XShape>& reference,
+                                         std::string_view kind, const model::Point& corner);
     /// A name that no shape of the slide has: the kind and a number ("Picture 2").
     [[nodiscard]] std::string freshName(std::string_view kind);
     [[nodiscard]] std::int32_t highestNumber();

@@ -201,10 +201,30 @@ bool ImpressWindow::moveToFront(const model::DeckSlidePtr& slide) {
     return slide->place() == 1;
 }
 
-void ImpressWindow::dispatch(const char* command) {
+void ImpressWindow::pasteOnto(ImpressSlide& slide, sal_uInt32 format) {
+    // Other views paste elsewhere, or nothing.
+    const std::int32_t view = viewType();
+    if (view != normalView) setViewType(normalView);
+    static_cast<void>(controller());
+    const auto before = view_->getCurrentPage();
+    const bool isInView = before == slide.page();
+    const uno::Any selected = selection_->getSelection();
+    if (!isInView) view_->setCurrentPage(slide.page());
+    // What is selected would take the contents in.
+    selection_->select(uno::Any());
+    dispatch(".uno:ClipboardFormatItems", propertyValues({{"SelectedFormat", uno::Any(format)}}));
+    selection_->select(uno::Any());
+    if (!isInView) view_->setCurrentPage(before);
+    if (selected.hasValue()) selection_->select(selected);
+    if (view != normalView) setViewType(view);
+}
+
+void ImpressWindow::dispatch(const char* command,
+                             const uno::Sequence<css::beans::PropertyValue>& arguments) {
     const auto frame = as<css::frame::XDispatchProvider>(controller()->getFrame());
     css::frame::DispatchHelper::create(deck_.connection().context())
-        ->executeDispatch(frame, rtl::OUString::createFromAscii(command), rtl::OUString(), 0, {});
+        ->executeDispatch(frame, rtl::OUString::createFromAscii(command), rtl::OUString(), 0,
+                          arguments);
 }
 
 bool ImpressWindow::raise() {

@@ -17,6 +17,7 @@ namespace libreoffice::powerpoint {
 namespace model = office::model::powerpoint;
 
 class ImpressDeck;
+class ImpressSlide;
 
 /// The window of a presentation: the slide in view, what is selected, the kind of view. One that
 /// was opened without a window has all of this too, unseen.
@@ -38,6 +39,9 @@ public:
     [[nodiscard]] std::vector<uno::Reference<css::drawing::XShape>> selection();
     /// Moves a slide to the front; false if LibreOffice did not.
     [[nodiscard]] bool moveToFront(const model::DeckSlidePtr& slide);
+    /// Pastes the kind of data that LibreOffice gives this number onto a slide. The slide in view
+    /// and the selection stay.
+    void pasteOnto(ImpressSlide& slide, sal_uInt32 format);
     /// Gives the window the foreground. False if it has no window that is shown.
     bool raise();
 
@@ -45,7 +49,8 @@ private:
     [[nodiscard]] const uno::Reference<css::frame::XController>& controller();
     [[nodiscard]] bool showsMasterPage();
     /// Runs a command of the menus (".uno:DiaMode") here.
-    void dispatch(const char* command);
+    void dispatch(const char* command,
+                  const uno::Sequence<css::beans::PropertyValue>& arguments = {});
 
     ImpressDeck& deck_;
     uno::Reference<css::frame::XController> controller_;

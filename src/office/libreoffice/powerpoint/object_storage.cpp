@@ -1,0 +1,70 @@
+#include "office/libreoffice/powerpoint/object_storage.h"
+
+#include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/document/XStorageBasedDocument.hpp>
+#include <com/sun/star/embed/ElementModes.hpp>
+#include <com/sun/star/embed/XTransactedObject.hpp>
+#include <com/sun/star/io/XOutputStream.hpp>
+#include <com/sun/star/io/XStream.hpp>
+#include <com/sun/star/lang/XComponent.hpp>
+
+#include <algorithm>
+
+namespace libreoffice::powerpoint {
+
+namespace {
+
+constexpr sal_Int32 anew = css::embed::ElementModes::WRITE | css::embed::ElementModes::TRUNCATE;
+constexpr const char* namePrefix = "Object ";
+
+/// LibreOffice's own kind of name. It looks into the storage too when it names an object itself.
+rtl::OUString freeName(const uno::Reference<css::embed::XStorage>& storage) {
+    const auto prefix = rtl::OUString::createFromAscii(namePrefix);
+    sal_Int32 highest = 0;
+    const auto names = storage->getElementNames();
+    for (const rtl::OUString& name : names) {
+        if (name.startsWith(prefix))
+            highest = std::max(highest, name.copy(prefix.getLength()).toInt32());
+    }
+    return prefix + rtl::OUString::number(highest + 1);
+}
+
+}  // namespace
+
+NewObject::NewObject(const uno::Reference<css::frame::XModel>& presentation)
+    : all_(as<css::document::XStorageBasedDocument>(presentation)->getDocumentStorage()),
+      name_(freeName(all_)),
+      folder_(all_->openStorageElement(name_, anew)) {}
+
+NewObject::~NewObject() {
+    if (isComplete_) return;
+    try {
+        close();
+        all_->removeElement(name_);
+    } catch (const uno::Exception&) {
+        // The document or the suite has gone, and the folder with it.
+    }
+}
+
+void NewObject::setMediaType(const char* mediaType) {
+    setProperty(folder_, "MediaType", rtl::OUString::createFromAscii(mediaType));
+}
+
+void NewObject::writeXml(const char* file, std::string_view xml) {
+    const auto stream = folder_->openStreamElement(rtl::OUString::createFromAscii(file), anew);
+    setProperty(stream, "MediaType", rtl::OUString("text/xml"));
+    const auto bytes = stream->getOutputStream();
+    bytes->writeBytes({reinterpret_cast<const sal_Int8*>(xml.data()),  // NOLINT: bytes as UNO's
+                       static_cast<sal_Int32>(xml.size())});
+    bytes->closeOutput();
+    as<css::lang::XComponent>(stream)->dispose();
+}
+
+void NewObject::close() {
+    if (!folder_.is()) return;
+    as<css::embed::XTransactedObject>(folder_)->commit();
+    as<css::lang::XComponent>(folder_)->dispose();
+    folder_.clear();
+}
+
+}  // namespace libreoffice::powerpoint

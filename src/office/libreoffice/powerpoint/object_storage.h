@@ -1,0 +1,39 @@
+#pragma once
+
+#include <com/sun/star/embed/XStorage.hpp>
+#include <com/sun/star/frame/XModel.hpp>
+
+#include <string_view>
+
+#include "office/libreoffice/uno_values.h"
+
+namespace libreoffice::powerpoint {
+
+/// A folder in a presentation's own storage that is being filled with a new embedded object. A
+/// shape that is given its name shows the object. Unless it is completed, it is taken out again.
+class NewObject {
+public:
+    explicit NewObject(const uno::Reference<css::frame::XModel>& presentation);
+    NewObject(const NewObject&) = delete;
+    NewObject& operator=(const NewObject&) = delete;
+    ~NewObject();
+
+    /// As the presentation knows it: a shape's "PersistName".
+    [[nodiscard]] const rtl::OUString& name() const { return name_; }
+    [[nodiscard]] const uno::Reference<css::embed::XStorage>& folder() const { return folder_; }
+    /// Says what kind of document the folder holds.
+    void setMediaType(const char* mediaType);
+    void writeXml(const char* file, std::string_view xml);
+    /// Hands the folder over; it can't be written any more.
+    void close();
+    /// The object stays.
+    void complete() { isComplete_ = true; }
+
+private:
+    uno::Reference<css::embed::XStorage> all_;
+    rtl::OUString name_;
+    uno::Reference<css::embed::XStorage> folder_;
+    bool isComplete_ = false;
+};
+
+}  // namespace libreoffice::powerpoint

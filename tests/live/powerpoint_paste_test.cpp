@@ -1,0 +1,197 @@
+#include <com/sun/star/chart2/XChartDocument.hpp>
+#include <com/sun/star/chart2/data/XDataReceiver.hpp>
+#include <com/sun/star/drawing/XDrawPage.hpp>
+#include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
+#include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/table/XTable.hpp>
+#include <com/sun/star/text/XText.hpp>
+
+#include <fstream>
+
+#include "live/live_suite.h"
+#include "office/failure.h"
+#include "office/libreoffice/excel/application.h"
+#include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/package_parts.h"
+#include "office/libreoffice/powerpoint/impress_deck.h"
+
+namespace live {
+
+namespace {
+
+using namespace libreoffice;
+
+/// Cells with a look made by hand.
+class CopiedTable : public office::Copied {
+public:
+    explicit CopiedTable(office::TableLook look)
+        : Copied({office::CopySource::Kind::Cells, "", "", "", ""}),
+          look_(std::move(look)) {}
+    [[nodiscard]] double widthPt() const override { return look_.widthPt(); }
+    [[nodiscard]] double heightPt() const override { return look_.heightPt(); }
+    [[nodiscard]] std::string png() const override { return {}; }
+    [[nodiscard]] office::TableLook table() const override { return look_; }
+
+private:
+    office::TableLook look_;
+};
+
+/// A workbook with sheets that draw on each other, and a presentation.
+class PasteLive : public PowerPointLive {
+protected:
+    PasteLive() {
+        excelApp = excel::applicationObject(desk);
+        book = excelApp.get("Workbooks")
+                   .call("Open", copyOf(MURVANE_TEST_BOOKS, "sheets.xlsx"))
+                   .toObject();
+        deck = openWithSlides();
+    }
+    void TearDown() override {
+        PowerPointLive::TearDown();
+        for (const auto& each : desk->workbooks()) each->close();
+    }
+
+    /// The presentation as it comes back from a file.
+    Object savedAs(const char* name, const char* filter) {
+        const auto model = desk->activePresentation()->model();
+        as<css::frame::XStorable>(model)->storeToURL(
+            fileUrl(file(name)), propertyValues({{"FilterName", uno::Any(toUno(filter))}}));
+        return openFile(file(name));
+    }
+
+    /// A shape of the active presentation's third slide, from the end.
+    [[nodiscard]] uno::Reference<css::drawing::XShape> lastShape(std::int32_t fromEnd = 0) {
+        const uno::Reference<css::drawing::XDrawPage> page(
+            as<css::drawing::XDrawPagesSupplier>(desk->activePresentation()->model())
+                ->getDrawPages()
+                ->getByIndex(2),
+            uno::UNO_QUERY_THROW);
+        return kept(uno::Reference<css::drawing::XShape>(
+            page->getByIndex(page->getCount() - 1 - fromEnd), uno::UNO_QUERY_THROW));
+    }
+
+    /// Holds an object until the presentation is closed: LibreOffice crashes on a presentation that
+    /// is closed just when a table of it is let go.
+    template <class Reference>
+    [[nodiscard]] Reference kept(const Reference& object) {
+        kept_.push_back(object);
+        return object;
+    }
+
+    [[nodiscard]] Value sheet(const char* name) const {
+        return book.get("Sheets").get("Item", name);
+    }
+
+    Object excelApp;
+    Object book;
+    Object deck;
+
+private:
+    std::vector<uno::Reference<uno::XInterface>> kept_;
+};
+
+office::TableLook smallTable() {
+    office::TableLook table{{90, 40, 60, 50}, {20, 30}, std::vector<office::CellLook>(8)};
+    const auto merge = [&](std::size_t at, std::int32_t columns) {
+        table.cells[at].columns = columns;
+        while (--columns > 0) table.cells[++at].isCovered = true;
+    };
+    table.cells[0].text = "  Year & <half>\nof it";
+    table.cells[0].fontSizePt = 10;
+    table.cells[0].fill = 0x336699;
+    table.cells[1].text = "over three";
+    merge(1, 3);
+    table.cells[4].text = "12.5%";
+    table.cells[4].rotation = 90;
+    table.cells[5].text = "two";
+    merge(5, 2);
+    table.cells[7].text = "last";
+    return table;
+}
+
+TEST_F(PasteLive, MakesTablesThatComeBackFromFiles) {
+    const office::TableLook look = smallTable();
+    const auto place = desk->activePresentation()->slideAt(3);
+    static_cast<void>(place->paste(CopiedTable(look), office::PasteAs::Default));
+    const auto wide = [&] {
+        office::TableLook larger = look;
+        for (double& width : larger.columnWidthsPt) width *= 10;
+        return larger;
+    }();
+    const auto scaled = place->paste(CopiedTable(wide), office::PasteAs::Default);
+    EXPECT_NEAR(scaled->size().width, 960 * 0.94, 1);
+    for (const auto& [name, filter] :
+         {std::pair("saved.pptx", "Impress MS PowerPoint 2007 XML"), {"saved.odp", "impress8"}}) {
+        SCOPED_TRACE(name);
+        const Object again = savedAs(name, filter);
+        const auto table =
+            kept(property<uno::Reference<css::table::XTable>>(lastShape(1), "Model"));
+        ASSERT_TRUE(table.is());
+        const auto cell = [&](sal_Int32 column, sal_Int32 row) {
+            return kept(table->getCellByPosition(column, row));
+        };
+        const auto text = [&](sal_Int32 column, sal_Int32 row) {
+            return fromUno(as<css::text::XTextRange>(cell(column, row))->getString());
+        };
+        ASSERT_EQ(table->getColumnCount(), 3)
+            << "one that is merged throughout is one with its left";
+        EXPECT_EQ(text(0, 0), "  Year & <half>\nof it");
+        EXPECT_EQ(text(1, 0), "over three");
+        EXPECT_EQ(text(1, 1), "two");
+        EXPECT_EQ(text(2, 1), "last");
+        EXPECT_EQ(property<sal_Int32>(cell(0, 0), "FillColor"), 0x996633);
+        EXPECT_EQ(property<float>(kept(as<css::text::XText>(cell(0, 0))->createTextCursor()),
+                                  "CharHeight"),
+                  10);
+        EXPECT_EQ(property<sal_Int32>(cell(0, 1), "RotateAngle"), 9000);
+        EXPECT_NEAR(lastShape(1)->getSize().Width, 8467, 2) << "240 points";
+        again.call("Close");
+    }
+}
+
+TEST_F(PasteLive, MakesChartsAndWorkbooksThatHoldTheirData) {
+    const Value shapes = slide(deck, 3).get("Shapes");
+    for (const std::int32_t form : {0, 10}) {
+        sheet("Trend").get("ChartArea").call("Copy");
+        shapes.call("PasteSpecial", form);
+    }
+    for (const auto& [name, filter] :
+         {std::pair("saved.pptx", "Impress MS PowerPoint 2007 XML"), {"saved.odp", "impress8"}}) {
+        SCOPED_TRACE(name);
+        const Object again = savedAs(name, filter);
+        const auto native =
+            property<uno::Reference<css::chart2::XChartDocument>>(lastShape(1), "Model");
+        ASSERT_TRUE(native.is());
+        EXPECT_TRUE(native->hasInternalDataProvider());
+        const auto values = as<css::chart2::data::XDataReceiver>(native)->getUsedData();
+        const auto series = values->getDataSequences()[1]->getValues()->getData();
+        EXPECT_EQ(series[7], uno::Any(84.0));
+        again.call("Close");
+    }
+    const auto package = excel::PackageParts::open(*connection(), fileUrl(file("saved.pptx")));
+    std::ofstream(file("embedded.xlsx"), std::ios::binary)
+        << package->read("ppt/embeddings/oleObject1.xlsx");
+    const Value opened = excelApp.get("Workbooks").call("Open", file("embedded.xlsx"));
+    EXPECT_EQ(namesIn(opened.get("Sheets")), (std::vector<std::string>{"Trend", "Data"}));
+    const Value sheets = opened.get("Sheets");
+    EXPECT_EQ(sheets.get("Item", "Data").get("Visible").toLong(), 0);
+    const Value charts = sheets.get("Item", "Trend").get("ChartObjects");
+    EXPECT_EQ(charts.get("Count").toLong(), 1);
+}
+
+TEST_F(PasteLive, BindsALinkToTheFileAndNeedsOne) {
+    const Value shapes = slide(deck, 3).get("Shapes");
+    sheet("Data").get("Range", "A1:B3").call("Copy");
+    shapes.call("PasteSpecial", arg("Link", true));
+    EXPECT_EQ(property<rtl::OUString>(lastShape(), "LinkURL"), fileUrl(file("sheets.xlsx")));
+    expectSaved(deck, 3, {"<p:link"});
+    desk->workbook(desk->load("private:factory/scalc", true))->markActive();
+    excelApp.get("ActiveSheet").get("Range", "A1:B3").call("Copy");
+    const std::int32_t before = shapes.get("Count").toLong();
+    EXPECT_EQ(failureOf([&] { shapes.call("PasteSpecial", arg("Link", true)); }), 1004);
+    EXPECT_EQ(shapes.get("Count").toLong(), before);
+}
+
+}  // namespace
+
+}  // namespace live
