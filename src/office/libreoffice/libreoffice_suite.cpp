@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -132,6 +133,27 @@ office::ClipboardPicture LibreOfficeSuite::clipboardPicture(office::ClipboardPic
         picture.bytes.assign(metafile.begin(), metafile.end());
     }
     return picture;
+}
+
+std::vector<std::string> LibreOfficeSuite::remarksOn(office::PasteAs as,
+                                                     const std::vector<office::PasteItem>& items) {
+    std::vector<std::string> remarks;
+    if (!desk_) return remarks;
+    const bool isUnsaved = std::any_of(items.begin(), items.end(),
+                                       [](const auto& item) { return item.source.file.empty(); });
+    if (as == office::PasteAs::Linked && isUnsaved)
+        remarks.emplace_back("The workbook has to be saved before anything can be linked to it.");
+    if (as != office::PasteAs::Embedded || items.size() < 2) return remarks;
+    translated("Suite.remarksOn", [&] {
+        // All workbooks in one .pptx become one part of it. A private suite writes nothing else.
+        const auto deck = desk_->activePresentation();
+        if (!desk_->opensHidden() && deck && office::lowerCase(deck->fullName()).ends_with(".odp"))
+            return;
+        remarks.emplace_back(
+            "LibreOffice damages a .pptx that holds several embedded workbooks: save the "
+            "presentation as .odp, or use murvane-export.");
+    });
+    return remarks;
 }
 
 office::WindowHandle LibreOfficeSuite::findWindow(std::string_view className,

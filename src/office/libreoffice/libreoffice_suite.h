@@ -55,6 +55,8 @@ public:
     void clearClipboard() override;
     office::ClipboardPicture clipboardPicture(office::ClipboardPicture::Kind kind) override;
     office::ClipboardPtr clipboard() override { return clipboard_; }
+    std::vector<std::string> remarksOn(office::PasteAs as,
+                                       const std::vector<office::PasteItem>& items) override;
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;
     bool raiseWindow(office::WindowHandle window, int showCommand) override;
     bool lockDrawing(office::WindowHandle window) override;
