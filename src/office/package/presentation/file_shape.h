@@ -86,8 +86,7 @@ private:
     /// Of the picture's or the shape's own: what it is called, what may be done with it.
     [[nodiscard]] pugi::xml_node properties(std::string_view name) const;
     [[nodiscard]] pugi::xml_node locks(bool made);
-    /// What holds its effects: a table has some, though it has no other looks, and of a chart the
-    /// ground has a shadow.
+    /// What holds its effects: of a chart, whose ground has a shadow, another part does.
     [[nodiscard]] pugi::xml_node effectsHolder();
     [[nodiscard]] pugi::xml_node effect(std::string_view name);
     pugi::xml_node madeEffect(std::string_view member, std::string_view name);

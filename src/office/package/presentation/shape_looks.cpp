@@ -10,7 +10,6 @@
 #include "office/package/presentation/file_deck.h"
 #include "office/package/presentation/file_shape.h"
 #include "office/package/presentation/file_slide.h"
-#include "office/package/presentation/table_markup.h"
 #include "office/text.h"
 
 namespace office::package {
@@ -55,10 +54,10 @@ std::int32_t swapped(std::int32_t colour) {
 
 }  // namespace
 
-const std::vector<std::string_view> looksOrder = {
-    "xfrm",     "custGeom", "prstGeom",   "noFill",       "solidFill", "gradFill",
-    "blipFill", "pattFill", "grpFill",    "ln",           "effectLst", "effectDag",
-    "scene3d",  "sp3d",     "tableStyle", "tableStyleId", "extLst"};
+const std::vector<std::string_view> looksOrder = {"xfrm",      "custGeom", "prstGeom",  "noFill",
+                                                  "solidFill", "gradFill", "blipFill",  "pattFill",
+                                                  "grpFill",   "ln",       "effectLst", "effectDag",
+                                                  "scene3d",   "sp3d",     "extLst"};
 
 std::int32_t colourIn(pugi::xml_node holder) {
     const auto colour = childNamed(holder, ns::drawing, "srgbClr");
@@ -128,8 +127,7 @@ bool FileShape::setAdjustment(std::int32_t place, double value) {
 }
 
 pugi::xml_node FileShape::effectsHolder() {
-    const auto ofTable = childNamed(tableIn(node_), ns::drawing, "tblPr");
-    if (const auto own = ofTable ? ofTable : drawnProperties()) return own;
+    if (const auto own = drawnProperties()) return own;
     const auto graphic =
         childNamed(childNamed(node_, ns::drawing, "graphic"), ns::drawing, "graphicData");
     const auto id =
