@@ -28,7 +28,7 @@ using office::CellLine;
 using office::CellLook;
 using office::TableLook;
 
-/// More are no table that anybody reads on a slide, and no presentation opens with them in time.
+/// More are no table that anybody reads on a slide.
 constexpr std::size_t mostCells = 5000;
 
 [[noreturn]] void refuseTable(const char* why) {
