@@ -15,6 +15,7 @@
 #include "office/libreoffice/excel/copied.h"
 #include "office/libreoffice/excel/range_picture.h"
 #include "office/libreoffice/units.h"
+#include "office/model/excel/objects.h"
 
 namespace libreoffice::excel {
 
@@ -104,6 +105,11 @@ std::vector<std::pair<std::int32_t, std::int32_t>> CellRange::filledRows() {
 }
 
 office::CopiedPtr CellRange::copy(office::CopySource source) {
+    // LibreOffice gives hidden rows and columns the size of one of its units.
+    constexpr double thinnestPt = 0.1;
+    const model::Box box = place();
+    if (box.width < thinnestPt || box.height < thinnestPt)
+        model::refuse("Range.Copy", "There is nothing to copy: these rows or columns are hidden");
     if (source.kind == office::CopySource::Kind::Cells)
         return std::make_shared<CopiedCells>(sheet_, std::move(source), range(), block_);
     CellsPicture picture = takePictureOfCells(*sheet_, range(), block_);

@@ -15,9 +15,10 @@ namespace libreoffice::powerpoint {
 namespace {
 
 constexpr sal_Int32 anew = css::embed::ElementModes::WRITE | css::embed::ElementModes::TRUNCATE;
-constexpr const char* namePrefix = "Object ";
+constexpr const char* namePrefix = "Pasted ";
 
-/// LibreOffice's own kind of name. It looks into the storage too when it names an object itself.
+/// Of another kind than LibreOffice's own names ("Object 1"): links have such a name and nothing in
+/// the storage that would tell, and a shape of the same name would show what is linked.
 rtl::OUString freeName(const uno::Reference<css::embed::XStorage>& storage) {
     const auto prefix = rtl::OUString::createFromAscii(namePrefix);
     sal_Int32 highest = 0;

@@ -1,0 +1,106 @@
+"""What arrives on the slides in the formats that are more than pictures: by the list, and by one command."""
+
+from at_the_screen import DIALOG, FORM, LIST, AtTheScreen, unittest
+
+SLIDES_OF_DECK = 3
+NOTICE = "MurvaneNotice"
+CHART, WORKBOOK = "12DCAE26-281F-416F-A234-C3086127382E", "47BBB4CB-CE4C-4E80-A591-42D9AE74950F"
+
+# The shapes of the last slide that are no placeholders, by what they are.
+KINDS = """
+def kind(shape):
+    if shape.ShapeType != "com.sun.star.drawing.OLE2Shape":
+        return shape.ShapeType.rsplit(".")[-1]
+    if shape.LinkURL:
+        return "link to " + shape.LinkURL.rsplit("/")[-1]
+    return {"%s": "chart", "%s": "workbook"}.get(shape.CLSID.upper(), shape.CLSID)
+
+pages = document("Presentation").DrawPages
+for page in [pages.getByIndex(number) for number in range(pages.Count)][int(sys.argv[2]):]:
+    shapes = [page.getByIndex(i) for i in range(page.Count)]
+    print("+".join(kind(shape) for shape in shapes if ".presentation." not in shape.ShapeType))
+""" % (CHART, WORKBOOK)
+
+# A fresh slide on show, and something selected on a sheet by a line of the suite's own language.
+SELECT = """
+book, deck = document("Workbook"), document("Presentation")
+deck.DrawPages.insertNewByIndex(deck.DrawPages.Count)
+deck.CurrentController.setCurrentPage(deck.DrawPages.getByIndex(deck.DrawPages.Count - 1))
+sheet = book.Sheets.getByName(sys.argv[2])
+book.CurrentController.setActiveSheet(sheet)
+exec(sys.argv[3])
+"""
+CELLS = 'book.CurrentController.select(sheet.getCellRangeByName("%s"))'
+A_CHART = "book.CurrentController.select(sheet.DrawPage.getByIndex(0))"
+LINK = "link to Harbour%20Logistics%202026.xlsx"
+
+# The sheet, what is selected there, and what the commands for editable, embedded and linked make of it.
+SELECTIONS = [
+    ("Revenue", CELLS % "A1:F8", "TableShape", "workbook", LINK),
+    ("Revenue", CELLS % "B5", "TableShape", "workbook", LINK),
+    ("Fleet", A_CHART, "chart", "workbook", LINK),
+    ("Segment mix", "", "chart", "workbook", LINK),
+]
+
+
+class TheFormats(AtTheScreen):
+    def shapes_behind(self, slides):
+        return self.in_the_suite(KINDS, slides).split("\n")[:-1]
+
+    def test_of_the_list_are_what_they_say(self):
+        self.open_sample()
+        slides = SLIDES_OF_DECK
+        for number, arrives in ((1, {"chart", "TableShape"}), (2, {"workbook"}), (3, {LINK})):
+            with self.subTest(format=number):
+                hand = self.open_main_form()
+                rows = hand.rows()
+                wanted = [next(i for i, row in enumerate(rows) if row["icon"] == "icon:" + kind)
+                          for kind in ("chart-sheet", "chart", "range")]
+                for i, row in enumerate(rows):
+                    if row["checked"] != (i in wanted):
+                        hand.do("check-row", FORM, LIST, row=i)
+                hand.do("click", FORM, f"OptionFormat({number})")
+                hand.do("click", FORM, "PasteIT")
+                if number == 2:  # several workbooks in a .pptx
+                    hand.wait_for(NOTICE)
+                    hand.do("key", NOTICE, key="Return")
+                hand.wait_for(DIALOG)
+                hand.do("click", DIALOG, "ContinueOk")
+                self.assertEqual(hand.ended(120), 0, hand.said())
+                arrived = self.shapes_behind(slides)
+                self.assertEqual(len(arrived), 3)
+                self.assertEqual(set(arrived), arrives)
+                slides += 3
+
+    def test_of_the_selection_are_what_the_command_says(self):
+        self.open_sample()
+        self.assertEqual(self.screen.use("/11").ended(), 0)
+        for sheet, selection, *arrives in SELECTIONS:
+            for code, kind in zip(("/312", "/3122", "/412"), arrives):
+                with self.subTest(sheet=sheet, selection=selection, code=code):
+                    self.in_the_suite(SELECT, sheet, selection)
+                    hand = self.screen.use(code)
+                    self.assertEqual(hand.ended(60), 0, hand.said())
+                    self.assertEqual(self.shapes_behind(-1), [kind])
+
+    def test_of_cells_under_a_chart_or_in_a_hidden_row_are_refused_in_words(self):
+        self.open_sample()
+        self.assertEqual(self.screen.use("/11").ended(), 0)
+        self.in_the_suite(SELECT, "Fleet", "at = sheet.DrawPage.getByIndex(0).Anchor\n"
+                                           "book.CurrentController.select(at)")
+        hand = self.screen.use("/3122")
+        hand.wait_for(NOTICE)
+        hand.wait_for_page(NOTICE, "wbNotice", "#noticeRoot")
+        text = hand.do("ask", NOTICE, "wbNotice", script="document.body.innerText")
+        self.assertIn("The specified range contains embedded charts.", text)
+        hand.do("key", NOTICE, key="Return")
+        self.assertEqual(hand.ended(), 0)
+        self.in_the_suite(SELECT, "Revenue", "sheet.Rows.getByIndex(5).IsVisible = False\n" + CELLS % "A6:F6")
+        hand = self.screen.use("/412")
+        self.assertEqual(hand.ended(60), 1)
+        (box,) = hand.end["boxes"]
+        self.assertIn("nothing", box)
+
+
+if __name__ == "__main__":
+    unittest.main()
