@@ -217,6 +217,18 @@ void Package::remove(std::string_view part) {
     content_->remove(part);
 }
 
+void Package::removeWithTargets(std::string_view part) {
+    std::vector<std::string> all = {std::string(part)};
+    const Relationships& relationships = relationshipsOf(part);
+    for (const Relationship& one : relationships.all()) {
+        if (!one.isExternal) all.push_back(relationships.partOf(one));
+    }
+    // A part may lead to itself.
+    for (const std::string& one : all) {
+        if (has(one)) remove(one);
+    }
+}
+
 void Package::setContentType(std::string_view part, std::string_view contentType) {
     content_->contentTypes().set(part, contentType);
 }

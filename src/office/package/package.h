@@ -89,6 +89,8 @@ public:
              Storage storage = Storage::Deflated);
     /// Takes the part out with its relationships. Those that lead to it are the caller's.
     void remove(std::string_view part);
+    /// Takes the part out with those that it leads to, as far as they are there. `PackageError`.
+    void removeWithTargets(std::string_view part);
     void setContentType(std::string_view part, std::string_view contentType);
     /// A part of these bytes, which is `stem` + number + `ending` if none has been added yet.
     std::string addMedia(std::string_view stem, std::string_view ending,

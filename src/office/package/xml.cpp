@@ -141,6 +141,10 @@ std::string Xml::bytes() const {
     return std::move(writer.bytes);
 }
 
+std::string_view localName(pugi::xml_node node) {
+    return split(node.name()).second;
+}
+
 bool isNamed(pugi::xml_node node, std::string_view space, std::string_view name) {
     const auto [prefix, own] = split(node.name());
     return own == name && namespaceOf(node, prefix) == space;

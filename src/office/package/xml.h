@@ -44,6 +44,8 @@ private:
     pugi::xml_document document_;
 };
 
+/// The name of an element without its prefix.
+[[nodiscard]] std::string_view localName(pugi::xml_node node);
 /// Whether an element has this name, whatever prefix its document gives to the namespace.
 [[nodiscard]] bool isNamed(pugi::xml_node node, std::string_view space, std::string_view name);
 /// The first child that is an element; null if there is none.

@@ -86,7 +86,17 @@ TEST_F(ObjectOnASlide, ShowsTheSheetAndTheCellsOfWhatWasCopied) {
     const std::string book = writeBook("Book.xlsx");
     const std::string macros = writeBook(
         "Book.xlsm",
-        {{"[Content_Types].xml", small_workbook::contentTypes("ms-excel.sheet.macroEnabled")}});
+        {{"[Content_Types].xml", small_workbook::contentTypes("ms-excel.sheet.macroEnabled")},
+         // What says that it is a signature leads to itself.
+         {"_rels/.rels",
+          zip_bytes::relationships(
+              "<Relationship Id=\"rId1\" Type=\"http://schemas.openxmlformats.org/officeDocument/"
+              "2006/relationships/officeDocument\" Target=\"xl/workbook.xml\"/><Relationship "
+              "Id=\"rId2\" Type=\"http://schemas.openxmlformats.org/package/2006/relationships/"
+              "digital-signature/origin\" Target=\"sign\"/>")},
+         {"sign", ""},
+         {"_rels/sign.rels",
+          small_workbook::relationshipsTo({{"signature", "sign"}, {"signature", "sign"}})}});
     struct {
         CopySource source;
         std::string tab, cells, selected, ending;
@@ -111,7 +121,7 @@ TEST_F(ObjectOnASlide, ShowsTheSheetAndTheCellsOfWhatWasCopied) {
         const std::string main = copy.read("/xl/workbook.xml");
         EXPECT_EQ(part(main, "activeTab=\"", "\""), rows[i].tab);
         EXPECT_EQ(part(main, "<calcPr/><oleSize ref=\"", "\""), rows[i].cells);
-        EXPECT_EQ(main.find("state="), rows[i].tab == "1" ? std::string::npos : main.find("state="))
+        EXPECT_EQ(main.find("state=") == std::string::npos, rows[i].tab == "1")
             << "what is active can't be hidden";
         for (const std::string sheet : {"1", "2", "3"}) {
             const std::string xml = copy.read("/xl/sheet" + sheet + ".xml");

@@ -44,17 +44,28 @@ TEST(AFormula, LeavesItsSheetForOtherSheetsNamesTablesAndTexts) {
 const std::string secret = "Zebra";
 
 std::string chart() {
-    const auto series = [](const std::string& sheet) {
+    // Some in the same element as others, which goes with the first of them.
+    const std::string laterMarks =
+        "<c:extLst><c:ext><c15:fullRef><c15:sqref>Zebra!$B:$B</c15:sqref></c15:fullRef></c:ext>"
+        "</c:extLst>";
+    const std::string hidden =
+        "<c:f>Zebra!A1</c:f><c:extLst><c:ext><c15:filteredBarSeries><c15:ser><c:tx><c:strRef>"
+        "<c:extLst><c:ext><c15:formulaRef><c15:sqref>Zebra!$C$1</c15:sqref></c15:formulaRef>"
+        "</c:ext></c:extLst><c:strCache><c:pt idx=\"0\"><c:v>Zebra three</c:v></c:pt></c:strCache>"
+        "</c:strRef></c:tx></c15:ser></c15:filteredBarSeries></c:ext></c:extLst>";
+    const auto series = [&](const std::string& sheet) {
         return "<c:ser><c:tx><c:strRef><c:f>" + sheet +
                "!$A$1</c:f><c:strCache><c:pt idx=\"0\"><c:v>Shown</c:v></c:pt></c:strCache>"
                "</c:strRef></c:tx><c:val><c:numRef><c:f>" +
                sheet +
                "!$B$1</c:f><c:numCache><c:ptCount val=\"1\"/><c:pt idx=\"0\"><c:v>7</c:v></c:pt>"
-               "</c:numCache></c:numRef></c:val></c:ser>";
+               "</c:numCache>" +
+               laterMarks + "</c:numRef></c:val></c:ser>";
     };
-    return "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\">"
+    return "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\" "
+           "xmlns:c15=\"http://schemas.microsoft.com/office/drawing/2012/chart\">"
            "<c:pivotSource><c:name>Zebra</c:name></c:pivotSource>" +
-           series("Data") + series("Zebra") + "</c:chartSpace>";
+           series("Data") + series("Zebra") + hidden + "</c:chartSpace>";
 }
 
 TEST(ASheetAlone, HandsOnNothingOfTheOthers) {
@@ -74,47 +85,48 @@ TEST(ASheetAlone, HandsOnNothingOfTheOthers) {
         "<dataValidations count=\"2\"><dataValidation sqref=\"A1\"><formula1>Zebra!A1:A3</formula1>"
         "</dataValidation><dataValidation sqref=\"B1\"><formula1>C1:C3</formula1></dataValidation>"
         "</dataValidations><hyperlinks><hyperlink ref=\"A1\" "
-        "location=\"'Zebra'!A1\"/></hyperlinks>";
-    const std::string text = folder.write(
-        "Book.xlsx",
-        small_workbook::bytes({
-            {"xl/workbook.xml",
-             sheet(
-                 "<fileSharing userName=\"Zebra\"/><workbookPr/><sheets>"
-                 "<sheet name=\"Zebra\" sheetId=\"2\" r:id=\"rId2\"/>"
-                 "<sheet name=\"Data\" sheetId=\"1\" r:id=\"rId1\"/></sheets><definedNames>"
-                 "<definedName name=\"Own\">Data!$A$1</definedName>"
-                 "<definedName name=\"Half\">Data!$A$1+ZebraTotal</definedName>"
-                 "<definedName name=\"Local\" localSheetId=\"1\">Data!$B$1</definedName>"
-                 "<definedName name=\"Local\" localSheetId=\"0\">Zebra!$B$1</definedName>"
-                 "<definedName name=\"ZebraTotal\">\"Zebra\"</definedName></definedNames><calcPr/>",
-                 "workbook")},
-            {"xl/_rels/workbook.xml.rels", relationshipsTo({{"worksheet", "sheet1.xml"},
-                                                            {"worksheet", "sheet2.xml"},
-                                                            {"sharedStrings", "strings.xml"},
-                                                            {"styles", "styles.xml"},
-                                                            {"connections", "connections.xml"},
-                                                            {"calcChain", "calcChain.xml"}})},
-            {"xl/strings.xml",
-             sheet("<si><t>Zebra one</t></si><si><t>mine</t></si><si><t>too</t></si>", "sst")},
-            {"xl/styles.xml",
-             sheet("<numFmts count=\"2\"><numFmt numFmtId=\"170\" formatCode=\"0 "
-                   "&quot;Zebra&quot;\"/>"
-                   "<numFmt numFmtId=\"171\" formatCode=\"0 &quot;t&quot;\"/></numFmts><cellXfs>"
-                   "<xf numFmtId=\"0\"/><xf numFmtId=\"171\"/><xf numFmtId=\"170\"/></cellXfs>",
-                   "styleSheet")},
-            {"xl/connections.xml", sheet("Zebra", "connections")},
-            {"xl/calcChain.xml", sheet("", "calcChain")},
-            {"docProps/core.xml", "<Zebra/>"},
-            {"xl/sheet1.xml",
-             sheet("<sheetData>" + cells + "</sheetData>" + rules +
-                   "<drawing r:id=\"rId1\"/><oleObjects><oleObject r:id=\"rId9\"/></oleObjects>")},
-            {"xl/sheet2.xml",
-             sheet("<sheetData><row r=\"1\"><c r=\"A1\" t=\"inlineStr\"><is><t>Zebra"
-                   "</t></is></c></row></sheetData>")},
-            {"xl/_rels/drawing1.xml.rels", relationshipsTo({{"chart", "chart1.xml"}})},
-            {"xl/chart1.xml", chart()},
-        }));
+        "location=\"'Zebra'!A1\"/></hyperlinks>"
+        "<extLst><ext "
+        "uri=\"{05C60535-1F16-4fd2-B633-F4F36F0B64E0}\"><sparklineGroups><sparklineGroup>"
+        "<sparklines><sparkline><f>Zebra!A1</f></sparkline></sparklines><f>Zebra!A2</f>"
+        "</sparklineGroup></sparklineGroups></ext></extLst>";
+    std::vector<zip_bytes::Item> parts = {
+        {"xl/workbook.xml",
+         sheet("<fileSharing userName=\"Zebra\"/><workbookPr/><sheets>"
+               "<sheet name=\"Zebra\" sheetId=\"2\" r:id=\"rId2\"/>"
+               "<sheet name=\"Data\" sheetId=\"1\" r:id=\"rId1\"/></sheets><definedNames>"
+               "<definedName name=\"Own\">Data!$A$1</definedName>"
+               "<definedName name=\"Half\">Data!$A$1+ZebraTotal</definedName>"
+               "<definedName name=\"Local\" localSheetId=\"1\">Data!$B$1</definedName>"
+               "<definedName name=\"Local\" localSheetId=\"0\">Zebra!$B$1</definedName>"
+               "<definedName name=\"ZebraTotal\">\"Zebra\"</definedName></definedNames><calcPr/>",
+               "workbook")},
+        {"xl/_rels/workbook.xml.rels", relationshipsTo({{"worksheet", "sheet1.xml"},
+                                                        {"worksheet", "sheet2.xml"},
+                                                        {"sharedStrings", "strings.xml"},
+                                                        {"styles", "styles.xml"},
+                                                        {"connections", "connections.xml"},
+                                                        {"calcChain", "calcChain.xml"}})},
+        {"xl/strings.xml",
+         sheet("<si><t>Zebra one</t></si><si><t>mine</t></si><si><t>too</t></si>", "sst")},
+        {"xl/styles.xml",
+         sheet("<numFmts count=\"2\"><numFmt numFmtId=\"170\" formatCode=\"0 "
+               "&quot;Zebra&quot;\"/>"
+               "<numFmt numFmtId=\"171\" formatCode=\"0 &quot;t&quot;\"/></numFmts><cellXfs>"
+               "<xf numFmtId=\"0\"/><xf numFmtId=\"171\"/><xf numFmtId=\"170\"/></cellXfs>",
+               "styleSheet")},
+        {"xl/connections.xml", sheet("Zebra", "connections")},
+        {"xl/calcChain.xml", sheet("", "calcChain")},
+        {"docProps/core.xml", "<Zebra/>"},
+        {"xl/sheet1.xml",
+         sheet("<sheetData>" + cells + "</sheetData>" + rules +
+               "<drawing r:id=\"rId1\"/><oleObjects><oleObject r:id=\"rId9\"/></oleObjects>")},
+        {"xl/sheet2.xml", sheet("<sheetData><row r=\"1\"><c r=\"A1\" t=\"inlineStr\"><is><t>Zebra"
+                                "</t></is></c></row></sheetData>")},
+        {"xl/_rels/drawing1.xml.rels", relationshipsTo({{"chart", "chart1.xml"}})},
+        {"xl/chart1.xml", chart()},
+    };
+    const std::string text = folder.write("Book.xlsx", small_workbook::bytes(parts));
     WorkbookFile workbook{std::filesystem::path(text)};
     const EmbeddedWorkbook made =
         embeddedWorkbook(workbook, {CopySource::Kind::Cells, text, "Data", "", "$A$1:$D$3"}, true);
@@ -136,7 +148,7 @@ TEST(ASheetAlone, HandsOnNothingOfTheOthers) {
           "<c r=\"D1\"><v>6</v>", "<c r=\"A2\" t=\"s\"><v>1</v>", "<c r=\"B2\"><v>8</v>",
           "<c r=\"B3\"><v>9</v>", "<formula>B1&gt;1</formula>", "<dataValidations count=\"1\">"})
         EXPECT_NE(left.find(kept), std::string::npos) << kept << " in " << left;
-    for (const char* gone : {"sqref=\"A1\"", "hyperlinks", "oleObject"})
+    for (const char* gone : {"sqref=\"A1\"", "hyperlinks", "oleObject", "sparkline"})
         EXPECT_EQ(left.find(gone), std::string::npos) << gone;
     EXPECT_NE(copy.read("/xl/strings.xml").find("<si><t>mine</t></si><si><t>too</t></si>"),
               std::string::npos);

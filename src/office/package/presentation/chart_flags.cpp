@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "office/package/xml.h"
+
 namespace office::package {
 
 namespace {
@@ -135,12 +137,6 @@ constexpr auto flags = std::to_array<Flag>({
 /// What a label shows.
 constexpr std::array<const char*, 6> labelFlags = {
     "showLegendKey", "showVal", "showCatName", "showSerName", "showPercent", "showBubbleSize"};
-
-std::string_view localName(pugi::xml_node node) {
-    const std::string_view name = node.name();
-    const auto colon = name.find(':');
-    return colon == std::string_view::npos ? name : name.substr(colon + 1);
-}
 
 std::string_view orderIn(pugi::xml_node parent) {
     const auto* const found =

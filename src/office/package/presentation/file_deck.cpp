@@ -299,11 +299,7 @@ void FileDeck::writeKind(bool keepsMacros) {
         const std::string part = relationships.partOf(*macros);
         relationships.remove(macros->id);
         // Their signatures hang on them.
-        const Relationships& own = package_.relationshipsOf(part);
-        for (const Relationship& one : own.all()) {
-            if (!one.isExternal && package_.has(own.partOf(one))) package_.remove(own.partOf(one));
-        }
-        package_.remove(part);
+        package_.removeWithTargets(part);
     }
 }
 

@@ -2,7 +2,9 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -95,18 +97,48 @@ bool isFormula(pugi::xml_node node) {
     return localName(node) == "f" || localName(node) == "sqref";
 }
 
+bool isReference(pugi::xml_node node) {
+    const std::string_view name = localName(node);
+    return (name == "numRef" || name == "strRef" || name == "multiLvlStrRef") &&
+           isNamed(node, ns::chart, name);
+}
+
+/// Whether it holds series, or titles of those, that a filter of the chart hides.
+bool hidesSeries(pugi::xml_node extension) {
+    return localName(extension) == "ext" &&
+           localName(firstElement(extension)).starts_with("filtered");
+}
+
+/// They are remembered with all their values, which nobody has seen.
+void dropHiddenSeries(const Xml& chart, const FormulaReach& reach) {
+    const auto hidden = elementsBelow(chart.root(), hidesSeries);
+    std::for_each(hidden.rbegin(), hidden.rend(), [&](pugi::xml_node extension) {
+        const auto formulas = elementsBelow(extension, isFormula);
+        if (std::any_of(formulas.begin(), formulas.end(), [&](const pugi::xml_node& formula) {
+                return reach.leavesSheet(formula.text().get());
+            }))
+            extension.parent().remove_child(extension);
+    });
+}
+
 }  // namespace
 
 void keepChartValues(const Xml& chart, const FormulaReach& reach) {
+    dropHiddenSeries(chart, reach);
+    std::set<pugi::xml_node> leaving;
     for (pugi::xml_node formula : elementsBelow(chart.root(), isFormula)) {
         if (!reach.leavesSheet(formula.text().get())) continue;
-        const pugi::xml_node reference = formula.parent();
         // What was added later has no literals: it is left as if its cells had been deleted.
-        if (isNamed(reference, ns::chart, localName(reference)))
-            putValues(reference);
+        if (isReference(formula.parent()))
+            leaving.insert(formula.parent());
         else
             formula.text().set("#REF!");
     }
+    // From the innermost, since what stands in another element goes with that.
+    const auto references = elementsBelow(chart.root(), isReference);
+    std::for_each(references.rbegin(), references.rend(), [&](pugi::xml_node reference) {
+        if (leaving.contains(reference)) putValues(reference);
+    });
     for (const char* gone : {"pivotSource", "externalData"}) {
         if (const auto found = chartChild(chart.root(), gone)) chart.root().remove_child(found);
     }

@@ -113,13 +113,7 @@ void dropSignatures(Package& workbook) {
     if (found == nullptr || found->isExternal) return;
     const std::string origin = relationships.partOf(*found);
     relationships.remove(found->id);
-    if (!workbook.has(origin)) return;
-    const Relationships& signatures = workbook.relationshipsOf(origin);
-    for (const Relationship& one : signatures.all()) {
-        if (!one.isExternal && workbook.has(signatures.partOf(one)))
-            workbook.remove(signatures.partOf(one));
-    }
-    workbook.remove(origin);
+    workbook.removeWithTargets(origin);
 }
 
 /// A copy in which one sheet is selected, or left alone.

@@ -81,7 +81,7 @@ public:
         });
         keepMaker();
         dropRelationships(main_, [&](const Relationship& one) { return isOfWorkbook(one); });
-        visit(main_, "workbook");
+        keepFrom(main_);
         for (const std::string& part : workbook_.parts()) {
             if (extensionOf(part) != "rels" && !kept_.contains(partKey(part)))
                 workbook_.remove(part);
@@ -197,16 +197,20 @@ private:
     }
 
     /// Keeps a part and all that it leads to, reduced to what the sheet needs.
-    void visit(const std::string& part, std::string_view kind) {
-        if (!kept_.insert(partKey(part)).second) return;
-        if (kind != "workbook") {
-            const auto gone =
-                dropRelationships(part, [&](const Relationship& one) { return isKept(part, one); });
-            reduce(part, kind, gone);
-        }
-        const Relationships& relationships = workbook_.relationshipsOf(part);
-        for (const Relationship& one : relationships.all()) {
-            if (!one.isExternal) visit(relationships.partOf(one), kindOf(one));
+    void keepFrom(const std::string& first) {
+        std::vector<std::pair<std::string, std::string>> ahead = {{first, "workbook"}};
+        while (!ahead.empty()) {
+            const auto [part, kind] = std::move(ahead.back());
+            ahead.pop_back();
+            if (!kept_.insert(partKey(part)).second) continue;
+            if (kind != "workbook")
+                reduce(part, kind, dropRelationships(part, [&, &source = part](const auto& one) {
+                           return isKept(source, one);
+                       }));
+            const Relationships& relationships = workbook_.relationshipsOf(part);
+            for (const Relationship& one : relationships.all()) {
+                if (!one.isExternal) ahead.emplace_back(relationships.partOf(one), kindOf(one));
+            }
         }
     }
 

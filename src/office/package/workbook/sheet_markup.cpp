@@ -83,26 +83,31 @@ bool isBare(pugi::xml_node holder) {
 void dropRule(pugi::xml_node rule) {
     pugi::xml_node holder = rule.parent();
     holder.remove_child(rule);
-    while (ruleHolders.contains(localName(holder)) && isBare(holder)) {
-        const pugi::xml_node empty = holder;
-        holder = holder.parent();
-        holder.remove_child(empty);
-    }
     if (auto count = holder.attribute("count"); count && localName(holder) == "dataValidations")
         count.set_value(count.as_uint() - 1);
 }
 
 void reduceRules(pugi::xml_node root, const FormulaReach& reach) {
-    std::vector<pugi::xml_node> gone;
+    std::set<pugi::xml_node> gone;
     for (const pugi::xml_node formula : elementsBelow(root, isRuleFormula)) {
         const pugi::xml_attribute value = formula.attribute("val");
         if (!reach.leavesSheet(value ? value.value() : formula.text().get())) continue;
         pugi::xml_node rule = formula;
         while (rule && !rules.contains(localName(rule))) rule = rule.parent();
-        if (rule && std::find(gone.begin(), gone.end(), rule) == gone.end()) gone.push_back(rule);
+        if (rule) gone.insert(rule);
     }
-    // From the innermost: a group may go with one of its own.
-    std::for_each(gone.rbegin(), gone.rend(), dropRule);
+    if (gone.empty()) return;
+    // From the innermost, since what stands in another element goes with that.
+    const auto all =
+        elementsBelow(root, [](pugi::xml_node node) { return rules.contains(localName(node)); });
+    std::for_each(all.rbegin(), all.rend(), [&](pugi::xml_node rule) {
+        if (gone.contains(rule)) dropRule(rule);
+    });
+    const auto holders = elementsBelow(
+        root, [](pugi::xml_node node) { return ruleHolders.contains(localName(node)); });
+    std::for_each(holders.rbegin(), holders.rend(), [](pugi::xml_node holder) {
+        if (isBare(holder)) holder.parent().remove_child(holder);
+    });
 }
 
 void reduceCells(pugi::xml_node data, const FormulaReach& reach) {
@@ -127,11 +132,6 @@ void reduceCells(pugi::xml_node data, const FormulaReach& reach) {
 }
 
 }  // namespace
-
-std::string_view localName(pugi::xml_node node) {
-    const std::string_view name = node.name();
-    return name.substr(name.find(':') + 1);
-}
 
 std::vector<pugi::xml_node> elementsBelow(pugi::xml_node root, bool (*test)(pugi::xml_node)) {
     struct Walker : pugi::xml_tree_walker {

@@ -8,8 +8,6 @@
 
 namespace office::package {
 
-/// The name without its prefix.
-[[nodiscard]] std::string_view localName(pugi::xml_node node);
 /// All elements below one that satisfy something, in their order.
 [[nodiscard]] std::vector<pugi::xml_node> elementsBelow(pugi::xml_node root,
                                                         bool (*test)(pugi::xml_node));

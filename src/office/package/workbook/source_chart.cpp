@@ -55,12 +55,6 @@ bool leadsElsewhere(std::string_view formula) {
     return false;
 }
 
-std::string_view localName(pugi::xml_node node) {
-    const std::string_view name = node.name();
-    const auto colon = name.find(':');
-    return colon == std::string_view::npos ? name : name.substr(colon + 1);
-}
-
 /// What only its data can say against a chart.
 struct DataWalker : pugi::xml_tree_walker {
     bool for_each(pugi::xml_node& node) override {
