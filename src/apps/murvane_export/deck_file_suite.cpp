@@ -46,7 +46,7 @@ office::Object DeckFileSuite::start(std::string_view className) {
 
 std::vector<std::string> DeckFileSuite::remarksOn(office::PasteAs as,
                                                   const std::vector<office::PasteItem>& items) {
-    return package::pasteRemarks(as, items, *rules_.workbooks);
+    return package::pasteRemarks(as, items, *rules_.workbooks, rules_.embedsSheetAlone);
 }
 
 }  // namespace unattended

@@ -186,7 +186,6 @@ TEST_F(ObjectOnASlide, IsRefusedWithAReasonWhereTheFileHoldsNoSuchSheet) {
         {{Kind::Cells, open, "Data", "", "$A$1"}, true, "It can't be linked"},
         {{Kind::Cells, book, "New", "", "$A$1"}, true, "does not hold its sheet"},
         {{Kind::Cells, book + "x", "Data", "", "$A$1"}, false, "can't be read"},
-        {{Kind::Cells, book, "Data", "", "$A$1,$C$1"}, true, "several areas"},
     };
     const Object deck = openDeck();
     for (const auto& row : rows) {

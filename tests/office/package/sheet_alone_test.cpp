@@ -19,6 +19,8 @@ using small_workbook::sheet;
 TEST(AFormula, LeavesItsSheetForOtherSheetsNamesTablesAndTexts) {
     FormulaReach reach("My 'own' data");
     for (const char* name : {"Rates", "Orders"}) reach.add(name);
+    for (const char* name : {"Rates", "Double"}) reach.addCallable(name);
+    reach.addMacros();
     const std::pair<std::string, bool> rows[] = {
         {"SUM(A1:$B$20,C:C,2:3)*1.5E+3", false},
         {"'my ''own'' data'!A1+Rates", false},
@@ -34,6 +36,9 @@ TEST(AFormula, LeavesItsSheetForOtherSheetsNamesTablesAndTexts) {
         {"Secret", true},
         {"1+Costs[Net]", true},
         {"INDIRECT(A1)", true},
+        {"RATES(1)+_xlfn._xlws.SORT(A1:A3)", false},
+        {"DOUBLE(1)", true},
+        {"netOf(A1)", true},
         {"getpivotdata(\"x\",A1)", true},
     };
     for (const auto& [formula, leaves] : rows)
@@ -113,7 +118,10 @@ TEST(ASheetAlone, HandsOnNothingOfTheOthers) {
          sheet("<numFmts count=\"2\"><numFmt numFmtId=\"170\" formatCode=\"0 "
                "&quot;Zebra&quot;\"/>"
                "<numFmt numFmtId=\"171\" formatCode=\"0 &quot;t&quot;\"/></numFmts><cellXfs>"
-               "<xf numFmtId=\"0\"/><xf numFmtId=\"171\"/><xf numFmtId=\"170\"/></cellXfs>",
+               "<xf numFmtId=\"0\"/><xf numFmtId=\"171\"/><xf numFmtId=\"170\"/></cellXfs>"
+               "<cellStyles><cellStyle name=\"Zebra\" xfId=\"1\"/></cellStyles><dxfs><dxf><numFmt "
+               "numFmtId=\"170\" formatCode=\"&quot;Zebra&quot;\"/></dxf></dxfs>",
+
                "styleSheet")},
         {"xl/connections.xml", sheet("Zebra", "connections")},
         {"xl/calcChain.xml", sheet("", "calcChain")},

@@ -57,16 +57,16 @@ Behind link(FileSlide& slide, const CopySource& source) {
 
 }  // namespace
 
-std::string objectObstacle(PasteAs as, const CopySource& source, WorkbookFiles& workbooks) {
+std::string objectObstacle(PasteAs as, const CopySource& source, WorkbookFiles& workbooks,
+                           bool sheetAlone) {
     if (source.kind == CopySource::Kind::Picture) return "it is a picture";
     if (source.file.empty()) return "its workbook has not been saved yet";
-    if (as == PasteAs::Linked && source.address.find(',') != std::string::npos)
-        return "it has several areas";
     try {
         const WorkbookFilePtr workbook = workbooks.at(source.file);
-        return workbook->sheet(source.sheet) == nullptr
-                   ? "the workbook's file does not hold its sheet"
-                   : "";
+        const WorkbookSheet* const sheet = workbook->sheet(source.sheet);
+        if (sheet == nullptr) return "the workbook's file does not hold its sheet";
+        if (as == PasteAs::Embedded && sheetAlone) prepareSheetAlone(*workbook, *sheet);
+        return {};
     } catch (const PackageError& error) {
         const char* const text = error.fault() == Fault::NotAPackage
                                      ? "its workbook is no .xlsx or .xlsm file ({})"
@@ -78,7 +78,8 @@ std::string objectObstacle(PasteAs as, const CopySource& source, WorkbookFiles& 
 FileShapePtr pasteObject(FileSlide& slide, const Copied& copied, PasteAs as) {
     const CopySource& source = copied.source();
     FileDeck& deck = slide.deck();
-    const std::string obstacle = objectObstacle(as, source, *deck.rules().workbooks);
+    const std::string obstacle =
+        objectObstacle(as, source, *deck.rules().workbooks, deck.rules().embedsSheetAlone);
     if (!obstacle.empty())
         model::refuse("Shapes.PasteSpecial",
                       fmt::format("It can't be {}: {}",

@@ -13,8 +13,9 @@ namespace office::package {
 FileShapePtr pasteObject(FileSlide& slide, const Copied& copied, PasteAs as);
 
 /// Why something can't become an embedded or a linked object, as a clause about it: "its workbook
-/// has not been saved yet". Empty if it can.
+/// has not been saved yet". Empty if it can. With `sheetAlone` an embedded one keeps its sheet
+/// alone, for which the workbook has to be read.
 [[nodiscard]] std::string objectObstacle(PasteAs as, const CopySource& source,
-                                         WorkbookFiles& workbooks);
+                                         WorkbookFiles& workbooks, bool sheetAlone);
 
 }  // namespace office::package

@@ -13,12 +13,13 @@ namespace office::package {
 namespace {
 
 /// Why an item can't be pasted in this form; empty if it can.
-std::string obstacleTo(PasteAs as, const PasteItem& item, WorkbookFiles& workbooks) {
+std::string obstacleTo(PasteAs as, const PasteItem& item, WorkbookFiles& workbooks,
+                       bool sheetAlone) {
     const bool isChart = item.source.kind == CopySource::Kind::Chart;
     if (isChart && (as == PasteAs::Default || as == PasteAs::Linked))
         return findChart(item.source, workbooks).obstacle;
     const bool isObject = as == PasteAs::Embedded || as == PasteAs::Linked;
-    return isObject ? objectObstacle(as, item.source, workbooks) : std::string();
+    return isObject ? objectObstacle(as, item.source, workbooks, sheetAlone) : std::string();
 }
 
 /// What becomes of items that can't be pasted in a form.
@@ -55,10 +56,10 @@ std::string enumerated(const std::vector<std::string>& names) {
 }  // namespace
 
 std::vector<std::string> pasteRemarks(PasteAs as, const std::vector<PasteItem>& items,
-                                      WorkbookFiles& workbooks) {
+                                      WorkbookFiles& workbooks, bool sheetAlone) {
     std::vector<std::pair<std::string, std::vector<std::string>>> byReason;
     for (const PasteItem& item : items) {
-        const std::string obstacle = obstacleTo(as, item, workbooks);
+        const std::string obstacle = obstacleTo(as, item, workbooks, sheetAlone);
         if (obstacle.empty()) continue;
         auto known = std::find_if(byReason.begin(), byReason.end(),
                                   [&](const auto& one) { return one.first == obstacle; });

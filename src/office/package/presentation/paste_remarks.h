@@ -9,8 +9,9 @@
 namespace office::package {
 
 /// What a presentation as a file can't take of the items in this form, a line for each reason: it
-/// names the items, and says what becomes of them.
+/// names the items, and says what becomes of them. `sheetAlone` as in `FileRules`.
 [[nodiscard]] std::vector<std::string> pasteRemarks(PasteAs as, const std::vector<PasteItem>& items,
-                                                    WorkbookFiles& workbooks);
+                                                    WorkbookFiles& workbooks,
+                                                    bool sheetAlone = false);
 
 }  // namespace office::package

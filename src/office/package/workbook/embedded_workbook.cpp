@@ -8,6 +8,7 @@
 #include "office/package/part_name.h"
 #include "office/package/workbook/cell_box.h"
 #include "office/package/workbook/sheet_alone.h"
+#include "office/package/workbook/sheet_head.h"
 #include "office/package/xml.h"
 
 namespace office::package {
@@ -35,6 +36,13 @@ const std::vector<std::string_view> workbookOrder = {"fileVersion",    "fileShar
                                                      "fileRecoveryPr", "webPublishObjects",
                                                      "extLst"};
 
+/// For sheets of which the cells are bytes.
+Limits carried() {
+    Limits limits;
+    limits.partBytes = limits.bytesRead;
+    return limits;
+}
+
 /// What a sheet says of its windows stands ahead of its cells.
 bool mayBeSelected(const Package& workbook, const std::string& sheet) {
     constexpr std::size_t headBytes = 16 << 10;
@@ -43,8 +51,8 @@ bool mayBeSelected(const Package& workbook, const std::string& sheet) {
 
 /// Two selected sheets would be a group, in which what is done to one is done to the other.
 void selectSheet(Package& workbook, const std::string& sheet, bool isSelected) {
-    const Xml xml(workbook.read(sheet), sheet);
-    const auto views = childNamed(xml.root(), ns::spreadsheet, "sheetViews");
+    const SheetHead head(workbook.read(sheet), sheet);
+    const auto views = childNamed(head.root(), ns::spreadsheet, "sheetViews");
     bool isChanged = false;
     for (pugi::xml_node view : childrenNamed(views, ns::spreadsheet, "sheetView")) {
         if (view.attribute("tabSelected").as_bool() == isSelected) continue;
@@ -54,19 +62,19 @@ void selectSheet(Package& workbook, const std::string& sheet, bool isSelected) {
         else
             view.remove_attribute("tabSelected");
     }
-    if (isChanged) workbook.replace(sheet, xml.bytes());
+    if (isChanged) workbook.replace(sheet, head.bytes());
 }
 
 /// The cells that the sheet says are in use.
 CellBox usedCells(const Package& workbook, const std::string& sheet) {
-    const Xml xml(workbook.read(sheet), sheet);
-    const auto used = childNamed(xml.root(), ns::spreadsheet, "dimension");
+    const SheetHead head(workbook.read(sheet), sheet);
+    const auto used = childNamed(head.root(), ns::spreadsheet, "dimension");
     return cellBox(used.attribute("ref").value()).value_or(CellBox());
 }
 
 /// Nothing for a sheet that is a chart.
-std::optional<CellBox> shownCells(WorkbookFile& workbook, const WorkbookSheet& sheet,
-                                  const CopySource& source) {
+std::optional<CellBox> shownCells(WorkbookFile& workbook, const Package& copy,
+                                  const WorkbookSheet& sheet, const CopySource& source) {
     if (sheet.kind != WorkbookSheet::Kind::Worksheet) return {};
     std::optional<CellBox> cells = cellBox(source.address);
     if (source.kind == CopySource::Kind::Chart) {
@@ -74,7 +82,7 @@ std::optional<CellBox> shownCells(WorkbookFile& workbook, const WorkbookSheet& s
         cells = chart != nullptr ? chart->cells : std::nullopt;
     }
     const bool isBlock = cells && !cells->hasWholeColumns() && !cells->hasWholeRows();
-    return isBlock ? *cells : usedCells(workbook.package(), sheet.part);
+    return isBlock ? *cells : usedCells(copy, sheet.part);
 }
 
 void show(Package& workbook, const std::string& main, const WorkbookSheet& sheet,
@@ -119,7 +127,7 @@ void dropSignatures(Package& workbook) {
 /// A copy in which one sheet is selected, or left alone.
 std::string copyOnSheet(const WorkbookFile& workbook, const WorkbookSheet& sheet, bool sheetAlone) {
     const std::string file = workbook.bytes();
-    Package copy = Package::fromBytes(file);
+    Package copy = Package::fromBytes(file, sheetAlone ? Limits() : carried());
     if (sheetAlone) keepSheetAlone(copy, workbook.mainPart(), sheet);
     dropSignatures(copy);
     for (const WorkbookSheet& one : workbook.sheets()) {
@@ -133,16 +141,23 @@ std::string copyOnSheet(const WorkbookFile& workbook, const WorkbookSheet& sheet
     return copy.bytes();
 }
 
+const std::string& rememberedCopy(WorkbookFile& workbook, const WorkbookSheet& sheet,
+                                  bool sheetAlone) {
+    return workbook.remembered(fmt::format("{}|{}", sheet.part, sheetAlone),
+                               [&] { return copyOnSheet(workbook, sheet, sheetAlone); });
+}
+
 }  // namespace
+
+void prepareSheetAlone(WorkbookFile& workbook, const WorkbookSheet& sheet) {
+    static_cast<void>(rememberedCopy(workbook, sheet, true));
+}
 
 EmbeddedWorkbook embeddedWorkbook(WorkbookFile& workbook, const CopySource& source,
                                   bool sheetAlone) {
     const WorkbookSheet& sheet = *workbook.sheet(source.sheet);
-    const std::string& onSheet =
-        workbook.remembered(fmt::format("{}|{}", sheet.part, sheetAlone),
-                            [&] { return copyOnSheet(workbook, sheet, sheetAlone); });
-    Package copy = Package::fromBytes(onSheet);
-    show(copy, workbook.mainPart(), sheet, shownCells(workbook, sheet, source));
+    Package copy = Package::fromBytes(rememberedCopy(workbook, sheet, sheetAlone), carried());
+    show(copy, workbook.mainPart(), sheet, shownCells(workbook, copy, sheet, source));
     const bool hasMacros = workbook.hasMacros() && !sheetAlone;
     return {.bytes = copy.bytes(),
             .ending = hasMacros ? ".xlsm" : ".xlsx",

@@ -25,4 +25,8 @@ struct EmbeddedWorkbook {
 [[nodiscard]] EmbeddedWorkbook embeddedWorkbook(WorkbookFile& workbook, const CopySource& source,
                                                 bool sheetAlone);
 
+/// Makes what all objects of a sheet alone have in common. `PackageError` for a workbook that can't
+/// be reduced to the sheet, such as one that is too large to be read.
+void prepareSheetAlone(WorkbookFile& workbook, const WorkbookSheet& sheet);
+
 }  // namespace office::package

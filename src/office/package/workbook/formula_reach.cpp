@@ -97,8 +97,7 @@ private:
         if (next() == '!') return sheet(found);
         const std::string name = lowerCase(found);
         if (next() == '(') {
-            const auto* const far = std::find(farFunctions.begin(), farFunctions.end(), name);
-            finding_.leaves = far != farFunctions.end() || name.starts_with("_xll.");
+            finding_.leaves = isFarFunction(found, name);
             return;
         }
         const bool isNumber = found.front() >= '0' && found.front() <= '9';
@@ -109,6 +108,16 @@ private:
         if (isNumber || isEdge || isValue || found.front() == '$' || cellBox(found)) return;
         finding_.leaves = !reach_.names_.contains(name);
         if (next() == '[') columns();
+    }
+
+    [[nodiscard]] bool isFarFunction(std::string_view written, const std::string& name) const {
+        const auto* const far = std::find(farFunctions.begin(), farFunctions.end(), name);
+        if (far != farFunctions.end() || name.starts_with("_xll.")) return true;
+        if (reach_.callable_.contains(name) && !reach_.names_.contains(name)) return true;
+        // Excel writes its own functions in capitals, macros as they are declared.
+        return reach_.hasMacros_ && !name.starts_with("_xl") &&
+               std::any_of(written.begin(), written.end(),
+                           [](char c) { return c >= 'a' && c <= 'z'; });
     }
 
     /// The columns of a table, in brackets that may stand in each other.
@@ -140,6 +149,10 @@ void FormulaReach::add(std::string_view name) {
 
 void FormulaReach::remove(std::string_view name) {
     names_.erase(lowerCase(name));
+}
+
+void FormulaReach::addCallable(std::string_view name) {
+    callable_.insert(lowerCase(name));
 }
 
 FormulaReach::Finding FormulaReach::read(std::string_view formula) const {

@@ -14,6 +14,10 @@ public:
     /// A defined name or a table that is left too.
     void add(std::string_view name);
     void remove(std::string_view name);
+    /// A defined name of the whole workbook, which a formula may call as a function.
+    void addCallable(std::string_view name);
+    /// The workbook has functions of its own, which go with its macros.
+    void addMacros() { hasMacros_ = true; }
 
     /// Whether a formula needs anything that is gone: another sheet or workbook, a name, a table,
     /// or a function that finds its cells by a text.
@@ -31,6 +35,8 @@ private:
 
     std::string sheet_;
     std::unordered_set<std::string> names_;
+    std::unordered_set<std::string> callable_;
+    bool hasMacros_ = false;
 };
 
 }  // namespace office::package

@@ -74,6 +74,10 @@ public:
     void keep() {
         const Xml xml(workbook_.read(main_), main_);
         knowTables();
+        const auto& all = workbook_.relationshipsOf(main_).all();
+        if (std::any_of(all.begin(), all.end(),
+                        [](const Relationship& one) { return kindOf(one) == "vbaProject"; }))
+            reach_.addMacros();
         reduceWorkbook(xml.root());
         workbook_.replace(main_, xml.bytes());
         dropRelationships("/", [](const Relationship& one) {
@@ -82,9 +86,14 @@ public:
         keepMaker();
         dropRelationships(main_, [&](const Relationship& one) { return isOfWorkbook(one); });
         keepFrom(main_);
+        std::set<std::string> left = {partKey(relationshipsPartOf("/"))};
+        for (const std::string& part : kept_) {
+            left.insert(part);
+            left.insert(partKey(relationshipsPartOf(part)));
+        }
         for (const std::string& part : workbook_.parts()) {
-            if (extensionOf(part) != "rels" && !kept_.contains(partKey(part)))
-                workbook_.remove(part);
+            // Relationships go with their part, if that is there.
+            if (!left.contains(partKey(part)) && workbook_.has(part)) workbook_.remove(part);
         }
     }
 
@@ -109,6 +118,7 @@ private:
             return localName(child) == "Application" || localName(child) == "AppVersion";
         });
         workbook_.replace(part, xml.bytes());
+        dropRelationships(part, [](const Relationship&) { return false; });
         kept_.insert(partKey(part));
     }
 
@@ -125,17 +135,21 @@ private:
 
     /// Those names stay that are about the sheet and need nothing else.
     void reduceNames(pugi::xml_node list, const std::string& place) {
+        for (const pugi::xml_node name : list.children())
+            reach_.addCallable(name.attribute("name").value());
         keepChildren(list, [&](pugi::xml_node name) {
             const std::string_view owner = name.attribute("localSheetId").value();
             return (owner.empty() || owner == place) && reach_.namesSheet(name.text().get());
         });
         for (const pugi::xml_node name : list.children())
             reach_.add(name.attribute("name").value());
-        // A name may need one that goes.
-        for (bool isDone = false; !isDone;) {
+        // A name may need one that goes. After a long way from name to name all are taken to.
+        constexpr int mostRounds = 50;
+        bool isDone = false;
+        for (int round = 0; !isDone; ++round) {
             isDone = true;
             keepChildren(list, [&](pugi::xml_node name) {
-                if (!reach_.leavesSheet(name.text().get())) return true;
+                if (round < mostRounds && !reach_.leavesSheet(name.text().get())) return true;
                 reach_.remove(name.attribute("name").value());
                 isDone = false;
                 return false;

@@ -131,6 +131,34 @@ void reduceCells(pugi::xml_node data, const FormulaReach& reach) {
     }
 }
 
+/// The formats of conditions and filters that a sheet has, by their places.
+std::set<unsigned> usedDifferences(pugi::xml_node sheet) {
+    std::set<unsigned> used;
+    for (const pugi::xml_node node :
+         elementsBelow(sheet, [](pugi::xml_node one) { return bool(one.attribute("dxfId")); }))
+        used.insert(node.attribute("dxfId").as_uint());
+    return used;
+}
+
+/// Those styles stay by name that every workbook has, and those of cells.
+void reduceStyles(pugi::xml_node root, const std::set<unsigned>& used) {
+    // From here on they are the workbook's own.
+    constexpr unsigned firstOwnFormat = 164;
+    unsigned place = 0;
+    for (pugi::xml_node format :
+         childrenNamed(sheetChild(root, "cellStyleXfs"), ns::spreadsheet, "xf")) {
+        auto number = format.attribute("numFmtId");
+        if (!used.contains(place++) && number.as_uint() >= firstOwnFormat) number.set_value("0");
+    }
+    auto styles = sheetChild(root, "cellStyles");
+    keepChildren(styles, [&](pugi::xml_node style) {
+        return style.attribute("builtinId") || used.contains(style.attribute("xfId").as_uint());
+    });
+    if (styles)
+        attributeFor(styles, "count")
+            .set_value(static_cast<unsigned>(std::distance(styles.begin(), styles.end())));
+}
+
 }  // namespace
 
 std::vector<pugi::xml_node> elementsBelow(pugi::xml_node root, bool (*test)(pugi::xml_node)) {
@@ -245,11 +273,23 @@ void reduceFormats(const Xml& styles, const Xml& sheet) {
         for (const pugi::xml_node cell : row.children()) used.insert(cell.attribute("s").as_uint());
     }
     std::set<std::string_view> formats;
+    std::set<unsigned> usedStyles = {0};
     unsigned place = 0;
     for (pugi::xml_node format :
          childrenNamed(sheetChild(styles.root(), "cellXfs"), ns::spreadsheet, "xf")) {
-        if (!used.contains(place++)) attributeFor(format, "numFmtId").set_value("0");
+        if (used.contains(place++))
+            usedStyles.insert(format.attribute("xfId").as_uint());
+        else
+            attributeFor(format, "numFmtId").set_value("0");
         formats.insert(format.attribute("numFmtId").value());
+    }
+    reduceStyles(styles.root(), usedStyles);
+    place = 0;
+    const std::set<unsigned> usedByRules = usedDifferences(sheet.root());
+    for (pugi::xml_node difference :
+         childrenNamed(sheetChild(styles.root(), "dxfs"), ns::spreadsheet, "dxf")) {
+        if (!usedByRules.contains(place++))
+            difference.remove_child(sheetChild(difference, "numFmt"));
     }
     for (pugi::xml_node format : sheetChild(styles.root(), "cellStyleXfs").children())
         formats.insert(format.attribute("numFmtId").value());

@@ -61,8 +61,9 @@ std::string partOfId(Package& package, const std::string& source, std::string_vi
 }
 
 /// Of what is bound to cells, which are counted from 0 there: the number from 1.
-std::uint32_t numberIn(pugi::xml_node corner, std::string_view name) {
-    return childNamed(corner, ns::spreadsheetDrawing, name).text().as_uint() + 1;
+std::uint32_t numberIn(pugi::xml_node corner, std::string_view name, std::uint32_t last) {
+    return std::min(childNamed(corner, ns::spreadsheetDrawing, name).text().as_uint(), last - 1) +
+           1;
 }
 
 /// The cells under what stands in a drawing. Where only one corner is bound to a cell, all cells
@@ -75,16 +76,20 @@ std::optional<CellBox> cellsUnder(pugi::xml_node frame) {
     };
     while (frame && !corner("from")) frame = frame.parent();
     if (!frame) return {};
-    CellBox box{.left = numberIn(corner("from"), "col"), .top = numberIn(corner("from"), "row")};
-    const auto cells = [&](const char* side, double emu) {
+    CellBox box{.left = numberIn(corner("from"), "col", CellBox::lastColumn),
+                .top = numberIn(corner("from"), "row", CellBox::lastRow)};
+    const auto away = [&](std::uint32_t from, const char* side, double emu, std::uint32_t last) {
         const double length = std::max(0.0, corner("ext").attribute(side).as_double());
-        return static_cast<std::uint32_t>(length / emu);
+        return from +
+               static_cast<std::uint32_t>(std::min(length / emu, static_cast<double>(last - from)));
     };
     const auto to = corner("to");
-    box.right = to ? numberIn(to, "col") : box.left + cells("cx", columnEmu);
-    box.bottom = to ? numberIn(to, "row") : box.top + cells("cy", rowEmu);
-    box.right = std::clamp(box.right, box.left, CellBox::lastColumn);
-    box.bottom = std::clamp(box.bottom, box.top, CellBox::lastRow);
+    box.right = to ? numberIn(to, "col", CellBox::lastColumn)
+                   : away(box.left, "cx", columnEmu, CellBox::lastColumn);
+    box.bottom =
+        to ? numberIn(to, "row", CellBox::lastRow) : away(box.top, "cy", rowEmu, CellBox::lastRow);
+    box.right = std::max(box.right, box.left);
+    box.bottom = std::max(box.bottom, box.top);
     return box;
 }
 
