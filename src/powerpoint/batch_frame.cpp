@@ -102,7 +102,7 @@ void BatchFrame::exportRow(const TakenRow& taken) {
     const auto work = [&] {
         const std::int32_t slide = showSlideOf(taken);
         catalogue::ProgressStep(session_, done_ + 1, static_cast<std::int32_t>(rows_.size()));
-        const bool isThere = route_.insertItem(batch_, row, slide);
+        const bool isThere = route_.insertItem(session_, row, slide);
         if (isThere) ++exported_;
         finishItem(row, slide, isThere);
         const auto unselect = [&] { window_.get("Selection").call("Unselect"); };

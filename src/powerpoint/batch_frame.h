@@ -42,7 +42,8 @@ struct BatchRoute {
     /// Takes Excel's drawing to the state that the items need, before the first one.
     void (*prepareScreen)(Batch& batch) = letExcelDraw;
     /// Puts the row's object on slide `slideIndex`. False if it isn't there and the user knows.
-    bool (*insertItem)(Batch& batch, const catalogue::ExportItem& row, std::int32_t slideIndex);
+    bool (*insertItem)(session::OfficeSession& session, const catalogue::ExportItem& row,
+                       std::int32_t slideIndex);
     /// Without items nothing is touched.
     bool endsWithoutItems = false;
     /// Progress ends with the last item as done.

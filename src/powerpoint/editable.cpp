@@ -90,12 +90,8 @@ bool PasteRowEditable(OfficeSession& session, const ExportItem& row, std::int32_
 }
 
 std::int32_t ExportRowsAsEditable(Batch& batch) {
-    return RunBatch(batch, {.insertItem =
-                                [](Batch& b, const ExportItem& row, std::int32_t slideIndex) {
-                                    return PasteRowEditable(b.session, row, slideIndex);
-                                },
-                            .endsWithoutItems = true,
-                            .showsCompletion = true});
+    return RunBatch(
+        batch, {.insertItem = PasteRowEditable, .endsWithoutItems = true, .showsCompletion = true});
 }
 
 }  // namespace powerpoint

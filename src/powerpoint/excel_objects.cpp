@@ -47,10 +47,7 @@ bool PasteRowAsExcelObject(OfficeSession& session, const ExportItem& row, std::i
 
 std::int32_t ExportRowsAsExcelObjects(Batch& batch) {
     return RunBatch(
-        batch, {.insertItem =
-                    [](Batch& b, const ExportItem& row, std::int32_t slideIndex) {
-                        return PasteRowAsExcelObject(b.session, row, slideIndex);
-                    },
+        batch, {.insertItem = PasteRowAsExcelObject,
                 .endsWithoutItems = true,
                 .showsCompletion = true,
                 .ignoresSelection = true,

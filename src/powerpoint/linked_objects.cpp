@@ -39,10 +39,7 @@ bool PasteRowAsLink(OfficeSession& session, const ExportItem& row, std::int32_t 
 }
 
 std::int32_t ExportRowsAsLinkedObjects(Batch& batch) {
-    return RunBatch(batch, {.insertItem =
-                                [](Batch& b, const ExportItem& row, std::int32_t slideIndex) {
-                                    return PasteRowAsLink(b.session, row, slideIndex);
-                                },
+    return RunBatch(batch, {.insertItem = PasteRowAsLink,
                             .endsWithoutItems = true,
                             .showsCompletion = true,
                             .restoresExcel = false});

@@ -73,10 +73,7 @@ void exportChart(const Object& chart, const std::string& file) {
 std::int32_t ExportRowsAsPictures(Batch& batch) {
     return RunBatch(
         batch, {.prepareScreen = [](Batch& b) { b.session.ExcelApp.put("ScreenUpdating", false); },
-                .insertItem =
-                    [](Batch& b, const ExportItem& row, std::int32_t slideIndex) {
-                        return InsertPicture(b.session, row, slideIndex);
-                    },
+                .insertItem = InsertPicture,
                 .noneArrived = {}});
 }
 
