@@ -72,9 +72,18 @@ bool PasteRangeEditable(OfficeSession& session, const ExportItem& row, std::int3
     const Object slide = slideOf(session, slideIndex);
     slide.call("Select");
     catalogue::RestoreScreenUpdating(session);
-    slide.get("Shapes").call("PasteSpecial", arg("DataType", defaultData),
-                             arg("DisplayAsIcon", false), arg("IconFileName", ""),
-                             arg("IconIndex", 0), arg("IconLabel", ""), arg("Link", false));
+    office::ContinueOnFailure scope;
+    const bool isThere = scope.attempt([&] {
+        slide.get("Shapes").call("PasteSpecial", arg("DataType", defaultData),
+                                 arg("DisplayAsIcon", false), arg("IconFileName", ""),
+                                 arg("IconIndex", 0), arg("IconLabel", ""), arg("Link", false));
+    });
+    if (!isThere) {
+        session::ShowWarningNotice(session.notices,
+                                   fmt::format("Could not paste '{}' as a table: {}.", row.name,
+                                               scope.lastFailure()->description()));
+        return false;
+    }
     session.host.letEventsRun();
     describeLastShape(slide, row);
     return true;

@@ -105,6 +105,17 @@ TEST_F(FormatsTest, APasteIsAskedForInEveryWayBeforeItCountsAsFailed) {
     }
 }
 
+TEST_F(FormatsTest, CellsThatMakeNoTableAreToldAndTheBatchGoesOn) {
+    add(rangeRow("Total", "Sales"));
+    add(rangeRow("Total", "Sales", "Second"));
+    suite.failures().fail("PasteSpecial");
+    exportAs(ExportFormat::Editable);
+    ASSERT_EQ(notices.shown.size(), 1U);
+    EXPECT_TRUE(notices.messages().front().starts_with("Could not paste 'Total' as a table: "));
+    EXPECT_EQ(picturesOn(2), Texts{});
+    EXPECT_EQ(picturesOn(3), Texts{"Second"});
+}
+
 TEST_F(FormatsTest, AnEditableChartThatIsGoneFailsAndASheetStandsForItsFirstChart) {
     add(chartSheetRow("Sales"));
     book.sheet("Empty");
