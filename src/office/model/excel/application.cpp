@@ -161,10 +161,6 @@ Object applicationObject(GuardPtr guard, BooksPtr books) {
     return makeObject<Application>(std::move(guard), std::move(books));
 }
 
-void refuse(const std::string& source, const std::string& why) {
-    throw Failure(FailureNumber::ApplicationDefined, source, why);
-}
-
 Value selectionObject(const InBook& home) {
     const Selection selected = home.book->selection();
     const InSheet place{home, selected.sheet};

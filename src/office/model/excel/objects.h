@@ -8,6 +8,7 @@
 #include "office/model/excel/books.h"
 #include "office/model/item_index.h"
 #include "office/model/model_object.h"
+#include "office/model/refusal.h"
 
 /// The classes of Excel's object model, made here and reached by their members only.
 namespace office::model::excel {
@@ -26,8 +27,6 @@ struct InSheet : InBook {
     [[nodiscard]] bool isGone() const { return InBook::isGone() || sheet->isGone(); }
 };
 
-/// Something that Excel refuses: `Failure` 1004.
-[[noreturn]] void refuse(const std::string& source, const std::string& why);
 /// Before a sheet is changed: `Failure` Disconnected if it has been deleted.
 void requireThere(const InSheet& home, const std::string& source);
 

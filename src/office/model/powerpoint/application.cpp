@@ -153,18 +153,6 @@ InDeck Application::active(const std::string& source) const {
 
 }  // namespace
 
-void refuse(const std::string& source, const std::string& why) {
-    throw Failure(FailureNumber::ApplicationDefined, source, why);
-}
-
-double numberWithin(double low, double high, const Value& value, const std::string& source) {
-    const double number = value.toDouble();
-    if (!(number >= low && number <= high))
-        throw Failure(FailureNumber::InvalidProcedureCall, source,
-                      fmt::format("{}: the value {} is out of range", source, number));
-    return number;
-}
-
 Object applicationObject(GuardPtr guard, DecksPtr decks) {
     return makeObject<Application>(std::move(guard), std::move(decks));
 }

@@ -8,6 +8,7 @@
 #include "office/failure.h"
 #include "office/model/model_object.h"
 #include "office/model/powerpoint/deck.h"
+#include "office/model/refusal.h"
 
 /// The classes of PowerPoint's object model, made here and reached by their members only.
 namespace office::model::powerpoint {
@@ -43,14 +44,8 @@ private:
     std::shared_ptr<Part> part_;
 };
 
-/// A setting of PowerPoint that it refuses.
-[[noreturn]] void refuse(const std::string& source, const std::string& why);
-
 /// Beyond this PowerPoint takes no place, no length and no other measure of a shape.
 inline constexpr double furthestPt = 169056;
-/// The number that a setting gets. `Failure` 5 if it lies outside.
-[[nodiscard]] double numberWithin(double low, double high, const Value& value,
-                                  const std::string& source);
 
 [[nodiscard]] Object applicationObject(GuardPtr guard, DecksPtr decks);
 [[nodiscard]] Object presentationObject(const InDeck& home);

@@ -1,11 +1,83 @@
 #pragma once
 
+#include <memory>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "office/failure.h"
 #include "office/model/model_object.h"
+#include "office/model/refusal.h"
 #include "office/model/word/text_document.h"
+#include "office/text.h"
 
 /// The classes of Word's object model, made here and reached by their members only.
 namespace office::model::word {
 
+/// The labels that captions can have, beside those that Word comes with. They belong to the
+/// application, whichever document they are used in.
+class CaptionLabelNames {
+public:
+    [[nodiscard]] bool has(const std::string& name) const {
+        return names_.contains(lowerCase(name));
+    }
+    void add(const std::string& name) { names_.insert(lowerCase(name)); }
+
+private:
+    std::set<std::string> names_ = {"equation", "figure", "table"};
+};
+
+/// What every object of a document holds: its document, and what its members run through.
+struct InDocument {
+    GuardPtr guard;
+    TextDocumentPtr document;
+    std::shared_ptr<CaptionLabelNames> labels;
+};
+
+/// Base of the classes that stand for something in a document.
+template <class Self>
+class DocumentObject : public ModelObject<Self> {
+public:
+    DocumentObject(InDocument home, std::shared_ptr<Part> part)
+        : ModelObject<Self>(home.guard),
+          home_(std::move(home)),
+          part_(std::move(part)) {}
+    explicit DocumentObject(const InDocument& home) : DocumentObject(home, home.document) {}
+
+    [[nodiscard]] const InDocument& home() const { return home_; }
+    [[nodiscard]] TextDocument& document() const { return *home_.document; }
+
+protected:
+    void requireAlive(std::string_view member) const override {
+        if (part_->isGone()) failGone(Self::members().className() + "." + std::string(member));
+    }
+
+private:
+    InDocument home_;
+    std::shared_ptr<Part> part_;
+};
+
+/// Reads a property that is written only: nothing needs to know what it was. `Failure` 5.
+template <class Self>
+[[nodiscard]] Value unread(Self& /*self*/, const CallArguments& arguments) {
+    throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
+                  arguments.source() + " can be set here, not read");
+}
+
+/// Beyond this Word takes no length.
+inline constexpr double furthestPt = 1584;
+
 [[nodiscard]] Object applicationObject(GuardPtr guard, TextDocumentsPtr documents);
+[[nodiscard]] Object documentObject(const InDocument& home);
+/// What is selected in a document, or its caret.
+[[nodiscard]] Object selectionObject(const InDocument& home);
+/// How paragraphs look, by what changes them.
+using ChangeParagraph = void (TextDocument::*)(const ParagraphChange&);
+[[nodiscard]] Object paragraphFormatObject(const InDocument& home, ChangeParagraph change);
+[[nodiscard]] Object inlineShapesObject(const InDocument& home);
+[[nodiscard]] Object shapesObject(const InDocument& home);
+/// The one object over the text that is selected. `Failure` 1004 if none is.
+[[nodiscard]] Object selectedShapeObject(const InDocument& home, const std::string& source);
 
 }  // namespace office::model::word

@@ -101,6 +101,7 @@ public:
     /// The file's path; the name alone of one never saved.
     virtual std::string fullName() = 0;
     /// Its title among the properties of the document.
+    virtual std::string title() = 0;
     virtual void setTitle(const std::string& title) = 0;
 
     // The end of the text.

@@ -1,0 +1,168 @@
+#include <fmt/format.h>
+
+#include <utility>
+
+#include "office/model/word/objects.h"
+
+namespace office::model::word {
+
+namespace {
+
+/// The whole text, or its end once it has collapsed to it.
+class Range : public DocumentObject<Range> {
+public:
+    using DocumentObject::DocumentObject;
+
+    static const MemberTable<Range>& members() {
+        using Self = Range;
+        static const auto table =
+            MemberTable<Self>("Range")
+                .property("ParagraphFormat", {},
+                          [](Self& self, const CallArguments& arguments) {
+                              self.requireEnd(arguments.source());
+                              return paragraphFormatObject(self.home(),
+                                                           &TextDocument::changeLastParagraph);
+                          })
+                .method("Collapse", {"Direction"}, &Self::collapse)
+                .method("InsertParagraphAfter", {},
+                        [](Self& self) { self.document().appendParagraph(); })
+                .method("Select", {}, [](Self& self, const CallArguments& arguments) {
+                    self.requireEnd(arguments.source());
+                    self.document().selectEnd();
+                });
+        return table;
+    }
+
+private:
+    void collapse(const CallArguments& arguments) {
+        constexpr std::int32_t toEnd = 0;
+        constexpr std::int32_t toStart = 1;
+        if (arguments.at(0, toStart).toLong() != toEnd)
+            throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
+                          "A range collapses to its end here");
+        isAtEnd_ = true;
+    }
+
+    void requireEnd(const std::string& source) const {
+        if (!isAtEnd_)
+            throw Failure(FailureNumber::InvalidProcedureCall, source,
+                          "This works on the end of the text here");
+    }
+
+    bool isAtEnd_ = false;
+};
+
+class Tables : public DocumentObject<Tables> {
+public:
+    using DocumentObject::DocumentObject;
+
+    static const MemberTable<Tables>& members() {
+        static const auto table = MemberTable<Tables>("Tables").property(
+            "Count", [](Tables& self) { return self.document().tableCount(); });
+        return table;
+    }
+};
+
+/// Of the properties of a document, its title.
+class DocumentProperty : public DocumentObject<DocumentProperty> {
+public:
+    using DocumentObject::DocumentObject;
+
+    static const MemberTable<DocumentProperty>& members() {
+        using Self = DocumentProperty;
+        static const auto table =
+            MemberTable<Self>("DocumentProperty")
+                .property(
+                    "Value", [](Self& self) { return self.document().title(); },
+                    [](Self& self, const Value& title) {
+                        self.document().setTitle(title.toText());
+                    });
+        return table;
+    }
+};
+
+class Window : public DocumentObject<Window> {
+public:
+    using DocumentObject::DocumentObject;
+
+    static const MemberTable<Window>& members() {
+        using Self = Window;
+        static const auto table =
+            MemberTable<Self>("Window")
+                .property("Selection", [](Self& self) { return selectionObject(self.home()); })
+                .method("Activate", {}, [](Self& self) { self.document().activate(); });
+        return table;
+    }
+};
+
+class Document : public DocumentObject<Document> {
+public:
+    using DocumentObject::DocumentObject;
+    static const MemberTable<Document>& members();
+
+private:
+    Object property(const CallArguments& arguments);
+    void exportAsFixedFormat(const CallArguments& arguments);
+    void close(const CallArguments& arguments);
+};
+
+const MemberTable<Document>& Document::members() {
+    using Self = Document;
+    static const auto table =
+        MemberTable<Self>("Document")
+            .property("Name", [](Self& self) { return self.document().name(); })
+            .property("FullName", [](Self& self) { return self.document().fullName(); })
+            .property("Range", [](Self& self) { return makeObject<Range>(self.home()); })
+            .property("ActiveWindow", [](Self& self) { return makeObject<Window>(self.home()); })
+            .property("InlineShapes", [](Self& self) { return inlineShapesObject(self.home()); })
+            .property("Shapes", [](Self& self) { return shapesObject(self.home()); })
+            .property("Tables", [](Self& self) { return makeObject<Tables>(self.home()); })
+            .property("BuiltInDocumentProperties", {"Index"}, &Self::property)
+            .method("Activate", {}, [](Self& self) { self.document().activate(); })
+            .method("SaveCopyAs", {"FileName"},
+                    [](Self& self, const CallArguments& arguments) {
+                        self.document().saveCopy(arguments.at(0).toText());
+                    })
+            .method("ExportAsFixedFormat",
+                    {"OutputFileName", "ExportFormat", "OpenAfterExport", "OptimizeFor", "Range",
+                     "From", "To", "Item", "IncludeDocProps", "KeepIRM", "CreateBookmarks",
+                     "DocStructureTags"},
+                    &Self::exportAsFixedFormat)
+            .method("Close", {"SaveChanges"}, &Self::close);
+    return table;
+}
+
+Object Document::property(const CallArguments& arguments) {
+    if (!sameIgnoringCase(arguments.at(0).toText(), "Title"))
+        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
+                      fmt::format("There is no property \"{}\" here", arguments.at(0).toText()));
+    return makeObject<DocumentProperty>(home());
+}
+
+void Document::exportAsFixedFormat(const CallArguments& arguments) {
+    constexpr std::int32_t pdf = 17;
+    constexpr std::size_t createBookmarks = 10;
+    constexpr std::size_t structureTags = 11;
+    if (arguments.at(1).toLong() != pdf || arguments.at(2, false).toBool())
+        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
+                      "A document is exported as PDF here, without opening it");
+    PdfOptions options;
+    options.headingBookmarks = arguments.at(createBookmarks, 0).toLong() != 0;
+    options.structureTags = arguments.at(structureTags, true).toBool();
+    document().exportPdf(arguments.at(0).toText(), options);
+}
+
+void Document::close(const CallArguments& arguments) {
+    if (arguments.at(0, true).toBool())
+        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
+                      "A document is closed here without saving");
+    document().close();
+}
+
+}  // namespace
+
+Object documentObject(const InDocument& home) {
+    return makeObject<Document>(home);
+}
+
+}  // namespace office::model::word

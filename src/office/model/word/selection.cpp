@@ -1,0 +1,271 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
+
+#include "office/model/word/objects.h"
+
+namespace office::model::word {
+
+namespace {
+
+/// How paragraphs look. What is set is not read back.
+class ParagraphFormat : public DocumentObject<ParagraphFormat> {
+public:
+    ParagraphFormat(const InDocument& home, ChangeParagraph change)
+        : DocumentObject(home),
+          change_(change) {}
+
+    static const MemberTable<ParagraphFormat>& members();
+
+private:
+    void apply(const ParagraphChange& change) { (document().*change_)(change); }
+
+    ChangeParagraph change_;
+};
+
+const MemberTable<ParagraphFormat>& ParagraphFormat::members() {
+    using Self = ParagraphFormat;
+    static const auto table = [] {
+        MemberTable<Self> made("ParagraphFormat");
+        made.property("PageBreakBefore", {}, unread<Self>,
+                      [](Self& self, const CallArguments&, const Value& on) {
+                          ParagraphChange change;
+                          change.breaksPageBefore = on.toBool();
+                          self.apply(change);
+                      });
+        // An unset value is 0, as everywhere in automation: to the left.
+        made.property("Alignment", {}, unread<Self>,
+                      [](Self& self, const CallArguments& arguments, const Value& number) {
+                          ParagraphChange change;
+                          change.alignment =
+                              static_cast<Alignment>(static_cast<std::int32_t>(numberWithin(
+                                  0, 3, number.isEmpty() ? Value(0) : number, arguments.source())));
+                          self.apply(change);
+                      });
+        const auto space = [&](const char* name, std::optional<double> ParagraphChange::*part) {
+            made.property(name, {}, unread<Self>,
+                          [part](Self& self, const CallArguments& arguments, const Value& points) {
+                              ParagraphChange change;
+                              change.*part =
+                                  numberWithin(0, furthestPt, points, arguments.source());
+                              self.apply(change);
+                          });
+        };
+        space("SpaceBefore", &ParagraphChange::spaceBefore);
+        space("SpaceAfter", &ParagraphChange::spaceAfter);
+        return made;
+    }();
+    return table;
+}
+
+class PageSetup : public DocumentObject<PageSetup> {
+public:
+    using DocumentObject::DocumentObject;
+    static const MemberTable<PageSetup>& members();
+
+private:
+    void turn(const Value& orientation);
+};
+
+const MemberTable<PageSetup>& PageSetup::members() {
+    using Self = PageSetup;
+    static const auto table = [] {
+        MemberTable<Self> made("PageSetup");
+        const auto length = [&](const char* name, double Page::*side) {
+            made.property(
+                name, [side](Self& self) { return self.document().page().*side; },
+                [side, source = fmt::format("PageSetup.{}", name)](Self& self,
+                                                                   const Value& points) {
+                    Page page = self.document().page();
+                    page.*side = numberWithin(0, furthestPt, points, source);
+                    self.document().setPage(page);
+                });
+        };
+        length("PageWidth", &Page::width);
+        length("PageHeight", &Page::height);
+        length("LeftMargin", &Page::leftMargin);
+        length("RightMargin", &Page::rightMargin);
+        length("TopMargin", &Page::topMargin);
+        length("BottomMargin", &Page::bottomMargin);
+        made.property(
+            "Orientation",
+            [](Self& self) {
+                const Page page = self.document().page();
+                return page.width > page.height ? 1 : 0;
+            },
+            &Self::turn);
+        return made;
+    }();
+    return table;
+}
+
+void PageSetup::turn(const Value& orientation) {
+    Page page = document().page();
+    const bool isLandscape = page.width > page.height;
+    if (isLandscape == (numberWithin(0, 1, orientation, "PageSetup.Orientation") == 1)) return;
+    std::swap(page.width, page.height);
+    document().setPage(page);
+}
+
+/// What is selected, or the caret.
+class Selection : public DocumentObject<Selection> {
+public:
+    using DocumentObject::DocumentObject;
+    static const MemberTable<Selection>& members();
+
+private:
+    void moveDown(const CallArguments& arguments);
+    void paste(PasteAs as, Anchoring anchoring, const std::string& source);
+    void pasteSpecial(const CallArguments& arguments);
+    void pasteExcelTable(const CallArguments& arguments);
+    void insertCaption(const CallArguments& arguments);
+    void setStyle(const Value& number);
+};
+
+/// Lines, the only unit of a move here, and what an unset one means.
+void requireLines(const CallArguments& arguments) {
+    constexpr std::int32_t line = 5;
+    const Value unit = arguments.at(0, line);
+    if (!unit.isEmpty() && unit.toLong() != line)
+        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
+                      "Moves go by lines here");
+}
+
+const MemberTable<Selection>& Selection::members() {
+    using Self = Selection;
+    static const auto table =
+        MemberTable<Self>("Selection")
+            .property("Text", [](Self& self) { return self.document().selectedText(); })
+            .property("PageSetup", [](Self& self) { return makeObject<PageSetup>(self.home()); })
+            .property("ParagraphFormat",
+                      [](Self& self) {
+                          return paragraphFormatObject(self.home(), &TextDocument::changeParagraph);
+                      })
+            .property("ShapeRange", {},
+                      [](Self& self, const CallArguments& arguments) {
+                          return selectedShapeObject(self.home(), arguments.source());
+                      })
+            .property("Style", {}, unread<Self>,
+                      [](Self& self, const CallArguments&, const Value& number) {
+                          self.setStyle(number);
+                      })
+            .method("TypeText", {"Text"},
+                    [](Self& self, const CallArguments& arguments) {
+                        self.document().typeText(arguments.at(0).toText());
+                    })
+            .method("TypeParagraph", {}, [](Self& self) { self.document().typeParagraph(); })
+            .method("MoveDown", {"Unit", "Count", "Extend"}, &Self::moveDown)
+            .method("HomeKey", {"Unit", "Extend"},
+                    [](Self& self, const CallArguments& arguments) {
+                        requireLines(arguments);
+                        self.document().moveToLineStart();
+                    })
+            .method("Paste", {},
+                    [](Self& self, const CallArguments& arguments) {
+                        self.paste(PasteAs::Default, Anchoring::Inline, arguments.source());
+                    })
+            .method("PasteSpecial",
+                    {"IconIndex", "Link", "Placement", "DisplayAsIcon", "DataType", "IconFileName",
+                     "IconLabel"},
+                    &Self::pasteSpecial)
+            .method("PasteExcelTable", {"LinkedToExcel", "WordFormatting", "RTF"},
+                    &Self::pasteExcelTable)
+            .method("InsertCaption",
+                    {"Label", "Title", "TitleAutoText", "Position", "ExcludeLabel"},
+                    &Self::insertCaption);
+    return table;
+}
+
+void Selection::moveDown(const CallArguments& arguments) {
+    requireLines(arguments);
+    document().moveDown(arguments.at(1, 1).toLong());
+}
+
+void Selection::paste(PasteAs as, Anchoring anchoring, const std::string& source) {
+    const CopiedPtr copied = document().copied();
+    if (!copied) refuse(source, "Nothing has been copied");
+    document().paste(*copied, as, anchoring);
+}
+
+void Selection::pasteSpecial(const CallArguments& arguments) {
+    constexpr std::size_t linkArgument = 1;
+    constexpr std::size_t placement = 2;
+    constexpr std::size_t icon = 3;
+    constexpr std::size_t dataType = 4;
+    constexpr std::int32_t floatOverText = 1;
+    constexpr std::int32_t oleObject = 0;
+    /// Word's numbers of what can be pasted beside objects.
+    constexpr std::array<std::pair<std::int32_t, PasteAs>, 2> pictures = {
+        {{3, PasteAs::Metafile}, {9, PasteAs::Metafile}}};
+
+    const std::string& source = arguments.source();
+    if (arguments.at(icon, false).toBool())
+        throw Failure(FailureNumber::InvalidProcedureCall, source,
+                      "Nothing is shown as an icon here");
+    const auto anchoring = arguments.at(placement, 0).toLong() == floatOverText
+                               ? Anchoring::Floating
+                               : Anchoring::Inline;
+    if (arguments.at(linkArgument, false).toBool()) {
+        paste(PasteAs::Linked, anchoring, source);
+        return;
+    }
+    if (!arguments.has(dataType)) {
+        paste(PasteAs::Default, anchoring, source);
+        return;
+    }
+    const std::int32_t wanted = arguments.at(dataType).toLong();
+    if (wanted == oleObject) {
+        paste(PasteAs::Embedded, anchoring, source);
+        return;
+    }
+    const auto* const known =
+        std::find_if(pictures.begin(), pictures.end(),
+                     [&](const auto& candidate) { return candidate.first == wanted; });
+    if (known == pictures.end())
+        throw Failure(FailureNumber::InvalidProcedureCall, source,
+                      fmt::format("There is no data type {} here", wanted));
+    paste(known->second, anchoring, source);
+}
+
+void Selection::pasteExcelTable(const CallArguments& arguments) {
+    const std::string& source = arguments.source();
+    if (arguments.at(0).toBool())
+        throw Failure(FailureNumber::InvalidProcedureCall, source, "A table is not linked here");
+    const CopiedPtr copied = document().copied();
+    if (!copied || copied->source().kind != CopySource::Kind::Cells)
+        refuse(source, "No cells have been copied");
+    document().paste(*copied, PasteAs::Default, Anchoring::Inline);
+}
+
+void Selection::insertCaption(const CallArguments& arguments) {
+    const std::string label = arguments.at(0).toText();
+    if (!home().labels->has(label))
+        refuse(arguments.source(), fmt::format("There is no label \"{}\"", label));
+    document().insertCaption({label, arguments.at(1, "").toText()});
+}
+
+void Selection::setStyle(const Value& number) {
+    constexpr std::array known = {style::normal, style::heading1, style::caption, style::title};
+    const std::int32_t wanted = number.toLong();
+    if (std::find(known.begin(), known.end(), wanted) == known.end())
+        throw Failure(FailureNumber::InvalidProcedureCall, "Selection.Style",
+                      fmt::format("There is no style {} here", wanted));
+    ParagraphChange change;
+    change.style = wanted;
+    document().changeParagraph(change);
+}
+
+}  // namespace
+
+Object paragraphFormatObject(const InDocument& home, ChangeParagraph change) {
+    return makeObject<ParagraphFormat>(home, change);
+}
+
+Object selectionObject(const InDocument& home) {
+    return makeObject<Selection>(home);
+}
+
+}  // namespace office::model::word

@@ -1,0 +1,197 @@
+#include <fmt/format.h>
+
+#include <utility>
+
+#include "office/model/item_index.h"
+#include "office/model/word/objects.h"
+
+namespace office::model::word {
+
+namespace {
+
+/// Base of what stands for one object of a document.
+template <class Self>
+class OfObject : public DocumentObject<Self> {
+public:
+    OfObject(const InDocument& home, const TextObjectPtr& object)
+        : DocumentObject<Self>(home, object),
+          object_(object) {}
+
+    [[nodiscard]] TextObject& object() const { return *object_; }
+    [[nodiscard]] const TextObjectPtr& objectPtr() const { return object_; }
+
+private:
+    TextObjectPtr object_;
+};
+
+class ShadowFormat : public OfObject<ShadowFormat> {
+public:
+    using OfObject::OfObject;
+    static const MemberTable<ShadowFormat>& members();
+
+private:
+    void setType(const Value& number);
+    void change(double ObjectShadow::*part, double value) {
+        ObjectShadow shadow = object().shadow();
+        shadow.isShown = true;
+        shadow.*part = value;
+        object().setShadow(shadow);
+    }
+};
+
+const MemberTable<ShadowFormat>& ShadowFormat::members() {
+    using Self = ShadowFormat;
+    static const auto table = [] {
+        MemberTable<Self> made("ShadowFormat");
+        made.property(
+            "Visible", [](Self& self) { return triState(self.object().shadow().isShown); },
+            [](Self& self, const Value& on) {
+                ObjectShadow shadow = self.object().shadow();
+                shadow.isShown = on.toBool();
+                self.object().setShadow(shadow);
+            });
+        made.property(
+            "Type", {}, unread<Self>,
+            [](Self& self, const CallArguments&, const Value& number) { self.setType(number); });
+        const auto number = [&](const char* name, double ObjectShadow::*part) {
+            made.property(
+                name, [part](Self& self) { return self.object().shadow().*part; },
+                [part, source = fmt::format("ShadowFormat.{}", name)](Self& self,
+                                                                      const Value& value) {
+                    self.change(part, numberWithin(0, furthestPt, value, source));
+                });
+        };
+        number("Size", &ObjectShadow::size);
+        number("Blur", &ObjectShadow::blur);
+        return made;
+    }();
+    return table;
+}
+
+/// All of Word's ready-made shadows that fall outside come as one here.
+void ShadowFormat::setType(const Value& number) {
+    constexpr double types = 43;
+    static_cast<void>(numberWithin(1, types, number, "ShadowFormat.Type"));
+    ObjectShadow shadow = object().shadow();
+    shadow.isShown = true;
+    object().setShadow(shadow);
+}
+
+double lengthPt(const Value& points, const std::string& source) {
+    const double length = numberWithin(0, furthestPt, points, source);
+    if (!(length > 0))
+        throw Failure(FailureNumber::InvalidProcedureCall, source,
+                      fmt::format("{}: nothing can be {} points wide or high", source, length));
+    return length;
+}
+
+/// The members that objects in a line and over the text have in common.
+template <class Self>
+class ShapeMembers : public OfObject<Self> {
+public:
+    using OfObject<Self>::OfObject;
+
+    static MemberTable<Self> table(const char* className) {
+        MemberTable<Self> made(className);
+        const auto side = [&](const char* name, double ObjectSize::*which) {
+            made.property(
+                name, [which](Self& self) { return self.object().size().*which; },
+                [which, source = fmt::format("{}.{}", className, name)](Self& self,
+                                                                        const Value& points) {
+                    ObjectSize size = self.object().size();
+                    size.*which = lengthPt(points, source);
+                    self.object().resize(size);
+                });
+        };
+        side("Width", &ObjectSize::width);
+        side("Height", &ObjectSize::height);
+        made.property(
+            "AlternativeText", [](Self& self) { return self.object().alternativeText(); },
+            [](Self& self, const Value& text) { self.object().setAlternativeText(text.toText()); });
+        made.property("Shadow", [](Self& self) {
+            return makeObject<ShadowFormat>(self.home(), self.objectPtr());
+        });
+        made.method("Select", {}, [](Self& self) { self.object().select(); });
+        return made;
+    }
+};
+
+class InlineShape : public ShapeMembers<InlineShape> {
+public:
+    using ShapeMembers::ShapeMembers;
+    static const MemberTable<InlineShape>& members() {
+        static const auto all = table("InlineShape");
+        return all;
+    }
+};
+
+/// A shape over the text, or the range of the one that is selected.
+class Shape : public ShapeMembers<Shape> {
+public:
+    using ShapeMembers::ShapeMembers;
+    static const MemberTable<Shape>& members() {
+        // An unset value is 0, as everywhere in automation.
+        static const auto all = table("Shape").property(
+            "Left", {}, unread<Shape>,
+            [](Shape& self, const CallArguments& arguments, const Value& points) {
+                self.object().setLeft(points.isEmpty() ? 0
+                                                       : numberWithin(-furthestPt, furthestPt,
+                                                                      points, arguments.source()));
+            });
+        return all;
+    }
+};
+
+/// The objects of one anchoring, in the order of reading.
+template <class Self, class One, Anchoring anchoring>
+class Objects : public DocumentObject<Self> {
+public:
+    using DocumentObject<Self>::DocumentObject;
+
+    static MemberTable<Self> table(const char* className) {
+        return MemberTable<Self>(className)
+            .property("Count", [](Self& self) { return self.document().objectCount(anchoring); })
+            .property("Item", {"Index"}, [](Self& self, const CallArguments& arguments) {
+                const std::int32_t place = arguments.at(0).toLong();
+                const auto object = self.document().objectAt(anchoring, place);
+                if (!object) ItemIndex(place, arguments.source()).fail();
+                return makeObject<One>(self.home(), object);
+            });
+    }
+};
+
+class InlineShapes : public Objects<InlineShapes, InlineShape, Anchoring::Inline> {
+public:
+    using Objects::Objects;
+    static const MemberTable<InlineShapes>& members() {
+        static const auto all = table("InlineShapes");
+        return all;
+    }
+};
+
+class Shapes : public Objects<Shapes, Shape, Anchoring::Floating> {
+public:
+    using Objects::Objects;
+    static const MemberTable<Shapes>& members() {
+        static const auto all = table("Shapes");
+        return all;
+    }
+};
+
+}  // namespace
+
+Object inlineShapesObject(const InDocument& home) {
+    return makeObject<InlineShapes>(home);
+}
+
+Object shapesObject(const InDocument& home) {
+    return makeObject<Shapes>(home);
+}
+
+Object selectedShapeObject(const InDocument& home, const std::string& source) {
+    const auto object = home.document->selectedObject();
+    if (!object) refuse(source, "Nothing that stands over the text is selected");
+    return makeObject<Shape>(home, object);
+}
+
+}  // namespace office::model::word
