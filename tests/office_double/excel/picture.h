@@ -27,7 +27,7 @@ public:
         return {bytes.begin(), bytes.end()};
     }
     [[nodiscard]] office::TableLook table() const override {
-        if (table_.cells.empty()) excel::refuse("Range.Copy", "These are no cells");
+        if (table_.cells.empty()) office::model::refuse("Range.Copy", "These are no cells");
         return table_;
     }
 
@@ -42,7 +42,7 @@ inline void writePng(const excel::Box& box, const std::string& path) {
     } catch (const office::Failure&) {
         throw;
     } catch (const std::runtime_error& error) {
-        excel::refuse("Chart.Export", error.what());
+        office::model::refuse("Chart.Export", error.what());
     }
 }
 

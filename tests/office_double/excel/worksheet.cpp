@@ -164,7 +164,7 @@ void PlacedChart::writePicture(const std::string& path) {
 }
 
 void PlacedChart::paste(const office::CopiedPtr&) {
-    excel::refuse("Chart.Paste", "This chart has data of its own");
+    office::model::refuse("Chart.Paste", "This chart has data of its own");
 }
 
 void PlacedChart::select() {

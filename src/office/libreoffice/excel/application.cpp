@@ -58,8 +58,9 @@ bool isWorkbook(const ModelRef& document) {
 }
 
 [[noreturn]] void failOnOther(const rtl::OUString& url) {
-    model::refuse("Workbooks.Open",
-                  fmt::format("\"{}\" could not be opened: it is no workbook", pathOfUrl(url)));
+    office::model::refuse(
+        "Workbooks.Open",
+        fmt::format("\"{}\" could not be opened: it is no workbook", pathOfUrl(url)));
 }
 
 std::vector<model::BookPtr> CalcBooks::open() {
@@ -140,7 +141,7 @@ void CalcBooks::writePicture(const office::CopiedPtr& picture, const model::Box&
         pictureMaker(*desk_).writeMetafile(
             {}, {hundredthMmOf(area.width), hundredthMmOf(area.height)}, path);
     } else {
-        model::refuse("Chart.Export", "The chart holds something else than a picture");
+        office::model::refuse("Chart.Export", "The chart holds something else than a picture");
     }
 }
 

@@ -109,7 +109,8 @@ office::CopiedPtr CellRange::copy(office::CopySource source) {
     constexpr double thinnestPt = 0.1;
     const model::Box box = place();
     if (box.width < thinnestPt || box.height < thinnestPt)
-        model::refuse("Range.Copy", "There is nothing to copy: these rows or columns are hidden");
+        office::model::refuse("Range.Copy",
+                              "There is nothing to copy: these rows or columns are hidden");
     if (source.kind == office::CopySource::Kind::Cells)
         return std::make_shared<CopiedCells>(sheet_, std::move(source), range(), block_);
     CellsPicture picture = takePictureOfCells(*sheet_, range(), block_);

@@ -87,7 +87,7 @@ void ChartShape::writePicture(const std::string& path) {
 }
 
 void ChartShape::paste(const office::CopiedPtr&) {
-    model::refuse("Chart.Paste", "This chart has data of its own");
+    office::model::refuse("Chart.Paste", "This chart has data of its own");
 }
 
 void ChartShape::select() {

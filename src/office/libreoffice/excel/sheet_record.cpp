@@ -118,7 +118,7 @@ bool SheetRecord::isProtected() {
 
 void SheetRecord::activate() {
     const auto view = book_.view();
-    if (!view.is()) model::refuse("Sheet.Activate", "The workbook has no window");
+    if (!view.is()) office::model::refuse("Sheet.Activate", "The workbook has no window");
     view->setActiveSheet(sheet_);
 }
 

@@ -81,9 +81,9 @@ FileShapePtr pasteObject(FileSlide& slide, const Copied& copied, PasteAs as) {
     const std::string obstacle =
         objectObstacle(as, source, *deck.rules().workbooks, deck.rules().embedsSheetAlone);
     if (!obstacle.empty())
-        model::refuse("Shapes.PasteSpecial",
-                      fmt::format("It can't be {}: {}",
-                                  as == PasteAs::Linked ? "linked" : "embedded", obstacle));
+        office::model::refuse("Shapes.PasteSpecial",
+                              fmt::format("It can't be {}: {}",
+                                          as == PasteAs::Linked ? "linked" : "embedded", obstacle));
     PictureFile picture = pictureOf(copied.png(), "What was copied");
     const model::PastePlace place = model::pastePlaceFor(picture.size, deck, slide);
     const Behind behind = as == PasteAs::Linked ? link(slide, source) : embed(slide, source);
