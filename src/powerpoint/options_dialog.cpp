@@ -10,9 +10,7 @@
 
 #include "catalogue/export_run.h"
 #include "forms/desktop.h"
-#include "furniture/button_styles.h"
 #include "office/text.h"
-#include "panels/action_panel.h"
 #include "panels/dialogs.h"
 #include "panels/panel_page.h"
 #include "powerpoint/formats.h"
@@ -25,12 +23,6 @@ namespace powerpoint {
 namespace {
 
 using catalogue::ExportFormat;
-using forms::Twips;
-using State = forms::CheckBox::State;
-
-constexpr Twips width = 9240;
-constexpr Twips height = 6780;
-
 /// By format.
 constexpr std::array<std::string_view, 4> formatNames = {
     "Pictures", "editable within PowerPoint", "Excel embedded", " embedded linked objects"};
@@ -45,35 +37,19 @@ constexpr const char* slideNumberTooHigh =
     "than the number of slides in the PowerPoint file.\r"
     "Export can't take place ";
 
-std::string optionRow(std::string_view key, const forms::CheckBox& box) {
-    return panels::OptionRowHtml(key, box.caption, box.isChecked(), box.enabled);
-}
-
 }  // namespace
 
 Dialog::Dialog(forms::Desktop& theDesktop, session::OfficeSession& session,
                catalogue::ExportList& list, const catalogue::ExportChoices& choices)
-    : Form(theDesktop, "Dialog", width, height),
-      TitelBar1(*this, "TitelBar1", {0, 0, width, 420}),
-      Image1(*this, "Image1", {180, 780, 480, 480}),
+    : OptionsForm(theDesktop, session, "Dialog", "PowerPoint", "icon:powerpoint"),
       Label7(*this, "Label7", {780, 900, 3600, 240}),
       Frame3(*this, "Frame3", {180, 1500, 8880, 1740}),
       SlideTitle(*this, "SlideTitle", {180, 300, 8400, 300}, &Frame3),
       SourceInc(*this, "SourceInc", {180, 720, 8400, 300}, &Frame3),
       CheckShadow(*this, "CheckShadow", {180, 1140, 8400, 300}, &Frame3),
       CreateBlankPPT(*this, "CreateBlankPPT", {7560, 840, 1200, 420}),
-      wbStatus(*this, "wbStatus", {}),
-      lblActionBar(*this, "lblActionBar", {}),
-      lblActionBorder(*this, "lblActionBorder", {}),
-      lblActionCaption(*this, "lblActionCaption", {}),
-      ContinueOk(*this, "ContinueOk", {}),
-      session_(session),
       list_(list),
       choices_(choices) {
-    caption = "Murvane";
-    escapeCloses = true;
-    TitelBar1.caption = " Murvane";
-    Image1.setPicture({.bytes = {}, .drawing = "icon:powerpoint"});
     Label7.caption = "Active PowerPoint file:";
     SlideTitle.caption = "Use captions as slide title";
     SourceInc.caption = "Include source file sheet at the bottom of each slide";
@@ -81,44 +57,34 @@ Dialog::Dialog(forms::Desktop& theDesktop, session::OfficeSession& session,
     CreateBlankPPT.caption = "New";
     // It does nothing. Covered by the panel, it would only be a stop on the way of the Tab key.
     CreateBlankPPT.visible = false;
-    ContinueOk.caption = "Continue  >";
-    wbStatus.accessibleName = "Export options";
-    ContinueOk.onClick = [this] { ContinueOk_Click(); };
-    wbStatus.onBeforeNavigate = [this](std::string_view url) {
-        return wbStatus_BeforeNavigate2(url);
-    };
 }
 
 void Dialog::Form_Load() {
-    topmost = true;
+    beginForm();
     options_ = {};
     // Slides that exist already have their titles.
     SlideTitle.enabled = !choices_.predefinedSlides;
     CreateBlankPPT.enabled = !choices_.predefinedSlides;
-    lblActionCaption.visible = false;
     Frame3.visible = false;
     CheckShadow.visible = false;
-    shadow_.emplace().Shadow(*this);
     if (!findsPresentation()) return;
 
     office::ContinueOnFailure scope;
     namePresentation(scope);
-    panels::SetupActionPanel(*this, wbStatus, actionBar());
-    if (!message_.empty()) RenderPanel();
-    furniture::StyleAccentButton(ContinueOk, "Continue  >", 10.5);
+    showPanel();
 }
 
 bool Dialog::findsPresentation() {
-    if (!session_.PowerPointFound) {
-        session::ShowWarningNotice(session_.notices, noPowerPoint);
+    if (!session().PowerPointFound) {
+        session::ShowWarningNotice(session().notices, noPowerPoint);
         desktop().unload(*this);
         return false;
     }
     office::ContinueOnFailure scope;
     const int windows =
-        scope.read([&] { return session_.PowerPointApp.get("Windows").get("Count").toLong(); }, 0);
+        scope.read([&] { return session().PowerPointApp.get("Windows").get("Count").toLong(); }, 0);
     if (windows != 0) return true;
-    session::ShowWarningNotice(session_.notices, noPresentation);
+    session::ShowWarningNotice(session().notices, noPresentation);
     desktop().unload(*this);
     return false;
 }
@@ -127,46 +93,20 @@ bool Dialog::findsPresentation() {
 void Dialog::namePresentation(office::ContinueOnFailure& scope) {
     taken_ = 0;
     scope.attempt([&] {
-        taken_ = static_cast<std::int32_t>(catalogue::takeRows(session_, list_, choices_).size());
+        taken_ = static_cast<std::int32_t>(catalogue::takeRows(session(), list_, choices_).size());
     });
     if (taken_ < 1) {
-        ContinueOk.enabled = false;
-        SetPanelMessage("No objects were selected for pasting", "warning");
+        showNothingSelected();
         return;
     }
     scope.attempt([&] {
-        session_.SessionPresentation = session_.PowerPointApp.get("ActivePresentation").toObject();
+        session().SessionPresentation =
+            session().PowerPointApp.get("ActivePresentation").toObject();
         SetPanelMessage(fmt::format("{} object(s) will be pasted to \r{}\ras {}", taken_,
-                                    session_.SessionPresentation.get("Name").toText(),
+                                    session().SessionPresentation.get("Name").toText(),
                                     formatNames.at(static_cast<std::size_t>(choices_.format))),
                         "info");
     });
-}
-
-panels::ActionBar Dialog::actionBar() {
-    return {.bar = lblActionBar,
-            .button = ContinueOk,
-            .border = &lblActionBorder,
-            .caption = nullptr,
-            .extraButtons = {},
-            .footer = nullptr};
-}
-
-void Dialog::SetPanelMessage(std::string message, std::string kind) {
-    message_ = std::move(message);
-    kind_ = std::move(kind);
-    RenderPanel();
-}
-
-void Dialog::RenderPanel() {
-    panels::ShowActionPanel(session_.host, wbStatus,
-                            {.message = message_,
-                             .kind = kind_,
-                             .footer = {},
-                             .destinationWord = "PowerPoint",
-                             .options = BuildOptionsMarkup(),
-                             .tools = BuildToolsMarkup()});
-    panels::RestoreActionZOrder(wbStatus, actionBar());
 }
 
 std::string Dialog::BuildToolsMarkup() const {
@@ -183,21 +123,6 @@ std::string Dialog::BuildOptionsMarkup() const {
     return panels::OptionsBlockHtml({}, rows);
 }
 
-bool Dialog::wbStatus_BeforeNavigate2(std::string_view url) {
-    const std::string action = panels::ActionKeyFromUrl(url);
-    if (!action.empty()) {
-        RunPanelAction(action);
-        return true;
-    }
-    bool cancel = false;
-    const std::string option = panels::CancelIfToggle(url, cancel);
-    if (!option.empty()) {
-        ToggleOption(option);
-        RenderPanel();
-    }
-    return cancel;
-}
-
 forms::CheckBox* Dialog::optionOf(std::string_view key) {
     const std::string lower = office::lowerCase(key);
     if (lower == "slidetitle") return &SlideTitle;
@@ -208,8 +133,7 @@ forms::CheckBox* Dialog::optionOf(std::string_view key) {
 
 void Dialog::ToggleOption(std::string_view key) {
     forms::CheckBox* box = optionOf(key);
-    if (box == nullptr || !box->enabled) return;
-    box->setValue(box->isChecked() ? State::Unchecked : State::Checked);
+    if (box != nullptr && box->enabled) flip(*box);
 }
 
 void Dialog::RunPanelAction(std::string_view key) {
@@ -218,7 +142,7 @@ void Dialog::RunPanelAction(std::string_view key) {
         PredefinedStyles styles(desktop(), options_.pictureStyle);
         panels::ShowToolForm(styles);
     } else if (lower == "layout") {
-        LayoutForm layout(desktop(), session_);
+        LayoutForm layout(desktop(), session());
         panels::ShowToolForm(layout);
         if (layout.isApplied()) options_.placesShapes = true;
     }
@@ -228,32 +152,32 @@ void Dialog::ContinueOk_Click() {
     office::ContinueOnFailure scope;
     if (!presentationIsThere(scope)) {
         // With another one open the user sees its name ahead of the next click.
-        session_.SessionPresentation.release();
+        session().SessionPresentation.release();
         namePresentation(scope);
-        if (!session_.SessionPresentation) SetPanelMessage(noPowerPoint, "warning");
+        if (!session().SessionPresentation) SetPanelMessage(noPowerPoint, "warning");
         return;
     }
     if (!slideNumbersFit()) {
-        session::ShowWarningNotice(session_.notices, slideNumberTooHigh);
+        session::ShowWarningNotice(session().notices, slideNumberTooHigh);
         return;
     }
     options_.titles = SlideTitle.isChecked();
     options_.sourceLine = SourceInc.isChecked();
     options_.shadow = CheckShadow.isChecked();
-    panels::RunExport(session_, *this, taken_, [this] {
-        Batch batch{session_, list_, choices_, {}, options_};
+    panels::RunExport(session(), *this, taken_, [this] {
+        Batch batch{session(), list_, choices_, {}, options_};
         ExportRows(batch);
     });
 }
 
-bool Dialog::presentationIsThere(office::ContinueOnFailure& scope) const {
+bool Dialog::presentationIsThere(office::ContinueOnFailure& scope) {
     return scope.attempt(
-        [&] { static_cast<void>(session_.SessionPresentation.get("Name").toText()); });
+        [&] { static_cast<void>(session().SessionPresentation.get("Name").toText()); });
 }
 
 bool Dialog::slideNumbersFit() {
-    const std::int32_t slides = session_.SessionPresentation.get("Slides").get("Count").toLong();
-    const auto rows = catalogue::takeRows(session_, list_, choices_);
+    const std::int32_t slides = session().SessionPresentation.get("Slides").get("Count").toLong();
+    const auto rows = catalogue::takeRows(session(), list_, choices_);
     return std::all_of(rows.begin(), rows.end(),
                        [&](const catalogue::TakenRow& row) { return row.slide <= slides; });
 }

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "catalogue/export_list.h"
+#include "catalogue/export_run.h"
+#include "office/failure.h"
+#include "session/office_session.h"
+
+namespace destinations {
+
+/// What an export works on.
+struct RowBatch {
+    session::OfficeSession& session;
+    catalogue::ExportList& list;
+    /// Told of each item that failed; the batch then goes on with the next one. Where there is
+    /// none, the failure goes to the caller.
+    std::function<void(const catalogue::ExportItem& row, const office::Failure& failure)>
+        onFailedItem;
+};
+
+/// What a walk came to.
+struct WalkResult {
+    /// Items that have had their turn, also those that failed.
+    std::int32_t done = 0;
+    std::int32_t total = 0;
+
+    [[nodiscard]] bool wasCancelled() const { return done < total; }
+};
+
+/// Walks the rows that are checked and on a visible sheet, in display order, and lets each have its
+/// turn by `exportRow`. The row at hand is the list's selected one. When the user cancels, the walk
+/// ends after the item at hand.
+WalkResult walkRows(RowBatch& batch,
+                    const std::function<void(const catalogue::TakenRow& taken,
+                                             const catalogue::ExportItem& row)>& exportRow);
+
+/// The notice after a walk that the user has cancelled; none otherwise.
+void tellIfCancelled(session::OfficeSession& session, const WalkResult& result);
+
+}  // namespace destinations
