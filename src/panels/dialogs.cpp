@@ -52,7 +52,9 @@ void CloseAllAndEnd(session::OfficeSession& session, forms::Desktop& desktop) {
     });
     scope.attempt([&] { desktop.unloadAll(); });
     session.SessionPresentation.release();
+    session.SessionDocument.release();
     session.PowerPointApp.release();
+    session.WordApp.release();
     session.ExcelApp.release();
 }
 

@@ -3,9 +3,9 @@
 #include <fmt/format.h>
 
 #include "catalogue/export_run.h"
+#include "catalogue/row_copies.h"
 #include "office/failure_patterns.h"
 #include "powerpoint/pasted_shape.h"
-#include "powerpoint/row_copies.h"
 
 namespace powerpoint {
 
@@ -29,7 +29,7 @@ void pasteChart(OfficeSession& session, const ExportItem& row, std::int32_t slid
 
 bool PasteChartSheetEditable(OfficeSession& session, const ExportItem& row,
                              std::int32_t slideIndex) {
-    if (!CopyChartSheet(session, row.sheet, CopyPause::None)) {
+    if (!catalogue::TryCopyRow(session, row, catalogue::CopyPause::None)) {
         office::ContinueOnFailure scope;
         Object chart;
         scope.attempt([&] {
@@ -52,19 +52,13 @@ bool PasteChartSheetEditable(OfficeSession& session, const ExportItem& row,
 
 bool PasteEmbeddedChartEditable(OfficeSession& session, const ExportItem& row,
                                 std::int32_t slideIndex) {
-    session.ActiveBook.get("Sheets")
-        .get("Item", row.sheet)
-        .call("ChartObjects")
-        .get("Item", row.name)
-        .get("Chart")
-        .get("ChartArea")
-        .call("Copy");
+    catalogue::CopyRow(session, row);
     pasteChart(session, row, slideIndex);
     return true;
 }
 
 bool PasteRangeEditable(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex) {
-    if (!CopyRange(session, row, CopyPause::None)) {
+    if (!catalogue::TryCopyRow(session, row, catalogue::CopyPause::None)) {
         session::ShowWarningNotice(session.notices,
                                    fmt::format("Named range '{}' not found.", row.name));
         return false;

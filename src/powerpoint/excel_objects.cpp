@@ -34,7 +34,7 @@ bool PasteEmbeddedObject(OfficeSession& session, std::int32_t slideIndex) {
 }
 
 constexpr ObjectRoute embedded{.paste = PasteEmbeddedObject,
-                               .pause = CopyPause::UntilRendered,
+                               .pause = catalogue::CopyPause::UntilRendered,
                                .chartSheetTarget = "as an embedded Excel object.",
                                .chartTarget = "to PowerPoint.",
                                .rangeTarget = "as an embedded Excel object."};

@@ -27,7 +27,7 @@ bool PasteLinkedObject(OfficeSession& session, std::int32_t slideIndex) {
 }
 
 constexpr ObjectRoute linked{.paste = PasteLinkedObject,
-                             .pause = CopyPause::None,
+                             .pause = catalogue::CopyPause::None,
                              .chartSheetTarget = "as a linked object.",
                              .chartTarget = "as a linked object.",
                              .rangeTarget = "as a linked object."};

@@ -19,25 +19,21 @@ using office::Object;
 using office::Value;
 using session::OfficeSession;
 
-/// A row's copy, and the notices of its kind.
+/// The notices of a row's kind.
 struct RowTexts {
-    bool isCopied;
     std::string copyFailed;
     std::string pasteFailed;
 };
 
-RowTexts copyRow(OfficeSession& session, const ExportItem& row, const ObjectRoute& route) {
+RowTexts textsOf(const ExportItem& row, const ObjectRoute& route) {
     if (row.isChartSheet())
         return {
-            CopyChartSheet(session, row.sheet, route.pause),
             fmt::format("No chart found in sheet: {}", row.sheet),
             fmt::format("Could not paste chart sheet '{}' {}", row.sheet, route.chartSheetTarget)};
     if (row.isEmbeddedChart())
-        return {CopyEmbeddedChart(session, row.sheet, row.name, route.pause),
-                fmt::format("Chart '{}' was not found on sheet '{}'.", row.name, row.sheet),
+        return {fmt::format("Chart '{}' was not found on sheet '{}'.", row.name, row.sheet),
                 fmt::format("Could not paste embedded chart '{}' {}", row.name, route.chartTarget)};
-    return {CopyRange(session, row, route.pause),
-            fmt::format("Named range '{}' not found.", row.name),
+    return {fmt::format("Named range '{}' not found.", row.name),
             fmt::format("Could not paste '{}' {}", row.name, route.rangeTarget)};
 }
 
@@ -73,13 +69,14 @@ bool pasteByAttempts(OfficeSession& session, std::int32_t slideIndex, NextAttemp
 bool pasteRowAsObject(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex,
                       const ObjectRoute& route) {
     catalogue::RestoreScreenUpdating(session);
-    const RowTexts texts = copyRow(session, row, route);
-    const bool isThere = texts.isCopied && route.paste(session, slideIndex);
+    const bool isCopied = catalogue::TryCopyRow(session, row, route.pause);
+    const bool isThere = isCopied && route.paste(session, slideIndex);
     if (isThere) {
         describeLastShape(slideOf(session, slideIndex), row);
     } else {
+        const RowTexts texts = textsOf(row, route);
         session::ShowWarningNotice(session.notices,
-                                   texts.isCopied ? texts.pasteFailed : texts.copyFailed);
+                                   isCopied ? texts.pasteFailed : texts.copyFailed);
     }
     return isThere;
 }

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "catalogue/export_list.h"
-#include "powerpoint/row_copies.h"
+#include "catalogue/row_copies.h"
 #include "session/office_session.h"
 
 /// What embedding and linking have in common: a copy, a paste that is asked for in several ways
@@ -25,7 +25,7 @@ bool pasteByAttempts(session::OfficeSession& session, std::int32_t slideIndex, N
 /// What tells the two apart. The targets end the sentence that a paste failed.
 struct ObjectRoute {
     bool (*paste)(session::OfficeSession& session, std::int32_t slideIndex);
-    CopyPause pause;
+    catalogue::CopyPause pause;
     const char* chartSheetTarget;
     const char* chartTarget;
     const char* rangeTarget;

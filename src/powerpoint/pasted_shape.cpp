@@ -1,5 +1,6 @@
 #include "powerpoint/pasted_shape.h"
 
+#include "catalogue/row_copies.h"
 #include "office/failure_patterns.h"
 
 namespace powerpoint {
@@ -12,9 +13,8 @@ Object slideOf(const session::OfficeSession& session, std::int32_t slideIndex) {
 }
 
 void describeShape(const Object& shape, const ExportItem& row) {
-    const std::string& name = row.isChartSheet() ? row.sheet : row.name;
     office::ContinueOnFailure().attempt(
-        [&] { shape.put("AlternativeText", row.caption.empty() ? name : row.caption); });
+        [&] { shape.put("AlternativeText", catalogue::DescriptionOf(row)); });
 }
 
 void describeLastShape(const Object& slide, const ExportItem& row) {

@@ -252,8 +252,10 @@ void CloseSession(OfficeSession& session, const std::function<void()>& unloadAll
     session.MainFormOpen = false;
     session.ActiveBook.release();
     session.SessionPresentation.release();
+    session.SessionDocument.release();
     session.ExcelApp.release();
     session.PowerPointApp.release();
+    session.WordApp.release();
     if (unloadAllForms) office::ContinueOnFailure().attempt(unloadAllForms);
 }
 

@@ -30,6 +30,8 @@ struct OfficeSession {
     office::Object ActiveBook;
     office::Object PowerPointApp;
     office::Object SessionPresentation;
+    office::Object WordApp;
+    office::Object SessionDocument;
     std::string ActiveSheetName;
     bool PowerPointFound = false;
     bool MainFormOpen = false;

@@ -23,6 +23,7 @@ public:
                               return paragraphFormatObject(self.home(),
                                                            &TextDocument::changeLastParagraph);
                           })
+                .property("StoryLength", [](Self& self) { return self.document().length(); })
                 .method("Collapse", {"Direction"}, &Self::collapse)
                 .method("InsertParagraphAfter", {},
                         [](Self& self) { self.document().appendParagraph(); })

@@ -104,6 +104,10 @@ public:
     virtual std::string title() = 0;
     virtual void setTitle(const std::string& title) = 0;
 
+    /// Characters of the text itself, paragraph ends and objects counted as one each: 1 for an
+    /// empty document.
+    virtual std::int32_t length() = 0;
+
     // The end of the text.
     /// A new empty paragraph, which looks as the last one does.
     virtual void appendParagraph() = 0;

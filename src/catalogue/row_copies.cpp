@@ -1,0 +1,72 @@
+#include "catalogue/row_copies.h"
+
+#include <fmt/format.h>
+
+#include "catalogue/row_objects.h"
+#include "office/failure_patterns.h"
+#include "session/waits.h"
+
+namespace catalogue {
+
+namespace {
+
+using office::arg;
+using session::OfficeSession;
+
+/// The chart of a row: of its chart sheet, or the one that lies on its sheet.
+office::Object chartOf(const OfficeSession& session, const ExportItem& row) {
+    if (row.isChartSheet())
+        return session.ActiveBook.get("Charts").get("Item", row.sheet).toObject();
+    return session.ActiveBook.get("Sheets")
+        .get("Item", row.sheet)
+        .call("ChartObjects")
+        .get("Item", row.name)
+        .get("Chart")
+        .toObject();
+}
+
+office::Object requiredRange(OfficeSession& session, const ExportItem& row) {
+    office::Object range = rangeOf(session, row);
+    if (!range)
+        throw office::Failure(office::FailureNumber::ApplicationDefined, "Range",
+                              fmt::format("Named range '{}' not found.", row.name));
+    return range;
+}
+
+}  // namespace
+
+void CopyRow(OfficeSession& session, const ExportItem& row) {
+    if (row.kind == ItemKind::Range) {
+        requiredRange(session, row).call("Copy");
+    } else {
+        chartOf(session, row).get("ChartArea").call("Copy");
+    }
+}
+
+void CopyRowAsPicture(OfficeSession& session, const ExportItem& row) {
+    constexpr std::int32_t asOnScreen = 1;
+    constexpr std::int32_t pictureFormat = -4147;
+    if (row.kind == ItemKind::Range) {
+        requiredRange(session, row)
+            .call("CopyPicture", arg("Appearance", asOnScreen), arg("Format", pictureFormat));
+    } else {
+        chartOf(session, row)
+            .call("CopyPicture", arg("Appearance", asOnScreen), arg("Size", asOnScreen),
+                  arg("Format", pictureFormat));
+    }
+}
+
+bool TryCopyRow(OfficeSession& session, const ExportItem& row, CopyPause pause) {
+    constexpr std::int32_t renderingMs = 250;
+    office::ContinueOnFailure scope;
+    if (!scope.attempt([&] { CopyRow(session, row); })) return false;
+    if (pause == CopyPause::UntilRendered) session::WaitMilliseconds(session, renderingMs);
+    return true;
+}
+
+std::string DescriptionOf(const ExportItem& row) {
+    if (!row.caption.empty()) return row.caption;
+    return row.isChartSheet() ? row.sheet : row.name;
+}
+
+}  // namespace catalogue

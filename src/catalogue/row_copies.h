@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+#include "catalogue/export_list.h"
+#include "session/office_session.h"
+
+/// Putting a row's object on the clipboard, for the formats that paste.
+///
+/// Nothing is activated for it: Excel copies charts and cells of sheets that aren't on top as well,
+/// and what the user is typing into a cell would be lost.
+namespace catalogue {
+
+/// What stands between a copy and its paste: an object of a workbook is rendered by another
+/// process.
+enum class CopyPause { None, UntilRendered };
+
+/// Copies what a row stands for, or a picture of it that can be drawn at any size. Plain code: what
+/// fails goes to the caller.
+void CopyRow(session::OfficeSession& session, const ExportItem& row);
+void CopyRowAsPicture(session::OfficeSession& session, const ExportItem& row);
+
+/// False if there is no such object or if it can't be copied.
+bool TryCopyRow(session::OfficeSession& session, const ExportItem& row, CopyPause pause);
+
+/// What an item is called where it can't be seen: its caption, or else the object's name.
+[[nodiscard]] std::string DescriptionOf(const ExportItem& row);
+
+}  // namespace catalogue
