@@ -2,22 +2,25 @@
 
 #include <fcntl.h>
 #include <fmt/format.h>
+#include <pwd.h>
 #include <signal.h>
 #include <spawn.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <charconv>
 #include <chrono>
-#include <cstdio>
 #include <cstdlib>
-#include <cstring>
+#include <ctime>
 #include <filesystem>
 #include <system_error>
 #include <thread>
 #include <vector>
 
+#include "apps/image_file.h"
+#include "apps/whole_file.h"
 #include "office/failure.h"
 #include "session/file_names.h"
 
@@ -48,19 +51,43 @@ public:
         return ::fcntl(file_, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
     }
 
-    [[nodiscard]] bool takes(std::string_view text) const {
-        while (!text.empty()) {
-            const ssize_t written = ::write(file_, text.data(), text.size());
-            if (written < 0 && errno == EINTR) continue;
-            if (written <= 0) return false;
-            text.remove_prefix(static_cast<std::size_t>(written));
-        }
-        return true;
-    }
-
 private:
     int file_;
 };
+
+/// Starts the desktop's own program that finds the right one for a file or an address, without a
+/// shell. It says nothing on the terminal, and what it starts outlives this process.
+std::optional<pid_t> startOpener(std::string target) {
+    std::string command = "xdg-open";
+    char* const arguments[] = {command.data(), target.data(), nullptr};
+    posix_spawn_file_actions_t files;
+    posix_spawnattr_t attributes;
+    ::posix_spawn_file_actions_init(&files);
+    ::posix_spawnattr_init(&attributes);
+    for (const int output : {STDOUT_FILENO, STDERR_FILENO})
+        ::posix_spawn_file_actions_addopen(&files, output, "/dev/null", O_WRONLY, 0);
+    ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
+    pid_t process = 0;
+    const bool isStarted =
+        ::posix_spawnp(&process, command.c_str(), &files, &attributes, arguments, environ) == 0;
+    ::posix_spawnattr_destroy(&attributes);
+    ::posix_spawn_file_actions_destroy(&files);
+    return isStarted ? std::optional(process) : std::nullopt;
+}
+
+/// Some openers end when they have handed over, others with the program that they have started; one
+/// that is still running after a while has found a program.
+bool endsWell(pid_t opener) {
+    constexpr std::chrono::milliseconds step{20};
+    constexpr int steps = 150;
+    int status = 0;
+    for (int i = 0; i < steps; ++i) {
+        if (::waitpid(opener, &status, WNOHANG) == opener)
+            return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        std::this_thread::sleep_for(step);
+    }
+    return true;
+}
 
 constexpr std::string_view folderStart = "murvane-of-";
 
@@ -114,6 +141,14 @@ std::uint32_t PosixHost::tickCount() {
         std::chrono::duration_cast<std::chrono::milliseconds>(now).count());
 }
 
+session::LocalTime PosixHost::localTime() {
+    const std::time_t now = std::time(nullptr);
+    struct tm parts = {};
+    ::localtime_r(&now, &parts);
+    return {parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday,
+            parts.tm_hour,        parts.tm_min,     parts.tm_sec};
+}
+
 void PosixHost::sleep(std::uint32_t milliseconds) {
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }
@@ -148,19 +183,8 @@ std::string PosixHost::temporaryFile(std::string_view fileName) {
 
 std::string PosixHost::writeTemporaryFile(std::string_view fileName, std::string_view text) {
     std::string path = temporaryFile(fileName);
-    // A neighbour, for this user alone, that then takes the name: whole, and without following a
-    // link.
-    std::string neighbour = path + ".XXXXXX";
-    bool isWritten = false;
-    {
-        const OpenFile file(::mkostemp(neighbour.data(), O_CLOEXEC));
-        isWritten = file.isOpen() && file.takes(text);
-    }
-    if (isWritten && std::rename(neighbour.c_str(), path.c_str()) == 0) return path;
-    const std::string reason = std::strerror(errno);
-    ::unlink(neighbour.c_str());
-    throw Failure(FailureNumber::PathFileAccess, "Host.writeTemporaryFile",
-                  path + " can't be written: " + reason);
+    writeWhole(path, text, Readers::User);
+    return path;
 }
 
 void PosixHost::deleteFile(std::string_view path) {
@@ -187,13 +211,49 @@ bool PosixHost::fileIsHeld(std::string_view path) {
     return fs::exists(mark, ignored);
 }
 
+bool PosixHost::pathExists(std::string_view path) {
+    struct stat ignored = {};
+    return ::lstat(std::string(path).c_str(), &ignored) == 0;
+}
+
+std::string PosixHost::outputFolder(std::string_view name) {
+    session::requireFileName(name);
+    const auto home = environment("HOME");
+    if (home) return *home + "/" + std::string(name);
+    const struct passwd* const user = ::getpwuid(::geteuid());
+    return std::string(user == nullptr ? "/tmp" : user->pw_dir) + "/" + std::string(name);
+}
+
+void PosixHost::makeFolder(std::string_view path) {
+    apps::makeFolder(std::string(path));
+}
+
+void PosixHost::removeEmptyFolder(std::string_view path) {
+    ::rmdir(std::string(path).c_str());
+}
+
+bool PosixHost::folderCanBeWrittenTo(std::string_view path) {
+    return takesFiles(std::string(path));
+}
+
+void PosixHost::writeFile(std::string_view path, std::string_view text) {
+    writeWhole(std::string(path), text, Readers::Everybody);
+}
+
+void PosixHost::writeImage(std::string_view png, session::ImageFormat format,
+                           std::string_view path) {
+    writeWhole(std::string(path), imageFileOf(png, format), Readers::Everybody);
+}
+
 void PosixHost::openLink(std::string_view address) {
-    std::string command = "xdg-open";
-    std::string target(address);
-    char* const arguments[] = {command.data(), target.data(), nullptr};
-    pid_t process = 0;
     // The browser goes on for itself; whether it came up is nobody's concern.
-    ::posix_spawnp(&process, command.c_str(), nullptr, nullptr, arguments, environ);
+    static_cast<void>(startOpener(std::string(address)));
+}
+
+bool PosixHost::openFile(std::string_view path) {
+    if (!pathExists(path)) return false;
+    const auto opener = startOpener(fs::absolute(fs::path(path)).string());
+    return opener && endsWell(*opener);
 }
 
 void PosixHost::messageBox(std::string_view text, std::string_view title) {

@@ -18,6 +18,7 @@ public:
     ~PosixHost() override;
 
     [[nodiscard]] std::uint32_t tickCount() override;
+    [[nodiscard]] session::LocalTime localTime() override;
     void sleep(std::uint32_t milliseconds) override;
     /// No events come from anywhere: a program without windows.
     void letEventsRun() override {}
@@ -27,12 +28,26 @@ public:
     void deleteFile(std::string_view path) override;
     [[nodiscard]] bool fileExists(std::string_view path) override;
     [[nodiscard]] bool fileIsHeld(std::string_view path) override;
+    [[nodiscard]] bool pathExists(std::string_view path) override;
+    [[nodiscard]] std::string outputFolder(std::string_view name) override;
+    void makeFolder(std::string_view path) override;
+    void removeEmptyFolder(std::string_view path) override;
+    [[nodiscard]] bool folderCanBeWrittenTo(std::string_view path) override;
+    void writeFile(std::string_view path, std::string_view text) override;
+    void writeImage(std::string_view png, session::ImageFormat format,
+                    std::string_view path) override;
     [[nodiscard]] session::TextSize textSize(std::string_view text, const session::TextFont& font,
                                              std::optional<double> widthPt) override {
         if (!texts_) texts_.emplace();
         return texts_->sizeOf(text, font, widthPt);
     }
     void openLink(std::string_view address) override;
+    bool openFile(std::string_view path) override;
+    [[nodiscard]] std::optional<std::string> chooseFolder(std::string_view,
+                                                          std::string_view) override {
+        return std::nullopt;
+    }
+    [[nodiscard]] bool ask(std::string_view, std::string_view) override { return false; }
     void messageBox(std::string_view text, std::string_view title) override;
 
 private:

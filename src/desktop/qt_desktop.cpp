@@ -8,6 +8,7 @@
 #include <QtGui/QWindow>
 #include <QtWebEngineCore/QWebEngineProfile>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMessageBox>
 
 #include <algorithm>
@@ -145,12 +146,10 @@ forms::Screen QtDesktop::screen() const {
             forms::twipsPerPixel};
 }
 
-void QtDesktop::messageBox(std::string_view text, std::string_view title) {
-    if (answer_) {
-        answer_(text, title);
-        return;
-    }
-    QMessageBox box(QMessageBox::NoIcon, textOf(title), textOf(text), QMessageBox::Ok);
+bool QtDesktop::showBox(std::string_view text, std::string_view title, bool asks) {
+    if (answer_) return answer_(text, title);
+    QMessageBox box(QMessageBox::NoIcon, textOf(title), textOf(text),
+                    asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     QPalette colours = box.palette();
     colours.setColor(QPalette::Window, colourOf(furniture::palette::ThemeGround));
     colours.setColor(QPalette::WindowText, colourOf(furniture::palette::ThemeText));
@@ -161,11 +160,35 @@ void QtDesktop::messageBox(std::string_view text, std::string_view title) {
     box.setPalette(colours);
     box.setFont(fontOf({.sizePt = 9.75}));
     constexpr int iconSide = 40;
-    box.setIconPixmap(QIcon(QStringLiteral(":/icons/warning.svg"))
-                          .pixmap(QSize(iconSide, iconSide), box.devicePixelRatioF()));
+    if (!asks) {
+        box.setIconPixmap(QIcon(QStringLiteral(":/icons/warning.svg"))
+                              .pixmap(QSize(iconSide, iconSide), box.devicePixelRatioF()));
+    }
     box.setWindowFlag(Qt::WindowStaysOnTopHint);
     box.setTextFormat(Qt::PlainText);
-    box.exec();
+    return box.exec() == QMessageBox::Yes;
+}
+
+void QtDesktop::messageBox(std::string_view text, std::string_view title) {
+    showBox(text, title, false);
+}
+
+bool QtDesktop::ask(std::string_view text, std::string_view title) {
+    return showBox(text, title, true);
+}
+
+std::optional<std::string> QtDesktop::chooseFolder(std::string_view title, std::string_view start) {
+    QFileDialog dialog(nullptr, textOf(title), textOf(start));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    // Places of the network have no path that files could be written to.
+    dialog.setSupportedSchemes({QStringLiteral("file")});
+    // The forms are topmost, and it would come up behind them.
+    dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    std::string folder = textOf(dialog.selectedFiles().constFirst());
+    if (!folder.starts_with('/')) return std::nullopt;
+    return folder;
 }
 
 void QtDesktop::showWorking(bool works) {

@@ -32,10 +32,14 @@ public:
     void waitForEvents() override;
     [[nodiscard]] forms::Screen screen() const override;
     void messageBox(std::string_view text, std::string_view title) override;
+    [[nodiscard]] bool ask(std::string_view text, std::string_view title) override;
+    [[nodiscard]] std::optional<std::string> chooseFolder(std::string_view title,
+                                                          std::string_view start) override;
     void showWorking(bool works) override;
 
-    /// Answers message boxes instead of the user.
-    using MessageBoxAnswer = std::function<void(std::string_view text, std::string_view title)>;
+    /// Answers message boxes instead of the user. The result counts where the box asks: true for
+    /// Yes.
+    using MessageBoxAnswer = std::function<bool(std::string_view text, std::string_view title)>;
     void answerMessageBoxes(MessageBoxAnswer answer) { answer_ = std::move(answer); }
 
     /// The form's part of its window, and the widget of a control; null where there is none. For
@@ -58,6 +62,7 @@ private:
     [[nodiscard]] bool holdsEvents() const { return holds_ > 0; }
     [[nodiscard]] QWebEngineProfile& browserProfile();
 
+    bool showBox(std::string_view text, std::string_view title, bool asks);
     void sync();
     void pump(bool wait);
     /// Destroys the windows that have been closed and whose event procedures have ended.

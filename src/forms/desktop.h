@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -54,6 +56,12 @@ public:
     [[nodiscard]] virtual Screen screen() const = 0;
     /// The platform's plain message box with an exclamation mark, above everything.
     virtual void messageBox(std::string_view text, std::string_view title) = 0;
+    /// The same with Yes and No; true for Yes.
+    [[nodiscard]] virtual bool ask(std::string_view text, std::string_view title) = 0;
+    /// The platform's dialog for a folder, beginning at `start`. A full path, or nothing if it is
+    /// cancelled.
+    [[nodiscard]] virtual std::optional<std::string> chooseFolder(std::string_view title,
+                                                                  std::string_view start) = 0;
     /// The mouse pointer says that the program works, or what it said before. Calls nest.
     virtual void showWorking(bool /*works*/) {}
 

@@ -17,6 +17,19 @@ struct TextFont {
     double sizePt = 0;
 };
 
+/// The clock on the wall, in the user's time zone. Months and days count from 1.
+struct LocalTime {
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    int hour = 0;
+    int minute = 0;
+    int second = 0;
+};
+
+/// The kinds of files that a picture can be kept in.
+enum class ImageFormat { Png, Gif, Jpeg, Bmp, Tiff };
+
 /// The machine that the program runs on: its clock, files, environment and the plainest way to tell
 /// the user something. Every path, clock and wait of the core goes through here, so that a test can
 /// answer it.
@@ -29,6 +42,7 @@ public:
 
     /// Milliseconds since some start, as a 32-bit counter that wraps around.
     [[nodiscard]] virtual std::uint32_t tickCount() = 0;
+    [[nodiscard]] virtual LocalTime localTime() = 0;
     /// Waits without letting events run.
     virtual void sleep(std::uint32_t milliseconds) = 0;
     /// Lets the events that are waiting run, then returns.
@@ -56,6 +70,29 @@ public:
     /// True if another process holds the file, or it can't be opened for reading.
     [[nodiscard]] virtual bool fileIsHeld(std::string_view path) = 0;
 
+    /// Whether the name is taken, by whatever it may be: a file, a folder, a link that leads
+    /// nowhere.
+    [[nodiscard]] virtual bool pathExists(std::string_view path) = 0;
+
+    /// The full path of a folder for the program's output, in the user's home. Nothing is made.
+    [[nodiscard]] virtual std::string outputFolder(std::string_view name) = 0;
+    /// Makes a folder and those above it that are missing; one that is there already is fine.
+    /// `office::Failure` 75 where a file is in the way, or it can't be made.
+    virtual void makeFolder(std::string_view path) = 0;
+    /// Takes away a folder that holds nothing; silent about any other.
+    virtual void removeEmptyFolder(std::string_view path) = 0;
+    /// Found out by trying. False for anything but a folder.
+    [[nodiscard]] virtual bool folderCanBeWrittenTo(std::string_view path) = 0;
+
+    /// Writes a file as a whole: a reader meets the earlier file or this one, and so it is after a
+    /// failure. A link at the path is replaced. `office::Failure` 75 with the reason if it can't be
+    /// written.
+    virtual void writeFile(std::string_view path, std::string_view text) = 0;
+    /// Writes a picture, given as the bytes of a PNG file, in the same way. GIF, JPEG (of quality
+    /// 75) and BMP get a white ground where it is transparent. The density goes along wherever the
+    /// format has one. `office::Failure` 75 as above, 1004 if the bytes are no picture.
+    virtual void writeImage(std::string_view png, ImageFormat format, std::string_view path) = 0;
+
     /// How much room a text takes in the fonts of this machine, or in what stands in for the one
     /// that isn't there. Lines end at line feeds, and at the width if there is one.
     [[nodiscard]] virtual TextSize textSize(std::string_view text, const TextFont& font,
@@ -63,6 +100,18 @@ public:
 
     /// Opens a web address with the user's browser. Failures are silent.
     virtual void openLink(std::string_view address) = 0;
+
+    /// Opens a file or a folder with the program that the user has for it. False if there is none,
+    /// or nothing stands at the path.
+    virtual bool openFile(std::string_view path) = 0;
+
+    /// Lets the user choose a folder, beginning at `start`. Nothing if they cancel, or nobody
+    /// is there to be asked.
+    [[nodiscard]] virtual std::optional<std::string> chooseFolder(std::string_view title,
+                                                                  std::string_view start) = 0;
+
+    /// A plain box with Yes and No. False for No, and where nobody is there to be asked.
+    [[nodiscard]] virtual bool ask(std::string_view text, std::string_view title) = 0;
 
     /// The system's plain message box with an exclamation mark, for when nothing better can be
     /// shown.

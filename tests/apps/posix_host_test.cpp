@@ -1,10 +1,12 @@
 #include <fcntl.h>
 #include <fmt/format.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <memory>
 
 #include "apps/posix_host.h"
@@ -93,6 +95,65 @@ TEST_F(PosixHostTest, ATextTakesItsPlaceAsAWholeForThisUserAloneAndNeverGoesThro
     EXPECT_EQ(modeOf(file), 0600U);
     const auto entries = std::filesystem::directory_iterator(file.parent_path());
     EXPECT_EQ(std::distance(begin(entries), end(entries)), 1);
+}
+
+TEST_F(PosixHostTest, FoldersForOutputStandInAHomeOfAnyName) {
+    const std::string home = folder.file("Frau Möller's home");
+    ::setenv("HOME", home.c_str(), 1);
+    const std::string made = host->outputFolder("MurvaneHTML");
+    EXPECT_EQ(made, home + "/MurvaneHTML");
+    EXPECT_FALSE(host->folderCanBeWrittenTo(made));
+    host->makeFolder(made);
+    host->makeFolder(made);
+    EXPECT_TRUE(host->folderCanBeWrittenTo(made));
+    host->writeFile(made + "/page.html", "x");
+    host->removeEmptyFolder(made);
+    EXPECT_TRUE(host->pathExists(made)) << "it holds something";
+    EXPECT_EQ(support::failureOf([&] { host->makeFolder(made + "/page.html"); }), 75);
+    EXPECT_EQ(support::failureOf([&] { host->makeFolder("/proc/none/at all"); }), 75);
+    std::filesystem::create_symlink("/nowhere", made + "/link");
+    EXPECT_TRUE(host->pathExists(made + "/link")) << "its name is taken";
+}
+
+TEST_F(PosixHostTest, AFileThatCantBeWrittenLeavesTheEarlierOneAndNothingBesideIt) {
+    host->writeFile(folder.file("page.html"), "one");
+    host->writeFile(folder.file("page.html"), "two");
+    EXPECT_EQ(folder.read("page.html"), "two");
+    host->makeFolder(folder.file("taken"));
+    for (const std::string& path :
+         {folder.file("taken"), folder.file("none/page.html"), folder.file("page.html/below"),
+          folder.file(std::string(256, 'x')), std::string("/dev/full/x")}) {
+        EXPECT_EQ(support::failureOf([&] { host->writeFile(path, "x"); }), 75) << path;
+    }
+    host->writeFile(folder.file(std::string(255, 'x')), "as long as names can be");
+    // A file may grow no further than this, as on a disk that is full.
+    const struct rlimit small = {.rlim_cur = 1000, .rlim_max = RLIM_INFINITY};
+    const struct rlimit large = {.rlim_cur = RLIM_INFINITY, .rlim_max = RLIM_INFINITY};
+    std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    EXPECT_EQ(support::failureOf(
+                  [&] { host->writeFile(folder.file("page.html"), std::string(5000, 'x')); }),
+              75);
+    ::setrlimit(RLIMIT_FSIZE, &large);
+    EXPECT_EQ(folder.read("page.html"), "two");
+    EXPECT_EQ(folder.names(), (std::set<std::string>{"page.html", "taken", std::string(255, 'x')}));
+}
+
+TEST_F(PosixHostTest, WhatOpensAFileSaysWhetherItDid) {
+    const std::string file = folder.write("a page; touch gone.html", "x");
+    folder.write("xdg-open", "#!/bin/sh\nprintf %s \"$1\" > \"$0.told\"\nexit \"$TOLD_STATUS\"\n");
+    std::filesystem::permissions(folder.file("xdg-open"), std::filesystem::perms::owner_all);
+    const std::string before = ::getenv("PATH");
+    ::setenv("PATH", (folder.path().string() + ":" + before).c_str(), 1);
+    for (const auto& [status, isOpened] : {std::pair("0", true), std::pair("3", false)}) {
+        ::setenv("TOLD_STATUS", status, 1);
+        EXPECT_EQ(host->openFile(file), isOpened) << status;
+    }
+    EXPECT_EQ(folder.read("xdg-open.told"), file);
+    EXPECT_FALSE(host->openFile(folder.file("none")));
+    ::setenv("PATH", "/nowhere", 1);
+    EXPECT_FALSE(host->openFile(file));
+    ::setenv("PATH", before.c_str(), 1);
 }
 
 TEST_F(PosixHostTest, DeletingTellsAMissingFileFromOneThatStays) {

@@ -47,6 +47,15 @@ void WindowlessDesktop::messageBox(std::string_view text, std::string_view title
     messages.push_back({std::string(text), std::string(title)});
 }
 
+bool WindowlessDesktop::ask(std::string_view text, std::string_view title) {
+    messageBox(text, title);
+    return saysYes;
+}
+
+std::optional<std::string> WindowlessDesktop::chooseFolder(std::string_view, std::string_view) {
+    return chosenFolder;
+}
+
 void WindowlessDesktop::openWindow(forms::Form& form, forms::ShowMode mode) {
     if (!opensWindows) throw std::runtime_error("no window can be opened");
     record.push_back("show " + form.name() +

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,6 +33,9 @@ public:
     /// "show Dialog modal", "show Progress modeless", "unload Dialog", in order.
     std::vector<std::string> record;
     std::vector<Message> messages;
+    /// What the user answers to plain questions and chooses as a folder.
+    bool saysYes = false;
+    std::optional<std::string> chosenFolder;
     int pumps = 0;
     forms::Screen size{.width = 1280 * 15, .height = 1024 * 15};
     PageScript page;
@@ -58,6 +62,9 @@ public:
     void waitForEvents() override;
     [[nodiscard]] forms::Screen screen() const override { return size; }
     void messageBox(std::string_view text, std::string_view title) override;
+    [[nodiscard]] bool ask(std::string_view text, std::string_view title) override;
+    [[nodiscard]] std::optional<std::string> chooseFolder(std::string_view title,
+                                                          std::string_view start) override;
 
 protected:
     void openWindow(forms::Form& form, forms::ShowMode mode) override;

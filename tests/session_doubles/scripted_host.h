@@ -45,11 +45,28 @@ public:
     /// No temporary file can be written.
     bool temporaryFolderIsFull = false;
 
+    /// The time of day never passes.
+    session::LocalTime time{2026, 3, 14, 9, 26, 53};
+    std::string home = "/home/user";
+    std::set<std::string, std::less<>> folders;
+    /// Folders in which nothing can be written or made.
+    std::set<std::string, std::less<>> fullFolders;
+    /// The format of each picture that was written, by its full path; its bytes are in `written`.
+    std::map<std::string, session::ImageFormat, std::less<>> images;
+
+    /// What the user answers to plain questions, chooses as a folder, and has programs for.
+    bool saysYes = false;
+    std::optional<std::string> chosenFolder;
+    bool opensFiles = true;
+    std::vector<std::string> openedFiles;
+
     std::vector<std::string> deletedFiles;
     std::vector<std::string> links;
     std::vector<Message> messages;
 
     [[nodiscard]] std::uint32_t tickCount() override { return now; }
+
+    [[nodiscard]] session::LocalTime localTime() override { return time; }
 
     void sleep(std::uint32_t milliseconds) override {
         now += milliseconds;
@@ -99,6 +116,43 @@ public:
         return heldFiles.contains(path);
     }
 
+    [[nodiscard]] bool pathExists(std::string_view path) override {
+        return files.contains(path) || folders.contains(path);
+    }
+
+    [[nodiscard]] std::string outputFolder(std::string_view name) override {
+        session::requireFileName(name);
+        return home + "/" + std::string(name);
+    }
+
+    void makeFolder(std::string_view path) override {
+        if (files.contains(path) || fullFolders.contains(folderOf(path))) fail(path, "made");
+        folders.emplace(path);
+    }
+
+    void removeEmptyFolder(std::string_view path) override {
+        const std::string start = std::string(path) + "/";
+        const auto next = files.lower_bound(start);
+        if (next == files.end() || !next->starts_with(start)) folders.erase(std::string(path));
+    }
+
+    [[nodiscard]] bool folderCanBeWrittenTo(std::string_view path) override {
+        return folders.contains(path) && !fullFolders.contains(path);
+    }
+
+    void writeFile(std::string_view path, std::string_view text) override {
+        const bool isPlace = folders.contains(folderOf(path)) && !folders.contains(path);
+        if (!isPlace || fullFolders.contains(folderOf(path))) fail(path, "written");
+        written[std::string(path)] = text;
+        files.emplace(path);
+    }
+
+    void writeImage(std::string_view png, session::ImageFormat format,
+                    std::string_view path) override {
+        writeFile(path, png);
+        images[std::string(path)] = format;
+    }
+
     /// Letters as wide as half their height.
     [[nodiscard]] session::TextSize textSize(std::string_view text, const session::TextFont& font,
                                              std::optional<double> widthPt) override {
@@ -107,8 +161,30 @@ public:
     }
 
     void openLink(std::string_view address) override { links.emplace_back(address); }
+    bool openFile(std::string_view path) override {
+        openedFiles.emplace_back(path);
+        return opensFiles;
+    }
+    [[nodiscard]] std::optional<std::string> chooseFolder(std::string_view,
+                                                          std::string_view) override {
+        return chosenFolder;
+    }
+    [[nodiscard]] bool ask(std::string_view text, std::string_view title) override {
+        messageBox(text, title);
+        return saysYes;
+    }
     void messageBox(std::string_view text, std::string_view title) override {
         messages.push_back({std::string(text), std::string(title)});
+    }
+
+private:
+    [[nodiscard]] static std::string_view folderOf(std::string_view path) {
+        return path.substr(0, path.rfind('/'));
+    }
+
+    [[noreturn]] static void fail(std::string_view path, const char* what) {
+        throw office::Failure(office::FailureNumber::PathFileAccess, "Host",
+                              std::string(path) + " can't be " + what + ": No room");
     }
 };
 

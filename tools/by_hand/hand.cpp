@@ -75,8 +75,10 @@ QWebEngineView& pageOf(const desktop::QtDesktop& desktop, const json& order) {
 }  // namespace
 
 Hand::Hand(desktop::QtDesktop& desktop) : desktop_(desktop) {
-    desktop_.answerMessageBoxes(
-        [this](std::string_view text, std::string_view) { boxes_.push_back(text); });
+    desktop_.answerMessageBoxes([this](std::string_view text, std::string_view) {
+        boxes_.push_back(text);
+        return true;
+    });
 }
 
 json Hand::carryOut(const json& order) {

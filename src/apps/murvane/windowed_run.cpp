@@ -35,6 +35,13 @@ public:
     void messageBox(std::string_view text, std::string_view title) override {
         desktop_.messageBox(text, title);
     }
+    [[nodiscard]] bool ask(std::string_view text, std::string_view title) override {
+        return desktop_.ask(text, title);
+    }
+    [[nodiscard]] std::optional<std::string> chooseFolder(std::string_view title,
+                                                          std::string_view start) override {
+        return desktop_.chooseFolder(title, start);
+    }
 
 private:
     forms::Desktop& desktop_;

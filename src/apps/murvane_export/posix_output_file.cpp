@@ -15,6 +15,7 @@
 #include "apps/murvane_export/errors.h"
 #include "apps/murvane_export/output_file.h"
 #include "apps/utf8.h"
+#include "apps/whole_file.h"
 #include "office/text.h"
 
 namespace unattended {
@@ -34,17 +35,6 @@ fs::path behindLinks(const fs::path& file) {
 
 std::string reason() {
     return std::strerror(errno);
-}
-
-/// Found out by trying: the folder's mode says little to an administrator or on a foreign file
-/// system.
-bool takesFiles(const std::string& folder) {
-    std::string probe = folder + "/.murvane-XXXXXX";
-    const int made = ::mkstemp(probe.data());
-    if (made < 0) return false;
-    ::close(made);
-    ::unlink(probe.c_str());
-    return true;
 }
 
 std::string extensionOf(const fs::path& file) {
@@ -80,7 +70,7 @@ OutputFile::OutputFile(const fs::path& file, IfExists ifExists)
         refuse(
             fmt::format("the folder {} doesn't exist. Make it first, or choose another.", folder));
     }
-    if (!takesFiles(folder)) {
+    if (!apps::takesFiles(folder)) {
         refuse(fmt::format("the folder {} takes no files: {}. Choose another.", folder, reason()));
     }
     if (fs::is_directory(file_, ignored)) refuse("it is a folder. Name a file.");

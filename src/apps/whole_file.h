@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace apps {
+
+enum class Readers { User, Everybody };
+
+/// Writes a file as a whole, by way of a neighbour that then takes its name: a reader meets the
+/// earlier file or this one. A link at the path is replaced, never followed. `office::Failure` 75
+/// with the reason if it can't be written; an earlier file then stays, and nothing else.
+void writeWhole(const std::string& path, std::string_view text, Readers readers);
+
+/// Whether files can be made in the folder, found out by trying: its mode says little to an
+/// administrator or on a foreign file system.
+[[nodiscard]] bool takesFiles(const std::string& folder);
+
+/// `office::Failure` 75 where a file is in the way, or the folder can't be made.
+void makeFolder(const std::string& path);
+
+}  // namespace apps
