@@ -96,6 +96,17 @@ std::string FieldRowHtml(std::string_view id, std::string_view label, std::strin
                      block("span", "field-suffix", HtmlEscape(suffix)));
 }
 
+std::string TextAreaRowHtml(std::string_view id, std::string_view label, std::string_view value,
+                            bool enabled) {
+    // The first line end of a text area is no part of its text.
+    const std::string area =
+        element("textarea",
+                attribute("id", id) + attribute("class", "field-area") + attribute("rows", "3") +
+                    (enabled ? std::string() : attribute("disabled", "disabled")),
+                "\n" + HtmlEscape(value));
+    return block("div", "field-row", block("div", "field-label", HtmlEscape(label)) + area);
+}
+
 std::string ActionKeyFromUrl(std::string_view url) {
     return keyBehind("murvane://action/", url);
 }

@@ -46,6 +46,10 @@ struct ActionPanel {
                                        std::string_view value, std::string_view suffix,
                                        bool enabled);
 
+/// The same for a text of several lines.
+[[nodiscard]] std::string TextAreaRowHtml(std::string_view id, std::string_view label,
+                                          std::string_view value, bool enabled);
+
 /// The links. Each function gives the key behind its prefix in the case it came in, or nothing for
 /// any other address. The prefix counts wherever it stands and in any case; what follows a "?" or a
 /// "#" is no part of the key.

@@ -11,6 +11,9 @@
 #include "catalogue/inventory.h"
 #include "catalogue/userform_obj.h"
 #include "desktop/forms_runner.h"
+#include "destinations/pdf_dialog.h"
+#include "destinations/selection_to_word.h"
+#include "destinations/word_dialog.h"
 #include "panels/about_form.h"
 #include "panels/form_progress.h"
 #include "panels/notices.h"
@@ -24,24 +27,36 @@ namespace apps {
 
 namespace {
 
-/// The machine of a program with windows: events come from its desktop, and so does the plain box.
-class DesktopHost : public MachineHost {
+/// The machine of a program that may have windows: its boxes come from a desktop.
+class BoxesHost : public MachineHost {
 public:
-    DesktopHost(Console& console, forms::Desktop& desktop)
+    BoxesHost(Console& console, DesktopSource desktop)
         : MachineHost(console),
-          desktop_(desktop) {}
+          desktop_(std::move(desktop)) {}
 
-    void letEventsRun() override { desktop_.letEventsRun(); }
     void messageBox(std::string_view text, std::string_view title) override {
-        desktop_.messageBox(text, title);
+        desktop_().messageBox(text, title);
     }
     [[nodiscard]] bool ask(std::string_view text, std::string_view title) override {
-        return desktop_.ask(text, title);
+        return desktop_().ask(text, title);
     }
     [[nodiscard]] std::optional<std::string> chooseFolder(std::string_view title,
                                                           std::string_view start) override {
-        return desktop_.chooseFolder(title, start);
+        return desktop_().chooseFolder(title, start);
     }
+
+private:
+    DesktopSource desktop_;
+};
+
+/// One whose windows are there: events come from them too.
+class DesktopHost : public BoxesHost {
+public:
+    DesktopHost(Console& console, forms::Desktop& desktop)
+        : BoxesHost(console, [&desktop]() -> forms::Desktop& { return desktop; }),
+          desktop_(desktop) {}
+
+    void letEventsRun() override { desktop_.letEventsRun(); }
 
 private:
     forms::Desktop& desktop_;
@@ -97,9 +112,19 @@ void Windows::showMainForm() {
     catalogue::MainFormHooks hooks;
     hooks.StartExport = [this](catalogue::ExportList& list,
                                const catalogue::ExportChoices& choices) {
-        if (choices.destination != catalogue::Destination::PowerPoint) return false;
-        powerpoint::StartPowerPointExport(session_, desktop_, list, choices);
-        return true;
+        switch (choices.destination) {
+            case catalogue::Destination::PowerPoint:
+                powerpoint::StartPowerPointExport(session_, desktop_, list, choices);
+                return true;
+            case catalogue::Destination::Word:
+                destinations::StartWordExport(session_, desktop_, list, choices);
+                return true;
+            case catalogue::Destination::Pdf:
+                destinations::StartPdfExport(session_, desktop_, list, choices);
+                return true;
+            default:
+                return false;
+        }
     };
     hooks.InsertOneItem = [this](const catalogue::ExportItem& row,
                                  const catalogue::ExportChoices& choices) {
@@ -115,7 +140,7 @@ void Windows::showMainForm() {
 int pasteSelection(const DesktopSource& desktop, const std::string& commandLine, Console& console,
                    const SuiteSource& suites) {
     LateNotices notices(desktop, console);
-    MachineHost host(console);
+    BoxesHost host(console, desktop);
     StatusLine line(console, false);
     TerminalProgress progress(line);
     const auto suite = suites.attachToRunning();
@@ -123,6 +148,9 @@ int pasteSelection(const DesktopSource& desktop, const std::string& commandLine,
     session::CommandHandlers handlers;
     handlers.PasteSelectionToSlide = [&](session::SlidePaste mode) {
         powerpoint::PasteSelectionToSlide(session, mode);
+    };
+    handlers.PasteSelectionToWord = [&](session::WordPaste mode) {
+        destinations::PasteSelectionToWord(session, mode);
     };
     try {
         return session::Main(session, commandLine, handlers);

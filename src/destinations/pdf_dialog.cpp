@@ -1,0 +1,158 @@
+#include "destinations/pdf_dialog.h"
+
+#include <fmt/format.h>
+
+#include <array>
+#include <utility>
+
+#include "catalogue/export_run.h"
+#include "catalogue/row_copies.h"
+#include "destinations/failed_items.h"
+#include "destinations/format_names.h"
+#include "destinations/pdf_file.h"
+#include "office/failure_patterns.h"
+#include "office/text.h"
+#include "panels/dialogs.h"
+#include "panels/panel_page.h"
+
+namespace destinations {
+
+namespace {
+
+using State = forms::CheckBox::State;
+
+/// The key of each row, in their order.
+constexpr std::array<std::pair<const char*, forms::CheckBox DialogPDF::*>, 4> rows = {{
+    {"pageTitles", &DialogPDF::Check3},
+    {"includePath", &DialogPDF::Check1},
+    {"openPdf", &DialogPDF::Check2},
+    {"coverPage", &DialogPDF::CoverT},
+}};
+
+}  // namespace
+
+DialogPDF::DialogPDF(forms::Desktop& theDesktop, session::OfficeSession& session,
+                     catalogue::ExportList& list, const catalogue::ExportChoices& choices)
+    : OptionsForm(theDesktop, session, "DialogPDF", "PDF", "icon:word"),
+      Check3(*this, "Check3", {}),
+      Check1(*this, "Check1", {}),
+      Check2(*this, "Check2", {}),
+      CoverT(*this, "CoverT", {}),
+      txtAmount(*this, "txtAmount", {}),
+      CoverText(*this, "CoverText", {}),
+      list_(list),
+      choices_(choices) {
+    Check3.caption = "Use captions as page titles";
+    Check1.caption = "Include path, name and sheet at the bottom of each page";
+    Check2.caption = "Open PDF file when done";
+    CoverT.caption = "Include cover page";
+    Check3.setValue(State::Checked);
+    Check2.setValue(State::Checked);
+    txtAmount.setText("70");
+    for (const auto& [key, box] : rows) (this->*box).visible = false;
+    txtAmount.visible = false;
+    CoverText.visible = false;
+}
+
+void DialogPDF::Form_Load() {
+    beginForm();
+    CoverText.enabled = CoverT.isChecked();
+    taken_ = 0;
+    if (!choices_.predefinedSlides) {
+        office::ContinueOnFailure().attempt([&] {
+            taken_ =
+                static_cast<std::int32_t>(catalogue::takeRows(session(), list_, choices_).size());
+        });
+    }
+    if (taken_ < 1) {
+        showNothingSelected();
+    } else {
+        SetPanelMessage(fmt::format("{} object(s) will be pasted to\r\r as {}\r starting at the "
+                                    "insertion point",
+                                    taken_, formatName(catalogue::ExportFormat::Pictures)),
+                        "info");
+    }
+    showPanel();
+}
+
+std::string DialogPDF::BuildOptionsMarkup() const {
+    std::string markup;
+    for (const auto& [key, box] : rows) markup += optionRow(key, this->*box);
+    markup += panels::FieldRowHtml("sizeFactor", "Items size factor (1-100)", txtAmount.text(),
+                                   "of maximum size", true);
+    if (CoverT.isChecked())
+        markup += panels::TextAreaRowHtml("coverText", "Cover page text", CoverText.text(),
+                                          CoverText.enabled);
+    return panels::OptionsBlockHtml({}, markup);
+}
+
+void DialogPDF::ToggleOption(std::string_view wanted) {
+    for (const auto& [key, box] : rows) {
+        if (!office::sameIgnoringCase(wanted, key)) continue;
+        // What has been typed would go with the page that the click replaces.
+        readFields();
+        flip(this->*box);
+        CoverText.enabled = CoverT.isChecked();
+    }
+}
+
+void DialogPDF::readFields() {
+    txtAmount.setText(panels::ReadFieldValue(wbStatus, "sizeFactor", txtAmount.text()));
+    if (CoverT.isChecked())
+        CoverText.setText(panels::ReadFieldValue(wbStatus, "coverText", CoverText.text()));
+}
+
+void DialogPDF::ContinueOk_Click() {
+    readFields();
+    MakeBlankDoc_Paste_ExportPdf_AndClose();
+}
+
+PdfOptions DialogPDF::options() {
+    const SizeFactor factor = sizeFactorOf(txtAmount.text());
+    if (!factor.isGood) {
+        session::ShowWarningNotice(
+            session().notices,
+            fmt::format("The size factor is a number from 1 to 100; {} is used.", factor.percent));
+        txtAmount.setText(fmt::format("{}", factor.percent));
+        RenderPanel();
+    }
+    return {.pageTitles = Check3.isChecked(),
+            .includePath = Check1.isChecked(),
+            .openPdf = Check2.isChecked(),
+            .coverPage = CoverT.isChecked(),
+            .sizeFactor = factor.percent,
+            .coverText = CoverText.text()};
+}
+
+void DialogPDF::MakeBlankDoc_Paste_ExportPdf_AndClose() {
+    const PdfOptions wanted = options();
+    const std::string path = pdfPath(session(), "TempWord");
+    FailedItems failed;
+    RowBatch batch{session(), list_,
+                   [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
+    takesInput = false;
+    session().progress.showItem(0, taken_);
+    office::ContinueOnFailure scope;
+    WalkResult result;
+    const bool isMade = scope.attempt([&] { result = ExportRowsToPdf(batch, wanted, path); });
+    session().progress.unload();
+    takesInput = true;
+    if (!isMade) {
+        session::ShowErrorNotice(session().notices, scope.lastFailure()->description());
+        return;
+    }
+    tellIfCancelled(session(), result);
+    failed.tell(session());
+    if (wanted.openPdf && !OpenPdfFile(session(), path))
+        session::ShowWarningNotice(
+            session().notices,
+            fmt::format("PDF was created but couldn't be opened automatically:\r\n{}", path));
+}
+
+void StartPdfExport(session::OfficeSession& session, forms::Desktop& desktop,
+                    catalogue::ExportList& list, const catalogue::ExportChoices& choices) {
+    DialogPDF dialog(desktop, session, list, choices);
+    panels::ShowToolForm(dialog);
+}
+
+}  // namespace destinations

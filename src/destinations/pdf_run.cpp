@@ -1,0 +1,208 @@
+#include "destinations/pdf_run.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "catalogue/row_copies.h"
+#include "office/failure_patterns.h"
+#include "office/text.h"
+#include "session/waits.h"
+
+namespace destinations {
+
+namespace {
+
+using catalogue::ExportItem;
+using office::arg;
+using office::Object;
+using session::OfficeSession;
+
+/// Word, and one document of it that nobody else has seen. Both go as they have come.
+class TemporaryDocument {
+public:
+    explicit TemporaryDocument(OfficeSession& session) {
+        office::ContinueOnFailure scope;
+        scope.attempt([&] { word_ = session.suite.attach("Word.Application"); });
+        if (!word_) {
+            word_ = session.suite.start("Word.Application");
+            createdWord_ = true;
+        }
+        document_ = word_.get("Documents").call("Add", arg("Visible", false)).toObject();
+    }
+    TemporaryDocument(const TemporaryDocument&) = delete;
+    TemporaryDocument& operator=(const TemporaryDocument&) = delete;
+    /// A lost application has closed everything itself.
+    ~TemporaryDocument() {
+        try {
+            document_.call("Close", arg("SaveChanges", false));
+            if (createdWord_) word_.call("Quit", arg("SaveChanges", false));
+        } catch (const office::Failure&) {
+            return;
+        }
+    }
+
+    [[nodiscard]] const Object& document() const { return document_; }
+
+private:
+    Object word_;
+    Object document_;
+    bool createdWord_ = false;
+};
+
+/// Lays the pages out: a heading, the item below it, the source line at the foot.
+class PdfPages {
+public:
+    PdfPages(OfficeSession& session, const PdfOptions& options, const Object& document);
+
+    void addCover();
+    void addItem(const ExportItem& row);
+
+private:
+    [[nodiscard]] double headingHeight(const std::string& caption) const;
+    void beginParagraph(std::int32_t style);
+    void formatParagraph(const char* member, const office::Value& value) {
+        selection_.get("ParagraphFormat").put(member, value);
+    }
+
+    OfficeSession& session_;
+    const PdfOptions& options_;
+    Object document_;
+    Object selection_;
+    double width_ = 0;
+    double height_ = 0;
+    std::string workbook_;
+    bool isFirstPage_ = true;
+    bool isFirstParagraph_ = true;
+};
+
+/// Word's numbers of its styles.
+namespace style {
+constexpr std::int32_t normal = -1;
+constexpr std::int32_t heading1 = -2;
+constexpr std::int32_t title = -63;
+}  // namespace style
+
+constexpr std::int32_t centred = 1;
+constexpr double sourceLinePt = 24;
+
+PdfPages::PdfPages(OfficeSession& session, const PdfOptions& options, const Object& document)
+    : session_(session),
+      options_(options),
+      document_(document),
+      selection_(document.get("ActiveWindow").get("Selection").toObject()),
+      workbook_(session.ActiveBook.get("FullName").toText()) {
+    constexpr std::int32_t landscape = 1;
+    constexpr double marginPt = 36;
+    const Object page = selection_.get("PageSetup").toObject();
+    page.put("Orientation", landscape);
+    for (const char* margin : {"LeftMargin", "RightMargin", "TopMargin", "BottomMargin"})
+        page.put(margin, marginPt);
+    width_ = page.get("PageWidth").toDouble() - 2 * marginPt;
+    height_ = page.get("PageHeight").toDouble() - 2 * marginPt;
+    document_.get("BuiltInDocumentProperties", "Title")
+        .put("Value", session.ActiveBook.get("Name").toText());
+}
+
+void PdfPages::beginParagraph(std::int32_t style) {
+    if (!isFirstParagraph_) selection_.call("TypeParagraph");
+    isFirstParagraph_ = false;
+    selection_.put("Style", style);
+    // A paragraph takes the break and the spaces of the one before along.
+    formatParagraph("PageBreakBefore", false);
+    formatParagraph("SpaceBefore", 0);
+    formatParagraph("SpaceAfter", 0);
+}
+
+void PdfPages::addCover() {
+    constexpr double share = 0.3;
+    bool isFirst = true;
+    std::string_view rest = options_.coverText;
+    for (bool isMore = true; isMore;) {
+        const std::size_t end = rest.find('\n');
+        isMore = end != std::string_view::npos;
+        beginParagraph(isFirst ? style::title : style::normal);
+        formatParagraph("Alignment", centred);
+        formatParagraph("SpaceBefore", isFirst ? height_ * share : 12);
+        selection_.call("TypeText", std::string(rest.substr(0, end)));
+        rest.remove_prefix(isMore ? end + 1 : rest.size());
+        isFirst = false;
+    }
+    isFirstPage_ = false;
+}
+
+/// The most that any Word gives its headings: measured in the fonts of this machine, they may be
+/// others there.
+double PdfPages::headingHeight(const std::string& caption) const {
+    constexpr double fontPt = 20;
+    constexpr double spacePt = 18;
+    return session_.host.textSize(caption, {"Arial", fontPt}, width_).heightPt + spacePt;
+}
+
+void PdfPages::addItem(const ExportItem& row) {
+    /// What lines take beside their letters, and what rounding takes.
+    constexpr double slackPt = 12;
+    constexpr double wholePercent = 100;
+    constexpr std::uint32_t arrivedMs = 250;
+
+    catalogue::CopyRowAsPicture(session_, row);
+    session::SleepMilliseconds(session_, arrivedMs);
+    double room = height_ - slackPt - (options_.includePath ? sourceLinePt : 0);
+    const bool hasHeading = options_.pageTitles && !row.caption.empty();
+    if (hasHeading) {
+        room -= headingHeight(row.caption);
+        beginParagraph(style::heading1);
+        formatParagraph("PageBreakBefore", !isFirstPage_);
+        formatParagraph("SpaceAfter", 6);
+        selection_.call("TypeText", row.caption);
+    }
+    beginParagraph(style::normal);
+    formatParagraph("PageBreakBefore", !hasHeading && !isFirstPage_);
+    formatParagraph("Alignment", centred);
+    selection_.call("Paste");
+    const Object shapes = document_.get("InlineShapes").toObject();
+    const Object shape = shapes.get("Item", shapes.get("Count").toLong()).toObject();
+    const double width = shape.get("Width").toDouble();
+    const double height = shape.get("Height").toDouble();
+    const double scale =
+        std::min(width_ / width, room / height) * options_.sizeFactor / wholePercent;
+    shape.put("Width", width * scale);
+    shape.put("Height", height * scale);
+    shape.put("AlternativeText", catalogue::DescriptionOf(row));
+    if (options_.includePath) {
+        beginParagraph(style::normal);
+        formatParagraph("SpaceBefore", std::max(0.0, room - height * scale));
+        selection_.call("TypeText", fmt::format("{}  -  {}", workbook_, row.sheet));
+    }
+    isFirstPage_ = false;
+}
+
+}  // namespace
+
+SizeFactor sizeFactorOf(std::string_view text) {
+    constexpr double lowest = 1;
+    constexpr double highest = 100;
+    SizeFactor factor;
+    const auto number = office::numberOf(text);
+    factor.isGood = number && *number >= lowest && *number <= highest;
+    if (number) factor.percent = std::clamp(*number, lowest, highest);
+    return factor;
+}
+
+WalkResult ExportRowsToPdf(RowBatch& batch, const PdfOptions& options, const std::string& path) {
+    constexpr std::int32_t pdf = 17;
+    constexpr std::int32_t headings = 1;
+    OfficeSession& session = batch.session;
+    const TemporaryDocument temporary(session);
+    PdfPages pages(session, options, temporary.document());
+    if (options.coverPage) pages.addCover();
+    const WalkResult result = walkRows(
+        batch, [&](const catalogue::TakenRow&, const ExportItem& row) { pages.addItem(row); });
+    temporary.document().call("ExportAsFixedFormat", path, pdf, false,
+                              arg("CreateBookmarks", headings), arg("DocStructureTags", true));
+    return result;
+}
+
+}  // namespace destinations

@@ -1,0 +1,249 @@
+#include "destinations/selection_to_word.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "office/failure_patterns.h"
+#include "office/text.h"
+#include "session/waits.h"
+
+namespace destinations {
+
+namespace {
+
+using office::arg;
+using office::Object;
+using office::Value;
+using session::OfficeSession;
+using session::WordPaste;
+
+constexpr std::string_view title = "Murvane";
+
+enum class SourceKind { None, ChartSheet, Chart, Range };
+
+/// What a command does where the others do something else.
+struct Command {
+    std::string_view question;
+    bool movesDown;
+    /// The collection whose last member is resized, for charts and for cells; none if empty.
+    std::string_view chartShapes;
+    std::string_view rangeShapes;
+};
+
+const Command& commandOf(WordPaste mode) {
+    static constexpr Command picture{
+        "Warning!Inseted object may override the current selected text", true, "InlineShapes", ""};
+    static constexpr Command embedded{
+        "Warning!Inseted object may override the current selected text.", true, "InlineShapes",
+        "Shapes"};
+    static constexpr Command linked{
+        "Warning!Inseted object will override the current selected text.", false, "Shapes",
+        "Shapes"};
+    static constexpr Command table{"Warning!Inseted object may override the current selected text.",
+                                   true, "", ""};
+    switch (mode) {
+        case WordPaste::InlineEmbedded:
+            return embedded;
+        case WordPaste::FloatingLinked:
+            return linked;
+        case WordPaste::Table:
+            return table;
+        default:
+            return picture;
+    }
+}
+
+/// Excel asks nothing while this lives. Left so, it would not ask whether to save either.
+class AlertsOff {
+public:
+    explicit AlertsOff(const Object& excel) : excel_(excel) {
+        scope_.attempt([this] { before_ = excel_.get("DisplayAlerts").toBool(); });
+        scope_.attempt([this] { excel_.put("DisplayAlerts", false); });
+    }
+    AlertsOff(const AlertsOff&) = delete;
+    AlertsOff& operator=(const AlertsOff&) = delete;
+    /// An application that has gone has nothing left to put back.
+    ~AlertsOff() {
+        try {
+            excel_.put("DisplayAlerts", before_);
+        } catch (const office::Failure&) {
+            return;
+        }
+    }
+
+private:
+    const Object& excel_;
+    bool before_ = true;
+    office::ContinueOnFailure scope_;
+};
+
+/// One run of a command.
+class SelectionPaste {
+public:
+    SelectionPaste(OfficeSession& session, WordPaste mode)
+        : session_(session),
+          mode_(mode),
+          command_(commandOf(mode)) {}
+
+    void run();
+
+private:
+    [[nodiscard]] bool RequireWordDocument();
+    [[nodiscard]] SourceKind findSource() const;
+    [[nodiscard]] bool mayReplaceText();
+    void moveDown();
+    void copyAndPaste(SourceKind kind);
+    void copy(SourceKind kind);
+    void paste(SourceKind kind);
+    void setSize(SourceKind kind);
+    void say(std::string_view text) { session_.host.messageBox(text, title); }
+
+    OfficeSession& session_;
+    WordPaste mode_;
+    const Command& command_;
+    Object document_;
+    Object selection_;
+};
+
+void SelectionPaste::run() {
+    if (!RequireWordDocument()) return;
+    const SourceKind kind = findSource();
+    if (kind == SourceKind::None) {
+        say("Nothing to paste, try again");
+        return;
+    }
+    if (!mayReplaceText()) return;
+    if (mode_ == WordPaste::Table && kind != SourceKind::Range) {
+        say("This icon refers to tables only");
+        return;
+    }
+    if (mode_ != WordPaste::InlineEmbedded) {
+        copyAndPaste(kind);
+        return;
+    }
+    office::ContinueOnFailure scope;
+    if (scope.attempt([&] { copyAndPaste(kind); })) return;
+    say("Operation has failed!Please make sure that no graphic is selected");
+    session_.WordApp.release();
+}
+
+bool SelectionPaste::RequireWordDocument() {
+    office::ContinueOnFailure scope;
+    std::int32_t documents = 0;
+    scope.attempt([&] { session_.WordApp = session_.suite.attach("Word.Application"); });
+    scope.attempt([&] { documents = session_.WordApp.get("Documents").get("Count").toLong(); });
+    if (documents == 0) {
+        say("The action requires an open Word document");
+        return false;
+    }
+    document_ = session_.WordApp.get("ActiveDocument").toObject();
+    selection_ = document_.get("ActiveWindow").get("Selection").toObject();
+    return true;
+}
+
+SourceKind SelectionPaste::findSource() const {
+    const Value sheet = session_.ActiveBook.get("ActiveSheet");
+    const std::string sheetType = sheet.isObject() ? sheet.toObject().typeName() : std::string();
+    if (sheetType == "Chart") return SourceKind::ChartSheet;
+    const Value selected = session_.ExcelApp.get("Selection");
+    const std::string type = selected.isObject() ? selected.toObject().typeName() : std::string();
+    if (type == "Range") return SourceKind::Range;
+    return type == "ChartArea" ? SourceKind::Chart : SourceKind::None;
+}
+
+/// A caret counts as one letter.
+bool SelectionPaste::mayReplaceText() {
+    const std::string text = selection_.get("Text").toText();
+    return text.size() <= office::characterLength(text, 0) ||
+           session_.host.ask(command_.question, title);
+}
+
+void SelectionPaste::moveDown() {
+    if (!command_.movesDown) return;
+    office::ContinueOnFailure().attempt([&] { selection_.call("MoveDown", arg("Count", 1)); });
+}
+
+void SelectionPaste::copyAndPaste(SourceKind kind) {
+    constexpr std::uint32_t arrivedMs = 300;
+    moveDown();
+    copy(kind);
+    session::SleepMilliseconds(session_, arrivedMs);
+    paste(kind);
+    setSize(kind);
+    session_.WordApp.put("Visible", true);
+    session_.WordApp.call("Activate");
+}
+
+void SelectionPaste::copy(SourceKind kind) {
+    constexpr std::int32_t asOnScreen = 1;
+    constexpr std::int32_t pictureFormat = -4147;
+    const bool isPicture = mode_ == WordPaste::Picture;
+    if (kind == SourceKind::Range) {
+        const Object cells = session_.ExcelApp.get("Selection").toObject();
+        if (isPicture) {
+            cells.call("CopyPicture", arg("Appearance", asOnScreen), arg("Format", pictureFormat));
+        } else {
+            cells.call("Copy");
+        }
+        return;
+    }
+    const Object chart = session_.ActiveBook.get("ActiveChart").toObject();
+    if (isPicture) {
+        chart.call("CopyPicture", arg("Appearance", asOnScreen), arg("Size", asOnScreen),
+                   arg("Format", pictureFormat));
+    } else {
+        chart.get("ChartArea").call("Copy");
+    }
+}
+
+void SelectionPaste::paste(SourceKind kind) {
+    constexpr std::int32_t oleObject = 0;
+    constexpr std::int32_t overTheText = 1;
+    constexpr std::int32_t inLine = 0;
+    switch (mode_) {
+        case WordPaste::Picture:
+            selection_.call("Paste");
+            if (kind == SourceKind::Range)
+                selection_.get("ParagraphFormat").put("Alignment", Value());
+            break;
+        case WordPaste::Table:
+            selection_.call("PasteExcelTable", false, false, false);
+            break;
+        default: {
+            // Where a shape over the text is looked for afterwards, it has to become one.
+            const std::string_view shapes =
+                kind == SourceKind::Range ? command_.rangeShapes : command_.chartShapes;
+            selection_.call("PasteSpecial", arg("Link", mode_ == WordPaste::FloatingLinked),
+                            arg("DataType", oleObject),
+                            arg("Placement", shapes == "Shapes" ? overTheText : inLine),
+                            arg("DisplayAsIcon", false));
+        }
+    }
+}
+
+void SelectionPaste::setSize(SourceKind kind) {
+    const std::string_view collection =
+        kind == SourceKind::Range ? command_.rangeShapes : command_.chartShapes;
+    if (collection.empty()) return;
+    const Object shapes = document_.get(collection).toObject();
+    const Object shape = shapes.get("Item", shapes.get("Count").toLong()).toObject();
+    if (collection == "Shapes") shape.call("Select");
+    const Object page = selection_.get("PageSetup").toObject();
+    const double pageText = page.get("PageWidth").toDouble() - page.get("LeftMargin").toDouble() -
+                            page.get("RightMargin").toDouble();
+    const double ratio = shape.get("Height").toDouble() / shape.get("Width").toDouble();
+    shape.put("Width", pageText);
+    shape.put("Height", ratio * pageText);
+    if (mode_ == WordPaste::FloatingLinked && kind == SourceKind::ChartSheet)
+        selection_.get("ShapeRange").put("Left", Value());
+}
+
+}  // namespace
+
+void PasteSelectionToWord(OfficeSession& session, WordPaste mode) {
+    const AlertsOff alerts(session.ExcelApp);
+    SelectionPaste(session, mode).run();
+}
+
+}  // namespace destinations

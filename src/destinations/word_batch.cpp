@@ -1,0 +1,187 @@
+#include "destinations/word_batch.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "catalogue/row_copies.h"
+#include "office/failure_patterns.h"
+#include "session/waits.h"
+
+namespace destinations {
+
+namespace {
+
+using catalogue::ExportFormat;
+using catalogue::ExportItem;
+using office::arg;
+using office::Object;
+using session::OfficeSession;
+
+struct Sides {
+    double width = 0;
+    double height = 0;
+};
+
+/// One run: what every row needs is looked up once and held.
+class WordBatch {
+public:
+    WordBatch(OfficeSession& session, ExportFormat format, const WordOptions& options)
+        : session_(session),
+          format_(format),
+          options_(options),
+          document_(session.SessionDocument),
+          selection_(document_.get("ActiveWindow").get("Selection").toObject()) {}
+
+    void exportRow(const ExportItem& row);
+
+private:
+    [[nodiscard]] bool floats() const {
+        return format_ == ExportFormat::Embedded || format_ == ExportFormat::Linked;
+    }
+    void copy(const ExportItem& row);
+    void InsertPageBreakBlock();
+    void paste();
+    void FinishWordItem(const ExportItem& row, const Object& shape);
+    void SetLastShapeWidth(const Object& shape);
+    [[nodiscard]] Sides textArea() const;
+
+    OfficeSession& session_;
+    ExportFormat format_;
+    const WordOptions& options_;
+    Object document_;
+    Object selection_;
+};
+
+void WordBatch::exportRow(const ExportItem& row) {
+    copy(row);
+    InsertPageBreakBlock();
+    if (format_ == ExportFormat::Pictures) selection_.call("TypeParagraph");
+    const Object shapes = document_.get(floats() ? "Shapes" : "InlineShapes").toObject();
+    const std::int32_t before = shapes.get("Count").toLong();
+    paste();
+    session_.host.letEventsRun();
+    // What has come may be a table, which is no shape.
+    const std::int32_t count = shapes.get("Count").toLong();
+    Object shape;
+    if (count > before) {
+        shape = shapes.get("Item", count).toObject();
+        office::ContinueOnFailure().attempt(
+            [&] { shape.put("AlternativeText", catalogue::DescriptionOf(row)); });
+    }
+    if (!floats()) {
+        FinishWordItem(row, shape);
+    } else if (shape) {
+        SetLastShapeWidth(shape);
+    }
+}
+
+void WordBatch::copy(const ExportItem& row) {
+    constexpr std::uint32_t arrivedMs = 250;
+    if (format_ == ExportFormat::Pictures) {
+        catalogue::CopyRowAsPicture(session_, row);
+    } else {
+        catalogue::CopyRow(session_, row);
+    }
+    session::SleepMilliseconds(session_, arrivedMs);
+}
+
+/// The paragraph that is left behind the break does not break the page once more. An empty document
+/// needs none: its first page would stay empty.
+void WordBatch::InsertPageBreakBlock() {
+    constexpr std::int32_t toEnd = 0;
+    const auto end = [&] {
+        const Object range = document_.get("Range").toObject();
+        range.call("Collapse", toEnd);
+        return range;
+    };
+    if (document_.get("Range").get("StoryLength").toLong() > 1) {
+        end().call("InsertParagraphAfter");
+        end().get("ParagraphFormat").put("PageBreakBefore", true);
+        end().call("InsertParagraphAfter");
+        end().get("ParagraphFormat").put("PageBreakBefore", false);
+    }
+    end().call("Select");
+}
+
+void WordBatch::paste() {
+    constexpr std::int32_t oleObject = 0;
+    constexpr std::int32_t overTheText = 1;
+    if (format_ == ExportFormat::Pictures) {
+        selection_.call("Paste");
+    } else if (format_ == ExportFormat::Editable) {
+        selection_.call("PasteSpecial");
+    } else {
+        selection_.call("PasteSpecial", arg("Link", format_ == ExportFormat::Linked),
+                        arg("DataType", oleObject), arg("Placement", overTheText),
+                        arg("DisplayAsIcon", false));
+    }
+}
+
+Sides WordBatch::textArea() const {
+    const Object page = selection_.get("PageSetup").toObject();
+    const auto length = [&](std::string_view name) { return page.get(name).toDouble(); };
+    return {length("PageWidth") - length("LeftMargin") - length("RightMargin"),
+            length("PageHeight") - length("TopMargin") - length("BottomMargin")};
+}
+
+void WordBatch::FinishWordItem(const ExportItem& row, const Object& shape) {
+    if (shape && options_.sameWidth) {
+        /// Of the text area: what is higher loses its proportions.
+        constexpr double highest = 0.5;
+        const Sides area = textArea();
+        const double ratio = shape.get("Height").toDouble() / shape.get("Width").toDouble();
+        shape.put("Width", area.width);
+        shape.put("Height", std::min(ratio * area.width, area.height * highest));
+    }
+    if (options_.caption && !row.caption.empty()) {
+        // The caption is a label of its own, which counts by itself. There may be one already.
+        office::ContinueOnFailure().attempt(
+            [&] { session_.WordApp.get("CaptionLabels").call("Add", row.caption); });
+        selection_.call("InsertCaption", arg("Label", row.caption), arg("Title", ""));
+    }
+    if (shape && options_.shadow) {
+        constexpr std::int32_t outsideRightBelow = 21;
+        constexpr std::int32_t ofItsSize = 100;
+        constexpr std::int32_t blurPt = 15;
+        const Object shadow = shape.get("Shadow").toObject();
+        shadow.put("Type", outsideRightBelow);
+        shadow.put("Size", ofItsSize);
+        shadow.put("Blur", blurPt);
+    }
+}
+
+/// As wide as the text, but no higher than its page.
+void WordBatch::SetLastShapeWidth(const Object& shape) {
+    shape.call("Select");
+    const Sides area = textArea();
+    const Sides natural{shape.get("Width").toDouble(), shape.get("Height").toDouble()};
+    const double scale = std::min(area.width / natural.width, area.height / natural.height);
+    shape.put("Width", natural.width * scale);
+    shape.put("Height", natural.height * scale);
+}
+
+}  // namespace
+
+bool AttachWord(OfficeSession& session) {
+    office::ContinueOnFailure scope;
+    session.WordApp.release();
+    session.SessionDocument.release();
+    scope.attempt([&] { session.WordApp = session.suite.attach("Word.Application"); });
+    scope.attempt(
+        [&] { session.SessionDocument = session.WordApp.get("ActiveDocument").toObject(); });
+    return static_cast<bool>(session.SessionDocument);
+}
+
+WalkResult ExportRowsToWord(RowBatch& batch, ExportFormat format, const WordOptions& options) {
+    OfficeSession& session = batch.session;
+    WordBatch words(session, format, options);
+    if (format != ExportFormat::Pictures) session.ExcelApp.put("ScreenUpdating", true);
+    const WalkResult result = walkRows(
+        batch, [&](const catalogue::TakenRow&, const ExportItem& row) { words.exportRow(row); });
+    session.ExcelApp.put("ScreenUpdating", true);
+    office::ContinueOnFailure().attempt(
+        [&] { session.SessionDocument.get("ActiveWindow").get("Selection").call("HomeKey"); });
+    return result;
+}
+
+}  // namespace destinations

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "destinations/row_walk.h"
+
+namespace destinations {
+
+/// How items are put into a document.
+struct WordOptions {
+    bool sameWidth = false;  ///< pictures are made as wide as the text area
+    bool caption = false;    ///< a numbered caption below each item that has one
+    bool shadow = false;
+};
+
+/// Takes the running Word and its active document for the session. False if there is none of the
+/// two.
+[[nodiscard]] bool AttachWord(session::OfficeSession& session);
+
+/// Appends the taken rows to the session's document, each on a page of its own, in the format of
+/// the choices. The document stays open and unsaved.
+///
+/// Objects that are embedded or linked always fill the width of the text, without caption and
+/// shadow. A row is copied before anything of it is written, so that one that can't be copied
+/// leaves no page behind.
+WalkResult ExportRowsToWord(RowBatch& batch, catalogue::ExportFormat format,
+                            const WordOptions& options);
+
+}  // namespace destinations

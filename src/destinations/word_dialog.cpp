@@ -1,0 +1,146 @@
+#include "destinations/word_dialog.h"
+
+#include <fmt/format.h>
+
+#include <array>
+#include <utility>
+
+#include "catalogue/export_run.h"
+#include "destinations/failed_items.h"
+#include "destinations/format_names.h"
+#include "destinations/pdf_file.h"
+#include "office/failure_patterns.h"
+#include "office/text.h"
+#include "panels/dialogs.h"
+#include "panels/panel_page.h"
+#include "session/waits.h"
+
+namespace destinations {
+
+namespace {
+
+using catalogue::ExportFormat;
+
+constexpr const char* noWord =
+    "No open Word found. \r Please open an existing document or create a new one";
+
+/// The key of each row, in their order.
+constexpr std::array<std::pair<const char*, forms::CheckBox DialogWord::*>, 4> rows = {{
+    {"sameWidth", &DialogWord::SameWidth},
+    {"addCaption", &DialogWord::AddCaption},
+    {"checkShadow", &DialogWord::CheckShadow},
+    {"pdfOutput", &DialogWord::PdfOutput},
+}};
+
+}  // namespace
+
+DialogWord::DialogWord(forms::Desktop& theDesktop, session::OfficeSession& session,
+                       catalogue::ExportList& list, const catalogue::ExportChoices& choices)
+    : OptionsForm(theDesktop, session, "DialogWord", "Word", "icon:word"),
+      SameWidth(*this, "SameWidth", {}),
+      AddCaption(*this, "AddCaption", {}),
+      CheckShadow(*this, "CheckShadow", {}),
+      PdfOutput(*this, "PdfOutput", {}),
+      list_(list),
+      choices_(choices) {
+    SameWidth.caption = "Make all items same optimized width (otherwise keep Excel item size)";
+    AddCaption.caption = "Insert caption below the pasted item";
+    CheckShadow.caption = "Add shadow to pasted items";
+    PdfOutput.caption = "Save document to PDF";
+    for (const auto& [key, box] : rows) (this->*box).visible = false;
+    PdfOutput.onClick = [this] { pdfIsWanted_ = true; };
+}
+
+void DialogWord::Form_Load() {
+    beginForm();
+    pdfIsWanted_ = false;
+    const bool areObjects =
+        choices_.format == ExportFormat::Embedded || choices_.format == ExportFormat::Linked;
+    for (forms::CheckBox* box : {&SameWidth, &AddCaption, &CheckShadow}) box->enabled = !areObjects;
+    if (!AttachWord(session())) {
+        session::ShowWarningNotice(session().notices, noWord);
+        desktop().unload(*this);
+        return;
+    }
+    nameDocument();
+    showPanel();
+}
+
+/// Decides which document the export goes to, and tells the user.
+void DialogWord::nameDocument() {
+    office::ContinueOnFailure scope;
+    taken_ = 0;
+    scope.attempt([&] {
+        taken_ = static_cast<std::int32_t>(catalogue::takeRows(session(), list_, choices_).size());
+    });
+    if (taken_ < 1) {
+        showNothingSelected();
+        return;
+    }
+    scope.attempt([&] {
+        SetPanelMessage(
+            fmt::format(
+                "{} object(s) will be pasted to\r{}\r as {}\r starting at the insertion point",
+                taken_, session().SessionDocument.get("Name").toText(),
+                formatName(choices_.format)),
+            "info");
+    });
+}
+
+std::string DialogWord::BuildOptionsMarkup() const {
+    std::string markup;
+    for (const auto& [key, box] : rows) markup += optionRow(key, this->*box);
+    return panels::OptionsBlockHtml({}, markup);
+}
+
+void DialogWord::ToggleOption(std::string_view wanted) {
+    for (const auto& [key, box] : rows) {
+        if (office::sameIgnoringCase(wanted, key) && (this->*box).enabled) flip(this->*box);
+    }
+}
+
+bool DialogWord::documentIsThere() {
+    return office::ContinueOnFailure().attempt(
+        [&] { static_cast<void>(session().SessionDocument.get("Name").toText()); });
+}
+
+void DialogWord::ContinueOk_Click() {
+    if (!documentIsThere()) {
+        // With another one open the user sees its name ahead of the next click.
+        if (AttachWord(session()))
+            nameDocument();
+        else
+            SetPanelMessage(noWord, "warning");
+        return;
+    }
+    panels::RunExport(session(), *this, taken_, [this] { runBatch(); });
+}
+
+void DialogWord::runBatch() {
+    constexpr std::uint32_t settledMs = 100;
+    FailedItems failed;
+    RowBatch batch{session(), list_,
+                   [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
+    const WalkResult result = ExportRowsToWord(batch, choices_.format,
+                                               {.sameWidth = SameWidth.isChecked(),
+                                                .caption = AddCaption.isChecked(),
+                                                .shadow = CheckShadow.isChecked()});
+    session::SleepMilliseconds(session(), settledMs);
+    session().progress.unload();
+    tellIfCancelled(session(), result);
+    failed.tell(session());
+    if (pdfIsWanted_) ExportActiveDocumentToPdf(session());
+    office::ContinueOnFailure().attempt([&] { session().SessionDocument.call("Activate"); });
+}
+
+void StartWordExport(session::OfficeSession& session, forms::Desktop& desktop,
+                     catalogue::ExportList& list, const catalogue::ExportChoices& choices) {
+    if (!AttachWord(session)) {
+        session::ShowWarningNotice(session.notices, "The action requires an open Word document");
+        return;
+    }
+    DialogWord dialog(desktop, session, list, choices);
+    panels::ShowToolForm(dialog);
+}
+
+}  // namespace destinations

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "catalogue/export_list.h"
+#include "destinations/word_batch.h"
+#include "panels/options_form.h"
+
+namespace destinations {
+
+/// The options dialog of the export to Word.
+class DialogWord : public panels::OptionsForm {
+public:
+    DialogWord(forms::Desktop& desktop, session::OfficeSession& session,
+               catalogue::ExportList& list, const catalogue::ExportChoices& choices);
+
+    void Form_Load() override;
+
+    /// Runs the export and ends the session.
+    void ContinueOk_Click() override;
+    /// Flips an option, if it is enabled.
+    void ToggleOption(std::string_view key) override;
+
+    forms::CheckBox SameWidth;
+    forms::CheckBox AddCaption;
+    forms::CheckBox CheckShadow;
+    forms::CheckBox PdfOutput;
+
+protected:
+    [[nodiscard]] std::string BuildOptionsMarkup() const override;
+
+private:
+    [[nodiscard]] bool documentIsThere();
+    void nameDocument();
+    void runBatch();
+
+    catalogue::ExportList& list_;
+    catalogue::ExportChoices choices_;
+    std::int32_t taken_ = 0;
+    /// Once asked for, a PDF is made even if the row is switched off again.
+    bool pdfIsWanted_ = false;
+};
+
+/// Begins an export to Word: the dialog comes up, or a notice says that there is no document.
+void StartWordExport(session::OfficeSession& session, forms::Desktop& desktop,
+                     catalogue::ExportList& list, const catalogue::ExportChoices& choices);
+
+}  // namespace destinations
