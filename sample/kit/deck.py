@@ -286,19 +286,22 @@ def relations(*targets):
     return f'{HEAD}<Relationships xmlns="{RELATIONS}">{rows}</Relationships>'
 
 
-def content_types(parts):
-    kinds = {
-        "ppt/presentation.xml": f"{PML}.presentation.main+xml",
-        "ppt/presProps.xml": f"{PML}.presProps+xml",
-        "ppt/viewProps.xml": f"{PML}.viewProps+xml",
-        "ppt/tableStyles.xml": f"{PML}.tableStyles+xml",
-        "ppt/theme/": "application/vnd.openxmlformats-officedocument.theme+xml",
-        "ppt/slideMasters/": f"{PML}.slideMaster+xml",
-        "ppt/slideLayouts/": f"{PML}.slideLayout+xml",
-        "ppt/slides/": f"{PML}.slide+xml",
-        "docProps/core.xml": "application/vnd.openxmlformats-package.core-properties+xml",
-        "docProps/app.xml": "application/vnd.openxmlformats-officedocument.extended-properties+xml",
-    }
+KINDS = {
+    "ppt/presentation.xml": f"{PML}.presentation.main+xml",
+    "ppt/presProps.xml": f"{PML}.presProps+xml",
+    "ppt/viewProps.xml": f"{PML}.viewProps+xml",
+    "ppt/tableStyles.xml": f"{PML}.tableStyles+xml",
+    "ppt/theme/": "application/vnd.openxmlformats-officedocument.theme+xml",
+    "ppt/slideMasters/": f"{PML}.slideMaster+xml",
+    "ppt/slideLayouts/": f"{PML}.slideLayout+xml",
+    "ppt/slides/": f"{PML}.slide+xml",
+    "docProps/core.xml": "application/vnd.openxmlformats-package.core-properties+xml",
+    "docProps/app.xml": "application/vnd.openxmlformats-officedocument.extended-properties+xml",
+}
+
+
+def content_types(parts, kinds=KINDS):
+    """[Content_Types].xml; `kinds` gives a type for what the names of parts begin with."""
     rows = []
     for name, _ in parts:
         if name.endswith(".rels"):

@@ -1,3 +1,4 @@
+#include "office/package/office_file.h"
 #include "office/package/presentation/file_deck.h"
 #include "run_stage.h"
 #include "support/package_edit.h"

@@ -17,6 +17,17 @@ PowerPointApplication& DoubleSuite::powerPoint() {
     return *powerPoint_;
 }
 
+WordApplication& DoubleSuite::word() {
+    if (!word_) word_ = std::make_shared<WordApplication>(state_);
+    return *word_;
+}
+
+void DoubleSuite::quitWord() {
+    if (!word_) return;
+    for (const auto& open : word_->open()) open->close();
+    word_.reset();
+}
+
 void DoubleSuite::quitPowerPoint() {
     if (!powerPoint_) return;
     for (const auto& open : powerPoint_->open()) open->close();
@@ -31,6 +42,7 @@ Object DoubleSuite::attach(std::string_view className) {
     if (powerPoint_ && office::sameIgnoringCase(className, "PowerPoint.Application")) {
         return powerPoint_->handle();
     }
+    if (word_ && office::sameIgnoringCase(className, "Word.Application")) return word_->handle();
     return {};
 }
 

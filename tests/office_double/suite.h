@@ -10,6 +10,7 @@
 #include "office/suite.h"
 #include "office_double/excel/application.h"
 #include "office_double/powerpoint/application.h"
+#include "office_double/word/application.h"
 
 namespace office_double {
 
@@ -21,6 +22,7 @@ namespace office_double {
 ///     book.chartSheet("Overview");
 ///     book.define("Total", "=Sales!$A$1");
 ///     suite.powerPoint().addPresentation("Deck.pptx").addSlides(3);
+///     suite.word().addDocument("Report.docx").addText("Figures");
 class DoubleSuite : public office::Suite {
 public:
     DoubleSuite() : state_(std::make_shared<SuiteState>()) {}
@@ -30,8 +32,10 @@ public:
     /// The application of the name; the first call makes it run.
     ExcelApplication& excel();
     PowerPointApplication& powerPoint();
+    WordApplication& word();
     void quitExcel() { excel_.reset(); }
     void quitPowerPoint();
+    void quitWord();
     /// All applications go away: every further call throws `SuiteLost`.
     void kill() { state_->failures.loseSuite(); }
 
@@ -68,6 +72,7 @@ private:
     std::shared_ptr<SuiteState> state_;
     std::shared_ptr<ExcelApplication> excel_;
     std::shared_ptr<PowerPointApplication> powerPoint_;
+    std::shared_ptr<WordApplication> word_;
     office::Pacing pacing_ = office::Pacing::FinishedOnReturn;
     int clipboardClears_ = 0;
     int locksTaken_ = 0;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "office/copied.h"
 #include "office/failure.h"
@@ -14,6 +16,13 @@ using office::Failure;
 using office::FailureNumber;
 using office::Object;
 using office::Value;
+
+/// The size of a text: characters half as wide as they are high, in one line.
+inline office::model::powerpoint::Size measureOfDouble(const std::string& words,
+                                                       const office::model::powerpoint::Font& font,
+                                                       std::optional<double>) {
+    return {static_cast<double>(words.size()) * font.sizePt / 2, font.sizePt};
+}
 
 /// What all objects of one suite share. Each member that is used is recorded, and fails if it is
 /// planned to.

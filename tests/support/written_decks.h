@@ -8,8 +8,8 @@
 
 namespace support {
 
-/// Keeps the presentations that a test wrote, for the validator, which looks at them after all
-/// tests; those that go by the name of a file in `inputs` are copies of it. They go into
+/// Keeps the presentations and documents that a test wrote, for the validator, which looks at them
+/// after all tests; those that go by the name of a file in `inputs` are copies of it. They go into
 /// $MURVANE_WRITTEN_DECKS, a folder of this program's own, without which none is kept.
 inline void keepDecks(const std::filesystem::path& written, const std::filesystem::path& inputs) {
     namespace fs = std::filesystem;
@@ -23,7 +23,8 @@ inline void keepDecks(const std::filesystem::path& written, const std::filesyste
     const std::string label = test != nullptr ? test->name() : run.current_test_suite()->name();
     for (const auto& entry : fs::directory_iterator(written)) {
         const fs::path& deck = entry.path();
-        if (deck.extension() == ".pptx" && !fs::exists(inputs / deck.filename())) {
+        const bool isKept = deck.extension() == ".pptx" || deck.extension() == ".docx";
+        if (isKept && !fs::exists(inputs / deck.filename())) {
             fs::copy_file(deck, kept / (label + " " + deck.filename().string()));
         }
     }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 #include <utility>
 
 #include "office/package/package.h"
@@ -22,10 +23,16 @@ constexpr std::ptrdiff_t mostAttributes = 500;
 /// What makes a node or an attribute of the tree, each of which takes up to 70 bytes twice.
 constexpr std::ptrdiff_t mostMarks = 4'000'000;
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 3> ownPrefixes = {{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 9> ownPrefixes = {{
     {"xmlns:p", ns::presentation},
     {"xmlns:a", ns::drawing},
     {"xmlns:r", ns::relationships},
+    {"xmlns:w", ns::word},
+    {"xmlns:wp", ns::wordDrawing},
+    {"xmlns:pic", ns::picture},
+    {"xmlns:c", ns::chart},
+    {"xmlns:v", ns::vml},
+    {"xmlns:o", ns::officeVml},
 }};
 
 /// The namespace that a prefix stands for at an element; of the empty one the default namespace.
@@ -86,10 +93,33 @@ struct BytesWriter : pugi::xml_writer {
     std::string bytes;
 };
 
-/// Declares the prefix of an element that stands where its document has another or none.
+/// The prefixes that an element and all in it are written with.
+class UsedPrefixes : public pugi::xml_tree_walker {
+public:
+    explicit UsedPrefixes(pugi::xml_node element) {
+        for_each(element);
+        element.traverse(*this);
+    }
+    bool for_each(pugi::xml_node& node) override {
+        prefixes_.emplace(split(node.name()).first);
+        for (const pugi::xml_attribute attribute : node.attributes())
+            prefixes_.emplace(split(attribute.name()).first);
+        return true;
+    }
+    [[nodiscard]] bool has(std::string_view prefix) const {
+        return prefixes_.contains(std::string(prefix));
+    }
+
+private:
+    std::set<std::string> prefixes_;
+};
+
+/// Declares the prefixes of an element that stands where its document has others or none.
 void declarePrefixes(pugi::xml_node element) {
+    const UsedPrefixes used(element);
     for (const auto& [declaration, space] : ownPrefixes) {
-        if (namespaceOf(element, split(declaration).second) != space)
+        const std::string_view prefix = split(declaration).second;
+        if (used.has(prefix) && namespaceOf(element, prefix) != space)
             element.append_attribute(std::string(declaration).c_str())
                 .set_value(std::string(space).c_str());
     }
@@ -180,6 +210,22 @@ pugi::xml_attribute attributeNamed(pugi::xml_node node, std::string_view space,
 pugi::xml_attribute attributeFor(pugi::xml_node node, const char* name) {
     const auto found = node.attribute(name);
     return found ? found : node.append_attribute(name);
+}
+
+std::string_view wordValue(pugi::xml_node node, std::string_view name) {
+    return attributeNamed(node, ns::word, name).value();
+}
+
+void setWordValue(pugi::xml_node node, std::string_view name, const std::string& value) {
+    auto attribute = attributeNamed(node, ns::word, name);
+    if (!attribute) {
+        const bool isUsual = namespaceOf(node, "w") == ns::word;
+        std::string_view prefix = split(node.name()).first;
+        if (isUsual || prefix.empty()) prefix = "w";
+        attribute = node.append_attribute(fmt::format("{}:{}", prefix, name).c_str());
+        declarePrefixes(node);
+    }
+    attribute.set_value(value.c_str());
 }
 
 pugi::xml_node childInOrder(pugi::xml_node parent, std::string_view space, std::string_view name,

@@ -22,6 +22,14 @@ inline constexpr std::string_view spreadsheet =
 inline constexpr std::string_view spreadsheetDrawing =
     "http://schemas.openxmlformats.org/drawingml/2006/spreadsheetDrawing";
 inline constexpr std::string_view chart = "http://schemas.openxmlformats.org/drawingml/2006/chart";
+inline constexpr std::string_view word =
+    "http://schemas.openxmlformats.org/wordprocessingml/2006/main";
+inline constexpr std::string_view wordDrawing =
+    "http://schemas.openxmlformats.org/drawingml/2006/wordprocessingDrawing";
+inline constexpr std::string_view picture =
+    "http://schemas.openxmlformats.org/drawingml/2006/picture";
+inline constexpr std::string_view vml = "urn:schemas-microsoft-com:vml";
+inline constexpr std::string_view officeVml = "urn:schemas-microsoft-com:office:office";
 inline constexpr std::string_view compatibility =
     "http://schemas.openxmlformats.org/markup-compatibility/2006";
 }  // namespace ns
@@ -62,13 +70,19 @@ private:
 /// An attribute without a namespace, made if it isn't there yet.
 [[nodiscard]] pugi::xml_attribute attributeFor(pugi::xml_node node, const char* name);
 
+/// The value of an attribute in the namespace of Word's documents, such as w:val; empty if it isn't
+/// there.
+[[nodiscard]] std::string_view wordValue(pugi::xml_node node, std::string_view name = "val");
+/// Writes such an attribute, under the prefix that the document has for it.
+void setWordValue(pugi::xml_node node, std::string_view name, const std::string& value);
+
 /// The child of that name, made where the schema wants it if it isn't there: `order` is the
 /// schema's sequence of children, all of the namespace of the new one.
 pugi::xml_node childInOrder(pugi::xml_node parent, std::string_view space, std::string_view name,
                             const std::vector<std::string_view>& order);
 /// Puts markup in as the last child ahead of `before`, or as the last of all. The markup is one
-/// element, written with the prefixes p, a and r; they are declared on it where the document has
-/// others.
+/// element, written with the usual prefixes of the namespaces above; those that it uses are
+/// declared on it where the document has others.
 pugi::xml_node insertMarkup(pugi::xml_node parent, const std::string& markup,
                             pugi::xml_node before = {});
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "office/failure.h"
+#include "office/package/office_file.h"
 #include "office/package/presentation/deck_file.h"
 #include "office/package/presentation/file_deck.h"
 #include "support/package_edit.h"

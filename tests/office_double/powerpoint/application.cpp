@@ -44,12 +44,8 @@ Presentation& Presentation::runSlideShow() {
 }
 
 PowerPointApplication::PowerPointApplication(std::shared_ptr<SuiteState> state)
-    // Characters half as wide as they are high, in one line.
-    : FileDecks(std::make_shared<package::FileRules>(package::FileRules{
-          [](const std::string& words, const model::Font& font, auto) -> model::Size {
-              return {static_cast<double>(words.size()) * font.sizePt / 2, font.sizePt};
-          },
-          state->clipboard})),
+    : FileDecks(std::make_shared<package::FileRules>(
+          package::FileRules{.measure = measureOfDouble, .clipboard = state->clipboard})),
       state_(std::move(state)) {}
 
 Presentation& PowerPointApplication::addPresentation(const std::string& name,

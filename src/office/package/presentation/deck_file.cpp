@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "office/model/powerpoint/objects.h"
+#include "office/package/office_file.h"
 #include "office/package/presentation/file_decks.h"
 
 namespace office::package {

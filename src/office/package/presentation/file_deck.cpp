@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <filesystem>
 #include <set>
 
 #include "office/model/powerpoint/objects.h"
+#include "office/package/office_file.h"
 #include "office/package/part_name.h"
 #include "office/text.h"
 
@@ -271,18 +271,7 @@ void FileDeck::saveCopy(const std::string& path) {
         // What only tells about the deck may be wrong with it.
     }
     if (isChanged_) package_.replace(main_, presentation_.bytes());
-    // What stands there is replaced by the whole, or stays.
-    const std::filesystem::path file(std::u8string(path.begin(), path.end()));
-    std::filesystem::path fresh = file;
-    fresh += ".new";
-    package_.save(fresh);
-    std::error_code problem;
-    std::filesystem::rename(fresh, file, problem);
-    if (!problem) return;
-    std::error_code ignored;
-    std::filesystem::remove(fresh, ignored);
-    throw PackageError(Fault::Unreadable,
-                       fmt::format("it can't be written ({})", problem.message()));
+    saveOver(package_, path);
 }
 
 void FileDeck::close() {
@@ -293,14 +282,7 @@ void FileDeck::close() {
 
 void FileDeck::writeKind(bool keepsMacros) {
     package_.setContentType(main_, keepsMacros ? macroPresentation : plainPresentation);
-    if (keepsMacros) return;
-    Relationships& relationships = package_.relationshipsOf(main_);
-    if (const Relationship* const macros = relationships.ofType(macroProject)) {
-        const std::string part = relationships.partOf(*macros);
-        relationships.remove(macros->id);
-        // Their signatures hang on them.
-        package_.removeWithTargets(part);
-    }
+    if (!keepsMacros) dropMacros(package_, main_);
 }
 
 /// The number that file managers show.

@@ -95,12 +95,6 @@ private:
 
 using FileDeckPtr = std::shared_ptr<FileDeck>;
 
-/// Relationships that other makers have added to the standard.
-inline constexpr std::string_view macroProject =
-    "http://schemas.microsoft.com/office/2006/relationships/vbaProject";
-inline constexpr std::string_view signatureOrigin =
-    "http://schemas.openxmlformats.org/package/2006/relationships/digital-signature/origin";
-
 /// The part that a package is about. `PackageError` NotAPackage if that is no presentation.
 [[nodiscard]] std::string presentationPartOf(Package& package);
 

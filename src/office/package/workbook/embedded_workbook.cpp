@@ -5,6 +5,7 @@
 #include <optional>
 #include <vector>
 
+#include "office/package/office_file.h"
 #include "office/package/part_name.h"
 #include "office/package/workbook/cell_box.h"
 #include "office/package/workbook/sheet_alone.h"
@@ -21,8 +22,6 @@ constexpr const char* macroMain = "application/vnd.ms-excel.sheet.macroEnabled.m
 constexpr const char* plainType =
     "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet";
 constexpr const char* macroType = "application/vnd.ms-excel.sheet.macroEnabled.12";
-constexpr std::string_view signatureOrigin =
-    "http://schemas.openxmlformats.org/package/2006/relationships/digital-signature/origin";
 
 /// The schema's order in a workbook, as far as something is put in.
 const std::vector<std::string_view> workbookOrder = {"fileVersion",    "fileSharing",

@@ -1,0 +1,41 @@
+#include "office/package/document/document_file.h"
+
+#include <memory>
+#include <utility>
+
+#include "office/model/word/objects.h"
+#include "office/package/document/file_documents.h"
+#include "office/package/office_file.h"
+#include "office/package/presentation/file_decks.h"
+
+namespace office::package {
+
+constexpr std::string_view strictText = "http://purl.oclc.org/ooxml/wordprocessingml/main";
+
+DeckFacts documentFactsOf(const std::filesystem::path& file) {
+    Package package = Package::open(file);
+    const std::string main = documentPartOf(package);
+    const Xml text(package.read(main), main);
+    const auto has = [&](const std::string& source, std::string_view type) {
+        return package.relationshipsOf(source).ofType(type) != nullptr;
+    };
+    const DeckFacts facts{.isStrict = isNamed(text.root(), strictText, "document"),
+                          .isSigned = has("/", signatureOrigin),
+                          .hasMacros = has(main, macroProject)};
+    if (facts.isStrict) return facts;
+    // What is wrong with it shows in a document that is then dropped.
+    const auto document =
+        std::make_shared<FileDocument>(std::move(package), "", "", std::make_shared<FileRules>());
+    document->appendParagraph();
+    document->selectEnd();
+    document->insertCaption({"Figure", ""});
+    return facts;
+}
+
+Object wordOfFiles(FileRules rules) {
+    return word::applicationObject(
+        std::make_shared<PackageGuard>(),
+        std::make_shared<FileDocuments>(std::make_shared<const FileRules>(std::move(rules))));
+}
+
+}  // namespace office::package

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "office/package/package.h"
+#include "office/package/xml.h"
+
+namespace office::package {
+
+/// The styles of a document. Those that every document has are written into it once they are used.
+class DocumentStyles {
+public:
+    /// `document` is the part of the document's text. The package has to outlive it.
+    DocumentStyles(Package& package, std::string document)
+        : package_(package),
+          document_(std::move(document)) {}
+
+    /// The id of a style by Word's number, which is one of `office::model::word::style`; empty for
+    /// the style that paragraphs have which name none. `PackageError`.
+    [[nodiscard]] std::string idOf(std::int32_t number);
+    /// What the paragraph behind one of this style has; `id` is empty as above. `PackageError`.
+    [[nodiscard]] std::string nextOf(const std::string& id);
+    /// The name by which Word knows a style in every language, in small letters: "heading 1".
+    [[nodiscard]] std::string nameOf(const std::string& id);
+    /// Hands changed styles to the package.
+    void write();
+
+private:
+    [[nodiscard]] pugi::xml_node root();
+    [[nodiscard]] std::string plainId();
+    [[nodiscard]] pugi::xml_node byId(const std::string& id);
+    [[nodiscard]] std::string freeId(const std::string& wanted);
+
+    Package& package_;
+    std::string document_;
+    std::string part_;
+    std::unique_ptr<Xml> xml_;
+    bool isChanged_ = false;
+};
+
+}  // namespace office::package

@@ -1,0 +1,352 @@
+#include "office/package/document/file_document.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "office/model/refusal.h"
+#include "office/package/document/core_properties.h"
+#include "office/package/document/drawing_markup.h"
+#include "office/package/document/page_section.h"
+#include "office/package/document/paragraph.h"
+#include "office/package/document/reading_order.h"
+#include "office/package/office_file.h"
+#include "office/text.h"
+
+namespace office::package {
+
+namespace {
+
+/// What a package about a document says that it is, by the kinds of file.
+constexpr const char* plainDocument =
+    "application/vnd.openxmlformats-officedocument.wordprocessingml.document.main+xml";
+constexpr const char* macroDocument = "application/vnd.ms-word.document.macroEnabled.main+xml";
+constexpr std::array<std::string_view, 4> documentTypes = {
+    plainDocument, macroDocument,
+    "application/vnd.openxmlformats-officedocument.wordprocessingml.template.main+xml",
+    "application/vnd.ms-word.template.macroEnabledTemplate.main+xml"};
+
+constexpr std::array<std::string_view, 4> blocks = {"p", "tbl", "sdt", "customXml"};
+
+bool isBlock(pugi::xml_node element) {
+    return isNamed(element, ns::compatibility, "AlternateContent") ||
+           std::any_of(blocks.begin(), blocks.end(),
+                       [&](std::string_view name) { return isNamed(element, ns::word, name); });
+}
+
+std::string stemIn(const std::string& main, std::string_view name) {
+    return fmt::format("{}/{}", main.substr(0, main.rfind('/')), name);
+}
+
+}  // namespace
+
+std::string documentPartOf(Package& package) {
+    const Relationships& relationships = package.relationshipsOf("/");
+    const Relationship* const found = relationships.ofType("officeDocument");
+    if (found == nullptr) throw PackageError(Fault::NotAPackage, "it is no document");
+    std::string part = relationships.partOf(*found);
+    const std::string type = package.contentTypeOf(part);
+    if (std::find(documentTypes.begin(), documentTypes.end(), type) == documentTypes.end())
+        throw PackageError(Fault::NotAPackage, "it is no document");
+    return part;
+}
+
+FileDocument::FileDocument(Package package, std::string path, std::string name, FileRulesPtr rules)
+    : package_(std::move(package)),
+      path_(std::move(path)),
+      name_(std::move(name)),
+      rules_(std::move(rules)),
+      main_(documentPartOf(package_)),
+      xml_(package_.read(main_), main_),
+      body_(childNamed(xml_.root(), ns::word, "body")),
+      styles_(package_, main_),
+      captions_(body_) {
+    if (!isNamed(xml_.root(), ns::word, "document"))
+        throw PackageError(Fault::NotAPackage, "it is no document of the usual kind");
+    if (!body_) throw PackageError(Fault::Damaged, "it has no text");
+    const auto paragraphs = paragraphsIn(body_);
+    caret_.paragraph = paragraphs.empty() ? lastParagraph() : paragraphs.front();
+    caret_.before = contentOf(caret_.paragraph);
+}
+
+std::string FileDocument::title() {
+    return titleOf(package_);
+}
+
+void FileDocument::setTitle(const std::string& title) {
+    setTitleOf(package_, title);
+}
+
+/// What has to stay behind all text: the properties of the last section. Null if there are none.
+pugi::xml_node FileDocument::endOfText() const {
+    for (auto last = body_.last_child(); last; last = last.previous_sibling()) {
+        if (last.type() == pugi::node_element)
+            return isNamed(last, ns::word, "sectPr") ? last : pugi::xml_node();
+    }
+    return {};
+}
+
+/// Made where a table or a block of controls is the last.
+pugi::xml_node FileDocument::lastParagraph() {
+    for (auto last = body_.last_child(); last; last = last.previous_sibling()) {
+        if (last.type() != pugi::node_element || !isBlock(last)) continue;
+        if (isNamed(last, ns::word, "p")) return last;
+        break;
+    }
+    touch();
+    return addParagraph(body_, endOfText());
+}
+
+void FileDocument::appendParagraph() {
+    touch();
+    addParagraphBehind(lastParagraph());
+}
+
+void FileDocument::changeLastParagraph(const word::ParagraphChange& change) {
+    touch();
+    changeLook(lastParagraph(), change, styles_);
+}
+
+void FileDocument::selectEnd() {
+    selected_.reset();
+    placeCaret(lastParagraph());
+}
+
+void FileDocument::placeCaret(pugi::xml_node paragraph) {
+    caret_ = {paragraph, {}};
+}
+
+bool FileDocument::isCaretAtEnd() {
+    return !caret_.before && caret_.paragraph == lastParagraph();
+}
+
+void FileDocument::moveDown(std::int32_t lines) {
+    selected_.reset();
+    const auto paragraphs = paragraphsIn(body_);
+    const auto own = std::find(paragraphs.begin(), paragraphs.end(), caret_.paragraph);
+    const auto below = paragraphs.end() - own;
+    if (lines >= below) return selectEnd();
+    placeCaret(*(own + lines));
+    moveToLineStart();
+}
+
+void FileDocument::moveToLineStart() {
+    selected_.reset();
+    caret_.before = contentOf(caret_.paragraph);
+}
+
+void FileDocument::typeText(const std::string& text) {
+    touch();
+    selected_.reset();
+    const auto run = insertMarkup(caret_.paragraph, "<w:r/>", caret_.before);
+    std::string line;
+    const auto flush = [&] {
+        if (line.empty()) return;
+        insertMarkup(run, R"(<w:t xml:space="preserve"/>)").text().set(line.c_str());
+        line.clear();
+    };
+    for (const char c : legible(text)) {
+        if (c != '\t' && c != '\n' && c != '\r') {
+            line += c;
+            continue;
+        }
+        flush();
+        if (c != '\r') insertMarkup(run, c == '\t' ? "<w:tab/>" : "<w:br/>");
+    }
+    flush();
+}
+
+void FileDocument::typeParagraph() {
+    touch();
+    selected_.reset();
+    const bool isAtEnd = !caret_.before;
+    const auto added = addParagraphBehind(caret_.paragraph);
+    const std::string style = styleOf(added);
+    moveContent(caret_.before, added);
+    // Behind the whole paragraph goes what its style says.
+    if (const std::string next = styles_.nextOf(style); isAtEnd && next != style)
+        setStyle(added, next);
+    // The section goes on to the end of what has been divided.
+    if (auto section = sectionEndIn(caret_.paragraph)) {
+        auto properties = childNamed(added, ns::word, "pPr");
+        if (!properties) properties = insertMarkup(added, "<w:pPr/>", added.first_child());
+        properties.append_move(section);
+    }
+    placeCaret(added);
+    moveToLineStart();
+}
+
+void FileDocument::changeParagraph(const word::ParagraphChange& change) {
+    touch();
+    changeLook(caret_.paragraph, change, styles_);
+}
+
+/// The properties of the section that the caret is in: those that come next. Null if there are
+/// none.
+pugi::xml_node FileDocument::sectionAtCaret() const {
+    pugi::xml_node block = caret_.paragraph;
+    while (block.parent() && block.parent() != body_) block = block.parent();
+    for (; block; block = block.next_sibling()) {
+        if (isNamed(block, ns::word, "sectPr")) return block;
+        if (const auto end = sectionEndIn(block)) return end;
+    }
+    return {};
+}
+
+word::Page FileDocument::page() {
+    return pageOf(sectionAtCaret());
+}
+
+void FileDocument::setPage(const word::Page& page) {
+    touch();
+    auto section = sectionAtCaret();
+    if (!section) section = insertMarkup(body_, "<w:sectPr/>");
+    setPageOf(section, page);
+}
+
+unsigned FileDocument::freeDrawingId() {
+    struct Walker : pugi::xml_tree_walker {
+        bool for_each(pugi::xml_node& node) override {
+            if (localName(node) == "docPr") taken.insert(node.attribute("id").as_uint());
+            return true;
+        }
+        std::set<unsigned> taken;
+    };
+    if (!drawingIds_) {
+        Walker walker;
+        body_.traverse(walker);
+        drawingIds_ = std::move(walker.taken);
+    }
+    do ++lastDrawingId_;
+    while (drawingIds_->contains(lastDrawingId_));
+    return lastDrawingId_;
+}
+
+std::vector<FileObjectPtr>& FileDocument::objects() {
+    if (!objects_) readObjects();
+    return *objects_;
+}
+
+/// In the order of reading; those that are known stay themselves.
+void FileDocument::readObjects() {
+    std::vector<FileObjectPtr> known;
+    if (objects_) known = std::move(*objects_);
+    objects_.emplace();
+    visitInOrder(body_, [&](pugi::xml_node element) {
+        if (!isTextObject(element)) return true;
+        const auto same = std::find_if(known.begin(), known.end(), [&](const auto& object) {
+            return object->element() == element;
+        });
+        objects_->push_back(same != known.end() ? *same
+                                                : std::make_shared<FileObject>(*this, element));
+        return false;
+    });
+}
+
+void FileDocument::insertObject(const std::string& run) {
+    touch();
+    static_cast<void>(objects());
+    const bool isLast = isCaretAtEnd();
+    const auto inserted = insertMarkup(caret_.paragraph, run, caret_.before);
+    if (!isLast) return readObjects();
+    visitInOrder(inserted, [&](pugi::xml_node element) {
+        const bool isObject = isTextObject(element);
+        if (isObject) objects_->push_back(std::make_shared<FileObject>(*this, element));
+        return !isObject;
+    });
+}
+
+void FileDocument::addPicture(PictureFile picture, word::Anchoring anchoring) {
+    const word::ObjectSize size{picture.size.width, picture.size.height};
+    const std::string media = package_.addMedia(stemIn(main_, "media/image"), picture.ending,
+                                                picture.contentType, std::move(picture.bytes));
+    const std::string relationship = package_.relationshipsOf(main_).add("image", media);
+    const unsigned id = freeDrawingId();
+    const std::string name = fmt::format("Picture {}", id);
+    insertObject(
+        drawingRun(anchoring, id, name, size, pictureGraphic(id, name, size, relationship)));
+}
+
+void FileDocument::paste(const Copied& copied, PasteAs as, word::Anchoring anchoring) {
+    selected_.reset();
+    const CopySource::Kind kind = copied.source().kind;
+    if (kind != CopySource::Kind::Picture && as != PasteAs::Png && as != PasteAs::Metafile)
+        office::model::refuse("Selection.PasteSpecial", "It can't be pasted in this form");
+    addPicture(pictureOf(copied.png(), "What was copied"), anchoring);
+}
+
+void FileDocument::insertCaption(const word::Caption& caption) {
+    touch();
+    selected_.reset();
+    const bool isLast = caret_.paragraph == lastParagraph();
+    const auto own = caret_.paragraph;
+    if (contentOf(own)) keepWithNext(own);
+    const auto added = addParagraph(own.parent(), own.next_sibling());
+    setStyle(added, styles_.idOf(word::style::caption));
+    captions_.write(added, caption, isLast);
+    placeCaret(added);
+}
+
+std::int32_t FileDocument::objectCount(word::Anchoring anchoring) {
+    const auto& all = objects();
+    return static_cast<std::int32_t>(std::count_if(
+        all.begin(), all.end(), [&](const auto& one) { return one->anchoring() == anchoring; }));
+}
+
+word::TextObjectPtr FileDocument::objectAt(word::Anchoring anchoring, std::int32_t place) {
+    for (const FileObjectPtr& object : objects()) {
+        if (object->anchoring() == anchoring && --place == 0) return object;
+    }
+    return nullptr;
+}
+
+std::int32_t FileDocument::tableCount() {
+    std::int32_t count = 0;
+    visitInOrder(body_, [&](pugi::xml_node element) {
+        const bool isTable = isNamed(element, ns::word, "tbl");
+        if (isTable) ++count;
+        return !isTable && !isNamed(element, ns::word, "p");
+    });
+    return count;
+}
+
+word::TextObjectPtr FileDocument::selectedObject() {
+    const auto object = selected_.lock();
+    const bool counts =
+        object && !object->isGone() && object->anchoring() == word::Anchoring::Floating;
+    return counts ? object : nullptr;
+}
+
+void FileDocument::saveCopy(const std::string& path) {
+    const std::string lower = lowerCase(path);
+    const bool keepsMacros = lower.ends_with(".docm");
+    if (!keepsMacros && !lower.ends_with(".docx"))
+        throw Failure(FailureNumber::InvalidProcedureCall, "Document.SaveCopyAs",
+                      "A document is saved as .docx or .docm, not as " + path);
+    package_.setContentType(main_, keepsMacros ? macroDocument : plainDocument);
+    if (!keepsMacros) dropMacros(package_, main_);
+    styles_.write();
+    if (isChanged_) package_.replace(main_, xml_.bytes());
+    saveOver(package_, path);
+}
+
+void FileDocument::exportPdf(const std::string& /*path*/, const word::PdfOptions& /*options*/) {
+    office::model::refuse("Document.ExportAsFixedFormat",
+                          "A document that is open as a file alone has no pages to export");
+}
+
+void FileDocument::close() {
+    // Whoever is called lets go of it.
+    const auto self = shared_from_this();
+    closed_(*this);
+}
+
+void FileDocument::markGone() {
+    isGone_ = true;
+    if (!objects_) return;
+    for (const auto& object : *objects_) object->markGone();
+}
+
+}  // namespace office::package

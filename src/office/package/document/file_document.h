@@ -1,0 +1,123 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "office/model/word/text_document.h"
+#include "office/package/document/captions.h"
+#include "office/package/document/document_styles.h"
+#include "office/package/document/file_object.h"
+#include "office/package/package.h"
+#include "office/package/presentation/deck_file.h"
+#include "office/package/presentation/picture_file.h"
+#include "office/package/xml.h"
+
+namespace office::package {
+
+namespace word = office::model::word;
+
+/// A document in a package. Its caret stands in a paragraph, and nothing is ever selected but an
+/// object.
+class FileDocument : public word::TextDocument, public std::enable_shared_from_this<FileDocument> {
+public:
+    /// `path` is empty for a document that has no file yet. `PackageError` if the package is
+    /// damaged or no document.
+    FileDocument(Package package, std::string path, std::string name, FileRulesPtr rules);
+
+    [[nodiscard]] Package& package() { return package_; }
+    [[nodiscard]] const FileRules& rules() const { return *rules_; }
+    [[nodiscard]] pugi::xml_node body() const { return body_; }
+    [[nodiscard]] DocumentStyles& styles() { return styles_; }
+    /// Says that the text is another than it was.
+    void touch() { isChanged_ = true; }
+    void select(const FileObjectPtr& object) { selected_ = object; }
+    void markGone();
+    /// What is called when it is closed.
+    void onClosed(std::function<void(FileDocument&)> closed) { closed_ = std::move(closed); }
+    void onActivated(std::function<void(FileDocument&)> activated) {
+        activated_ = std::move(activated);
+    }
+
+    [[nodiscard]] bool isGone() const override { return isGone_; }
+    std::string name() override { return name_; }
+    std::string fullName() override { return path_.empty() ? name_ : path_; }
+    std::string title() override;
+    void setTitle(const std::string& title) override;
+    void appendParagraph() override;
+    void changeLastParagraph(const word::ParagraphChange& change) override;
+    void selectEnd() override;
+    /// Nothing but objects can be selected here, and they have no text.
+    std::string selectedText() override { return {}; }
+    /// A line is a paragraph here: where lines end shows in a window only.
+    void moveDown(std::int32_t lines) override;
+    void moveToLineStart() override;
+    void typeText(const std::string& text) override;
+    void typeParagraph() override;
+    void changeParagraph(const word::ParagraphChange& change) override;
+    word::Page page() override;
+    void setPage(const word::Page& page) override;
+    void paste(const Copied& copied, PasteAs as, word::Anchoring anchoring) override;
+    void insertCaption(const word::Caption& caption) override;
+    std::int32_t objectCount(word::Anchoring anchoring) override;
+    word::TextObjectPtr objectAt(word::Anchoring anchoring, std::int32_t place) override;
+    std::int32_t tableCount() override;
+    word::TextObjectPtr selectedObject() override;
+    CopiedPtr copied() override { return rules_->clipboard ? rules_->clipboard->copied : nullptr; }
+    void activate() override { activated_(*this); }
+    /// Also with the ending .docm. A document with macros leaves them out of a .docx.
+    void saveCopy(const std::string& path) override;
+    /// `Failure` 1004 always: pages are made by a suite.
+    void exportPdf(const std::string& path, const word::PdfOptions& options) override;
+    void close() override;
+
+private:
+    /// Where typing goes to: ahead of something in a paragraph, or its end.
+    struct Caret {
+        pugi::xml_node paragraph;
+        pugi::xml_node before;
+    };
+
+    [[nodiscard]] pugi::xml_node lastParagraph();
+    [[nodiscard]] pugi::xml_node endOfText() const;
+    [[nodiscard]] bool isCaretAtEnd();
+    /// Puts the caret at the end of a paragraph.
+    void placeCaret(pugi::xml_node paragraph);
+    [[nodiscard]] pugi::xml_node sectionAtCaret() const;
+    /// Puts a run with an object in at the caret.
+    void insertObject(const std::string& run);
+    void addPicture(PictureFile picture, word::Anchoring anchoring);
+    [[nodiscard]] std::vector<FileObjectPtr>& objects();
+    void readObjects();
+    [[nodiscard]] unsigned freeDrawingId();
+
+    Package package_;
+    std::string path_;
+    std::string name_;
+    FileRulesPtr rules_;
+    std::string main_;
+    Xml xml_;
+    pugi::xml_node body_;
+    DocumentStyles styles_;
+    Captions captions_;
+    Caret caret_;
+    std::optional<std::vector<FileObjectPtr>> objects_;
+    std::optional<std::set<unsigned>> drawingIds_;
+    unsigned lastDrawingId_ = 0;
+    std::weak_ptr<FileObject> selected_;
+    std::function<void(FileDocument&)> closed_;
+    std::function<void(FileDocument&)> activated_;
+    bool isChanged_ = false;
+    bool isGone_ = false;
+};
+
+using FileDocumentPtr = std::shared_ptr<FileDocument>;
+
+/// The part that a package is about. `PackageError` NotAPackage if that is no document.
+[[nodiscard]] std::string documentPartOf(Package& package);
+
+}  // namespace office::package

@@ -1,0 +1,142 @@
+#include "office/package/document/file_object.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <string_view>
+#include <vector>
+
+#include "office/model/refusal.h"
+#include "office/package/document/file_document.h"
+#include "office/package/document/vml_shape.h"
+#include "office/package/presentation/file_shape.h"
+
+namespace office::package {
+
+namespace {
+
+/// Shares are of 100000, angles of 60000 to the degree.
+constexpr double perPercentOfSize = 1000;
+constexpr double perDegreeOfFall = 60000;
+/// Down and to the right, as far as Word's own shadows fall.
+constexpr double fallDegrees = 45;
+constexpr double fallPt = 3;
+constexpr const char* shadowColour = R"(<a:prstClr val="black"><a:alpha val="40000"/></a:prstClr>)";
+
+pugi::xml_node graphicOf(pugi::xml_node drawing) {
+    const auto graphic = childNamed(drawing, ns::drawing, "graphic");
+    return firstElement(childNamed(graphic, ns::drawing, "graphicData"));
+}
+
+/// What says how a picture or a shape looks; null for anything else.
+pugi::xml_node looksIn(pugi::xml_node drawing) {
+    return graphicOf(drawing).find_child([](const pugi::xml_node& child) {
+        return localName(child) == "spPr" || localName(child) == "grpSpPr";
+    });
+}
+
+void setSides(pugi::xml_node extent, const word::ObjectSize& size) {
+    attributeFor(extent, "cx").set_value(emuOf(size.width));
+    attributeFor(extent, "cy").set_value(emuOf(size.height));
+}
+
+}  // namespace
+
+word::Anchoring FileObject::anchoring() const {
+    const bool isOver = localName(element_) == "anchor" || floats(vmlShapeIn(element_));
+    return isOver ? word::Anchoring::Floating : word::Anchoring::Inline;
+}
+
+word::ObjectSize FileObject::size() {
+    if (const auto shape = vmlShapeIn(element_)) return sizeOf(shape);
+    const auto extent = childNamed(element_, ns::wordDrawing, "extent");
+    return {extent.attribute("cx").as_double() / emuPerPoint,
+            extent.attribute("cy").as_double() / emuPerPoint};
+}
+
+void FileObject::resize(const word::ObjectSize& size) {
+    document_.touch();
+    if (const auto shape = vmlShapeIn(element_)) return package::resize(shape, size);
+    const auto extent = childNamed(element_, ns::wordDrawing, "extent");
+    if (!extent) office::model::refuse("Shape.Width", "An object of this kind has no size");
+    setSides(extent, size);
+    const auto transform = childNamed(looksIn(element_), ns::drawing, "xfrm");
+    if (const auto inner = childNamed(transform, ns::drawing, "ext")) setSides(inner, size);
+}
+
+std::string FileObject::alternativeText() {
+    if (const auto shape = vmlShapeIn(element_)) return shape.attribute("alt").value();
+    return childNamed(element_, ns::wordDrawing, "docPr").attribute("descr").value();
+}
+
+void FileObject::setAlternativeText(const std::string& text) {
+    document_.touch();
+    const std::string shown = legible(text);
+    if (const auto shape = vmlShapeIn(element_)) {
+        attributeFor(shape, "alt").set_value(shown.c_str());
+        return;
+    }
+    const auto properties = childNamed(element_, ns::wordDrawing, "docPr");
+    if (!properties)
+        office::model::refuse("Shape.AlternativeText", "An object of this kind has no such text");
+    attributeFor(properties, "descr").set_value(shown.c_str());
+}
+
+word::ObjectShadow FileObject::shadow() {
+    const auto effects = childNamed(looksIn(element_), ns::drawing, "effectLst");
+    const auto found = childNamed(effects, ns::drawing, "outerShdw");
+    if (!found) return {};
+    constexpr double whole = 100 * perPercentOfSize;
+    return {.isShown = true,
+            .size = found.attribute("sx").as_double(whole) / perPercentOfSize,
+            .blur = found.attribute("blurRad").as_double() / emuPerPoint};
+}
+
+void FileObject::setShadow(const word::ObjectShadow& shadow) {
+    auto looks = looksIn(element_);
+    if (!looks) office::model::refuse("Shape.Shadow", "An object of this kind has no shadow");
+    document_.touch();
+    auto effects = childInOrder(looks, ns::drawing, "effectLst", looksOrder);
+    effects.remove_child(childNamed(effects, ns::drawing, "outerShdw"));
+    if (shadow.isShown) {
+        const long long share = std::llround(shadow.size * perPercentOfSize);
+        insertMarkup(
+            effects,
+            fmt::format(R"(<a:outerShdw blurRad="{}" dist="{}" dir="{}" sx="{}" sy="{}" )"
+                        R"(algn="tl" rotWithShape="0">{}</a:outerShdw>)",
+                        emuOf(shadow.blur), emuOf(fallPt),
+                        std::llround(fallDegrees * perDegreeOfFall), share, share, shadowColour),
+            effects.find_child([](const pugi::xml_node& effect) {
+                const std::string_view name = localName(effect);
+                return name == "prstShdw" || name == "reflection" || name == "softEdge";
+            }));
+    }
+    const auto room = childNamed(element_, ns::wordDrawing, "effectExtent");
+    if (!room) return;
+    const double fall = fallPt / std::numbers::sqrt2;
+    const double reach = shadow.isShown ? shadow.blur : 0;
+    const auto side = [&](const char* name, double points) {
+        attributeFor(room, name).set_value(emuOf(std::max(points, 0.0)));
+    };
+    for (const char* const name : {"l", "t"}) side(name, shadow.isShown ? reach - fall : 0);
+    for (const char* const name : {"r", "b"}) side(name, shadow.isShown ? reach + fall : 0);
+}
+
+void FileObject::setLeft(double left) {
+    if (anchoring() != word::Anchoring::Floating)
+        office::model::refuse("Shape.Left", "What stands in a line has no place of its own");
+    document_.touch();
+    if (const auto shape = vmlShapeIn(element_)) return package::setLeft(shape, left);
+    auto place = childNamed(element_, ns::wordDrawing, "positionH");
+    attributeFor(place, "relativeFrom").set_value("margin");
+    place.remove_children();
+    insertMarkup(place, fmt::format("<wp:posOffset>{}</wp:posOffset>", emuOf(left)));
+}
+
+void FileObject::select() {
+    document_.select(shared_from_this());
+}
+
+}  // namespace office::package

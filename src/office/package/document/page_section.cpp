@@ -1,0 +1,69 @@
+#include "office/package/document/page_section.h"
+
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "office/package/document/paragraph.h"
+#include "office/text.h"
+
+namespace office::package {
+
+namespace {
+
+const std::vector<std::string_view> sectionOrder = {
+    "headerReference", "footerReference", "footnotePr",      "endnotePr",   "type",          "pgSz",
+    "pgMar",           "paperSrc",        "pgBorders",       "lnNumType",   "pgNumType",     "cols",
+    "formProt",        "vAlign",          "noEndnote",       "titlePg",     "textDirection", "bidi",
+    "rtlGutter",       "docGrid",         "printerSettings", "sectPrChange"};
+
+/// What a section has that says nothing of its page.
+constexpr double plainWidth = 612;
+constexpr double plainHeight = 792;
+constexpr double plainMargin = 72;
+
+double lengthIn(pugi::xml_node node, const char* name, double plain) {
+    const auto found = numberOf(wordValue(node, name));
+    return found ? *found / twipsPerPoint : plain;
+}
+
+}  // namespace
+
+word::Page pageOf(pugi::xml_node section) {
+    const auto size = childNamed(section, ns::word, "pgSz");
+    const auto margins = childNamed(section, ns::word, "pgMar");
+    // Below 0 it holds whatever stands in the header.
+    const auto margin = [&](const char* side) {
+        return std::abs(lengthIn(margins, side, plainMargin));
+    };
+    word::Page page{.width = lengthIn(size, "w", plainWidth),
+                    .height = lengthIn(size, "h", plainHeight),
+                    .leftMargin = margin("left") + lengthIn(margins, "gutter", 0),
+                    .rightMargin = margin("right"),
+                    .topMargin = margin("top"),
+                    .bottomMargin = margin("bottom")};
+    return page;
+}
+
+void setPageOf(pugi::xml_node section, const word::Page& page) {
+    const bool isLandscape = page.width > page.height;
+    const auto size = childInOrder(section, ns::word, "pgSz", sectionOrder);
+    setWordValue(size, "w", twipsOf(page.width));
+    setWordValue(size, "h", twipsOf(page.height));
+    if (isLandscape || !wordValue(size, "orient").empty())
+        setWordValue(size, "orient", isLandscape ? "landscape" : "portrait");
+    const bool isNew = !childNamed(section, ns::word, "pgMar");
+    const auto margins = childInOrder(section, ns::word, "pgMar", sectionOrder);
+    const auto set = [&](const char* side, double length) {
+        setWordValue(margins, side, twipsOf(length));
+    };
+    set("top", page.topMargin);
+    set("right", page.rightMargin);
+    set("bottom", page.bottomMargin);
+    set("left", page.leftMargin - lengthIn(margins, "gutter", 0));
+    if (!isNew) return;
+    for (const char* const side : {"header", "footer"}) set(side, plainMargin / 2);
+    set("gutter", 0);
+}
+
+}  // namespace office::package
