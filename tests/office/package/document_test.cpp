@@ -134,6 +134,7 @@ TEST_F(DocumentFile, TakesPicturesWithNumberedCaptions) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.body + testing::PrintToString(row.labels));
         const auto document = open(row.body);
+        EXPECT_EQ(document->length() == 1, row.body.find("<w:t") == std::string::npos);
         for (const std::string& label : row.labels) addPicture(*document, label);
         EXPECT_EQ(read(*document), row.expected);
         const auto again = saved(*document);

@@ -79,6 +79,17 @@ void FileDocument::setTitle(const std::string& title) {
     setTitleOf(package_, title);
 }
 
+std::int32_t FileDocument::length() {
+    std::size_t count = objects().size();
+    for (const pugi::xml_node paragraph : paragraphsIn(body_)) {
+        ++count;
+        const std::string text = textOf(paragraph);
+        for (std::size_t i = 0; i < text.size(); ++count)
+            i += std::max<std::size_t>(characterLength(text, i), 1);
+    }
+    return static_cast<std::int32_t>(count);
+}
+
 /// What has to stay behind all text: the properties of the last section. Null if there are none.
 pugi::xml_node FileDocument::endOfText() const {
     for (auto last = body_.last_child(); last; last = last.previous_sibling()) {

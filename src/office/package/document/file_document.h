@@ -48,6 +48,7 @@ public:
     std::string fullName() override { return path_.empty() ? name_ : path_; }
     std::string title() override;
     void setTitle(const std::string& title) override;
+    std::int32_t length() override;
     void appendParagraph() override;
     void changeLastParagraph(const word::ParagraphChange& change) override;
     void selectEnd() override;
