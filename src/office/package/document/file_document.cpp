@@ -81,6 +81,11 @@ void FileDocument::setTitle(const std::string& title) {
 
 std::int32_t FileDocument::length() {
     std::size_t count = objects().size();
+    visitInOrder(body_, [&](pugi::xml_node element) {
+        // The end of a row counts as one, too.
+        if (isNamed(element, ns::word, "tr")) ++count;
+        return !isNamed(element, ns::word, "p");
+    });
     for (const pugi::xml_node paragraph : paragraphsIn(body_)) {
         ++count;
         const std::string text = textOf(paragraph);
