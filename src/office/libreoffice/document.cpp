@@ -1,5 +1,8 @@
 #include "office/libreoffice/document.h"
 
+#include <com/sun/star/awt/XTopWindow.hpp>
+#include <com/sun/star/awt/XWindow2.hpp>
+#include <com/sun/star/frame/XFrame.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/frame/XTitle.hpp>
 #include <com/sun/star/io/IOException.hpp>
@@ -9,10 +12,12 @@
 #include <cppuhelper/implbase1.hxx>
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 
 #include "office/failure.h"
+#include "office/text.h"
 
 namespace libreoffice {
 
@@ -59,17 +64,55 @@ std::string Document::fullName() const {
     return path.empty() ? name() : path;
 }
 
-void Document::storeCopy(std::string_view path, const char* filterName) const {
+void Document::writeCopy(std::string_view member, const std::string& path,
+                         const std::vector<FileKind>& kinds,
+                         const uno::Sequence<css::beans::PropertyValue>& options) const {
+    using office::FailureNumber;
+    const auto fail = [&](FailureNumber number, std::string_view why) {
+        throw office::Failure(number, std::string(member),
+                              fmt::format("\"{}\" could not be written: {}", path, why));
+    };
+    const auto file = std::filesystem::absolute(path);
+    const std::string ending = office::lowerCase(file.extension().string());
+    const auto kind = std::find_if(kinds.begin(), kinds.end(),
+                                   [&](const FileKind& each) { return each.ending == ending; });
+    if (kind == kinds.end()) {
+        std::string endings;
+        for (const FileKind& each : kinds)
+            endings += fmt::format("{}{}", endings.empty() ? "" : " or ", each.ending);
+        fail(FailureNumber::InvalidProcedureCall, "a copy's name ends in " + endings);
+    }
+    // LibreOffice would make the folder, also one that is merely mistyped.
+    if (!std::filesystem::is_directory(file.parent_path()))
+        fail(FailureNumber::ApplicationDefined,
+             fmt::format("there is no folder \"{}\"", file.parent_path().string()));
     try {
         as<css::frame::XStorable>(model_)->storeToURL(
             fileUrl(path),
-            propertyValues({{"FilterName", uno::Any(rtl::OUString::createFromAscii(filterName))},
+            propertyValues({{"FilterName", uno::Any(rtl::OUString::createFromAscii(kind->filter))},
+                            {"FilterData", uno::Any(options)},
                             {"Overwrite", uno::Any(true)}}));
     } catch (const css::io::IOException& error) {
-        throw office::Failure(
-            office::FailureNumber::ApplicationDefined, "SaveCopyAs",
-            fmt::format("\"{}\" could not be written: {}", path, fromUno(error.Message)));
+        fail(FailureNumber::ApplicationDefined, fromUno(error.Message));
     }
+    // A filter that fails does not always say so.
+    std::error_code problem;
+    const auto size = std::filesystem::file_size(file, problem);
+    if (problem) fail(FailureNumber::ApplicationDefined, problem.message());
+    if (size == 0) fail(FailureNumber::ApplicationDefined, "the file is empty");
+}
+
+bool Document::raise() const {
+    const auto shown = controller();
+    if (!shown.is()) return false;
+    const auto frame = shown->getFrame();
+    const auto window = frame->getContainerWindow();
+    const auto visible = tryAs<css::awt::XWindow2>(window);
+    if (!visible.is() || !visible->isVisible()) return false;
+    frame->activate();
+    if (const auto top = tryAs<css::awt::XTopWindow>(window); top.is()) top->toFront();
+    window->setFocus();
+    return true;
 }
 
 void Document::close() {

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "office/libreoffice/uno_values.h"
 
@@ -40,9 +42,19 @@ public:
         return model_->getCurrentController();
     }
 
-    /// Writes a copy in the given filter; the document's own file and state stay. `office::Failure`
-    /// 1004 with the reason.
-    void storeCopy(std::string_view path, const char* filterName) const;
+    /// A kind of file that a document is written as.
+    struct FileKind {
+        /// ".docx"
+        std::string_view ending;
+        const char* filter;
+    };
+    /// Writes a copy; the document's own file and state stay. `office::Failure` 5 for an ending
+    /// that none of the kinds has, 1004 with the reason if the file does not come about.
+    void writeCopy(std::string_view member, const std::string& path,
+                   const std::vector<FileKind>& kinds,
+                   const uno::Sequence<css::beans::PropertyValue>& options = {}) const;
+    /// Gives the document's window the foreground. False if it has none that is shown.
+    bool raise() const;
     /// Closes without saving.
     void close();
 

@@ -16,7 +16,6 @@
 #include "office/failure.h"
 #include "office/libreoffice/units.h"
 #include "office/model/powerpoint/objects.h"
-#include "office/text.h"
 
 namespace libreoffice::powerpoint {
 
@@ -203,23 +202,7 @@ void ImpressDeck::endSlideShow() {
 }
 
 void ImpressDeck::saveCopy(const std::string& path) {
-    constexpr const char* member = "Presentation.SaveCopyAs";
-    const auto fail = [&](FailureNumber number, const std::string& why) {
-        throw Failure(number, member, fmt::format("\"{}\" could not be written: {}", path, why));
-    };
-    const auto file = std::filesystem::absolute(path);
-    if (office::lowerCase(file.extension().string()) != ".pptx")
-        fail(FailureNumber::InvalidProcedureCall, "a copy's name ends in .pptx");
-    // LibreOffice would make the folder, also one that is merely mistyped.
-    if (!std::filesystem::is_directory(file.parent_path()))
-        fail(FailureNumber::ApplicationDefined,
-             fmt::format("there is no folder \"{}\"", file.parent_path().string()));
-    storeCopy(path, "Impress MS PowerPoint 2007 XML");
-    // A filter that fails does not always say so.
-    std::error_code problem;
-    const auto size = std::filesystem::file_size(file, problem);
-    if (problem) fail(FailureNumber::ApplicationDefined, problem.message());
-    if (size == 0) fail(FailureNumber::ApplicationDefined, "the file is empty");
+    writeCopy("Presentation.SaveCopyAs", path, {{".pptx", "Impress MS PowerPoint 2007 XML"}});
 }
 
 }  // namespace libreoffice::powerpoint

@@ -45,8 +45,6 @@ public:
     /// Stops and resumes drawing; counted, so the two must be called in pairs.
     void freeze() { model()->lockControllers(); }
     void thaw() { model()->unlockControllers(); }
-    /// Gives the presentation's window the foreground. False if it has none.
-    bool raise() { return window_.raise(); }
 
     [[nodiscard]] bool isGone() const override { return isClosed(); }
     std::string name() override { return Document::name(); }

@@ -1,8 +1,6 @@
 #include "office/libreoffice/powerpoint/impress_window.h"
 
 #include <com/sun/star/awt/XToolkitExperimental.hpp>
-#include <com/sun/star/awt/XTopWindow.hpp>
-#include <com/sun/star/awt/XWindow2.hpp>
 #include <com/sun/star/beans/UnknownPropertyException.hpp>
 #include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/drawing/framework/ResourceId.hpp>
@@ -225,17 +223,6 @@ void ImpressWindow::dispatch(const char* command,
     css::frame::DispatchHelper::create(deck_.connection().context())
         ->executeDispatch(frame, rtl::OUString::createFromAscii(command), rtl::OUString(), 0,
                           arguments);
-}
-
-bool ImpressWindow::raise() {
-    const auto frame = controller()->getFrame();
-    const auto window = frame->getContainerWindow();
-    const auto visible = tryAs<css::awt::XWindow2>(window);
-    if (!visible.is() || !visible->isVisible()) return false;
-    frame->activate();
-    if (const auto top = tryAs<css::awt::XTopWindow>(window); top.is()) top->toFront();
-    window->setFocus();
-    return true;
 }
 
 }  // namespace libreoffice::powerpoint

@@ -42,8 +42,6 @@ public:
     /// Pastes the kind of data that LibreOffice gives this number onto a slide. The slide in view
     /// and the selection stay.
     void pasteOnto(ImpressSlide& slide, sal_uInt32 format);
-    /// Gives the window the foreground. False if it has no window that is shown.
-    bool raise();
 
 private:
     [[nodiscard]] const uno::Reference<css::frame::XController>& controller();

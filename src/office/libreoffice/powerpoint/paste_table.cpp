@@ -7,9 +7,9 @@
 #include <utility>
 
 #include "office/failure.h"
+#include "office/libreoffice/objects/table_markup.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/powerpoint/paste.h"
-#include "office/libreoffice/powerpoint/table_markup.h"
 
 namespace libreoffice::powerpoint {
 
@@ -87,7 +87,7 @@ ShapeRef addTable(ImpressSlide& slide, const office::TableLook& table, double sc
     const sal_Int32 before = slide.page()->getCount();
     {
         const LentClipboard clipboard(deck.connection(),
-                                      new OfferedDrawing(tableMarkup(table, scale)));
+                                      new OfferedDrawing(objects::tableDrawing(table, scale)));
         deck.impressWindow().pasteOnto(slide, drawingFormat);
     }
     if (slide.page()->getCount() != before + 1)

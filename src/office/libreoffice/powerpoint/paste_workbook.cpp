@@ -1,80 +1,19 @@
-#include <com/sun/star/awt/Point.hpp>
-#include <com/sun/star/awt/Rectangle.hpp>
-#include <fmt/format.h>
-
-#include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/objects/copied_object.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
-#include "office/libreoffice/powerpoint/object_storage.h"
 #include "office/libreoffice/powerpoint/paste.h"
-#include "office/libreoffice/powerpoint/sheet_copy.h"
 
 namespace libreoffice::powerpoint {
 
-namespace {
-
-/// A workbook of one empty sheet.
-constexpr std::string_view emptyBook =
-    R"(<?xml version="1.0" encoding="UTF-8"?>)"
-    R"(<office:document-content xmlns:office="urn:oasis:names:tc:opendocument:xmlns:office:1.0")"
-    R"( xmlns:table="urn:oasis:names:tc:opendocument:xmlns:table:1.0" office:version="1.3">)"
-    R"(<office:body><office:spreadsheet><table:table table:name="Murvane"/></office:spreadsheet>)"
-    R"(</office:body></office:document-content>)";
-
-/// What of the first sheet is seen. A workbook takes it from its settings only while it is loaded.
-std::string settingsShowing(const css::awt::Rectangle& area) {
-    const auto item = [](const char* name, sal_Int32 value) {
-        return fmt::format(R"(<config:config-item config:name="VisibleArea{}" config:type="int">{})"
-                           R"(</config:config-item>)",
-                           name, value);
-    };
-    return fmt::format(
-        R"(<?xml version="1.0" encoding="UTF-8"?>)"
-        R"(<office:document-settings xmlns:office="urn:oasis:names:tc:opendocument:xmlns:office:1.0")"
-        R"( xmlns:config="urn:oasis:names:tc:opendocument:xmlns:config:1.0" office:version="1.3">)"
-        R"(<office:settings><config:config-item-set config:name="ooo:view-settings">)"
-        R"({}{}{}{}</config:config-item-set></office:settings></office:document-settings>)",
-        item("Left", area.X), item("Top", area.Y), item("Width", area.Width),
-        item("Height", area.Height));
-}
-
-/// Where on its sheet something stands that was copied.
-struct Place {
-    excel::CalcDocument& book;
-    css::awt::Rectangle area;
-};
-
-Place placeOf(const excel::CopiedHere& copied) {
-    css::awt::Point corner;
-    css::awt::Size size;
-    if (const auto* cells = dynamic_cast<const excel::CopiedCells*>(&copied)) {
-        corner = property<css::awt::Point>(cells->cells(), "Position");
-        size = property<css::awt::Size>(cells->cells(), "Size");
-        return {cells->sheet().book(), {corner.X, corner.Y, size.Width, size.Height}};
-    }
-    const auto& chart = dynamic_cast<const excel::CopiedChart&>(copied);
-    corner = chart.shape()->getPosition();
-    size = chart.shape()->getSize();
-    return {chart.book(), {corner.X, corner.Y, size.Width, size.Height}};
-}
-
-}  // namespace
-
-/// The whole workbook would come along by way of a file, which takes longer by as much as there is
-/// in it, and would hand on sheets that nobody has chosen.
 ShapeRef addWorkbook(ImpressSlide& slide, const excel::CopiedHere& copied,
                      const css::awt::Size& size) {
     const auto picture = copied.graphic();
-    const Place from = placeOf(copied);
-    NewObject object(slide.deck().model());
-    object.setMediaType("application/vnd.oasis.opendocument.spreadsheet");
-    object.writeXml("content.xml", emptyBook);
-    object.writeXml("settings.xml", settingsShowing(from.area));
-    object.close();
+    objects::NewObject object(slide.deck().model());
+    objects::storeEmptyWorkbook(object, copied);
     NewObjectShape made(slide);
     made.shape()->setSize(size);
     setProperty(made.shape(), "PersistName", object.name());
-    const auto book = property<uno::Reference<css::frame::XModel>>(made.shape(), "Model");
-    copySheet(slide.deck().connection(), from.book.model(), copied.source().sheet, book);
+    objects::fillWorkbook(slide.deck().connection(), copied,
+                          property<uno::Reference<css::frame::XModel>>(made.shape(), "Model"));
     setProperty(made.shape(), "Graphic", picture);
     object.complete();
     return made.take();

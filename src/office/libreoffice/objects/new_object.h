@@ -7,23 +7,27 @@
 
 #include "office/libreoffice/uno_values.h"
 
-namespace libreoffice::powerpoint {
+namespace libreoffice::objects {
 
-/// A folder in a presentation's own storage that is being filled with a new embedded object. A
+/// Writes a file of a storage.
+void writeXml(const uno::Reference<css::embed::XStorage>& folder, const char* file,
+              std::string_view xml);
+
+/// A folder in a document's own storage that is being filled with a new embedded object. A
 /// shape that is given its name shows the object. Unless it is completed, it is taken out again.
 class NewObject {
 public:
-    explicit NewObject(const uno::Reference<css::frame::XModel>& presentation);
+    explicit NewObject(const uno::Reference<css::frame::XModel>& document);
     NewObject(const NewObject&) = delete;
     NewObject& operator=(const NewObject&) = delete;
     ~NewObject();
 
-    /// As the presentation knows it: a shape's "PersistName".
+    /// As the document knows it: a shape's "PersistName", a text object's "StreamName".
     [[nodiscard]] const rtl::OUString& name() const { return name_; }
     [[nodiscard]] const uno::Reference<css::embed::XStorage>& folder() const { return folder_; }
     /// Says what kind of document the folder holds.
     void setMediaType(const char* mediaType);
-    void writeXml(const char* file, std::string_view xml);
+    void writeXml(const char* file, std::string_view xml) { objects::writeXml(folder_, file, xml); }
     /// Hands the folder over; it can't be written any more.
     void close();
     /// The object stays.
@@ -36,4 +40,4 @@ private:
     bool isComplete_ = false;
 };
 
-}  // namespace libreoffice::powerpoint
+}  // namespace libreoffice::objects

@@ -1,4 +1,4 @@
-#include "office/libreoffice/powerpoint/object_storage.h"
+#include "office/libreoffice/objects/new_object.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/document/XStorageBasedDocument.hpp>
@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-namespace libreoffice::powerpoint {
+namespace libreoffice::objects {
 
 namespace {
 
@@ -32,8 +32,19 @@ rtl::OUString freeName(const uno::Reference<css::embed::XStorage>& storage) {
 
 }  // namespace
 
-NewObject::NewObject(const uno::Reference<css::frame::XModel>& presentation)
-    : all_(as<css::document::XStorageBasedDocument>(presentation)->getDocumentStorage()),
+void writeXml(const uno::Reference<css::embed::XStorage>& folder, const char* file,
+              std::string_view xml) {
+    const auto stream = folder->openStreamElement(rtl::OUString::createFromAscii(file), anew);
+    setProperty(stream, "MediaType", rtl::OUString("text/xml"));
+    const auto bytes = stream->getOutputStream();
+    bytes->writeBytes({reinterpret_cast<const sal_Int8*>(xml.data()),  // NOLINT: bytes as UNO's
+                       static_cast<sal_Int32>(xml.size())});
+    bytes->closeOutput();
+    as<css::lang::XComponent>(stream)->dispose();
+}
+
+NewObject::NewObject(const uno::Reference<css::frame::XModel>& document)
+    : all_(as<css::document::XStorageBasedDocument>(document)->getDocumentStorage()),
       name_(freeName(all_)),
       folder_(all_->openStorageElement(name_, anew)) {}
 
@@ -51,16 +62,6 @@ void NewObject::setMediaType(const char* mediaType) {
     setProperty(folder_, "MediaType", rtl::OUString::createFromAscii(mediaType));
 }
 
-void NewObject::writeXml(const char* file, std::string_view xml) {
-    const auto stream = folder_->openStreamElement(rtl::OUString::createFromAscii(file), anew);
-    setProperty(stream, "MediaType", rtl::OUString("text/xml"));
-    const auto bytes = stream->getOutputStream();
-    bytes->writeBytes({reinterpret_cast<const sal_Int8*>(xml.data()),  // NOLINT: bytes as UNO's
-                       static_cast<sal_Int32>(xml.size())});
-    bytes->closeOutput();
-    as<css::lang::XComponent>(stream)->dispose();
-}
-
 void NewObject::close() {
     if (!folder_.is()) return;
     as<css::embed::XTransactedObject>(folder_)->commit();
@@ -68,4 +69,4 @@ void NewObject::close() {
     folder_.clear();
 }
 
-}  // namespace libreoffice::powerpoint
+}  // namespace libreoffice::objects

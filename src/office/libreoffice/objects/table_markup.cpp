@@ -1,4 +1,4 @@
-#include "office/libreoffice/powerpoint/table_markup.h"
+#include "office/libreoffice/objects/table_markup.h"
 
 #include <fmt/format.h>
 #include <pugixml.hpp>
@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-namespace libreoffice::powerpoint {
+namespace libreoffice::objects {
 
 namespace {
 
@@ -121,7 +121,9 @@ private:
 /// The document that is written, and the styles that it has so far.
 class TableDocument {
 public:
-    TableDocument(const TableLook& table, double scale);
+    enum class Kind { Drawing, Text };
+
+    TableDocument(const TableLook& table, double scale, Kind kind);
 
     [[nodiscard]] std::string written() const;
 
@@ -134,14 +136,26 @@ private:
 
     /// The name of the style of a family that is made of these parts.
     [[nodiscard]] std::string styled(const char* family, const std::vector<StylePart>& parts);
+    /// Where the table goes.
+    [[nodiscard]] pugi::xml_node drawing(const TableLook& table);
+    [[nodiscard]] pugi::xml_node text(const TableLook& table);
+    void addRoot(const char* name);
     [[nodiscard]] std::string cellStyle(const CellLook& cell);
+    [[nodiscard]] static std::vector<StylePart> drawnCell(const CellLook& cell, Attributes area,
+                                                          const Attributes& lines);
+    [[nodiscard]] static std::vector<StylePart> writtenCell(const CellLook& cell, Attributes area,
+                                                            const Attributes& lines);
     [[nodiscard]] std::string paragraphStyle(const CellLook& cell);
+    /// LibreOffice writes a .docx that is not valid if the end of a paragraph says anything of
+    /// this.
+    [[nodiscard]] bool italicIsApart() const { return kind_ == Kind::Text; }
     [[nodiscard]] std::string line(const CellLine& line) const;
     void addCell(pugi::xml_node row, const CellLook& cell, std::ptrdiff_t columns,
                  std::ptrdiff_t rows);
     void addText(pugi::xml_node cell, const CellLook& look);
 
     double scale_;
+    Kind kind_;
     pugi::xml_document document_;
     pugi::xml_node styles_;
     std::map<std::string, std::string> namesOfStyles_;
@@ -159,14 +173,49 @@ constexpr std::array<std::pair<const char*, const char*>, 7> nameSpaces = {{
 constexpr std::pair<const char*, const char*> extensions = {
     "loext", "urn:org:documentfoundation:names:experimental:office:xmlns:loext:1.0"};
 
-TableDocument::TableDocument(const TableLook& table, double scale) : scale_(scale) {
-    pugi::xml_node root = document_.append_child("office:document");
+TableDocument::TableDocument(const TableLook& table, double scale, Kind kind)
+    : scale_(scale),
+      kind_(kind) {
+    pugi::xml_node grid = kind == Kind::Drawing ? drawing(table) : text(table);
+    const ShownLines shown(table);
+    for (const double width : shown.widths(table)) {
+        const auto style = styled(
+            "table-column",
+            {{"style:table-column-properties", {{"style:column-width", points(width * scale)}}}});
+        setAttributes(grid.append_child("table:table-column"), {{"table:style-name", style}});
+    }
+    const std::vector<double> heights = shown.heights(table);
+    auto height = heights.begin();
+    // A text has room for a row that another font makes higher.
+    const char* rowHeight = kind == Kind::Drawing ? "style:row-height" : "style:min-row-height";
+    for (std::size_t row = 0; row < table.rowHeightsPt.size(); ++row) {
+        if (!shown.row(row)) continue;
+        const auto style =
+            styled("table-row",
+                   {{"style:table-row-properties", {{rowHeight, points(*height++ * scale)}}}});
+        pugi::xml_node line = grid.append_child("table:table-row");
+        setAttributes(line, {{"table:style-name", style}});
+        for (std::size_t column = 0; column < table.columnWidthsPt.size(); ++column) {
+            if (!shown.column(column)) continue;
+            const CellLook& cell = table.at(row, column);
+            addCell(line, cell, shown.columns(column, cell.columns), shown.rows(row, cell.rows));
+        }
+    }
+}
+
+void TableDocument::addRoot(const char* name) {
+    pugi::xml_node root = document_.append_child(name);
     for (const auto& [prefix, space] : nameSpaces)
         setAttributes(root, {{fmt::format("xmlns:{}", prefix).c_str(), space}});
     setAttributes(root, {{fmt::format("xmlns:{}", extensions.first).c_str(), extensions.second},
-                         {"office:version", "1.3"},
-                         {"office:mimetype", "application/vnd.oasis.opendocument.presentation"}});
+                         {"office:version", "1.3"}});
     styles_ = root.append_child("office:automatic-styles");
+}
+
+pugi::xml_node TableDocument::drawing(const TableLook& table) {
+    addRoot("office:document");
+    pugi::xml_node root = document_.document_element();
+    setAttributes(root, {{"office:mimetype", "application/vnd.oasis.opendocument.presentation"}});
     setAttributes(styles_.append_child("style:page-layout"), {{"style:name", "page"}});
     setAttributes(root.append_child("office:master-styles").append_child("style:master-page"),
                   {{"style:name", "master"}, {"style:page-layout-name", "page"}});
@@ -177,31 +226,25 @@ TableDocument::TableDocument(const TableLook& table, double scale) : scale_(scal
     pugi::xml_node frame = page.append_child("draw:frame");
     setAttributes(frame, {{"svg:x", "0pt"},
                           {"svg:y", "0pt"},
-                          {"svg:width", points(table.widthPt() * scale)},
-                          {"svg:height", points(table.heightPt() * scale)}});
-    pugi::xml_node grid = frame.append_child("table:table");
-    const ShownLines shown(table);
-    for (const double width : shown.widths(table)) {
-        const auto style = styled(
-            "table-column",
-            {{"style:table-column-properties", {{"style:column-width", points(width * scale)}}}});
-        setAttributes(grid.append_child("table:table-column"), {{"table:style-name", style}});
-    }
-    const std::vector<double> heights = shown.heights(table);
-    auto height = heights.begin();
-    for (std::size_t row = 0; row < table.rowHeightsPt.size(); ++row) {
-        if (!shown.row(row)) continue;
-        const auto style = styled(
-            "table-row",
-            {{"style:table-row-properties", {{"style:row-height", points(*height++ * scale)}}}});
-        pugi::xml_node line = grid.append_child("table:table-row");
-        setAttributes(line, {{"table:style-name", style}});
-        for (std::size_t column = 0; column < table.columnWidthsPt.size(); ++column) {
-            if (!shown.column(column)) continue;
-            const CellLook& cell = table.at(row, column);
-            addCell(line, cell, shown.columns(column, cell.columns), shown.rows(row, cell.rows));
-        }
-    }
+                          {"svg:width", points(table.widthPt() * scale_)},
+                          {"svg:height", points(table.heightPt() * scale_)}});
+    return frame.append_child("table:table");
+}
+
+pugi::xml_node TableDocument::text(const TableLook& table) {
+    addRoot("office:document-content");
+    pugi::xml_node grid = document_.document_element()
+                              .append_child("office:body")
+                              .append_child("office:text")
+                              .append_child("table:table");
+    const std::string style = styled("table", {{"style:table-properties",
+                                                {{"style:width", points(table.widthPt() * scale_)},
+                                                 {"table:align", "left"},
+                                                 {"fo:margin-left", "0pt"},
+                                                 {"fo:margin-top", "0pt"},
+                                                 {"fo:margin-bottom", "0pt"}}}});
+    setAttributes(grid, {{"table:style-name", style}});
+    return grid;
 }
 
 std::string TableDocument::written() const {
@@ -241,27 +284,48 @@ std::string TableDocument::line(const CellLine& line) const {
 
 std::string TableDocument::cellStyle(const CellLook& cell) {
     Attributes area;
-    area.emplace_back("draw:fill", cell.fill ? "solid" : "none");
-    if (cell.fill) area.emplace_back("draw:fill-color", colour(*cell.fill));
-    constexpr std::array<const char*, 3> heights = {"top", "middle", "bottom"};
-    area.emplace_back("draw:textarea-vertical-align",
-                      heights.at(static_cast<std::size_t>(cell.down)));
     const bool fromRight = cell.across == CellLook::Across::Right;
     const double indent = paddingPt + cell.indentPt;
     area.emplace_back("fo:padding-left", points((fromRight ? paddingPt : indent) * scale_));
     area.emplace_back("fo:padding-right", points((fromRight ? indent : paddingPt) * scale_));
     for (const char* side : {"top", "bottom"})
         area.emplace_back(fmt::format("fo:padding-{}", side), "0pt");
+    const Attributes lines = {{"fo:border-left", line(cell.left)},
+                              {"fo:border-right", line(cell.right)},
+                              {"fo:border-top", line(cell.top)},
+                              {"fo:border-bottom", line(cell.bottom)}};
+    return styled("table-cell", kind_ == Kind::Drawing ? drawnCell(cell, std::move(area), lines)
+                                                       : writtenCell(cell, std::move(area), lines));
+}
+
+constexpr std::array<const char*, 3> heightsInCell = {"top", "middle", "bottom"};
+
+std::vector<TableDocument::StylePart> TableDocument::drawnCell(const CellLook& cell,
+                                                               Attributes area,
+                                                               const Attributes& lines) {
+    area.emplace_back("draw:fill", cell.fill ? "solid" : "none");
+    if (cell.fill) area.emplace_back("draw:fill-color", colour(*cell.fill));
+    area.emplace_back("draw:textarea-vertical-align",
+                      heightsInCell.at(static_cast<std::size_t>(cell.down)));
     std::vector<StylePart> parts = {{"loext:graphic-properties", area}};
     if (cell.rotation != 0)
         parts.push_back({"style:table-cell-properties",
                          {{"style:rotation-angle", fmt::format("{}", cell.rotation)}}});
-    parts.push_back({"style:paragraph-properties",
-                     {{"fo:border-left", line(cell.left)},
-                      {"fo:border-right", line(cell.right)},
-                      {"fo:border-top", line(cell.top)},
-                      {"fo:border-bottom", line(cell.bottom)}}});
-    return styled("table-cell", parts);
+    parts.push_back({"style:paragraph-properties", lines});
+    return parts;
+}
+
+std::vector<TableDocument::StylePart> TableDocument::writtenCell(const CellLook& cell,
+                                                                 Attributes area,
+                                                                 const Attributes& lines) {
+    constexpr std::int32_t upwards = 90;
+    if (cell.fill) area.emplace_back("fo:background-color", colour(*cell.fill));
+    area.emplace_back("style:vertical-align",
+                      heightsInCell.at(static_cast<std::size_t>(cell.down)));
+    if (cell.rotation != 0)
+        area.emplace_back("style:writing-mode", cell.rotation == upwards ? "bt-lr" : "tb-rl");
+    area.insert(area.end(), lines.begin(), lines.end());
+    return {{"style:table-cell-properties", area}};
 }
 
 std::string TableDocument::paragraphStyle(const CellLook& cell) {
@@ -271,7 +335,8 @@ std::string TableDocument::paragraphStyle(const CellLook& cell) {
         {"fo:margin-left", "0pt"},
         {"fo:margin-right", "0pt"},
         {"fo:margin-top", "0pt"},
-        {"fo:margin-bottom", "0pt"}};
+        {"fo:margin-bottom", "0pt"},
+        {"fo:line-height", "100%"}};
     Attributes letters;
     for (const char* script : {"", "-asian", "-complex"}) {
         const char* space = *script == '\0' ? "fo" : "style";
@@ -281,7 +346,7 @@ std::string TableDocument::paragraphStyle(const CellLook& cell) {
         if (!cell.fontName.empty()) set("font-family", fmt::format("'{}'", cell.fontName));
         set("font-size", points(cell.fontSizePt * scale_));
         set("font-weight", cell.isBold ? "bold" : "normal");
-        set("font-style", cell.isItalic ? "italic" : "normal");
+        if (!italicIsApart()) set("font-style", cell.isItalic ? "italic" : "normal");
     }
     letters.emplace_back("fo:color", colour(cell.fontColour));
     letters.emplace_back("style:text-underline-style", cell.isUnderlined ? "solid" : "none");
@@ -308,6 +373,10 @@ void TableDocument::addCell(pugi::xml_node row, const CellLook& cell, std::ptrdi
 void TableDocument::addText(pugi::xml_node cell, const CellLook& look) {
     pugi::xml_node paragraph = cell.append_child("text:p");
     setAttributes(paragraph, {{"text:style-name", paragraphStyle(look)}});
+    if (look.isItalic && italicIsApart()) {
+        paragraph = paragraph.append_child("text:span");
+        setAttributes(paragraph, {{"text:style-name", "Emphasis"}});
+    }
     std::string run;
     const auto endRun = [&] {
         if (!run.empty()) paragraph.append_child(pugi::node_pcdata).set_value(run.c_str());
@@ -333,8 +402,12 @@ void TableDocument::addText(pugi::xml_node cell, const CellLook& look) {
 
 }  // namespace
 
-std::string tableMarkup(const office::TableLook& table, double scale) {
-    return TableDocument(table, scale).written();
+std::string tableDrawing(const office::TableLook& table, double scale) {
+    return TableDocument(table, scale, TableDocument::Kind::Drawing).written();
 }
 
-}  // namespace libreoffice::powerpoint
+std::string tableText(const office::TableLook& table, double scale) {
+    return TableDocument(table, scale, TableDocument::Kind::Text).written();
+}
+
+}  // namespace libreoffice::objects

@@ -1,4 +1,4 @@
-#include "office/libreoffice/powerpoint/sheet_copy.h"
+#include "office/libreoffice/objects/sheet_copy.h"
 
 #include <com/sun/star/chart2/XChartDocument.hpp>
 #include <com/sun/star/chart2/data/XDataProvider.hpp>
@@ -26,7 +26,7 @@
 
 #include "office/model/excel/cell_block.h"
 
-namespace libreoffice::powerpoint {
+namespace libreoffice::objects {
 
 namespace {
 
@@ -221,4 +221,4 @@ void copySheet(const Connection& connection, const ModelRef& from, const std::st
     copySeriesNames(charts, chartsOn(copy));
 }
 
-}  // namespace libreoffice::powerpoint
+}  // namespace libreoffice::objects

@@ -6,7 +6,7 @@
 
 #include "office/libreoffice/connection.h"
 
-namespace libreoffice::powerpoint {
+namespace libreoffice::objects {
 
 /// Copies a sheet of one workbook into another, which has one empty sheet, and puts it first there
 /// instead of that one. Charts on it come along, and with them, hidden and without charts of their
@@ -15,4 +15,4 @@ namespace libreoffice::powerpoint {
 void copySheet(const Connection& connection, const uno::Reference<css::frame::XModel>& from,
                const std::string& sheet, const uno::Reference<css::frame::XModel>& into);
 
-}  // namespace libreoffice::powerpoint
+}  // namespace libreoffice::objects
