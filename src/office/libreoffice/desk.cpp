@@ -19,6 +19,7 @@
 #include "office/libreoffice/guard.h"
 #include "office/libreoffice/password_answer.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
+#include "office/libreoffice/word/writer_document.h"
 
 namespace libreoffice {
 
@@ -31,6 +32,8 @@ constexpr const char* serviceOf<excel::CalcDocument> = "com.sun.star.sheet.Sprea
 template <>
 constexpr const char* serviceOf<powerpoint::ImpressDeck> =
     "com.sun.star.presentation.PresentationDocument";
+template <>
+constexpr const char* serviceOf<word::WriterDocument> = "com.sun.star.text.TextDocument";
 
 template <class Kind, class From>
 bool isOfKind(const uno::Reference<From>& component) {
@@ -42,7 +45,8 @@ bool isOfKind(const uno::Reference<From>& component) {
 /// current component.
 uno::Reference<css::frame::XModel> modelOf(uno::Reference<uno::XInterface> component) {
     while (component.is() && !isOfKind<excel::CalcDocument>(component) &&
-           !isOfKind<powerpoint::ImpressDeck>(component)) {
+           !isOfKind<powerpoint::ImpressDeck>(component) &&
+           !isOfKind<word::WriterDocument>(component)) {
         const auto child = tryAs<css::container::XChild>(component);
         component = child.is() ? child->getParent() : nullptr;
     }
@@ -83,6 +87,11 @@ std::shared_ptr<powerpoint::ImpressDeck> Desk::presentation(
     return recordOf<powerpoint::ImpressDeck>(model);
 }
 
+std::shared_ptr<word::WriterDocument> Desk::textDocument(
+    const uno::Reference<css::frame::XModel>& model) {
+    return recordOf<word::WriterDocument>(model);
+}
+
 template <class Kind>
 std::vector<std::shared_ptr<Kind>> Desk::openDocuments() {
     std::vector<std::shared_ptr<Kind>> found;
@@ -105,6 +114,10 @@ std::vector<std::shared_ptr<excel::CalcDocument>> Desk::workbooks() {
 
 std::vector<std::shared_ptr<powerpoint::ImpressDeck>> Desk::presentations() {
     return openDocuments<powerpoint::ImpressDeck>();
+}
+
+std::vector<std::shared_ptr<word::WriterDocument>> Desk::textDocuments() {
+    return openDocuments<word::WriterDocument>();
 }
 
 template <class Kind>
@@ -148,6 +161,7 @@ void Desk::noteOrderOfWindows() {
     };
     place(workbooks());
     place(presentations());
+    place(textDocuments());
     for (const auto& [at, document] : fromLowest) document->markActive();
 }
 
@@ -159,12 +173,17 @@ std::shared_ptr<powerpoint::ImpressDeck> Desk::activePresentation() {
     return activeOf<powerpoint::ImpressDeck>();
 }
 
+std::shared_ptr<word::WriterDocument> Desk::activeTextDocument() {
+    return activeOf<word::WriterDocument>();
+}
+
 /// `file` names the file of a document that was loaded apart from it.
 void Desk::makeChangeable(const uno::Reference<css::frame::XModel>& model,
                           const rtl::OUString& file) {
     if (!file.isEmpty()) {
         if (isOfKind<excel::CalcDocument>(model)) workbook(model)->standFor(file);
         if (isOfKind<powerpoint::ImpressDeck>(model)) presentation(model)->standFor(file);
+        if (isOfKind<word::WriterDocument>(model)) textDocument(model)->standFor(file);
     }
     // Files say that they are better opened for reading; in a window a click goes over that.
     const auto storable = tryAs<css::frame::XStorable>(model);

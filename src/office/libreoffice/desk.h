@@ -20,6 +20,9 @@ class PictureMaker;
 namespace powerpoint {
 class ImpressDeck;
 }
+namespace word {
+class WriterDocument;
+}
 
 /// What all objects of one suite share: the connection, the documents that have been met, and what
 /// automation keeps for an application and LibreOffice does not (calculation mode, window state,
@@ -41,15 +44,19 @@ public:
     std::shared_ptr<excel::CalcDocument> workbook(const uno::Reference<css::frame::XModel>& model);
     std::shared_ptr<powerpoint::ImpressDeck> presentation(
         const uno::Reference<css::frame::XModel>& model);
+    std::shared_ptr<word::WriterDocument> textDocument(
+        const uno::Reference<css::frame::XModel>& model);
 
     /// All open documents of the kind in the order of the suite, those without a window too.
     std::vector<std::shared_ptr<excel::CalcDocument>> workbooks();
     std::vector<std::shared_ptr<powerpoint::ImpressDeck>> presentations();
+    std::vector<std::shared_ptr<word::WriterDocument>> textDocuments();
 
-    /// The one the user is in; if that is of the other kind, the one of this kind that was active
+    /// The one the user is in; if that is of another kind, the one of this kind that was active
     /// last, or else the first. Null with none open.
     std::shared_ptr<excel::CalcDocument> activeWorkbook();
     std::shared_ptr<powerpoint::ImpressDeck> activePresentation();
+    std::shared_ptr<word::WriterDocument> activeTextDocument();
 
     /// Opens a file, or makes a new document from a factory URL. `office::Failure` 1004 with the
     /// reason if the suite gives no document: no such file, not of a kind it reads, locked by

@@ -15,6 +15,7 @@
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/private_instance.h"
 #include "office/libreoffice/running_instance.h"
+#include "office/libreoffice/word/writer_document.h"
 #include "office/text.h"
 
 namespace libreoffice {
@@ -93,10 +94,14 @@ office::Object LibreOfficeSuite::attach(std::string_view className) {
         return excel::applicationObject(desk_);
     if (office::sameIgnoringCase(className, "PowerPoint.Application"))
         return powerpoint::applicationObject(desk_);
+    if (office::sameIgnoringCase(className, "Word.Application"))
+        return word::applicationObject(desk_);
     return {};
 }
 
 office::Object LibreOfficeSuite::start(std::string_view className) {
+    // All applications of LibreOffice run as soon as one does.
+    if (auto application = attach(className); !application.isNothing()) return application;
     throw office::Failure(office::FailureNumber::ApplicationDefined, "Suite.start",
                           fmt::format("\"{}\" can't be started here", className));
 }

@@ -20,7 +20,7 @@ namespace powerpoint {
 class ImpressDeck;
 }
 
-/// The applications of LibreOffice behind the names of Excel and PowerPoint.
+/// The applications of LibreOffice behind the names of Excel, PowerPoint and Word.
 class LibreOfficeSuite : public office::Suite {
 public:
     /// The suite that the user is running, also one that was started without a listening pipe: the

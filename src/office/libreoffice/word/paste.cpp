@@ -1,0 +1,160 @@
+#include <com/sun/star/awt/Size.hpp>
+#include <com/sun/star/graphic/XGraphicProvider.hpp>
+#include <com/sun/star/text/HoriOrientation.hpp>
+#include <com/sun/star/text/RelOrientation.hpp>
+#include <com/sun/star/text/TextContentAnchorType.hpp>
+#include <com/sun/star/text/WrapTextMode.hpp>
+
+#include "office/failure.h"
+#include "office/libreoffice/objects/copied_object.h"
+#include "office/libreoffice/units.h"
+#include "office/libreoffice/word/undo_group.h"
+#include "office/libreoffice/word/writer_document.h"
+
+namespace libreoffice::word {
+
+namespace {
+
+using office::CopySource;
+using office::Failure;
+using office::FailureNumber;
+using office::PasteAs;
+
+constexpr const char* member = "Selection.PasteSpecial";
+
+[[noreturn]] void fail(const char* why) {
+    throw Failure(FailureNumber::ApplicationDefined, member, why);
+}
+
+/// What was copied, with all that this suite knows of it.
+const excel::CopiedHere& copiedHere(const office::Copied& copied) {
+    const auto* here = dynamic_cast<const excel::CopiedHere*>(&copied);
+    if (here == nullptr || copied.source().kind == CopySource::Kind::Picture)
+        fail("It can't be pasted in this form");
+    return *here;
+}
+
+uno::Reference<css::graphic::XGraphic> pictureOfPng(const Connection& connection,
+                                                    const std::string& png) {
+    const uno::Any bytes(
+        uno::Sequence<sal_Int8>(reinterpret_cast<const sal_Int8*>(png.data()),  // NOLINT: as UNO's
+                                static_cast<sal_Int32>(png.size())));
+    const auto stream =
+        connection.context()->getServiceManager()->createInstanceWithArgumentsAndContext(
+            "com.sun.star.io.SequenceInputStream", {&bytes, 1}, connection.context());
+    return as<css::graphic::XGraphicProvider>(
+               connection.create("com.sun.star.graphic.GraphicProvider"))
+        ->queryGraphic(propertyValues({{"InputStream", uno::Any(stream)}}));
+}
+
+/// In vectors, so that its text is text in a PDF, unless dots are wanted or all there is.
+uno::Reference<css::graphic::XGraphic> pictureOf(const office::Copied& copied, PasteAs as,
+                                                 const Connection& connection) {
+    uno::Reference<css::graphic::XGraphic> picture;
+    const auto* here = dynamic_cast<const excel::CopiedHere*>(&copied);
+    if (here != nullptr && as != PasteAs::Png) picture = here->graphic();
+    if (!picture.is()) picture = pictureOfPng(connection, copied.png());
+    if (!picture.is()) fail("LibreOffice could not read the picture");
+    return picture;
+}
+
+/// A picture or an embedded object that is to stand in a text. It goes with this object unless it
+/// is taken over.
+class NewContent {
+public:
+    NewContent(const WriterDocument& document, const char* service, const office::Copied& copied,
+               model::Anchoring anchoring);
+    NewContent(const NewContent&) = delete;
+    NewContent& operator=(const NewContent&) = delete;
+    ~NewContent();
+
+    template <class Type>
+    void set(const char* name, const Type& value) {
+        setProperty(content_, name, value);
+    }
+    void insertAt(const RangeRef& place) {
+        place->getText()->insertTextContent(place, content_, false);
+        isInserted_ = true;
+    }
+    [[nodiscard]] const ContentRef& content() const { return content_; }
+    void keep() { isInserted_ = false; }
+
+private:
+    ContentRef content_;
+    bool isInserted_ = false;
+};
+
+NewContent::NewContent(const WriterDocument& document, const char* service,
+                       const office::Copied& copied, model::Anchoring anchoring)
+    : content_(as<css::text::XTextContent>(document.createInstance(service))) {
+    set("Size", css::awt::Size(hundredthMmOf(copied.widthPt()), hundredthMmOf(copied.heightPt())));
+    if (anchoring == model::Anchoring::Inline) {
+        set("AnchorType", css::text::TextContentAnchorType_AS_CHARACTER);
+        return;
+    }
+    set("AnchorType", css::text::TextContentAnchorType_AT_PARAGRAPH);
+    set("HoriOrient", css::text::HoriOrientation::NONE);
+    set("HoriOrientRelation", css::text::RelOrientation::PAGE_PRINT_AREA);
+    // It hides no text.
+    set("TextWrap", css::text::WrapTextMode_NONE);
+}
+
+NewContent::~NewContent() {
+    if (!isInserted_) return;
+    try {
+        content_->dispose();
+    } catch (const uno::Exception&) {
+        // The document or the suite has gone, and the object with it.
+    }
+}
+
+}  // namespace
+
+/// The new thing goes in front of what is selected, which is taken out only then: if the one can't
+/// be had, the other stays.
+void WriterDocument::insertObject(const ContentRef& object) {
+    removeSelected();
+    objects().add(object);
+}
+
+void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anchoring anchoring) {
+    requireWritable(caret_.range(), member);
+    const bool isPicture = copied.source().kind == CopySource::Kind::Picture;
+    if (as == PasteAs::Linked) fail("LibreOffice links no object of a text document to a workbook");
+    const Connection& connection = desk_.connection();
+    const UndoGroup steps(model(), "Paste");
+    if (as == PasteAs::Png || as == PasteAs::Metafile || (isPicture && as == PasteAs::Default)) {
+        NewContent made(*this, "com.sun.star.text.TextGraphicObject", copied, anchoring);
+        made.set("Graphic", pictureOf(copied, as, connection));
+        made.insertAt(caret_.range()->getStart());
+        insertObject(made.content());
+        made.keep();
+        return;
+    }
+    if (as == PasteAs::Default && copied.source().kind == CopySource::Kind::Cells) {
+        insertTable(copied.table());
+        return;
+    }
+    const excel::CopiedHere& here = copiedHere(copied);
+    objects::NewObject object(model());
+    const auto picture = as == PasteAs::Embedded ? here.graphic() : nullptr;
+    if (as == PasteAs::Embedded) {
+        objects::storeEmptyWorkbook(object, here);
+    } else {
+        objects::storeChart(object, dynamic_cast<const excel::CopiedChart&>(here));
+    }
+    NewContent made(*this, "com.sun.star.text.TextEmbeddedObject", copied, anchoring);
+    made.set("StreamName", object.name());
+    made.insertAt(caret_.range()->getStart());
+    if (as == PasteAs::Embedded) {
+        objects::fillWorkbook(
+            connection, here,
+            property<uno::Reference<css::frame::XModel>>(made.content(), "Model"));
+        made.set("Graphic", picture);
+    }
+    insertObject(made.content());
+    made.keep();
+    object.complete();
+}
+
+}  // namespace libreoffice::word

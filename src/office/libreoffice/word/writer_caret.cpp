@@ -1,0 +1,115 @@
+#include "office/libreoffice/word/writer_caret.h"
+
+#include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/text/XTextSection.hpp>
+#include <com/sun/star/text/XTextTableCursor.hpp>
+#include <com/sun/star/text/XTextViewCursorSupplier.hpp>
+#include <com/sun/star/view/XLineCursor.hpp>
+
+#include <utility>
+
+#include "office/failure.h"
+
+namespace libreoffice::word {
+
+namespace {
+
+[[noreturn]] void refuse(const std::string& source, const char* why) {
+    throw office::Failure(office::FailureNumber::ApplicationDefined, source, why);
+}
+
+}  // namespace
+
+WriterCaret::WriterCaret(uno::Reference<css::frame::XModel> document)
+    : document_(std::move(document)) {}
+
+void WriterCaret::attach() {
+    auto current = document_->getCurrentController();
+    if (!current.is()) refuse("Selection", "The document has no window");
+    if (current.get() == controller_.get()) return;
+    controller_ = std::move(current);
+    selection_ = as<css::view::XSelectionSupplier>(controller_);
+    cursor_ = as<css::text::XTextViewCursorSupplier>(controller_)->getViewCursor();
+    range_.set(cursor_.get());
+    lines_ = as<css::view::XViewCursor>(cursor_);
+}
+
+const RangeRef& WriterCaret::range() {
+    attach();
+    try {
+        static_cast<void>(cursor_->getText());
+    } catch (const uno::RuntimeException&) {
+        // Without text selected the cursor answers no question.
+        leaveObject();
+    }
+    return range_;
+}
+
+void WriterCaret::leaveObject() {
+    const uno::Any selected = selection_->getSelection();
+    if (uno::Reference<css::text::XTextTableCursor>(selected, uno::UNO_QUERY).is())
+        refuse("Selection", "Several cells of a table are selected");
+    uno::Reference<css::text::XTextContent> object(selected, uno::UNO_QUERY);
+    if (const uno::Reference<css::container::XIndexAccess> shapes(selected, uno::UNO_QUERY);
+        !object.is() && shapes.is() && shapes->getCount() > 0)
+        object.set(shapes->getByIndex(0), uno::UNO_QUERY);
+    if (!object.is()) refuse("Selection", "The caret stands in no text");
+    selection_->select(uno::Any(object->getAnchor()->getEnd()));
+}
+
+void WriterCaret::goTo(const RangeRef& place) {
+    attach();
+    // Moving the cursor alone leaves an object selected.
+    selection_->select(uno::Any(place));
+}
+
+bool WriterCaret::isCollapsed() {
+    static_cast<void>(range());
+    return cursor_->isCollapsed();
+}
+
+void WriterCaret::goDown(std::int32_t lines) {
+    static_cast<void>(range());
+    for (std::int32_t line = 0; line < lines; ++line) {
+        if (lines_->goDown(1, false)) continue;
+        cursor_->gotoEnd(false);
+        return;
+    }
+}
+
+void WriterCaret::goToStartOfLine() {
+    static_cast<void>(range());
+    as<css::view::XLineCursor>(cursor_)->gotoStartOfLine(false);
+}
+
+rtl::OUString WriterCaret::pageStyle() {
+    attach();
+    return property<rtl::OUString>(cursor_, "PageStyleName");
+}
+
+void WriterCaret::select(const uno::Reference<css::text::XTextContent>& object) {
+    attach();
+    selection_->select(uno::Any(object));
+}
+
+uno::Reference<css::text::XTextContent> WriterCaret::selectedContent() {
+    attach();
+    return {selection_->getSelection(), uno::UNO_QUERY};
+}
+
+void requireWritable(const RangeRef& place, const std::string& member) {
+    constexpr const char* isProtected = "IsProtected";
+    auto section = property<uno::Reference<css::text::XTextSection>>(place, "TextSection");
+    for (; section.is(); section = section->getParentSection()) {
+        if (property<bool>(section, isProtected))
+            refuse(member, "This part of the document is protected");
+    }
+    const auto cell = property<uno::Reference<uno::XInterface>>(place, "Cell");
+    if (cell.is() && property<bool>(cell, isProtected))
+        refuse(member, "This cell of the table is protected");
+    const auto frame = property<uno::Reference<uno::XInterface>>(place, "TextFrame");
+    if (frame.is() && property<bool>(frame, "ContentProtected"))
+        refuse(member, "This frame is protected");
+}
+
+}  // namespace libreoffice::word

@@ -1,0 +1,229 @@
+#include "office/libreoffice/word/writer_document.h"
+
+#include <com/sun/star/document/XDocumentPropertiesSupplier.hpp>
+#include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
+#include <com/sun/star/text/ControlCharacter.hpp>
+#include <com/sun/star/text/XTextDocument.hpp>
+#include <com/sun/star/text/XTextFieldsSupplier.hpp>
+#include <com/sun/star/text/XTextTablesSupplier.hpp>
+#include <com/sun/star/util/XRefreshable.hpp>
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+#include "office/failure.h"
+#include "office/libreoffice/units.h"
+#include "office/libreoffice/word/paragraph_change.h"
+#include "office/libreoffice/word/undo_group.h"
+
+namespace libreoffice::word {
+
+namespace {
+
+using css::text::ControlCharacter::APPEND_PARAGRAPH;
+using css::text::ControlCharacter::PARAGRAPH_BREAK;
+using office::Failure;
+using office::FailureNumber;
+
+/// The height of a header or footer, which LibreOffice takes from the room between the margins.
+std::int32_t bandHeight(const uno::Reference<css::beans::XPropertySet>& page, const char* isOn,
+                        const char* height) {
+    return property<bool>(page, isOn) ? property<sal_Int32>(page, height) : 0;
+}
+
+std::int32_t headerHeight(const uno::Reference<css::beans::XPropertySet>& page) {
+    return bandHeight(page, "HeaderIsOn", "HeaderHeight");
+}
+
+std::int32_t footerHeight(const uno::Reference<css::beans::XPropertySet>& page) {
+    return bandHeight(page, "FooterIsOn", "FooterHeight");
+}
+
+uno::Reference<css::document::XDocumentProperties> propertiesOf(
+    const uno::Reference<css::frame::XModel>& document) {
+    return as<css::document::XDocumentPropertiesSupplier>(document)->getDocumentProperties();
+}
+
+}  // namespace
+
+WriterDocument::WriterDocument(Desk& desk, uno::Reference<css::frame::XModel> opened)
+    : Document(std::move(opened)),
+      desk_(desk),
+      body_(as<css::text::XTextDocument>(model())->getText()),
+      factory_(as<css::lang::XMultiServiceFactory>(model())),
+      caret_(model()),
+      captions_(model()) {}
+
+std::string WriterDocument::title() {
+    return fromUno(propertiesOf(model())->getTitle());
+}
+
+void WriterDocument::setTitle(const std::string& title) {
+    propertiesOf(model())->setTitle(toUno(title));
+}
+
+/// LibreOffice's text leaves out the objects in it.
+std::int32_t WriterDocument::length() {
+    return body_->getString().getLength() + objects().count() + 1;
+}
+
+void WriterDocument::requireWritable(const RangeRef& place, const std::string& member) {
+    if (as<css::frame::XStorable>(model())->isReadonly())
+        throw Failure(FailureNumber::ApplicationDefined, member,
+                      fmt::format("\"{}\" is opened for reading only", name()));
+    word::requireWritable(place, member);
+}
+
+void WriterDocument::appendParagraph() {
+    const auto end = body_->getEnd();
+    requireWritable(end, "Range.InsertParagraphAfter");
+    // A break in an empty paragraph would take what is anchored there along.
+    body_->insertControlCharacter(end, APPEND_PARAGRAPH, false);
+}
+
+void WriterDocument::changeLastParagraph(const model::ParagraphChange& change) {
+    const auto end = body_->getEnd();
+    requireWritable(end, "ParagraphFormat");
+    const UndoGroup steps(model(), "Paragraph");
+    word::changeParagraph(body_->createTextCursorByRange(end), change);
+}
+
+void WriterDocument::changeParagraph(const model::ParagraphChange& change) {
+    const auto& range = caret_.range();
+    requireWritable(range, "ParagraphFormat");
+    const UndoGroup steps(model(), "Paragraph");
+    word::changeParagraph(caret_.text()->createTextCursorByRange(range), change);
+}
+
+std::string WriterDocument::selectedText() {
+    if (caret_.selectedContent().is()) return {};
+    return fromUno(caret_.range()->getString());
+}
+
+void WriterDocument::removeSelected() {
+    if (!caret_.isCollapsed()) caret_.range()->setString(rtl::OUString());
+}
+
+/// Line ends become paragraphs.
+void WriterDocument::typeText(const std::string& text) {
+    requireWritable(caret_.range(), "Selection.TypeText");
+    const UndoGroup steps(model(), "Typing");
+    removeSelected();
+    const auto place = caret_.text();
+    const auto& range = caret_.range();
+    std::string_view rest = text;
+    while (true) {
+        const std::size_t end = rest.find_first_of("\r\n");
+        place->insertString(range, toUno(rest.substr(0, end)), false);
+        if (end == std::string_view::npos) return;
+        place->insertControlCharacter(range, PARAGRAPH_BREAK, false);
+        rest.remove_prefix(rest.substr(end).starts_with("\r\n") ? end + 2 : end + 1);
+    }
+}
+
+void WriterDocument::typeParagraph() {
+    requireWritable(caret_.range(), "Selection.TypeParagraph");
+    const UndoGroup steps(model(), "Typing");
+    removeSelected();
+    caret_.text()->insertControlCharacter(caret_.range(), PARAGRAPH_BREAK, false);
+}
+
+uno::Reference<css::beans::XPropertySet> WriterDocument::pageStyle() {
+    const uno::Reference<css::container::XNameAccess> pages(
+        as<css::style::XStyleFamiliesSupplier>(model())->getStyleFamilies()->getByName(
+            "PageStyles"),
+        uno::UNO_QUERY_THROW);
+    return {pages->getByName(caret_.pageStyle()), uno::UNO_QUERY_THROW};
+}
+
+model::Page WriterDocument::page() {
+    const auto style = pageStyle();
+    const auto length = [&](const char* name, std::int32_t more = 0) {
+        return pointsOf(property<sal_Int32>(style, name) + more);
+    };
+    return {.width = length("Width"),
+            .height = length("Height"),
+            .leftMargin = length("LeftMargin"),
+            .rightMargin = length("RightMargin"),
+            .topMargin = length("TopMargin", headerHeight(style)),
+            .bottomMargin = length("BottomMargin", footerHeight(style))};
+}
+
+void WriterDocument::setPage(const model::Page& page) {
+    requireWritable(caret_.range(), "PageSetup");
+    const auto style = pageStyle();
+    const auto set = [&](const char* name, double points, std::int32_t less = 0) {
+        setProperty(style, name, std::max<sal_Int32>(0, hundredthMmOf(points) - less));
+    };
+    const UndoGroup steps(model(), "Page");
+    setProperty(style, "IsLandscape", page.width > page.height);
+    set("Width", page.width);
+    set("Height", page.height);
+    set("LeftMargin", page.leftMargin);
+    set("RightMargin", page.rightMargin);
+    set("TopMargin", page.topMargin, headerHeight(style));
+    set("BottomMargin", page.bottomMargin, footerHeight(style));
+}
+
+void WriterDocument::insertCaption(const model::Caption& caption) {
+    const auto& range = caret_.range();
+    requireWritable(range, "Selection.InsertCaption");
+    const UndoGroup steps(model(), "Caption");
+    caret_.goTo(captions_.insertBelow(range, caption));
+}
+
+WriterObjects& WriterDocument::objects() {
+    if (!objects_) objects_ = std::make_unique<WriterObjects>(*this);
+    return *objects_;
+}
+
+std::int32_t WriterDocument::objectCount(model::Anchoring anchoring) {
+    return objects().count(anchoring);
+}
+
+model::TextObjectPtr WriterDocument::objectAt(model::Anchoring anchoring, std::int32_t place) {
+    return objects().at(anchoring, place);
+}
+
+std::int32_t WriterDocument::tableCount() {
+    return as<css::container::XIndexAccess>(
+               as<css::text::XTextTablesSupplier>(model())->getTextTables())
+        ->getCount();
+}
+
+model::TextObjectPtr WriterDocument::selectedObject() {
+    auto object = objects().recordOf(caret_.selectedContent());
+    return object && object->anchoring() == model::Anchoring::Floating ? object : nullptr;
+}
+
+void WriterDocument::activate() {
+    markActive();
+    raise();
+}
+
+void WriterDocument::refreshFields() {
+    as<css::util::XRefreshable>(as<css::text::XTextFieldsSupplier>(model())->getTextFields())
+        ->refresh();
+}
+
+void WriterDocument::saveCopy(const std::string& path) {
+    refreshFields();
+    writeCopy("Document.SaveCopyAs", path,
+              {{".docx", "MS Word 2007 XML"}, {".odt", "writer8"}, {".doc", "MS Word 97"}});
+}
+
+void WriterDocument::exportPdf(const std::string& path, const model::PdfOptions& options) {
+    refreshFields();
+    writeCopy("Document.ExportAsFixedFormat", path, {{".pdf", "writer_pdf_Export"}},
+              propertyValues({{"UseTaggedPDF", uno::Any(options.structureTags)},
+                              {"ExportBookmarks", uno::Any(options.headingBookmarks)},
+                              {"DisplayPDFDocumentTitle", uno::Any(true)},
+                              // Pictures stay as crisp as they are.
+                              {"UseLosslessCompression", uno::Any(true)},
+                              {"ReduceImageResolution", uno::Any(false)}}));
+}
+
+}  // namespace libreoffice::word

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <com/sun/star/lang/XMultiServiceFactory.hpp>
+#include <com/sun/star/text/XText.hpp>
+
+#include <memory>
+#include <string>
+
+#include "office/libreoffice/desk.h"
+#include "office/libreoffice/document.h"
+#include "office/libreoffice/word/writer_captions.h"
+#include "office/libreoffice/word/writer_caret.h"
+#include "office/libreoffice/word/writer_objects.h"
+#include "office/model/word/text_document.h"
+#include "office/value.h"
+
+namespace libreoffice::word {
+
+/// An open text, and what automation remembers about it: the objects that have been met.
+class WriterDocument : public Document, public model::TextDocument {
+public:
+    WriterDocument(Desk& desk, uno::Reference<css::frame::XModel> opened);
+
+    [[nodiscard]] Desk& desk() const { return desk_; }
+    [[nodiscard]] WriterCaret& caret() { return caret_; }
+    [[nodiscard]] const uno::Reference<css::text::XText>& body() const { return body_; }
+    /// A thing of a service ("com.sun.star.text.TextGraphicObject"), not in the text yet.
+    [[nodiscard]] uno::Reference<uno::XInterface> createInstance(const char* service) const {
+        return factory_->createInstance(rtl::OUString::createFromAscii(service));
+    }
+
+    [[nodiscard]] bool isGone() const override { return isClosed(); }
+    std::string name() override { return Document::name(); }
+    std::string fullName() override { return Document::fullName(); }
+    std::string title() override;
+    void setTitle(const std::string& title) override;
+    std::int32_t length() override;
+
+    void appendParagraph() override;
+    void changeLastParagraph(const model::ParagraphChange& change) override;
+    void selectEnd() override { caret_.goTo(body_->getEnd()); }
+
+    std::string selectedText() override;
+    void moveDown(std::int32_t lines) override { caret_.goDown(lines); }
+    void moveToLineStart() override { caret_.goToStartOfLine(); }
+    void typeText(const std::string& text) override;
+    void typeParagraph() override;
+    void changeParagraph(const model::ParagraphChange& change) override;
+    model::Page page() override;
+    void setPage(const model::Page& page) override;
+    void paste(const office::Copied& copied, office::PasteAs as,
+               model::Anchoring anchoring) override;
+    void insertCaption(const model::Caption& caption) override;
+
+    std::int32_t objectCount(model::Anchoring anchoring) override;
+    model::TextObjectPtr objectAt(model::Anchoring anchoring, std::int32_t place) override;
+    std::int32_t tableCount() override;
+    model::TextObjectPtr selectedObject() override;
+
+    office::CopiedPtr copied() override { return desk_.clipboard().copied; }
+    void activate() override;
+    void saveCopy(const std::string& path) override;
+    void exportPdf(const std::string& path, const model::PdfOptions& options) override;
+    void close() override { Document::close(); }
+
+private:
+    /// `office::Failure` 1004 if nobody may write at a place; `member` is who asks.
+    void requireWritable(const RangeRef& place, const std::string& member);
+    /// Takes out what is selected of the text, and leaves the caret there.
+    void removeSelected();
+    void insertTable(const office::TableLook& table);
+    void insertObject(const ContentRef& object);
+    [[nodiscard]] uno::Reference<css::beans::XPropertySet> pageStyle();
+    [[nodiscard]] WriterObjects& objects();
+    /// Fields follow a change at the next pause of the suite only.
+    void refreshFields();
+
+    Desk& desk_;
+    uno::Reference<css::text::XText> body_;
+    uno::Reference<css::lang::XMultiServiceFactory> factory_;
+    WriterCaret caret_;
+    WriterCaptions captions_;
+    std::unique_ptr<WriterObjects> objects_;
+};
+
+/// LibreOffice's texts under the name of Word.
+[[nodiscard]] office::Object applicationObject(const DeskPtr& desk);
+
+}  // namespace libreoffice::word

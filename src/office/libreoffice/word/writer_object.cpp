@@ -1,0 +1,91 @@
+#include "office/libreoffice/word/writer_object.h"
+
+#include <com/sun/star/awt/Size.hpp>
+#include <com/sun/star/table/ShadowFormat.hpp>
+#include <com/sun/star/text/HoriOrientation.hpp>
+#include <com/sun/star/text/RelOrientation.hpp>
+#include <com/sun/star/text/TextContentAnchorType.hpp>
+
+#include <utility>
+
+#include "office/failure.h"
+#include "office/libreoffice/units.h"
+#include "office/libreoffice/word/writer_document.h"
+
+namespace libreoffice::word {
+
+namespace {
+
+using css::table::ShadowFormat;
+
+constexpr const char* shadowProperty = "ShadowFormat";
+
+/// Soft shadows don't exist here: a narrow one in a light grey comes close.
+ShadowFormat fallingShadow() {
+    constexpr std::int16_t width = 106;  // 3 points
+    constexpr std::int32_t lightGrey = 0xBFBFBF;
+    ShadowFormat shadow;
+    shadow.Location = css::table::ShadowLocation_BOTTOM_RIGHT;
+    shadow.ShadowWidth = width;
+    shadow.Color = lightGrey;
+    return shadow;
+}
+
+}  // namespace
+
+WriterObject::WriterObject(ContentRef content, WriterDocument& document)
+    : content_(std::move(content)),
+      properties_(as<css::beans::XPropertySet>(content_)),
+      document_(document),
+      anchoring_(property<css::text::TextContentAnchorType>(properties_, "AnchorType") ==
+                         css::text::TextContentAnchorType_AS_CHARACTER
+                     ? model::Anchoring::Inline
+                     : model::Anchoring::Floating) {}
+
+bool WriterObject::isGone() const {
+    return document_.isClosed();
+}
+
+model::ObjectSize WriterObject::size() {
+    const auto size = property<css::awt::Size>(properties_, "Size");
+    return {pointsOf(size.Width), pointsOf(size.Height)};
+}
+
+void WriterObject::resize(const model::ObjectSize& size) {
+    setProperty(properties_, "Size",
+                css::awt::Size(hundredthMmOf(size.width), hundredthMmOf(size.height)));
+}
+
+std::string WriterObject::alternativeText() {
+    return fromUno(property<rtl::OUString>(properties_, "Description"));
+}
+
+void WriterObject::setAlternativeText(const std::string& text) {
+    setProperty(properties_, "Description", toUno(text));
+}
+
+model::ObjectShadow WriterObject::shadow() {
+    shadow_.isShown = property<ShadowFormat>(properties_, shadowProperty).Location !=
+                      css::table::ShadowLocation_NONE;
+    return shadow_;
+}
+
+void WriterObject::setShadow(const model::ObjectShadow& shadow) {
+    setProperty(properties_, shadowProperty, shadow.isShown ? fallingShadow() : ShadowFormat());
+    shadow_ = shadow;
+}
+
+void WriterObject::setLeft(double left) {
+    if (anchoring_ == model::Anchoring::Inline)
+        throw office::Failure(office::FailureNumber::ApplicationDefined, "Shape.Left",
+                              "What stands in a line has the place that the line gives it");
+    setProperty(properties_, "HoriOrient", css::text::HoriOrientation::NONE);
+    setProperty(properties_, "HoriOrientRelation", css::text::RelOrientation::PAGE_PRINT_AREA);
+    setProperty(properties_, "HoriOrientPosition", hundredthMmOf(left));
+}
+
+void WriterObject::select() {
+    document_.caret().select(content_);
+}
+
+}  // namespace libreoffice::word

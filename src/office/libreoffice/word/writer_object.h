@@ -1,0 +1,49 @@
+#pragma once
+
+#include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/text/XTextContent.hpp>
+
+#include <memory>
+#include <string>
+
+#include "office/libreoffice/uno_values.h"
+#include "office/model/word/text_document.h"
+
+namespace libreoffice::word {
+
+namespace model = office::model::word;
+
+class WriterDocument;
+
+using ContentRef = uno::Reference<css::text::XTextContent>;
+
+/// A picture or an embedded object in a text.
+class WriterObject : public model::TextObject {
+public:
+    WriterObject(ContentRef content, WriterDocument& document);
+
+    [[nodiscard]] const ContentRef& content() const { return content_; }
+    [[nodiscard]] model::Anchoring anchoring() const { return anchoring_; }
+
+    [[nodiscard]] bool isGone() const override;
+    model::ObjectSize size() override;
+    void resize(const model::ObjectSize& size) override;
+    std::string alternativeText() override;
+    void setAlternativeText(const std::string& text) override;
+    /// Its size and its blur are kept here: LibreOffice has neither of them.
+    model::ObjectShadow shadow() override;
+    void setShadow(const model::ObjectShadow& shadow) override;
+    void setLeft(double left) override;
+    void select() override;
+
+private:
+    ContentRef content_;
+    uno::Reference<css::beans::XPropertySet> properties_;
+    WriterDocument& document_;
+    model::Anchoring anchoring_;
+    model::ObjectShadow shadow_;
+};
+
+using WriterObjectPtr = std::shared_ptr<WriterObject>;
+
+}  // namespace libreoffice::word

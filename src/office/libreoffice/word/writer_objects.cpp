@@ -1,0 +1,99 @@
+#include "office/libreoffice/word/writer_objects.h"
+
+#include <com/sun/star/text/XTextEmbeddedObjectsSupplier.hpp>
+#include <com/sun/star/text/XTextGraphicObjectsSupplier.hpp>
+
+#include <algorithm>
+#include <utility>
+
+#include "office/libreoffice/word/writer_document.h"
+
+namespace libreoffice::word {
+
+WriterObjects::WriterObjects(WriterDocument& document)
+    : document_(document),
+      text_(document.body()),
+      places_(as<css::text::XTextRangeCompare>(text_)),
+      pictures_(as<css::container::XIndexAccess>(
+          as<css::text::XTextGraphicObjectsSupplier>(document.model())->getGraphicObjects())),
+      embedded_(as<css::container::XIndexAccess>(
+          as<css::text::XTextEmbeddedObjectsSupplier>(document.model())->getEmbeddedObjects())) {}
+
+std::int32_t WriterObjects::countThere() {
+    return pictures_->getCount() + embedded_->getCount();
+}
+
+WriterObjectPtr WriterObjects::known(const ContentRef& content) const {
+    for (const auto* list : {&inOrder_, &elsewhere_}) {
+        for (const auto& object : *list) {
+            if (object->content().get() == content.get()) return object;
+        }
+    }
+    return nullptr;
+}
+
+void WriterObjects::refresh() {
+    if (static_cast<std::size_t>(countThere()) == inOrder_.size() + elsewhere_.size()) return;
+    std::vector<WriterObjectPtr> all;
+    for (const auto& list : {pictures_, embedded_}) {
+        const sal_Int32 count = list->getCount();
+        for (sal_Int32 i = 0; i < count; ++i) {
+            const ContentRef content(list->getByIndex(i), uno::UNO_QUERY_THROW);
+            auto object = known(content);
+            all.push_back(object ? object : std::make_shared<WriterObject>(content, document_));
+        }
+    }
+    inOrder_.clear();
+    elsewhere_.clear();
+    for (const auto& object : all) insert(object);
+}
+
+void WriterObjects::insert(const WriterObjectPtr& object) {
+    const auto place = object->content()->getAnchor();
+    // What stands outside of the text lies before its beginning.
+    if (places_->compareRegionStarts(place, text_->getStart()) > 0) {
+        elsewhere_.push_back(object);
+        return;
+    }
+    const auto comesBefore = [&](const WriterObjectPtr& other) {
+        return places_->compareRegionStarts(other->content()->getAnchor(), place) >= 0;
+    };
+    // Most come last.
+    auto at = inOrder_.end();
+    if (!inOrder_.empty() && !comesBefore(inOrder_.back()))
+        at = std::partition_point(inOrder_.begin(), inOrder_.end(), comesBefore);
+    inOrder_.insert(at, object);
+}
+
+void WriterObjects::add(const ContentRef& content) {
+    if (static_cast<std::size_t>(countThere()) == inOrder_.size() + elsewhere_.size() + 1)
+        insert(std::make_shared<WriterObject>(content, document_));
+}
+
+std::int32_t WriterObjects::count() {
+    refresh();
+    return static_cast<std::int32_t>(inOrder_.size());
+}
+
+std::int32_t WriterObjects::count(model::Anchoring anchoring) {
+    refresh();
+    return static_cast<std::int32_t>(
+        std::count_if(inOrder_.begin(), inOrder_.end(),
+                      [&](const auto& object) { return object->anchoring() == anchoring; }));
+}
+
+WriterObjectPtr WriterObjects::at(model::Anchoring anchoring, std::int32_t place) {
+    refresh();
+    for (const auto& object : inOrder_) {
+        if (object->anchoring() == anchoring && --place == 0) return object;
+    }
+    return nullptr;
+}
+
+WriterObjectPtr WriterObjects::recordOf(const ContentRef& content) {
+    if (!content.is()) return nullptr;
+    refresh();
+    return known(content);
+}
+
+}  // namespace libreoffice::word

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/frame/XModel.hpp>
+#include <com/sun/star/text/XText.hpp>
+#include <com/sun/star/text/XTextRangeCompare.hpp>
+
+#include <cstdint>
+#include <vector>
+
+#include "office/libreoffice/word/writer_object.h"
+
+namespace libreoffice::word {
+
+/// The pictures and objects in a document's own text and in its tables, in the order of reading.
+///
+/// LibreOffice lists them in an order of its own, and where each stands takes a call. So the order
+/// is kept, and made anew only when there are more of them or fewer than it knows of.
+class WriterObjects {
+public:
+    explicit WriterObjects(WriterDocument& document);
+
+    [[nodiscard]] std::int32_t count();
+    [[nodiscard]] std::int32_t count(model::Anchoring anchoring);
+    /// Null if there is none at this place, counted from 1.
+    [[nodiscard]] WriterObjectPtr at(model::Anchoring anchoring, std::int32_t place);
+    /// The record of one of them; null for what is none.
+    [[nodiscard]] WriterObjectPtr recordOf(const ContentRef& content);
+    /// Takes in one that was just put into the text.
+    void add(const ContentRef& content);
+
+private:
+    void refresh();
+    void insert(const WriterObjectPtr& object);
+    [[nodiscard]] WriterObjectPtr known(const ContentRef& content) const;
+    [[nodiscard]] std::int32_t countThere();
+
+    WriterDocument& document_;
+    uno::Reference<css::text::XText> text_;
+    uno::Reference<css::text::XTextRangeCompare> places_;
+    uno::Reference<css::container::XIndexAccess> pictures_;
+    uno::Reference<css::container::XIndexAccess> embedded_;
+    std::vector<WriterObjectPtr> inOrder_;
+    /// Those in headers, footers and frames.
+    std::vector<WriterObjectPtr> elsewhere_;
+};
+
+}  // namespace libreoffice::word
