@@ -9,12 +9,15 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <system_error>
 #include <thread>
 #include <vector>
@@ -199,6 +202,38 @@ void PosixHost::deleteFile(std::string_view path) {
 bool PosixHost::fileExists(std::string_view path) {
     std::error_code ignored;
     return fs::is_regular_file(fs::path(path), ignored);
+}
+
+std::string PosixHost::readFile(std::string_view path) {
+    if (!fileExists(path)) {
+        throw Failure(FailureNumber::FileNotFound, "Host.readFile",
+                      "File not found: " + std::string(path));
+    }
+    std::ifstream file{fs::path(path), std::ios::binary};
+    std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    if (!file) {
+        throw Failure(FailureNumber::PathFileAccess, "Host.readFile",
+                      "File can't be read: " + std::string(path));
+    }
+    return bytes;
+}
+
+std::vector<std::string> PosixHost::fileNames(std::string_view folder) {
+    std::vector<std::string> names;
+    std::error_code ignored;
+    for (const auto& entry : fs::directory_iterator(fs::path(folder), ignored)) {
+        if (entry.is_regular_file(ignored)) names.push_back(entry.path().filename().string());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+std::string PosixHost::helpFolder() {
+    std::error_code ignored;
+    const fs::path programs = fs::read_symlink("/proc/self/exe", ignored).parent_path();
+    const fs::path beside = programs / "help";
+    if (fs::is_directory(beside, ignored)) return beside.string();
+    return (programs.parent_path() / "share" / "murvane" / "help").string();
 }
 
 bool PosixHost::fileIsHeld(std::string_view path) {

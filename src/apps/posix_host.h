@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "apps/console.h"
 #include "apps/pango_text.h"
@@ -27,6 +28,10 @@ public:
     std::string writeTemporaryFile(std::string_view fileName, std::string_view text) override;
     void deleteFile(std::string_view path) override;
     [[nodiscard]] bool fileExists(std::string_view path) override;
+    [[nodiscard]] std::string readFile(std::string_view path) override;
+    [[nodiscard]] std::vector<std::string> fileNames(std::string_view folder) override;
+    /// Beside the program, or in the share folder of the place that it is installed in.
+    [[nodiscard]] std::string helpFolder() override;
     [[nodiscard]] bool fileIsHeld(std::string_view path) override;
     [[nodiscard]] bool pathExists(std::string_view path) override;
     [[nodiscard]] std::string outputFolder(std::string_view name) override;

@@ -14,6 +14,7 @@
 #include "furniture/theme.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
+#include "panels/help.h"
 #include "session/workbook_store.h"
 
 namespace catalogue {
@@ -144,6 +145,26 @@ void UserformObj::Form_Unload() {
     session_.PowerPointApp.release();
     session_.ExcelApp.release();
     desktop().unloadAll();
+}
+
+void UserformObj::ShowSmartHelp() const {
+    if (!hooks_.ShowHelp) return;
+    hooks_.ShowHelp(OptionPredefSlides.value() ? "help_predefined_slides.html"
+                    : Option1[0].value()       ? "help_powerpoint.html"
+                    : list_.rows.empty()       ? "help_no_items.html"
+                                               : "help_items_table.html");
+}
+
+void UserformObj::Form_Help() const {
+    const bool isAtTheList = focus == &listCharts || focus == &Check1;
+    if (isAtTheList && list_.rows.empty() && hooks_.ShowHelp) {
+        hooks_.ShowHelp("help_no_items.html");
+    } else if (focus != nullptr && !panels::helpFileOf(focus->name()).empty() &&
+               hooks_.ShowContextHelp) {
+        hooks_.ShowContextHelp(*focus);
+    } else {
+        ShowSmartHelp();
+    }
 }
 
 void UserformObj::OptionFormat_Click(int index) {

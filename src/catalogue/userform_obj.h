@@ -27,8 +27,10 @@ struct MainFormHooks {
     /// Puts one row on the slide in view, whether it is checked or not. False if it has not been
     /// put there and the user knows.
     std::function<bool(const ExportItem& row, const ExportChoices& choices)> InsertOneItem;
-    /// Opens a page of help by the name of the button that asks for it.
-    std::function<void(std::string_view buttonName)> ShowHelp;
+    /// Opens a page of help by the name of its file.
+    std::function<void(std::string_view file)> ShowHelp;
+    /// Opens the page that belongs to a control.
+    std::function<void(const forms::Control& control)> ShowContextHelp;
 };
 
 /// The main form: the list of what can be exported, and the four numbered frames that the user goes
@@ -68,6 +70,10 @@ public:
     void SlideTitle_Change();
     void TextBox10_Change();
     void PasteIT_Click();
+    /// Opens the page of help that fits what is chosen.
+    void ShowSmartHelp() const;
+    /// The user asks for help by the key for it.
+    void Form_Help() const;
 
     // The controls, from the top of the form to its foot.
     furniture::TitleBar TitelBar1;

@@ -284,8 +284,8 @@ void UserformObj::wireEvents() {
 
 void UserformObj::wireHelp(forms::CommandButton& button) {
     // A button that leads nowhere is worse than none.
-    button.visible = hooks_.ShowHelp != nullptr;
-    button.onClick = [this, &button] { hooks_.ShowHelp(button.name()); };
+    button.visible = hooks_.ShowContextHelp != nullptr;
+    button.onClick = [this, &button] { hooks_.ShowContextHelp(button); };
 }
 
 }  // namespace catalogue

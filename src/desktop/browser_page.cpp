@@ -1,5 +1,6 @@
 #include "desktop/browser_page.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QEventLoop>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -29,11 +30,31 @@ BrowserPage::BrowserPage(QWebEngineProfile& profile, QObject* parent, const QCol
     page.setAttribute(QWebEngineSettings::PluginsEnabled, false);
     page.setAttribute(QWebEngineSettings::PdfViewerEnabled, false);
     page.setAttribute(QWebEngineSettings::FocusOnNavigationEnabled, false);
+    setUrlRequestInterceptor(&guard_);
 }
 
 void BrowserPage::show(const QUrl& url) {
     asked_ = url;
     load(url);
+}
+
+void BrowserPage::Guard::interceptRequest(QWebEngineUrlRequestInfo& request) {
+    const auto type = request.resourceType();
+    if (type == QWebEngineUrlRequestInfo::ResourceTypeMainFrame) return;
+    const QUrl url = request.requestUrl();
+    const bool isShown = type == QWebEngineUrlRequestInfo::ResourceTypeImage ||
+                         type == QWebEngineUrlRequestInfo::ResourceTypeStylesheet;
+    const bool isPartOfThePage = url.scheme() == QLatin1String("data");
+    const bool isInFolder =
+        !folder.isEmpty() && url.isLocalFile() &&
+        QDir::cleanPath(url.toLocalFile()).startsWith(QDir::cleanPath(folder) + QLatin1Char('/'));
+    request.block(!isShown || !(isPartOfThePage || isInFolder));
+}
+
+void BrowserPage::allow(const QString& folder) {
+    guard_.folder = folder;
+    // All or none to the engine: the guard tells one file from the other.
+    settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, !folder.isEmpty());
 }
 
 bool BrowserPage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool) {

@@ -3,6 +3,8 @@
 #include <QtCore/QUrl>
 #include <QtCore/QVariant>
 #include <QtWebEngineCore/QWebEnginePage>
+#include <QtWebEngineCore/QWebEngineUrlRequestInfo>
+#include <QtWebEngineCore/QWebEngineUrlRequestInterceptor>
 
 #include <functional>
 #include <string_view>
@@ -18,6 +20,9 @@ public:
     BrowserPage(QWebEngineProfile& profile, QObject* parent, const QColor& ground);
 
     void show(const QUrl& url);
+    /// Pictures and style sheets of this folder may be loaded by the pages that are shown from now
+    /// on; none if it is empty.
+    void allow(const QString& folder);
     /// Gets the address as the page wrote it. Nobody registers the scheme of the program's links:
     /// the engine would then take their path for one of a host, in lower case.
     std::function<void(const QString& url)> onLink;
@@ -34,7 +39,14 @@ protected:
                                   const QString&) override {}
 
 private:
+    /// Stands between the pages and everything that they ask for.
+    struct Guard final : QWebEngineUrlRequestInterceptor {
+        void interceptRequest(QWebEngineUrlRequestInfo& request) override;
+        QString folder;
+    };
+
     QUrl asked_;
+    Guard guard_;
 };
 
 /// Asks the page and waits for its answer, a second at the most; an invalid value if none comes.

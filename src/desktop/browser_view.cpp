@@ -55,6 +55,7 @@ void BrowserView::loadWanted() {
     if (view_ == nullptr) startEngine();
     loading_ = std::exchange(wanted_, QString());
     triesLeft_ = triesAfterAFailure;
+    page_->allow(textOf(browser_.resourceFolder));
     page_->show(QUrl(loading_));
 }
 
@@ -102,7 +103,8 @@ bool BrowserView::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
     const auto& key = dynamic_cast<const QKeyEvent&>(*event);
     // The engine keeps every key for itself, also one that no page makes anything of.
-    const bool isTheForms = key.key() == Qt::Key_Escape || key.key() == Qt::Key_F4;
+    const bool isTheForms =
+        key.key() == Qt::Key_Escape || key.key() == Qt::Key_F4 || key.key() == Qt::Key_F1;
     if (!isTheForms) return false;
     QCoreApplication::sendEvent(this, event);
     return true;
@@ -206,6 +208,14 @@ void BrowserView::setStyle(std::string_view property, std::string_view value) {
 
 void BrowserView::setBodyStyle(std::string_view property, std::string_view value) {
     setStyleOf(QStringLiteral("document.body"), property, value);
+}
+
+void BrowserView::setDivStyle(std::string_view className, std::string_view property,
+                              std::string_view value) {
+    setStyleOf(QStringLiteral("...Array.from(document.getElementsByTagName('div')).filter("
+                              "function(e){return e.className===%1;})")
+                   .arg(scriptText(className)),
+               property, value);
 }
 
 void BrowserView::setStyleOf(const QString& elements, std::string_view property,

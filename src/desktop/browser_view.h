@@ -29,6 +29,8 @@ public:
     [[nodiscard]] std::string checkedValues(std::string_view name) override;
     void setStyle(std::string_view property, std::string_view value) override;
     void setBodyStyle(std::string_view property, std::string_view value) override;
+    void setDivStyle(std::string_view className, std::string_view property,
+                     std::string_view value) override;
 
     /// Null until the engine has been started. For tests.
     [[nodiscard]] QWebEngineView* engineView() const { return view_; }

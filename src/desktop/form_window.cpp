@@ -322,6 +322,9 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Escape:
             if (!isHeld) pressByKey(false);
             return;
+        case Qt::Key_F1:
+            if (!isHeld) askForHelp();
+            return;
         case Qt::Key_F4:
             // Most window managers take this key themselves; it has to work without one too.
             if (event->modifiers().testFlag(Qt::AltModifier)) close();
@@ -329,6 +332,13 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
         default:
             QWidget::keyPressEvent(event);
     }
+}
+
+void FormWindow::askForHelp() {
+    host_.deliver([this] {
+        const auto& help = form_->desktop().onHelp;
+        if (help) help(*form_);
+    });
 }
 
 void FormWindow::pressByKey(bool isDefault) {

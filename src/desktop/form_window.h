@@ -61,6 +61,7 @@ private:
     void centre();
     void focusCame(const QWidget* now);
     void pressByKey(bool isDefault);
+    void askForHelp();
     [[nodiscard]] int margin() const;
 
     forms::Form* form_;

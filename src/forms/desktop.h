@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -48,6 +49,10 @@ public:
     [[nodiscard]] Form* findLoaded(std::string_view name) const;
     /// Unloads the loaded forms from the last to the first; stops at one that refuses.
     void unloadAll();
+
+    /// Runs when the user asks for help by the key for it, in a form that takes input; the form's
+    /// focus tells on what.
+    std::function<void(Form& form)> onHelp;
 
     /// Lets the events that are waiting run, those of timers too, and draws what has changed.
     virtual void letEventsRun() = 0;

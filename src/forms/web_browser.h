@@ -32,6 +32,9 @@ public:
     virtual void setStyle(std::string_view property, std::string_view value) = 0;
     /// The same of the body alone.
     virtual void setBodyStyle(std::string_view property, std::string_view value) = 0;
+    /// The same of each `div` that is of this class and no other.
+    virtual void setDivStyle(std::string_view className, std::string_view property,
+                             std::string_view value) = 0;
 };
 
 /// The browser strip of a form. Without a view behind it (no window, or a broken control) every
@@ -48,6 +51,9 @@ public:
 
     /// Null while there is no window.
     BrowserView* view = nullptr;
+    /// The folder whose pictures and style sheets pages may show; empty: none. Nothing else is
+    /// loaded but the page itself, from nowhere.
+    std::string resourceFolder;
     /// No dialog of a page or a certificate ever appears.
     bool silent = false;
 

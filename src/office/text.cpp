@@ -109,6 +109,22 @@ double leadingNumber(std::string_view text) {
     return number;
 }
 
+std::string addressWord(std::string_view text) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    constexpr std::string_view plain = "-._~";
+    std::string word;
+    for (const char c : text) {
+        const bool isLetter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+        if (isLetter || (c >= '0' && c <= '9') || plain.find(c) != std::string_view::npos) {
+            word += c;
+        } else {
+            const auto code = static_cast<unsigned char>(c);
+            word += {'%', digits[code >> 4], digits[code & 15]};
+        }
+    }
+    return word;
+}
+
 std::optional<double> numberOf(std::string_view text) {
     std::string_view digits = trim(text);
     if (digits.starts_with('+')) digits.remove_prefix(1);

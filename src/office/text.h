@@ -24,6 +24,9 @@ namespace office {
 [[nodiscard]] std::string replaceAll(std::string_view text, std::string_view what,
                                      std::string_view with);
 
+/// A text as it stands in an address: everything escaped but letters, digits and -._~
+[[nodiscard]] std::string addressWord(std::string_view text);
+
 /// Bytes of the character that begins at a byte of the text; 0 if none does that is well-formed.
 [[nodiscard]] std::size_t characterLength(std::string_view text, std::size_t at);
 

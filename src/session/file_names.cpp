@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "office/failure.h"
+#include "office/text.h"
 
 namespace session {
 
@@ -40,6 +41,12 @@ std::string safeFileName(std::string_view name) {
         }
     }
     return safe;
+}
+
+std::string fileAddress(std::string_view path) {
+    const std::string encoded = office::addressWord(office::replaceAll(path, "\\", "/"));
+    return (path.starts_with('/') ? "file://" : "file:///") +
+           office::replaceAll(encoded, "%2F", "/");
 }
 
 }  // namespace session

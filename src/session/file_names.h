@@ -15,4 +15,8 @@ void requireFileName(std::string_view name);
 /// name can't hold on some system stands as "%2F", and what is too long is cut.
 [[nodiscard]] std::string safeFileName(std::string_view name);
 
+/// The address of a file on this machine, with the characters of its path escaped that an
+/// address can't hold.
+[[nodiscard]] std::string fileAddress(std::string_view path);
+
 }  // namespace session

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace session {
 
@@ -67,6 +68,13 @@ public:
     virtual void deleteFile(std::string_view path) = 0;
     [[nodiscard]] virtual bool fileExists(std::string_view path) = 0;
 
+    /// The bytes of a file. `office::Failure` 53 if there is no such file, 75 if it can't be read.
+    [[nodiscard]] virtual std::string readFile(std::string_view path) = 0;
+    /// The names of the files in a folder, sorted; none where the folder can't be read.
+    [[nodiscard]] virtual std::vector<std::string> fileNames(std::string_view folder) = 0;
+    /// The folder of the pages of help that come with the program, without a separator at its end.
+    [[nodiscard]] virtual std::string helpFolder() = 0;
+
     /// True if another process holds the file, or it can't be opened for reading.
     [[nodiscard]] virtual bool fileIsHeld(std::string_view path) = 0;
 
@@ -98,7 +106,7 @@ public:
     [[nodiscard]] virtual TextSize textSize(std::string_view text, const TextFont& font,
                                             std::optional<double> widthPt) = 0;
 
-    /// Opens a web address with the user's browser. Failures are silent.
+    /// Opens an address of the web or of a file with the user's browser. Failures are silent.
     virtual void openLink(std::string_view address) = 0;
 
     /// Opens a file or a folder with the program that the user has for it. False if there is none,

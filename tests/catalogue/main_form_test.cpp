@@ -62,6 +62,32 @@ protected:
     }
 };
 
+TEST_F(TheMainForm, leadsToTheHelpThatFitsTheControlOrElseWhatIsChosen) {
+    std::vector<std::string> pages;
+    hooks.ShowHelp = [&](std::string_view file) { pages.emplace_back(file); };
+    hooks.ShowContextHelp = [&](const forms::Control& control) { pages.push_back(control.name()); };
+    UserformObj& form = open();
+    form.cmdPowerWhere.press();
+    const auto helpAt = [&](forms::Control* focus) {
+        form.focus = focus;
+        form.Form_Help();
+    };
+    helpAt(&form.SlideTitle);
+    helpAt(&form.ActiveWbk);
+    form.OptionPredefSlides.setValue(true);
+    helpAt(&form.ActiveWbk);
+    form.Option1[4].setValue(true);
+    helpAt(nullptr);
+    form.list().rows.clear();
+    helpAt(&form.ActiveWbk);
+    form.Option1[0].setValue(true);
+    helpAt(&form.listCharts);
+    EXPECT_EQ(pages,
+              (std::vector<std::string>{"cmdPowerWhere", "SlideTitle", "help_powerpoint.html",
+                                        "help_predefined_slides.html", "help_items_table.html",
+                                        "help_no_items.html", "help_no_items.html"}));
+}
+
 TEST_F(TheMainForm, comesUpFilledOnPowerPointPicturesAndNewSlides) {
     UserformObj& form = open();
     EXPECT_EQ(orders(form),

@@ -1,3 +1,5 @@
+#include <QtCore/QDir>
+#include <QtCore/QTemporaryDir>
 #include <QtCore/QTemporaryFile>
 #include <QtGui/QImage>
 #include <QtTest/QTest>
@@ -184,6 +186,57 @@ TEST_F(Browser, APageAnswersAboutItselfAndItsOwnScriptsDoNotRun) {
     EXPECT_EQ(engine().accessibleName(), QStringLiteral("Export options"));
     page().setStyle("HEIGHT", "932px");
     EXPECT_GE(page().contentHeight("missing"), 932) << "by the name in scripts, in any case";
+}
+
+TEST_F(Browser, ShowsThePicturesAndStylesOfTheFolderThatTheFormNamesAndNoOthers) {
+    const QTemporaryDir home;
+    std::string body;
+    for (const char* folder : {"open", "shut"}) {
+        const QString path = home.filePath(QLatin1String(folder));
+        ASSERT_TRUE(QDir().mkpath(path));
+        ASSERT_TRUE(QImage(30, 40, QImage::Format_RGB32).save(path + QStringLiteral("/a.png")));
+        QFile sheet(path + QStringLiteral("/s.css"));
+        ASSERT_TRUE(sheet.open(QIODevice::WriteOnly));
+        sheet.write(fmt::format("#{}-text{{height:70px}}", folder).c_str());
+        body += fmt::format(
+            "<link rel='stylesheet' href='{0}/s.css'><div id='{0}-text'></div>"
+            "<img id='{0}' src='{0}/a.png' alt=''>",
+            folder);
+    }
+    const std::string base = "<base href='file://" + home.path().toStdString() + "/'>";
+    const PageFile file(base + body + "<img id='around' src='open/%2e%2e/shut/a.png' alt=''>");
+    const auto heights = [&] {
+        open(file.url());
+        std::vector<int> all;
+        for (const char* id : {"open", "open-text", "shut", "shut-text", "around"}) {
+            all.push_back(page().contentHeight(id));
+        }
+        return all;
+    };
+    EXPECT_EQ(heights(), (std::vector<int>{0, 0, 0, 0, 0}));
+    form.wbStatus.resourceFolder = home.filePath(QStringLiteral("open")).toStdString();
+    EXPECT_EQ(heights(), (std::vector<int>{40, 70, 0, 0, 0}));
+}
+
+TEST_F(Browser, TheKeyForHelpReachesTheFormFromThePageAndFromAnyControl) {
+    std::vector<const forms::Control*> asked;
+    desk.onHelp = [&](const forms::Form& of) { asked.push_back(of.focus); };
+    const PageFile file("<input id='f'>");
+    open(file.url());
+    form.focus = &form.wbStatus;
+    letPass(100ms);
+    QTest::keyClick(engine().focusProxy(), Qt::Key_F1);
+    for (forms::Control* control :
+         std::vector<forms::Control*>{&form.listCharts, &form.SlideTitle, &form.ContinueOk}) {
+        form.focus = control;
+        letPass(20ms);
+        key(Qt::Key_F1);
+    }
+    EXPECT_EQ(asked, (std::vector<const forms::Control*>{&form.wbStatus, &form.listCharts,
+                                                         &form.SlideTitle, &form.ContinueOk}));
+    form.takesInput = false;
+    key(Qt::Key_F1);
+    EXPECT_EQ(asked.size(), 4U) << "while an export runs";
 }
 
 TEST_F(Browser, NoTimerTicksWhileAPageIsBeingAsked) {

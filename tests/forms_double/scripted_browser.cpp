@@ -70,4 +70,9 @@ void ScriptedBrowser::setBodyStyle(std::string_view property, std::string_view v
     if (isLoaded_) bodyStyles[std::string(property)] = value;
 }
 
+void ScriptedBrowser::setDivStyle(std::string_view className, std::string_view property,
+                                  std::string_view value) {
+    if (isLoaded_) divStyles[std::string(className) + " " + std::string(property)] = value;
+}
+
 }  // namespace forms_double

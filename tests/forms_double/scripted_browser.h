@@ -36,6 +36,8 @@ public:
     /// Of the body and the root, and of the body alone.
     std::map<std::string, std::string, std::less<>> styles;
     std::map<std::string, std::string, std::less<>> bodyStyles;
+    /// By class and property: "content-area height".
+    std::map<std::string, std::string, std::less<>> divStyles;
 
     /// The text of the page that is shown.
     [[nodiscard]] const std::string& page() const { return page_; }
@@ -54,6 +56,8 @@ public:
     [[nodiscard]] std::string checkedValues(std::string_view name) override;
     void setStyle(std::string_view property, std::string_view value) override;
     void setBodyStyle(std::string_view property, std::string_view value) override;
+    void setDivStyle(std::string_view className, std::string_view property,
+                     std::string_view value) override;
 
 private:
     forms::WebBrowser& control_;

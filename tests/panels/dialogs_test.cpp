@@ -7,7 +7,6 @@
 #include "forms_double/windowless_desktop.h"
 #include "panels/about_form.h"
 #include "panels/dialogs.h"
-#include "session/web_pages.h"
 #include "session_doubles/test_session.h"
 
 namespace {
@@ -82,9 +81,9 @@ TEST(About, TellsTheVersionAndLeadsToTheWebPagesUntilItIsClosed) {
         forms_double::pressEscape(form);
     });
     panels::ShowAboutForm(test.session, desktop, "1.2.3");
-    EXPECT_EQ(test.host.links, (std::vector<std::string>{std::string(session::address::docOverview),
-                                                         std::string(session::address::docFaq),
-                                                         std::string(session::address::contact)}));
+    EXPECT_EQ(test.host.links, (std::vector<std::string>{"file:///program/help/overview.html",
+                                                         "file:///program/help/faq.html",
+                                                         "file:///program/help/contact.html"}));
     EXPECT_TRUE(desktop.loadedForms().empty());
 }
 

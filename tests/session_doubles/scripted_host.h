@@ -39,7 +39,8 @@ public:
     /// Full paths of the files that exist.
     std::set<std::string, std::less<>> files;
     std::set<std::string, std::less<>> heldFiles;
-    /// What was written to temporary files, by their full paths.
+    /// What files hold, those that the program wrote and those that a test put there, by their
+    /// full paths.
     std::map<std::string, std::string, std::less<>> written;
     bool hasTemporaryFolder = true;
     /// No temporary file can be written.
@@ -112,6 +113,22 @@ public:
     }
 
     [[nodiscard]] bool fileExists(std::string_view path) override { return files.contains(path); }
+    [[nodiscard]] std::string readFile(std::string_view path) override {
+        const auto found = written.find(path);
+        if (found == written.end()) {
+            throw office::Failure(office::FailureNumber::FileNotFound, "Host", "File not found");
+        }
+        return found->second;
+    }
+    [[nodiscard]] std::vector<std::string> fileNames(std::string_view folder) override {
+        std::vector<std::string> names;
+        for (const std::string& path : files) {
+            const std::size_t end = path.rfind('/');
+            if (path.substr(0, end) == folder) names.push_back(path.substr(end + 1));
+        }
+        return names;
+    }
+    [[nodiscard]] std::string helpFolder() override { return "/program/help"; }
     [[nodiscard]] bool fileIsHeld(std::string_view path) override {
         return heldFiles.contains(path);
     }

@@ -16,6 +16,7 @@
 #include "destinations/word_dialog.h"
 #include "panels/about_form.h"
 #include "panels/form_progress.h"
+#include "panels/help.h"
 #include "panels/notices.h"
 #include "powerpoint/formats.h"
 #include "powerpoint/layout_form.h"
@@ -72,6 +73,7 @@ public:
 
     int show(const session::Notice& notice) override {
         DesktopHost host(console_, desktop_());
+        const panels::Help help(desktop_(), host);
         return panels::NoticePanel(desktop_(), host).show(notice);
     }
 
@@ -85,16 +87,21 @@ class Windows {
 public:
     Windows(forms::Desktop& desktop, session::OfficeSession& session)
         : desktop_(desktop),
-          session_(session) {}
+          session_(session),
+          help_(desktop, session.host) {
+        desktop_.onHelp = [this](forms::Form& form) { showHelpIn(form); };
+    }
 
     /// What the commands run that opens windows.
     [[nodiscard]] session::CommandHandlers handlers();
 
 private:
     void showMainForm();
+    void showHelpIn(const forms::Form& form);
 
     forms::Desktop& desktop_;
     session::OfficeSession& session_;
+    panels::Help help_;
     std::unique_ptr<catalogue::UserformObj> mainForm_;
 };
 
@@ -106,6 +113,14 @@ session::CommandHandlers Windows::handlers() {
     handlers.ShowMainForm = [this] { showMainForm(); };
     handlers.UnloadAllForms = [this] { desktop_.unloadAll(); };
     return handlers;
+}
+
+void Windows::showHelpIn(const forms::Form& form) {
+    if (&form == mainForm_.get()) {
+        mainForm_->Form_Help();
+    } else {
+        help_.ShowHelpFor(form);
+    }
 }
 
 void Windows::showMainForm() {
@@ -129,6 +144,10 @@ void Windows::showMainForm() {
     hooks.InsertOneItem = [this](const catalogue::ExportItem& row,
                                  const catalogue::ExportChoices& choices) {
         return powerpoint::InsertOneItem(session_, row, choices);
+    };
+    hooks.ShowHelp = [this](std::string_view file) { help_.ShowHelp(file); };
+    hooks.ShowContextHelp = [this](const forms::Control& control) {
+        help_.ShowContextHelp(control);
     };
     mainForm_ = std::make_unique<catalogue::UserformObj>(desktop_, session_, std::move(hooks));
     desktop_.show(*mainForm_, forms::ShowMode::Modeless);

@@ -11,6 +11,7 @@
 #include "office/package/presentation/picture_file.h"
 #include "office/package/workbook/cell_box.h"
 #include "office/package/workbook/embedded_workbook.h"
+#include "office/text.h"
 
 namespace office::package {
 

@@ -245,22 +245,6 @@ WorkbookFilePtr WorkbookFiles::at(const std::string& path) {
     return known.file;
 }
 
-std::string addressWord(std::string_view text) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    constexpr std::string_view plain = "-._~";
-    std::string word;
-    for (const char c : text) {
-        const bool isLetter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-        if (isLetter || (c >= '0' && c <= '9') || plain.find(c) != std::string_view::npos) {
-            word += c;
-        } else {
-            const auto code = static_cast<unsigned char>(c);
-            word += {'%', digits[code >> 4], digits[code & 15]};
-        }
-    }
-    return word;
-}
-
 std::string fileAddress(const std::filesystem::path& file, const std::filesystem::path& base) {
     if (!base.empty()) {
         // Where a link of the file system is on the way, ".." leads to where it points.

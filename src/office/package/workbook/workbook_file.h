@@ -106,7 +106,5 @@ using WorkbookFilesPtr = std::shared_ptr<WorkbookFiles>;
 /// ("file:///home/ann/Sales%202026.xlsx").
 [[nodiscard]] std::string fileAddress(const std::filesystem::path& file,
                                       const std::filesystem::path& base = {});
-/// A text as it stands in an address: everything escaped but letters, digits and -._~
-[[nodiscard]] std::string addressWord(std::string_view text);
 
 }  // namespace office::package

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "forms/desktop.h"
+#include "session/host.h"
+
+namespace panels {
+
+/// The help inside the program: which page belongs where, and the reader that shows it. While it
+/// lives, the key for help opens the page of the form that the user is in.
+class Help {
+public:
+    Help(forms::Desktop& desktop, session::Host& host);
+    Help(const Help&) = delete;
+    Help& operator=(const Help&) = delete;
+    ~Help() { desktop_.onHelp = nullptr; }
+
+    /// Shows a page of the help folder; a plain message box where there is no such file.
+    void ShowHelp(std::string_view file);
+    /// Shows the file as a page of help, whatever it is.
+    void ShowHelpPopup(std::string title, std::string filePath);
+    /// Shows the page that belongs to a control of the main form, or else the general one.
+    void ShowContextHelp(const forms::Control& control);
+    /// Shows the page that belongs to a form and to the control that has the focus there. Nothing
+    /// happens in the reader itself and in the forms that show how far something has come.
+    void ShowHelpFor(const forms::Form& form);
+
+    [[nodiscard]] bool HelpFileExists(std::string_view file);
+    /// The names of the pages "help_*.html" of the help folder, joined by CR LF.
+    [[nodiscard]] std::string GetAvailableHelpFiles();
+
+private:
+    [[nodiscard]] std::string pathOf(std::string_view file);
+
+    forms::Desktop& desktop_;
+    session::Host& host_;
+};
+
+/// The page that belongs to a control of this name; empty if none does.
+[[nodiscard]] std::string_view helpFileOf(std::string_view controlName);
+
+}  // namespace panels
