@@ -117,7 +117,8 @@ json Hand::see(const json& order) const {
     }
     if (deed == "tab-order") return tabOrder(desktop_, form);
     if (deed == "look") {
-        if (takePicture(desktop_, formOf(desktop_, form), text(order, "file"))) return true;
+        const std::string control = order.contains("control") ? text(order, "control") : "";
+        if (takePicture(desktop_, form, control, text(order, "file"))) return true;
         throw std::runtime_error("no picture could be written");
     }
     const forms::Control& control = controlOf(desktop_, form, text(order, "control"));

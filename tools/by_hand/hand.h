@@ -27,7 +27,8 @@ namespace by_hand {
 ///     type      form, text
 ///     follow    form, control, href         clicks the link with that address in a page
 ///     ask       form, control, script       what a script in a page results in
-///     look      form, file                  writes a picture of the form, a PNG
+///     look      form, file                  writes a picture of the form, a PNG; with a control,
+///                                           of that part of it
 ///     catch     form, file, control, at_least   writes it as soon as the form is up and the number
 ///                                           in that control's caption is as high: of forms that
 ///                                           are too brief to be asked for

@@ -38,10 +38,17 @@ QWidget& widgetOf(const desktop::QtDesktop& desktop, const std::string& form,
     return *widget;
 }
 
-bool takePicture(const desktop::QtDesktop& desktop, const forms::Form& form,
-                 const std::string& file) {
-    QWidget* plate = desktop.plateOf(form);
-    return plate != nullptr && plate->window()->grab().save(QString::fromStdString(file), "PNG");
+bool takePicture(const desktop::QtDesktop& desktop, const std::string& form,
+                 const std::string& control, const std::string& file) {
+    QWidget* plate = desktop.plateOf(formOf(desktop, form));
+    if (plate == nullptr) return false;
+    QWidget* const window = plate->window();
+    QRect part = window->rect();
+    if (!control.empty()) {
+        const QWidget& shown = widgetOf(desktop, form, control);
+        part = QRect(shown.mapTo(window, QPoint(0, 0)), shown.size());
+    }
+    return window->grab(part).save(QString::fromStdString(file), "PNG");
 }
 
 json openForms(const desktop::QtDesktop& desktop) {

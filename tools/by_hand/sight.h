@@ -18,10 +18,11 @@ namespace by_hand {
 [[nodiscard]] QWidget& widgetOf(const desktop::QtDesktop& desktop, const std::string& form,
                                 const std::string& control);
 
-/// Writes a picture of a form as it stands on the screen, a PNG in the screen's own pixels. False
-/// if the form has no window or the file cannot be written.
-bool takePicture(const desktop::QtDesktop& desktop, const forms::Form& form,
-                 const std::string& file);
+/// Writes a picture of a form as it stands on the screen, or of the part that a control of it takes
+/// up, a PNG in the screen's own pixels. False if the form has no window or the file cannot be
+/// written.
+bool takePicture(const desktop::QtDesktop& desktop, const std::string& form,
+                 const std::string& control, const std::string& file);
 
 /// The names of the forms whose windows are open, in the order of loading.
 [[nodiscard]] nlohmann::json openForms(const desktop::QtDesktop& desktop);

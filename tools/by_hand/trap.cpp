@@ -23,7 +23,7 @@ void Trap::look() {
     if (plate == nullptr || !plate->window()->isVisible()) return;
     const forms::Control& control = controlOf(desktop_, prey_.form, prey_.control);
     if (office::leadingNumber(control.caption) < prey_.atLeast) return;
-    caught_ = takePicture(desktop_, *form, prey_.file);
+    caught_ = takePicture(desktop_, prey_.form, "", prey_.file);
     timer_.stop();
 }
 
