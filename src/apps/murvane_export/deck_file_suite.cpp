@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "apps/utf8.h"
-#include "office/package/presentation/paste_remarks.h"
+#include "office/package/workbook/paste_remarks.h"
 
 namespace unattended {
 

@@ -12,15 +12,15 @@ namespace unattended {
 
 namespace {
 
-using office::package::DeckFacts;
 using office::package::Fault;
+using office::package::FileFacts;
 using office::package::PackageError;
 
 bool keepsMacros(const std::string& file) {
     return office::lowerCase(file).ends_with(".pptm");
 }
 
-DeckRoute routeOf(const DeckFacts& facts, const Options& options) {
+DeckRoute routeOf(const FileFacts& facts, const Options& options) {
     if (facts.isStrict)
         return {.isFile = false,
                 .remarks = {fmt::format("{} is a strict Open XML presentation. The suite reads it "

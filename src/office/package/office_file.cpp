@@ -2,10 +2,36 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 
+#include "office/package/xml.h"
+
 namespace office::package {
+
+FileFacts factsOf(Package& package, const std::string& main, std::string_view strict,
+                  std::string_view root) {
+    const Xml content(package.read(main), main);
+    const auto has = [&](const std::string& source, std::string_view type) {
+        return package.relationshipsOf(source).ofType(type) != nullptr;
+    };
+    return {.isStrict = isNamed(content.root(), strict, root),
+            .isSigned = has("/", signatureOrigin),
+            .hasMacros = has(main, macroProject)};
+}
+
+std::string mainPartOf(Package& package, std::span<const std::string_view> types,
+                       const char* kind) {
+    const Relationships& relationships = package.relationshipsOf("/");
+    const Relationship* const found = relationships.ofType("officeDocument");
+    if (found != nullptr) {
+        std::string part = relationships.partOf(*found);
+        const std::string type = package.contentTypeOf(part);
+        if (std::find(types.begin(), types.end(), type) != types.end()) return part;
+    }
+    throw PackageError(Fault::NotAPackage, fmt::format("it is no {}", kind));
+}
 
 void dropMacros(Package& package, const std::string& main) {
     Relationships& relationships = package.relationshipsOf(main);

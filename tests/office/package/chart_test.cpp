@@ -8,7 +8,7 @@
 #include "office/failure.h"
 #include "office/package/presentation/deck_file.h"
 #include "office/package/presentation/file_deck.h"
-#include "office/package/presentation/paste_remarks.h"
+#include "office/package/workbook/paste_remarks.h"
 #include "office/package/zip_bytes.h"
 #include "office/text.h"
 #include "support/png_file.h"

@@ -12,16 +12,10 @@ namespace office::package {
 
 constexpr std::string_view strictText = "http://purl.oclc.org/ooxml/wordprocessingml/main";
 
-DeckFacts documentFactsOf(const std::filesystem::path& file) {
+FileFacts documentFactsOf(const std::filesystem::path& file) {
     Package package = Package::open(file);
     const std::string main = documentPartOf(package);
-    const Xml text(package.read(main), main);
-    const auto has = [&](const std::string& source, std::string_view type) {
-        return package.relationshipsOf(source).ofType(type) != nullptr;
-    };
-    const DeckFacts facts{.isStrict = isNamed(text.root(), strictText, "document"),
-                          .isSigned = has("/", signatureOrigin),
-                          .hasMacros = has(main, macroProject)};
+    const FileFacts facts = factsOf(package, main, strictText, "document");
     if (facts.isStrict) return facts;
     // What is wrong with it shows in a document that is then dropped.
     const auto document =

@@ -2,7 +2,8 @@
 
 #include <filesystem>
 
-#include "office/package/presentation/deck_file.h"
+#include "office/package/file_rules.h"
+#include "office/package/office_file.h"
 #include "office/value.h"
 
 /// Word's object model over documents as files (.docx and its relatives). Nothing of a file changes
@@ -12,7 +13,7 @@ namespace office::package {
 
 /// As `factsOf` of presentations. `PackageError`: NotAPackage too for a package that is no
 /// document.
-[[nodiscard]] DeckFacts documentFactsOf(const std::filesystem::path& file);
+[[nodiscard]] FileFacts documentFactsOf(const std::filesystem::path& file);
 
 /// A running Word that opens files and shows nothing.
 [[nodiscard]] Object wordOfFiles(FileRules rules);

@@ -2,7 +2,7 @@
 
 #include <fmt/format.h>
 
-#include "office/package/presentation/file_shape.h"
+#include "office/package/drawing/drawing.h"
 #include "office/package/xml.h"
 
 namespace office::package {

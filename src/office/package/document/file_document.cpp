@@ -43,14 +43,7 @@ std::string stemIn(const std::string& main, std::string_view name) {
 }  // namespace
 
 std::string documentPartOf(Package& package) {
-    const Relationships& relationships = package.relationshipsOf("/");
-    const Relationship* const found = relationships.ofType("officeDocument");
-    if (found == nullptr) throw PackageError(Fault::NotAPackage, "it is no document");
-    std::string part = relationships.partOf(*found);
-    const std::string type = package.contentTypeOf(part);
-    if (std::find(documentTypes.begin(), documentTypes.end(), type) == documentTypes.end())
-        throw PackageError(Fault::NotAPackage, "it is no document");
-    return part;
+    return mainPartOf(package, documentTypes, "document");
 }
 
 FileDocument::FileDocument(Package package, std::string path, std::string name, FileRulesPtr rules)

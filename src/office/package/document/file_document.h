@@ -12,9 +12,9 @@
 #include "office/package/document/captions.h"
 #include "office/package/document/document_styles.h"
 #include "office/package/document/file_object.h"
+#include "office/package/drawing/picture_file.h"
+#include "office/package/file_rules.h"
 #include "office/package/package.h"
-#include "office/package/presentation/deck_file.h"
-#include "office/package/presentation/picture_file.h"
 #include "office/package/xml.h"
 
 namespace office::package {

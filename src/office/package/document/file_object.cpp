@@ -11,7 +11,7 @@
 #include "office/model/refusal.h"
 #include "office/package/document/file_document.h"
 #include "office/package/document/vml_shape.h"
-#include "office/package/presentation/file_shape.h"
+#include "office/package/drawing/drawing.h"
 
 namespace office::package {
 

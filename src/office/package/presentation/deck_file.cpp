@@ -11,17 +11,10 @@ namespace office::package {
 
 constexpr std::string_view strictPresentation = "http://purl.oclc.org/ooxml/presentationml/main";
 
-DeckFacts factsOf(const std::filesystem::path& file) {
+FileFacts factsOf(const std::filesystem::path& file) {
     Package package = Package::open(file);
     const std::string main = presentationPartOf(package);
-    const Xml presentation(package.read(main), main);
-    const auto has = [&](const std::string& source, std::string_view type) {
-        return package.relationshipsOf(source).ofType(type) != nullptr;
-    };
-    const DeckFacts facts{
-        .isStrict = isNamed(presentation.root(), strictPresentation, "presentation"),
-        .isSigned = has("/", signatureOrigin),
-        .hasMacros = has(main, macroProject)};
+    const FileFacts facts = factsOf(package, main, strictPresentation, "presentation");
     if (facts.isStrict) return facts;
     // What is wrong with its slides, layouts and masters shows in a deck that is then dropped.
     const auto deck =

@@ -90,15 +90,7 @@ void joinSection(const std::vector<pugi::xml_node>& sections, const std::string&
 }  // namespace
 
 std::string presentationPartOf(Package& package) {
-    const Relationships& relationships = package.relationshipsOf("/");
-    const Relationship* const found = relationships.ofType("officeDocument");
-    if (found == nullptr) throw PackageError(Fault::NotAPackage, "it is no presentation");
-    std::string part = relationships.partOf(*found);
-    const std::string type = package.contentTypeOf(part);
-    const bool isPresentation =
-        std::find(mainTypes.begin(), mainTypes.end(), type) != mainTypes.end();
-    if (!isPresentation) throw PackageError(Fault::NotAPackage, "it is no presentation");
-    return part;
+    return mainPartOf(package, mainTypes, "presentation");
 }
 
 FileDeck::FileDeck(Package package, std::string path, std::string name, FileRulesPtr rules)

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "office/model/powerpoint/deck.h"
+#include "office/package/drawing/chart_parts.h"
 #include "office/package/package.h"
-#include "office/package/presentation/chart_parts.h"
 #include "office/package/presentation/deck_file.h"
 #include "office/package/presentation/deck_layouts.h"
 #include "office/package/presentation/file_slide.h"

@@ -65,10 +65,6 @@ void setEmu(pugi::xml_node node, const char* name, double points) {
 
 }  // namespace
 
-long long emuOf(double points) {
-    return std::llround(points * emuPerPoint);
-}
-
 FileShape::FileShape(FileSlide& slide, pugi::xml_node element)
     : slide_(slide),
       element_(element),

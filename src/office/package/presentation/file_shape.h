@@ -9,21 +9,13 @@
 #include <vector>
 
 #include "office/model/powerpoint/deck_shape.h"
+#include "office/package/drawing/drawing.h"
 #include "office/package/presentation/deck_layouts.h"
 #include "office/package/xml.h"
 
 namespace office::package {
 
 class FileSlide;
-
-/// Lengths in the files are English metric units.
-inline constexpr double emuPerPoint = 12700;
-[[nodiscard]] long long emuOf(double points);
-/// The schema's order of what says how a shape looks.
-extern const std::vector<std::string_view> looksOrder;
-/// The plain colour that an element holds, and its markup; 0xBBGGRR.
-[[nodiscard]] std::int32_t colourIn(pugi::xml_node holder);
-[[nodiscard]] std::string colourMarkup(std::int32_t colour);
 
 /// A shape of a slide in a package.
 class FileShape : public model::DeckShape,

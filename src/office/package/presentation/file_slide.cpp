@@ -9,10 +9,10 @@
 
 #include "office/model/powerpoint/objects.h"
 #include "office/model/powerpoint/paste.h"
+#include "office/package/drawing/picture_file.h"
 #include "office/package/part_name.h"
 #include "office/package/presentation/file_deck.h"
 #include "office/package/presentation/object_parts.h"
-#include "office/package/presentation/picture_file.h"
 #include "office/package/presentation/table_markup.h"
 
 namespace office::package {

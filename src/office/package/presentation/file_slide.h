@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "office/model/powerpoint/deck_slide.h"
+#include "office/package/drawing/picture_file.h"
 #include "office/package/presentation/file_shape.h"
-#include "office/package/presentation/picture_file.h"
 #include "office/package/xml.h"
 
 namespace office::package {

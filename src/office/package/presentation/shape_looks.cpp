@@ -6,7 +6,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "office/package/presentation/chart_flags.h"
+#include "office/package/drawing/chart_flags.h"
 #include "office/package/presentation/file_deck.h"
 #include "office/package/presentation/file_shape.h"
 #include "office/package/presentation/file_slide.h"
@@ -47,27 +47,7 @@ double directionOf(double x, double y) {
     return direction < 0 ? direction + 360 * perDegree : direction;
 }
 
-/// 0xBBGGRR from and to the files' "RRGGBB".
-std::int32_t swapped(std::int32_t colour) {
-    return (colour & 0xFF) << 16 | (colour & 0xFF00) | (colour >> 16 & 0xFF);
-}
-
 }  // namespace
-
-const std::vector<std::string_view> looksOrder = {"xfrm",      "custGeom", "prstGeom",  "noFill",
-                                                  "solidFill", "gradFill", "blipFill",  "pattFill",
-                                                  "grpFill",   "ln",       "effectLst", "effectDag",
-                                                  "scene3d",   "sp3d",     "extLst"};
-
-std::int32_t colourIn(pugi::xml_node holder) {
-    const auto colour = childNamed(holder, ns::drawing, "srgbClr");
-    return swapped(static_cast<std::int32_t>(
-        std::strtol(colour.attribute("val").as_string("0"), nullptr, 16)));
-}
-
-std::string colourMarkup(std::int32_t colour) {
-    return fmt::format("<a:srgbClr val=\"{:06X}\"/>", swapped(colour));
-}
 
 model::Outline FileShape::outline() {
     const auto drawn = drawnProperties();
@@ -197,8 +177,7 @@ void FileShape::setShadow(const model::Shadow& shadow) {
     attributeFor(made, "algn").set_value("ctr");
     attributeFor(made, "rotWithShape").set_value("0");
     if (const auto before = childNamed(made, ns::drawing, "srgbClr")) {
-        attributeFor(before, "val")
-            .set_value(fmt::format("{:06X}", swapped(shadow.colour)).c_str());
+        attributeFor(before, "val").set_value(hexColour(shadow.colour).c_str());
     } else {
         made.remove_children();
         insertMarkup(made, colourMarkup(shadow.colour));

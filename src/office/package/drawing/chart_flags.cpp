@@ -1,4 +1,4 @@
-#include "office/package/presentation/chart_flags.h"
+#include "office/package/drawing/chart_flags.h"
 
 #include <algorithm>
 #include <array>

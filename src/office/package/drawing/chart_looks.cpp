@@ -1,4 +1,4 @@
-#include "office/package/presentation/chart_looks.h"
+#include "office/package/drawing/chart_looks.h"
 
 #include <algorithm>
 #include <array>
@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "office/package/presentation/chart_flags.h"
-#include "office/package/presentation/file_shape.h"
+#include "office/package/drawing/chart_flags.h"
+#include "office/package/drawing/drawing.h"
 
 namespace office::package {
 

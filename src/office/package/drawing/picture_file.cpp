@@ -1,4 +1,4 @@
-#include "office/package/presentation/picture_file.h"
+#include "office/package/drawing/picture_file.h"
 
 #include <cmath>
 #include <cstdint>

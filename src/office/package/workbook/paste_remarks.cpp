@@ -1,11 +1,11 @@
-#include "office/package/presentation/paste_remarks.h"
+#include "office/package/workbook/paste_remarks.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <utility>
 
-#include "office/package/presentation/object_parts.h"
+#include "office/package/workbook/object_source.h"
 #include "office/package/workbook/source_chart.h"
 
 namespace office::package {

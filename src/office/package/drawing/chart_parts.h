@@ -3,16 +3,18 @@
 #include <map>
 #include <string>
 
-#include "office/package/presentation/chart_flags.h"
+#include "office/package/drawing/chart_flags.h"
 #include "office/package/workbook/source_chart.h"
 
 namespace office::package {
 
-/// Takes charts of workbooks over into a presentation.
+/// Takes charts of workbooks over into another package.
 class ChartParts {
 public:
-    /// `folder` is that of the presentation's part: "/ppt". The package has to outlive it.
-    ChartParts(Package& deck, std::string folder) : deck_(deck), folder_(std::move(folder)) {}
+    /// `folder` is that of the package's main part: "/ppt". The package has to outlive it.
+    ChartParts(Package& target, std::string folder)
+        : package_(target),
+          folder_(std::move(folder)) {}
 
     /// The name of a new part with a chart, which has no obstacle. Its data stays in the workbook
     /// at the address `link`, or goes along in a copy of the workbook if that is empty.
@@ -40,7 +42,7 @@ private:
     void overrideTheme(const Origin& origin, const std::string& part, const Xml& xml);
     [[nodiscard]] std::string copyOf(const WorkbookFile& book, Origin& origin);
 
-    Package& deck_;
+    Package& package_;
     std::string folder_;
     std::map<WorkbookFilePtr, Origin> origins_;
 };

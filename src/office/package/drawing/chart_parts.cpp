@@ -1,12 +1,12 @@
-#include "office/package/presentation/chart_parts.h"
+#include "office/package/drawing/chart_parts.h"
 
 #include <fmt/format.h>
 
 #include <array>
 #include <utility>
 
+#include "office/package/drawing/chart_looks.h"
 #include "office/package/part_name.h"
-#include "office/package/presentation/chart_looks.h"
 #include "office/text.h"
 
 namespace office::package {
@@ -106,20 +106,20 @@ std::string ChartParts::add(SourceChart chart, const std::string& link) {
     writeFlags(root, origin.defaults);
     writeLooks(root, origin.thinLine);
     writeDates(root);
-    const std::string part = deck_.freeName(folder_ + "/charts/chart", ".xml");
-    deck_.add(part, chartType, {});
+    const std::string part = package_.freeName(folder_ + "/charts/chart", ".xml");
+    package_.add(part, chartType, {});
     takeCompanions(book, origin, chart.part, part, *chart.xml, Holder::Chart);
     overrideTheme(origin, part, *chart.xml);
-    Relationships& relationships = deck_.relationshipsOf(part);
+    Relationships& relationships = package_.relationshipsOf(part);
     connect(root, link.empty() ? relationships.add("package", copyOf(book, origin))
                                : relationships.addExternal("oleObject", link));
-    deck_.replace(part, chart.xml->bytes());
+    package_.replace(part, chart.xml->bytes());
     return part;
 }
 
 void ChartParts::takeCompanions(WorkbookFile& book, Origin& origin, const std::string& source,
                                 const std::string& part, const Xml& xml, Holder holder) {
-    Relationships& relationships = deck_.relationshipsOf(part);
+    Relationships& relationships = package_.relationshipsOf(part);
     std::map<std::string, std::string> ids;
     for (const Companion& one : companionsOf(book.package(), source, holder)) {
         const std::string& type = one.relationship.type;
@@ -140,8 +140,8 @@ std::string ChartParts::take(WorkbookFile& book, Origin& origin, const Companion
     if (companion.kind == Companion::Kind::Picture) {
         std::string& taken = origin.pictures[partKey(source)];
         if (taken.empty())
-            taken = deck_.addMedia(folder_ + "/media/image", "." + extensionOf(source), type,
-                                   package.read(source));
+            taken = package_.addMedia(folder_ + "/media/image", "." + extensionOf(source), type,
+                                      package.read(source));
         return taken;
     }
     const bool isShapes = companion.relationship.type.ends_with("/chartUserShapes");
@@ -149,23 +149,23 @@ std::string ChartParts::take(WorkbookFile& book, Origin& origin, const Companion
                                   : isShapes                               ? "drawings"
                                                                            : "theme";
     std::string part =
-        deck_.freeName(fmt::format("{}/{}/{}", folder_, subfolder, stemOf(source)), ".xml");
-    deck_.add(part, type, package.read(source));
+        package_.freeName(fmt::format("{}/{}/{}", folder_, subfolder, stemOf(source)), ".xml");
+    package_.add(part, type, package.read(source));
     if (companion.kind == Companion::Kind::Markup) {
         const Xml xml(package.read(source), source);
         takeCompanions(book, origin, source, part, xml, Holder::Markup);
-        deck_.replace(part, xml.bytes());
+        package_.replace(part, xml.bytes());
     }
     return part;
 }
 
 /// Colours that the chart names by their place in the theme stay those of its workbook.
 void ChartParts::overrideTheme(const Origin& origin, const std::string& part, const Xml& xml) {
-    Relationships& relationships = deck_.relationshipsOf(part);
+    Relationships& relationships = package_.relationshipsOf(part);
     if (relationships.ofType("themeOverride") == nullptr) {
         if (origin.theme.empty()) return;
-        const std::string theme = deck_.freeName(folder_ + "/theme/themeOverride", ".xml");
-        deck_.add(theme, themeType, origin.theme);
+        const std::string theme = package_.freeName(folder_ + "/theme/themeOverride", ".xml");
+        package_.add(theme, themeType, origin.theme);
         relationships.add("themeOverride", theme);
     }
     if (childNamed(xml.root(), ns::chart, "clrMapOvr")) return;
@@ -179,7 +179,7 @@ std::string ChartParts::copyOf(const WorkbookFile& book, Origin& origin) {
     const bool hasMacros = book.hasMacros();
     const char* const stem = hasMacros ? "/embeddings/Microsoft_Excel_Macro-Enabled_Worksheet"
                                        : "/embeddings/Microsoft_Excel_Worksheet";
-    origin.copy = deck_.addMedia(
+    origin.copy = package_.addMedia(
         folder_ + stem, hasMacros ? ".xlsm" : ".xlsx",
         hasMacros ? "application/vnd.ms-excel.sheet.macroEnabled.12"
                   : "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet",

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <pugixml.hpp>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The markup of shapes, pictures and charts, which all kinds of files have in common.
+namespace office::package {
+
+/// Lengths in drawings are English metric units.
+inline constexpr double emuPerPoint = 12700;
+[[nodiscard]] long long emuOf(double points);
+/// The schema's order of what says how a shape looks.
+extern const std::vector<std::string_view> looksOrder;
+/// A colour (0xBBGGRR) as the files write it: "RRGGBB".
+[[nodiscard]] std::string hexColour(std::int32_t colour);
+/// The plain colour that an element holds, and its markup; 0xBBGGRR.
+[[nodiscard]] std::int32_t colourIn(pugi::xml_node holder);
+[[nodiscard]] std::string colourMarkup(std::int32_t colour);
+
+}  // namespace office::package

@@ -1,0 +1,77 @@
+#include "office/package/workbook/object_source.h"
+
+#include <fmt/format.h>
+
+#include <filesystem>
+#include <utility>
+
+#include "office/model/refusal.h"
+#include "office/package/workbook/cell_box.h"
+#include "office/package/workbook/embedded_workbook.h"
+#include "office/text.h"
+
+namespace office::package {
+
+namespace {
+
+/// "Sales%202026.xlsx!Sheet%201!R5C2:R8C7", as the program that follows the link reads it: sheets
+/// have no apostrophes there, and cells go by their numbers.
+std::string addressOfCells(const FileRules& rules, const CopySource& source) {
+    const std::filesystem::path path(std::u8string(source.file.begin(), source.file.end()));
+    const std::string address =
+        fmt::format("{}!{}!{}", fileAddress(path, rules.linkBase), addressWord(source.sheet),
+                    cellBox(source.address).value_or(CellBox()).nameByNumbers());
+    // The colon between two cells must not stand in the first name of a relative address.
+    const bool isPlainName = address.find('/') == std::string::npos;
+    return isPlainName ? "./" + address : address;
+}
+
+}  // namespace
+
+std::string objectObstacle(PasteAs as, const CopySource& source, WorkbookFiles& workbooks,
+                           bool sheetAlone) {
+    if (source.kind == CopySource::Kind::Picture) return "it is a picture";
+    if (source.file.empty()) return "its workbook has not been saved yet";
+    try {
+        const WorkbookFilePtr workbook = workbooks.at(source.file);
+        const WorkbookSheet* const sheet = workbook->sheet(source.sheet);
+        if (sheet == nullptr) return "the workbook's file does not hold its sheet";
+        if (as == PasteAs::Embedded && sheetAlone) prepareSheetAlone(*workbook, *sheet);
+        return {};
+    } catch (const PackageError& error) {
+        const char* const text = error.fault() == Fault::NotAPackage
+                                     ? "its workbook is no .xlsx or .xlsm file ({})"
+                                     : "its workbook's file can't be used ({})";
+        return fmt::format(fmt::runtime(text), std::string(error.what()));
+    }
+}
+
+void requireNoObstacle(PasteAs as, const CopySource& source, const FileRules& rules,
+                       const char* member) {
+    const std::string obstacle =
+        objectObstacle(as, source, *rules.workbooks, rules.embedsSheetAlone);
+    if (!obstacle.empty())
+        office::model::refuse(
+            member, fmt::format("It can't be {}: {}", as == PasteAs::Linked ? "linked" : "embedded",
+                                obstacle));
+}
+
+ObjectSource embedWorkbook(Package& package, const std::string& holder, const std::string& stem,
+                           const CopySource& source, const FileRules& rules) {
+    const WorkbookFilePtr workbook = rules.workbooks->at(source.file);
+    EmbeddedWorkbook made = embeddedWorkbook(*workbook, source, rules.embedsSheetAlone);
+    // A part for each object, though some hold the same: they are edited each by itself.
+    const std::string part = package.freeName(stem, made.ending);
+    package.add(part, made.contentType, std::move(made.bytes), Storage::Stored);
+    return {package.relationshipsOf(holder).add("package", part), made.programId};
+}
+
+ObjectSource linkCells(Package& package, const std::string& holder, const CopySource& source,
+                       const FileRules& rules) {
+    const bool hasMacros = rules.workbooks->at(source.file)->hasMacros();
+    Relationships& relationships = package.relationshipsOf(holder);
+    return {relationships.addExternal("oleObject", addressOfCells(rules, source)),
+            hasMacros ? macroWorkbook : plainWorkbook};
+}
+
+}  // namespace office::package
