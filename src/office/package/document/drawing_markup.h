@@ -17,4 +17,24 @@ namespace office::package {
                                          const office::model::word::ObjectSize& size,
                                          const std::string& relationship);
 
+/// The graphic of a chart in a part of its own.
+[[nodiscard]] std::string chartGraphic(const std::string& relationship);
+
+/// An object that a workbook stands behind.
+struct ObjectMarkup {
+    /// Unique among drawings and objects of the document.
+    unsigned id = 0;
+    office::model::word::ObjectSize size;
+    /// The relationships of its picture and of its workbook.
+    std::string preview;
+    std::string workbook;
+    std::string programId;
+    bool isLink = false;
+};
+/// A run with an object in the older markup, which is the only one that Word has for it.
+[[nodiscard]] std::string objectRun(office::model::word::Anchoring anchoring,
+                                    const ObjectMarkup& object);
+/// What is between the number of an object and that in the name of its shape.
+inline constexpr unsigned firstVmlShape = 1024;
+
 }  // namespace office::package

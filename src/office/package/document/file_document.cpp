@@ -11,6 +11,7 @@
 #include "office/package/document/drawing_markup.h"
 #include "office/package/document/page_section.h"
 #include "office/package/document/paragraph.h"
+#include "office/package/document/pastes.h"
 #include "office/package/document/reading_order.h"
 #include "office/package/office_file.h"
 #include "office/text.h"
@@ -36,8 +37,8 @@ bool isBlock(pugi::xml_node element) {
                        [&](std::string_view name) { return isNamed(element, ns::word, name); });
 }
 
-std::string stemIn(const std::string& main, std::string_view name) {
-    return fmt::format("{}/{}", main.substr(0, main.rfind('/')), name);
+std::string folderOfPart(const std::string& part) {
+    return part.substr(0, part.rfind('/'));
 }
 
 }  // namespace
@@ -55,13 +56,18 @@ FileDocument::FileDocument(Package package, std::string path, std::string name, 
       xml_(package_.read(main_), main_),
       body_(childNamed(xml_.root(), ns::word, "body")),
       styles_(package_, main_),
-      captions_(body_) {
+      captions_(body_),
+      charts_(package_, folderOfPart(main_)) {
     if (!isNamed(xml_.root(), ns::word, "document"))
         throw PackageError(Fault::NotAPackage, "it is no document of the usual kind");
     if (!body_) throw PackageError(Fault::Damaged, "it has no text");
     const auto paragraphs = paragraphsIn(body_);
     caret_.paragraph = paragraphs.empty() ? lastParagraph() : paragraphs.front();
     caret_.before = contentOf(caret_.paragraph);
+}
+
+std::string FileDocument::stem(std::string_view name) const {
+    return fmt::format("{}/{}", folderOfPart(main_), name);
 }
 
 std::string FileDocument::title() {
@@ -218,7 +224,15 @@ void FileDocument::setPage(const word::Page& page) {
 unsigned FileDocument::freeDrawingId() {
     struct Walker : pugi::xml_tree_walker {
         bool for_each(pugi::xml_node& node) override {
+            const std::string id = node.attribute("id").value();
             if (localName(node) == "docPr") taken.insert(node.attribute("id").as_uint());
+            // "_x0000_i1025"
+            const auto number = id.find_last_not_of("0123456789") + 1;
+            if (isNamed(node, ns::vml, "shape") && number < id.size()) {
+                const double shape = leadingNumber(id.substr(number));
+                if (shape > firstVmlShape && shape < UINT32_MAX)
+                    taken.insert(static_cast<unsigned>(shape) - firstVmlShape);
+            }
             return true;
         }
         std::set<unsigned> taken;
@@ -267,23 +281,26 @@ void FileDocument::insertObject(const std::string& run) {
     });
 }
 
-void FileDocument::addPicture(PictureFile picture, word::Anchoring anchoring) {
-    const word::ObjectSize size{picture.size.width, picture.size.height};
-    const std::string media = package_.addMedia(stemIn(main_, "media/image"), picture.ending,
-                                                picture.contentType, std::move(picture.bytes));
-    const std::string relationship = package_.relationshipsOf(main_).add("image", media);
-    const unsigned id = freeDrawingId();
-    const std::string name = fmt::format("Picture {}", id);
-    insertObject(
-        drawingRun(anchoring, id, name, size, pictureGraphic(id, name, size, relationship)));
+/// An empty paragraph makes room for a table ahead of itself, and is the one that Word wants behind
+/// it.
+void FileDocument::insertTable(const std::string& table) {
+    touch();
+    const bool isLast = isCaretAtEnd();
+    if (contentOf(caret_.paragraph) || breaksPage(caret_.paragraph) ||
+        sectionEndIn(caret_.paragraph)) {
+        typeParagraph();
+        // The page breaks ahead of the table alone.
+        word::ParagraphChange goesOn;
+        goesOn.breaksPageBefore = false;
+        if (breaksPage(caret_.paragraph)) changeParagraph(goesOn);
+    }
+    insertMarkup(caret_.paragraph.parent(), table, caret_.paragraph);
+    if (tables_) tables_ = isLast ? std::optional(*tables_ + 1) : std::nullopt;
 }
 
 void FileDocument::paste(const Copied& copied, PasteAs as, word::Anchoring anchoring) {
     selected_.reset();
-    const CopySource::Kind kind = copied.source().kind;
-    if (kind != CopySource::Kind::Picture && as != PasteAs::Png && as != PasteAs::Metafile)
-        office::model::refuse("Selection.PasteSpecial", "It can't be pasted in this form");
-    addPicture(pictureOf(copied.png(), "What was copied"), anchoring);
+    pasteInto(*this, copied, as, anchoring);
 }
 
 void FileDocument::insertCaption(const word::Caption& caption) {
@@ -312,13 +329,14 @@ word::TextObjectPtr FileDocument::objectAt(word::Anchoring anchoring, std::int32
 }
 
 std::int32_t FileDocument::tableCount() {
-    std::int32_t count = 0;
+    if (tables_) return *tables_;
+    tables_ = 0;
     visitInOrder(body_, [&](pugi::xml_node element) {
         const bool isTable = isNamed(element, ns::word, "tbl");
-        if (isTable) ++count;
+        if (isTable) ++*tables_;
         return !isTable && !isNamed(element, ns::word, "p");
     });
-    return count;
+    return *tables_;
 }
 
 word::TextObjectPtr FileDocument::selectedObject() {

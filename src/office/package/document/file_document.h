@@ -12,7 +12,7 @@
 #include "office/package/document/captions.h"
 #include "office/package/document/document_styles.h"
 #include "office/package/document/file_object.h"
-#include "office/package/drawing/picture_file.h"
+#include "office/package/drawing/chart_parts.h"
 #include "office/package/file_rules.h"
 #include "office/package/package.h"
 #include "office/package/xml.h"
@@ -33,6 +33,17 @@ public:
     [[nodiscard]] const FileRules& rules() const { return *rules_; }
     [[nodiscard]] pugi::xml_node body() const { return body_; }
     [[nodiscard]] DocumentStyles& styles() { return styles_; }
+    [[nodiscard]] ChartParts& charts() { return charts_; }
+    /// The part with the text.
+    [[nodiscard]] const std::string& mainPart() const { return main_; }
+    /// What the names of parts begin with that go beside it: "/word/media/image".
+    [[nodiscard]] std::string stem(std::string_view name) const;
+    /// A number that no drawing or object has, and none gets again.
+    [[nodiscard]] unsigned freeDrawingId();
+    /// Puts a run with an object in at the caret, which stays behind it.
+    void insertObject(const std::string& run);
+    /// Puts a table in at the caret, which goes behind it.
+    void insertTable(const std::string& table);
     /// Says that the text is another than it was.
     void touch() { isChanged_ = true; }
     void select(const FileObjectPtr& object) { selected_ = object; }
@@ -89,12 +100,8 @@ private:
     /// Puts the caret at the end of a paragraph.
     void placeCaret(pugi::xml_node paragraph);
     [[nodiscard]] pugi::xml_node sectionAtCaret() const;
-    /// Puts a run with an object in at the caret.
-    void insertObject(const std::string& run);
-    void addPicture(PictureFile picture, word::Anchoring anchoring);
     [[nodiscard]] std::vector<FileObjectPtr>& objects();
     void readObjects();
-    [[nodiscard]] unsigned freeDrawingId();
 
     Package package_;
     std::string path_;
@@ -105,10 +112,12 @@ private:
     pugi::xml_node body_;
     DocumentStyles styles_;
     Captions captions_;
+    ChartParts charts_;
     Caret caret_;
     std::optional<std::vector<FileObjectPtr>> objects_;
     std::optional<std::set<unsigned>> drawingIds_;
     unsigned lastDrawingId_ = 0;
+    std::optional<std::int32_t> tables_;
     std::weak_ptr<FileObject> selected_;
     std::function<void(FileDocument&)> closed_;
     std::function<void(FileDocument&)> activated_;

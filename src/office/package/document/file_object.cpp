@@ -11,6 +11,7 @@
 #include "office/model/refusal.h"
 #include "office/package/document/file_document.h"
 #include "office/package/document/vml_shape.h"
+#include "office/package/drawing/chart_flags.h"
 #include "office/package/drawing/drawing.h"
 
 namespace office::package {
@@ -40,6 +41,35 @@ pugi::xml_node looksIn(pugi::xml_node drawing) {
 void setSides(pugi::xml_node extent, const word::ObjectSize& size) {
     attributeFor(extent, "cx").set_value(emuOf(size.width));
     attributeFor(extent, "cy").set_value(emuOf(size.height));
+}
+
+word::ObjectShadow shadowIn(pugi::xml_node looks) {
+    const auto found =
+        childNamed(childNamed(looks, ns::drawing, "effectLst"), ns::drawing, "outerShdw");
+    if (!found) return {};
+    constexpr double whole = 100 * perPercentOfSize;
+    return {.isShown = true,
+            .size = found.attribute("sx").as_double(whole) / perPercentOfSize,
+            .blur = found.attribute("blurRad").as_double() / emuPerPoint};
+}
+
+/// Effects that stand in the order of a graph are left to their maker: a list takes their place.
+void setShadowIn(pugi::xml_node looks, const word::ObjectShadow& shadow) {
+    looks.remove_child(childNamed(looks, ns::drawing, "effectDag"));
+    auto effects = childInOrder(looks, ns::drawing, "effectLst", looksOrder);
+    effects.remove_child(childNamed(effects, ns::drawing, "outerShdw"));
+    if (!shadow.isShown) return;
+    const long long share = std::llround(shadow.size * perPercentOfSize);
+    insertMarkup(
+        effects,
+        fmt::format(R"(<a:outerShdw blurRad="{}" dist="{}" dir="{}" sx="{}" sy="{}" )"
+                    R"(algn="tl" rotWithShape="0">{}</a:outerShdw>)",
+                    emuOf(shadow.blur), emuOf(fallPt), std::llround(fallDegrees * perDegreeOfFall),
+                    share, share, shadowColour),
+        effects.find_child([](const pugi::xml_node& effect) {
+            const std::string_view name = localName(effect);
+            return name == "prstShdw" || name == "reflection" || name == "softEdge";
+        }));
 }
 
 }  // namespace
@@ -84,44 +114,44 @@ void FileObject::setAlternativeText(const std::string& text) {
     attributeFor(properties, "descr").set_value(shown.c_str());
 }
 
-word::ObjectShadow FileObject::shadow() {
-    const auto effects = childNamed(looksIn(element_), ns::drawing, "effectLst");
-    const auto found = childNamed(effects, ns::drawing, "outerShdw");
-    if (!found) return {};
-    constexpr double whole = 100 * perPercentOfSize;
-    return {.isShown = true,
-            .size = found.attribute("sx").as_double(whole) / perPercentOfSize,
-            .blur = found.attribute("blurRad").as_double() / emuPerPoint};
+std::string FileObject::chartPart() {
+    const auto chart = graphicOf(element_);
+    if (!isNamed(chart, ns::chart, "chart")) return {};
+    const Relationships& relationships = document_.package().relationshipsOf(document_.mainPart());
+    const Relationship* const found =
+        relationships.withId(attributeNamed(chart, ns::relationships, "id").value());
+    return found != nullptr ? relationships.partOf(*found) : std::string();
 }
 
-void FileObject::setShadow(const word::ObjectShadow& shadow) {
-    auto looks = looksIn(element_);
-    if (!looks) office::model::refuse("Shape.Shadow", "An object of this kind has no shadow");
-    document_.touch();
-    auto effects = childInOrder(looks, ns::drawing, "effectLst", looksOrder);
-    effects.remove_child(childNamed(effects, ns::drawing, "outerShdw"));
-    if (shadow.isShown) {
-        const long long share = std::llround(shadow.size * perPercentOfSize);
-        insertMarkup(
-            effects,
-            fmt::format(R"(<a:outerShdw blurRad="{}" dist="{}" dir="{}" sx="{}" sy="{}" )"
-                        R"(algn="tl" rotWithShape="0">{}</a:outerShdw>)",
-                        emuOf(shadow.blur), emuOf(fallPt),
-                        std::llround(fallDegrees * perDegreeOfFall), share, share, shadowColour),
-            effects.find_child([](const pugi::xml_node& effect) {
-                const std::string_view name = localName(effect);
-                return name == "prstShdw" || name == "reflection" || name == "softEdge";
-            }));
+word::ObjectShadow FileObject::shadow() {
+    if (const std::string part = chartPart(); !part.empty()) {
+        const Xml chart(document_.package().read(part), part);
+        return shadowIn(childNamed(chart.root(), ns::chart, "spPr"));
     }
+    return shadowIn(looksIn(element_));
+}
+
+/// Of a chart, whose ground has the shadow, another part says it.
+void FileObject::setShadow(const word::ObjectShadow& shadow) {
+    if (const std::string part = chartPart(); !part.empty()) {
+        const Xml chart(document_.package().read(part), part);
+        setShadowIn(chartChild(chart.root(), "spPr", chartSpaceOrder), shadow);
+        document_.package().replace(part, chart.bytes());
+    } else {
+        const auto looks = looksIn(element_);
+        if (!looks) office::model::refuse("Shape.Shadow", "An object of this kind has no shadow");
+        setShadowIn(looks, shadow);
+    }
+    document_.touch();
     const auto room = childNamed(element_, ns::wordDrawing, "effectExtent");
     if (!room) return;
-    const double fall = fallPt / std::numbers::sqrt2;
+    const double fall = shadow.isShown ? fallPt / std::numbers::sqrt2 : 0;
     const double reach = shadow.isShown ? shadow.blur : 0;
     const auto side = [&](const char* name, double points) {
         attributeFor(room, name).set_value(emuOf(std::max(points, 0.0)));
     };
-    for (const char* const name : {"l", "t"}) side(name, shadow.isShown ? reach - fall : 0);
-    for (const char* const name : {"r", "b"}) side(name, shadow.isShown ? reach + fall : 0);
+    for (const char* const name : {"l", "t"}) side(name, reach - fall);
+    for (const char* const name : {"r", "b"}) side(name, reach + fall);
 }
 
 void FileObject::setLeft(double left) {

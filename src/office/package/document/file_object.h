@@ -36,6 +36,9 @@ public:
     void select() override;
 
 private:
+    /// The part of the chart that it shows; empty for anything else.
+    [[nodiscard]] std::string chartPart();
+
     FileDocument& document_;
     pugi::xml_node element_;
     bool isGone_ = false;

@@ -86,7 +86,7 @@ const char* nameOfAlignment(word::Alignment alignment) {
     }
 }
 
-void breakPage(pugi::xml_node paragraph, bool breaks) {
+void setPageBreak(pugi::xml_node paragraph, bool breaks) {
     if (breaks) return setOn(paragraph, "pageBreakBefore");
     if (styleOf(paragraph).empty()) return drop(propertiesOf(paragraph), "pageBreakBefore");
     // The style may say otherwise.
@@ -137,11 +137,17 @@ void setStyle(pugi::xml_node paragraph, const std::string& style) {
 void changeLook(pugi::xml_node paragraph, const word::ParagraphChange& change,
                 DocumentStyles& styles) {
     if (change.style) setStyle(paragraph, styles.idOf(*change.style));
-    if (change.breaksPageBefore) breakPage(paragraph, *change.breaksPageBefore);
+    if (change.breaksPageBefore) setPageBreak(paragraph, *change.breaksPageBefore);
     if (change.alignment)
         setWordValue(made(paragraph, "jc"), "val", nameOfAlignment(*change.alignment));
     if (change.spaceBefore) setSpace(paragraph, "before", *change.spaceBefore);
     if (change.spaceAfter) setSpace(paragraph, "after", *change.spaceAfter);
+}
+
+bool breaksPage(pugi::xml_node paragraph) {
+    const auto flag = childNamed(propertiesOf(paragraph), ns::word, "pageBreakBefore");
+    const std::string_view said = wordValue(flag);
+    return flag && said != "0" && said != "false" && said != "off";
 }
 
 void keepWithNext(pugi::xml_node paragraph) {

@@ -26,6 +26,7 @@ pugi::xml_node addParagraph(pugi::xml_node parent, pugi::xml_node before);
 void setStyle(pugi::xml_node paragraph, const std::string& style);
 void changeLook(pugi::xml_node paragraph, const word::ParagraphChange& change,
                 DocumentStyles& styles);
+[[nodiscard]] bool breaksPage(pugi::xml_node paragraph);
 /// Keeps it on one page with the paragraph behind it.
 void keepWithNext(pugi::xml_node paragraph);
 

@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "office/model/powerpoint/paste.h"
+#include "office/package/drawing/table_layout.h"
 #include "office/package/presentation/file_deck.h"
 #include "office/package/xml.h"
 
@@ -18,14 +19,9 @@ namespace {
 constexpr const char* tableSpace = "http://schemas.openxmlformats.org/drawingml/2006/table";
 /// The style that adds neither lines nor fills.
 constexpr const char* plainStyle = "{2D5ABB26-0587-4C30-8999-92F81FD0307C}";
-/// Between a cell's edges and its text: as little as a sheet has.
-constexpr double marginPt = 1;
 /// Sizes of characters are hundredths of a point, shares of 100000.
 constexpr double perPoint = 100;
 constexpr double wholeShare = 100000;
-constexpr double smallestSizePt = 1;
-/// Lines of a text that is broken by the cell's width come no closer to each other.
-constexpr double closestLines = 0.8;
 /// The thinnest line that is drawn at all.
 constexpr double thinnestPt = 0.25;
 
@@ -59,7 +55,7 @@ public:
         for (const long long width : emuOfAll(look_.columnWidthsPt, scale_))
             grid.append_child("a:gridCol").append_attribute("w").set_value(width);
         const auto heights = emuOfAll(look_.rowHeightsPt, scale_);
-        const std::vector<Origin> origins = findOrigins();
+        const std::vector<CellOrigin> origins = cellOrigins(look_);
         for (std::size_t row = 0; row < heights.size(); ++row) {
             auto element = table.append_child("a:tr");
             element.append_attribute("h").set_value(heights[row]);
@@ -70,40 +66,9 @@ public:
     }
 
 private:
-    /// Where the cell begins that a place of the grid belongs to.
-    struct Origin {
-        std::size_t row = 0;
-        std::size_t column = 0;
-    };
-    /// How a text stands in its cell, in points of the sheet.
-    struct Fit {
-        double leftPt = marginPt;
-        double rightPt = marginPt;
-        double topPt = 0;
-        double bottomPt = 0;
-        double sizePt = 0;
-        /// Of the usual distance between lines.
-        double spacing = 1;
-    };
-
     [[nodiscard]] std::size_t columns() const { return look_.columnWidthsPt.size(); }
 
-    [[nodiscard]] std::vector<Origin> findOrigins() const {
-        std::vector<Origin> origins(look_.cells.size());
-        for (std::size_t row = 0; row < look_.rowHeightsPt.size(); ++row) {
-            for (std::size_t column = 0; column < columns(); ++column) {
-                const CellLook& cell = look_.at(row, column);
-                if (cell.isCovered) continue;
-                for (std::size_t down = 0; down < static_cast<std::size_t>(cell.rows); ++down) {
-                    for (std::size_t i = 0; i < static_cast<std::size_t>(cell.columns); ++i)
-                        origins.at((row + down) * columns() + column + i) = {row, column};
-                }
-            }
-        }
-        return origins;
-    }
-
-    void writeCell(pugi::xml_node element, const Origin& origin, std::size_t row,
+    void writeCell(pugi::xml_node element, const CellOrigin& origin, std::size_t row,
                    std::size_t column) const {
         const CellLook& cell = look_.at(origin.row, origin.column);
         const bool isRight = column > origin.column;
@@ -113,7 +78,7 @@ private:
             element.append_attribute("gridSpan").set_value(cell.columns);
         if (isRight) element.append_attribute("hMerge").set_value("1");
         if (isBelow) element.append_attribute("vMerge").set_value("1");
-        const Fit fit = fitFor(cell, origin);
+        const TextFit fit = textFit(look_, origin, measure_);
         auto body = element.append_child("a:txBody");
         body.append_child("a:bodyPr");
         body.append_child("a:lstStyle");
@@ -172,51 +137,7 @@ private:
         line.append_attribute("scaled").set_value("0");
     }
 
-    [[nodiscard]] static double sum(const std::vector<double>& lengths, std::size_t first,
-                                    std::int32_t count) {
-        double all = 0;
-        for (std::size_t i = first; i < first + static_cast<std::size_t>(count); ++i)
-            all += lengths.at(i);
-        return all;
-    }
-
-    [[nodiscard]] Fit fitFor(const CellLook& cell, const Origin& origin) const {
-        Fit fit;
-        const bool isUpright = cell.rotation != 0;
-        const double widthPt = sum(look_.columnWidthsPt, origin.column, cell.columns);
-        const double heightPt = sum(look_.rowHeightsPt, origin.row, cell.rows);
-        fit.sizePt = cell.fontSizePt;
-        if (cell.across == CellLook::Across::Left) fit.leftPt += cell.indentPt;
-        if (cell.across == CellLook::Across::Right) fit.rightPt += cell.indentPt;
-        if (isUpright) return fit;
-        const double roomPt = std::max(widthPt - fit.leftPt - fit.rightPt, 1.0);
-        const double textPt =
-            measure_(cell.text.empty() ? "X" : cell.text, {cell.fontName, cell.fontSizePt, 0},
-                     cell.wraps && !cell.text.empty() ? std::optional(roomPt) : std::nullopt)
-                .height;
-        if (!cell.wraps) giveRoomAside(cell, fit);
-        const double sparePt = heightPt - textPt;
-        if (sparePt < 0 && cell.text.empty()) {
-            fit.sizePt = std::max(cell.fontSizePt * heightPt / textPt, smallestSizePt);
-        } else if (sparePt < 0) {
-            fit.spacing = std::max(heightPt / textPt, cell.wraps ? closestLines : 0.0);
-        } else if (cell.down == CellLook::Down::Top) {
-            fit.topPt = std::min(sparePt, marginPt);
-        } else if (cell.down == CellLook::Down::Bottom) {
-            fit.bottomPt = std::min(sparePt, marginPt);
-        }
-        return fit;
-    }
-
-    /// A text that its cell holds with nothing to spare breaks elsewhere, where characters are a
-    /// little wider: it may go to the edge that it doesn't begin at.
-    static void giveRoomAside(const CellLook& cell, Fit& fit) {
-        if (cell.across == CellLook::Across::Left) fit.rightPt = 0;
-        if (cell.across == CellLook::Across::Right) fit.leftPt = 0;
-        if (cell.across == CellLook::Across::Centre) fit.leftPt = fit.rightPt = 0;
-    }
-
-    void writeText(pugi::xml_node body, const CellLook& cell, const Fit& fit) const {
+    void writeText(pugi::xml_node body, const CellLook& cell, const TextFit& fit) const {
         std::istringstream lines(legible(cell.text));
         std::string line;
         do {
@@ -234,7 +155,8 @@ private:
         } while (lines.good());
     }
 
-    static void writeParagraph(pugi::xml_node properties, const CellLook& cell, const Fit& fit) {
+    static void writeParagraph(pugi::xml_node properties, const CellLook& cell,
+                               const TextFit& fit) {
         properties.append_attribute("marL").set_value("0");
         properties.append_attribute("indent").set_value("0");
         properties.append_attribute("algn").set_value(alignmentOf(cell));
@@ -244,14 +166,8 @@ private:
         properties.append_child("a:buNone");
     }
 
-    /// Along the lines of the text, which run upwards or downwards in a cell that is turned.
     static const char* alignmentOf(const CellLook& cell) {
-        const bool runsUp = cell.rotation == 90;
-        if (cell.rotation != 0) {
-            if (cell.down == CellLook::Down::Middle) return "ctr";
-            return (cell.down == CellLook::Down::Bottom) == runsUp ? "l" : "r";
-        }
-        switch (cell.across) {
+        switch (alignmentAlong(cell)) {
             case CellLook::Across::Centre:
                 return "ctr";
             case CellLook::Across::Right:
@@ -269,13 +185,8 @@ private:
         properties.append_attribute("anchor").set_value(anchorOf(cell));
     }
 
-    /// Across the lines of the text, the first of which is on the left of those that run upwards.
     static const char* anchorOf(const CellLook& cell) {
-        if (cell.rotation != 0) {
-            if (cell.across == CellLook::Across::Centre) return "ctr";
-            return (cell.across == CellLook::Across::Right) == (cell.rotation == 90) ? "b" : "t";
-        }
-        switch (cell.down) {
+        switch (alignmentBeside(cell)) {
             case CellLook::Down::Top:
                 return "t";
             case CellLook::Down::Middle:
@@ -285,7 +196,8 @@ private:
         }
     }
 
-    void writeCharacters(pugi::xml_node properties, const CellLook& cell, const Fit& fit) const {
+    void writeCharacters(pugi::xml_node properties, const CellLook& cell,
+                         const TextFit& fit) const {
         setRounded(properties, "sz", std::max(fit.sizePt * scale_, smallestSizePt) * perPoint);
         properties.append_attribute("b").set_value(cell.isBold ? "1" : "0");
         properties.append_attribute("i").set_value(cell.isItalic ? "1" : "0");

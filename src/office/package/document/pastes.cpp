@@ -1,0 +1,108 @@
+#include "office/package/document/pastes.h"
+
+#include <fmt/format.h>
+
+#include <utility>
+
+#include "office/model/refusal.h"
+#include "office/package/document/drawing_markup.h"
+#include "office/package/document/word_table.h"
+#include "office/package/drawing/picture_file.h"
+#include "office/package/workbook/object_source.h"
+#include "office/package/workbook/source_chart.h"
+
+namespace office::package {
+
+namespace {
+
+constexpr const char* pasteSpecial = "Selection.PasteSpecial";
+
+struct Media {
+    std::string relationship;
+    word::ObjectSize size;
+};
+
+/// The picture of what was copied as a part of the document.
+Media addMedia(FileDocument& document, const Copied& copied) {
+    PictureFile picture = pictureOf(copied.png(), "What was copied");
+    Package& package = document.package();
+    const std::string part = package.addMedia(document.stem("media/image"), picture.ending,
+                                              picture.contentType, std::move(picture.bytes));
+    return {package.relationshipsOf(document.mainPart()).add("image", part),
+            {picture.size.width, picture.size.height}};
+}
+
+void pastePicture(FileDocument& document, const Copied& copied, word::Anchoring anchoring) {
+    const Media media = addMedia(document, copied);
+    const unsigned id = document.freeDrawingId();
+    const std::string name = fmt::format("Picture {}", id);
+    document.insertObject(drawingRun(anchoring, id, name, media.size,
+                                     pictureGraphic(id, name, media.size, media.relationship)));
+}
+
+/// False for one that goes as a picture.
+bool pasteChart(FileDocument& document, const Copied& copied, PasteAs as,
+                word::Anchoring anchoring) {
+    SourceChart chart = findChart(copied.source(), *document.rules().workbooks);
+    if (!chart.obstacle.empty()) {
+        if (as == PasteAs::Default) return false;
+        office::model::refuse(pasteSpecial, "The chart can't be linked to: " + chart.obstacle);
+    }
+    const std::string link =
+        as == PasteAs::Linked ? fileAddress(chart.book->path(), document.rules().linkBase) : "";
+    const std::string part = document.charts().add(std::move(chart), link);
+    const std::string relationship =
+        document.package().relationshipsOf(document.mainPart()).add("chart", part);
+    const unsigned id = document.freeDrawingId();
+    document.insertObject(drawingRun(anchoring, id, fmt::format("Chart {}", id),
+                                     {copied.widthPt(), copied.heightPt()},
+                                     chartGraphic(relationship)));
+    return true;
+}
+
+void pasteObject(FileDocument& document, const Copied& copied, PasteAs as,
+                 word::Anchoring anchoring) {
+    const CopySource& source = copied.source();
+    const FileRules& rules = document.rules();
+    requireNoObstacle(as, source, rules, pasteSpecial);
+    const Media preview = addMedia(document, copied);
+    const bool isLink = as == PasteAs::Linked;
+    Package& package = document.package();
+    const ObjectSource behind =
+        isLink
+            ? linkCells(package, document.mainPart(), source, rules)
+            : embedWorkbook(package, document.mainPart(),
+                            document.stem("embeddings/Microsoft_Excel_Worksheet"), source, rules);
+    document.insertObject(objectRun(anchoring, {.id = document.freeDrawingId(),
+                                                .size = preview.size,
+                                                .preview = preview.relationship,
+                                                .workbook = behind.relationship,
+                                                .programId = behind.programId,
+                                                .isLink = isLink}));
+}
+
+}  // namespace
+
+void pasteInto(FileDocument& document, const Copied& copied, PasteAs as,
+               word::Anchoring anchoring) {
+    const CopySource::Kind kind = copied.source().kind;
+    const bool isChart = kind == CopySource::Kind::Chart;
+    const bool isCells = kind == CopySource::Kind::Cells;
+    if (as == PasteAs::Embedded || (as == PasteAs::Linked && isCells))
+        return pasteObject(document, copied, as, anchoring);
+    if (isCells && as == PasteAs::Default) {
+        const TableLook look = copied.table();
+        const word::Page page = document.page();
+        if (look.columnWidthsPt.size() <= mostTableColumns)
+            return document.insertTable(wordTable(
+                look, page.width - page.leftMargin - page.rightMargin, document.rules().measure));
+    } else if (isChart && (as == PasteAs::Default || as == PasteAs::Linked)) {
+        if (pasteChart(document, copied, as, anchoring)) return;
+    } else if (as == PasteAs::Linked) {
+        office::model::refuse(pasteSpecial,
+                              "A picture leads to no file that it could be linked to");
+    }
+    pastePicture(document, copied, anchoring);
+}
+
+}  // namespace office::package

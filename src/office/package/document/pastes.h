@@ -1,0 +1,12 @@
+#pragma once
+
+#include "office/copied.h"
+#include "office/package/document/file_document.h"
+
+namespace office::package {
+
+/// Puts what was copied in at the caret of a document, in one of its forms. `Failure` 1004 if it
+/// can't be had in this form; then nothing is put there.
+void pasteInto(FileDocument& document, const Copied& copied, PasteAs as, word::Anchoring anchoring);
+
+}  // namespace office::package
