@@ -3,52 +3,17 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <string_view>
 
+#include "office/model/word/sequence_name.h"
 #include "office/package/document/sequence_fields.h"
 #include "office/package/xml.h"
 #include "office/text.h"
 
 namespace office::package {
 
+namespace word = office::model::word;
+
 namespace {
-
-/// As many as Word takes of a name.
-constexpr std::size_t longestName = 40;
-
-/// Whether a character may stand in the name of a sequence: letters, digits and the low line; of
-/// other scripts all that aren't signs.
-bool fitsName(std::string_view character) {
-    const auto first = static_cast<unsigned char>(character[0]);
-    if (character.size() == 1)
-        return (first >= '0' && first <= '9') || (first >= 'a' && first <= 'z') ||
-               (first >= 'A' && first <= 'Z') || first == '_';
-    // From U+00C0 on, without the signs of U+2000 to U+2FFF, and nothing beyond U+FFFF.
-    return character.size() < 4 && character != "×" && character != "÷" && first > 0xC2 &&
-           first != 0xE2 && first != 0xEF && character.substr(0, 2) != "\xE3\x80";
-}
-
-bool isLetter(std::string_view character) {
-    return fitsName(character) && character != "_" && (character < "0" || character > "9");
-}
-
-/// A label as the name of a sequence: nothing but letters, digits and low lines, a letter first.
-std::string plainName(const std::string& label, std::size_t longest = longestName) {
-    constexpr std::string_view lead = "Label_";
-    std::string name;
-    std::size_t count = 0;
-    for (std::size_t i = 0; i < label.size() && count < longest; ++count) {
-        const std::size_t length = std::max<std::size_t>(characterLength(label, i), 1);
-        const std::string_view character = std::string_view(label).substr(i, length);
-        if (i == 0 && !isLetter(character)) {
-            name = lead;
-            count = lead.size();
-        }
-        name += fitsName(character) ? character : "_";
-        i += length;
-    }
-    return name.empty() ? std::string(lead) : name;
-}
 
 std::string oneLine(const std::string& text) {
     std::string line = legible(text);
@@ -89,25 +54,22 @@ Captions::ByName& Captions::known() {
 /// The name that the label has already, or else the first that stands for no other label.
 std::string Captions::nameFor(const std::string& label) {
     const std::string key = keyOf(label);
-    const std::string plain = plainName(withoutEndBlanks(label));
-    std::string name = plain;
-    for (int n = 2;; ++n) {
+    const std::string plain = lowerCase(word::sequenceName(key));
+    for (int number = 1;; ++number) {
+        const std::string name = word::sequenceName(withoutEndBlanks(label), number);
         const auto found = known().find(lowerCase(name));
         if (found == known().end()) return name;
         const auto& labels = found->second.labels;
         if (std::find(labels.begin(), labels.end(), key) != labels.end()) return name;
         // "Figure 1-" may stand ahead of the numbers of "Figure".
         const bool isAnothers = std::any_of(labels.begin(), labels.end(), [&](const auto& other) {
-            return n > 2 || lowerCase(plainName(other)) == lowerCase(plain);
+            return number > 1 || lowerCase(word::sequenceName(other)) == plain;
         });
         if (!isAnothers) return name;
-        const std::string number = fmt::format("_{}", n);
-        name = plainName(withoutEndBlanks(label), longestName - number.size()) + number;
     }
 }
 
-void Captions::write(pugi::xml_node paragraph, const office::model::word::Caption& caption,
-                     bool isLast) {
+void Captions::write(pugi::xml_node paragraph, const word::Caption& caption, bool isLast) {
     const std::string label = oneLine(caption.label);
     const std::string name = nameFor(label);
     Counted& counted = known()[lowerCase(name)];
