@@ -13,6 +13,7 @@
 
 #include "desktop/browser_page.h"
 #include "desktop/looks.h"
+#include "forms/form.h"
 
 namespace desktop {
 
@@ -97,6 +98,8 @@ void BrowserView::showPage() {
     // The engine makes itself a new one now and then.
     if (QWidget* canvas = view_->focusProxy(); canvas != nullptr) canvas->installEventFilter(this);
     view_->show();
+    // The keyboard came to the strip ahead of the engine.
+    if (browser_.form().focus == &browser_) view_->setFocus(Qt::OtherFocusReason);
 }
 
 bool BrowserView::eventFilter(QObject* watched, QEvent* event) {

@@ -107,6 +107,16 @@ TEST_F(Browser, TheKeyboardReachesALinkAndFollowsIt) {
     EXPECT_EQ(times("Continue"), 0) << "the key was the link's, not the default button's";
 }
 
+TEST_F(Browser, APageThatComesToTheFocusOfItsFormTakesItsKeys) {
+    form.focus = &form.wbStatus;
+    letPass(20ms);
+    const PageFile file("<input id='f' autofocus>");
+    open(file.url());
+    letPass(100ms);
+    type("7");
+    EXPECT_TRUE(waitUntil([this] { return page().fieldValue("f") == "7"; }, 3s));
+}
+
 TEST_F(Browser, AClickedLinkLeavesTheKeyboardWhereItWas) {
     const PageFile file(linkTo("murvane://toggle/slideTitle"));
     open(file.url());
