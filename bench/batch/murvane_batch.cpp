@@ -3,7 +3,7 @@
 #include <chrono>
 #include <vector>
 
-#include "apps/murvane_export/deck_file_suite.h"
+#include "apps/murvane_export/file_suite.h"
 #include "apps/posix_console.h"
 #include "apps/posix_host.h"
 #include "catalogue/inventory.h"
@@ -54,7 +54,7 @@ BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, Deck where,
     apps::PosixHost host(console);
     NoNotices notices;
     Stopwatch progress;
-    unattended::DeckFileSuite withFiles(suite, host, {});
+    unattended::FileSuite withFiles(suite, host, {}, {.decks = true});
     office::Suite& used = where == Deck::AsFile ? static_cast<office::Suite&>(withFiles) : suite;
     session::OfficeSession session(used, host, notices, progress);
     session.ExcelApp = used.attach("Excel.Application");

@@ -148,7 +148,7 @@ void reviewPowerPoint(session::OfficeSession& session, const ExportList& list,
 
 /// What the chosen format can't do for the items that it will be asked for.
 void reviewFormat(session::OfficeSession& session, const ExportList& list, ExportFormat format,
-                  ReviewTexts& texts) {
+                  std::string_view application, ReviewTexts& texts) {
     using office::CopySource;
     if (format == ExportFormat::Pictures) return;
     office::ContinueOnFailure scope;
@@ -175,7 +175,7 @@ void reviewFormat(session::OfficeSession& session, const ExportList& list, Expor
                     : format == ExportFormat::Embedded ? office::PasteAs::Embedded
                                                        : office::PasteAs::Linked;
     scope.attempt([&] {
-        for (const std::string& line : session.suite.remarksOn(as, items))
+        for (const std::string& line : session.suite.remarksOn(application, as, items))
             AddReviewItem(texts.ReviewItems, texts.ReviewLines, line);
     });
 }
@@ -205,9 +205,12 @@ ReviewTexts reviewExport(session::OfficeSession& session, const ExportList& list
     reviewItems(session, list, texts);
     if (choices.destination == Destination::PowerPoint) {
         reviewPowerPoint(session, list, choices, texts.Blockers);
-        if (texts.Blockers.empty()) reviewFormat(session, list, choices.format, texts);
+        if (texts.Blockers.empty())
+            reviewFormat(session, list, choices.format, "PowerPoint.Application", texts);
     } else if (choices.destination == Destination::Word) {
         reviewWord(session, texts.Blockers);
+        if (texts.Blockers.empty())
+            reviewFormat(session, list, choices.format, "Word.Application", texts);
     }
     return texts;
 }

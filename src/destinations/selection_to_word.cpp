@@ -155,7 +155,7 @@ SourceKind SelectionPaste::findSource() const {
 /// A caret counts as one letter.
 bool SelectionPaste::mayReplaceText() {
     const std::string text = selection_.get("Text").toText();
-    return text.size() <= office::characterLength(text, 0) ||
+    return text.empty() || text.size() <= office::characterLength(text, 0) ||
            session_.host.ask(command_.question, title);
 }
 

@@ -89,6 +89,7 @@ void WordBatch::copy(const ExportItem& row) {
 /// needs none: its first page would stay empty.
 void WordBatch::InsertPageBreakBlock() {
     constexpr std::int32_t toEnd = 0;
+    constexpr std::int32_t normal = -1;
     const auto end = [&] {
         const Object range = document_.get("Range").toObject();
         range.call("Collapse", toEnd);
@@ -96,6 +97,9 @@ void WordBatch::InsertPageBreakBlock() {
     };
     if (document_.get("Range").get("StoryLength").toLong() > 1) {
         end().call("InsertParagraphAfter");
+        end().call("Select");
+        // What came before may be a caption or the item of a list.
+        selection_.put("Style", normal);
         end().get("ParagraphFormat").put("PageBreakBefore", true);
         end().call("InsertParagraphAfter");
         end().get("ParagraphFormat").put("PageBreakBefore", false);

@@ -52,9 +52,10 @@ public:
     virtual ClipboardPicture clipboardPicture(ClipboardPicture::Kind kind) = 0;
     /// Where its Excel leaves what was copied, for a PowerPoint that stands elsewhere.
     virtual ClipboardPtr clipboard() = 0;
-    /// What the user should know before items are pasted in this form into the active presentation,
-    /// a line each.
-    virtual std::vector<std::string> remarksOn(PasteAs, const std::vector<PasteItem>&) {
+    /// What the user should know before items are pasted in this form into the active document of
+    /// an application ("PowerPoint.Application"), a line each.
+    virtual std::vector<std::string> remarksOn(std::string_view /*className*/, PasteAs,
+                                               const std::vector<PasteItem>&) {
         return {};
     }
 

@@ -5,9 +5,11 @@
 
 namespace {
 
+using catalogue::Destination;
 using unattended::Options;
 using unattended::ParseEnd;
 using unattended::Task;
+using Targets = std::vector<unattended::Target>;
 using Words = std::vector<std::string>;
 
 Options parsed(const Words& words) {
@@ -27,17 +29,38 @@ TEST(Options, EverythingThatCanBeSaidIsHeard) {
          "rounded",   "--top",    "0.25",       "--width",  "default",   "--left",   "0",
          "--yes",     "--quiet",  "--overwrite"});
     EXPECT_EQ(options.task, Task::Export);
-    EXPECT_EQ(options.book + " " + options.output, "book.xlsx out.pptx");
+    EXPECT_EQ(options.book, "book.xlsx");
+    EXPECT_EQ(options.targets, (Targets{{Destination::PowerPoint, "out.pptx"}}));
     EXPECT_EQ(options.deck, "deck.pptx");
     EXPECT_EQ(options.items, (Words{"A,B@S", "C"}));
     EXPECT_EQ(options.order, Words{"C"});
     EXPECT_EQ(options.captionsFile, "c.csv");
-    EXPECT_TRUE(options.predefinedSlides && options.titles && options.source && options.shadow);
+    EXPECT_TRUE(options.predefinedSlides && *options.titles && options.source && options.shadow);
     EXPECT_EQ(options.pictureStyle, 3);
     EXPECT_EQ(options.top->share, 0.25);
     EXPECT_EQ(options.width->share, std::nullopt);
     EXPECT_EQ(options.left->share, 0.0);
     EXPECT_TRUE(options.yes && options.quiet && options.overwrite);
+}
+
+TEST(Options, OutputsTellTheirDestinationWhereNothingElseDoes) {
+    const std::tuple<Words, Targets> all[] = {
+        {{"--output", "a.PDF"}, {{Destination::Pdf, "a.PDF"}}},
+        {{"--output", "a.docm"}, {{Destination::Word, "a.docm"}}},
+        {{"--output", "a.txt"}, {{Destination::PowerPoint, "a.txt"}}},
+        {{"--to", "html", "--output", "page", "--output", "x.pptx", "--to", "slides"},
+         {{Destination::Html, "page"}, {Destination::PowerPoint, "x.pptx"}}},
+        {{"--check", "--to", "images"}, {{Destination::ImageFiles, ""}}},
+        {{"--list"}, {{Destination::PowerPoint, ""}}}};
+    for (auto [words, targets] : all) {
+        words.insert(words.begin(), "book.xlsx");
+        EXPECT_EQ(parsed(words).targets, targets) << words[2];
+    }
+    const Options both = parsed({"b.xlsx", "--into", "d.odt", "--into", "d.potx", "--output",
+                                 "o.pptx", "--output", "o.docx", "--cover", R"(One\nTwo)"});
+    EXPECT_EQ(both.deck + " " + both.document, "d.potx d.odt");
+    EXPECT_EQ(both.coverText, "One\nTwo");
+    EXPECT_EQ(both.titles, std::nullopt);
 }
 
 TEST(Options, WrongUsageEndsWithTwoAndSaysWhy) {
@@ -55,6 +78,16 @@ TEST(Options, WrongUsageEndsWithTwoAndSaysWhy) {
         {"unknown format", {"b.xlsx", "--list", "--format", "video"}, "video"},
         {"sheet alone in a link", {"b.xlsx", "--list", "--embed-only-sheet"}, "--format embedded"},
         {"links of pictures", {"b.xlsx", "--list", "--links", "relative"}, "--format linked"},
+        {"an output too few",
+         {"b.xlsx", "--to", "pdf", "--to", "word", "--output", "o.pdf"},
+         "--to"},
+        {"one kind twice", {"b.xlsx", "--output", "o.pdf", "--output", "p.pdf"}, "each kind"},
+        {"into what is not made",
+         {"b.xlsx", "--into", "d.docx", "--output", "o.pptx"},
+         "--to word"},
+        {"titles or not", {"b.xlsx", "--list", "--titles", "--no-titles"}, "--no-titles"},
+        {"too large", {"b.xlsx", "--list", "--size", "101"}, "--size"},
+        {"unknown picture", {"b.xlsx", "--list", "--image-format", "webp"}, "webp"},
         {"unknown destination", {"b.xlsx", "--list", "--to", "paper"}, "paper"},
         {"share beyond one", {"b.xlsx", "--list", "--top", "1.5"}, "--top"},
         {"share below nothing", {"b.xlsx", "--list", "--left", "-0.1"}, "--left"},

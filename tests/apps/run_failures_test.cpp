@@ -79,7 +79,7 @@ TEST_F(RunFailuresTest, ASuiteThatDoesNotStartIsReported) {
                                  nullptr};
     unattended::Options options;
     options.book = bookFile;
-    options.output = folder.file("Out.pptx");
+    options.targets = {{catalogue::Destination::PowerPoint, folder.file("Out.pptx")}};
     EXPECT_EQ(unattended::run(options, {none, host, console, isInterrupted}), 1);
     EXPECT_TRUE(console.errorHas("It is not installed"));
     EXPECT_TRUE(hasOnlyInputs());

@@ -1,3 +1,4 @@
+#include "office/package/document/file_documents.h"
 #include "run_stage.h"
 
 namespace {
@@ -18,6 +19,32 @@ TEST_F(RunTest, ExportsWhatTheWorkbookHasAndSavesItUnderTheNewName) {
     EXPECT_EQ(suite->excel().activeWorkbook(), nullptr);
     EXPECT_TRUE(suite->powerPoint().open().empty());
     EXPECT_EQ(slidesIn("Out.pptx"), 7);
+}
+
+TEST_F(RunTest, OneLoadServesSeveralDestinationsAndOneThatFailsTakesTheOthersAlong) {
+    const std::vector<std::string> words = {bookFile,
+                                            "--into",
+                                            deckFile,
+                                            "--output",
+                                            folder.file("Out.pptx"),
+                                            "--output",
+                                            folder.file("Out.docx")};
+    ASSERT_EQ(run(words), 0) << console.error;
+    EXPECT_EQ(suite->log().count("Workbooks.Open"), 1U);
+    EXPECT_EQ(console.error, fmt::format("Exported 5 items to {}\nExported 5 items to {}\n",
+                                         folder.file("Out.pptx"), folder.file("Out.docx")));
+    const auto document = std::make_shared<office::package::FileDocuments>(
+                              std::make_shared<office::package::FileRules>())
+                              ->load(folder.file("Out.docx"), false);
+    EXPECT_EQ(document->objectCount(office::model::word::Anchoring::Inline), 5);
+    EXPECT_EQ(slidesIn("Out.pptx"), 7);
+
+    std::filesystem::remove(folder.file("Out.pptx"));
+    std::filesystem::remove(folder.file("Out.docx"));
+    suite->failures().fail("Chart.CopyPicture", 2);
+    EXPECT_EQ(run(words), 1);
+    EXPECT_TRUE(hasOnlyInputs());
+    EXPECT_TRUE(console.errorHas("Could not export \"Chart 2\" on sheet \"North\""));
 }
 
 TEST_F(RunTest, ListsTheItemsWithoutTouchingAnything) {

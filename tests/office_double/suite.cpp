@@ -74,7 +74,7 @@ office::ClipboardPicture DoubleSuite::clipboardPicture(office::ClipboardPicture:
     return picture;
 }
 
-std::vector<std::string> DoubleSuite::remarksOn(office::PasteAs as,
+std::vector<std::string> DoubleSuite::remarksOn(std::string_view /*className*/, office::PasteAs as,
                                                 const std::vector<office::PasteItem>& items) {
     std::vector<std::string> lines;
     const auto remark = remarks_.find(as);

@@ -55,7 +55,7 @@ public:
     void clearClipboard() override;
     office::ClipboardPicture clipboardPicture(office::ClipboardPicture::Kind kind) override;
     office::ClipboardPtr clipboard() override { return state_->clipboard; }
-    std::vector<std::string> remarksOn(office::PasteAs as,
+    std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;
     /// What the suite says of each item that is to be pasted in this form.
     void remarkOn(office::PasteAs as, std::string remark) { remarks_[as] = std::move(remark); }

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <functional>
 #include <system_error>
 
 #include "apps/murvane_export/errors.h"
@@ -37,6 +38,17 @@ std::string absolutePath(const fs::path& file) {
                              : fmt::format("{} can't be opened: {}.", apps::utf8Of(file), reason));
 }
 
+/// What a member opens. `RunError` where it can't.
+Object opened(const fs::path& file, const std::function<office::Value()>& open) {
+    try {
+        return open().toObject();
+    } catch (const office::SuiteLost&) {
+        throw;
+    } catch (const office::Failure& failure) {
+        complainUnopened(file, failure);
+    }
+}
+
 bool isSameFile(const fs::path& left, const fs::path& right) {
     std::error_code ignored;
     return fs::equivalent(left, right, ignored);
@@ -53,6 +65,7 @@ OpenedDocuments::~OpenedDocuments() {
     try {
         office::ContinueOnFailure scope;
         if (presentation_) scope.attempt([&] { presentation_.call("Close"); });
+        if (document_) scope.attempt([&] { document_.call("Close", arg("SaveChanges", false)); });
         if (workbook_) scope.attempt([&] { workbook_.call("Close", arg("SaveChanges", false)); });
     } catch (const office::SuiteLost&) {
         return;
@@ -61,31 +74,20 @@ OpenedDocuments::~OpenedDocuments() {
 
 void OpenedDocuments::openWorkbook(const fs::path& file) {
     session_.ExcelApp = applicationOf(session_.suite, "Excel.Application");
-    try {
-        workbook_ = session_.ExcelApp.get("Workbooks")
-                        .call("Open", arg("FileName", absolutePath(file)), arg("UpdateLinks", no))
-                        .toObject();
-    } catch (const office::SuiteLost&) {
-        throw;
-    } catch (const office::Failure& failure) {
-        complainUnopened(file, failure);
-    }
+    workbook_ = opened(file, [&] {
+        return session_.ExcelApp.get("Workbooks")
+            .call("Open", arg("FileName", absolutePath(file)), arg("UpdateLinks", no));
+    });
     session_.ActiveBook = workbook_;
     session_.ActiveSheetName = workbook_.get("ActiveSheet").get("Name").toText();
 }
 
 void OpenedDocuments::openPresentation(const fs::path& file) {
     session_.PowerPointApp = applicationOf(session_.suite, "PowerPoint.Application");
-    try {
-        presentation_ =
-            session_.PowerPointApp.get("Presentations")
-                .call("Open", arg("FileName", absolutePath(file)), arg("WithWindow", yes))
-                .toObject();
-    } catch (const office::SuiteLost&) {
-        throw;
-    } catch (const office::Failure& failure) {
-        complainUnopened(file, failure);
-    }
+    presentation_ = opened(file, [&] {
+        return session_.PowerPointApp.get("Presentations")
+            .call("Open", arg("FileName", absolutePath(file)), arg("WithWindow", yes));
+    });
     takePresentation();
 }
 
@@ -99,6 +101,23 @@ void OpenedDocuments::newPresentation() {
 
 void OpenedDocuments::takePresentation() {
     session_.SessionPresentation = presentation_;
+}
+
+Object OpenedDocuments::wordDocuments() {
+    session_.WordApp = applicationOf(session_.suite, "Word.Application");
+    return session_.WordApp.get("Documents").toObject();
+}
+
+void OpenedDocuments::openDocument(const fs::path& file) {
+    const Object documents = wordDocuments();
+    document_ =
+        opened(file, [&] { return documents.call("Open", arg("FileName", absolutePath(file))); });
+    session_.SessionDocument = document_;
+}
+
+void OpenedDocuments::newDocument() {
+    document_ = wordDocuments().call("Add").toObject();
+    session_.SessionDocument = document_;
 }
 
 void OpenedDocuments::removeFirstSlides() {
@@ -124,8 +143,10 @@ void takeActiveDocuments(OfficeSession& session, const Options& options) {
                         active, options.book));
     }
     session.PowerPointApp = session.suite.attach("PowerPoint.Application");
-    if (!session.PowerPointApp) return;
-    session.SessionPresentation = activeObject(session.PowerPointApp, "ActivePresentation");
+    if (session.PowerPointApp)
+        session.SessionPresentation = activeObject(session.PowerPointApp, "ActivePresentation");
+    session.WordApp = session.suite.attach("Word.Application");
+    if (session.WordApp) session.SessionDocument = activeObject(session.WordApp, "ActiveDocument");
 }
 
 }  // namespace unattended

@@ -25,21 +25,28 @@ public:
     /// Makes an empty presentation the session's.
     void newPresentation();
 
+    /// The same of documents of Word.
+    void openDocument(const std::filesystem::path& file);
+    void newDocument();
+
     /// Takes out the slides that a new presentation came with: some suites can't make one without.
     void removeFirstSlides();
 
 private:
     void takePresentation();
+    [[nodiscard]] office::Object wordDocuments();
 
     session::OfficeSession& session_;
     office::Object workbook_;
     office::Object presentation_;
+    office::Object document_;
     std::int32_t slidesAtFirst_ = 0;
 };
 
-/// Makes the user's active workbook and presentation the session's, and leaves empty what there
-/// isn't. `RunError` if no suite is running, if no workbook is open, if `book` names another one
-/// than the active, or if the active presentation isn't the first one: pictures go to the first.
+/// Makes the user's active workbook, presentation and document the session's, and leaves empty what
+/// there isn't. `RunError` if no suite is running, if no workbook is open, if `book` names another
+/// one than the active, or if the active presentation isn't the first one: pictures go to the
+/// first.
 void takeActiveDocuments(session::OfficeSession& session, const Options& options);
 
 }  // namespace unattended

@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <sstream>
 
@@ -17,7 +18,8 @@ namespace unattended {
 namespace {
 
 constexpr const char* description =
-    "Exports the charts, chart sheets and named ranges of a workbook to slides, without a window.\n"
+    "Exports the charts, chart sheets and named ranges of a workbook to slides, documents, pages\n"
+    "and pictures, without a window.\n"
     "What the workbook itself remembers (items, order, slide numbers, captions) holds unless an\n"
     "option says otherwise.";
 
@@ -30,6 +32,7 @@ Examples:
   murvane-export sales.xlsx --output sales.pptx
   murvane-export sales.xlsx --into template.pptx --output sales.pptx --titles --source
   murvane-export sales.xlsx --output top.pptx --items "Chart 1@North,Chart 1@South"
+  murvane-export sales.xlsx --to slides --output sales.pptx --to pdf --output sales.pdf
   murvane-export sales.xlsx --into deck.pptx --output new.pptx --slides predefined \
                  --captions captions.csv
 
@@ -48,6 +51,25 @@ const std::map<std::string, std::int16_t>& stylesByName() {
     return styles;
 }
 
+const std::map<std::string, catalogue::Destination>& destinationsByName() {
+    using catalogue::Destination;
+    static const std::map<std::string, Destination> destinations = {
+        {"slides", Destination::PowerPoint}, {"word", Destination::Word},
+        {"pdf", Destination::Pdf},           {"html", Destination::Html},
+        {"images", Destination::ImageFiles},
+    };
+    return destinations;
+}
+
+const std::map<std::string, session::ImageFormat>& imageFormatsByName() {
+    using session::ImageFormat;
+    static const std::map<std::string, ImageFormat> formats = {
+        {"png", ImageFormat::Png}, {"gif", ImageFormat::Gif},   {"jpeg", ImageFormat::Jpeg},
+        {"bmp", ImageFormat::Bmp}, {"tiff", ImageFormat::Tiff},
+    };
+    return formats;
+}
+
 const std::map<std::string, catalogue::ExportFormat>& formatsByName() {
     using catalogue::ExportFormat;
     static const std::map<std::string, ExportFormat> formats = {
@@ -59,10 +81,10 @@ const std::map<std::string, catalogue::ExportFormat>& formatsByName() {
     return formats;
 }
 
-template <class Number>
-std::vector<std::string> namesOf(const std::map<std::string, Number>& known) {
+template <class Meaning>
+std::vector<std::string> namesOf(const std::map<std::string, Meaning>& known) {
     std::vector<std::string> names;
-    for (const auto& [name, number] : known) names.push_back(name);
+    for (const auto& [name, meaning] : known) names.push_back(name);
     return names;
 }
 
@@ -73,7 +95,13 @@ CLI::Validator oneOf(std::vector<std::string> words) {
 
 /// The texts of options that become something else than a text.
 struct RawTexts {
-    std::string destination = "slides";
+    std::vector<std::string> destinations;
+    std::vector<std::string> outputs;
+    std::vector<std::string> into;
+    bool titles = false;
+    bool noTitles = false;
+    std::string imageFormat = "png";
+    std::string fileNames = "name";
     std::string slides = "new";
     std::string format = "pictures";
     std::string links;
@@ -97,17 +125,29 @@ std::optional<PlacementValue> placementOf(const std::string& option, const std::
     return PlacementValue{share};
 }
 
-void declareFiles(CLI::App& app, Options& options) {
+void declareFiles(CLI::App& app, Options& options, RawTexts& raw) {
     app.add_option("BOOK", options.book, "The workbook");
-    app.add_option("--into", options.deck, "Presentation that the slides are added to")
-        ->type_name("DECK");
-    app.add_option("--output", options.output, "File to write, .pptx or .pptm")
-        ->type_name("OUT.pptx");
-    app.add_flag("--overwrite", options.overwrite, "Replace the output file if it exists");
+    app.add_option("--to", raw.destinations,
+                   "What to make, with an --output each; may be left out where the name of the\n"
+                   "output tells")
+        ->allow_extra_args(false)
+        ->check(oneOf(namesOf(destinationsByName())))
+        ->type_name("slides|word|pdf|html|images");
+    app.add_option(
+           "--output", raw.outputs,
+           "File to write: .pptx, .pptm, .docx, .docm or .pdf; a folder for html and images")
+        ->allow_extra_args(false)
+        ->type_name("OUT");
+    app.add_option("--into", raw.into,
+                   "Presentation that the slides are added to, or document that the items are\n"
+                   "appended to")
+        ->allow_extra_args(false)
+        ->type_name("FILE");
+    app.add_flag("--overwrite", options.overwrite, "Replace what the outputs name if it exists");
     app.add_flag("--attach", options.attach,
-                 "Use the workbook and the presentation that are active in the running suite.\n"
-                 "Nothing is closed; as with the main window, the workbook gets Murvane's hidden\n"
-                 "sheet, and the slides are added to the open presentation");
+                 "Use the workbook, and the presentation or document, that are active in the\n"
+                 "running suite. Nothing is closed; as with the main window, the workbook gets\n"
+                 "Murvane's hidden sheet, and the items are added to what is open");
 }
 
 void declareItems(CLI::App& app, Options& options, RawTexts& raw) {
@@ -126,13 +166,10 @@ void declareItems(CLI::App& app, Options& options, RawTexts& raw) {
         ->type_name("FILE.csv");
 }
 
-void declareSlides(CLI::App& app, Options& options, RawTexts& raw) {
-    app.add_option("--to", raw.destination, "Destination")
-        ->check(oneOf({"slides"}))
-        ->type_name("slides");
+void declareLooks(CLI::App& app, Options& options, RawTexts& raw) {
     app.add_option("--format", raw.format,
-                   "What items become: pictures; charts and tables that can be edited in the\n"
-                   "presentation; embedded workbooks; objects linked to the workbook's file")
+                   "What items become on slides and in Word: pictures; charts and tables that can\n"
+                   "be edited there; embedded workbooks; objects linked to the workbook's file")
         ->check(oneOf(namesOf(formatsByName())))
         ->type_name("pictures|editable|embedded|linked");
     app.add_flag("--embed-only-sheet", options.embedsSheetAlone,
@@ -140,20 +177,47 @@ void declareSlides(CLI::App& app, Options& options, RawTexts& raw) {
                  "references to the rest of the workbook");
     app.add_option("--links", raw.links,
                    "With --format linked: name the workbook by its full path, or by its way from\n"
-                   "the presentation")
+                   "what is written")
         ->check(oneOf({"absolute", "relative"}))
         ->type_name("absolute|relative");
     app.add_option("--slides", raw.slides, "New slides at the end, or those that the items name")
         ->check(oneOf({"new", "predefined"}))
         ->type_name("new|predefined");
-    app.add_flag("--titles", options.titles, "Captions become slide titles");
-    app.add_flag("--source", options.source, "A line with the workbook's path on each slide");
-    app.add_option("--style", raw.style,
-                   "Look of the pictures: none, shadow-around, shadow, rounded, reflection or\n"
-                   "reflection-rounded")
+    app.add_flag("--titles", raw.titles,
+                 "Captions become titles of slides, as they do of pages in PDF and HTML");
+    app.add_flag("--no-titles", raw.noTitles, "They don't, not there either");
+    app.add_flag("--source", options.source,
+                 "A line with the workbook's path on each slide or page");
+    app.add_flag("--same-width", options.sameWidth,
+                 "Word: pictures as wide as the text; HTML: pictures of one width");
+    app.add_flag("--captions-below", options.captionsBelow,
+                 "Word: a numbered caption below each item");
+    app.add_option("--cover", options.coverText,
+                   "PDF: a cover page with this text; \\n begins a new line")
+        ->type_name("TEXT");
+    app.add_option("--size", options.sizePercent,
+                   "PDF: size in per cent of the room on the page; HTML with --same-width: of the\n"
+                   "page's width")
+        ->check(CLI::Range(1.0, 100.0).description(""))
+        ->type_name("1-100");
+    app.add_option("--blank-lines", options.blankLines, "HTML: lines between items")
+        ->check(CLI::Range(0, 100).description(""))
+        ->type_name("0-100");
+    app.add_option("--image-format", raw.imageFormat, "Images: the kind of files")
+        ->check(oneOf(namesOf(imageFormatsByName())))
+        ->type_name("png|gif|jpeg|bmp|tiff");
+    app.add_option("--file-names", raw.fileNames,
+                   "Images: files named by item and sheet, or numbered")
+        ->check(oneOf({"name", "number"}))
+        ->type_name("name|number");
+    app.add_option(
+           "--style", raw.style,
+           "Look of the pictures on slides: none, shadow-around, shadow, rounded, reflection or\n"
+           "reflection-rounded")
         ->check(oneOf(namesOf(stylesByName())))
         ->type_name("NAME");
-    app.add_flag("--shadow", options.shadow, "A shadow for the last shape of each slide");
+    app.add_flag("--shadow", options.shadow,
+                 "A shadow for what was added last to each slide, and for pictures in Word");
     app.add_option("--top", raw.top, "Top edge, as a share of the slide's height")
         ->type_name("F|default");
     app.add_option("--width", raw.width, "Width, as a share of the slide's width")
@@ -162,10 +226,66 @@ void declareSlides(CLI::App& app, Options& options, RawTexts& raw) {
         ->type_name("F|default");
 }
 
+bool isDocument(const std::string& file) {
+    const std::string lower = office::lowerCase(file);
+    constexpr std::array endings = {".docx", ".docm", ".dotx", ".dotm", ".doc", ".odt", ".rtf"};
+    return std::any_of(endings.begin(), endings.end(),
+                       [&](const char* ending) { return lower.ends_with(ending); });
+}
+
+catalogue::Destination destinationByName(const std::string& output) {
+    const std::string lower = office::lowerCase(output);
+    if (lower.ends_with(".pdf")) return catalogue::Destination::Pdf;
+    return isDocument(output) ? catalogue::Destination::Word : catalogue::Destination::PowerPoint;
+}
+
+/// Brings destinations and outputs together, in their order.
+void pairTargets(Options& options, const RawTexts& raw) {
+    const std::size_t count = std::max(raw.destinations.size(), raw.outputs.size());
+    const bool needsOutputs = options.task == Task::Export;
+    if (needsOutputs && raw.outputs.empty())
+        throw UsageError("Name what to write with --output OUT.");
+    if (needsOutputs && !raw.destinations.empty() && raw.destinations.size() != raw.outputs.size())
+        throw UsageError("Each --to goes with an --output of its own.");
+    for (std::size_t i = 0; i < std::max<std::size_t>(count, 1); ++i) {
+        Target target;
+        if (i < raw.outputs.size()) target.output = raw.outputs[i];
+        target.destination = i < raw.destinations.size()
+                                 ? destinationsByName().at(raw.destinations[i])
+                                 : destinationByName(target.output);
+        if (options.targetOf(target.destination) != nullptr)
+            throw UsageError("A run makes one output of each kind.");
+        options.targets.push_back(target);
+    }
+    for (const std::string& file : raw.into) {
+        std::string& input = isDocument(file) ? options.document : options.deck;
+        if (!input.empty())
+            throw UsageError("--into takes one presentation and one document at most.");
+        input = file;
+    }
+    const auto requireTarget = [&](const std::string& input, catalogue::Destination destination,
+                                   const char* name) {
+        if (!input.empty() && options.targetOf(destination) == nullptr)
+            throw UsageError(fmt::format("--into {} goes with --to {}.", input, name));
+    };
+    requireTarget(options.deck, catalogue::Destination::PowerPoint, "slides");
+    requireTarget(options.document, catalogue::Destination::Word, "word");
+}
+
+std::optional<bool> titlesOf(const RawTexts& raw) {
+    if (raw.titles && raw.noTitles) throw UsageError("--titles and --no-titles don't go together.");
+    if (!raw.titles && !raw.noTitles) return std::nullopt;
+    return raw.titles;
+}
+
 /// What no single option can know.
 void finish(Options& options, const RawTexts& raw) {
     if (raw.list && raw.check) throw UsageError("--list and --check don't go together.");
     options.task = raw.list ? Task::List : raw.check ? Task::Check : Task::Export;
+    options.titles = titlesOf(raw);
+    options.coverText = office::replaceAll(options.coverText, "\\n", "\n");
+    options.imageFormat = imageFormatsByName().at(raw.imageFormat);
+    options.numbersFiles = raw.fileNames == "number";
     options.format = formatsByName().at(raw.format);
     options.linksAreRelative = raw.links == "relative";
     options.predefinedSlides = raw.slides == "predefined";
@@ -177,9 +297,7 @@ void finish(Options& options, const RawTexts& raw) {
     if (options.book.empty() && !options.attach) {
         throw UsageError("Name the workbook to export from, or use --attach.");
     }
-    if (options.task == Task::Export && options.output.empty()) {
-        throw UsageError("Name the file to write with --output OUT.pptx.");
-    }
+    pairTargets(options, raw);
     const auto requireFormat = [&](bool isGiven, const char* option, const char* format) {
         if (isGiven && raw.format != format)
             throw UsageError(fmt::format("{} goes with --format {}.", option, format));
@@ -190,10 +308,10 @@ void finish(Options& options, const RawTexts& raw) {
     if (options.allItems && !options.items.empty()) {
         throw UsageError("--all and --items don't go together.");
     }
-    if (options.attach && !options.deck.empty()) {
+    if (options.attach && !raw.into.empty()) {
         throw UsageError(
-            "--into and --attach don't go together: --attach uses the presentation "
-            "that is active in the running suite.");
+            "--into and --attach don't go together: --attach uses what is active in the running "
+            "suite.");
     }
     if (options.predefinedSlides && options.deck.empty() && !options.attach &&
         options.task != Task::List) {
@@ -211,9 +329,9 @@ std::variant<Options, ParseEnd> parseOptions(const std::vector<std::string>& arg
     CLI::App app(description, "murvane-export");
     app.footer(examples);
     app.set_version_flag("--version", std::string("murvane-export ") + apps::version);
-    declareFiles(app, options);
+    declareFiles(app, options, raw);
     declareItems(app, options, raw);
-    declareSlides(app, options, raw);
+    declareLooks(app, options, raw);
     app.add_flag(
         "--keep-going", options.keepGoing,
         "Leave out items that fail, list them at the end and save the others; 1 if there are any");

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "catalogue/export_list.h"
+#include "session/host.h"
 
 namespace unattended {
 
@@ -20,6 +21,15 @@ struct PlacementValue {
     bool operator==(const PlacementValue&) const = default;
 };
 
+/// One thing that a run makes.
+struct Target {
+    catalogue::Destination destination = catalogue::Destination::PowerPoint;
+    /// A file; of HTML and images a folder.
+    std::string output;
+
+    bool operator==(const Target&) const = default;
+};
+
 /// The command line, as the caller wrote it.
 struct Options {
     Task task = Task::Export;
@@ -27,8 +37,10 @@ struct Options {
     /// Works on what is open in the suite that is running.
     bool attach = false;
     std::string book;
-    std::string deck;  ///< empty: a new presentation
-    std::string output;
+    std::string deck;      ///< empty: a new presentation
+    std::string document;  ///< empty: a new document
+    /// Each destination once, in the order of the command line; at least one.
+    std::vector<Target> targets;
     bool overwrite = false;
 
     bool allItems = false;
@@ -42,9 +54,18 @@ struct Options {
     /// Links name the workbook by its way from the output's folder.
     bool linksAreRelative = false;
     bool predefinedSlides = false;
-    bool titles = false;
+    /// Captions as titles; what the destination does by itself where nothing was said.
+    std::optional<bool> titles;
     bool source = false;
     bool shadow = false;
+    bool sameWidth = false;
+    bool captionsBelow = false;
+    /// Empty: no cover page.
+    std::string coverText;
+    double sizePercent = 70;
+    std::int32_t blankLines = 10;
+    session::ImageFormat imageFormat = session::ImageFormat::Png;
+    bool numbersFiles = false;
     std::int16_t pictureStyle = 0;
     std::optional<PlacementValue> top;
     std::optional<PlacementValue> width;
@@ -56,6 +77,13 @@ struct Options {
     bool quiet = false;
 
     [[nodiscard]] bool placesShapes() const { return top || width || left; }
+    /// Null if the run makes nothing for this destination.
+    [[nodiscard]] const Target* targetOf(catalogue::Destination destination) const {
+        for (const Target& target : targets) {
+            if (target.destination == destination) return &target;
+        }
+        return nullptr;
+    }
 };
 
 /// What is left to do when the command line was no order to work: a help text, or a complaint.

@@ -6,16 +6,18 @@
 #include <memory>
 #include <optional>
 #include <sstream>
+#include <utility>
 #include <vector>
 
 #include "apps/murvane_export/captions_csv.h"
-#include "apps/murvane_export/deck_file_suite.h"
-#include "apps/murvane_export/deck_route.h"
 #include "apps/murvane_export/documents.h"
 #include "apps/murvane_export/errors.h"
+#include "apps/murvane_export/file_route.h"
+#include "apps/murvane_export/file_suite.h"
 #include "apps/murvane_export/item_listing.h"
 #include "apps/murvane_export/item_selection.h"
-#include "apps/murvane_export/output_file.h"
+#include "apps/murvane_export/job.h"
+#include "apps/murvane_export/outputs.h"
 #include "apps/terminal.h"
 #include "apps/utf8.h"
 #include "catalogue/export_run.h"
@@ -23,10 +25,7 @@
 #include "catalogue/list_rows.h"
 #include "catalogue/review.h"
 #include "office/failure.h"
-#include "powerpoint/formats.h"
 #include "session/launcher.h"
-#include "session/powerpoint_session.h"
-#include "session/workbook_store.h"
 
 namespace unattended {
 
@@ -58,54 +57,37 @@ apps::Answering answeringFor(const Options& options, const apps::Console& consol
 /// What the command line asks for, checked before a suite is started for it.
 struct Order {
     std::vector<CaptionLine> captions;
-    std::unique_ptr<OutputFile> output;
-    DeckRoute deck;
+    /// In the order of the options' targets.
+    std::vector<std::unique_ptr<Output>> outputs;
+    FileRoute decks;
+    FileRoute documents;
 };
 
 Order checkOrder(const Options& options) {
     Order order;
-    if (!options.book.empty()) requireReadable(apps::pathOf(options.book), "workbook");
-    if (!options.deck.empty()) requireReadable(apps::pathOf(options.deck), "presentation");
+    const auto inputs = {std::pair(options.book, "workbook"),
+                         std::pair(options.deck, "presentation"),
+                         std::pair(options.document, "document")};
+    for (const auto& [file, what] : inputs) {
+        if (!file.empty()) requireReadable(apps::pathOf(file), what);
+    }
     if (!options.captionsFile.empty()) {
         requireReadable(apps::pathOf(options.captionsFile), "captions file");
         order.captions = readCaptions(readFile(options.captionsFile), options.captionsFile);
     }
     if (options.task == Task::Export) {
-        order.output = std::make_unique<OutputFile>(
-            apps::pathOf(options.output),
-            options.overwrite ? IfExists::Overwrite : IfExists::Refuse);
-        for (const std::string& input : {options.book, options.deck}) {
-            if (!input.empty()) order.output->requireOtherThan(apps::pathOf(input));
+        for (const Target& target : options.targets) {
+            order.outputs.push_back(outputFor(target, options.overwrite));
+            for (const auto& [file, what] : inputs) {
+                if (!file.empty()) order.outputs.back()->requireOtherThan(apps::pathOf(file));
+            }
         }
     }
-    if (options.task != Task::List) order.deck = routeFor(options);
+    if (options.task != Task::List) {
+        order.decks = deckRouteFor(options);
+        order.documents = documentRouteFor(options);
+    }
     return order;
-}
-
-/// Puts the placement of the options into the store of the workbook, where the export looks for it.
-/// What they leave out keeps what the workbook has.
-void storePlacement(session::OfficeSession& session, const Options& options) {
-    session::Placement placement = session::readStoredPlacement(session);
-    const auto take = [](const std::optional<PlacementValue>& wanted, std::optional<double>& held) {
-        if (wanted) held = wanted->share;
-    };
-    take(options.top, placement.top);
-    take(options.width, placement.width);
-    take(options.left, placement.left);
-    session::writeStoredPlacement(session, placement);
-}
-
-/// As the options dialog and its button do.
-std::int32_t exportToSlides(powerpoint::Batch& batch, const Options& options) {
-    session::AttachPowerPoint(batch.session);
-    batch.session.ExcelApp.put("DisplayAlerts", false);
-    batch.options = {.titles = options.titles,
-                     .sourceLine = options.source,
-                     .shadow = options.shadow,
-                     .pictureStyle = options.pictureStyle,
-                     .placesShapes = options.placesShapes()};
-    if (options.placesShapes()) storePlacement(batch.session, options);
-    return powerpoint::ExportRows(batch);
 }
 
 std::string describe(const ExportItem& row, const office::Failure& failure) {
@@ -117,7 +99,7 @@ std::string describe(const ExportItem& row, const office::Failure& failure) {
 class Run {
 public:
     Run(const Options& options, const Surroundings& surroundings, Order& order,
-        office::Suite& suite)
+        office::Suite& suite, office::Suite& liveSuite)
         : options_(options),
           surroundings_(surroundings),
           order_(order),
@@ -126,24 +108,25 @@ public:
           notices_(surroundings.console, line_, answeringFor(options, surroundings.console),
                    " --yes goes on over this."),
           session_(suite, surroundings.host, notices_, progress_),
-          documents_(session_) {
-        choices_.predefinedSlides = options.predefinedSlides;
-        choices_.format = options.format;
-    }
+          documents_(session_),
+          liveSuite_(liveSuite) {}
 
     int perform();
 
 private:
+    using OnFailedItem = decltype(JobScene::onFailedItem);
+
     void openDocuments();
+    [[nodiscard]] OnFailedItem failureHandler(std::size_t place);
     int workOnItems();
     void arrangeItems();
     int printItems();
     int reviewAlone();
     int exportItems();
-    void runBatch();
+    [[nodiscard]] catalogue::ReviewResult review(const Target& target);
+    void runJob(std::size_t place);
     void letUserSee();
-    void save();
-    int sumUp(int remarksOfBatch);
+    int commit();
     void stopIfInterrupted() const {
         if (surroundings_.isInterrupted()) throw Interrupted();
     }
@@ -156,13 +139,20 @@ private:
     apps::TerminalNotices notices_;
     OfficeSession session_;
     OpenedDocuments documents_;
+    office::Suite& liveSuite_;
     std::string bookName_;
     catalogue::ExportList list_;
-    catalogue::ExportChoices choices_;
-    /// Items that have had their turn.
-    std::int32_t taken_ = 0;
-    /// A line for each item that failed.
-    std::vector<std::string> failures_;
+    std::vector<std::unique_ptr<Job>> jobs_;
+    /// What became of each job.
+    struct Outcome {
+        /// Items that have had their turn.
+        std::int32_t taken = 0;
+        /// Of them those that were turned away with a notice.
+        int remarks = 0;
+        /// A line for each item that failed.
+        std::vector<std::string> failures;
+    };
+    std::vector<Outcome> outcomes_;
 };
 
 int Run::perform() {
@@ -187,18 +177,35 @@ void Run::openDocuments() {
     line_.show("Opening the documents");
     if (options_.attach) {
         takeActiveDocuments(session_, options_);
-        if (order_.output && session_.SessionPresentation) {
-            order_.output->requireOtherThan(session_.SessionPresentation.get("FullName").toText());
+        for (const auto& output : order_.outputs) {
+            for (const auto* open : {&session_.SessionPresentation, &session_.SessionDocument}) {
+                if (*open) output->requireOtherThan(apps::pathOf(open->get("FullName").toText()));
+            }
         }
     } else {
         documents_.openWorkbook(apps::pathOf(options_.book));
-        if (options_.task == Task::List) return;
-        if (options_.deck.empty()) {
-            documents_.newPresentation();
-        } else {
-            documents_.openPresentation(apps::pathOf(options_.deck));
-        }
     }
+    if (options_.task == Task::List) return;
+    for (std::size_t place = 0; place < options_.targets.size(); ++place) {
+        jobs_.push_back(
+            makeJob(options_.targets[place].destination, {.options = options_,
+                                                          .session = session_,
+                                                          .documents = documents_,
+                                                          .liveSuite = liveSuite_,
+                                                          .list = list_,
+                                                          .onFailedItem = failureHandler(place)}));
+        jobs_.back()->open();
+    }
+    outcomes_.resize(jobs_.size());
+}
+
+/// With --keep-going the lines of a job are kept until its output is told of.
+Run::OnFailedItem Run::failureHandler(std::size_t place) {
+    if (!options_.keepGoing) return nullptr;
+    return [this, place](const ExportItem& row, const office::Failure& failure) {
+        stopIfInterrupted();
+        outcomes_[place].failures.push_back(describe(row, failure));
+    };
 }
 
 int Run::workOnItems() {
@@ -226,10 +233,16 @@ int Run::printItems() {
     return exit_code::done;
 }
 
+catalogue::ReviewResult Run::review(const Target& target) {
+    return catalogue::PreExportReview(session_, list_, choicesFor(target.destination, options_));
+}
+
 int Run::reviewAlone() {
-    const auto result = catalogue::PreExportReview(session_, list_, choices_);
-    line_.clear();
-    if (result != catalogue::ReviewResult::Go) return exit_code::blocked;
+    for (const Target& target : options_.targets) {
+        const auto result = review(target);
+        line_.clear();
+        if (result != catalogue::ReviewResult::Go) return exit_code::blocked;
+    }
     if (!options_.quiet) {
         surroundings_.console.writeError(fmt::format(
             "{} of {} items can be exported.\n", catalogue::CountExportableRows(session_, list_),
@@ -239,28 +252,25 @@ int Run::reviewAlone() {
 }
 
 int Run::exportItems() {
-    if (catalogue::PreExportReview(session_, list_, choices_) != catalogue::ReviewResult::Go) {
-        return exit_code::blocked;
+    for (const Target& target : options_.targets) {
+        if (review(target) != catalogue::ReviewResult::Go) return exit_code::blocked;
+    }
+    for (std::size_t place = 0; place < jobs_.size(); ++place) {
+        stopIfInterrupted();
+        const int remarksBefore = notices_.remarks();
+        runJob(place);
+        outcomes_[place].remarks = notices_.remarks() - remarksBefore;
     }
     stopIfInterrupted();
-    const int remarksBefore = notices_.remarks();
-    runBatch();
-    stopIfInterrupted();
-    save();
-    return sumUp(notices_.remarks() - remarksBefore);
+    line_.clear();
+    return commit();
 }
 
-void Run::runBatch() {
+void Run::runJob(std::size_t place) {
     list_.selected = -1;
-    powerpoint::Batch batch{session_, list_, choices_, {}};
-    if (options_.keepGoing) {
-        batch.onFailedItem = [this](const ExportItem& row, const office::Failure& failure) {
-            stopIfInterrupted();
-            failures_.push_back(describe(row, failure));
-        };
-    }
+    const std::string neighbour = apps::utf8Of(order_.outputs[place]->neighbour());
     try {
-        taken_ = exportToSlides(batch, options_);
+        outcomes_[place].taken = jobs_[place]->exportTo(neighbour);
     } catch (const office::SuiteLost&) {
         throw;
     } catch (const office::Failure& failure) {
@@ -273,7 +283,6 @@ void Run::runBatch() {
             describe(row, failure)));
     }
     letUserSee();
-    documents_.removeFirstSlides();
 }
 
 /// A batch may leave Excel without drawing; the user's own goes on without us.
@@ -281,31 +290,27 @@ void Run::letUserSee() {
     if (options_.attach) catalogue::RestoreScreenUpdating(session_);
 }
 
-void Run::save() {
-    line_.show("Saving the presentation");
-    const std::string neighbour = apps::utf8Of(order_.output->neighbour());
-    session_.SessionPresentation.call("SaveCopyAs", neighbour);
-    stopIfInterrupted();
-    order_.output->commit();
-    line_.clear();
-}
-
-int Run::sumUp(int remarksOfBatch) {
-    const auto failed = static_cast<int>(failures_.size());
-    if (remarksOfBatch + failed > 0) {
-        std::string text = fmt::format("{} is incomplete: of {} items {} could not be exported{}\n",
-                                       apps::utf8Of(order_.output->file()), taken_,
-                                       remarksOfBatch + failed, failed == 0 ? "; see above." : ":");
-        for (const std::string& line : failures_) text += "  " + line + "\n";
-        surroundings_.console.writeError(text);
-        return exit_code::failed;
+/// All outputs get their names, now that each of them is complete, and the user is told.
+int Run::commit() {
+    int exitCode = exit_code::done;
+    for (const auto& output : order_.outputs) output->commit();
+    for (std::size_t place = 0; place < jobs_.size(); ++place) {
+        const Outcome& outcome = outcomes_[place];
+        const std::string file = apps::utf8Of(order_.outputs[place]->file());
+        const int missing = outcome.remarks + static_cast<int>(outcome.failures.size());
+        if (missing > 0) {
+            std::string text = fmt::format(
+                "{} is incomplete: of {} items {} could not be exported{}\n", file, outcome.taken,
+                missing, outcome.failures.empty() ? "; see above." : ":");
+            for (const std::string& line : outcome.failures) text += "  " + line + "\n";
+            surroundings_.console.writeError(text);
+            exitCode = exit_code::failed;
+        } else if (!options_.quiet) {
+            surroundings_.console.writeError(fmt::format(
+                "Exported {} item{} to {}\n", outcome.taken, outcome.taken == 1 ? "" : "s", file));
+        }
     }
-    if (!options_.quiet) {
-        surroundings_.console.writeError(fmt::format("Exported {} item{} to {}\n", taken_,
-                                                     taken_ == 1 ? "" : "s",
-                                                     apps::utf8Of(order_.output->file())));
-    }
-    return exit_code::done;
+    return exitCode;
 }
 
 std::string reportOf(const office::Failure& failure) {
@@ -327,11 +332,13 @@ int runInSuite(const Options& options, const Surroundings& surroundings) {
                                : surroundings.suites.startPrivate();
     }
     if (surroundings.isInterrupted()) throw Interrupted();
-    for (const std::string& remark : order.deck.remarks)
-        surroundings.console.writeError("murvane-export: " + remark + "\n");
-    if (!order.deck.isFile) return Run(options, surroundings, order, *suite).perform();
-    DeckFileSuite withFiles(*suite, surroundings.host, options);
-    return Run(options, surroundings, order, withFiles).perform();
+    for (const FileRoute* route : {&order.decks, &order.documents}) {
+        for (const std::string& remark : route->remarks)
+            surroundings.console.writeError("murvane-export: " + remark + "\n");
+    }
+    FileSuite withFiles(*suite, surroundings.host, options,
+                        {.decks = order.decks.isFile, .documents = order.documents.isFile});
+    return Run(options, surroundings, order, withFiles, *suite).perform();
 }
 
 }  // namespace

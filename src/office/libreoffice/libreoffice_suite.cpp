@@ -140,7 +140,7 @@ office::ClipboardPicture LibreOfficeSuite::clipboardPicture(office::ClipboardPic
     return picture;
 }
 
-std::vector<std::string> LibreOfficeSuite::remarksOn(office::PasteAs as,
+std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className, office::PasteAs as,
                                                      const std::vector<office::PasteItem>& items) {
     std::vector<std::string> remarks;
     if (!desk_) return remarks;
@@ -148,6 +148,13 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(office::PasteAs as,
                                        [](const auto& item) { return item.source.file.empty(); });
     if (as == office::PasteAs::Linked && isUnsaved)
         remarks.emplace_back("The workbook has to be saved before anything can be linked to it.");
+    if (office::sameIgnoringCase(className, "Word.Application")) {
+        if (as == office::PasteAs::Linked)
+            remarks.emplace_back(
+                "LibreOffice links no text document to a workbook: the items will be left out. "
+                "Choose another format, or use murvane-export.");
+        return remarks;
+    }
     if (as != office::PasteAs::Embedded || items.size() < 2) return remarks;
     translated("Suite.remarksOn", [&] {
         // All workbooks in one .pptx become one part of it. A private suite writes nothing else.

@@ -55,7 +55,7 @@ public:
     void clearClipboard() override;
     office::ClipboardPicture clipboardPicture(office::ClipboardPicture::Kind kind) override;
     office::ClipboardPtr clipboard() override { return clipboard_; }
-    std::vector<std::string> remarksOn(office::PasteAs as,
+    std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;
     bool raiseWindow(office::WindowHandle window, int showCommand) override;

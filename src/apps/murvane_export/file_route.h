@@ -7,8 +7,8 @@
 
 namespace unattended {
 
-/// How the presentation of a run is written.
-struct DeckRoute {
+/// How the presentation or the document of a run is written.
+struct FileRoute {
     /// As a file, in which all that is not ours stays as it was; otherwise by the suite, which
     /// reads it and writes it anew.
     bool isFile = false;
@@ -16,8 +16,9 @@ struct DeckRoute {
     std::vector<std::string> remarks;
 };
 
-/// Looks at the presentation that the options name. `RunError` for one that nothing here opens:
-/// encrypted, damaged, or larger than is taken.
-[[nodiscard]] DeckRoute routeFor(const Options& options);
+/// Looks at the presentation, or at the document, that the options name. `RunError` for one that
+/// nothing here opens: encrypted, damaged, or larger than is taken.
+[[nodiscard]] FileRoute deckRouteFor(const Options& options);
+[[nodiscard]] FileRoute documentRouteFor(const Options& options);
 
 }  // namespace unattended

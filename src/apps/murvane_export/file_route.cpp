@@ -1,0 +1,102 @@
+#include "apps/murvane_export/file_route.h"
+
+#include <fmt/format.h>
+
+#include "apps/murvane_export/errors.h"
+#include "apps/utf8.h"
+#include "office/package/document/document_file.h"
+#include "office/package/package.h"
+#include "office/package/presentation/deck_file.h"
+#include "office/text.h"
+
+namespace unattended {
+
+namespace {
+
+using catalogue::Destination;
+using office::package::FileFacts;
+using office::package::Fault;
+using office::package::PackageError;
+
+/// What tells presentations and documents apart.
+struct Kind {
+    Destination destination;
+    const char* name;
+    /// Of files without macros, and of those with.
+    const char* ending;
+    const char* macroEnding;
+    FileFacts (*factsOf)(const std::filesystem::path& file);
+};
+
+constexpr Kind decks{Destination::PowerPoint, "presentation", ".pptx", ".pptm",
+                     office::package::factsOf};
+constexpr Kind documents{Destination::Word, "document", ".docx", ".docm",
+                         office::package::documentFactsOf};
+
+std::string outputOf(const Kind& kind, const Options& options) {
+    const Target* target = options.targetOf(kind.destination);
+    return target == nullptr ? std::string() : target->output;
+}
+
+bool keepsMacros(const Kind& kind, const std::string& file) {
+    return office::lowerCase(file).ends_with(kind.macroEnding);
+}
+
+FileRoute routeOf(const Kind& kind, const FileFacts& facts, const std::string& input,
+                  const std::string& output) {
+    if (facts.isStrict)
+        return {.isFile = false,
+                .remarks = {fmt::format("{} is a strict Open XML {}. The suite reads it "
+                                        "and writes all of it anew.",
+                                        input, kind.name)}};
+    FileRoute route{.isFile = true, .remarks = {}};
+    if (output.empty()) return route;
+    if (facts.isSigned)
+        route.remarks.push_back(
+            fmt::format("{} is signed. Its signature will not hold for {}.", input, output));
+    if (facts.hasMacros && !keepsMacros(kind, output))
+        route.remarks.push_back(
+            fmt::format("{} has macros, and {} will be without. A name that ends in {} keeps "
+                        "them.",
+                        input, output, kind.macroEnding));
+    return route;
+}
+
+FileRoute lookUp(const Kind& kind, const Options& options, const std::string& input) {
+    if (options.attach) return {};
+    if (input.empty()) return {.isFile = true, .remarks = {}};
+    try {
+        return routeOf(kind, kind.factsOf(apps::pathOf(input)), input, outputOf(kind, options));
+    } catch (const PackageError& error) {
+        // Of the older formats, or of another office: the suite knows.
+        if (error.fault() == Fault::NotAPackage) return {};
+        throw RunError(fmt::format("{} can't be opened: {}.", input, error.what()));
+    }
+}
+
+FileRoute routeFor(const Kind& kind, const Options& options, const std::string& input) {
+    if (options.targetOf(kind.destination) == nullptr) return {.isFile = true, .remarks = {}};
+    FileRoute route = lookUp(kind, options, input);
+    const std::string output = outputOf(kind, options);
+    if (!route.isFile && keepsMacros(kind, output))
+        throw UsageError(fmt::format("{} can't be written: the suite writes no {}. Choose {}.",
+                                     output, kind.macroEnding, kind.ending));
+    if (!route.isFile && (options.embedsSheetAlone || options.linksAreRelative))
+        throw UsageError(
+            fmt::format("--embed-only-sheet and --links relative need a {} that is written without "
+                        "the suite.",
+                        kind.ending));
+    return route;
+}
+
+}  // namespace
+
+FileRoute deckRouteFor(const Options& options) {
+    return routeFor(decks, options, options.deck);
+}
+
+FileRoute documentRouteFor(const Options& options) {
+    return routeFor(documents, options, options.document);
+}
+
+}  // namespace unattended

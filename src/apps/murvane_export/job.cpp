@@ -1,0 +1,152 @@
+#include "apps/murvane_export/job.h"
+
+#include "apps/utf8.h"
+#include "catalogue/row_copies.h"
+#include "destinations/pdf_run.h"
+#include "destinations/word_batch.h"
+#include "powerpoint/formats.h"
+#include "session/powerpoint_session.h"
+#include "session/workbook_store.h"
+
+namespace unattended {
+
+namespace {
+
+using catalogue::Destination;
+
+class SlidesJob : public Job {
+public:
+    explicit SlidesJob(const JobScene& scene) : scene_(scene) {}
+
+    void open() override {
+        if (scene_.options.attach) return;
+        if (scene_.options.deck.empty()) {
+            scene_.documents.newPresentation();
+        } else {
+            scene_.documents.openPresentation(apps::pathOf(scene_.options.deck));
+        }
+    }
+
+    std::int32_t exportTo(const std::string& neighbour) override;
+
+private:
+    void storePlacement();
+
+    JobScene scene_;
+};
+
+std::int32_t SlidesJob::exportTo(const std::string& neighbour) {
+    const Options& options = scene_.options;
+    session::AttachPowerPoint(scene_.session);
+    scene_.session.ExcelApp.put("DisplayAlerts", false);
+    const catalogue::ExportChoices choices = choicesFor(Destination::PowerPoint, options);
+    powerpoint::Batch batch{scene_.session, scene_.list, choices, scene_.onFailedItem};
+    batch.options = {.titles = options.titles.value_or(false),
+                     .sourceLine = options.source,
+                     .shadow = options.shadow,
+                     .pictureStyle = options.pictureStyle,
+                     .placesShapes = options.placesShapes()};
+    if (options.placesShapes()) storePlacement();
+    const std::int32_t done = powerpoint::ExportRows(batch);
+    scene_.list.selected = -1;
+    scene_.documents.removeFirstSlides();
+    scene_.session.SessionPresentation.call("SaveCopyAs", neighbour);
+    return done;
+}
+
+/// Puts the placement of the options into the store of the workbook, where the export looks for it.
+/// What they leave out keeps what the workbook has.
+void SlidesJob::storePlacement() {
+    session::Placement placement = session::readStoredPlacement(scene_.session);
+    const auto take = [](const std::optional<PlacementValue>& wanted, std::optional<double>& held) {
+        if (wanted) held = wanted->share;
+    };
+    take(scene_.options.top, placement.top);
+    take(scene_.options.width, placement.width);
+    take(scene_.options.left, placement.left);
+    session::writeStoredPlacement(scene_.session, placement);
+}
+
+class WordJob : public Job {
+public:
+    explicit WordJob(const JobScene& scene) : scene_(scene) {}
+
+    void open() override {
+        if (scene_.options.attach) return;
+        if (scene_.options.document.empty()) {
+            scene_.documents.newDocument();
+        } else {
+            scene_.documents.openDocument(apps::pathOf(scene_.options.document));
+        }
+    }
+
+    std::int32_t exportTo(const std::string& neighbour) override {
+        const Options& options = scene_.options;
+        destinations::RowBatch batch{scene_.session, scene_.list, scene_.onFailedItem};
+        const auto result = destinations::ExportRowsToWord(batch, options.format,
+                                                           {.sameWidth = options.sameWidth,
+                                                            .caption = options.captionsBelow,
+                                                            .shadow = options.shadow});
+        scene_.list.selected = -1;
+        scene_.session.SessionDocument.call("SaveCopyAs", neighbour);
+        return result.done;
+    }
+
+private:
+    JobScene scene_;
+};
+
+class PdfJob : public Job {
+public:
+    explicit PdfJob(const JobScene& scene)
+        : scene_(scene),
+          live_(scene.liveSuite, scene.session.host, scene.session.notices,
+                scene.session.progress) {}
+
+    std::int32_t exportTo(const std::string& neighbour) override {
+        const Options& options = scene_.options;
+        live_.ExcelApp = scene_.session.ExcelApp;
+        live_.ActiveBook = scene_.session.ActiveBook;
+        destinations::RowBatch batch{live_, scene_.list, scene_.onFailedItem};
+        const auto result =
+            destinations::ExportRowsToPdf(batch,
+                                          {.pageTitles = options.titles.value_or(true),
+                                           .includePath = options.source,
+                                           .openPdf = false,
+                                           .coverPage = !options.coverText.empty(),
+                                           .sizeFactor = options.sizePercent,
+                                           .coverText = options.coverText},
+                                          neighbour);
+        scene_.list.selected = -1;
+        return result.done;
+    }
+
+private:
+    JobScene scene_;
+    /// Pages are made by a Word that draws.
+    session::OfficeSession live_;
+};
+
+}  // namespace
+
+std::unique_ptr<Job> makeJob(Destination destination, const JobScene& scene) {
+    switch (destination) {
+        case Destination::Word:
+            return std::make_unique<WordJob>(scene);
+        case Destination::Pdf:
+            return std::make_unique<PdfJob>(scene);
+        default:
+            return std::make_unique<SlidesJob>(scene);
+    }
+}
+
+catalogue::ExportChoices choicesFor(Destination destination, const Options& options) {
+    const bool isSlides = destination == Destination::PowerPoint;
+    catalogue::ExportChoices choices;
+    choices.destination = destination;
+    choices.predefinedSlides = isSlides && options.predefinedSlides;
+    if (isSlides || destination == Destination::Word) choices.format = options.format;
+    return choices;
+}
+
+}  // namespace unattended

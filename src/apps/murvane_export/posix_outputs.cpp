@@ -1,0 +1,250 @@
+#include <fcntl.h>
+#include <fmt/format.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <system_error>
+#include <vector>
+
+#include "apps/murvane_export/errors.h"
+#include "apps/murvane_export/outputs.h"
+#include "apps/utf8.h"
+#include "apps/whole_file.h"
+#include "office/text.h"
+
+namespace unattended {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The file itself where the name is a link to it, so that replacing it leaves the link alone.
+fs::path behindLinks(const fs::path& file) {
+    std::error_code ignored;
+    const fs::path absolute = fs::absolute(file, ignored);
+    return fs::is_symlink(absolute, ignored) ? fs::weakly_canonical(absolute, ignored) : absolute;
+}
+
+std::string reason() {
+    return std::strerror(errno);
+}
+
+std::string extensionOf(const fs::path& file) {
+    return office::lowerCase(apps::utf8Of(file.extension()));
+}
+
+/// A temporary file is made for its owner alone; the output gets the mode of what it replaces, or
+/// that of any new file or folder.
+void adoptMode(const fs::path& made, const fs::path& replaced) {
+    struct stat before = {};
+    mode_t mode = 0;
+    std::error_code ignored;
+    const bool isFolder = fs::is_directory(made, ignored);
+    if (!isFolder && ::stat(replaced.c_str(), &before) == 0) {
+        mode = before.st_mode & 07777U;
+    } else {
+        const mode_t mask = ::umask(0);
+        ::umask(mask);
+        mode = (isFolder ? 0777U : 0666U) & ~mask;
+    }
+    // A file system without modes takes none, and needs none.
+    static_cast<void>(::chmod(made.c_str(), mode));
+}
+
+/// One file.
+class OutputFile : public Output {
+public:
+    OutputFile(const fs::path& name, const std::vector<std::string>& endings, bool overwrites);
+
+    void commit() override;
+
+protected:
+    void makeNeighbour(const fs::path& folder) override;
+};
+
+/// A folder of files.
+class OutputFolder : public Output {
+public:
+    OutputFolder(const fs::path& name, bool overwrites);
+
+    void commit() override;
+
+protected:
+    void makeNeighbour(const fs::path& folder) override;
+};
+
+std::string listed(const std::vector<std::string>& endings) {
+    std::string text = endings.front();
+    for (std::size_t i = 1; i < endings.size(); ++i) text += " or " + endings[i];
+    return text;
+}
+
+OutputFile::OutputFile(const fs::path& name, const std::vector<std::string>& endings,
+                       bool overwritesFile)
+    : Output(behindLinks(name), overwritesFile) {
+    std::error_code ignored;
+    if (std::find(endings.begin(), endings.end(), extensionOf(file())) == endings.end())
+        refuse(fmt::format("its name has to end in {}.", listed(endings)));
+    if (fs::is_directory(file(), ignored)) refuse("it is a folder. Name a file.");
+    if (!overwrites() && fs::exists(file(), ignored))
+        refuse("it exists. Choose another name, or replace it with --overwrite.");
+}
+
+void OutputFile::makeNeighbour(const fs::path& folder) {
+    const fs::path made = folder / ("output" + extensionOf(file()));
+    std::ofstream{made};
+    setNeighbour(made);
+}
+
+void OutputFile::commit() {
+    std::error_code ignored;
+    if (!hasNeighbour() || fs::file_size(neighbour(), ignored) == 0) failWithoutContent();
+    takeName(neighbour(), file());
+    removeNeighbour();
+}
+
+OutputFolder::OutputFolder(const fs::path& name, bool overwritesFolder)
+    : Output(behindLinks(name), overwritesFolder) {
+    std::error_code ignored;
+    if (fs::exists(file(), ignored) && !fs::is_directory(file(), ignored))
+        refuse("it is a file. Name a folder.");
+    if (!fs::is_directory(file(), ignored)) return;
+    if (!apps::takesFiles(file().string())) refuse("the folder takes no files. Choose another.");
+    if (!overwrites() && !fs::is_empty(file(), ignored))
+        refuse(
+            "it exists and holds files. Choose another name, or write into it with "
+            "--overwrite.");
+}
+
+void OutputFolder::makeNeighbour(const fs::path& folder) {
+    const fs::path made = folder / "output";
+    fs::create_directory(made);
+    setNeighbour(made);
+}
+
+/// A folder that is there takes the files in, one after the other; they are complete.
+void OutputFolder::commit() {
+    std::error_code ignored;
+    if (!hasNeighbour() || fs::is_empty(neighbour(), ignored)) failWithoutContent();
+    if (!fs::exists(file(), ignored)) {
+        takeName(neighbour(), file());
+    } else {
+        std::vector<fs::path> made;
+        for (const auto& entry : fs::directory_iterator(neighbour())) made.push_back(entry.path());
+        for (const fs::path& path : made) {
+            const fs::path to = file() / path.filename();
+            if (overwrites() && fs::is_directory(path, ignored)) fs::remove_all(to, ignored);
+            takeName(path, to);
+        }
+    }
+    removeNeighbour();
+}
+
+}  // namespace
+
+void requireReadable(const fs::path& file, const std::string& what) {
+    std::error_code ignored;
+    if (fs::is_directory(file, ignored)) {
+        throw UsageError(
+            fmt::format("The {} {} is a folder. Name the file itself.", what, apps::utf8Of(file)));
+    }
+    if (::access(file.c_str(), R_OK) == 0) return;
+    throw UsageError(fmt::format("The {} {} can't be read: {}. Check its name and its permissions.",
+                                 what, apps::utf8Of(file), reason()));
+}
+
+Output::Output(const fs::path& file, bool overwrites) : file_(file), overwrites_(overwrites) {
+    const std::string folder = apps::utf8Of(file_.parent_path());
+    std::error_code ignored;
+    if (!fs::is_directory(folder, ignored)) {
+        refuse(
+            fmt::format("the folder {} doesn't exist. Make it first, or choose another.", folder));
+    }
+    if (!apps::takesFiles(folder)) {
+        refuse(fmt::format("the folder {} takes no files: {}. Choose another.", folder, reason()));
+    }
+}
+
+Output::~Output() {
+    if (!neighbour_.empty()) removeNeighbour();
+}
+
+void Output::refuse(const std::string& why) const {
+    throw UsageError(fmt::format("{} can't be written: {}", apps::utf8Of(file_), why));
+}
+
+void Output::failWithoutContent() const {
+    throw RunError(fmt::format("Nothing was written, so {} was not made.", apps::utf8Of(file_)));
+}
+
+void Output::requireOtherThan(const fs::path& input) const {
+    std::error_code ignored;
+    if (!fs::equivalent(file_, input, ignored)) return;
+    throw UsageError(fmt::format(
+        "{} is what this run reads; it is never written over. Choose another output file.",
+        apps::utf8Of(input)));
+}
+
+const fs::path& Output::neighbour() {
+    if (!neighbour_.empty()) return neighbour_;
+    std::string folder =
+        (file_.parent_path() / fmt::format(".{}.XXXXXX", apps::utf8Of(file_.stem()))).string();
+    if (::mkdtemp(folder.data()) == nullptr) {
+        throw RunError(fmt::format("No file can be made in {}: {}.",
+                                   apps::utf8Of(file_.parent_path()), reason()));
+    }
+    makeNeighbour(folder);
+    return neighbour_;
+}
+
+/// With all that a suite that was killed has left beside it.
+void Output::removeNeighbour() {
+    std::error_code ignored;
+    fs::remove_all(neighbour_.parent_path(), ignored);
+    neighbour_.clear();
+}
+
+void Output::takeName(const fs::path& from, const fs::path& to) const {
+    adoptMode(from, to);
+    const auto rename = [&](unsigned flags) {
+        const bool isDone = ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), flags) == 0;
+        return isDone ? 0 : errno;
+    };
+    int error = rename(overwrites_ ? 0 : RENAME_NOREPLACE);
+    if (error == EEXIST) {
+        throw RunError(fmt::format("{} was made by somebody else meanwhile and was left alone.",
+                                   apps::utf8Of(to)));
+    }
+    // Some file systems can't rename without replacing.
+    if (error == EINVAL) error = rename(0);
+    if (error != 0) {
+        throw RunError(
+            fmt::format("{} can't be written: {}.", apps::utf8Of(to), std::strerror(error)));
+    }
+}
+
+std::unique_ptr<Output> outputFor(const Target& target, bool overwrites) {
+    using catalogue::Destination;
+    const fs::path name = apps::pathOf(target.output);
+    const auto file = [&](const std::vector<std::string>& endings) {
+        return std::make_unique<OutputFile>(name, endings, overwrites);
+    };
+    switch (target.destination) {
+        case Destination::PowerPoint:
+            return file({".pptx", ".pptm"});
+        case Destination::Word:
+            return file({".docx", ".docm"});
+        case Destination::Pdf:
+            return file({".pdf"});
+        default:
+            return std::make_unique<OutputFolder>(name, overwrites);
+    }
+}
+
+}  // namespace unattended

@@ -1,0 +1,180 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "apps/murvane_export/errors.h"
+#include "apps/murvane_export/outputs.h"
+#include "support/temporary_folder.h"
+
+namespace {
+
+using Names = std::set<std::string>;
+using catalogue::Destination;
+using unattended::Output;
+using unattended::RunError;
+using unattended::UsageError;
+
+class OutputsTest : public testing::Test {
+protected:
+    static constexpr bool overwrite = true;
+
+    [[nodiscard]] std::unique_ptr<Output> outputAt(
+        const std::string& name, bool overwrites = false,
+        Destination destination = Destination::PowerPoint) const {
+        return unattended::outputFor({destination, folder.file(name)}, overwrites);
+    }
+
+    static void writeNeighbour(Output& output, const std::string& text) {
+        std::ofstream(output.neighbour(), std::ios::binary) << text;
+    }
+
+    [[nodiscard]] mode_t modeOf(const char* name) const {
+        struct stat status = {};
+        EXPECT_EQ(::stat(folder.file(name).c_str(), &status), 0);
+        return status.st_mode & 0777U;
+    }
+
+    support::TemporaryFolder folder;
+};
+
+TEST_F(OutputsTest, ComesIntoBeingAtTheCommit) {
+    const auto output = outputAt("out.pptx");
+    writeNeighbour(*output, "whole");
+    EXPECT_FALSE(folder.names().contains("out.pptx"));
+    EXPECT_EQ(output->neighbour().extension(), ".pptx");
+    output->commit();
+    EXPECT_EQ(folder.names(), Names{"out.pptx"});
+    EXPECT_EQ(folder.read("out.pptx"), "whole");
+}
+
+TEST_F(OutputsTest, WithoutACommitAllIsAsItWas) {
+    for (const Names& before : {Names{}, Names{"out.pptx"}}) {
+        if (!before.empty()) folder.write("out.pptx", "old");
+        {
+            const auto output = outputAt("out.pptx", overwrite);
+            writeNeighbour(*output, "half");
+        }
+        EXPECT_EQ(folder.names(), before);
+    }
+    EXPECT_EQ(folder.read("out.pptx"), "old");
+}
+
+TEST_F(OutputsTest, ReplacesWhatItMayAndKeepsItsModeAndGivesANewFileTheUsualOne) {
+    ::chmod(folder.write("old.pptx", "old").c_str(), 0604);
+    const mode_t mask = ::umask(0027);
+    for (const char* name : {"old.pptx", "new.pptx"}) {
+        const auto output = outputAt(name, overwrite);
+        writeNeighbour(*output, "new");
+        output->commit();
+        EXPECT_EQ(folder.read(name), "new");
+    }
+    ::umask(mask);
+    EXPECT_EQ(modeOf("old.pptx"), 0604U);
+    EXPECT_EQ(modeOf("new.pptx"), 0640U);
+}
+
+TEST_F(OutputsTest, AFileMadeMeanwhileIsLeftAlone) {
+    {
+        const auto output = outputAt("out.pptx");
+        writeNeighbour(*output, "ours");
+        folder.write("out.pptx", "theirs");
+        try {
+            output->commit();
+            ADD_FAILURE();
+        } catch (const RunError& error) {
+            EXPECT_NE(std::string(error.what()).find("made by somebody else"), std::string::npos);
+        }
+    }
+    EXPECT_EQ(folder.read("out.pptx"), "theirs");
+    EXPECT_EQ(folder.names(), Names{"out.pptx"});
+}
+
+TEST_F(OutputsTest, NothingWrittenIsNoOutput) {
+    const auto output = outputAt("out.pptx");
+    EXPECT_THROW(output->commit(), RunError);
+    static_cast<void>(output->neighbour());
+    EXPECT_THROW(output->commit(), RunError);
+}
+
+TEST_F(OutputsTest, ALinkStaysALink) {
+    folder.write("real.pptx", "old");
+    std::filesystem::create_symlink("real.pptx", folder.path() / "link.pptx");
+    const auto output = outputAt("link.pptx", overwrite);
+    writeNeighbour(*output, "new");
+    output->commit();
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.path() / "link.pptx"));
+    EXPECT_EQ(folder.read("real.pptx"), "new");
+}
+
+TEST_F(OutputsTest, WhatCannotBeWrittenIsFoundOutAtOnce) {
+    folder.write("taken.pptx", "x");
+    std::filesystem::create_directory(folder.path() / "full");
+    folder.write("full/file.png", "x");
+    std::filesystem::create_directory(folder.path() / "folder.pptx");
+    const std::tuple<Destination, const char*, bool> all[] = {
+        {Destination::PowerPoint, "out.pdf", false},
+        {Destination::PowerPoint, "out", false},
+        {Destination::PowerPoint, ".pptx", false},
+        {Destination::PowerPoint, "missing/out.pptx", false},
+        {Destination::PowerPoint, "taken.pptx", false},
+        {Destination::PowerPoint, "folder.pptx", false},
+        {Destination::PowerPoint, "OUT.PPTX", true},
+        {Destination::Word, "out.docx", true},
+        {Destination::Word, "out.pptx", false},
+        {Destination::Pdf, "out.pdf", true},
+        {Destination::Pdf, "out.docx", false},
+        {Destination::Html, "new", true},
+        {Destination::Html, "taken.pptx", false},
+        {Destination::ImageFiles, "full", false},
+        {Destination::ImageFiles, "missing/new", false},
+        {Destination::ImageFiles, "folder.pptx", true}};
+    for (const auto& [destination, name, isFine] : all) {
+        const auto make = [&, to = destination, file = name] {
+            static_cast<void>(outputAt(file, false, to));
+        };
+        if (isFine) {
+            EXPECT_NO_THROW(make()) << name;
+        } else {
+            EXPECT_THROW(make(), UsageError) << name;
+        }
+    }
+    EXPECT_THROW(static_cast<void>(unattended::outputFor({{}, "/proc/out.pptx"}, false)),
+                 UsageError);
+}
+
+TEST_F(OutputsTest, AFolderComesIntoBeingOrTakesInWhatWasMade) {
+    std::filesystem::create_directory(folder.path() / "empty");
+    std::filesystem::create_directory(folder.path() / "full");
+    folder.write("full/a.png", "old");
+    folder.write("full/b.png", "theirs");
+    for (const char* name : {"new", "empty", "full"}) {
+        const auto output = outputAt(name, overwrite, Destination::ImageFiles);
+        EXPECT_THROW(output->commit(), RunError);
+        std::ofstream(output->neighbour() / "a.png") << "ours";
+        std::filesystem::create_directory(output->neighbour() / "inner");
+        std::ofstream(output->neighbour() / "inner" / "c.png") << "ours too";
+        EXPECT_NE(output->neighbour(), folder.path() / name);
+        output->commit();
+        EXPECT_EQ(folder.read(std::string(name) + "/a.png"), "ours");
+        EXPECT_EQ(folder.read(std::string(name) + "/inner/c.png"), "ours too");
+    }
+    EXPECT_EQ(folder.read("full/b.png"), "theirs");
+    EXPECT_EQ(folder.names(), (Names{"empty", "full", "new"}));
+    EXPECT_NE(modeOf("new") & 0100U, 0U);
+}
+
+TEST_F(OutputsTest, AnInputIsNeverWrittenOver) {
+    const std::string deck = folder.write("deck.pptx", "x");
+    std::filesystem::create_hard_link(deck, folder.path() / "same.pptx");
+    const auto output = outputAt("same.pptx", overwrite);
+    EXPECT_THROW(output->requireOtherThan(deck), UsageError);
+    EXPECT_NO_THROW(output->requireOtherThan(folder.file("other.pptx")));
+}
+
+TEST_F(OutputsTest, AnInputHasToBeAFileThatCanBeRead) {
+    EXPECT_NO_THROW(unattended::requireReadable(folder.write("b.xlsx", "x"), "workbook"));
+    EXPECT_THROW(unattended::requireReadable(folder.path(), "workbook"), UsageError);
+    EXPECT_THROW(unattended::requireReadable(folder.file("none.xlsx"), "workbook"), UsageError);
+}
+
+}  // namespace

@@ -1,0 +1,104 @@
+#include "destinations/word_batch.h"
+#include "word_stage.h"
+
+namespace {
+
+using catalogue::ExportFormat;
+using destinations::RowBatch;
+using office::model::word::Anchoring;
+using Texts = std::vector<std::string>;
+
+class WordBatchTest : public stage::WordStage {
+protected:
+    WordBatchTest() { EXPECT_TRUE(destinations::AttachWord(session)); }
+
+    void exportRows(ExportFormat format, const destinations::WordOptions& options = {}) {
+        RowBatch batch{session, list, onFailedItem};
+        result = destinations::ExportRowsToWord(batch, format, options);
+    }
+
+    /// How many pages begin with a break, and how many hold nothing.
+    [[nodiscard]] std::pair<int, int> breaksAndEmptyPages() {
+        int breaks = 0;
+        int empty = 0;
+        bool hasContent = false;
+        for (const auto& paragraph : document.paragraphs()) {
+            if (paragraph.breaksPageBefore) {
+                ++breaks;
+                if (!hasContent) ++empty;
+                hasContent = false;
+            }
+            if (paragraph.objects > 0 || !paragraph.text.empty()) hasContent = true;
+        }
+        return {breaks, empty + (hasContent ? 0 : 1)};
+    }
+
+    [[nodiscard]] Texts descriptions(Anchoring anchoring) {
+        Texts texts;
+        for (std::int32_t i = 1; i <= document.objectCount(anchoring); ++i)
+            texts.push_back(document.objectAt(anchoring, i)->alternativeText());
+        return texts;
+    }
+
+    std::function<void(const catalogue::ExportItem&, const office::Failure&)> onFailedItem;
+    destinations::WalkResult result;
+};
+
+TEST_F(WordBatchTest, EachItemStandsOnAPageOfItsOwnWithItsDescription) {
+    addOfEachKind();
+    exportRows(ExportFormat::Pictures);
+    EXPECT_EQ(result.done, 3);
+    EXPECT_EQ(breaksAndEmptyPages(), std::pair(3, 0));
+    EXPECT_EQ(descriptions(Anchoring::Inline), (Texts{"Turnover", "Overview", "Turnover"}));
+    EXPECT_TRUE(document.captions().empty());
+    EXPECT_EQ(list.selected, 2);
+    EXPECT_TRUE(session.ExcelApp.get("ScreenUpdating").toBool());
+}
+
+TEST_F(WordBatchTest, ANewDocumentBeginsWithTheFirstItem) {
+    auto& fresh = test.suite.word().addDocument("New.docx");
+    ASSERT_TRUE(destinations::AttachWord(session));
+    addOfEachKind();
+    exportRows(ExportFormat::Pictures);
+    int breaks = 0;
+    for (const auto& paragraph : fresh.paragraphs()) breaks += paragraph.breaksPageBefore ? 1 : 0;
+    EXPECT_EQ(breaks, 2);
+    EXPECT_EQ(document.objectCount(Anchoring::Inline), 0);
+}
+
+TEST_F(WordBatchTest, CaptionsCountByTheirTextAndPicturesTakeWidthAndShadow) {
+    addOfEachKind();
+    exportRows(ExportFormat::Pictures, {.sameWidth = true, .caption = true, .shadow = true});
+    EXPECT_EQ(document.captions(), (Texts{"Turnover 1", "Turnover 2"}));
+    const auto page = document.page();
+    const double width = page.width - page.leftMargin - page.rightMargin;
+    const double height = page.height - page.topMargin - page.bottomMargin;
+    for (std::int32_t i = 1; i <= 3; ++i) {
+        const auto object = document.objectAt(Anchoring::Inline, i);
+        EXPECT_NEAR(object->size().width, width, 0.1);
+        EXPECT_LE(object->size().height, height / 2 + 0.1);
+        EXPECT_TRUE(object->shadow().isShown);
+        EXPECT_NEAR(object->shadow().blur, 15, 0.1);
+    }
+}
+
+TEST_F(WordBatchTest, WhatCannotBeCopiedLeavesNoPageBehindAndIsTold) {
+    add("Gone", "Sales", "Turnover", session::ItemKind::Range);
+    add("Chart 9", "Sales", "Turnover");
+    add("Chart 1", "Sales", "");
+    Texts failed;
+    onFailedItem = [&](const auto& row, const auto&) { failed.push_back(row.name); };
+    exportRows(ExportFormat::Pictures);
+    EXPECT_EQ(failed, (Texts{"Gone", "Chart 9"}));
+    EXPECT_EQ(breaksAndEmptyPages(), std::pair(1, 0));
+}
+
+TEST_F(WordBatchTest, CancellingEndsItAfterTheItemAtHand) {
+    addOfEachKind();
+    test.host.onEvents = [this] { test.progress.isCancelled = true; };
+    exportRows(ExportFormat::Pictures);
+    EXPECT_TRUE(result.wasCancelled());
+    EXPECT_EQ(document.objectCount(Anchoring::Inline), 1);
+}
+
+}  // namespace
