@@ -16,7 +16,7 @@ public:
     Environment& operator=(const Environment&) = delete;
     virtual ~Environment() = default;
 
-    /// A suite with a running Excel and PowerPoint, without open documents.
+    /// A suite with a running Excel, PowerPoint and Word, without open documents.
     [[nodiscard]] virtual office::Suite& suite() = 0;
 
     /// The full path of one of the documents that fixture.md describes, ready to be opened.

@@ -52,4 +52,49 @@ Object PowerPointContract::addPicture(std::int32_t slideIndex, double width, dou
     return slide(slideIndex).get("Shapes").call("AddPicture", file, 0, -1, 0, 0, -1, -1).toObject();
 }
 
+void WordContract::SetUp() {
+    word = suite().attach("Word.Application");
+    ASSERT_FALSE(word.isNothing());
+    document = word.get("Documents").call("Add").toObject();
+    suite().clearClipboard();
+}
+
+void WordContract::TearDown() {
+    failureOf([&] { document.call("Close", false); });
+    if (!book_.isNothing()) failureOf([&] { book_.call("Close", false); });
+}
+
+void WordContract::copy(std::string_view what) {
+    if (book_.isNothing())
+        book_ = suite()
+                    .attach("Excel.Application")
+                    .get("Workbooks")
+                    .call("Open", environment().document("contract-book.xlsx"))
+                    .toObject();
+    const Value sheet = book_.get("Sheets").get("Item", "Sales");
+    const Value chart = sheet.get("ChartObjects").get("Item", "Trend");
+    if (what == "chart") chart.call("Copy");
+    if (what == "cells") sheet.get("Range", "A1:C4").call("Copy");
+    if (what == "picture") chart.call("CopyPicture");
+}
+
+void WordContract::goToNewPage() const {
+    const auto end = [&] {
+        const Object range = document.get("Range").toObject();
+        range.call("Collapse", 0);
+        return range;
+    };
+    for (const bool breaks : {true, false}) {
+        end().call("InsertParagraphAfter");
+        end().get("ParagraphFormat").put("PageBreakBefore", breaks);
+    }
+    end().call("Select");
+}
+
+std::string WordContract::saved(std::string_view fileName) const {
+    const std::string file = environment().temporaryFile(fileName);
+    document.call("SaveCopyAs", file);
+    return file;
+}
+
 }  // namespace contract

@@ -83,4 +83,28 @@ protected:
     Object deck;
 };
 
+/// With a new document open.
+class WordContract : public ContractTest {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    [[nodiscard]] Object selection() const { return word.get("Selection").toObject(); }
+    [[nodiscard]] Object shapes(const char* collection) const {
+        return document.get(collection).toObject();
+    }
+    /// Copies the chart "Trend", cells or a picture of a workbook that is open then.
+    void copy(std::string_view what);
+    /// Puts the caret behind all text, on a page of its own, as every export does.
+    void goToNewPage() const;
+    /// A copy of the document as it is now.
+    [[nodiscard]] std::string saved(std::string_view fileName) const;
+
+    Object word;
+    Object document;
+
+private:
+    Object book_;
+};
+
 }  // namespace contract

@@ -97,6 +97,7 @@ public:
             book.chartSheet("Overview");
             book.readOnly();
         });
+        static_cast<void>(suite_.word());
         auto& deck = suite_.powerPoint().addPresentation("New.pptx");
         fillDeck(deck);
         deck.saveCopy(document("contract-deck.pptx"));

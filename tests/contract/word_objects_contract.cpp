@@ -1,0 +1,93 @@
+#include "contract/contract_test.h"
+
+namespace contract {
+
+namespace {
+
+/// What a suite can't make it says, and then nothing is put there.
+TEST_F(WordContract, PutsWhatWasCopiedAtTheCaretInEachForm) {
+    constexpr std::int32_t overText = 1;
+    struct {
+        bool isObject, isLink;
+        std::int32_t placement;
+        const char* collection;
+    } const forms[] = {{false, false, 0, "InlineShapes"},
+                       {true, false, 0, "InlineShapes"},
+                       {true, false, overText, "Shapes"},
+                       {true, true, overText, "Shapes"}};
+    for (const char* what : {"chart", "cells", "picture"}) {
+        for (const auto& form : forms) {
+            SCOPED_TRACE(std::string(what) + (form.isObject ? " object" : "") +
+                         (form.isLink ? " linked " : " ") + form.collection);
+            const bool isTable = *what == 'c' && what[1] == 'e' && !form.isObject;
+            const Value all = shapes(form.collection);
+            const Value tables = document.get("Tables");
+            const std::int32_t before = all.get("Count").toLong();
+            const std::int32_t tablesBefore = tables.get("Count").toLong();
+            goToNewPage();
+            copy(what);
+            const std::int32_t failure = failureOf([&] {
+                if (form.isObject)
+                    selection().call("PasteSpecial", arg("Link", form.isLink), arg("DataType", 0),
+                                     arg("Placement", form.placement), arg("DisplayAsIcon", false));
+                else
+                    selection().call("PasteSpecial");
+            });
+            EXPECT_EQ(failure, failure == 0 || form.isObject ? failure : -1);
+            EXPECT_TRUE(failure == 0 || failure == refused) << failure;
+            const bool isThere = failure == 0;
+            EXPECT_EQ(tables.get("Count").toLong(), tablesBefore + (isThere && isTable ? 1 : 0));
+            ASSERT_EQ(all.get("Count").toLong(), before + (isThere && !isTable ? 1 : 0));
+            if (!isThere || isTable) continue;
+            const Value made = all.get("Item", before + 1);
+            EXPECT_GT(made.get("Width").toDouble(), 100);
+            made.put("Width", 200);
+            made.put("Height", 90);
+            made.put("AlternativeText", "Figures");
+            expectMembers(made,
+                          {{"Width", 200.0}, {"Height", 90.0}, {"AlternativeText", "Figures"}});
+            if (form.placement != overText) continue;
+            made.call("Select");
+            selection().get("ShapeRange").put("Left", Value());
+        }
+    }
+}
+
+TEST_F(WordContract, CountsObjectsInTheOrderOfReading) {
+    const Value all = shapes("InlineShapes");
+    EXPECT_EQ(failureOf([&] { static_cast<void>(all.get("Item", 1)); }), subscriptOutOfRange);
+    copy("picture");
+    selection().call("Paste");
+    all.get("Item", 1).put("Width", 50);
+    // Ahead of the one that is there.
+    selection().call("HomeKey");
+    copy("picture");
+    selection().call("Paste");
+    ASSERT_EQ(all.get("Count").toLong(), 2);
+    EXPECT_NEAR(all.get("Item", 2).get("Width").toDouble(), 50, 0.5);
+    EXPECT_GT(all.get("Item", 1).get("Width").toDouble(), 100);
+    EXPECT_EQ(failureOf([&] { all.get("Item", 1).put("Width", 0); }), 5);
+}
+
+TEST_F(WordContract, GivesAPictureAShadow) {
+    copy("picture");
+    selection().call("Paste");
+    const Value shadow = shapes("InlineShapes").get("Item", 1).get("Shadow");
+    EXPECT_EQ(shadow.get("Visible").toLong(), 0);
+    shadow.put("Type", 21);
+    shadow.put("Size", 100);
+    shadow.put("Blur", 15);
+    EXPECT_EQ(shadow.get("Visible").toLong(), -1);
+    expectMembers(shadow, {{"Size", 100.0}, {"Blur", 15.0}});
+}
+
+TEST_F(WordContract, RefusesToPasteNothing) {
+    EXPECT_EQ(failureOf([&] { selection().call("Paste"); }), refused);
+    EXPECT_EQ(failureOf([&] { selection().call("PasteExcelTable", false, false, false); }),
+              refused);
+    EXPECT_EQ(failureOf([&] { static_cast<void>(selection().get("ShapeRange")); }), refused);
+}
+
+}  // namespace
+
+}  // namespace contract
