@@ -1,3 +1,7 @@
+#include <algorithm>
+#include <filesystem>
+
+#include "office/package/document/document_file.h"
 #include "office/package/document_files.h"
 #include "support/automation.h"
 
@@ -55,6 +59,123 @@ TEST_F(DocumentFile, TakesPicturesWithNumberedCaptions) {
                   static_cast<std::int32_t>(row.labels.size()));
         EXPECT_STREQ(again->body().last_child().name(), "w:sectPr");
     }
+}
+
+std::string repeated(const std::string& text, int count) {
+    std::string all;
+    for (int i = 0; i < count; ++i) all += text;
+    return all;
+}
+
+/// What is wrong says so in words; what is only odd is worked with.
+TEST_F(DocumentFile, RefusesOrBearsHostileDocuments) {
+    const std::string sequence = R"(<w:fldSimple w:instr="SEQ Figure )";
+    struct {
+        const char* part;
+        std::string from, to;
+        /// Empty for what is borne.
+        std::string why;
+    } const rows[] = {
+        {textPart, "<w:body>", "<w:corpse>", "is no XML"},
+        {textPart, "w:body", "w:corpse", "no text"},
+        {textPart, "w:document", "w:paper", "no document"},
+        {textPart, "2006/main\"", "2006/other\"", "no document"},
+        {textPart, "<w:p/>", repeated("<w:p>", 300) + repeated("</w:p>", 300), "nested"},
+        {"/word/styles.xml", "w:styles", "w:stiles", "styles"},
+        {"/word/styles.xml", "</w:styles>", "", "is no XML"},
+        {textPart, "<w:p/>", "", ""},
+        {textPart, "<w:p/>", "<w:sectPr/><w:sectPr/><w:bookmarkEnd w:id=\"1\"/>", ""},
+        {textPart, "w:w=\"11906\"", "w:w=\"1e999\"", ""},
+        {textPart, "w:left=\"1440\"", "w:left=\"-x\"", ""},
+        {textPart, "<w:p/>",
+         repeated("<w:p><w:r><w:fldChar w:fldCharType=\"begin\"/></w:r></w:p>", 500), ""},
+        {textPart, "<w:p/>", "<w:p><w:r><w:fldChar w:fldCharType=\"end\"/></w:r></w:p>", ""},
+        {textPart, "<w:p/>",
+         "<w:p>" + sequence + "\\r 99999999999999\"/>" + sequence + "\\s\"/></w:p>", ""},
+        {textPart, "<w:p/>", "<w:p><w:r><w:object/><w:pict><x/></w:pict></w:r></w:p>", ""},
+        {textPart, "<w:p/>",
+         "<w:p><w:r><w:drawing><wp:inline xmlns:wp=\"http://schemas.openxmlformats.org/drawingml/"
+         "2006/wordprocessingDrawing\"><wp:docPr id=\"-4294967295\"/></wp:inline></w:drawing></w:r>"
+         "</w:p>",
+         ""},
+        {"/word/styles.xml", "w:styleId=\"Normal\"", "w:styleId=\"&quot;&gt;&amp;\"", ""},
+        {"/word/styles.xml", "\"caption\"", "\"heading 2\"", ""},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.to.substr(0, 120));
+        Package package = support::emptyDocument();
+        support::edit(package, row.part, row.from, row.to);
+        const std::string file = folder.file("hostile.docx");
+        std::filesystem::remove(file);
+        package.save(file);
+        std::string why;
+        try {
+            static_cast<void>(documentFactsOf(file));
+            const auto document =
+                std::dynamic_pointer_cast<FileDocument>(documents->load(file, false));
+            word::Page page = document->page();
+            EXPECT_GT(page.width - page.leftMargin - page.rightMargin, 0);
+            document->setPage(page);
+            addPicture(*document, "Figure");
+            document->typeText("a\tb\nc");
+            document->moveDown(1);
+            for (const Anchoring anchoring : {Anchoring::Inline, Anchoring::Floating}) {
+                for (int i = document->objectCount(anchoring); i > 0; --i)
+                    EXPECT_GE(document->objectAt(anchoring, i)->size().width, 0);
+            }
+            const auto lines = read(*document);
+            EXPECT_NE(
+                std::find_if(lines.begin(), lines.end(),
+                             [](const auto& line) { return line.starts_with("caption:Figure "); }),
+                lines.end());
+            document->saveCopy(file);
+            document->close();
+        } catch (const PackageError& error) {
+            why = error.what();
+        }
+        EXPECT_EQ(why.empty(), row.why.empty()) << why;
+        EXPECT_NE(why.find(row.why), std::string::npos) << why;
+    }
+    // What nobody can validate stays here.
+    std::filesystem::remove(folder.file("hostile.docx"));
+}
+
+/// Whatever else a package holds is written as it was, and what it is changes with its name.
+TEST_F(DocumentFile, KeepsTheRestAndDropsMacrosWhereTheNameSays) {
+    Package package = support::emptyDocument();
+    package.add("/word/vbaProject.bin", "application/vnd.ms-office.vbaProject", "macros");
+    package.relationshipsOf(textPart).add(macroProject, "/word/vbaProject.bin");
+    package.add("/customXml/item1.xml", "application/xml", "<?odd?><a  b='1'/>");
+    package.setContentType(textPart,
+                           "application/vnd.ms-word.template.macroEnabledTemplate.main+xml");
+    const std::string file = folder.file("template.dotm");
+    package.save(file);
+    const FileFacts facts = documentFactsOf(file);
+    EXPECT_TRUE(facts.hasMacros && !facts.isSigned && !facts.isStrict);
+    const auto document = std::dynamic_pointer_cast<FileDocument>(documents->load(file, false));
+    document->setTitle("Zahlen <2026>");
+    document->typeText("typed");
+    for (const char* const name : {"out.docm", "out.docx"}) {
+        document->saveCopy(folder.file(name));
+        Package out = Package::open(folder.file(name));
+        const bool keeps = std::string(name).ends_with("m");
+        EXPECT_EQ(out.has("/word/vbaProject.bin"), keeps);
+        EXPECT_EQ(out.contentTypeOf(textPart),
+                  keeps ? "application/vnd.ms-word.document.macroEnabled.main+xml"
+                        : "application/vnd.openxmlformats-officedocument.wordprocessingml."
+                          "document.main+xml");
+        for (const std::string& part : package.parts()) {
+            const bool isOurs = part == textPart || part == "/docProps/core.xml" ||
+                                part == "/word/vbaProject.bin" ||
+                                part.ends_with("document.xml.rels");
+            if (!isOurs) {
+                EXPECT_EQ(out.read(part), package.read(part)) << part;
+            }
+        }
+        EXPECT_EQ(documents->add(std::move(out), "", "")->title(), "Zahlen <2026>");
+    }
+    EXPECT_EQ(support::failureOf([&] { document->saveCopy(folder.file("out.odt")); }), 5);
+    EXPECT_EQ(support::failureOf([&] { document->exportPdf(folder.file("a.pdf"), {}); }), 1004);
 }
 
 }  // namespace

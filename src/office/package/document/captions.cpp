@@ -41,13 +41,11 @@ void addRun(pugi::xml_node paragraph, const std::string& text) {
 Captions::ByName& Captions::known() {
     if (known_) return *known_;
     known_.emplace();
-    for (const SequenceField& field : sequenceFieldsIn(text_)) {
+    visitSequenceFields(text_, [&](const SequenceField& field) {
         Counted& counted = (*known_)[field.name];
         counted.last = field.number;
-        std::string label = keyOf(field.ahead);
-        if (std::find(counted.labels.begin(), counted.labels.end(), label) == counted.labels.end())
-            counted.labels.push_back(std::move(label));
-    }
+        counted.labels.insert(keyOf(field.ahead));
+    });
     return *known_;
 }
 
@@ -60,7 +58,7 @@ std::string Captions::nameFor(const std::string& label) {
         const auto found = known().find(lowerCase(name));
         if (found == known().end()) return name;
         const auto& labels = found->second.labels;
-        if (std::find(labels.begin(), labels.end(), key) != labels.end()) return name;
+        if (labels.contains(key)) return name;
         // "Figure 1-" may stand ahead of the numbers of "Figure".
         const bool isAnothers = std::any_of(labels.begin(), labels.end(), [&](const auto& other) {
             return number > 1 || lowerCase(word::sequenceName(other)) == plain;
@@ -80,18 +78,16 @@ void Captions::write(pugi::xml_node paragraph, const word::Caption& caption, boo
     setWordValue(field, "instr", fmt::format(R"( SEQ {} \* ARABIC )", name));
     field.first_child().last_child().text().set(++counted.last);
     if (const std::string title = oneLine(caption.title); !title.empty()) addRun(paragraph, title);
-    const std::string key = keyOf(label);
-    if (std::find(counted.labels.begin(), counted.labels.end(), key) == counted.labels.end())
-        counted.labels.push_back(key);
+    counted.labels.insert(keyOf(label));
     if (!isLast) renumber(lowerCase(name));
 }
 
 void Captions::renumber(const std::string& name) {
     known_.reset();
-    for (const SequenceField& field : sequenceFieldsIn(text_)) {
+    visitSequenceFields(text_, [&](const SequenceField& field) {
         if (field.name == name && field.isPlain && field.shown.size() == 1)
             pugi::xml_node(field.shown.front()).text().set(field.number);
-    }
+    });
 }
 
 }  // namespace office::package

@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
-#include <vector>
 
 #include "office/model/word/text_document.h"
 
@@ -22,15 +22,13 @@ public:
     /// Writes a caption into a new paragraph, and numbers it. `isLast` tells that no caption
     /// stands behind it; otherwise those of its label that do are numbered anew.
     void write(pugi::xml_node paragraph, const office::model::word::Caption& caption, bool isLast);
-    /// Has to be told if text with fields may have come in.
-    void forget() { known_.reset(); }
 
 private:
     /// What the text counts under one name.
     struct Counted {
         std::int32_t last = 0;
         /// What stands ahead of its numbers, each once.
-        std::vector<std::string> labels;
+        std::set<std::string> labels;
     };
     using ByName = std::map<std::string, Counted>;
 

@@ -109,13 +109,18 @@ std::string DocumentStyles::idOf(std::int32_t number) {
             return std::string(wordValue(style, "styleId"));
     }
     const std::string plain = plainId();
-    const std::string relation =
-        plain.empty() ? "" : fmt::format(R"(<w:basedOn w:val="{0}"/><w:next w:val="{0}"/>)", plain);
     const std::string id = freeId(std::string(known->id));
-    insertMarkup(root(),
-                 fmt::format(R"(<w:style w:type="paragraph" w:styleId="{}"><w:name w:val="{}"/>)"
-                             R"({}{}</w:style>)",
-                             id, known->name, relation, known->looks));
+    const auto made = insertMarkup(
+        root(), fmt::format(R"(<w:style w:type="paragraph" w:styleId="{}"><w:name w:val="{}"/>)"
+                            R"(<w:basedOn/><w:next/>{}</w:style>)",
+                            id, known->name, known->looks));
+    for (const char* const relation : {"basedOn", "next"}) {
+        const auto other = childNamed(made, ns::word, relation);
+        if (!plain.empty())
+            setWordValue(other, "val", plain);
+        else
+            pugi::xml_node(made).remove_child(other);
+    }
     isChanged_ = true;
     return id;
 }

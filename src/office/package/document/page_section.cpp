@@ -1,5 +1,6 @@
 #include "office/package/document/page_section.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <vector>
@@ -22,9 +23,13 @@ constexpr double plainWidth = 612;
 constexpr double plainHeight = 792;
 constexpr double plainMargin = 72;
 
+/// No page of Word is longer.
+constexpr double longest = 1584;
+
 double lengthIn(pugi::xml_node node, const char* name, double plain) {
     const auto found = numberOf(wordValue(node, name));
-    return found ? *found / twipsPerPoint : plain;
+    if (!found || !std::isfinite(*found)) return plain;
+    return std::clamp(*found / twipsPerPoint, -longest, longest);
 }
 
 }  // namespace
@@ -33,11 +38,15 @@ word::Page pageOf(pugi::xml_node section) {
     const auto size = childNamed(section, ns::word, "pgSz");
     const auto margins = childNamed(section, ns::word, "pgMar");
     // Below 0 it holds whatever stands in the header.
-    const auto margin = [&](const char* side) {
-        return std::abs(lengthIn(margins, side, plainMargin));
+    const auto side = [&](const char* name, double plain) {
+        const double length = lengthIn(size, name, plain);
+        return length > 0 ? length : plain;
     };
-    word::Page page{.width = lengthIn(size, "w", plainWidth),
-                    .height = lengthIn(size, "h", plainHeight),
+    const auto margin = [&](const char* name) {
+        return std::abs(lengthIn(margins, name, plainMargin));
+    };
+    word::Page page{.width = side("w", plainWidth),
+                    .height = side("h", plainHeight),
                     .leftMargin = margin("left") + lengthIn(margins, "gutter", 0),
                     .rightMargin = margin("right"),
                     .topMargin = margin("top"),

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <map>
 #include <optional>
@@ -38,6 +39,14 @@ std::vector<std::string> wordsOf(std::string_view instruction) {
     return words;
 }
 
+/// Beyond this Word counts no further.
+constexpr std::int32_t highestNumber = 32767;
+
+std::int32_t countIn(const std::string& text) {
+    return static_cast<std::int32_t>(
+        std::clamp(leadingNumber(text), 0.0, static_cast<double>(highestNumber)));
+}
+
 /// A field while its text is read.
 struct OpenField {
     std::string instruction;
@@ -48,7 +57,8 @@ struct OpenField {
 
 class SequenceReader {
 public:
-    std::vector<SequenceField> fields;
+    explicit SequenceReader(const std::function<void(const SequenceField&)>& visit)
+        : visit_(visit) {}
 
     void read(pugi::xml_node text) {
         for (const pugi::xml_node paragraph : paragraphsIn(text)) {
@@ -63,7 +73,7 @@ private:
             const std::string_view name = localName(element);
             if (isTextObject(element) || name == "pPr" || name == "rPr") return false;
             if (name == "fldSimple") {
-                open_.push_back({std::string(wordValue(element, "instr")), ahead_, {}, true});
+                begin(std::string(wordValue(element, "instr")), true);
                 readParts(element);
                 close();
                 return false;
@@ -76,8 +86,15 @@ private:
         });
     }
 
+    /// Fields stand in each other no deeper than Word takes it; where they do, the outermost go.
+    void begin(std::string instruction, bool isResult) {
+        constexpr std::size_t deepest = 20;
+        if (open_.size() >= deepest) open_.erase(open_.begin());
+        open_.push_back({std::move(instruction), ahead_, {}, isResult});
+    }
+
     void readMark(std::string_view type) {
-        if (type == "begin") open_.push_back({{}, ahead_, {}, false});
+        if (type == "begin") begin({}, false);
         if (open_.empty()) return;
         if (type == "separate") open_.back().isResult = true;
         if (type == "end") close();
@@ -86,10 +103,13 @@ private:
     void readText(pugi::xml_node text) {
         if (!open_.empty() && !open_.back().isResult) return;
         if (!open_.empty()) open_.back().shown.push_back(text);
-        ahead_ += text.text().get();
+        constexpr std::size_t longestLabel = 512;
+        if (ahead_.size() < longestLabel)
+            ahead_ += std::string_view(text.text().get()).substr(0, longestLabel);
     }
 
     void close() {
+        if (open_.empty()) return;
         const OpenField field = std::move(open_.back());
         open_.pop_back();
         const auto words = wordsOf(field.instruction);
@@ -104,18 +124,19 @@ private:
             const std::string next = i + 1 < words.size() ? words[i + 1] : std::string();
             const std::string option = lowerCase(words[i]);
             if (option == "\\c") wanted = last;
-            if (option == "\\r") wanted = static_cast<std::int32_t>(leadingNumber(next));
+            if (option == "\\r") wanted = countIn(next);
             // Counted anew in each chapter, which the field itself knows.
             if (option == "\\s" && !found.shown.empty())
-                wanted = static_cast<std::int32_t>(leadingNumber(found.shown.front().text().get()));
+                wanted = countIn(found.shown.front().text().get());
             if (option == "\\s" || option == "\\h") found.isPlain = false;
             if (option == "\\*" && lowerCase(next) != "arabic" && lowerCase(next) != "mergeformat")
                 found.isPlain = false;
         }
         last = found.number = *wanted;
-        fields.push_back(std::move(found));
+        visit_(found);
     }
 
+    const std::function<void(const SequenceField&)>& visit_;
     std::string ahead_;
     std::vector<OpenField> open_;
     std::map<std::string, std::int32_t> last_;
@@ -123,10 +144,9 @@ private:
 
 }  // namespace
 
-std::vector<SequenceField> sequenceFieldsIn(pugi::xml_node text) {
-    SequenceReader reader;
-    reader.read(text);
-    return std::move(reader.fields);
+void visitSequenceFields(pugi::xml_node text,
+                         const std::function<void(const SequenceField&)>& visit) {
+    SequenceReader(visit).read(text);
 }
 
 }  // namespace office::package

@@ -3,6 +3,7 @@
 #include <pugixml.hpp>
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -12,7 +13,7 @@ namespace office::package {
 struct SequenceField {
     /// The name that it counts under, in small letters.
     std::string name;
-    /// The text of its paragraph ahead of it.
+    /// The text of its paragraph ahead of it, no more than any label has.
     std::string ahead;
     /// The texts (w:t) that show its number.
     std::vector<pugi::xml_node> shown;
@@ -22,7 +23,8 @@ struct SequenceField {
     std::int32_t number = 0;
 };
 
-/// Those of a text, in the order of reading.
-[[nodiscard]] std::vector<SequenceField> sequenceFieldsIn(pugi::xml_node text);
+/// Shows a visitor those of a text in the order of reading.
+void visitSequenceFields(pugi::xml_node text,
+                         const std::function<void(const SequenceField&)>& visit);
 
 }  // namespace office::package
