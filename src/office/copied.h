@@ -42,6 +42,8 @@ public:
     [[nodiscard]] virtual std::string png() const = 0;
     /// `Failure` 1004 for anything but cells.
     [[nodiscard]] virtual TableLook table() const = 0;
+    /// The same with as many cells as a page takes, which is more than a table elsewhere holds.
+    [[nodiscard]] virtual TableLook tableOfPage() const { return table(); }
 
 private:
     CopySource source_;

@@ -67,6 +67,9 @@ struct CellLook {
 
 /// A block of cells as it is seen, hidden rows and columns left out.
 struct TableLook {
+    /// Where its first cell begins on the sheet.
+    double leftPt = 0;
+    double topPt = 0;
     std::vector<double> columnWidthsPt;
     std::vector<double> rowHeightsPt;
     /// Row by row.

@@ -136,4 +136,37 @@ std::optional<double> numberOf(std::string_view text) {
     return number;
 }
 
+std::string escapeMarkup(std::string_view text) {
+    // One pass, so that the ampersand of an entity just written isn't escaped again.
+    std::string escaped;
+    escaped.reserve(text.size());
+    for (const char sign : text) {
+        switch (sign) {
+            case '&':
+                escaped += "&amp;";
+                break;
+            case '<':
+                escaped += "&lt;";
+                break;
+            case '>':
+                escaped += "&gt;";
+                break;
+            case '"':
+                escaped += "&quot;";
+                break;
+            case '\'':
+                escaped += "&#39;";
+                break;
+            default:
+                escaped += sign;
+        }
+    }
+    return escaped;
+}
+
+std::string userLanguage() {
+    const std::string language = icu::Locale::getDefault().getLanguage();
+    return language.empty() ? "en" : language;
+}
+
 }  // namespace office

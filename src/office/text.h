@@ -27,6 +27,12 @@ namespace office {
 /// A text as it stands in an address: everything escaped but letters, digits and -._~
 [[nodiscard]] std::string addressWord(std::string_view text);
 
+/// With the five characters that mean something in markup replaced.
+[[nodiscard]] std::string escapeMarkup(std::string_view text);
+
+/// The user's language as pages name it: "de".
+[[nodiscard]] std::string userLanguage();
+
 /// Bytes of the character that begins at a byte of the text; 0 if none does that is well-formed.
 [[nodiscard]] std::size_t characterLength(std::string_view text, std::size_t at);
 

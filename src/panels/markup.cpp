@@ -7,31 +7,7 @@
 namespace panels {
 
 std::string HtmlEscape(std::string_view text) {
-    // One pass, so that the ampersand of an entity just written isn't escaped again.
-    std::string escaped;
-    escaped.reserve(text.size());
-    for (const char sign : text) {
-        switch (sign) {
-            case '&':
-                escaped += "&amp;";
-                break;
-            case '<':
-                escaped += "&lt;";
-                break;
-            case '>':
-                escaped += "&gt;";
-                break;
-            case '"':
-                escaped += "&quot;";
-                break;
-            case '\'':
-                escaped += "&#39;";
-                break;
-            default:
-                escaped += sign;
-        }
-    }
-    return escaped;
+    return office::escapeMarkup(text);
 }
 
 std::vector<std::string> trimmedLines(std::string_view text) {

@@ -158,8 +158,19 @@ uno::Reference<css::graphic::XGraphic> CopiedCells::graphic() const {
 }
 
 office::TableLook CopiedCells::table() const {
+    // More are no table that anybody reads on a slide.
+    return tableUpTo(5000);
+}
+
+office::TableLook CopiedCells::tableOfPage() const {
+    // Browsers show more, but slowly.
+    return tableUpTo(100000);
+}
+
+office::TableLook CopiedCells::tableUpTo(std::size_t mostCells) const {
     SheetRecord& source = sheet();
-    return translated(source.book().desk(), [&] { return tableOfCells(source, block_); });
+    return translated(source.book().desk(),
+                      [&] { return tableOfCells(source, block_, mostCells); });
 }
 
 }  // namespace libreoffice::excel

@@ -74,8 +74,11 @@ public:
     [[nodiscard]] std::string png() const override;
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
     [[nodiscard]] office::TableLook table() const override;
+    [[nodiscard]] office::TableLook tableOfPage() const override;
 
 private:
+    [[nodiscard]] office::TableLook tableUpTo(std::size_t mostCells) const;
+
     SheetRecordPtr sheet_;
     std::shared_ptr<CalcDocument> book_;
     uno::Reference<css::table::XCellRange> cells_;

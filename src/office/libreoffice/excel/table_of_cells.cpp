@@ -1,5 +1,6 @@
 #include "office/libreoffice/excel/table_of_cells.h"
 
+#include <com/sun/star/awt/Point.hpp>
 #include <com/sun/star/awt/Size.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XSheetCellCursor.hpp>
@@ -28,9 +29,6 @@ using office::CellLine;
 using office::CellLook;
 using office::TableLook;
 
-/// More are no table that anybody reads on a slide.
-constexpr std::size_t mostCells = 5000;
-
 [[noreturn]] void refuseTable(const char* why) {
     throw office::Failure(office::FailureNumber::ApplicationDefined, "Range.Copy", why);
 }
@@ -43,11 +41,13 @@ model::CellBlock wholeCells(const SheetRecord& sheet, const model::CellBlock& bl
     return blockOf(as<css::sheet::XCellRangeAddressable>(cursor)->getRangeAddress());
 }
 
-ShownLines shownLinesOf(const uno::Reference<css::table::XCellRange>& cells) {
+ShownLines shownLinesOf(const uno::Reference<css::table::XCellRange>& cells,
+                        std::size_t mostCells) {
     std::set<std::int32_t> columns, rows;
     const auto shown = as<css::sheet::XCellRangesQuery>(cells)->queryVisibleCells();
     for (const css::table::CellRangeAddress& part : shown->getRangeAddresses()) {
-        if (blockOf(part).cells() > mostCells) refuseTable("These are too many cells for a table");
+        if (blockOf(part).cells() > static_cast<double>(mostCells))
+            refuseTable("These are too many cells for a table");
         for (sal_Int32 column = part.StartColumn; column <= part.EndColumn; ++column)
             columns.insert(column);
         for (sal_Int32 row = part.StartRow; row <= part.EndRow; ++row) rows.insert(row);
@@ -304,16 +304,19 @@ TableLook withoutUnseenLines(const TableLook& table) {
 
 }  // namespace
 
-TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block) {
+TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block, std::size_t mostCells) {
     const model::CellBlock whole = wholeCells(sheet, block);
     const auto cells = sheet.range(whole);
-    const ShownLines shown = shownLinesOf(cells);
+    const ShownLines shown = shownLinesOf(cells, mostCells);
     const CellFormats formats = readCellFormats(cells, shown);
     const uno::Sequence<sal_Int8> copy = SelectedCells(sheet, cells).copyAs("text/html");
     const CellsAsHtml html = readCellsAsHtml({reinterpret_cast<const char*>(copy.getConstArray()),
                                               static_cast<std::size_t>(copy.getLength())});
 
     TableLook table;
+    const auto corner = property<css::awt::Point>(cells, "Position");
+    table.leftPt = pointsOf(corner.X);
+    table.topPt = pointsOf(corner.Y);
     const auto size = property<css::awt::Size>(cells, "Size");
     const auto lines = as<css::table::XColumnRowRange>(sheet.sheet());
     std::vector<std::optional<double>> rowHeights;

@@ -7,8 +7,9 @@ namespace libreoffice::excel {
 
 /// A block of cells as it is seen, in a number of calls that grows with the formats in it and not
 /// with the cells. Merged cells that stick out of the block belong to it. The user's clipboard
-/// stays, his selection is put back. `office::Failure` 1004 if nothing of it is shown, or more than
-/// a table holds.
-[[nodiscard]] office::TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block);
+/// stays, his selection is put back. `office::Failure` 1004 if nothing of it is shown, or more
+/// cells than that.
+[[nodiscard]] office::TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block,
+                                             std::size_t mostCells);
 
 }  // namespace libreoffice::excel

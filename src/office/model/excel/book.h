@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "office/model/excel/publications.h"
 #include "office/model/excel/sheet.h"
 #include "office/model/guard.h"
 
@@ -50,6 +51,12 @@ public:
     virtual Selection selection() = 0;
     /// The workbook's own names.
     virtual NameScope& names() = 0;
+
+    /// What is published of it. It is kept as long as the workbook is open and never saved.
+    [[nodiscard]] Publications& publications() { return publications_; }
+
+private:
+    Publications publications_;
 };
 
 /// The cells that a name stands for, in this workbook or in another that is open.

@@ -102,4 +102,7 @@ struct RangePlace {
 /// A sheet's own name goes ahead of the workbook's.
 [[nodiscard]] std::optional<RangePlace> findCells(const InSheet& home, std::string_view text);
 
+/// What is published of a workbook as pages.
+[[nodiscard]] Object publishObjectsObject(const InBook& home);
+
 }  // namespace office::model::excel

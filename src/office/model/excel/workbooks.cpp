@@ -41,6 +41,8 @@ const MemberTable<Workbook>& Workbook::members() {
             .property("Worksheets", sheets(SheetKind::Worksheet))
             .property("Charts", sheets(SheetKind::ChartSheet))
             .property("Names", [](Self& self) { return namesObject(self.home()); })
+            .property("PublishObjects",
+                      [](Self& self) { return publishObjectsObject(self.home()); })
             .method("Activate", {}, [](Self& self) { self.book().activate(); })
             .method("Close", {"SaveChanges"}, &Self::close);
     return table;

@@ -1,0 +1,198 @@
+// What goes to pages: the records that Excel keeps of it, and what their publishing writes.
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "office/model/excel/cells_as_page.h"
+#include "office/model/excel/objects.h"
+#include "office/model/excel/published_page.h"
+
+namespace office::model::excel {
+
+namespace {
+
+/// Puts what a record names on its page.
+class Publisher {
+public:
+    Publisher(const InBook& home, const Publication& what, std::string source)
+        : home_(home),
+          what_(what),
+          source_(std::move(source)),
+          page_(what.file) {}
+
+    void publish(bool create) {
+        const SheetPtr sheet = home_.book->findSheet(what_.sheet);
+        if (!sheet) refuse(source_, fmt::format("There is no sheet \"{}\"", what_.sheet));
+        const InSheet place{home_, sheet};
+        // The page stays as it is until what goes on it is there.
+        const std::string markup =
+            what_.source == Publication::Source::Chart ? chartMarkup(place) : cellsMarkup(place);
+        if (create || !page_.exists())
+            page_.begin(std::filesystem::path(home_.book->name()).stem().string());
+        page_.append(markup);
+    }
+
+private:
+    [[nodiscard]] PagePicture pictureOf(const InSheet& place, SheetChart& chart) {
+        CopySource source = sourceOf(place, CopySource::Kind::Chart);
+        if (!place.sheet->isChartSheet()) source.chart = chart.name();
+        const CopiedPtr copied = chart.copy(std::move(source));
+        const Box at = place.sheet->isChartSheet() ? Box{} : chart.box();
+        std::string name = place.sheet->isChartSheet() ? place.sheet->knownName() : chart.name();
+        return {page_.addPicture(copied->png()),
+                std::move(name),
+                {at.left, at.top, copied->widthPt(), copied->heightPt()}};
+    }
+
+    [[nodiscard]] std::string chartMarkup(const InSheet& place) {
+        const SheetChartPtr chart = place.sheet->isChartSheet()
+                                        ? place.sheet->ownChart()
+                                        : place.sheet->findChart(what_.place);
+        if (!chart) refuse(source_, fmt::format("There is no chart \"{}\"", what_.place));
+        const PagePicture picture = pictureOf(place, *chart);
+        return pageItem(what_.divId, what_.title, picture.box.width, pictureAsPage(picture));
+    }
+
+    [[nodiscard]] std::string cellsMarkup(const InSheet& place) {
+        const auto found = findCells(place, what_.place);
+        if (!found) refuse(source_, fmt::format("There is no range \"{}\"", what_.place));
+        if (found->blocks.size() > 1) refuse(source_, "Several areas can't be published");
+        std::optional<CellBlock> block = found->blocks.front();
+        if (block->spansAllRows() || block->spansAllColumns())
+            block = intersection(*block, found->home.sheet->used());
+        if (!block) refuse(source_, "There is nothing in these rows or columns");
+        CopySource from = sourceOf(found->home, CopySource::Kind::Cells);
+        from.address = addressOf(*block);
+        const TableLook look =
+            found->home.sheet->cells(*block)->copy(std::move(from))->tableOfPage();
+        return pageItem(what_.divId, what_.title, look.widthPt(),
+                        cellsAsPage(look, chartsOn(found->home, look)));
+    }
+
+    /// The charts that lie on the cells, or stick out of them.
+    [[nodiscard]] std::vector<PagePicture> chartsOn(const InSheet& place, const TableLook& look) {
+        constexpr double touchingPt = 0.5;
+        std::vector<PagePicture> pictures;
+        for (const SheetChartPtr& chart : place.sheet->charts()) {
+            const Box box = chart->box();
+            const bool lies = box.left + touchingPt < look.leftPt + look.widthPt() &&
+                              box.left + box.width > look.leftPt + touchingPt &&
+                              box.top + touchingPt < look.topPt + look.heightPt() &&
+                              box.top + box.height > look.topPt + touchingPt;
+            if (lies) pictures.push_back(pictureOf(place, *chart));
+        }
+        return pictures;
+    }
+
+    const InBook& home_;
+    const Publication& what_;
+    std::string source_;
+    PublishedPage page_;
+};
+
+/// One record. Publishing it by itself after each save is what this Excel doesn't do.
+class PublishObject : public ObjectIn<PublishObject> {
+public:
+    PublishObject(InBook home, PublicationPtr what)
+        : ObjectIn(std::move(home)),
+          what_(std::move(what)) {}
+
+    static const MemberTable<PublishObject>& members() {
+        using Self = PublishObject;
+        static const auto table =
+            MemberTable<Self>("PublishObject")
+                .property("SourceType",
+                          [](Self& self) { return static_cast<std::int32_t>(self.what_->source); })
+                .property("Filename", [](Self& self) { return self.what_->file; })
+                .property("Sheet", [](Self& self) { return self.what_->sheet; })
+                .property("Source", [](Self& self) { return self.what_->place; })
+                .property("HtmlType", [](Self&) { return staticPage; })
+                .property("DivID", [](Self& self) { return self.what_->divId; })
+                .property(
+                    "Title", [](Self& self) { return self.what_->title; },
+                    [](Self& self, const Value& title) { self.what_->title = title.toText(); })
+                .property(
+                    "AutoRepublish", [](Self&) { return false; },
+                    [](Self&, const Value& wanted) {
+                        if (wanted.toBool())
+                            refuse("PublishObject.AutoRepublish",
+                                   "Pages are not published again by themselves here");
+                    })
+                .method("Publish", {"Create"},
+                        [](Self& self, const CallArguments& arguments) {
+                            Publisher(self.home(), *self.what_, arguments.source())
+                                .publish(arguments.at(0, false).toBool());
+                        })
+                .method("Delete", {},
+                        [](Self& self) { std::erase(self.book().publications().all, self.what_); });
+        return table;
+    }
+
+    static constexpr std::int32_t staticPage = 0;
+
+private:
+    PublicationPtr what_;
+};
+
+/// The records of a workbook.
+class PublishObjects : public ObjectIn<PublishObjects> {
+public:
+    using ObjectIn::ObjectIn;
+
+    static const MemberTable<PublishObjects>& members() {
+        using Self = PublishObjects;
+        static const auto table =
+            MemberTable<Self>("PublishObjects")
+                .property("Count", [](Self& self) { return countOf(self.all().size()); })
+                .property("Item", {"Index"},
+                          [](Self& self, const CallArguments& arguments) {
+                              const ItemIndex index(arguments.at(0).toLong(), arguments.source());
+                              return self.object(self.all()[index.placeBelow(self.all().size())]);
+                          })
+                .method("Add",
+                        {"SourceType", "Filename", "Sheet", "Source", "HtmlType", "DivID", "Title"},
+                        &Self::add)
+                .method("Delete", {}, [](Self& self) { self.all().clear(); });
+        return table;
+    }
+
+private:
+    [[nodiscard]] std::vector<PublicationPtr>& all() const { return book().publications().all; }
+    [[nodiscard]] Object object(PublicationPtr what) const {
+        return makeObject<PublishObject>(home(), std::move(what));
+    }
+
+    Object add(const CallArguments& arguments);
+};
+
+enum AddArgument : std::size_t { SourceType, Filename, OfSheet, Source, HtmlType, DivId, Title };
+
+Object PublishObjects::add(const CallArguments& arguments) {
+    const std::int32_t type = arguments.at(SourceType).toLong();
+    const bool isChart = type == static_cast<std::int32_t>(Publication::Source::Chart);
+    if (!isChart && type != static_cast<std::int32_t>(Publication::Source::Range))
+        refuse(arguments.source(), "Only ranges and charts can be published");
+    if (arguments.at(HtmlType, PublishObject::staticPage).toLong() != PublishObject::staticPage)
+        refuse(arguments.source(), "Only pages that stay as they are can be published");
+    auto what = std::make_shared<Publication>();
+    what->source = isChart ? Publication::Source::Chart : Publication::Source::Range;
+    what->file = arguments.at(Filename).toText();
+    what->sheet = arguments.at(OfSheet, "").toText();
+    what->place = arguments.at(Source, "").toText();
+    what->divId = arguments.at(DivId, "").toText();
+    what->title = arguments.at(Title, "").toText();
+    const int number = ++book().publications().made;
+    if (what->divId.empty()) what->divId = fmt::format("item{}", number);
+    all().push_back(what);
+    return object(std::move(what));
+}
+
+}  // namespace
+
+Object publishObjectsObject(const InBook& home) {
+    return makeObject<PublishObjects>(home);
+}
+
+}  // namespace office::model::excel

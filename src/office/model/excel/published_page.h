@@ -1,0 +1,32 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace office::model::excel {
+
+/// A page that parts of workbooks are published to: a file that grows at its end and is a whole
+/// document at any time, and the folder beside it with its pictures.
+///
+/// Whatever can't be written is a `Failure` 75 with the file's name; the page is then as it was.
+class PublishedPage {
+public:
+    explicit PublishedPage(std::string_view file);
+
+    /// Whether there is such a file.
+    [[nodiscard]] bool exists() const;
+    /// Makes a page with nothing on it. An earlier one is replaced.
+    void begin(std::string_view title) const;
+    /// Adds markup ahead of the end of the body. `Failure` 1004 for a file that has none.
+    void append(std::string_view markup) const;
+    /// Keeps a picture beside the page, under a name that is free. The address that the page finds
+    /// it by.
+    [[nodiscard]] std::string addPicture(std::string_view png);
+
+private:
+    std::filesystem::path file_;
+    int lastPicture_ = 0;
+};
+
+}  // namespace office::model::excel
