@@ -263,8 +263,9 @@ void PosixHost::makeFolder(std::string_view path) {
     apps::makeFolder(std::string(path));
 }
 
-void PosixHost::removeEmptyFolder(std::string_view path) {
-    ::rmdir(std::string(path).c_str());
+void PosixHost::removeFolder(std::string_view path) {
+    std::error_code ignored;
+    fs::remove_all(fs::path(path), ignored);
 }
 
 bool PosixHost::folderCanBeWrittenTo(std::string_view path) {

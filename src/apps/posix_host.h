@@ -36,7 +36,7 @@ public:
     [[nodiscard]] bool pathExists(std::string_view path) override;
     [[nodiscard]] std::string outputFolder(std::string_view name) override;
     void makeFolder(std::string_view path) override;
-    void removeEmptyFolder(std::string_view path) override;
+    void removeFolder(std::string_view path) override;
     [[nodiscard]] bool folderCanBeWrittenTo(std::string_view path) override;
     void writeFile(std::string_view path, std::string_view text) override;
     void writeImage(std::string_view png, session::ImageFormat format,

@@ -24,7 +24,12 @@ WalkResult walkRows(RowBatch& batch,
             turn();
         } else {
             office::ContinueOnFailure scope;
-            if (!scope.attempt(turn)) batch.onFailedItem(row, *scope.lastFailure());
+            if (!scope.attempt(turn)) {
+                const office::Failure failure = *scope.lastFailure();
+                // A full disk is one for every item.
+                if (failure.is(office::FailureNumber::PathFileAccess)) throw failure;
+                batch.onFailedItem(row, failure);
+            }
         }
         ++result.done;
     }

@@ -15,7 +15,7 @@ struct RowBatch {
     session::OfficeSession& session;
     catalogue::ExportList& list;
     /// Told of each item that failed; the batch then goes on with the next one. Where there is
-    /// none, the failure goes to the caller.
+    /// none, the failure goes to the caller, as does one of a file that can't be written.
     std::function<void(const catalogue::ExportItem& row, const office::Failure& failure)>
         onFailedItem;
 };

@@ -67,13 +67,13 @@ struct CellLook {
 
 /// A block of cells as it is seen, hidden rows and columns left out.
 struct TableLook {
-    /// Where its first cell begins on the sheet.
-    double leftPt = 0;
-    double topPt = 0;
     std::vector<double> columnWidthsPt;
     std::vector<double> rowHeightsPt;
     /// Row by row.
     std::vector<CellLook> cells;
+    /// Where its first cell begins on the sheet.
+    double leftPt = 0;
+    double topPt = 0;
 
     [[nodiscard]] const CellLook& at(std::size_t row, std::size_t column) const {
         return cells.at(row * columnWidthsPt.size() + column);

@@ -16,6 +16,11 @@ bool leadsElsewhere(char sign) {
     return code < 0x20 || code == 0x7F || sign == '/' || sign == '\\';
 }
 
+/// What some system doesn't take.
+bool isReserved(char sign) {
+    return std::string_view(":*?\"<>|").find(sign) != std::string_view::npos;
+}
+
 }  // namespace
 
 void requireFileName(std::string_view name) {
@@ -28,13 +33,12 @@ void requireFileName(std::string_view name) {
 
 std::string safeFileName(std::string_view name) {
     constexpr std::size_t longest = 150;
-    constexpr std::string_view reserved = "%:*?\"<>|";
     std::string safe;
     for (const char sign : name) {
         const auto code = static_cast<unsigned char>(sign);
         const bool beginsCharacter = (code & 0xC0U) != 0x80U;
         if (safe.size() >= longest && beginsCharacter) break;
-        if (leadsElsewhere(sign) || reserved.find(sign) != std::string_view::npos) {
+        if (leadsElsewhere(sign) || isReserved(sign) || sign == '%') {
             safe += fmt::format("%{:02X}", code);
         } else {
             safe += sign;
@@ -47,6 +51,22 @@ std::string fileAddress(std::string_view path) {
     const std::string encoded = office::addressWord(office::replaceAll(path, "\\", "/"));
     return (path.starts_with('/') ? "file://" : "file:///") +
            office::replaceAll(encoded, "%2F", "/");
+}
+
+std::string readableFileName(std::string_view name, std::size_t longest) {
+    std::size_t length = std::min(name.size(), longest);
+    const auto continues = [&](std::size_t at) {
+        return at < name.size() && (static_cast<unsigned char>(name[at]) & 0xC0U) == 0x80U;
+    };
+    while (continues(length)) --length;
+    std::string readable(name.substr(0, length));
+    std::replace_if(
+        readable.begin(), readable.end(),
+        [](char sign) { return leadsElsewhere(sign) || isReserved(sign); }, '_');
+    if (readable.empty()) return "_";
+    for (char* const end : {&readable.front(), &readable.back()})
+        if (*end == '.' || *end == ' ') *end = '_';
+    return readable;
 }
 
 }  // namespace session

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -18,5 +19,10 @@ void requireFileName(std::string_view name);
 /// The address of a file on this machine, with the characters of its path escaped that an
 /// address can't hold.
 [[nodiscard]] std::string fileAddress(std::string_view path);
+
+/// A name for a file that the user sees: what file names can't hold on some system, blanks and
+/// points at its ends, and what would hide it stand as "_". No longer than `longest` bytes, and
+/// never empty.
+[[nodiscard]] std::string readableFileName(std::string_view name, std::size_t longest);
 
 }  // namespace session

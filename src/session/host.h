@@ -87,8 +87,9 @@ public:
     /// Makes a folder and those above it that are missing; one that is there already is fine.
     /// `office::Failure` 75 where a file is in the way, or it can't be made.
     virtual void makeFolder(std::string_view path) = 0;
-    /// Takes away a folder that holds nothing; silent about any other.
-    virtual void removeEmptyFolder(std::string_view path) = 0;
+    /// Takes away a folder with all that it holds, of one that this run has made. Links in it are
+    /// not followed. Failures are silent.
+    virtual void removeFolder(std::string_view path) = 0;
     /// Found out by trying. False for anything but a folder.
     [[nodiscard]] virtual bool folderCanBeWrittenTo(std::string_view path) = 0;
 

@@ -120,12 +120,15 @@ TEST_F(PosixHostTest, FoldersForOutputStandInAHomeOfAnyName) {
     host->makeFolder(made);
     EXPECT_TRUE(host->folderCanBeWrittenTo(made));
     host->writeFile(made + "/page.html", "x");
-    host->removeEmptyFolder(made);
-    EXPECT_TRUE(host->pathExists(made)) << "it holds something";
     EXPECT_EQ(support::failureOf([&] { host->makeFolder(made + "/page.html"); }), 75);
     EXPECT_EQ(support::failureOf([&] { host->makeFolder("/proc/none/at all"); }), 75);
     std::filesystem::create_symlink("/nowhere", made + "/link");
     EXPECT_TRUE(host->pathExists(made + "/link")) << "its name is taken";
+    host->makeFolder(folder.file("kept"));
+    std::filesystem::create_symlink(folder.file("kept"), made + "/other");
+    host->removeFolder(made);
+    EXPECT_FALSE(host->pathExists(made));
+    EXPECT_TRUE(host->pathExists(folder.file("kept")));
 }
 
 TEST_F(PosixHostTest, AFileThatCantBeWrittenLeavesTheEarlierOneAndNothingBesideIt) {

@@ -147,10 +147,10 @@ public:
         folders.emplace(path);
     }
 
-    void removeEmptyFolder(std::string_view path) override {
+    void removeFolder(std::string_view path) override {
         const std::string start = std::string(path) + "/";
-        const auto next = files.lower_bound(start);
-        if (next == files.end() || !next->starts_with(start)) folders.erase(std::string(path));
+        std::erase_if(files, [&](const std::string& file) { return file.starts_with(start); });
+        folders.erase(std::string(path));
     }
 
     [[nodiscard]] bool folderCanBeWrittenTo(std::string_view path) override {

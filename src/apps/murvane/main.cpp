@@ -9,6 +9,7 @@
 #include "apps/this_machine.h"
 #include "apps/version.h"
 #include "catalogue/inventory.h"
+#include "destinations/selection_to_image.h"
 #include "office/failure.h"
 #include "office/text.h"
 #include "powerpoint/selection_to_slide.h"
@@ -45,6 +46,7 @@ int runInTerminal(const std::string& commandLine, apps::Console& console,
     handlers.PasteSelectionToSlide = [&](session::SlidePaste mode) {
         powerpoint::PasteSelectionToSlide(session, mode);
     };
+    handlers.SaveSelectionAsImage = [&] { destinations::SaveSelectionAsImage(session); };
     return session::Main(session, commandLine, handlers);
 }
 

@@ -11,7 +11,10 @@
 #include "catalogue/inventory.h"
 #include "catalogue/userform_obj.h"
 #include "desktop/forms_runner.h"
+#include "destinations/html_dialog.h"
+#include "destinations/image_dialog.h"
 #include "destinations/pdf_dialog.h"
+#include "destinations/selection_to_image.h"
 #include "destinations/selection_to_word.h"
 #include "destinations/word_dialog.h"
 #include "panels/about_form.h"
@@ -137,9 +140,14 @@ void Windows::showMainForm() {
             case catalogue::Destination::Pdf:
                 destinations::StartPdfExport(session_, desktop_, list, choices);
                 return true;
-            default:
-                return false;
+            case catalogue::Destination::Html:
+                destinations::StartHtmlExport(session_, desktop_, list, choices);
+                return true;
+            case catalogue::Destination::ImageFiles:
+                destinations::StartImageExport(session_, desktop_, list, choices);
+                return true;
         }
+        return false;
     };
     hooks.InsertOneItem = [this](const catalogue::ExportItem& row,
                                  const catalogue::ExportChoices& choices) {
@@ -171,6 +179,7 @@ int pasteSelection(const DesktopSource& desktop, const std::string& commandLine,
     handlers.PasteSelectionToWord = [&](session::WordPaste mode) {
         destinations::PasteSelectionToWord(session, mode);
     };
+    handlers.SaveSelectionAsImage = [&] { destinations::SaveSelectionAsImage(session); };
     try {
         return session::Main(session, commandLine, handlers);
     } catch (const office::Failure& failure) {

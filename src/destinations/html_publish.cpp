@@ -1,0 +1,157 @@
+// The page that Excel writes.
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "catalogue/row_objects.h"
+#include "destinations/html_export.h"
+#include "office/failure_patterns.h"
+
+namespace destinations {
+
+namespace {
+
+using catalogue::ExportItem;
+using office::arg;
+using office::Object;
+using session::OfficeSession;
+
+constexpr std::int32_t rangeSource = 4;
+constexpr std::int32_t chartSource = 5;
+
+/// A sheet of empty cells that stand for blank lines: everything on a page is a part of the
+/// workbook. It goes again with this object, as does the mark of a change that it made.
+class BlankSheet {
+public:
+    explicit BlankSheet(OfficeSession& session) : session_(session) {
+        wasSaved_ = book().get("Saved").toBool();
+        // A protected workbook takes no sheet; the page is then without blank lines.
+        scope_.attempt([this] {
+            const Object sheets = book().get("Worksheets").toObject();
+            const Object last = sheets.get("Item", sheets.get("Count").toLong()).toObject();
+            sheet_ = sheets.call("Add", arg("After", last)).toObject();
+            sheet_.put("Name", std::string(name));
+        });
+    }
+    ~BlankSheet() {
+        try {
+            remove();
+        } catch (const office::Failure&) {
+            // The workbook has gone, or its suite: so has the sheet.
+            return;
+        }
+    }
+    BlankSheet(const BlankSheet&) = delete;
+    BlankSheet& operator=(const BlankSheet&) = delete;
+
+    static constexpr std::string_view name = "kukuMurvaneReservedName02";
+
+    [[nodiscard]] bool isThere() const { return !scope_.failed(); }
+
+private:
+    [[nodiscard]] const Object& book() const { return session_.ActiveBook; }
+
+    void remove() {
+        if (sheet_) {
+            const bool alerts = session_.ExcelApp.get("DisplayAlerts").toBool();
+            session_.ExcelApp.put("DisplayAlerts", false);
+            office::ContinueOnFailure scope;
+            scope.attempt([this] { sheet_.call("Delete"); });
+            session_.ExcelApp.put("DisplayAlerts", alerts);
+        }
+        if (wasSaved_) book().put("Saved", true);
+    }
+
+    OfficeSession& session_;
+    office::ContinueOnFailure scope_;
+    Object sheet_;
+    bool wasSaved_ = false;
+};
+
+/// One run of the export.
+class Publishing {
+public:
+    Publishing(OfficeSession& session, const HtmlOptions& options, std::string page)
+        : session_(session),
+          options_(options),
+          page_(std::move(page)),
+          records_(session.ActiveBook.get("PublishObjects").toObject()),
+          blank_(session) {
+        // Those of earlier runs are for pages that nobody asked for again.
+        records_.call("Delete");
+        if (blank_.isThere()) publish(rangeSource, std::string(blank_.name), "B1:B4", "");
+    }
+
+    void publishRow(const ExportItem& row) {
+        const std::string title = options_.useTitles ? row.caption : std::string();
+        if (row.isChartSheet()) {
+            publish(chartSource, row.sheet, "", title);
+        } else {
+            publish(rangeSource, row.sheet, addressOf(row), title);
+        }
+        ++published_;
+        constexpr std::int32_t mostLines = 100;
+        const std::int32_t lines = std::min(mostLines, options_.skipLines);
+        if (lines > 0 && blank_.isThere())
+            publish(rangeSource, std::string(blank_.name), fmt::format("A1:A{}", lines), "");
+    }
+
+    [[nodiscard]] int published() const { return published_; }
+
+private:
+    /// A chart on a worksheet goes with the cells under it.
+    [[nodiscard]] std::string addressOf(const ExportItem& row) {
+        if (!row.isEmbeddedChart()) {
+            const Object range = catalogue::rangeOf(session_, row);
+            if (!range) {
+                throw office::Failure(office::FailureNumber::ApplicationDefined, "Range",
+                                      fmt::format("Named range '{}' not found.", row.name));
+            }
+            return range.get("Address").toText();
+        }
+        const Object sheet = session_.ActiveBook.get("Sheets").get("Item", row.sheet).toObject();
+        const Object chart = sheet.call("ChartObjects").get("Item", row.name).toObject();
+        return sheet.get("Range", chart.get("TopLeftCell"), chart.get("BottomRightCell"))
+            .get("Address")
+            .toText();
+    }
+
+    void publish(std::int32_t type, const std::string& sheet, const std::string& source,
+                 const std::string& title) {
+        constexpr std::int32_t staticPage = 0;
+        const Object record =
+            records_.call("Add", type, page_, sheet, source, staticPage, "", title).toObject();
+        record.call("Publish", false);
+        record.put("AutoRepublish", false);
+    }
+
+    OfficeSession& session_;
+    const HtmlOptions& options_;
+    std::string page_;
+    Object records_;
+    BlankSheet blank_;
+    int published_ = 0;
+};
+
+}  // namespace
+
+HtmlResult PublishRowsToHtml(RowBatch& batch, const HtmlOptions& options) {
+    OfficeSession& session = batch.session;
+    HtmlFiles files(session, options);
+    HtmlResult result;
+    {
+        Publishing publishing(session, options, files.page());
+        result.walk = walkRows(batch, [&](const catalogue::TakenRow&, const ExportItem& row) {
+            publishing.publishRow(row);
+        });
+        if (publishing.published() > 0) {
+            files.keep();
+            result.file = files.page();
+        }
+    }
+    session.ExcelApp.put("ScreenUpdating", true);
+    return result;
+}
+
+}  // namespace destinations

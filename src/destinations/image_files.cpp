@@ -1,0 +1,109 @@
+#include "destinations/image_files.h"
+
+#include <fmt/format.h>
+
+#include <functional>
+#include <set>
+
+#include "destinations/row_picture.h"
+#include "office/text.h"
+#include "session/file_names.h"
+
+namespace destinations {
+
+namespace {
+
+using catalogue::ExportItem;
+using session::ImageFormat;
+using session::OfficeSession;
+
+std::string_view extensionOf(ImageFormat format) {
+    switch (format) {
+        case ImageFormat::Png:
+            return ".png";
+        case ImageFormat::Gif:
+            return ".gif";
+        case ImageFormat::Jpeg:
+            return ".jpg";
+        case ImageFormat::Bmp:
+            return ".bmp";
+        case ImageFormat::Tiff:
+            return ".tiff";
+    }
+    return {};
+}
+
+/// The names of one run's files.
+class Names {
+public:
+    using IsTaken = std::function<bool(const std::string& path)>;
+
+    Names(OfficeSession& session, const ImageFileOptions& options, IsTaken isTaken)
+        : options_(options),
+          isTaken_(std::move(isTaken)),
+          folder_(options.folder.empty() ? defaultImageFolder(session) : options.folder) {}
+
+    [[nodiscard]] const std::string& folder() const { return folder_; }
+
+    /// `index` is the row's, from 0.
+    std::string pathFor(const ExportItem& row, std::size_t index) {
+        // File systems take 255 bytes; some room is for the extension and the number.
+        constexpr std::size_t longest = 240;
+        const std::string name =
+            options_.names == FileNames::Numerator
+                ? fmt::format("{}", index + 1)
+                : session::readableFileName(row.name + "-" + row.sheet, longest);
+        std::string path = pathOf(name);
+        for (int number = 2; isUsed(path); ++number)
+            path = pathOf(fmt::format("{} ({})", name, number));
+        // Not every folder tells names apart that differ in case alone.
+        used_.insert(office::lowerCase(path));
+        return path;
+    }
+
+private:
+    [[nodiscard]] std::string pathOf(const std::string& name) const {
+        return fmt::format("{}/{}{}", folder_, name, extensionOf(options_.format));
+    }
+    [[nodiscard]] bool isUsed(const std::string& path) const {
+        return used_.contains(office::lowerCase(path)) || isTaken_(path);
+    }
+
+    const ImageFileOptions& options_;
+    IsTaken isTaken_;
+    std::string folder_;
+    std::set<std::string> used_;
+};
+
+}  // namespace
+
+std::string defaultImageFolder(OfficeSession& session) {
+    return session.host.outputFolder("MurvaneImages");
+}
+
+std::vector<std::string> plannedImageFiles(OfficeSession& session,
+                                           const catalogue::ExportList& list,
+                                           const ImageFileOptions& options) {
+    Names names(session, options, [](const std::string&) { return false; });
+    std::vector<std::string> files;
+    for (const catalogue::TakenRow& taken : catalogue::takeRows(session, list, {}))
+        files.push_back(names.pathFor(list.rows[taken.index], taken.index));
+    return files;
+}
+
+WalkResult ExportRowsToImageFiles(RowBatch& batch, const ImageFileOptions& options) {
+    OfficeSession& session = batch.session;
+    Names names(session, options, [&](const std::string& path) {
+        return !options.replaces && session.host.pathExists(path);
+    });
+    session.host.makeFolder(names.folder());
+    const WalkResult result =
+        walkRows(batch, [&](const catalogue::TakenRow& taken, const ExportItem& row) {
+            const std::string path = names.pathFor(row, taken.index);
+            session.host.writeImage(pictureOfRow(session, row), options.format, path);
+        });
+    session.ExcelApp.put("ScreenUpdating", true);
+    return result;
+}
+
+}  // namespace destinations

@@ -1,0 +1,40 @@
+#include "destinations/output_folder.h"
+
+#include <fmt/format.h>
+
+#include "catalogue/export_run.h"
+#include "office/failure_patterns.h"
+
+namespace destinations {
+
+std::int32_t takenRows(session::OfficeSession& session, const catalogue::ExportList& list,
+                       const catalogue::ExportChoices& choices) {
+    if (choices.predefinedSlides) return 0;
+    return office::orElse(
+        [&] {
+            return static_cast<std::int32_t>(catalogue::takeRows(session, list, choices).size());
+        },
+        0);
+}
+
+bool takesOutput(session::OfficeSession& session, const std::string& folder) {
+    office::ContinueOnFailure scope;
+    scope.attempt([&] { session.host.makeFolder(folder); });
+    return session.host.folderCanBeWrittenTo(folder);
+}
+
+std::string cantWriteTo(const std::string& folder) {
+    return fmt::format(
+        "Nothing can be written to the folder\r{}\rFree some room or change its "
+        "permissions, and try again.",
+        folder);
+}
+
+void openOrName(session::OfficeSession& session, const std::string& path) {
+    if (session.host.openFile(path)) return;
+    session::ShowNotice(session.notices,
+                        fmt::format("There is no program to open it with. It is here:\r{}", path),
+                        "Murvane", "info", session::buttons::okOnly);
+}
+
+}  // namespace destinations
