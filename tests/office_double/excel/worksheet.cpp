@@ -54,6 +54,8 @@ public:
         office::TableLook table;
         const office::Table values = read();
         if (source.kind == office::CopySource::Kind::Cells) {
+            table.leftPt = place().left;
+            table.topPt = place().top;
             table.columnWidthsPt.assign(values.columns(), Worksheet::columnWidth);
             table.rowHeightsPt.assign(values.rows(), Worksheet::rowHeight);
             for (std::size_t row = 1; row <= values.rows(); ++row) {
