@@ -46,11 +46,16 @@ TEST_F(WordContract, PutsWhatWasCopiedAtTheCaretInEachForm) {
             made.put("AlternativeText", "Figures");
             expectMembers(made,
                           {{"Width", 200.0}, {"Height", 90.0}, {"AlternativeText", "Figures"}});
-            if (form.placement != overText) continue;
-            made.call("Select");
-            selection().get("ShapeRange").put("Left", Value());
         }
     }
+}
+
+TEST_F(WordContract, PutsAPictureOverTheText) {
+    copy("chart");
+    selection().call("PasteSpecial", arg("DataType", 9), arg("Placement", 1));
+    ASSERT_EQ(shapes("Shapes").get("Count").toLong(), 1);
+    EXPECT_EQ(shapes("InlineShapes").get("Count").toLong(), 0);
+    shapes("Shapes").get("Item", 1).put("Left", Value());
 }
 
 TEST_F(WordContract, CountsObjectsInTheOrderOfReading) {

@@ -14,11 +14,15 @@ std::vector<std::string> paragraphsOf(const std::string& file) {
     const std::string part = "/word/document.xml";
     const package::Xml text(package::Package::open(file).read(part), part);
     std::vector<std::string> all;
+    bool breaksNext = false;
     for (const auto& paragraph : package::paragraphsIn(text.root())) {
-        std::string line = package::breaksPage(paragraph) ? "|" : "";
+        std::string line = breaksNext || package::breaksPage(paragraph) ? "|" : "";
+        breaksNext = false;
         package::visitInOrder(paragraph, [&](const auto& element) {
             const bool isObject = package::isTextObject(element);
             if (isObject) line += "*";
+            // At the end of the one before, as some programs write it.
+            if (package::isPageBreak(element)) breaksNext = true;
             return !isObject;
         });
         all.push_back(line + package::textOf(paragraph));

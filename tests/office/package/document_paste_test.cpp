@@ -147,6 +147,8 @@ TEST_F(DocumentPaste, MakesWhatTheFormSaysOfWhatWasCopied) {
         EXPECT_NEAR(object->size().width, 240, 0.1);
         object->resize({120, 75});
         object->setAlternativeText("Umsatz \"2026\" <b>");
+        object->select();
+        EXPECT_EQ(again->selectedObject() == object, row.anchoring == Anchoring::Floating);
         if (row.anchoring == Anchoring::Floating) object->setLeft(36);
         const auto changed = saved(*again)->objectAt(row.anchoring, 1);
         EXPECT_NEAR(changed->size().height, 75, 0.1);

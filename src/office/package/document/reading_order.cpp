@@ -18,6 +18,10 @@ bool isTextObject(pugi::xml_node element) {
     return (name == "object" || name == "pict") && isNamed(element, ns::word, name);
 }
 
+bool isPageBreak(pugi::xml_node element) {
+    return isNamed(element, ns::word, "br") && wordValue(element, "type") == "page";
+}
+
 std::vector<pugi::xml_node> paragraphsIn(pugi::xml_node parent) {
     std::vector<pugi::xml_node> found;
     visitInOrder(parent, [&](pugi::xml_node element) {
@@ -34,7 +38,7 @@ std::string textOf(pugi::xml_node paragraph) {
         if (isTextObject(element)) return false;
         if (isNamed(element, ns::word, "t")) text += element.text().get();
         if (isNamed(element, ns::word, "tab")) text += '\t';
-        if (isNamed(element, ns::word, "br")) text += '\n';
+        if (isNamed(element, ns::word, "br") && !isPageBreak(element)) text += '\n';
         return !isNamed(element, ns::word, "pPr");
     });
     return text;

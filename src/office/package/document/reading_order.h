@@ -16,6 +16,9 @@ void visitInOrder(pugi::xml_node parent, const std::function<bool(pugi::xml_node
 /// own.
 [[nodiscard]] bool isTextObject(pugi::xml_node element);
 
+/// Whether an element breaks the page in the midst of a paragraph.
+[[nodiscard]] bool isPageBreak(pugi::xml_node element);
+
 /// The paragraphs below an element, those of tables included, those of text boxes not.
 [[nodiscard]] std::vector<pugi::xml_node> paragraphsIn(pugi::xml_node parent);
 
