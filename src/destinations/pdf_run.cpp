@@ -171,9 +171,12 @@ void PdfPages::addItem(const ExportItem& row) {
     shape.put("Width", width * scale);
     shape.put("Height", height * scale);
     shape.put("AlternativeText", catalogue::DescriptionOf(row));
+    // In the middle of its room.
+    const double gap = std::max(0.0, (room - height * scale) / 2);
+    formatParagraph("SpaceBefore", gap);
     if (options_.includePath) {
         beginParagraph(style::normal);
-        formatParagraph("SpaceBefore", std::max(0.0, room - height * scale));
+        formatParagraph("SpaceBefore", gap);
         selection_.call("TypeText", fmt::format("{}  -  {}", workbook_, row.sheet));
     }
     isFirstPage_ = false;
