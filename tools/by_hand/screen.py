@@ -41,7 +41,8 @@ context = resolver.resolve(f"uno:pipe,name={sys.argv[1]};urp;StarOffice.Componen
 desktop = context.ServiceManager.createInstanceWithContext("com.sun.star.frame.Desktop", context)
 
 SERVICES = {"Presentation": "com.sun.star.presentation.PresentationDocument",
-            "Workbook": "com.sun.star.sheet.SpreadsheetDocument"}
+            "Workbook": "com.sun.star.sheet.SpreadsheetDocument",
+            "Text": "com.sun.star.text.TextDocument"}
 
 def document(kind):
     return next(each for each in desktop.Components if each.supportsService(SERVICES[kind]))

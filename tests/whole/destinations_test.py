@@ -1,0 +1,91 @@
+"""The destinations beside PowerPoint, through the main form and by one command."""
+
+from at_the_screen import BOOK, FORM, LIST, PAGE, AtTheScreen, unittest
+
+WORD, NOTICE = "DialogWord", "MurvaneNotice"
+PICTURES, EDITABLE, EMBEDDED = 0, 1, 2
+
+# A new document of one line, with its caret there.
+NEW_TEXT = """
+text = desktop.loadComponentFromURL("private:factory/swriter", "_blank", 0, ())
+text.Text.String = "Report"
+text.CurrentController.ViewCursor.gotoEnd(False)
+"""
+# What stands in it: pictures, objects, tables, pages, and the texts of captions.
+IN_TEXT = """
+text = document("Text")
+text.TextFields.refresh()
+paragraphs = [each for each in text.Text if each.supportsService("com.sun.star.text.Paragraph")]
+captions = [each.String for each in paragraphs if each.ParaStyleName in ("Caption", "Beschriftung")]
+print(text.GraphicObjects.Count, text.EmbeddedObjects.Count, text.TextTables.Count,
+      text.CurrentController.PageCount, "|".join(captions))
+"""
+SELECT = """
+book = document("Workbook")
+sheet = book.Sheets.getByName(sys.argv[2])
+book.CurrentController.setActiveSheet(sheet)
+exec(sys.argv[3])
+"""
+CELLS = 'book.CurrentController.select(sheet.getCellRangeByName("A1:F8"))'
+A_CHART = "book.CurrentController.select(sheet.DrawPage.getByIndex(0))"
+
+
+class TheDestinations(AtTheScreen):
+    def open_book_and_text(self):
+        self.open_sample(BOOK)
+        self.assertEqual(self.screen.use("/11").ended(), 0)
+        self.in_the_suite(NEW_TEXT)
+
+    def in_text(self):
+        counts, _, captions = self.in_the_suite(IN_TEXT).rstrip("\n").partition(" ")
+        pictures, objects, tables, pages, *captions = f"{counts} {captions}".split(" ", 4)
+        return int(pictures), int(objects), int(tables), int(pages), "".join(captions)
+
+    def choose(self, hand, destination, kinds=("chart-sheet", "chart", "range")):
+        """One item of each kind, for the destination."""
+        rows = hand.rows()
+        wanted = [next(i for i, row in enumerate(rows) if row["icon"] == "icon:" + kind) for kind in kinds]
+        for i, row in enumerate(rows):
+            if row["checked"] != (i in wanted):
+                hand.do("check-row", FORM, LIST, row=i)
+        hand.do("click", FORM, f"Option1({destination})")
+
+    def test_of_word_takes_pictures_charts_tables_and_workbooks(self):
+        self.open_book_and_text()
+        for number, arrives in ((PICTURES, (3, 0, 0)), (EDITABLE, (0, 2, 1)), (EMBEDDED, (0, 3, 0))):
+            with self.subTest(format=number):
+                before = self.in_text()
+                hand = self.open_main_form()
+                self.choose(hand, 1)
+                hand.do("click", FORM, f"OptionFormat({number})")
+                hand.do("click", FORM, "PasteIT")
+                hand.wait_for(WORD)
+                hand.wait_for_page(WORD, PAGE)
+                hand.do("click", WORD, "ContinueOk")
+                self.assertEqual(hand.ended(120), 0, hand.said())
+                after = self.in_text()
+                self.assertEqual(tuple(now - then for now, then in zip(after[:3], before[:3])), arrives)
+                self.assertEqual(after[3] - before[3], 3, "a page for each")
+
+    def test_of_the_selection_to_word(self):
+        self.open_book_and_text()
+        for sheet, selection, arrives in (("Revenue", CELLS, [(1, 0, 0), (0, 1, 0), (0, 0, 1)]),
+                                          ("Fleet", A_CHART, [(1, 0, 0), (0, 1, 0), None]),
+                                          ("Segment mix", "", [(1, 0, 0), (0, 1, 0), None])):
+            for code, made in zip(("/512", "/612", "/812"), arrives):
+                with self.subTest(sheet=sheet, code=code):
+                    self.in_the_suite(SELECT, sheet, selection)
+                    before = self.in_text()
+                    hand = self.screen.use(code)
+                    self.assertEqual(hand.ended(60), 0, hand.said())
+                    after = self.in_text()
+                    self.assertEqual(tuple(now - then for now, then in zip(after[:3], before[:3])),
+                                     made or (0, 0, 0))
+                    boxes = hand.end["boxes"]
+                    self.assertEqual(len(boxes), 0 if made else 1, boxes)
+                    if not made:
+                        self.assertIn("This icon refers to tables only", boxes[0])
+
+
+if __name__ == "__main__":
+    unittest.main()
