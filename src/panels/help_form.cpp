@@ -158,7 +158,7 @@ void HepPopup::wbHelp_DocumentComplete() {
     tmrFit.enabled = true;
 }
 
-void HepPopup::trimPage() {
+void HepPopup::trimPage() const {
     forms::BrowserView* document = wbHelp.view;
     if (document == nullptr) return;
     document->setBodyStyle("border", "none");

@@ -45,7 +45,7 @@ private:
     void wbHelp_DocumentComplete();
     /// True: the reader has dealt with the link itself.
     bool wbHelp_BeforeNavigate(std::string_view url);
-    void trimPage();
+    void trimPage() const;
     [[nodiscard]] bool fitPage();
     void tmrFit_Timer();
 
