@@ -122,7 +122,7 @@ void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anch
     const bool isPicture = copied.source().kind == CopySource::Kind::Picture;
     if (as == PasteAs::Linked) fail("LibreOffice links no object of a text document to a workbook");
     const Connection& connection = desk_.connection();
-    const UndoGroup steps(model(), "Paste");
+    const UndoGroup group(steps_, "Paste");
     if (as == PasteAs::Png || as == PasteAs::Metafile || (isPicture && as == PasteAs::Default)) {
         NewContent made(*this, "com.sun.star.text.TextGraphicObject", copied, anchoring);
         made.set("Graphic", pictureOf(copied, as, connection));

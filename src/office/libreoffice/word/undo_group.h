@@ -1,7 +1,8 @@
 #pragma once
 
-#include <com/sun/star/document/XUndoManagerSupplier.hpp>
-#include <com/sun/star/frame/XModel.hpp>
+#include <com/sun/star/document/XUndoManager.hpp>
+
+#include <utility>
 
 #include "office/libreoffice/uno_values.h"
 
@@ -10,8 +11,8 @@ namespace libreoffice::word {
 /// What is done during the life of this object, the user takes back by one step of the menu.
 class UndoGroup {
 public:
-    UndoGroup(const uno::Reference<css::frame::XModel>& document, const char* title)
-        : steps_(as<css::document::XUndoManagerSupplier>(document)->getUndoManager()) {
+    UndoGroup(uno::Reference<css::document::XUndoManager> steps, const char* title)
+        : steps_(std::move(steps)) {
         steps_->enterUndoContext(rtl::OUString::createFromAscii(title));
     }
     UndoGroup(const UndoGroup&) = delete;

@@ -34,9 +34,9 @@ WriterCaptions::WriterCaptions(const uno::Reference<css::frame::XModel>& documen
     : factory_(as<css::lang::XMultiServiceFactory>(document)),
       counters_(as<css::text::XTextFieldsSupplier>(document)->getTextFieldMasters()) {}
 
-const WriterCaptions::Counter& WriterCaptions::counterOf(const std::string& label) {
+WriterCaptions::Counter& WriterCaptions::counterOf(const std::string& label) {
     Counter& counter = known_[office::lowerCase(label)];
-    if (!counter.is()) counter = findCounter(label);
+    if (!counter.master.is()) counter = findCounter(label);
     return counter;
 }
 
@@ -46,28 +46,33 @@ WriterCaptions::Counter WriterCaptions::findCounter(const std::string& label) {
     for (int number = 1;; ++number) {
         const auto name = toUno(model::sequenceName(label, number));
         if (!counters_->hasByName(family + "." + name)) {
-            Counter counter(factory_->createInstance(family), uno::UNO_QUERY_THROW);
-            setProperty(counter, "Name", name);
+            Counter counter;
+            counter.master.set(factory_->createInstance(family), uno::UNO_QUERY_THROW);
+            setProperty(counter.master, "Name", name);
             // Otherwise a .docx would hold the number as a variable, not as that of a caption.
-            setProperty(counter, "SubType", css::text::SetVariableType::SEQUENCE);
+            setProperty(counter.master, "SubType", css::text::SetVariableType::SEQUENCE);
             return counter;
         }
-        Counter counter(counters_->getByName(family + "." + name), uno::UNO_QUERY_THROW);
-        const auto fields = property<Fields>(counter, "DependentTextFields");
+        Counter counter;
+        counter.master.set(counters_->getByName(family + "." + name), uno::UNO_QUERY_THROW);
+        const auto fields = property<Fields>(counter.master, "DependentTextFields");
+        counter.captions = fields.getLength();
         const bool isFree = !fields.hasElements();
         if (isFree || office::sameIgnoringCase(office::trim(labelAhead(fields[0])), label))
             return counter;
     }
 }
 
-uno::Reference<css::text::XTextRange> WriterCaptions::insertBelow(
+WriterCaptions::Written WriterCaptions::insertBelow(
     const uno::Reference<css::text::XTextRange>& place, const model::Caption& caption) {
-    const auto& counter = counterOf(std::string(office::trim(caption.label)));
+    Counter& counter = counterOf(std::string(office::trim(caption.label)));
     const FieldRef number(factory_->createInstance("com.sun.star.text.textfield.SetExpression"),
                           uno::UNO_QUERY_THROW);
     setProperty(number, "NumberingType", css::style::NumberingType::ARABIC);
-    setProperty(number, "Content", property<rtl::OUString>(counter, "Name") + "+1");
-    number->attachTextFieldMaster(counter);
+    setProperty(number, "Content", property<rtl::OUString>(counter.master, "Name") + "+1");
+    number->attachTextFieldMaster(counter.master);
+    // What is shown until LibreOffice counts by itself: in a text that came as a .docx it waits.
+    setProperty(number, "CurrentPresentation", rtl::OUString::number(++counter.captions));
 
     const auto text = place->getText();
     const auto cursor = text->createTextCursorByRange(place->getEnd());
@@ -81,7 +86,8 @@ uno::Reference<css::text::XTextRange> WriterCaptions::insertBelow(
     text->insertString(end, toUno(caption.label + " "), false);
     text->insertTextContent(end, as<css::text::XTextContent>(number), false);
     text->insertString(end, toUno(caption.title), false);
-    return end;
+    const auto behind = text->createTextCursorByRange(end);
+    return {end, !as<css::text::XParagraphCursor>(behind)->gotoNextParagraph(false)};
 }
 
 }  // namespace libreoffice::word

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XNameAccess.hpp>
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/text/XTextRange.hpp>
 
+#include <cstdint>
 #include <map>
 #include <string>
 
@@ -19,15 +21,23 @@ class WriterCaptions {
 public:
     explicit WriterCaptions(const uno::Reference<css::frame::XModel>& document);
 
-    /// Writes a caption into a new paragraph below that of a place in the text; its end.
-    [[nodiscard]] uno::Reference<css::text::XTextRange> insertBelow(
-        const uno::Reference<css::text::XTextRange>& place,
-        const office::model::word::Caption& caption);
+    /// A caption that was written, and whether others may stand behind it, which have to be
+    /// numbered anew.
+    struct Written {
+        uno::Reference<css::text::XTextRange> end;
+        bool isLast = false;
+    };
+    /// Writes a caption into a new paragraph below that of a place in the text.
+    [[nodiscard]] Written insertBelow(const uno::Reference<css::text::XTextRange>& place,
+                                      const office::model::word::Caption& caption);
 
 private:
-    using Counter = uno::Reference<css::beans::XPropertySet>;
+    struct Counter {
+        uno::Reference<css::beans::XPropertySet> master;
+        std::int32_t captions = 0;
+    };
 
-    [[nodiscard]] const Counter& counterOf(const std::string& label);
+    [[nodiscard]] Counter& counterOf(const std::string& label);
     [[nodiscard]] Counter findCounter(const std::string& label);
 
     uno::Reference<css::lang::XMultiServiceFactory> factory_;

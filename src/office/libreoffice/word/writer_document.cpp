@@ -1,7 +1,7 @@
 #include "office/libreoffice/word/writer_document.h"
 
 #include <com/sun/star/document/XDocumentPropertiesSupplier.hpp>
-#include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
 #include <com/sun/star/text/ControlCharacter.hpp>
 #include <com/sun/star/text/XTextDocument.hpp>
@@ -54,6 +54,8 @@ WriterDocument::WriterDocument(Desk& desk, uno::Reference<css::frame::XModel> op
       desk_(desk),
       body_(as<css::text::XTextDocument>(model())->getText()),
       factory_(as<css::lang::XMultiServiceFactory>(model())),
+      steps_(as<css::document::XUndoManagerSupplier>(model())->getUndoManager()),
+      file_(as<css::frame::XStorable>(model())),
       caret_(model()),
       captions_(model()) {}
 
@@ -71,7 +73,7 @@ std::int32_t WriterDocument::length() {
 }
 
 void WriterDocument::requireWritable(const RangeRef& place, const std::string& member) {
-    if (as<css::frame::XStorable>(model())->isReadonly())
+    if (file_->isReadonly())
         throw Failure(FailureNumber::ApplicationDefined, member,
                       fmt::format("\"{}\" is opened for reading only", name()));
     word::requireWritable(place, member);
@@ -87,14 +89,14 @@ void WriterDocument::appendParagraph() {
 void WriterDocument::changeLastParagraph(const model::ParagraphChange& change) {
     const auto end = body_->getEnd();
     requireWritable(end, "ParagraphFormat");
-    const UndoGroup steps(model(), "Paragraph");
+    const UndoGroup group(steps_, "Paragraph");
     word::changeParagraph(body_->createTextCursorByRange(end), change);
 }
 
 void WriterDocument::changeParagraph(const model::ParagraphChange& change) {
     const auto& range = caret_.range();
     requireWritable(range, "ParagraphFormat");
-    const UndoGroup steps(model(), "Paragraph");
+    const UndoGroup group(steps_, "Paragraph");
     word::changeParagraph(caret_.text()->createTextCursorByRange(range), change);
 }
 
@@ -110,7 +112,7 @@ void WriterDocument::removeSelected() {
 /// Line ends become paragraphs.
 void WriterDocument::typeText(const std::string& text) {
     requireWritable(caret_.range(), "Selection.TypeText");
-    const UndoGroup steps(model(), "Typing");
+    const UndoGroup group(steps_, "Typing");
     removeSelected();
     const auto place = caret_.text();
     const auto& range = caret_.range();
@@ -126,7 +128,7 @@ void WriterDocument::typeText(const std::string& text) {
 
 void WriterDocument::typeParagraph() {
     requireWritable(caret_.range(), "Selection.TypeParagraph");
-    const UndoGroup steps(model(), "Typing");
+    const UndoGroup group(steps_, "Typing");
     removeSelected();
     caret_.text()->insertControlCharacter(caret_.range(), PARAGRAPH_BREAK, false);
 }
@@ -158,7 +160,7 @@ void WriterDocument::setPage(const model::Page& page) {
     const auto set = [&](const char* name, double points, std::int32_t less = 0) {
         setProperty(style, name, std::max<sal_Int32>(0, hundredthMmOf(points) - less));
     };
-    const UndoGroup steps(model(), "Page");
+    const UndoGroup group(steps_, "Page");
     setProperty(style, "IsLandscape", page.width > page.height);
     set("Width", page.width);
     set("Height", page.height);
@@ -171,8 +173,10 @@ void WriterDocument::setPage(const model::Page& page) {
 void WriterDocument::insertCaption(const model::Caption& caption) {
     const auto& range = caret_.range();
     requireWritable(range, "Selection.InsertCaption");
-    const UndoGroup steps(model(), "Caption");
-    caret_.goTo(captions_.insertBelow(range, caption));
+    const UndoGroup group(steps_, "Caption");
+    const auto written = captions_.insertBelow(range, caption);
+    if (!written.isLast) refreshFields();
+    caret_.goTo(written.end);
 }
 
 WriterObjects& WriterDocument::objects() {

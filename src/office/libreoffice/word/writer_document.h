@@ -1,5 +1,7 @@
 #pragma once
 
+#include <com/sun/star/document/XUndoManager.hpp>
+#include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/text/XText.hpp>
 
@@ -72,12 +74,14 @@ private:
     void insertObject(const ContentRef& object);
     [[nodiscard]] uno::Reference<css::beans::XPropertySet> pageStyle();
     [[nodiscard]] WriterObjects& objects();
-    /// Fields follow a change at the next pause of the suite only.
+    /// Fields follow a change at the next pause of the suite only, those of some files not at all.
     void refreshFields();
 
     Desk& desk_;
     uno::Reference<css::text::XText> body_;
     uno::Reference<css::lang::XMultiServiceFactory> factory_;
+    uno::Reference<css::document::XUndoManager> steps_;
+    uno::Reference<css::frame::XStorable> file_;
     WriterCaret caret_;
     WriterCaptions captions_;
     std::unique_ptr<WriterObjects> objects_;
