@@ -1,6 +1,7 @@
 #include "office/libreoffice/word/writer_object.h"
 
 #include <com/sun/star/awt/Size.hpp>
+#include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/table/ShadowFormat.hpp>
 #include <com/sun/star/text/HoriOrientation.hpp>
 #include <com/sun/star/text/RelOrientation.hpp>
@@ -35,6 +36,7 @@ ShadowFormat fallingShadow() {
 
 WriterObject::WriterObject(ContentRef content, WriterDocument& document)
     : content_(std::move(content)),
+      name_(as<css::container::XNamed>(content_)->getName()),
       properties_(as<css::beans::XPropertySet>(content_)),
       document_(document),
       anchoring_(property<css::text::TextContentAnchorType>(properties_, "AnchorType") ==

@@ -23,6 +23,8 @@ public:
     WriterObject(ContentRef content, WriterDocument& document);
 
     [[nodiscard]] const ContentRef& content() const { return content_; }
+    /// What tells it from the others: the same object comes as another reference now and then.
+    [[nodiscard]] const rtl::OUString& name() const { return name_; }
     [[nodiscard]] model::Anchoring anchoring() const { return anchoring_; }
 
     [[nodiscard]] bool isGone() const override;
@@ -38,6 +40,7 @@ public:
 
 private:
     ContentRef content_;
+    rtl::OUString name_;
     uno::Reference<css::beans::XPropertySet> properties_;
     WriterDocument& document_;
     model::Anchoring anchoring_;

@@ -1,5 +1,6 @@
 #include "office/libreoffice/word/writer_objects.h"
 
+#include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/text/XTextEmbeddedObjectsSupplier.hpp>
 #include <com/sun/star/text/XTextGraphicObjectsSupplier.hpp>
 
@@ -23,10 +24,10 @@ std::int32_t WriterObjects::countThere() {
     return pictures_->getCount() + embedded_->getCount();
 }
 
-WriterObjectPtr WriterObjects::known(const ContentRef& content) const {
+WriterObjectPtr WriterObjects::known(const rtl::OUString& name) const {
     for (const auto* list : {&inOrder_, &elsewhere_}) {
         for (const auto& object : *list) {
-            if (object->content().get() == content.get()) return object;
+            if (object->name() == name) return object;
         }
     }
     return nullptr;
@@ -39,7 +40,7 @@ void WriterObjects::refresh() {
         const sal_Int32 count = list->getCount();
         for (sal_Int32 i = 0; i < count; ++i) {
             const ContentRef content(list->getByIndex(i), uno::UNO_QUERY_THROW);
-            auto object = known(content);
+            auto object = known(as<css::container::XNamed>(content)->getName());
             all.push_back(object ? object : std::make_shared<WriterObject>(content, document_));
         }
     }
@@ -91,9 +92,10 @@ WriterObjectPtr WriterObjects::at(model::Anchoring anchoring, std::int32_t place
 }
 
 WriterObjectPtr WriterObjects::recordOf(const ContentRef& content) {
-    if (!content.is()) return nullptr;
+    const auto named = tryAs<css::container::XNamed>(content);
+    if (!named.is()) return nullptr;
     refresh();
-    return known(content);
+    return known(named->getName());
 }
 
 }  // namespace libreoffice::word

@@ -32,7 +32,7 @@ public:
 private:
     void refresh();
     void insert(const WriterObjectPtr& object);
-    [[nodiscard]] WriterObjectPtr known(const ContentRef& content) const;
+    [[nodiscard]] WriterObjectPtr known(const rtl::OUString& name) const;
     [[nodiscard]] std::int32_t countThere();
 
     WriterDocument& document_;
