@@ -1,5 +1,8 @@
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <set>
+
 #include "office/package/document_files.h"
 #include "office/package/small_workbook.h"
 #include "support/automation.h"
@@ -154,6 +157,34 @@ TEST_F(DocumentPaste, MakesWhatTheFormSaysOfWhatWasCopied) {
         EXPECT_NEAR(changed->size().height, 75, 0.1);
         EXPECT_EQ(changed->alternativeText(), "Umsatz \"2026\" <b>");
     }
+}
+
+/// What each of them brings along is there once, and their numbers differ after reloading, too.
+TEST_F(DocumentPaste, TakesManyObjectsOfOneWorkbook) {
+    const CopySource cells{Kind::Cells, writeBook(), "Data", "", "$A$1:$B$2"};
+    auto document = open();
+    for (int round = 0; round < 2; ++round) {
+        for (const PasteAs as : {PasteAs::Embedded, PasteAs::Linked, PasteAs::Png})
+            document->paste(CopiedItem(cells, {240, 150}), as, Anchoring::Inline);
+        document = saved(*document);
+    }
+    EXPECT_EQ(document->objectCount(Anchoring::Inline), 6);
+    int types = 0;
+    std::set<std::string> ids;
+    visitInOrder(document->body(), [&](pugi::xml_node element) {
+        if (localName(element) == "shapetype") ++types;
+        for (const char* const name : {"shape", "docPr"}) {
+            if (localName(element) == name) {
+                EXPECT_TRUE(ids.insert(element.attribute("id").value()).second) << name;
+            }
+        }
+        return true;
+    });
+    EXPECT_EQ(types, 1);
+    const auto parts = document->package().parts();
+    EXPECT_EQ(std::count_if(parts.begin(), parts.end(),
+                            [](const auto& part) { return part.starts_with("/word/media/"); }),
+              2);
 }
 
 TEST_F(DocumentPaste, GivesPicturesAndChartsAShadow) {

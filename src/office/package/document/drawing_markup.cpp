@@ -92,8 +92,9 @@ std::string objectRun(word::Anchoring anchoring, const ObjectMarkup& object) {
         R"(<w:r><w:object w:dxaOrig="{}" w:dyaOrig="{}">{}<v:shape id="{}" type="#_x0000_t75" )"
         R"(style="{}width:{:.2f}pt;height:{:.2f}pt" o:ole=""><v:imagedata r:id="{}" o:title=""/>)"
         R"({}</v:shape>{}</w:object></w:r>)",
-        twipsOf(object.size.width), twipsOf(object.size.height), pictureShapeType, shape,
-        isOver ? place : "", object.size.width, object.size.height, object.preview,
+        twipsOf(object.size.width), twipsOf(object.size.height),
+        object.hasShapeType ? pictureShapeType : "", shape, isOver ? place : "", object.size.width,
+        object.size.height, object.preview,
         isOver ? R"(<w10:wrap xmlns:w10="urn:schemas-microsoft-com:office:word" )"
                  R"(type="topAndBottom"/>)"
                : "",

@@ -30,7 +30,10 @@ struct ObjectMarkup {
     std::string workbook;
     std::string programId;
     bool isLink = false;
+    /// Whether it brings the kind of shape along that its picture is.
+    bool hasShapeType = false;
 };
+inline constexpr const char* pictureShapeTypeId = "_x0000_t75";
 /// A run with an object in the older markup, which is the only one that Word has for it.
 [[nodiscard]] std::string objectRun(office::model::word::Anchoring anchoring,
                                     const ObjectMarkup& object);

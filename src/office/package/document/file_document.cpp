@@ -221,11 +221,12 @@ void FileDocument::setPage(const word::Page& page) {
     setPageOf(section, page);
 }
 
-unsigned FileDocument::freeDrawingId() {
+void FileDocument::readDrawingIds() {
     struct Walker : pugi::xml_tree_walker {
         bool for_each(pugi::xml_node& node) override {
             const std::string id = node.attribute("id").value();
             if (localName(node) == "docPr") taken.insert(node.attribute("id").as_uint());
+            if (id == pictureShapeTypeId) hasShapeType = true;
             // "_x0000_i1025"
             const auto number = id.find_last_not_of("0123456789") + 1;
             if (isNamed(node, ns::vml, "shape") && number < id.size()) {
@@ -236,15 +237,23 @@ unsigned FileDocument::freeDrawingId() {
             return true;
         }
         std::set<unsigned> taken;
-    };
-    if (!drawingIds_) {
-        Walker walker;
-        body_.traverse(walker);
-        drawingIds_ = std::move(walker.taken);
-    }
+        bool hasShapeType = false;
+    } walker;
+    body_.traverse(walker);
+    drawingIds_ = std::move(walker.taken);
+    hasShapeType_ = walker.hasShapeType;
+}
+
+unsigned FileDocument::freeDrawingId() {
+    if (!drawingIds_) readDrawingIds();
     do ++lastDrawingId_;
     while (drawingIds_->contains(lastDrawingId_));
     return lastDrawingId_;
+}
+
+bool FileDocument::takesShapeType() {
+    if (!drawingIds_) readDrawingIds();
+    return !std::exchange(hasShapeType_, true);
 }
 
 std::vector<FileObjectPtr>& FileDocument::objects() {

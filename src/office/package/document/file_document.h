@@ -40,6 +40,9 @@ public:
     [[nodiscard]] std::string stem(std::string_view name) const;
     /// A number that no drawing or object has, and none gets again.
     [[nodiscard]] unsigned freeDrawingId();
+    /// Whether an object has to bring along the kind of shape that its picture is: none of the text
+    /// has so far. It counts as there from now on.
+    [[nodiscard]] bool takesShapeType();
     /// Puts a run with an object in at the caret, which stays behind it.
     void insertObject(const std::string& run);
     /// Puts a table in at the caret, which goes behind it.
@@ -102,6 +105,7 @@ private:
     [[nodiscard]] pugi::xml_node sectionAtCaret() const;
     [[nodiscard]] std::vector<FileObjectPtr>& objects();
     void readObjects();
+    void readDrawingIds();
 
     Package package_;
     std::string path_;
@@ -117,6 +121,7 @@ private:
     std::optional<std::vector<FileObjectPtr>> objects_;
     std::optional<std::set<unsigned>> drawingIds_;
     unsigned lastDrawingId_ = 0;
+    bool hasShapeType_ = false;
     std::optional<std::int32_t> tables_;
     std::weak_ptr<FileObject> selected_;
     std::function<void(FileDocument&)> closed_;

@@ -78,7 +78,8 @@ void pasteObject(FileDocument& document, const Copied& copied, PasteAs as,
                                                 .preview = preview.relationship,
                                                 .workbook = behind.relationship,
                                                 .programId = behind.programId,
-                                                .isLink = isLink}));
+                                                .isLink = isLink,
+                                                .hasShapeType = document.takesShapeType()}));
 }
 
 }  // namespace
