@@ -289,8 +289,11 @@ TableLook withoutUnseenLines(const TableLook& table) {
         keptRows.insert(i / columns);
         keptColumns.insert(i % columns);
     }
-    TableLook seen{
-        joined(table.columnWidthsPt, keptColumns), joined(table.rowHeightsPt, keptRows), {}};
+    TableLook seen = {joined(table.columnWidthsPt, keptColumns),
+                      joined(table.rowHeightsPt, keptRows),
+                      {},
+                      table.leftPt,
+                      table.topPt};
     for (const std::size_t row : keptRows) {
         for (const std::size_t column : keptColumns) {
             seen.cells.push_back(table.at(row, column));

@@ -88,7 +88,7 @@ std::string barStyle(const CellBar& bar) {
     const double place = width < 1 ? bar.from / (1 - width) : 0;
     return fmt::format(
         "background-image:linear-gradient(to right,{},{});background-repeat:no-repeat;"
-        "background-size:{:.4g}% 100%;background-position:{:.4g}% 0;",
+        "background-size:{:.4g}% calc(100% - 4px);background-position:{:.4g}% 50%;",
         colourText(bar.leftColour), colourText(bar.rightColour), width * 100, place * 100);
 }
 
