@@ -2,6 +2,8 @@
 
 #include "apps/utf8.h"
 #include "catalogue/row_copies.h"
+#include "destinations/html_export.h"
+#include "destinations/image_files.h"
 #include "destinations/pdf_run.h"
 #include "destinations/word_batch.h"
 #include "powerpoint/formats.h"
@@ -127,6 +129,50 @@ private:
     session::OfficeSession live_;
 };
 
+class HtmlJob : public Job {
+public:
+    explicit HtmlJob(const JobScene& scene) : scene_(scene) {}
+
+    std::int32_t exportTo(const std::string& neighbour) override {
+        /// Of a page's width in pixels, a hundredth.
+        constexpr double percentPx = 10;
+        const Options& options = scene_.options;
+        destinations::RowBatch batch{scene_.session, scene_.list, scene_.onFailedItem};
+        const destinations::HtmlOptions html{.useTitles = options.titles.value_or(true),
+                                             .widthPx = options.sizePercent * percentPx,
+                                             .skipLines = options.blankLines,
+                                             .folder = neighbour};
+        const auto result = options.sameWidth ? destinations::ExportRowsToHtmlAsImages(batch, html)
+                                              : destinations::PublishRowsToHtml(batch, html);
+        scene_.list.selected = -1;
+        return result.walk.done;
+    }
+
+private:
+    JobScene scene_;
+};
+
+class ImagesJob : public Job {
+public:
+    explicit ImagesJob(const JobScene& scene) : scene_(scene) {}
+
+    std::int32_t exportTo(const std::string& neighbour) override {
+        using destinations::FileNames;
+        const Options& options = scene_.options;
+        destinations::RowBatch batch{scene_.session, scene_.list, scene_.onFailedItem};
+        const auto result = destinations::ExportRowsToImageFiles(
+            batch, {.format = options.imageFormat,
+                    .names = options.numbersFiles ? FileNames::Numerator : FileNames::NameAndSheet,
+                    .folder = neighbour,
+                    .replaces = false});
+        scene_.list.selected = -1;
+        return result.done;
+    }
+
+private:
+    JobScene scene_;
+};
+
 }  // namespace
 
 std::unique_ptr<Job> makeJob(Destination destination, const JobScene& scene) {
@@ -135,6 +181,10 @@ std::unique_ptr<Job> makeJob(Destination destination, const JobScene& scene) {
             return std::make_unique<WordJob>(scene);
         case Destination::Pdf:
             return std::make_unique<PdfJob>(scene);
+        case Destination::Html:
+            return std::make_unique<HtmlJob>(scene);
+        case Destination::ImageFiles:
+            return std::make_unique<ImagesJob>(scene);
         default:
             return std::make_unique<SlidesJob>(scene);
     }
