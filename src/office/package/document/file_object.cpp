@@ -147,11 +147,12 @@ void FileObject::setShadow(const word::ObjectShadow& shadow) {
     if (!room) return;
     const double fall = shadow.isShown ? fallPt / std::numbers::sqrt2 : 0;
     const double reach = shadow.isShown ? shadow.blur : 0;
+    // Beside it the shadow may fall into the margins, or the object would make way for it.
     const auto side = [&](const char* name, double points) {
         attributeFor(room, name).set_value(emuOf(std::max(points, 0.0)));
     };
-    for (const char* const name : {"l", "t"}) side(name, reach - fall);
-    for (const char* const name : {"r", "b"}) side(name, reach + fall);
+    side("t", reach - fall);
+    side("b", reach + fall);
 }
 
 void FileObject::setLeft(double left) {
