@@ -1,8 +1,8 @@
 """The destinations beside PowerPoint, through the main form and by one command."""
 
-from at_the_screen import BOOK, FORM, LIST, PAGE, AtTheScreen, unittest
+from at_the_screen import BOOK, FORM, LIST, PAGE, AtTheScreen, unittest, wait_until
 
-WORD, NOTICE = "DialogWord", "MurvaneNotice"
+WORD, HTML, IMAGES = "DialogWord", "DialogHTML", "DialogImageFiles"
 PICTURES, EDITABLE, EMBEDDED = 0, 1, 2
 
 # A new document of one line, with its caret there.
@@ -26,6 +26,7 @@ sheet = book.Sheets.getByName(sys.argv[2])
 book.CurrentController.setActiveSheet(sheet)
 exec(sys.argv[3])
 """
+SHEETS = 'print(*document("Workbook").Sheets.ElementNames, sep="|")'
 CELLS = 'book.CurrentController.select(sheet.getCellRangeByName("A1:F8"))'
 A_CHART = "book.CurrentController.select(sheet.DrawPage.getByIndex(0))"
 
@@ -85,6 +86,51 @@ class TheDestinations(AtTheScreen):
                     self.assertEqual(len(boxes), 0 if made else 1, boxes)
                     if not made:
                         self.assertIn("This icon refers to tables only", boxes[0])
+
+    def open_options(self, hand, destination, dialog):
+        self.choose(hand, destination)
+        hand.do("click", FORM, "PasteIT")
+        hand.wait_for(dialog)
+        hand.wait_for_page(dialog, PAGE)
+
+    def note_what_is_opened(self):
+        """The file in which the path stands that the program has opened."""
+        opener = self.screen.folder / "opener"
+        opener.mkdir()
+        (opener / "xdg-open").write_text(f"#!/bin/sh\nprintf %s \"$1\" > '{opener}/opened'\n")
+        (opener / "xdg-open").chmod(0o755)
+        self.screen.environment["PATH"] = f"{opener}:{self.screen.environment['PATH']}"
+        return opener / "opened"
+
+    def test_of_html_publishes_a_page_with_its_pictures(self):
+        opened = self.note_what_is_opened()
+        self.open_sample(BOOK)
+        hand = self.open_main_form()
+        self.open_options(hand, 2, HTML)
+        hand.do("click", HTML, "ContinueOk")
+        self.assertEqual(hand.ended(120), 0, hand.said())
+        folder = self.folder / "MurvaneHTML"
+        self.assertEqual(opened.read_text(), str(folder / "MurvaneHTML101.html"))
+        page = (folder / "MurvaneHTML101.html").read_text()
+        self.assertEqual(page.count("<img"), 2)
+        self.assertGreaterEqual(page.count("<table"), 1)
+        self.assertEqual(len(list((folder / "MurvaneHTML101_files").iterdir())), 2)
+        self.assertNotIn("Reserved", self.in_the_suite(SHEETS))
+
+    def test_of_image_files_are_of_the_format_that_was_chosen(self):
+        opened = self.note_what_is_opened()
+        self.open_sample(BOOK)
+        hand = self.open_main_form()
+        self.open_options(hand, 4, IMAGES)
+        hand.do("follow", IMAGES, PAGE, href="murvane://select/imgFormat/jpeg")
+        wait_until(lambda: hand.value(IMAGES, "Jpeg"), what="the format")
+        hand.do("click", IMAGES, "ContinueOk")
+        self.assertEqual(hand.ended(60), 0, hand.said())
+        self.assertEqual(opened.read_text(), str(self.folder / "MurvaneImages"))
+        files = sorted((self.folder / "MurvaneImages").iterdir())
+        self.assertEqual(len(files), 3)
+        for file in files:
+            self.assertTrue(file.name.endswith(".jpg") and file.read_bytes().startswith(b"\xff\xd8\xff"), file)
 
 
 if __name__ == "__main__":
