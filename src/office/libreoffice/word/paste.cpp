@@ -1,4 +1,7 @@
 #include <com/sun/star/awt/Size.hpp>
+#include <com/sun/star/embed/EmbedStates.hpp>
+#include <com/sun/star/embed/XEmbedPersist.hpp>
+#include <com/sun/star/embed/XEmbeddedObject.hpp>
 #include <com/sun/star/graphic/XGraphicProvider.hpp>
 #include <com/sun/star/text/HoriOrientation.hpp>
 #include <com/sun/star/text/RelOrientation.hpp>
@@ -150,6 +153,12 @@ void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anch
         objects::fillWorkbook(
             connection, here,
             property<uno::Reference<css::frame::XModel>>(made.content(), "Model"));
+        // LibreOffice puts objects to rest when there are many, and forgets their pictures then:
+        // this one rests before it gets its own.
+        const auto workbook =
+            property<uno::Reference<css::embed::XEmbeddedObject>>(made.content(), "EmbeddedObject");
+        uno::Reference<css::embed::XEmbedPersist>(workbook, uno::UNO_QUERY_THROW)->storeOwn();
+        workbook->changeState(css::embed::EmbedStates::LOADED);
         made.set("Graphic", picture);
     }
     insertObject(made.content());
