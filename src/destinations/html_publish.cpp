@@ -20,14 +20,35 @@ using session::OfficeSession;
 constexpr std::int32_t rangeSource = 4;
 constexpr std::int32_t chartSource = 5;
 
+/// Keeps a workbook's mark of a change over what the program does in between. What the user types
+/// meanwhile, in the time that an export takes, is never marked as saved.
+class KeptMark {
+public:
+    explicit KeptMark(const Object& book) : book_(book), wasSaved_(book.get("Saved").toBool()) {}
+    KeptMark(const KeptMark&) = delete;
+    KeptMark& operator=(const KeptMark&) = delete;
+    ~KeptMark() {
+        try {
+            if (wasSaved_) book_.put("Saved", true);
+        } catch (const office::Failure&) {
+            // The workbook has gone.
+            return;
+        }
+    }
+
+private:
+    const Object& book_;
+    bool wasSaved_;
+};
+
 /// A sheet of empty cells that stand for blank lines: everything on a page is a part of the
 /// workbook. It goes again with this object, as does the mark of a change that it made.
 class BlankSheet {
 public:
     explicit BlankSheet(OfficeSession& session) : session_(session) {
-        wasSaved_ = book().get("Saved").toBool();
         // A protected workbook takes no sheet; the page is then without blank lines.
         scope_.attempt([this] {
+            const KeptMark mark(book());
             const Object sheets = book().get("Worksheets").toObject();
             const Object last = sheets.get("Item", sheets.get("Count").toLong()).toObject();
             sheet_ = sheets.call("Add", arg("After", last)).toObject();
@@ -54,19 +75,18 @@ private:
 
     void remove() {
         if (sheet_) {
+            const KeptMark mark(book());
             const bool alerts = session_.ExcelApp.get("DisplayAlerts").toBool();
             session_.ExcelApp.put("DisplayAlerts", false);
             office::ContinueOnFailure scope;
             scope.attempt([this] { sheet_.call("Delete"); });
             session_.ExcelApp.put("DisplayAlerts", alerts);
         }
-        if (wasSaved_) book().put("Saved", true);
     }
 
     OfficeSession& session_;
     office::ContinueOnFailure scope_;
     Object sheet_;
-    bool wasSaved_ = false;
 };
 
 /// One run of the export.

@@ -5,10 +5,9 @@
 #include <array>
 #include <utility>
 
-#include "catalogue/export_run.h"
-#include "catalogue/row_copies.h"
 #include "destinations/failed_items.h"
 #include "destinations/format_names.h"
+#include "destinations/output_folder.h"
 #include "destinations/pdf_file.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
@@ -57,13 +56,7 @@ DialogPDF::DialogPDF(forms::Desktop& theDesktop, session::OfficeSession& session
 void DialogPDF::Form_Load() {
     beginForm();
     CoverText.enabled = CoverT.isChecked();
-    taken_ = 0;
-    if (!choices_.predefinedSlides) {
-        office::ContinueOnFailure().attempt([&] {
-            taken_ =
-                static_cast<std::int32_t>(catalogue::takeRows(session(), list_, choices_).size());
-        });
-    }
+    taken_ = takenRows(session(), list_, choices_);
     if (taken_ < 1) {
         showNothingSelected();
     } else {

@@ -157,6 +157,7 @@ void PdfPages::addItem(const ExportItem& row) {
         formatParagraph("PageBreakBefore", !isFirstPage_);
         formatParagraph("SpaceAfter", 6);
         selection_.call("TypeText", row.caption);
+        isFirstPage_ = false;
     }
     beginParagraph(style::normal);
     formatParagraph("PageBreakBefore", !hasHeading && !isFirstPage_);
@@ -201,8 +202,16 @@ WalkResult ExportRowsToPdf(RowBatch& batch, const PdfOptions& options, const std
     const TemporaryDocument temporary(session);
     PdfPages pages(session, options, temporary.document());
     if (options.coverPage) pages.addCover();
-    const WalkResult result = walkRows(
-        batch, [&](const catalogue::TakenRow&, const ExportItem& row) { pages.addItem(row); });
+    int added = 0;
+    const WalkResult result =
+        walkRows(batch, [&](const catalogue::TakenRow&, const ExportItem& row) {
+            pages.addItem(row);
+            ++added;
+        });
+    if (added == 0)
+        throw office::Failure(office::FailureNumber::ApplicationDefined, "Document",
+                              "None of the items could be exported");
+
     temporary.document().call("ExportAsFixedFormat", path, pdf, false,
                               arg("CreateBookmarks", headings), arg("DocStructureTags", true));
     return result;

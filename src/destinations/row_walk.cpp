@@ -10,6 +10,7 @@ WalkResult walkRows(RowBatch& batch,
                     const std::function<void(const catalogue::TakenRow& taken,
                                              const catalogue::ExportItem& row)>& exportRow) {
     const auto rows = catalogue::takeRows(batch.session, batch.list, {});
+    const std::ptrdiff_t selected = batch.list.selected;
     WalkResult result;
     result.total = static_cast<std::int32_t>(rows.size());
     for (const catalogue::TakenRow& taken : rows) {
@@ -33,6 +34,7 @@ WalkResult walkRows(RowBatch& batch,
         }
         ++result.done;
     }
+    batch.list.selected = selected;
     return result;
 }
 

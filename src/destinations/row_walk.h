@@ -30,8 +30,8 @@ struct WalkResult {
 };
 
 /// Walks the rows that are checked and on a visible sheet, in display order, and lets each have its
-/// turn by `exportRow`. The row at hand is the list's selected one. When the user cancels, the walk
-/// ends after the item at hand.
+/// turn by `exportRow`. The row at hand is the list's selected one; at the end it is the one
+/// that was selected before. When the user cancels, the walk ends after the item at hand.
 WalkResult walkRows(RowBatch& batch,
                     const std::function<void(const catalogue::TakenRow& taken,
                                              const catalogue::ExportItem& row)>& exportRow);

@@ -96,6 +96,7 @@ private:
     void copyAndPaste(SourceKind kind);
     void copy(SourceKind kind);
     void paste(SourceKind kind);
+    [[nodiscard]] Object pastedShape(std::string_view collection);
     void setSize(SourceKind kind);
     void say(std::string_view text) { session_.host.messageBox(text, title); }
 
@@ -222,13 +223,23 @@ void SelectionPaste::paste(SourceKind kind) {
     }
 }
 
+/// What has just been pasted: there may be others behind it. One over the text is selected then.
+Object SelectionPaste::pastedShape(std::string_view collection) {
+    constexpr std::int32_t character = 1;
+    constexpr std::int32_t extend = 1;
+    constexpr std::int32_t toEnd = 0;
+    if (collection == "Shapes") return selection_.get("ShapeRange").toObject();
+    selection_.call("MoveLeft", character, 1, extend);
+    const Object shape = selection_.get("InlineShapes").get("Item", 1).toObject();
+    selection_.call("Collapse", toEnd);
+    return shape;
+}
+
 void SelectionPaste::setSize(SourceKind kind) {
     const std::string_view collection =
         kind == SourceKind::Range ? command_.rangeShapes : command_.chartShapes;
     if (collection.empty()) return;
-    const Object shapes = document_.get(collection).toObject();
-    const Object shape = shapes.get("Item", shapes.get("Count").toLong()).toObject();
-    if (collection == "Shapes") shape.call("Select");
+    const Object shape = pastedShape(collection);
     const Object page = selection_.get("PageSetup").toObject();
     const double pageText = page.get("PageWidth").toDouble() - page.get("LeftMargin").toDouble() -
                             page.get("RightMargin").toDouble();

@@ -1,6 +1,7 @@
 #include "destinations/word_batch.h"
 
 #include <algorithm>
+#include <optional>
 #include <string_view>
 
 #include "catalogue/row_copies.h"
@@ -43,13 +44,19 @@ private:
     void paste();
     void FinishWordItem(const ExportItem& row, const Object& shape);
     void SetLastShapeWidth(const Object& shape);
-    [[nodiscard]] Sides textArea() const;
+    [[nodiscard]] bool hasText();
+    /// Of the last page, which all items go behind.
+    [[nodiscard]] const Sides& textArea();
 
     OfficeSession& session_;
     ExportFormat format_;
     const WordOptions& options_;
     Object document_;
     Object selection_;
+    std::optional<Sides> textArea_;
+    bool hasText_ = false;
+    /// A page has been begun, and nothing has come to it.
+    bool pageIsFresh_ = false;
 };
 
 void WordBatch::exportRow(const ExportItem& row) {
@@ -59,6 +66,7 @@ void WordBatch::exportRow(const ExportItem& row) {
     const Object shapes = document_.get(floats() ? "Shapes" : "InlineShapes").toObject();
     const std::int32_t before = shapes.get("Count").toLong();
     paste();
+    pageIsFresh_ = false;
     session_.host.letEventsRun();
     // What has come may be a table, which is no shape.
     const std::int32_t count = shapes.get("Count").toLong();
@@ -95,7 +103,8 @@ void WordBatch::InsertPageBreakBlock() {
         range.call("Collapse", toEnd);
         return range;
     };
-    if (document_.get("Range").get("StoryLength").toLong() > 1) {
+    // Of an item whose paste failed the page is there still.
+    if (!pageIsFresh_ && hasText()) {
         end().call("InsertParagraphAfter");
         end().call("Select");
         // What came before may be a caption or the item of a list.
@@ -105,6 +114,12 @@ void WordBatch::InsertPageBreakBlock() {
         end().get("ParagraphFormat").put("PageBreakBefore", false);
     }
     end().call("Select");
+    pageIsFresh_ = true;
+}
+
+bool WordBatch::hasText() {
+    if (!hasText_) hasText_ = document_.get("Range").get("StoryLength").toLong() > 1;
+    return hasText_;
 }
 
 void WordBatch::paste() {
@@ -121,18 +136,20 @@ void WordBatch::paste() {
     }
 }
 
-Sides WordBatch::textArea() const {
+const Sides& WordBatch::textArea() {
+    if (textArea_) return *textArea_;
     const Object page = selection_.get("PageSetup").toObject();
     const auto length = [&](std::string_view name) { return page.get(name).toDouble(); };
-    return {length("PageWidth") - length("LeftMargin") - length("RightMargin"),
-            length("PageHeight") - length("TopMargin") - length("BottomMargin")};
+    textArea_ = {length("PageWidth") - length("LeftMargin") - length("RightMargin"),
+                 length("PageHeight") - length("TopMargin") - length("BottomMargin")};
+    return *textArea_;
 }
 
 void WordBatch::FinishWordItem(const ExportItem& row, const Object& shape) {
     if (shape && options_.sameWidth) {
         /// Of the text area: what is higher loses its proportions.
         constexpr double highest = 0.5;
-        const Sides area = textArea();
+        const Sides& area = textArea();
         const double ratio = shape.get("Height").toDouble() / shape.get("Width").toDouble();
         shape.put("Width", area.width);
         shape.put("Height", std::min(ratio * area.width, area.height * highest));
@@ -157,7 +174,7 @@ void WordBatch::FinishWordItem(const ExportItem& row, const Object& shape) {
 /// As wide as the text, but no higher than its page.
 void WordBatch::SetLastShapeWidth(const Object& shape) {
     shape.call("Select");
-    const Sides area = textArea();
+    const Sides& area = textArea();
     const Sides natural{shape.get("Width").toDouble(), shape.get("Height").toDouble()};
     const double scale = std::min(area.width / natural.width, area.height / natural.height);
     shape.put("Width", natural.width * scale);

@@ -5,9 +5,9 @@
 #include <array>
 #include <utility>
 
-#include "catalogue/export_run.h"
 #include "destinations/failed_items.h"
 #include "destinations/format_names.h"
+#include "destinations/output_folder.h"
 #include "destinations/pdf_file.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
@@ -69,10 +69,7 @@ void DialogWord::Form_Load() {
 /// Decides which document the export goes to, and tells the user.
 void DialogWord::nameDocument() {
     office::ContinueOnFailure scope;
-    taken_ = 0;
-    scope.attempt([&] {
-        taken_ = static_cast<std::int32_t>(catalogue::takeRows(session(), list_, choices_).size());
-    });
+    taken_ = takenRows(session(), list_, choices_);
     if (taken_ < 1) {
         showNothingSelected();
         return;
@@ -119,8 +116,13 @@ void DialogWord::ContinueOk_Click() {
 void DialogWord::runBatch() {
     constexpr std::uint32_t settledMs = 100;
     FailedItems failed;
-    RowBatch batch{session(), list_,
-                   [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
+    RowBatch batch{
+        session(), list_,
+        [&](const auto& row,
+            const auto& failure) {  // Without its document no other item would go better.
+            if (!documentIsThere()) throw office::Failure(failure);
+            failed.add(row, failure);
+        }};
     const WalkResult result = ExportRowsToWord(batch, choices_.format,
                                                {.sameWidth = SameWidth.isChecked(),
                                                 .caption = AddCaption.isChecked(),
@@ -129,7 +131,7 @@ void DialogWord::runBatch() {
     session().progress.unload();
     tellIfCancelled(session(), result);
     failed.tell(session());
-    if (pdfIsWanted_) ExportActiveDocumentToPdf(session());
+    if (pdfIsWanted_ && documentIsThere()) ExportActiveDocumentToPdf(session());
     office::ContinueOnFailure().attempt([&] { session().SessionDocument.call("Activate"); });
 }
 

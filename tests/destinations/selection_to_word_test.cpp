@@ -48,6 +48,19 @@ TEST_F(SelectionToWordTest, AChartSpansTheTextAndCellsKeepTheirSize) {
     EXPECT_TRUE(session.ExcelApp.get("DisplayAlerts").toBool());
 }
 
+TEST_F(SelectionToWordTest, WhatWasPastedIsFoundAheadOfOtherPictures) {
+    test.suite.excel().selectRange("A1:C4");
+    paste(WordPaste::Picture);
+    const office::Object selection =
+        document.handle().get("ActiveWindow").get("Selection").toObject();
+    selection.call("HomeKey");
+    selection.call("Paste");
+    selection.call("MoveLeft", 1, 1, 1);
+    selection.get("InlineShapes").get("Item", 1).put("AlternativeText", "new");
+    ASSERT_EQ(document.objectCount(Anchoring::Inline), 2);
+    EXPECT_EQ(document.objectAt(Anchoring::Inline, 1)->alternativeText(), "new");
+}
+
 TEST_F(SelectionToWordTest, SaysWhatIsMissing) {
     constexpr const char* noDocument = "The action requires an open Word document";
     constexpr const char* tablesOnly = "This icon refers to tables only";

@@ -51,7 +51,7 @@ TEST_F(WordBatchTest, EachItemStandsOnAPageOfItsOwnWithItsDescription) {
     EXPECT_EQ(breaksAndEmptyPages(), std::pair(3, 0));
     EXPECT_EQ(descriptions(Anchoring::Inline), (Texts{"Turnover", "Overview", "Turnover"}));
     EXPECT_TRUE(document.captions().empty());
-    EXPECT_EQ(list.selected, 2);
+    EXPECT_EQ(list.selected, -1);
     EXPECT_TRUE(session.ExcelApp.get("ScreenUpdating").toBool());
 }
 
@@ -91,6 +91,16 @@ TEST_F(WordBatchTest, WhatCannotBeCopiedLeavesNoPageBehindAndIsTold) {
     exportRows(ExportFormat::Pictures);
     EXPECT_EQ(failed, (Texts{"Gone", "Chart 9"}));
     EXPECT_EQ(breaksAndEmptyPages(), std::pair(1, 0));
+}
+
+TEST_F(WordBatchTest, PastesThatFailLeaveOneFreshPageForTheNextItem) {
+    addOfEachKind();
+    test.suite.failures().fail("Selection.Paste");
+    Texts failed;
+    onFailedItem = [&](const auto& row, const auto&) { failed.push_back(row.name); };
+    exportRows(ExportFormat::Pictures);
+    EXPECT_EQ(failed, Texts{"Chart 1"});
+    EXPECT_EQ(breaksAndEmptyPages(), std::pair(2, 0));
 }
 
 TEST_F(WordBatchTest, CancellingEndsItAfterTheItemAtHand) {

@@ -9,8 +9,8 @@
 namespace unattended {
 
 /// The documents of a run in a private suite, opened for it and closed with it. Nothing of the
-/// files changes: the workbook is never saved, the presentation is saved as a copy under a new
-/// name.
+/// files changes: the workbook is never saved, presentation and document are saved as copies
+/// under new names.
 class OpenedDocuments {
 public:
     explicit OpenedDocuments(session::OfficeSession& session) : session_(session) {}

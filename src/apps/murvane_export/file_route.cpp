@@ -14,8 +14,8 @@ namespace unattended {
 namespace {
 
 using catalogue::Destination;
-using office::package::FileFacts;
 using office::package::Fault;
+using office::package::FileFacts;
 using office::package::PackageError;
 
 /// What tells presentations and documents apart.

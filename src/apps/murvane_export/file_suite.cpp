@@ -71,7 +71,7 @@ std::vector<std::string> FileSuite::remarksOn(std::string_view className, office
     return package::pasteRemarks(as, items, *workbooks_, embedsSheetAlone_);
 }
 
-// Windows are those of presentations.
+// Only presentations are looked for by their windows.
 
 office::WindowHandle FileSuite::findWindow(std::string_view className, std::string_view caption) {
     return powerPoint_ ? 0 : below_.findWindow(className, caption);

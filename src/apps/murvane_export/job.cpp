@@ -89,7 +89,6 @@ public:
                                                            {.sameWidth = options.sameWidth,
                                                             .caption = options.captionsBelow,
                                                             .shadow = options.shadow});
-        scene_.list.selected = -1;
         scene_.session.SessionDocument.call("SaveCopyAs", neighbour);
         return result.done;
     }
@@ -119,7 +118,6 @@ public:
                                            .sizeFactor = options.sizePercent,
                                            .coverText = options.coverText},
                                           neighbour);
-        scene_.list.selected = -1;
         return result.done;
     }
 
@@ -144,7 +142,6 @@ public:
                                              .folder = neighbour};
         const auto result = options.sameWidth ? destinations::ExportRowsToHtmlAsImages(batch, html)
                                               : destinations::PublishRowsToHtml(batch, html);
-        scene_.list.selected = -1;
         return result.walk.done;
     }
 
@@ -165,7 +162,6 @@ public:
                     .names = options.numbersFiles ? FileNames::Numerator : FileNames::NameAndSheet,
                     .folder = neighbour,
                     .replaces = false});
-        scene_.list.selected = -1;
         return result.done;
     }
 

@@ -193,8 +193,7 @@ void Output::requireOtherThan(const fs::path& input) const {
 
 const fs::path& Output::neighbour() {
     if (!neighbour_.empty()) return neighbour_;
-    std::string folder =
-        (file_.parent_path() / fmt::format(".{}.XXXXXX", apps::utf8Of(file_.stem()))).string();
+    std::string folder = (file_.parent_path() / ".murvane.XXXXXX").string();
     if (::mkdtemp(folder.data()) == nullptr) {
         throw RunError(fmt::format("No file can be made in {}: {}.",
                                    apps::utf8Of(file_.parent_path()), reason()));

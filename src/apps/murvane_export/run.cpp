@@ -276,7 +276,10 @@ void Run::runJob(std::size_t place) {
     } catch (const office::Failure& failure) {
         line_.clear();
         letUserSee();
-        if (list_.selected < 0 || surroundings_.isInterrupted()) throw;
+        // A disk that is full is no fault of the item at hand.
+        if (list_.selected < 0 || surroundings_.isInterrupted() ||
+            failure.is(office::FailureNumber::PathFileAccess))
+            throw;
         const ExportItem& row = list_.rows[static_cast<std::size_t>(list_.selected)];
         throw RunError(fmt::format(
             "Could not export {}\n--keep-going leaves such items out and saves the others.",
@@ -293,7 +296,6 @@ void Run::letUserSee() {
 /// All outputs get their names, now that each of them is complete, and the user is told.
 int Run::commit() {
     int exitCode = exit_code::done;
-    for (const auto& output : order_.outputs) output->commit();
     for (std::size_t place = 0; place < jobs_.size(); ++place) {
         const Outcome& outcome = outcomes_[place];
         const std::string file = apps::utf8Of(order_.outputs[place]->file());
@@ -305,7 +307,15 @@ int Run::commit() {
             for (const std::string& line : outcome.failures) text += "  " + line + "\n";
             surroundings_.console.writeError(text);
             exitCode = exit_code::failed;
-        } else if (!options_.quiet) {
+        }
+        try {
+            order_.outputs[place]->commit();
+        } catch (const RunError& error) {
+            surroundings_.console.writeError(fmt::format("murvane-export: {}\n", error.what()));
+            exitCode = exit_code::failed;
+            continue;
+        }
+        if (missing == 0 && !options_.quiet) {
             surroundings_.console.writeError(fmt::format(
                 "Exported {} item{} to {}\n", outcome.taken, outcome.taken == 1 ? "" : "s", file));
         }

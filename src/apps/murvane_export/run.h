@@ -19,7 +19,7 @@ struct Surroundings {
 };
 
 /// Lists, checks or exports, says on the console how it went, and returns the exit code. Whatever
-/// happens, what was started for it has ended when it returns, and the output file exists as a
+/// happens, what was started for it has ended when it returns, and each output exists as a
 /// whole or not at all.
 int run(const Options& options, const Surroundings& surroundings);
 

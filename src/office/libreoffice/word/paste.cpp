@@ -118,6 +118,11 @@ NewContent::~NewContent() {
 void WriterDocument::insertObject(const ContentRef& object) {
     removeSelected();
     objects().add(object);
+    pasted_ = object;
+}
+
+model::TextObjectPtr WriterDocument::pasted() {
+    return pasted_.is() ? objects().recordOf(pasted_) : nullptr;
 }
 
 void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anchoring anchoring) {
@@ -125,6 +130,7 @@ void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anch
     const bool isPicture = copied.source().kind == CopySource::Kind::Picture;
     if (as == PasteAs::Linked) fail("LibreOffice links no object of a text document to a workbook");
     const Connection& connection = desk_.connection();
+    pasted_.clear();
     const UndoGroup group(steps_, "Paste");
     if (as == PasteAs::Png || as == PasteAs::Metafile || (isPicture && as == PasteAs::Default)) {
         NewContent made(*this, "com.sun.star.text.TextGraphicObject", copied, anchoring);

@@ -53,8 +53,9 @@ void WriterCaret::leaveObject() {
     if (const uno::Reference<css::container::XIndexAccess> shapes(selected, uno::UNO_QUERY);
         !object.is() && shapes.is() && shapes->getCount() > 0)
         object.set(shapes->getByIndex(0), uno::UNO_QUERY);
-    if (!object.is()) refuse("Selection", "The caret stands in no text");
-    selection_->select(uno::Any(object->getAnchor()->getEnd()));
+    const auto anchor = object.is() ? object->getAnchor() : nullptr;
+    if (!anchor.is()) refuse("Selection", "The caret stands in no text");
+    selection_->select(uno::Any(anchor->getEnd()));
 }
 
 void WriterCaret::goTo(const RangeRef& place) {

@@ -58,6 +58,7 @@ public:
     model::TextObjectPtr objectAt(model::Anchoring anchoring, std::int32_t place) override;
     std::int32_t tableCount() override;
     model::TextObjectPtr selectedObject() override;
+    model::TextObjectPtr pasted() override;
 
     office::CopiedPtr copied() override { return desk_.clipboard().copied; }
     void activate() override;
@@ -85,6 +86,8 @@ private:
     WriterCaret caret_;
     WriterCaptions captions_;
     std::unique_ptr<WriterObjects> objects_;
+    /// What the last paste has put into the text; empty for a table.
+    ContentRef pasted_;
 };
 
 /// LibreOffice's texts under the name of Word.

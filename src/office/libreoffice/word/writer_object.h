@@ -25,7 +25,7 @@ public:
     [[nodiscard]] const ContentRef& content() const { return content_; }
     /// What tells it from the others: the same object comes as another reference now and then.
     [[nodiscard]] const rtl::OUString& name() const { return name_; }
-    [[nodiscard]] model::Anchoring anchoring() const { return anchoring_; }
+    [[nodiscard]] model::Anchoring anchoring() const override { return anchoring_; }
 
     [[nodiscard]] bool isGone() const override;
     model::ObjectSize size() override;

@@ -51,8 +51,9 @@ void WriterObjects::refresh() {
 
 void WriterObjects::insert(const WriterObjectPtr& object) {
     const auto place = object->content()->getAnchor();
-    // What stands outside of the text lies before its beginning.
-    if (places_->compareRegionStarts(place, text_->getStart()) > 0) {
+    // What stands outside of the text lies before its beginning; what is tied to a page has no
+    // place in it.
+    if (!place.is() || places_->compareRegionStarts(place, text_->getStart()) > 0) {
         elsewhere_.push_back(object);
         return;
     }

@@ -77,7 +77,10 @@ using ChangeParagraph = void (TextDocument::*)(const ParagraphChange&);
 [[nodiscard]] Object paragraphFormatObject(const InDocument& home, ChangeParagraph change);
 [[nodiscard]] Object inlineShapesObject(const InDocument& home);
 [[nodiscard]] Object shapesObject(const InDocument& home);
-/// The one object over the text that is selected. `Failure` 1004 if none is.
+/// The one object over the text that is selected, or that a paste has just made. `Failure` 1004 if
+/// there is none.
 [[nodiscard]] Object selectedShapeObject(const InDocument& home, const std::string& source);
+/// The object in a line that a paste has just made, as a collection of one; else an empty one.
+[[nodiscard]] Object selectedInlineShapesObject(const InDocument& home);
 
 }  // namespace office::model::word

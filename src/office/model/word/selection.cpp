@@ -118,6 +118,8 @@ public:
 
 private:
     void moveDown(const CallArguments& arguments);
+    void moveLeft(const CallArguments& arguments);
+    void collapse(const CallArguments& arguments);
     void paste(PasteAs as, Anchoring anchoring, const std::string& source);
     void pasteSpecial(const CallArguments& arguments);
     void pasteExcelTable(const CallArguments& arguments);
@@ -157,7 +159,11 @@ const MemberTable<Selection>& Selection::members() {
                         self.document().typeText(arguments.at(0).toText());
                     })
             .method("TypeParagraph", {}, [](Self& self) { self.document().typeParagraph(); })
+            .property("InlineShapes",
+                      [](Self& self) { return selectedInlineShapesObject(self.home()); })
             .method("MoveDown", {"Unit", "Count", "Extend"}, &Self::moveDown)
+            .method("MoveLeft", {"Unit", "Count", "Extend"}, &Self::moveLeft)
+            .method("Collapse", {"Direction"}, &Self::collapse)
             .method("HomeKey", {"Unit", "Extend"},
                     [](Self& self, const CallArguments& arguments) {
                         requireLines(arguments);
@@ -182,6 +188,25 @@ const MemberTable<Selection>& Selection::members() {
 void Selection::moveDown(const CallArguments& arguments) {
     requireLines(arguments);
     document().moveDown(arguments.at(1, 1).toLong());
+}
+
+/// By one character, and over what has just been pasted: it counts as selected here in any case,
+/// and the caret stays behind it.
+void Selection::moveLeft(const CallArguments& arguments) {
+    constexpr std::int32_t character = 1;
+    constexpr std::int32_t extend = 1;
+    if (arguments.at(0, character).toLong() != character || arguments.at(1, 1).toLong() != 1 ||
+        arguments.at(2, 0).toLong() != extend || !document().pasted())
+        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
+                      "The caret moves left over what was pasted, and nothing else, here");
+}
+
+void Selection::collapse(const CallArguments& arguments) {
+    constexpr std::int32_t toEnd = 0;
+    constexpr std::int32_t toStart = 1;
+    if (arguments.at(0, toStart).toLong() != toEnd)
+        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
+                      "A selection collapses to its end here");
 }
 
 void Selection::paste(PasteAs as, Anchoring anchoring, const std::string& source) {

@@ -33,6 +33,7 @@ private:
     void setType(const Value& number);
     void change(double ObjectShadow::*part, double value) {
         ObjectShadow shadow = object().shadow();
+        if (shadow.isShown && shadow.*part == value) return;
         shadow.isShown = true;
         shadow.*part = value;
         object().setShadow(shadow);
@@ -169,6 +170,31 @@ public:
     }
 };
 
+/// What a selection holds of them: the one that has just been pasted.
+class SelectedInlineShapes : public DocumentObject<SelectedInlineShapes> {
+public:
+    using DocumentObject::DocumentObject;
+    static const MemberTable<SelectedInlineShapes>& members() {
+        using Self = SelectedInlineShapes;
+        static const auto all =
+            MemberTable<Self>("InlineShapes")
+                .property("Count", [](Self& self) { return self.pasted() ? 1 : 0; })
+                .property("Item", {"Index"}, [](Self& self, const CallArguments& arguments) {
+                    const std::int32_t place = arguments.at(0).toLong();
+                    const auto object = self.pasted();
+                    if (!object || place != 1) ItemIndex(place, arguments.source()).fail();
+                    return makeObject<InlineShape>(self.home(), object);
+                });
+        return all;
+    }
+
+private:
+    [[nodiscard]] TextObjectPtr pasted() const {
+        auto object = document().pasted();
+        return object && object->anchoring() == Anchoring::Inline ? object : nullptr;
+    }
+};
+
 class Shapes : public Objects<Shapes, Shape, Anchoring::Floating> {
 public:
     using Objects::Objects;
@@ -188,9 +214,15 @@ Object shapesObject(const InDocument& home) {
     return makeObject<Shapes>(home);
 }
 
+Object selectedInlineShapesObject(const InDocument& home) {
+    return makeObject<SelectedInlineShapes>(home);
+}
+
 Object selectedShapeObject(const InDocument& home, const std::string& source) {
-    const auto object = home.document->selectedObject();
-    if (!object) refuse(source, "Nothing that stands over the text is selected");
+    auto object = home.document->selectedObject();
+    if (!object) object = home.document->pasted();
+    if (!object || object->anchoring() != Anchoring::Floating)
+        refuse(source, "Nothing that stands over the text is selected");
     return makeObject<Shape>(home, object);
 }
 

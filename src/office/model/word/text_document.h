@@ -65,6 +65,7 @@ struct ObjectShadow {
 /// can't do.
 class TextObject : public Part {
 public:
+    [[nodiscard]] virtual Anchoring anchoring() const = 0;
     virtual ObjectSize size() = 0;
     /// Both sides are above 0. Proportions are the caller's concern.
     virtual void resize(const ObjectSize& size) = 0;
@@ -130,6 +131,8 @@ public:
     /// makes a chart or a table that can be edited, of a picture a picture. `Failure` 1004 if it
     /// can't be had in this form; then nothing is put there.
     virtual void paste(const Copied& copied, PasteAs as, Anchoring anchoring) = 0;
+    /// The object that the last paste made; null if it made a table, or if the object has gone.
+    virtual TextObjectPtr pasted() = 0;
     /// A paragraph of its own below the one with the caret, which goes to its end.
     virtual void insertCaption(const Caption& caption) = 0;
 

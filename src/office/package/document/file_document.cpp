@@ -282,12 +282,21 @@ void FileDocument::insertObject(const std::string& run) {
     static_cast<void>(objects());
     const bool isLast = isCaretAtEnd();
     const auto inserted = insertMarkup(caret_.paragraph, run, caret_.before);
-    if (!isLast) return readObjects();
+    if (!isLast) readObjects();
     visitInOrder(inserted, [&](pugi::xml_node element) {
         const bool isObject = isTextObject(element);
-        if (isObject) objects_->push_back(std::make_shared<FileObject>(*this, element));
+        if (isObject && isLast) objects_->push_back(std::make_shared<FileObject>(*this, element));
+        if (isObject)
+            pasted_ = *std::find_if(objects_->begin(), objects_->end(), [&](const auto& object) {
+                return object->element() == element;
+            });
         return !isObject;
     });
+}
+
+word::TextObjectPtr FileDocument::pasted() {
+    const auto object = pasted_.lock();
+    return object && !object->isGone() ? object : nullptr;
 }
 
 /// An empty paragraph makes room for a table ahead of itself, and is the one that Word wants behind
@@ -309,6 +318,7 @@ void FileDocument::insertTable(const std::string& table) {
 
 void FileDocument::paste(const Copied& copied, PasteAs as, word::Anchoring anchoring) {
     selected_.reset();
+    pasted_.reset();
     pasteInto(*this, copied, as, anchoring);
 }
 

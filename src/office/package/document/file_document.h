@@ -82,6 +82,7 @@ public:
     word::TextObjectPtr objectAt(word::Anchoring anchoring, std::int32_t place) override;
     std::int32_t tableCount() override;
     word::TextObjectPtr selectedObject() override;
+    word::TextObjectPtr pasted() override;
     CopiedPtr copied() override { return rules_->clipboard ? rules_->clipboard->copied : nullptr; }
     void activate() override { activated_(*this); }
     /// Also with the ending .docm. A document with macros leaves them out of a .docx.
@@ -124,6 +125,7 @@ private:
     bool hasShapeType_ = false;
     std::optional<std::int32_t> tables_;
     std::weak_ptr<FileObject> selected_;
+    std::weak_ptr<FileObject> pasted_;
     std::function<void(FileDocument&)> closed_;
     std::function<void(FileDocument&)> activated_;
     bool isChanged_ = false;

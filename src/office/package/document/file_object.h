@@ -22,7 +22,7 @@ public:
           element_(element) {}
 
     [[nodiscard]] pugi::xml_node element() const { return element_; }
-    [[nodiscard]] word::Anchoring anchoring() const;
+    [[nodiscard]] word::Anchoring anchoring() const override;
     void markGone() { isGone_ = true; }
 
     [[nodiscard]] bool isGone() const override { return isGone_; }
