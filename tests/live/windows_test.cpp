@@ -84,17 +84,22 @@ protected:
 
 using Model = uno::Reference<css::frame::XModel>;
 
-/// As a click on the document's window does.
+/// As a click on the document's window does, and another one where the window manager was busy.
 void goTo(const Model& document) {
     const auto frame = document->getCurrentController()->getFrame();
     const auto window = frame->getContainerWindow();
-    as<css::awt::XTopWindow>(window)->toFront();
-    frame->activate();
-    window->setFocus();
-    ASSERT_TRUE(becomesTrue([&] {
-        return tryAs<css::frame::XModel>(screen->connection->desktop()->getCurrentComponent()) ==
-               document;
-    }));
+    const auto click = [&] {
+        as<css::awt::XTopWindow>(window)->toFront();
+        frame->activate();
+        window->setFocus();
+        return becomesTrue(
+            [&] {
+                return tryAs<css::frame::XModel>(
+                           screen->connection->desktop()->getCurrentComponent()) == document;
+            },
+            2s);
+    };
+    ASSERT_TRUE(click() || click() || click());
 }
 
 TEST_F(Windows, TheActiveDocumentOfAKindIsTheOneThatTheUserWasInLast) {
@@ -120,6 +125,7 @@ TEST_F(Windows, TheActiveDocumentOfAKindIsTheOneThatTheUserWasInLast) {
                 return asked->activeWorkbook()->model() == last(0, 1) &&
                        asked->activePresentation()->model() == last(2, 3);
             })) << told;
+            if (HasFailure()) return;
         }
     } while (std::next_permutation(order.begin(), order.end()));
 }

@@ -87,6 +87,9 @@ class Screen:
         if manager is not None:
             self.manager = subprocess.Popen([manager, "--sm-disable"], env=self.environment,
                                             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            # A program that comes before it takes the screen for one without, and never looks again.
+            wait_until(lambda: subprocess.run(["xdotool", "get_num_desktops"], env=self.environment,
+                                              capture_output=True).returncode == 0, 20, "the window manager")
 
     @staticmethod
     def _start_server(size):
