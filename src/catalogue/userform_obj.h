@@ -21,9 +21,8 @@ namespace catalogue {
 
 /// What the main form starts that lives in higher layers.
 struct MainFormHooks {
-    /// Starts the export to the chosen destination, which opens its options dialog. False: this
-    /// version has no such export.
-    std::function<bool(ExportList& list, const ExportChoices& choices)> StartExport;
+    /// Starts the export to the chosen destination, which opens its options dialog.
+    std::function<void(ExportList& list, const ExportChoices& choices)> StartExport;
     /// Puts one row on the slide in view, whether it is checked or not. False if it has not been
     /// put there and the user knows.
     std::function<bool(const ExportItem& row, const ExportChoices& choices)> InsertOneItem;

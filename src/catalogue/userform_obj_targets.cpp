@@ -107,13 +107,7 @@ void UserformObj::PasteIT_Click() {
     if (PreExportReview(session_, list_, choices()) != ReviewResult::Go) return;
 
     keepList();
-    if (hooks_.StartExport && hooks_.StartExport(list_, choices())) return;
-    static constexpr std::array<std::string_view, 5> names = {"PowerPoint", "Word", "HTML", "PDF",
-                                                              "image files"};
-    session::ShowNotice(session_.notices,
-                        fmt::format("The export to {} is not part of this version yet.",
-                                    names.at(static_cast<std::size_t>(choices().destination))),
-                        "Murvane", "info", session::buttons::okOnly);
+    if (hooks_.StartExport) hooks_.StartExport(list_, choices());
 }
 
 /// The exports take the workbook that is active; the user may have looked at another one since.

@@ -9,7 +9,7 @@
 #include "destinations/failed_items.h"
 #include "destinations/html_export.h"
 #include "destinations/output_folder.h"
-#include "destinations/pdf_run.h"
+#include "destinations/size_factor.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
 #include "panels/dialogs.h"
@@ -62,7 +62,7 @@ void DialogHTML::Form_Load() {
     const std::string folder = defaultHtmlFolder(session());
     office::ContinueOnFailure scope;
     scope.attempt([&] { session().host.makeFolder(folder); });
-    taken_ = takenRows(session(), list_, choices_);
+    taken_ = takenRowsOfFiles(session(), list_, choices_);
     if (taken_ < 1) {
         showNothingSelected();
     } else {

@@ -65,7 +65,7 @@ DialogImageFiles::DialogImageFiles(forms::Desktop& theDesktop, session::OfficeSe
 
 void DialogImageFiles::Form_Load() {
     beginForm();
-    taken_ = takenRows(session(), list_, choices_);
+    taken_ = takenRowsOfFiles(session(), list_, choices_);
     if (taken_ < 1) {
         showNothingSelected();
     } else {

@@ -2,20 +2,9 @@
 
 #include <fmt/format.h>
 
-#include "catalogue/export_run.h"
 #include "office/failure_patterns.h"
 
 namespace destinations {
-
-std::int32_t takenRows(session::OfficeSession& session, const catalogue::ExportList& list,
-                       const catalogue::ExportChoices& choices) {
-    if (choices.predefinedSlides) return 0;
-    return office::orElse(
-        [&] {
-            return static_cast<std::int32_t>(catalogue::takeRows(session, list, choices).size());
-        },
-        0);
-}
 
 bool takesOutput(session::OfficeSession& session, const std::string& folder) {
     office::ContinueOnFailure scope;

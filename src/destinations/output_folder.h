@@ -1,19 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 
-#include "catalogue/export_list.h"
 #include "session/office_session.h"
 
 /// What the dialogs of the destinations that write to a folder have in common.
 namespace destinations {
-
-/// How many rows an export to files would take. None where slides that exist were chosen: files
-/// have no such thing. Failures are passed over.
-[[nodiscard]] std::int32_t takenRows(session::OfficeSession& session,
-                                     const catalogue::ExportList& list,
-                                     const catalogue::ExportChoices& choices);
 
 /// Whether the folder is there, or could be made now, and takes files.
 [[nodiscard]] bool takesOutput(session::OfficeSession& session, const std::string& folder);

@@ -7,8 +7,8 @@
 
 #include "destinations/failed_items.h"
 #include "destinations/format_names.h"
-#include "destinations/output_folder.h"
 #include "destinations/pdf_file.h"
+#include "destinations/size_factor.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
 #include "panels/dialogs.h"
@@ -56,7 +56,7 @@ DialogPDF::DialogPDF(forms::Desktop& theDesktop, session::OfficeSession& session
 void DialogPDF::Form_Load() {
     beginForm();
     CoverText.enabled = CoverT.isChecked();
-    taken_ = takenRows(session(), list_, choices_);
+    taken_ = takenRowsOfFiles(session(), list_, choices_);
     if (taken_ < 1) {
         showNothingSelected();
     } else {
@@ -126,17 +126,17 @@ void DialogPDF::MakeBlankDoc_Paste_ExportPdf_AndClose() {
     takesInput = false;
     session().progress.showItem(0, taken_);
     office::ContinueOnFailure scope;
-    WalkResult result;
-    const bool isMade = scope.attempt([&] { result = ExportRowsToPdf(batch, wanted, path); });
+    PdfResult result;
+    const bool went = scope.attempt([&] { result = ExportRowsToPdf(batch, wanted, path); });
     session().progress.unload();
     takesInput = true;
-    if (!isMade) {
+    if (!went) {
         session::ShowErrorNotice(session().notices, scope.lastFailure()->description());
         return;
     }
-    tellIfCancelled(session(), result);
+    tellIfCancelled(session(), result.walk);
     failed.tell(session());
-    if (wanted.openPdf && !OpenPdfFile(session(), path))
+    if (result.isMade && wanted.openPdf && !OpenPdfFile(session(), path))
         session::ShowWarningNotice(
             session().notices,
             fmt::format("PDF was created but couldn't be opened automatically:\r\n{}", path));

@@ -3,12 +3,9 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <cmath>
-#include <vector>
 
 #include "catalogue/row_copies.h"
 #include "office/failure_patterns.h"
-#include "office/text.h"
 #include "session/waits.h"
 
 namespace destinations {
@@ -185,35 +182,21 @@ void PdfPages::addItem(const ExportItem& row) {
 
 }  // namespace
 
-SizeFactor sizeFactorOf(std::string_view text) {
-    constexpr double lowest = 1;
-    constexpr double highest = 100;
-    SizeFactor factor;
-    const auto number = office::numberOf(text);
-    factor.isGood = number && *number >= lowest && *number <= highest;
-    if (number) factor.percent = std::clamp(*number, lowest, highest);
-    return factor;
-}
-
-WalkResult ExportRowsToPdf(RowBatch& batch, const PdfOptions& options, const std::string& path) {
+PdfResult ExportRowsToPdf(RowBatch& batch, const PdfOptions& options, const std::string& path) {
     constexpr std::int32_t pdf = 17;
     constexpr std::int32_t headings = 1;
     OfficeSession& session = batch.session;
     const TemporaryDocument temporary(session);
     PdfPages pages(session, options, temporary.document());
     if (options.coverPage) pages.addCover();
-    int added = 0;
-    const WalkResult result =
-        walkRows(batch, [&](const catalogue::TakenRow&, const ExportItem& row) {
-            pages.addItem(row);
-            ++added;
-        });
-    if (added == 0)
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "Document",
-                              "None of the items could be exported");
-
-    temporary.document().call("ExportAsFixedFormat", path, pdf, false,
-                              arg("CreateBookmarks", headings), arg("DocStructureTags", true));
+    PdfResult result;
+    result.walk = walkRows(batch, [&](const catalogue::TakenRow&, const ExportItem& row) {
+        pages.addItem(row);
+        result.isMade = true;
+    });
+    if (result.isMade)
+        temporary.document().call("ExportAsFixedFormat", path, pdf, false,
+                                  arg("CreateBookmarks", headings), arg("DocStructureTags", true));
     return result;
 }
 

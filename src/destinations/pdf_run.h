@@ -18,17 +18,15 @@ struct PdfOptions {
     std::string coverText;
 };
 
-/// The per cent that a text asks for; the nearest good number where it is out of range, 70 where it
-/// is none. `isGood` says whether it was one.
-struct SizeFactor {
-    double percent = 70;
-    bool isGood = true;
+struct PdfResult {
+    WalkResult walk;
+    /// No file comes about where no item got onto a page.
+    bool isMade = false;
 };
-[[nodiscard]] SizeFactor sizeFactorOf(std::string_view text);
 
 /// Puts the taken rows into a new document of Word, each on a page of its own, exports it to
 /// `path`, and closes it without saving. Word is started where none runs, and ended again then. Its
 /// own documents are left alone. `Failure` of the suite if there is no Word.
-WalkResult ExportRowsToPdf(RowBatch& batch, const PdfOptions& options, const std::string& path);
+PdfResult ExportRowsToPdf(RowBatch& batch, const PdfOptions& options, const std::string& path);
 
 }  // namespace destinations

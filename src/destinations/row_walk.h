@@ -29,6 +29,15 @@ struct WalkResult {
     [[nodiscard]] bool wasCancelled() const { return done < total; }
 };
 
+/// How many rows a walk would take, for a dialog to say; failures are passed over.
+[[nodiscard]] std::int32_t takenRows(session::OfficeSession& session,
+                                     const catalogue::ExportList& list);
+/// The same for files and pages: none where slides that exist were chosen, since those have no such
+/// thing.
+[[nodiscard]] std::int32_t takenRowsOfFiles(session::OfficeSession& session,
+                                            const catalogue::ExportList& list,
+                                            const catalogue::ExportChoices& choices);
+
 /// Walks the rows that are checked and on a visible sheet, in display order, and lets each have its
 /// turn by `exportRow`. The row at hand is the list's selected one; at the end it is the one
 /// that was selected before. When the user cancels, the walk ends after the item at hand.

@@ -7,7 +7,6 @@
 
 #include "destinations/failed_items.h"
 #include "destinations/format_names.h"
-#include "destinations/output_folder.h"
 #include "destinations/pdf_file.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
@@ -69,7 +68,7 @@ void DialogWord::Form_Load() {
 /// Decides which document the export goes to, and tells the user.
 void DialogWord::nameDocument() {
     office::ContinueOnFailure scope;
-    taken_ = takenRows(session(), list_, choices_);
+    taken_ = takenRows(session(), list_);
     if (taken_ < 1) {
         showNothingSelected();
         return;

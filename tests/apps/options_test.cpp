@@ -56,8 +56,9 @@ TEST(Options, OutputsTellTheirDestinationWhereNothingElseDoes) {
         words.insert(words.begin(), "book.xlsx");
         EXPECT_EQ(parsed(words).targets, targets) << words[2];
     }
-    const Options both = parsed({"b.xlsx", "--into", "d.odt", "--into", "d.potx", "--output",
-                                 "o.pptx", "--output", "o.docx", "--cover", R"(One\nTwo)"});
+    const Options both =
+        parsed({"b.xlsx", "--into", "d.odt", "--into", "d.potx", "--output", "o.pptx", "--output",
+                "o.docx", "--output", "o.pdf", "--cover", R"(One\nTwo)"});
     EXPECT_EQ(both.deck + " " + both.document, "d.potx d.odt");
     EXPECT_EQ(both.coverText, "One\nTwo");
     EXPECT_EQ(both.titles, std::nullopt);
@@ -85,9 +86,13 @@ TEST(Options, WrongUsageEndsWithTwoAndSaysWhy) {
         {"into what is not made",
          {"b.xlsx", "--into", "d.docx", "--output", "o.pptx"},
          "--to word"},
+        {"a cover of slides", {"b.xlsx", "--output", "o.pptx", "--cover", "T"}, "--to pdf"},
+        {"widths of slides", {"b.xlsx", "--list", "--same-width"}, "--to word or html"},
         {"titles or not", {"b.xlsx", "--list", "--titles", "--no-titles"}, "--no-titles"},
-        {"too large", {"b.xlsx", "--list", "--size", "101"}, "--size"},
-        {"unknown picture", {"b.xlsx", "--list", "--image-format", "webp"}, "webp"},
+        {"too large", {"b.xlsx", "--check", "--to", "pdf", "--size", "101"}, "--size"},
+        {"unknown picture",
+         {"b.xlsx", "--list", "--to", "images", "--image-format", "webp"},
+         "webp"},
         {"unknown destination", {"b.xlsx", "--list", "--to", "paper"}, "paper"},
         {"share beyond one", {"b.xlsx", "--list", "--top", "1.5"}, "--top"},
         {"share below nothing", {"b.xlsx", "--list", "--left", "-0.1"}, "--left"},

@@ -123,4 +123,18 @@ TEST_F(WordDialogTest, ThePdfFormMakesADocumentOfItsOwnAndStays) {
     }
 }
 
+TEST_F(WordDialogTest, NoPdfIsMadeOfItemsThatAllFail) {
+    list.rows.clear();
+    add("Gone", "Sales", "Turnover", session::ItemKind::Range);
+    test.suite.log().clear();
+    desktop.answer("DialogPDF", [&](forms::Form& form) {
+        press(form, "ContinueOk");
+        forms_double::close(form);
+    });
+    destinations::StartPdfExport(session, desktop, list, {});
+    EXPECT_EQ(test.suite.log().count("Document.ExportAsFixedFormat"), 0U);
+    EXPECT_EQ(test.notices.messages(),
+              Texts{"1 item(s) could not be exported:\rGone: Named range 'Gone' not found."});
+}
+
 }  // namespace

@@ -4,15 +4,14 @@
 #include <string>
 
 #include "apps/end_of_process.h"
+#include "apps/selection_commands.h"
 #include "apps/suite_source.h"
 #include "apps/terminal.h"
 #include "apps/this_machine.h"
 #include "apps/version.h"
 #include "catalogue/inventory.h"
-#include "destinations/selection_to_image.h"
 #include "office/failure.h"
 #include "office/text.h"
-#include "powerpoint/selection_to_slide.h"
 #include "session/launcher.h"
 
 #ifdef MURVANE_HAS_WINDOWS
@@ -41,12 +40,8 @@ int runInTerminal(const std::string& commandLine, apps::Console& console,
     const auto suite = suites.attachToRunning();
     session::OfficeSession session(*suite, host, notices, progress);
 
-    session::CommandHandlers handlers;
+    session::CommandHandlers handlers = apps::selectionHandlers(session);
     handlers.CountWorkbookItems = [&] { catalogue::CountWorkbookItems(session); };
-    handlers.PasteSelectionToSlide = [&](session::SlidePaste mode) {
-        powerpoint::PasteSelectionToSlide(session, mode);
-    };
-    handlers.SaveSelectionAsImage = [&] { destinations::SaveSelectionAsImage(session); };
     return session::Main(session, commandLine, handlers);
 }
 

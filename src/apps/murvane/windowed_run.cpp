@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "apps/selection_commands.h"
 #include "apps/terminal.h"
 #include "apps/this_machine.h"
 #include "apps/version.h"
@@ -14,8 +15,6 @@
 #include "destinations/html_dialog.h"
 #include "destinations/image_dialog.h"
 #include "destinations/pdf_dialog.h"
-#include "destinations/selection_to_image.h"
-#include "destinations/selection_to_word.h"
 #include "destinations/word_dialog.h"
 #include "panels/about_form.h"
 #include "panels/form_progress.h"
@@ -24,7 +23,6 @@
 #include "powerpoint/formats.h"
 #include "powerpoint/layout_form.h"
 #include "powerpoint/options_dialog.h"
-#include "powerpoint/selection_to_slide.h"
 #include "session/launcher.h"
 
 namespace apps {
@@ -133,21 +131,20 @@ void Windows::showMainForm() {
         switch (choices.destination) {
             case catalogue::Destination::PowerPoint:
                 powerpoint::StartPowerPointExport(session_, desktop_, list, choices);
-                return true;
+                break;
             case catalogue::Destination::Word:
                 destinations::StartWordExport(session_, desktop_, list, choices);
-                return true;
+                break;
             case catalogue::Destination::Pdf:
                 destinations::StartPdfExport(session_, desktop_, list, choices);
-                return true;
+                break;
             case catalogue::Destination::Html:
                 destinations::StartHtmlExport(session_, desktop_, list, choices);
-                return true;
+                break;
             case catalogue::Destination::ImageFiles:
                 destinations::StartImageExport(session_, desktop_, list, choices);
-                return true;
+                break;
         }
-        return false;
     };
     hooks.InsertOneItem = [this](const catalogue::ExportItem& row,
                                  const catalogue::ExportChoices& choices) {
@@ -172,16 +169,8 @@ int pasteSelection(const DesktopSource& desktop, const std::string& commandLine,
     TerminalProgress progress(line);
     const auto suite = suites.attachToRunning();
     session::OfficeSession session(*suite, host, notices, progress);
-    session::CommandHandlers handlers;
-    handlers.PasteSelectionToSlide = [&](session::SlidePaste mode) {
-        powerpoint::PasteSelectionToSlide(session, mode);
-    };
-    handlers.PasteSelectionToWord = [&](session::WordPaste mode) {
-        destinations::PasteSelectionToWord(session, mode);
-    };
-    handlers.SaveSelectionAsImage = [&] { destinations::SaveSelectionAsImage(session); };
     try {
-        return session::Main(session, commandLine, handlers);
+        return session::Main(session, commandLine, selectionHandlers(session));
     } catch (const office::Failure& failure) {
         desktop().messageBox(unhandledFailureReport(failure), "Murvane");
         throw;

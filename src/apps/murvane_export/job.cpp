@@ -118,7 +118,7 @@ public:
                                            .sizeFactor = options.sizePercent,
                                            .coverText = options.coverText},
                                           neighbour);
-        return result.done;
+        return result.walk.done;
     }
 
 private:

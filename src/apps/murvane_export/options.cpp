@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include <algorithm>
 #include <array>
@@ -321,6 +322,24 @@ void finish(Options& options, const RawTexts& raw) {
     }
 }
 
+/// An option that nothing of the run would heed is a slip of the caller's.
+void requireDestinations(const CLI::App& app, const Options& options) {
+    const std::vector<std::pair<const char*, std::vector<const char*>>> known = {
+        {"--cover", {"pdf"}},         {"--captions-below", {"word"}},
+        {"--blank-lines", {"html"}},  {"--image-format", {"images"}},
+        {"--file-names", {"images"}}, {"--same-width", {"word", "html"}},
+        {"--size", {"pdf", "html"}},
+    };
+    for (const auto& [option, names] : known) {
+        const bool isHeeded = std::any_of(names.begin(), names.end(), [&](const char* name) {
+            return options.targetOf(destinationsByName().at(name)) != nullptr;
+        });
+        if (app.count(option) > 0 && !isHeeded)
+            throw UsageError(
+                fmt::format("{} goes with --to {}.", option, fmt::join(names, " or ")));
+    }
+}
+
 }  // namespace
 
 std::variant<Options, ParseEnd> parseOptions(const std::vector<std::string>& arguments) {
@@ -341,6 +360,7 @@ std::variant<Options, ParseEnd> parseOptions(const std::vector<std::string>& arg
     try {
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
         finish(options, raw);
+        requireDestinations(app, options);
     } catch (const CLI::ParseError& end) {
         std::ostringstream out;
         std::ostringstream error;
