@@ -1,6 +1,7 @@
 #include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/table/XColumnRowRange.hpp>
 
 #include "live/live_suite.h"
 
@@ -104,6 +105,28 @@ TEST_F(ExcelSheets, ClosesNoChangedWorkbookWithoutBeingToldWhetherToSave) {
     EXPECT_FALSE(book.get("Saved").toBool());
     book.call("Close", false);
     EXPECT_EQ(failureOf([&] { book.get("Name"); }), disconnected);
+}
+
+TEST_F(ExcelSheets, FindsTheCellsUnderAChartWhereLinesAreHiddenOrOfManySizes) {
+    const Object book = open("tables.xlsx");
+    const Object looks = sheet(book, "Looks");
+    const uno::Reference<css::table::XColumnRowRange> lines(userSheets()->getByName("Looks"),
+                                                            uno::UNO_QUERY_THROW);
+    for (sal_Int32 row = 10; row < 40; ++row)
+        setProperty(lines->getRows()->getByIndex(row).get<uno::Reference<uno::XInterface>>(),
+                    "Height", row % 3 == 0 ? 5000 : 100 + row);
+    for (const char* address :
+         {"A1", "D3", "D5", "G12", "A20", "F41", "ZZ900", "XFD1048576", "B2"}) {
+        const Object cell = looks.get("Range", address).toObject();
+        const Object chart =
+            looks.get("ChartObjects")
+                .call("Add", cell.get("Left"), cell.get("Top"), cell.get("Width").toDouble() - 1,
+                      cell.get("Height").toDouble() - 1)
+                .toObject();
+        const std::string found = cell.get("Address").toText();
+        EXPECT_EQ(chart.get("TopLeftCell").get("Address").toText(), found);
+        EXPECT_EQ(chart.get("BottomRightCell").get("Address").toText(), found);
+    }
 }
 
 TEST_F(ExcelSheets, CostsNoMoreCallsToLookUpASheetWhenThereAreMany) {

@@ -1,8 +1,5 @@
 #include "office/libreoffice/excel/cell_range.h"
 
-#include <com/sun/star/awt/Point.hpp>
-#include <com/sun/star/awt/Size.hpp>
-#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XSheetOperation.hpp>
@@ -52,14 +49,7 @@ void CellRange::setNumberFormat(const std::string& code) {
 }
 
 model::Box CellRange::place() {
-    uno::Sequence<rtl::OUString> names(2);
-    names[0] = "Position";
-    names[1] = "Size";
-    const auto values = as<css::beans::XMultiPropertySet>(range())->getPropertyValues(names);
-    css::awt::Point corner;
-    css::awt::Size size;
-    values[0] >>= corner;
-    values[1] >>= size;
+    const auto [corner, size] = placeOf(range());
     return {pointsOf(corner.X), pointsOf(corner.Y), pointsOf(size.Width), pointsOf(size.Height)};
 }
 

@@ -1,6 +1,6 @@
 #include "office/libreoffice/excel/sheet_record.h"
 
-#include <com/sun/star/awt/Point.hpp>
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/XSheetCellRangeContainer.hpp>
 #include <com/sun/star/sheet/XUsedAreaCursor.hpp>
@@ -19,32 +19,48 @@ namespace libreoffice::excel {
 
 namespace {
 
-/// Searches columns and rows at once, since a cell tells both edges in one call.
-struct Search {
-    std::int32_t low = 0;
-    std::int32_t high;
-    std::int32_t step = 8;
-    bool bounded = false;
+/// Looks for the column, or the row, at a point.
+class Search {
+public:
+    Search(SeenLine& seen, std::int32_t point, std::int32_t last)
+        : seen_(seen),
+          point_(point),
+          end_(last + 1) {}
 
-    explicit Search(std::int32_t last) : high(last) {}
+    [[nodiscard]] bool isDone() const { return end_ - found_ == 1; }
+    /// The line before the end, if the search is done.
+    [[nodiscard]] std::int32_t found() const { return found_; }
 
-    [[nodiscard]] bool isDone() const { return low >= high; }
-    /// Far out in growing steps first: what is looked for is near the corner of the sheet nearly
-    /// always.
-    [[nodiscard]] std::int32_t next() const {
-        if (isDone()) return low;
-        return bounded ? low + (high - low + 1) / 2 : std::min(low + step, high);
+    /// Most lines are as wide as their neighbours, so that the one seen last tells nearly always
+    /// where to look.
+    [[nodiscard]] std::int32_t next() {
+        constexpr int guesses = 8;
+        if (isDone()) return found_;
+        const std::int32_t guess = ++tries_ > guesses
+                                       ? found_ + (end_ - found_) / 2
+                                       : seen_.place + (point_ - seen_.start) / seen_.length;
+        return std::clamp(guess, found_ + 1, end_ - 1);
     }
-    void learn(std::int32_t place, bool beginsBeforePoint) {
+    void learn(std::int32_t place, std::int32_t start, std::int32_t length) {
+        // Lines that are hidden have next to no length, which says nothing of others.
+        constexpr std::int32_t thinnest = 10;
+        seen_ = {place, start, length > thinnest ? length : seen_.length};
         if (isDone()) return;
-        if (beginsBeforePoint) {
-            low = place;
-            step *= 2;
+        if (start > point_) {
+            end_ = place;
         } else {
-            high = place - 1;
-            bounded = true;
+            found_ = place;
+            // The next line may begin one unit sooner: both are rounded.
+            if (point_ < start + length - 1) end_ = place + 1;
         }
     }
+
+private:
+    SeenLine& seen_;
+    std::int32_t point_;
+    std::int32_t found_ = 0;
+    std::int32_t end_;
+    int tries_ = 0;
 };
 
 }  // namespace
@@ -135,18 +151,17 @@ model::CellBlock SheetRecord::used() {
 }
 
 model::CellBlock SheetRecord::cellAt(double left, double top) {
-    const css::awt::Point point(hundredthMmOf(left), hundredthMmOf(top));
-    Search column(model::CellBlock::lastColumnOfSheet);
-    Search row(model::CellBlock::lastRowOfSheet);
+    Search column(seenColumn_, hundredthMmOf(left), model::CellBlock::lastColumnOfSheet);
+    Search row(seenRow_, hundredthMmOf(top), model::CellBlock::lastRowOfSheet);
+    // A cell tells of its column and of its row.
     while (!column.isDone() || !row.isDone()) {
         const std::int32_t atColumn = column.next();
         const std::int32_t atRow = row.next();
-        const auto cell = sheet_->getCellByPosition(atColumn, atRow);
-        const auto corner = property<css::awt::Point>(cell, "Position");
-        column.learn(atColumn, corner.X <= point.X);
-        row.learn(atRow, corner.Y <= point.Y);
+        const auto [corner, size] = placeOf(range(model::CellBlock::cell(atRow, atColumn)));
+        column.learn(atColumn, corner.X, size.Width);
+        row.learn(atRow, corner.Y, size.Height);
     }
-    return model::CellBlock::cell(row.low, column.low);
+    return model::CellBlock::cell(row.found(), column.found());
 }
 
 void SheetRecord::select(const model::CellBlocks& blocks) {
@@ -178,6 +193,17 @@ model::SheetChartPtr SheetRecord::ownChart() {
     // LibreOffice has lost it. The chart lasts as long as what it was recovered from.
     const auto recovered = std::make_shared<RecoveredChart>(*this);
     return {recovered, recovered->chart().get()};
+}
+
+PlaceOfCells placeOf(const uno::Reference<css::table::XCellRange>& cells) {
+    uno::Sequence<rtl::OUString> names(2);
+    names[0] = "Position";
+    names[1] = "Size";
+    const auto values = as<css::beans::XMultiPropertySet>(cells)->getPropertyValues(names);
+    PlaceOfCells place;
+    values[0] >>= place.corner;
+    values[1] >>= place.size;
+    return place;
 }
 
 NamedRanges& SheetRecord::names() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <com/sun/star/awt/Point.hpp>
+#include <com/sun/star/awt/Size.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
@@ -20,6 +22,21 @@ namespace libreoffice::excel {
 namespace model = office::model::excel;
 
 class CalcDocument;
+
+/// Where cells lie on their sheet, in 1/100 mm.
+struct PlaceOfCells {
+    css::awt::Point corner;
+    css::awt::Size size;
+};
+
+[[nodiscard]] PlaceOfCells placeOf(const uno::Reference<css::table::XCellRange>& cells);
+
+/// A column or a row, in 1/100 mm. As long as none was seen: one that a new sheet has.
+struct SeenLine {
+    std::int32_t place;
+    std::int32_t start;
+    std::int32_t length;
+};
 
 /// A sheet that was met, and what automation knows of it beyond LibreOffice. The reference held
 /// follows the sheet when it is renamed or moved. When the sheet is deleted it silently stands for
@@ -81,6 +98,8 @@ private:
     uno::Reference<css::sheet::XCellRangeAddressable> addressable_;
     std::string name_;
     ChartShapes charts_;
+    SeenLine seenColumn_{0, 0, 2258};
+    SeenLine seenRow_{0, 0, 452};
     std::optional<NamedRanges> names_;
 };
 

@@ -1,10 +1,11 @@
 #include "office/libreoffice/excel/table_of_cells.h"
 
-#include <com/sun/star/awt/Point.hpp>
-#include <com/sun/star/awt/Size.hpp>
+#include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
+#include <com/sun/star/sheet/XConditionalFormats.hpp>
 #include <com/sun/star/sheet/XSheetCellCursor.hpp>
 #include <com/sun/star/sheet/XSheetCellRange.hpp>
+#include <com/sun/star/sheet/XSheetCellRanges.hpp>
 #include <com/sun/star/table/XColumnRowRange.hpp>
 #include <com/sun/star/text/XTextRange.hpp>
 
@@ -305,7 +306,37 @@ TableLook withoutUnseenLines(const TableLook& table) {
     return seen;
 }
 
+/// Whether nothing is seen of cells. Conditions may dress up empty ones too.
+bool areBlank(SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& cells) {
+    namespace Flags = css::sheet::CellFlags;
+    constexpr auto contents =
+        static_cast<sal_Int16>(Flags::VALUE | Flags::DATETIME | Flags::STRING | Flags::FORMULA);
+    const auto filled = as<css::sheet::XCellRangesQuery>(cells)->queryContentCells(contents);
+    if (filled->getRangeAddresses().hasElements()) return false;
+    const CellFormats formats = readCellFormats(cells, {});
+    const auto isSeen = [](const CellFormat& format) {
+        const CellLook& look = format.look;
+        return look.fill || look.left.widthPt > 0 || look.right.widthPt > 0 ||
+               look.top.widthPt > 0 || look.bottom.widthPt > 0;
+    };
+    if (std::any_of(formats.formats.begin(), formats.formats.end(), isSeen)) return false;
+    const auto conditions = property<uno::Reference<css::sheet::XConditionalFormats>>(
+        sheet.sheet(), "ConditionalFormats");
+    return !conditions.is() || conditions->getLength() == 0;
+}
+
 }  // namespace
+
+std::optional<TableLook> tableOfBlankCells(SheetRecord& sheet, const model::CellBlock& block) {
+    const auto cells = sheet.range(wholeCells(sheet, block));
+    if (!areBlank(sheet, cells)) return std::nullopt;
+    const auto [corner, size] = placeOf(cells);
+    return TableLook{{pointsOf(size.Width)},
+                     {pointsOf(size.Height)},
+                     {CellLook{}},
+                     pointsOf(corner.X),
+                     pointsOf(corner.Y)};
+}
 
 TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block, std::size_t mostCells) {
     const model::CellBlock whole = wholeCells(sheet, block);
@@ -317,10 +348,9 @@ TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block, std::s
                                               static_cast<std::size_t>(copy.getLength())});
 
     TableLook table;
-    const auto corner = property<css::awt::Point>(cells, "Position");
+    const auto [corner, size] = placeOf(cells);
     table.leftPt = pointsOf(corner.X);
     table.topPt = pointsOf(corner.Y);
-    const auto size = property<css::awt::Size>(cells, "Size");
     const auto lines = as<css::table::XColumnRowRange>(sheet.sheet());
     std::vector<std::optional<double>> rowHeights;
     for (const HtmlRow& row : html.rows) rowHeights.push_back(row.heightPx);

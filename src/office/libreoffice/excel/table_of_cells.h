@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "office/libreoffice/excel/sheet_record.h"
 #include "office/table_look.h"
 
@@ -11,5 +13,10 @@ namespace libreoffice::excel {
 /// cells than that.
 [[nodiscard]] office::TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block,
                                              std::size_t mostCells);
+
+/// One cell of the size of a block of which nothing is seen; nothing for another. It may be one
+/// that conditions would dress up: then the table tells.
+[[nodiscard]] std::optional<office::TableLook> tableOfBlankCells(SheetRecord& sheet,
+                                                                 const model::CellBlock& block);
 
 }  // namespace libreoffice::excel

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "office/model/excel/sheet.h"
 
 namespace office::model::excel {
 
@@ -23,10 +26,21 @@ struct Publication {
 
 using PublicationPtr = std::shared_ptr<Publication>;
 
+/// The charts of a sheet, and where they lie.
+struct PlacedCharts {
+    std::vector<SheetChartPtr> charts;
+    std::vector<Box> boxes;
+};
+
 struct Publications {
     std::vector<PublicationPtr> all;
     /// How many there have been, for the names of those to come.
     int made = 0;
+    /// The number of the picture that was written last.
+    int lastPicture = 0;
+    /// As they were seen first since the records were cleared: to ask for all of them for each
+    /// record would take ever longer.
+    std::map<const Sheet*, PlacedCharts> placedCharts;
 };
 
 }  // namespace office::model::excel

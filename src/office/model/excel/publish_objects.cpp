@@ -20,7 +20,7 @@ public:
         : home_(home),
           what_(what),
           source_(std::move(source)),
-          page_(what.file) {}
+          page_(what.file, home.book->publications().lastPicture) {}
 
     void publish(bool create) {
         const SheetPtr sheet = home_.book->findSheet(what_.sheet);
@@ -75,15 +75,27 @@ private:
     [[nodiscard]] std::vector<PagePicture> chartsOn(const InSheet& place, const TableLook& look) {
         constexpr double touchingPt = 0.5;
         std::vector<PagePicture> pictures;
-        for (const SheetChartPtr& chart : place.sheet->charts()) {
-            const Box box = chart->box();
+        const auto& [charts, boxes] = placedCharts(*place.sheet);
+        for (std::size_t i = 0; i < charts.size(); ++i) {
+            const Box& box = boxes[i];
             const bool lies = box.left + touchingPt < look.leftPt + look.widthPt() &&
                               box.left + box.width > look.leftPt + touchingPt &&
                               box.top + touchingPt < look.topPt + look.heightPt() &&
                               box.top + box.height > look.topPt + touchingPt;
-            if (lies) pictures.push_back(pictureOf(place, *chart));
+            if (lies) pictures.push_back(pictureOf(place, *charts[i]));
         }
         return pictures;
+    }
+
+    [[nodiscard]] const PlacedCharts& placedCharts(Sheet& sheet) {
+        PlacedCharts& placed = home_.book->publications().placedCharts[&sheet];
+        auto charts = sheet.charts();
+        if (charts != placed.charts) {
+            placed.boxes.clear();
+            for (const SheetChartPtr& chart : charts) placed.boxes.push_back(chart->box());
+            placed.charts = std::move(charts);
+        }
+        return placed;
     }
 
     const InBook& home_;
@@ -154,7 +166,10 @@ public:
                 .method("Add",
                         {"SourceType", "Filename", "Sheet", "Source", "HtmlType", "DivID", "Title"},
                         &Self::add)
-                .method("Delete", {}, [](Self& self) { self.all().clear(); });
+                .method("Delete", {}, [](Self& self) {
+                    self.all().clear();
+                    self.book().publications().placedCharts.clear();
+                });
         return table;
     }
 

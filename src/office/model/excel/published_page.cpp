@@ -72,7 +72,9 @@ void writeNew(const fs::path& path, std::string_view bytes) {
 
 }  // namespace
 
-PublishedPage::PublishedPage(std::string_view file) : file_(file) {}
+PublishedPage::PublishedPage(std::string_view file, int& lastPicture)
+    : file_(file),
+      lastPicture_(lastPicture) {}
 
 bool PublishedPage::exists() const {
     std::error_code ignored;

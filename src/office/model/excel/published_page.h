@@ -12,7 +12,8 @@ namespace office::model::excel {
 /// Whatever can't be written is a `Failure` 75 with the file's name; the page is then as it was.
 class PublishedPage {
 public:
-    explicit PublishedPage(std::string_view file);
+    /// The number of the last picture is counted up with each that is added.
+    PublishedPage(std::string_view file, int& lastPicture);
 
     /// Whether there is such a file.
     [[nodiscard]] bool exists() const;
@@ -26,7 +27,7 @@ public:
 
 private:
     std::filesystem::path file_;
-    int lastPicture_ = 0;
+    int& lastPicture_;
 };
 
 }  // namespace office::model::excel
