@@ -78,17 +78,24 @@ std::optional<pid_t> startOpener(std::string target) {
     return isStarted ? std::optional(process) : std::nullopt;
 }
 
+/// A process that has ended is gone only once its parent has asked what became of it.
+void letGo(pid_t opener) {
+    std::thread([opener] { ::waitpid(opener, nullptr, 0); }).detach();
+}
+
 /// Some openers end when they have handed over, others with the program that they have started; one
 /// that is still running after a while has found a program.
-bool endsWell(pid_t opener) {
-    constexpr std::chrono::milliseconds step{20};
+bool endsWell(pid_t opener, session::Host& host) {
+    constexpr std::uint32_t stepMs = 20;
     constexpr int steps = 150;
     int status = 0;
     for (int i = 0; i < steps; ++i) {
         if (::waitpid(opener, &status, WNOHANG) == opener)
             return WIFEXITED(status) && WEXITSTATUS(status) == 0;
-        std::this_thread::sleep_for(step);
+        host.letEventsRun();
+        host.sleep(stepMs);
     }
+    letGo(opener);
     return true;
 }
 
@@ -283,13 +290,13 @@ void PosixHost::writeImage(std::string_view png, session::ImageFormat format,
 
 void PosixHost::openLink(std::string_view address) {
     // The browser goes on for itself; whether it came up is nobody's concern.
-    static_cast<void>(startOpener(std::string(address)));
+    if (const auto opener = startOpener(std::string(address))) letGo(*opener);
 }
 
 bool PosixHost::openFile(std::string_view path) {
     if (!pathExists(path)) return false;
     const auto opener = startOpener(fs::absolute(fs::path(path)).string());
-    return opener && endsWell(*opener);
+    return opener && endsWell(*opener, *this);
 }
 
 void PosixHost::messageBox(std::string_view text, std::string_view title) {

@@ -23,8 +23,10 @@ void AddBlocker(std::string& blockers, std::string_view text) {
 }
 
 void AddReviewItem(std::string& reviewItems, std::string& reviewLines, std::string_view text) {
+    const std::string line = fmt::format("- {}\r\n", text);
+    if (reviewLines.find(line) != std::string::npos) return;
     reviewItems += panels::element("li", {}, panels::HtmlEscape(text));
-    reviewLines += fmt::format("- {}\r\n", text);
+    reviewLines += line;
 }
 
 void reviewItems(session::OfficeSession& session, const ExportList& list, ReviewTexts& texts) {
@@ -200,24 +202,26 @@ void reviewWord(session::OfficeSession& session, std::string& blockers) {
 }  // namespace
 
 ReviewTexts reviewExport(session::OfficeSession& session, const ExportList& list,
-                         const ExportChoices& choices) {
+                         const std::vector<ExportChoices>& exports) {
     ReviewTexts texts;
     reviewItems(session, list, texts);
-    if (choices.destination == Destination::PowerPoint) {
-        reviewPowerPoint(session, list, choices, texts.Blockers);
-        if (texts.Blockers.empty())
-            reviewFormat(session, list, choices.format, "PowerPoint.Application", texts);
-    } else if (choices.destination == Destination::Word) {
-        reviewWord(session, texts.Blockers);
-        if (texts.Blockers.empty())
-            reviewFormat(session, list, choices.format, "Word.Application", texts);
+    for (const ExportChoices& choices : exports) {
+        if (choices.destination == Destination::PowerPoint) {
+            reviewPowerPoint(session, list, choices, texts.Blockers);
+            if (texts.Blockers.empty())
+                reviewFormat(session, list, choices.format, "PowerPoint.Application", texts);
+        } else if (choices.destination == Destination::Word) {
+            reviewWord(session, texts.Blockers);
+            if (texts.Blockers.empty())
+                reviewFormat(session, list, choices.format, "Word.Application", texts);
+        }
     }
     return texts;
 }
 
 ReviewResult PreExportReview(session::OfficeSession& session, const ExportList& list,
-                             const ExportChoices& choices) {
-    const ReviewTexts texts = reviewExport(session, list, choices);
+                             const std::vector<ExportChoices>& exports) {
+    const ReviewTexts texts = reviewExport(session, list, exports);
     if (!texts.Blockers.empty()) {
         panels::ShowExportBlockedNotice(session.notices, texts.Blockers, texts.ReviewItems);
         return ReviewResult::Blocked;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "catalogue/export_list.h"
 #include "session/office_session.h"
@@ -16,15 +17,17 @@ struct ReviewTexts {
     std::string ReviewLines;
 };
 
-/// Looks at the rows and at the application of the destination, and tells nobody. Changes nothing
-/// but the session's PowerPoint reference, which is taken anew.
+/// Looks at the rows and at the application of each destination, and tells nobody. What is found
+/// for several destinations is said once. Changes nothing but the session's PowerPoint reference,
+/// which is taken anew.
 [[nodiscard]] ReviewTexts reviewExport(session::OfficeSession& session, const ExportList& list,
-                                       const ExportChoices& choices);
+                                       const std::vector<ExportChoices>& exports);
 
 enum class ReviewResult { Go, Blocked, Cancelled };
 
-/// The review ahead of an export: blockers are shown and end it, review items ask whether to go on.
+/// The review ahead of one or several exports: blockers are shown and end it, review items ask
+/// whether to go on, all at once.
 ReviewResult PreExportReview(session::OfficeSession& session, const ExportList& list,
-                             const ExportChoices& choices);
+                             const std::vector<ExportChoices>& exports);
 
 }  // namespace catalogue

@@ -104,7 +104,7 @@ void UserformObj::showTarget(const Target& target) {
 void UserformObj::PasteIT_Click() {
     for (int i = 1; i <= 4; ++i) timer(i).enabled = false;
     activateWorkbook();
-    if (PreExportReview(session_, list_, choices()) != ReviewResult::Go) return;
+    if (PreExportReview(session_, list_, {choices()}) != ReviewResult::Go) return;
 
     keepList();
     if (hooks_.StartExport) hooks_.StartExport(list_, choices());

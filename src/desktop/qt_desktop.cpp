@@ -47,12 +47,13 @@ bool QtDesktop::hasTopmostBelow(const LoadedForm& host) const {
 
 void QtDesktop::openWindow(forms::Form& form, forms::ShowMode mode) {
     QWindow* parent = nullptr;
-    if (mode == forms::ShowMode::Modal) {
-        for (const auto& host : forms_) {
-            if (host->isOf(form) || host->window() == nullptr) continue;
-            if (host->window()->isVisible()) parent = host->window()->windowHandle();
-        }
+    for (const auto& host : forms_) {
+        if (host->isOf(form) || host->window() == nullptr || !host->window()->isVisible()) continue;
+        parent = host->window()->windowHandle();
+        // Above a modal form only another modal one takes input.
+        if (host->window()->isModal()) mode = forms::ShowMode::Modal;
     }
+    if (mode == forms::ShowMode::Modeless) parent = nullptr;
     loadedFor(form).open(mode, parent);
 }
 

@@ -129,17 +129,18 @@ void DialogPDF::MakeBlankDoc_Paste_ExportPdf_AndClose() {
     PdfResult result;
     const bool went = scope.attempt([&] { result = ExportRowsToPdf(batch, wanted, path); });
     session().progress.unload();
-    takesInput = true;
     if (!went) {
         session::ShowErrorNotice(session().notices, scope.lastFailure()->description());
-        return;
+    } else {
+        tellIfCancelled(session(), result.walk);
+        failed.tell(session());
+        // Events run until the PDF is open.
+        if (result.isMade && wanted.openPdf && !OpenPdfFile(session(), path))
+            session::ShowWarningNotice(
+                session().notices,
+                fmt::format("PDF was created but couldn't be opened automatically:\r\n{}", path));
     }
-    tellIfCancelled(session(), result.walk);
-    failed.tell(session());
-    if (result.isMade && wanted.openPdf && !OpenPdfFile(session(), path))
-        session::ShowWarningNotice(
-            session().notices,
-            fmt::format("PDF was created but couldn't be opened automatically:\r\n{}", path));
+    takesInput = true;
 }
 
 void StartPdfExport(session::OfficeSession& session, forms::Desktop& desktop,

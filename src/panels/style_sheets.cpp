@@ -73,7 +73,7 @@ constexpr std::array<StyleRule, 25> baseRules{{
      "color:#fca5a5;font-size:11px;text-align:center;font-weight:600;line-height:1.45;margin:0"},
 }};
 
-constexpr std::array<StyleRule, 19> optionRules{{
+constexpr std::array<StyleRule, 20> optionRules{{
     {".opts", "padding:8px 14px 14px 14px;text-align:left;border-top:1px solid #334155"},
     {".opts-title",
      "font-size:11px;font-weight:700;color:#94a3b8;margin:0 0 6px 2px;letter-spacing:.2px"},
@@ -97,6 +97,7 @@ constexpr std::array<StyleRule, 19> optionRules{{
      "width:96%;margin-top:4px;padding:4px 6px;border:1px solid #334155;border-radius:5px;"
      "font-family:inherit;font-size:12px;color:#60a5fa;background:#111827;resize:none"},
     {".field-suffix", "margin-left:6px;color:#94a3b8;font-size:11px"},
+    {".field-input:disabled,.field-input:disabled+.field-suffix", "opacity:.4"},
     {".choice-group", "padding:6px 14px 2px;text-align:left;border-top:1px solid #334155"},
     {".choice-title",
      "font-size:11px;font-weight:700;color:#94a3b8;margin:0 0 5px 2px;letter-spacing:.2px"},

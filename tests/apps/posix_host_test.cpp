@@ -157,15 +157,29 @@ TEST_F(PosixHostTest, AFileThatCantBeWrittenLeavesTheEarlierOneAndNothingBesideI
 
 TEST_F(PosixHostTest, WhatOpensAFileSaysWhetherItDid) {
     const std::string file = folder.write("a page; touch gone.html", "x");
-    folder.write("xdg-open", "#!/bin/sh\nprintf %s \"$1\" > \"$0.told\"\nexit \"$TOLD_STATUS\"\n");
+    folder.write("xdg-open",
+                 "#!/bin/sh\nprintf %s \"$1\" > \"$0.told\"\nsleep 0.3\nexit \"$TOLD_STATUS\"\n");
     std::filesystem::permissions(folder.file("xdg-open"), std::filesystem::perms::owner_all);
     const std::string before = ::getenv("PATH");
     ::setenv("PATH", (folder.path().string() + ":" + before).c_str(), 1);
+    struct WithEvents : apps::PosixHost {
+        using PosixHost::PosixHost;
+        void letEventsRun() override { ++events; }
+        int events = 0;
+    } windows(console);
     for (const auto& [status, isOpened] : {std::pair("0", true), std::pair("3", false)}) {
         ::setenv("TOLD_STATUS", status, 1);
-        EXPECT_EQ(host->openFile(file), isOpened) << status;
+        EXPECT_EQ(windows.openFile(file), isOpened) << status;
     }
+    EXPECT_GT(windows.events, 5);
     EXPECT_EQ(folder.read("xdg-open.told"), file);
+    host->openLink("https://example.org");
+    const auto isChildLeft = [] {
+        siginfo_t ignored = {};
+        return ::waitid(P_ALL, 0, &ignored, WEXITED | WNOHANG | WNOWAIT) == 0;
+    };
+    for (int i = 0; i < 200 && isChildLeft(); ++i) host->sleep(20);
+    EXPECT_FALSE(isChildLeft());
     EXPECT_FALSE(host->openFile(folder.file("none")));
     ::setenv("PATH", "/nowhere", 1);
     EXPECT_FALSE(host->openFile(file));

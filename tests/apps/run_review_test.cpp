@@ -51,6 +51,11 @@ TEST_F(RunReviewTest, AWarningEndsTheRunUnlessItWasAgreedToBeforehand) {
         << console.error;
     EXPECT_TRUE(console.errorHas("--yes goes on over this."));
     EXPECT_FALSE(hasOutput());
+    const std::string warning = "on hidden worksheets";
+    console.error.clear();
+    EXPECT_EQ(exportWith({"--to", "slides", "--to", "html", "--output", folder.file("page")}), 3);
+    EXPECT_EQ(console.error.find(warning), console.error.rfind(warning))
+        << "once for all destinations";
     EXPECT_EQ(exportWith({"--yes"}), 0) << console.error;
     EXPECT_TRUE(hasOutput());
     EXPECT_EQ(deck->slideCount(), 2U + pictures().size()) << "no slide for the hidden one";

@@ -41,7 +41,7 @@ protected:
         list.rows.front().slideNumber = slideNumber;
     }
     [[nodiscard]] Words blockers() {
-        const std::string markup = catalogue::reviewExport(test.session, list, choices).Blockers;
+        const std::string markup = catalogue::reviewExport(test.session, list, {choices}).Blockers;
         const std::string text = office::replaceAll(panels::listText(markup), "\r\n", "\n");
         Words lines;
         std::istringstream stream(text);
@@ -57,7 +57,7 @@ const char* const noPowerPoint =
 
 TEST_F(Review, LetsAReadyExportGoWithoutAWord) {
     openDeck(1);
-    EXPECT_EQ(catalogue::PreExportReview(test.session, list, choices), ReviewResult::Go);
+    EXPECT_EQ(catalogue::PreExportReview(test.session, list, {choices}), ReviewResult::Go);
     EXPECT_TRUE(test.notices.shown.empty());
     EXPECT_TRUE(test.session.PowerPointFound);
 }
@@ -95,7 +95,7 @@ TEST_F(Review, BlocksARangeOfSeveralAreasForEveryDestination) {
 
 TEST_F(Review, ShowsTheBlockersTogetherWithWhatToReview) {
     list.rows.push_back(row("Chart 2", "Hidden", ItemKind::Chart));
-    EXPECT_EQ(catalogue::PreExportReview(test.session, list, choices), ReviewResult::Blocked);
+    EXPECT_EQ(catalogue::PreExportReview(test.session, list, {choices}), ReviewResult::Blocked);
     ASSERT_EQ(test.notices.shown.size(), 1U);
     EXPECT_EQ(test.notices.shown.front().title, "Export blocked");
     EXPECT_EQ(test.notices.shown.front().message,
@@ -107,8 +107,8 @@ TEST_F(Review, AsksWhetherToGoOnWithoutTheHiddenItems) {
     list.rows.push_back(row("Chart 2", "Hidden", ItemKind::Chart));
     openDeck(1);
     test.notices.answers = {session::answer::ok, session::answer::cancel};
-    EXPECT_EQ(catalogue::PreExportReview(test.session, list, choices), ReviewResult::Go);
-    EXPECT_EQ(catalogue::PreExportReview(test.session, list, choices), ReviewResult::Cancelled);
+    EXPECT_EQ(catalogue::PreExportReview(test.session, list, {choices}), ReviewResult::Go);
+    EXPECT_EQ(catalogue::PreExportReview(test.session, list, {choices}), ReviewResult::Cancelled);
     EXPECT_EQ(test.notices.shown.front().title, "Export review");
     EXPECT_EQ(test.notices.shown.front().buttons, session::buttons::question);
     EXPECT_EQ(test.notices.shown.front().message,
@@ -166,7 +166,7 @@ TEST_F(Review, EscapesNamesInItsPage) {
     openDeck(1);
     list.rows.front().name = "<b>";
     predefine("0");
-    catalogue::PreExportReview(test.session, list, choices);
+    catalogue::PreExportReview(test.session, list, {choices});
     EXPECT_NE(test.notices.shown.front().page.find(
                   "<li>Invalid slide number for &quot;&lt;b&gt;&quot;.</li>"),
               std::string::npos);
@@ -178,7 +178,7 @@ TEST_F(Review, AsksOverWhatTheFormatCannotDoForAnItem) {
     test.suite.remarkOn(office::PasteAs::Embedded, "it stays <small>");
     const auto lines = [&](catalogue::ExportFormat format) {
         choices.format = format;
-        return catalogue::reviewExport(test.session, list, choices).ReviewLines;
+        return catalogue::reviewExport(test.session, list, {choices}).ReviewLines;
     };
     const std::string hidden = "- 1 checked item(s) are on hidden worksheets and will be skipped.";
     EXPECT_EQ(lines(catalogue::ExportFormat::Embedded),

@@ -44,6 +44,25 @@ TEST_F(Windows, AModalFormReturnsWhenItIsUnloadedAndTheOthersTakeNoInputUntilThe
     EXPECT_EQ(QGuiApplication::modalWindow(), nullptr);
 }
 
+TEST_F(Windows, AFormThatAModalOneShowsCanBeReached) {
+    sample::SampleForm dialog(desk), progress(desk);
+    const auto clickIn = [&](const sample::SampleForm& of) {
+        QTest::mouseClick(window(of).windowHandle(), Qt::LeftButton, {},
+                          desk.widgetOf(of.ContinueOk)->mapTo(&window(of), QPoint(20, 10)));
+    };
+    whenModal([&] {
+        desk.show(progress, ShowMode::Modeless);
+        clickIn(progress);
+        clickIn(dialog);
+        desk.unload(progress);
+        clickIn(dialog);
+        desk.unload(dialog);
+    });
+    desk.show(dialog, ShowMode::Modal);
+    EXPECT_EQ(progress.happened, (std::vector<std::string>{"Continue", "unload"}));
+    EXPECT_EQ(dialog.happened, (std::vector<std::string>{"Continue", "unload"}));
+}
+
 TEST_F(Windows, AFormThatTakesNoInputLetsClicksKeysAndItsClosingPass) {
     form.takesInput = false;
     click(form.ContinueOk);

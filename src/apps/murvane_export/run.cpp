@@ -123,7 +123,7 @@ private:
     int printItems();
     int reviewAlone();
     int exportItems();
-    [[nodiscard]] catalogue::ReviewResult review(const Target& target);
+    [[nodiscard]] catalogue::ReviewResult review();
     void runJob(std::size_t place);
     void letUserSee();
     int commit();
@@ -233,16 +233,17 @@ int Run::printItems() {
     return exit_code::done;
 }
 
-catalogue::ReviewResult Run::review(const Target& target) {
-    return catalogue::PreExportReview(session_, list_, choicesFor(target.destination, options_));
+catalogue::ReviewResult Run::review() {
+    std::vector<catalogue::ExportChoices> exports;
+    for (const Target& target : options_.targets)
+        exports.push_back(choicesFor(target.destination, options_));
+    return catalogue::PreExportReview(session_, list_, exports);
 }
 
 int Run::reviewAlone() {
-    for (const Target& target : options_.targets) {
-        const auto result = review(target);
-        line_.clear();
-        if (result != catalogue::ReviewResult::Go) return exit_code::blocked;
-    }
+    const auto result = review();
+    line_.clear();
+    if (result != catalogue::ReviewResult::Go) return exit_code::blocked;
     if (!options_.quiet) {
         surroundings_.console.writeError(fmt::format(
             "{} of {} items can be exported.\n", catalogue::CountExportableRows(session_, list_),
@@ -252,9 +253,7 @@ int Run::reviewAlone() {
 }
 
 int Run::exportItems() {
-    for (const Target& target : options_.targets) {
-        if (review(target) != catalogue::ReviewResult::Go) return exit_code::blocked;
-    }
+    if (review() != catalogue::ReviewResult::Go) return exit_code::blocked;
     for (std::size_t place = 0; place < jobs_.size(); ++place) {
         stopIfInterrupted();
         const int remarksBefore = notices_.remarks();
