@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "office/picture.h"
 #include "office/table_look.h"
 
 namespace office {
@@ -40,6 +41,10 @@ public:
     /// A PNG file with 288 dots to the inch and the true size. `Failure` 1004 if there is nothing
     /// to take a picture of.
     [[nodiscard]] virtual std::string png() const = 0;
+    /// The same for those who can wait for it.
+    [[nodiscard]] virtual Picture picture() const {
+        return finishedPicture(widthPt(), heightPt(), png());
+    }
     /// `Failure` 1004 for anything but cells.
     [[nodiscard]] virtual TableLook table() const = 0;
     /// The same with as many cells as a page takes, which is more than a table elsewhere holds.

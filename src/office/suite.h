@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "office/copied.h"
+#include "office/picture.h"
 #include "office/value.h"
 
 namespace office {
@@ -52,6 +53,8 @@ public:
     virtual ClipboardPicture clipboardPicture(ClipboardPicture::Kind kind) = 0;
     /// Where its Excel leaves what was copied, for a PowerPoint that stands elsewhere.
     virtual ClipboardPtr clipboard() = 0;
+    /// Those of its Excel, likewise; null if all are whole as soon as it says so.
+    virtual PictureFilesPtr pictureFiles() { return nullptr; }
     /// What the user should know before items are pasted in this form into the active document of
     /// an application ("PowerPoint.Application"), a line each.
     virtual std::vector<std::string> remarksOn(std::string_view /*className*/, PasteAs,

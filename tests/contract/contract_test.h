@@ -55,6 +55,10 @@ protected:
     [[nodiscard]] Object range(std::string_view sheetName, std::string_view address) const {
         return sheet(sheetName).get("Range", address).toObject();
     }
+    /// A picture that was exported may still be on its way.
+    static void awaitPicture(const std::string& file) {
+        if (const auto files = suite().pictureFiles()) files->complete(file);
+    }
 
     Object excel;
     Object book;

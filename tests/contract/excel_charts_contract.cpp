@@ -56,10 +56,12 @@ TEST_F(ExcelContract, ExportsChartsAndChartSheetsAsCrispPicturesOfTheirSize) {
         support::writeBytes(file, {'o', 'l', 'd'});
         const Value object = sheet(name).call("ChartObjects", 1);
         object.get("Chart").call("Export", arg("Filename", file), arg("FilterName", "PNG"));
+        awaitPicture(file);
         expectCrisp(file, object.get("Width").toDouble(), object.get("Height").toDouble());
     }
     const Value chart = book.get("Charts").get("Item", "Overview");
     chart.call("Export", file, "PNG");
+    awaitPicture(file);
     EXPECT_GT(support::pngSizeOf(file).dotsPerInch(), 200);
     EXPECT_GT(support::pngSizeOf(file).widthPoints(), 100);
     EXPECT_NE(failureOf([&] { chart.call("Export", "/nonexistent/folder/chart.png", "PNG"); }), 0);
@@ -79,6 +81,7 @@ TEST_F(ExcelContract, TurnsARangeIntoAPictureThroughATemporaryChart) {
         const std::string file = environment().temporaryFile("Range_.png");
         object.get("Chart").call("Export", file, "PNG");
         object.call("Delete");
+        awaitPicture(file);
         EXPECT_NE(failureOf([&] { object.get("Name"); }), 0);
         expectCrisp(file, width, height);
         EXPECT_EQ(where.get("ChartObjects").get("Count").toLong(), before);

@@ -40,6 +40,7 @@ protected:
     [[nodiscard]] std::string exported(const Value& chart, const char* name = "chart.png") const {
         const std::string path = file(name);
         chart.call("Export", arg("Filename", path), arg("FilterName", "PNG"));
+        desk->drawingRoom->complete(path);
         return path;
     }
     /// Excel's way from a range to a picture file.

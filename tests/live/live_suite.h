@@ -49,7 +49,8 @@ protected:
     }
 
     std::shared_ptr<libreoffice::Desk> desk = std::make_shared<libreoffice::Desk>(
-        connection(), true, std::make_shared<office::Clipboard>());
+        connection(), true, std::make_shared<office::Clipboard>(),
+        std::make_shared<office::drawing::DrawingRoom>());
     Object app;
     std::string lastWords;
 

@@ -78,7 +78,8 @@ protected:
     /// What automation that was just started knows.
     [[nodiscard]] static DeskPtr freshDesk() {
         return std::make_shared<Desk>(screen->connection, false,
-                                      std::make_shared<office::Clipboard>());
+                                      std::make_shared<office::Clipboard>(),
+                                      std::make_shared<office::drawing::DrawingRoom>());
     }
 };
 

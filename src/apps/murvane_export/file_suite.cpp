@@ -28,6 +28,7 @@ package::MeasureText measureWith(session::Host& host) {
 package::FileRules rulesOf(office::Suite& below, session::Host& host, const Options& options,
                            Destination destination, const package::WorkbookFilesPtr& workbooks) {
     package::FileRules rules{.measure = measureWith(host), .clipboard = below.clipboard()};
+    rules.pictures = below.pictureFiles();
     rules.workbooks = workbooks;
     rules.embedsSheetAlone = options.embedsSheetAlone;
     const Target* target = options.targetOf(destination);

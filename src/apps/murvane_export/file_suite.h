@@ -29,6 +29,7 @@ public:
         return below_.clipboardPicture(kind);
     }
     office::ClipboardPtr clipboard() override { return below_.clipboard(); }
+    office::PictureFilesPtr pictureFiles() override { return below_.pictureFiles(); }
     std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;

@@ -60,8 +60,10 @@ uno::Reference<css::frame::XModel> modelOf(uno::Reference<uno::XInterface> compo
 
 }  // namespace
 
-Desk::Desk(std::shared_ptr<Connection> connection, bool hidden, office::ClipboardPtr clipboard)
-    : connection_(std::move(connection)),
+Desk::Desk(std::shared_ptr<Connection> connection, bool hidden, office::ClipboardPtr clipboard,
+           std::shared_ptr<office::drawing::DrawingRoom> room)
+    : drawingRoom(std::move(room)),
+      connection_(std::move(connection)),
       guard_(std::make_shared<ConnectionGuard>(connection_)),
       hidden_(hidden),
       clipboard_(std::move(clipboard)) {}

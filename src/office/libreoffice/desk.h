@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "office/drawing/drawing_room.h"
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/document.h"
 #include "office/libreoffice/window_order.h"
@@ -30,7 +31,8 @@ class WriterDocument;
 class Desk {
 public:
     /// `hidden`: documents are opened without a window, as in a private suite that nobody looks at.
-    Desk(std::shared_ptr<Connection> connection, bool hidden, office::ClipboardPtr clipboard);
+    Desk(std::shared_ptr<Connection> connection, bool hidden, office::ClipboardPtr clipboard,
+         std::shared_ptr<office::drawing::DrawingRoom> room);
 
     [[nodiscard]] Connection& connection() const { return *connection_; }
     [[nodiscard]] const std::shared_ptr<Connection>& connectionPtr() const { return connection_; }
@@ -68,7 +70,9 @@ public:
                                             const std::string& password = {},
                                             bool readOnly = false);
 
-    /// Makes picture files; null until the first one is asked for.
+    /// Where pictures are drawn.
+    const std::shared_ptr<office::drawing::DrawingRoom> drawingRoom;
+    /// Makes pictures; null until the first one is asked for.
     std::shared_ptr<excel::PictureMaker> pictureMaker;
 
     /// Nothing in the suite answers to these.

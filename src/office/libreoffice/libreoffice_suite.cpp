@@ -49,7 +49,8 @@ std::unique_ptr<LibreOfficeSuite> LibreOfficeSuite::on(std::unique_ptr<PrivateIn
 
 LibreOfficeSuite::LibreOfficeSuite(std::unique_ptr<PrivateInstance> instance,
                                    std::shared_ptr<Connection> connection)
-    : instance_(std::move(instance)) {
+    : instance_(std::move(instance)),
+      drawingRoom_(std::make_shared<office::drawing::DrawingRoom>()) {
     connect(std::move(connection));
 }
 
@@ -58,7 +59,12 @@ void LibreOfficeSuite::connect(std::shared_ptr<Connection> connection) {
         const std::lock_guard lock(connecting_);
         connection_ = std::move(connection);
     }
-    if (connection_) desk_ = std::make_shared<Desk>(connection_, instance_ != nullptr, clipboard_);
+    if (connection_)
+        desk_ = std::make_shared<Desk>(connection_, instance_ != nullptr, clipboard_, drawingRoom_);
+}
+
+office::PictureFilesPtr LibreOfficeSuite::pictureFiles() {
+    return drawingRoom_;
 }
 
 LibreOfficeSuite::~LibreOfficeSuite() {

@@ -10,6 +10,10 @@
 
 #include "office/suite.h"
 
+namespace office::drawing {
+class DrawingRoom;
+}
+
 namespace libreoffice {
 
 class Connection;
@@ -55,6 +59,7 @@ public:
     void clearClipboard() override;
     office::ClipboardPicture clipboardPicture(office::ClipboardPicture::Kind kind) override;
     office::ClipboardPtr clipboard() override { return clipboard_; }
+    office::PictureFilesPtr pictureFiles() override;
     std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;
@@ -86,6 +91,7 @@ private:
     std::mutex connecting_;
     /// Whether the user's suite has still to be looked for.
     bool seeksRunning_ = false;
+    std::shared_ptr<office::drawing::DrawingRoom> drawingRoom_;
     std::shared_ptr<Desk> desk_;
     office::ClipboardPtr clipboard_ = std::make_shared<office::Clipboard>();
     std::vector<std::weak_ptr<powerpoint::ImpressDeck>> windows_;

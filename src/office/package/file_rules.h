@@ -9,6 +9,7 @@
 #include "office/copied.h"
 #include "office/model/powerpoint/deck.h"
 #include "office/package/workbook/workbook_file.h"
+#include "office/picture.h"
 
 namespace office::package {
 
@@ -23,6 +24,8 @@ struct FileRules {
     MeasureText measure;
     /// Where Excel leaves what was copied; none for an application that nothing is pasted into.
     ClipboardPtr clipboard;
+    /// Where Excel's picture files may still be on their way; none if they never are.
+    PictureFilesPtr pictures = nullptr;
     /// What it pastes charts and workbooks of.
     WorkbookFilesPtr workbooks = std::make_shared<WorkbookFiles>();
     /// Whether the workbook behind an embedded object keeps the object's sheet alone.

@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 #include <unordered_map>
+#include <utility>
 
 #include "office/package/compound_file.h"
 #include "office/package/content_types.h"
@@ -30,6 +31,13 @@ struct Part {
     std::optional<std::string> bytes;
     Storage storage = Storage::Deflated;
     bool isRemoved = false;
+    /// Of bytes that are on their way.
+    std::shared_future<std::string> late = {};
+
+    /// Waits for them.
+    void settle() {
+        if (late.valid()) bytes = std::exchange(late, {}).get();
+    }
 };
 
 }  // namespace
@@ -54,6 +62,7 @@ public:
         Part* part = find(name);
         if (part == nullptr)
             throw PackageError(Fault::Damaged, fmt::format("it has no part {}", shown(name)));
+        part->settle();
         return *part;
     }
 
@@ -70,10 +79,14 @@ public:
         return archive.read(*part.index);
     }
 
-    void put(std::string_view name, std::string bytes, Storage storage) {
-        const auto [place, isNew] = byKey.try_emplace(partKey(name), parts.size());
+    Part& place(std::string_view name, Storage storage) {
+        const auto [found, isNew] = byKey.try_emplace(partKey(name), parts.size());
         if (isNew) parts.push_back({std::string(name), {}, {}, storage});
-        parts[place->second].bytes = std::move(bytes);
+        return parts[found->second];
+    }
+
+    void put(std::string_view name, std::string bytes, Storage storage) {
+        place(name, storage).bytes = std::move(bytes);
     }
 
     void remove(std::string_view name) {
@@ -82,6 +95,7 @@ public:
         Part& part = parts[found->second];
         part.isRemoved = true;
         part.bytes.reset();
+        part.late = {};
         byKey.erase(found);
         contentTypes().remove(name);
     }
@@ -112,9 +126,10 @@ public:
         if (types && types->isChanged()) put(contentTypesPart, types->xml(), Storage::Deflated);
     }
 
-    [[nodiscard]] std::vector<ZipChange> changes() const {
+    [[nodiscard]] std::vector<ZipChange> changes() {
         std::vector<ZipChange> found;
-        for (const Part& part : parts) {
+        for (Part& part : parts) {
+            part.settle();
             if (part.isRemoved && part.index) found.push_back({part.index, {}, {}, {}});
             if (!part.bytes) continue;
             found.push_back({part.index, part.name.substr(1), *part.bytes, part.storage});
@@ -130,6 +145,8 @@ public:
     std::unordered_map<std::string, std::unique_ptr<Relationships>> relationships;
     /// The names of what has been added, by the hash of the bytes.
     std::unordered_multimap<std::size_t, std::string> media;
+    /// Likewise of what was added late, by its look.
+    std::unordered_map<std::string, std::string> lateMedia;
     /// By stem and ending, the numbers up to which all names are taken.
     std::unordered_map<std::string, std::size_t> takenNumbers;
     std::uint64_t bytesRead = 0;
@@ -246,6 +263,17 @@ std::string Package::addMedia(std::string_view stem, std::string_view ending,
     content_->put(name, std::move(bytes), storage);
     content_->contentTypes().setByExtension(name, contentType);
     content_->media.emplace(hash, name);
+    return name;
+}
+
+std::string Package::addMedia(std::string_view stem, std::string_view ending,
+                              std::string_view contentType, std::shared_future<std::string> bytes,
+                              const std::string& look) {
+    std::string& name = content_->lateMedia[look];
+    if (!name.empty() && has(name)) return name;
+    name = freeName(stem, ending);
+    content_->place(name, Storage::Stored).late = std::move(bytes);
+    content_->contentTypes().setByExtension(name, contentType);
     return name;
 }
 

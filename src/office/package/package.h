@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <future>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -96,6 +97,11 @@ public:
     std::string addMedia(std::string_view stem, std::string_view ending,
                          std::string_view contentType, std::string bytes,
                          Storage storage = Storage::Stored);
+    /// The same for bytes that are on their way, and equal to all others of this look. They are
+    /// waited for when the package is written.
+    std::string addMedia(std::string_view stem, std::string_view ending,
+                         std::string_view contentType, std::shared_future<std::string> bytes,
+                         const std::string& look);
     /// `stem` + the lowest number from 1 that neither a part has nor relationships without their
     /// part + `ending`.
     [[nodiscard]] std::string freeName(std::string_view stem, std::string_view ending) const;

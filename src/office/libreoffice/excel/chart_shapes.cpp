@@ -78,7 +78,7 @@ office::CopiedPtr ChartShape::copy(office::CopySource source) {
         return std::make_shared<CopiedChart>(book_, std::move(source), shape_);
     const css::awt::Size size = shape_->getSize();
     return std::make_shared<CopiedPicture>(book_.desk(), std::move(source),
-                                           pictureMaker(book_.desk()).metafileOf(shape_),
+                                           pictureMaker(book_.desk()).suite().metafileOf(shape_),
                                            PictureSize{size.Width, size.Height});
 }
 

@@ -2,8 +2,6 @@
 
 #include <com/sun/star/awt/Size.hpp>
 
-#include <fstream>
-#include <iterator>
 #include <utility>
 
 #include "office/failure.h"
@@ -11,7 +9,6 @@
 #include "office/libreoffice/excel/range_picture.h"
 #include "office/libreoffice/excel/table_of_cells.h"
 #include "office/libreoffice/guard.h"
-#include "office/libreoffice/private_folder.h"
 #include "office/libreoffice/units.h"
 
 namespace libreoffice::excel {
@@ -27,17 +24,6 @@ auto translated(const Desk& desk, Statement statement) {
     } catch (const uno::Exception&) {
         throwTranslated(desk.connection(), "Copy");
     }
-}
-
-/// The suite writes pictures to files only: one in a folder that only this user can read, and gone
-/// again at once.
-template <class Write>
-std::string pngOf(Write write) {
-    const PrivateFolder folder;
-    const std::string file = folder.file("copied.png");
-    write(file);
-    std::ifstream png(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(png), {}};
 }
 
 [[noreturn]] void failWithoutCells() {
@@ -62,16 +48,12 @@ double CopiedPicture::heightPt() const {
     return pointsOf(size_.height);
 }
 
-std::string CopiedPicture::png() const {
-    return translated(desk_, [&] {
-        return pngOf([&](const std::string& file) {
-            pictureMaker(desk_).writeMetafile(metafile_, size_, file);
-        });
-    });
+office::Picture CopiedPicture::picture() const {
+    return translated(desk_, [&] { return pictureMaker(desk_).metafile(metafile_, size_); });
 }
 
 uno::Reference<css::graphic::XGraphic> CopiedPicture::graphic() const {
-    return translated(desk_, [&] { return pictureMaker(desk_).graphicOf(metafile_); });
+    return translated(desk_, [&] { return pictureMaker(desk_).suite().graphicOf(metafile_); });
 }
 
 office::TableLook CopiedPicture::table() const {
@@ -98,11 +80,9 @@ double CopiedChart::heightPt() const {
     return pointsOf(size_.Height);
 }
 
-std::string CopiedChart::png() const {
+office::Picture CopiedChart::picture() const {
     Desk& desk = book().desk();
-    return translated(desk, [&] {
-        return pngOf([&](const std::string& file) { pictureMaker(desk).writeChart(shape_, file); });
-    });
+    return translated(desk, [&] { return pictureMaker(desk).chart(shape_); });
 }
 
 uno::Reference<css::graphic::XGraphic> CopiedChart::graphic() const {
@@ -138,14 +118,12 @@ double CopiedCells::heightPt() const {
     return pointsOf(size_.Height);
 }
 
-std::string CopiedCells::png() const {
+office::Picture CopiedCells::picture() const {
     SheetRecord& source = sheet();
     Desk& desk = source.book().desk();
     return translated(desk, [&] {
         const CellsPicture picture = takePictureOfCells(source, cells_, block_);
-        return pngOf([&](const std::string& file) {
-            pictureMaker(desk).writeMetafile(picture.metafile, picture.size, file);
-        });
+        return pictureMaker(desk).metafile(picture.metafile, picture.size);
     });
 }
 
@@ -153,7 +131,8 @@ uno::Reference<css::graphic::XGraphic> CopiedCells::graphic() const {
     SheetRecord& source = sheet();
     Desk& desk = source.book().desk();
     return translated(desk, [&] {
-        return pictureMaker(desk).graphicOf(takePictureOfCells(source, cells_, block_).metafile);
+        return pictureMaker(desk).suite().graphicOf(
+            takePictureOfCells(source, cells_, block_).metafile);
     });
 }
 

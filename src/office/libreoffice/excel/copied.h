@@ -14,6 +14,7 @@ namespace libreoffice::excel {
 class CopiedHere : public office::Copied {
 public:
     using Copied::Copied;
+    [[nodiscard]] std::string png() const override { return picture().png.get(); }
     /// A picture of it in vectors, of the size that it has in the workbook. `office::Failure` 1004
     /// if there is nothing to take a picture of.
     [[nodiscard]] virtual uno::Reference<css::graphic::XGraphic> graphic() const = 0;
@@ -29,7 +30,7 @@ public:
     [[nodiscard]] const PictureSize& size() const { return size_; }
     [[nodiscard]] double widthPt() const override;
     [[nodiscard]] double heightPt() const override;
-    [[nodiscard]] std::string png() const override;
+    [[nodiscard]] office::Picture picture() const override;
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
     [[nodiscard]] office::TableLook table() const override;
 
@@ -49,7 +50,7 @@ public:
     [[nodiscard]] const uno::Reference<css::drawing::XShape>& shape() const { return shape_; }
     [[nodiscard]] double widthPt() const override;
     [[nodiscard]] double heightPt() const override;
-    [[nodiscard]] std::string png() const override;
+    [[nodiscard]] office::Picture picture() const override;
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
     [[nodiscard]] office::TableLook table() const override;
 
@@ -71,7 +72,7 @@ public:
     [[nodiscard]] const office::model::excel::CellBlock& block() const { return block_; }
     [[nodiscard]] double widthPt() const override;
     [[nodiscard]] double heightPt() const override;
-    [[nodiscard]] std::string png() const override;
+    [[nodiscard]] office::Picture picture() const override;
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
     [[nodiscard]] office::TableLook table() const override;
     [[nodiscard]] office::TableLook tableOfPage() const override;

@@ -1,15 +1,11 @@
 #pragma once
 
-#include <com/sun/star/document/XExporter.hpp>
-#include <com/sun/star/drawing/XShape.hpp>
-#include <com/sun/star/graphic/XGraphic.hpp>
-#include <com/sun/star/graphic/XGraphicProvider.hpp>
-
-#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
-#include "office/libreoffice/connection.h"
+#include "office/drawing/drawing_room.h"
+#include "office/libreoffice/excel/suite_pictures.h"
 
 namespace libreoffice {
 
@@ -19,61 +15,44 @@ class Desk;
 
 namespace libreoffice::excel {
 
-/// Size in hundredths of a millimetre.
-struct PictureSize {
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-};
-
-/// Turns charts and copied ranges into PNG files at three times screen density that carry their
-/// true physical size.
+/// Makes pictures of charts and copied ranges at three times screen density that carry their true
+/// physical size.
 ///
-/// Opaque pictures are laid on the page of a drawing that belongs to no window and to none of the
-/// suite's lists of documents. It goes with this object, and also if this process dies. Neither a
-/// user's document nor the clipboard is touched.
+/// The suite gives the vectors, which takes it a tenth of the time of a picture, and the drawing
+/// room draws them while the suite goes on. What the room would draw differently the suite draws
+/// itself.
 class PictureMaker {
 public:
-    explicit PictureMaker(std::shared_ptr<Connection> connection);
-    PictureMaker(const PictureMaker&) = delete;
-    PictureMaker& operator=(const PictureMaker&) = delete;
-    ~PictureMaker();
+    PictureMaker(std::shared_ptr<Connection> connection,
+                 std::shared_ptr<office::drawing::DrawingRoom> room);
 
-    /// A chart as a PNG file. A chart whose background lets things shine through stays transparent;
-    /// all others come without an alpha channel. `office::Failure` 1004 if the file can't be
-    /// written; then there is none of that name.
+    /// A chart as a PNG. One whose background lets things shine through stays transparent; all
+    /// others come without an alpha channel.
+    [[nodiscard]] office::Picture chart(const uno::Reference<css::drawing::XShape>& chart);
+    /// The same as a file, which may still be on its way (`office::PictureFiles`).
+    /// `office::Failure` 1004 if it can't be written; then there is none of that name.
     void writeChart(const uno::Reference<css::drawing::XShape>& chart, const std::string& path);
 
-    /// A copied picture as a PNG file on white. An empty one gives a white area.
+    /// A copied picture as a PNG on white. An empty one gives a white area.
+    [[nodiscard]] office::Picture metafile(const uno::Sequence<sal_Int8>& metafile,
+                                           const PictureSize& size);
     void writeMetafile(const uno::Sequence<sal_Int8>& metafile, const PictureSize& size,
                        const std::string& path);
 
-    /// A chart in the suite's own vector format, as a range is copied.
-    [[nodiscard]] uno::Sequence<sal_Int8> metafileOf(
-        const uno::Reference<css::drawing::XShape>& chart);
-    /// A copied picture as shapes show it; none if it is empty.
-    [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphicOf(
-        const uno::Sequence<sal_Int8>& metafile);
+    [[nodiscard]] SuitePictures& suite() { return suite_; }
 
 private:
-    struct Page;
+    using Vectors = std::optional<office::drawing::VectorPicture>;
 
-    Page& page();
-    void writePage(const uno::Reference<css::graphic::XGraphic>& graphic, const PictureSize& size,
-                   const std::string& path);
-    [[nodiscard]] const uno::Reference<css::document::XExporter>& exporterOf(
-        const uno::Reference<css::drawing::XShape>& shape);
+    [[nodiscard]] Vectors vectorsOf(const uno::Reference<css::drawing::XShape>& chart);
+    [[nodiscard]] Vectors vectorsOf(const uno::Sequence<sal_Int8>& metafile,
+                                    const PictureSize& size);
 
-    std::shared_ptr<Connection> connection_;
-    std::unique_ptr<Page> page_;
-    uno::Reference<css::document::XExporter> shapeExporter_;
-    uno::Reference<css::graphic::XGraphicProvider> graphics_;
+    SuitePictures suite_;
+    std::shared_ptr<office::drawing::DrawingRoom> room_;
 };
 
 /// The session's maker of pictures; made when it is first asked for.
 [[nodiscard]] PictureMaker& pictureMaker(Desk& desk);
-
-/// The size that a metafile gives for itself, in hundredths of a millimetre; 0 by 0 if it gives
-/// none in that unit.
-[[nodiscard]] PictureSize sizeOfMetafile(const uno::Sequence<sal_Int8>& metafile);
 
 }  // namespace libreoffice::excel

@@ -57,6 +57,7 @@ ImpressDeck::ImpressDeck(Desk& desk, uno::Reference<css::frame::XModel> opened)
       desk_(desk),
       pages_(as<css::drawing::XDrawPagesSupplier>(model())->getDrawPages()),
       factory_(as<css::lang::XMultiServiceFactory>(model())),
+      latePictures_(desk.connectionPtr(), desk.drawingRoom),
       window_(*this),
       layouts_(model()) {}
 
@@ -202,6 +203,7 @@ void ImpressDeck::endSlideShow() {
 }
 
 void ImpressDeck::saveCopy(const std::string& path) {
+    latePictures_.settle();
     writeCopy("Presentation.SaveCopyAs", path, {{".pptx", "Impress MS PowerPoint 2007 XML"}});
 }
 

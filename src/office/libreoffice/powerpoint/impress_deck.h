@@ -14,6 +14,7 @@
 #include "office/libreoffice/document.h"
 #include "office/libreoffice/powerpoint/impress_slide.h"
 #include "office/libreoffice/powerpoint/impress_window.h"
+#include "office/libreoffice/powerpoint/late_pictures.h"
 #include "office/libreoffice/powerpoint/slide_layouts.h"
 #include "office/model/powerpoint/deck.h"
 #include "office/value.h"
@@ -42,6 +43,7 @@ public:
     [[nodiscard]] uno::Reference<css::drawing::XShape> createShape(const char* service);
     /// `office::Failure` 53 if there is no such file, 1004 if it holds no picture.
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> loadPicture(const std::string& file);
+    [[nodiscard]] LatePictures& latePictures() { return latePictures_; }
     /// Stops and resumes drawing; counted, so the two must be called in pairs.
     void freeze() { model()->lockControllers(); }
     void thaw() { model()->unlockControllers(); }
@@ -85,6 +87,7 @@ private:
     uno::Reference<css::lang::XMultiServiceFactory> factory_;
     uno::Reference<css::graphic::XGraphicProvider> pictures_;
     uno::Reference<css::presentation::XPresentation2> slideShow_;
+    LatePictures latePictures_;
     ImpressWindow window_;
     SlideLayouts layouts_;
     std::vector<ImpressSlidePtr> slides_;

@@ -122,6 +122,8 @@ ImpressShapePtr ImpressSlide::add(const char* service) {
 }
 
 model::DeckShapePtr ImpressSlide::addPicture(const std::string& file, const model::Point& corner) {
+    if (const auto onItsWay = deck_.latePictures().take(file))
+        return addPicture(*onItsWay, {onItsWay->widthPt, onItsWay->heightPt}, corner);
     const auto picture = deck_.loadPicture(file);
     const css::awt::Size size = naturalSize(picture);
     const std::string name = freshName("Picture");
@@ -130,6 +132,18 @@ model::DeckShapePtr ImpressSlide::addPicture(const std::string& file, const mode
     shape->reference()->setSize(size);
     shape->moveTo(corner);
     shape->setKeepsProportions(true);
+    return shape;
+}
+
+ImpressShapePtr ImpressSlide::addPicture(const office::Picture& picture, const model::Size& size,
+                                         const model::Point& corner) {
+    const std::string name = freshName("Picture");
+    auto shape = add("com.sun.star.drawing.GraphicObjectShape");
+    shape->setName(name);
+    shape->resize(size);
+    shape->moveTo(corner);
+    shape->setKeepsProportions(true);
+    deck_.latePictures().hang(as<css::beans::XPropertySet>(shape->reference()), picture);
     return shape;
 }
 

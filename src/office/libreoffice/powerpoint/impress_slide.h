@@ -51,8 +51,8 @@ public:
 private:
     [[nodiscard]] ImpressShapePtr at(std::int32_t place);
     [[nodiscard]] ImpressShapePtr add(const char* service);
-    [[nodiscard]] model::DeckShapePtr pastePicture(const office::Copied& copied,
-                                                   const model::PastePlace& place);
+    [[nodiscard]] ImpressShapePtr addPicture(const office::Picture& picture,
+                                             const model::Size& size, const model::Point& corner);
     /// Names and places what was put on the slide.
     [[nodiscard]] ImpressShapePtr pasted(const uno::Reference<css::drawing::XShape>& reference,
                                          std::string_view kind, const model::Point& corner);

@@ -156,6 +156,7 @@ std::int32_t ImpressWindow::viewType() {
 }
 
 void ImpressWindow::setViewType(std::int32_t number) {
+    deck_.latePictures().settle();
     const std::int32_t wanted = number == slideView ? normalView : number;
     const auto* kind =
         std::find_if(viewKinds.begin(), viewKinds.end(),

@@ -1,10 +1,7 @@
 #include "office/libreoffice/powerpoint/paste.h"
 
-#include <fstream>
-
 #include "office/failure.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
-#include "office/libreoffice/private_folder.h"
 #include "office/libreoffice/units.h"
 #include "office/model/powerpoint/paste.h"
 
@@ -52,7 +49,7 @@ model::DeckShapePtr ImpressSlide::paste(const office::Copied& copied, PasteAs as
     const auto place = model::pastePlaceFor({copied.widthPt(), copied.heightPt()}, deck_, *this);
     const bool isPicture = copied.source().kind == CopySource::Kind::Picture;
     if (as == PasteAs::Png || as == PasteAs::Metafile || (isPicture && as == PasteAs::Default))
-        return pastePicture(copied, place);
+        return addPicture(copied.picture(), place.size, place.corner);
     const css::awt::Size size = onPaper(place.size);
     if (as == PasteAs::Embedded)
         return pasted(addWorkbook(*this, copiedHere(copied), size), "Object", place.corner);
@@ -62,16 +59,6 @@ model::DeckShapePtr ImpressSlide::paste(const office::Copied& copied, PasteAs as
         return pasted(addChart(*this, *chart, size), "Chart", place.corner);
     if (copied.source().kind != CopySource::Kind::Cells) failOnForm();
     return pasted(addTable(*this, copied.table(), place.scale), "Table", place.corner);
-}
-
-model::DeckShapePtr ImpressSlide::pastePicture(const office::Copied& copied,
-                                               const model::PastePlace& place) {
-    const PrivateFolder folder;
-    const std::string file = folder.file("copied.png");
-    std::ofstream(file, std::ios::binary) << copied.png();
-    auto shape = addPicture(file, place.corner);
-    shape->resize(place.size);
-    return shape;
 }
 
 ImpressShapePtr ImpressSlide::pasted(const ShapeRef& reference, std::string_view kind,

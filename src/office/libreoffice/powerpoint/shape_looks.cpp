@@ -185,6 +185,7 @@ void ImpressShape::setOutline(model::Outline wanted) {
 /// filled with the picture, takes its place on the slide, in the window's selection and in this
 /// object.
 void ImpressShape::replacePicture(model::Outline wanted) {
+    slide_.deck().latePictures().settle();
     const auto depth = get<sal_Int32>("ZOrder");
     const auto graphic = get<uno::Reference<css::graphic::XGraphic>>("Graphic");
     const bool keeps = keepsProportions();

@@ -10,6 +10,7 @@
 
 #include "office/failure.h"
 #include "office/libreoffice/objects/copied_object.h"
+#include "office/libreoffice/objects/png_graphic.h"
 #include "office/libreoffice/units.h"
 #include "office/libreoffice/word/undo_group.h"
 #include "office/libreoffice/word/writer_document.h"
@@ -37,26 +38,13 @@ const excel::CopiedHere& copiedHere(const office::Copied& copied) {
     return *here;
 }
 
-uno::Reference<css::graphic::XGraphic> pictureOfPng(const Connection& connection,
-                                                    const std::string& png) {
-    const uno::Any bytes(
-        uno::Sequence<sal_Int8>(reinterpret_cast<const sal_Int8*>(png.data()),  // NOLINT: as UNO's
-                                static_cast<sal_Int32>(png.size())));
-    const auto stream =
-        connection.context()->getServiceManager()->createInstanceWithArgumentsAndContext(
-            "com.sun.star.io.SequenceInputStream", {&bytes, 1}, connection.context());
-    return as<css::graphic::XGraphicProvider>(
-               connection.create("com.sun.star.graphic.GraphicProvider"))
-        ->queryGraphic(propertyValues({{"InputStream", uno::Any(stream)}}));
-}
-
 /// In vectors, so that its text is text in a PDF, unless dots are wanted or all there is.
 uno::Reference<css::graphic::XGraphic> pictureOf(const office::Copied& copied, PasteAs as,
                                                  const Connection& connection) {
     uno::Reference<css::graphic::XGraphic> picture;
     const auto* here = dynamic_cast<const excel::CopiedHere*>(&copied);
     if (here != nullptr && as != PasteAs::Png) picture = here->graphic();
-    if (!picture.is()) picture = pictureOfPng(connection, copied.png());
+    if (!picture.is()) picture = graphicOfPng(connection, copied.png());
     if (!picture.is()) fail("LibreOffice could not read the picture");
     return picture;
 }

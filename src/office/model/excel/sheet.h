@@ -21,8 +21,8 @@ public:
     virtual Box box() = 0;
     /// The chart, or a picture of it as it looks now.
     virtual CopiedPtr copy(CopySource source) = 0;
-    /// Writes a PNG file with 288 dots to the inch and its true size. `Failure` 1004 if it can't be
-    /// written; then there is no file of that name.
+    /// Writes a PNG file with 288 dots to the inch and its true size, which may still be on its way
+    /// (`PictureFiles`). `Failure` 1004 if it can't be written; then there is no file of that name.
     virtual void writePicture(const std::string& path) = 0;
     /// Takes a picture in. `Failure` 1004 from a chart that has data of its own.
     virtual void paste(const CopiedPtr& picture) = 0;

@@ -24,12 +24,12 @@ struct Media {
 
 /// The picture of what was copied as a part of the document.
 Media addMedia(FileDocument& document, const Copied& copied) {
-    PictureFile picture = pictureOf(copied.png(), "What was copied");
+    PictureFile picture = pictureOf(copied);
+    const word::ObjectSize size{picture.size.width, picture.size.height};
     Package& package = document.package();
-    const std::string part = package.addMedia(document.stem("media/image"), picture.ending,
-                                              picture.contentType, std::move(picture.bytes));
-    return {package.relationshipsOf(document.mainPart()).add("image", part),
-            {picture.size.width, picture.size.height}};
+    const std::string part =
+        addPicturePart(package, document.stem("media/image"), std::move(picture));
+    return {package.relationshipsOf(document.mainPart()).add("image", part), size};
 }
 
 void pastePicture(FileDocument& document, const Copied& copied, word::Anchoring anchoring) {

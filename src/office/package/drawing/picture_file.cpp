@@ -29,10 +29,14 @@ std::uint32_t numberAt(std::string_view bytes, std::size_t at) {
     return number;
 }
 
+double rounded(double points) {
+    return std::round(points * 10) / 10;
+}
+
 /// A PNG keeps its density in whole pixels a metre; without rounding, 240 points would come back
 /// as 239.991.
 double inPoints(std::uint32_t pixels, double pixelsPerInch) {
-    return std::round(pixels / pixelsPerInch * pointsPerInch * 10) / 10;
+    return rounded(pixels / pixelsPerInch * pointsPerInch);
 }
 
 /// A file of chunks: length, name, content, checksum. The first one says the size in pixels.
@@ -55,24 +59,42 @@ office::model::powerpoint::Size sizeOfPng(std::string_view bytes) {
             inPoints(numberAt(bytes, firstChunk + 12), vertical)};
 }
 
+PictureFile pngFile(Picture picture, const office::model::powerpoint::Size& size) {
+    return {std::move(picture.png), std::move(picture.look), ".png", "image/png", size};
+}
+
+PictureFile pngFile(Picture picture) {
+    const office::model::powerpoint::Size size{rounded(picture.widthPt), rounded(picture.heightPt)};
+    return pngFile(std::move(picture), size);
+}
+
 }  // namespace
 
-PictureFile readPicture(const std::string& file) {
+PictureFile readPicture(const std::string& file, PictureFiles* onTheirWay) {
+    if (onTheirWay != nullptr) {
+        if (auto picture = onTheirWay->take(file)) return pngFile(std::move(*picture));
+    }
     std::ifstream stream(std::filesystem::path(std::u8string(file.begin(), file.end())),
                          std::ios::binary);
     if (!stream) throw Failure(FailureNumber::FileNotFound, source, "There is no file " + file);
-    return pictureOf({std::istreambuf_iterator<char>(stream), {}}, file);
+    std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+    constexpr std::size_t headSize = 33;
+    office::model::powerpoint::Size size;
+    if (bytes.size() >= headSize && bytes.starts_with(signature)) size = sizeOfPng(bytes);
+    if (!(size.width > 0 && size.height > 0))
+        throw Failure(FailureNumber::ApplicationDefined, source, file + " holds no PNG picture");
+    return pngFile(finishedPicture(size.width, size.height, std::move(bytes)), size);
 }
 
-PictureFile pictureOf(std::string bytes, const std::string& what) {
-    PictureFile picture{
-        .bytes = std::move(bytes), .ending = ".png", .contentType = "image/png", .size = {}};
-    constexpr std::size_t headSize = 33;
-    if (picture.bytes.size() >= headSize && picture.bytes.starts_with(signature))
-        picture.size = sizeOfPng(picture.bytes);
-    if (!(picture.size.width > 0 && picture.size.height > 0))
-        throw Failure(FailureNumber::ApplicationDefined, source, what + " holds no PNG picture");
-    return picture;
+PictureFile pictureOf(const Copied& copied) {
+    return pngFile(copied.picture());
+}
+
+std::string addPicturePart(Package& package, std::string_view stem, PictureFile picture) {
+    if (picture.look.empty())
+        return package.addMedia(stem, picture.ending, picture.contentType, picture.bytes.get());
+    return package.addMedia(stem, picture.ending, picture.contentType, std::move(picture.bytes),
+                            picture.look);
 }
 
 }  // namespace office::package

@@ -1,23 +1,35 @@
 #pragma once
 
+#include <future>
 #include <string>
+#include <string_view>
 
+#include "office/copied.h"
 #include "office/model/powerpoint/shape_looks.h"
+#include "office/package/package.h"
+#include "office/picture.h"
 
 namespace office::package {
 
 /// A file with a picture, as a package takes it.
 struct PictureFile {
-    std::string bytes;
+    std::shared_future<std::string> bytes;
+    /// As `Picture::look` has it.
+    std::string look;
     std::string ending;
     std::string contentType;
     /// In points, as the file's density says; 96 pixels to the inch where it says none.
     office::model::powerpoint::Size size;
 };
 
-/// `Failure` 53 if there is no such file, 1004 if it holds no PNG.
-[[nodiscard]] PictureFile readPicture(const std::string& file);
-/// The same from the bytes of a file, which `what` names in the failure's text.
-[[nodiscard]] PictureFile pictureOf(std::string bytes, const std::string& what);
+/// The file itself, or the picture that is on its way to it. `Failure` 53 if there is neither, 1004
+/// if it holds no PNG.
+[[nodiscard]] PictureFile readPicture(const std::string& file, PictureFiles* onTheirWay);
+/// What was copied. `Failure` 1004 as `Copied::picture` has it.
+[[nodiscard]] PictureFile pictureOf(const Copied& copied);
+
+/// Makes it a part of the package, or finds the one that it is already.
+[[nodiscard]] std::string addPicturePart(Package& package, std::string_view stem,
+                                         PictureFile picture);
 
 }  // namespace office::package

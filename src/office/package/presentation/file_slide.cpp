@@ -222,12 +222,13 @@ void FileSlide::takeFurnitureOf(FileSlide& other) {
 }
 
 model::DeckShapePtr FileSlide::addPicture(const std::string& file, const model::Point& corner) {
-    return addPicture(readPicture(file), corner);
+    return addPicture(readPicture(file, deck_.rules().pictures.get()), corner);
 }
 
 FileShapePtr FileSlide::addPicture(PictureFile picture, const model::Point& corner) {
-    const std::string media = deck_.package().addMedia(
-        deck_.mediaStem(), picture.ending, picture.contentType, std::move(picture.bytes));
+    const model::Size size = picture.size;
+    const std::string media =
+        addPicturePart(deck_.package(), deck_.mediaStem(), std::move(picture));
     const std::string relationship = deck_.package().relationshipsOf(part_).add("image", media);
     return addShape(
         "Picture",
@@ -235,7 +236,7 @@ FileShapePtr FileSlide::addPicture(PictureFile picture, const model::Point& corn
                     R"(</p:cNvPicPr><p:nvPr/></p:nvPicPr><p:blipFill><a:blip r:embed="{}"/>)"
                     R"(<a:stretch><a:fillRect/></a:stretch></p:blipFill><p:spPr>{})"
                     R"(<a:prstGeom prst="rect"><a:avLst/></a:prstGeom></p:spPr></p:pic>)",
-                    relationship, boxMarkup(corner, picture.size)));
+                    relationship, boxMarkup(corner, size)));
 }
 
 model::DeckShapePtr FileSlide::addLabel(const model::Point& corner, const model::Size& size) {
@@ -277,7 +278,7 @@ model::DeckShapePtr FileSlide::paste(const Copied& copied, PasteAs as) {
     } else if (kind != CopySource::Kind::Picture && as != PasteAs::Png && as != PasteAs::Metafile) {
         office::model::refuse("Shapes.PasteSpecial", "It can't be pasted in this form");
     }
-    PictureFile picture = pictureOf(copied.png(), "What was copied");
+    PictureFile picture = pictureOf(copied);
     const model::PastePlace place = model::pastePlaceFor(picture.size, deck_, *this);
     picture.size = place.size;
     return addPicture(std::move(picture), place.corner);

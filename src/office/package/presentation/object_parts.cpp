@@ -15,15 +15,14 @@ FileShapePtr pasteObject(FileSlide& slide, const Copied& copied, PasteAs as) {
     const CopySource& source = copied.source();
     FileDeck& deck = slide.deck();
     requireNoObstacle(as, source, deck.rules(), "Shapes.PasteSpecial");
-    PictureFile picture = pictureOf(copied.png(), "What was copied");
+    PictureFile picture = pictureOf(copied);
     const model::PastePlace place = model::pastePlaceFor(picture.size, deck, slide);
     Package& package = deck.package();
     const bool isLink = as == PasteAs::Linked;
     const ObjectSource behind =
         isLink ? linkCells(package, slide.part(), source, deck.rules())
                : embedWorkbook(package, slide.part(), deck.embeddingStem(), source, deck.rules());
-    const std::string media = package.addMedia(deck.mediaStem(), picture.ending,
-                                               picture.contentType, std::move(picture.bytes));
+    const std::string media = addPicturePart(package, deck.mediaStem(), std::move(picture));
     const std::string preview = package.relationshipsOf(slide.part()).add("image", media);
     const std::string box =
         fmt::format(R"(<a:off x="{}" y="{}"/><a:ext cx="{}" cy="{}"/>)", emuOf(place.corner.left),

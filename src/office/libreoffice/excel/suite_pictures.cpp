@@ -1,0 +1,325 @@
+#include "office/libreoffice/excel/suite_pictures.h"
+
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
+#include <com/sun/star/chart/XChartDocument.hpp>
+#include <com/sun/star/document/XFilter.hpp>
+#include <com/sun/star/drawing/FillStyle.hpp>
+#include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
+#include <com/sun/star/frame/XLoadable.hpp>
+#include <com/sun/star/frame/XModel.hpp>
+#include <com/sun/star/io/XInputStream.hpp>
+#include <com/sun/star/io/XOutputStream.hpp>
+#include <com/sun/star/io/XSequenceOutputStream.hpp>
+#include <com/sun/star/lang/XMultiComponentFactory.hpp>
+#include <com/sun/star/lang/XMultiServiceFactory.hpp>
+#include <com/sun/star/util/XCloseable.hpp>
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <utility>
+
+#include "office/libreoffice/excel/png_file.h"
+
+namespace libreoffice::excel {
+
+namespace {
+
+constexpr double screenDpi = 96;
+constexpr double hundredthMmPerInch = 2540;
+constexpr int sharpness = 3;
+/// A picture with more pixels is made with fewer to the inch: a range of thousands of rows must not
+/// exhaust the memory.
+constexpr double mostPixels = 60e6;
+/// In screen pixels. LibreOffice makes an empty picture instead of one with more than 32,767 pixels
+/// on a side.
+constexpr double longestSide = 10900;
+/// Level 3 takes a quarter of the time off an export and adds a third to the file; the default
+/// level is 6.
+constexpr sal_Int32 compression = 3;
+
+using FilterData = uno::Sequence<css::beans::PropertyValue>;
+
+/// The page in screen pixels. The exporter scales by whole screen pixels of the page: only a page
+/// that is a whole number of them comes out with nothing cut off and no seam.
+struct ScreenSize {
+    std::int32_t width;
+    std::int32_t height;
+
+    explicit ScreenSize(const PictureSize& size) {
+        const double wide = size.width * screenDpi / hundredthMmPerInch;
+        const double high = size.height * screenDpi / hundredthMmPerInch;
+        const double pixels = wide * high * sharpness * sharpness;
+        const double scale = std::min({1.0, std::sqrt(mostPixels / std::max(1.0, pixels)),
+                                       longestSide / std::max(wide, high)});
+        width = std::max(1, static_cast<std::int32_t>(std::lround(wide * scale)));
+        height = std::max(1, static_cast<std::int32_t>(std::lround(high * scale)));
+    }
+
+    [[nodiscard]] css::awt::Size onPaper() const {
+        const auto hundredthMm = [](std::int32_t pixels) {
+            return static_cast<std::int32_t>(std::lround(pixels * hundredthMmPerInch / screenDpi));
+        };
+        return {hundredthMm(width), hundredthMm(height)};
+    }
+};
+
+/// The logical size becomes the density that the file carries: its true physical size.
+FilterData pngSettings(const ScreenSize& screen, const PictureSize& size, bool translucent) {
+    return propertyValues({{"PixelWidth", uno::Any(screen.width * sharpness)},
+                           {"PixelHeight", uno::Any(screen.height * sharpness)},
+                           {"LogicalWidth", uno::Any(size.width)},
+                           {"LogicalHeight", uno::Any(size.height)},
+                           {"Compression", uno::Any(compression)},
+                           {"Translucent", uno::Any(sal_Int32{translucent})}});
+}
+
+void writePng(const uno::Reference<css::document::XExporter>& exporter, const FilterData& settings,
+              const std::string& path) {
+    makeWayFor(path);
+    as<css::document::XFilter>(exporter)->filter(
+        propertyValues({{"URL", uno::Any(fileUrl(path))},
+                        {"MediaType", uno::Any(rtl::OUString("image/png"))},
+                        {"FilterData", uno::Any(settings)}}));
+    // What the exporter returns says nothing: it is true for a folder that does not exist.
+    requirePngFile(path);
+}
+
+uno::Sequence<rtl::OUString> areaProperties() {
+    uno::Sequence<rtl::OUString> names(3);
+    names[0] = "FillStyle";
+    names[1] = "FillTransparence";
+    names[2] = "FillTransparenceGradientName";
+    return names;
+}
+
+/// The exporter gives the extent of an SVG in whole millimetres. Empty if it has none.
+std::string withExtent(std::string svg, const css::awt::Size& paper, const PictureSize& size) {
+    const std::size_t begin = svg.find(" width=\"", svg.find("<svg"));
+    const std::size_t box = svg.find("viewBox=\"", begin);
+    const std::size_t open = svg.find('"', box);
+    if (begin == std::string::npos || box == std::string::npos || open == std::string::npos)
+        return {};
+    const std::size_t end = svg.find('"', open + 1);
+    if (end == std::string::npos) return {};
+    constexpr double hundredthsPerMm = 100;
+    return svg.replace(
+        begin, end + 1 - begin,
+        fmt::format(R"( width="{}mm" height="{}mm" viewBox="0 0 {} {}" preserveAspectRatio="none")",
+                    size.width / hundredthsPerMm, size.height / hundredthsPerMm, paper.Width,
+                    paper.Height));
+}
+
+std::uint32_t wordAt(const uno::Sequence<sal_Int8>& bytes, sal_Int32 at) {
+    std::uint32_t word = 0;
+    for (sal_Int32 i = 3; i >= 0; --i) word = word << 8U | static_cast<std::uint8_t>(bytes[at + i]);
+    return word;
+}
+
+}  // namespace
+
+PixelSize crispPixelsOf(const PictureSize& size) {
+    const ScreenSize screen(size);
+    return {screen.width * sharpness, screen.height * sharpness};
+}
+
+bool isOpaque(const uno::Reference<css::drawing::XShape>& chart) {
+    const auto model = property<uno::Reference<css::frame::XModel>>(chart, "Model");
+    const auto document = tryAs<css::chart::XChartDocument>(model);
+    if (!document.is()) return true;
+    const auto area =
+        as<css::beans::XMultiPropertySet>(document->getArea())->getPropertyValues(areaProperties());
+    css::drawing::FillStyle fill = css::drawing::FillStyle_SOLID;
+    sal_Int16 transparence = 0;
+    rtl::OUString gradient;
+    area[0] >>= fill;
+    area[1] >>= transparence;
+    area[2] >>= gradient;
+    return fill != css::drawing::FillStyle_NONE && transparence == 0 && gradient.isEmpty();
+}
+
+/// The drawing that opaque pictures are laid on: one page, one shape as large as the page.
+struct SuitePictures::Page {
+    uno::Reference<css::frame::XModel> drawing;
+    uno::Reference<css::beans::XMultiPropertySet> page;
+    uno::Reference<css::drawing::XShape> shape;
+    uno::Reference<css::beans::XPropertySet> shapeProperties;
+    uno::Reference<css::document::XExporter> exporter;
+    css::awt::Size size;
+    bool showsPicture = true;
+
+    void resize(const css::awt::Size& wanted);
+    void show(const uno::Reference<css::graphic::XGraphic>& graphic);
+};
+
+void SuitePictures::Page::resize(const css::awt::Size& wanted) {
+    if (wanted.Width == size.Width && wanted.Height == size.Height) return;
+    uno::Sequence<rtl::OUString> names(2);
+    names[0] = "Width";
+    names[1] = "Height";
+    uno::Sequence<uno::Any> values(2);
+    values[0] <<= wanted.Width;
+    values[1] <<= wanted.Height;
+    page->setPropertyValues(names, values);
+    shape->setSize(wanted);
+    size = wanted;
+}
+
+void SuitePictures::Page::show(const uno::Reference<css::graphic::XGraphic>& graphic) {
+    if (graphic.is()) shapeProperties->setPropertyValue("Graphic", uno::Any(graphic));
+    if (graphic.is() != showsPicture)
+        shapeProperties->setPropertyValue("Visible", uno::Any(graphic.is()));
+    showsPicture = graphic.is();
+}
+
+SuitePictures::SuitePictures(std::shared_ptr<Connection> connection)
+    : connection_(std::move(connection)) {}
+
+SuitePictures::~SuitePictures() {
+    if (!page_) return;
+    try {
+        as<css::util::XCloseable>(page_->drawing)->close(true);
+    } catch (const uno::Exception&) {
+        // The suite has ended and the drawing with it.
+    }
+}
+
+SuitePictures::Page& SuitePictures::page() {
+    if (page_) return *page_;
+    auto made = std::make_unique<Page>();
+    made->drawing =
+        as<css::frame::XModel>(connection_->create("com.sun.star.drawing.DrawingDocument"));
+    as<css::frame::XLoadable>(made->drawing)->initNew();
+    const uno::Reference<css::drawing::XDrawPage> page(
+        as<css::drawing::XDrawPagesSupplier>(made->drawing)->getDrawPages()->getByIndex(0),
+        uno::UNO_QUERY_THROW);
+    for (const char* border : {"BorderLeft", "BorderRight", "BorderTop", "BorderBottom"}) {
+        setProperty(page, border, sal_Int32{0});
+    }
+    made->shape =
+        as<css::drawing::XShape>(as<css::lang::XMultiServiceFactory>(made->drawing)
+                                     ->createInstance("com.sun.star.drawing.GraphicObjectShape"));
+    page->add(made->shape);
+    made->shape->setPosition(css::awt::Point(0, 0));
+    made->shapeProperties = as<css::beans::XPropertySet>(made->shape);
+    made->page = as<css::beans::XMultiPropertySet>(page);
+    made->exporter = as<css::document::XExporter>(
+        connection_->create("com.sun.star.drawing.GraphicExportFilter"));
+    made->exporter->setSourceDocument(as<css::lang::XComponent>(page));
+    page_ = std::move(made);
+    return *page_;
+}
+
+void SuitePictures::layOnPage(const uno::Reference<css::graphic::XGraphic>& graphic,
+                              const css::awt::Size& size) {
+    page().show(graphic);
+    page().resize(size);
+}
+
+void SuitePictures::writePage(const uno::Reference<css::graphic::XGraphic>& graphic,
+                              const PictureSize& size, const std::string& path) {
+    const ScreenSize screen(size);
+    layOnPage(graphic, screen.onPaper());
+    writePng(page().exporter, pngSettings(screen, size, false), path);
+}
+
+const uno::Reference<css::document::XExporter>& SuitePictures::exporterOf(
+    const uno::Reference<css::drawing::XShape>& shape) {
+    if (!shapeExporter_.is()) {
+        shapeExporter_ = as<css::document::XExporter>(
+            connection_->create("com.sun.star.drawing.GraphicExportFilter"));
+    }
+    shapeExporter_->setSourceDocument(as<css::lang::XComponent>(shape));
+    return shapeExporter_;
+}
+
+void SuitePictures::writeChart(const uno::Reference<css::drawing::XShape>& chart,
+                               const std::string& path) {
+    const css::awt::Size shapeSize = chart->getSize();
+    const PictureSize size{shapeSize.Width, shapeSize.Height};
+    if (isOpaque(chart)) {
+        writePage(property<uno::Reference<css::graphic::XGraphic>>(chart, "Graphic"), size, path);
+    } else {
+        writePng(exporterOf(chart), pngSettings(ScreenSize(size), size, true), path);
+    }
+}
+
+void SuitePictures::writeMetafile(const uno::Sequence<sal_Int8>& metafile, const PictureSize& size,
+                                  const std::string& path) {
+    writePage(graphicOf(metafile), size, path);
+}
+
+uno::Reference<css::graphic::XGraphic> SuitePictures::graphicOf(
+    const uno::Sequence<sal_Int8>& metafile) {
+    if (!metafile.hasElements()) return {};
+    if (!graphics_.is()) {
+        graphics_ = as<css::graphic::XGraphicProvider>(
+            connection_->create("com.sun.star.graphic.GraphicProvider"));
+    }
+    const uno::Any bytes(metafile);
+    const auto stream =
+        connection_->context()->getServiceManager()->createInstanceWithArgumentsAndContext(
+            "com.sun.star.io.SequenceInputStream", uno::Sequence<uno::Any>(&bytes, 1),
+            connection_->context());
+    return graphics_->queryGraphic(
+        propertyValues({{"InputStream", uno::Any(as<css::io::XInputStream>(stream))}}));
+}
+
+uno::Sequence<sal_Int8> SuitePictures::metafileOf(
+    const uno::Reference<css::drawing::XShape>& chart) {
+    const auto bytes = as<css::io::XSequenceOutputStream>(
+        connection_->create("com.sun.star.io.SequenceOutputStream"));
+    as<css::document::XFilter>(exporterOf(chart))
+        ->filter(propertyValues({{"OutputStream", uno::Any(as<css::io::XOutputStream>(bytes))},
+                                 {"MediaType", uno::Any(rtl::OUString("image/x-svm"))}}));
+    return bytes->getWrittenBytes();
+}
+
+std::string SuitePictures::svgOfChart(const uno::Reference<css::drawing::XShape>& chart) {
+    const css::awt::Size size = chart->getSize();
+    // Not the chart's own vectors: the exporter scales all that is drawn, labels that reach out
+    // of the chart too, to the size of the shape.
+    return svgOfPage(property<uno::Reference<css::graphic::XGraphic>>(chart, "Graphic"),
+                     {size.Width, size.Height});
+}
+
+std::string SuitePictures::svgOfMetafile(const uno::Sequence<sal_Int8>& metafile,
+                                         const PictureSize& size) {
+    return svgOfPage(graphicOf(metafile), size);
+}
+
+std::string SuitePictures::svgOfPage(const uno::Reference<css::graphic::XGraphic>& graphic,
+                                     const PictureSize& size) {
+    const css::awt::Size paper = ScreenSize(size).onPaper();
+    layOnPage(graphic, paper);
+    // By way of a file: a stream of the suite's takes three calls more.
+    if (!folder_) folder_ = std::make_unique<PrivateFolder>();
+    const std::string file = folder_->file("picture.svg");
+    // What the exporter returns says nothing, and the last picture must not stand in for this one.
+    std::filesystem::remove(file);
+    as<css::document::XFilter>(page().exporter)
+        ->filter(propertyValues({{"URL", uno::Any(fileUrl(file))},
+                                 {"MediaType", uno::Any(rtl::OUString("image/svg+xml"))}}));
+    std::ifstream svg(file, std::ios::binary);
+    return withExtent({std::istreambuf_iterator<char>(svg), {}}, paper, size);
+}
+
+PictureSize sizeOfMetafile(const uno::Sequence<sal_Int8>& metafile) {
+    // Magic, head, compression; then the unit block, which gives its own length; then the size.
+    constexpr sal_Int32 unitBlock = 6 + 6 + 4;
+    constexpr sal_Int32 blockHead = 6;
+    constexpr sal_Int32 shortest = 64;
+    if (metafile.getLength() < shortest || metafile[0] != 'V' || metafile[1] != 'C') return {};
+    const auto unitLength = wordAt(metafile, unitBlock + 2);
+    const bool isHundredthMm =
+        metafile[unitBlock + blockHead] == 0 && metafile[unitBlock + blockHead + 1] == 0;
+    const auto at = static_cast<std::int64_t>(unitBlock + blockHead) + unitLength;
+    if (!isHundredthMm || at + 8 > metafile.getLength()) return {};
+    return {static_cast<std::int32_t>(wordAt(metafile, static_cast<sal_Int32>(at))),
+            static_cast<std::int32_t>(wordAt(metafile, static_cast<sal_Int32>(at) + 4))};
+}
+
+}  // namespace libreoffice::excel

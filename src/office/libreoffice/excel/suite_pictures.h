@@ -1,0 +1,94 @@
+#pragma once
+
+#include <com/sun/star/awt/Size.hpp>
+#include <com/sun/star/document/XExporter.hpp>
+#include <com/sun/star/drawing/XShape.hpp>
+#include <com/sun/star/graphic/XGraphic.hpp>
+#include <com/sun/star/graphic/XGraphicProvider.hpp>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "office/libreoffice/connection.h"
+#include "office/libreoffice/private_folder.h"
+
+namespace libreoffice::excel {
+
+/// Size in hundredths of a millimetre.
+struct PictureSize {
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+};
+
+/// Size in pixels.
+struct PixelSize {
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+};
+
+/// At three times screen density; at less where that would take too much memory.
+[[nodiscard]] PixelSize crispPixelsOf(const PictureSize& size);
+
+/// Charts and copied ranges as the suite draws them: PNG files at three times screen density that
+/// carry their true physical size, and vectors.
+///
+/// Opaque pictures are laid on the page of a drawing that belongs to no window and to none of the
+/// suite's lists of documents. It goes with this object, and also if this process dies. Neither a
+/// user's document nor the clipboard is touched.
+class SuitePictures {
+public:
+    explicit SuitePictures(std::shared_ptr<Connection> connection);
+    SuitePictures(const SuitePictures&) = delete;
+    SuitePictures& operator=(const SuitePictures&) = delete;
+    ~SuitePictures();
+
+    /// A chart as a PNG file. A chart whose background lets things shine through stays transparent;
+    /// all others come without an alpha channel. `office::Failure` 1004 if the file can't be
+    /// written; then there is none of that name.
+    void writeChart(const uno::Reference<css::drawing::XShape>& chart, const std::string& path);
+
+    /// A copied picture as a PNG file on white. An empty one gives a white area.
+    void writeMetafile(const uno::Sequence<sal_Int8>& metafile, const PictureSize& size,
+                       const std::string& path);
+
+    /// The same in vectors, as an SVG text.
+    [[nodiscard]] std::string svgOfChart(const uno::Reference<css::drawing::XShape>& chart);
+    [[nodiscard]] std::string svgOfMetafile(const uno::Sequence<sal_Int8>& metafile,
+                                            const PictureSize& size);
+
+    /// A chart in the suite's own vector format, as a range is copied.
+    [[nodiscard]] uno::Sequence<sal_Int8> metafileOf(
+        const uno::Reference<css::drawing::XShape>& chart);
+    /// A copied picture as shapes show it; none if it is empty.
+    [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphicOf(
+        const uno::Sequence<sal_Int8>& metafile);
+
+private:
+    struct Page;
+
+    Page& page();
+    void layOnPage(const uno::Reference<css::graphic::XGraphic>& graphic,
+                   const css::awt::Size& size);
+    [[nodiscard]] std::string svgOfPage(const uno::Reference<css::graphic::XGraphic>& graphic,
+                                        const PictureSize& size);
+    void writePage(const uno::Reference<css::graphic::XGraphic>& graphic, const PictureSize& size,
+                   const std::string& path);
+    [[nodiscard]] const uno::Reference<css::document::XExporter>& exporterOf(
+        const uno::Reference<css::drawing::XShape>& shape);
+
+    std::shared_ptr<Connection> connection_;
+    std::unique_ptr<Page> page_;
+    std::unique_ptr<PrivateFolder> folder_;
+    uno::Reference<css::document::XExporter> shapeExporter_;
+    uno::Reference<css::graphic::XGraphicProvider> graphics_;
+};
+
+/// Whether a chart covers all of its area.
+[[nodiscard]] bool isOpaque(const uno::Reference<css::drawing::XShape>& chart);
+
+/// The size that a metafile gives for itself, in hundredths of a millimetre; 0 by 0 if it gives
+/// none in that unit.
+[[nodiscard]] PictureSize sizeOfMetafile(const uno::Sequence<sal_Int8>& metafile);
+
+}  // namespace libreoffice::excel
