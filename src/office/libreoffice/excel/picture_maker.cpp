@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "office/libreoffice/desk.h"
-#include "office/libreoffice/excel/drawn_alike.h"
 #include "office/libreoffice/excel/png_file.h"
+#include "office/libreoffice/excel/suite_svg.h"
 #include "office/libreoffice/private_folder.h"
 #include "office/libreoffice/units.h"
 
@@ -24,7 +24,7 @@ PictureSize sizeOf(const uno::Reference<css::drawing::XShape>& chart) {
 /// None if the suite has to draw it.
 std::optional<VectorPicture> drawable(std::string svg, const PictureSize& size,
                                       bool isTranslucent) {
-    if (svg.empty() || !isDrawnAlike(svg)) return std::nullopt;
+    if (svg.empty() || !drawnOtherwise(svg).empty()) return std::nullopt;
     const PixelSize pixels = crispPixelsOf(size);
     return VectorPicture{.svg = std::move(svg),
                          .width = pixels.width,

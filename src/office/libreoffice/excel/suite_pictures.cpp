@@ -13,7 +13,6 @@
 #include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/util/XCloseable.hpp>
-#include <fmt/format.h>
 
 #include <algorithm>
 #include <cmath>
@@ -23,6 +22,7 @@
 #include <utility>
 
 #include "office/libreoffice/excel/png_file.h"
+#include "office/libreoffice/excel/suite_svg.h"
 
 namespace libreoffice::excel {
 
@@ -94,23 +94,6 @@ uno::Sequence<rtl::OUString> areaProperties() {
     names[1] = "FillTransparence";
     names[2] = "FillTransparenceGradientName";
     return names;
-}
-
-/// The exporter gives the extent of an SVG in whole millimetres. Empty if it has none.
-std::string withExtent(std::string svg, const css::awt::Size& paper, const PictureSize& size) {
-    const std::size_t begin = svg.find(" width=\"", svg.find("<svg"));
-    const std::size_t box = svg.find("viewBox=\"", begin);
-    const std::size_t open = svg.find('"', box);
-    if (begin == std::string::npos || box == std::string::npos || open == std::string::npos)
-        return {};
-    const std::size_t end = svg.find('"', open + 1);
-    if (end == std::string::npos) return {};
-    constexpr double hundredthsPerMm = 100;
-    return svg.replace(
-        begin, end + 1 - begin,
-        fmt::format(R"( width="{}mm" height="{}mm" viewBox="0 0 {} {}" preserveAspectRatio="none")",
-                    size.width / hundredthsPerMm, size.height / hundredthsPerMm, paper.Width,
-                    paper.Height));
 }
 
 std::uint32_t wordAt(const uno::Sequence<sal_Int8>& bytes, sal_Int32 at) {
@@ -304,7 +287,13 @@ std::string SuitePictures::svgOfPage(const uno::Reference<css::graphic::XGraphic
         ->filter(propertyValues({{"URL", uno::Any(fileUrl(file))},
                                  {"MediaType", uno::Any(rtl::OUString("image/svg+xml"))}}));
     std::ifstream svg(file, std::ios::binary);
-    return withExtent({std::istreambuf_iterator<char>(svg), {}}, paper, size);
+    constexpr double hundredthsPerMm = 100;
+    return mended({.text = {std::istreambuf_iterator<char>(svg), {}},
+                   .pageWidth = paper.Width,
+                   .pageHeight = paper.Height,
+                   .widthMm = size.width / hundredthsPerMm,
+                   .heightMm = size.height / hundredthsPerMm,
+                   .hairline = hundredthMmPerInch / screenDpi / sharpness});
 }
 
 PictureSize sizeOfMetafile(const uno::Sequence<sal_Int8>& metafile) {

@@ -1,0 +1,148 @@
+#include "office/libreoffice/excel/suite_svg.h"
+
+#include <fmt/format.h>
+#include <pugixml.hpp>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <sstream>
+#include <string_view>
+#include <vector>
+
+#include "office/libreoffice/excel/written_scripts.h"
+
+namespace libreoffice::excel {
+
+namespace {
+
+/// The suite draws what is larger sooner than others read it.
+constexpr std::size_t largest = 8U << 20U;
+constexpr unsigned asWritten =
+    pugi::parse_default | pugi::parse_ws_pcdata | pugi::parse_doctype | pugi::parse_declaration;
+
+constexpr std::string_view rotation = "rotate(";
+constexpr std::string_view opacity = "opacity: ";
+
+bool is(const pugi::xml_node& node, std::string_view name) {
+    return node.name() == name;
+}
+
+bool isEmptyGroup(const pugi::xml_node& node) {
+    return is(node, "g") && !node.first_child();
+}
+
+bool isLostOpacity(const pugi::xml_node& node) {
+    return isEmptyGroup(node) &&
+           std::string_view(node.attribute("style").value()).starts_with(opacity);
+}
+
+pugi::xml_node nextElement(pugi::xml_node node) {
+    do node = node.next_sibling();
+    while (node && node.type() != pugi::node_element);
+    return node;
+}
+
+using Condition = bool (*)(const pugi::xml_node&);
+
+std::vector<pugi::xml_node> allOf(pugi::xml_document& document, Condition condition) {
+    struct Walker : pugi::xml_tree_walker {
+        bool for_each(pugi::xml_node& node) override {
+            if (condition(node)) found.push_back(node);
+            return true;
+        }
+        Condition condition = nullptr;
+        std::vector<pugi::xml_node> found;
+    } walker;
+    walker.condition = condition;
+    document.traverse(walker);
+    return walker.found;
+}
+
+bool isTurnedText(const pugi::xml_node& node) {
+    return is(node, "text") &&
+           std::string_view(node.attribute("transform").value()).starts_with(rotation);
+}
+
+pugi::xml_node placeOf(const pugi::xml_node& text) {
+    return text.find_node([](const pugi::xml_node& node) { return node.attribute("x"); });
+}
+
+/// The exporter turns a text around the place of the one before it.
+void turnAroundItself(const pugi::xml_node& text) {
+    pugi::xml_attribute transform = text.attribute("transform");
+    const std::string_view written = transform.value();
+    const pugi::xml_node place = placeOf(text);
+    const std::size_t end = written.find(' ');
+    if (end == std::string_view::npos || !place) return;
+    transform.set_value(fmt::format("{} {} {})", written.substr(0, end),
+                                    place.attribute("x").value(), place.attribute("y").value())
+                            .c_str());
+}
+
+/// The exporter closes the group of what is seen through as soon as it is clipped, so that it holds
+/// nothing. What it should hold is known only if that has one clip and no other.
+void giveBack(pugi::xml_node group) {
+    pugi::xml_node content = nextElement(group);
+    if (is(content, "defs")) content = nextElement(content);
+    const pugi::xml_node after = nextElement(content);
+    if (!is(content, "g") || !content.attribute("clip-path") || content.child("g")) return;
+    if (after && !(isEmptyGroup(after) && after.attribute("clip-path"))) return;
+    content.append_attribute("style").set_value(group.attribute("style").value());
+    group.parent().remove_child(group);
+}
+
+}  // namespace
+
+std::string mended(const SuiteSvg& page) {
+    pugi::xml_document document;
+    if (page.text.size() > largest ||
+        !document.load_buffer(page.text.data(), page.text.size(), asWritten))
+        return {};
+    pugi::xml_node svg = document.child("svg");
+    const auto set = [&](const char* name, const std::string& value) {
+        pugi::xml_attribute attribute = svg.attribute(name);
+        if (!attribute) attribute = svg.append_attribute(name);
+        attribute.set_value(value.c_str());
+    };
+    if (!svg) return {};
+    // The exporter gives the extent in whole millimetres.
+    set("width", fmt::format("{}mm", page.widthMm));
+    set("height", fmt::format("{}mm", page.heightMm));
+    set("viewBox", fmt::format("0 0 {} {}", page.pageWidth, page.pageHeight));
+    set("preserveAspectRatio", "none");
+    // What has no width of its own inherits this one.
+    set("stroke-width", fmt::format("{:.3f}", page.hairline));
+    for (const pugi::xml_node& text : allOf(document, isTurnedText)) turnAroundItself(text);
+    for (const pugi::xml_node& group : allOf(document, isLostOpacity)) giveBack(group);
+    std::ostringstream written;
+    document.save(written, "", pugi::format_raw);
+    return written.str();
+}
+
+std::string drawnOtherwise(const std::string& svg) {
+    pugi::xml_document document;
+    if (!document.load_buffer(svg.data(), svg.size(), asWritten) || !document.child("svg"))
+        return "not an SVG";
+    struct Walker : pugi::xml_tree_walker {
+        bool for_each(pugi::xml_node& node) override {
+            static constexpr std::array<std::string_view, 4> elements = {"image", "pattern", "mask",
+                                                                         "filter"};
+            const std::string_view name = node.name();
+            if (std::find(elements.begin(), elements.end(), name) != elements.end())
+                reason = name;
+            else if (isLostOpacity(node))
+                reason = "transparency";
+            else if (node.type() == pugi::node_pcdata && isIntricate(node.value()))
+                reason = "script";
+            else if (name == "text" && node.attribute("transform") && !isTurnedText(node))
+                reason = "transformed text";
+            return reason.empty();
+        }
+        std::string reason;
+    } walker;
+    document.traverse(walker);
+    return walker.reason;
+}
+
+}  // namespace libreoffice::excel

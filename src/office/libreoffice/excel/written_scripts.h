@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string_view>
+
+namespace libreoffice::excel {
+
+/// Whether a text, in UTF-8, has characters whose order, shape or pictures one program makes
+/// otherwise than the next: right-to-left and Indic scripts, what is composed, emoji.
+[[nodiscard]] bool isIntricate(std::string_view text);
+
+}  // namespace libreoffice::excel

@@ -1,0 +1,87 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "office/libreoffice/excel/suite_svg.h"
+
+namespace live {
+
+namespace {
+
+using libreoffice::excel::drawnOtherwise;
+
+std::string mended(const std::string& content) {
+    return libreoffice::excel::mended(
+        {.text =
+             "<svg width=\"13mm\" height=\"8mm\" viewBox=\"0 0 1300 800\" stroke-width=\"28.222\" "
+             "xml:space=\"preserve\">" +
+             content + "</svg>",
+         .pageWidth = 1296,
+         .pageHeight = 794,
+         .widthMm = 12.95,
+         .heightMm = 7.93,
+         .hairline = 8.8194});
+}
+
+TEST(SuiteSvg, IsAsLargeAsThePageAndDrawsHairlinesThin) {
+    const std::string svg = mended("<path/>");
+    for (const char* part :
+         {R"svg(width="12.95mm" height="7.93mm" viewBox="0 0 1296 794")svg",
+          R"svg(stroke-width="8.819")svg", R"svg(preserveAspectRatio="none")svg"})
+        EXPECT_NE(svg.find(part), std::string::npos) << svg;
+    EXPECT_EQ(mended("<path"), "");
+    EXPECT_EQ(mended(std::string(9U << 20U, ' ')), "");
+}
+
+TEST(SuiteSvg, IsMendedWhereTheExporterErrs) {
+    struct Case {
+        std::string written;
+        std::string wanted;
+    };
+    const std::string clips = R"svg(<defs><clipPath id="c"/></defs>)svg";
+    const std::string content = R"svg(<path d="M 0,0"/>)svg";
+    const auto turned = [](const std::string& around) {
+        return R"svg(<text transform="rotate(-45 )svg" + around +
+               R"svg()"><tspan><tspan x="7" y="9"><tspan> a </tspan></tspan></tspan></text>)svg";
+    };
+    for (const auto& [written, wanted] : {
+             Case{turned("0 0") + turned("7 9"), turned("7 9") + turned("7 9")},
+             Case{R"svg(<g style="opacity: 0.4"/>)svg" + clips +
+                      R"svg(<g clip-path="url(#c)">)svg" + content +
+                      R"svg(</g><g clip-path="url(#b)"/>)svg",
+                  clips + R"svg(<g clip-path="url(#c)" style="opacity: 0.4">)svg" + content +
+                      R"svg(</g><g clip-path="url(#b)"/>)svg"},
+         }) {
+        const std::string svg = mended(written);
+        EXPECT_NE(svg.find(wanted), std::string::npos) << svg;
+        EXPECT_EQ(drawnOtherwise(svg), "");
+    }
+}
+
+TEST(SuiteSvg, SaysWhatOthersDrawOtherwise) {
+    struct Case {
+        std::string content;
+        std::string reason;
+    };
+    const std::string seenThrough =
+        R"svg(<g style="opacity: 0.4"/><g clip-path="url(#a)"><path/></g>)svg";
+    for (const auto& [content, reason] : {
+             Case{"<path/><text>Größe 12 € Πωλήσεις 売上高</text>", ""},
+             Case{"<g><image/></g>", "image"},
+             Case{"<defs><pattern/></defs>", "pattern"},
+             Case{"<text transform=\"scale(2 1)\">a</text>", "transformed text"},
+             Case{"<text>מכירות</text>", "script"},
+             Case{"<text>المبيعات</text>", "script"},
+             Case{"<text>📈</text>", "script"},
+             Case{"<text>ยอดขาย</text>", "script"},
+             Case{seenThrough, ""},
+             // Who knows what the second one belongs to.
+             Case{seenThrough + R"svg(<g clip-path="url(#b)"><path/></g>)svg", "transparency"},
+         })
+        EXPECT_EQ(drawnOtherwise(mended(content)), reason) << content;
+    EXPECT_EQ(drawnOtherwise("<svg"), "not an SVG");
+}
+
+}  // namespace
+
+}  // namespace live
