@@ -103,8 +103,9 @@ constexpr std::string_view folderStart = "murvane-of-";
 
 /// Whether a folder's name says that it belongs to a process which has ended.
 bool isOrphan(const fs::path& folder) {
-    const std::string name = folder.filename().string();
+    std::string name = folder.filename().string();
     int owner = 0;
+    if (name.starts_with('.')) name.erase(0, 1);
     if (!name.starts_with(folderStart)) return false;
     const char* const number = name.data() + folderStart.size();
     const auto [end, error] = std::from_chars(number, name.data() + name.size(), owner);
@@ -125,12 +126,19 @@ void sweep(const std::string& parent) {
     for (const fs::path& orphan : orphans) fs::remove_all(orphan, error);
 }
 
-/// The folder's name tells its process, so that a later one knows whether it is still in use.
-std::string makePrivateFolder(const std::string& parent) {
-    std::string path = fmt::format("{}/{}{}-XXXXXX", parent, folderStart, ::getpid());
+/// The folder's name tells its process, so that a later one knows whether it is still in use. Empty
+/// if it can't be made, with the reason in `errno`.
+std::string makeFolderOfProcess(const std::string& parent, std::string_view start) {
+    std::string path = fmt::format("{}/{}{}-XXXXXX", parent, start, ::getpid());
     // mkdtemp makes it for this user alone.
     if (::mkdtemp(path.data()) == nullptr) return {};
     sweep(parent);
+    return path;
+}
+
+std::string makePrivateFolder(const std::string& parent) {
+    std::string path = makeFolderOfProcess(parent, folderStart);
+    if (path.empty()) return {};
     // An office suite's pictures pass through folders of the same names here.
     std::error_code ignored;
     sweep(fs::temp_directory_path(ignored).string());
@@ -273,6 +281,18 @@ void PosixHost::makeFolder(std::string_view path) {
 void PosixHost::removeFolder(std::string_view path) {
     std::error_code ignored;
     fs::remove_all(fs::path(path), ignored);
+}
+
+std::string PosixHost::makeDraftFolder(std::string_view parent) {
+    std::string path = makeFolderOfProcess(std::string(parent), fmt::format(".{}", folderStart));
+    if (path.empty()) failIn(std::string(parent), "written to", errno);
+    return path;
+}
+
+void PosixHost::moveTo(std::string_view from, std::string_view place) {
+    const std::string to(place);
+    if (const int error = giveName(std::string(from), to, false); error != 0)
+        failIn(to, "written", error);
 }
 
 bool PosixHost::folderCanBeWrittenTo(std::string_view path) {

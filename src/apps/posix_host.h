@@ -37,6 +37,8 @@ public:
     [[nodiscard]] std::string outputFolder(std::string_view name) override;
     void makeFolder(std::string_view path) override;
     void removeFolder(std::string_view path) override;
+    [[nodiscard]] std::string makeDraftFolder(std::string_view parent) override;
+    void moveTo(std::string_view from, std::string_view place) override;
     [[nodiscard]] bool folderCanBeWrittenTo(std::string_view path) override;
     void writeFile(std::string_view path, std::string_view text) override;
     void writeImage(std::string_view png, session::ImageFormat format,

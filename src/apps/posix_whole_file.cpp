@@ -86,6 +86,20 @@ void writeWhole(const std::string& path, std::string_view text, Readers readers)
     fail(path, "written", std::strerror(errno));
 }
 
+int giveName(const std::string& from, const std::string& to, bool replaces) {
+    const auto rename = [&](unsigned flags) {
+        const bool isDone = ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), flags) == 0;
+        return isDone ? 0 : errno;
+    };
+    const int error = rename(replaces ? 0 : RENAME_NOREPLACE);
+    // Some file systems can't rename without replacing.
+    return error == EINVAL && !replaces ? rename(0) : error;
+}
+
+void failIn(const std::string& path, const char* what, int error) {
+    fail(path, what, std::strerror(error));
+}
+
 bool takesFiles(const std::string& folder) {
     const Neighbour probe(folder, Readers::User);
     return probe.isOpen();

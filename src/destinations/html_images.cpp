@@ -25,8 +25,7 @@ HtmlResult ExportRowsToHtmlAsImages(RowBatch& batch, const HtmlOptions& options)
         });
     if (!body.text.empty()) {
         WriteHtmlFile(session.host, files.page(), body.text);
-        files.keep();
-        result.file = files.page();
+        result.file = files.keep();
     }
     session.ExcelApp.put("ScreenUpdating", true);
     return result;

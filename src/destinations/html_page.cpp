@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <vector>
 
 #include "office/failure_patterns.h"
 
@@ -14,36 +15,49 @@ std::string defaultHtmlFolder(OfficeSession& session) {
     return session.host.outputFolder("MurvaneHTML");
 }
 
-HtmlFiles::HtmlFiles(OfficeSession& session, const HtmlOptions& options) : host_(session.host) {
+HtmlFiles::HtmlFiles(OfficeSession& session, const HtmlOptions& options)
+    : host_(session.host),
+      folder_(options.folder.empty() ? defaultHtmlFolder(session) : options.folder) {
     constexpr int first = 101;
     constexpr int last = 999;
-    const std::string folder = options.folder.empty() ? defaultHtmlFolder(session) : options.folder;
-    host_.makeFolder(folder);
+    host_.makeFolder(folder_);
     for (int number = first; number <= last; ++number) {
         imagesName_ = fmt::format("HTML{}", number);
-        images_ = fmt::format("{}/{}", folder, imagesName_);
-        page_ = fmt::format("{}/MurvaneHTML{}.html", folder, number);
-        published_ = fmt::format("{}/MurvaneHTML{}_files", folder, number);
-        if (!host_.pathExists(page_) && !host_.pathExists(images_) && !host_.pathExists(published_))
-            return;
+        pageName_ = fmt::format("MurvaneHTML{}.html", number);
+        publishedName_ = fmt::format("MurvaneHTML{}_files", number);
+        const auto names = {pageName_, imagesName_, publishedName_};
+        if (std::any_of(names.begin(), names.end(), [&](const std::string& name) {
+                return host_.pathExists(folder_ + "/" + name);
+            }))
+            continue;
+        draft_ = host_.makeDraftFolder(folder_);
+        return;
     }
-    isKept_ = true;
     throw office::Failure(office::FailureNumber::PathFileAccess, "Host",
                           fmt::format("{} holds pages of all numbers up to {}. Move some of them "
                                       "elsewhere, and try again.",
-                                      folder, last));
+                                      folder_, last));
 }
 
 HtmlFiles::~HtmlFiles() {
-    if (isKept_) return;
+    host_.removeFolder(draft_);
+}
+
+std::string HtmlFiles::keep() {
+    std::string page = folder_ + "/" + pageName_;
+    std::vector<std::string> moved;
     try {
-        host_.removeFolder(images_);
-        host_.removeFolder(published_);
-        host_.deleteFile(page_);
+        for (const std::string& name : {imagesName_, publishedName_}) {
+            if (!host_.pathExists(draft_ + "/" + name)) continue;
+            host_.moveTo(draft_ + "/" + name, folder_ + "/" + name);
+            moved.push_back(folder_ + "/" + name);
+        }
+        host_.moveTo(this->page(), page);
     } catch (const office::Failure&) {
-        // The export may have ended before there was a page.
-        return;
+        for (const std::string& folder : moved) host_.removeFolder(folder);
+        throw;
     }
+    return page;
 }
 
 void AppendHtmlBlock(HtmlBody& body, double widthPx, std::int32_t skipLines,

@@ -22,31 +22,34 @@ struct HtmlOptions {
 /// "MurvaneHTML" in the user's home.
 [[nodiscard]] std::string defaultHtmlFolder(session::OfficeSession& session);
 
-/// Where a page and its pictures go. Unless it is kept, it goes with this object, and nothing of an
-/// export that failed is left.
+/// Where a page and its pictures go: into a draft that nobody sees until it is kept. Otherwise it
+/// goes with this object, and nothing of an export that failed is left.
 class HtmlFiles {
 public:
-    /// Takes the first number whose names are free, and makes the folder. `office::Failure` 75 if
-    /// that can't be made or all numbers are taken.
+    /// Takes the first number whose names are free, and makes the folders. `office::Failure` 75 if
+    /// they can't be made or all numbers are taken.
     HtmlFiles(session::OfficeSession& session, const HtmlOptions& options);
     ~HtmlFiles();
     HtmlFiles(const HtmlFiles&) = delete;
     HtmlFiles& operator=(const HtmlFiles&) = delete;
 
-    [[nodiscard]] const std::string& page() const { return page_; }
-    /// The folder of the page's images, and its name as the page knows it.
-    [[nodiscard]] const std::string& images() const { return images_; }
+    /// In the draft.
+    [[nodiscard]] std::string page() const { return draft_ + "/" + pageName_; }
+    /// The folder of the page's images in the draft, and its name as the page knows it.
+    [[nodiscard]] std::string images() const { return draft_ + "/" + imagesName_; }
     [[nodiscard]] const std::string& imagesName() const { return imagesName_; }
-    void keep() { isKept_ = true; }
+    /// Moves all to its place, the page last. The page's path there. `office::Failure` 75 if that
+    /// can't be done; then nothing is there.
+    std::string keep();
 
 private:
     session::Host& host_;
-    std::string page_;
+    std::string folder_;
+    std::string draft_;
+    std::string pageName_;
     /// Where Excel puts the pictures of a page.
-    std::string published_;
-    std::string images_;
+    std::string publishedName_;
     std::string imagesName_;
-    bool isKept_ = false;
 };
 
 /// The markup that a page of images is collected in.

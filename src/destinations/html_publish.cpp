@@ -166,8 +166,7 @@ HtmlResult PublishRowsToHtml(RowBatch& batch, const HtmlOptions& options) {
             publishing.publishRow(row);
         });
         if (publishing.published() > 0) {
-            files.keep();
-            result.file = files.page();
+            result.file = files.keep();
         }
     }
     session.ExcelApp.put("ScreenUpdating", true);

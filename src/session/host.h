@@ -90,6 +90,12 @@ public:
     /// Takes away a folder with all that it holds, of one that this run has made. Links in it are
     /// not followed. Failures are silent.
     virtual void removeFolder(std::string_view path) = 0;
+    /// Makes a folder inside another for what is not finished yet, hidden and of this run alone.
+    /// Those that killed runs have left there go. `office::Failure` 75 if it can't be made.
+    [[nodiscard]] virtual std::string makeDraftFolder(std::string_view parent) = 0;
+    /// Moves a file or a folder that is finished to its place on the same disk. `office::Failure`
+    /// 75 if it can't be moved, or the name is taken by now.
+    virtual void moveTo(std::string_view from, std::string_view place) = 0;
     /// Found out by trying. False for anything but a folder.
     [[nodiscard]] virtual bool folderCanBeWrittenTo(std::string_view path) = 0;
 

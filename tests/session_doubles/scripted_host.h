@@ -153,6 +153,13 @@ public:
         folders.erase(std::string(path));
     }
 
+    [[nodiscard]] std::string makeDraftFolder(std::string_view parent) override {
+        makeFolder(std::string(parent) + "/draft");
+        return std::string(parent) + "/draft";
+    }
+
+    void moveTo(std::string_view, std::string_view place) override { files.emplace(place); }
+
     [[nodiscard]] bool folderCanBeWrittenTo(std::string_view path) override {
         return folders.contains(path) && !fullFolders.contains(path);
     }

@@ -211,17 +211,11 @@ void Output::removeNeighbour() {
 
 void Output::takeName(const fs::path& from, const fs::path& to) const {
     adoptMode(from, to);
-    const auto rename = [&](unsigned flags) {
-        const bool isDone = ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), flags) == 0;
-        return isDone ? 0 : errno;
-    };
-    int error = rename(overwrites_ ? 0 : RENAME_NOREPLACE);
+    const int error = apps::giveName(from.string(), to.string(), overwrites_);
     if (error == EEXIST) {
         throw RunError(fmt::format("{} was made by somebody else meanwhile and was left alone.",
                                    apps::utf8Of(to)));
     }
-    // Some file systems can't rename without replacing.
-    if (error == EINVAL) error = rename(0);
     if (error != 0) {
         throw RunError(
             fmt::format("{} can't be written: {}.", apps::utf8Of(to), std::strerror(error)));
