@@ -50,6 +50,10 @@ public:
         scope_.attempt([this] {
             const KeptMark mark(book());
             const Object sheets = book().get("Worksheets").toObject();
+            // A run that was killed has left it.
+            sheet_ = office::orElse(
+                [&] { return sheets.get("Item", std::string(name)).toObject(); }, Object());
+            if (sheet_) return;
             const Object last = sheets.get("Item", sheets.get("Count").toLong()).toObject();
             sheet_ = sheets.call("Add", arg("After", last)).toObject();
             sheet_.put("Name", std::string(name));

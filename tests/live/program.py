@@ -53,6 +53,17 @@ def suite_of(process, cache):
     return None
 
 
+# A name for what is made for each destination.
+OUTPUTS = {"slides": "x.pptx", "word": "x.docx", "pdf": "x.pdf", "html": "html", "images": "images"}
+EVERY_OUTPUT = set(OUTPUTS.values())
+
+
+def every_output(folder):
+    """The options that make something for each destination, into this folder."""
+    return [word for destination, name in OUTPUTS.items()
+            for word in ("--to", destination, "--output", folder / name)]
+
+
 class Package:
     """The parts of a package, whose names are the same in capitals, and where their relationships lead."""
 
@@ -192,5 +203,5 @@ class ProgramTest(unittest.TestCase):
                               or p.name.startswith(".")], [])
 
 
-__all__ = ["Package", "ProgramTest", "SAMPLES", "BUILD", "slides_of", "png_size", "colours_of", "suite_of",
+__all__ = ["EVERY_OUTPUT", "OUTPUTS", "Package", "ProgramTest", "SAMPLES", "BUILD", "slides_of", "png_size", "colours_of", "every_output", "suite_of",
            "processes_naming", "signal"]

@@ -1,11 +1,12 @@
 """Whatever happens to the suite or to the program: it ends soon, says why, and leaves nothing behind."""
 
 import os
+import shutil
 import signal
 import time
 import unittest
 
-from program import SAMPLES, ProgramTest, processes_naming, slides_of, suite_of
+from program import EVERY_OUTPUT, SAMPLES, ProgramTest, every_output, processes_naming, suite_of
 
 PATIENCE = 5.0
 
@@ -17,19 +18,24 @@ class AnEndedRun(ProgramTest):
     whole_run = None
 
     def begin(self):
-        output = self.folder / "out" / "deck.pptx"
-        output.parent.mkdir(exist_ok=True)
-        process = self.start(self.workbook, "--titles", "--source", "--output", output)
-        return process, output
+        outputs = self.folder / "out"
+        shutil.rmtree(outputs, ignore_errors=True)
+        outputs.mkdir()
+        return self.start(self.workbook, "--titles", "--source", *every_output(outputs)), outputs
+
+    @staticmethod
+    def made(outputs):
+        """What a user sees of a run."""
+        return {path.name for path in outputs.iterdir() if not path.name.startswith(".")}
 
     def whole_run_seconds(self):
         """How long a run takes that nobody disturbs; measured once."""
         if AnEndedRun.whole_run is None:
             started = time.monotonic()
-            process, output = self.begin()
+            process, outputs = self.begin()
             _, errors = process.communicate(timeout=240)
             self.assertEqual(process.returncode, 0, errors)
-            output.unlink()
+            self.assertEqual(self.made(outputs), EVERY_OUTPUT)
             AnEndedRun.whole_run = time.monotonic() - started
         return AnEndedRun.whole_run
 
@@ -43,14 +49,13 @@ class AnEndedRun(ProgramTest):
                     self.assertGreater(AnEndedRun.whole_run, 0.5, "no run lasts until it is struck")
 
     def struck_at(self, share, strike):
-        process, output = self.begin()
+        process, outputs = self.begin()
         started = time.monotonic()
         suite = suite_of(process, self.cache)
         # Up to three quarters: on a busy machine the run must not be over before it is struck.
         time.sleep(max(0.0, AnEndedRun.whole_run * 0.75 * share - (time.monotonic() - started)))
         if process.poll() is not None:
             process.communicate()
-            output.unlink()
             return False
         strike(process, suite)
         hit = time.monotonic()
@@ -58,12 +63,11 @@ class AnEndedRun(ProgramTest):
         self.assertLess(time.monotonic() - hit, PATIENCE)
         if process.returncode == 0:
             # All was done by then.
-            self.assertGreater(len(slides_of(output)), 1)
-            output.unlink()
+            self.assertEqual(self.made(outputs), EVERY_OUTPUT)
             return False
         self.assertGreater(len(errors.strip()), 20, "no report")
-        self.assertFalse(output.exists())
-        self.assert_nothing_left(output)
+        self.assertEqual(list(outputs.iterdir()), [])
+        self.assert_nothing_left()
         return True
 
     def test_ends_with_a_report_when_the_suite_is_killed(self):
@@ -77,24 +81,27 @@ class AnEndedRun(ProgramTest):
     def test_ends_with_a_report_when_it_is_told_to_terminate(self):
         self.strike_at_many_points(lambda process, suite: process.send_signal(signal.SIGTERM), points=3)
 
-    def test_takes_the_suite_with_it_when_it_is_killed_itself(self):
-        process, _ = self.begin()
-        self.assertIsNotNone(suite_of(process, self.cache))
-        process.kill()
-        process.communicate()
-        deadline = time.monotonic() + PATIENCE
-        while processes_naming(self.cache) and time.monotonic() < deadline:
-            time.sleep(0.05)
-        self.assertEqual(processes_naming(self.cache), [])
+    def test_takes_the_suite_with_it_when_it_is_killed_itself_and_leaves_nothing_that_looks_finished(self):
+        for share in (0.0, 0.3, 0.6):
+            process, outputs = self.begin()
+            self.assertIsNotNone(suite_of(process, self.cache))
+            time.sleep(self.whole_run_seconds() * share)
+            process.kill()
+            process.communicate()
+            self.assertEqual(self.made(outputs), set())
+            deadline = time.monotonic() + PATIENCE
+            while processes_naming(self.cache) and time.monotonic() < deadline:
+                time.sleep(0.05)
+            self.assertEqual(processes_naming(self.cache), [])
 
     def test_two_runs_at_once_keep_out_of_each_others_way(self):
-        first, first_output = self.begin()
-        second_output = self.folder / "second.pptx"
-        second = self.start(self.workbook, "--output", second_output)
+        first, outputs = self.begin()
+        second = self.start(self.workbook, "--titles", "--source", *every_output(self.folder), "--overwrite")
         for process in (first, second):
             _, errors = process.communicate(timeout=240)
             self.assertEqual(process.returncode, 0, errors)
-        self.assertEqual(len(slides_of(first_output)), len(slides_of(second_output)))
+        self.assertEqual(self.made(outputs), EVERY_OUTPUT)
+        self.assertLess(EVERY_OUTPUT, self.made(self.folder))
         self.assert_nothing_left()
 
 

@@ -99,10 +99,12 @@ TEST_F(Html, ThatIsPublishedKeepsTablesAndEscapesAllThatComesFromTheWorkbook) {
 
 TEST_F(Html, ThatIsPublishedNeedsNoSheetForBlankLinesAndNoBlankLines) {
     addChart("A", "S");
+    book.sheet("kukuMurvaneReservedName02");
     const std::string plain = page(publish({.skipLines = 0}));
     book.protectStructure();
     const std::string bare = page(publish());
     EXPECT_EQ(count(plain, "class=\"item\""), 2U) << "the top and the chart";
+    EXPECT_EQ(book.sheetNames(), Names{"S"}) << "what a killed run has left is gone";
     EXPECT_EQ(count(bare, "class=\"item\""), 1U);
     EXPECT_EQ(count(bare, "<img"), 1U);
     EXPECT_TRUE(book.structureIsProtected());

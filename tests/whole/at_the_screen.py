@@ -14,6 +14,15 @@ from screen import Refused, Screen, wait_until  # noqa: E402
 
 FORM, LIST, DIALOG, PAGE = "UserformObj", "listCharts", "Dialog", "wbStatus"
 BOOK, DECK = "Harbour Logistics 2026.xlsx", "Board deck.pptx"
+# The destinations of the main form that can be chosen, and the dialogs that they lead to.
+SLIDES, WORD, HTML, IMAGES = 0, 1, 2, 4
+DIALOGS = {SLIDES: DIALOG, WORD: "DialogWord", HTML: "DialogHTML", IMAGES: "DialogImageFiles"}
+# A new document of one line, with its caret there.
+NEW_TEXT = """
+text = desktop.loadComponentFromURL("private:factory/swriter", "_blank", 0, ())
+text.Text.String = "Report"
+text.CurrentController.ViewCursor.gotoEnd(False)
+"""
 
 
 class AtTheScreen(unittest.TestCase):
@@ -38,10 +47,29 @@ class AtTheScreen(unittest.TestCase):
         wait_until(lambda: hand.caption(FORM, "NbCharts").endswith("items selected"), what="the list")
         return hand
 
-    def open_dialog(self, hand):
+    def open_dialog(self, hand, destination=SLIDES):
+        """The options dialog of a destination; its name."""
+        dialog = DIALOGS[destination]
+        if destination != SLIDES:
+            hand.do("click", FORM, f"Option1({destination})")
         hand.do("click", FORM, "PasteIT")
-        hand.wait_for(DIALOG)
-        hand.wait_for_page(DIALOG, PAGE)
+        hand.wait_for(dialog)
+        hand.wait_for_page(dialog, PAGE)
+        return dialog
+
+    def begin_export(self, hand, destination=SLIDES):
+        """Until the first items are on their way."""
+        hand.do("click", self.open_dialog(hand, destination), "ContinueOk")
+        hand.wait_for("Progress")
+
+    def note_what_is_opened(self):
+        """The file in which the path stands that the program has opened."""
+        opener = self.screen.folder / "opener"
+        opener.mkdir()
+        (opener / "xdg-open").write_text(f"#!/bin/sh\nprintf %s \"$1\" > '{opener}/opened'\n")
+        (opener / "xdg-open").chmod(0o755)
+        self.screen.environment["PATH"] = f"{opener}:{self.screen.environment['PATH']}"
+        return opener / "opened"
 
     def in_the_suite(self, script, *arguments):
         """Runs a script of the suite's own language binding over the user's suite; what it prints."""
@@ -57,5 +85,5 @@ deck.storeToURL(uno.systemPathToFileUrl(sys.argv[2]), filter("Impress MS PowerPo
         return slides_of(copy)
 
 
-__all__ = ["AtTheScreen", "BOOK", "BUILD", "DECK", "DIALOG", "FORM", "LIST", "PAGE", "Refused", "Screen", "colours_of",
-           "slides_of", "unittest", "wait_until"]
+__all__ = ["AtTheScreen", "BOOK", "BUILD", "DECK", "DIALOG", "FORM", "HTML", "IMAGES", "LIST", "NEW_TEXT", "PAGE",
+           "Refused", "SLIDES", "Screen", "WORD", "colours_of", "slides_of", "unittest", "wait_until"]

@@ -1,16 +1,10 @@
 """The destinations beside PowerPoint, through the main form and by one command."""
 
-from at_the_screen import BOOK, FORM, LIST, PAGE, AtTheScreen, unittest, wait_until
+from at_the_screen import (BOOK, FORM, HTML, IMAGES, LIST, NEW_TEXT, PAGE, WORD, AtTheScreen, unittest,
+                           wait_until)
 
-WORD, HTML, IMAGES = "DialogWord", "DialogHTML", "DialogImageFiles"
 PICTURES, EDITABLE, EMBEDDED = 0, 1, 2
 
-# A new document of one line, with its caret there.
-NEW_TEXT = """
-text = desktop.loadComponentFromURL("private:factory/swriter", "_blank", 0, ())
-text.Text.String = "Report"
-text.CurrentController.ViewCursor.gotoEnd(False)
-"""
 # What stands in it: pictures, objects, tables, pages, and the texts of captions.
 IN_TEXT = """
 text = document("Text")
@@ -42,14 +36,14 @@ class TheDestinations(AtTheScreen):
         pictures, objects, tables, pages, *captions = f"{counts} {captions}".split(" ", 4)
         return int(pictures), int(objects), int(tables), int(pages), "".join(captions)
 
-    def choose(self, hand, destination, kinds=("chart-sheet", "chart", "range")):
-        """One item of each kind, for the destination."""
+    @staticmethod
+    def choose(hand, kinds=("chart-sheet", "chart", "range")):
+        """One item of each kind."""
         rows = hand.rows()
         wanted = [next(i for i, row in enumerate(rows) if row["icon"] == "icon:" + kind) for kind in kinds]
         for i, row in enumerate(rows):
             if row["checked"] != (i in wanted):
                 hand.do("check-row", FORM, LIST, row=i)
-        hand.do("click", FORM, f"Option1({destination})")
 
     def test_of_word_takes_pictures_charts_tables_and_workbooks(self):
         self.open_book_and_text()
@@ -57,12 +51,10 @@ class TheDestinations(AtTheScreen):
             with self.subTest(format=number):
                 before = self.in_text()
                 hand = self.open_main_form()
-                self.choose(hand, 1)
+                self.choose(hand)
+                hand.do("click", FORM, f"Option1({WORD})")
                 hand.do("click", FORM, f"OptionFormat({number})")
-                hand.do("click", FORM, "PasteIT")
-                hand.wait_for(WORD)
-                hand.wait_for_page(WORD, PAGE)
-                hand.do("click", WORD, "ContinueOk")
+                hand.do("click", self.open_dialog(hand, WORD), "ContinueOk")
                 self.assertEqual(hand.ended(120), 0, hand.said())
                 after = self.in_text()
                 self.assertEqual(tuple(now - then for now, then in zip(after[:3], before[:3])), arrives)
@@ -87,27 +79,12 @@ class TheDestinations(AtTheScreen):
                     if not made:
                         self.assertIn("This icon refers to tables only", boxes[0])
 
-    def open_options(self, hand, destination, dialog):
-        self.choose(hand, destination)
-        hand.do("click", FORM, "PasteIT")
-        hand.wait_for(dialog)
-        hand.wait_for_page(dialog, PAGE)
-
-    def note_what_is_opened(self):
-        """The file in which the path stands that the program has opened."""
-        opener = self.screen.folder / "opener"
-        opener.mkdir()
-        (opener / "xdg-open").write_text(f"#!/bin/sh\nprintf %s \"$1\" > '{opener}/opened'\n")
-        (opener / "xdg-open").chmod(0o755)
-        self.screen.environment["PATH"] = f"{opener}:{self.screen.environment['PATH']}"
-        return opener / "opened"
-
     def test_of_html_publishes_a_page_with_its_pictures(self):
         opened = self.note_what_is_opened()
         self.open_sample(BOOK)
         hand = self.open_main_form()
-        self.open_options(hand, 2, HTML)
-        hand.do("click", HTML, "ContinueOk")
+        self.choose(hand)
+        hand.do("click", self.open_dialog(hand, HTML), "ContinueOk")
         self.assertEqual(hand.ended(120), 0, hand.said())
         folder = self.folder / "MurvaneHTML"
         self.assertEqual(opened.read_text(), str(folder / "MurvaneHTML101.html"))
@@ -121,10 +98,11 @@ class TheDestinations(AtTheScreen):
         opened = self.note_what_is_opened()
         self.open_sample(BOOK)
         hand = self.open_main_form()
-        self.open_options(hand, 4, IMAGES)
-        hand.do("follow", IMAGES, PAGE, href="murvane://select/imgFormat/jpeg")
-        wait_until(lambda: hand.value(IMAGES, "Jpeg"), what="the format")
-        hand.do("click", IMAGES, "ContinueOk")
+        self.choose(hand)
+        dialog = self.open_dialog(hand, IMAGES)
+        hand.do("follow", dialog, PAGE, href="murvane://select/imgFormat/jpeg")
+        wait_until(lambda: hand.value(dialog, "Jpeg"), what="the format")
+        hand.do("click", dialog, "ContinueOk")
         self.assertEqual(hand.ended(60), 0, hand.said())
         self.assertEqual(opened.read_text(), str(self.folder / "MurvaneImages"))
         files = sorted((self.folder / "MurvaneImages").iterdir())

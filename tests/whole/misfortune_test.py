@@ -5,26 +5,28 @@ import subprocess
 
 import xlsxwriter
 
-from at_the_screen import BOOK, BUILD, DIALOG, FORM, LIST, PAGE, SAMPLES, AtTheScreen, unittest, wait_until
+from at_the_screen import (BOOK, BUILD, FORM, HTML, IMAGES, LIST, NEW_TEXT, SAMPLES, SLIDES, WORD, AtTheScreen, unittest,
+                           wait_until)
 
 NOTICE = "MurvaneNotice"
 
 
 class WithoutTheSuite(AtTheScreen):
     def test_a_suite_that_dies_under_the_form_or_during_the_export_ends_the_program_with_a_report(self):
-        for exporting in (False, True):
-            with self.subTest(exporting=exporting):
+        for destination in (None, SLIDES, WORD, HTML, IMAGES):
+            with self.subTest(destination=destination):
                 self.open_sample()
                 hand = self.open_main_form()
-                if exporting:
-                    self.open_dialog(hand)
-                    hand.do("click", DIALOG, "ContinueOk")
-                    hand.wait_for("Progress")
+                if destination == WORD:
+                    self.in_the_suite(NEW_TEXT)
+                if destination is not None:
+                    self.begin_export(hand, destination)
                 self.screen.kill_suite()
-                if not exporting:
+                if destination is None:
                     hand.do("click-row", FORM, LIST, row=2)
                 self.assertEqual(hand.ended(15), 1)
                 self.assertGreater(len(hand.said()), 20)
+        self.assertEqual(list((self.folder / "MurvaneHTML").iterdir()), [], "half a page")
 
     def test_commands_without_a_suite_end_in_silence_or_with_their_notice(self):
         hand = self.screen.use("/112")
@@ -68,13 +70,45 @@ class UnderTheForm(AtTheScreen):
         hand.do("key", FORM, key="Alt+F4")
         self.assertEqual(hand.ended(), 0, hand.said())
 
+    def test_a_document_that_is_closed_during_an_export_is_told_and_leaves_nothing_half_made(self):
+        self.note_what_is_opened()
+        for destination, kind in ((WORD, "Text"), (WORD, "Workbook"), (HTML, "Workbook"), (IMAGES, "Workbook")):
+            with self.subTest(destination=destination, closed=kind):
+                self.open_sample(BOOK)
+                hand = self.open_main_form()
+                if destination == WORD:
+                    self.in_the_suite(NEW_TEXT)
+                self.begin_export(hand, destination)
+                self.in_the_suite(f"document('{kind}').close(True)")
+                try:
+                    hand.wait_for(NOTICE)
+                    hand.do("key", NOTICE, key="Return")
+                except AssertionError as ended:
+                    # A text that has gone is a failure that ends the program.
+                    self.assertIn("has been closed", str(ended))
+                self.assertIn(hand.ended(), (0, 1), hand.said())
+                self.in_the_suite("for each in list(desktop.Components): each.close(True)")
+        self.assertEqual([p.name for p in (self.folder / "MurvaneHTML").iterdir() if p.name.startswith(".")], [])
+
+    def test_a_program_that_is_killed_while_it_publishes_leaves_no_page_and_the_next_clears_up(self):
+        self.note_what_is_opened()
+        self.open_sample(BOOK)
+        hand = self.open_main_form()
+        self.begin_export(hand, HTML)
+        hand.process.kill()
+        pages = self.folder / "MurvaneHTML"
+        self.assertEqual([p.name for p in pages.iterdir() if not p.name.startswith(".")], [])
+        hand.process.wait()
+        hand = self.open_main_form()
+        hand.do("click", self.open_dialog(hand, HTML), "ContinueOk")
+        self.assertEqual(hand.ended(120), 0, hand.said())
+        self.assertEqual(sorted(p.name for p in pages.iterdir()), ["MurvaneHTML101.html", "MurvaneHTML101_files"])
+
     def test_clicks_during_an_export_change_nothing(self):
         self.open_sample()
         hand = self.open_main_form()
         wanted = [row["texts"][0] for row in hand.rows() if row["checked"]]
-        self.open_dialog(hand)
-        hand.do("click", DIALOG, "ContinueOk")
-        hand.wait_for("Progress")
+        self.begin_export(hand)
         for _ in range(3):
             hand.do("click-column", FORM, LIST, column=0)
             hand.do("check-row", FORM, LIST, row=1)
