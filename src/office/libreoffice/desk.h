@@ -17,6 +17,7 @@ namespace libreoffice {
 namespace excel {
 class CalcDocument;
 class PictureMaker;
+class TextWidths;
 }  // namespace excel
 namespace powerpoint {
 class ImpressDeck;
@@ -74,6 +75,8 @@ public:
     const std::shared_ptr<office::drawing::DrawingRoom> drawingRoom;
     /// Makes pictures; null until the first one is asked for.
     std::shared_ptr<excel::PictureMaker> pictureMaker;
+    /// Measures texts; null until the first one is measured.
+    std::shared_ptr<excel::TextWidths> textWidths;
 
     /// Nothing in the suite answers to these.
     office::model::excel::Settings excelSettings;

@@ -364,8 +364,9 @@ TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block, std::s
     for (std::size_t row = 0; row < std::min(html.rows.size(), shown.rows.size()); ++row)
         maker.putRow(html.rows[row], row);
     table.cells = maker.takeCells();
-    TextWidths widths(sheet.book().desk().connection());
-    fitTexts(table, maker.values(), widths, sheet.book().formats());
+    std::shared_ptr<TextWidths>& widths = sheet.book().desk().textWidths;
+    if (!widths) widths = std::make_shared<TextWidths>(sheet.book().desk().connection());
+    fitTexts(table, maker.values(), *widths, sheet.book().formats());
     return withoutUnseenLines(table);
 }
 

@@ -33,7 +33,9 @@ private:
     using Key = std::tuple<std::string, bool, bool>;
 
     [[nodiscard]] Font& fontOf(const office::CellLook& look);
-    [[nodiscard]] static double widthOf(sal_Unicode character, Font& font);
+    [[nodiscard]] double widthOf(sal_Unicode character, Font& font) const;
+    [[nodiscard]] uno::Sequence<sal_Int16> widthsOf(const uno::Reference<css::awt::XFont>& font,
+                                                    sal_Unicode first, sal_Unicode last) const;
 
     const Connection& connection_;
     uno::Reference<css::awt::XDevice> device_;
