@@ -85,11 +85,16 @@ class Screen:
         # Without one no window is ever the active one, and pages take no keys.
         self.manager = None
         if manager is not None:
-            self.manager = subprocess.Popen([manager, "--sm-disable"], env=self.environment,
-                                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
             # A program that comes before it takes the screen for one without, and never looks again.
-            wait_until(lambda: subprocess.run(["xdotool", "get_num_desktops"], env=self.environment,
-                                              capture_output=True).returncode == 0, 20, "the window manager")
+            wait_until(lambda: self._has_manager(manager), 60, "the window manager")
+
+    def _has_manager(self, name):
+        # On a busy machine it may find the new server not ready, and ends.
+        if self.manager is None or self.manager.poll() is not None:
+            self.manager = subprocess.Popen([name, "--sm-disable"], env=self.environment,
+                                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        return subprocess.run(["xdotool", "get_num_desktops"], env=self.environment,
+                              capture_output=True).returncode == 0
 
     @staticmethod
     def _start_server(size):
