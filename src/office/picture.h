@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "office/vector_file.h"
+
 namespace office {
 
 /// A PNG picture with its true size, which may still be on its way: who takes it goes on, and asks
@@ -36,6 +38,9 @@ public:
     /// The picture itself in the file's stead, which is no longer there. None if nothing has been
     /// on its way to this path.
     virtual std::optional<Picture> take(const std::string& path) = 0;
+    /// A picture of an SVG for programs that don't read it, about as dense as a screen; what the
+    /// SVG leaves free is see-through.
+    [[nodiscard]] virtual Picture draw(const VectorFile& svg) = 0;
 };
 
 using PictureFilesPtr = std::shared_ptr<PictureFiles>;

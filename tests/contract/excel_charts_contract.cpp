@@ -1,7 +1,9 @@
 #include <filesystem>
 
 #include "contract/contract_test.h"
+#include "office/vector_file.h"
 #include "support/png_file.h"
+#include "support/vector_file.h"
 
 namespace contract {
 
@@ -65,6 +67,41 @@ TEST_F(ExcelContract, ExportsChartsAndChartSheetsAsCrispPicturesOfTheirSize) {
     EXPECT_GT(support::pngSizeOf(file).dotsPerInch(), 200);
     EXPECT_GT(support::pngSizeOf(file).widthPoints(), 100);
     EXPECT_NE(failureOf([&] { chart.call("Export", "/nonexistent/folder/chart.png", "PNG"); }), 0);
+}
+
+TEST_F(ExcelContract, ExportsInVectorsOfTheTrueSize) {
+    const Value object = sheet("Sales").call("ChartObjects", "Trend");
+    const Object cells = range("Sales", "A1:C4");
+    cells.call("CopyPicture", arg("Appearance", 1), arg("Format", -4147));
+    const Value holder = sheet("Sales")
+                             .get("ChartObjects")
+                             .call("Add", 0, 0, cells.get("Width"), cells.get("Height"));
+    holder.get("Chart").call("Paste");
+    struct {
+        const char* file;
+        const char* filter;
+        office::PictureKind kind;
+    } const exports[] = {{"chart.svg", "SVG", office::PictureKind::Svg},
+                         {"chart.emf", "emf", office::PictureKind::Emf},
+                         {"other.EMF", nullptr, office::PictureKind::Emf},
+                         {"other.bin", "SVG", office::PictureKind::Svg}};
+    for (const auto& one : exports) {
+        SCOPED_TRACE(one.file);
+        const std::string file = environment().temporaryFile(one.file);
+        for (const Value& shown : {object, holder}) {
+            const Value chart = shown.get("Chart");
+            one.filter == nullptr ? chart.call("Export", file)
+                                  : chart.call("Export", file, one.filter);
+            const office::VectorFile vectors = office::vectorFileOf(support::textOf(file), file);
+            EXPECT_EQ(vectors.kind, one.kind);
+            EXPECT_NEAR(vectors.widthPt, shown.get("Width").toDouble(), 0.2);
+            EXPECT_NEAR(vectors.heightPt, shown.get("Height").toDouble(), 0.2);
+        }
+    }
+    EXPECT_EQ(failureOf([&] {
+                  object.get("Chart").call("Export", environment().temporaryFile("a.pdf"), "PDF");
+              }),
+              5);
 }
 
 TEST_F(ExcelContract, TurnsARangeIntoAPictureThroughATemporaryChart) {

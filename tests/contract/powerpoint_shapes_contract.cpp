@@ -1,7 +1,10 @@
 #include <cmath>
+#include <fstream>
 #include <limits>
 
 #include "contract/contract_test.h"
+#include "support/png_file.h"
+#include "support/vector_file.h"
 
 namespace contract {
 
@@ -28,13 +31,32 @@ TEST_F(PowerPointContract, ScalesAPictureByTheSideThatIsGiven) {
     EXPECT_NEAR(made.get("Top").toDouble(), 20, 0.1);
 }
 
-TEST_F(PowerPointContract, FailsOnAPictureThatIsntThere) {
+TEST_F(PowerPointContract, TakesVectorsInTheirOwnSize) {
+    for (const auto kind : {office::PictureKind::Svg, office::PictureKind::Emf}) {
+        const std::string file =
+            environment().temporaryFile(std::string("vectors") + office::endingOf(kind));
+        support::writeBytes(file, support::pictureOfPoints(kind, 200, 90));
+        const Value made = slide(3).get("Shapes").call("AddPicture", file, 0, -1, 10, 20, -1, -1);
+        EXPECT_NEAR(made.get("Width").toDouble(), 200, 0.3) << file;
+        EXPECT_NEAR(made.get("Height").toDouble(), 90, 0.3) << file;
+        EXPECT_NEAR(made.get("Left").toDouble(), 10, 0.1);
+        made.put("Width", 100);
+        EXPECT_NEAR(made.get("Height").toDouble(), 45, 0.3) << file;
+    }
+}
+
+TEST_F(PowerPointContract, FailsOnAPictureThatIsntThereOrThatNeedsMore) {
+    const std::string outsider = environment().temporaryFile("outsider.svg");
+    const std::string svg = support::svgPictureOfPoints(200, 90);
+    std::ofstream(outsider) << svg.substr(0, svg.find("</svg>"))
+                            << R"(<image href="file:///etc/hostname"/></svg>)";
     const std::int32_t before = slide(3).get("Shapes").get("Count").toLong();
-    EXPECT_NE(failureOf([&] {
-                  slide(3).get("Shapes").call("AddPicture", "/nonexistent.png", 0, -1, 0, 0, -1,
-                                              -1);
-              }),
-              0);
+    for (const std::string& file : {std::string("/nonexistent.png"), outsider})
+        EXPECT_NE(failureOf([&] {
+                      slide(3).get("Shapes").call("AddPicture", file, 0, -1, 0, 0, -1, -1);
+                  }),
+                  0)
+            << file;
     EXPECT_EQ(slide(3).get("Shapes").get("Count").toLong(), before);
 }
 

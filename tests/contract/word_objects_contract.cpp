@@ -1,4 +1,6 @@
 #include "contract/contract_test.h"
+#include "support/png_file.h"
+#include "support/vector_file.h"
 
 namespace contract {
 
@@ -48,6 +50,23 @@ TEST_F(WordContract, PutsWhatWasCopiedAtTheCaretInEachForm) {
                           {{"Width", 200.0}, {"Height", 90.0}, {"AlternativeText", "Figures"}});
         }
     }
+}
+
+TEST_F(WordContract, TakesThePictureOfAFileInItsOwnSize) {
+    using office::PictureKind;
+    std::int32_t count = 0;
+    for (const auto kind : {PictureKind::Png, PictureKind::Svg, PictureKind::Emf}) {
+        const std::string file =
+            environment().temporaryFile(std::string("picture") + office::endingOf(kind));
+        support::writeBytes(file, support::pictureOfPoints(kind, 200, 90));
+        goToNewPage();
+        const Value made = selection().get("InlineShapes").call("AddPicture", file, false, true);
+        EXPECT_NEAR(made.get("Width").toDouble(), 200, 0.3) << file;
+        EXPECT_NEAR(made.get("Height").toDouble(), 90, 0.3) << file;
+        EXPECT_EQ(shapes("InlineShapes").get("Count").toLong(), ++count);
+    }
+    EXPECT_NE(failureOf([&] { selection().get("InlineShapes").call("AddPicture", "/no.svg"); }), 0);
+    EXPECT_EQ(shapes("InlineShapes").get("Count").toLong(), count);
 }
 
 TEST_F(WordContract, PutsAPictureOverTheText) {

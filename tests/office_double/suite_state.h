@@ -9,6 +9,7 @@
 #include "office/package/presentation/file_decks.h"
 #include "support/call_log.h"
 #include "support/failure_plan.h"
+#include "support/png_file.h"
 
 namespace office_double {
 
@@ -16,6 +17,17 @@ using office::Failure;
 using office::FailureNumber;
 using office::Object;
 using office::Value;
+
+/// Draws a PNG of the right size in the stead of vectors; no file is ever on its way.
+class DrawnAtOnce : public office::PictureFiles {
+public:
+    void complete(const std::string&) override {}
+    std::optional<office::Picture> take(const std::string&) override { return std::nullopt; }
+    office::Picture draw(const office::VectorFile& svg) override {
+        const auto png = support::pngPictureOfPoints(svg.widthPt, svg.heightPt);
+        return office::finishedPicture(svg.widthPt, svg.heightPt, {png.begin(), png.end()});
+    }
+};
 
 /// The size of a text: characters half as wide as they are high, in one line.
 inline office::model::powerpoint::Size measureOfDouble(const std::string& words,

@@ -4,6 +4,7 @@
 #include <glib.h>
 
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <utility>
@@ -51,6 +52,24 @@ DrawingRoom::~DrawingRoom() {
 
 Picture DrawingRoom::draw(VectorPicture picture) {
     return drawAnd(std::move(picture), [](const std::string&) {});
+}
+
+Picture DrawingRoom::draw(const VectorFile& svg) {
+    constexpr double pointsPerInch = 72;
+    constexpr double dotsPerInch = 96;
+    constexpr double mostPixels = 20e6;
+    const double dots = dotsPerInch / pointsPerInch;
+    const double tooMany = svg.widthPt * dots * svg.heightPt * dots / mostPixels;
+    const double perPoint = tooMany > 1 ? dots / std::sqrt(tooMany) : dots;
+    const auto pixels = [&](double points) {
+        return std::max(1, static_cast<std::int32_t>(std::lround(points * perPoint)));
+    };
+    return draw({.svg = svg.bytes,
+                 .width = pixels(svg.widthPt),
+                 .height = pixels(svg.heightPt),
+                 .widthPt = svg.widthPt,
+                 .heightPt = svg.heightPt,
+                 .isTranslucent = true});
 }
 
 void DrawingRoom::drawFile(VectorPicture picture, const std::string& path) {

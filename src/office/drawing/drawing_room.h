@@ -38,6 +38,7 @@ public:
 
     void complete(const std::string& path) override;
     std::optional<Picture> take(const std::string& path) override;
+    Picture draw(const VectorFile& svg) override;
 
 private:
     struct File {

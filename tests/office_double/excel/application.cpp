@@ -73,8 +73,9 @@ excel::BookPtr ExcelApplication::load(const std::string& file, const std::string
 }
 
 void ExcelApplication::writePicture(const office::CopiedPtr& picture, const excel::Box& area,
-                                    const std::string& path) {
-    writePng(picture ? excel::Box{0, 0, picture->widthPt(), picture->heightPt()} : area, path);
+                                    const std::string& path, office::PictureKind kind) {
+    writePictureOf(picture ? excel::Box{0, 0, picture->widthPt(), picture->heightPt()} : area, path,
+                   kind);
 }
 
 }  // namespace office_double

@@ -48,7 +48,7 @@ public:
     }
     office::Clipboard& clipboard() override { return *state_->clipboard; }
     void writePicture(const office::CopiedPtr& picture, const excel::Box& area,
-                      const std::string& path) override;
+                      const std::string& path, office::PictureKind kind) override;
 
 private:
     std::shared_ptr<SuiteState> state_;

@@ -7,6 +7,7 @@
 #include "office/model/excel/objects.h"
 #include "office_double/suite_state.h"
 #include "support/png_file.h"
+#include "support/vector_file.h"
 
 namespace office_double {
 
@@ -36,9 +37,10 @@ private:
     office::TableLook table_;
 };
 
-inline void writePng(const excel::Box& box, const std::string& path) {
+inline void writePictureOf(const excel::Box& box, const std::string& path,
+                           office::PictureKind kind) {
     try {
-        support::writeBytes(path, support::pngPictureOfPoints(box.width, box.height));
+        support::writeBytes(path, support::pictureOfPoints(kind, box.width, box.height));
     } catch (const office::Failure&) {
         throw;
     } catch (const std::runtime_error& error) {

@@ -161,8 +161,8 @@ office::CopiedPtr PlacedChart::copy(office::CopySource source) {
     return std::make_shared<CopiedThing>(std::move(source), box_);
 }
 
-void PlacedChart::writePicture(const std::string& path) {
-    writePng(box_, path);
+void PlacedChart::writePicture(const std::string& path, office::PictureKind kind) {
+    writePictureOf(box_, path, kind);
 }
 
 void PlacedChart::paste(const office::CopiedPtr&) {

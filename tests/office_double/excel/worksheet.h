@@ -85,7 +85,7 @@ public:
     std::string name() override { return name_; }
     excel::Box box() override { return box_; }
     office::CopiedPtr copy(office::CopySource source) override;
-    void writePicture(const std::string& path) override;
+    void writePicture(const std::string& path, office::PictureKind kind) override;
     void paste(const office::CopiedPtr& picture) override;
     void select() override;
     void remove() override;

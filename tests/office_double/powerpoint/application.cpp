@@ -45,7 +45,9 @@ Presentation& Presentation::runSlideShow() {
 
 PowerPointApplication::PowerPointApplication(std::shared_ptr<SuiteState> state)
     : FileDecks(std::make_shared<package::FileRules>(
-          package::FileRules{.measure = measureOfDouble, .clipboard = state->clipboard})),
+          package::FileRules{.measure = measureOfDouble,
+                             .clipboard = state->clipboard,
+                             .pictures = std::make_shared<DrawnAtOnce>()})),
       state_(std::move(state)) {}
 
 Presentation& PowerPointApplication::addPresentation(const std::string& name,

@@ -39,7 +39,9 @@ Document& Document::addText(const std::string& text) {
 
 WordApplication::WordApplication(std::shared_ptr<SuiteState> state)
     : FileDocuments(std::make_shared<package::FileRules>(
-          package::FileRules{.measure = measureOfDouble, .clipboard = state->clipboard})),
+          package::FileRules{.measure = measureOfDouble,
+                             .clipboard = state->clipboard,
+                             .pictures = std::make_shared<DrawnAtOnce>()})),
       state_(std::move(state)) {}
 
 Document& WordApplication::addDocument(const std::string& name, const std::string& folder,

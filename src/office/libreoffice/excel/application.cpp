@@ -43,7 +43,7 @@ public:
 
     office::Clipboard& clipboard() override { return desk_->clipboard(); }
     void writePicture(const office::CopiedPtr& picture, const model::Box& area,
-                      const std::string& path) override;
+                      const std::string& path, office::PictureKind kind) override;
 
 private:
     [[nodiscard]] std::shared_ptr<CalcDocument> alreadyOpen(const rtl::OUString& url);
@@ -133,13 +133,13 @@ office::Value CalcBooks::askForFile(const std::string& filter, const std::string
 }
 
 void CalcBooks::writePicture(const office::CopiedPtr& picture, const model::Box& area,
-                             const std::string& path) {
+                             const std::string& path, office::PictureKind kind) {
     const auto* copied = dynamic_cast<const CopiedPicture*>(picture.get());
     if (copied != nullptr) {
-        pictureMaker(*desk_).writeMetafile(copied->metafile(), copied->size(), path);
+        pictureMaker(*desk_).writeMetafile(copied->metafile(), copied->size(), path, kind);
     } else if (!picture) {
         pictureMaker(*desk_).writeMetafile(
-            {}, {hundredthMmOf(area.width), hundredthMmOf(area.height)}, path);
+            {}, {hundredthMmOf(area.width), hundredthMmOf(area.height)}, path, kind);
     } else {
         office::model::refuse("Chart.Export", "The chart holds something else than a picture");
     }

@@ -82,8 +82,8 @@ office::CopiedPtr ChartShape::copy(office::CopySource source) {
                                            PictureSize{size.Width, size.Height});
 }
 
-void ChartShape::writePicture(const std::string& path) {
-    pictureMaker(book_.desk()).writeChart(shape_, path);
+void ChartShape::writePicture(const std::string& path, office::PictureKind kind) {
+    pictureMaker(book_.desk()).writeChart(shape_, path, kind);
 }
 
 void ChartShape::paste(const office::CopiedPtr&) {

@@ -34,7 +34,7 @@ public:
     std::string name() override;
     office::model::excel::Box box() override;
     office::CopiedPtr copy(office::CopySource source) override;
-    void writePicture(const std::string& path) override;
+    void writePicture(const std::string& path, office::PictureKind kind) override;
     void paste(const office::CopiedPtr& picture) override;
     /// LibreOffice selects the frame; the chart is not opened for editing, which would take the
     /// keyboard from the user.

@@ -14,6 +14,7 @@ namespace libreoffice::excel {
 
 namespace {
 
+using office::PictureKind;
 using office::drawing::VectorPicture;
 
 PictureSize sizeOf(const uno::Reference<css::drawing::XShape>& chart) {
@@ -32,6 +33,12 @@ std::optional<VectorPicture> drawable(std::string svg, const PictureSize& size,
                          .widthPt = pointsOf(size.width),
                          .heightPt = pointsOf(size.height),
                          .isTranslucent = isTranslucent};
+}
+
+std::string onWhite(std::string svg) {
+    const std::size_t content = svg.find('>', svg.find("<svg"));
+    if (content == std::string::npos) return {};
+    return svg.insert(content + 1, R"(<rect width="100%" height="100%" fill="white"/>)");
 }
 
 /// The suite writes pictures to files only: one in a folder that only this user can read, and gone
@@ -69,7 +76,9 @@ office::Picture PictureMaker::chart(const uno::Reference<css::drawing::XShape>& 
 }
 
 void PictureMaker::writeChart(const uno::Reference<css::drawing::XShape>& chart,
-                              const std::string& path) {
+                              const std::string& path, office::PictureKind kind) {
+    if (kind == PictureKind::Svg) return writePictureFile(path, suite_.svgOfChart(chart));
+    if (kind == PictureKind::Emf) return writePictureFile(path, suite_.emfOfChart(chart));
     auto vectors = vectorsOf(chart);
     if (!vectors) return suite_.writeChart(chart, path);
     makeWayFor(path);
@@ -84,7 +93,11 @@ office::Picture PictureMaker::metafile(const uno::Sequence<sal_Int8>& metafile,
 }
 
 void PictureMaker::writeMetafile(const uno::Sequence<sal_Int8>& metafile, const PictureSize& size,
-                                 const std::string& path) {
+                                 const std::string& path, office::PictureKind kind) {
+    if (kind == PictureKind::Svg)
+        return writePictureFile(path, onWhite(suite_.svgOfMetafile(metafile, size)));
+    if (kind == PictureKind::Emf)
+        return writePictureFile(path, suite_.emfOfMetafile(metafile, size));
     auto vectors = vectorsOf(metafile, size);
     if (!vectors) return suite_.writeMetafile(metafile, size, path);
     makeWayFor(path);

@@ -29,15 +29,16 @@ public:
     /// A chart as a PNG. One whose background lets things shine through stays transparent; all
     /// others come without an alpha channel.
     [[nodiscard]] office::Picture chart(const uno::Reference<css::drawing::XShape>& chart);
-    /// The same as a file, which may still be on its way (`office::PictureFiles`).
+    /// The same as a file, also in vectors; a PNG may still be on its way (`office::PictureFiles`).
     /// `office::Failure` 1004 if it can't be written; then there is none of that name.
-    void writeChart(const uno::Reference<css::drawing::XShape>& chart, const std::string& path);
+    void writeChart(const uno::Reference<css::drawing::XShape>& chart, const std::string& path,
+                    office::PictureKind kind);
 
-    /// A copied picture as a PNG on white. An empty one gives a white area.
+    /// A copied picture on white. An empty one gives a white area.
     [[nodiscard]] office::Picture metafile(const uno::Sequence<sal_Int8>& metafile,
                                            const PictureSize& size);
     void writeMetafile(const uno::Sequence<sal_Int8>& metafile, const PictureSize& size,
-                       const std::string& path);
+                       const std::string& path, office::PictureKind kind);
 
     [[nodiscard]] SuitePictures& suite() { return suite_; }
 

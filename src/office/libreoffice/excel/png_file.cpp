@@ -32,6 +32,17 @@ void makeWayFor(const std::string& path) {
     if (error) failToWrite(path);
 }
 
+void writePictureFile(const std::string& path, const std::string& bytes) {
+    makeWayFor(path);
+    std::ofstream file(path, std::ios::binary);
+    file << bytes;
+    file.close();
+    if (file && !bytes.empty()) return;
+    std::error_code ignored;
+    std::filesystem::remove(path, ignored);
+    failToWrite(path);
+}
+
 void requirePngFile(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     std::string begin(signature.size(), '\0');

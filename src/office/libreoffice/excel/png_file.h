@@ -8,6 +8,10 @@ namespace libreoffice::excel {
 /// folder, or if something stands there that can't be replaced.
 void makeWayFor(const std::string& path);
 
+/// Writes a file in the place of an earlier one. `office::Failure` 1004 if it can't be written, or
+/// if there is nothing to write; then there is none of that name.
+void writePictureFile(const std::string& path, const std::string& bytes);
+
 /// `office::Failure` 1004 if there is no PNG file at the path.
 void requirePngFile(const std::string& path);
 

@@ -278,22 +278,45 @@ std::string SuitePictures::svgOfPage(const uno::Reference<css::graphic::XGraphic
                                      const PictureSize& size) {
     const css::awt::Size paper = ScreenSize(size).onPaper();
     layOnPage(graphic, paper);
-    // By way of a file: a stream of the suite's takes three calls more.
-    if (!folder_) folder_ = std::make_unique<PrivateFolder>();
-    const std::string file = folder_->file("picture.svg");
-    // What the exporter returns says nothing, and the last picture must not stand in for this one.
-    std::filesystem::remove(file);
-    as<css::document::XFilter>(page().exporter)
-        ->filter(propertyValues({{"URL", uno::Any(fileUrl(file))},
-                                 {"MediaType", uno::Any(rtl::OUString("image/svg+xml"))}}));
-    std::ifstream svg(file, std::ios::binary);
     constexpr double hundredthsPerMm = 100;
-    return mended({.text = {std::istreambuf_iterator<char>(svg), {}},
+    return mended({.text = written(page().exporter, "image/svg+xml"),
                    .pageWidth = paper.Width,
                    .pageHeight = paper.Height,
                    .widthMm = size.width / hundredthsPerMm,
                    .heightMm = size.height / hundredthsPerMm,
                    .hairline = hundredthMmPerInch / screenDpi / sharpness});
+}
+
+std::string SuitePictures::written(const uno::Reference<css::document::XExporter>& exporter,
+                                   const char* mediaType) {
+    // By way of a file: a stream of the suite's takes three calls more.
+    if (!folder_) folder_ = std::make_unique<PrivateFolder>();
+    const std::string file = folder_->file("vectors");
+    // What the exporter returns says nothing, and the last picture must not stand in for this one.
+    std::filesystem::remove(file);
+    as<css::document::XFilter>(exporter)->filter(
+        propertyValues({{"URL", uno::Any(fileUrl(file))},
+                        {"MediaType", uno::Any(rtl::OUString::createFromAscii(mediaType))}}));
+    std::ifstream vectors(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(vectors), {}};
+}
+
+std::string SuitePictures::emfOfChart(const uno::Reference<css::drawing::XShape>& chart) {
+    // Not the chart's picture on a page, where an EMF loses lines and what shines through.
+    return written(exporterOf(chart), "image/x-emf");
+}
+
+std::string SuitePictures::emfOfMetafile(const uno::Sequence<sal_Int8>& metafile,
+                                         const PictureSize& size) {
+    layOnPage(graphicOf(metafile), {size.width, size.height});
+    constexpr sal_Int32 white = 0xFFFFFF;
+    const auto& shape = page().shapeProperties;
+    shape->setPropertyValue("FillColor", uno::Any(white));
+    shape->setPropertyValue("FillStyle", uno::Any(css::drawing::FillStyle_SOLID));
+    std::string emf = written(exporterOf(page().shape), "image/x-emf");
+    // Charts may let things shine through.
+    shape->setPropertyValue("FillStyle", uno::Any(css::drawing::FillStyle_NONE));
+    return emf;
 }
 
 PictureSize sizeOfMetafile(const uno::Sequence<sal_Int8>& metafile) {

@@ -57,6 +57,11 @@ public:
     [[nodiscard]] std::string svgOfMetafile(const uno::Sequence<sal_Int8>& metafile,
                                             const PictureSize& size);
 
+    /// The same as the bytes of an EMF. A copied picture is on white.
+    [[nodiscard]] std::string emfOfChart(const uno::Reference<css::drawing::XShape>& chart);
+    [[nodiscard]] std::string emfOfMetafile(const uno::Sequence<sal_Int8>& metafile,
+                                            const PictureSize& size);
+
     /// A chart in the suite's own vector format, as a range is copied.
     [[nodiscard]] uno::Sequence<sal_Int8> metafileOf(
         const uno::Reference<css::drawing::XShape>& chart);
@@ -70,6 +75,9 @@ private:
     Page& page();
     void layOnPage(const uno::Reference<css::graphic::XGraphic>& graphic,
                    const css::awt::Size& size);
+    /// A page or a shape as it is.
+    [[nodiscard]] std::string written(const uno::Reference<css::document::XExporter>& exporter,
+                                      const char* mediaType);
     [[nodiscard]] std::string svgOfPage(const uno::Reference<css::graphic::XGraphic>& graphic,
                                         const PictureSize& size);
     void writePage(const uno::Reference<css::graphic::XGraphic>& graphic, const PictureSize& size,

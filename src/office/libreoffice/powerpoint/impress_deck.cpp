@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
 #include <utility>
 
 #include "office/failure.h"
@@ -102,20 +101,6 @@ void ImpressDeck::removeSlide(ImpressSlide& slide) {
 uno::Reference<css::drawing::XShape> ImpressDeck::createShape(const char* service) {
     return {factory_->createInstance(rtl::OUString::createFromAscii(service)),
             uno::UNO_QUERY_THROW};
-}
-
-uno::Reference<css::graphic::XGraphic> ImpressDeck::loadPicture(const std::string& file) {
-    if (!std::filesystem::is_regular_file(file))
-        throw Failure(FailureNumber::FileNotFound, "Shapes.AddPicture",
-                      fmt::format("There is no file \"{}\"", file));
-    if (!pictures_.is())
-        pictures_ = as<css::graphic::XGraphicProvider>(
-            connection().create("com.sun.star.graphic.GraphicProvider"));
-    auto picture = pictures_->queryGraphic(propertyValues({{"URL", uno::Any(fileUrl(file))}}));
-    if (!picture.is())
-        throw Failure(FailureNumber::ApplicationDefined, "Shapes.AddPicture",
-                      fmt::format("\"{}\" holds no picture that LibreOffice reads", file));
-    return picture;
 }
 
 model::Size ImpressDeck::slideSize() {

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <com/sun/star/drawing/XDrawPages.hpp>
-#include <com/sun/star/graphic/XGraphic.hpp>
-#include <com/sun/star/graphic/XGraphicProvider.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/presentation/XPresentation2.hpp>
 
@@ -41,8 +39,6 @@ public:
     void removeSlide(ImpressSlide& slide);
     /// A shape of a service ("com.sun.star.drawing.TextShape"), not on a slide yet.
     [[nodiscard]] uno::Reference<css::drawing::XShape> createShape(const char* service);
-    /// `office::Failure` 53 if there is no such file, 1004 if it holds no picture.
-    [[nodiscard]] uno::Reference<css::graphic::XGraphic> loadPicture(const std::string& file);
     [[nodiscard]] LatePictures& latePictures() { return latePictures_; }
     /// Stops and resumes drawing; counted, so the two must be called in pairs.
     void freeze() { model()->lockControllers(); }
@@ -85,7 +81,6 @@ private:
     Desk& desk_;
     uno::Reference<css::drawing::XDrawPages> pages_;
     uno::Reference<css::lang::XMultiServiceFactory> factory_;
-    uno::Reference<css::graphic::XGraphicProvider> pictures_;
     uno::Reference<css::presentation::XPresentation2> slideShow_;
     LatePictures latePictures_;
     ImpressWindow window_;

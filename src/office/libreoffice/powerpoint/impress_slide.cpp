@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "office/failure.h"
+#include "office/libreoffice/objects/picture_graphic.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/units.h"
 
@@ -26,18 +27,6 @@ std::int32_t counterOf(std::string_view name) {
     std::int32_t number = 0;
     std::from_chars(name.data() + start, name.data() + name.size(), number);
     return number <= highestCounter ? number : 0;
-}
-
-/// A picture's own size on paper; for one that carries none, that of its pixels at 96 to the inch.
-css::awt::Size naturalSize(const uno::Reference<css::graphic::XGraphic>& picture) {
-    constexpr double hundredthMmPerPixel = 2540.0 / 96.0;
-    auto size = property<css::awt::Size>(picture, "Size100thMM");
-    if (size.Width > 0 && size.Height > 0) return size;
-    const auto pixels = property<css::awt::Size>(picture, "SizePixel");
-    const auto onPaper = [](sal_Int32 count) {
-        return static_cast<sal_Int32>(std::lround(count * hundredthMmPerPixel));
-    };
-    return {onPaper(pixels.Width), onPaper(pixels.Height)};
 }
 
 }  // namespace
@@ -124,12 +113,11 @@ ImpressShapePtr ImpressSlide::add(const char* service) {
 model::DeckShapePtr ImpressSlide::addPicture(const std::string& file, const model::Point& corner) {
     if (const auto onItsWay = deck_.latePictures().take(file))
         return addPicture(*onItsWay, {onItsWay->widthPt, onItsWay->heightPt}, corner);
-    const auto picture = deck_.loadPicture(file);
-    const css::awt::Size size = naturalSize(picture);
+    const FilePicture picture = pictureOfFile(deck_.connection(), file);
     const std::string name = freshName("Picture");
     auto shape = add("com.sun.star.drawing.GraphicObjectShape");
-    shape->set({{"Graphic", uno::Any(picture)}, {"Name", uno::Any(toUno(name))}});
-    shape->reference()->setSize(size);
+    shape->set({{"Graphic", uno::Any(picture.graphic)}, {"Name", uno::Any(toUno(name))}});
+    shape->reference()->setSize(picture.size);
     shape->moveTo(corner);
     shape->setKeepsProportions(true);
     return shape;

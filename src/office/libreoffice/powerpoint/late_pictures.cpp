@@ -5,7 +5,7 @@
 
 #include "office/failure.h"
 #include "office/libreoffice/guard.h"
-#include "office/libreoffice/objects/png_graphic.h"
+#include "office/libreoffice/objects/picture_graphic.h"
 
 namespace libreoffice::powerpoint {
 
@@ -16,7 +16,7 @@ constexpr const char* source = "Shapes.AddPicture";
 void show(const Connection& connection, const uno::Reference<css::beans::XPropertySet>& shape,
           const std::string& png) {
     try {
-        const auto graphic = graphicOfPng(connection, png);
+        const auto graphic = graphicOf(connection, png);
         if (!graphic.is())
             throw office::Failure(office::FailureNumber::ApplicationDefined, source,
                                   "LibreOffice could not read the picture");

@@ -10,7 +10,7 @@
 
 #include "office/failure.h"
 #include "office/libreoffice/objects/copied_object.h"
-#include "office/libreoffice/objects/png_graphic.h"
+#include "office/libreoffice/objects/picture_graphic.h"
 #include "office/libreoffice/units.h"
 #include "office/libreoffice/word/undo_group.h"
 #include "office/libreoffice/word/writer_document.h"
@@ -44,16 +44,20 @@ uno::Reference<css::graphic::XGraphic> pictureOf(const office::Copied& copied, P
     uno::Reference<css::graphic::XGraphic> picture;
     const auto* here = dynamic_cast<const excel::CopiedHere*>(&copied);
     if (here != nullptr && as != PasteAs::Png) picture = here->graphic();
-    if (!picture.is()) picture = graphicOfPng(connection, copied.png());
+    if (!picture.is()) picture = graphicOf(connection, copied.png());
     if (!picture.is()) fail("LibreOffice could not read the picture");
     return picture;
+}
+
+css::awt::Size sizeOf(const office::Copied& copied) {
+    return {hundredthMmOf(copied.widthPt()), hundredthMmOf(copied.heightPt())};
 }
 
 /// A picture or an embedded object that is to stand in a text. It goes with this object unless it
 /// is taken over.
 class NewContent {
 public:
-    NewContent(const WriterDocument& document, const char* service, const office::Copied& copied,
+    NewContent(const WriterDocument& document, const char* service, const css::awt::Size& size,
                model::Anchoring anchoring);
     NewContent(const NewContent&) = delete;
     NewContent& operator=(const NewContent&) = delete;
@@ -76,9 +80,9 @@ private:
 };
 
 NewContent::NewContent(const WriterDocument& document, const char* service,
-                       const office::Copied& copied, model::Anchoring anchoring)
+                       const css::awt::Size& size, model::Anchoring anchoring)
     : content_(as<css::text::XTextContent>(document.createInstance(service))) {
-    set("Size", css::awt::Size(hundredthMmOf(copied.widthPt()), hundredthMmOf(copied.heightPt())));
+    set("Size", size);
     if (anchoring == model::Anchoring::Inline) {
         set("AnchorType", css::text::TextContentAnchorType_AS_CHARACTER);
         return;
@@ -113,6 +117,24 @@ model::TextObjectPtr WriterDocument::pasted() {
     return pasted_.is() ? objects().recordOf(pasted_) : nullptr;
 }
 
+void WriterDocument::insertGraphic(const uno::Reference<css::graphic::XGraphic>& graphic,
+                                   const css::awt::Size& size, model::Anchoring anchoring) {
+    NewContent made(*this, "com.sun.star.text.TextGraphicObject", size, anchoring);
+    made.set("Graphic", graphic);
+    made.insertAt(caret_.range()->getStart());
+    insertObject(made.content());
+    made.keep();
+}
+
+void WriterDocument::addPicture(const std::string& file) {
+    requireWritable(caret_.range(), "InlineShapes.AddPicture");
+    if (desk_.drawingRoom) desk_.drawingRoom->complete(file);
+    const FilePicture picture = pictureOfFile(desk_.connection(), file);
+    pasted_.clear();
+    const UndoGroup group(steps_, "Picture");
+    insertGraphic(picture.graphic, picture.size, model::Anchoring::Inline);
+}
+
 void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anchoring anchoring) {
     requireWritable(caret_.range(), member);
     const bool isPicture = copied.source().kind == CopySource::Kind::Picture;
@@ -121,11 +143,7 @@ void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anch
     pasted_.clear();
     const UndoGroup group(steps_, "Paste");
     if (as == PasteAs::Png || as == PasteAs::Metafile || (isPicture && as == PasteAs::Default)) {
-        NewContent made(*this, "com.sun.star.text.TextGraphicObject", copied, anchoring);
-        made.set("Graphic", pictureOf(copied, as, connection));
-        made.insertAt(caret_.range()->getStart());
-        insertObject(made.content());
-        made.keep();
+        insertGraphic(pictureOf(copied, as, connection), sizeOf(copied), anchoring);
         return;
     }
     if (as == PasteAs::Default && copied.source().kind == CopySource::Kind::Cells) {
@@ -140,7 +158,7 @@ void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anch
     } else {
         objects::storeChart(object, dynamic_cast<const excel::CopiedChart&>(here));
     }
-    NewContent made(*this, "com.sun.star.text.TextEmbeddedObject", copied, anchoring);
+    NewContent made(*this, "com.sun.star.text.TextEmbeddedObject", sizeOf(copied), anchoring);
     made.set("StreamName", object.name());
     made.insertAt(caret_.range()->getStart());
     if (as == PasteAs::Embedded) {

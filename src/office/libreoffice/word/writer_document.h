@@ -1,7 +1,9 @@
 #pragma once
 
+#include <com/sun/star/awt/Size.hpp>
 #include <com/sun/star/document/XUndoManager.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/graphic/XGraphic.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/text/XText.hpp>
 
@@ -52,6 +54,7 @@ public:
     void setPage(const model::Page& page) override;
     void paste(const office::Copied& copied, office::PasteAs as,
                model::Anchoring anchoring) override;
+    void addPicture(const std::string& file) override;
     void insertCaption(const model::Caption& caption) override;
 
     std::int32_t objectCount(model::Anchoring anchoring) override;
@@ -73,6 +76,8 @@ private:
     void removeSelected();
     void insertTable(const office::TableLook& table);
     void insertObject(const ContentRef& object);
+    void insertGraphic(const uno::Reference<css::graphic::XGraphic>& graphic,
+                       const css::awt::Size& size, model::Anchoring anchoring);
     [[nodiscard]] uno::Reference<css::beans::XPropertySet> pageStyle();
     [[nodiscard]] WriterObjects& objects();
     /// Fields follow a change at the next pause of the suite only, those of some files not at all.

@@ -41,8 +41,8 @@ public:
 
     virtual Clipboard& clipboard() = 0;
     /// Writes a picture as `SheetChart::writePicture` does; none gives a white area.
-    virtual void writePicture(const CopiedPtr& picture, const Box& area,
-                              const std::string& path) = 0;
+    virtual void writePicture(const CopiedPtr& picture, const Box& area, const std::string& path,
+                              PictureKind kind) = 0;
 };
 
 using BooksPtr = std::shared_ptr<Books>;

@@ -20,8 +20,8 @@ public:
     std::string name() override { return "Picture"; }
     Box box() override { return box_; }
     CopiedPtr copy(CopySource) override { return picture_; }
-    void writePicture(const std::string& path) override {
-        books_->writePicture(picture_, box_, path);
+    void writePicture(const std::string& path, PictureKind kind) override {
+        books_->writePicture(picture_, box_, path, kind);
     }
     void paste(const CopiedPtr& picture) override { picture_ = picture; }
     void select() override {}
@@ -146,7 +146,7 @@ public:
                           [](Self& self) { return chartAreaObject(self.home(), self.chartPtr()); })
                 .method("Export", {"Filename", "FilterName", "Interactive"},
                         [](Self& self, const CallArguments& arguments) {
-                            self.chart().writePicture(exportPath(arguments));
+                            exportPicture(self.chart(), arguments);
                         })
                 .method("CopyPicture", {"Appearance", "Format", "Size"}, &Self::copyPicture)
                 .method("Paste", {"Type"},
@@ -258,13 +258,16 @@ CopySource sourceOf(const InSheet& home, CopySource::Kind kind) {
             .address = {}};
 }
 
-std::string exportPath(const CallArguments& arguments) {
-    const std::string format = arguments.at(1, "PNG").toText();
-    if (!sameIgnoringCase(format, "PNG")) {
-        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                      fmt::format("A chart can't be exported as \"{}\", only as PNG", format));
-    }
-    return arguments.at(0).toText();
+void exportPicture(SheetChart& chart, const CallArguments& arguments) {
+    const std::string path = arguments.at(0).toText();
+    const std::string filter = arguments.at(1, "").toText();
+    auto kind = pictureKindCalled(filter);
+    if (!kind && !filter.empty())
+        throw Failure(
+            FailureNumber::InvalidProcedureCall, arguments.source(),
+            fmt::format("A chart can't be exported as \"{}\", only as PNG, SVG or EMF", filter));
+    if (!kind) kind = pictureKindCalled(path.substr(path.rfind('.') + 1));
+    chart.writePicture(path, kind.value_or(PictureKind::Png));
 }
 
 }  // namespace office::model::excel

@@ -76,8 +76,9 @@ void activateSheet(const InSheet& home, const std::string& source);
 [[nodiscard]] Object chartAreaObject(const InSheet& home, const SheetChartPtr& chart);
 /// Where a sheet's things are copied from, with the chart or the cells left open.
 [[nodiscard]] CopySource sourceOf(const InSheet& home, CopySource::Kind kind);
-/// The file that an `Export` asks for. `Failure` 5 for a format other than PNG.
-[[nodiscard]] std::string exportPath(const CallArguments& arguments);
+/// Has a chart written as an `Export` asks for it: to a file, in the kind that the filter names or,
+/// without one, the end of the file's name. `Failure` 5 for a filter that there isn't.
+void exportPicture(SheetChart& chart, const CallArguments& arguments);
 
 /// What a range counts and steps by: `Rows` and `Columns` give ranges of their own kind.
 enum class RangeUnit { Cells, Rows, Columns };

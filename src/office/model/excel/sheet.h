@@ -9,6 +9,7 @@
 
 #include "office/model/excel/cells.h"
 #include "office/model/part.h"
+#include "office/picture_kind.h"
 
 namespace office::model::excel {
 
@@ -21,9 +22,10 @@ public:
     virtual Box box() = 0;
     /// The chart, or a picture of it as it looks now.
     virtual CopiedPtr copy(CopySource source) = 0;
-    /// Writes a PNG file with 288 dots to the inch and its true size, which may still be on its way
-    /// (`PictureFiles`). `Failure` 1004 if it can't be written; then there is no file of that name.
-    virtual void writePicture(const std::string& path) = 0;
+    /// Writes a file with its true size: a PNG with 288 dots to the inch, which may still be on its
+    /// way (`PictureFiles`), or vectors. `Failure` 1004 if it can't be written; then there is no
+    /// file of that name.
+    virtual void writePicture(const std::string& path, PictureKind kind) = 0;
     /// Takes a picture in. `Failure` 1004 from a chart that has data of its own.
     virtual void paste(const CopiedPtr& picture) = 0;
     /// Selects it on its sheet, which is the one on top.

@@ -155,8 +155,7 @@ public:
                           [](Self& self) { return chartAreaObject(self.home(), nullptr); })
                 .method("Export", {"Filename", "FilterName", "Interactive"},
                         [](Self& self, const CallArguments& arguments) {
-                            const std::string path = exportPath(arguments);
-                            self.sheet().ownChart()->writePicture(path);
+                            exportPicture(*self.sheet().ownChart(), arguments);
                         })
                 .method("CopyPicture", {"Appearance", "Format", "Size"}, [](Self& self) {
                     self.books().clipboard().copied = self.sheet().ownChart()->copy(

@@ -170,7 +170,7 @@ public:
     }
 };
 
-/// What a selection holds of them: the one that has just been pasted.
+/// What a selection holds of them: the one that has just been put in.
 class SelectedInlineShapes : public DocumentObject<SelectedInlineShapes> {
 public:
     using DocumentObject::DocumentObject;
@@ -179,16 +179,28 @@ public:
         static const auto all =
             MemberTable<Self>("InlineShapes")
                 .property("Count", [](Self& self) { return self.pasted() ? 1 : 0; })
-                .property("Item", {"Index"}, [](Self& self, const CallArguments& arguments) {
-                    const std::int32_t place = arguments.at(0).toLong();
-                    const auto object = self.pasted();
-                    if (!object || place != 1) ItemIndex(place, arguments.source()).fail();
-                    return makeObject<InlineShape>(self.home(), object);
-                });
+                .property("Item", {"Index"},
+                          [](Self& self, const CallArguments& arguments) {
+                              const std::int32_t place = arguments.at(0).toLong();
+                              const auto object = self.pasted();
+                              if (!object || place != 1)
+                                  ItemIndex(place, arguments.source()).fail();
+                              return makeObject<InlineShape>(self.home(), object);
+                          })
+                .method("AddPicture", {"FileName", "LinkToFile", "SaveWithDocument"},
+                        &Self::addPicture);
         return all;
     }
 
 private:
+    /// In the place of what is selected.
+    Object addPicture(const CallArguments& arguments) {
+        if (arguments.at(1, false).toBool())
+            throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
+                          "A picture can't be linked here");
+        document().addPicture(arguments.at(0).toText());
+        return makeObject<InlineShape>(home(), pasted());
+    }
     [[nodiscard]] TextObjectPtr pasted() const {
         auto object = document().pasted();
         return object && object->anchoring() == Anchoring::Inline ? object : nullptr;

@@ -131,6 +131,9 @@ public:
     /// makes a chart or a table that can be edited, of a picture a picture. `Failure` 1004 if it
     /// can't be had in this form; then nothing is put there.
     virtual void paste(const Copied& copied, PasteAs as, Anchoring anchoring) = 0;
+    /// Does the same in a line with the picture of a file, in the size that the file says.
+    /// `Failure` 53 if there is no such file, 1004 if it holds no picture.
+    virtual void addPicture(const std::string& file) = 0;
     /// The object that the last paste made; null if it made a table, or if the object has gone.
     virtual TextObjectPtr pasted() = 0;
     /// A paragraph of its own below the one with the caret, which goes to its end.

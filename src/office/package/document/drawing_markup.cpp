@@ -51,14 +51,14 @@ std::string drawingRun(word::Anchoring anchoring, unsigned id, std::string_view 
 }
 
 std::string pictureGraphic(unsigned id, std::string_view name, const word::ObjectSize& size,
-                           const std::string& relationship) {
+                           const std::string& blip) {
     return fmt::format(
         R"(<a:graphic><a:graphicData uri="{}"><pic:pic><pic:nvPicPr><pic:cNvPr id="{}" name="{}"/>)"
         R"(<pic:cNvPicPr><a:picLocks noChangeAspect="1"/></pic:cNvPicPr></pic:nvPicPr><pic:blipFill>)"
-        R"(<a:blip r:embed="{}"/><a:stretch><a:fillRect/></a:stretch></pic:blipFill><pic:spPr>)"
+        R"({}<a:stretch><a:fillRect/></a:stretch></pic:blipFill><pic:spPr>)"
         R"(<a:xfrm><a:off x="0" y="0"/><a:ext cx="{}" cy="{}"/></a:xfrm><a:prstGeom prst="rect">)"
         R"(<a:avLst/></a:prstGeom></pic:spPr></pic:pic></a:graphicData></a:graphic>)",
-        ns::picture, id, name, relationship, emuOf(size.width), emuOf(size.height));
+        ns::picture, id, name, blip, emuOf(size.width), emuOf(size.height));
 }
 
 std::string chartGraphic(const std::string& relationship) {

@@ -12,10 +12,10 @@ namespace office::package {
                                      std::string_view name,
                                      const office::model::word::ObjectSize& size,
                                      const std::string& graphic);
-/// The graphic of a picture, which a relationship of the document leads to.
+/// The graphic of a picture. `blip` is a:blip, which leads to its part.
 [[nodiscard]] std::string pictureGraphic(unsigned id, std::string_view name,
                                          const office::model::word::ObjectSize& size,
-                                         const std::string& relationship);
+                                         const std::string& blip);
 
 /// The graphic of a chart in a part of its own.
 [[nodiscard]] std::string chartGraphic(const std::string& relationship);

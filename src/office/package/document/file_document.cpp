@@ -322,6 +322,12 @@ void FileDocument::paste(const Copied& copied, PasteAs as, word::Anchoring ancho
     pasteInto(*this, copied, as, anchoring);
 }
 
+void FileDocument::addPicture(const std::string& file) {
+    selected_.reset();
+    pasted_.reset();
+    addPictureTo(*this, file);
+}
+
 void FileDocument::insertCaption(const word::Caption& caption) {
     touch();
     selected_.reset();

@@ -77,6 +77,7 @@ public:
     word::Page page() override;
     void setPage(const word::Page& page) override;
     void paste(const Copied& copied, PasteAs as, word::Anchoring anchoring) override;
+    void addPicture(const std::string& file) override;
     void insertCaption(const word::Caption& caption) override;
     std::int32_t objectCount(word::Anchoring anchoring) override;
     word::TextObjectPtr objectAt(word::Anchoring anchoring, std::int32_t place) override;

@@ -32,12 +32,14 @@ Media addMedia(FileDocument& document, const Copied& copied) {
     return {package.relationshipsOf(document.mainPart()).add("image", part), size};
 }
 
-void pastePicture(FileDocument& document, const Copied& copied, word::Anchoring anchoring) {
-    const Media media = addMedia(document, copied);
+void insertPicture(FileDocument& document, PictureFile picture, word::Anchoring anchoring) {
+    const word::ObjectSize size{picture.size.width, picture.size.height};
+    const std::string blip = addBlip(document.package(), document.mainPart(),
+                                     document.stem("media/image"), std::move(picture));
     const unsigned id = document.freeDrawingId();
     const std::string name = fmt::format("Picture {}", id);
-    document.insertObject(drawingRun(anchoring, id, name, media.size,
-                                     pictureGraphic(id, name, media.size, media.relationship)));
+    document.insertObject(
+        drawingRun(anchoring, id, name, size, pictureGraphic(id, name, size, blip)));
 }
 
 /// False for one that goes as a picture.
@@ -103,7 +105,12 @@ void pasteInto(FileDocument& document, const Copied& copied, PasteAs as,
         office::model::refuse(pasteSpecial,
                               "A picture leads to no file that it could be linked to");
     }
-    pastePicture(document, copied, anchoring);
+    insertPicture(document, pictureOf(copied), anchoring);
+}
+
+void addPictureTo(FileDocument& document, const std::string& file) {
+    insertPicture(document, readPicture(file, document.rules().pictures.get()),
+                  word::Anchoring::Inline);
 }
 
 }  // namespace office::package

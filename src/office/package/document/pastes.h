@@ -9,4 +9,7 @@ namespace office::package {
 /// can't be had in this form; then nothing is put there.
 void pasteInto(FileDocument& document, const Copied& copied, PasteAs as, word::Anchoring anchoring);
 
+/// Does the same with the picture of a file, in a line. `Failure` as `readPicture` has it.
+void addPictureTo(FileDocument& document, const std::string& file);
+
 }  // namespace office::package

@@ -1,5 +1,7 @@
 #include "office/package/drawing/picture_file.h"
 
+#include <fmt/format.h>
+
 #include <cmath>
 #include <cstdint>
 #include <filesystem>
@@ -60,7 +62,7 @@ office::model::powerpoint::Size sizeOfPng(std::string_view bytes) {
 }
 
 PictureFile pngFile(Picture picture, const office::model::powerpoint::Size& size) {
-    return {std::move(picture.png), std::move(picture.look), ".png", "image/png", size};
+    return {std::move(picture.png), {}, std::move(picture.look), ".png", "image/png", size};
 }
 
 PictureFile pngFile(Picture picture) {
@@ -68,16 +70,32 @@ PictureFile pngFile(Picture picture) {
     return pngFile(std::move(picture), size);
 }
 
+/// An EMF as it is; an SVG with a picture for programs that don't read it.
+PictureFile vectorPicture(VectorFile vectors, PictureFiles* pictures) {
+    const office::model::powerpoint::Size size{vectors.widthPt, vectors.heightPt};
+    if (vectors.kind == PictureKind::Emf) {
+        Picture emf = finishedPicture(size.width, size.height, std::move(vectors.bytes));
+        return {std::move(emf.png), {}, {}, ".emf", "image/x-emf", size};
+    }
+    if (pictures == nullptr)
+        throw Failure(FailureNumber::ApplicationDefined, source, "No SVG can be drawn here");
+    PictureFile picture = pngFile(pictures->draw(vectors), size);
+    picture.svg = std::move(vectors.bytes);
+    return picture;
+}
+
 }  // namespace
 
-PictureFile readPicture(const std::string& file, PictureFiles* onTheirWay) {
-    if (onTheirWay != nullptr) {
-        if (auto picture = onTheirWay->take(file)) return pngFile(std::move(*picture));
+PictureFile readPicture(const std::string& file, PictureFiles* pictures) {
+    if (pictures != nullptr) {
+        if (auto picture = pictures->take(file)) return pngFile(std::move(*picture));
     }
     std::ifstream stream(std::filesystem::path(std::u8string(file.begin(), file.end())),
                          std::ios::binary);
     if (!stream) throw Failure(FailureNumber::FileNotFound, source, "There is no file " + file);
     std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+    if (looksLikeVectors(bytes))
+        return vectorPicture(vectorFileOf(std::move(bytes), file), pictures);
     constexpr std::size_t headSize = 33;
     office::model::powerpoint::Size size;
     if (bytes.size() >= headSize && bytes.starts_with(signature)) size = sizeOfPng(bytes);
@@ -91,10 +109,30 @@ PictureFile pictureOf(const Copied& copied) {
 }
 
 std::string addPicturePart(Package& package, std::string_view stem, PictureFile picture) {
-    if (picture.look.empty())
-        return package.addMedia(stem, picture.ending, picture.contentType, picture.bytes.get());
+    if (picture.look.empty()) {
+        const Storage storage = picture.ending == ".png" ? Storage::Stored : Storage::Deflated;
+        return package.addMedia(stem, picture.ending, picture.contentType, picture.bytes.get(),
+                                storage);
+    }
     return package.addMedia(stem, picture.ending, picture.contentType, std::move(picture.bytes),
                             picture.look);
+}
+
+std::string addBlip(Package& package, const std::string& owner, const std::string& stem,
+                    PictureFile picture) {
+    Relationships& relationships = package.relationshipsOf(owner);
+    std::string svg = std::move(picture.svg);
+    const std::string image =
+        relationships.add("image", addPicturePart(package, stem, std::move(picture)));
+    if (svg.empty()) return fmt::format(R"(<a:blip r:embed="{}"/>)", image);
+    const std::string vectors = relationships.add(
+        "image",
+        package.addMedia(stem, ".svg", "image/svg+xml", std::move(svg), Storage::Deflated));
+    return fmt::format(
+        R"(<a:blip r:embed="{}"><a:extLst><a:ext uri="{{96DAC541-7B7A-43D3-8B79-37D633B846F1}}">)"
+        R"(<asvg:svgBlip xmlns:asvg="http://schemas.microsoft.com/office/drawing/2016/SVG/main" )"
+        R"(r:embed="{}"/></a:ext></a:extLst></a:blip>)",
+        image, vectors);
 }
 
 }  // namespace office::package

@@ -227,16 +227,14 @@ model::DeckShapePtr FileSlide::addPicture(const std::string& file, const model::
 
 FileShapePtr FileSlide::addPicture(PictureFile picture, const model::Point& corner) {
     const model::Size size = picture.size;
-    const std::string media =
-        addPicturePart(deck_.package(), deck_.mediaStem(), std::move(picture));
-    const std::string relationship = deck_.package().relationshipsOf(part_).add("image", media);
+    const std::string blip = addBlip(deck_.package(), part_, deck_.mediaStem(), std::move(picture));
     return addShape(
         "Picture",
         fmt::format(R"(<p:pic><p:nvPicPr><p:cNvPr/><p:cNvPicPr><a:picLocks noChangeAspect="1"/>)"
-                    R"(</p:cNvPicPr><p:nvPr/></p:nvPicPr><p:blipFill><a:blip r:embed="{}"/>)"
+                    R"(</p:cNvPicPr><p:nvPr/></p:nvPicPr><p:blipFill>{})"
                     R"(<a:stretch><a:fillRect/></a:stretch></p:blipFill><p:spPr>{})"
                     R"(<a:prstGeom prst="rect"><a:avLst/></a:prstGeom></p:spPr></p:pic>)",
-                    relationship, boxMarkup(corner, size)));
+                    blip, boxMarkup(corner, size)));
 }
 
 model::DeckShapePtr FileSlide::addLabel(const model::Point& corner, const model::Size& size) {
