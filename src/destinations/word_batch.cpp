@@ -1,10 +1,13 @@
 #include "destinations/word_batch.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <optional>
 #include <string_view>
 
 #include "catalogue/row_copies.h"
+#include "catalogue/row_pictures.h"
 #include "office/failure_patterns.h"
 #include "session/waits.h"
 
@@ -39,6 +42,10 @@ private:
     [[nodiscard]] bool floats() const {
         return format_ == ExportFormat::Embedded || format_ == ExportFormat::Linked;
     }
+    /// Word makes what it likes of a copy: pictures of another kind come as files.
+    [[nodiscard]] bool takesFiles() const {
+        return format_ == ExportFormat::Pictures && session_.Pictures != office::PictureKind::Png;
+    }
     void copy(const ExportItem& row);
     void InsertPageBreakBlock();
     void paste();
@@ -54,6 +61,8 @@ private:
     Object document_;
     Object selection_;
     std::optional<Sides> textArea_;
+    /// The picture of the row at hand.
+    std::string file_;
     bool hasText_ = false;
     /// A page has been begun, and nothing has come to it.
     bool pageIsFresh_ = false;
@@ -85,7 +94,12 @@ void WordBatch::exportRow(const ExportItem& row) {
 
 void WordBatch::copy(const ExportItem& row) {
     constexpr std::uint32_t arrivedMs = 250;
-    if (format_ == ExportFormat::Pictures) {
+    if (takesFiles()) {
+        file_ = catalogue::TemporaryPictureOf(session_, row);
+        if (!catalogue::ExportRowPicture(session_, row, file_))
+            throw office::Failure(office::FailureNumber::ApplicationDefined, "Range",
+                                  fmt::format("Named range '{}' not found.", row.name));
+    } else if (format_ == ExportFormat::Pictures) {
         catalogue::CopyRowAsPicture(session_, row);
     } else {
         catalogue::CopyRow(session_, row);
@@ -125,7 +139,10 @@ bool WordBatch::hasText() {
 void WordBatch::paste() {
     constexpr std::int32_t oleObject = 0;
     constexpr std::int32_t overTheText = 1;
-    if (format_ == ExportFormat::Pictures) {
+    if (takesFiles()) {
+        selection_.get("InlineShapes").call("AddPicture", file_, false, true);
+        office::ContinueOnFailure().attempt([&] { session_.host.deleteFile(file_); });
+    } else if (format_ == ExportFormat::Pictures) {
         selection_.call("Paste");
     } else if (format_ == ExportFormat::Editable) {
         selection_.call("PasteSpecial");

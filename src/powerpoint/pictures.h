@@ -4,7 +4,7 @@
 
 #include "powerpoint/batch_frame.h"
 
-/// The picture route: each object is exported by Excel to a PNG file in the temporary folder,
+/// The picture route: each object is exported by Excel to a file in the temporary folder,
 /// inserted into the session's presentation, and the file is deleted.
 namespace powerpoint {
 

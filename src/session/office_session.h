@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "office/picture_kind.h"
 #include "office/suite.h"
 #include "session/host.h"
 #include "session/notices.h"
@@ -33,6 +34,8 @@ struct OfficeSession {
     office::Object WordApp;
     office::Object SessionDocument;
     std::string ActiveSheetName;
+    /// What items that go as pictures become on slides and in documents.
+    office::PictureKind Pictures = office::PictureKind::Png;
     bool PowerPointFound = false;
     bool MainFormOpen = false;
     bool MainFormStarted = false;

@@ -4,7 +4,8 @@ import json
 import subprocess
 import unittest
 
-from program import SAMPLES, ProgramTest, colours_of, png_size, slides_of
+from program import SAMPLES, Package, ProgramTest, colours_of, png_size, slides_of
+from validator import faults
 
 BOOK = SAMPLES / "Harbour Logistics 2026.xlsx"
 DECK = SAMPLES / "Board deck.pptx"
@@ -98,6 +99,27 @@ class TheSampleWorkbook(ProgramTest):
         text = subprocess.run(["pdftotext", str(self.folder / "Result.pdf"), "-"], check=True, capture_output=True,
                               text=True).stdout
         self.assertEqual(text.count("\f"), len(slides))
+
+    def test_goes_in_vectors_to_where_its_pictures_stand(self):
+        kinds = {item["kind"]: f'{item["name"]}@{item["sheet"]}' for item in self.items() if item["checked"]}
+        self.assertEqual(len(kinds), 3, "a chart, a chart sheet and a range")
+        chosen = [part for name in kinds.values() for part in ("--items", name)]
+        plain = self.export(*chosen)[SLIDES_OF_DECK:]
+        for kind, sign in (("svg", b"<svg"), ("emf", b" EMF")):
+            document = self.folder / "Result.docx"
+            slides = self.export(*chosen, "--overwrite", "--pictures", kind, "--to", "slides", "--to", "word",
+                                 "--output", document)[SLIDES_OF_DECK:]
+            for slide, before in zip(slides, plain, strict=True):
+                (picture,), (was,) = slide.pictures, before.pictures
+                for side in ("left", "top", "width", "height"):
+                    self.assertAlmostEqual(picture[side], was[side], delta=0.6)
+            self.assertEqual(faults(document), [])
+            for package in (Package(self.folder / "Result.pptx"), Package(document)):
+                vectors = [package.file.read(name) for name in package.file.namelist() if name.endswith("." + kind)]
+                self.assertEqual(len(vectors), len(kinds))
+                for one in vectors:
+                    self.assertIn(sign, one[:200])
+                    self.assertNotIn(b"DOCTYPE", one)
 
 
 if __name__ == "__main__":

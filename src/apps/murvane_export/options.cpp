@@ -105,6 +105,7 @@ struct RawTexts {
     std::string fileNames = "name";
     std::string slides = "new";
     std::string format = "pictures";
+    std::string pictures;
     std::string links;
     std::string style = "none";
     std::string top;
@@ -173,6 +174,13 @@ void declareLooks(CLI::App& app, Options& options, RawTexts& raw) {
                    "be edited there; embedded workbooks; objects linked to the workbook's file")
         ->check(oneOf(namesOf(formatsByName())))
         ->type_name("pictures|editable|embedded|linked");
+    app.add_option(
+           "--pictures", raw.pictures,
+           "Slides and Word: what pictures are made of. png: dots, three times as dense as a\n"
+           "screen; svg: vectors, crisp at any size and with text that is text, and a PNG\n"
+           "for programs that read none; emf: the vectors of Windows")
+        ->check(oneOf({"png", "svg", "emf"}))
+        ->type_name("png|svg|emf");
     app.add_flag("--embed-only-sheet", options.embedsSheetAlone,
                  "With --format embedded: hand on the item's sheet alone, with values in place of\n"
                  "references to the rest of the workbook");
@@ -288,6 +296,7 @@ void finish(Options& options, const RawTexts& raw) {
     options.imageFormat = imageFormatsByName().at(raw.imageFormat);
     options.numbersFiles = raw.fileNames == "number";
     options.format = formatsByName().at(raw.format);
+    options.pictures = office::pictureKindCalled(raw.pictures).value_or(office::PictureKind::Png);
     options.linksAreRelative = raw.links == "relative";
     options.predefinedSlides = raw.slides == "predefined";
     options.pictureStyle = stylesByName().at(raw.style);
@@ -305,6 +314,7 @@ void finish(Options& options, const RawTexts& raw) {
     };
     requireFormat(options.embedsSheetAlone, "--embed-only-sheet", "embedded");
     requireFormat(!raw.links.empty(), "--links", "linked");
+    requireFormat(!raw.pictures.empty(), "--pictures", "pictures");
     if (options.json && options.task != Task::List) throw UsageError("--json goes with --list.");
     if (options.allItems && !options.items.empty()) {
         throw UsageError("--all and --items don't go together.");
@@ -328,7 +338,7 @@ void requireDestinations(const CLI::App& app, const Options& options) {
         {"--cover", {"pdf"}},         {"--captions-below", {"word"}},
         {"--blank-lines", {"html"}},  {"--image-format", {"images"}},
         {"--file-names", {"images"}}, {"--same-width", {"word", "html"}},
-        {"--size", {"pdf", "html"}},
+        {"--size", {"pdf", "html"}},  {"--pictures", {"slides", "word"}},
     };
     for (const auto& [option, names] : known) {
         const bool isHeeded = std::any_of(names.begin(), names.end(), [&](const char* name) {

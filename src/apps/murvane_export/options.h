@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "catalogue/export_list.h"
+#include "office/picture_kind.h"
 #include "session/host.h"
 
 namespace unattended {
@@ -49,6 +50,7 @@ struct Options {
     std::string captionsFile;
 
     catalogue::ExportFormat format = catalogue::ExportFormat::Pictures;
+    office::PictureKind pictures = office::PictureKind::Png;
     /// Embedded workbooks hold the item's sheet and nothing else.
     bool embedsSheetAlone = false;
     /// Links name the workbook by its way from the output's folder.

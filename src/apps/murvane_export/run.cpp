@@ -175,6 +175,7 @@ int Run::perform() {
 
 void Run::openDocuments() {
     line_.show("Opening the documents");
+    session_.Pictures = options_.pictures;
     if (options_.attach) {
         takeActiveDocuments(session_, options_);
         for (const auto& output : order_.outputs) {

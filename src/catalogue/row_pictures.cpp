@@ -1,0 +1,91 @@
+#include "catalogue/row_pictures.h"
+
+#include <fmt/format.h>
+
+#include "catalogue/row_objects.h"
+#include "office/failure_patterns.h"
+#include "session/file_names.h"
+
+namespace catalogue {
+
+namespace {
+
+using office::arg;
+using office::Object;
+using session::OfficeSession;
+
+const char* filterOf(office::PictureKind kind) {
+    switch (kind) {
+        case office::PictureKind::Svg:
+            return "SVG";
+        case office::PictureKind::Emf:
+            return "EMF";
+        default:
+            return "PNG";
+    }
+}
+
+/// By way of a chart on the sheet: a range has no export of its own. The chart goes again, whatever
+/// happens.
+void exportRange(const Object& range, const std::string& file, const char* filter) {
+    constexpr std::int32_t asOnScreen = 1;
+    constexpr std::int32_t pictureFormat = -4147;
+
+    const Object sheet = range.get("Worksheet").toObject();
+    range.call("CopyPicture", arg("Appearance", asOnScreen), arg("Format", pictureFormat));
+    const Object holder =
+        sheet.call("ChartObjects")
+            .call("Add", 0, 0, range.get("Width").toDouble(), range.get("Height").toDouble())
+            .toObject();
+    office::ContinueOnFailure scope;
+    const bool isMade = scope.attempt([&] {
+        holder.call("Activate");
+        const Object chart = holder.get("Chart").toObject();
+        chart.call("Paste");
+        chart.call("Export", file, filter);
+    });
+    if (isMade) {
+        holder.call("Delete");
+        return;
+    }
+    const office::Failure failure = *scope.lastFailure();
+    scope.attempt([&] { holder.call("Delete"); });
+    throw office::Failure(failure);
+}
+
+void exportChart(const Object& chart, const std::string& file, const char* filter) {
+    chart.call("Export", arg("Filename", file), arg("FilterName", filter));
+}
+
+}  // namespace
+
+std::string TemporaryPictureOf(OfficeSession& session, const ExportItem& row) {
+    const bool isRange = !row.isChartSheet() && !row.isEmbeddedChart();
+    return session.host.temporaryFile(
+        fmt::format("{}_{}{}", isRange ? "Range" : "EmbeddedChart",
+                    session::safeFileName(row.isChartSheet() ? "" : row.name),
+                    office::endingOf(session.Pictures)));
+}
+
+bool ExportRowPicture(OfficeSession& session, const ExportItem& row, const std::string& file) {
+    const char* const filter = filterOf(session.Pictures);
+    if (row.isChartSheet()) {
+        exportChart(session.ActiveBook.get("Charts").get("Item", row.sheet).toObject(), file,
+                    filter);
+    } else if (row.isEmbeddedChart()) {
+        exportChart(session.ActiveBook.get("Sheets")
+                        .get("Item", row.sheet)
+                        .call("ChartObjects")
+                        .get("Item", row.name)
+                        .get("Chart")
+                        .toObject(),
+                    file, filter);
+    } else {
+        const Object range = rangeOf(session, row);
+        if (!range) return false;
+        exportRange(range, file, filter);
+    }
+    return true;
+}
+
+}  // namespace catalogue
