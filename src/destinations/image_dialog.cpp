@@ -6,6 +6,7 @@
 
 #include "destinations/failed_items.h"
 #include "destinations/output_folder.h"
+#include "office/failure_patterns.h"
 #include "office/text.h"
 #include "panels/dialogs.h"
 #include "panels/panel_page.h"
@@ -65,6 +66,9 @@ DialogImageFiles::DialogImageFiles(forms::Desktop& theDesktop, session::OfficeSe
 
 void DialogImageFiles::Form_Load() {
     beginForm();
+    // The dialog for another folder begins there.
+    office::ContinueOnFailure scope;
+    scope.attempt([&] { session().host.makeFolder(ImageOutputFolder); });
     taken_ = takenRowsOfFiles(session(), list_, choices_);
     if (taken_ < 1) {
         showNothingSelected();

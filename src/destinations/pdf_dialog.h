@@ -17,7 +17,7 @@ public:
 
     void Form_Load() override;
     void ContinueOk_Click() override;
-    void ToggleOption(std::string_view key) override;
+    void ToggleOption(std::string_view wanted) override;
 
     /// Makes the PDF in the temporary folder and opens it if that is wanted.
     void MakeBlankDoc_Paste_ExportPdf_AndClose();
