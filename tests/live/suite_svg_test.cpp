@@ -8,7 +8,7 @@ namespace live {
 
 namespace {
 
-using libreoffice::excel::drawnOtherwise;
+using libreoffice::excel::contentOf;
 
 std::string mended(const std::string& content) {
     return libreoffice::excel::mended(
@@ -54,7 +54,7 @@ TEST(SuiteSvg, IsMendedWhereTheExporterErrs) {
          }) {
         const std::string svg = mended(written);
         EXPECT_NE(svg.find(wanted), std::string::npos) << svg;
-        EXPECT_EQ(drawnOtherwise(svg), "");
+        EXPECT_EQ(contentOf(svg).drawnOtherwise, "");
     }
 }
 
@@ -78,8 +78,8 @@ TEST(SuiteSvg, SaysWhatOthersDrawOtherwise) {
              // Who knows what the second one belongs to.
              Case{seenThrough + R"svg(<g clip-path="url(#b)"><path/></g>)svg", "transparency"},
          })
-        EXPECT_EQ(drawnOtherwise(mended(content)), reason) << content;
-    EXPECT_EQ(drawnOtherwise("<svg"), "not an SVG");
+        EXPECT_EQ(contentOf(mended(content)).drawnOtherwise, reason) << content;
+    EXPECT_EQ(contentOf("<svg").drawnOtherwise, "not an SVG");
 }
 
 }  // namespace

@@ -22,19 +22,6 @@ PictureSize sizeOf(const uno::Reference<css::drawing::XShape>& chart) {
     return {size.Width, size.Height};
 }
 
-/// None if the suite has to draw it.
-std::optional<VectorPicture> drawable(std::string svg, const PictureSize& size,
-                                      bool isTranslucent) {
-    if (svg.empty() || !drawnOtherwise(svg).empty()) return std::nullopt;
-    const PixelSize pixels = crispPixelsOf(size);
-    return VectorPicture{.svg = std::move(svg),
-                         .width = pixels.width,
-                         .height = pixels.height,
-                         .widthPt = pointsOf(size.width),
-                         .heightPt = pointsOf(size.height),
-                         .isTranslucent = isTranslucent};
-}
-
 std::string onWhite(std::string svg) {
     const std::size_t content = svg.find('>', svg.find("<svg"));
     if (content == std::string::npos) return {};
@@ -57,8 +44,29 @@ office::Picture drawnBySuite(const PictureSize& size, Write write) {
 
 PictureMaker::PictureMaker(std::shared_ptr<Connection> connection,
                            std::shared_ptr<office::drawing::DrawingRoom> room)
-    : suite_(std::move(connection)),
+    : suite_(connection),
+      fonts_(std::move(connection)),
       room_(std::move(room)) {}
+
+std::string PictureMaker::drawnOtherwise(const std::string& svg) {
+    if (svg.empty()) return "size";
+    const SvgContent content = contentOf(svg);
+    if (!content.drawnOtherwise.empty()) return content.drawnOtherwise;
+    const std::string font = fonts_.firstOther(content);
+    return font.empty() ? font : "font " + font;
+}
+
+PictureMaker::Vectors PictureMaker::drawable(std::string svg, const PictureSize& size,
+                                             bool isTranslucent) {
+    if (!drawnOtherwise(svg).empty()) return std::nullopt;
+    const PixelSize pixels = crispPixelsOf(size);
+    return VectorPicture{.svg = std::move(svg),
+                         .width = pixels.width,
+                         .height = pixels.height,
+                         .widthPt = pointsOf(size.width),
+                         .heightPt = pointsOf(size.height),
+                         .isTranslucent = isTranslucent};
+}
 
 PictureMaker::Vectors PictureMaker::vectorsOf(const uno::Reference<css::drawing::XShape>& chart) {
     return drawable(suite_.svgOfChart(chart), sizeOf(chart), !isOpaque(chart));

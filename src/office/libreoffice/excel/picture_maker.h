@@ -5,6 +5,7 @@
 #include <string>
 
 #include "office/drawing/drawing_room.h"
+#include "office/libreoffice/excel/same_fonts.h"
 #include "office/libreoffice/excel/suite_pictures.h"
 
 namespace libreoffice {
@@ -42,14 +43,20 @@ public:
 
     [[nodiscard]] SuitePictures& suite() { return suite_; }
 
+    /// Why the suite has to draw an SVG of its own; empty if the room draws it alike.
+    [[nodiscard]] std::string drawnOtherwise(const std::string& svg);
+
 private:
     using Vectors = std::optional<office::drawing::VectorPicture>;
 
+    /// None if the suite has to draw it.
+    [[nodiscard]] Vectors drawable(std::string svg, const PictureSize& size, bool isTranslucent);
     [[nodiscard]] Vectors vectorsOf(const uno::Reference<css::drawing::XShape>& chart);
     [[nodiscard]] Vectors vectorsOf(const uno::Sequence<sal_Int8>& metafile,
                                     const PictureSize& size);
 
     SuitePictures suite_;
+    SameFonts fonts_;
     std::shared_ptr<office::drawing::DrawingRoom> room_;
 };
 

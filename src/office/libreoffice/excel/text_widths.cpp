@@ -2,18 +2,12 @@
 
 #include <com/sun/star/awt/FontSlant.hpp>
 #include <com/sun/star/awt/FontWeight.hpp>
-#include <com/sun/star/awt/XCallback.hpp>
-#include <com/sun/star/awt/XRequestCallback.hpp>
 #include <com/sun/star/awt/XToolkit.hpp>
-#include <com/sun/star/lang/DisposedException.hpp>
-#include <cppuhelper/implbase1.hxx>
-#include <rtl/ref.hxx>
 
 #include <algorithm>
-#include <chrono>
-#include <exception>
-#include <future>
-#include <utility>
+#include <memory>
+
+#include "office/libreoffice/main_thread.h"
 
 namespace libreoffice::excel {
 
@@ -27,47 +21,13 @@ constexpr sal_Unicode firstWide = 0x2E80;
 
 using Widths = uno::Sequence<sal_Int16>;
 
-/// Asks a font for the widths of its characters. The call comes back to the thread of the suite
-/// that waits for it, as does whatever is called from here.
-class Question : public cppu::WeakImplHelper1<css::awt::XCallback> {
-public:
-    Question(uno::Reference<css::awt::XFont> font, sal_Unicode first, sal_Unicode last)
-        : font_(std::move(font)),
-          first_(first),
-          last_(last) {}
-
-    void SAL_CALL notify(const uno::Any&) override {
-        try {
-            answer_.set_value(font_->getCharWidths(first_, last_));
-        } catch (const uno::Exception&) {
-            answer_.set_exception(std::current_exception());
-        }
-    }
-    [[nodiscard]] std::future<Widths> answer() { return answer_.get_future(); }
-
-private:
-    uno::Reference<css::awt::XFont> font_;
-    sal_Unicode first_;
-    sal_Unicode last_;
-    std::promise<Widths> answer_;
-};
-
 }  // namespace
 
-/// A font lays its characters out without the suite's lock. Anywhere else than on the suite's main
-/// thread that crashes the suite now and then, while it draws a text of its own.
 Widths TextWidths::widthsOf(const uno::Reference<css::awt::XFont>& font, sal_Unicode first,
                             sal_Unicode last) const {
-    constexpr std::chrono::milliseconds step{100};
-    const rtl::Reference<Question> question(new Question(font, first, last));
-    std::future<Widths> answer = question->answer();
-    const uno::Reference<css::awt::XRequestCallback> mainThread(
-        connection_.create("com.sun.star.awt.AsyncCallback"), uno::UNO_QUERY_THROW);
-    mainThread->addCallback(question.get(), uno::Any());
-    while (answer.wait_for(step) != std::future_status::ready) {
-        if (connection_.isLost()) throw css::lang::DisposedException();
-    }
-    return answer.get();
+    const auto widths = std::make_shared<Widths>();
+    onMainThread(connection_, [=] { *widths = font->getCharWidths(first, last); });
+    return *widths;
 }
 
 TextWidths::Font& TextWidths::fontOf(const office::CellLook& look) {

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <functional>
+
+#include "office/libreoffice/connection.h"
+
+namespace libreoffice {
+
+/// Does something while the suite's main thread waits for it, and waits until it is done. The calls
+/// to the suite that the task makes are carried out by that thread. `css::uno::Exception` as the
+/// task throws it, or if the suite is lost meanwhile.
+///
+/// A font lays its characters out without the suite's lock: anywhere else that crashes the suite
+/// now and then, while it draws a text of its own.
+///
+/// What the task refers to has to last as long as the task itself: after a lost connection that is
+/// longer than the call.
+void onMainThread(const Connection& connection, std::function<void()> task);
+
+}  // namespace libreoffice
