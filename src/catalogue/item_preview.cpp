@@ -55,7 +55,7 @@ forms::Picture pictureOnClipboard(OfficeSession& session) {
     using Kind = office::ClipboardPicture::Kind;
     forms::Picture picture;
     office::ContinueOnFailure().attempt(
-        [&] { picture.bytes = session.suite.clipboardPicture(Kind::Bitmap).bytes; });
+        [&] { picture.bytes = session.suite.clipboardPicture(Kind::ScreenBitmap).bytes; });
     return picture;
 }
 

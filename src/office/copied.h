@@ -41,8 +41,8 @@ public:
     /// A PNG file with 288 dots to the inch and the true size. `Failure` 1004 if there is nothing
     /// to take a picture of.
     [[nodiscard]] virtual std::string png() const = 0;
-    /// The same for those who can wait for it.
-    [[nodiscard]] virtual Picture picture() const {
+    /// The same for those who can wait for it, or with fewer dots where that is quicker.
+    [[nodiscard]] virtual Picture picture(Sharpness) const {
         return finishedPicture(widthPt(), heightPt(), png());
     }
     /// `Failure` 1004 for anything but cells.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <future>
 #include <memory>
 #include <optional>
@@ -8,6 +9,14 @@
 #include "office/vector_file.h"
 
 namespace office {
+
+/// How many dots a picture has for each pixel of a screen with 96 of them to the inch.
+enum class Sharpness : std::int32_t {
+    /// To look at beside the list.
+    Screen = 1,
+    /// For projectors and paper.
+    Crisp = 3
+};
 
 /// A PNG picture with its true size, which may still be on its way: who takes it goes on, and asks
 /// for the bytes once it needs them.

@@ -21,7 +21,8 @@ enum class Pacing { FinishedOnReturn, Asynchronous };
 /// A picture taken from the clipboard: PNG or vector bytes, empty if the clipboard held none of the
 /// kind asked for.
 struct ClipboardPicture {
-    enum class Kind { Bitmap, Vector };
+    /// A bitmap for the screen may have fewer pixels.
+    enum class Kind { Bitmap, ScreenBitmap, Vector };
     Kind kind = Kind::Bitmap;
     std::string mediaType;
     std::vector<std::uint8_t> bytes;

@@ -60,7 +60,7 @@ office::ClipboardPicture DoubleSuite::clipboardPicture(office::ClipboardPicture:
     picture.kind = kind;
     const office::CopiedPtr& copied = state_->clipboard->copied;
     if (!copied) return picture;
-    if (kind == office::ClipboardPicture::Kind::Bitmap) {
+    if (kind != office::ClipboardPicture::Kind::Vector) {
         picture.mediaType = "image/png";
         const std::string png = copied->png();
         picture.bytes.assign(png.begin(), png.end());

@@ -132,9 +132,12 @@ office::ClipboardPicture LibreOfficeSuite::clipboardPicture(office::ClipboardPic
     picture.kind = kind;
     const office::CopiedPtr copied = clipboard_->copied;
     if (!copied) return picture;
-    if (kind == office::ClipboardPicture::Kind::Bitmap) {
+    if (kind != office::ClipboardPicture::Kind::Vector) {
         picture.mediaType = "image/png";
-        const std::string png = copied->png();
+        const bool isForScreen = kind == office::ClipboardPicture::Kind::ScreenBitmap;
+        const std::string png =
+            copied->picture(isForScreen ? office::Sharpness::Screen : office::Sharpness::Crisp)
+                .png.get();
         picture.bytes.assign(png.begin(), png.end());
         return picture;
     }

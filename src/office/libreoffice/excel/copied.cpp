@@ -48,8 +48,9 @@ double CopiedPicture::heightPt() const {
     return pointsOf(size_.height);
 }
 
-office::Picture CopiedPicture::picture() const {
-    return translated(desk_, [&] { return pictureMaker(desk_).metafile(metafile_, size_); });
+office::Picture CopiedPicture::picture(office::Sharpness sharpness) const {
+    return translated(desk_,
+                      [&] { return pictureMaker(desk_).metafile(metafile_, size_, sharpness); });
 }
 
 uno::Reference<css::graphic::XGraphic> CopiedPicture::graphic() const {
@@ -80,9 +81,9 @@ double CopiedChart::heightPt() const {
     return pointsOf(size_.Height);
 }
 
-office::Picture CopiedChart::picture() const {
+office::Picture CopiedChart::picture(office::Sharpness sharpness) const {
     Desk& desk = book().desk();
-    return translated(desk, [&] { return pictureMaker(desk).chart(shape_); });
+    return translated(desk, [&] { return pictureMaker(desk).chart(shape_, sharpness); });
 }
 
 uno::Reference<css::graphic::XGraphic> CopiedChart::graphic() const {
@@ -118,12 +119,12 @@ double CopiedCells::heightPt() const {
     return pointsOf(size_.Height);
 }
 
-office::Picture CopiedCells::picture() const {
+office::Picture CopiedCells::picture(office::Sharpness sharpness) const {
     SheetRecord& source = sheet();
     Desk& desk = source.book().desk();
     return translated(desk, [&] {
         const CellsPicture picture = takePictureOfCells(source, cells_, block_);
-        return pictureMaker(desk).metafile(picture.metafile, picture.size);
+        return pictureMaker(desk).metafile(picture.metafile, picture.size, sharpness);
     });
 }
 

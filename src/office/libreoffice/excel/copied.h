@@ -14,7 +14,9 @@ namespace libreoffice::excel {
 class CopiedHere : public office::Copied {
 public:
     using Copied::Copied;
-    [[nodiscard]] std::string png() const override { return picture().png.get(); }
+    [[nodiscard]] std::string png() const override {
+        return picture(office::Sharpness::Crisp).png.get();
+    }
     /// A picture of it in vectors, of the size that it has in the workbook. `office::Failure` 1004
     /// if there is nothing to take a picture of.
     [[nodiscard]] virtual uno::Reference<css::graphic::XGraphic> graphic() const = 0;
@@ -30,7 +32,7 @@ public:
     [[nodiscard]] const PictureSize& size() const { return size_; }
     [[nodiscard]] double widthPt() const override;
     [[nodiscard]] double heightPt() const override;
-    [[nodiscard]] office::Picture picture() const override;
+    [[nodiscard]] office::Picture picture(office::Sharpness sharpness) const override;
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
     [[nodiscard]] office::TableLook table() const override;
 
@@ -50,7 +52,7 @@ public:
     [[nodiscard]] const uno::Reference<css::drawing::XShape>& shape() const { return shape_; }
     [[nodiscard]] double widthPt() const override;
     [[nodiscard]] double heightPt() const override;
-    [[nodiscard]] office::Picture picture() const override;
+    [[nodiscard]] office::Picture picture(office::Sharpness sharpness) const override;
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
     [[nodiscard]] office::TableLook table() const override;
 
@@ -72,7 +74,7 @@ public:
     [[nodiscard]] const office::model::excel::CellBlock& block() const { return block_; }
     [[nodiscard]] double widthPt() const override;
     [[nodiscard]] double heightPt() const override;
-    [[nodiscard]] office::Picture picture() const override;
+    [[nodiscard]] office::Picture picture(office::Sharpness sharpness) const override;
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
     [[nodiscard]] office::TableLook table() const override;
     [[nodiscard]] office::TableLook tableOfPage() const override;

@@ -15,6 +15,7 @@ namespace libreoffice::excel {
 namespace {
 
 using office::PictureKind;
+using office::Sharpness;
 using office::drawing::VectorPicture;
 
 PictureSize sizeOf(const uno::Reference<css::drawing::XShape>& chart) {
@@ -57,9 +58,9 @@ std::string PictureMaker::drawnOtherwise(const std::string& svg) {
 }
 
 PictureMaker::Vectors PictureMaker::drawable(std::string svg, const PictureSize& size,
-                                             bool isTranslucent) {
+                                             bool isTranslucent, Sharpness sharpness) {
     if (!drawnOtherwise(svg).empty()) return std::nullopt;
-    const PixelSize pixels = crispPixelsOf(size);
+    const PixelSize pixels = pixelsOf(size, sharpness);
     return VectorPicture{.svg = std::move(svg),
                          .width = pixels.width,
                          .height = pixels.height,
@@ -68,17 +69,19 @@ PictureMaker::Vectors PictureMaker::drawable(std::string svg, const PictureSize&
                          .isTranslucent = isTranslucent};
 }
 
-PictureMaker::Vectors PictureMaker::vectorsOf(const uno::Reference<css::drawing::XShape>& chart) {
-    return drawable(suite_.svgOfChart(chart), sizeOf(chart), !isOpaque(chart));
+PictureMaker::Vectors PictureMaker::vectorsOf(const uno::Reference<css::drawing::XShape>& chart,
+                                              Sharpness sharpness) {
+    return drawable(suite_.svgOfChart(chart), sizeOf(chart), !isOpaque(chart), sharpness);
 }
 
 PictureMaker::Vectors PictureMaker::vectorsOf(const uno::Sequence<sal_Int8>& metafile,
-                                              const PictureSize& size) {
-    return drawable(suite_.svgOfMetafile(metafile, size), size, false);
+                                              const PictureSize& size, Sharpness sharpness) {
+    return drawable(suite_.svgOfMetafile(metafile, size), size, false, sharpness);
 }
 
-office::Picture PictureMaker::chart(const uno::Reference<css::drawing::XShape>& chart) {
-    if (auto vectors = vectorsOf(chart)) return room_->draw(std::move(*vectors));
+office::Picture PictureMaker::chart(const uno::Reference<css::drawing::XShape>& chart,
+                                    Sharpness sharpness) {
+    if (auto vectors = vectorsOf(chart, sharpness)) return room_->draw(std::move(*vectors));
     return drawnBySuite(sizeOf(chart),
                         [&](const std::string& file) { suite_.writeChart(chart, file); });
 }
@@ -87,15 +90,16 @@ void PictureMaker::writeChart(const uno::Reference<css::drawing::XShape>& chart,
                               const std::string& path, office::PictureKind kind) {
     if (kind == PictureKind::Svg) return writePictureFile(path, suite_.svgOfChart(chart));
     if (kind == PictureKind::Emf) return writePictureFile(path, suite_.emfOfChart(chart));
-    auto vectors = vectorsOf(chart);
+    auto vectors = vectorsOf(chart, Sharpness::Crisp);
     if (!vectors) return suite_.writeChart(chart, path);
     makeWayFor(path);
     room_->drawFile(std::move(*vectors), path);
 }
 
 office::Picture PictureMaker::metafile(const uno::Sequence<sal_Int8>& metafile,
-                                       const PictureSize& size) {
-    if (auto vectors = vectorsOf(metafile, size)) return room_->draw(std::move(*vectors));
+                                       const PictureSize& size, Sharpness sharpness) {
+    if (auto vectors = vectorsOf(metafile, size, sharpness))
+        return room_->draw(std::move(*vectors));
     return drawnBySuite(
         size, [&](const std::string& file) { suite_.writeMetafile(metafile, size, file); });
 }
@@ -106,7 +110,7 @@ void PictureMaker::writeMetafile(const uno::Sequence<sal_Int8>& metafile, const 
         return writePictureFile(path, onWhite(suite_.svgOfMetafile(metafile, size)));
     if (kind == PictureKind::Emf)
         return writePictureFile(path, suite_.emfOfMetafile(metafile, size));
-    auto vectors = vectorsOf(metafile, size);
+    auto vectors = vectorsOf(metafile, size, Sharpness::Crisp);
     if (!vectors) return suite_.writeMetafile(metafile, size, path);
     makeWayFor(path);
     room_->drawFile(std::move(*vectors), path);

@@ -29,7 +29,8 @@ public:
 
     /// A chart as a PNG. One whose background lets things shine through stays transparent; all
     /// others come without an alpha channel.
-    [[nodiscard]] office::Picture chart(const uno::Reference<css::drawing::XShape>& chart);
+    [[nodiscard]] office::Picture chart(const uno::Reference<css::drawing::XShape>& chart,
+                                        office::Sharpness sharpness);
     /// The same as a file, also in vectors; a PNG may still be on its way (`office::PictureFiles`).
     /// `office::Failure` 1004 if it can't be written; then there is none of that name.
     void writeChart(const uno::Reference<css::drawing::XShape>& chart, const std::string& path,
@@ -37,7 +38,7 @@ public:
 
     /// A copied picture on white. An empty one gives a white area.
     [[nodiscard]] office::Picture metafile(const uno::Sequence<sal_Int8>& metafile,
-                                           const PictureSize& size);
+                                           const PictureSize& size, office::Sharpness sharpness);
     void writeMetafile(const uno::Sequence<sal_Int8>& metafile, const PictureSize& size,
                        const std::string& path, office::PictureKind kind);
 
@@ -50,10 +51,12 @@ private:
     using Vectors = std::optional<office::drawing::VectorPicture>;
 
     /// None if the suite has to draw it.
-    [[nodiscard]] Vectors drawable(std::string svg, const PictureSize& size, bool isTranslucent);
-    [[nodiscard]] Vectors vectorsOf(const uno::Reference<css::drawing::XShape>& chart);
+    [[nodiscard]] Vectors drawable(std::string svg, const PictureSize& size, bool isTranslucent,
+                                   office::Sharpness sharpness);
+    [[nodiscard]] Vectors vectorsOf(const uno::Reference<css::drawing::XShape>& chart,
+                                    office::Sharpness sharpness);
     [[nodiscard]] Vectors vectorsOf(const uno::Sequence<sal_Int8>& metafile,
-                                    const PictureSize& size);
+                                    const PictureSize& size, office::Sharpness sharpness);
 
     SuitePictures suite_;
     SameFonts fonts_;

@@ -30,7 +30,7 @@ namespace {
 
 constexpr double screenDpi = 96;
 constexpr double hundredthMmPerInch = 2540;
-constexpr int sharpness = 3;
+constexpr auto crisp = static_cast<std::int32_t>(office::Sharpness::Crisp);
 /// A picture with more pixels is made with fewer to the inch: a range of thousands of rows must not
 /// exhaust the memory.
 constexpr double mostPixels = 60e6;
@@ -52,7 +52,7 @@ struct ScreenSize {
     explicit ScreenSize(const PictureSize& size) {
         const double wide = size.width * screenDpi / hundredthMmPerInch;
         const double high = size.height * screenDpi / hundredthMmPerInch;
-        const double pixels = wide * high * sharpness * sharpness;
+        const double pixels = wide * high * crisp * crisp;
         const double scale = std::min({1.0, std::sqrt(mostPixels / std::max(1.0, pixels)),
                                        longestSide / std::max(wide, high)});
         width = std::max(1, static_cast<std::int32_t>(std::lround(wide * scale)));
@@ -69,8 +69,8 @@ struct ScreenSize {
 
 /// The logical size becomes the density that the file carries: its true physical size.
 FilterData pngSettings(const ScreenSize& screen, const PictureSize& size, bool translucent) {
-    return propertyValues({{"PixelWidth", uno::Any(screen.width * sharpness)},
-                           {"PixelHeight", uno::Any(screen.height * sharpness)},
+    return propertyValues({{"PixelWidth", uno::Any(screen.width * crisp)},
+                           {"PixelHeight", uno::Any(screen.height * crisp)},
                            {"LogicalWidth", uno::Any(size.width)},
                            {"LogicalHeight", uno::Any(size.height)},
                            {"Compression", uno::Any(compression)},
@@ -104,9 +104,10 @@ std::uint32_t wordAt(const uno::Sequence<sal_Int8>& bytes, sal_Int32 at) {
 
 }  // namespace
 
-PixelSize crispPixelsOf(const PictureSize& size) {
+PixelSize pixelsOf(const PictureSize& size, office::Sharpness sharpness) {
     const ScreenSize screen(size);
-    return {screen.width * sharpness, screen.height * sharpness};
+    const auto dots = static_cast<std::int32_t>(sharpness);
+    return {screen.width * dots, screen.height * dots};
 }
 
 bool isOpaque(const uno::Reference<css::drawing::XShape>& chart) {
@@ -284,7 +285,7 @@ std::string SuitePictures::svgOfPage(const uno::Reference<css::graphic::XGraphic
                    .pageHeight = paper.Height,
                    .widthMm = size.width / hundredthsPerMm,
                    .heightMm = size.height / hundredthsPerMm,
-                   .hairline = hundredthMmPerInch / screenDpi / sharpness});
+                   .hairline = hundredthMmPerInch / screenDpi / crisp});
 }
 
 std::string SuitePictures::written(const uno::Reference<css::document::XExporter>& exporter,

@@ -12,6 +12,7 @@
 
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/private_folder.h"
+#include "office/picture.h"
 
 namespace libreoffice::excel {
 
@@ -27,8 +28,8 @@ struct PixelSize {
     std::int32_t height = 0;
 };
 
-/// At three times screen density; at less where that would take too much memory.
-[[nodiscard]] PixelSize crispPixelsOf(const PictureSize& size);
+/// With fewer dots than asked for where they would take too much memory.
+[[nodiscard]] PixelSize pixelsOf(const PictureSize& size, office::Sharpness sharpness);
 
 /// Charts and copied ranges as the suite draws them: PNG files at three times screen density that
 /// carry their true physical size, and vectors.

@@ -49,7 +49,7 @@ model::DeckShapePtr ImpressSlide::paste(const office::Copied& copied, PasteAs as
     const auto place = model::pastePlaceFor({copied.widthPt(), copied.heightPt()}, deck_, *this);
     const bool isPicture = copied.source().kind == CopySource::Kind::Picture;
     if (as == PasteAs::Png || as == PasteAs::Metafile || (isPicture && as == PasteAs::Default))
-        return addPicture(copied.picture(), place.size, place.corner);
+        return addPicture(copied.picture(office::Sharpness::Crisp), place.size, place.corner);
     const css::awt::Size size = onPaper(place.size);
     if (as == PasteAs::Embedded)
         return pasted(addWorkbook(*this, copiedHere(copied), size), "Object", place.corner);

@@ -105,7 +105,7 @@ PictureFile readPicture(const std::string& file, PictureFiles* pictures) {
 }
 
 PictureFile pictureOf(const Copied& copied) {
-    return pngFile(copied.picture());
+    return pngFile(copied.picture(Sharpness::Crisp));
 }
 
 std::string addPicturePart(Package& package, std::string_view stem, PictureFile picture) {
