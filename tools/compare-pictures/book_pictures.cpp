@@ -1,0 +1,89 @@
+#include "book_pictures.h"
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <utility>
+
+#include "office/failure_patterns.h"
+#include "office/libreoffice/excel/application.h"
+#include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/copied.h"
+#include "office/libreoffice/excel/picture_maker.h"
+#include "office/libreoffice/private_folder.h"
+#include "office/libreoffice/units.h"
+
+namespace compare {
+
+namespace {
+
+using libreoffice::pointsOf;
+using libreoffice::excel::PictureSize;
+
+std::string bytesOf(const std::string& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+std::string drawn(std::string svg, const PictureSize& size, bool isTranslucent) {
+    const auto pixels = libreoffice::excel::pixelsOf(size, office::Sharpness::Crisp);
+    return office::drawing::pngOf({std::move(svg), pixels.width, pixels.height,
+                                   pointsOf(size.width), pointsOf(size.height), isTranslucent});
+}
+
+}  // namespace
+
+BookPictures::BookPictures()
+    : instance_(libreoffice::PrivateInstance::start(std::chrono::seconds(60))),
+      desk_(std::make_shared<libreoffice::Desk>(instance_->connection(), true,
+                                                std::make_shared<office::Clipboard>(),
+                                                std::make_shared<office::drawing::DrawingRoom>())) {
+}
+
+void BookPictures::forEach(const std::string& book, const std::function<void(const Pair&)>& use) {
+    namespace excel = libreoffice::excel;
+    const office::Object application = excel::applicationObject(desk_);
+    const office::Object opened = application.get("Workbooks")
+                                      .call("Open", std::filesystem::absolute(book).string())
+                                      .toObject();
+    excel::PictureMaker& maker = excel::pictureMaker(*desk_);
+    excel::SuitePictures& suite = maker.suite();
+    const libreoffice::PrivateFolder folder;
+    const std::string file = folder.file("suite.png");
+    const std::string bookName = std::filesystem::path(book).filename().string();
+
+    for (const auto& sheet : desk_->activeWorkbook()->sheetList().all()) {
+        for (const auto& chart : sheet->chartShapes().all()) {
+            const auto size = chart->shape()->getSize();
+            suite.writeChart(chart->shape(), file);
+            std::string svg = suite.svgOfChart(chart->shape());
+            std::string reason = maker.drawnOtherwise(svg);
+            use({bookName, chart->knownName(), bytesOf(file),
+                 svg.empty() ? std::string()
+                             : drawn(std::move(svg), {size.Width, size.Height},
+                                     !excel::isOpaque(chart->shape())),
+                 std::move(reason)});
+        }
+    }
+    const office::Object names = opened.get("Names").toObject();
+    for (std::int32_t i = 1; i <= names.get("Count").toLong(); ++i) {
+        const office::Object name = names.get("Item", i).toObject();
+        office::ContinueOnFailure scope;
+        // A name need not lead to cells.
+        const bool isCopied = scope.attempt(
+            [&] { name.get("RefersToRange").toObject().call("CopyPicture", 1, -4147); });
+        const auto* copied =
+            dynamic_cast<const excel::CopiedPicture*>(desk_->clipboard().copied.get());
+        if (!isCopied || copied == nullptr) continue;
+        suite.writeMetafile(copied->metafile(), copied->size(), file);
+        std::string svg = suite.svgOfMetafile(copied->metafile(), copied->size());
+        std::string reason = maker.drawnOtherwise(svg);
+        use({bookName, name.get("Name").toText(), bytesOf(file),
+             svg.empty() ? std::string() : drawn(std::move(svg), copied->size(), false),
+             std::move(reason)});
+    }
+    opened.call("Close", false);
+}
+
+}  // namespace compare
