@@ -107,7 +107,10 @@ const std::vector<ChartShapePtr>& ChartShapes::all() {
     // Asked of the sheet anew each time: the collection keeps the place that the sheet had when it
     // was made, and reads another sheet's charts once one has been inserted in front.
     if (!supplier_.is()) supplier_ = as<css::table::XTableChartsSupplier>(sheet_);
-    const auto keys = supplier_->getCharts()->getElementNames();
+    // A sheet of a workbook that was closed has none.
+    const uno::Reference<css::table::XTableCharts> charts(supplier_->getCharts(),
+                                                          uno::UNO_SET_THROW);
+    const auto keys = charts->getElementNames();
     if (keys != seenKeys_) refresh(keys);
     return charts_;
 }
