@@ -18,9 +18,11 @@ namespace {
 /// For each thread. More would only take memory.
 constexpr std::size_t mostWaiting = 2;
 
+/// Also the processor that the application runs on: drawing takes longer than what it has to do for
+/// an item, so that it would wait for the others.
 unsigned threadsOfThisMachine() {
     constexpr unsigned most = 4;
-    return std::clamp(std::thread::hardware_concurrency(), 2U, most + 1) - 1;
+    return std::clamp(std::thread::hardware_concurrency(), 1U, most);
 }
 
 std::string lookOf(const VectorPicture& picture) {

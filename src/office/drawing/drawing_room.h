@@ -23,7 +23,7 @@ namespace office::drawing {
 /// room goes.
 class DrawingRoom : public PictureFiles {
 public:
-    /// One processor is left to the application.
+    /// With a thread for each processor, up to four.
     DrawingRoom();
     explicit DrawingRoom(unsigned threads);
     ~DrawingRoom() override;
