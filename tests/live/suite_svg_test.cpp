@@ -44,7 +44,14 @@ TEST(SuiteSvg, IsMendedWhereTheExporterErrs) {
         return R"svg(<text transform="rotate(-45 )svg" + around +
                R"svg()"><tspan><tspan x="7" y="9"><tspan> a </tspan></tspan></tspan></text>)svg";
     };
+    const auto clipped = [&](const std::string& corner, const std::string& clip) {
+        return R"svg(<clipPath id="p"> <path d="M 0,0 L 1296,0 )svg" + corner +
+               R"svg( 0,794 0,0 Z "/> </clipPath><g)svg" + clip + ">" + content + "</g>";
+    };
+    const std::string clip = R"svg( clip-path="url(#p)")svg";
     for (const auto& [written, wanted] : {
+             Case{clipped("1296,794", clip), clipped("1296,794", "")},
+             Case{clipped("1296,793", clip), clipped("1296,793", clip)},
              Case{turned("0 0") + turned("7 9"), turned("7 9") + turned("7 9")},
              Case{R"svg(<g style="opacity: 0.4"/>)svg" + clips +
                       R"svg(<g clip-path="url(#c)">)svg" + content +
