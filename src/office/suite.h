@@ -54,7 +54,8 @@ public:
     virtual ClipboardPicture clipboardPicture(ClipboardPicture::Kind kind) = 0;
     /// Where its Excel leaves what was copied, for a PowerPoint that stands elsewhere.
     virtual ClipboardPtr clipboard() = 0;
-    /// Those of its Excel, likewise; null if all are whole as soon as it says so.
+    /// The picture files of its Excel that may still be on their way; null if all are whole as soon
+    /// as it says so.
     virtual PictureFilesPtr pictureFiles() { return nullptr; }
     /// What the user should know before items are pasted in this form into the active document of
     /// an application ("PowerPoint.Application"), a line each.

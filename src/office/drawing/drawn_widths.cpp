@@ -2,19 +2,14 @@
 
 #include <pango/pangocairo.h>
 
+#include "office/drawing/released_by.h"
+
 namespace office::drawing {
 
 namespace {
 
-template <auto release>
-struct Release {
-    template <class Kind>
-    void operator()(Kind* held) const {
-        release(held);
-    }
-};
 template <class Kind>
-using Owned = std::unique_ptr<Kind, Release<&g_object_unref>>;
+using Owned = std::unique_ptr<Kind, ReleasedBy<&g_object_unref>>;
 
 /// Large enough for widths that no hint of a font changes.
 constexpr double measuredSize = 1000;
@@ -33,7 +28,7 @@ DrawnWidths::DrawnWidths() : context_(std::make_unique<Context>()) {
 DrawnWidths::~DrawnWidths() = default;
 
 std::optional<double> DrawnWidths::of(const std::string& line, const NamedFont& font) const {
-    const std::unique_ptr<PangoFontDescription, Release<&pango_font_description_free>> wanted(
+    const std::unique_ptr<PangoFontDescription, ReleasedBy<&pango_font_description_free>> wanted(
         pango_font_description_new());
     pango_font_description_set_family(wanted.get(), font.families.c_str());
     pango_font_description_set_weight(wanted.get(), static_cast<PangoWeight>(font.weight));

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "office/drawing/png_writer.h"
+#include "office/drawing/released_by.h"
 #include "office/failure.h"
 
 namespace office::drawing {
@@ -22,17 +23,10 @@ constexpr std::int32_t pixelsOfStrip = 6'000'000;
 constexpr double inchesPerMetre = 1 / 0.0254;
 constexpr double pointsPerInch = 72;
 
-template <auto release>
-struct Release {
-    template <class Kind>
-    void operator()(Kind* held) const {
-        release(held);
-    }
-};
-using Drawing = std::unique_ptr<RsvgHandle, Release<&g_object_unref>>;
-using Surface = std::unique_ptr<cairo_surface_t, Release<&cairo_surface_destroy>>;
-using Context = std::unique_ptr<cairo_t, Release<&cairo_destroy>>;
-using Error = std::unique_ptr<GError, Release<&g_error_free>>;
+using Drawing = std::unique_ptr<RsvgHandle, ReleasedBy<&g_object_unref>>;
+using Surface = std::unique_ptr<cairo_surface_t, ReleasedBy<&cairo_surface_destroy>>;
+using Context = std::unique_ptr<cairo_t, ReleasedBy<&cairo_destroy>>;
+using Error = std::unique_ptr<GError, ReleasedBy<&g_error_free>>;
 
 [[noreturn]] void fail(const std::string& reason) {
     throw Failure(FailureNumber::ApplicationDefined, "Picture",

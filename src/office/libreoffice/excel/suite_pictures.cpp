@@ -19,6 +19,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <system_error>
 #include <utility>
 
 #include "office/libreoffice/excel/png_file.h"
@@ -294,7 +295,8 @@ std::string SuitePictures::written(const uno::Reference<css::document::XExporter
     if (!folder_) folder_ = std::make_unique<PrivateFolder>();
     const std::string file = folder_->file("vectors");
     // What the exporter returns says nothing, and the last picture must not stand in for this one.
-    std::filesystem::remove(file);
+    std::error_code isNotThere;
+    std::filesystem::remove(file, isNotThere);
     as<css::document::XFilter>(exporter)->filter(
         propertyValues({{"URL", uno::Any(fileUrl(file))},
                         {"MediaType", uno::Any(rtl::OUString::createFromAscii(mediaType))}}));

@@ -143,7 +143,8 @@ bool isClip(const pugi::xml_node& node) {
     return is(node, "clipPath");
 }
 
-/// A clip along the edges of the page cuts nothing off, and doubles the time of drawing cells.
+/// A clip along the edges of the page cuts nothing off, and has every text of a table drawn through
+/// a mask.
 void dropClipsOfPage(pugi::xml_document& document, const SuiteSvg& page) {
     const std::string outline =
         fmt::format("M 0,0 L {0},0 {0},{1} 0,{1} 0,0 Z ", page.pageWidth, page.pageHeight);
