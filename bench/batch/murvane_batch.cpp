@@ -8,7 +8,7 @@
 #include "apps/posix_host.h"
 #include "catalogue/inventory.h"
 #include "office/failure_patterns.h"
-#include "powerpoint/pictures.h"
+#include "powerpoint/formats.h"
 #include "session/office_session.h"
 
 namespace bench {
@@ -49,7 +49,8 @@ private:
 }  // namespace
 
 BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, Deck where,
-                          const std::string& workbook, const std::string& output) {
+                          const std::string& workbook, const std::string& output,
+                          const MeasuredItems& what) {
     apps::PosixConsole console([] { return false; });
     apps::PosixHost host(console);
     NoNotices notices;
@@ -66,8 +67,9 @@ BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, Deck where,
     catalogue::ExportList list;
     catalogue::CountWorkbookItems(session);
     catalogue::LoadItemsToForm(session, list);
-    // Charts only, as the bare program takes them.
-    for (auto& row : list.rows) row.checked = row.isEmbeddedChart() && !row.isChartSheet();
+    // What the bare program takes.
+    for (auto& row : list.rows)
+        row.checked = what.areRanges ? row.name.starts_with("Range_") : row.isEmbeddedChart();
     session.SessionPresentation = deck;
 
     BatchCost cost;
@@ -76,9 +78,9 @@ BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, Deck where,
     const auto secondsSince = [](Stopwatch::Clock::time_point begin) {
         return std::chrono::duration<double>(Stopwatch::Clock::now() - begin).count();
     };
-    const catalogue::ExportChoices choices;
+    const catalogue::ExportChoices choices{.format = what.format};
     powerpoint::Batch batch{session, list, choices, {}, {.titles = true, .sourceLine = true}};
-    cost.items = powerpoint::ExportRowsAsPictures(batch);
+    cost.items = powerpoint::ExportRows(batch);
     const auto saving = Stopwatch::Clock::now();
     deck.call("SaveCopyAs", output);
     cost.savingSeconds = secondsSince(saving);

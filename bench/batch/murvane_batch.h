@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "bare_batch.h"
 #include "office/libreoffice/libreoffice_suite.h"
 
 namespace bench {
@@ -26,9 +27,10 @@ struct BatchCost {
 /// Where the slides are made.
 enum class Deck { InTheSuite, AsFile };
 
-/// The product's own batch: opens the workbook and a new presentation, fills the list, exports all
-/// rows as pictures with titles and source line, saves. The inventory is not part of the time.
+/// The product's own batch: opens the workbook and a new presentation, fills the list, exports the
+/// rows of a kind with titles and source line, saves. The inventory is not part of the time.
 BatchCost runMurvaneBatch(libreoffice::LibreOfficeSuite& suite, Deck where,
-                          const std::string& workbook, const std::string& output);
+                          const std::string& workbook, const std::string& output,
+                          const MeasuredItems& what);
 
 }  // namespace bench

@@ -6,22 +6,36 @@ import signal
 import time
 import unittest
 
-from program import EVERY_OUTPUT, SAMPLES, ProgramTest, every_output, processes_naming, suite_of
+import rich_decks
+from program import EVERY_OUTPUT, OUTPUTS, SAMPLES, ProgramTest, every_output, processes_naming, suite_of
 
 PATIENCE = 5.0
+
+# Pictures go everywhere; what is pasted goes on slides in the suite, which this deck takes, and into a document.
+PASTED = ("editable", "embedded", "linked")
+DECK = "strict.pptx"
 
 
 class AnEndedRun(ProgramTest):
     """Runs a batch of some seconds and strikes at many moments of it."""
 
     workbook = SAMPLES / "many-charts.xlsx"
-    whole_run = None
+    form = "pictures"
+    whole_runs = {}
 
     def begin(self):
         outputs = self.folder / "out"
         shutil.rmtree(outputs, ignore_errors=True)
         outputs.mkdir()
-        return self.start(self.workbook, "--titles", "--source", *every_output(outputs)), outputs
+        if self.form == "pictures":
+            return self.start(self.workbook, "--titles", "--source", *every_output(outputs)), outputs
+        rich_decks.write(self.folder, DECK)
+        return self.start(self.workbook, "--titles", "--source", "--yes", "--format", self.form,
+                          "--to", "slides", "--into", self.folder / DECK, "--output", outputs / OUTPUTS["slides"],
+                          "--to", "word", "--output", outputs / OUTPUTS["word"]), outputs
+
+    def every_one(self):
+        return EVERY_OUTPUT if self.form == "pictures" else {OUTPUTS["slides"], OUTPUTS["word"]}
 
     @staticmethod
     def made(outputs):
@@ -29,31 +43,31 @@ class AnEndedRun(ProgramTest):
         return {path.name for path in outputs.iterdir() if not path.name.startswith(".")}
 
     def whole_run_seconds(self):
-        """How long a run takes that nobody disturbs; measured once."""
-        if AnEndedRun.whole_run is None:
+        """How long a run takes that nobody disturbs; measured once for each format."""
+        if self.form not in self.whole_runs:
             started = time.monotonic()
             process, outputs = self.begin()
             _, errors = process.communicate(timeout=240)
             self.assertEqual(process.returncode, 0, errors)
-            self.assertEqual(self.made(outputs), EVERY_OUTPUT)
-            AnEndedRun.whole_run = time.monotonic() - started
-        return AnEndedRun.whole_run
+            self.assertEqual(self.made(outputs), self.every_one())
+            self.whole_runs[self.form] = time.monotonic() - started
+        return self.whole_runs[self.form]
 
     def strike_at_many_points(self, strike, points):
         self.whole_run_seconds()
         for point in range(points):
-            with self.subTest(point=point):
+            with self.subTest(format=self.form, point=point):
                 # A run that is over first shows that runs are shorter than the one that was measured.
                 while not self.struck_at((point + 0.5) / points, strike):
-                    AnEndedRun.whole_run *= 0.7
-                    self.assertGreater(AnEndedRun.whole_run, 0.5, "no run lasts until it is struck")
+                    self.whole_runs[self.form] *= 0.7
+                    self.assertGreater(self.whole_runs[self.form], 0.5, "no run lasts until it is struck")
 
     def struck_at(self, share, strike):
         process, outputs = self.begin()
         started = time.monotonic()
         suite = suite_of(process, self.cache)
         # Up to three quarters: on a busy machine the run must not be over before it is struck.
-        time.sleep(max(0.0, AnEndedRun.whole_run * 0.75 * share - (time.monotonic() - started)))
+        time.sleep(max(0.0, self.whole_runs[self.form] * 0.75 * share - (time.monotonic() - started)))
         if process.poll() is not None:
             process.communicate()
             return False
@@ -63,7 +77,7 @@ class AnEndedRun(ProgramTest):
         self.assertLess(time.monotonic() - hit, PATIENCE)
         if process.returncode == 0:
             # All was done by then.
-            self.assertEqual(self.made(outputs), EVERY_OUTPUT)
+            self.assertEqual(self.made(outputs), self.every_one())
             return False
         self.assertGreater(len(errors.strip()), 20, "no report")
         self.assertEqual(list(outputs.iterdir()), [])
@@ -74,6 +88,8 @@ class AnEndedRun(ProgramTest):
         def kill_suite(process, suite):
             os.kill(suite, signal.SIGKILL)
         self.strike_at_many_points(kill_suite, points=10)
+        for self.form in PASTED:
+            self.strike_at_many_points(kill_suite, points=3)
 
     def test_ends_with_a_report_on_ctrl_c(self):
         self.strike_at_many_points(lambda process, suite: process.send_signal(signal.SIGINT), points=5)
