@@ -14,14 +14,16 @@ HtmlResult ExportRowsToHtmlAsImages(RowBatch& batch, const HtmlOptions& options)
     session.host.makeFolder(files.images());
     HtmlBody body{.useTitles = options.useTitles, .text = {}};
     HtmlResult result;
-    result.walk =
-        walkRows(batch, [&](const catalogue::TakenRow& taken, const catalogue::ExportItem& row) {
+    result.walk = walkRowsAhead(
+        batch, [&](const catalogue::TakenRow& taken, const catalogue::ExportItem& row) {
             const std::string name = fmt::format("Temp{}.png", taken.index + 1);
-            session.host.writeImage(pictureOfRow(session, row), session::ImageFormat::Png,
-                                    files.images() + "/" + name);
-            // From the page's own folder, so that both can be moved together.
-            AppendHtmlBlock(body, options.widthPx, options.skipLines,
-                            office::addressWord(files.imagesName()) + "/" + name, row.caption);
+            return [&, name, picture = pictureOfRow(session, row)] {
+                session.host.writeImage(picture.png.get(), session::ImageFormat::Png,
+                                        files.images() + "/" + name);
+                // From the page's own folder, so that both can be moved together.
+                AppendHtmlBlock(body, options.widthPx, options.skipLines,
+                                office::addressWord(files.imagesName()) + "/" + name, row.caption);
+            };
         });
     if (!body.text.empty()) {
         WriteHtmlFile(session.host, files.page(), body.text);

@@ -104,22 +104,22 @@ public:
           blank_(session) {
         // Those of earlier runs are for pages that nobody asked for again.
         records_.call("Delete");
-        if (blank_.isThere()) publish(rangeSource, std::string(blank_.name), "B1:B4", "");
+        if (blank_.isThere()) end(publish(rangeSource, std::string(blank_.name), "B1:B4", ""));
     }
 
-    void publishRow(const ExportItem& row) {
+    /// The row's record, which is still to be ended: its pictures may be drawn until then.
+    [[nodiscard]] Object publishRow(const ExportItem& row) {
         const std::string title = options_.useTitles ? row.caption : std::string();
-        if (row.isChartSheet()) {
-            publish(chartSource, row.sheet, "", title);
-        } else {
-            publish(rangeSource, row.sheet, addressOf(row), title);
-        }
+        Object record = row.isChartSheet() ? publish(chartSource, row.sheet, "", title)
+                                           : publish(rangeSource, row.sheet, addressOf(row), title);
         ++published_;
         constexpr std::int32_t mostLines = 100;
         const std::int32_t lines = std::min(mostLines, options_.skipLines);
         if (lines > 0 && blank_.isThere())
-            publish(rangeSource, std::string(blank_.name), fmt::format("A1:A{}", lines), "");
+            end(publish(rangeSource, std::string(blank_.name), fmt::format("A1:A{}", lines), ""));
+        return record;
     }
+    static void end(const Object& record) { record.put("AutoRepublish", false); }
 
     [[nodiscard]] int published() const { return published_; }
 
@@ -141,13 +141,13 @@ private:
             .toText();
     }
 
-    void publish(std::int32_t type, const std::string& sheet, const std::string& source,
-                 const std::string& title) {
+    [[nodiscard]] Object publish(std::int32_t type, const std::string& sheet,
+                                 const std::string& source, const std::string& title) {
         constexpr std::int32_t staticPage = 0;
-        const Object record =
+        Object record =
             records_.call("Add", type, page_, sheet, source, staticPage, "", title).toObject();
         record.call("Publish", false);
-        record.put("AutoRepublish", false);
+        return record;
     }
 
     OfficeSession& session_;
@@ -166,8 +166,8 @@ HtmlResult PublishRowsToHtml(RowBatch& batch, const HtmlOptions& options) {
     HtmlResult result;
     {
         Publishing publishing(session, options, files.page());
-        result.walk = walkRows(batch, [&](const catalogue::TakenRow&, const ExportItem& row) {
-            publishing.publishRow(row);
+        result.walk = walkRowsAhead(batch, [&](const catalogue::TakenRow&, const ExportItem& row) {
+            return [record = publishing.publishRow(row)] { Publishing::end(record); };
         });
         if (publishing.published() > 0) {
             result.file = files.keep();

@@ -98,9 +98,11 @@ WalkResult ExportRowsToImageFiles(RowBatch& batch, const ImageFileOptions& optio
     });
     session.host.makeFolder(names.folder());
     const WalkResult result =
-        walkRows(batch, [&](const catalogue::TakenRow& taken, const ExportItem& row) {
+        walkRowsAhead(batch, [&](const catalogue::TakenRow& taken, const ExportItem& row) {
             const std::string path = names.pathFor(row, taken.index);
-            session.host.writeImage(pictureOfRow(session, row), options.format, path);
+            return [&, path, picture = pictureOfRow(session, row)] {
+                session.host.writeImage(picture.png.get(), options.format, path);
+            };
         });
     session.ExcelApp.put("ScreenUpdating", true);
     return result;

@@ -8,19 +8,18 @@ namespace destinations {
 
 using session::OfficeSession;
 
-std::string copiedPicture(OfficeSession& session) {
+office::Picture copiedPicture(OfficeSession& session) {
     constexpr std::uint32_t arrivalMs = 500;
     session::SleepMilliseconds(session, arrivalMs);
-    const office::ClipboardPicture picture =
-        session.suite.clipboardPicture(office::ClipboardPicture::Kind::Bitmap);
-    if (picture.bytes.empty()) {
+    const office::CopiedPtr copied = session.suite.clipboard()->copied;
+    if (!copied) {
         throw office::Failure(office::FailureNumber::ApplicationDefined, "Clipboard",
                               "There is no picture of it");
     }
-    return {picture.bytes.begin(), picture.bytes.end()};
+    return copied->picture(office::Sharpness::Crisp);
 }
 
-std::string pictureOfRow(OfficeSession& session, const catalogue::ExportItem& row) {
+office::Picture pictureOfRow(OfficeSession& session, const catalogue::ExportItem& row) {
     session.suite.clearClipboard();
     catalogue::CopyRow(session, row);
     return copiedPicture(session);

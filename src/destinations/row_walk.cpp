@@ -2,6 +2,9 @@
 
 #include <fmt/format.h>
 
+#include <deque>
+#include <utility>
+
 #include "office/failure_patterns.h"
 
 namespace destinations {
@@ -17,6 +20,23 @@ std::int32_t takenRowsOfFiles(session::OfficeSession& session, const catalogue::
     return choices.predefinedSlides ? 0 : takenRows(session, list);
 }
 
+namespace {
+
+/// Does something for a row. Its failure is told if somebody wants to know, or ends the export.
+template <class Statement>
+void letHaveTurn(const RowBatch& batch, const catalogue::ExportItem& row,
+                 const Statement& statement) {
+    if (!batch.onFailedItem) return statement();
+    office::ContinueOnFailure scope;
+    if (scope.attempt(statement)) return;
+    const office::Failure failure = *scope.lastFailure();
+    // A full disk is one for every item.
+    if (failure.is(office::FailureNumber::PathFileAccess)) throw failure;
+    batch.onFailedItem(row, failure);
+}
+
+}  // namespace
+
 WalkResult walkRows(RowBatch& batch,
                     const std::function<void(const catalogue::TakenRow& taken,
                                              const catalogue::ExportItem& row)>& exportRow) {
@@ -28,24 +48,38 @@ WalkResult walkRows(RowBatch& batch,
         if (batch.session.progress.cancelled()) break;
         const catalogue::ExportItem& row = batch.list.rows[taken.index];
         batch.list.selected = static_cast<std::ptrdiff_t>(taken.index);
-        const auto turn = [&] {
+        letHaveTurn(batch, row, [&] {
             catalogue::ProgressStep(batch.session, result.done + 1, result.total);
             exportRow(taken, row);
-        };
-        if (!batch.onFailedItem) {
-            turn();
-        } else {
-            office::ContinueOnFailure scope;
-            if (!scope.attempt(turn)) {
-                const office::Failure failure = *scope.lastFailure();
-                // A full disk is one for every item.
-                if (failure.is(office::FailureNumber::PathFileAccess)) throw failure;
-                batch.onFailedItem(row, failure);
-            }
-        }
+        });
         ++result.done;
     }
     batch.list.selected = selected;
+    return result;
+}
+
+WalkResult walkRowsAhead(
+    RowBatch& batch,
+    const std::function<std::function<void()>(const catalogue::TakenRow& taken,
+                                              const catalogue::ExportItem& row)>& begin) {
+    // More would only hold more pictures.
+    constexpr std::size_t mostAhead = 4;
+    struct Begun {
+        const catalogue::ExportItem& row;
+        std::function<void()> end;
+    };
+    std::deque<Begun> begun;
+    const auto endFirst = [&] {
+        const Begun first = std::move(begun.front());
+        begun.pop_front();
+        letHaveTurn(batch, first.row, first.end);
+    };
+    const WalkResult result =
+        walkRows(batch, [&](const catalogue::TakenRow& taken, const catalogue::ExportItem& row) {
+            if (begun.size() == mostAhead) endFirst();
+            begun.push_back({row, begin(taken, row)});
+        });
+    while (!begun.empty()) endFirst();
     return result;
 }
 

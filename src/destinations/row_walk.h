@@ -45,6 +45,13 @@ WalkResult walkRows(RowBatch& batch,
                     const std::function<void(const catalogue::TakenRow& taken,
                                              const catalogue::ExportItem& row)>& exportRow);
 
+/// The same for rows that are drawn while the next ones have their turn. What `begin` returns ends
+/// the row's turn; it is called a few rows later, in the order of the rows, and fails as the row.
+WalkResult walkRowsAhead(
+    RowBatch& batch,
+    const std::function<std::function<void()>(const catalogue::TakenRow& taken,
+                                              const catalogue::ExportItem& row)>& begin);
+
 /// The notice after a walk that the user has cancelled; none otherwise.
 void tellIfCancelled(session::OfficeSession& session, const WalkResult& result);
 

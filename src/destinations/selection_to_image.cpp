@@ -42,7 +42,7 @@ void SaveSelectionAsImage(OfficeSession& session) {
     }
     const std::string folder = defaultImageFolder(session);
     const std::string file = folder + "/Murvane.png";
-    const std::string picture = copiedPicture(session);
+    const std::string picture = copiedPicture(session).png.get();
     session.host.makeFolder(folder);
     session.host.writeImage(picture, session::ImageFormat::Png, file);
     session.host.messageBox("Selection saved as " + file, "");

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "office/model/excel/sheet.h"
+#include "office/picture.h"
 
 namespace office::model::excel {
 
@@ -22,6 +25,8 @@ struct Publication {
     /// What names it within the page.
     std::string divId;
     std::string title;
+    /// Those of its page that may still be drawn, and their places.
+    std::vector<std::pair<std::filesystem::path, Picture>> pictures = {};
 };
 
 using PublicationPtr = std::shared_ptr<Publication>;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
 #include "office/model/excel/cells_as_page.h"
 #include "office/model/excel/objects.h"
@@ -16,7 +17,7 @@ namespace {
 /// Puts what a record names on its page.
 class Publisher {
 public:
-    Publisher(const InBook& home, const Publication& what, std::string source)
+    Publisher(const InBook& home, Publication& what, std::string source)
         : home_(home),
           what_(what),
           source_(std::move(source)),
@@ -34,6 +35,12 @@ public:
         page_.append(markup);
     }
 
+    /// Waits for the pictures of a record and writes them. Without them the page has gaps.
+    static void end(Publication& what) {
+        for (const auto& [place, picture] : std::exchange(what.pictures, {}))
+            writePagePicture(place, picture.png.get());
+    }
+
 private:
     [[nodiscard]] PagePicture pictureOf(const InSheet& place, SheetChart& chart) {
         CopySource source = sourceOf(place, CopySource::Kind::Chart);
@@ -41,7 +48,8 @@ private:
         const CopiedPtr copied = chart.copy(std::move(source));
         const Box at = place.sheet->isChartSheet() ? Box{} : chart.box();
         std::string name = place.sheet->isChartSheet() ? place.sheet->knownName() : chart.name();
-        return {page_.addPicture(copied->png()),
+        what_.pictures.emplace_back(page_.placeForPicture(), copied->picture(Sharpness::Crisp));
+        return {page_.addressOf(what_.pictures.back().first),
                 std::move(name),
                 {at.left, at.top, copied->widthPt(), copied->heightPt()}};
     }
@@ -99,12 +107,14 @@ private:
     }
 
     const InBook& home_;
-    const Publication& what_;
+    Publication& what_;
     std::string source_;
     PublishedPage page_;
 };
 
-/// One record. Publishing it by itself after each save is what this Excel doesn't do.
+/// One record. Its pictures may still be drawn when its publishing has returned; they are there
+/// once it has been told not to be published again. Publishing it by itself after each save is what
+/// this Excel doesn't do.
 class PublishObject : public ObjectIn<PublishObject> {
 public:
     PublishObject(InBook home, PublicationPtr what)
@@ -127,10 +137,11 @@ public:
                     [](Self& self, const Value& title) { self.what_->title = title.toText(); })
                 .property(
                     "AutoRepublish", [](Self&) { return false; },
-                    [](Self&, const Value& wanted) {
+                    [](Self& self, const Value& wanted) {
                         if (wanted.toBool())
                             refuse("PublishObject.AutoRepublish",
                                    "Pages are not published again by themselves here");
+                        Publisher::end(*self.what_);
                     })
                 .method("Publish", {"Create"},
                         [](Self& self, const CallArguments& arguments) {

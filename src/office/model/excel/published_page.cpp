@@ -106,7 +106,7 @@ void PublishedPage::append(std::string_view markup) const {
     failToWrite(file_);
 }
 
-std::string PublishedPage::addPicture(std::string_view png) {
+fs::path PublishedPage::placeForPicture() {
     const fs::path folder = file_.parent_path() / (file_.stem().string() + "_files");
     std::error_code error;
     fs::create_directory(folder, error);
@@ -115,8 +115,16 @@ std::string PublishedPage::addPicture(std::string_view png) {
     do {
         picture = folder / fmt::format("image{:03}.png", ++lastPicture_);
     } while (fs::exists(fs::symlink_status(picture, error)));
-    writeNew(picture, png);
-    return addressWord(folder.filename().string()) + "/" + picture.filename().string();
+    return picture;
+}
+
+std::string PublishedPage::addressOf(const fs::path& picture) const {
+    return addressWord(picture.parent_path().filename().string()) + "/" +
+           picture.filename().string();
+}
+
+void writePagePicture(const fs::path& place, std::string_view png) {
+    writeNew(place, png);
 }
 
 }  // namespace office::model::excel

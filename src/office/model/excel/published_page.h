@@ -21,13 +21,17 @@ public:
     void begin(std::string_view title) const;
     /// Adds markup ahead of the end of the body. `Failure` 1004 for a file that has none.
     void append(std::string_view markup) const;
-    /// Keeps a picture beside the page, under a name that is free. The address that the page finds
-    /// it by.
-    [[nodiscard]] std::string addPicture(std::string_view png);
+    /// Makes room for a picture beside the page: the path of a file that is not there yet.
+    [[nodiscard]] std::filesystem::path placeForPicture();
+    /// The address that the page finds such a file by.
+    [[nodiscard]] std::string addressOf(const std::filesystem::path& picture) const;
 
 private:
     std::filesystem::path file_;
     int& lastPicture_;
 };
+
+/// Puts a picture into its place.
+void writePagePicture(const std::filesystem::path& place, std::string_view png);
 
 }  // namespace office::model::excel
