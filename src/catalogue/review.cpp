@@ -172,6 +172,10 @@ void reviewFormat(session::OfficeSession& session, const ExportList& list, Expor
                         .sheet = row.sheet,
                         .chart = row.isEmbeddedChart() ? row.name : "",
                         .address = {}}});
+        // What a table would lose is found by its cells.
+        if (isRange && format == ExportFormat::Editable)
+            items.back().source.address = scope.read(
+                [&] { return rangeOf(session, row).get("Address").toText(); }, std::string());
     }
     const auto as = format == ExportFormat::Editable   ? office::PasteAs::Default
                     : format == ExportFormat::Embedded ? office::PasteAs::Embedded

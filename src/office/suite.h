@@ -31,7 +31,7 @@ struct ClipboardPicture {
 /// Something that is to be pasted, under the name that the user knows it by.
 struct PasteItem {
     std::string name;
-    /// As far as it is known before the copy: the address of cells is not.
+    /// As far as it is known before the copy. Cells have an address if they are to be a table.
     CopySource source;
 };
 

@@ -4,6 +4,7 @@ import json
 import subprocess
 import unittest
 
+import xlsxwriter
 from program import SAMPLES, Package, ProgramTest, colours_of, png_size, slides_of
 from validator import faults
 
@@ -99,6 +100,28 @@ class TheSampleWorkbook(ProgramTest):
         text = subprocess.run(["pdftotext", str(self.folder / "Result.pdf"), "-"], check=True, capture_output=True,
                               text=True).stdout
         self.assertEqual(text.count("\f"), len(slides))
+
+    def test_says_what_tables_lose_before_it_writes_any(self):
+        path, output = self.folder / "losses.xlsx", self.folder / "losses.pptx"
+        book = xlsxwriter.Workbook(path)
+        sheet, bold = book.add_worksheet("Data"), book.add_format({"bold": True})
+        sheet.write_column("B1", [1, 2, 3, 4])
+        sheet.write_rich_string("A1", "plain and ", bold, "bold")
+        sheet.write("A2", "two\nlines, one look")
+        sheet.write_comment("A3", "a note covers nothing")
+        sheet.conditional_format("B1:B4", {"type": "icon_set", "icon_style": "3_arrows"})
+        sheet.insert_textbox("E5", "over the cells")
+        for name, cells in (("Big", "$A$1:$CV$51"), ("Signs", "$B$2:$C$9"), ("Words", "$A$1:$A$3"),
+                            ("Covered", "$D$4:$F$9"), ("All of it", "$A$1:$F$9"), ("Plain", "$A$2:$A$9")):
+            book.define_name(name.replace(" ", "_"), f"=Data!{cells}")
+        book.close()
+        code, _, errors = self.run_program(path, "--all", "--check", "--format", "editable", "--output", output)
+        self.assertEqual(code, 0, errors)
+        self.assertFalse(output.exists())
+        for loss, names in (("icons", '"All_of_it" and "Signs"'), ("look", '"All_of_it" and "Words"'),
+                            ("drawings", '"All_of_it" and "Covered"'), ("5,000", '"Big"')):
+            self.assertRegex(errors, f"(?m)^  - [^\"]*{names} .*{loss}")
+        self.assertNotIn("Plain", errors)
 
     def test_goes_in_vectors_to_where_its_pictures_stand(self):
         kinds = {item["kind"]: f'{item["name"]}@{item["sheet"]}' for item in self.items() if item["checked"]}

@@ -1,6 +1,7 @@
 #include "apps/murvane_export/file_suite.h"
 
 #include <filesystem>
+#include <utility>
 
 #include "apps/utf8.h"
 #include "office/package/document/document_file.h"
@@ -69,7 +70,13 @@ office::Object FileSuite::start(std::string_view className) {
 std::vector<std::string> FileSuite::remarksOn(std::string_view className, office::PasteAs as,
                                               const std::vector<office::PasteItem>& items) {
     if (!fileApplication(className)) return below_.remarksOn(className, as, items);
-    return package::pasteRemarks(as, items, *workbooks_, embedsSheetAlone_);
+    auto remarks = package::pasteRemarks(as, items, *workbooks_, embedsSheetAlone_);
+    // Tables are made of what the suite says of the cells, wherever they go.
+    if (as == office::PasteAs::Default) {
+        for (std::string& line : below_.remarksOn(className, as, items))
+            remarks.push_back(std::move(line));
+    }
+    return remarks;
 }
 
 // Only presentations are looked for by their windows.

@@ -10,7 +10,9 @@
 #include "office/failure.h"
 #include "office/libreoffice/desk.h"
 #include "office/libreoffice/excel/application.h"
+#include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/copied.h"
+#include "office/libreoffice/excel/table_losses.h"
 #include "office/libreoffice/guard.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/private_instance.h"
@@ -153,6 +155,11 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
                                                      const std::vector<office::PasteItem>& items) {
     std::vector<std::string> remarks;
     if (!desk_) return remarks;
+    if (as == office::PasteAs::Default)
+        return translated("Suite.remarksOn", [&] {
+            const auto book = desk_->activeWorkbook();
+            return book ? excel::lossesOfTables(*book, items) : remarks;
+        });
     const bool isUnsaved = std::any_of(items.begin(), items.end(),
                                        [](const auto& item) { return item.source.file.empty(); });
     if (as == office::PasteAs::Linked && isUnsaved)

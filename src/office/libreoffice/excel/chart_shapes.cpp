@@ -44,6 +44,8 @@ Identity identityOf(const uno::Reference<css::drawing::XShape>& shape) {
     return {office::lowerCase(text(0)), text(1), text(2)};
 }
 
+}  // namespace
+
 uno::Reference<css::drawing::XDrawPage> drawPageOf(
     const uno::Reference<css::sheet::XSpreadsheet>& sheet) {
 // Marked as deprecated, yet the only way from a sheet to its shapes.
@@ -52,8 +54,6 @@ uno::Reference<css::drawing::XDrawPage> drawPageOf(
     return as<css::drawing::XDrawPageSupplier>(sheet)->getDrawPage();
 #pragma GCC diagnostic pop
 }
-
-}  // namespace
 
 ChartShape::ChartShape(CalcDocument& book, uno::Reference<css::drawing::XShape> shape,
                        std::string name, bool hasName)

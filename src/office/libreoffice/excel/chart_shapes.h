@@ -3,6 +3,7 @@
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/container/XNamed.hpp>
+#include <com/sun/star/drawing/XDrawPage.hpp>
 #include <com/sun/star/drawing/XShape.hpp>
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
 #include <com/sun/star/table/XTableChartsSupplier.hpp>
@@ -18,6 +19,10 @@
 namespace libreoffice::excel {
 
 class CalcDocument;
+
+/// All that lies on a sheet.
+[[nodiscard]] uno::Reference<css::drawing::XDrawPage> drawPageOf(
+    const uno::Reference<css::sheet::XSpreadsheet>& sheet);
 
 /// The shape that shows a chart on a sheet. A chart made in LibreOffice may have no name; then the
 /// key under which the document stores it stands for one.

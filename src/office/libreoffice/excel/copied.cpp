@@ -138,8 +138,7 @@ uno::Reference<css::graphic::XGraphic> CopiedCells::graphic() const {
 }
 
 office::TableLook CopiedCells::table() const {
-    // More are no table that anybody reads on a slide.
-    return tableUpTo(5000);
+    return tableUpTo(mostCellsOfTable);
 }
 
 office::TableLook CopiedCells::tableOfPage() const {

@@ -42,21 +42,27 @@ model::CellBlock wholeCells(const SheetRecord& sheet, const model::CellBlock& bl
     return blockOf(as<css::sheet::XCellRangeAddressable>(cursor)->getRangeAddress());
 }
 
-ShownLines shownLinesOf(const uno::Reference<css::table::XCellRange>& cells,
-                        std::size_t mostCells) {
+/// Nothing if they have more cells than that.
+std::optional<ShownLines> shownLinesUpTo(const uno::Reference<css::table::XCellRange>& cells,
+                                         std::size_t mostCells) {
     std::set<std::int32_t> columns, rows;
     const auto shown = as<css::sheet::XCellRangesQuery>(cells)->queryVisibleCells();
     for (const css::table::CellRangeAddress& part : shown->getRangeAddresses()) {
-        if (blockOf(part).cells() > static_cast<double>(mostCells))
-            refuseTable("These are too many cells for a table");
+        if (blockOf(part).cells() > static_cast<double>(mostCells)) return std::nullopt;
         for (sal_Int32 column = part.StartColumn; column <= part.EndColumn; ++column)
             columns.insert(column);
         for (sal_Int32 row = part.StartRow; row <= part.EndRow; ++row) rows.insert(row);
     }
-    if (columns.empty()) refuseTable("There is nothing to make a table of");
-    if (columns.size() * rows.size() > mostCells)
-        refuseTable("These are too many cells for a table");
-    return {{columns.begin(), columns.end()}, {rows.begin(), rows.end()}};
+    if (columns.size() * rows.size() > mostCells) return std::nullopt;
+    return ShownLines{{columns.begin(), columns.end()}, {rows.begin(), rows.end()}};
+}
+
+ShownLines shownLinesOf(const uno::Reference<css::table::XCellRange>& cells,
+                        std::size_t mostCells) {
+    auto shown = shownLinesUpTo(cells, mostCells);
+    if (!shown) refuseTable("These are too many cells for a table");
+    if (shown->columns.empty()) refuseTable("There is nothing to make a table of");
+    return *std::move(shown);
 }
 
 /// The widths of columns or the heights of rows. Those that are known in pixels of the screen are
@@ -326,6 +332,10 @@ bool areBlank(SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& 
 }
 
 }  // namespace
+
+bool isTooLargeForTable(SheetRecord& sheet, const model::CellBlock& block, std::size_t mostCells) {
+    return !shownLinesUpTo(sheet.range(wholeCells(sheet, block)), mostCells);
+}
 
 std::optional<TableLook> tableOfBlankCells(SheetRecord& sheet, const model::CellBlock& block) {
     const auto cells = sheet.range(wholeCells(sheet, block));

@@ -7,12 +7,19 @@
 
 namespace libreoffice::excel {
 
+/// More are no table that anybody reads on a slide.
+constexpr std::size_t mostCellsOfTable = 5000;
+
 /// A block of cells as it is seen, in a number of calls that grows with the formats in it and not
 /// with the cells. Merged cells that stick out of the block belong to it. The user's clipboard
 /// stays, his selection is put back. `office::Failure` 1004 if nothing of it is shown, or more
 /// cells than that.
 [[nodiscard]] office::TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block,
                                              std::size_t mostCells);
+
+/// Whether more of a block is shown than that, merged cells that stick out included.
+[[nodiscard]] bool isTooLargeForTable(SheetRecord& sheet, const model::CellBlock& block,
+                                      std::size_t mostCells);
 
 /// One cell of the size of a block of which nothing is seen; nothing for another. It may be one
 /// that conditions would dress up: then the table tells.

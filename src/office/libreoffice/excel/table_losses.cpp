@@ -1,0 +1,174 @@
+#include "office/libreoffice/excel/table_losses.h"
+
+#include <com/sun/star/beans/XPropertyState.hpp>
+#include <com/sun/star/lang/XServiceInfo.hpp>
+#include <com/sun/star/sheet/CellFlags.hpp>
+#include <com/sun/star/sheet/ConditionEntryType.hpp>
+#include <com/sun/star/sheet/XCellRangesQuery.hpp>
+#include <com/sun/star/sheet/XConditionEntry.hpp>
+#include <com/sun/star/sheet/XConditionalFormat.hpp>
+#include <com/sun/star/sheet/XConditionalFormats.hpp>
+#include <com/sun/star/sheet/XSheetCellRanges.hpp>
+#include <com/sun/star/text/XText.hpp>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+
+#include "office/item_remarks.h"
+#include "office/libreoffice/excel/table_of_cells.h"
+
+namespace libreoffice::excel {
+
+namespace {
+
+using model::CellBlock;
+using office::ItemRemarks;
+
+static_assert(mostCellsOfTable == 5000, "the texts say so");
+const ItemRemarks::Text tooLarge = {
+    "{} can't be a table and will be left out: it has more than 5,000 cells.",
+    "{} can't be tables and will be left out: each has more than 5,000 cells."};
+const ItemRemarks::Text icons = {"The table of {} will be without the icons in its cells.",
+                                 "The tables of {} will be without the icons in their cells."};
+const ItemRemarks::Text severalLooks = {
+    "In the table of {} the text of each cell will have one look alone, where it has several now.",
+    "In the tables of {} the text of each cell will have one look alone, where it has several "
+    "now."};
+const ItemRemarks::Text drawings = {
+    "The table of {} will be without the charts and drawings that lie on it.",
+    "The tables of {} will be without the charts and drawings that lie on them."};
+
+struct Frame {
+    css::awt::Point corner;
+    css::awt::Size size;
+
+    [[nodiscard]] bool meets(const PlaceOfCells& cells) const {
+        return corner.X < cells.corner.X + cells.size.Width &&
+               cells.corner.X < corner.X + size.Width &&
+               corner.Y < cells.corner.Y + cells.size.Height &&
+               cells.corner.Y < corner.Y + size.Height;
+    }
+};
+
+/// Whatever lies on a sheet and is part of a picture of its cells.
+std::vector<Frame> framesOn(const SheetRecord& sheet) {
+    // On a sheet of more the first ones tell enough.
+    constexpr sal_Int32 most = 200;
+    const auto page = drawPageOf(sheet.sheet());
+    std::vector<Frame> frames;
+    const sal_Int32 count = std::min(page->getCount(), most);
+    for (sal_Int32 i = 0; i < count; ++i) {
+        const uno::Reference<css::drawing::XShape> shape(page->getByIndex(i), uno::UNO_QUERY);
+        if (!shape.is()) continue;
+        // The frames of notes.
+        if (as<css::lang::XServiceInfo>(shape)->supportsService(
+                "com.sun.star.drawing.CaptionShape"))
+            continue;
+        frames.push_back({shape->getPosition(), shape->getSize()});
+    }
+    return frames;
+}
+
+/// The cells whose conditional formats draw icons.
+std::vector<CellBlock> blocksWithIcons(const SheetRecord& sheet) {
+    std::vector<CellBlock> blocks;
+    const auto formats = property<uno::Reference<css::sheet::XConditionalFormats>>(
+        sheet.sheet(), "ConditionalFormats");
+    if (!formats.is()) return blocks;
+    const auto all = formats->getConditionalFormats();
+    for (const auto& format : all) {
+        bool hasIcons = false;
+        for (sal_Int32 i = 0; i < format->getCount() && !hasIcons; ++i) {
+            const uno::Reference<css::sheet::XConditionEntry> entry(format->getByIndex(i),
+                                                                    uno::UNO_QUERY_THROW);
+            hasIcons = entry->getType() == css::sheet::ConditionEntryType::ICONSET;
+        }
+        if (!hasIcons) continue;
+        const auto ranges = property<uno::Reference<css::sheet::XSheetCellRanges>>(format, "Range");
+        for (const auto& address : ranges->getRangeAddresses()) blocks.push_back(blockOf(address));
+    }
+    return blocks;
+}
+
+/// Whether parts of a cell's text look different. The suite calls a look ambiguous then, whichever
+/// it is asked for.
+bool hasSeveralLooks(const uno::Reference<css::table::XCell>& cell) {
+    const auto cursor = as<css::text::XText>(cell)->createTextCursor();
+    cursor->gotoStart(false);
+    cursor->gotoEnd(true);
+    return as<css::beans::XPropertyState>(cursor)->getPropertyState("CharColor") ==
+           css::beans::PropertyState_AMBIGUOUS_VALUE;
+}
+
+/// Looks into some of the cells that the suite keeps as formatted text, which those with lines
+/// broken by hand are too.
+bool hasCellOfSeveralLooks(const SheetRecord& sheet, const CellBlock& block) {
+    constexpr int most = 20;
+    const auto formatted = as<css::sheet::XCellRangesQuery>(sheet.range(block))
+                               ->queryContentCells(css::sheet::CellFlags::FORMATTED);
+    int seen = 0;
+    const auto addresses = formatted->getRangeAddresses();
+    for (const css::table::CellRangeAddress& part : addresses) {
+        for (sal_Int32 row = part.StartRow; row <= part.EndRow; ++row) {
+            for (sal_Int32 column = part.StartColumn; column <= part.EndColumn; ++column) {
+                if (seen++ == most) return false;
+                if (hasSeveralLooks(sheet.sheet()->getCellByPosition(column, row))) return true;
+            }
+        }
+    }
+    return false;
+}
+
+class LossesOfSheet {
+public:
+    explicit LossesOfSheet(std::shared_ptr<SheetRecord> sheet)
+        : sheet_(std::move(sheet)),
+          icons_(blocksWithIcons(*sheet_)),
+          frames_(framesOn(*sheet_)) {}
+
+    void tell(const office::PasteItem& item, const CellBlock& block, ItemRemarks& remarks) const {
+        if (block.cells() > static_cast<double>(mostCellsOfTable) &&
+            isTooLargeForTable(*sheet_, block, mostCellsOfTable)) {
+            remarks.add(tooLarge, item);
+            return;
+        }
+        if (std::any_of(icons_.begin(), icons_.end(), [&](const CellBlock& each) {
+                return intersection(each, block).has_value();
+            }))
+            remarks.add(icons, item);
+        if (hasCellOfSeveralLooks(*sheet_, block)) remarks.add(severalLooks, item);
+        if (frames_.empty()) return;
+        const PlaceOfCells place = excel::placeOf(sheet_->range(block));
+        if (std::any_of(frames_.begin(), frames_.end(),
+                        [&](const Frame& frame) { return frame.meets(place); }))
+            remarks.add(drawings, item);
+    }
+
+private:
+    std::shared_ptr<SheetRecord> sheet_;
+    std::vector<CellBlock> icons_;
+    std::vector<Frame> frames_;
+};
+
+}  // namespace
+
+std::vector<std::string> lossesOfTables(CalcDocument& book,
+                                        const std::vector<office::PasteItem>& items) {
+    std::map<std::string, std::unique_ptr<const LossesOfSheet>> sheets;
+    ItemRemarks remarks;
+    for (const office::PasteItem& item : items) {
+        const auto block = model::blockOf(item.source.address);
+        if (item.source.kind != office::CopySource::Kind::Cells || !block) continue;
+        auto& losses = sheets[item.source.sheet];
+        if (!losses) {
+            auto sheet = std::dynamic_pointer_cast<SheetRecord>(book.findSheet(item.source.sheet));
+            if (!sheet) continue;
+            losses = std::make_unique<const LossesOfSheet>(std::move(sheet));
+        }
+        losses->tell(item, *block, remarks);
+    }
+    return remarks.lines();
+}
+
+}  // namespace libreoffice::excel
