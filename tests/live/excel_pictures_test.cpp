@@ -82,6 +82,37 @@ TEST_F(ExcelPictures, ExportsChartsCrispAtTheirTrueSizeAndTransparentWhereTheirB
     }
 }
 
+/// Of the colours of all pixels.
+double meanDifference(const std::string& one, const std::string& other) {
+    const support::PngPixels first = support::pixelsOf(one);
+    const support::PngPixels second = support::pixelsOf(other);
+    if (first.rgba.size() != second.rgba.size()) return 255;
+    double sum = 0;
+    for (std::size_t i = 0; i < first.rgba.size(); ++i)
+        sum += std::abs(first.rgba[i] - second.rgba[i]);
+    return sum / static_cast<double>(first.rgba.size());
+}
+
+TEST_F(ExcelPictures, LooksInTheDrawingRoomAsTheSuiteDrawsIt) {
+    const Object book = open("cells.xlsx");
+    excel::PictureMaker& maker = excel::pictureMaker(*desk);
+    const std::string own = file("own.png");
+    for (const auto& [name, cells] : {std::pair{"Data", "A1:C12"}, std::pair{"Wide", "A1:C4"}}) {
+        sheet(book, name).get("Range", cells).call("CopyPicture", 1, -4147);
+        const auto& copied = dynamic_cast<const excel::CopiedPicture&>(*desk->clipboard().copied);
+        EXPECT_EQ(maker.drawnOtherwise(copied.metafile()), "");
+        maker.suite().writeMetafile(copied.metafile(), copied.size(), own);
+        EXPECT_LT(meanDifference(copied.png(), bytesOf(own)), 1) << name;
+    }
+    const Object charts = open("charts.xlsx");
+    const auto plain = shapeOf("Data", 0);
+    const auto metafile = maker.suite().metafileOf(plain->shape());
+    EXPECT_EQ(maker.drawnOtherwise(metafile), "");
+    maker.suite().writeChart(plain->shape(), own);
+    const auto ours = maker.chart(plain->shape(), office::Sharpness::Crisp);
+    EXPECT_LT(meanDifference(ours.png.get(), bytesOf(own)), 1);
+}
+
 TEST_F(ExcelPictures, ShowsTheDataOfTheMoment) {
     const Object book = open("charts.xlsx");
     const Object data = sheet(book, "Data");

@@ -8,8 +8,6 @@ namespace live {
 
 namespace {
 
-using libreoffice::excel::contentOf;
-
 std::string mended(const std::string& content) {
     return libreoffice::excel::mended(
         {.text =
@@ -61,32 +59,7 @@ TEST(SuiteSvg, IsMendedWhereTheExporterErrs) {
          }) {
         const std::string svg = mended(written);
         EXPECT_NE(svg.find(wanted), std::string::npos) << svg;
-        EXPECT_EQ(contentOf(svg).drawnOtherwise, "");
     }
-}
-
-TEST(SuiteSvg, SaysWhatOthersDrawOtherwise) {
-    struct Case {
-        std::string content;
-        std::string reason;
-    };
-    const std::string seenThrough =
-        R"svg(<g style="opacity: 0.4"/><g clip-path="url(#a)"><path/></g>)svg";
-    for (const auto& [content, reason] : {
-             Case{"<path/><text>Größe 12 € Πωλήσεις 売上高</text>", ""},
-             Case{"<g><image/></g>", "image"},
-             Case{"<defs><pattern/></defs>", "pattern"},
-             Case{"<text transform=\"scale(2 1)\">a</text>", "transformed text"},
-             Case{"<text>מכירות</text>", "script"},
-             Case{"<text>المبيعات</text>", "script"},
-             Case{"<text>📈</text>", "script"},
-             Case{"<text>ยอดขาย</text>", "script"},
-             Case{seenThrough, ""},
-             // Who knows what the second one belongs to.
-             Case{seenThrough + R"svg(<g clip-path="url(#b)"><path/></g>)svg", "transparency"},
-         })
-        EXPECT_EQ(contentOf(mended(content)).drawnOtherwise, reason) << content;
-    EXPECT_EQ(contentOf("<svg").drawnOtherwise, "not an SVG");
 }
 
 }  // namespace

@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
-#include <spng.h>
 
 #include <cstdint>
 #include <filesystem>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -31,43 +29,19 @@ VectorPicture picture(std::int32_t width, std::int32_t height, bool isTranslucen
             isTranslucent};
 }
 
-struct Pixels {
-    std::uint32_t width = 0;
-    std::vector<std::uint8_t> rgba;
-    std::string at(std::uint32_t x, std::uint32_t y) const {
-        std::string words;
-        for (std::size_t i = 0; i < 4; ++i)
-            words += std::to_string(rgba[(std::size_t{y} * width + x) * 4 + i]) + " ";
-        return words;
-    }
-};
-
-Pixels decoded(const std::string& png) {
-    const std::unique_ptr<spng_ctx, decltype(&spng_ctx_free)> context(spng_ctx_new(0),
-                                                                      &spng_ctx_free);
-    spng_set_png_buffer(context.get(), png.data(), png.size());
-    spng_ihdr head{};
-    spng_get_ihdr(context.get(), &head);
-    Pixels pixels{head.width, {}};
-    pixels.rgba.resize(std::size_t{head.width} * head.height * 4);
-    EXPECT_EQ(
-        spng_decode_image(context.get(), pixels.rgba.data(), pixels.rgba.size(), SPNG_FMT_RGBA8, 0),
-        SPNG_OK);
-    return pixels;
-}
-
 TEST(Drawing, FillsThePictureWithTheVectorsWhateverItsSizeAndBackground) {
     // The last one is drawn in strips, whose edges lie inside the areas.
     const std::vector<std::pair<std::int32_t, std::int32_t>> sizes = {
         {200, 100}, {400, 100}, {300, 600}, {4000, 4000}};
     for (const auto& [width, height] : sizes) {
         SCOPED_TRACE(std::to_string(width) + "x" + std::to_string(height));
-        const auto at = [&](const Pixels& pixels, double x, double y) {
+        const auto at = [&](const support::PngPixels& pixels, double x, double y) {
             return pixels.at(static_cast<std::uint32_t>(x * width),
                              static_cast<std::uint32_t>(y * height));
         };
         for (const bool isTranslucent : {false, true}) {
-            const Pixels drawn = decoded(pngOf(picture(width, height, isTranslucent)));
+            const support::PngPixels drawn =
+                support::pixelsOf(pngOf(picture(width, height, isTranslucent)));
             for (const double y : {0.01, 0.37, 0.375, 0.38, 0.74, 0.78})
                 EXPECT_EQ(at(drawn, 0.2, y), "255 0 0 255 ");
             EXPECT_EQ(at(drawn, 0.8, 0.4), isTranslucent ? "0 0 0 0 " : "255 255 255 255 ");
@@ -82,7 +56,7 @@ TEST(Drawing, GivesEachPictureItsOwnBytesAndEqualOnesTheSameLook) {
     for (std::int32_t i = 0; i < 40; ++i)
         pictures.push_back(room.draw(picture(20 + i % 20, 10, false)));
     for (std::size_t i = 0; i < pictures.size(); ++i) {
-        EXPECT_EQ(decoded(pictures[i].png.get()).width, 20 + i % 20);
+        EXPECT_EQ(support::pixelsOf(pictures[i].png.get()).width, 20 + i % 20);
         EXPECT_EQ(pictures[i].look == pictures[20].look, i % 20 == 0);
     }
 }
@@ -105,7 +79,7 @@ TEST(Drawing, WritesFilesThatAreWholeWhenAskedForAndGoneWhenTaken) {
         }
         const auto picture = room.take(taken);
         ASSERT_TRUE(picture);
-        EXPECT_EQ(decoded(picture->png.get()).width, 200U);
+        EXPECT_EQ(support::pixelsOf(picture->png.get()).width, 200U);
         EXPECT_FALSE(std::filesystem::exists(taken));
     }
     EXPECT_FALSE(room.take(taken));
@@ -116,19 +90,19 @@ TEST(Drawing, WritesFilesThatAreWholeWhenAskedForAndGoneWhenTaken) {
 TEST(Drawing, SaysWhatItCanNotDrawOrWrite) {
     const support::TemporaryFolder folder;
     const std::string secret = folder.file("secret.svg");
-    const std::string red = picture(20, 20, false).svg;
+    const std::string red = picture(20, 20, false).vectors;
     support::writeBytes(secret, {red.begin(), red.end()});
     VectorPicture broken = picture(10, 10, false);
-    broken.svg = "<svg";
+    broken.vectors = "<svg";
     VectorPicture empty = picture(0, 10, false);
     for (const VectorPicture& bad : {broken, empty})
         EXPECT_EQ(support::failureOf([&] { static_cast<void>(pngOf(bad)); }), cannotBeMade);
 
     VectorPicture curious = picture(20, 20, true);
-    curious.svg =
+    curious.vectors =
         R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 2 2"><image width="2" height="2" href="file://)" +
         secret + R"("/></svg>)";
-    EXPECT_EQ(decoded(pngOf(curious)).at(10, 10), "0 0 0 0 ");
+    EXPECT_EQ(support::pixelsOf(pngOf(curious)).at(10, 10), "0 0 0 0 ");
 
     DrawingRoom room(1);
     const std::string nowhere = folder.file("none/a.png");

@@ -51,6 +51,26 @@ double PngSize::points(std::uint32_t pixels) const {
     return pixels / dotsPerInch() * pointsPerInch;
 }
 
+std::string PngPixels::at(std::uint32_t x, std::uint32_t y) const {
+    constexpr std::size_t channels = 4;
+    std::string words;
+    for (std::size_t i = 0; i < channels; ++i)
+        words += std::to_string(rgba.at((std::size_t{y} * width + x) * channels + i)) + " ";
+    return words;
+}
+
+PngPixels pixelsOf(const std::string& png) {
+    png_image image{};
+    image.version = PNG_IMAGE_VERSION;
+    if (png_image_begin_read_from_memory(&image, png.data(), png.size()) == 0)
+        throw std::runtime_error(image.message);
+    image.format = PNG_FORMAT_RGBA;
+    PngPixels pixels{image.width, image.height, Bytes(PNG_IMAGE_SIZE(image))};
+    if (png_image_finish_read(&image, nullptr, pixels.rgba.data(), 0, nullptr) == 0)
+        throw std::runtime_error(image.message);
+    return pixels;
+}
+
 Bytes pngPicture(const PngSize& size) {
     Bytes bytes;
     const Png png(png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, refuse, nullptr),

@@ -21,6 +21,18 @@ private:
     [[nodiscard]] double points(std::uint32_t pixels) const;
 };
 
+struct PngPixels {
+    std::uint32_t width = 0;
+    std::uint32_t height = 0;
+    std::vector<std::uint8_t> rgba;
+
+    /// Red, green, blue and alpha in words, such as "255 0 0 255 ".
+    [[nodiscard]] std::string at(std::uint32_t x, std::uint32_t y) const;
+};
+
+/// Of a file's bytes. Throws `std::runtime_error` if they are no PNG.
+PngPixels pixelsOf(const std::string& png);
+
 /// A black and white picture with a frame and a diagonal, so that it isn't blank.
 std::vector<std::uint8_t> pngPicture(const PngSize& size);
 

@@ -4,7 +4,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <utility>
 
 #include "office/failure_patterns.h"
 #include "office/libreoffice/excel/application.h"
@@ -21,15 +20,23 @@ namespace {
 using libreoffice::pointsOf;
 using libreoffice::excel::PictureSize;
 
-std::string bytesOf(const std::string& file) {
+std::string contentOf(const std::string& file) {
     std::ifstream stream(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-std::string drawn(std::string svg, const PictureSize& size, bool isTranslucent) {
+/// Empty if the room knows no way to draw it.
+std::string drawnByRoom(const libreoffice::uno::Sequence<sal_Int8>& metafile,
+                        const PictureSize& size, bool isTranslucent) {
     const auto pixels = libreoffice::excel::pixelsOf(size, office::Sharpness::Crisp);
-    return office::drawing::pngOf({std::move(svg), pixels.width, pixels.height,
-                                   pointsOf(size.width), pointsOf(size.height), isTranslucent});
+    office::ContinueOnFailure scope;
+    std::string png;
+    scope.attempt([&] {
+        png = office::drawing::pngOf({std::string(libreoffice::excel::bytesOf(metafile)),
+                                      pixels.width, pixels.height, pointsOf(size.width),
+                                      pointsOf(size.height), isTranslucent});
+    });
+    return png;
 }
 
 }  // namespace
@@ -57,13 +64,10 @@ void BookPictures::forEach(const std::string& book, const std::function<void(con
         for (const auto& chart : sheet->chartShapes().all()) {
             const auto size = chart->shape()->getSize();
             suite.writeChart(chart->shape(), file);
-            std::string svg = suite.svgOfChart(chart->shape());
-            std::string reason = maker.drawnOtherwise(svg);
-            use({bookName, chart->knownName(), bytesOf(file),
-                 svg.empty() ? std::string()
-                             : drawn(std::move(svg), {size.Width, size.Height},
-                                     !excel::isOpaque(chart->shape())),
-                 std::move(reason)});
+            const auto metafile = suite.metafileOf(chart->shape());
+            use({bookName, chart->knownName(), contentOf(file),
+                 drawnByRoom(metafile, {size.Width, size.Height}, !excel::isOpaque(chart->shape())),
+                 maker.drawnOtherwise(metafile)});
         }
     }
     const office::Object names = opened.get("Names").toObject();
@@ -77,11 +81,9 @@ void BookPictures::forEach(const std::string& book, const std::function<void(con
             dynamic_cast<const excel::CopiedPicture*>(desk_->clipboard().copied.get());
         if (!isCopied || copied == nullptr) continue;
         suite.writeMetafile(copied->metafile(), copied->size(), file);
-        std::string svg = suite.svgOfMetafile(copied->metafile(), copied->size());
-        std::string reason = maker.drawnOtherwise(svg);
-        use({bookName, name.get("Name").toText(), bytesOf(file),
-             svg.empty() ? std::string() : drawn(std::move(svg), copied->size(), false),
-             std::move(reason)});
+        use({bookName, name.get("Name").toText(), contentOf(file),
+             drawnByRoom(copied->metafile(), copied->size(), false),
+             maker.drawnOtherwise(copied->metafile())});
     }
     opened.call("Close", false);
 }

@@ -28,8 +28,8 @@ unsigned threadsOfThisMachine() {
 std::string lookOf(const VectorPicture& picture) {
     const std::unique_ptr<gchar, decltype(&g_free)> sum(
         g_compute_checksum_for_data(G_CHECKSUM_SHA256,
-                                    reinterpret_cast<const guchar*>(picture.svg.data()),
-                                    picture.svg.size()),
+                                    reinterpret_cast<const guchar*>(picture.vectors.data()),
+                                    picture.vectors.size()),
         &g_free);
     return fmt::format("{} {}x{} {}", sum.get(), picture.width, picture.height,
                        picture.isTranslucent);
@@ -66,7 +66,7 @@ Picture DrawingRoom::draw(const VectorFile& svg) {
     const auto pixels = [&](double points) {
         return std::max(1, static_cast<std::int32_t>(std::lround(points * perPoint)));
     };
-    return draw({.svg = svg.bytes,
+    return draw({.vectors = svg.bytes,
                  .width = pixels(svg.widthPt),
                  .height = pixels(svg.heightPt),
                  .widthPt = svg.widthPt,

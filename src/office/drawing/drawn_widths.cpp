@@ -30,7 +30,7 @@ DrawnWidths::~DrawnWidths() = default;
 std::optional<double> DrawnWidths::of(const std::string& line, const NamedFont& font) const {
     const std::unique_ptr<PangoFontDescription, ReleasedBy<&pango_font_description_free>> wanted(
         pango_font_description_new());
-    pango_font_description_set_family(wanted.get(), font.families.c_str());
+    pango_font_description_set_family(wanted.get(), font.family.c_str());
     pango_font_description_set_weight(wanted.get(), static_cast<PangoWeight>(font.weight));
     pango_font_description_set_style(wanted.get(),
                                      font.isItalic ? PANGO_STYLE_ITALIC : PANGO_STYLE_NORMAL);

@@ -7,10 +7,9 @@
 
 namespace office::drawing {
 
-/// A font as an SVG names it.
+/// A font by its name.
 struct NamedFont {
-    /// Separated by commas; the first one that there is.
-    std::string families;
+    std::string family;
     int weight = 400;
     bool isItalic = false;
 

@@ -7,7 +7,8 @@ namespace office::drawing {
 
 /// What a PNG file is to be drawn from, and how large.
 struct VectorPicture {
-    std::string svg;
+    /// An SVG, or a metafile (`isMetafile`).
+    std::string vectors;
     /// In pixels.
     std::int32_t width = 0;
     std::int32_t height = 0;
@@ -19,8 +20,8 @@ struct VectorPicture {
     bool isTranslucent = false;
 };
 
-/// Draws it: the SVG's view box fills the picture, whatever its proportions. Nothing outside the
-/// text is read. `Failure` 1004 if it can't be drawn, with the reason.
+/// Draws it: the vectors fill the picture, whatever their proportions. Nothing outside of them is
+/// read. `Failure` 1004 if it can't be drawn, with the reason.
 ///
 /// For any thread, and for pictures of any size: a large one is drawn in strips, so that it takes
 /// little memory beyond the file's bytes.

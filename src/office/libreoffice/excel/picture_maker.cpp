@@ -4,9 +4,10 @@
 #include <iterator>
 #include <utility>
 
+#include "office/drawing/metafile.h"
 #include "office/libreoffice/desk.h"
 #include "office/libreoffice/excel/png_file.h"
-#include "office/libreoffice/excel/suite_svg.h"
+#include "office/libreoffice/excel/written_scripts.h"
 #include "office/libreoffice/private_folder.h"
 #include "office/libreoffice/units.h"
 
@@ -49,19 +50,23 @@ PictureMaker::PictureMaker(std::shared_ptr<Connection> connection,
       fonts_(std::move(connection)),
       room_(std::move(room)) {}
 
-std::string PictureMaker::drawnOtherwise(const std::string& svg) {
-    if (svg.empty()) return "size";
-    const SvgContent content = contentOf(svg);
-    if (!content.drawnOtherwise.empty()) return content.drawnOtherwise;
-    const std::string font = fonts_.firstOther(content);
+std::string PictureMaker::drawnOtherwise(const uno::Sequence<sal_Int8>& metafile) {
+    const office::drawing::Metafile read = office::drawing::readMetafile(bytesOf(metafile));
+    if (!read.unknown.empty()) return read.unknown;
+    for (const auto& operation : read.operations) {
+        const auto* text = std::get_if<office::drawing::Metafile::Text>(&operation.what);
+        if (text != nullptr && isIntricate(text->characters)) return "script";
+    }
+    const std::string font = fonts_.firstOther(read);
     return font.empty() ? font : "font " + font;
 }
 
-PictureMaker::Vectors PictureMaker::drawable(std::string svg, const PictureSize& size,
-                                             bool isTranslucent, Sharpness sharpness) {
-    if (!drawnOtherwise(svg).empty()) return std::nullopt;
+PictureMaker::Vectors PictureMaker::drawable(const uno::Sequence<sal_Int8>& metafile,
+                                             const PictureSize& size, bool isTranslucent,
+                                             Sharpness sharpness) {
+    if (!drawnOtherwise(metafile).empty()) return std::nullopt;
     const PixelSize pixels = pixelsOf(size, sharpness);
-    return VectorPicture{.svg = std::move(svg),
+    return VectorPicture{.vectors = std::string(bytesOf(metafile)),
                          .width = pixels.width,
                          .height = pixels.height,
                          .widthPt = pointsOf(size.width),
@@ -71,12 +76,7 @@ PictureMaker::Vectors PictureMaker::drawable(std::string svg, const PictureSize&
 
 PictureMaker::Vectors PictureMaker::vectorsOf(const uno::Reference<css::drawing::XShape>& chart,
                                               Sharpness sharpness) {
-    return drawable(suite_.svgOfChart(chart), sizeOf(chart), !isOpaque(chart), sharpness);
-}
-
-PictureMaker::Vectors PictureMaker::vectorsOf(const uno::Sequence<sal_Int8>& metafile,
-                                              const PictureSize& size, Sharpness sharpness) {
-    return drawable(suite_.svgOfMetafile(metafile, size), size, false, sharpness);
+    return drawable(suite_.metafileOf(chart), sizeOf(chart), !isOpaque(chart), sharpness);
 }
 
 office::Picture PictureMaker::chart(const uno::Reference<css::drawing::XShape>& chart,
@@ -98,7 +98,7 @@ void PictureMaker::writeChart(const uno::Reference<css::drawing::XShape>& chart,
 
 office::Picture PictureMaker::metafile(const uno::Sequence<sal_Int8>& metafile,
                                        const PictureSize& size, Sharpness sharpness) {
-    if (auto vectors = vectorsOf(metafile, size, sharpness))
+    if (auto vectors = drawable(metafile, size, false, sharpness))
         return room_->draw(std::move(*vectors));
     return drawnBySuite(
         size, [&](const std::string& file) { suite_.writeMetafile(metafile, size, file); });
@@ -110,7 +110,7 @@ void PictureMaker::writeMetafile(const uno::Sequence<sal_Int8>& metafile, const 
         return writePictureFile(path, onWhite(suite_.svgOfMetafile(metafile, size)));
     if (kind == PictureKind::Emf)
         return writePictureFile(path, suite_.emfOfMetafile(metafile, size));
-    auto vectors = vectorsOf(metafile, size, Sharpness::Crisp);
+    auto vectors = drawable(metafile, size, false, Sharpness::Crisp);
     if (!vectors) return suite_.writeMetafile(metafile, size, path);
     makeWayFor(path);
     room_->drawFile(std::move(*vectors), path);

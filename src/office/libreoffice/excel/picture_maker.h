@@ -19,9 +19,9 @@ namespace libreoffice::excel {
 /// Makes pictures of charts and copied ranges at three times screen density that carry their true
 /// physical size.
 ///
-/// The suite gives the vectors, which takes it a tenth of the time of a picture, and the drawing
-/// room draws them while the suite goes on. What the room would draw differently the suite draws
-/// itself.
+/// The suite gives a metafile, which takes it a small part of the time of a picture, and the
+/// drawing room draws it while the suite goes on. What the room would draw differently the suite
+/// draws itself.
 class PictureMaker {
 public:
     PictureMaker(std::shared_ptr<Connection> connection,
@@ -44,19 +44,17 @@ public:
 
     [[nodiscard]] SuitePictures& suite() { return suite_; }
 
-    /// Why the suite has to draw an SVG of its own; empty if the room draws it alike.
-    [[nodiscard]] std::string drawnOtherwise(const std::string& svg);
+    /// Why the suite has to draw a metafile itself; empty if the room draws it alike.
+    [[nodiscard]] std::string drawnOtherwise(const uno::Sequence<sal_Int8>& metafile);
 
 private:
     using Vectors = std::optional<office::drawing::VectorPicture>;
 
     /// None if the suite has to draw it.
-    [[nodiscard]] Vectors drawable(std::string svg, const PictureSize& size, bool isTranslucent,
-                                   office::Sharpness sharpness);
+    [[nodiscard]] Vectors drawable(const uno::Sequence<sal_Int8>& metafile, const PictureSize& size,
+                                   bool isTranslucent, office::Sharpness sharpness);
     [[nodiscard]] Vectors vectorsOf(const uno::Reference<css::drawing::XShape>& chart,
                                     office::Sharpness sharpness);
-    [[nodiscard]] Vectors vectorsOf(const uno::Sequence<sal_Int8>& metafile,
-                                    const PictureSize& size, office::Sharpness sharpness);
 
     SuitePictures suite_;
     SameFonts fonts_;

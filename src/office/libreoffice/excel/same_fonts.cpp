@@ -7,7 +7,9 @@
 
 #include <cmath>
 #include <memory>
-#include <utility>
+#include <set>
+#include <string_view>
+#include <variant>
 
 #include "office/libreoffice/main_thread.h"
 
@@ -24,11 +26,17 @@ constexpr sal_Int16 measuredSize = 1000;
 constexpr double alike = 0.006;
 constexpr int boldFrom = 600;
 
-std::string firstOf(const std::string& families) {
-    const std::string first = families.substr(0, families.find(','));
-    const auto isQuote = [](char character) { return character == '\'' || character == '"'; };
-    if (first.size() < 2 || !isQuote(first.front())) return first;
-    return first.substr(1, first.size() - 2);
+/// Puts each character beyond ASCII of a text among others.
+void addBeyondAscii(std::string_view text, std::set<std::string>& characters) {
+    const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+    const auto continues = [](char byte) {
+        return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+    };
+    for (std::size_t i = 0; i < text.size();) {
+        const std::size_t begin = i++;
+        while (i < text.size() && continues(text[i])) ++i;
+        if (!isAscii(text[begin])) characters.emplace(text.substr(begin, i - begin));
+    }
 }
 
 }  // namespace
@@ -40,7 +48,7 @@ double SameFonts::suiteWidth(const NamedFont& font, const std::string& line) {
         device_ = toolkit->createScreenCompatibleDevice(1, 1);
     }
     css::awt::FontDescriptor wanted;
-    wanted.Name = toUno(firstOf(font.families));
+    wanted.Name = toUno(font.family);
     wanted.Height = measuredSize;
     wanted.Weight =
         font.weight >= boldFrom ? css::awt::FontWeight::BOLD : css::awt::FontWeight::NORMAL;
@@ -55,23 +63,23 @@ double SameFonts::suiteWidth(const NamedFont& font, const std::string& line) {
 bool SameFonts::isSame(const NamedFont& font, const std::string& line) {
     const auto [found, isNew] = known_[font].try_emplace(line, false);
     if (!isNew) return found->second;
-    // The suite looks for a replacement of the first one alone.
-    NamedFont alone = font;
-    alone.families = firstOf(font.families);
     const auto drawn = drawn_.of(line, font);
-    const auto drawnAlone = drawn_.of(line, alone);
-    const auto isAsDrawn = [&](double width) { return std::abs(*drawn - width) <= alike * *drawn; };
-    found->second =
-        drawn && drawnAlone && isAsDrawn(*drawnAlone) && isAsDrawn(suiteWidth(font, line));
+    found->second = drawn && std::abs(*drawn - suiteWidth(font, line)) <= alike * *drawn;
     return found->second;
 }
 
-std::string SameFonts::firstOther(const SvgContent& content) {
-    for (const auto& [font, characters] : content.fonts) {
+std::string SameFonts::firstOther(const office::drawing::Metafile& metafile) {
+    std::map<NamedFont, std::set<std::string>> fonts;
+    for (const auto& operation : metafile.operations) {
+        if (const auto* text = std::get_if<office::drawing::Metafile::Text>(&operation.what))
+            addBeyondAscii(text->characters, fonts[metafile.fonts[text->font].name]);
+    }
+    for (const auto& [font, characters] : fonts) {
         std::string beyond;
         for (const std::string& character : characters) beyond += character + ' ';
-        if (!isSame(font, sample) || (!beyond.empty() && !isSame(font, beyond)))
-            return font.families;
+        const bool isList = font.family.find(';') != std::string::npos;
+        if (isList || !isSame(font, sample) || (!beyond.empty() && !isSame(font, beyond)))
+            return font.family;
     }
     return {};
 }

@@ -6,8 +6,8 @@
 #include <string>
 
 #include "office/drawing/drawn_widths.h"
+#include "office/drawing/metafile.h"
 #include "office/libreoffice/connection.h"
-#include "office/libreoffice/excel/suite_svg.h"
 #include "office/libreoffice/uno_values.h"
 
 namespace libreoffice::excel {
@@ -19,9 +19,9 @@ public:
     explicit SameFonts(std::shared_ptr<Connection> connection)
         : connection_(std::move(connection)) {}
 
-    /// The names of the first font that they differ in, or that lacks a character; empty if there
-    /// is none. A font is asked for once, and again for further characters.
-    [[nodiscard]] std::string firstOther(const SvgContent& content);
+    /// The names of the first font of a text that they differ in, or that lacks a character; empty
+    /// if there is none. A font is asked for once, and again for further characters.
+    [[nodiscard]] std::string firstOther(const office::drawing::Metafile& metafile);
 
 private:
     using NamedFont = office::drawing::NamedFont;

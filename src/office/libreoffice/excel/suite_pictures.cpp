@@ -8,8 +8,6 @@
 #include <com/sun/star/frame/XLoadable.hpp>
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/io/XInputStream.hpp>
-#include <com/sun/star/io/XOutputStream.hpp>
-#include <com/sun/star/io/XSequenceOutputStream.hpp>
 #include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/util/XCloseable.hpp>
@@ -237,30 +235,38 @@ void SuitePictures::writeMetafile(const uno::Sequence<sal_Int8>& metafile, const
     writePage(graphicOf(metafile), size, path);
 }
 
-uno::Reference<css::graphic::XGraphic> SuitePictures::graphicOf(
-    const uno::Sequence<sal_Int8>& metafile) {
-    if (!metafile.hasElements()) return {};
+const uno::Reference<css::graphic::XGraphicProvider>& SuitePictures::graphics() {
     if (!graphics_.is()) {
         graphics_ = as<css::graphic::XGraphicProvider>(
             connection_->create("com.sun.star.graphic.GraphicProvider"));
     }
+    return graphics_;
+}
+
+uno::Reference<css::graphic::XGraphic> SuitePictures::graphicOf(
+    const uno::Sequence<sal_Int8>& metafile) {
+    if (!metafile.hasElements()) return {};
     const uno::Any bytes(metafile);
     const auto stream =
         connection_->context()->getServiceManager()->createInstanceWithArgumentsAndContext(
             "com.sun.star.io.SequenceInputStream", uno::Sequence<uno::Any>(&bytes, 1),
             connection_->context());
-    return graphics_->queryGraphic(
+    return graphics()->queryGraphic(
         propertyValues({{"InputStream", uno::Any(as<css::io::XInputStream>(stream))}}));
 }
 
 uno::Sequence<sal_Int8> SuitePictures::metafileOf(
     const uno::Reference<css::drawing::XShape>& chart) {
-    const auto bytes = as<css::io::XSequenceOutputStream>(
-        connection_->create("com.sun.star.io.SequenceOutputStream"));
-    as<css::document::XFilter>(exporterOf(chart))
-        ->filter(propertyValues({{"OutputStream", uno::Any(as<css::io::XOutputStream>(bytes))},
-                                 {"MediaType", uno::Any(rtl::OUString("image/x-svm"))}}));
-    return bytes->getWrittenBytes();
+    // Not by an exporter: it scales all that is drawn, labels that reach out of the chart too, to
+    // the size of the shape.
+    const auto graphic = property<uno::Reference<css::graphic::XGraphic>>(chart, "Graphic");
+    if (!graphic.is()) return {};
+    const std::string bytes = writtenBy([&](const std::string& file) {
+        graphics()->storeGraphic(
+            graphic, propertyValues({{"URL", uno::Any(fileUrl(file))},
+                                     {"MimeType", uno::Any(rtl::OUString("image/x-svm"))}}));
+    });
+    return {reinterpret_cast<const sal_Int8*>(bytes.data()), static_cast<sal_Int32>(bytes.size())};
 }
 
 std::string SuitePictures::svgOfChart(const uno::Reference<css::drawing::XShape>& chart) {
@@ -291,15 +297,21 @@ std::string SuitePictures::svgOfPage(const uno::Reference<css::graphic::XGraphic
 
 std::string SuitePictures::written(const uno::Reference<css::document::XExporter>& exporter,
                                    const char* mediaType) {
-    // By way of a file: a stream of the suite's takes three calls more.
+    return writtenBy([&](const std::string& file) {
+        as<css::document::XFilter>(exporter)->filter(
+            propertyValues({{"URL", uno::Any(fileUrl(file))},
+                            {"MediaType", uno::Any(rtl::OUString::createFromAscii(mediaType))}}));
+    });
+}
+
+std::string SuitePictures::writtenBy(const std::function<void(const std::string& file)>& write) {
+    // A stream of the suite's would take three calls more.
     if (!folder_) folder_ = std::make_unique<PrivateFolder>();
     const std::string file = folder_->file("vectors");
     // What the exporter returns says nothing, and the last picture must not stand in for this one.
     std::error_code isNotThere;
     std::filesystem::remove(file, isNotThere);
-    as<css::document::XFilter>(exporter)->filter(
-        propertyValues({{"URL", uno::Any(fileUrl(file))},
-                        {"MediaType", uno::Any(rtl::OUString::createFromAscii(mediaType))}}));
+    write(file);
     std::ifstream vectors(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(vectors), {}};
 }
@@ -320,6 +332,11 @@ std::string SuitePictures::emfOfMetafile(const uno::Sequence<sal_Int8>& metafile
     // Charts may let things shine through.
     shape->setPropertyValue("FillStyle", uno::Any(css::drawing::FillStyle_NONE));
     return emf;
+}
+
+std::string_view bytesOf(const uno::Sequence<sal_Int8>& metafile) {
+    return {reinterpret_cast<const char*>(metafile.getConstArray()),
+            static_cast<std::size_t>(metafile.getLength())};
 }
 
 PictureSize sizeOfMetafile(const uno::Sequence<sal_Int8>& metafile) {

@@ -7,8 +7,10 @@
 #include <com/sun/star/graphic/XGraphicProvider.hpp>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/private_folder.h"
@@ -74,11 +76,14 @@ private:
     struct Page;
 
     Page& page();
+    [[nodiscard]] const uno::Reference<css::graphic::XGraphicProvider>& graphics();
     void layOnPage(const uno::Reference<css::graphic::XGraphic>& graphic,
                    const css::awt::Size& size);
     /// A page or a shape as it is.
     [[nodiscard]] std::string written(const uno::Reference<css::document::XExporter>& exporter,
                                       const char* mediaType);
+    /// What the suite is made to write into the file of this name.
+    [[nodiscard]] std::string writtenBy(const std::function<void(const std::string& file)>& write);
     [[nodiscard]] std::string svgOfPage(const uno::Reference<css::graphic::XGraphic>& graphic,
                                         const PictureSize& size);
     void writePage(const uno::Reference<css::graphic::XGraphic>& graphic, const PictureSize& size,
@@ -95,6 +100,8 @@ private:
 
 /// Whether a chart covers all of its area.
 [[nodiscard]] bool isOpaque(const uno::Reference<css::drawing::XShape>& chart);
+
+[[nodiscard]] std::string_view bytesOf(const uno::Sequence<sal_Int8>& metafile);
 
 /// The size that a metafile gives for itself, in hundredths of a millimetre; 0 by 0 if it gives
 /// none in that unit.

@@ -4,13 +4,9 @@
 #include <pugixml.hpp>
 
 #include <algorithm>
-#include <array>
 #include <sstream>
 #include <string_view>
-#include <utility>
 #include <vector>
-
-#include "office/libreoffice/excel/written_scripts.h"
 
 namespace libreoffice::excel {
 
@@ -92,49 +88,6 @@ void giveBack(pugi::xml_node group) {
     group.parent().remove_child(group);
 }
 
-class Reader : public pugi::xml_tree_walker {
-public:
-    bool for_each(pugi::xml_node& node) override {
-        const std::string_view name = node.name();
-        if (node.type() == pugi::node_pcdata)
-            readCharacters(node);
-        else if (std::find(elements.begin(), elements.end(), name) != elements.end())
-            content.drawnOtherwise = name;
-        else if (isLostOpacity(node))
-            content.drawnOtherwise = "transparency";
-        else if (name == "text" && node.attribute("transform") && !isTurnedText(node))
-            content.drawnOtherwise = "transformed text";
-        return content.drawnOtherwise.empty();
-    }
-
-    SvgContent content;
-
-private:
-    static constexpr std::array<std::string_view, 4> elements = {"image", "pattern", "mask",
-                                                                 "filter"};
-
-    void readCharacters(const pugi::xml_node& characters) {
-        const pugi::xml_node written = characters.parent();
-        const std::string_view family = written.attribute("font-family").value();
-        const std::string_view text = characters.value();
-        if (isIntricate(text)) content.drawnOtherwise = "script";
-        if (family.empty()) return;
-        auto& beyond = content.fonts[{
-            .families = std::string(family),
-            .weight = written.attribute("font-weight").as_int(400),
-            .isItalic = std::string_view(written.attribute("font-style").value()) == "italic"}];
-        const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
-        const auto continues = [](char byte) {
-            return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-        };
-        for (std::size_t i = 0; i < text.size();) {
-            const std::size_t begin = i++;
-            while (i < text.size() && continues(text[i])) ++i;
-            if (!isAscii(text[begin])) beyond.emplace(text.substr(begin, i - begin));
-        }
-    }
-};
-
 bool isClipped(const pugi::xml_node& node) {
     return is(node, "g") && node.attribute("clip-path");
 }
@@ -188,15 +141,6 @@ std::string mended(const SuiteSvg& page) {
     std::ostringstream written;
     document.save(written, "", pugi::format_raw);
     return written.str();
-}
-
-SvgContent contentOf(const std::string& svg) {
-    pugi::xml_document document;
-    if (!document.load_buffer(svg.data(), svg.size(), asWritten) || !document.child("svg"))
-        return {.drawnOtherwise = "not an SVG", .fonts = {}};
-    Reader reader;
-    document.traverse(reader);
-    return std::move(reader.content);
 }
 
 }  // namespace libreoffice::excel

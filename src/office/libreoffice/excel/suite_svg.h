@@ -1,11 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
-#include <set>
 #include <string>
-
-#include "office/drawing/drawn_widths.h"
 
 namespace libreoffice::excel {
 
@@ -25,16 +21,5 @@ struct SuiteSvg {
 /// The page as the suite itself would draw it: with its true size, and with what the exporter gets
 /// wrong put right. Empty if it is no SVG, or too large to be worth the reading.
 [[nodiscard]] std::string mended(const SuiteSvg& page);
-
-/// What matters in a mended page for those who draw it.
-struct SvgContent {
-    /// Why others draw it visibly otherwise than the suite; empty if they draw it alike, as long as
-    /// they take the same fonts.
-    std::string drawnOtherwise;
-    /// Each with the characters beyond ASCII that are written in it.
-    std::map<office::drawing::NamedFont, std::set<std::string>> fonts;
-};
-
-[[nodiscard]] SvgContent contentOf(const std::string& svg);
 
 }  // namespace libreoffice::excel

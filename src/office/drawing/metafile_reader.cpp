@@ -1,0 +1,439 @@
+#include <fmt/format.h>
+#include <glib.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <utility>
+
+#include "office/drawing/metafile_parts.h"
+
+namespace office::drawing {
+
+namespace {
+
+constexpr std::string_view magic = "VCLMTF";
+constexpr std::size_t compressionSize = 4;
+
+/// What later operations depend on.
+struct State {
+    std::optional<Metafile::Colour> line;
+    std::optional<Metafile::Colour> fill;
+    Metafile::Colour text;
+    std::size_t font = 0;
+    bool hasWideCharacters = false;
+    bool isOnBaseLine = false;
+    Mapping mapping;
+    std::size_t clip = 0;
+};
+
+enum class Action : std::uint16_t {
+    None = 0,
+    Line = 102,
+    Rectangle = 103,
+    PolyLine = 109,
+    Polygon = 110,
+    PolyPolygon = 111,
+    TextArray = 113,
+    Gradient = 125,
+    ClipRegion = 128,
+    IntersectRectangle = 129,
+    IntersectRegion = 130,
+    LineColour = 132,
+    FillColour = 133,
+    TextColour = 134,
+    TextFillColour = 135,
+    TextAlign = 136,
+    MapMode = 137,
+    Font = 138,
+    Push = 139,
+    Pop = 140,
+    Transparent = 142,
+    ReferencePoint = 144,
+    TextLineColour = 145,
+    FloatTransparent = 147,
+    GradientOfOutline = 148,
+    LayoutMode = 149,
+    TextLanguage = 150,
+    OverlineColour = 151,
+    Comment = 512
+};
+
+constexpr std::uint16_t pushesAll = 0xFFFF;
+constexpr std::uint16_t pushesLine = 0x0001;
+constexpr std::uint16_t pushesFill = 0x0002;
+constexpr std::uint16_t pushesFont = 0x0004;
+constexpr std::uint16_t pushesTextColour = 0x0008;
+constexpr std::uint16_t pushesMapMode = 0x0010;
+constexpr std::uint16_t pushesClip = 0x0020;
+
+constexpr gunichar firstBeyondUnits = 0x10000;
+
+/// One unit, or what a pair of them stands for.
+gunichar characterAt(std::u16string_view units, std::size_t i) {
+    constexpr unsigned kind = 0xFC00;
+    constexpr unsigned bits = 10;
+    const auto is = [&](std::size_t at, unsigned half) {
+        return at < units.size() && (units[at] & kind) == half;
+    };
+    if (!is(i, 0xD800) || !is(i + 1, 0xDC00)) return units[i];
+    return firstBeyondUnits + ((units[i] & ~kind) << bits) + (units[i + 1] & ~kind);
+}
+
+class Reader {
+public:
+    explicit Reader(Metafile& picture) : picture_(picture) {}
+
+    void read(std::string_view bytes) {
+        Values values(bytes);
+        const Extent extent = readHead(values);
+        picture_.width = extent.width;
+        picture_.height = extent.height;
+        readActions(values, extent.actions);
+    }
+
+private:
+    struct Extent {
+        double width = 0;
+        double height = 0;
+        std::uint32_t actions = 0;
+    };
+
+    static Extent readHead(Values& values) {
+        if (values.take(magic.size()) != magic) throw Unknown("damage");
+        Values head = values.part();
+        head.take(compressionSize);
+        const Mapping whole = readMapping(head.part(), {});
+        if (whole.scaleX != 1 || whole.scaleY != 1) throw Unknown("unit");
+        Extent extent;
+        extent.width = head.number();
+        extent.height = head.number();
+        extent.actions = head.next<std::uint32_t>();
+        return extent;
+    }
+    void readActions(Values& values, std::uint32_t count) {
+        for (; count > 0; --count) {
+            const auto action = static_cast<Action>(values.word());
+            const Values content = values.part();
+            readAction(action, content, values.version());
+        }
+    }
+
+    void readAction(Action action, Values values, std::uint16_t version);
+
+    Metafile::Point mapped(double x, double y) const { return state_.mapping.point(x, y); }
+    Metafile::Point point(Values& values) const {
+        const double x = values.number();
+        const double y = values.number();
+        return mapped(x, y);
+    }
+    Metafile::Line line(Values& values) const {
+        const std::size_t count = values.word();
+        Metafile::Line line;
+        for (std::size_t i = 0; i < count; ++i) line.points.push_back(point(values));
+        return line;
+    }
+    Metafile::Line bentLine(Values part) const {
+        constexpr std::uint8_t isControl = 2;
+        Metafile::Line read = line(part);
+        if (!part.flag()) return read;
+        for (std::size_t i = 0; i < read.points.size(); ++i)
+            read.isControl.push_back(part.next<std::uint8_t>() == isControl);
+        return read;
+    }
+    /// All lines as straight ones, and then again those that are bent.
+    Metafile::Outline outline(Values& values) const {
+        Metafile::Outline read;
+        const std::size_t count = values.word();
+        for (std::size_t i = 0; i < count; ++i) read.push_back(line(values));
+        return read;
+    }
+    Metafile::Outline bentOutline(Values& values, std::uint16_t version) const {
+        Metafile::Outline read = outline(values);
+        if (version < 2) return read;
+        const std::size_t bent = values.word();
+        for (std::size_t i = 0; i < bent; ++i) {
+            const std::size_t index = values.word();
+            Metafile::Line line = bentLine(values.part());
+            if (index < read.size()) read[index] = std::move(line);
+        }
+        return read;
+    }
+
+    static Metafile::Outline closed(Metafile::Outline outline) {
+        for (Metafile::Line& line : outline) line.isClosed = true;
+        return outline;
+    }
+    Metafile::Outline rectangle(double left, double top, double right, double bottom) const {
+        Metafile::Line line;
+        line.points = {mapped(left, top), mapped(right, top), mapped(right, bottom),
+                       mapped(left, bottom)};
+        line.isClosed = true;
+        return {line};
+    }
+    Metafile::Outline rectangle(Values& values) const {
+        const double left = values.number();
+        const double top = values.number();
+        const double right = values.number();
+        const double bottom = values.number();
+        return rectangle(left, top, right, bottom);
+    }
+    std::optional<Metafile::Outline> region(Values values) const;
+
+    std::optional<Metafile::Pen> hairline() const {
+        if (!state_.line) return std::nullopt;
+        Metafile::Pen pen;
+        pen.colour = *state_.line;
+        return pen;
+    }
+
+    void setFont(ReadFont read) {
+        picture_.fonts.push_back(std::move(read.font));
+        state_.font = picture_.fonts.size() - 1;
+        state_.hasWideCharacters = read.hasWideCharacters;
+    }
+    void readText(Values values);
+    void readVeil(Values values);
+    void readComment(Values values);
+
+    void push(std::uint16_t what) { pushed_.emplace_back(what, state_); }
+    void pop();
+    void setClip(std::vector<Metafile::Outline> clip) {
+        picture_.clips.push_back(std::move(clip));
+        state_.clip = picture_.clips.size() - 1;
+    }
+    void intersect(std::optional<Metafile::Outline> outline) {
+        if (!outline) return;
+        auto clip = picture_.clips[state_.clip];
+        clip.push_back(std::move(*outline));
+        setClip(std::move(clip));
+    }
+    template <class What>
+    void add(What what) {
+        picture_.operations.push_back({std::move(what), state_.clip});
+    }
+    void addShape(Metafile::Outline outline) {
+        Metafile::Shape shape{closed(std::move(outline)), {}, hairline()};
+        if (state_.fill) shape.fill = *state_.fill;
+        if (state_.fill || state_.line) add(std::move(shape));
+    }
+    void addLine(Metafile::Line line, Values pen) {
+        if (state_.line)
+            add(Metafile::Shape{
+                {std::move(line)}, {}, readPen(pen, *state_.line, state_.mapping.scaleX)});
+    }
+
+    Metafile& picture_;
+    State state_;
+    std::vector<std::pair<std::uint16_t, State>> pushed_;
+    bool isInGradient_ = false;
+};
+
+void Reader::readAction(Action action, Values values, std::uint16_t version) {
+    // What stands there for those who know no gradients within an outline.
+    if (isInGradient_ && action != Action::GradientOfOutline && action != Action::Comment) return;
+    switch (action) {
+        case Action::None:
+        case Action::TextFillColour:
+        case Action::ReferencePoint:
+        case Action::TextLineColour:
+        case Action::LayoutMode:
+        case Action::TextLanguage:
+        case Action::OverlineColour:
+            return;
+        case Action::Comment:
+            return readComment(values);
+        case Action::Line: {
+            Metafile::Line line;
+            line.points = {point(values), {}};
+            line.points[1] = point(values);
+            return addLine(std::move(line), values.part());
+        }
+        case Action::Rectangle:
+            return addShape(rectangle(values));
+        case Action::PolyLine: {
+            Metafile::Line straight = line(values);
+            const Values pen = values.part();
+            return addLine(
+                version >= 3 && values.flag() ? bentLine(values.part()) : std::move(straight), pen);
+        }
+        case Action::Polygon: {
+            Metafile::Line straight = line(values);
+            return addShape(
+                {version >= 2 && values.flag() ? bentLine(values.part()) : std::move(straight)});
+        }
+        case Action::PolyPolygon:
+            return addShape(bentOutline(values, version));
+        case Action::TextArray:
+            return readText(values);
+        case Action::ClipRegion: {
+            auto outline = region(values.part());
+            state_.clip = 0;
+            if (values.flag()) intersect(std::move(outline));
+            return;
+        }
+        case Action::IntersectRectangle:
+            return intersect(rectangle(values));
+        case Action::IntersectRegion:
+            return intersect(region(values.part()));
+        case Action::LineColour:
+            state_.line = readOptionalColour(values);
+            return;
+        case Action::FillColour:
+            state_.fill = readOptionalColour(values);
+            return;
+        case Action::TextColour:
+            state_.text = readColour(values);
+            return;
+        case Action::TextAlign:
+            state_.isOnBaseLine = values.word() == 1;
+            return;
+        case Action::MapMode:
+            state_.mapping = readMapping(values.part(), state_.mapping);
+            return;
+        case Action::Font:
+            return setFont(readFont(values.part(), state_.mapping.scaleY));
+        case Action::Push:
+            return push(values.word());
+        case Action::Pop:
+            return pop();
+        case Action::Transparent: {
+            Metafile::Outline area = outline(values);
+            add(Metafile::Veil{1 - values.word() / 100.0});
+            addShape(std::move(area));
+            return add(Metafile::EndOfVeil{});
+        }
+        case Action::FloatTransparent:
+            return readVeil(values);
+        case Action::Gradient: {
+            Metafile::Outline area = rectangle(values);
+            return add(Metafile::Shape{std::move(area), readGradient(values.part()), std::nullopt});
+        }
+        case Action::GradientOfOutline: {
+            Metafile::Outline area = closed(outline(values));
+            return add(Metafile::Shape{std::move(area), readGradient(values.part()), std::nullopt});
+        }
+    }
+    throw Unknown(fmt::format("action {}", static_cast<unsigned>(action)));
+}
+
+void Reader::pop() {
+    if (pushed_.empty()) throw Unknown("damage");
+    const auto [what, before] = pushed_.back();
+    pushed_.pop_back();
+    if (what == pushesAll) {
+        state_ = before;
+        return;
+    }
+    if ((what & pushesLine) != 0) state_.line = before.line;
+    if ((what & pushesFill) != 0) state_.fill = before.fill;
+    if ((what & pushesFont) != 0) {
+        state_.font = before.font;
+        state_.hasWideCharacters = before.hasWideCharacters;
+    }
+    if ((what & pushesTextColour) != 0) state_.text = before.text;
+    if ((what & pushesMapMode) != 0) state_.mapping = before.mapping;
+    if ((what & pushesClip) != 0) state_.clip = before.clip;
+}
+
+std::optional<Metafile::Outline> Reader::region(Values values) const {
+    enum class Kind : std::uint16_t { Null, Empty, Bands, Complex };
+    enum class Entry : std::uint16_t { Band, Separation, End };
+    values.word();
+    const auto kind = static_cast<Kind>(values.word());
+    if (kind == Kind::Null) return std::nullopt;
+    if (kind == Kind::Empty) return Metafile::Outline{};
+    Metafile::Outline bands;
+    double top = 0;
+    double bottom = 0;
+    for (auto entry = static_cast<Entry>(values.word()); entry != Entry::End;
+         entry = static_cast<Entry>(values.word())) {
+        const double first = values.number();
+        const double last = values.number();
+        if (entry == Entry::Band) {
+            top = first;
+            bottom = last;
+        } else {
+            bands.push_back(rectangle(first, top, last, bottom).front());
+        }
+    }
+    if (values.isEmpty() || !values.flag()) return bands;
+    // A region may also be given by outlines; these are then the exact ones.
+    return closed(outline(values));
+}
+
+void Reader::readText(Values values) {
+    if (picture_.fonts.empty() || !state_.isOnBaseLine) throw Unknown("text");
+    Metafile::Text text;
+    text.start = point(values);
+    text.font = state_.font;
+    text.colour = state_.text;
+    // Once in the characters of a code page, and behind the places again in those of all.
+    values.take(state_.hasWideCharacters ? sizeof(char16_t) * values.next<std::uint32_t>()
+                                         : std::size_t{values.word()});
+    const std::size_t first = values.word();
+    const std::size_t count = values.word();
+    std::vector<double> ends;
+    for (std::uint32_t left = values.next<std::uint32_t>(); left > 0; --left)
+        ends.push_back(values.number() * state_.mapping.scaleX);
+    std::u16string units;
+    for (int left = values.word(); left > 0; --left) units += values.next<char16_t>();
+    if (first > units.size()) throw Unknown("damage");
+    units = units.substr(first, count);
+    if (units.empty()) return;
+    if (ends.size() < units.size()) throw Unknown("text without places");
+    text.width = ends[units.size() - 1];
+    for (std::size_t i = 0; i < units.size(); ++i) {
+        const double place = i == 0 ? 0 : ends[i - 1];
+        const gunichar character = characterAt(units, i);
+        if (character >= firstBeyondUnits) ++i;
+        std::array<char, 6> bytes{};
+        const auto size = static_cast<std::size_t>(g_unichar_to_utf8(character, bytes.data()));
+        text.characters.append(bytes.data(), size);
+        text.places.insert(text.places.end(), size, place);
+    }
+    add(std::move(text));
+}
+
+void Reader::readVeil(Values values) {
+    // A picture of its own, whose coordinates are those of this one, wherever it is said to lie.
+    const Extent extent = readHead(values);
+    const std::size_t opening = picture_.operations.size();
+    add(Metafile::Veil{});
+    const State outside = state_;
+    state_ = {};
+    state_.mapping = outside.mapping;
+    state_.clip = outside.clip;
+    readActions(values, extent.actions);
+    state_ = outside;
+    add(Metafile::EndOfVeil{});
+    constexpr std::size_t place = 4 * sizeof(std::int32_t);
+    values.take(place);
+    const Metafile::Gradient veil = readGradient(values.part());
+    if (veil.from.red != veil.to.red) throw Unknown("transparency by degrees");
+    picture_.operations[opening].what = Metafile::Veil{1 - veil.from.red};
+}
+
+void Reader::readComment(Values values) {
+    const std::string_view name = values.take(values.word());
+    if (name == "XGRAD_SEQ_BEGIN") isInGradient_ = true;
+    if (name == "XGRAD_SEQ_END") isInGradient_ = false;
+}
+
+}  // namespace
+
+bool isMetafile(std::string_view bytes) {
+    return bytes.starts_with(magic);
+}
+
+Metafile readMetafile(std::string_view bytes) {
+    Metafile picture;
+    try {
+        Reader(picture).read(bytes);
+    } catch (const Unknown& unknown) {
+        picture.unknown = unknown.what();
+    }
+    return picture;
+}
+
+}  // namespace office::drawing
