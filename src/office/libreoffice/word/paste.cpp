@@ -138,7 +138,11 @@ void WriterDocument::addPicture(const std::string& file) {
 void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anchoring anchoring) {
     requireWritable(caret_.range(), member);
     const bool isPicture = copied.source().kind == CopySource::Kind::Picture;
-    if (as == PasteAs::Linked) fail("LibreOffice links no object of a text document to a workbook");
+    if (as == PasteAs::Linked) {
+        fail(
+            "LibreOffice can't link a text document to a workbook. Paste a picture or an embedded "
+            "workbook instead, or use murvane-export.");
+    }
     const Connection& connection = desk_.connection();
     pasted_.clear();
     const UndoGroup group(steps_, "Paste");
