@@ -197,11 +197,14 @@ std::string imageMarkup(const PagePicture& picture, const std::string& style) {
 
 }  // namespace
 
+bool showsCells(const TableLook& look) {
+    return std::any_of(look.cells.begin(), look.cells.end(), isSeen);
+}
+
 std::string cellsAsPage(const TableLook& look, const std::vector<PagePicture>& charts) {
-    const bool hasCells = std::any_of(look.cells.begin(), look.cells.end(), isSeen);
-    std::string markup =
-        hasCells ? tableMarkup(look)
-                 : fmt::format("<div style=\"height:{}\"></div>\n", pixels(look.heightPt()));
+    std::string markup = showsCells(look) ? tableMarkup(look)
+                                          : fmt::format("<div style=\"height:{}\"></div>\n",
+                                                        pixels(look.heightPt()));
     if (charts.empty()) return markup;
     markup += "<div class=\"charts\">";
     for (const PagePicture& chart : charts) {

@@ -19,6 +19,9 @@ struct PagePicture {
     Box box;
 };
 
+/// Whether anything is seen of the cells.
+[[nodiscard]] bool showsCells(const TableLook& look);
+
 /// Cells as a table that looks as they do on the sheet, with the charts that lie on them: finished
 /// markup. Cells that show nothing are a gap of their height.
 [[nodiscard]] std::string cellsAsPage(const TableLook& look,

@@ -9,6 +9,7 @@
 
 #include "office/model/excel/sheet.h"
 #include "office/picture.h"
+#include "office/table_look.h"
 
 namespace office::model::excel {
 
@@ -46,6 +47,9 @@ struct Publications {
     /// As they were seen first since the records were cleared: to ask for all of them for each
     /// record would take ever longer.
     std::map<const Sheet*, PlacedCharts> placedCharts;
+    /// Places that showed nothing when they were published first since then: most are there to keep
+    /// items apart, and are asked for again and again.
+    std::map<std::pair<const Sheet*, std::string>, TableLook> gaps;
 };
 
 }  // namespace office::model::excel

@@ -42,12 +42,11 @@ public:
     }
 
 private:
-    [[nodiscard]] PagePicture pictureOf(const InSheet& place, SheetChart& chart) {
+    [[nodiscard]] PagePicture pictureOf(const InSheet& place, SheetChart& chart, const Box& at) {
         CopySource source = sourceOf(place, CopySource::Kind::Chart);
         if (!place.sheet->isChartSheet()) source.chart = chart.name();
+        std::string name = source.chart.empty() ? place.sheet->knownName() : source.chart;
         const CopiedPtr copied = chart.copy(std::move(source));
-        const Box at = place.sheet->isChartSheet() ? Box{} : chart.box();
-        std::string name = place.sheet->isChartSheet() ? place.sheet->knownName() : chart.name();
         what_.pictures.emplace_back(page_.placeForPicture(), copied->picture(Sharpness::Crisp));
         return {page_.addressOf(what_.pictures.back().first),
                 std::move(name),
@@ -59,11 +58,14 @@ private:
                                         ? place.sheet->ownChart()
                                         : place.sheet->findChart(what_.place);
         if (!chart) refuse(source_, fmt::format("There is no chart \"{}\"", what_.place));
-        const PagePicture picture = pictureOf(place, *chart);
+        const PagePicture picture = pictureOf(place, *chart, {});
         return pageItem(what_.divId, what_.title, picture.box.width, pictureAsPage(picture));
     }
 
     [[nodiscard]] std::string cellsMarkup(const InSheet& place) {
+        auto& gaps = home_.book->publications().gaps;
+        const std::pair<const Sheet*, std::string> asked(place.sheet.get(), what_.place);
+        if (const auto gap = gaps.find(asked); gap != gaps.end()) return itemOf(gap->second, {});
         const auto found = findCells(place, what_.place);
         if (!found) refuse(source_, fmt::format("There is no range \"{}\"", what_.place));
         if (found->blocks.size() > 1) refuse(source_, "Several areas can't be published");
@@ -75,8 +77,14 @@ private:
         from.address = addressOf(*block);
         const TableLook look =
             found->home.sheet->cells(*block)->copy(std::move(from))->tableOfPage();
-        return pageItem(what_.divId, what_.title, look.widthPt(),
-                        cellsAsPage(look, chartsOn(found->home, look)));
+        const std::vector<PagePicture> charts = chartsOn(found->home, look);
+        if (charts.empty() && !showsCells(look)) gaps.emplace(asked, look);
+        return itemOf(look, charts);
+    }
+
+    [[nodiscard]] std::string itemOf(const TableLook& look,
+                                     const std::vector<PagePicture>& charts) const {
+        return pageItem(what_.divId, what_.title, look.widthPt(), cellsAsPage(look, charts));
     }
 
     /// The charts that lie on the cells, or stick out of them.
@@ -90,7 +98,7 @@ private:
                               box.left + box.width > look.leftPt + touchingPt &&
                               box.top + touchingPt < look.topPt + look.heightPt() &&
                               box.top + box.height > look.topPt + touchingPt;
-            if (lies) pictures.push_back(pictureOf(place, *charts[i]));
+            if (lies) pictures.push_back(pictureOf(place, *charts[i], box));
         }
         return pictures;
     }
@@ -180,6 +188,7 @@ public:
                 .method("Delete", {}, [](Self& self) {
                     self.all().clear();
                     self.book().publications().placedCharts.clear();
+                    self.book().publications().gaps.clear();
                 });
         return table;
     }
