@@ -71,6 +71,8 @@ function(murvane_warnings target)
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
                                              -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Werror)
     if(MURVANE_SANITIZE)
+        # GCC takes what the sanitizers put around variables for uses of them.
+        target_compile_options(${target} PRIVATE -Wno-maybe-uninitialized)
         target_compile_options(${target} PUBLIC -fsanitize=address,undefined -fno-omit-frame-pointer)
         target_link_options(${target} PUBLIC -fsanitize=address,undefined)
     endif()
