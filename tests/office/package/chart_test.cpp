@@ -1,6 +1,8 @@
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <regex>
 #include <vector>
@@ -234,6 +236,23 @@ TEST_F(Chart, WritesOutWhatItsWorkbooksReaderTakesForGranted) {
     }
 }
 
+TEST_F(Chart, LeavesNothingBehindIfWhatGoesWithItCantBeRead) {
+    for (const char* const damaged : {"<style/>", "IHDR"}) {
+        const std::vector<std::string> before = saved().parts();
+        const CopySource source = sourceIn(chartWorkbook());
+        {
+            std::fstream file(source.file, std::ios::in | std::ios::out | std::ios::binary);
+            const std::string bytes(std::istreambuf_iterator<char>(file), {});
+            const auto at = bytes.find(damaged);
+            ASSERT_NE(at, std::string::npos);
+            file.seekp(static_cast<std::streamoff>(at)).put('#');
+        }
+        EXPECT_THROW(paste(source), office::Failure) << damaged;
+        EXPECT_EQ(saved().parts(), before) << damaged;
+        paste(sourceIn(chartWorkbook()));
+    }
+}
+
 TEST_F(Chart, GoesAsAPictureWhereItCantBeOneAndSaysWhy) {
     struct Case {
         const char* reason;
@@ -255,6 +274,9 @@ TEST_F(Chart, GoesAsAPictureWhereItCantBeOneAndSaysWhy) {
         {"its workbook's file can't be used (its part /xl/drawings/shapes.xml is no XML (Start-end "
          "tags mismatch))",
          "xl/drawings/shapes.xml", "</shapes>", "</other>"},
+        {"its workbook's file can't be used (its part /xl/theme/theme1.xml is no XML (Start-end "
+         "tags mismatch))",
+         "xl/theme/theme1.xml", "</a:theme>", "</other>"},
         {"the workbook's file does not hold it", "xl/drawings/drawing1.xml", "Chart 1", "Chart 2"},
         {"it is of a kind that only Excel draws", "xl/drawings/drawing1.xml", "Falls", "chart 1"},
         {"it is missing in the workbook's file", "xl/drawings/_rels/drawing1.xml.rels",

@@ -63,6 +63,27 @@ std::string mainView(const Connection& connection,
     return fromUno(views[0]->getResourceURL()).substr(std::string_view(viewFolder).size());
 }
 
+/// Does something when it goes, as far as it can still be done.
+template <class Deed>
+class AtEnd {
+public:
+    explicit AtEnd(Deed deed) : deed_(std::move(deed)) {}
+    AtEnd(const AtEnd&) = delete;
+    AtEnd& operator=(const AtEnd&) = delete;
+    ~AtEnd() {
+        try {
+            deed_();
+        } catch (const uno::Exception&) {
+            // The window has gone, or the suite.
+        } catch (const office::Failure&) {
+            // The window keeps its view.
+        }
+    }
+
+private:
+    Deed deed_;
+};
+
 }  // namespace
 
 const uno::Reference<css::frame::XController>& ImpressWindow::controller() {
@@ -203,19 +224,22 @@ bool ImpressWindow::moveToFront(const model::DeckSlidePtr& slide) {
 void ImpressWindow::pasteOnto(ImpressSlide& slide, sal_uInt32 format) {
     // Other views paste elsewhere, or nothing.
     const std::int32_t view = viewType();
+    const AtEnd viewBack([&] {
+        if (view != normalView) setViewType(view);
+    });
     if (view != normalView) setViewType(normalView);
     static_cast<void>(controller());
     const auto before = view_->getCurrentPage();
-    const bool isInView = before == slide.page();
     const uno::Any selected = selection_->getSelection();
-    if (!isInView) view_->setCurrentPage(slide.page());
+    const AtEnd pageBack([&] {
+        selection_->select(uno::Any());
+        if (before != slide.page()) view_->setCurrentPage(before);
+        if (selected.hasValue()) selection_->select(selected);
+    });
+    if (before != slide.page()) view_->setCurrentPage(slide.page());
     // What is selected would take the contents in.
     selection_->select(uno::Any());
     dispatch(".uno:ClipboardFormatItems", propertyValues({{"SelectedFormat", uno::Any(format)}}));
-    selection_->select(uno::Any());
-    if (!isInView) view_->setCurrentPage(before);
-    if (selected.hasValue()) selection_->select(selected);
-    if (view != normalView) setViewType(view);
 }
 
 void ImpressWindow::dispatch(const char* command,

@@ -22,9 +22,8 @@ struct Media {
     word::ObjectSize size;
 };
 
-/// The picture of what was copied as a part of the document.
-Media addMedia(FileDocument& document, const Copied& copied) {
-    PictureFile picture = pictureOf(copied);
+/// A picture as a part of the document.
+Media addMedia(FileDocument& document, PictureFile picture) {
     const word::ObjectSize size{picture.size.width, picture.size.height};
     Package& package = document.package();
     const std::string part =
@@ -67,7 +66,7 @@ void pasteObject(FileDocument& document, const Copied& copied, PasteAs as,
     const CopySource& source = copied.source();
     const FileRules& rules = document.rules();
     requireNoObstacle(as, source, rules, pasteSpecial);
-    const Media preview = addMedia(document, copied);
+    PictureFile picture = pictureOf(copied);
     const bool isLink = as == PasteAs::Linked;
     Package& package = document.package();
     const ObjectSource behind =
@@ -75,6 +74,8 @@ void pasteObject(FileDocument& document, const Copied& copied, PasteAs as,
             ? linkCells(package, document.mainPart(), source, rules)
             : embedWorkbook(package, document.mainPart(),
                             document.stem("embeddings/Microsoft_Excel_Worksheet"), source, rules);
+    // After all that can fail.
+    const Media preview = addMedia(document, std::move(picture));
     document.insertObject(objectRun(anchoring, {.id = document.freeDrawingId(),
                                                 .size = preview.size,
                                                 .preview = preview.relationship,

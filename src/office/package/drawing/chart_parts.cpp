@@ -86,46 +86,67 @@ void connect(pugi::xml_node chartSpace, const std::string& relationship) {
 }  // namespace
 
 ChartParts::Origin& ChartParts::originOf(const WorkbookFilePtr& book) {
-    const auto [place, isNew] = origins_.try_emplace(book);
-    if (isNew) {
-        place->second.defaults = defaultsOf(book->package());
-        if (const std::string part = book->themePart(); !part.empty()) {
-            const Xml theme(book->package().read(part), part);
-            place->second.theme = overrideOf(theme);
-            place->second.thinLine = thinLineOf(theme);
-        }
+    if (const auto known = origins_.find(book); known != origins_.end()) return known->second;
+    Origin origin;
+    origin.defaults = defaultsOf(book->package());
+    if (const std::string& bytes = themeOf(*book); !bytes.empty()) {
+        const Xml theme(bytes, "theme");
+        origin.theme = overrideOf(theme);
+        origin.thinLine = thinLineOf(theme);
     }
-    return place->second;
+    return origins_.emplace(book, std::move(origin)).first->second;
 }
 
 std::string ChartParts::add(SourceChart chart, const std::string& link) {
     WorkbookFile& book = *chart.book;
     Origin& origin = originOf(chart.book);
+    std::vector<Luggage> luggage = pack(book.package(), origin, chart.part, Holder::Chart);
+    const bool needsCopy = link.empty() && origin.copy.empty();
+    std::string copy = needsCopy ? book.bytes() : std::string();
     auto root = chart.xml->root();
     root.remove_child(childNamed(root, ns::chart, "printSettings"));
     writeFlags(root, origin.defaults);
     writeLooks(root, origin.thinLine);
     writeDates(root);
+    // From here on nothing can be missing any more.
     const std::string part = package_.freeName(folder_ + "/charts/chart", ".xml");
     package_.add(part, chartType, {});
-    takeCompanions(book, origin, chart.part, part, *chart.xml, Holder::Chart);
+    unpack(std::move(luggage), origin, part, *chart.xml);
     overrideTheme(origin, part, *chart.xml);
+    if (needsCopy) addCopy(book, std::move(copy), origin);
     Relationships& relationships = package_.relationshipsOf(part);
-    connect(root, link.empty() ? relationships.add("package", copyOf(book, origin))
+    connect(root, link.empty() ? relationships.add("package", origin.copy)
                                : relationships.addExternal("oleObject", link));
     package_.replace(part, chart.xml->bytes());
     return part;
 }
 
-void ChartParts::takeCompanions(WorkbookFile& book, Origin& origin, const std::string& source,
-                                const std::string& part, const Xml& xml, Holder holder) {
+std::vector<ChartParts::Luggage> ChartParts::pack(Package& book, const Origin& origin,
+                                                  const std::string& source, Holder holder) {
+    std::vector<Luggage> luggage;
+    for (Companion& one : companionsOf(book, source, holder)) {
+        Luggage& piece = luggage.emplace_back(Luggage{std::move(one), {}, {}, {}});
+        const std::string& part = piece.companion.part;
+        const bool isPicture = piece.companion.kind == Companion::Kind::Picture;
+        if (piece.companion.kind == Companion::Kind::Address) continue;
+        piece.type = book.contentTypeOf(part);
+        if (!isPicture || !origin.pictures.contains(partKey(part))) piece.bytes = book.read(part);
+        if (piece.companion.kind != Companion::Kind::Markup) continue;
+        piece.more = pack(book, origin, part, Holder::Markup);
+        static_cast<void>(Xml(piece.bytes, part));
+    }
+    return luggage;
+}
+
+void ChartParts::unpack(std::vector<Luggage> luggage, Origin& origin, const std::string& part,
+                        const Xml& xml) {
     Relationships& relationships = package_.relationshipsOf(part);
     std::map<std::string, std::string> ids;
-    for (const Companion& one : companionsOf(book.package(), source, holder)) {
-        const std::string& type = one.relationship.type;
-        ids[one.relationship.id] = one.kind == Companion::Kind::Address
-                                       ? relationships.addExternal(type, one.relationship.target)
-                                       : relationships.add(type, take(book, origin, one));
+    for (Luggage& one : luggage) {
+        const auto [id, type, target, isExternal] = one.companion.relationship;
+        ids[id] = one.companion.kind == Companion::Kind::Address
+                      ? relationships.addExternal(type, target)
+                      : relationships.add(type, add(std::move(one), origin));
     }
     for (pugi::xml_attribute id : relationshipIdsIn(xml)) {
         if (const auto found = ids.find(id.value()); found != ids.end())
@@ -133,27 +154,25 @@ void ChartParts::takeCompanions(WorkbookFile& book, Origin& origin, const std::s
     }
 }
 
-std::string ChartParts::take(WorkbookFile& book, Origin& origin, const Companion& companion) {
-    Package& package = book.package();
-    const std::string& source = companion.part;
-    const std::string type = package.contentTypeOf(source);
-    if (companion.kind == Companion::Kind::Picture) {
+std::string ChartParts::add(Luggage one, Origin& origin) {
+    const auto& [kind, relationship, source] = one.companion;
+    if (kind == Companion::Kind::Picture) {
         std::string& taken = origin.pictures[partKey(source)];
         if (taken.empty())
-            taken = package_.addMedia(folder_ + "/media/image", "." + extensionOf(source), type,
-                                      package.read(source));
+            taken = package_.addMedia(folder_ + "/media/image", "." + extensionOf(source), one.type,
+                                      std::move(one.bytes));
         return taken;
     }
-    const bool isShapes = companion.relationship.type.ends_with("/chartUserShapes");
-    const char* const subfolder = companion.kind == Companion::Kind::Style ? "charts"
-                                  : isShapes                               ? "drawings"
-                                                                           : "theme";
+    const bool isShapes = relationship.type.ends_with("/chartUserShapes");
+    const char* const subfolder = kind == Companion::Kind::Style ? "charts"
+                                  : isShapes                     ? "drawings"
+                                                                 : "theme";
     std::string part =
         package_.freeName(fmt::format("{}/{}/{}", folder_, subfolder, stemOf(source)), ".xml");
-    package_.add(part, type, package.read(source));
-    if (companion.kind == Companion::Kind::Markup) {
-        const Xml xml(package.read(source), source);
-        takeCompanions(book, origin, source, part, xml, Holder::Markup);
+    package_.add(part, one.type, one.bytes);
+    if (kind == Companion::Kind::Markup) {
+        const Xml xml(one.bytes, source);
+        unpack(std::move(one.more), origin, part, xml);
         package_.replace(part, xml.bytes());
     }
     return part;
@@ -174,8 +193,7 @@ void ChartParts::overrideTheme(const Origin& origin, const std::string& part, co
 }
 
 /// One copy for all charts of a workbook, however many there are.
-std::string ChartParts::copyOf(const WorkbookFile& book, Origin& origin) {
-    if (!origin.copy.empty()) return origin.copy;
+void ChartParts::addCopy(const WorkbookFile& book, std::string bytes, Origin& origin) {
     const bool hasMacros = book.hasMacros();
     const char* const stem = hasMacros ? "/embeddings/Microsoft_Excel_Macro-Enabled_Worksheet"
                                        : "/embeddings/Microsoft_Excel_Worksheet";
@@ -183,8 +201,7 @@ std::string ChartParts::copyOf(const WorkbookFile& book, Origin& origin) {
         folder_ + stem, hasMacros ? ".xlsm" : ".xlsx",
         hasMacros ? "application/vnd.ms-excel.sheet.macroEnabled.12"
                   : "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet",
-        book.bytes());
-    return origin.copy;
+        std::move(bytes));
 }
 
 }  // namespace office::package

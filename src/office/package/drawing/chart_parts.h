@@ -2,6 +2,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 #include "office/package/drawing/chart_flags.h"
 #include "office/package/workbook/source_chart.h"
@@ -18,7 +19,7 @@ public:
 
     /// The name of a new part with a chart, which has no obstacle. Its data stays in the workbook
     /// at the address `link`, or goes along in a copy of the workbook if that is empty.
-    /// `PackageError` for what goes with the chart and can't be read.
+    /// `PackageError` for what goes with the chart and can't be read; then nothing has been added.
     std::string add(SourceChart chart, const std::string& link);
 
 private:
@@ -34,13 +35,25 @@ private:
         std::map<std::string, std::string> pictures;
     };
 
+    /// What goes with a part, as it was read.
+    struct Luggage {
+        Companion companion;
+        std::string type;
+        /// Empty for addresses and for pictures that have been taken before.
+        std::string bytes;
+        /// What goes with markup in turn.
+        std::vector<Luggage> more;
+    };
+
     Origin& originOf(const WorkbookFilePtr& book);
-    /// Brings along what goes with a part, and tells its markup where that is now.
-    void takeCompanions(WorkbookFile& book, Origin& origin, const std::string& source,
-                        const std::string& part, const Xml& xml, Holder holder);
-    [[nodiscard]] std::string take(WorkbookFile& book, Origin& origin, const Companion& companion);
+    [[nodiscard]] static std::vector<Luggage> pack(Package& book, const Origin& origin,
+                                                   const std::string& source, Holder holder);
+    /// Adds what goes with a part, and tells its markup where that is now.
+    void unpack(std::vector<Luggage> luggage, Origin& origin, const std::string& part,
+                const Xml& xml);
+    [[nodiscard]] std::string add(Luggage one, Origin& origin);
     void overrideTheme(const Origin& origin, const std::string& part, const Xml& xml);
-    [[nodiscard]] std::string copyOf(const WorkbookFile& book, Origin& origin);
+    void addCopy(const WorkbookFile& book, std::string bytes, Origin& origin);
 
     Package& package_;
     std::string folder_;

@@ -118,6 +118,7 @@ std::string obstacleOf(SourceChart& chart, const CopySource& source, WorkbookFil
     std::string obstacle = obstacleIn(*chart.xml);
     if (obstacle.empty() && !canLeave(chart.book->package(), chart.part, *chart.xml, Holder::Chart))
         return "it holds something that can't leave its workbook";
+    static_cast<void>(themeOf(*chart.book));
     return obstacle;
 }
 
@@ -132,6 +133,15 @@ SourceChart findChart(const CopySource& source, WorkbookFiles& workbooks) {
             fmt::format("its workbook's file can't be used ({})", std::string(error.what()));
     }
     return chart;
+}
+
+const std::string& themeOf(WorkbookFile& book) {
+    return book.remembered("theme", [&] {
+        const std::string part = book.themePart();
+        std::string bytes = part.empty() ? part : book.package().read(part);
+        if (!bytes.empty()) static_cast<void>(Xml(bytes, part));
+        return bytes;
+    });
 }
 
 std::vector<Companion> companionsOf(Package& book, const std::string& part, Holder holder) {

@@ -24,6 +24,10 @@ struct SourceChart {
 /// an obstacle.
 [[nodiscard]] SourceChart findChart(const CopySource& source, WorkbookFiles& workbooks);
 
+/// The theme of a workbook, whose colours its charts name; empty if it has none. `PackageError` for
+/// one that can't be read.
+[[nodiscard]] const std::string& themeOf(WorkbookFile& book);
+
 /// What goes with a chart, or with the markup of one, where it leaves its workbook.
 struct Companion {
     enum class Kind {
