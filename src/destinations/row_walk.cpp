@@ -65,19 +65,23 @@ WalkResult walkRowsAhead(
     // More would only hold more pictures.
     constexpr std::size_t mostAhead = 4;
     struct Begun {
-        const catalogue::ExportItem& row;
+        std::size_t index;
         std::function<void()> end;
     };
     std::deque<Begun> begun;
+    // Where it fails, the row that it ends is the one at hand.
     const auto endFirst = [&] {
         const Begun first = std::move(begun.front());
         begun.pop_front();
-        letHaveTurn(batch, first.row, first.end);
+        const std::ptrdiff_t atHand = batch.list.selected;
+        batch.list.selected = static_cast<std::ptrdiff_t>(first.index);
+        letHaveTurn(batch, batch.list.rows[first.index], first.end);
+        batch.list.selected = atHand;
     };
     const WalkResult result =
         walkRows(batch, [&](const catalogue::TakenRow& taken, const catalogue::ExportItem& row) {
             if (begun.size() == mostAhead) endFirst();
-            begun.push_back({row, begin(taken, row)});
+            begun.push_back({taken.index, begin(taken, row)});
         });
     while (!begun.empty()) endFirst();
     return result;

@@ -54,6 +54,15 @@ apps::Answering answeringFor(const Options& options, const apps::Console& consol
     return console.canAsk() ? apps::Answering::AsksUser : apps::Answering::Refuses;
 }
 
+std::string reportOf(const office::Failure& failure) {
+    if (dynamic_cast<const office::SuiteLost*>(&failure) != nullptr) {
+        return fmt::format("The office suite has gone ({}). Nothing was written; try again.",
+                           failure.description());
+    }
+    return fmt::format("{} ({}, number {}).", failure.description(), failure.source(),
+                       failure.number());
+}
+
 /// What the command line asks for, checked before a suite is started for it.
 struct Order {
     std::vector<CaptionLine> captions;
@@ -276,10 +285,12 @@ void Run::runJob(std::size_t place) {
     } catch (const office::Failure& failure) {
         line_.clear();
         letUserSee();
+        if (surroundings_.isInterrupted()) throw;
         // A disk that is full is no fault of the item at hand.
-        if (list_.selected < 0 || surroundings_.isInterrupted() ||
-            failure.is(office::FailureNumber::PathFileAccess))
-            throw;
+        if (list_.selected < 0 || failure.is(office::FailureNumber::PathFileAccess))
+            throw RunError(fmt::format("{} could not be made: {}",
+                                       apps::utf8Of(order_.outputs[place]->file()),
+                                       reportOf(failure)));
         const ExportItem& row = list_.rows[static_cast<std::size_t>(list_.selected)];
         throw RunError(fmt::format(
             "Could not export {}\n--keep-going leaves such items out and saves the others.",
@@ -321,15 +332,6 @@ int Run::commit() {
         }
     }
     return exitCode;
-}
-
-std::string reportOf(const office::Failure& failure) {
-    if (dynamic_cast<const office::SuiteLost*>(&failure) != nullptr) {
-        return fmt::format("The office suite has gone ({}). Nothing was written; try again.",
-                           failure.description());
-    }
-    return fmt::format("{} ({}, number {}).", failure.description(), failure.source(),
-                       failure.number());
 }
 
 int runInSuite(const Options& options, const Surroundings& surroundings) {
