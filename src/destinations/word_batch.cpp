@@ -113,7 +113,7 @@ void WordBatch::InsertPageBreakBlock() {
     constexpr std::int32_t toEnd = 0;
     constexpr std::int32_t normal = -1;
     const auto end = [&] {
-        const Object range = document_.get("Range").toObject();
+        Object range = document_.get("Range").toObject();
         range.call("Collapse", toEnd);
         return range;
     };
