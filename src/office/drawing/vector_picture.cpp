@@ -39,22 +39,31 @@ std::uint32_t perMetre(std::int32_t pixels, double points) {
 }
 
 /// Cairo keeps a pixel as one number, alpha uppermost, the colours multiplied with it.
-void copyRow(const std::uint8_t* from, std::int32_t width, bool isTranslucent,
-             std::vector<std::uint8_t>& row) {
-    std::uint8_t* to = row.data();
+std::uint32_t pixelAt(const std::uint8_t* row, std::int32_t x) {
+    std::uint32_t pixel = 0;
+    std::memcpy(&pixel, row + std::size_t{4} * static_cast<std::size_t>(x), sizeof pixel);
+    return pixel;
+}
+
+void copyOpaqueRow(const std::uint8_t* from, std::int32_t width, std::uint8_t* to) {
+    for (std::int32_t x = 0; x < width; ++x, to += 3) {
+        const std::uint32_t pixel = pixelAt(from, x);
+        to[0] = static_cast<std::uint8_t>(pixel >> 16U);
+        to[1] = static_cast<std::uint8_t>(pixel >> 8U);
+        to[2] = static_cast<std::uint8_t>(pixel);
+    }
+}
+
+void copyTranslucentRow(const std::uint8_t* from, std::int32_t width, std::uint8_t* to) {
     for (std::int32_t x = 0; x < width; ++x) {
-        std::uint32_t pixel = 0;
-        std::memcpy(&pixel, from + std::size_t{4} * static_cast<std::size_t>(x), sizeof pixel);
-        const std::uint32_t alpha = isTranslucent ? pixel >> 24U : 255U;
-        const auto channel = [&](unsigned shift) {
+        const std::uint32_t pixel = pixelAt(from, x);
+        const std::uint32_t alpha = pixel >> 24U;
+        for (const unsigned shift : {16U, 8U, 0U}) {
             const std::uint32_t value = pixel >> shift & 255U;
-            if (alpha == 255U || alpha == 0U) return static_cast<std::uint8_t>(value);
-            return static_cast<std::uint8_t>(std::min(255U, (value * 255U + alpha / 2) / alpha));
-        };
-        *to++ = channel(16);
-        *to++ = channel(8);
-        *to++ = channel(0);
-        if (isTranslucent) *to++ = static_cast<std::uint8_t>(alpha);
+            *to++ = static_cast<std::uint8_t>(
+                alpha == 0 ? 0 : std::min(255U, (value * 255U + alpha / 2) / alpha));
+        }
+        *to++ = static_cast<std::uint8_t>(alpha);
     }
 }
 
@@ -89,6 +98,7 @@ std::string pngOf(const VectorPicture& picture) {
         perMetre(picture.width, picture.widthPt), perMetre(picture.height, picture.heightPt));
     std::vector<std::uint8_t> row(static_cast<std::size_t>(picture.width) *
                                   (picture.isTranslucent ? 4U : 3U));
+    const auto copyRow = picture.isTranslucent ? copyTranslucentRow : copyOpaqueRow;
     const std::int32_t stripHeight = std::max(1, pixelsOfStrip / picture.width);
     for (std::int32_t top = 0; top < picture.height; top += stripHeight) {
         const std::int32_t height = std::min(stripHeight, picture.height - top);
@@ -96,8 +106,7 @@ std::string pngOf(const VectorPicture& picture) {
         const std::uint8_t* pixels = cairo_image_surface_get_data(strip.get());
         const auto stride = static_cast<std::size_t>(cairo_image_surface_get_stride(strip.get()));
         for (std::int32_t y = 0; y < height; ++y) {
-            copyRow(pixels + static_cast<std::size_t>(y) * stride, picture.width,
-                    picture.isTranslucent, row);
+            copyRow(pixels + static_cast<std::size_t>(y) * stride, picture.width, row.data());
             writer.writeRow(row);
         }
     }

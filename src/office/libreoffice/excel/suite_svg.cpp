@@ -12,8 +12,6 @@ namespace libreoffice::excel {
 
 namespace {
 
-/// The suite draws what is larger sooner than others read it.
-constexpr std::size_t largest = 8U << 20U;
 constexpr unsigned asWritten =
     pugi::parse_default | pugi::parse_ws_pcdata | pugi::parse_doctype | pugi::parse_declaration;
 
@@ -118,9 +116,7 @@ void dropClipsOfPage(pugi::xml_document& document, const SuiteSvg& page) {
 
 std::string mended(const SuiteSvg& page) {
     pugi::xml_document document;
-    if (page.text.size() > largest ||
-        !document.load_buffer(page.text.data(), page.text.size(), asWritten))
-        return {};
+    if (!document.load_buffer(page.text.data(), page.text.size(), asWritten)) return {};
     pugi::xml_node svg = document.child("svg");
     const auto set = [&](const char* name, const std::string& value) {
         pugi::xml_attribute attribute = svg.attribute(name);

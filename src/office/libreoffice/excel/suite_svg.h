@@ -19,7 +19,7 @@ struct SuiteSvg {
 };
 
 /// The page as the suite itself would draw it: with its true size, and with what the exporter gets
-/// wrong put right. Empty if it is no SVG, or too large to be worth the reading.
+/// wrong put right. Empty if it is no SVG.
 [[nodiscard]] std::string mended(const SuiteSvg& page);
 
 }  // namespace libreoffice::excel
