@@ -60,6 +60,8 @@ void GlyphPainter::setFont(const Metafile::Font& font) {
 }
 
 void GlyphPainter::paint(const Metafile::Text& text, const Metafile::Font& font) {
+    // Too small to be seen.
+    if (std::round(font.height * down_) < 1) return;
     setFont(font);
     cairo_save(context_);
     cairo_set_source_rgb(context_, text.colour.red, text.colour.green, text.colour.blue);
