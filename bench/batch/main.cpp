@@ -21,6 +21,8 @@
 namespace {
 
 constexpr int turns = 3;
+/// What an item costs is the time from one to the next.
+constexpr int fewest = 2;
 
 struct Sizes {
     bench::BatchCost inSuite;
@@ -144,8 +146,12 @@ int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         if (const auto named = formats.find(argv[i]); named != formats.end()) {
             format = named->second;
+        } else if (const int items = std::atoi(argv[i]); items >= fewest) {
+            counts.push_back(items);
         } else {
-            counts.push_back(std::max(1, std::atoi(argv[i])));
+            fmt::print(stderr, "bench-batch: '{}' is no format, and no count from {}\n", argv[i],
+                       fewest);
+            return 2;
         }
     }
     try {
