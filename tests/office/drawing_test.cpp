@@ -10,14 +10,6 @@
 #include "support/png_file.h"
 #include "support/temporary_folder.h"
 
-// What the sanitizers find within the library of fonts is not this program's.
-extern "C" {
-const char* __lsan_default_suppressions();
-const char* __lsan_default_suppressions() {
-    return "leak:libfontconfig\n";
-}
-}
-
 namespace {
 
 using office::drawing::DrawingRoom;
