@@ -46,6 +46,27 @@ TEST_F(PowerPointLive, SetsANewTitleInTheTypeOfTheDecksOwn) {
     expectSaved(deck, 3, {R"(<a:rPr b="1")"}, {"<a:spAutoFit/>"});
 }
 
+TEST_F(PowerPointLive, IsAtTheSlideAskedForLastOnceAnythingIsAskedOfTheWindow) {
+    const Object deck = openWithSlides();
+    const Value window = app.get("ActiveWindow");
+    const auto goTo = [&](std::int32_t place) { window.get("View").call("GotoSlide", place); };
+    goTo(1);
+    for (const std::int32_t place : {2, 1, 3}) {
+        goTo(place);
+        expectMembers(window, {{"View.Slide.SlideIndex", place}});
+    }
+    const Value shape = addPicture(slide(deck, 2), 50, 50);
+    goTo(3);
+    shape.call("Select");
+    expectMembers(window, {{"View.Slide.SlideIndex", 2}, {"Selection.ShapeRange.Count", 1}});
+    goTo(1);
+    goTo(3);
+    window.put("ViewType", window.get("ViewType"));
+    goTo(1);
+    slide(deck, 2).call("Select");
+    expectMembers(window, {{"View.Slide.SlideIndex", 2}});
+}
+
 TEST_F(PowerPointLive, BeginsAPresentationOfItsOwnWithoutSlides) {
     const Object deck = app.get("Presentations").call("Add").toObject();
     EXPECT_EQ(slideCount(deck), 0);

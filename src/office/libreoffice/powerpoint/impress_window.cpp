@@ -99,16 +99,30 @@ const uno::Reference<css::frame::XController>& ImpressWindow::controller() {
     return controller_;
 }
 
+const uno::Reference<css::frame::XController>& ImpressWindow::settledController() {
+    if (awaited_) showNow(std::exchange(awaited_, nullptr));
+    return controller();
+}
+
 model::DeckSlidePtr ImpressWindow::slideInView() {
     if (deck_.hasNoSlides()) return nullptr;
-    static_cast<void>(controller());
+    static_cast<void>(settledController());
     return deck_.slideOf(view_->getCurrentPage());
 }
 
 void ImpressWindow::show(const model::DeckSlidePtr& slide) {
+    constexpr auto rest = std::chrono::milliseconds(250);
+    if (std::chrono::steady_clock::now() - shownAt_ >= rest) return showNow(slide);
+    awaited_ = slide;
+    selectedByCall_.reset();
+}
+
+void ImpressWindow::showNow(const model::DeckSlidePtr& slide) {
+    awaited_.reset();
     static_cast<void>(controller());
     view_->setCurrentPage(std::static_pointer_cast<ImpressSlide>(slide)->page());
     selectedByCall_.reset();
+    shownAt_ = std::chrono::steady_clock::now();
 }
 
 std::vector<model::DeckShapePtr> ImpressWindow::selectedShapes() {
@@ -128,13 +142,13 @@ std::vector<model::DeckShapePtr> ImpressWindow::selectedShapes() {
 void ImpressWindow::select(const model::DeckShapePtr& shape) {
     const auto& wanted = dynamic_cast<ImpressShape&>(*shape);
     const auto slide = wanted.slide().shared_from_this();
-    if (slideInView() != slide) show(slide);
+    if (slideInView() != slide) showNow(slide);
     select(wanted.reference());
     selectedByCall_ = shape;
 }
 
 void ImpressWindow::select(const uno::Reference<css::drawing::XShape>& shape) {
-    static_cast<void>(controller());
+    static_cast<void>(settledController());
     selection_->select(uno::Any(shape));
 }
 
@@ -145,7 +159,7 @@ void ImpressWindow::unselect() {
 }
 
 std::vector<uno::Reference<css::drawing::XShape>> ImpressWindow::selection() {
-    static_cast<void>(controller());
+    static_cast<void>(settledController());
     std::vector<uno::Reference<css::drawing::XShape>> shapes;
     uno::Reference<css::container::XIndexAccess> selected;
     selection_->getSelection() >>= selected;
@@ -168,7 +182,7 @@ bool ImpressWindow::showsMasterPage() {
 }
 
 std::int32_t ImpressWindow::viewType() {
-    const std::string resource = mainView(deck_.connection(), controller());
+    const std::string resource = mainView(deck_.connection(), settledController());
     for (const ViewKind& kind : viewKinds) {
         if (kind.resource == resource && kind.ofMasterPage == showsMasterPage())
             return kind.viewType;
@@ -208,16 +222,16 @@ bool ImpressWindow::moveToFront(const model::DeckSlidePtr& slide) {
     // any view, one that is not in the slide sorter only.
     constexpr const char* command = ".uno:MovePageFirst";
     const auto before = slideInView();
-    show(slide);
+    showNow(slide);
     dispatch(command);
     if (slide->place() != 1) {
         const std::int32_t view = viewType();
         setViewType(slideSorter);
-        show(slide);
+        showNow(slide);
         dispatch(command);
         setViewType(view);
     }
-    if (before) show(before);
+    if (before) showNow(before);
     return slide->place() == 1;
 }
 
@@ -228,7 +242,7 @@ void ImpressWindow::pasteOnto(ImpressSlide& slide, sal_uInt32 format) {
         if (view != normalView) setViewType(view);
     });
     if (view != normalView) setViewType(normalView);
-    static_cast<void>(controller());
+    static_cast<void>(settledController());
     const auto before = view_->getCurrentPage();
     const uno::Any selected = selection_->getSelection();
     const AtEnd pageBack([&] {

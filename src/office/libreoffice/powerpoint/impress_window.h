@@ -6,6 +6,7 @@
 #include <com/sun/star/frame/XController.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
+#include <chrono>
 #include <cstdint>
 #include <vector>
 
@@ -29,6 +30,9 @@ public:
     /// 1 (slide) is the normal view.
     void setViewType(std::int32_t viewType) override;
     model::DeckSlidePtr slideInView() override;
+    /// A window that has just come to a slide rests there for a moment: LibreOffice paints each
+    /// slide that is shown, pictures and all, and nothing else goes on meanwhile. Whatever else is
+    /// asked of the window, but for letting the selection go, brings it to its slide first.
     void show(const model::DeckSlidePtr& slide) override;
     std::vector<model::DeckShapePtr> selectedShapes() override;
     void select(const model::DeckShapePtr& shape) override;
@@ -45,6 +49,9 @@ public:
 
 private:
     [[nodiscard]] const uno::Reference<css::frame::XController>& controller();
+    /// With the slide in view that was asked for last.
+    [[nodiscard]] const uno::Reference<css::frame::XController>& settledController();
+    void showNow(const model::DeckSlidePtr& slide);
     [[nodiscard]] bool showsMasterPage();
     /// Runs a command of the menus (".uno:DiaMode") here.
     void dispatch(const char* command,
@@ -58,6 +65,9 @@ private:
     /// In the sorter and in the outline LibreOffice says that it has selected a shape and has none
     /// selected then: there the one counts that was selected by a call.
     std::weak_ptr<model::DeckShape> selectedByCall_;
+    /// The slide that the window is still to come to.
+    model::DeckSlidePtr awaited_;
+    std::chrono::steady_clock::time_point shownAt_;
 };
 
 }  // namespace libreoffice::powerpoint
