@@ -1,8 +1,6 @@
 #include "office/drawing/drawn_widths.h"
 
-#include <pango/pangocairo.h>
-
-#include "office/drawing/released_by.h"
+#include "office/drawing/pango_font.h"
 
 namespace office::drawing {
 
@@ -28,13 +26,7 @@ DrawnWidths::DrawnWidths() : context_(std::make_unique<Context>()) {
 DrawnWidths::~DrawnWidths() = default;
 
 std::optional<double> DrawnWidths::of(const std::string& line, const NamedFont& font) const {
-    const std::unique_ptr<PangoFontDescription, ReleasedBy<&pango_font_description_free>> wanted(
-        pango_font_description_new());
-    pango_font_description_set_family(wanted.get(), font.family.c_str());
-    pango_font_description_set_weight(wanted.get(), static_cast<PangoWeight>(font.weight));
-    pango_font_description_set_style(wanted.get(),
-                                     font.isItalic ? PANGO_STYLE_ITALIC : PANGO_STYLE_NORMAL);
-    pango_font_description_set_absolute_size(wanted.get(), measuredSize * PANGO_SCALE);
+    const PangoFontOwned wanted = pangoFontOf(font, measuredSize);
     const Owned<PangoLayout> layout(pango_layout_new(context_->context.get()));
     pango_layout_set_font_description(layout.get(), wanted.get());
     pango_layout_set_text(layout.get(), line.data(), static_cast<int>(line.size()));

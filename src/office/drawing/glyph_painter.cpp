@@ -1,13 +1,11 @@
 #include "office/drawing/glyph_painter.h"
 
-#include <pango/pangocairo.h>
-
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <vector>
 
-#include "office/drawing/released_by.h"
+#include "office/drawing/pango_font.h"
 
 namespace office::drawing {
 
@@ -15,7 +13,6 @@ namespace {
 
 template <class Kind>
 using Owned = std::unique_ptr<Kind, ReleasedBy<&g_object_unref>>;
-using Description = std::unique_ptr<PangoFontDescription, ReleasedBy<&pango_font_description_free>>;
 using Metrics = std::unique_ptr<PangoFontMetrics, ReleasedBy<&pango_font_metrics_unref>>;
 using Options = std::unique_ptr<cairo_font_options_t, ReleasedBy<&cairo_font_options_destroy>>;
 
@@ -48,15 +45,8 @@ GlyphPainter::~GlyphPainter() = default;
 void GlyphPainter::setFont(const Metafile::Font& font) {
     if (layout_->font == &font) return;
     layout_->font = &font;
-    const Description description(pango_font_description_new());
-    pango_font_description_set_family(description.get(), font.name.family.c_str());
-    pango_font_description_set_weight(description.get(),
-                                      static_cast<PangoWeight>(font.name.weight));
-    pango_font_description_set_style(description.get(),
-                                     font.name.isItalic ? PANGO_STYLE_ITALIC : PANGO_STYLE_NORMAL);
-    pango_font_description_set_absolute_size(description.get(),
-                                             std::round(font.height * down_) * PANGO_SCALE);
-    pango_layout_set_font_description(layout_->layout.get(), description.get());
+    const PangoFontOwned wanted = pangoFontOf(font.name, std::round(font.height * down_));
+    pango_layout_set_font_description(layout_->layout.get(), wanted.get());
 }
 
 void GlyphPainter::paint(const Metafile::Text& text, const Metafile::Font& font) {

@@ -100,7 +100,8 @@ const uno::Reference<css::frame::XController>& ImpressWindow::controller() {
 }
 
 const uno::Reference<css::frame::XController>& ImpressWindow::settledController() {
-    if (awaited_) showNow(std::exchange(awaited_, nullptr));
+    const auto slide = std::exchange(awaited_, nullptr);
+    if (slide && !slide->isGone()) showNow(slide);
     return controller();
 }
 
