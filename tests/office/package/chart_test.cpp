@@ -69,6 +69,7 @@ WorkbookParts chartWorkbook() {
         {"[Content_Types].xml",
          R"(<Types xmlns="http://schemas.openxmlformats.org/package/2006/content-types"><Default Extension="xml" ContentType="text/xml"/>)"
          R"(<Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml"/><Default Extension="png" ContentType="image/png"/>)"
+         R"(<Override PartName="/xl/media/plain" ContentType="image/png"/>)"
          R"(<Override PartName="/xl/workbook.xml" ContentType=")" +
              main + R"(spreadsheetml.sheet.main+xml"/></Types>)"},
         {"_rels/.rels", relsOf({{"rId1", "officeDocument", "xl/workbook.xml"},
@@ -113,6 +114,7 @@ WorkbookParts chartWorkbook() {
                  {"rId9", "image", "../media/image1.png"}})},
         {"xl/charts/style1.xml", "<style/>"},
         {"xl/media/image1.png", pngBytes()},
+        {"xl/media/plain", pngBytes()},
         {"xl/drawings/shapes.xml",
          R"(<shapes xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships"><blip r:embed="rId1"/><link r:id="rId2"/></shapes>)"},
         {"xl/drawings/_rels/shapes.xml.rels",
@@ -269,6 +271,8 @@ TEST_F(Chart, GoesAsAPictureWhereItCantBeOneAndSaysWhy) {
          "/image\"", "/printer\""},
         {"it holds something that can't leave its workbook", "xl/charts/_rels/chart1.xml.rels",
          "image1.png", "gone.png"},
+        {"it holds something that can't leave its workbook", "xl/charts/_rels/chart1.xml.rels",
+         "image1.png", "plain"},
         {"it holds something that can't leave its workbook", "xl/drawings/_rels/shapes.xml.rels",
          "/image\"", "/chartUserShapes\""},
         {"its workbook's file can't be used (its part /xl/drawings/shapes.xml is no XML (Start-end "
@@ -306,7 +310,19 @@ TEST_F(Chart, GoesAsAPictureWhereItCantBeOneAndSaysWhy) {
             EXPECT_THROW(paste(source, true), office::Failure) << one.reason;
         }
     }
+    // Nothing is opened again for being damaged, but for having changed.
+    WorkbookParts damaged = chartWorkbook();
+    damaged["xl/workbook.xml"] += "<";
+    const CopySource mended = sourceIn(damaged);
     WorkbookFiles files;
+    const auto written = std::filesystem::last_write_time(mended.file);
+    for (const auto& [age, isFound] :
+         {std::pair(0, false), std::pair(0, false), std::pair(1, true)}) {
+        std::filesystem::last_write_time(mended.file, written + std::chrono::seconds(age));
+        EXPECT_EQ(findChart(mended, files).obstacle.empty(), isFound) << age;
+        std::filesystem::copy_file(sourceIn(chartWorkbook()).file, mended.file,
+                                   std::filesystem::copy_options::overwrite_existing);
+    }
     const CopySource unsaved{CopySource::Kind::Chart, "", "Data", "Chart 1", {}};
     EXPECT_EQ(
         pasteRemarks(PasteAs::Linked, {{"Chart 1", unsaved}}, files),

@@ -174,6 +174,7 @@ TEST_F(ObjectOnASlide, IsRefusedWithAReasonWhereTheFileHoldsNoSuchSheet) {
     const std::string old =
         folder.write("Old.xls", "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1" + std::string(600, ' '));
     const std::string open = writeBook("Open.ods", {{"[Content_Types].xml", ""}});
+    const std::string hostile = writeBook("Hostile.xlsx", {{"xl/sheet2.xml", "?tabSelected"}});
     struct {
         CopySource source;
         bool isLink;
@@ -186,6 +187,7 @@ TEST_F(ObjectOnASlide, IsRefusedWithAReasonWhereTheFileHoldsNoSuchSheet) {
         {{Kind::Cells, open, "Data", "", "$A$1"}, true, "It can't be linked"},
         {{Kind::Cells, book, "New", "", "$A$1"}, true, "does not hold its sheet"},
         {{Kind::Cells, book + "x", "Data", "", "$A$1"}, false, "can't be read"},
+        {{Kind::Cells, hostile, "Data", "", "$A$1"}, false, "/xl/sheet2.xml is no XML"},
     };
     const Object deck = openDeck();
     for (const auto& row : rows) {

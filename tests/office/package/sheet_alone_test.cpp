@@ -128,7 +128,11 @@ TEST(ASheetAlone, HandsOnNothingOfTheOthers) {
         {"docProps/core.xml", "<Zebra/>"},
         {"xl/sheet1.xml",
          sheet("<sheetData>" + cells + "</sheetData>" + rules +
-               "<drawing r:id=\"rId1\"/><oleObjects><oleObject r:id=\"rId9\"/></oleObjects>")},
+               "<drawing r:id=\"rId1\"/><oleObjects><oleObject r:id=\"rId9\"><objectPr "
+               "r:id=\"rId2\"/></oleObject></oleObjects>")},
+        {"xl/_rels/sheet1.xml.rels",
+         relationshipsTo({{"drawing", "drawing1.xml"}, {"image", "look.emf"}})},
+        {"xl/look.emf", "Zebra"},
         {"xl/sheet2.xml", sheet("<sheetData><row r=\"1\"><c r=\"A1\" t=\"inlineStr\"><is><t>Zebra"
                                 "</t></is></c></row></sheetData>")},
         {"xl/_rels/drawing1.xml.rels", relationshipsTo({{"chart", "chart1.xml"}})},

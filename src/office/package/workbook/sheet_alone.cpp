@@ -8,6 +8,7 @@
 #include "office/package/part_name.h"
 #include "office/package/workbook/chart_values.h"
 #include "office/package/workbook/sheet_markup.h"
+#include "office/package/workbook/source_chart.h"
 #include "office/text.h"
 
 namespace office::package {
@@ -20,6 +21,10 @@ const std::set<std::string_view> keptRelationships = {
     "chartEx",     "chartUserShapes", "chartStyle",        "chartColorStyle", "themeOverride",
     "image",       "table",           "comments",          "vmlDrawing",      "hyperlink",
     "diagramData", "diagramLayout",   "diagramQuickStyle", "diagramColors",   "diagramDrawing"};
+
+/// Of these those that no attribute of their part names.
+const std::set<std::string_view> impliedRelationships = {
+    "comments", "chartStyle", "chartColorStyle", "themeOverride", "diagramDrawing"};
 
 const std::set<std::string_view> keptInWorkbook = {"fileVersion", "workbookPr",   "bookViews",
                                                    "sheets",      "definedNames", "calcPr"};
@@ -245,6 +250,12 @@ private:
             keepChartValues(xml, reach_);
         }
         workbook_.replace(part, xml.bytes());
+        // What only the markup that went has named goes with it.
+        std::set<std::string_view> named;
+        for (const pugi::xml_attribute id : relationshipIdsIn(xml)) named.insert(id.value());
+        dropRelationships(part, [&](const Relationship& one) {
+            return named.contains(one.id) || impliedRelationships.contains(kindOf(one));
+        });
     }
 
     /// What all sheets have in common.

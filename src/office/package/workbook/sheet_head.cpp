@@ -18,7 +18,8 @@ std::string_view rootName(std::string_view bytes) {
                              declaration.find("utf-8") == std::string::npos;
         if (isOther) return {};
     }
-    while (at + 1 < bytes.size() && (bytes[at + 1] == '?' || bytes[at + 1] == '!'))
+    while (at != std::string_view::npos && at + 1 < bytes.size() &&
+           (bytes[at + 1] == '?' || bytes[at + 1] == '!'))
         at = bytes.find('<', at + 1);
     if (at >= bytes.size()) return {};
     const auto end = bytes.find_first_of(" \t\r\n/>", at);

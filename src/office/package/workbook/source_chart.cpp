@@ -7,6 +7,8 @@
 #include <optional>
 #include <utility>
 
+#include "office/package/part_name.h"
+
 namespace office::package {
 
 namespace {
@@ -41,7 +43,9 @@ std::optional<Companion> companionOf(Package& book, const std::string& source,
     std::string part = book.relationshipsOf(source).partOf(relationship);
     if (!book.has(part)) return {};
     const std::string type = book.contentTypeOf(part);
-    if (type.empty() || (isPicture && !type.starts_with("image/"))) return {};
+    if (type.empty()) return {};
+    // A picture keeps the ending of its name, by which a package knows its type.
+    if (isPicture && (!type.starts_with("image/") || extensionOf(part).empty())) return {};
     return Companion{known->kind, relationship, std::move(part)};
 }
 

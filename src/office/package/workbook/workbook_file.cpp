@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <future>
 #include <optional>
 #include <system_error>
 #include <utility>
@@ -109,6 +110,14 @@ std::optional<WorkbookChart> chartIn(Package& package, const std::string& drawin
         .cells = cellsUnder(frame)};
 }
 
+/// What is made now, or why it can't be made: what is damaged takes its time as well.
+template <class Result>
+std::shared_future<Result> madeOnce(const std::function<Result()>& make) {
+    auto made = std::async(std::launch::deferred, make).share();
+    made.wait();
+    return made;
+}
+
 /// Of a path with slashes between its names. A colon stays after the letter of a drive only, since
 /// it would make a scheme of the first name of a relative one.
 std::string addressOf(const std::filesystem::path& path) {
@@ -167,10 +176,10 @@ const WorkbookSheet* WorkbookFile::sheet(std::string_view name) const {
 }
 
 const std::vector<WorkbookChart>& WorkbookFile::chartsOf(const WorkbookSheet& sheet) {
-    // What is damaged is so each time that it is asked for.
-    const auto known = charts_.find(sheet.part);
-    return known != charts_.end() ? known->second
-                                  : charts_.emplace(sheet.part, readCharts(sheet)).first->second;
+    auto& known = charts_[sheet.part];
+    if (!known.valid())
+        known = madeOnce<std::vector<WorkbookChart>>([&] { return readCharts(sheet); });
+    return known.get();
 }
 
 std::vector<WorkbookChart> WorkbookFile::readCharts(const WorkbookSheet& sheet) {
@@ -227,9 +236,9 @@ std::string WorkbookFile::bytes() const {
 
 const std::string& WorkbookFile::remembered(const std::string& purpose,
                                             const std::function<std::string()>& make) {
-    const auto known = remembered_.find(purpose);
-    return known != remembered_.end() ? known->second
-                                      : remembered_.emplace(purpose, make()).first->second;
+    auto& known = remembered_[purpose];
+    if (!known.valid()) known = madeOnce<std::string>(make);
+    return known.get();
 }
 
 WorkbookFilePtr WorkbookFiles::at(const std::string& path) {
@@ -240,9 +249,10 @@ WorkbookFilePtr WorkbookFiles::at(const std::string& path) {
         throw PackageError(Fault::Unreadable,
                            fmt::format("it can't be read ({})", problem.message()));
     Opened& known = files_[path];
-    if (!known.file || known.changed != changed)
-        known = {changed, std::make_shared<WorkbookFile>(file)};
-    return known.file;
+    if (!known.file.valid() || known.changed != changed)
+        known = {changed,
+                 madeOnce<WorkbookFilePtr>([&] { return std::make_shared<WorkbookFile>(file); })};
+    return known.file.get();
 }
 
 std::string fileAddress(const std::filesystem::path& file, const std::filesystem::path& base) {

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <future>
 #include <map>
 #include <memory>
 #include <optional>
@@ -79,8 +80,8 @@ private:
     bool isTemplate_ = false;
     std::vector<WorkbookSheet> sheets_;
     /// By the part of the sheet.
-    std::unordered_map<std::string, std::vector<WorkbookChart>> charts_;
-    std::unordered_map<std::string, std::string> remembered_;
+    std::unordered_map<std::string, std::shared_future<std::vector<WorkbookChart>>> charts_;
+    std::unordered_map<std::string, std::shared_future<std::string>> remembered_;
 };
 
 using WorkbookFilePtr = std::shared_ptr<WorkbookFile>;
@@ -94,7 +95,7 @@ public:
 private:
     struct Opened {
         std::filesystem::file_time_type changed;
-        WorkbookFilePtr file;
+        std::shared_future<WorkbookFilePtr> file;
     };
     std::map<std::string, Opened> files_;
 };
