@@ -1,4 +1,5 @@
 #include "run_stage.h"
+#include "session/workbook_store.h"
 
 namespace {
 
@@ -26,6 +27,24 @@ TEST_F(RunAttachedTest, UsesWhatIsActiveStartsNothingAndClosesNothing) {
     EXPECT_NE(suite->excel().activeWorkbook(), nullptr);
     EXPECT_EQ(suite->powerPoint().open().size(), 1U);
     EXPECT_EQ(slidesIn("Out.pptx"), 6);
+}
+
+TEST_F(RunAttachedTest, LeavesThePlacementInTheUsersWorkbookAsItWasAlsoAfterAFailure) {
+    openUsersDocuments();
+    ASSERT_EQ(attach(), 0) << console.error;
+    const auto top = suite->attach("Excel.Application")
+                         .get("ActiveWorkbook")
+                         .get("Sheets")
+                         .get("Item", session::store::sheetName)
+                         .get("Range", "O1")
+                         .toObject();
+    top.put("Value", 0.125);
+    for (const int code : {0, 1}) {
+        if (code == 1) suite->failures().fail("Chart.Export");
+        ASSERT_EQ(attach({"--overwrite", "--top", "0.5"}), code) << console.error;
+        EXPECT_EQ(deck->slide(7).shapes().back().box().top, 270);
+        EXPECT_EQ(top.get("Value").toDouble(), 0.125);
+    }
 }
 
 TEST_F(RunAttachedTest, LeavesExcelDrawingAlsoAfterAFailure) {

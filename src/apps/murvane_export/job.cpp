@@ -32,9 +32,38 @@ public:
     std::int32_t exportTo(const std::string& neighbour) override;
 
 private:
-    void storePlacement();
-
     JobScene scene_;
+};
+
+/// The placement of the options stands in the store of the workbook, where the export looks for it,
+/// as long as this lives. What they leave out keeps what the workbook has.
+class PlacementForARun {
+public:
+    PlacementForARun(session::OfficeSession& session, const Options& options)
+        : session_(session),
+          before_(session::readStoredPlacement(session)) {
+        session::Placement placement = before_;
+        const auto take = [](const auto& wanted, std::optional<double>& held) {
+            if (wanted) held = wanted->share;
+        };
+        take(options.top, placement.top);
+        take(options.width, placement.width);
+        take(options.left, placement.left);
+        session::writeStoredPlacement(session, placement);
+    }
+    ~PlacementForARun() {
+        try {
+            session::writeStoredPlacement(session_, before_);
+        } catch (const office::Failure&) {
+            // The suite has gone, and the workbook with it.
+        }
+    }
+    PlacementForARun(const PlacementForARun&) = delete;
+    PlacementForARun& operator=(const PlacementForARun&) = delete;
+
+private:
+    session::OfficeSession& session_;
+    session::Placement before_;
 };
 
 std::int32_t SlidesJob::exportTo(const std::string& neighbour) {
@@ -48,25 +77,14 @@ std::int32_t SlidesJob::exportTo(const std::string& neighbour) {
                      .shadow = options.shadow,
                      .pictureStyle = options.pictureStyle,
                      .placesShapes = options.placesShapes()};
-    if (options.placesShapes()) storePlacement();
+    std::optional<PlacementForARun> placement;
+    if (options.placesShapes()) placement.emplace(scene_.session, options);
     const std::int32_t done = powerpoint::ExportRows(batch);
+    placement.reset();
     scene_.list.selected = -1;
     scene_.documents.removeFirstSlides();
     scene_.session.SessionPresentation.call("SaveCopyAs", neighbour);
     return done;
-}
-
-/// Puts the placement of the options into the store of the workbook, where the export looks for it.
-/// What they leave out keeps what the workbook has.
-void SlidesJob::storePlacement() {
-    session::Placement placement = session::readStoredPlacement(scene_.session);
-    const auto take = [](const std::optional<PlacementValue>& wanted, std::optional<double>& held) {
-        if (wanted) held = wanted->share;
-    };
-    take(scene_.options.top, placement.top);
-    take(scene_.options.width, placement.width);
-    take(scene_.options.left, placement.left);
-    session::writeStoredPlacement(scene_.session, placement);
 }
 
 class WordJob : public Job {

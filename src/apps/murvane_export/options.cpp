@@ -196,7 +196,7 @@ void declareLooks(CLI::App& app, Options& options, RawTexts& raw) {
                  "Captions become titles of slides, as they do of pages in PDF and HTML");
     app.add_flag("--no-titles", raw.noTitles, "They don't, not there either");
     app.add_flag("--source", options.source,
-                 "A line with the workbook's path on each slide or page");
+                 "A line with the workbook's path on each slide, or each page of a PDF");
     app.add_flag("--same-width", options.sameWidth,
                  "Word: pictures as wide as the text; HTML: pictures of one width");
     app.add_flag("--captions-below", options.captionsBelow,
@@ -335,10 +335,24 @@ void finish(Options& options, const RawTexts& raw) {
 /// An option that nothing of the run would heed is a slip of the caller's.
 void requireDestinations(const CLI::App& app, const Options& options) {
     const std::vector<std::pair<const char*, std::vector<const char*>>> known = {
-        {"--cover", {"pdf"}},         {"--captions-below", {"word"}},
-        {"--blank-lines", {"html"}},  {"--image-format", {"images"}},
-        {"--file-names", {"images"}}, {"--same-width", {"word", "html"}},
-        {"--size", {"pdf", "html"}},  {"--pictures", {"slides", "word"}},
+        {"--cover", {"pdf"}},
+        {"--captions-below", {"word"}},
+        {"--blank-lines", {"html"}},
+        {"--image-format", {"images"}},
+        {"--file-names", {"images"}},
+        {"--slides", {"slides"}},
+        {"--style", {"slides"}},
+        {"--top", {"slides"}},
+        {"--width", {"slides"}},
+        {"--left", {"slides"}},
+        {"--format", {"slides", "word"}},
+        {"--pictures", {"slides", "word"}},
+        {"--shadow", {"slides", "word"}},
+        {"--same-width", {"word", "html"}},
+        {"--size", {"pdf", "html"}},
+        {"--source", {"slides", "pdf"}},
+        {"--titles", {"slides", "pdf", "html"}},
+        {"--no-titles", {"slides", "pdf", "html"}},
     };
     for (const auto& [option, names] : known) {
         const bool isHeeded = std::any_of(names.begin(), names.end(), [&](const char* name) {
