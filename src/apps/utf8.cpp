@@ -75,11 +75,16 @@ std::size_t columnCount(std::string_view text) {
     return columns;
 }
 
-std::string printable(std::string_view text) {
-    std::string shown(text);
-    std::replace_if(
-        shown.begin(), shown.end(),
-        [](char c) { return static_cast<unsigned char>(c) < 0x20U || c == '\x7F'; }, ' ');
+std::string printable(std::string_view text, std::string_view kept) {
+    std::string shown;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t length = std::max<std::size_t>(1, characterLength(text, at));
+        const std::string_view own = text.substr(at, length);
+        const char32_t character = characterAt(text, at, length);
+        const bool isControl = character < 0x20 || (character >= 0x7F && character < 0xA0);
+        shown += isControl && kept.find(own) == std::string_view::npos ? " " : own;
+        at += length;
+    }
     return shown;
 }
 

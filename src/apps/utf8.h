@@ -14,8 +14,9 @@ namespace apps {
 /// take two, marks that sit on another character none. The text is well-formed UTF-8.
 [[nodiscard]] std::size_t columnCount(std::string_view text);
 
-/// The text on one line that a terminal shows as it is: control characters become blanks.
-[[nodiscard]] std::string printable(std::string_view text);
+/// The text as a terminal shows it without doing what it says: control characters become blanks but
+/// for those that are `kept`, such as the ends of lines.
+[[nodiscard]] std::string printable(std::string_view text, std::string_view kept = {});
 
 /// A path as the system has it, from UTF-8, and back: `path::string` is another encoding elsewhere.
 [[nodiscard]] std::filesystem::path pathOf(std::string_view text);

@@ -17,6 +17,18 @@ TEST_F(RunFailuresTest, AFailureNamesTheItemThereIsAndLeavesNoFile) {
     EXPECT_EQ(suite->excel().activeWorkbook(), nullptr);
 }
 
+TEST_F(RunFailuresTest, WhatItTellsOfNamesCannotDriveTheTerminal) {
+    const std::string hostile = folder.write("Hostile.xlsx", "a workbook");
+    suite->excel().addFile(hostile, [](office_double::Workbook& book) {
+        book.sheet("No\x1b[2Jrth").chart("Chart\n1").chart("Chart 2");
+    });
+    suite->failures().failAlways("Chart.Export");
+    for (const char* option : {"--overwrite", "--keep-going"}) {
+        EXPECT_EQ(run({hostile, "--output", folder.file("Out.pptx"), option}), 1);
+        EXPECT_TRUE(console.errorHas("on sheet \"No [2Jrth\"")) << console.error;
+    }
+}
+
 TEST_F(RunFailuresTest, KeptGoingTheRunSavesTheOthersAndListsWhatFailed) {
     suite->failures().fail("Chart.Export", 2);
     EXPECT_EQ(exportWith({"--keep-going"}), 1);

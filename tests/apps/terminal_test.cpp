@@ -53,8 +53,8 @@ TEST_F(TerminalNoticesTest, OneLineStaysOneLineAndMoreAreIndented) {
 
 TEST_F(TerminalNoticesTest, TextFromAWorkbookCannotDriveTheTerminal) {
     apps::TerminalNotices notices(console, line, Answering::Refuses);
-    session::ShowWarningNotice(notices, "Name \x1b[2J\a gone");
-    EXPECT_EQ(console.error, "Warning: Name  [2J  gone\n");
+    session::ShowWarningNotice(notices, "Nāme \x1b[2J\a \xC2\x9B\x9B\x33m gone");
+    EXPECT_EQ(console.error, "Warning: Nāme  [2J    3m gone\n");
 }
 
 TEST_F(TerminalNoticesTest, AQuestionIsAnsweredAsWasAgreedBeforehand) {

@@ -54,6 +54,11 @@ apps::Answering answeringFor(const Options& options, const apps::Console& consol
     return console.canAsk() ? apps::Answering::AsksUser : apps::Answering::Refuses;
 }
 
+/// What is told of names in documents must not drive the terminal.
+void tell(apps::Console& console, const std::string& text) {
+    console.writeError(apps::printable(text, "\n"));
+}
+
 std::string reportOf(const office::Failure& failure) {
     if (dynamic_cast<const office::SuiteLost*>(&failure) != nullptr) {
         return fmt::format("The office suite has gone ({}). Nothing was written; try again.",
@@ -316,13 +321,13 @@ int Run::commit() {
                 "{} is incomplete: of {} items {} could not be exported{}\n", file, outcome.taken,
                 missing, outcome.failures.empty() ? "; see above." : ":");
             for (const std::string& line : outcome.failures) text += "  " + line + "\n";
-            surroundings_.console.writeError(text);
+            tell(surroundings_.console, text);
             exitCode = exit_code::failed;
         }
         try {
             order_.outputs[place]->commit();
         } catch (const RunError& error) {
-            surroundings_.console.writeError(fmt::format("murvane-export: {}\n", error.what()));
+            tell(surroundings_.console, fmt::format("murvane-export: {}\n", error.what()));
             exitCode = exit_code::failed;
             continue;
         }
@@ -346,7 +351,7 @@ int runInSuite(const Options& options, const Surroundings& surroundings) {
     if (surroundings.isInterrupted()) throw Interrupted();
     for (const FileRoute* route : {&order.decks, &order.documents}) {
         for (const std::string& remark : route->remarks)
-            surroundings.console.writeError("murvane-export: " + remark + "\n");
+            tell(surroundings.console, "murvane-export: " + remark + "\n");
     }
     FileSuite withFiles(*suite, surroundings.host, options,
                         {.decks = order.decks.isFile, .documents = order.documents.isFile});
@@ -357,7 +362,7 @@ int runInSuite(const Options& options, const Surroundings& surroundings) {
 
 int run(const Options& options, const Surroundings& surroundings) {
     const auto complain = [&](const std::string& text, int exitCode) {
-        surroundings.console.writeError("murvane-export: " + text + "\n");
+        tell(surroundings.console, "murvane-export: " + text + "\n");
         return exitCode;
     };
     try {
