@@ -1,9 +1,7 @@
 #include "apps/posix_host.h"
 
 #include <fcntl.h>
-#include <fmt/format.h>
 #include <pwd.h>
-#include <signal.h>
 #include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -11,7 +9,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <charconv>
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
@@ -23,6 +20,7 @@
 #include <vector>
 
 #include "apps/image_file.h"
+#include "apps/process_folder.h"
 #include "apps/whole_file.h"
 #include "office/failure.h"
 #include "session/file_names.h"
@@ -97,52 +95,6 @@ bool endsWell(pid_t opener, session::Host& host) {
     }
     letGo(opener);
     return true;
-}
-
-constexpr std::string_view folderStart = "murvane-of-";
-
-/// Whether a folder's name says that it belongs to a process which has ended.
-bool isOrphan(const fs::path& folder) {
-    std::string name = folder.filename().string();
-    int owner = 0;
-    if (name.starts_with('.')) name.erase(0, 1);
-    if (!name.starts_with(folderStart)) return false;
-    const char* const number = name.data() + folderStart.size();
-    const auto [end, error] = std::from_chars(number, name.data() + name.size(), owner);
-    if (error != std::errc{} || *end != '-' || owner <= 0) return false;
-    return ::kill(owner, 0) != 0 && errno == ESRCH;
-}
-
-/// Takes away what runs of this user have left that were killed.
-void sweep(const std::string& parent) {
-    std::error_code error;
-    std::vector<fs::path> orphans;
-    for (const auto& entry : fs::directory_iterator(parent, error)) {
-        struct stat status = {};
-        const bool isOwn = ::lstat(entry.path().c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
-                           status.st_uid == ::geteuid();
-        if (isOwn && isOrphan(entry.path())) orphans.push_back(entry.path());
-    }
-    for (const fs::path& orphan : orphans) fs::remove_all(orphan, error);
-}
-
-/// The folder's name tells its process, so that a later one knows whether it is still in use. Empty
-/// if it can't be made, with the reason in `errno`.
-std::string makeFolderOfProcess(const std::string& parent, std::string_view start) {
-    std::string path = fmt::format("{}/{}{}-XXXXXX", parent, start, ::getpid());
-    // mkdtemp makes it for this user alone.
-    if (::mkdtemp(path.data()) == nullptr) return {};
-    sweep(parent);
-    return path;
-}
-
-std::string makePrivateFolder(const std::string& parent) {
-    std::string path = makeFolderOfProcess(parent, folderStart);
-    if (path.empty()) return {};
-    // An office suite's pictures pass through folders of the same names here.
-    std::error_code ignored;
-    sweep(fs::temp_directory_path(ignored).string());
-    return path;
 }
 
 }  // namespace
@@ -284,7 +236,7 @@ void PosixHost::removeFolder(std::string_view path) {
 }
 
 std::string PosixHost::makeDraftFolder(std::string_view parent) {
-    std::string path = makeFolderOfProcess(std::string(parent), fmt::format(".{}", folderStart));
+    std::string path = apps::makeDraftFolder(std::string(parent));
     if (path.empty()) failIn(std::string(parent), "written to", errno);
     return path;
 }

@@ -92,8 +92,18 @@ int giveName(const std::string& from, const std::string& to, bool replaces) {
         return isDone ? 0 : errno;
     };
     const int error = rename(replaces ? 0 : RENAME_NOREPLACE);
-    // Some file systems can't rename without replacing.
-    return error == EINVAL && !replaces ? rename(0) : error;
+    if (error != EINVAL || replaces) return error;
+    // Some file systems can't rename without replacing. There a file has both names for a moment; a
+    // folder replaces an empty one alone.
+    if (::link(from.c_str(), to.c_str()) == 0) return ::unlink(from.c_str()) == 0 ? 0 : errno;
+    return errno == EPERM ? rename(0) : errno;
+}
+
+void flush(const std::string& path) {
+    const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (file < 0) return;
+    ::fsync(file);
+    ::close(file);
 }
 
 void failIn(const std::string& path, const char* what, int error) {

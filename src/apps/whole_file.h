@@ -16,6 +16,9 @@ void writeWhole(const std::string& path, std::string_view text, Readers readers)
 /// EEXIST if the name is taken and may not be replaced.
 [[nodiscard]] int giveName(const std::string& from, const std::string& to, bool replaces);
 
+/// Has the disk hold all of a file, as far as it can.
+void flush(const std::string& path);
+
 /// Whether files can be made in the folder, found out by trying: its mode says little to an
 /// administrator or on a foreign file system.
 [[nodiscard]] bool takesFiles(const std::string& folder);

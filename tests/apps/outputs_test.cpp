@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include "apps/murvane_export/errors.h"
 #include "apps/murvane_export/outputs.h"
+#include "office/text.h"
 #include "support/temporary_folder.h"
 
 namespace {
@@ -45,6 +47,21 @@ TEST_F(OutputsTest, ComesIntoBeingAtTheCommit) {
     output->commit();
     EXPECT_EQ(folder.names(), Names{"out.pptx"});
     EXPECT_EQ(folder.read("out.pptx"), "whole");
+}
+
+TEST_F(OutputsTest, WhatAKilledRunHasLeftGoesWithTheNextOne) {
+    const pid_t ended = ::fork();
+    if (ended == 0) ::_exit(0);
+    ::waitpid(ended, nullptr, 0);
+    std::string own = outputAt("out.pptx")->neighbour().parent_path().filename();
+    const std::string pid = std::to_string(::getpid());
+    ASSERT_NE(own.find(pid + "@"), std::string::npos) << own;
+    own.replace(own.find(pid), pid.size(), std::to_string(ended));
+    const std::string elsewhere = office::replaceAll(own, "@", "@x");
+    for (const std::string& name : {own, elsewhere})
+        std::filesystem::create_directories(folder.path() / name / "inner");
+    static_cast<void>(outputAt("out.pptx")->neighbour());
+    EXPECT_EQ(folder.names(), Names{elsewhere}) << "which another machine may be at work in";
 }
 
 TEST_F(OutputsTest, WithoutACommitAllIsAsItWas) {
@@ -124,6 +141,7 @@ TEST_F(OutputsTest, WhatCannotBeWrittenIsFoundOutAtOnce) {
         {Destination::Pdf, "out.pdf", true},
         {Destination::Pdf, "out.docx", false},
         {Destination::Html, "new", true},
+        {Destination::Html, "new/", true},
         {Destination::Html, "taken.pptx", false},
         {Destination::ImageFiles, "full", false},
         {Destination::ImageFiles, "missing/new", false},
@@ -147,13 +165,13 @@ TEST_F(OutputsTest, AFolderComesIntoBeingOrTakesInWhatWasMade) {
     std::filesystem::create_directory(folder.path() / "full");
     folder.write("full/a.png", "old");
     folder.write("full/b.png", "theirs");
-    for (const char* name : {"new", "empty", "full"}) {
+    for (const char* name : {"new/", "empty/", "full"}) {
         const auto output = outputAt(name, overwrite, Destination::ImageFiles);
         EXPECT_THROW(output->commit(), RunError);
         std::ofstream(output->neighbour() / "a.png") << "ours";
         std::filesystem::create_directory(output->neighbour() / "inner");
         std::ofstream(output->neighbour() / "inner" / "c.png") << "ours too";
-        EXPECT_NE(output->neighbour(), folder.path() / name);
+        EXPECT_EQ(output->neighbour().parent_path().parent_path(), folder.path()) << name;
         output->commit();
         EXPECT_EQ(folder.read(std::string(name) + "/a.png"), "ours");
         EXPECT_EQ(folder.read(std::string(name) + "/inner/c.png"), "ours too");

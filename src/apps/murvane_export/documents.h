@@ -44,9 +44,8 @@ private:
 };
 
 /// Makes the user's active workbook, presentation and document the session's, and leaves empty what
-/// there isn't. `RunError` if no suite is running, if no workbook is open, if `book` names another
-/// one than the active, or if the active presentation isn't the first one: pictures go to the
-/// first.
+/// there isn't. `RunError` if no suite is running, if no workbook is open, or if `book` names
+/// another one than the active.
 void takeActiveDocuments(session::OfficeSession& session, const Options& options);
 
 }  // namespace unattended

@@ -1,4 +1,3 @@
-#include <fcntl.h>
 #include <fmt/format.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -6,7 +5,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <fstream>
 #include <system_error>
@@ -14,6 +12,7 @@
 
 #include "apps/murvane_export/errors.h"
 #include "apps/murvane_export/outputs.h"
+#include "apps/process_folder.h"
 #include "apps/utf8.h"
 #include "apps/whole_file.h"
 #include "office/text.h"
@@ -105,6 +104,8 @@ void OutputFile::makeNeighbour(const fs::path& folder) {
 void OutputFile::commit() {
     std::error_code ignored;
     if (!hasNeighbour() || fs::file_size(neighbour(), ignored) == 0) failWithoutContent();
+    // What replaces a file is on the disk first, so that a power cut leaves the one or the other.
+    if (fs::exists(file(), ignored)) apps::flush(neighbour().string());
     takeName(neighbour(), file());
     removeNeighbour();
 }
@@ -193,8 +194,8 @@ void Output::requireOtherThan(const fs::path& input) const {
 
 const fs::path& Output::neighbour() {
     if (!neighbour_.empty()) return neighbour_;
-    std::string folder = (file_.parent_path() / ".murvane.XXXXXX").string();
-    if (::mkdtemp(folder.data()) == nullptr) {
+    const std::string folder = apps::makeDraftFolder(file_.parent_path().string());
+    if (folder.empty()) {
         throw RunError(fmt::format("No file can be made in {}: {}.",
                                    apps::utf8Of(file_.parent_path()), reason()));
     }
@@ -236,7 +237,9 @@ std::unique_ptr<Output> outputFor(const Target& target, bool overwrites) {
         case Destination::Pdf:
             return file({".pdf"});
         default:
-            return std::make_unique<OutputFolder>(name, overwrites);
+            // With a slash at its end it would be taken for what the folder holds.
+            return std::make_unique<OutputFolder>(name.has_filename() ? name : name.parent_path(),
+                                                  overwrites);
     }
 }
 

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+namespace apps {
+
+/// These make a folder for this user alone, whose name tells its process: a later process that
+/// makes one there takes it away if this one was killed. Empty if it can't be made, with the reason
+/// in `errno`.
+
+/// For files that pass from one program to another.
+[[nodiscard]] std::string makePrivateFolder(const std::string& parent);
+
+/// A hidden one beside what it is written for, where other machines may have theirs.
+[[nodiscard]] std::string makeDraftFolder(const std::string& parent);
+
+}  // namespace apps
