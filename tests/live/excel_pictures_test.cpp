@@ -184,6 +184,9 @@ TEST_F(ExcelPictures, ExportsAChartSheetThatLibreOfficeLoses) {
     const auto before = openDocuments();
     const Value chart = book.get("Charts").get("Item", "Gone");
     EXPECT_EQ(bytesOf(exported(chart)), wanted);
+    chart.get("ChartArea").call("Copy");
+    EXPECT_EQ(desk->clipboard().copied->png(), wanted);
+    desk->clipboard().copied.reset();
     EXPECT_EQ(openDocuments(), before);
     EXPECT_TRUE(book.get("Saved").toBool());
 }

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "office/libreoffice/at_end.h"
 #include "office/libreoffice/connection.h"
 
 namespace libreoffice::excel {
@@ -149,11 +150,9 @@ model::Selection CalcDocument::selection() {
 }
 
 KeptModifiedFlag::~KeptModifiedFlag() {
-    try {
+    asFarAsPossible([&] {
         if (book_.isModified() != modified_) book_.setModified(modified_);
-    } catch (const uno::Exception&) {
-        // The document or the suite has gone, and the flag with it.
-    }
+    });
 }
 
 }  // namespace libreoffice::excel

@@ -75,7 +75,7 @@ model::Box ChartShape::box() {
 
 office::CopiedPtr ChartShape::copy(office::CopySource source) {
     if (source.kind == office::CopySource::Kind::Chart)
-        return std::make_shared<CopiedChart>(book_, std::move(source), shape_);
+        return std::make_shared<CopiedChart>(book_, std::move(source), shape_, owner_.lock());
     const css::awt::Size size = shape_->getSize();
     return std::make_shared<CopiedPicture>(book_.desk(), std::move(source),
                                            pictureMaker(book_.desk()).suite().metafileOf(shape_),

@@ -11,6 +11,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "office/libreoffice/uno_values.h"
@@ -34,6 +35,8 @@ public:
     [[nodiscard]] const uno::Reference<css::drawing::XShape>& shape() const { return shape_; }
     /// As last seen.
     [[nodiscard]] const std::string& knownName() const { return name_; }
+    /// The shape lasts as long as its owner: what is copied of it keeps that one.
+    void belongTo(std::weak_ptr<const void> owner) { owner_ = std::move(owner); }
 
     [[nodiscard]] bool isGone() const override { return false; }
     std::string name() override;
@@ -52,6 +55,7 @@ private:
     uno::Reference<css::container::XNamed> named_;
     std::string name_;
     bool hasName_;
+    std::weak_ptr<const void> owner_;
 };
 
 using ChartShapePtr = std::shared_ptr<ChartShape>;

@@ -62,9 +62,11 @@ office::TableLook CopiedPicture::table() const {
 }
 
 CopiedChart::CopiedChart(CalcDocument& book, office::CopySource source,
-                         uno::Reference<css::drawing::XShape> shape)
+                         uno::Reference<css::drawing::XShape> shape,
+                         std::shared_ptr<const void> owner)
     : CopiedHere(std::move(source)),
       book_(book.shared_from_this()),
+      owner_(std::move(owner)),
       shape_(std::move(shape)),
       size_(shape_->getSize()) {}
 
@@ -87,9 +89,7 @@ office::Picture CopiedChart::picture(office::Sharpness sharpness) const {
 }
 
 uno::Reference<css::graphic::XGraphic> CopiedChart::graphic() const {
-    return translated(book().desk(), [&] {
-        return property<uno::Reference<css::graphic::XGraphic>>(shape_, "Graphic");
-    });
+    return translated(book().desk(), [&] { return graphicOfChart(shape_); });
 }
 
 office::TableLook CopiedChart::table() const {

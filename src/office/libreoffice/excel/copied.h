@@ -45,8 +45,9 @@ private:
 /// A chart. Its workbook has to be open still when more of it is asked for.
 class CopiedChart : public CopiedHere {
 public:
+    /// `owner`: without it the shape would go; null for one on a sheet of the workbook.
     CopiedChart(CalcDocument& book, office::CopySource source,
-                uno::Reference<css::drawing::XShape> shape);
+                uno::Reference<css::drawing::XShape> shape, std::shared_ptr<const void> owner);
 
     [[nodiscard]] CalcDocument& book() const;
     [[nodiscard]] const uno::Reference<css::drawing::XShape>& shape() const { return shape_; }
@@ -58,6 +59,7 @@ public:
 
 private:
     std::shared_ptr<CalcDocument> book_;
+    std::shared_ptr<const void> owner_;
     uno::Reference<css::drawing::XShape> shape_;
     css::awt::Size size_;
 };

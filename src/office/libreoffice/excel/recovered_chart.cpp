@@ -21,6 +21,7 @@
 #include <vector>
 
 #include "office/failure.h"
+#include "office/libreoffice/at_end.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/package_parts.h"
 
@@ -90,11 +91,7 @@ public:
     OpenCopy(const OpenCopy&) = delete;
     OpenCopy& operator=(const OpenCopy&) = delete;
     ~OpenCopy() {
-        try {
-            as<css::util::XCloseable>(model_)->close(true);
-        } catch (const uno::Exception&) {
-            // The suite has ended and the copy with it.
-        }
+        asFarAsPossible([&] { as<css::util::XCloseable>(model_)->close(true); });
     }
 
     [[nodiscard]] uno::Reference<css::sheet::XSpreadsheet> sheet(const std::string& name) const {
@@ -129,13 +126,10 @@ RecoveredChart::RecoveredChart(SheetRecord& sheet) {
 RecoveredChart::~RecoveredChart() {
     // LibreOffice lets a shape that is no longer held go on a thread of its own, which may be after
     // its document has been closed, and that ends the suite. So the shapes go here, at once.
-    try {
-        for (const ChartShapePtr& chart : charts_->all()) {
+    asFarAsPossible([&] {
+        for (const ChartShapePtr& chart : charts_->all())
             as<css::lang::XComponent>(chart->shape())->dispose();
-        }
-    } catch (const uno::Exception&) {
-        // The suite has ended and the copy with it.
-    }
+    });
 }
 
 }  // namespace libreoffice::excel

@@ -3,6 +3,7 @@
 #include <com/sun/star/datatransfer/XTransferableSupplier.hpp>
 
 #include "office/failure.h"
+#include "office/libreoffice/at_end.h"
 
 namespace libreoffice::excel {
 
@@ -29,11 +30,7 @@ ShownForNow::ShownForNow(SheetRecord& sheet) : sheet_(&sheet) {
 }
 
 ShownForNow::~ShownForNow() {
-    try {
-        if (sheet_ != nullptr) sheet_->show(false);
-    } catch (const uno::Exception&) {
-        // The document or the suite has gone.
-    }
+    if (sheet_ != nullptr) asFarAsPossible([&] { sheet_->show(false); });
 }
 
 SelectedCells::SelectedCells(SheetRecord& sheet,
@@ -46,11 +43,7 @@ SelectedCells::SelectedCells(SheetRecord& sheet,
 }
 
 SelectedCells::~SelectedCells() {
-    try {
-        selection_->select(before_);
-    } catch (const uno::Exception&) {
-        // The document or the suite has gone.
-    }
+    asFarAsPossible([&] { selection_->select(before_); });
 }
 
 /// Asked for by its name alone: the list of all offers, and the answer of one that is not offered,

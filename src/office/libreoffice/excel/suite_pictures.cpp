@@ -20,6 +20,8 @@
 #include <system_error>
 #include <utility>
 
+#include "office/failure.h"
+#include "office/libreoffice/at_end.h"
 #include "office/libreoffice/excel/png_file.h"
 #include "office/libreoffice/excel/suite_svg.h"
 
@@ -124,6 +126,15 @@ bool isOpaque(const uno::Reference<css::drawing::XShape>& chart) {
     return fill != css::drawing::FillStyle_NONE && transparence == 0 && gradient.isEmpty();
 }
 
+uno::Reference<css::graphic::XGraphic> graphicOfChart(
+    const uno::Reference<css::drawing::XShape>& chart) {
+    auto graphic = property<uno::Reference<css::graphic::XGraphic>>(chart, "Graphic");
+    if (!graphic.is())
+        throw office::Failure(office::FailureNumber::ApplicationDefined, "Chart",
+                              "LibreOffice shows nothing of the chart");
+    return graphic;
+}
+
 /// The drawing that opaque pictures are laid on: one page, one shape as large as the page.
 struct SuitePictures::Page {
     uno::Reference<css::frame::XModel> drawing;
@@ -163,11 +174,7 @@ SuitePictures::SuitePictures(std::shared_ptr<Connection> connection)
 
 SuitePictures::~SuitePictures() {
     if (!page_) return;
-    try {
-        as<css::util::XCloseable>(page_->drawing)->close(true);
-    } catch (const uno::Exception&) {
-        // The suite has ended and the drawing with it.
-    }
+    asFarAsPossible([&] { as<css::util::XCloseable>(page_->drawing)->close(true); });
 }
 
 SuitePictures::Page& SuitePictures::page() {
@@ -224,7 +231,7 @@ void SuitePictures::writeChart(const uno::Reference<css::drawing::XShape>& chart
     const css::awt::Size shapeSize = chart->getSize();
     const PictureSize size{shapeSize.Width, shapeSize.Height};
     if (isOpaque(chart)) {
-        writePage(property<uno::Reference<css::graphic::XGraphic>>(chart, "Graphic"), size, path);
+        writePage(graphicOfChart(chart), size, path);
     } else {
         writePng(exporterOf(chart), pngSettings(ScreenSize(size), size, true), path);
     }
@@ -259,8 +266,7 @@ uno::Sequence<sal_Int8> SuitePictures::metafileOf(
     const uno::Reference<css::drawing::XShape>& chart) {
     // Not by an exporter: it scales all that is drawn, labels that reach out of the chart too, to
     // the size of the shape.
-    const auto graphic = property<uno::Reference<css::graphic::XGraphic>>(chart, "Graphic");
-    if (!graphic.is()) return {};
+    const auto graphic = graphicOfChart(chart);
     const std::string bytes = writtenBy([&](const std::string& file) {
         graphics()->storeGraphic(
             graphic, propertyValues({{"URL", uno::Any(fileUrl(file))},
@@ -273,8 +279,7 @@ std::string SuitePictures::svgOfChart(const uno::Reference<css::drawing::XShape>
     const css::awt::Size size = chart->getSize();
     // Not the chart's own vectors: the exporter scales all that is drawn, labels that reach out
     // of the chart too, to the size of the shape.
-    return svgOfPage(property<uno::Reference<css::graphic::XGraphic>>(chart, "Graphic"),
-                     {size.Width, size.Height});
+    return svgOfPage(graphicOfChart(chart), {size.Width, size.Height});
 }
 
 std::string SuitePictures::svgOfMetafile(const uno::Sequence<sal_Int8>& metafile,
@@ -328,10 +333,10 @@ std::string SuitePictures::emfOfMetafile(const uno::Sequence<sal_Int8>& metafile
     const auto& shape = page().shapeProperties;
     shape->setPropertyValue("FillColor", uno::Any(white));
     shape->setPropertyValue("FillStyle", uno::Any(css::drawing::FillStyle_SOLID));
-    std::string emf = written(exporterOf(page().shape), "image/x-emf");
     // Charts may let things shine through.
-    shape->setPropertyValue("FillStyle", uno::Any(css::drawing::FillStyle_NONE));
-    return emf;
+    const AtEnd empty(
+        [&] { shape->setPropertyValue("FillStyle", uno::Any(css::drawing::FillStyle_NONE)); });
+    return written(exporterOf(page().shape), "image/x-emf");
 }
 
 std::string_view bytesOf(const uno::Sequence<sal_Int8>& metafile) {

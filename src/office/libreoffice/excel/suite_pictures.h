@@ -98,6 +98,10 @@ private:
     uno::Reference<css::graphic::XGraphicProvider> graphics_;
 };
 
+/// What a chart shows. `office::Failure` 1004 if that is nothing, as of one that has gone.
+[[nodiscard]] uno::Reference<css::graphic::XGraphic> graphicOfChart(
+    const uno::Reference<css::drawing::XShape>& chart);
+
 /// Whether a chart covers all of its area.
 [[nodiscard]] bool isOpaque(const uno::Reference<css::drawing::XShape>& chart);
 
