@@ -69,13 +69,7 @@ office::PictureFilesPtr LibreOfficeSuite::pictureFiles() {
     return drawingRoom_;
 }
 
-LibreOfficeSuite::~LibreOfficeSuite() {
-    try {
-        LibreOfficeSuite::unlockDrawing();
-    } catch (const office::Failure&) {
-        // The window has gone with its document or its suite, and the lock with it.
-    }
-}
+LibreOfficeSuite::~LibreOfficeSuite() = default;
 
 bool LibreOfficeSuite::isConnected() const {
     return connection_ && !connection_->isLost();
@@ -205,20 +199,17 @@ bool LibreOfficeSuite::raiseWindow(office::WindowHandle window, int /*showComman
 }
 
 bool LibreOfficeSuite::lockDrawing(office::WindowHandle window) {
-    const auto presentation = presentationOf(window);
-    if (!presentation || presentationOf(locked_)) return false;
-    translated("Suite.lockDrawing", [&] { presentation->freeze(); });
+    if (!presentationOf(window) || presentationOf(locked_)) return false;
     locked_ = window;
     return true;
 }
 
 void LibreOfficeSuite::unlockDrawing() {
-    const auto presentation = presentationOf(std::exchange(locked_, 0));
-    if (presentation) translated("Suite.unlockDrawing", [&] { presentation->thaw(); });
+    locked_ = 0;
 }
 
 void LibreOfficeSuite::redraw(office::WindowHandle /*window*/) {
-    // Thawing draws what has changed.
+    // What has changed is drawn as soon as the suite comes to it.
 }
 
 office::WindowHandle LibreOfficeSuite::handleOf(

@@ -64,6 +64,8 @@ public:
                                        const std::vector<office::PasteItem>& items) override;
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;
     bool raiseWindow(office::WindowHandle window, int showCommand) override;
+    /// Remembered, and nothing is locked: the user would sit in front of a frozen presentation if
+    /// this process died.
     bool lockDrawing(office::WindowHandle window) override;
     void unlockDrawing() override;
     void redraw(office::WindowHandle window) override;

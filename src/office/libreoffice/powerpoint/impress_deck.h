@@ -40,9 +40,6 @@ public:
     /// A shape of a service ("com.sun.star.drawing.TextShape"), not on a slide yet.
     [[nodiscard]] uno::Reference<css::drawing::XShape> createShape(const char* service);
     [[nodiscard]] LatePictures& latePictures() { return latePictures_; }
-    /// Stops and resumes drawing; counted, so the two must be called in pairs.
-    void freeze() { model()->lockControllers(); }
-    void thaw() { model()->unlockControllers(); }
 
     [[nodiscard]] bool isGone() const override { return isClosed(); }
     std::string name() override { return Document::name(); }

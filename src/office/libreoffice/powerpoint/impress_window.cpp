@@ -18,6 +18,7 @@
 #include <utility>
 
 #include "office/failure.h"
+#include "office/libreoffice/at_end.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 
 namespace libreoffice::powerpoint {
@@ -62,27 +63,6 @@ std::string mainView(const Connection& connection,
     if (!views.hasElements()) return {};
     return fromUno(views[0]->getResourceURL()).substr(std::string_view(viewFolder).size());
 }
-
-/// Does something when it goes, as far as it can still be done.
-template <class Deed>
-class AtEnd {
-public:
-    explicit AtEnd(Deed deed) : deed_(std::move(deed)) {}
-    AtEnd(const AtEnd&) = delete;
-    AtEnd& operator=(const AtEnd&) = delete;
-    ~AtEnd() {
-        try {
-            deed_();
-        } catch (const uno::Exception&) {
-            // The window has gone, or the suite.
-        } catch (const office::Failure&) {
-            // The window keeps its view.
-        }
-    }
-
-private:
-    Deed deed_;
-};
 
 }  // namespace
 
@@ -192,7 +172,11 @@ std::int32_t ImpressWindow::viewType() {
 }
 
 void ImpressWindow::setViewType(std::int32_t number) {
+    changeView(number);
     deck_.latePictures().settle();
+}
+
+void ImpressWindow::changeView(std::int32_t number) {
     const std::int32_t wanted = number == slideView ? normalView : number;
     const auto* kind =
         std::find_if(viewKinds.begin(), viewKinds.end(),
@@ -227,10 +211,10 @@ bool ImpressWindow::moveToFront(const model::DeckSlidePtr& slide) {
     dispatch(command);
     if (slide->place() != 1) {
         const std::int32_t view = viewType();
-        setViewType(slideSorter);
+        changeView(slideSorter);
         showNow(slide);
         dispatch(command);
-        setViewType(view);
+        changeView(view);
     }
     if (before) showNow(before);
     return slide->place() == 1;
@@ -240,9 +224,9 @@ void ImpressWindow::pasteOnto(ImpressSlide& slide, sal_uInt32 format) {
     // Other views paste elsewhere, or nothing.
     const std::int32_t view = viewType();
     const AtEnd viewBack([&] {
-        if (view != normalView) setViewType(view);
+        if (view != normalView) changeView(view);
     });
-    if (view != normalView) setViewType(normalView);
+    if (view != normalView) changeView(normalView);
     static_cast<void>(settledController());
     const auto before = view_->getCurrentPage();
     const uno::Any selected = selection_->getSelection();

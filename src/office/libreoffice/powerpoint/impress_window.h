@@ -27,7 +27,8 @@ public:
     explicit ImpressWindow(ImpressDeck& deck) : deck_(deck) {}
 
     std::int32_t viewType() override;
-    /// 1 (slide) is the normal view.
+    /// 1 (slide) is the normal view. A run ends with this call: then, it waits for the pictures
+    /// that are still drawn. `office::Failure` 1004 also if one of them could not be.
     void setViewType(std::int32_t viewType) override;
     model::DeckSlidePtr slideInView() override;
     /// A window that has just come to a slide rests there for a moment: LibreOffice paints each
@@ -52,6 +53,7 @@ private:
     /// With the slide in view that was asked for last.
     [[nodiscard]] const uno::Reference<css::frame::XController>& settledController();
     void showNow(const model::DeckSlidePtr& slide);
+    void changeView(std::int32_t viewType);
     [[nodiscard]] bool showsMasterPage();
     /// Runs a command of the menus (".uno:DiaMode") here.
     void dispatch(const char* command,

@@ -1,5 +1,6 @@
 #include "office/libreoffice/powerpoint/late_pictures.h"
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -26,25 +27,42 @@ void show(const Connection& connection, const uno::Reference<css::beans::XProper
     }
 }
 
-bool isGood(const std::shared_future<void>& one) {
-    if (one.wait_for(std::chrono::seconds(0)) != std::future_status::ready) return false;
-    one.get();
-    return true;
-}
-
 }  // namespace
 
 void LatePictures::hang(const uno::Reference<css::beans::XPropertySet>& shape,
                         const office::Picture& picture) {
-    std::erase_if(underWay_, isGood);
+    letGoOfFinished();
     underWay_.push_back(
         room_->afterwards(picture.png, [connection = connection_, shape](const std::string& png) {
             show(*connection, shape, png);
         }));
 }
 
+/// Each holds its picture. A failure is kept until it is asked for: the call at hand is not to
+/// blame.
+void LatePictures::letGoOfFinished() {
+    const auto isUnderWay = [](const std::shared_future<void>& one) {
+        return one.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
+    };
+    const auto finished = std::stable_partition(underWay_.begin(), underWay_.end(), isUnderWay);
+    std::for_each(finished, underWay_.end(), [this](const std::shared_future<void>& one) {
+        try {
+            one.get();
+        } catch (const std::exception&) {
+            if (!firstFailure_) firstFailure_ = std::current_exception();
+        }
+    });
+    underWay_.erase(finished, underWay_.end());
+}
+
+void LatePictures::wait() {
+    for (const auto& one : underWay_) one.wait();
+    letGoOfFinished();
+}
+
 void LatePictures::settle() {
-    for (const auto& one : std::exchange(underWay_, {})) one.get();
+    wait();
+    if (const auto failure = std::exchange(firstFailure_, nullptr)) std::rethrow_exception(failure);
 }
 
 }  // namespace libreoffice::powerpoint

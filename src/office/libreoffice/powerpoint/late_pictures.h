@@ -2,8 +2,11 @@
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 
+#include <exception>
 #include <future>
 #include <memory>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "office/drawing/drawing_room.h"
@@ -27,14 +30,19 @@ public:
     [[nodiscard]] std::optional<office::Picture> take(const std::string& file) {
         return room_->take(file);
     }
-    /// Waits until all are there. `office::Failure` 1004 if one could not be drawn,
-    /// `office::SuiteLost`.
+    /// Waits until none is under way.
+    void wait();
+    /// The same, and tells what went wrong since the last time: `office::Failure` 1004 if one could
+    /// not be drawn, `office::SuiteLost`.
     void settle();
 
 private:
+    void letGoOfFinished();
+
     std::shared_ptr<Connection> connection_;
     std::shared_ptr<office::drawing::DrawingRoom> room_;
     std::vector<std::shared_future<void>> underWay_;
+    std::exception_ptr firstFailure_;
 };
 
 }  // namespace libreoffice::powerpoint

@@ -1,6 +1,7 @@
 #include "office/libreoffice/powerpoint/paste.h"
 
 #include "office/failure.h"
+#include "office/libreoffice/at_end.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/units.h"
 #include "office/model/powerpoint/paste.h"
@@ -30,19 +31,14 @@ const excel::CopiedHere& copiedHere(const office::Copied& copied) {
 
 }  // namespace
 
-NewObjectShape::NewObjectShape(ImpressSlide& slide)
+NewShape::NewShape(ImpressSlide& slide, const char* service)
     : page_(slide.page()),
-      shape_(slide.deck().createShape("com.sun.star.drawing.OLE2Shape")) {
+      shape_(slide.deck().createShape(service)) {
     page_->add(shape_);
 }
 
-NewObjectShape::~NewObjectShape() {
-    if (!shape_.is()) return;
-    try {
-        page_->remove(shape_);
-    } catch (const uno::Exception&) {
-        // The document or the suite has gone, and the shape with it.
-    }
+NewShape::~NewShape() {
+    if (shape_.is()) asFarAsPossible([&] { page_->remove(shape_); });
 }
 
 model::DeckShapePtr ImpressSlide::paste(const office::Copied& copied, PasteAs as) {

@@ -12,14 +12,14 @@ namespace libreoffice::powerpoint {
 
 using ShapeRef = uno::Reference<css::drawing::XShape>;
 
-/// A shape for an embedded object on top of a slide's other shapes. It goes with this object unless
-/// it is taken over.
-class NewObjectShape {
+/// A shape on top of a slide's other shapes, one for an embedded object by default. It goes with
+/// this object unless it is taken over.
+class NewShape {
 public:
-    explicit NewObjectShape(ImpressSlide& slide);
-    NewObjectShape(const NewObjectShape&) = delete;
-    NewObjectShape& operator=(const NewObjectShape&) = delete;
-    ~NewObjectShape();
+    explicit NewShape(ImpressSlide& slide, const char* service = "com.sun.star.drawing.OLE2Shape");
+    NewShape(const NewShape&) = delete;
+    NewShape& operator=(const NewShape&) = delete;
+    ~NewShape();
 
     [[nodiscard]] const ShapeRef& shape() const { return shape_; }
     [[nodiscard]] ShapeRef take() { return std::exchange(shape_, nullptr); }

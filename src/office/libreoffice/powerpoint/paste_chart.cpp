@@ -8,7 +8,7 @@ ShapeRef addChart(ImpressSlide& slide, const excel::CopiedChart& chart,
                   const css::awt::Size& size) {
     objects::NewObject object(slide.deck().model());
     objects::storeChart(object, chart);
-    NewObjectShape made(slide);
+    NewShape made(slide);
     made.shape()->setSize(size);
     setProperty(made.shape(), "PersistName", object.name());
     object.complete();

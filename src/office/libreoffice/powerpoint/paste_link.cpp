@@ -11,7 +11,7 @@ ShapeRef addLink(ImpressSlide& slide, const excel::CopiedHere& copied, const css
         throw office::Failure(office::FailureNumber::ApplicationDefined, "Shapes.PasteSpecial",
                               "The workbook has to be saved before it can be linked");
     const uno::Any picture(copied.graphic());
-    NewObjectShape made(slide);
+    NewShape made(slide);
     // An object without a picture is drawn from the file. The window that draws it loads the file
     // with threads, which wait for the very lock that a call from here holds meanwhile, and the
     // suite hangs: the object never gets to be without a picture, neither before nor after.

@@ -9,7 +9,7 @@ ShapeRef addWorkbook(ImpressSlide& slide, const excel::CopiedHere& copied,
     const auto picture = copied.graphic();
     objects::NewObject object(slide.deck().model());
     objects::storeEmptyWorkbook(object, copied);
-    NewObjectShape made(slide);
+    NewShape made(slide);
     made.shape()->setSize(size);
     setProperty(made.shape(), "PersistName", object.name());
     objects::fillWorkbook(slide.deck().connection(), copied,

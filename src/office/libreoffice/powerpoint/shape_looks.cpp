@@ -19,6 +19,7 @@
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/powerpoint/impress_shape.h"
 #include "office/libreoffice/powerpoint/impress_slide.h"
+#include "office/libreoffice/powerpoint/paste.h"
 #include "office/libreoffice/units.h"
 
 namespace libreoffice::powerpoint {
@@ -185,7 +186,7 @@ void ImpressShape::setOutline(model::Outline wanted) {
 /// filled with the picture, takes its place on the slide, in the window's selection and in this
 /// object.
 void ImpressShape::replacePicture(model::Outline wanted) {
-    slide_.deck().latePictures().settle();
+    slide_.deck().latePictures().wait();
     const auto depth = get<sal_Int32>("ZOrder");
     const auto graphic = get<uno::Reference<css::graphic::XGraphic>>("Graphic");
     const bool keeps = keepsProportions();
@@ -193,25 +194,25 @@ void ImpressShape::replacePicture(model::Outline wanted) {
     const auto selected = deck.impressWindow().selection();
     const bool wasSelected = std::find(selected.begin(), selected.end(), shape_) != selected.end();
 
-    const auto picture =
-        std::exchange(shape_, deck.createShape("com.sun.star.drawing.CustomShape"));
-    properties_.clear();
-    severalProperties_.clear();
+    NewShape made(slide_, "com.sun.star.drawing.CustomShape");
+    ImpressShape filled(made.shape(), slide_);
+    filled.shape_->setPosition(shape_->getPosition());
+    filled.shape_->setSize(shape_->getSize());
+    filled.set(geometryProperty, geometryOf(wanted));
+    copyLook(shape_, filled.shape_);
+    filled.set({{"FillStyle", uno::Any(css::drawing::FillStyle_BITMAP)},
+                {"FillBitmapMode", uno::Any(css::drawing::BitmapMode_STRETCH)},
+                {"LineStyle", uno::Any(css::drawing::LineStyle_NONE)},
+                // Else the shape would grow to the height of its text, which it hasn't.
+                {"TextAutoGrowHeight", uno::Any(false)}});
+    filled.set("FillBitmap", as<css::awt::XBitmap>(graphic));
+    slide_.page()->remove(shape_);
+    shape_ = made.take();
+    properties_ = filled.properties_;
+    severalProperties_ = filled.severalProperties_;
     text_.clear();
     service_.clear();
     keepsProportions_ = keeps;
-    slide_.page()->add(shape_);
-    shape_->setPosition(picture->getPosition());
-    shape_->setSize(picture->getSize());
-    set(geometryProperty, geometryOf(wanted));
-    copyLook(picture, shape_);
-    set({{"FillStyle", uno::Any(css::drawing::FillStyle_BITMAP)},
-         {"FillBitmapMode", uno::Any(css::drawing::BitmapMode_STRETCH)},
-         {"LineStyle", uno::Any(css::drawing::LineStyle_NONE)},
-         // Else the shape would grow to the height of its text, which it hasn't.
-         {"TextAutoGrowHeight", uno::Any(false)}});
-    set("FillBitmap", as<css::awt::XBitmap>(graphic));
-    slide_.page()->remove(picture);
     if (wasSelected) deck.impressWindow().select(shape_);
     set("ZOrder", depth);
 }
