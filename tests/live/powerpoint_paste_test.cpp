@@ -3,6 +3,7 @@
 #include <com/sun/star/drawing/XDrawPage.hpp>
 #include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/table/XTable.hpp>
 #include <com/sun/star/text/XText.hpp>
 
@@ -177,6 +178,19 @@ TEST_F(PasteLive, MakesChartsAndWorkbooksThatHoldTheirData) {
     EXPECT_EQ(sheets.get("Item", "Data").get("Visible").toLong(), 0);
     const Value charts = sheets.get("Item", "Trend").get("ChartObjects");
     EXPECT_EQ(charts.get("Count").toLong(), 1);
+}
+
+TEST_F(PasteLive, EmbedsSheetsThatAreCalledAsThoseOfANewWorkbook) {
+    for (const char* name : {"Murvane", "Sheet1"}) {
+        book.get("Sheets").get("Item", 1).put("Name", name);
+        sheet("Trend").get("ChartArea").call("Copy");
+        slide(deck, 3).get("Shapes").call("PasteSpecial", 10);
+        const auto embedded =
+            property<uno::Reference<css::sheet::XSpreadsheetDocument>>(lastShape(), "Model");
+        const uno::Reference<css::table::XCellRange> data(
+            embedded->getSheets()->getByName(toUno(name)), uno::UNO_QUERY_THROW);
+        EXPECT_EQ(data->getCellByPosition(1, 8)->getValue(), 84) << name;
+    }
 }
 
 TEST_F(PasteLive, BindsALinkToTheFileAndNeedsOne) {

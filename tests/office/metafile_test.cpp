@@ -75,9 +75,9 @@ std::string gradient(int from, int to, int angle) {
                        word(100) + word(100) + word(255));
 }
 
-std::string pen(int width) {
-    return part(5, word(1) + number(width) + word(0) + number(0) + word(0) + numbers({0, 0}) +
-                       word(3) + word(0));
+std::string pen(int width, int style = 1, int dashes = 0) {
+    return part(5, word(style) + number(width) + word(dashes) + number(0) + word(0) +
+                       numbers({0, 0}) + word(3) + word(0));
 }
 
 std::string font(int height, int angle, int underline, int outlined = 0) {
@@ -147,6 +147,11 @@ TEST(Metafile, IsDrawnAsItsActionsSay) {
                   {colour(132, 0xFF0000),
                    action(109, corners({0, 25, 200, 25}) + pen(30) + '\0', 3)},
                   {red, red, white, white}},
+             Case{"dashes without length",
+                  {colour(132, 0xFF0000),
+                   action(109, corners({0, 25, 200, 25}) + pen(30, 2, 1) + '\0', 3), noLine,
+                   greenFill, rectangle(0, 50, 100, 100)},
+                  {red, red, green, white}},
              Case{"a hole",
                   {noLine, redFill,
                    action(111,

@@ -9,6 +9,7 @@
 #include <fstream>
 #include <utility>
 
+#include "office/drawing/painting.h"
 #include "office/failure.h"
 
 namespace office::drawing {
@@ -33,6 +34,16 @@ std::string lookOf(const VectorPicture& picture) {
         &g_free);
     return fmt::format("{} {}x{} {}", sum.get(), picture.width, picture.height,
                        picture.isTranslucent);
+}
+
+std::string drawn(const VectorPicture& picture) {
+    try {
+        return pngOf(picture);
+    } catch (const Failure&) {
+        throw;
+    } catch (const std::exception& error) {
+        failToDraw(error.what());
+    }
 }
 
 }  // namespace
@@ -117,7 +128,7 @@ Picture DrawingRoom::drawAnd(VectorPicture picture,
     Picture made{picture.widthPt, picture.heightPt, lookOf(picture), {}};
     const auto task = std::make_shared<std::packaged_task<std::string()>>(
         [vectors = std::move(picture), done = std::move(whenDrawn)] {
-            std::string png = pngOf(vectors);
+            std::string png = drawn(vectors);
             done(png);
             return png;
         });
@@ -161,11 +172,13 @@ void DrawingRoom::work() {
     while (true) {
         changed_.wait(lock, [this] { return isClosing_ || !waiting_.empty(); });
         if (waiting_.empty()) return;
-        const std::function<void()> task = std::move(waiting_.front());
+        std::function<void()> task = std::move(waiting_.front());
         waiting_.pop_front();
         lock.unlock();
         changed_.notify_all();
         task();
+        // What it held may take a while to go, such as a shape of the suite's.
+        task = nullptr;
         lock.lock();
     }
 }

@@ -89,6 +89,9 @@ Metafile::Pen readPen(Values values, const Metafile::Colour& colour, double scal
     if (style != Style::Dash) return pen;
     for (int i = 0; i < dashes; ++i) pen.dashes.insert(pen.dashes.end(), {dash, gap});
     for (int i = 0; i < dots; ++i) pen.dashes.insert(pen.dashes.end(), {dot, gap});
+    // Cairo draws nothing more after dashes without length.
+    const double length = dashes * (dash + gap) + dots * (dot + gap);
+    if (length <= 0 || std::min({dash, dot, gap}) < 0) pen.dashes.clear();
     return pen;
 }
 

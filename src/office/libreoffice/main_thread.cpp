@@ -27,6 +27,8 @@ public:
             done_.set_value();
         } catch (const uno::Exception&) {
             done_.set_exception(std::current_exception());
+        } catch (const std::exception&) {
+            done_.set_exception(std::current_exception());
         }
     }
     [[nodiscard]] std::future<void> done() { return done_.get_future(); }

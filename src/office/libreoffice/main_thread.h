@@ -7,8 +7,8 @@
 namespace libreoffice {
 
 /// Does something while the suite's main thread waits for it, and waits until it is done. The calls
-/// to the suite that the task makes are carried out by that thread. `css::uno::Exception` as the
-/// task throws it, or if the suite is lost meanwhile.
+/// to the suite that the task makes are carried out by that thread. Throws what the task throws,
+/// and `css::uno::Exception` if the suite is lost meanwhile.
 ///
 /// A font lays its characters out without the suite's lock: anywhere else that crashes the suite
 /// now and then, while it draws a text of its own.

@@ -28,6 +28,15 @@ std::filesystem::path profilesFolder() {
     return fmt::format("/var/tmp/murvane-{}", getuid());
 }
 
+/// Where anybody may plant a folder, one of another user's would show him our documents.
+bool isOurs(const std::filesystem::path& folder) {
+    struct stat link {};
+    struct stat target {};
+    return lstat(folder.c_str(), &link) == 0 && stat(folder.c_str(), &target) == 0 &&
+           S_ISDIR(target.st_mode) && link.st_uid == getuid() && target.st_uid == getuid() &&
+           chmod(folder.c_str(), S_IRWXU) == 0;
+}
+
 constexpr int mostAtATime = 64;
 
 /// What Murvane's own suite does otherwise than the user's. It writes no lock beside a document: it
@@ -57,8 +66,7 @@ Profile Profile::acquire() {
     const std::filesystem::path parent = profilesFolder();
     std::error_code error;
     std::filesystem::create_directories(parent, error);
-    chmod(parent.c_str(), S_IRWXU);
-    for (int number = 1; number <= mostAtATime; ++number) {
+    for (int number = 1; isOurs(parent) && number <= mostAtATime; ++number) {
         const std::string folder = (parent / fmt::format("suite-{}", number)).string();
         const std::string lockFile = folder + ".lock";
         const int lock =

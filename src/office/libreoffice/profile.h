@@ -9,7 +9,7 @@ namespace libreoffice {
 /// folder.
 class Profile {
 public:
-    /// `office::Failure` if no folder can be made.
+    /// `office::Failure` if no folder can be made that is this user's alone.
     static Profile acquire();
 
     Profile(Profile&& other) noexcept;

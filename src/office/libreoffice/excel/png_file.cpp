@@ -13,11 +13,21 @@ namespace libreoffice::excel {
 
 namespace {
 
-constexpr std::string_view signature = "\x89PNG\r\n\x1a\n";
+using namespace std::string_view_literals;
+
+constexpr auto beginOfPng = "\x89PNG\r\n\x1a\n"sv;
+constexpr auto endOfPng = "\0\0\0\0IEND\xae\x42\x60\x82"sv;
 
 [[noreturn]] void failToWrite(const std::string& path) {
     throw office::Failure(office::FailureNumber::ApplicationDefined, "Chart.Export",
                           fmt::format("The picture could not be written to \"{}\"", path));
+}
+
+/// Leaves no half of a picture.
+[[noreturn]] void failWithout(const std::string& path) {
+    std::error_code ignored;
+    std::filesystem::remove(path, ignored);
+    failToWrite(path);
 }
 
 }  // namespace
@@ -37,17 +47,17 @@ void writePictureFile(const std::string& path, const std::string& bytes) {
     std::ofstream file(path, std::ios::binary);
     file << bytes;
     file.close();
-    if (file && !bytes.empty()) return;
-    std::error_code ignored;
-    std::filesystem::remove(path, ignored);
-    failToWrite(path);
+    if (!file || bytes.empty()) failWithout(path);
 }
 
 void requirePngFile(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
-    std::string begin(signature.size(), '\0');
+    std::string begin(beginOfPng.size(), '\0');
+    std::string end(endOfPng.size(), '\0');
     file.read(begin.data(), static_cast<std::streamsize>(begin.size()));
-    if (!file || begin != signature) failToWrite(path);
+    file.seekg(-static_cast<std::streamoff>(end.size()), std::ios::end);
+    file.read(end.data(), static_cast<std::streamsize>(end.size()));
+    if (!file || begin != beginOfPng || end != endOfPng) failWithout(path);
 }
 
 }  // namespace libreoffice::excel

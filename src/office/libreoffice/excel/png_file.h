@@ -12,7 +12,8 @@ void makeWayFor(const std::string& path);
 /// if there is nothing to write; then there is none of that name.
 void writePictureFile(const std::string& path, const std::string& bytes);
 
-/// `office::Failure` 1004 if there is no PNG file at the path.
+/// `office::Failure` 1004 if there is no whole PNG file at the path; then there is none of that
+/// name.
 void requirePngFile(const std::string& path);
 
 }  // namespace libreoffice::excel

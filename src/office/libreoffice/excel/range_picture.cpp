@@ -1,6 +1,7 @@
 #include "office/libreoffice/excel/range_picture.h"
 
 #include <com/sun/star/awt/Size.hpp>
+#include <com/sun/star/table/CellContentType.hpp>
 #include <com/sun/star/text/XTextRange.hpp>
 
 #include <cstdlib>
@@ -23,9 +24,9 @@ constexpr const char* metafileType =
 /// empty text in the last column of the block makes it have memory for all of them.
 void allocateColumns(const SheetRecord& sheet, const model::CellBlock& block) {
     const KeptModifiedFlag flag(sheet.book());
-    const auto corner = as<css::text::XTextRange>(
-        sheet.sheet()->getCellByPosition(block.lastColumn, block.lastRow));
-    if (corner->getString().isEmpty()) corner->setString("");
+    const auto corner = sheet.sheet()->getCellByPosition(block.lastColumn, block.lastRow);
+    if (corner->getType() == css::table::CellContentType_EMPTY)
+        as<css::text::XTextRange>(corner)->setString("");
 }
 
 bool differs(const PictureSize& picture, const css::awt::Size& cells) {

@@ -5,6 +5,7 @@
 #include <com/sun/star/chart2/data/XDataReceiver.hpp>
 #include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/container/XNameAccess.hpp>
+#include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/document/XEmbeddedObjectSupplier.hpp>
 #include <com/sun/star/drawing/XDrawPageSupplier.hpp>
 #include <com/sun/star/frame/XLoadable.hpp>
@@ -24,7 +25,9 @@
 #include <utility>
 #include <vector>
 
+#include "office/libreoffice/at_end.h"
 #include "office/model/excel/cell_block.h"
+#include "office/text.h"
 
 namespace libreoffice::objects {
 
@@ -83,22 +86,35 @@ std::set<sal_Int32> sheetsBehind(const std::vector<ChartRef>& charts, const rtl:
     return behind;
 }
 
+/// How sheets are called that only fill a place: none of the workbook's sheets begins with that.
+std::string nameOfFillers(const uno::Sequence<rtl::OUString>& sheets) {
+    std::string name = "Murvane";
+    const auto isTaken = [&](const rtl::OUString& sheet) {
+        return office::lowerCase(fromUno(sheet)).starts_with(office::lowerCase(name));
+    };
+    while (std::any_of(sheets.begin(), sheets.end(), isTaken)) name += '_';
+    return name;
+}
+
+void nameFirstSheet(const ModelRef& book, const std::string& name) {
+    const uno::Reference<css::container::XNamed> first(
+        as<css::container::XIndexAccess>(sheetsOf(book))->getByIndex(0), uno::UNO_QUERY_THROW);
+    first->setName(toUno(name));
+}
+
 /// A workbook that nobody sees, for what must not be in the final one.
 class Scratch {
 public:
-    explicit Scratch(const Connection& connection)
+    Scratch(const Connection& connection, const std::string& sheet)
         : book_(
               as<css::frame::XModel>(connection.create("com.sun.star.sheet.SpreadsheetDocument"))) {
         as<css::frame::XLoadable>(book_)->initNew();
+        nameFirstSheet(book_, sheet);
     }
     Scratch(const Scratch&) = delete;
     Scratch& operator=(const Scratch&) = delete;
     ~Scratch() {
-        try {
-            as<css::util::XCloseable>(book_)->close(true);
-        } catch (const uno::Exception&) {
-            // The suite has ended and the workbook with it.
-        }
+        asFarAsPossible([&] { as<css::util::XCloseable>(book_)->close(true); });
     }
 
     [[nodiscard]] const ModelRef& book() const { return book_; }
@@ -187,14 +203,16 @@ void copySheet(const Connection& connection, const ModelRef& from, const std::st
     const auto names = sheetsOf(from)->getElementNames();
     const auto sheets = sheetsOf(into);
     const auto behind = sheetsBehind(charts, name, names);
+    const std::string filler = nameOfFillers(names);
+    nameFirstSheet(into, filler);
     std::set<rtl::OUString> wanted{name};
     if (!behind.empty()) {
         // A copied chart finds other sheets by their places, so each takes the place that it has in
         // the source. A workbook without drawings takes sheets over without their charts.
-        const Scratch cells(connection);
+        const Scratch cells(connection, filler);
         for (sal_Int32 place = 0; place <= *behind.rbegin(); ++place) {
             if (behind.count(place) == 0) {
-                sheets->insertNewByName(toUno(fmt::format("Murvane {}", place)),
+                sheets->insertNewByName(toUno(fmt::format("{} {}", filler, place)),
                                         static_cast<sal_Int16>(place));
                 continue;
             }

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "office/failure_patterns.h"
 #include "office/model/excel/cells_as_page.h"
 #include "office/model/excel/objects.h"
 #include "office/model/excel/published_page.h"
@@ -35,10 +36,13 @@ public:
         page_.append(markup);
     }
 
-    /// Waits for the pictures of a record and writes them. Without them the page has gaps.
+    /// Waits for the pictures of a record and writes them. Without them the page has gaps, so one
+    /// that can't be written keeps none of the others away.
     static void end(Publication& what) {
-        for (const auto& [place, picture] : std::exchange(what.pictures, {}))
-            writePagePicture(place, picture.png.get());
+        ContinueOnFailure scope;
+        for (const auto& one : std::exchange(what.pictures, {}))
+            scope.attempt([&] { writePagePicture(one.first, one.second.png.get()); });
+        if (scope.failed()) throw Failure(*scope.lastFailure());
     }
 
 private:
