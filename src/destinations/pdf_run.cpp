@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <optional>
 
 #include "catalogue/row_copies.h"
 #include "office/failure_patterns.h"
@@ -59,7 +60,16 @@ public:
 
 private:
     [[nodiscard]] double headingHeight(const std::string& caption) const;
-    void beginParagraph(std::int32_t style);
+    /// How a paragraph begins, and what is kept free around it.
+    struct ParagraphLook {
+        std::int32_t style;
+        bool beginsPage = false;
+        /// Nothing if it is still to be found out.
+        std::optional<double> spaceBeforePt = 0;
+        double spaceAfterPt = 0;
+    };
+    void beginParagraph(const ParagraphLook& look);
+    void centre() { formatParagraph("Alignment", 1); }
     void formatParagraph(const char* member, const office::Value& value) {
         selection_.get("ParagraphFormat").put(member, value);
     }
@@ -82,7 +92,6 @@ constexpr std::int32_t heading1 = -2;
 constexpr std::int32_t title = -63;
 }  // namespace style
 
-constexpr std::int32_t centred = 1;
 constexpr double sourceLinePt = 24;
 
 PdfPages::PdfPages(OfficeSession& session, const PdfOptions& options, const Object& document)
@@ -103,14 +112,14 @@ PdfPages::PdfPages(OfficeSession& session, const PdfOptions& options, const Obje
         .put("Value", session.ActiveBook.get("Name").toText());
 }
 
-void PdfPages::beginParagraph(std::int32_t style) {
+void PdfPages::beginParagraph(const ParagraphLook& look) {
     if (!isFirstParagraph_) selection_.call("TypeParagraph");
     isFirstParagraph_ = false;
-    selection_.put("Style", style);
+    selection_.put("Style", look.style);
     // A paragraph takes the break and the spaces of the one before along.
-    formatParagraph("PageBreakBefore", false);
-    formatParagraph("SpaceBefore", 0);
-    formatParagraph("SpaceAfter", 0);
+    formatParagraph("PageBreakBefore", look.beginsPage);
+    if (look.spaceBeforePt) formatParagraph("SpaceBefore", *look.spaceBeforePt);
+    formatParagraph("SpaceAfter", look.spaceAfterPt);
 }
 
 void PdfPages::addCover() {
@@ -120,9 +129,9 @@ void PdfPages::addCover() {
     for (bool isMore = true; isMore;) {
         const std::size_t end = rest.find('\n');
         isMore = end != std::string_view::npos;
-        beginParagraph(isFirst ? style::title : style::normal);
-        formatParagraph("Alignment", centred);
-        formatParagraph("SpaceBefore", isFirst ? height_ * share : 12);
+        beginParagraph({.style = isFirst ? style::title : style::normal,
+                        .spaceBeforePt = isFirst ? height_ * share : 12});
+        centre();
         selection_.call("TypeText", std::string(rest.substr(0, end)));
         rest.remove_prefix(isMore ? end + 1 : rest.size());
         isFirst = false;
@@ -150,15 +159,13 @@ void PdfPages::addItem(const ExportItem& row) {
     const bool hasHeading = options_.pageTitles && !row.caption.empty();
     if (hasHeading) {
         room -= headingHeight(row.caption);
-        beginParagraph(style::heading1);
-        formatParagraph("PageBreakBefore", !isFirstPage_);
-        formatParagraph("SpaceAfter", 6);
+        beginParagraph({.style = style::heading1, .beginsPage = !isFirstPage_, .spaceAfterPt = 6});
         selection_.call("TypeText", row.caption);
         isFirstPage_ = false;
     }
-    beginParagraph(style::normal);
-    formatParagraph("PageBreakBefore", !hasHeading && !isFirstPage_);
-    formatParagraph("Alignment", centred);
+    beginParagraph(
+        {.style = style::normal, .beginsPage = !hasHeading && !isFirstPage_, .spaceBeforePt = {}});
+    centre();
     selection_.call("Paste");
     const Object shapes = document_.get("InlineShapes").toObject();
     const Object shape = shapes.get("Item", shapes.get("Count").toLong()).toObject();
@@ -173,8 +180,7 @@ void PdfPages::addItem(const ExportItem& row) {
     const double gap = std::max(0.0, (room - height * scale) / 2);
     formatParagraph("SpaceBefore", gap);
     if (options_.includePath) {
-        beginParagraph(style::normal);
-        formatParagraph("SpaceBefore", gap);
+        beginParagraph({.style = style::normal, .spaceBeforePt = gap});
         selection_.call("TypeText", fmt::format("{}  -  {}", workbook_, row.sheet));
     }
     isFirstPage_ = false;

@@ -1,5 +1,6 @@
 #include "office/libreoffice/word/paragraph_change.h"
 
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XMultiPropertyStates.hpp>
 #include <com/sun/star/style/BreakType.hpp>
 #include <com/sun/star/style/ParagraphAdjust.hpp>
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <utility>
+#include <vector>
 
 #include "office/failure.h"
 #include "office/libreoffice/units.h"
@@ -34,37 +36,62 @@ constexpr std::array<std::pair<model::Alignment, css::style::ParagraphAdjust>, 4
     {model::Alignment::Justified, css::style::ParagraphAdjust_BLOCK},
 }};
 
-void wearStyle(const uno::Reference<css::text::XTextCursor>& paragraph, std::int32_t number) {
+/// What a change comes to, in order of the names.
+class Properties {
+public:
+    template <class Type>
+    void add(const char* name, const Type& value) {
+        names_.push_back(rtl::OUString::createFromAscii(name));
+        values_.emplace_back(value);
+    }
+    /// In one call, which is one step for the user to take back.
+    void set(const uno::Reference<css::text::XTextCursor>& paragraph) const {
+        const auto count = static_cast<sal_Int32>(names_.size());
+        as<css::beans::XMultiPropertySet>(paragraph)->setPropertyValues({names_.data(), count},
+                                                                        {values_.data(), count});
+    }
+
+private:
+    std::vector<rtl::OUString> names_;
+    std::vector<uno::Any> values_;
+};
+
+rtl::OUString nameOfStyle(std::int32_t number) {
     const auto* const known = std::find_if(styles.begin(), styles.end(),
                                            [&](const auto& each) { return each.first == number; });
     if (known == styles.end())
         throw office::Failure(office::FailureNumber::InvalidProcedureCall, "ParagraphFormat.Style",
                               fmt::format("There is no style {} here", number));
+    return rtl::OUString::createFromAscii(known->second);
+}
+
+void forgetOwnLooks(const uno::Reference<css::text::XTextCursor>& paragraph) {
     const auto ends = as<css::text::XParagraphCursor>(paragraph);
     ends->gotoStartOfParagraph(false);
     ends->gotoEndOfParagraph(true);
     as<css::beans::XMultiPropertyStates>(paragraph)->setAllPropertiesToDefault();
-    setProperty(paragraph, "BreakType", css::style::BreakType_NONE);
-    setProperty(paragraph, "ParaStyleName", rtl::OUString::createFromAscii(known->second));
 }
 
 }  // namespace
 
 void changeParagraph(const uno::Reference<css::text::XTextCursor>& paragraph,
                      const model::ParagraphChange& change) {
-    if (change.style) wearStyle(paragraph, *change.style);
-    if (change.breaksPageBefore)
-        setProperty(paragraph, "BreakType",
-                    *change.breaksPageBefore ? css::style::BreakType_PAGE_BEFORE
-                                             : css::style::BreakType_NONE);
+    Properties properties;
+    if (change.breaksPageBefore || change.style)
+        properties.add("BreakType", change.breaksPageBefore.value_or(false)
+                                        ? css::style::BreakType_PAGE_BEFORE
+                                        : css::style::BreakType_NONE);
     if (change.alignment)
-        setProperty(paragraph, "ParaAdjust",
-                    static_cast<sal_Int16>(
-                        adjustments.at(static_cast<std::size_t>(*change.alignment)).second));
-    if (change.spaceBefore)
-        setProperty(paragraph, "ParaTopMargin", hundredthMmOf(*change.spaceBefore));
-    if (change.spaceAfter)
-        setProperty(paragraph, "ParaBottomMargin", hundredthMmOf(*change.spaceAfter));
+        properties.add("ParaAdjust",
+                       static_cast<sal_Int16>(
+                           adjustments.at(static_cast<std::size_t>(*change.alignment)).second));
+    if (change.spaceAfter) properties.add("ParaBottomMargin", hundredthMmOf(*change.spaceAfter));
+    if (change.style) {
+        properties.add("ParaStyleName", nameOfStyle(*change.style));
+        forgetOwnLooks(paragraph);
+    }
+    if (change.spaceBefore) properties.add("ParaTopMargin", hundredthMmOf(*change.spaceBefore));
+    properties.set(paragraph);
 }
 
 }  // namespace libreoffice::word

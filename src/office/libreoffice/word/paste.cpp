@@ -65,10 +65,12 @@ public:
 
     template <class Type>
     void set(const char* name, const Type& value) {
-        setProperty(content_, name, value);
+        setProperty(properties_, name, value);
     }
-    void insertAt(const RangeRef& place) {
-        place->getText()->insertTextContent(place, content_, false);
+    /// In front of what a cursor holds.
+    void insertAt(const uno::Reference<css::text::XTextCursor>& place) {
+        const auto start = place->getStart();
+        start->getText()->insertTextContent(start, content_, false);
         isInserted_ = true;
     }
     [[nodiscard]] const ContentRef& content() const { return content_; }
@@ -76,12 +78,14 @@ public:
 
 private:
     ContentRef content_;
+    uno::Reference<css::beans::XPropertySet> properties_;
     bool isInserted_ = false;
 };
 
 NewContent::NewContent(const WriterDocument& document, const char* service,
                        const css::awt::Size& size, model::Anchoring anchoring)
-    : content_(as<css::text::XTextContent>(document.createInstance(service))) {
+    : content_(as<css::text::XTextContent>(document.createInstance(service))),
+      properties_(as<css::beans::XPropertySet>(content_)) {
     set("Size", size);
     if (anchoring == model::Anchoring::Inline) {
         set("AnchorType", css::text::TextContentAnchorType_AS_CHARACTER);
@@ -107,8 +111,8 @@ NewContent::~NewContent() {
 
 /// The new thing goes in front of what is selected, which is taken out only then: if the one can't
 /// be had, the other stays.
-void WriterDocument::insertObject(const ContentRef& object) {
-    removeSelected();
+void WriterDocument::insertObject(const CursorRef& place, const ContentRef& object) {
+    removeSelected(place);
     objects().add(object);
     pasted_ = object;
 }
@@ -117,26 +121,27 @@ model::TextObjectPtr WriterDocument::pasted() {
     return pasted_.is() ? objects().recordOf(pasted_) : nullptr;
 }
 
-void WriterDocument::insertGraphic(const uno::Reference<css::graphic::XGraphic>& graphic,
+void WriterDocument::insertGraphic(const CursorRef& place,
+                                   const uno::Reference<css::graphic::XGraphic>& graphic,
                                    const css::awt::Size& size, model::Anchoring anchoring) {
     NewContent made(*this, "com.sun.star.text.TextGraphicObject", size, anchoring);
     made.set("Graphic", graphic);
-    made.insertAt(caret_.range()->getStart());
-    insertObject(made.content());
+    made.insertAt(place);
+    insertObject(place, made.content());
     made.keep();
 }
 
 void WriterDocument::addPicture(const std::string& file) {
-    requireWritable(caret_.range(), "InlineShapes.AddPicture");
+    const auto place = writablePlace("InlineShapes.AddPicture");
     if (desk_.drawingRoom) desk_.drawingRoom->complete(file);
     const FilePicture picture = pictureOfFile(desk_.connection(), file);
     pasted_.clear();
     const UndoGroup group(steps_, "Picture");
-    insertGraphic(picture.graphic, picture.size, model::Anchoring::Inline);
+    insertGraphic(place, picture.graphic, picture.size, model::Anchoring::Inline);
 }
 
 void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anchoring anchoring) {
-    requireWritable(caret_.range(), member);
+    const auto place = writablePlace(member);
     const bool isPicture = copied.source().kind == CopySource::Kind::Picture;
     if (as == PasteAs::Linked) {
         fail(
@@ -147,11 +152,11 @@ void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anch
     pasted_.clear();
     const UndoGroup group(steps_, "Paste");
     if (as == PasteAs::Png || as == PasteAs::Metafile || (isPicture && as == PasteAs::Default)) {
-        insertGraphic(pictureOf(copied, as, connection), sizeOf(copied), anchoring);
+        insertGraphic(place, pictureOf(copied, as, connection), sizeOf(copied), anchoring);
         return;
     }
     if (as == PasteAs::Default && copied.source().kind == CopySource::Kind::Cells) {
-        insertTable(copied.table());
+        insertTable(place, copied.table());
         return;
     }
     const excel::CopiedHere& here = copiedHere(copied);
@@ -164,7 +169,7 @@ void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anch
     }
     NewContent made(*this, "com.sun.star.text.TextEmbeddedObject", sizeOf(copied), anchoring);
     made.set("StreamName", object.name());
-    made.insertAt(caret_.range()->getStart());
+    made.insertAt(place);
     if (as == PasteAs::Embedded) {
         objects::fillWorkbook(
             connection, here,
@@ -177,7 +182,7 @@ void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anch
         workbook->changeState(css::embed::EmbedStates::LOADED);
         made.set("Graphic", picture);
     }
-    insertObject(made.content());
+    insertObject(place, made.content());
     made.keep();
     object.complete();
 }

@@ -69,22 +69,21 @@ void removeEmptyParagraphAhead(const uno::Reference<css::text::XTextCursor>& tab
 }  // namespace
 
 /// What is built by calls takes seconds; what is read like a file, some milliseconds.
-void WriterDocument::insertTable(const office::TableLook& table) {
+void WriterDocument::insertTable(const CursorRef& place, const office::TableLook& table) {
     const model::Page paper = page();
     const double room = paper.width - paper.leftMargin - paper.rightMargin;
     const double scale = std::min(1.0, room / table.widthPt());
     const auto package = packageOf(desk_.connection(), objects::tableText(table, scale));
     const std::int32_t before = tableCount();
-    const auto place = caret_.range()->getStart();
-    const auto text = place->getText();
-    const auto inserted = text->createTextCursorByRange(place);
+    const auto start = place->getStart();
+    const auto inserted = start->getText()->createTextCursorByRange(start);
     as<css::document::XDocumentInsertable>(inserted)->insertDocumentFromURL(
         "private:stream", propertyValues({{"InputStream", uno::Any(package->getInputStream())},
                                           {"FilterName", uno::Any(rtl::OUString("writer8"))}}));
     if (tableCount() != before + 1)
         throw office::Failure(office::FailureNumber::ApplicationDefined, "Selection.PasteSpecial",
                               "LibreOffice takes no table here");
-    removeSelected();
+    removeSelected(place);
     removeEmptyParagraphAhead(inserted);
 }
 

@@ -8,18 +8,19 @@
 
 namespace libreoffice::word {
 
-/// What is done during the life of this object, the user takes back by one step of the menu.
+/// What is done during the life of this object, the user takes back by one step of the menu. A
+/// document whose steps nobody counts has none.
 class UndoGroup {
 public:
     UndoGroup(uno::Reference<css::document::XUndoManager> steps, const char* title)
         : steps_(std::move(steps)) {
-        steps_->enterUndoContext(rtl::OUString::createFromAscii(title));
+        if (steps_.is()) steps_->enterUndoContext(rtl::OUString::createFromAscii(title));
     }
     UndoGroup(const UndoGroup&) = delete;
     UndoGroup& operator=(const UndoGroup&) = delete;
     ~UndoGroup() {
         try {
-            steps_->leaveUndoContext();
+            if (steps_.is()) steps_->leaveUndoContext();
         } catch (const uno::Exception&) {
             // The document or the suite has gone, and its steps with it.
         }

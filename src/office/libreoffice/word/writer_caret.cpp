@@ -34,15 +34,24 @@ void WriterCaret::attach() {
     lines_ = as<css::view::XViewCursor>(cursor_);
 }
 
-const RangeRef& WriterCaret::range() {
+uno::Reference<css::text::XText> WriterCaret::text() {
     attach();
     try {
-        static_cast<void>(cursor_->getText());
+        return cursor_->getText();
     } catch (const uno::RuntimeException&) {
         // Without text selected the cursor answers no question.
         leaveObject();
     }
+    return cursor_->getText();
+}
+
+const RangeRef& WriterCaret::range() {
+    static_cast<void>(text());
     return range_;
+}
+
+uno::Reference<css::text::XTextCursor> WriterCaret::copy() {
+    return text()->createTextCursorByRange(range_);
 }
 
 void WriterCaret::leaveObject() {
@@ -62,11 +71,6 @@ void WriterCaret::goTo(const RangeRef& place) {
     attach();
     // Moving the cursor alone leaves an object selected.
     selection_->select(uno::Any(place));
-}
-
-bool WriterCaret::isCollapsed() {
-    static_cast<void>(range());
-    return cursor_->isCollapsed();
 }
 
 void WriterCaret::goDown(std::int32_t lines) {
@@ -98,19 +102,22 @@ uno::Reference<css::text::XTextContent> WriterCaret::selectedContent() {
     return {selection_->getSelection(), uno::UNO_QUERY};
 }
 
-void requireWritable(const RangeRef& place, const std::string& member) {
+void requireWritable(const uno::Reference<css::beans::XMultiPropertySet>& place,
+                     const std::string& member) {
     constexpr const char* isProtected = "IsProtected";
-    auto section = property<uno::Reference<css::text::XTextSection>>(place, "TextSection");
+    static const auto names = namesOf({"Cell", "TextFrame", "TextSection"});
+    const auto around = place->getPropertyValues(names);
+    const uno::Reference<uno::XInterface> cell(around[0], uno::UNO_QUERY);
+    if (cell.is() && property<bool>(cell, isProtected))
+        refuse(member, "This cell of the table is protected");
+    const uno::Reference<uno::XInterface> frame(around[1], uno::UNO_QUERY);
+    if (frame.is() && property<bool>(frame, "ContentProtected"))
+        refuse(member, "This frame is protected");
+    uno::Reference<css::text::XTextSection> section(around[2], uno::UNO_QUERY);
     for (; section.is(); section = section->getParentSection()) {
         if (property<bool>(section, isProtected))
             refuse(member, "This part of the document is protected");
     }
-    const auto cell = property<uno::Reference<uno::XInterface>>(place, "Cell");
-    if (cell.is() && property<bool>(cell, isProtected))
-        refuse(member, "This cell of the table is protected");
-    const auto frame = property<uno::Reference<uno::XInterface>>(place, "TextFrame");
-    if (frame.is() && property<bool>(frame, "ContentProtected"))
-        refuse(member, "This frame is protected");
 }
 
 }  // namespace libreoffice::word

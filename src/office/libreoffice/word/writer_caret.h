@@ -1,5 +1,6 @@
 #pragma once
 
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/text/XText.hpp>
 #include <com/sun/star/text/XTextContent.hpp>
@@ -27,8 +28,9 @@ public:
     /// table are selected, or without a view.
     [[nodiscard]] const RangeRef& range();
     /// The text that the caret is in: the document's own, or that of a cell, a frame, a header.
-    [[nodiscard]] uno::Reference<css::text::XText> text() { return range()->getText(); }
-    [[nodiscard]] bool isCollapsed();
+    [[nodiscard]] uno::Reference<css::text::XText> text();
+    /// A cursor in the same place, which tells and takes several properties in one call.
+    [[nodiscard]] uno::Reference<css::text::XTextCursor> copy();
 
     void goTo(const RangeRef& place);
     void goDown(std::int32_t lines);
@@ -56,6 +58,7 @@ private:
 
 /// `office::Failure` 1004 if nobody may write at a place of a text: a protected section, a
 /// protected cell.
-void requireWritable(const RangeRef& place, const std::string& member);
+void requireWritable(const uno::Reference<css::beans::XMultiPropertySet>& place,
+                     const std::string& member);
 
 }  // namespace libreoffice::word

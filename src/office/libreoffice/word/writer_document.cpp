@@ -72,32 +72,47 @@ std::int32_t WriterDocument::length() {
     return body_->getString().getLength() + objects().count() + 1;
 }
 
-void WriterDocument::requireWritable(const RangeRef& place, const std::string& member) {
+void WriterDocument::forgoUndo() {
+    steps_->lock();
+    steps_.clear();
+}
+
+void WriterDocument::requireWritable(const uno::Reference<css::beans::XMultiPropertySet>& place,
+                                     const std::string& member) {
     if (file_->isReadonly())
         throw Failure(FailureNumber::ApplicationDefined, member,
                       fmt::format("\"{}\" is opened for reading only", name()));
     word::requireWritable(place, member);
 }
 
+WriterDocument::CursorRef WriterDocument::writablePlace(const std::string& member) {
+    auto place = caret_.copy();
+    requireWritable(as<css::beans::XMultiPropertySet>(place), member);
+    return place;
+}
+
 void WriterDocument::appendParagraph() {
     const auto end = body_->getEnd();
-    requireWritable(end, "Range.InsertParagraphAfter");
+    requireWritable(as<css::beans::XMultiPropertySet>(end), "Range.InsertParagraphAfter");
     // A break in an empty paragraph would take what is anchored there along.
     body_->insertControlCharacter(end, APPEND_PARAGRAPH, false);
 }
 
 void WriterDocument::changeLastParagraph(const model::ParagraphChange& change) {
-    const auto end = body_->getEnd();
-    requireWritable(end, "ParagraphFormat");
-    const UndoGroup group(steps_, "Paragraph");
-    word::changeParagraph(body_->createTextCursorByRange(end), change);
+    const auto end = body_->createTextCursorByRange(body_->getEnd());
+    requireWritable(as<css::beans::XMultiPropertySet>(end), "ParagraphFormat");
+    changeParagraph(end, change);
 }
 
 void WriterDocument::changeParagraph(const model::ParagraphChange& change) {
-    const auto& range = caret_.range();
-    requireWritable(range, "ParagraphFormat");
-    const UndoGroup group(steps_, "Paragraph");
-    word::changeParagraph(caret_.text()->createTextCursorByRange(range), change);
+    changeParagraph(writablePlace("ParagraphFormat"), change);
+}
+
+void WriterDocument::changeParagraph(const CursorRef& paragraph,
+                                     const model::ParagraphChange& change) {
+    // Whatever else is changed, is changed in one step.
+    const UndoGroup group(change.style ? steps_ : nullptr, "Paragraph");
+    word::changeParagraph(paragraph, change);
 }
 
 std::string WriterDocument::selectedText() {
@@ -105,15 +120,15 @@ std::string WriterDocument::selectedText() {
     return fromUno(caret_.range()->getString());
 }
 
-void WriterDocument::removeSelected() {
-    if (!caret_.isCollapsed()) caret_.range()->setString(rtl::OUString());
+void WriterDocument::removeSelected(const CursorRef& selected) {
+    if (!selected->isCollapsed()) caret_.range()->setString(rtl::OUString());
 }
 
 /// Line ends become paragraphs.
 void WriterDocument::typeText(const std::string& text) {
-    requireWritable(caret_.range(), "Selection.TypeText");
+    const auto selected = writablePlace("Selection.TypeText");
     const UndoGroup group(steps_, "Typing");
-    removeSelected();
+    removeSelected(selected);
     const auto place = caret_.text();
     const auto& range = caret_.range();
     std::string_view rest = text;
@@ -127,9 +142,9 @@ void WriterDocument::typeText(const std::string& text) {
 }
 
 void WriterDocument::typeParagraph() {
-    requireWritable(caret_.range(), "Selection.TypeParagraph");
+    const auto selected = writablePlace("Selection.TypeParagraph");
     const UndoGroup group(steps_, "Typing");
-    removeSelected();
+    removeSelected(selected);
     caret_.text()->insertControlCharacter(caret_.range(), PARAGRAPH_BREAK, false);
 }
 
@@ -155,7 +170,7 @@ model::Page WriterDocument::page() {
 }
 
 void WriterDocument::setPage(const model::Page& page) {
-    requireWritable(caret_.range(), "PageSetup");
+    static_cast<void>(writablePlace("PageSetup"));
     const auto style = pageStyle();
     const auto set = [&](const char* name, double points, std::int32_t less = 0) {
         setProperty(style, name, std::max<sal_Int32>(0, hundredthMmOf(points) - less));
@@ -171,10 +186,9 @@ void WriterDocument::setPage(const model::Page& page) {
 }
 
 void WriterDocument::insertCaption(const model::Caption& caption) {
-    const auto& range = caret_.range();
-    requireWritable(range, "Selection.InsertCaption");
+    const auto place = writablePlace("Selection.InsertCaption");
     const UndoGroup group(steps_, "Caption");
-    const auto written = captions_.insertBelow(range, caption);
+    const auto written = captions_.insertBelow(as<css::text::XTextRange>(place), caption);
     if (!written.isLast) refreshFields();
     caret_.goTo(written.end);
 }

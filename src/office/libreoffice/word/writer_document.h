@@ -26,6 +26,8 @@ public:
     WriterDocument(Desk& desk, uno::Reference<css::frame::XModel> opened);
 
     [[nodiscard]] Desk& desk() const { return desk_; }
+    /// Says that nobody will take back what is done to it.
+    void forgoUndo();
     [[nodiscard]] WriterCaret& caret() { return caret_; }
     [[nodiscard]] const uno::Reference<css::text::XText>& body() const { return body_; }
     /// A thing of a service ("com.sun.star.text.TextGraphicObject"), not in the text yet.
@@ -70,13 +72,20 @@ public:
     void close() override { Document::close(); }
 
 private:
+    using CursorRef = uno::Reference<css::text::XTextCursor>;
+
     /// `office::Failure` 1004 if nobody may write at a place; `member` is who asks.
-    void requireWritable(const RangeRef& place, const std::string& member);
+    void requireWritable(const uno::Reference<css::beans::XMultiPropertySet>& place,
+                         const std::string& member);
+    /// The caret's place, or what is selected; failures as above.
+    [[nodiscard]] CursorRef writablePlace(const std::string& member);
     /// Takes out what is selected of the text, and leaves the caret there.
-    void removeSelected();
-    void insertTable(const office::TableLook& table);
-    void insertObject(const ContentRef& object);
-    void insertGraphic(const uno::Reference<css::graphic::XGraphic>& graphic,
+    void removeSelected(const CursorRef& selected);
+    void changeParagraph(const CursorRef& paragraph, const model::ParagraphChange& change);
+    void insertTable(const CursorRef& place, const office::TableLook& table);
+    void insertObject(const CursorRef& place, const ContentRef& object);
+    void insertGraphic(const CursorRef& place,
+                       const uno::Reference<css::graphic::XGraphic>& graphic,
                        const css::awt::Size& size, model::Anchoring anchoring);
     [[nodiscard]] uno::Reference<css::beans::XPropertySet> pageStyle();
     [[nodiscard]] WriterObjects& objects();

@@ -63,6 +63,7 @@ std::shared_ptr<WriterDocument> WriterDocuments::openedFrom(const rtl::OUString&
 model::TextDocumentPtr WriterDocuments::create(bool withWindow) {
     auto document =
         desk_->textDocument(desk_->load("private:factory/swriter", isHidden(withWindow)));
+    if (!withWindow) document->forgoUndo();
     document->markActive();
     return document;
 }
