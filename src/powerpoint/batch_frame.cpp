@@ -176,9 +176,6 @@ void BatchFrame::putBack() {
     session_.host.letEventsRun();
     if (route_.restoresExcel) {
         scope.attempt([&] { session::SetExcelWindow(session_, session::ExcelWindow::Maximised); });
-        scope.attempt([&] {
-            session_.ExcelApp.get("Rows", "1:500000").get("EntireRow").put("Hidden", false);
-        });
     }
     scope.attempt([&] { window_.put("ViewType", viewType_); });
 }

@@ -50,8 +50,7 @@ struct BatchRoute {
     bool showsCompletion = false;
     /// A selection that the application doesn't drop is left in peace.
     bool ignoresSelection = false;
-    /// Excel's window is made large and its rows are shown at the end: copying may have left some
-    /// hidden.
+    /// Excel's window is made large at the end.
     bool restoresExcel = true;
     /// The warning where no item has arrived; none if empty.
     std::string noneArrived = {};

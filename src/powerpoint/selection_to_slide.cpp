@@ -245,11 +245,8 @@ void SelectionPaste::PasteWithSourceFormatting() {
 
 void SelectionPaste::putBack(std::int32_t viewType) {
     office::ContinueOnFailure scope;
-    const Object& excel = session_.ExcelApp;
     scope.attempt([&] { window().put("ViewType", viewType); });
     scope.attempt([&] { session::SetExcelWindow(session_, session::ExcelWindow::Maximised); });
-    scope.attempt([&] { excel.get("Rows", "1:500000").get("EntireRow").put("Hidden", false); });
-    scope.attempt([&] { excel.get("Columns", "1:200").get("EntireColumn").put("Hidden", false); });
 }
 
 }  // namespace

@@ -45,8 +45,8 @@ TEST_F(SelectionTest, ArrivesAsAPictureOnTheSlideOnShowAndBothWindowsArePutBack)
     EXPECT_DOUBLE_EQ(shapes[2].box().width, 240);
     EXPECT_EQ(window.get("ViewType").toLong(), 7);
     EXPECT_EQ(session.ExcelApp.get("WindowState").toLong(), -4137);
-    EXPECT_FALSE(rows.get("Hidden").toBool());
-    EXPECT_FALSE(columns.get("Hidden").toBool());
+    EXPECT_TRUE(rows.get("Hidden").toBool());
+    EXPECT_TRUE(columns.get("Hidden").toBool());
     EXPECT_EQ(notices.messages(), Texts{});
 }
 
