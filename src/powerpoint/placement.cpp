@@ -127,9 +127,13 @@ void PlaceLastShape(OfficeSession& session, const Object& shapes, TitlePlace& ti
 
 void AddSourceLine(OfficeSession& session, const Object& shapes) {
     const std::string path = session.ActiveBook.get("FullName").toText();
-    // The place is fixed, whatever the slide's size.
+    // The place is fixed, unless the slide ends above it.
+    constexpr double lowestPt = 518;
+    constexpr double lineHeightPt = 22;
+    const double topPt =
+        std::min(lowestPt, slideSizeOf(session.SessionPresentation).heightPt - lineHeightPt);
     const Object frame =
-        shapes.call("AddLabel", 1, 20.25, 518.0, 8.5, 28.875).get("TextFrame").toObject();
+        shapes.call("AddLabel", 1, 20.25, topPt, 8.5, 28.875).get("TextFrame").toObject();
     // Without wrapping the label grows from its narrow start to the length of the path.
     frame.put("WordWrap", false);
     const Object text = frame.get("TextRange").toObject();

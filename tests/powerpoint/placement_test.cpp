@@ -31,6 +31,21 @@ TEST_F(ExportStage, APictureIsCutOnEachSideForItselfAndCentred) {
     }
 }
 
+TEST_F(ExportStage, TheSourceLineStandsOnTheSlideHoweverLowThatIs) {
+    // As high as those that LibreOffice begins with.
+    auto package = support::emptyDeck();
+    support::edit(package, "/ppt/presentation.xml", "6858000", "5670000");
+    auto& low = suite.powerPoint().addPresentation("Low.pptx", "/documents", std::move(package));
+    for (auto* const each : {&deck, &low}) {
+        session.SessionPresentation = each->handle();
+        const auto slide = each->addSlide();
+        const auto slides = each->handle().get("Slides");
+        powerpoint::AddSourceLine(session,
+                                  slides.get("Item", each->slideCount()).get("Shapes").toObject());
+        EXPECT_DOUBLE_EQ(slide.shapes().back().box().top, each->slideSize().height - 22);
+    }
+}
+
 TEST_F(ExportStage, APictureAsWideAsTheLimitIsLeftAloneOnAnySlide) {
     // Nine tenths of this width is no number that single precision holds exactly.
     auto package = support::emptyDeck();
