@@ -104,7 +104,12 @@ void UserformObj::showTarget(const Target& target) {
 void UserformObj::PasteIT_Click() {
     for (int i = 1; i <= 4; ++i) timer(i).enabled = false;
     activateWorkbook();
-    if (PreExportReview(session_, list_, {choices()}) != ReviewResult::Go) return;
+    const ReviewResult review = [this] {
+        // A second click of the same hand would begin a review within this one.
+        const forms::InputOff quiet(*this);
+        return PreExportReview(session_, list_, {choices()});
+    }();
+    if (review != ReviewResult::Go) return;
 
     keepList();
     if (hooks_.StartExport) hooks_.StartExport(list_, choices());

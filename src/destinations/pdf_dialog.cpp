@@ -123,7 +123,6 @@ void DialogPDF::MakeBlankDoc_Paste_ExportPdf_AndClose() {
     FailedItems failed;
     RowBatch batch{session(), list_,
                    [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
-    takesInput = false;
     session().progress.showItem(0, taken_);
     office::ContinueOnFailure scope;
     PdfResult result;
@@ -140,7 +139,6 @@ void DialogPDF::MakeBlankDoc_Paste_ExportPdf_AndClose() {
                 session().notices,
                 fmt::format("PDF was created but couldn't be opened automatically:\r\n{}", path));
     }
-    takesInput = true;
 }
 
 void StartPdfExport(session::OfficeSession& session, forms::Desktop& desktop,

@@ -83,4 +83,19 @@ private:
     std::vector<Timer*> timers_;
 };
 
+/// The form takes no input as long as this lives.
+class InputOff {
+public:
+    explicit InputOff(Form& form) : form_(form), before_(form.takesInput) {
+        form.takesInput = false;
+    }
+    InputOff(const InputOff&) = delete;
+    InputOff& operator=(const InputOff&) = delete;
+    ~InputOff() { form_.takesInput = before_; }
+
+private:
+    Form& form_;
+    bool before_;
+};
+
 }  // namespace forms

@@ -55,7 +55,6 @@ public:
     /// loaded but the page itself, from nowhere.
     std::string resourceFolder;
     /// No dialog of a page or a certificate ever appears.
-    bool silent = false;
 
     /// Asked before a link is followed: true cancels it.
     std::function<bool(std::string_view url)> onBeforeNavigate;

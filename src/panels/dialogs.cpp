@@ -1,5 +1,6 @@
 #include "panels/dialogs.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "office/failure_patterns.h"
@@ -13,31 +14,30 @@ constexpr std::string_view mainForm = "UserformObj";
 }  // namespace
 
 void ShowToolForm(forms::Form& tool) {
-    forms::Desktop& desktop = tool.desktop();
-    const bool hadMainForm = DropTopmost(desktop);
-    desktop.show(tool, forms::ShowMode::Modal);
-    if (hadMainForm) RaiseMainForm(desktop);
+    const TopmostDropped dropped(tool.desktop());
+    tool.desktop().show(tool, forms::ShowMode::Modal);
 }
 
-bool DropTopmost(forms::Desktop& desktop) {
-    forms::Form* main = desktop.findLoaded(mainForm);
-    if (main != nullptr) main->topmost = false;
-    for (const char* dialog : {"DialogWord", "Dialog", "DialogHTML", "DialogImageFiles"}) {
-        if (forms::Form* open = desktop.findLoaded(dialog)) open->topmost = false;
+TopmostDropped::TopmostDropped(forms::Desktop& desktop) : desktop_(desktop) {
+    for (forms::Form* form : desktop.loadedForms()) {
+        if (form->topmost) dropped_.push_back(form);
+        form->topmost = false;
     }
-    return main != nullptr;
 }
 
-void RaiseMainForm(forms::Desktop& desktop) {
-    if (forms::Form* main = desktop.findLoaded(mainForm)) main->topmost = true;
+TopmostDropped::~TopmostDropped() {
+    for (forms::Form* form : desktop_.loadedForms()) {
+        if (std::find(dropped_.begin(), dropped_.end(), form) != dropped_.end())
+            form->topmost = true;
+    }
 }
 
 void RunExport(session::OfficeSession& session, forms::Form& dialog, std::int32_t total,
                const std::function<void()>& batch) {
     forms::Desktop& desktop = dialog.desktop();
+    if (forms::Form* main = desktop.findLoaded(mainForm)) main->takesInput = false;
     desktop.unload(dialog);
     desktop.letEventsRun();
-    if (forms::Form* main = desktop.findLoaded(mainForm)) main->takesInput = false;
     session.progress.showItem(0, total);
     batch();
     CloseAllAndEnd(session, desktop);

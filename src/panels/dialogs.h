@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "forms/desktop.h"
 #include "forms/form.h"
@@ -13,11 +14,20 @@ namespace panels {
 /// form and the dialogs that are open are topmost, and would otherwise cover it.
 void ShowToolForm(forms::Form& tool);
 
-/// Takes the topmost mark off the main form and the open options dialogs. True if there is a main
-/// form that can get it back.
-bool DropTopmost(forms::Desktop& desktop);
-/// Gives the main form its topmost mark back, if it is still loaded.
-void RaiseMainForm(forms::Desktop& desktop);
+/// Takes the topmost mark off all forms, so that another one can stand above them. Those that had
+/// it and are still loaded get it back in the end, and no others: raised in a batch, the main form
+/// would cover the progress and its Cancel.
+class TopmostDropped {
+public:
+    explicit TopmostDropped(forms::Desktop& desktop);
+    TopmostDropped(const TopmostDropped&) = delete;
+    TopmostDropped& operator=(const TopmostDropped&) = delete;
+    ~TopmostDropped();
+
+private:
+    forms::Desktop& desktop_;
+    std::vector<forms::Form*> dropped_;
+};
 
 /// What the button of an options dialog leads to: the dialog gives way to the progress form with
 /// its `total` of items, `batch` runs, and the session ends by `CloseAllAndEnd`. The main form

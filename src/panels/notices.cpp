@@ -83,7 +83,7 @@ int NoticePanel::show(const session::Notice& notice) {
     pending.Buttons = notice.buttons;
     MurvaneNotice form(desktop_, host_, std::move(pending));
 
-    const bool hadMainForm = DropTopmost(desktop_);
+    const TopmostDropped dropped(desktop_);
     try {
         ShowNoticeForm(form);
     } catch (const office::SuiteLost&) {
@@ -92,7 +92,6 @@ int NoticePanel::show(const session::Notice& notice) {
         // A message that can't be shown as a page is shown as it can be.
         desktop_.messageBox("Murvane could not open the notice panel.", "Murvane");
     }
-    if (hadMainForm) RaiseMainForm(desktop_);
     return form.Result;
 }
 

@@ -34,7 +34,11 @@ OptionsForm::OptionsForm(forms::Desktop& theDesktop, session::OfficeSession& ses
     Image1.setPicture({.bytes = {}, .drawing = std::move(drawing)});
     ContinueOk.caption = "Continue  >";
     wbStatus.accessibleName = "Export options";
-    ContinueOk.onClick = [this] { ContinueOk_Click(); };
+    ContinueOk.onClick = [this] {
+        // Notices let events run, and the second click of a double click among them.
+        const forms::InputOff quiet(*this);
+        ContinueOk_Click();
+    };
     wbStatus.onBeforeNavigate = [this](std::string_view url) {
         return wbStatus_BeforeNavigate2(url);
     };
