@@ -11,7 +11,9 @@
 namespace catalogue {
 
 std::int32_t slideNumberOf(std::string_view text) {
-    const double number = std::nearbyint(office::leadingNumber(text));
+    // The box takes either mark of a fraction.
+    const std::string point = office::replaceAll(text, ",", ".");
+    const double number = std::nearbyint(office::leadingNumber(point));
     constexpr double most = std::numeric_limits<std::int32_t>::max();
     return static_cast<std::int32_t>(std::clamp(number, -most, most));
 }

@@ -7,10 +7,9 @@
 #include <string_view>
 
 #include "catalogue/export_list.h"
+#include "forms/controls.h"
 
 namespace catalogue {
-
-enum class Alignment { Left, Centred };
 
 /// A column of the list as it is made. Widths are in twips.
 struct ListColumn {
@@ -23,21 +22,20 @@ struct ListColumn {
     static constexpr std::size_t laterRow = 7;
 
     std::string_view Text;
-    std::string_view Tag;   ///< "STRING" or "NUMBER"; the sort doesn't go by it
     std::string_view Icon;  ///< of the header, or empty
     std::int32_t Width;
-    Alignment alignment;
+    forms::Alignment alignment;
 };
 
 inline constexpr std::array<ListColumn, 8> listColumns = {{
-    {"Name/Type", "STRING", "asc", 1875, Alignment::Left},
-    {"Excel sheet", "STRING", "asc", 1400, Alignment::Left},
-    {"Slide Nb", "NUMBER", "", 0, Alignment::Centred},
-    {"Order", "NUMBER", "asc", 1400, Alignment::Centred},
-    {"Caption", "STRING", "", 2376, Alignment::Left},
-    {"TypeObject", "STRING", "", 0, Alignment::Left},
-    {"Order", "NUMBER", "", 0, Alignment::Left},
-    {"Name&Sheet", "NUMBER", "", 0, Alignment::Left},
+    {"Name/Type", "asc", 1875, forms::Alignment::Left},
+    {"Excel sheet", "asc", 1400, forms::Alignment::Left},
+    {"Slide Nb", "", 0, forms::Alignment::Centre},
+    {"Order", "asc", 1400, forms::Alignment::Centre},
+    {"Caption", "", 2376, forms::Alignment::Left},
+    {"TypeObject", "", 0, forms::Alignment::Left},
+    {"Order", "", 0, forms::Alignment::Left},
+    {"Name&Sheet", "", 0, forms::Alignment::Left},
 }};
 
 /// What an item has in a column, from 1. Empty for a column that never shows.

@@ -24,9 +24,13 @@ void AddBlocker(std::string& blockers, std::string_view text) {
 
 void AddReviewItem(std::string& reviewItems, std::string& reviewLines, std::string_view text) {
     const std::string line = fmt::format("- {}\r\n", text);
-    if (reviewLines.find(line) != std::string::npos) return;
+    if (("\n" + reviewLines).find("\n" + line) != std::string::npos) return;
     reviewItems += panels::element("li", {}, panels::HtmlEscape(text));
     reviewLines += line;
+}
+
+bool isOpen(const office::Object& book) {
+    return office::orElse([&] { return !book.get("Name").isBlank(); }, false);
 }
 
 void reviewItems(session::OfficeSession& session, const ExportList& list, ReviewTexts& texts) {
@@ -37,7 +41,9 @@ void reviewItems(session::OfficeSession& session, const ExportList& list, Review
         return;
     }
     const std::int32_t exportable = CountExportableRows(session, list);
-    if (exportable == 0) {
+    if (exportable == 0 && !isOpen(session.ActiveBook)) {
+        AddBlocker(texts.Blockers, "The workbook is no longer open. Open it again and start anew.");
+    } else if (exportable == 0) {
         AddBlocker(texts.Blockers,
                    "All checked items are on hidden worksheets and cannot be exported. Show those "
                    "sheets or uncheck them.");

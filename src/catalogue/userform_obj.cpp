@@ -78,7 +78,6 @@ void UserformObj::Form_Load() {
 }
 
 void UserformObj::loadForm() {
-    session_.MainFormStarted = true;
     workbook_ = session_.ActiveBook;
     SlideNb.visible = false;
     session_.ExcelApp.put("ScreenUpdating", false);
@@ -96,9 +95,6 @@ void UserformObj::loadForm() {
     session_.progress.unloadLoading();
 
     renumberRows();
-    NbCharts.caption =
-        fmt::format("{} of {} items selected", CountCheckedRows(list_), session_.ItemCount);
-
     ShowPowerPointTarget();
     TitlesFrame.visible = false;
     if (session_.ActiveBook) {
@@ -106,7 +102,6 @@ void UserformObj::loadForm() {
             fmt::format("Active Workbook:{} ", session_.ActiveBook.get("Name").toText()));
     }
     session_.MainFormOpen = true;
-    FirstColumnState = 1;
     furniture::ApplyTheme(*this);
     resizeColumns();
     recolourRows();
@@ -121,11 +116,9 @@ void UserformObj::prepareList() {
     listCharts.columns.clear();
     for (const ListColumn& column : listColumns) {
         listCharts.columns.push_back(
-            {std::string(column.Text), std::string(column.Tag),
+            {std::string(column.Text),
              column.Icon.empty() ? std::string() : fmt::format("icon:{}", column.Icon),
-             column.Width,
-             column.alignment == Alignment::Centred ? forms::Alignment::Centre
-                                                    : forms::Alignment::Left});
+             column.Width, column.alignment});
     }
 }
 
@@ -193,7 +186,7 @@ void UserformObj::OptionNewSlides_Click() {
     resizeColumns();
     recolourRows();
     // The column of slide numbers is kept, if only just: the list would else lose its place.
-    if (FirstColumnState == 1 && listCharts.columns.size() > 2) listCharts.columns[2].width = 1;
+    if (listCharts.columns.size() > 2) listCharts.columns[2].width = 1;
 }
 
 void UserformObj::AddCaption_Click() {
@@ -351,15 +344,15 @@ void UserformObj::stepFromBox(forms::TextBox& box, int step) {
 
 void UserformObj::imgChart_DblClick() {
     const ExportItem* row = selectedRow();
-    if (row == nullptr || !hooks_.InsertOneItem) return;
-    // Inserting lets events run, and nothing may change the rows meanwhile.
-    takesInput = false;
+    // What has no picture, as several areas, can't be inserted either.
+    if (row == nullptr || !hooks_.InsertOneItem || imgChart.picture().isEmpty()) return;
     keepList();
     const bool inserted = [&] {
+        // Inserting lets events run, and nothing may change the rows meanwhile.
+        const forms::InputOff quiet(*this);
         const forms::Working working(desktop());
         return hooks_.InsertOneItem(*row, choices());
     }();
-    takesInput = true;
     if (inserted) desktop().messageBox("Done!", "Murvane");
 }
 
@@ -406,6 +399,8 @@ void UserformObj::recolourRows() {
 
 void UserformObj::renumberRows() {
     RenumberIncludedRows(list_);
+    NbCharts.caption =
+        fmt::format("{} of {} items selected", CountCheckedRows(list_), list_.rows.size());
     listCharts.rowsChanged();
 }
 

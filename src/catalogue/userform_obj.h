@@ -166,7 +166,6 @@ private:
     std::array<std::unique_ptr<forms::Timer>, 5> timers_;
     SlidePanelMotion slidePanelMotion_ = SlidePanelMotion::None;
     std::optional<furniture::clsShadow> shadow_;
-    int FirstColumnState = 0;
     /// What each control takes of the room that the form gains.
     struct Gain;
     std::vector<Gain> gains_;

@@ -101,7 +101,7 @@ HtmlOptions DialogHTML::options() {
     constexpr double mostLines = 100;
     const SizeFactor factor = sizeFactorOf(txtAmount.text());
     if (SameWidthHTNL.isChecked() && !factor.isGood && !txtAmount.text().empty()) {
-        if (office::numberOf(txtAmount.text())) {
+        if (factor.isNumber) {
             session::ShowWarningNotice(session().notices, "Some max-min-error message");
         } else {
             session::ShowErrorNotice(session().notices, "Type mismatch");

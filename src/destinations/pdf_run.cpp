@@ -25,7 +25,9 @@ public:
         office::ContinueOnFailure scope;
         scope.attempt([&] { word_ = session.suite.attach("Word.Application"); });
         if (!word_) {
-            word_ = session.suite.start("Word.Application");
+            if (!scope.attempt([&] { word_ = session.suite.start("Word.Application"); }))
+                throw office::Failure(office::FailureNumber::ApplicationDefined, "Word.Application",
+                                      "Microsoft Word is not available.");
             createdWord_ = true;
         }
         document_ = word_.get("Documents").call("Add", arg("Visible", false)).toObject();

@@ -23,16 +23,21 @@ std::int32_t takenRowsOfFiles(session::OfficeSession& session, const catalogue::
 namespace {
 
 /// Does something for a row. Its failure is told if somebody wants to know, or ends the export.
+/// False after one that was told.
 template <class Statement>
-void letHaveTurn(const RowBatch& batch, const catalogue::ExportItem& row,
+bool letHaveTurn(const RowBatch& batch, const catalogue::ExportItem& row,
                  const Statement& statement) {
-    if (!batch.onFailedItem) return statement();
+    if (!batch.onFailedItem) {
+        statement();
+        return true;
+    }
     office::ContinueOnFailure scope;
-    if (scope.attempt(statement)) return;
+    if (scope.attempt(statement)) return true;
     const office::Failure failure = *scope.lastFailure();
     // A full disk is one for every item.
     if (failure.is(office::FailureNumber::PathFileAccess)) throw failure;
     batch.onFailedItem(row, failure);
+    return false;
 }
 
 }  // namespace
@@ -48,11 +53,12 @@ WalkResult walkRows(RowBatch& batch,
         if (batch.session.progress.cancelled()) break;
         const catalogue::ExportItem& row = batch.list.rows[taken.index];
         batch.list.selected = static_cast<std::ptrdiff_t>(taken.index);
-        letHaveTurn(batch, row, [&] {
+        const bool went = letHaveTurn(batch, row, [&] {
             catalogue::ProgressStep(batch.session, result.done + 1, result.total);
             exportRow(taken, row);
         });
         ++result.done;
+        if (!went) ++result.failed;
     }
     batch.list.selected = selected;
     return result;
@@ -69,21 +75,23 @@ WalkResult walkRowsAhead(
         std::function<void()> end;
     };
     std::deque<Begun> begun;
+    std::int32_t failed = 0;
     // Where it fails, the row that it ends is the one at hand.
     const auto endFirst = [&] {
         const Begun first = std::move(begun.front());
         begun.pop_front();
         const std::ptrdiff_t atHand = batch.list.selected;
         batch.list.selected = static_cast<std::ptrdiff_t>(first.index);
-        letHaveTurn(batch, batch.list.rows[first.index], first.end);
+        if (!letHaveTurn(batch, batch.list.rows[first.index], first.end)) ++failed;
         batch.list.selected = atHand;
     };
-    const WalkResult result =
+    WalkResult result =
         walkRows(batch, [&](const catalogue::TakenRow& taken, const catalogue::ExportItem& row) {
             if (begun.size() == mostAhead) endFirst();
             begun.push_back({taken.index, begin(taken, row)});
         });
     while (!begun.empty()) endFirst();
+    result.failed += failed;
     return result;
 }
 
@@ -91,7 +99,7 @@ void tellIfCancelled(session::OfficeSession& session, const WalkResult& result) 
     if (!result.wasCancelled()) return;
     session::ShowNotice(session.notices,
                         fmt::format("The export was cancelled: {} of {} items were exported.",
-                                    result.done, result.total),
+                                    result.done - result.failed, result.total),
                         "Murvane", "info", session::buttons::okOnly);
 }
 

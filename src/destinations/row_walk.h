@@ -24,6 +24,7 @@ struct RowBatch {
 struct WalkResult {
     /// Items that have had their turn, also those that failed.
     std::int32_t done = 0;
+    std::int32_t failed = 0;
     std::int32_t total = 0;
 
     [[nodiscard]] bool wasCancelled() const { return done < total; }

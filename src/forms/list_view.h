@@ -42,7 +42,6 @@ class ListView : public Control {
 public:
     struct Column {
         std::string text;
-        std::string tag;
         std::string icon;
         Twips width = 0;
         Alignment alignment = Alignment::Left;

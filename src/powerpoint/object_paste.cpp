@@ -37,6 +37,10 @@ RowTexts textsOf(const ExportItem& row, const ObjectRoute& route) {
             fmt::format("Could not paste '{}' {}", row.name, route.rangeTarget)};
 }
 
+bool isThere(const Value& pasted) {
+    return !pasted.isEmpty() && !(pasted.isObject() && pasted.toObject().isNothing());
+}
+
 }  // namespace
 
 bool pasteByAttempts(OfficeSession& session, std::int32_t slideIndex, NextAttempt next,
@@ -59,10 +63,10 @@ bool pasteByAttempts(OfficeSession& session, std::int32_t slideIndex, NextAttemp
     Value pasted;
     for (const PasteAttempt& attempt : attempts) {
         const bool went = scope.attempt([&] { pasted = attempt(slide); });
-        if (went && (!pasted.isEmpty() || next == NextAttempt::AfterFailure)) break;
+        if (went && (isThere(pasted) || next == NextAttempt::AfterFailure)) break;
     }
     session.host.letEventsRun();
-    return !pasted.isEmpty() ||
+    return isThere(pasted) ||
            scope.read([&] { return shapes.get("Count").toLong() > before; }, false);
 }
 

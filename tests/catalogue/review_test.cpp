@@ -70,6 +70,10 @@ TEST_F(Review, CollectsTheBlockersOfItemsAndDestination) {
     EXPECT_EQ(blockers(),
               Words{"All checked items are on hidden worksheets and cannot be exported. Show those "
                     "sheets or uncheck them."});
+    const auto book = test.session.ActiveBook;
+    test.session.ActiveBook.release();
+    EXPECT_EQ(blockers(), Words{"The workbook is no longer open. Open it again and start anew."});
+    test.session.ActiveBook = book;
     list.rows = {row("Chart 1", "Sales", session::ItemKind::Chart)};
     choices.destination = Destination::Word;
     EXPECT_EQ(blockers(),

@@ -41,11 +41,11 @@ SampleForm::SampleForm(forms::Desktop& desktop, std::size_t rowCount)
     listCharts.checkBoxes = true;
     listCharts.gridLines = true;
     listCharts.horizontalScrollBar = false;
-    listCharts.columns = {{"Name/Type", "STRING", "asc", 1875, Alignment::Left},
-                          {"Sheet", "STRING", "asc", 1400, Alignment::Left},
-                          {"Slide", "NUMBER", "", 0, Alignment::Centre},
-                          {"Order", "NUMBER", "asc", 900, Alignment::Centre},
-                          {"Caption", "STRING", "", 2350, Alignment::Left}};
+    listCharts.columns = {{"Name/Type", "asc", 1875, Alignment::Left},
+                          {"Sheet", "asc", 1400, Alignment::Left},
+                          {"Slide", "", 0, Alignment::Centre},
+                          {"Order", "asc", 900, Alignment::Centre},
+                          {"Caption", "", 2350, Alignment::Left}};
     Image2.setPicture({{}, "icon:word"});
     constexpr std::string_view picture =
         "<svg xmlns='http://www.w3.org/2000/svg' width='120' height='80'>"
