@@ -6,6 +6,7 @@
 
 #include "office/failure_patterns.h"
 #include "office/text.h"
+#include "session/alerts_off.h"
 #include "session/waits.h"
 
 namespace destinations {
@@ -53,30 +54,6 @@ const Command& commandOf(WordPaste mode) {
             return picture;
     }
 }
-
-/// Excel asks nothing while this lives. Left so, it would not ask whether to save either.
-class AlertsOff {
-public:
-    explicit AlertsOff(const Object& excel) : excel_(excel) {
-        scope_.attempt([this] { before_ = excel_.get("DisplayAlerts").toBool(); });
-        scope_.attempt([this] { excel_.put("DisplayAlerts", false); });
-    }
-    AlertsOff(const AlertsOff&) = delete;
-    AlertsOff& operator=(const AlertsOff&) = delete;
-    /// An application that has gone has nothing left to put back.
-    ~AlertsOff() {
-        try {
-            excel_.put("DisplayAlerts", before_);
-        } catch (const office::Failure&) {
-            return;
-        }
-    }
-
-private:
-    const Object& excel_;
-    bool before_ = true;
-    office::ContinueOnFailure scope_;
-};
 
 /// One run of a command.
 class SelectionPaste {
@@ -253,7 +230,7 @@ void SelectionPaste::setSize(SourceKind kind) {
 }  // namespace
 
 void PasteSelectionToWord(OfficeSession& session, WordPaste mode) {
-    const AlertsOff alerts(session.ExcelApp);
+    const session::AlertsOff quiet(session.ExcelApp);
     SelectionPaste(session, mode).run();
 }
 

@@ -16,6 +16,7 @@
 #include "powerpoint/formats.h"
 #include "powerpoint/layout_form.h"
 #include "powerpoint/picture_styles_form.h"
+#include "session/alerts_off.h"
 #include "session/powerpoint_session.h"
 
 namespace powerpoint {
@@ -139,7 +140,7 @@ void Dialog::ToggleOption(std::string_view key) {
 void Dialog::RunPanelAction(std::string_view key) {
     const std::string lower = office::lowerCase(key);
     if (lower == "style") {
-        PredefinedStyles styles(desktop(), options_.pictureStyle);
+        PredefinedStyles styles(desktop(), session().PictureStyle);
         panels::ShowToolForm(styles);
     } else if (lower == "layout") {
         LayoutForm layout(desktop(), session());
@@ -164,6 +165,7 @@ void Dialog::ContinueOk_Click() {
     options_.titles = SlideTitle.isChecked();
     options_.sourceLine = SourceInc.isChecked();
     options_.shadow = CheckShadow.isChecked();
+    options_.pictureStyle = session().PictureStyle;
     panels::RunExport(session(), *this, taken_, [this] {
         Batch batch{session(), list_, choices_, {}, options_};
         ExportRows(batch);
@@ -185,7 +187,7 @@ bool Dialog::slideNumbersFit() {
 void StartPowerPointExport(session::OfficeSession& session, forms::Desktop& desktop,
                            catalogue::ExportList& list, const catalogue::ExportChoices& choices) {
     session::AttachPowerPoint(session);
-    session.ExcelApp.put("DisplayAlerts", false);
+    const session::AlertsOff quiet(session.ExcelApp);
     Dialog dialog(desktop, session, list, choices);
     panels::ShowToolForm(dialog);
 }

@@ -52,7 +52,7 @@ private:
     std::int32_t taken_ = 0;
 };
 
-/// Begins an export to slides: Excel asks nothing from here on, and the dialog comes up.
+/// Begins an export to slides: the dialog comes up. Excel asks nothing meanwhile.
 void StartPowerPointExport(session::OfficeSession& session, forms::Desktop& desktop,
                            catalogue::ExportList& list, const catalogue::ExportChoices& choices);
 

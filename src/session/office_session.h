@@ -36,9 +36,10 @@ struct OfficeSession {
     std::string ActiveSheetName;
     /// What items that go as pictures become on slides and in documents.
     office::PictureKind Pictures = office::PictureKind::Png;
+    /// The look that the user has chosen for what comes to slides; none at the start.
+    std::int16_t PictureStyle = 0;
     bool PowerPointFound = false;
     bool MainFormOpen = false;
-    bool MainFormStarted = false;
     std::int16_t ItemCount = 0;
     office::WindowHandle PowerPointFrameHandle = 0;
 };

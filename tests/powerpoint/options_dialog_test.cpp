@@ -175,7 +175,22 @@ TEST_F(PowerPointDialog, HandsItsOptionsToTheExportAndEndsTheSession) {
     EXPECT_TRUE(session.PowerPointApp.isNothing());
     EXPECT_FALSE(session.ExcelApp || session.SessionPresentation || session.MainFormOpen);
     EXPECT_EQ(progress.calls.front(), "item 0 of 2");
-    EXPECT_EQ(suite.log().texts("DisplayAlerts").front(), "Application.DisplayAlerts = False");
+    EXPECT_EQ(suite.log().texts("DisplayAlerts"),
+              (Strings{"Application.DisplayAlerts", "Application.DisplayAlerts = False",
+                       "Application.DisplayAlerts = True"}));
+}
+
+TEST_F(PowerPointDialog, KeepsTheStyleThatWasChosenAnEarlierTime) {
+    open([&](powerpoint::Dialog& dialog) {
+        desktop.answer("PredefinedStyles", [](forms::Form& form) {
+            forms_double::choose(form, "OptionStyle", powerpoint::style::shadow);
+            press(form, "Styles");
+        });
+        dialog.RunPanelAction("style");
+    });
+    open([](powerpoint::Dialog& dialog) { press(dialog, "ContinueOk"); });
+    ASSERT_EQ(deck.slideCount(), 5);
+    EXPECT_TRUE(deck.slide(5).shapes().back().hasShadow());
 }
 
 TEST_F(PowerPointDialog, ExportsToThePresentationThatItNamesWhateverTheUserLooksAtMeanwhile) {

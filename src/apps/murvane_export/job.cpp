@@ -7,6 +7,7 @@
 #include "destinations/pdf_run.h"
 #include "destinations/word_batch.h"
 #include "powerpoint/formats.h"
+#include "session/alerts_off.h"
 #include "session/powerpoint_session.h"
 #include "session/workbook_store.h"
 
@@ -69,7 +70,7 @@ private:
 std::int32_t SlidesJob::exportTo(const std::string& neighbour) {
     const Options& options = scene_.options;
     session::AttachPowerPoint(scene_.session);
-    scene_.session.ExcelApp.put("DisplayAlerts", false);
+    const session::AlertsOff quiet(scene_.session.ExcelApp);
     const catalogue::ExportChoices choices = choicesFor(Destination::PowerPoint, options);
     powerpoint::Batch batch{scene_.session, scene_.list, choices, scene_.onFailedItem};
     batch.options = {.titles = options.titles.value_or(false),
