@@ -12,7 +12,7 @@ using office::Object;
 using session::OfficeSession;
 
 void copyChartSheet(OfficeSession& session, const ExportItem& row) {
-    session.ActiveBook.get("Charts").get("Item", row.sheet).get("ChartArea").call("Copy");
+    chartOf(session, row).get("ChartArea").call("Copy");
 }
 
 void copyEmbeddedChart(OfficeSession& session, const ExportItem& row) {

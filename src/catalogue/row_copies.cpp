@@ -1,39 +1,13 @@
 #include "catalogue/row_copies.h"
 
-#include <fmt/format.h>
-
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
 #include "session/waits.h"
 
 namespace catalogue {
 
-namespace {
-
 using office::arg;
 using session::OfficeSession;
-
-/// The chart of a row: of its chart sheet, or the one that lies on its sheet.
-office::Object chartOf(const OfficeSession& session, const ExportItem& row) {
-    if (row.isChartSheet())
-        return session.ActiveBook.get("Charts").get("Item", row.sheet).toObject();
-    return session.ActiveBook.get("Sheets")
-        .get("Item", row.sheet)
-        .call("ChartObjects")
-        .get("Item", row.name)
-        .get("Chart")
-        .toObject();
-}
-
-office::Object requiredRange(OfficeSession& session, const ExportItem& row) {
-    office::Object range = rangeOf(session, row);
-    if (!range)
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "Range",
-                              fmt::format("Named range '{}' not found.", row.name));
-    return range;
-}
-
-}  // namespace
 
 void CopyRow(OfficeSession& session, const ExportItem& row) {
     if (row.kind == ItemKind::Range) {

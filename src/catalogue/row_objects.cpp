@@ -1,5 +1,7 @@
 #include "catalogue/row_objects.h"
 
+#include <fmt/format.h>
+
 #include "office/failure_patterns.h"
 #include "office/text.h"
 
@@ -12,19 +14,21 @@ constexpr std::int32_t visibleSheet = -1;
 }  // namespace
 
 const RowObjects::Sheet& RowObjects::sheetOf(const ExportItem& row) {
-    const char* collection = row.isChartSheet() ? "Charts" : "Sheets";
     const std::string_view trimmed = office::trim(row.sheet);
-    const auto [place, isNew] = sheets_.try_emplace(std::string(collection) + "/" + row.sheet);
+    const auto [place, isNew] =
+        sheets_.try_emplace((row.isChartSheet() ? "Charts/" : "Sheets/") + row.sheet);
     Sheet& sheet = place->second;
     if (isNew && !trimmed.empty()) {
         office::ContinueOnFailure scope;
-        const auto lookUp = [&](std::string_view name) {
+        const auto lookUp = [&](const char* collection, std::string_view name) {
             return scope.attempt([&] {
                 sheet.object = session_.ActiveBook.get(collection).get("Item", name).toObject();
             });
         };
+        const bool isChart = row.isChartSheet() && lookUp("Charts", row.sheet);
         // A name may begin or end with a blank of its own.
-        if (!lookUp(row.sheet) && trimmed != row.sheet) lookUp(trimmed);
+        if (!isChart && !lookUp("Sheets", row.sheet) && trimmed != row.sheet)
+            lookUp("Sheets", trimmed);
         scope.attempt(
             [&] { sheet.isVisible = sheet.object.get("Visible").toLong() == visibleSheet; });
     }
@@ -37,12 +41,29 @@ bool RowObjects::isOnVisibleSheet(const ExportItem& row) {
 
 bool RowObjects::isMultipleAreaRow(const ExportItem& row) {
     if (row.kind != ItemKind::Range) return false;
-    return office::orElse(
-        [&] {
-            const office::Value range = sheetOf(row).object.get("Range", row.name);
-            return range.get("Areas").get("Count").toLong() > 1;
-        },
-        false);
+    office::ContinueOnFailure scope;
+    office::Object range;
+    const bool isOnSheet =
+        scope.attempt([&] { range = sheetOf(row).object.get("Range", row.name).toObject(); });
+    if (!isOnSheet) range = rangeOf(session_, row);
+    return scope.read([&] { return range.get("Areas").get("Count").toLong() > 1; }, false);
+}
+
+office::Object chartOf(const session::OfficeSession& session, const ExportItem& row) {
+    const auto chartOn = [&](const office::Value& chart) {
+        return session.ActiveBook.get("Sheets")
+            .get("Item", row.sheet)
+            .call("ChartObjects")
+            .get("Item", chart)
+            .get("Chart")
+            .toObject();
+    };
+    if (!row.isChartSheet()) return chartOn(row.name);
+    office::ContinueOnFailure scope;
+    office::Object chart;
+    const bool isChartSheet = scope.attempt(
+        [&] { chart = session.ActiveBook.get("Charts").get("Item", row.sheet).toObject(); });
+    return isChartSheet ? chart : chartOn(1);
 }
 
 office::Object rangeOf(session::OfficeSession& session, const ExportItem& row) {
@@ -58,11 +79,19 @@ office::Object rangeOf(session::OfficeSession& session, const ExportItem& row) {
     // The workbook may hold a namesake that lies on another sheet.
     scope.attempt([&] {
         const office::Value named =
-            session.ActiveBook.get("Names").get("Item", name).get("RefersToRange");
+            session.ActiveBook.get("Names").get("Item", row.name).get("RefersToRange");
         if (named.get("Worksheet").get("Name").toText() == row.sheet) {
             range = named.toObject();
         }
     });
+    return range;
+}
+
+office::Object requiredRange(session::OfficeSession& session, const ExportItem& row) {
+    office::Object range = rangeOf(session, row);
+    if (!range)
+        throw office::Failure(office::FailureNumber::ApplicationDefined, "Range",
+                              fmt::format("Named range '{}' not found.", row.name));
     return range;
 }
 

@@ -35,8 +35,14 @@ private:
     std::map<std::string, Sheet> sheets_;
 };
 
+/// The chart of a row: of its chart sheet, or the one that lies on its sheet. LibreOffice saves a
+/// chart sheet as a worksheet with a chart, which then is the row's.
+[[nodiscard]] office::Object chartOf(const session::OfficeSession& session, const ExportItem& row);
+
 /// The range that a row of a name or a table stands for: its own sheet's, or else the workbook's.
 /// Nothing where it leads to none.
 [[nodiscard]] office::Object rangeOf(session::OfficeSession& session, const ExportItem& row);
+/// The same where there has to be one: `Failure` 1004 otherwise.
+[[nodiscard]] office::Object requiredRange(session::OfficeSession& session, const ExportItem& row);
 
 }  // namespace catalogue

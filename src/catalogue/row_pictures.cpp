@@ -53,10 +53,6 @@ void exportRange(const Object& range, const std::string& file, const char* filte
     throw office::Failure(failure);
 }
 
-void exportChart(const Object& chart, const std::string& file, const char* filter) {
-    chart.call("Export", arg("Filename", file), arg("FilterName", filter));
-}
-
 }  // namespace
 
 std::string TemporaryPictureOf(OfficeSession& session, const ExportItem& row) {
@@ -69,17 +65,8 @@ std::string TemporaryPictureOf(OfficeSession& session, const ExportItem& row) {
 
 bool ExportRowPicture(OfficeSession& session, const ExportItem& row, const std::string& file) {
     const char* const filter = filterOf(session.Pictures);
-    if (row.isChartSheet()) {
-        exportChart(session.ActiveBook.get("Charts").get("Item", row.sheet).toObject(), file,
-                    filter);
-    } else if (row.isEmbeddedChart()) {
-        exportChart(session.ActiveBook.get("Sheets")
-                        .get("Item", row.sheet)
-                        .call("ChartObjects")
-                        .get("Item", row.name)
-                        .get("Chart")
-                        .toObject(),
-                    file, filter);
+    if (row.kind != ItemKind::Range) {
+        chartOf(session, row).call("Export", arg("Filename", file), arg("FilterName", filter));
     } else {
         const Object range = rangeOf(session, row);
         if (!range) return false;

@@ -30,21 +30,8 @@ void pasteChart(OfficeSession& session, const ExportItem& row, std::int32_t slid
 bool PasteChartSheetEditable(OfficeSession& session, const ExportItem& row,
                              std::int32_t slideIndex) {
     if (!catalogue::TryCopyRow(session, row, catalogue::CopyPause::None)) {
-        office::ContinueOnFailure scope;
-        Object chart;
-        scope.attempt([&] {
-            chart = session.ActiveBook.get("Sheets")
-                        .get("Item", row.sheet)
-                        .call("ChartObjects")
-                        .get("Item", 1)
-                        .get("Chart")
-                        .toObject();
-        });
-        if (!chart) {
-            session::ShowWarningNotice(session.notices, "No chart found in sheet: " + row.sheet);
-            return false;
-        }
-        chart.get("ChartArea").call("Copy");
+        session::ShowWarningNotice(session.notices, "No chart found in sheet: " + row.sheet);
+        return false;
     }
     pasteChart(session, row, slideIndex);
     return true;

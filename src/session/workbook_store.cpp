@@ -117,13 +117,34 @@ Stored readStored(const Object& sheet) {
     return stored;
 }
 
-/// The stored items and those of the found ones that are new, which all get the same number.
+/// Chart sheets that have become worksheets, as LibreOffice saves them: the stored row goes on
+/// standing for the chart on it.
+std::unordered_set<std::string> chartSheetsLostIn(const Stored& stored,
+                                                  const std::vector<ExportItem>& found) {
+    std::unordered_set<std::string> sheets;
+    for (const ExportItem& item : stored.items)
+        if (item.isChartSheet()) sheets.insert(item.sheet);
+    for (const ExportItem& item : found)
+        if (item.isChartSheet()) sheets.erase(item.sheet);
+    return sheets;
+}
+
+/// The stored items and those of the found ones that are new, which all get the same number. Items
+/// of a new store stand in the order of the sheets.
 StoredItems merged(const Stored& stored, std::vector<ExportItem> found) {
     const bool wereUnknown = stored.items.empty();
     StoredItems all{stored.items, wereUnknown};
     const std::string laterRow = std::to_string(stored.lastRow + 1);
+    if (wereUnknown) {
+        const auto sheetOf = [](const ExportItem& item) {
+            return office::leadingNumber(item.order);
+        };
+        std::ranges::stable_sort(found, {}, sheetOf);
+    }
+    std::unordered_set<std::string> formerChartSheets = chartSheetsLostIn(stored, found);
     for (ExportItem& item : found) {
         if (stored.keys.contains(item.key())) continue;
+        if (item.isEmbeddedChart() && formerChartSheets.erase(item.sheet) > 0) continue;
         if (!wereUnknown) item.laterRow = laterRow;
         all.items.push_back(std::move(item));
     }
@@ -143,7 +164,11 @@ void writeItems(const Object& sheet, const std::vector<ExportItem>& rows) {
     const std::size_t markerRow = rows.size() + 1;
     // As far as the sheet is used: what stood further down goes.
     Table block(std::max(markerRow, lastUsedRow(sheet)), keyColumn);
-    for (std::size_t i = 0; i < rows.size(); ++i) fillRow(block, i + 1, rows[i]);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        fillRow(block, i + 1, rows[i]);
+        // The order that the user has left holds for items that came later too.
+        block.at(i + 1, laterRowColumn) = "";
+    }
     // The marker lengthens the region of the items by one row: rows that a later run adds begin
     // below it.
     block.at(markerRow, laterRowColumn) = static_cast<std::int32_t>(markerRow);

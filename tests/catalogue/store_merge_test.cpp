@@ -83,6 +83,34 @@ TEST_F(StoreMerge, AppendsNewItemsBelowTheMarkerRow) {
     EXPECT_EQ(loaded.list.rows.at(3).laterRow, "4");
     EXPECT_EQ(text("G3"), "3");
     EXPECT_EQ(text("A4"), "Chart 3");
+    run([](catalogue::ExportList& list) { std::swap(list.rows.at(0), list.rows.at(2)); });
+    EXPECT_EQ(LoadedList(test).names(),
+              (Words{"Chart 3@Sales", "Chart 2@Sales", "Chart 1@Sales", "Total@Sales"}));
+}
+
+TEST_F(StoreMerge, KeepsTheOrderOfTheSheetsAlsoWhereTheFirstListWasNotSaved) {
+    book.define("Total", "=Sales!$A$1");
+    book.sheet("Costs").chart("Chart 1");
+    const Words sorted = {"Chart 1@Sales", "Chart 2@Sales", "Total@Sales", "Chart 1@Costs"};
+    EXPECT_EQ(LoadedList(test).names(), sorted);
+    EXPECT_EQ(LoadedList(test).names(), sorted);
+}
+
+TEST_F(StoreMerge, KnowsAChartSheetAgainThatHasBecomeAWorksheet) {
+    run([](catalogue::ExportList& list) {
+        session::ExportItem sheet;
+        sheet.name = session::chartSheetText;
+        sheet.sheet = "Costs";
+        sheet.kind = session::ItemKind::ChartSheet;
+        sheet.checked = true;
+        sheet.caption = "The costs";
+        list.rows.push_back(sheet);
+    });
+    book.sheet("Costs").chart("Chart 1").chart("Chart 2");
+    const LoadedList loaded(test);
+    EXPECT_EQ(loaded.names(),
+              (Words{"Chart 1@Sales", "Chart 2@Sales", "{Chart Sheet}@Costs", "Chart 2@Costs"}));
+    EXPECT_EQ(catalogue::CountExportableRows(test.session, loaded.list), 4);
 }
 
 TEST_F(StoreMerge, IsListedWithoutATraceInTheWorkbook) {
