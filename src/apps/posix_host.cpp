@@ -272,7 +272,7 @@ bool PosixHost::openFile(std::string_view path) {
 }
 
 void PosixHost::messageBox(std::string_view text, std::string_view title) {
-    console_.writeError(std::string(title) + ": " + std::string(text) + "\n");
+    console_.writeError(fmt::format("{}{}{}\n", title, title.empty() ? "" : ": ", text));
 }
 
 }  // namespace apps

@@ -96,9 +96,11 @@ void TerminalProgress::showItem(int item, int total) {
         fmt::format("Exporting item {} of {}  {}%", item, total, item * 100 / std::max(total, 1)));
 }
 
-std::string unhandledFailureReport(const office::Failure& failure) {
-    return fmt::format("Murvane: unhandled failure {} from {}: {}", failure.number(),
-                       failure.source(), failure.description());
+std::string unhandledFailureReport(const std::exception& failure) {
+    const auto* office = dynamic_cast<const office::Failure*>(&failure);
+    if (office == nullptr) return fmt::format("Murvane: {}", failure.what());
+    return fmt::format("Murvane: unhandled failure {} from {}: {}", office->number(),
+                       office->source(), office->description());
 }
 
 }  // namespace apps

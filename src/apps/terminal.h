@@ -83,6 +83,6 @@ private:
 };
 
 /// What is said of a failure that nobody handled and that ends the program.
-[[nodiscard]] std::string unhandledFailureReport(const office::Failure& failure);
+[[nodiscard]] std::string unhandledFailureReport(const std::exception& failure);
 
 }  // namespace apps

@@ -30,8 +30,8 @@ forms::Desktop& FormsRunner::desktop() {
     return parts_->desktop;
 }
 
-void FormsRunner::runWhile(const std::function<bool()>& isOpen) {
-    while (isOpen()) parts_->desktop.waitForEvents();
+void FormsRunner::closeForms() {
+    parts_->desktop.closeForms();
 }
 
 namespace {

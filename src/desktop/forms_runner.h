@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 
 #include "forms/desktop.h"
@@ -18,9 +17,8 @@ public:
 
     [[nodiscard]] forms::Desktop& desktop();
 
-    /// Lets events run while the condition holds, and waits for them without using the processor.
-    /// It is asked after each event. Throws what an event procedure has thrown.
-    void runWhile(const std::function<bool()>& isOpen);
+    /// Unloads all forms as soon as events run. From any thread.
+    void closeForms();
 
 private:
     struct Parts;

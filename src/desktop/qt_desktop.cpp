@@ -99,6 +99,11 @@ void QtDesktop::run(const std::function<void()>& event) {
     sync();
 }
 
+void QtDesktop::closeForms() {
+    QMetaObject::invokeMethod(
+        &context_, [this] { run([this] { unloadAll(); }); }, Qt::QueuedConnection);
+}
+
 void QtDesktop::runLater(LoadedForm& host, std::function<void()> event) {
     postponed_.emplace_back(&host, std::move(event));
     if (!holdsEvents()) QTimer::singleShot(0, &context_, [this] { runPostponed(); });
@@ -161,7 +166,8 @@ bool QtDesktop::showBox(std::string_view text, std::string_view title, bool asks
     box.setPalette(colours);
     box.setFont(fontOf({.sizePt = 9.75}));
     constexpr int iconSide = 40;
-    if (!asks) {
+    // A mere word of success has no title.
+    if (!asks && !title.empty()) {
         box.setIconPixmap(QIcon(QStringLiteral(":/icons/warning.svg"))
                               .pixmap(QSize(iconSide, iconSide), box.devicePixelRatioF()));
     }

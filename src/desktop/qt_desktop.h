@@ -36,6 +36,8 @@ public:
     [[nodiscard]] std::optional<std::string> chooseFolder(std::string_view title,
                                                           std::string_view start) override;
     void showWorking(bool works) override;
+    /// Unloads all forms as soon as events run. From any thread.
+    void closeForms();
 
     /// Answers message boxes instead of the user. The result counts where the box asks: true for
     /// Yes.

@@ -68,10 +68,8 @@ int runOrReport(int count, char** words) {
     if (office::trim(commandLine).empty()) return session::commandDone;
     try {
         return runCommand(count, words, commandLine, console);
-    } catch (const office::Failure& failure) {
+    } catch (const std::exception& failure) {
         console.writeError(apps::unhandledFailureReport(failure) + "\n");
-    } catch (const std::exception& error) {
-        console.writeError(fmt::format("Murvane: {}\n", error.what()));
     }
     return unhandled;
 }

@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "apps/interruption.h"
 #include "apps/selection_commands.h"
 #include "apps/terminal.h"
 #include "apps/this_machine.h"
@@ -171,7 +172,7 @@ int pasteSelection(const DesktopSource& desktop, const std::string& commandLine,
     session::OfficeSession session(*suite, host, notices, progress);
     try {
         return session::Main(session, commandLine, selectionHandlers(session));
-    } catch (const office::Failure& failure) {
+    } catch (const std::exception& failure) {
         desktop().messageBox(unhandledFailureReport(failure), "Murvane");
         throw;
     }
@@ -187,9 +188,13 @@ int runWithForms(forms::Desktop& desktop, const std::string& commandLine, Consol
     Windows windows(desktop, session);
     try {
         return session::Main(session, commandLine, windows.handlers());
-    } catch (const office::Failure& failure) {
+    } catch (const std::exception& failure) {
         // The main form keeps its list in the workbook, unless that has gone with the suite.
-        if (dynamic_cast<const office::SuiteLost*>(&failure) == nullptr) desktop.unloadAll();
+        try {
+            desktop.unloadAll();
+        } catch (const office::SuiteLost&) {
+            session.ExcelApp.release();
+        }
         // Whoever starts the program with a click sees no terminal.
         desktop.messageBox(unhandledFailureReport(failure), "Murvane");
         throw;
@@ -205,8 +210,14 @@ bool canShowWindows() {
 int runInWindows(int count, char** words, const std::string& commandLine, Console& console,
                  const SuiteSource& suites) {
     std::optional<desktop::FormsRunner> runner;
+    std::optional<Interruption> interruption;
     const auto desktop = [&]() -> forms::Desktop& {
-        if (!runner) runner.emplace(count, words);
+        if (!runner) {
+            interruption.emplace();
+            runner.emplace(count, words);
+            // The main form keeps its list in the workbook when it is unloaded.
+            interruption->onceHappened([&] { runner->closeForms(); });
+        }
         return runner->desktop();
     };
     return runCommandOn(desktop, commandLine, console, suites);
