@@ -151,7 +151,7 @@ public:
     explicit HtmlJob(const JobScene& scene) : scene_(scene) {}
 
     std::int32_t exportTo(const std::string& neighbour) override {
-        /// Of a page's width in pixels, a hundredth.
+        // Of a page's width in pixels, a hundredth.
         constexpr double percentPx = 10;
         const Options& options = scene_.options;
         destinations::RowBatch batch{scene_.session, scene_.list, scene_.onFailedItem};

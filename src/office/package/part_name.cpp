@@ -160,6 +160,10 @@ std::string targetOf(std::string_view source, std::string_view part) {
     return target.find(':') == std::string::npos ? target : withEscapes(part);
 }
 
+std::string folderOf(std::string_view part) {
+    return std::string(part.substr(0, part.rfind('/')));
+}
+
 std::string extensionOf(std::string_view part) {
     const std::string_view file = part.substr(part.rfind('/') + 1);
     const auto dot = file.rfind('.');

@@ -23,6 +23,9 @@ namespace office::package {
 /// The target that leads from one part, or from the package ("/"), to another.
 [[nodiscard]] std::string targetOf(std::string_view source, std::string_view part);
 
+/// The folder of a part, without a slash at its end.
+[[nodiscard]] std::string folderOf(std::string_view part);
+
 /// In small letters and without the dot; empty if there is none.
 [[nodiscard]] std::string extensionOf(std::string_view part);
 

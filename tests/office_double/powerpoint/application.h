@@ -83,9 +83,9 @@ public:
     model::DeckPtr load(const std::string& file, bool withWindow) override;
 
 private:
-    package::FileDeckPtr makeDeck(package::Package content, const std::string& path,
-                                  const std::string& name,
-                                  const package::FileRulesPtr& rules) override {
+    package::FileDeckPtr make(package::Package content, const std::string& path,
+                              const std::string& name,
+                              const package::FileRulesPtr& rules) override {
         return std::make_shared<Presentation>(state_, std::move(content), path, name, rules);
     }
 

@@ -72,9 +72,9 @@ public:
     }
 
 private:
-    package::FileDocumentPtr makeDocument(package::Package content, const std::string& path,
-                                          const std::string& name,
-                                          const package::FileRulesPtr& rules) override {
+    package::FileDocumentPtr make(package::Package content, const std::string& path,
+                                  const std::string& name,
+                                  const package::FileRulesPtr& rules) override {
         return std::make_shared<Document>(state_, std::move(content), path, name, rules);
     }
 

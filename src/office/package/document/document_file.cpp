@@ -5,8 +5,8 @@
 
 #include "office/model/word/objects.h"
 #include "office/package/document/file_documents.h"
+#include "office/package/document/template.h"
 #include "office/package/office_file.h"
-#include "office/package/presentation/file_decks.h"
 
 namespace office::package {
 
@@ -24,6 +24,10 @@ FileFacts documentFactsOf(const std::filesystem::path& file) {
     document->selectEnd();
     document->insertCaption({"Figure", ""});
     return facts;
+}
+
+word::TextDocumentPtr FileDocuments::create(bool /*withWindow*/) {
+    return addNew(emptyDocument(), "Document");
 }
 
 Object wordOfFiles(FileRules rules) {

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "office/model/word/text_document.h"
+#include "office/package/part_name.h"
 #include "office/text.h"
 
 namespace office::package {
@@ -63,7 +64,7 @@ pugi::xml_node DocumentStyles::root() {
         if (!isNamed(xml_->root(), ns::word, "styles"))
             throw PackageError(Fault::Damaged, "its list of styles is none");
     } else {
-        part_ = package_.freeName(document_.substr(0, document_.rfind('/')) + "/styles", ".xml");
+        part_ = package_.freeName(folderOf(document_) + "/styles", ".xml");
         package_.add(part_, stylesType, emptyStyles);
         relationships.add("styles", part_);
         xml_ = std::make_unique<Xml>(emptyStyles, part_);

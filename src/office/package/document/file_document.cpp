@@ -14,6 +14,7 @@
 #include "office/package/document/pastes.h"
 #include "office/package/document/reading_order.h"
 #include "office/package/office_file.h"
+#include "office/package/part_name.h"
 #include "office/text.h"
 
 namespace office::package {
@@ -37,10 +38,6 @@ bool isBlock(pugi::xml_node element) {
                        [&](std::string_view name) { return isNamed(element, ns::word, name); });
 }
 
-std::string folderOfPart(const std::string& part) {
-    return part.substr(0, part.rfind('/'));
-}
-
 }  // namespace
 
 std::string documentPartOf(Package& package) {
@@ -57,7 +54,7 @@ FileDocument::FileDocument(Package package, std::string path, std::string name, 
       body_(childNamed(xml_.root(), ns::word, "body")),
       styles_(package_, main_),
       captions_(body_),
-      charts_(package_, folderOfPart(main_)) {
+      charts_(package_, folderOf(main_)) {
     if (!isNamed(xml_.root(), ns::word, "document"))
         throw PackageError(Fault::NotAPackage, "it is no document of the usual kind");
     if (!body_) throw PackageError(Fault::Damaged, "it has no text");
@@ -67,7 +64,7 @@ FileDocument::FileDocument(Package package, std::string path, std::string name, 
 }
 
 std::string FileDocument::stem(std::string_view name) const {
-    return fmt::format("{}/{}", folderOfPart(main_), name);
+    return fmt::format("{}/{}", folderOf(main_), name);
 }
 
 std::string FileDocument::title() {

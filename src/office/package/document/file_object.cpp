@@ -53,23 +53,19 @@ word::ObjectShadow shadowIn(pugi::xml_node looks) {
             .blur = found.attribute("blurRad").as_double() / emuPerPoint};
 }
 
-/// Effects that stand in the order of a graph are left to their maker: a list takes their place.
 void setShadowIn(pugi::xml_node looks, const word::ObjectShadow& shadow) {
-    looks.remove_child(childNamed(looks, ns::drawing, "effectDag"));
-    auto effects = childInOrder(looks, ns::drawing, "effectLst", looksOrder);
-    effects.remove_child(childNamed(effects, ns::drawing, "outerShdw"));
-    if (!shadow.isShown) return;
+    const auto before = effectFor(looks, "outerShdw");
+    auto effects = before.parent();
     const long long share = std::llround(shadow.size * perPercentOfSize);
-    insertMarkup(
-        effects,
-        fmt::format(R"(<a:outerShdw blurRad="{}" dist="{}" dir="{}" sx="{}" sy="{}" )"
-                    R"(algn="tl" rotWithShape="0">{}</a:outerShdw>)",
-                    emuOf(shadow.blur), emuOf(fallPt), std::llround(fallDegrees * perDegreeOfFall),
-                    share, share, shadowColour),
-        effects.find_child([](const pugi::xml_node& effect) {
-            const std::string_view name = localName(effect);
-            return name == "prstShdw" || name == "reflection" || name == "softEdge";
-        }));
+    if (shadow.isShown)
+        insertMarkup(
+            effects,
+            fmt::format(R"(<a:outerShdw blurRad="{}" dist="{}" dir="{}" sx="{}" sy="{}" )"
+                        R"(algn="tl" rotWithShape="0">{}</a:outerShdw>)",
+                        emuOf(shadow.blur), emuOf(fallPt),
+                        std::llround(fallDegrees * perDegreeOfFall), share, share, shadowColour),
+            before);
+    effects.remove_child(before);
 }
 
 }  // namespace

@@ -43,26 +43,13 @@ long long twips(double points) {
     return std::llround(points * twipsPerPoint);
 }
 
-/// Lengths one after another, rounded so that their sum is the rounded sum.
-std::vector<long long> twipsOfAll(const std::vector<double>& lengthsPt, double scale) {
-    std::vector<long long> all;
-    double endPt = 0;
-    long long end = 0;
-    for (const double length : lengthsPt) {
-        endPt += length * scale;
-        all.push_back(twips(endPt) - end);
-        end += all.back();
-    }
-    return all;
-}
-
 class WordTableWriter {
 public:
     WordTableWriter(const TableLook& look, double scale, const MeasureText& measure)
         : look_(look),
           scale_(scale),
           measure_(measure),
-          widths_(twipsOfAll(look.columnWidthsPt, scale)) {}
+          widths_(roundedLengths(look.columnWidthsPt, scale * twipsPerPoint)) {}
 
     void write(pugi::xml_node table) {
         long long all = 0;
@@ -77,7 +64,7 @@ public:
         auto grid = add(table, "w:tblGrid");
         for (const long long width : widths_)
             add(grid, "w:gridCol").append_attribute("w:w").set_value(width);
-        const auto heights = twipsOfAll(look_.rowHeightsPt, scale_);
+        const auto heights = roundedLengths(look_.rowHeightsPt, scale_ * twipsPerPoint);
         const auto origins = cellOrigins(look_);
         for (std::size_t row = 0; row < heights.size(); ++row) {
             auto element = add(table, "w:tr");

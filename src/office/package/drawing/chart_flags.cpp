@@ -24,10 +24,6 @@ struct Flag {
 constexpr std::string_view chartOrder =
     "title autoTitleDeleted pivotFmts view3D floor sideWall backWall plotArea legend plotVisOnly "
     "dispBlanksAs showDLblsOverMax";
-constexpr std::string_view axisOrder =
-    "axId scaling delete axPos majorGridlines minorGridlines title numFmt majorTickMark "
-    "minorTickMark tickLblPos spPr txPr crossAx crosses crossesAt auto lblAlgn lblOffset "
-    "tickLblSkip tickMarkSkip noMultiLvlLbl";
 constexpr std::string_view groupOrder =
     "barDir grouping ofPieType radarStyle scatterStyle wireframe varyColors ser dLbls dropLines "
     "hiLowLines upDownBars marker smooth bubble3D bubbleScale showNegBubbles";

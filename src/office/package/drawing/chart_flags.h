@@ -22,4 +22,10 @@ inline constexpr std::string_view chartSpaceOrder =
     "date1904 lang roundedCorners AlternateContent style clrMapOvr pivotSource protection chart "
     "spPr txPr externalData printSettings userShapes extLst";
 
+/// Those of an axis.
+inline constexpr std::string_view axisOrder =
+    "axId scaling delete axPos majorGridlines minorGridlines title numFmt majorTickMark "
+    "minorTickMark tickLblPos spPr txPr crossAx crosses crossesAt auto lblAlgn lblOffset "
+    "tickLblSkip tickMarkSkip noMultiLvlLbl";
+
 }  // namespace office::package

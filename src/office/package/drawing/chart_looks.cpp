@@ -17,12 +17,9 @@ namespace {
 /// An element whose line is drawn whether or not it says how.
 struct Lined {
     std::string_view name;
-    /// The schema's order of its children up to their looks.
+    /// The schema's order of its children at least up to their looks.
     std::string_view order;
 };
-constexpr std::string_view axisOrder =
-    "axId scaling delete axPos majorGridlines minorGridlines title numFmt majorTickMark "
-    "minorTickMark tickLblPos spPr";
 constexpr std::string_view alone = "spPr";
 constexpr std::array<Lined, 12> lined = {{
     {"catAx", axisOrder},

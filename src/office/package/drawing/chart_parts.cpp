@@ -194,14 +194,11 @@ void ChartParts::overrideTheme(const Origin& origin, const std::string& part, co
 
 /// One copy for all charts of a workbook, however many there are.
 void ChartParts::addCopy(const WorkbookFile& book, std::string bytes, Origin& origin) {
-    const bool hasMacros = book.hasMacros();
-    const char* const stem = hasMacros ? "/embeddings/Microsoft_Excel_Macro-Enabled_Worksheet"
-                                       : "/embeddings/Microsoft_Excel_Worksheet";
-    origin.copy = package_.addMedia(
-        folder_ + stem, hasMacros ? ".xlsm" : ".xlsx",
-        hasMacros ? "application/vnd.ms-excel.sheet.macroEnabled.12"
-                  : "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet",
-        std::move(bytes));
+    const char* const stem = book.hasMacros()
+                                 ? "/embeddings/Microsoft_Excel_Macro-Enabled_Worksheet"
+                                 : "/embeddings/Microsoft_Excel_Worksheet";
+    const WorkbookFormat& format = workbookFormat(book.hasMacros());
+    origin.copy = package_.addMedia(folder_ + stem, format.ending, format.type, std::move(bytes));
 }
 
 }  // namespace office::package

@@ -27,6 +27,15 @@ const std::vector<std::string_view> looksOrder = {"xfrm",      "custGeom", "prst
                                                   "grpFill",   "ln",       "effectLst", "effectDag",
                                                   "scene3d",   "sp3d",     "extLst"};
 
+pugi::xml_node effectFor(pugi::xml_node looks, std::string_view name) {
+    static const std::vector<std::string_view> order = {"blur",       "fillOverlay", "glow",
+                                                        "innerShdw",  "outerShdw",   "prstShdw",
+                                                        "reflection", "softEdge"};
+    looks.remove_child(childNamed(looks, ns::drawing, "effectDag"));
+    return childInOrder(childInOrder(looks, ns::drawing, "effectLst", looksOrder), ns::drawing,
+                        name, order);
+}
+
 std::string hexColour(std::int32_t colour) {
     return fmt::format("{:06X}", swapped(colour));
 }

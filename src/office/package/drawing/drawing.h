@@ -15,6 +15,9 @@ inline constexpr double emuPerPoint = 12700;
 [[nodiscard]] long long emuOf(double points);
 /// The schema's order of what says how a shape looks.
 extern const std::vector<std::string_view> looksOrder;
+/// An effect of what looks as `looks` say, made in its place. Effects in the order of a graph are
+/// left to their maker: a list takes their place.
+[[nodiscard]] pugi::xml_node effectFor(pugi::xml_node looks, std::string_view name);
 /// A colour (0xBBGGRR) as the files write it: "RRGGBB".
 [[nodiscard]] std::string hexColour(std::int32_t colour);
 /// The plain colour that an element holds, and its markup; 0xBBGGRR.

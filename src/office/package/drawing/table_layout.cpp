@@ -1,6 +1,7 @@
 #include "office/package/drawing/table_layout.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace office::package {
@@ -42,6 +43,18 @@ std::vector<CellOrigin> cellOrigins(const TableLook& look) {
         }
     }
     return origins;
+}
+
+std::vector<long long> roundedLengths(const std::vector<double>& lengthsPt, double unitsPerPt) {
+    std::vector<long long> all;
+    double endPt = 0;
+    long long end = 0;
+    for (const double length : lengthsPt) {
+        endPt += length;
+        all.push_back(std::llround(endPt * unitsPerPt) - end);
+        end += all.back();
+    }
+    return all;
 }
 
 TextFit textFit(const TableLook& look, const CellOrigin& origin, const MeasureText& measure) {

@@ -20,6 +20,10 @@ struct CellOrigin {
 /// Row by row, one for each place.
 [[nodiscard]] std::vector<CellOrigin> cellOrigins(const TableLook& look);
 
+/// Lengths one after another in another unit, rounded so that their sum is the rounded sum.
+[[nodiscard]] std::vector<long long> roundedLengths(const std::vector<double>& lengthsPt,
+                                                    double unitsPerPt);
+
 /// How a text stands in its cell, in points of the sheet.
 struct TextFit {
     /// Between the cell's edges and its text: as little as a sheet has.

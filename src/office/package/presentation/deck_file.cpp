@@ -6,6 +6,7 @@
 #include "office/model/powerpoint/objects.h"
 #include "office/package/office_file.h"
 #include "office/package/presentation/file_decks.h"
+#include "office/package/presentation/template.h"
 
 namespace office::package {
 
@@ -21,6 +22,10 @@ FileFacts factsOf(const std::filesystem::path& file) {
         std::make_shared<FileDeck>(std::move(package), "", "", std::make_shared<FileRules>());
     static_cast<void>(deck->addSlide(1, model::layout::titleOnly));
     return facts;
+}
+
+model::DeckPtr FileDecks::create(bool /*withWindow*/) {
+    return addNew(emptyDeck(), "Presentation");
 }
 
 Object powerPointOfFiles(FileRules rules) {

@@ -46,10 +46,6 @@ constexpr const char* emptySlide =
     R"(<p:nvGrpSpPr><p:cNvPr id="1" name=""/><p:cNvGrpSpPr/><p:nvPr/></p:nvGrpSpPr><p:grpSpPr/>)"
     R"(</p:spTree></p:cSld><p:clrMapOvr><a:masterClrMapping/></p:clrMapOvr></p:sld>)";
 
-std::string folderOf(const std::string& part) {
-    return part.substr(0, part.rfind('/'));
-}
-
 /// The sections of a presentation, each a list of slides by their numbers.
 std::vector<pugi::xml_node> sectionsIn(pugi::xml_node presentation) {
     std::vector<pugi::xml_node> lists;
@@ -75,7 +71,8 @@ void joinSection(const std::vector<pugi::xml_node>& sections, const std::string&
     auto list = sections.back();
     pugi::xml_node next;
     for (const auto& section : sections) {
-        if (const auto found = entryOf(section, before); found && !before.empty()) {
+        if (before.empty()) break;
+        if (const auto found = entryOf(section, before)) {
             list = section;
             next = found;
         }
@@ -192,23 +189,27 @@ model::DeckSlidePtr FileDeck::addSlide(std::int32_t place, std::int32_t layout) 
 }
 
 /// Above all that are taken, as long as there are numbers; those of masters lie higher.
-std::string FileDeck::freeSlideId() const {
+std::string FileDeck::freeSlideId() {
     constexpr unsigned lowest = 256;
     constexpr unsigned end = 2147483648U;
-    std::set<unsigned> taken = {lowest - 1};
+    std::set<unsigned>& taken = slideIds_;
     const auto add = [&](pugi::xml_node list) {
         for (const pugi::xml_node entry : list.children()) {
             const unsigned id = entry.attribute("id").as_uint();
             if (id < end) taken.insert(id);
         }
     };
-    add(childNamed(presentation_.root(), ns::presentation, "sldIdLst"));
-    // A section may still name slides that have gone.
-    for (const auto& section : sectionsIn(presentation_.root())) add(section);
+    if (taken.empty()) {
+        taken.insert(lowest - 1);
+        add(childNamed(presentation_.root(), ns::presentation, "sldIdLst"));
+        // A section may still name slides that have gone.
+        for (const auto& section : sectionsIn(presentation_.root())) add(section);
+    }
     unsigned id = std::max(lowest, *taken.rbegin() + 1);
     if (id >= end) {
         for (id = lowest; taken.contains(id);) ++id;
     }
+    taken.insert(id);
     return std::to_string(id);
 }
 

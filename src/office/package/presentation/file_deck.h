@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -69,7 +70,7 @@ private:
 
     void readSlides();
     void listSlide(std::int32_t place, const std::string& relationshipId, const std::string& id);
-    [[nodiscard]] std::string freeSlideId() const;
+    [[nodiscard]] std::string freeSlideId();
     [[nodiscard]] std::string neighbourLayout();
     void writeCount();
     void writeKind(bool keepsMacros);
@@ -83,6 +84,8 @@ private:
     DeckLayouts layouts_;
     ChartParts charts_;
     std::vector<std::shared_ptr<FileSlide>> slides_;
+    /// All numbers of slides that are taken or were; empty until one is asked for.
+    std::set<unsigned> slideIds_;
     std::int32_t viewType_ = 9;
     std::weak_ptr<FileSlide> inView_;
     std::weak_ptr<model::DeckShape> selected_;

@@ -16,9 +16,6 @@ namespace office::package {
 
 namespace {
 
-const std::vector<std::string_view> effectOrder = {
-    "blur", "fillOverlay", "glow", "innerShdw", "outerShdw", "prstShdw", "reflection", "softEdge"};
-
 struct OutlineName {
     model::Outline outline;
     const char* name;
@@ -132,7 +129,6 @@ pugi::xml_node FileShape::effect(std::string_view name) {
     return childNamed(childNamed(effectsHolder(), ns::drawing, "effectLst"), ns::drawing, name);
 }
 
-/// Effects that stand in the order of a graph are left to their maker: a list takes their place.
 pugi::xml_node FileShape::madeEffect(std::string_view member, std::string_view name) {
     auto drawn = effectsHolder();
     // The ground of a chart takes a shadow alone.
@@ -140,9 +136,7 @@ pugi::xml_node FileShape::madeEffect(std::string_view member, std::string_view n
     if (!drawn) drawn = looks(member);
     changed();
     isChartChanged_ = chart_ != nullptr;
-    drawn.remove_child(childNamed(drawn, ns::drawing, "effectDag"));
-    return childInOrder(childInOrder(drawn, ns::drawing, "effectLst", looksOrder), ns::drawing,
-                        name, effectOrder);
+    return effectFor(drawn, name);
 }
 
 void FileShape::dropEffect(std::string_view name) {

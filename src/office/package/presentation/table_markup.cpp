@@ -29,19 +29,6 @@ void setRounded(pugi::xml_node node, const char* name, double value) {
     node.append_attribute(name).set_value(std::llround(value));
 }
 
-/// Lengths one after another, rounded so that their sum is the rounded sum.
-std::vector<long long> emuOfAll(const std::vector<double>& lengthsPt, double scale) {
-    std::vector<long long> all;
-    double endPt = 0;
-    long long end = 0;
-    for (const double length : lengthsPt) {
-        endPt += length * scale;
-        all.push_back(emuOf(endPt) - end);
-        end += all.back();
-    }
-    return all;
-}
-
 class TableWriter {
 public:
     TableWriter(const TableLook& look, double scale, const MeasureText& measure)
@@ -52,9 +39,9 @@ public:
     void write(pugi::xml_node table) {
         table.append_child("a:tblPr").append_child("a:tableStyleId").text().set(plainStyle);
         auto grid = table.append_child("a:tblGrid");
-        for (const long long width : emuOfAll(look_.columnWidthsPt, scale_))
+        for (const long long width : roundedLengths(look_.columnWidthsPt, scale_ * emuPerPoint))
             grid.append_child("a:gridCol").append_attribute("w").set_value(width);
-        const auto heights = emuOfAll(look_.rowHeightsPt, scale_);
+        const auto heights = roundedLengths(look_.rowHeightsPt, scale_ * emuPerPoint);
         const std::vector<CellOrigin> origins = cellOrigins(look_);
         for (std::size_t row = 0; row < heights.size(); ++row) {
             auto element = table.append_child("a:tr");

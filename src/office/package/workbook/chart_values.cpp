@@ -20,7 +20,7 @@ std::string named(pugi::xml_node like, std::string_view name) {
     return std::string(other.substr(0, other.find(':') + 1)) + std::string(name);
 }
 
-pugi::xml_node chartChild(pugi::xml_node parent, std::string_view name) {
+pugi::xml_node childOf(pugi::xml_node parent, std::string_view name) {
     return childNamed(parent, ns::chart, name);
 }
 
@@ -30,7 +30,7 @@ std::map<unsigned, std::string> joinedPoints(pugi::xml_node levels) {
     for (const pugi::xml_node level : childrenNamed(levels, ns::chart, "lvl")) {
         std::map<unsigned, std::string> own;
         for (const pugi::xml_node point : childrenNamed(level, ns::chart, "pt"))
-            own[point.attribute("idx").as_uint()] = chartChild(point, "v").text().get();
+            own[point.attribute("idx").as_uint()] = childOf(point, "v").text().get();
         if (texts.empty()) {
             texts = own;
             continue;
@@ -52,7 +52,7 @@ void putPoints(pugi::xml_node reference, pugi::xml_node cache, const char* name)
         copyInto(cache, literal);
     } else {
         const auto texts = joinedPoints(cache);
-        literal.append_copy(chartChild(cache, "ptCount"));
+        literal.append_copy(childOf(cache, "ptCount"));
         for (const auto& [index, text] : texts) {
             auto point = literal.append_child(named(reference, "pt").c_str());
             point.append_attribute("idx").set_value(index);
@@ -64,7 +64,7 @@ void putPoints(pugi::xml_node reference, pugi::xml_node cache, const char* name)
 
 /// A name of a series becomes its text; a title gets it as its own.
 void putText(pugi::xml_node reference, pugi::xml_node cache) {
-    const std::string text = chartChild(chartChild(cache, "pt"), "v").text().get();
+    const std::string text = childOf(childOf(cache, "pt"), "v").text().get();
     pugi::xml_node holder = reference.parent();
     if (isNamed(holder.parent(), ns::chart, "ser")) {
         holder.insert_child_before(named(reference, "v").c_str(), reference)
@@ -82,13 +82,13 @@ void putText(pugi::xml_node reference, pugi::xml_node cache) {
 void putValues(pugi::xml_node reference) {
     const std::string_view kind = localName(reference);
     if (kind == "numRef") {
-        putPoints(reference, chartChild(reference, "numCache"), "numLit");
+        putPoints(reference, childOf(reference, "numCache"), "numLit");
     } else if (kind == "multiLvlStrRef") {
-        putPoints(reference, chartChild(reference, "multiLvlStrCache"), "strLit");
+        putPoints(reference, childOf(reference, "multiLvlStrCache"), "strLit");
     } else if (localName(reference.parent()) == "tx") {
-        putText(reference, chartChild(reference, "strCache"));
+        putText(reference, childOf(reference, "strCache"));
     } else {
-        putPoints(reference, chartChild(reference, "strCache"), "strLit");
+        putPoints(reference, childOf(reference, "strCache"), "strLit");
     }
 }
 
@@ -140,7 +140,7 @@ void keepChartValues(const Xml& chart, const FormulaReach& reach) {
         if (leaving.contains(reference)) putValues(reference);
     });
     for (const char* gone : {"pivotSource", "externalData"}) {
-        if (const auto found = chartChild(chart.root(), gone)) chart.root().remove_child(found);
+        if (const auto found = childOf(chart.root(), gone)) chart.root().remove_child(found);
     }
 }
 

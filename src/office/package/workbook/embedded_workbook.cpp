@@ -16,13 +16,6 @@ namespace office::package {
 
 namespace {
 
-constexpr const char* plainMain =
-    "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml";
-constexpr const char* macroMain = "application/vnd.ms-excel.sheet.macroEnabled.main+xml";
-constexpr const char* plainType =
-    "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet";
-constexpr const char* macroType = "application/vnd.ms-excel.sheet.macroEnabled.12";
-
 /// The schema's order in a workbook, as far as something is put in.
 const std::vector<std::string_view> workbookOrder = {"fileVersion",    "fileSharing",
                                                      "workbookPr",     "workbookProtection",
@@ -123,6 +116,12 @@ void dropSignatures(Package& workbook) {
     workbook.removeWithTargets(origin);
 }
 
+/// A template would be opened as a new file of its own, and the macros of a sheet alone stay
+/// behind.
+const WorkbookFormat& formatOfCopy(const WorkbookFile& workbook, bool sheetAlone) {
+    return workbookFormat(workbook.hasMacros() && !sheetAlone);
+}
+
 /// A copy in which one sheet is selected, or left alone.
 std::string copyOnSheet(const WorkbookFile& workbook, const WorkbookSheet& sheet, bool sheetAlone) {
     const std::string file = workbook.bytes();
@@ -134,9 +133,7 @@ std::string copyOnSheet(const WorkbookFile& workbook, const WorkbookSheet& sheet
         const bool isShown = &one == &sheet;
         if (isShown || mayBeSelected(copy, one.part)) selectSheet(copy, one.part, isShown);
     }
-    // A template would be opened as a new file of its own.
-    const bool hasMacros = workbook.hasMacros() && !sheetAlone;
-    copy.setContentType(workbook.mainPart(), hasMacros ? macroMain : plainMain);
+    copy.setContentType(workbook.mainPart(), formatOfCopy(workbook, sheetAlone).mainType);
     return copy.bytes();
 }
 
@@ -157,11 +154,7 @@ EmbeddedWorkbook embeddedWorkbook(WorkbookFile& workbook, const CopySource& sour
     const WorkbookSheet& sheet = *workbook.sheet(source.sheet);
     Package copy = Package::fromBytes(rememberedCopy(workbook, sheet, sheetAlone), carried());
     show(copy, workbook.mainPart(), sheet, shownCells(workbook, copy, sheet, source));
-    const bool hasMacros = workbook.hasMacros() && !sheetAlone;
-    return {.bytes = copy.bytes(),
-            .ending = hasMacros ? ".xlsm" : ".xlsx",
-            .contentType = hasMacros ? macroType : plainType,
-            .programId = hasMacros ? macroWorkbook : plainWorkbook};
+    return {copy.bytes(), formatOfCopy(workbook, sheetAlone)};
 }
 
 }  // namespace office::package

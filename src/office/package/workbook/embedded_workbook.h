@@ -7,16 +7,10 @@
 
 namespace office::package {
 
-/// The names by which the program is found that opens a workbook.
-inline constexpr const char* plainWorkbook = "Excel.Sheet.12";
-inline constexpr const char* macroWorkbook = "Excel.SheetMacroEnabled.12";
-
 /// A workbook as it goes into a presentation behind an object.
 struct EmbeddedWorkbook {
     std::string bytes;
-    std::string ending;
-    std::string contentType;
-    std::string programId;
+    WorkbookFormat format;
 };
 
 /// A copy of a workbook that shows what was copied of it: its sheet is the active one, and its

@@ -61,9 +61,9 @@ ObjectSource embedWorkbook(Package& package, const std::string& holder, const st
     const WorkbookFilePtr workbook = rules.workbooks->at(source.file);
     EmbeddedWorkbook made = embeddedWorkbook(*workbook, source, rules.embedsSheetAlone);
     // A part for each object, though some hold the same: they are edited each by itself.
-    const std::string part = package.freeName(stem, made.ending);
-    package.add(part, made.contentType, std::move(made.bytes), Storage::Stored);
-    return {package.relationshipsOf(holder).add("package", part), made.programId};
+    const std::string part = package.freeName(stem, made.format.ending);
+    package.add(part, made.format.type, std::move(made.bytes), Storage::Stored);
+    return {package.relationshipsOf(holder).add("package", part), made.format.programId};
 }
 
 ObjectSource linkCells(Package& package, const std::string& holder, const CopySource& source,
@@ -71,7 +71,7 @@ ObjectSource linkCells(Package& package, const std::string& holder, const CopySo
     const bool hasMacros = rules.workbooks->at(source.file)->hasMacros();
     Relationships& relationships = package.relationshipsOf(holder);
     return {relationships.addExternal("oleObject", addressOfCells(rules, source)),
-            hasMacros ? macroWorkbook : plainWorkbook};
+            workbookFormat(hasMacros).programId};
 }
 
 }  // namespace office::package

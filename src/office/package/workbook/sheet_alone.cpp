@@ -198,7 +198,7 @@ private:
         return gone;
     }
 
-    bool isKept(const std::string& part, const Relationship& one) {
+    bool mayStay(const std::string& part, const Relationship& one) {
         const std::string_view kind = kindOf(one);
         if (!keptRelationships.contains(kind)) return false;
         const auto target = [&] {
@@ -224,7 +224,7 @@ private:
             if (!kept_.insert(partKey(part)).second) continue;
             if (kind != "workbook")
                 reduce(part, kind, dropRelationships(part, [&, &source = part](const auto& one) {
-                           return isKept(source, one);
+                           return mayStay(source, one);
                        }));
             const Relationships& relationships = workbook_.relationshipsOf(part);
             for (const Relationship& one : relationships.all()) {

@@ -23,6 +23,13 @@ constexpr std::string_view extendedChart =
     "http://schemas.microsoft.com/office/drawing/2014/chartex";
 constexpr std::uintmax_t mostBytes = 512ULL << 20;
 
+constexpr WorkbookFormat plainFormat = {
+    ".xlsx", "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml",
+    "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet", "Excel.Sheet.12"};
+constexpr WorkbookFormat macroFormat = {
+    ".xlsm", "application/vnd.ms-excel.sheet.macroEnabled.main+xml",
+    "application/vnd.ms-excel.sheet.macroEnabled.12", "Excel.SheetMacroEnabled.12"};
+
 /// What a package about a workbook says that it is.
 struct MainType {
     std::string_view type;
@@ -30,8 +37,8 @@ struct MainType {
     bool isTemplate;
 };
 constexpr std::array<MainType, 4> mainTypes = {{
-    {"application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml", false, false},
-    {"application/vnd.ms-excel.sheet.macroEnabled.main+xml", true, false},
+    {plainFormat.mainType, false, false},
+    {macroFormat.mainType, true, false},
     {"application/vnd.openxmlformats-officedocument.spreadsheetml.template.main+xml", false, true},
     {"application/vnd.ms-excel.template.macroEnabled.main+xml", true, true},
 }};
@@ -133,6 +140,10 @@ std::string addressOf(const std::filesystem::path& path) {
 }
 
 }  // namespace
+
+const WorkbookFormat& workbookFormat(bool hasMacros) {
+    return hasMacros ? macroFormat : plainFormat;
+}
 
 WorkbookFile::WorkbookFile(std::filesystem::path file)
     : path_(std::move(file)),

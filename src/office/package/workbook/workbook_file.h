@@ -16,6 +16,17 @@
 
 namespace office::package {
 
+/// What a workbook's file is by its ending, with macros or without.
+struct WorkbookFormat {
+    const char* ending;
+    /// Of the part with the list of the sheets, and of the file where it is a part itself.
+    const char* mainType;
+    const char* type;
+    /// By which the program is found that opens it.
+    const char* programId;
+};
+[[nodiscard]] const WorkbookFormat& workbookFormat(bool hasMacros);
+
 struct WorkbookSheet {
     enum class Kind { Worksheet, ChartSheet, Other };
     enum class State { Visible, Hidden, VeryHidden };
