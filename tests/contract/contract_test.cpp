@@ -5,6 +5,7 @@
 namespace contract {
 
 std::unique_ptr<Environment> ContractTest::environment_;
+Object ExcelContract::kept_;
 
 void ContractTest::SetUpTestSuite() {
     environment_ = makeEnvironment();
@@ -17,20 +18,34 @@ void ContractTest::TearDownTestSuite() {
 void ExcelContract::SetUp() {
     excel = suite().attach("Excel.Application");
     ASSERT_FALSE(excel.isNothing());
-    book = open("contract-book.xlsx");
+    if (kept_.isNothing()) kept_ = open("contract-book.xlsx", false);
+    book = kept_;
+    book.get("Sheets").get("Item", 1).call("Activate");
 }
 
 void ExcelContract::TearDown() {
+    bool untouched = false;
+    failureOf([&] { untouched = book.get("Saved").toBool(); });
+    if (!untouched) {
+        opened_.push_back(kept_);
+        kept_ = {};
+    }
     for (const Object& document : opened_) {
         failureOf([&] { document.call("Close", arg("SaveChanges", false)); });
     }
 }
 
-Object ExcelContract::open(std::string_view document) {
+void ExcelContract::TearDownTestSuite() {
+    if (!kept_.isNothing()) failureOf([] { kept_.call("Close", arg("SaveChanges", false)); });
+    kept_ = {};
+    ContractTest::TearDownTestSuite();
+}
+
+Object ExcelContract::open(std::string_view document, bool closes) {
     const Object opened = excel.get("Workbooks")
                               .call("Open", arg("FileName", environment().document(document)))
                               .toObject();
-    opened_.push_back(opened);
+    if (closes) opened_.push_back(opened);
     return opened;
 }
 

@@ -10,9 +10,9 @@ import rich_decks
 from program import SAMPLES, Package, ProgramTest, slides_of
 from rich_decks import HEAD, PRESENTATION
 
-BOOK = SAMPLES / "Harbour Logistics 2026.xlsx"
+BOOK = SAMPLES / "few-charts.xlsx"
 ENCRYPTED = SAMPLES / "bad-inputs" / "password.xlsx"
-ITEMS = ("Share price@Finance", "Cash bridge@Finance")
+ITEMS = ("Chart 1@Sheet 1", "Chart 2@Sheet 1")
 CAPTIONS = ("A share of <it>", "The year's bridge")
 
 # The deck, the output, what is said, and whether the suite had to write it anew.

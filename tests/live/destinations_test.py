@@ -63,9 +63,8 @@ class TheDestinations(ProgramTest):
         self.assertEqual(len(list(images.glob("*.jpg"))), ITEMS)
         self.assertTrue(all(file.read_bytes()[:3] == b"\xff\xd8\xff" for file in images.iterdir()))
 
-    def test_of_pages_are_valid_and_hold_tables(self):
-        page = self.folder / "page"
-        self.make("--to", "html", "--output", page)
+    def check_page(self, page):
+        """It is valid and holds tables."""
         (html,) = page.glob("*.html")
         tidied = subprocess.run(["tidy", "-e", "-q", "-utf8", html], capture_output=True, text=True)
         self.assertEqual((tidied.returncode, tidied.stderr), (0, ""))
@@ -78,7 +77,10 @@ class TheDestinations(ProgramTest):
                             ("linked", ("word/charts/", CHARTS))):
             with self.subTest(format=form):
                 document = self.folder / f"{form}.docx"
-                self.make("--output", document, "--format", form, "--yes")
+                page = ("--to", "word", "--to", "html", "--output", self.folder / "page") if form == "editable" else ()
+                self.make("--output", document, "--format", form, "--yes", *page)
+                if page:
+                    self.check_page(self.folder / "page")
                 self.assertEqual(faults(document), [])
                 names = [name for name in Package(document).names
                          if re.fullmatch(parts[0] + r"[^/]+\.(xml|xlsx)", name) and "/style" not in name

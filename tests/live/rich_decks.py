@@ -355,8 +355,8 @@ DECKS = {
                         default_namespace, odd_names, in_utf_16]),
     "bare.potx": (0, [main_type(f"{PML}.template.main+xml")]),
     "bare.potm": (0, [main_type(MACROS.format("template")), macros, empty_list]),
-    "heavy.pptx": (300, [heavy]),
-    "masters.pptx": (2, [designs(200)]),
+    "heavy.pptx": (100, [heavy]),
+    "masters.pptx": (2, [designs(40)]),
     "strict.pptx": (2, [strict]),
 }
 

@@ -9,7 +9,7 @@ import unittest
 HERE = pathlib.Path(__file__).resolve().parent
 sys.path += [str(HERE.parents[1] / "tools" / "by_hand"), str(HERE.parent / "live")]
 
-from program import BUILD, SAMPLES, colours_of, slides_of  # noqa: E402
+from program import BUILD, SAMPLES, png_lines, slides_of  # noqa: E402
 from screen import Refused, Screen, wait_until  # noqa: E402
 
 FORM, LIST, DIALOG, PAGE = "UserformObj", "listCharts", "Dialog", "wbStatus"
@@ -86,4 +86,4 @@ deck.storeToURL(uno.systemPathToFileUrl(sys.argv[2]), filter("Impress MS PowerPo
 
 
 __all__ = ["AtTheScreen", "BOOK", "BUILD", "DECK", "DIALOG", "FORM", "HTML", "IMAGES", "LIST", "NEW_TEXT", "PAGE",
-           "Refused", "SLIDES", "Screen", "WORD", "colours_of", "slides_of", "unittest", "wait_until"]
+           "Refused", "SLIDES", "Screen", "WORD", "png_lines", "slides_of", "unittest", "wait_until"]

@@ -1,6 +1,6 @@
 """The whole road by hand: from the list of the open workbook to the slides of the open presentation."""
 
-from at_the_screen import DIALOG, FORM, LIST, PAGE, AtTheScreen, colours_of, unittest, wait_until
+from at_the_screen import DIALOG, FORM, LIST, PAGE, AtTheScreen, png_lines, unittest, wait_until
 
 SLIDES_OF_DECK = 3
 SHEET, ORDER, CAPTION = 1, 3, 4
@@ -66,7 +66,7 @@ class TheRoad(AtTheScreen):
                 self.assertIn(str(self.folder / "Harbour Logistics 2026.xlsx"), slide.texts)
                 (picture,) = slide.pictures
                 self.assertEqual(picture["description"], caption or shown_name(row))
-                self.assertGreater(colours_of(picture["bytes"]), 8, "blank")
+                self.assertGreater(png_lines(picture["bytes"]), 8, "blank")
 
         again = self.open_main_form()
         self.assertEqual([(row["checked"], row["texts"][:5]) for row in again.rows()],
