@@ -7,6 +7,7 @@
 
 #include "office/member_table.h"
 #include "office/model/guard.h"
+#include "office/model/part.h"
 
 namespace office::model {
 
@@ -43,6 +44,32 @@ public:
 
 protected:
     [[nodiscard]] const Members& memberTable() const final { return Self::members(); }
+};
+
+/// The same for a class that stands for something in a document: `Home` holds what its members run
+/// through and knows whether it has gone.
+template <class Self, class Home>
+class HomedObject : public ModelObject<Self> {
+public:
+    explicit HomedObject(Home home) : ModelObject<Self>(home.guard), home_(std::move(home)) {}
+
+    [[nodiscard]] const Home& home() const { return home_; }
+
+protected:
+    void requireAlive(std::string_view member) const override {
+        if (home_.isGone()) failGone(Self::members().className() + "." + std::string(member));
+    }
+
+private:
+    Home home_;
+};
+
+/// A home, and what of it an object stands for.
+template <class Home>
+struct PartOf : Home {
+    std::shared_ptr<Part> part;
+
+    [[nodiscard]] bool isGone() const { return part->isGone(); }
 };
 
 /// A new model object as the core sees it.

@@ -32,22 +32,13 @@ void requireThere(const InSheet& home, const std::string& source);
 
 /// Base of the objects of a workbook or, with `InSheet`, of a sheet.
 template <class Self, class Home = InBook>
-class ObjectIn : public ModelObject<Self> {
+class ObjectIn : public HomedObject<Self, Home> {
 public:
-    explicit ObjectIn(Home home) : ModelObject<Self>(home.guard), home_(std::move(home)) {}
+    using HomedObject<Self, Home>::HomedObject;
 
-    [[nodiscard]] const Home& home() const { return home_; }
-    [[nodiscard]] Books& books() const { return *home_.books; }
-    [[nodiscard]] Book& book() const { return *home_.book; }
-    [[nodiscard]] Sheet& sheet() const { return *home_.sheet; }
-
-protected:
-    void requireAlive(std::string_view member) const override {
-        if (home_.isGone()) failGone(Self::members().className() + "." + std::string(member));
-    }
-
-private:
-    Home home_;
+    [[nodiscard]] Books& books() const { return *this->home().books; }
+    [[nodiscard]] Book& book() const { return *this->home().book; }
+    [[nodiscard]] Sheet& sheet() const { return *this->home().sheet; }
 };
 
 [[nodiscard]] Object applicationObject(GuardPtr guard, BooksPtr books);

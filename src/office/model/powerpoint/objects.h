@@ -21,27 +21,12 @@ struct InDeck {
 
 /// Base of the classes that stand for something in a presentation.
 template <class Self>
-class DeckObject : public ModelObject<Self> {
+class DeckObject : public HomedObject<Self, PartOf<InDeck>> {
 public:
     DeckObject(InDeck home, std::shared_ptr<Part> part)
-        : ModelObject<Self>(home.guard),
-          home_(std::move(home)),
-          part_(std::move(part)) {}
+        : HomedObject<Self, PartOf<InDeck>>({std::move(home), std::move(part)}) {}
 
-    [[nodiscard]] const InDeck& home() const { return home_; }
-    [[nodiscard]] Deck& deck() const { return *home_.deck; }
-
-protected:
-    void requireAlive(std::string_view member) const override {
-        if (part_->isGone())
-            throw Failure(FailureNumber::Disconnected,
-                          Self::members().className() + "." + std::string(member),
-                          "The object has been closed or deleted in the meantime");
-    }
-
-private:
-    InDeck home_;
-    std::shared_ptr<Part> part_;
+    [[nodiscard]] Deck& deck() const { return *this->home().deck; }
 };
 
 /// Beyond this PowerPoint takes no place, no length and no other measure of a shape.
@@ -49,7 +34,6 @@ inline constexpr double furthestPt = 169056;
 
 [[nodiscard]] Object applicationObject(GuardPtr guard, DecksPtr decks);
 [[nodiscard]] Object presentationObject(const InDeck& home);
-[[nodiscard]] Object slideShowWindowObject(const InDeck& home);
 [[nodiscard]] Object windowObject(const InDeck& home);
 /// The windows of presentations, one each.
 [[nodiscard]] Object windowsObject(const GuardPtr& guard, std::vector<DeckPtr> decks);

@@ -37,25 +37,13 @@ struct InDocument {
 
 /// Base of the classes that stand for something in a document.
 template <class Self>
-class DocumentObject : public ModelObject<Self> {
+class DocumentObject : public HomedObject<Self, PartOf<InDocument>> {
 public:
     DocumentObject(InDocument home, std::shared_ptr<Part> part)
-        : ModelObject<Self>(home.guard),
-          home_(std::move(home)),
-          part_(std::move(part)) {}
+        : HomedObject<Self, PartOf<InDocument>>({std::move(home), std::move(part)}) {}
     explicit DocumentObject(const InDocument& home) : DocumentObject(home, home.document) {}
 
-    [[nodiscard]] const InDocument& home() const { return home_; }
-    [[nodiscard]] TextDocument& document() const { return *home_.document; }
-
-protected:
-    void requireAlive(std::string_view member) const override {
-        if (part_->isGone()) failGone(Self::members().className() + "." + std::string(member));
-    }
-
-private:
-    InDocument home_;
-    std::shared_ptr<Part> part_;
+    [[nodiscard]] TextDocument& document() const { return *this->home().document; }
 };
 
 /// Reads a property that is written only: nothing needs to know what it was. `Failure` 5.
