@@ -6,6 +6,7 @@
 #include <com/sun/star/frame/XDispatchProvider.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/lang/XServiceInfo.hpp>
+#include <com/sun/star/util/XCloseable.hpp>
 #include <fmt/format.h>
 #include <unistd.h>
 
@@ -25,20 +26,28 @@ namespace libreoffice {
 
 namespace {
 
+struct DocumentKind {
+    const char* service;
+    /// What is said of another one.
+    const char* absence;
+};
+
 template <class Kind>
-constexpr const char* serviceOf = nullptr;
+constexpr DocumentKind kindOf = {};
 template <>
-constexpr const char* serviceOf<excel::CalcDocument> = "com.sun.star.sheet.SpreadsheetDocument";
+constexpr DocumentKind kindOf<excel::CalcDocument> = {"com.sun.star.sheet.SpreadsheetDocument",
+                                                      "it is no workbook"};
 template <>
-constexpr const char* serviceOf<powerpoint::ImpressDeck> =
-    "com.sun.star.presentation.PresentationDocument";
+constexpr DocumentKind kindOf<powerpoint::ImpressDeck> = {
+    "com.sun.star.presentation.PresentationDocument", "it is no presentation"};
 template <>
-constexpr const char* serviceOf<word::WriterDocument> = "com.sun.star.text.TextDocument";
+constexpr DocumentKind kindOf<word::WriterDocument> = {"com.sun.star.text.TextDocument",
+                                                       "it is no text document"};
 
 template <class Kind, class From>
 bool isOfKind(const uno::Reference<From>& component) {
     const auto info = tryAs<css::lang::XServiceInfo>(component);
-    return info.is() && info->supportsService(rtl::OUString::createFromAscii(serviceOf<Kind>));
+    return info.is() && info->supportsService(rtl::OUString::createFromAscii(kindOf<Kind>.service));
 }
 
 /// The document that a component belongs to: while a chart is edited in place, the chart is the
@@ -68,12 +77,17 @@ Desk::Desk(std::shared_ptr<Connection> connection, bool hidden, office::Clipboar
       hidden_(hidden),
       clipboard_(std::move(clipboard)) {}
 
-template <class Kind>
-std::shared_ptr<Kind> Desk::recordOf(const uno::Reference<css::frame::XModel>& model) {
+std::shared_ptr<Document> Desk::known(const uno::Reference<css::frame::XModel>& model) {
     std::erase_if(documents_, [](const auto& document) { return document->isClosed(); });
     for (const auto& document : documents_) {
-        if (document->model() == model) return std::dynamic_pointer_cast<Kind>(document);
+        if (document->model() == model) return document;
     }
+    return nullptr;
+}
+
+template <class Kind>
+std::shared_ptr<Kind> Desk::recordOf(const uno::Reference<css::frame::XModel>& model) {
+    if (const auto document = known(model)) return std::dynamic_pointer_cast<Kind>(document);
     auto record = std::make_shared<Kind>(*this, model);
     documents_.push_back(record);
     return record;
@@ -127,11 +141,15 @@ std::shared_ptr<Kind> Desk::activeOf() {
     // A private suite has no window that a user could change: what was opened or activated last is
     // the active one.
     if (!hidden_) {
-        const auto current = modelOf(connection_->desktop()->getCurrentComponent());
-        if (current.is() && isOfKind<Kind>(current)) {
-            const auto document = recordOf<Kind>(current);
-            document->markActive();
-            return document;
+        const auto onTop = connection_->desktop()->getCurrentComponent();
+        auto document = known(tryAs<css::frame::XModel>(onTop));
+        if (!document) {
+            const auto model = modelOf(onTop);
+            if (model.is() && isOfKind<Kind>(model)) document = recordOf<Kind>(model);
+        }
+        if (const auto wanted = std::dynamic_pointer_cast<Kind>(document)) {
+            wanted->markActive();
+            return wanted;
         }
         noteOrderOfWindows();
     }
@@ -235,5 +253,42 @@ uno::Reference<css::frame::XModel> Desk::load(const rtl::OUString& url, bool hid
                "it is damaged, of a kind that LibreOffice does not read, or in use by another "
                "program");
 }
+
+template <class Kind>
+std::shared_ptr<Kind> Desk::alreadyOpen(const rtl::OUString& url) {
+    // LibreOffice would open the file twice, and the two would go separate ways.
+    const auto components = connection_->desktop()->getComponents()->createEnumeration();
+    while (components->hasMoreElements()) {
+        const uno::Reference<uno::XInterface> component(components->nextElement(), uno::UNO_QUERY);
+        const auto model = tryAs<css::frame::XModel>(component);
+        if (!model.is()) continue;
+        if (isOfKind<Kind>(model)) {
+            if (const auto document = recordOf<Kind>(model); document->url() == url)
+                return document;
+        } else if (model->getURL() == url) {
+            failToOpen(url, kindOf<Kind>.absence);
+        }
+    }
+    return nullptr;
+}
+
+template <class Kind>
+std::shared_ptr<Kind> Desk::loaded(const rtl::OUString& url, bool withWindow,
+                                   const std::string& password) {
+    const auto model = load(url, hidden_ || !withWindow, password);
+    if (isOfKind<Kind>(model)) return recordOf<Kind>(model);
+    as<css::util::XCloseable>(model)->close(true);
+    failToOpen(url, kindOf<Kind>.absence);
+}
+
+template std::shared_ptr<excel::CalcDocument> Desk::alreadyOpen(const rtl::OUString&);
+template std::shared_ptr<powerpoint::ImpressDeck> Desk::alreadyOpen(const rtl::OUString&);
+template std::shared_ptr<word::WriterDocument> Desk::alreadyOpen(const rtl::OUString&);
+template std::shared_ptr<excel::CalcDocument> Desk::loaded(const rtl::OUString&, bool,
+                                                           const std::string&);
+template std::shared_ptr<powerpoint::ImpressDeck> Desk::loaded(const rtl::OUString&, bool,
+                                                               const std::string&);
+template std::shared_ptr<word::WriterDocument> Desk::loaded(const rtl::OUString&, bool,
+                                                            const std::string&);
 
 }  // namespace libreoffice

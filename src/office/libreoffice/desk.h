@@ -71,6 +71,16 @@ public:
                                             const std::string& password = {},
                                             bool readOnly = false);
 
+    /// The open document of a file; null if there is none. `office::Failure` 1004 if it is open as
+    /// another kind.
+    template <class Kind>
+    std::shared_ptr<Kind> alreadyOpen(const rtl::OUString& url);
+    /// As `load`; `office::Failure` 1004 also for a document of another kind, which is closed
+    /// again.
+    template <class Kind>
+    std::shared_ptr<Kind> loaded(const rtl::OUString& url, bool withWindow,
+                                 const std::string& password = {});
+
     /// Where pictures are drawn.
     const std::shared_ptr<office::drawing::DrawingRoom> drawingRoom;
     /// Makes pictures; null until the first one is asked for.
@@ -83,6 +93,8 @@ public:
 
 private:
     void makeChangeable(const uno::Reference<css::frame::XModel>& model, const rtl::OUString& file);
+    /// Null for a document that has not been met.
+    std::shared_ptr<Document> known(const uno::Reference<css::frame::XModel>& model);
     template <class Kind>
     std::shared_ptr<Kind> recordOf(const uno::Reference<css::frame::XModel>& model);
     template <class Kind>

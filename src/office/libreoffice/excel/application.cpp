@@ -1,12 +1,8 @@
 #include "office/libreoffice/excel/application.h"
 
-#include <com/sun/star/container/XEnumerationAccess.hpp>
-#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/ui/dialogs/ExecutableDialogResults.hpp>
 #include <com/sun/star/ui/dialogs/XFilePicker2.hpp>
 #include <com/sun/star/ui/dialogs/XFilterManager.hpp>
-#include <com/sun/star/util/XCloseable.hpp>
-#include <fmt/format.h>
 
 #include <utility>
 
@@ -20,8 +16,6 @@
 namespace libreoffice::excel {
 
 namespace {
-
-using ModelRef = uno::Reference<css::frame::XModel>;
 
 /// The workbooks of LibreOffice.
 ///
@@ -46,57 +40,20 @@ public:
                       const std::string& path, office::PictureKind kind) override;
 
 private:
-    [[nodiscard]] std::shared_ptr<CalcDocument> alreadyOpen(const rtl::OUString& url);
-    [[nodiscard]] std::shared_ptr<CalcDocument> loaded(const rtl::OUString& url,
-                                                       const std::string& password);
-
     DeskPtr desk_;
 };
-
-bool isWorkbook(const ModelRef& document) {
-    return tryAs<css::sheet::XSpreadsheetDocument>(document).is();
-}
-
-[[noreturn]] void failOnOther(const rtl::OUString& url) {
-    office::model::refuse(
-        "Workbooks.Open",
-        fmt::format("\"{}\" could not be opened: it is no workbook", pathOfUrl(url)));
-}
 
 std::vector<model::BookPtr> CalcBooks::open() {
     const auto books = desk_->workbooks();
     return {books.begin(), books.end()};
 }
 
-/// Looked for first: loading an open file gives the user's own document, which is not ours to
-/// close.
-std::shared_ptr<CalcDocument> CalcBooks::alreadyOpen(const rtl::OUString& url) {
-    const auto components = desk_->connection().desktop()->getComponents()->createEnumeration();
-    while (components->hasMoreElements()) {
-        const uno::Reference<uno::XInterface> component(components->nextElement(), uno::UNO_QUERY);
-        const auto document = tryAs<css::frame::XModel>(component);
-        if (!document.is()) continue;
-        if (document->getURL() == url && !isWorkbook(document)) failOnOther(url);
-        if (!isWorkbook(document)) continue;
-        if (auto book = desk_->workbook(document); book->url() == url) return book;
-    }
-    return nullptr;
-}
-
-std::shared_ptr<CalcDocument> CalcBooks::loaded(const rtl::OUString& url,
-                                                const std::string& password) {
-    const auto document = desk_->load(url, desk_->opensHidden(), password);
-    if (isWorkbook(document)) return desk_->workbook(document);
-    as<css::util::XCloseable>(document)->close(true);
-    failOnOther(url);
-}
-
 model::BookPtr CalcBooks::load(const std::string& file, const std::string& password,
                                bool readOnly) {
     const rtl::OUString url = fileUrl(file);
-    auto book = alreadyOpen(url);
+    auto book = desk_->alreadyOpen<CalcDocument>(url);
     if (!book) {
-        book = loaded(url, password);
+        book = desk_->loaded<CalcDocument>(url, true, password);
         if (readOnly) book->leaveFileAlone();
     }
     book->markActive();
