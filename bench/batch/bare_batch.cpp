@@ -24,6 +24,8 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <cmath>
+#include <cstdint>
 #include <filesystem>
 #include <vector>
 
@@ -58,6 +60,11 @@ std::vector<Shape> chartsOf(const uno::Reference<css::lang::XComponent>& workboo
         }
     }
     return charts;
+}
+
+/// At three times screen density, 288 to the inch.
+std::int32_t crispPixelsOf(std::int32_t hundredthMm) {
+    return static_cast<std::int32_t>(std::lround(hundredthMm * 288.0 / 2540.0));
 }
 
 void drawPicture(const Connection& connection, const Shape& chart, const rtl::OUString& url) {

@@ -11,6 +11,7 @@
 #include <iterator>
 
 #include "live/live_suite.h"
+#include "office/drawing/metafile.h"
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/copied.h"
@@ -106,7 +107,7 @@ TEST_F(ExcelPictures, LooksInTheDrawingRoomAsTheSuiteDrawsIt) {
     }
     const Object charts = open("charts.xlsx");
     const auto plain = shapeOf("Data", 0);
-    const auto metafile = maker.suite().metafileOf(plain->shape());
+    const auto metafile = maker.suite().metafileOf(excel::lookOf(plain->shape()).graphic);
     EXPECT_EQ(maker.drawnOtherwise(metafile), "");
     maker.suite().writeChart(plain->shape(), own);
     const auto ours = maker.chart(plain->shape(), office::Sharpness::Crisp);
@@ -220,7 +221,7 @@ TEST_F(ExcelPictures, DrawsColumnsBehindTheLastFilledOneAsWideAsTheyAre) {
     const Value range = sheet(book, "Wide").get("Range", "A1:BK6");
     range.call("CopyPicture");
     const auto& copied = dynamic_cast<const excel::CopiedPicture&>(*desk->clipboard().copied);
-    const excel::PictureSize drawn = excel::sizeOfMetafile(copied.metafile());
+    const auto drawn = office::drawing::sizeOfMetafile(excel::bytesOf(copied.metafile()));
     EXPECT_NEAR(drawn.width, copied.size().width, 100);
     EXPECT_NEAR(copied.widthPt(), range.get("Width").toDouble(), 0.5);
     EXPECT_TRUE(book.get("Saved").toBool());

@@ -111,6 +111,14 @@ struct Metafile {
 
 [[nodiscard]] bool isMetafile(std::string_view bytes);
 
+/// In hundredths of a millimetre.
+struct MetafileSize {
+    double width = 0;
+    double height = 0;
+};
+/// The size that one gives for itself; 0 by 0 if it gives none in that unit.
+[[nodiscard]] MetafileSize sizeOfMetafile(std::string_view bytes);
+
 /// Reads one. What is damaged counts as unknown.
 [[nodiscard]] Metafile readMetafile(std::string_view bytes);
 

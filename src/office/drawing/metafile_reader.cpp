@@ -92,7 +92,6 @@ public:
         readActions(values, extent.actions);
     }
 
-private:
     struct Extent {
         double width = 0;
         double height = 0;
@@ -111,6 +110,8 @@ private:
         extent.actions = head.next<std::uint32_t>();
         return extent;
     }
+
+private:
     void readActions(Values& values, std::uint32_t count) {
         for (; count > 0; --count) {
             const auto action = static_cast<Action>(values.word());
@@ -424,6 +425,16 @@ void Reader::readComment(Values values) {
 
 bool isMetafile(std::string_view bytes) {
     return bytes.starts_with(magic);
+}
+
+MetafileSize sizeOfMetafile(std::string_view bytes) {
+    try {
+        Values values(bytes);
+        const auto [width, height, actions] = Reader::readHead(values);
+        return {width, height};
+    } catch (const Unknown&) {
+        return {};
+    }
 }
 
 Metafile readMetafile(std::string_view bytes) {

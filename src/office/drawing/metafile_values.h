@@ -45,7 +45,6 @@ public:
     /// Of the part that was taken last.
     [[nodiscard]] std::uint16_t version() const { return version_; }
     [[nodiscard]] bool isEmpty() const { return bytes_.empty(); }
-    [[nodiscard]] std::string_view rest() const { return bytes_; }
 
 private:
     std::string_view bytes_;

@@ -3,8 +3,6 @@
 #include <com/sun/star/bridge/BridgeFactory.hpp>
 #include <com/sun/star/bridge/XBridgeFactory2.hpp>
 #include <com/sun/star/connection/Connector.hpp>
-#include <com/sun/star/frame/Desktop.hpp>
-#include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <cppuhelper/bootstrap.hxx>
 #include <rtl/bootstrap.hxx>
 #include <rtl/ref.hxx>
@@ -48,13 +46,28 @@ Connection::Connection(rtl::Reference<CountedConnection> stream,
                        uno::Reference<uno::XComponentContext> context)
     : stream_(std::move(stream)),
       context_(std::move(context)),
-      desktop_(css::frame::Desktop::create(context_)) {}
+      services_(context_->getServiceManager()),
+      desktop_(as<css::frame::XDesktop2>(create("com.sun.star.frame.Desktop"))) {}
 
 Connection::~Connection() = default;
 
 uno::Reference<uno::XInterface> Connection::create(const char* service) const {
-    return context_->getServiceManager()->createInstanceWithContext(
-        rtl::OUString::createFromAscii(service), context_);
+    return services_->createInstanceWithContext(rtl::OUString::createFromAscii(service), context_);
+}
+
+uno::Reference<uno::XInterface> Connection::create(const char* service,
+                                                   const std::vector<uno::Any>& arguments) const {
+    return services_->createInstanceWithArgumentsAndContext(
+        rtl::OUString::createFromAscii(service),
+        {arguments.data(), static_cast<sal_Int32>(arguments.size())}, context_);
+}
+
+const uno::Reference<css::graphic::XGraphicProvider>& Connection::graphics() const {
+    std::call_once(firstGraphics_, [this] {
+        graphics_ =
+            as<css::graphic::XGraphicProvider>(create("com.sun.star.graphic.GraphicProvider"));
+    });
+    return graphics_;
 }
 
 bool Connection::isLost() const {

@@ -1,13 +1,16 @@
 #pragma once
 
 #include <com/sun/star/frame/XDesktop2.hpp>
+#include <com/sun/star/graphic/XGraphicProvider.hpp>
+#include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/uno/XComponentContext.hpp>
 #include <rtl/ref.hxx>
 
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <string>
-#include <string_view>
+#include <vector>
 
 #include "office/libreoffice/uno_values.h"
 
@@ -33,6 +36,10 @@ public:
 
     /// A service of the suite, by its name. `css::uno::Exception` if it has none of that name.
     [[nodiscard]] uno::Reference<uno::XInterface> create(const char* service) const;
+    [[nodiscard]] uno::Reference<uno::XInterface> create(
+        const char* service, const std::vector<uno::Any>& arguments) const;
+    /// The one that reads and writes pictures, for any thread.
+    [[nodiscard]] const uno::Reference<css::graphic::XGraphicProvider>& graphics() const;
 
     /// Whether the suite has gone or the connection was broken.
     [[nodiscard]] bool isLost() const;
@@ -49,7 +56,10 @@ private:
 
     rtl::Reference<CountedConnection> stream_;
     uno::Reference<uno::XComponentContext> context_;
+    uno::Reference<css::lang::XMultiComponentFactory> services_;
     uno::Reference<css::frame::XDesktop2> desktop_;
+    mutable std::once_flag firstGraphics_;
+    mutable uno::Reference<css::graphic::XGraphicProvider> graphics_;
 };
 
 /// This process's own UNO environment; set up on the first call.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <string>
-#include <string_view>
+#include <utility>
 
 #include "office/libreoffice/desk.h"
 #include "office/model/guard.h"
@@ -11,6 +11,16 @@ namespace libreoffice {
 /// Called inside a handler for a UNO exception: throws the `office::Failure` that stands for it, or
 /// `office::SuiteLost` if the connection broke. The one place where UNO's errors become the port's.
 [[noreturn]] void throwTranslated(const Connection& connection, const std::string& source);
+
+/// Runs a statement with UNO's errors as the port's.
+template <class Statement>
+auto translated(const Connection& connection, const std::string& source, Statement&& statement) {
+    try {
+        return std::forward<Statement>(statement)();
+    } catch (const uno::Exception&) {
+        throwTranslated(connection, source);
+    }
+}
 
 /// Runs the members of model objects over a connection.
 class ConnectionGuard : public office::model::Guard {

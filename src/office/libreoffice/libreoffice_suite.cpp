@@ -71,10 +71,6 @@ office::PictureFilesPtr LibreOfficeSuite::pictureFiles() {
 
 LibreOfficeSuite::~LibreOfficeSuite() = default;
 
-bool LibreOfficeSuite::isConnected() const {
-    return connection_ && !connection_->isLost();
-}
-
 void LibreOfficeSuite::interrupt() {
     if (instance_) instance_->kill();
     const std::lock_guard lock(connecting_);
@@ -114,15 +110,6 @@ void LibreOfficeSuite::clearClipboard() {
     clipboard_->copied.reset();
 }
 
-template <class Statement>
-auto LibreOfficeSuite::translated(const char* source, Statement&& statement) {
-    try {
-        return std::forward<Statement>(statement)();
-    } catch (const uno::Exception&) {
-        throwTranslated(*connection_, source);
-    }
-}
-
 office::ClipboardPicture LibreOfficeSuite::clipboardPicture(office::ClipboardPicture::Kind kind) {
     office::ClipboardPicture picture;
     picture.kind = kind;
@@ -150,7 +137,7 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
     std::vector<std::string> remarks;
     if (!desk_) return remarks;
     if (as == office::PasteAs::Default)
-        return translated("Suite.remarksOn", [&] {
+        return translated(*connection_, "Suite.remarksOn", [&] {
             const auto book = desk_->activeWorkbook();
             return book ? excel::lossesOfTables(*book, items) : remarks;
         });
@@ -166,7 +153,7 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
         return remarks;
     }
     if (as != office::PasteAs::Embedded || items.size() < 2) return remarks;
-    translated("Suite.remarksOn", [&] {
+    translated(*connection_, "Suite.remarksOn", [&] {
         // All workbooks in one .pptx become one part of it. A private suite writes nothing else.
         const auto deck = desk_->activePresentation();
         if (!desk_->opensHidden() && deck && office::lowerCase(deck->fullName()).ends_with(".odp"))
@@ -181,7 +168,7 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
 office::WindowHandle LibreOfficeSuite::findWindow(std::string_view className,
                                                   std::string_view caption) {
     if (!desk_) return 0;
-    return translated("Suite.findWindow", [&]() -> office::WindowHandle {
+    return translated(*connection_, "Suite.findWindow", [&]() -> office::WindowHandle {
         if (!className.empty() && className != frameClass) return 0;
         if (caption.empty()) return handleOf(desk_->activePresentation());
         if (!caption.ends_with(captionEnd)) return 0;
@@ -195,7 +182,8 @@ office::WindowHandle LibreOfficeSuite::findWindow(std::string_view className,
 
 bool LibreOfficeSuite::raiseWindow(office::WindowHandle window, int /*showCommand*/) {
     const auto presentation = presentationOf(window);
-    return presentation && translated("Suite.raiseWindow", [&] { return presentation->raise(); });
+    return presentation &&
+           translated(*connection_, "Suite.raiseWindow", [&] { return presentation->raise(); });
 }
 
 bool LibreOfficeSuite::lockDrawing(office::WindowHandle window) {

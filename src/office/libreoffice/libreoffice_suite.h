@@ -45,7 +45,6 @@ public:
 
     ~LibreOfficeSuite() override;
 
-    [[nodiscard]] bool isConnected() const;
     /// Breaks off at once: a call that waits ends with `office::SuiteLost`, and a private suite is
     /// killed. For another thread, on an interrupt.
     void interrupt();
@@ -79,8 +78,6 @@ private:
 
     void connect(std::shared_ptr<Connection> connection);
 
-    template <class Statement>
-    auto translated(const char* source, Statement&& statement);
     /// Window handles are positions in `windows_`, counted from 1: a presentation's window stands
     /// for the presentation.
     office::WindowHandle handleOf(const std::shared_ptr<powerpoint::ImpressDeck>& presentation);

@@ -14,9 +14,4 @@ namespace libreoffice {
     return static_cast<std::int32_t>(std::lround(points * 2540.0 / 72.0));
 }
 
-/// Pixels at three times screen density, 288 to the inch.
-[[nodiscard]] inline std::int32_t crispPixelsOf(std::int32_t hundredthMm) {
-    return static_cast<std::int32_t>(std::lround(hundredthMm * 288.0 / 2540.0));
-}
-
 }  // namespace libreoffice

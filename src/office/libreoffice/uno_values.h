@@ -40,7 +40,7 @@ namespace uno = com::sun::star::uno;
 [[nodiscard]] uno::Sequence<css::beans::PropertyValue> propertyValues(
     std::initializer_list<std::pair<const char*, uno::Any>> values);
 
-/// The interface of an object; `Failure` 438 if the object hasn't got it.
+/// The interface of an object; `css::uno::RuntimeException` if the object hasn't got it.
 template <class Interface, class From>
 [[nodiscard]] uno::Reference<Interface> as(const uno::Reference<From>& object) {
     return uno::Reference<Interface>(object, uno::UNO_QUERY_THROW);

@@ -33,7 +33,7 @@ Held<xcb_query_tree_reply_t> treeOf(xcb_connection_t* connection, xcb_window_t w
         xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
 }
 
-/// What the window manager says of the windows in its care; empty if there is none.
+/// The windows that the window manager lists, from the lowest; empty without one.
 std::vector<std::uint32_t> managedWindows(xcb_connection_t* connection, xcb_window_t root) {
     constexpr std::string_view name = "_NET_CLIENT_LIST_STACKING";
     constexpr std::uint32_t most = 4096;

@@ -159,7 +159,8 @@ CellFormats readCellFormats(const uno::Reference<css::table::XCellRange>& cells,
     read.ofCells.resize(shown.rows.size() * shown.columns.size());
     const auto formats =
         as<css::sheet::XUniqueCellFormatRangesSupplier>(cells)->getUniqueCellFormatRanges();
-    for (sal_Int32 i = 0; i < formats->getCount(); ++i) {
+    const sal_Int32 count = formats->getCount();
+    for (sal_Int32 i = 0; i < count; ++i) {
         const uno::Reference<css::sheet::XSheetCellRanges> alike(formats->getByIndex(i),
                                                                  uno::UNO_QUERY_THROW);
         const std::size_t place = read.formats.size();

@@ -1,6 +1,5 @@
 #include "office/libreoffice/excel/cell_range.h"
 
-#include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XSheetOperation.hpp>
 #include <com/sun/star/table/XColumnRowRange.hpp>
@@ -16,13 +15,6 @@
 
 namespace libreoffice::excel {
 
-namespace {
-
-constexpr sal_Int32 allContents = css::sheet::CellFlags::VALUE | css::sheet::CellFlags::DATETIME |
-                                  css::sheet::CellFlags::STRING | css::sheet::CellFlags::FORMULA;
-
-}  // namespace
-
 const uno::Reference<css::table::XCellRange>& CellRange::range() {
     if (!range_.is()) range_ = sheet_->range(block_);
     return range_;
@@ -37,7 +29,7 @@ void CellRange::write(const office::Table& values) {
 }
 
 void CellRange::clear() {
-    as<css::sheet::XSheetOperation>(range())->clearContents(allContents);
+    as<css::sheet::XSheetOperation>(range())->clearContents(contentsOfCells);
 }
 
 std::string CellRange::numberFormat() {
@@ -76,11 +68,8 @@ void CellRange::hide(model::Lines lines, bool hidden) {
 }
 
 std::vector<std::pair<std::int32_t, std::int32_t>> CellRange::filledRows() {
-    const auto filled = as<css::sheet::XCellRangesQuery>(range())
-                            ->queryContentCells(static_cast<sal_Int16>(allContents))
-                            ->getRangeAddresses();
     std::vector<std::pair<std::int32_t, std::int32_t>> found;
-    for (const css::table::CellRangeAddress& part : filled)
+    for (const css::table::CellRangeAddress& part : filledParts(range()))
         found.emplace_back(part.StartRow, part.EndRow);
     std::sort(found.begin(), found.end());
     std::vector<std::pair<std::int32_t, std::int32_t>> joined;
@@ -96,16 +85,16 @@ std::vector<std::pair<std::int32_t, std::int32_t>> CellRange::filledRows() {
 
 office::CopiedPtr CellRange::copy(office::CopySource source) {
     // LibreOffice gives hidden rows and columns the size of one of its units.
-    constexpr double thinnestPt = 0.1;
-    const model::Box box = place();
-    if (box.width < thinnestPt || box.height < thinnestPt)
+    constexpr std::int32_t thinnest = 3;
+    const css::awt::Size size = placeOf(range()).size;
+    if (size.Width <= thinnest || size.Height <= thinnest)
         office::model::refuse("Range.Copy",
                               "There is nothing to copy: these rows or columns are hidden");
     if (source.kind == office::CopySource::Kind::Cells)
-        return std::make_shared<CopiedCells>(sheet_, std::move(source), range(), block_);
-    CellsPicture picture = takePictureOfCells(*sheet_, range(), block_);
+        return std::make_shared<CopiedCells>(sheet_, std::move(source), range(), block_, size);
     return std::make_shared<CopiedPicture>(sheet_->book().desk(), std::move(source),
-                                           std::move(picture.metafile), picture.size);
+                                           takePictureOfCells(*sheet_, range(), block_, size),
+                                           PictureSize{size.Width, size.Height});
 }
 
 }  // namespace libreoffice::excel

@@ -51,7 +51,8 @@ std::vector<Kind> formatKindsOfColumn(NumberFormats& formats,
         as<css::sheet::XCellRangeAddressable>(cells)->getRangeAddress().StartRow;
     const auto groups =
         as<css::sheet::XUniqueCellFormatRangesSupplier>(cells)->getUniqueCellFormatRanges();
-    for (sal_Int32 i = 0; i < groups->getCount(); ++i) {
+    const sal_Int32 end = groups->getCount();
+    for (sal_Int32 i = 0; i < end; ++i) {
         const uno::Reference<css::sheet::XSheetCellRanges> group(groups->getByIndex(i),
                                                                  uno::UNO_QUERY_THROW);
         const Kind kind = kindOf(formats, group);

@@ -31,11 +31,8 @@ struct Identity {
 };
 
 Identity identityOf(const uno::Reference<css::drawing::XShape>& shape) {
-    uno::Sequence<rtl::OUString> names(3);
-    names[0] = "CLSID";
-    names[1] = "Name";
-    names[2] = "PersistName";
-    const auto values = as<css::beans::XMultiPropertySet>(shape)->getPropertyValues(names);
+    const auto values = as<css::beans::XMultiPropertySet>(shape)->getPropertyValues(
+        namesOf({"CLSID", "Name", "PersistName"}));
     const auto text = [&](sal_Int32 i) {
         rtl::OUString value;
         values[i] >>= value;
@@ -77,9 +74,10 @@ office::CopiedPtr ChartShape::copy(office::CopySource source) {
     if (source.kind == office::CopySource::Kind::Chart)
         return std::make_shared<CopiedChart>(book_, std::move(source), shape_, owner_.lock());
     const css::awt::Size size = shape_->getSize();
-    return std::make_shared<CopiedPicture>(book_.desk(), std::move(source),
-                                           pictureMaker(book_.desk()).suite().metafileOf(shape_),
-                                           PictureSize{size.Width, size.Height});
+    return std::make_shared<CopiedPicture>(
+        book_.desk(), std::move(source),
+        pictureMaker(book_.desk()).suite().metafileOf(lookOf(shape_).graphic),
+        PictureSize{size.Width, size.Height});
 }
 
 void ChartShape::writePicture(const std::string& path, office::PictureKind kind) {

@@ -19,11 +19,7 @@ namespace {
 /// suite's exceptions.
 template <class Statement>
 auto translated(const Desk& desk, Statement statement) {
-    try {
-        return statement();
-    } catch (const uno::Exception&) {
-        throwTranslated(desk.connection(), "Copy");
-    }
+    return libreoffice::translated(desk.connection(), "Copy", statement);
 }
 
 [[noreturn]] void failWithoutCells() {
@@ -89,7 +85,7 @@ office::Picture CopiedChart::picture(office::Sharpness sharpness) const {
 }
 
 uno::Reference<css::graphic::XGraphic> CopiedChart::graphic() const {
-    return translated(book().desk(), [&] { return graphicOfChart(shape_); });
+    return translated(book().desk(), [&] { return lookOf(shape_).graphic; });
 }
 
 office::TableLook CopiedChart::table() const {
@@ -98,13 +94,13 @@ office::TableLook CopiedChart::table() const {
 
 CopiedCells::CopiedCells(SheetRecordPtr sheet, office::CopySource source,
                          uno::Reference<css::table::XCellRange> cells,
-                         const office::model::excel::CellBlock& block)
+                         const office::model::excel::CellBlock& block, const css::awt::Size& size)
     : CopiedHere(std::move(source)),
       sheet_(std::move(sheet)),
       book_(sheet_->book().shared_from_this()),
       cells_(std::move(cells)),
       block_(block),
-      size_(property<css::awt::Size>(cells_, "Size")) {}
+      size_(size) {}
 
 SheetRecord& CopiedCells::sheet() const {
     book_->requireOpen("Copy");
@@ -123,8 +119,8 @@ office::Picture CopiedCells::picture(office::Sharpness sharpness) const {
     SheetRecord& source = sheet();
     Desk& desk = source.book().desk();
     return translated(desk, [&] {
-        const CellsPicture picture = takePictureOfCells(source, cells_, block_);
-        return pictureMaker(desk).metafile(picture.metafile, picture.size, sharpness);
+        return pictureMaker(desk).metafile(takePictureOfCells(source, cells_, block_, size_),
+                                           {size_.Width, size_.Height}, sharpness);
     });
 }
 
@@ -133,7 +129,7 @@ uno::Reference<css::graphic::XGraphic> CopiedCells::graphic() const {
     Desk& desk = source.book().desk();
     return translated(desk, [&] {
         return pictureMaker(desk).suite().graphicOf(
-            takePictureOfCells(source, cells_, block_).metafile);
+            takePictureOfCells(source, cells_, block_, size_));
     });
 }
 

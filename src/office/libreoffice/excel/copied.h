@@ -69,7 +69,7 @@ class CopiedCells : public CopiedHere {
 public:
     CopiedCells(SheetRecordPtr sheet, office::CopySource source,
                 uno::Reference<css::table::XCellRange> cells,
-                const office::model::excel::CellBlock& block);
+                const office::model::excel::CellBlock& block, const css::awt::Size& size);
 
     [[nodiscard]] SheetRecord& sheet() const;
     [[nodiscard]] const uno::Reference<css::table::XCellRange>& cells() const { return cells_; }

@@ -83,10 +83,12 @@ std::int32_t faded(std::int32_t colour) {
 
 }  // namespace
 
-DataBars::DataBars(SheetRecord& sheet, const model::CellBlock& block) {
+std::vector<CellCondition> conditionsOn(const SheetRecord& sheet, const model::CellBlock& block,
+                                        sal_Int32 kind) {
+    std::vector<CellCondition> found;
     const auto formats = property<uno::Reference<css::sheet::XConditionalFormats>>(
         sheet.sheet(), "ConditionalFormats");
-    if (!formats.is()) return;
+    if (!formats.is()) return found;
     for (const auto& format : formats->getConditionalFormats()) {
         const auto ranges = property<uno::Reference<css::sheet::XSheetCellRanges>>(format, "Range");
         std::vector<model::CellBlock> blocks;
@@ -95,19 +97,27 @@ DataBars::DataBars(SheetRecord& sheet, const model::CellBlock& block) {
                 return intersection(each, block).has_value();
             }))
             continue;
-        for (sal_Int32 i = 0; i < format->getCount(); ++i) {
+        const sal_Int32 count = format->getCount();
+        for (sal_Int32 i = 0; i < count; ++i) {
             const uno::Reference<css::sheet::XConditionEntry> entry(format->getByIndex(i),
                                                                     uno::UNO_QUERY_THROW);
-            if (entry->getType() != css::sheet::ConditionEntryType::DATABAR) continue;
-            if (auto bars = read(sheet, as<css::beans::XPropertySet>(entry), blocks))
-                all_.push_back(*std::move(bars));
+            if (entry->getType() == kind) found.push_back({blocks, entry});
         }
+    }
+    return found;
+}
+
+DataBars::DataBars(SheetRecord& sheet, const model::CellBlock& block) {
+    constexpr sal_Int32 bars = css::sheet::ConditionEntryType::DATABAR;
+    for (const auto& [blocks, entry] : conditionsOn(sheet, block, bars)) {
+        if (auto read = barsOf(sheet, as<css::beans::XPropertySet>(entry), blocks))
+            all_.push_back(*std::move(read));
     }
 }
 
-std::optional<DataBars::Bars> DataBars::read(SheetRecord& sheet,
-                                             const uno::Reference<css::beans::XPropertySet>& entry,
-                                             const std::vector<model::CellBlock>& blocks) {
+std::optional<DataBars::Bars> DataBars::barsOf(
+    SheetRecord& sheet, const uno::Reference<css::beans::XPropertySet>& entry,
+    const std::vector<model::CellBlock>& blocks) {
     const auto ends =
         property<uno::Sequence<uno::Reference<css::sheet::XDataBarEntry>>>(entry, "DataBarEntries");
     const std::vector<double> numbers = sortedNumbers(sheet, blocks);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <com/sun/star/sheet/XConditionEntry.hpp>
+
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -8,6 +10,16 @@
 #include "office/table_look.h"
 
 namespace libreoffice::excel {
+
+/// A condition of a sheet, and the cells that it is for.
+struct CellCondition {
+    std::vector<model::CellBlock> blocks;
+    uno::Reference<css::sheet::XConditionEntry> entry;
+};
+/// Those of a block of cells that are of a kind of `css::sheet::ConditionEntryType`.
+[[nodiscard]] std::vector<CellCondition> conditionsOn(const SheetRecord& sheet,
+                                                      const model::CellBlock& block,
+                                                      sal_Int32 kind);
 
 /// The conditional formats of a block of cells that draw bars.
 class DataBars {
@@ -30,9 +42,9 @@ private:
         std::int32_t negativeColour = 0;
     };
 
-    static std::optional<Bars> read(SheetRecord& sheet,
-                                    const uno::Reference<css::beans::XPropertySet>& entry,
-                                    const std::vector<model::CellBlock>& blocks);
+    static std::optional<Bars> barsOf(SheetRecord& sheet,
+                                      const uno::Reference<css::beans::XPropertySet>& entry,
+                                      const std::vector<model::CellBlock>& blocks);
 
     std::vector<Bars> all_;
 };

@@ -1,7 +1,6 @@
 #include "office/libreoffice/excel/package_parts.h"
 
 #include <com/sun/star/io/XInputStream.hpp>
-#include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <pugixml.hpp>
 
 #include <algorithm>
@@ -39,12 +38,8 @@ std::optional<PackageParts> PackageParts::open(const Connection& connection,
                                                const rtl::OUString& url) {
     if (url.isEmpty()) return std::nullopt;
     try {
-        const uno::Any file(url);
-        const uno::Sequence<uno::Any> arguments(&file, 1);
-        const auto parts =
-            connection.context()->getServiceManager()->createInstanceWithArgumentsAndContext(
-                "com.sun.star.packages.zip.ZipFileAccess", arguments, connection.context());
-        return PackageParts(as<css::container::XNameAccess>(parts));
+        return PackageParts(as<css::container::XNameAccess>(
+            connection.create("com.sun.star.packages.zip.ZipFileAccess", {uno::Any(url)})));
     } catch (const uno::Exception&) {
         if (connection.isLost()) throw;
         return std::nullopt;

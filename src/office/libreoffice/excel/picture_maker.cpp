@@ -76,7 +76,8 @@ PictureMaker::Vectors PictureMaker::drawable(const uno::Sequence<sal_Int8>& meta
 
 PictureMaker::Vectors PictureMaker::vectorsOf(const uno::Reference<css::drawing::XShape>& chart,
                                               Sharpness sharpness) {
-    return drawable(suite_.metafileOf(chart), sizeOf(chart), !isOpaque(chart), sharpness);
+    const ChartLook look = lookOf(chart);
+    return drawable(suite_.metafileOf(look.graphic), sizeOf(chart), !isOpaque(look), sharpness);
 }
 
 office::Picture PictureMaker::chart(const uno::Reference<css::drawing::XShape>& chart,

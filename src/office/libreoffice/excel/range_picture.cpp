@@ -4,8 +4,9 @@
 #include <com/sun/star/table/CellContentType.hpp>
 #include <com/sun/star/text/XTextRange.hpp>
 
-#include <cstdlib>
+#include <cmath>
 
+#include "office/drawing/metafile.h"
 #include "office/failure.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/selected_cells.h"
@@ -15,7 +16,7 @@ namespace libreoffice::excel {
 namespace {
 
 /// Sizes that differ by less are the same but for rounding.
-constexpr std::int32_t closeEnough = 100;
+constexpr double closeEnough = 100;
 
 constexpr const char* metafileType =
     "application/x-openoffice-gdimetafile;windows_formatname=\"GDIMetaFile\"";
@@ -29,20 +30,20 @@ void allocateColumns(const SheetRecord& sheet, const model::CellBlock& block) {
         as<css::text::XTextRange>(corner)->setString("");
 }
 
-bool differs(const PictureSize& picture, const css::awt::Size& cells) {
+bool differs(const office::drawing::MetafileSize& picture, const css::awt::Size& cells) {
     return std::abs(picture.width - cells.Width) > closeEnough ||
            std::abs(picture.height - cells.Height) > closeEnough;
 }
 
 }  // namespace
 
-CellsPicture takePictureOfCells(SheetRecord& sheet,
-                                const uno::Reference<css::table::XCellRange>& cells,
-                                const model::CellBlock& block) {
+uno::Sequence<sal_Int8> takePictureOfCells(SheetRecord& sheet,
+                                           const uno::Reference<css::table::XCellRange>& cells,
+                                           const model::CellBlock& block,
+                                           const css::awt::Size& size) {
     const SelectedCells selected(sheet, cells);
     uno::Sequence<sal_Int8> metafile = selected.copyAs(metafileType);
-    const auto size = property<css::awt::Size>(cells, "Size");
-    if (differs(sizeOfMetafile(metafile), size)) {
+    if (differs(office::drawing::sizeOfMetafile(bytesOf(metafile)), size)) {
         allocateColumns(sheet, block);
         metafile = selected.copyAs(metafileType);
     }
@@ -50,7 +51,7 @@ CellsPicture takePictureOfCells(SheetRecord& sheet,
         throw office::Failure(office::FailureNumber::ApplicationDefined, "Range.CopyPicture",
                               "There is nothing to take a picture of");
     }
-    return {metafile, {size.Width, size.Height}};
+    return metafile;
 }
 
 }  // namespace libreoffice::excel

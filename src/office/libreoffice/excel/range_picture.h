@@ -5,17 +5,11 @@
 
 namespace libreoffice::excel {
 
-/// In the suite's own vector format, with the size of the cells.
-struct CellsPicture {
-    uno::Sequence<sal_Int8> metafile;
-    PictureSize size;
-};
-
-/// A picture of cells as they look on the sheet, charts on them included. The user's clipboard
-/// stays, his selection is put back. `office::Failure` 1004 if there is nothing to take a picture
-/// of.
-[[nodiscard]] CellsPicture takePictureOfCells(SheetRecord& sheet,
-                                              const uno::Reference<css::table::XCellRange>& cells,
-                                              const model::CellBlock& block);
+/// A picture of cells of this size as they look on the sheet, charts on them included, in the
+/// suite's own vector format. The user's clipboard stays, his selection is put back.
+/// `office::Failure` 1004 if there is nothing to take a picture of.
+[[nodiscard]] uno::Sequence<sal_Int8> takePictureOfCells(
+    SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& cells,
+    const model::CellBlock& block, const css::awt::Size& size);
 
 }  // namespace libreoffice::excel

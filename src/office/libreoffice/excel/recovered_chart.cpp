@@ -5,7 +5,6 @@
 #include <com/sun/star/io/XActiveDataSink.hpp>
 #include <com/sun/star/io/XInputStream.hpp>
 #include <com/sun/star/lang/XComponent.hpp>
-#include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/util/XChangesBatch.hpp>
 #include <com/sun/star/util/XCloseable.hpp>
@@ -35,13 +34,6 @@ namespace {
                                       sheet.knownName(), why));
 }
 
-uno::Reference<uno::XInterface> createWith(const Connection& connection, const char* service,
-                                           const uno::Any& argument) {
-    return connection.context()->getServiceManager()->createInstanceWithArgumentsAndContext(
-        rtl::OUString::createFromAscii(service), uno::Sequence<uno::Any>(&argument, 1),
-        connection.context());
-}
-
 /// Moves what begins left of or above the page to its edge. Empty if nothing does.
 std::string withoutNegativePlaces(const std::string& drawing) {
     pugi::xml_document document;
@@ -66,19 +58,17 @@ std::string withoutNegativePlaces(const std::string& drawing) {
 void replacePart(const Connection& connection, const rtl::OUString& package,
                  const std::string& part, const std::string& text) {
     // Told that it is a plain archive; it would look for an OpenDocument manifest otherwise.
-    uno::Sequence<uno::Any> arguments(2);
-    arguments[0] <<= package;
-    arguments[1] <<= css::beans::NamedValue("StorageFormat", uno::Any(rtl::OUString("ZipFormat")));
-    const auto zip =
-        connection.context()->getServiceManager()->createInstanceWithArgumentsAndContext(
-            "com.sun.star.packages.Package", arguments, connection.context());
+    const auto zip = connection.create(
+        "com.sun.star.packages.Package",
+        {uno::Any(package),
+         uno::Any(css::beans::NamedValue("StorageFormat", uno::Any(rtl::OUString("ZipFormat"))))});
     uno::Reference<css::io::XActiveDataSink> sink(
         as<css::container::XHierarchicalNameAccess>(zip)->getByHierarchicalName(toUno(part)),
         uno::UNO_QUERY_THROW);
     const uno::Sequence<sal_Int8> bytes(reinterpret_cast<const sal_Int8*>(text.data()),
                                         static_cast<sal_Int32>(text.size()));
     sink->setInputStream(as<css::io::XInputStream>(
-        createWith(connection, "com.sun.star.io.SequenceInputStream", uno::Any(bytes))));
+        connection.create("com.sun.star.io.SequenceInputStream", {uno::Any(bytes)})));
     as<css::util::XChangesBatch>(zip)->commitChanges();
 }
 

@@ -13,9 +13,10 @@ namespace {
     throw office::Failure(office::FailureNumber::ApplicationDefined, "Range.Copy", why);
 }
 
-CalcDocument& withWindow(CalcDocument& book) {
-    if (!book.controller().is()) failToCopy("The workbook has no window to copy from");
-    return book;
+uno::Reference<css::frame::XController> windowOf(const CalcDocument& book) {
+    auto window = book.controller();
+    if (!window.is()) failToCopy("The workbook has no window to copy from");
+    return window;
 }
 
 }  // namespace
@@ -35,9 +36,9 @@ ShownForNow::~ShownForNow() {
 
 SelectedCells::SelectedCells(SheetRecord& sheet,
                              const uno::Reference<css::table::XCellRange>& cells)
-    : book_(withWindow(sheet.book())),
+    : window_(windowOf(sheet.book())),
       shown_(sheet),
-      selection_(as<css::view::XSelectionSupplier>(book_.controller())),
+      selection_(as<css::view::XSelectionSupplier>(window_)),
       before_(selection_->getSelection()) {
     selection_->select(uno::Any(cells));
 }
@@ -49,8 +50,7 @@ SelectedCells::~SelectedCells() {
 /// Asked for by its name alone: the list of all offers, and the answer of one that is not offered,
 /// cost more than the copy.
 uno::Sequence<sal_Int8> SelectedCells::copyAs(const char* mimeType) const {
-    const auto copy =
-        as<css::datatransfer::XTransferableSupplier>(book_.controller())->getTransferable();
+    const auto copy = as<css::datatransfer::XTransferableSupplier>(window_)->getTransferable();
     if (!copy.is()) failToCopy("These cells can't be copied");
     const css::datatransfer::DataFlavor flavour(rtl::OUString::createFromAscii(mimeType), "",
                                                 cppu::UnoType<uno::Sequence<sal_Int8>>::get());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <com/sun/star/frame/XController.hpp>
 #include <com/sun/star/table/XCellRange.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
@@ -37,7 +38,7 @@ public:
     [[nodiscard]] uno::Sequence<sal_Int8> copyAs(const char* mimeType) const;
 
 private:
-    CalcDocument& book_;
+    uno::Reference<css::frame::XController> window_;
     ShownForNow shown_;
     uno::Reference<css::view::XSelectionSupplier> selection_;
     uno::Any before_;

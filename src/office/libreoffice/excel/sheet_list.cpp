@@ -1,8 +1,5 @@
 #include "office/libreoffice/excel/sheet_list.h"
 
-#include <com/sun/star/sheet/CellFlags.hpp>
-#include <com/sun/star/sheet/XCellRangesQuery.hpp>
-#include <com/sun/star/sheet/XSheetCellRanges.hpp>
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -15,20 +12,13 @@ namespace libreoffice::excel {
 
 namespace {
 
-bool hasContents(const SheetRecordPtr& sheet) {
-    const auto filled =
-        as<css::sheet::XCellRangesQuery>(sheet->sheet())
-            ->queryContentCells(css::sheet::CellFlags::VALUE | css::sheet::CellFlags::DATETIME |
-                                css::sheet::CellFlags::STRING | css::sheet::CellFlags::FORMULA);
-    return filled->getRangeAddresses().hasElements();
-}
-
 /// How a chart sheet arrives: no cells, and one chart in the corner.
 bool looksLikeChartSheet(const SheetRecordPtr& sheet) {
     const auto& charts = sheet->chartShapes().all();
     if (charts.size() != 1) return false;
     const css::awt::Point corner = charts.front()->shape()->getPosition();
-    return corner.X == 0 && corner.Y == 0 && !hasContents(sheet);
+    return corner.X == 0 && corner.Y == 0 &&
+           !filledParts(as<css::table::XCellRange>(sheet->sheet())).hasElements();
 }
 
 }  // namespace

@@ -2,7 +2,9 @@
 
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
+#include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XSheetCellRangeContainer.hpp>
+#include <com/sun/star/sheet/XSheetCellRanges.hpp>
 #include <com/sun/star/sheet/XUsedAreaCursor.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
@@ -197,14 +199,19 @@ model::SheetChartPtr SheetRecord::ownChart() {
 }
 
 PlaceOfCells placeOf(const uno::Reference<css::table::XCellRange>& cells) {
-    uno::Sequence<rtl::OUString> names(2);
-    names[0] = "Position";
-    names[1] = "Size";
-    const auto values = as<css::beans::XMultiPropertySet>(cells)->getPropertyValues(names);
+    const auto values =
+        as<css::beans::XMultiPropertySet>(cells)->getPropertyValues(namesOf({"Position", "Size"}));
     PlaceOfCells place;
     values[0] >>= place.corner;
     values[1] >>= place.size;
     return place;
+}
+
+uno::Sequence<css::table::CellRangeAddress> filledParts(
+    const uno::Reference<css::table::XCellRange>& cells) {
+    return as<css::sheet::XCellRangesQuery>(cells)
+        ->queryContentCells(contentsOfCells)
+        ->getRangeAddresses();
 }
 
 NamedRanges& SheetRecord::names() {

@@ -4,9 +4,11 @@
 #include <com/sun/star/awt/Size.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XNamed.hpp>
+#include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
 #include <com/sun/star/table/CellRangeAddress.hpp>
+#include <com/sun/star/table/XCellRange.hpp>
 
 #include <memory>
 #include <optional>
@@ -30,6 +32,14 @@ struct PlaceOfCells {
 };
 
 [[nodiscard]] PlaceOfCells placeOf(const uno::Reference<css::table::XCellRange>& cells);
+
+/// What is written into cells.
+constexpr auto contentsOfCells =
+    static_cast<sal_Int16>(css::sheet::CellFlags::VALUE | css::sheet::CellFlags::DATETIME |
+                           css::sheet::CellFlags::STRING | css::sheet::CellFlags::FORMULA);
+/// Where in a range something is written.
+[[nodiscard]] uno::Sequence<css::table::CellRangeAddress> filledParts(
+    const uno::Reference<css::table::XCellRange>& cells);
 
 /// A column or a row, in 1/100 mm. As long as none was seen: one that a new sheet has.
 struct SeenLine {

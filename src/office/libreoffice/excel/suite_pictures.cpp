@@ -7,12 +7,11 @@
 #include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
 #include <com/sun/star/frame/XLoadable.hpp>
 #include <com/sun/star/frame/XModel.hpp>
-#include <com/sun/star/io/XInputStream.hpp>
-#include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/util/XCloseable.hpp>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -89,20 +88,6 @@ void writePng(const uno::Reference<css::document::XExporter>& exporter, const Fi
     requirePngFile(path);
 }
 
-uno::Sequence<rtl::OUString> areaProperties() {
-    uno::Sequence<rtl::OUString> names(3);
-    names[0] = "FillStyle";
-    names[1] = "FillTransparence";
-    names[2] = "FillTransparenceGradientName";
-    return names;
-}
-
-std::uint32_t wordAt(const uno::Sequence<sal_Int8>& bytes, sal_Int32 at) {
-    std::uint32_t word = 0;
-    for (sal_Int32 i = 3; i >= 0; --i) word = word << 8U | static_cast<std::uint8_t>(bytes[at + i]);
-    return word;
-}
-
 }  // namespace
 
 PixelSize pixelsOf(const PictureSize& size, office::Sharpness sharpness) {
@@ -111,12 +96,24 @@ PixelSize pixelsOf(const PictureSize& size, office::Sharpness sharpness) {
     return {screen.width * dots, screen.height * dots};
 }
 
-bool isOpaque(const uno::Reference<css::drawing::XShape>& chart) {
-    const auto model = property<uno::Reference<css::frame::XModel>>(chart, "Model");
-    const auto document = tryAs<css::chart::XChartDocument>(model);
+ChartLook lookOf(const uno::Reference<css::drawing::XShape>& chart) {
+    const auto shown =
+        as<css::beans::XMultiPropertySet>(chart)->getPropertyValues(namesOf({"Graphic", "Model"}));
+    ChartLook look;
+    shown[0] >>= look.graphic;
+    if (!look.graphic.is())
+        throw office::Failure(office::FailureNumber::ApplicationDefined, "Chart",
+                              "LibreOffice shows nothing of the chart");
+    shown[1] >>= look.model;
+    return look;
+}
+
+bool isOpaque(const ChartLook& chart) {
+    const auto document = tryAs<css::chart::XChartDocument>(chart.model);
     if (!document.is()) return true;
-    const auto area =
-        as<css::beans::XMultiPropertySet>(document->getArea())->getPropertyValues(areaProperties());
+    const auto area = as<css::beans::XMultiPropertySet>(document->getArea())
+                          ->getPropertyValues(namesOf(
+                              {"FillStyle", "FillTransparence", "FillTransparenceGradientName"}));
     css::drawing::FillStyle fill = css::drawing::FillStyle_SOLID;
     sal_Int16 transparence = 0;
     rtl::OUString gradient;
@@ -124,15 +121,6 @@ bool isOpaque(const uno::Reference<css::drawing::XShape>& chart) {
     area[1] >>= transparence;
     area[2] >>= gradient;
     return fill != css::drawing::FillStyle_NONE && transparence == 0 && gradient.isEmpty();
-}
-
-uno::Reference<css::graphic::XGraphic> graphicOfChart(
-    const uno::Reference<css::drawing::XShape>& chart) {
-    auto graphic = property<uno::Reference<css::graphic::XGraphic>>(chart, "Graphic");
-    if (!graphic.is())
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "Chart",
-                              "LibreOffice shows nothing of the chart");
-    return graphic;
 }
 
 /// The drawing that opaque pictures are laid on: one page, one shape as large as the page.
@@ -151,13 +139,8 @@ struct SuitePictures::Page {
 
 void SuitePictures::Page::resize(const css::awt::Size& wanted) {
     if (wanted.Width == size.Width && wanted.Height == size.Height) return;
-    uno::Sequence<rtl::OUString> names(2);
-    names[0] = "Width";
-    names[1] = "Height";
-    uno::Sequence<uno::Any> values(2);
-    values[0] <<= wanted.Width;
-    values[1] <<= wanted.Height;
-    page->setPropertyValues(names, values);
+    const std::array values = {uno::Any(wanted.Height), uno::Any(wanted.Width)};
+    page->setPropertyValues(namesOf({"Height", "Width"}), {values.data(), values.size()});
     shape->setSize(wanted);
     size = wanted;
 }
@@ -230,8 +213,9 @@ void SuitePictures::writeChart(const uno::Reference<css::drawing::XShape>& chart
                                const std::string& path) {
     const css::awt::Size shapeSize = chart->getSize();
     const PictureSize size{shapeSize.Width, shapeSize.Height};
-    if (isOpaque(chart)) {
-        writePage(graphicOfChart(chart), size, path);
+    const ChartLook look = lookOf(chart);
+    if (isOpaque(look)) {
+        writePage(look.graphic, size, path);
     } else {
         writePng(exporterOf(chart), pngSettings(ScreenSize(size), size, true), path);
     }
@@ -242,33 +226,21 @@ void SuitePictures::writeMetafile(const uno::Sequence<sal_Int8>& metafile, const
     writePage(graphicOf(metafile), size, path);
 }
 
-const uno::Reference<css::graphic::XGraphicProvider>& SuitePictures::graphics() {
-    if (!graphics_.is()) {
-        graphics_ = as<css::graphic::XGraphicProvider>(
-            connection_->create("com.sun.star.graphic.GraphicProvider"));
-    }
-    return graphics_;
-}
-
 uno::Reference<css::graphic::XGraphic> SuitePictures::graphicOf(
     const uno::Sequence<sal_Int8>& metafile) {
     if (!metafile.hasElements()) return {};
-    const uno::Any bytes(metafile);
     const auto stream =
-        connection_->context()->getServiceManager()->createInstanceWithArgumentsAndContext(
-            "com.sun.star.io.SequenceInputStream", uno::Sequence<uno::Any>(&bytes, 1),
-            connection_->context());
-    return graphics()->queryGraphic(
-        propertyValues({{"InputStream", uno::Any(as<css::io::XInputStream>(stream))}}));
+        connection_->create("com.sun.star.io.SequenceInputStream", {uno::Any(metafile)});
+    return connection_->graphics()->queryGraphic(
+        propertyValues({{"InputStream", uno::Any(stream)}}));
 }
 
 uno::Sequence<sal_Int8> SuitePictures::metafileOf(
-    const uno::Reference<css::drawing::XShape>& chart) {
+    const uno::Reference<css::graphic::XGraphic>& graphic) {
     // Not by an exporter: it scales all that is drawn, labels that reach out of the chart too, to
     // the size of the shape.
-    const auto graphic = graphicOfChart(chart);
     const std::string bytes = writtenBy([&](const std::string& file) {
-        graphics()->storeGraphic(
+        connection_->graphics()->storeGraphic(
             graphic, propertyValues({{"URL", uno::Any(fileUrl(file))},
                                      {"MimeType", uno::Any(rtl::OUString("image/x-svm"))}}));
     });
@@ -279,7 +251,7 @@ std::string SuitePictures::svgOfChart(const uno::Reference<css::drawing::XShape>
     const css::awt::Size size = chart->getSize();
     // Not the chart's own vectors: the exporter scales all that is drawn, labels that reach out
     // of the chart too, to the size of the shape.
-    return svgOfPage(graphicOfChart(chart), {size.Width, size.Height});
+    return svgOfPage(lookOf(chart).graphic, {size.Width, size.Height});
 }
 
 std::string SuitePictures::svgOfMetafile(const uno::Sequence<sal_Int8>& metafile,
@@ -342,21 +314,6 @@ std::string SuitePictures::emfOfMetafile(const uno::Sequence<sal_Int8>& metafile
 std::string_view bytesOf(const uno::Sequence<sal_Int8>& metafile) {
     return {reinterpret_cast<const char*>(metafile.getConstArray()),
             static_cast<std::size_t>(metafile.getLength())};
-}
-
-PictureSize sizeOfMetafile(const uno::Sequence<sal_Int8>& metafile) {
-    // Magic, head, compression; then the unit block, which gives its own length; then the size.
-    constexpr sal_Int32 unitBlock = 6 + 6 + 4;
-    constexpr sal_Int32 blockHead = 6;
-    constexpr sal_Int32 shortest = 64;
-    if (metafile.getLength() < shortest || metafile[0] != 'V' || metafile[1] != 'C') return {};
-    const auto unitLength = wordAt(metafile, unitBlock + 2);
-    const bool isHundredthMm =
-        metafile[unitBlock + blockHead] == 0 && metafile[unitBlock + blockHead + 1] == 0;
-    const auto at = static_cast<std::int64_t>(unitBlock + blockHead) + unitLength;
-    if (!isHundredthMm || at + 8 > metafile.getLength()) return {};
-    return {static_cast<std::int32_t>(wordAt(metafile, static_cast<sal_Int32>(at))),
-            static_cast<std::int32_t>(wordAt(metafile, static_cast<sal_Int32>(at) + 4))};
 }
 
 }  // namespace libreoffice::excel

@@ -4,7 +4,6 @@
 #include <com/sun/star/document/XExporter.hpp>
 #include <com/sun/star/drawing/XShape.hpp>
 #include <com/sun/star/graphic/XGraphic.hpp>
-#include <com/sun/star/graphic/XGraphicProvider.hpp>
 
 #include <cstdint>
 #include <functional>
@@ -65,9 +64,9 @@ public:
     [[nodiscard]] std::string emfOfMetafile(const uno::Sequence<sal_Int8>& metafile,
                                             const PictureSize& size);
 
-    /// A chart in the suite's own vector format, as a range is copied.
+    /// What a chart shows in the suite's own vector format, as a range is copied.
     [[nodiscard]] uno::Sequence<sal_Int8> metafileOf(
-        const uno::Reference<css::drawing::XShape>& chart);
+        const uno::Reference<css::graphic::XGraphic>& graphic);
     /// A copied picture as shapes show it; none if it is empty.
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphicOf(
         const uno::Sequence<sal_Int8>& metafile);
@@ -76,7 +75,6 @@ private:
     struct Page;
 
     Page& page();
-    [[nodiscard]] const uno::Reference<css::graphic::XGraphicProvider>& graphics();
     void layOnPage(const uno::Reference<css::graphic::XGraphic>& graphic,
                    const css::awt::Size& size);
     /// A page or a shape as it is.
@@ -95,20 +93,18 @@ private:
     std::unique_ptr<Page> page_;
     std::unique_ptr<PrivateFolder> folder_;
     uno::Reference<css::document::XExporter> shapeExporter_;
-    uno::Reference<css::graphic::XGraphicProvider> graphics_;
 };
 
-/// What a chart shows. `office::Failure` 1004 if that is nothing, as of one that has gone.
-[[nodiscard]] uno::Reference<css::graphic::XGraphic> graphicOfChart(
-    const uno::Reference<css::drawing::XShape>& chart);
+struct ChartLook {
+    uno::Reference<css::graphic::XGraphic> graphic;
+    uno::Reference<uno::XInterface> model;
+};
+/// `office::Failure` 1004 if a chart shows nothing, such as one that has gone.
+[[nodiscard]] ChartLook lookOf(const uno::Reference<css::drawing::XShape>& chart);
 
-/// Whether a chart covers all of its area.
-[[nodiscard]] bool isOpaque(const uno::Reference<css::drawing::XShape>& chart);
+/// Whether it covers all of its area.
+[[nodiscard]] bool isOpaque(const ChartLook& chart);
 
 [[nodiscard]] std::string_view bytesOf(const uno::Sequence<sal_Int8>& metafile);
-
-/// The size that a metafile gives for itself, in hundredths of a millimetre; 0 by 0 if it gives
-/// none in that unit.
-[[nodiscard]] PictureSize sizeOfMetafile(const uno::Sequence<sal_Int8>& metafile);
 
 }  // namespace libreoffice::excel

@@ -5,9 +5,6 @@
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/ConditionEntryType.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
-#include <com/sun/star/sheet/XConditionEntry.hpp>
-#include <com/sun/star/sheet/XConditionalFormat.hpp>
-#include <com/sun/star/sheet/XConditionalFormats.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
 #include <com/sun/star/text/XText.hpp>
 
@@ -16,6 +13,7 @@
 #include <memory>
 
 #include "office/item_remarks.h"
+#include "office/libreoffice/excel/data_bars.h"
 #include "office/libreoffice/excel/table_of_cells.h"
 
 namespace libreoffice::excel {
@@ -72,23 +70,12 @@ std::vector<Frame> framesOn(const SheetRecord& sheet) {
 
 /// The cells whose conditional formats draw icons.
 std::vector<CellBlock> blocksWithIcons(const SheetRecord& sheet) {
-    std::vector<CellBlock> blocks;
-    const auto formats = property<uno::Reference<css::sheet::XConditionalFormats>>(
-        sheet.sheet(), "ConditionalFormats");
-    if (!formats.is()) return blocks;
-    const auto all = formats->getConditionalFormats();
-    for (const auto& format : all) {
-        bool hasIcons = false;
-        for (sal_Int32 i = 0; i < format->getCount() && !hasIcons; ++i) {
-            const uno::Reference<css::sheet::XConditionEntry> entry(format->getByIndex(i),
-                                                                    uno::UNO_QUERY_THROW);
-            hasIcons = entry->getType() == css::sheet::ConditionEntryType::ICONSET;
-        }
-        if (!hasIcons) continue;
-        const auto ranges = property<uno::Reference<css::sheet::XSheetCellRanges>>(format, "Range");
-        for (const auto& address : ranges->getRangeAddresses()) blocks.push_back(blockOf(address));
-    }
-    return blocks;
+    constexpr CellBlock all = {0, 0, CellBlock::lastColumnOfSheet, CellBlock::lastRowOfSheet};
+    std::vector<CellBlock> found;
+    for (const auto& [blocks, entry] :
+         conditionsOn(sheet, all, css::sheet::ConditionEntryType::ICONSET))
+        found.insert(found.end(), blocks.begin(), blocks.end());
+    return found;
 }
 
 /// Whether parts of a cell's text look different. The suite calls a look ambiguous then, whichever

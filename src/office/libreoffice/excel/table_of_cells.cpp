@@ -1,6 +1,5 @@
 #include "office/libreoffice/excel/table_of_cells.h"
 
-#include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XConditionalFormats.hpp>
 #include <com/sun/star/sheet/XSheetCellCursor.hpp>
@@ -266,7 +265,7 @@ private:
     const CellFormats& formats_;
     std::vector<CellLook> cells_;
     std::vector<CellValue> values_;
-    /// Whether they are what they are to be.
+    /// Whether each is finished.
     std::vector<bool> isPut_;
 };
 
@@ -314,11 +313,7 @@ TableLook withoutUnseenLines(const TableLook& table) {
 
 /// Whether nothing is seen of cells. Conditions may dress up empty ones too.
 bool areBlank(SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& cells) {
-    namespace Flags = css::sheet::CellFlags;
-    constexpr auto contents =
-        static_cast<sal_Int16>(Flags::VALUE | Flags::DATETIME | Flags::STRING | Flags::FORMULA);
-    const auto filled = as<css::sheet::XCellRangesQuery>(cells)->queryContentCells(contents);
-    if (filled->getRangeAddresses().hasElements()) return false;
+    if (filledParts(cells).hasElements()) return false;
     const CellFormats formats = readCellFormats(cells, {});
     const auto isSeen = [](const CellFormat& format) {
         const CellLook& look = format.look;

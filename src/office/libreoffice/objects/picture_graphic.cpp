@@ -1,7 +1,5 @@
 #include "office/libreoffice/objects/picture_graphic.h"
 
-#include <com/sun/star/graphic/XGraphicProvider.hpp>
-#include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <fmt/format.h>
 
 #include <cmath>
@@ -21,13 +19,6 @@ namespace libreoffice {
 namespace {
 
 constexpr const char* member = "AddPicture";
-
-uno::Reference<css::graphic::XGraphic> query(
-    const Connection& connection, const uno::Sequence<css::beans::PropertyValue>& source) {
-    return as<css::graphic::XGraphicProvider>(
-               connection.create("com.sun.star.graphic.GraphicProvider"))
-        ->queryGraphic(source);
-}
 
 /// None if the file holds something else.
 std::optional<office::VectorFile> vectorsIn(const std::string& file) {
@@ -59,11 +50,9 @@ uno::Reference<css::graphic::XGraphic> graphicOf(const Connection& connection,
     const uno::Any argument(uno::Sequence<sal_Int8>(
         reinterpret_cast<const sal_Int8*>(bytes.data()),  // NOLINT: as UNO's
         static_cast<sal_Int32>(bytes.size())));
-    const auto stream =
-        connection.context()->getServiceManager()->createInstanceWithArgumentsAndContext(
-            "com.sun.star.io.SequenceInputStream", {&argument, 1}, connection.context());
-    return query(connection,
-                 propertyValues({{"InputStream", uno::Any(stream)}, {"LazyRead", uno::Any(true)}}));
+    const auto stream = connection.create("com.sun.star.io.SequenceInputStream", {argument});
+    return connection.graphics()->queryGraphic(
+        propertyValues({{"InputStream", uno::Any(stream)}, {"LazyRead", uno::Any(true)}}));
 }
 
 /// LibreOffice makes an SVG larger by a pixel of a screen than it says.
@@ -72,9 +61,9 @@ FilePicture pictureOfFile(const Connection& connection, const std::string& file)
         throw office::Failure(office::FailureNumber::FileNotFound, member,
                               fmt::format("There is no file \"{}\"", file));
     const auto vectors = vectorsIn(file);
-    const auto graphic =
-        vectors ? graphicOf(connection, vectors->bytes)
-                : query(connection, propertyValues({{"URL", uno::Any(fileUrl(file))}}));
+    const auto graphic = vectors ? graphicOf(connection, vectors->bytes)
+                                 : connection.graphics()->queryGraphic(
+                                       propertyValues({{"URL", uno::Any(fileUrl(file))}}));
     if (!graphic.is())
         throw office::Failure(office::FailureNumber::ApplicationDefined, member,
                               fmt::format("\"{}\" holds no picture that LibreOffice reads", file));

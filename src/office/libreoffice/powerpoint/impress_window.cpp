@@ -5,7 +5,7 @@
 #include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/drawing/framework/ResourceId.hpp>
 #include <com/sun/star/drawing/framework/XControllerManager.hpp>
-#include <com/sun/star/frame/DispatchHelper.hpp>
+#include <com/sun/star/frame/XDispatchHelper.hpp>
 #include <com/sun/star/frame/XDispatchProvider.hpp>
 #include <com/sun/star/frame/XFrame.hpp>
 #include <fmt/format.h>
@@ -244,7 +244,7 @@ void ImpressWindow::pasteOnto(ImpressSlide& slide, sal_uInt32 format) {
 void ImpressWindow::dispatch(const char* command,
                              const uno::Sequence<css::beans::PropertyValue>& arguments) {
     const auto frame = as<css::frame::XDispatchProvider>(controller()->getFrame());
-    css::frame::DispatchHelper::create(deck_.connection().context())
+    as<css::frame::XDispatchHelper>(deck_.connection().create("com.sun.star.frame.DispatchHelper"))
         ->executeDispatch(frame, rtl::OUString::createFromAscii(command), rtl::OUString(), 0,
                           arguments);
 }

@@ -16,15 +16,13 @@ constexpr const char* source = "Shapes.AddPicture";
 
 void show(const Connection& connection, const uno::Reference<css::beans::XPropertySet>& shape,
           const std::string& png) {
-    try {
+    translated(connection, source, [&] {
         const auto graphic = graphicOf(connection, png);
         if (!graphic.is())
             throw office::Failure(office::FailureNumber::ApplicationDefined, source,
                                   "LibreOffice could not read the picture");
         shape->setPropertyValue("Graphic", uno::Any(graphic));
-    } catch (const uno::Exception&) {
-        throwTranslated(connection, source);
-    }
+    });
 }
 
 }  // namespace
@@ -62,7 +60,15 @@ void LatePictures::wait() {
 
 void LatePictures::settle() {
     wait();
-    if (const auto failure = std::exchange(firstFailure_, nullptr)) std::rethrow_exception(failure);
+    const auto failure = std::exchange(firstFailure_, nullptr);
+    if (!failure) return;
+    try {
+        std::rethrow_exception(failure);
+    } catch (const office::SuiteLost&) {
+        throw;
+    } catch (const std::exception& error) {
+        throw office::Failure(office::FailureNumber::ApplicationDefined, source, error.what());
+    }
 }
 
 }  // namespace libreoffice::powerpoint

@@ -32,8 +32,8 @@ public:
     }
     /// Waits until none is under way.
     void wait();
-    /// The same, and tells what went wrong since the last time: `office::Failure` 1004 if one could
-    /// not be drawn, `office::SuiteLost`.
+    /// The same, and tells what went wrong since the last time: `office::Failure` 1004 of
+    /// "Shapes.AddPicture" if one could not be drawn, `office::SuiteLost`.
     void settle();
 
 private:

@@ -29,8 +29,8 @@ private:
     ShapeRef shape_;
 };
 
-/// What `ImpressSlide::paste` makes, each on top of the slide's other shapes, in the size given.
-/// `office::Failure` 1004 if it can't be made; then nothing is put there.
+// What `ImpressSlide::paste` makes, each on top of the slide's other shapes, in the size given.
+// `office::Failure` 1004 if it can't be made; then nothing is put there.
 
 /// A chart with data of its own. Neither the clipboard nor a window is touched.
 [[nodiscard]] ShapeRef addChart(ImpressSlide& slide, const excel::CopiedChart& chart,
