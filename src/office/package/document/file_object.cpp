@@ -70,10 +70,12 @@ void setShadowIn(pugi::xml_node looks, const word::ObjectShadow& shadow) {
 
 }  // namespace
 
-word::Anchoring FileObject::anchoring() const {
-    const bool isOver = localName(element_) == "anchor" || floats(vmlShapeIn(element_));
-    return isOver ? word::Anchoring::Floating : word::Anchoring::Inline;
-}
+FileObject::FileObject(FileDocument& document, pugi::xml_node element)
+    : document_(document),
+      element_(element),
+      anchoring_(localName(element) == "anchor" || floats(vmlShapeIn(element))
+                     ? word::Anchoring::Floating
+                     : word::Anchoring::Inline) {}
 
 word::ObjectSize FileObject::size() {
     if (const auto shape = vmlShapeIn(element_)) return sizeOf(shape);

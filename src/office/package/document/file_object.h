@@ -17,12 +17,10 @@ class FileDocument;
 class FileObject : public word::TextObject, public std::enable_shared_from_this<FileObject> {
 public:
     /// `element` is as in `isTextObject`.
-    FileObject(FileDocument& document, pugi::xml_node element)
-        : document_(document),
-          element_(element) {}
+    FileObject(FileDocument& document, pugi::xml_node element);
 
     [[nodiscard]] pugi::xml_node element() const { return element_; }
-    [[nodiscard]] word::Anchoring anchoring() const override;
+    [[nodiscard]] word::Anchoring anchoring() const override { return anchoring_; }
     void markGone() { isGone_ = true; }
 
     [[nodiscard]] bool isGone() const override { return isGone_; }
@@ -41,6 +39,8 @@ private:
 
     FileDocument& document_;
     pugi::xml_node element_;
+    /// Read once, since each count of objects asks all of them. Nothing here changes it.
+    word::Anchoring anchoring_;
     bool isGone_ = false;
 };
 

@@ -65,7 +65,7 @@ public:
         for (const long long width : widths_)
             add(grid, "w:gridCol").append_attribute("w:w").set_value(width);
         const auto heights = roundedLengths(look_.rowHeightsPt, scale_ * twipsPerPoint);
-        const auto origins = cellOrigins(look_);
+        const auto origins = cellOrigins(look_, measure_);
         for (std::size_t row = 0; row < heights.size(); ++row) {
             auto element = add(table, "w:tr");
             auto rowProperties = add(element, "w:trPr");
@@ -83,7 +83,7 @@ private:
     void writeCell(pugi::xml_node element, const CellOrigin& origin, std::size_t row) const {
         const CellLook& cell = look_.at(origin.row, origin.column);
         const bool isBelow = row > origin.row;
-        const TextFit fit = textFit(look_, origin, measure_);
+        const TextFit& fit = origin.fit;
         auto properties = add(element, "w:tcPr");
         long long width = 0;
         for (std::size_t i = 0; i < static_cast<std::size_t>(cell.columns); ++i)

@@ -27,41 +27,12 @@ void giveRoomAside(const CellLook& cell, TextFit& fit) {
     if (cell.across == CellLook::Across::Centre) fit.leftPt = fit.rightPt = 0;
 }
 
-}  // namespace
-
-std::vector<CellOrigin> cellOrigins(const TableLook& look) {
-    const std::size_t columns = look.columnWidthsPt.size();
-    std::vector<CellOrigin> origins(look.cells.size());
-    for (std::size_t row = 0; row < look.rowHeightsPt.size(); ++row) {
-        for (std::size_t column = 0; column < columns; ++column) {
-            const CellLook& cell = look.at(row, column);
-            if (cell.isCovered) continue;
-            for (std::size_t down = 0; down < static_cast<std::size_t>(cell.rows); ++down) {
-                for (std::size_t i = 0; i < static_cast<std::size_t>(cell.columns); ++i)
-                    origins.at((row + down) * columns + column + i) = {row, column};
-            }
-        }
-    }
-    return origins;
-}
-
-std::vector<long long> roundedLengths(const std::vector<double>& lengthsPt, double unitsPerPt) {
-    std::vector<long long> all;
-    double endPt = 0;
-    long long end = 0;
-    for (const double length : lengthsPt) {
-        endPt += length;
-        all.push_back(std::llround(endPt * unitsPerPt) - end);
-        end += all.back();
-    }
-    return all;
-}
-
-TextFit textFit(const TableLook& look, const CellOrigin& origin, const MeasureText& measure) {
-    const CellLook& cell = look.at(origin.row, origin.column);
+TextFit textFit(const TableLook& look, std::size_t row, std::size_t column,
+                const MeasureText& measure) {
+    const CellLook& cell = look.at(row, column);
     TextFit fit;
-    const double widthPt = sum(look.columnWidthsPt, origin.column, cell.columns);
-    const double heightPt = sum(look.rowHeightsPt, origin.row, cell.rows);
+    const double widthPt = sum(look.columnWidthsPt, column, cell.columns);
+    const double heightPt = sum(look.rowHeightsPt, row, cell.rows);
     fit.sizePt = cell.fontSizePt;
     if (cell.across == CellLook::Across::Left) fit.leftPt += cell.indentPt;
     if (cell.across == CellLook::Across::Right) fit.rightPt += cell.indentPt;
@@ -83,6 +54,37 @@ TextFit textFit(const TableLook& look, const CellOrigin& origin, const MeasureTe
         fit.bottomPt = std::min(sparePt, marginPt);
     }
     return fit;
+}
+
+}  // namespace
+
+std::vector<CellOrigin> cellOrigins(const TableLook& look, const MeasureText& measure) {
+    const std::size_t columns = look.columnWidthsPt.size();
+    std::vector<CellOrigin> origins(look.cells.size());
+    for (std::size_t row = 0; row < look.rowHeightsPt.size(); ++row) {
+        for (std::size_t column = 0; column < columns; ++column) {
+            const CellLook& cell = look.at(row, column);
+            if (cell.isCovered) continue;
+            const CellOrigin own{row, column, textFit(look, row, column, measure)};
+            for (std::size_t down = 0; down < static_cast<std::size_t>(cell.rows); ++down) {
+                for (std::size_t i = 0; i < static_cast<std::size_t>(cell.columns); ++i)
+                    origins.at((row + down) * columns + column + i) = own;
+            }
+        }
+    }
+    return origins;
+}
+
+std::vector<long long> roundedLengths(const std::vector<double>& lengthsPt, double unitsPerPt) {
+    std::vector<long long> all;
+    double endPt = 0;
+    long long end = 0;
+    for (const double length : lengthsPt) {
+        endPt += length;
+        all.push_back(std::llround(endPt * unitsPerPt) - end);
+        end += all.back();
+    }
+    return all;
 }
 
 CellLook::Across alignmentAlong(const CellLook& cell) {

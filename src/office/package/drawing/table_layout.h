@@ -12,18 +12,6 @@ namespace office::package {
 /// No characters are smaller, in points.
 inline constexpr double smallestSizePt = 1;
 
-/// Where the cell begins that a place of the grid belongs to.
-struct CellOrigin {
-    std::size_t row = 0;
-    std::size_t column = 0;
-};
-/// Row by row, one for each place.
-[[nodiscard]] std::vector<CellOrigin> cellOrigins(const TableLook& look);
-
-/// Lengths one after another in another unit, rounded so that their sum is the rounded sum.
-[[nodiscard]] std::vector<long long> roundedLengths(const std::vector<double>& lengthsPt,
-                                                    double unitsPerPt);
-
 /// How a text stands in its cell, in points of the sheet.
 struct TextFit {
     /// Between the cell's edges and its text: as little as a sheet has.
@@ -35,9 +23,21 @@ struct TextFit {
     /// Of the usual distance between lines.
     double spacing = 1;
 };
-/// A row that is lower than its texts would grow, so they come as close as they have to.
-[[nodiscard]] TextFit textFit(const TableLook& look, const CellOrigin& origin,
-                              const MeasureText& measure);
+
+/// The cell that a place of the grid belongs to: where it begins, and how its text stands there.
+struct CellOrigin {
+    std::size_t row = 0;
+    std::size_t column = 0;
+    TextFit fit;
+};
+/// Row by row, one for each place. A row that is lower than its texts would grow, so they come as
+/// close as they have to.
+[[nodiscard]] std::vector<CellOrigin> cellOrigins(const TableLook& look,
+                                                  const MeasureText& measure);
+
+/// Lengths one after another in another unit, rounded so that their sum is the rounded sum.
+[[nodiscard]] std::vector<long long> roundedLengths(const std::vector<double>& lengthsPt,
+                                                    double unitsPerPt);
 
 /// Along the lines of the text, which run upwards or downwards in a cell that is turned.
 [[nodiscard]] CellLook::Across alignmentAlong(const CellLook& cell);

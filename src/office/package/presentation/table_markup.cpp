@@ -42,7 +42,7 @@ public:
         for (const long long width : roundedLengths(look_.columnWidthsPt, scale_ * emuPerPoint))
             grid.append_child("a:gridCol").append_attribute("w").set_value(width);
         const auto heights = roundedLengths(look_.rowHeightsPt, scale_ * emuPerPoint);
-        const std::vector<CellOrigin> origins = cellOrigins(look_);
+        const std::vector<CellOrigin> origins = cellOrigins(look_, measure_);
         for (std::size_t row = 0; row < heights.size(); ++row) {
             auto element = table.append_child("a:tr");
             element.append_attribute("h").set_value(heights[row]);
@@ -65,7 +65,7 @@ private:
             element.append_attribute("gridSpan").set_value(cell.columns);
         if (isRight) element.append_attribute("hMerge").set_value("1");
         if (isBelow) element.append_attribute("vMerge").set_value("1");
-        const TextFit fit = textFit(look_, origin, measure_);
+        const TextFit& fit = origin.fit;
         auto body = element.append_child("a:txBody");
         body.append_child("a:bodyPr");
         body.append_child("a:lstStyle");
