@@ -1,5 +1,6 @@
 #include "office/package/office_file.h"
 #include "office/package/presentation/file_deck.h"
+#include "office/package/zip_bytes.h"
 #include "run_stage.h"
 #include "support/package_edit.h"
 #include "support/written_decks.h"
@@ -37,14 +38,6 @@ protected:
         package.setContentType(mainPart, macroType);
         package.add("/ppt/vbaProject.bin", "application/vnd.ms-office.vbaProject", "macros");
         package.relationshipsOf(mainPart).add(office::package::macroProject, "/ppt/vbaProject.bin");
-    }
-    /// A file in the container of the older formats, which names one stream.
-    static std::string containerOf(const std::string& stream) {
-        std::string entry(128, '\0');
-        for (std::size_t i = 0; i < stream.size(); ++i) entry[2 * i] = stream[i];
-        entry[64] = static_cast<char>(2 * stream.size() + 2);
-        entry[66] = 2;
-        return "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1" + std::string(120, '\0') + entry;
     }
 };
 
@@ -105,7 +98,7 @@ TEST_F(DeckFileTest, GoesThroughTheSuiteWhereItIsStrict) {
 TEST_F(DeckFileTest, IsRefusedAheadOfTheSuiteWhereNothingOpensIt) {
     const std::string whole = folder.read("Deck.pptx");
     for (const auto& [bytes, reason] :
-         {std::pair(containerOf("EncryptedPackage"), "encrypted with a password"),
+         {std::pair(zip_bytes::compoundFile({"EncryptedPackage"}), "encrypted with a password"),
           std::pair(whole.substr(0, whole.size() / 2), "Deck.pptx can't be opened: ")}) {
         folder.write("Deck.pptx", bytes);
         EXPECT_EQ(exportWith(), 1);

@@ -1,17 +1,14 @@
 #pragma once
 
-#include <string>
-#include <utility>
+#include <string_view>
 
 #include "catalogue/export_list.h"
+#include "session_doubles/item.h"
 
 using catalogue::ItemKind;
 
-inline catalogue::ExportItem rowOf(std::string name, std::string sheet, ItemKind kind) {
-    catalogue::ExportItem row;
-    row.name = std::move(name);
-    row.sheet = std::move(sheet);
-    row.kind = kind;
+inline catalogue::ExportItem rowOf(std::string_view name, std::string_view sheet, ItemKind kind) {
+    catalogue::ExportItem row = session_doubles::item(kind, name, sheet);
     row.checked = false;
     return row;
 }

@@ -5,6 +5,7 @@
 
 #include "catalogue/inventory.h"
 #include "session/workbook_store.h"
+#include "session_doubles/item.h"
 #include "session_doubles/test_session.h"
 
 namespace catalogue_tests {
@@ -33,11 +34,8 @@ struct LoadedList {
 
 inline catalogue::ExportItem row(const std::string& name, const std::string& sheet, ItemKind kind,
                                  bool checked = true) {
-    catalogue::ExportItem made;
-    made.name = name;
+    catalogue::ExportItem made = session_doubles::item(kind, name, sheet);
     made.checked = checked;
-    made.sheet = sheet;
-    made.kind = kind;
     return made;
 }
 

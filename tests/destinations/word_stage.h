@@ -5,6 +5,7 @@
 #include "catalogue/export_list.h"
 #include "office_double/suite.h"
 #include "office_double/word/application.h"
+#include "session_doubles/item.h"
 #include "session_doubles/test_session.h"
 
 namespace stage {
@@ -23,12 +24,7 @@ protected:
 
     void add(const char* name, const char* sheet, const char* caption,
              session::ItemKind kind = session::ItemKind::Chart) {
-        session::ExportItem row;
-        row.name = name;
-        row.sheet = sheet;
-        row.caption = caption;
-        row.kind = kind;
-        list.rows.push_back(row);
+        list.rows.push_back(session_doubles::item(kind, name, sheet, caption));
     }
     /// One of each kind; the range and the first chart have the same caption.
     void addOfEachKind() {

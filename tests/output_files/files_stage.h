@@ -11,6 +11,7 @@
 #include "destinations/row_walk.h"
 #include "office_double/suite.h"
 #include "session/office_session.h"
+#include "session_doubles/item.h"
 #include "session_doubles/recording_notices.h"
 #include "session_doubles/recording_progress.h"
 #include "support/automation.h"
@@ -63,12 +64,9 @@ protected:
 
     catalogue::ExportItem& add(ItemKind kind, const std::string& name, const std::string& sheet,
                                const std::string& caption = "") {
-        catalogue::ExportItem row;
-        row.kind = kind;
-        row.name = kind == ItemKind::ChartSheet ? std::string(session::chartSheetText) : name;
-        row.sheet = sheet;
-        row.caption = caption;
-        return list.rows.emplace_back(std::move(row));
+        const bool isSheet = kind == ItemKind::ChartSheet;
+        return list.rows.emplace_back(session_doubles::item(
+            kind, isSheet ? session::chartSheetText : name.c_str(), sheet, caption));
     }
     /// A chart that the workbook has.
     void addChart(const std::string& name, const std::string& sheet,

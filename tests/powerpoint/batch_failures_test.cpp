@@ -81,16 +81,4 @@ TEST(BatchFailures, DoNotKeepTheRestFromBeingPutBack) {
     EXPECT_EQ(window.get("ViewType").toLong(), 7);
 }
 
-TEST(BatchFailures, ALostSuitePassesThroughWhereverItHappens) {
-    Fresh whole;
-    whole.exportRows();
-    const int calls = static_cast<int>(whole.suite.log().count());
-    ASSERT_GT(calls, 50);
-    for (int at = 1; at <= calls; at += 7) {
-        Fresh fresh;
-        fresh.suite.failures().loseSuiteAt(at);
-        EXPECT_THROW(fresh.exportRows(), office::SuiteLost) << at;
-    }
-}
-
 }  // namespace

@@ -9,6 +9,7 @@
 #include "office_double/suite.h"
 #include "powerpoint/formats.h"
 #include "session/office_session.h"
+#include "session_doubles/item.h"
 #include "session_doubles/recording_notices.h"
 #include "session_doubles/recording_progress.h"
 #include "session_doubles/scripted_host.h"
@@ -21,14 +22,7 @@ using catalogue::ItemKind;
 inline catalogue::ExportItem chartRow(std::string_view name, std::string_view sheet,
                                       std::string_view slide = "", std::string_view caption = "",
                                       ItemKind kind = ItemKind::Chart) {
-    catalogue::ExportItem made;
-    made.name = name;
-    made.checked = true;
-    made.sheet = sheet;
-    made.slideNumber = slide;
-    made.caption = caption;
-    made.kind = kind;
-    return made;
+    return session_doubles::item(kind, name, sheet, caption, slide);
 }
 
 inline catalogue::ExportItem rangeRow(std::string_view name, std::string_view sheet,

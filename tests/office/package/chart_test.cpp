@@ -13,7 +13,7 @@
 #include "office/package/workbook/paste_remarks.h"
 #include "office/package/zip_bytes.h"
 #include "office/text.h"
-#include "support/png_file.h"
+#include "support/copied_double.h"
 #include "support/temporary_folder.h"
 
 namespace {
@@ -127,14 +127,6 @@ WorkbookParts chartWorkbook() {
 
 class Chart : public testing::Test {
 protected:
-    struct CopiedChart : office::Copied {
-        using Copied::Copied;
-        double widthPt() const override { return 360; }
-        double heightPt() const override { return 216; }
-        std::string png() const override { return pngBytes(); }
-        office::TableLook table() const override { return {}; }
-    };
-
     CopySource sourceIn(const WorkbookParts& parts, const std::string& sheet = "data",
                         const std::string& chart = "CHART 1") {
         std::vector<zip_bytes::Item> items;
@@ -145,7 +137,7 @@ protected:
         return {CopySource::Kind::Chart, file, sheet, chart, {}};
     }
     Object paste(const CopySource& source, bool isLink = false) {
-        clipboard->copied = std::make_shared<CopiedChart>(source);
+        clipboard->copied = std::make_shared<support::CopiedDouble>(source, 360, 216);
         const Object shapes = slide.get("Shapes").toObject();
         shapes.call("PasteSpecial", 0, 0, "", 0, "", isLink);
         return shapes.get("Item", shapes.get("Count")).toObject();

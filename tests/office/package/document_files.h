@@ -8,8 +8,8 @@
 
 #include "office/package/document/file_documents.h"
 #include "office/package/document/reading_order.h"
+#include "support/copied_double.h"
 #include "support/package_edit.h"
-#include "support/png_file.h"
 #include "support/temporary_folder.h"
 #include "support/written_decks.h"
 
@@ -19,26 +19,10 @@ namespace document_files {
 using namespace office::package;
 using office::CopySource;
 using office::PasteAs;
+using support::CopiedDouble;
 using word::Anchoring;
 
 inline constexpr const char* textPart = "/word/document.xml";
-
-/// Something that was copied, which looks as a picture of its size.
-struct CopiedItem : office::Copied {
-    CopiedItem(const CopySource& source, word::ObjectSize sizePt, office::TableLook cells = {})
-        : Copied(source),
-          size(sizePt),
-          look(std::move(cells)) {}
-    double widthPt() const override { return size.width; }
-    double heightPt() const override { return size.height; }
-    std::string png() const override {
-        const auto bytes = support::pngPictureOfPoints(size.width, size.height);
-        return {bytes.begin(), bytes.end()};
-    }
-    office::TableLook table() const override { return look; }
-    word::ObjectSize size;
-    office::TableLook look;
-};
 
 class DocumentFile : public testing::Test {
 protected:
@@ -61,7 +45,7 @@ protected:
         }
         document.selectEnd();
         document.typeParagraph();
-        document.paste(CopiedItem({CopySource::Kind::Picture, {}, {}, {}, {}}, {width, height}),
+        document.paste(CopiedDouble({CopySource::Kind::Picture, {}, {}, {}, {}}, width, height),
                        PasteAs::Default, Anchoring::Inline);
         if (!label.empty()) document.insertCaption({label, ""});
     }

@@ -125,7 +125,7 @@ TEST_F(DocumentPaste, MakesWhatTheFormSaysOfWhatWasCopied) {
         std::string why;
         const std::int32_t failure = support::failureOf(
             [&] {
-                document->paste(CopiedItem(row.source, {240, 150}, look), row.as, row.anchoring);
+                document->paste(CopiedDouble(row.source, 240, 150, look), row.as, row.anchoring);
             },
             &why);
         const auto again = saved(*document);
@@ -165,7 +165,7 @@ TEST_F(DocumentPaste, TakesManyObjectsOfOneWorkbook) {
     auto document = open();
     for (int round = 0; round < 2; ++round) {
         for (const PasteAs as : {PasteAs::Embedded, PasteAs::Linked, PasteAs::Png})
-            document->paste(CopiedItem(cells, {240, 150}), as, Anchoring::Inline);
+            document->paste(CopiedDouble(cells, 240, 150), as, Anchoring::Inline);
         document = saved(*document);
     }
     EXPECT_EQ(document->objectCount(Anchoring::Inline), 6);
@@ -191,7 +191,7 @@ TEST_F(DocumentPaste, GivesPicturesAndChartsAShadow) {
     const std::string book = writeBook();
     for (const Kind kind : {Kind::Picture, Kind::Chart}) {
         const auto document = open();
-        document->paste(CopiedItem({kind, book, "Data", "Sales", ""}, {240, 150}), PasteAs::Default,
+        document->paste(CopiedDouble({kind, book, "Data", "Sales", ""}, 240, 150), PasteAs::Default,
                         Anchoring::Inline);
         const auto object = document->objectAt(Anchoring::Inline, 1);
         EXPECT_EQ(object->shadow(), word::ObjectShadow());
@@ -250,7 +250,7 @@ TEST_F(DocumentPaste, MakesTablesThatLookAsTheirCellsDo) {
     look.cells[6].down = CellLook::Down::Middle;
     look.cells[8].down = CellLook::Down::Top;
     const auto document = open();
-    document->paste(CopiedItem({Kind::Cells, {}, {}, {}, {}}, {902.6, 90}, look), PasteAs::Default,
+    document->paste(CopiedDouble({Kind::Cells, {}, {}, {}, {}}, 902.6, 90, look), PasteAs::Default,
                     Anchoring::Inline);
     const auto again = saved(*document);
     const auto table = again->body().child("w:tbl");

@@ -21,23 +21,6 @@ std::string withRelationships(std::string_view more) {
     return package({{"a/_rels/one.xml.rels", relationships(more)}});
 }
 
-std::string wide(std::string_view ascii) {
-    std::string text;
-    for (const char c : ascii) text += std::string{c, '\0'};
-    return text;
-}
-
-/// One with a directory of compound files that names these streams.
-std::string compoundFile(const std::vector<std::string>& streams) {
-    std::string file = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1" + std::string(504, '\0');
-    for (const std::string& name : streams) {
-        std::string entry = wide(name);
-        entry.resize(64);
-        file += entry + number(name.size() * 2 + 2, 2) + '\2' + std::string(61, '\0');
-    }
-    return file;
-}
-
 std::string withEntriesOf64(std::uint64_t count) {
     const std::string file = package();
     const std::string end = file.substr(file.size() - 22);

@@ -7,8 +7,8 @@
 #include "office/failure.h"
 #include "office/package/presentation/deck_file.h"
 #include "office/package/small_workbook.h"
+#include "support/copied_double.h"
 #include "support/package_edit.h"
-#include "support/png_file.h"
 #include "support/temporary_folder.h"
 #include "support/written_decks.h"
 
@@ -19,18 +19,6 @@ using office::CopySource;
 using office::Object;
 using office::Value;
 using Kind = CopySource::Kind;
-
-class CopiedItem : public office::Copied {
-public:
-    using Copied::Copied;
-    double widthPt() const override { return 240; }
-    double heightPt() const override { return 150; }
-    std::string png() const override {
-        const auto bytes = support::pngPictureOfPoints(240, 150);
-        return {bytes.begin(), bytes.end()};
-    }
-    office::TableLook table() const override { return {}; }
-};
 
 std::string part(const std::string& text, const std::string& before, const std::string& after) {
     const auto at = text.find(before);
@@ -58,7 +46,7 @@ protected:
         return deck;
     }
     Object paste(const Object& deck, const CopySource& source, bool isLink = false) {
-        clipboard->copied = std::make_shared<CopiedItem>(source);
+        clipboard->copied = std::make_shared<support::CopiedDouble>(source, 240, 150);
         const Value shapes = deck.get("Slides").get("Item", 1).get("Shapes");
         static_cast<void>(isLink ? shapes.call("PasteSpecial", 0, false, "", 0, "", true)
                                  : shapes.call("PasteSpecial", 10));

@@ -11,6 +11,7 @@
 #include "office/package/presentation/table_markup.h"
 #include "office/package/xml.h"
 #include "support/automation.h"
+#include "support/copied_double.h"
 #include "support/temporary_folder.h"
 #include "support/written_decks.h"
 
@@ -19,20 +20,8 @@ namespace {
 using namespace office::package;
 using office::CellLine;
 using office::CellLook;
-using office::CopySource;
 using office::Object;
 using office::TableLook;
-
-struct CopiedTable : office::Copied {
-    explicit CopiedTable(TableLook table)
-        : Copied({CopySource::Kind::Cells, {}, {}, {}, {}}),
-          look(std::move(table)) {}
-    double widthPt() const override { return look.widthPt(); }
-    double heightPt() const override { return look.heightPt(); }
-    std::string png() const override { return {}; }
-    TableLook table() const override { return look; }
-    TableLook look;
-};
 
 TableLook tableOf(std::vector<double> widthsPt, std::vector<double> heightsPt) {
     TableLook table{std::move(widthsPt), std::move(heightsPt), {}};
@@ -75,8 +64,8 @@ std::string described(pugi::xml_node cell) {
 
 class Table : public testing::Test {
 protected:
-    Object paste(TableLook table) {
-        clipboard->copied = std::make_shared<CopiedTable>(std::move(table));
+    Object paste(const TableLook& table) {
+        clipboard->copied = std::make_shared<support::CopiedDouble>(table);
         const Object shapes = slide.get("Shapes").toObject();
         shapes.call("PasteSpecial", 0);
         return shapes.get("Item", shapes.get("Count")).toObject();
@@ -138,7 +127,7 @@ TEST_F(Table, LooksAsItsCellsDo) {
     look.cells[8].indentPt = 9;
     look.cells[8].bar = {0.25, 0.5, 0x0000FF, 0x00FF00};
     look.cells[8].down = CellLook::Down::Middle;
-    const Object shape = paste(std::move(look));
+    const Object shape = paste(look);
     EXPECT_EQ(shape.get("Name").toText(), "Table 2");
     shape.put("AlternativeText", "All looks");
 
@@ -186,7 +175,7 @@ TEST_F(Table, HasRowsThatTheirTextsFitInto) {
         look.cells[i].wraps = cases[i].wraps;
         look.cells[i].fontSizePt = 10;
     }
-    paste(std::move(look));
+    paste(look);
     auto row = saved().child("a:tr");
     for (const Row& each : cases) {
         const auto cell = row.child("a:tc");
@@ -212,7 +201,7 @@ TEST_F(Table, FitsItsSlideAndIsStretchedWithItsFrame) {
         cell.fontSizePt = 20;
         cell.text = "text";
     }
-    const Object shape = paste(std::move(look));
+    const Object shape = paste(look);
     const auto expectWhole = [&](double widthPt, double heightPt, int size) {
         const auto table = saved();
         double width = 0, height = 0;

@@ -95,4 +95,21 @@ inline std::string package(const std::vector<Item>& more = {}) {
     return zipOf(packageItems(more));
 }
 
+inline std::string wide(std::string_view ascii) {
+    std::string text;
+    for (const char c : ascii) text += std::string{c, '\0'};
+    return text;
+}
+
+/// A file in the container of the older formats, whose directory names these streams.
+inline std::string compoundFile(const std::vector<std::string>& streams) {
+    std::string file = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1" + std::string(504, '\0');
+    for (const std::string& name : streams) {
+        std::string entry = wide(name);
+        entry.resize(64);
+        file += entry + number(name.size() * 2 + 2, 2) + '\2' + std::string(61, '\0');
+    }
+    return file;
+}
+
 }  // namespace zip_bytes

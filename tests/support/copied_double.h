@@ -1,0 +1,34 @@
+#pragma once
+
+#include <utility>
+
+#include "office/copied.h"
+#include "support/png_file.h"
+
+namespace support {
+
+/// Something that was copied, which looks as a picture of its size, or as cells made by hand.
+struct CopiedDouble : office::Copied {
+    CopiedDouble(const office::CopySource& source, double width, double height,
+                 office::TableLook cells = {})
+        : Copied(source),
+          wide(width),
+          high(height),
+          look(std::move(cells)) {}
+    explicit CopiedDouble(const office::TableLook& cells)
+        : CopiedDouble({office::CopySource::Kind::Cells, {}, {}, {}, {}}, cells.widthPt(),
+                       cells.heightPt(), cells) {}
+    [[nodiscard]] double widthPt() const override { return wide; }
+    [[nodiscard]] double heightPt() const override { return high; }
+    [[nodiscard]] std::string png() const override {
+        const auto bytes = pngPictureOfPoints(wide, high);
+        return {bytes.begin(), bytes.end()};
+    }
+    [[nodiscard]] office::TableLook table() const override { return look; }
+
+    double wide;
+    double high;
+    office::TableLook look;
+};
+
+}  // namespace support
