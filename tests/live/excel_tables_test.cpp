@@ -172,7 +172,9 @@ TEST_F(ExcelTables, HaveTheBarsThatFormatsDraw) {
 }
 
 TEST_F(ExcelTables, HoldWholeCellsOfAnySheet) {
-    EXPECT_EQ(described(tableOf("Looks", "B3:B3").at(0, 0)).substr(0, 6), "merged");
+    const TableLook merged = tableOf("Looks", "B3:B3");
+    EXPECT_EQ(described(merged.at(0, 0)).substr(0, 6), "merged");
+    EXPECT_EQ(merged.cells.size(), 1U) << "no line is left in which no cell begins";
     EXPECT_EQ(tableOf("Secret", "A1:B2").at(0, 0).text, "secret");
     // Past the last column that anything was ever done to.
     EXPECT_NEAR(tableOf("Grid", "A1:M1").columnWidthsPt.back(),

@@ -10,6 +10,8 @@
 
 #include <algorithm>
 
+#include "office/libreoffice/at_end.h"
+
 namespace libreoffice::objects {
 
 namespace {
@@ -50,12 +52,10 @@ NewObject::NewObject(const uno::Reference<css::frame::XModel>& document)
 
 NewObject::~NewObject() {
     if (isComplete_) return;
-    try {
+    asFarAsPossible([&] {
         close();
         all_->removeElement(name_);
-    } catch (const uno::Exception&) {
-        // The document or the suite has gone, and the folder with it.
-    }
+    });
 }
 
 void NewObject::setMediaType(const char* mediaType) {

@@ -37,87 +37,6 @@ void setAttributes(pugi::xml_node node,
         node.append_attribute(name).set_value(value.c_str());
 }
 
-/// Which lines of cells (columns or rows) a table of LibreOffice has: merged cells may not hide a
-/// whole line, since LibreOffice takes such a line out as soon as they are merged, and merges what
-/// follows in wrong places.
-class ShownLines {
-public:
-    explicit ShownLines(const TableLook& table)
-        : columns_(table.columnWidthsPt.size()),
-          owners_(table.cells.size()) {
-        const std::size_t rows = table.rowHeightsPt.size();
-        for (std::size_t at = 0; at < owners_.size(); ++at) {
-            const CellLook& cell = table.cells[at];
-            if (cell.isCovered) continue;
-            const std::size_t right = std::min(columns_, at % columns_ + unsignedOf(cell.columns));
-            const std::size_t bottom = std::min(rows, at / columns_ + unsignedOf(cell.rows));
-            for (std::size_t row = at / columns_; row < bottom; ++row) {
-                for (std::size_t column = at % columns_; column < right; ++column)
-                    owners_[row * columns_ + column] = at;
-            }
-        }
-        for (std::size_t column = 0; column < columns_; ++column)
-            columnIsShown_.push_back(column == 0 || differs(column, columns_, rows, 1));
-        for (std::size_t row = 0; row < rows; ++row)
-            rowIsShown_.push_back(row == 0 || differs(row * columns_, 1, columns_, columns_));
-    }
-
-    [[nodiscard]] bool column(std::size_t at) const { return columnIsShown_[at]; }
-    [[nodiscard]] bool row(std::size_t at) const { return rowIsShown_[at]; }
-    /// How many of the columns or rows are shown that a cell spans from there on.
-    [[nodiscard]] std::ptrdiff_t columns(std::size_t from, std::int32_t count) const {
-        return shown(columnIsShown_, from, count);
-    }
-    [[nodiscard]] std::ptrdiff_t rows(std::size_t from, std::int32_t count) const {
-        return shown(rowIsShown_, from, count);
-    }
-    /// The lengths of the shown lines, with those of the hidden ones behind them.
-    [[nodiscard]] std::vector<double> widths(const TableLook& table) const {
-        return gathered(columnIsShown_, table.columnWidthsPt);
-    }
-    [[nodiscard]] std::vector<double> heights(const TableLook& table) const {
-        return gathered(rowIsShown_, table.rowHeightsPt);
-    }
-
-private:
-    [[nodiscard]] static std::size_t unsignedOf(std::int32_t count) {
-        return static_cast<std::size_t>(std::max(1, count));
-    }
-
-    /// Whether a line has a cell that isn't one with its neighbour in the line before.
-    [[nodiscard]] bool differs(std::size_t first, std::size_t step, std::size_t count,
-                               std::size_t toLineBefore) const {
-        for (std::size_t i = 0; i < count; ++i) {
-            const std::size_t at = first + i * step;
-            if (owners_[at] != owners_[at - toLineBefore]) return true;
-        }
-        return false;
-    }
-
-    [[nodiscard]] static std::ptrdiff_t shown(const std::vector<bool>& lines, std::size_t from,
-                                              std::int32_t count) {
-        const std::size_t end = std::min(lines.size(), from + unsignedOf(count));
-        return std::count(lines.begin() + static_cast<std::ptrdiff_t>(from),
-                          lines.begin() + static_cast<std::ptrdiff_t>(end), true);
-    }
-
-    [[nodiscard]] static std::vector<double> gathered(const std::vector<bool>& lines,
-                                                      const std::vector<double>& lengths) {
-        std::vector<double> all;
-        for (std::size_t i = 0; i < lengths.size(); ++i) {
-            if (lines[i]) all.push_back(0);
-            all.back() += lengths[i];
-        }
-        return all;
-    }
-
-    std::size_t columns_;
-    /// Of each cell the one that it is merged into, or itself.
-    std::vector<std::size_t> owners_;
-    std::vector<bool> columnIsShown_;
-    std::vector<bool> rowIsShown_;
-};
-
 /// The document that is written, and the styles that it has so far.
 class TableDocument {
 public:
@@ -150,8 +69,7 @@ private:
     /// this.
     [[nodiscard]] bool italicIsApart() const { return kind_ == Kind::Text; }
     [[nodiscard]] std::string line(const CellLine& line) const;
-    void addCell(pugi::xml_node row, const CellLook& cell, std::ptrdiff_t columns,
-                 std::ptrdiff_t rows);
+    void addCell(pugi::xml_node row, const CellLook& cell);
     void addText(pugi::xml_node cell, const CellLook& look);
 
     double scale_;
@@ -177,29 +95,22 @@ TableDocument::TableDocument(const TableLook& table, double scale, Kind kind)
     : scale_(scale),
       kind_(kind) {
     pugi::xml_node grid = kind == Kind::Drawing ? drawing(table) : text(table);
-    const ShownLines shown(table);
-    for (const double width : shown.widths(table)) {
+    for (const double width : table.columnWidthsPt) {
         const auto style = styled(
             "table-column",
             {{"style:table-column-properties", {{"style:column-width", points(width * scale)}}}});
         setAttributes(grid.append_child("table:table-column"), {{"table:style-name", style}});
     }
-    const std::vector<double> heights = shown.heights(table);
-    auto height = heights.begin();
     // A text has room for a row that another font makes higher.
     const char* rowHeight = kind == Kind::Drawing ? "style:row-height" : "style:min-row-height";
     for (std::size_t row = 0; row < table.rowHeightsPt.size(); ++row) {
-        if (!shown.row(row)) continue;
+        const std::string height = points(table.rowHeightsPt[row] * scale);
         const auto style =
-            styled("table-row",
-                   {{"style:table-row-properties", {{rowHeight, points(*height++ * scale)}}}});
+            styled("table-row", {{"style:table-row-properties", {{rowHeight, height}}}});
         pugi::xml_node line = grid.append_child("table:table-row");
         setAttributes(line, {{"table:style-name", style}});
-        for (std::size_t column = 0; column < table.columnWidthsPt.size(); ++column) {
-            if (!shown.column(column)) continue;
-            const CellLook& cell = table.at(row, column);
-            addCell(line, cell, shown.columns(column, cell.columns), shown.rows(row, cell.rows));
-        }
+        for (std::size_t column = 0; column < table.columnWidthsPt.size(); ++column)
+            addCell(line, table.at(row, column));
     }
 }
 
@@ -355,17 +266,17 @@ std::string TableDocument::paragraphStyle(const CellLook& cell) {
                   {{"style:paragraph-properties", paragraph}, {"style:text-properties", letters}});
 }
 
-void TableDocument::addCell(pugi::xml_node row, const CellLook& cell, std::ptrdiff_t columns,
-                            std::ptrdiff_t rows) {
+void TableDocument::addCell(pugi::xml_node row, const CellLook& cell) {
     if (cell.isCovered) {
         row.append_child("table:covered-table-cell");
         return;
     }
     pugi::xml_node element = row.append_child("table:table-cell");
     setAttributes(element, {{"table:style-name", cellStyle(cell)}});
-    if (columns > 1)
-        setAttributes(element, {{"table:number-columns-spanned", fmt::format("{}", columns)}});
-    if (rows > 1) setAttributes(element, {{"table:number-rows-spanned", fmt::format("{}", rows)}});
+    if (cell.columns > 1)
+        setAttributes(element, {{"table:number-columns-spanned", fmt::format("{}", cell.columns)}});
+    if (cell.rows > 1)
+        setAttributes(element, {{"table:number-rows-spanned", fmt::format("{}", cell.rows)}});
     addText(element, cell);
 }
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "office/failure.h"
+#include "office/libreoffice/at_end.h"
 #include "office/libreoffice/objects/table_markup.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/powerpoint/paste.h"
@@ -65,11 +66,7 @@ public:
     LentClipboard(const LentClipboard&) = delete;
     LentClipboard& operator=(const LentClipboard&) = delete;
     ~LentClipboard() {
-        try {
-            clipboard_->setContents(before_, owner_);
-        } catch (const uno::Exception&) {
-            // The suite has gone, and what it offered.
-        }
+        asFarAsPossible([&] { clipboard_->setContents(before_, owner_); });
     }
 
 private:
