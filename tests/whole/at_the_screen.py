@@ -1,5 +1,6 @@
 """What the tests of the whole program share: a screen with the sample workbook and deck open in LibreOffice."""
 
+import atexit
 import os
 import pathlib
 import shutil
@@ -26,13 +27,16 @@ text.CurrentController.ViewCursor.gotoEnd(False)
 
 
 class AtTheScreen(unittest.TestCase):
-    def setUp(self):
-        self.screen = self.make_screen()
-        self.addCleanup(self.screen.close)
-        self.folder = self.screen.folder / "home"
+    """All tests of a program share a screen and the suite on it; each has documents of its own there."""
 
-    def make_screen(self):
-        return Screen(BUILD)
+    screen = None
+
+    def setUp(self):
+        if AtTheScreen.screen is None:
+            AtTheScreen.screen = Screen(BUILD)
+            atexit.register(AtTheScreen.screen.close)
+        self.folder = self.screen.folder / "home"
+        self.addCleanup(self.screen.clear)
 
     def open_sample(self, *names):
         """Copies of the samples, open in the suite."""
@@ -66,6 +70,8 @@ class AtTheScreen(unittest.TestCase):
         """The file in which the path stands that the program has opened."""
         opener = self.screen.folder / "opener"
         opener.mkdir()
+        self.addCleanup(shutil.rmtree, opener)
+        self.addCleanup(self.screen.environment.update, PATH=self.screen.environment["PATH"])
         (opener / "xdg-open").write_text(f"#!/bin/sh\nprintf %s \"$1\" > '{opener}/opened'\n")
         (opener / "xdg-open").chmod(0o755)
         self.screen.environment["PATH"] = f"{opener}:{self.screen.environment['PATH']}"

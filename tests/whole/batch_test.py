@@ -28,8 +28,8 @@ class TheBatch(AtTheScreen):
                 hand.do("click", DIALOG, "ContinueOk")
                 self.assertEqual(hand.ended(120), 0, hand.said())
                 slides += 2
-                self.assertEqual([len(slide.pictures) for slide in self.saved_deck()][SLIDES_OF_DECK:],
-                                 [1] * (slides - SLIDES_OF_DECK))
+        self.assertEqual([len(slide.pictures) for slide in self.saved_deck()][SLIDES_OF_DECK:],
+                         [1] * (slides - SLIDES_OF_DECK))
 
     def test_goes_to_the_deck_that_the_dialog_names_though_another_comes_to_the_front(self):
         self.open_sample()

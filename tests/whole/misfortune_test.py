@@ -5,17 +5,23 @@ import subprocess
 
 import xlsxwriter
 
-from at_the_screen import (BOOK, BUILD, FORM, HTML, IMAGES, LIST, NEW_TEXT, SAMPLES, SLIDES, WORD, AtTheScreen, unittest,
+from at_the_screen import (BOOK, BUILD, DECK, FORM, HTML, IMAGES, LIST, NEW_TEXT, SAMPLES, SLIDES, WORD, AtTheScreen, unittest,
                            wait_until)
 
 NOTICE = "MurvaneNotice"
 
 
 class WithoutTheSuite(AtTheScreen):
+    def setUp(self):
+        super().setUp()
+        if self.screen.has_suite():
+            self.screen.kill_suite()
+            self.screen.clear()
+
     def test_a_suite_that_dies_under_the_form_or_during_the_export_ends_the_program_with_a_report(self):
         for destination in (None, SLIDES, WORD, HTML, IMAGES):
             with self.subTest(destination=destination):
-                self.open_sample()
+                self.open_sample(*([DECK] if destination == SLIDES else []), BOOK)
                 hand = self.open_main_form()
                 if destination == WORD:
                     self.in_the_suite(NEW_TEXT)

@@ -2,17 +2,12 @@
 
 import subprocess
 
-from at_the_screen import BUILD, DIALOG, FORM, PAGE, AtTheScreen, Screen, unittest, wait_until
+from at_the_screen import DIALOG, FORM, PAGE, AtTheScreen, unittest, wait_until
 
 MIDDLE = ("800", "600")
 
 
 class TheWindows(AtTheScreen):
-    manager = "openbox"
-
-    def make_screen(self):
-        return Screen(BUILD, manager=self.manager)
-
     def window_in_the_middle(self):
         """All forms come up in the middle of the screen."""
         said = subprocess.run(["xdotool", "mousemove", *MIDDLE, "getmouselocation", "--shell"], check=True,
@@ -23,6 +18,12 @@ class TheWindows(AtTheScreen):
         wait_until(lambda: self.window_in_the_middle() == window, 5, f"{name} on top")
 
     def test_the_options_stand_above_the_main_form_also_after_a_tool(self):
+        self.check()
+        self.screen.clear()
+        self.screen.end_manager()
+        self.check()
+
+    def check(self):
         self.open_sample()
         hand = self.open_main_form()
         hand.settle(FORM)
@@ -45,10 +46,6 @@ class TheWindows(AtTheScreen):
         self.wait_for_in_the_middle(main_form, "the main form")
         hand.do("key", FORM, key="Alt+F4")
         self.assertEqual(hand.ended(), 0, hand.said())
-
-
-class TheWindowsByThemselves(TheWindows):
-    manager = None
 
 
 if __name__ == "__main__":

@@ -9,7 +9,7 @@ import subprocess
 import tempfile
 import time
 
-PATIENCE = 30.0
+PATIENCE = 60.0
 
 
 class Refused(Exception):
@@ -57,6 +57,12 @@ sys.stdout.flush()
 os._exit(0)
 """
 
+
+LOAD = """
+for path in sys.argv[2:]:
+    desktop.loadComponentFromURL(uno.systemPathToFileUrl(path), "_blank", 0, ())
+"""
+CLOSE_ALL = "for each in list(desktop.Components): each.close(True)"
 
 
 class Screen:
@@ -111,6 +117,11 @@ class Screen:
         if not profile.exists():
             profile.mkdir(parents=True)
             shutil.copy(pathlib.Path(__file__).parent / "quiet-suite.xcu", profile / "registrymodifications.xcu")
+        if self.has_suite():
+            try:
+                self.in_the_suite(LOAD, *documents)
+            except (AssertionError, FileNotFoundError):
+                pass  # Nobody has asked this suite for a pipe.
         # LibreOffice now and then comes up without a document that it was started with; a user asks again.
         for patience in (20, 60):
             missing = [each for each in documents if not self.window_named(pathlib.Path(each).name)]
@@ -166,17 +177,44 @@ class Screen:
         os.killpg(self.suite.pid, signal.SIGKILL)
         self.suite.wait()
 
-    def close(self):
+    def has_suite(self):
+        return self.suite is not None and self.suite.poll() is None
+
+    def clear(self):
+        """As it was at first, but for the suite: that stays, without documents, where it can be talked to."""
+        self.let_go()
+        if self.has_suite():
+            try:
+                self.in_the_suite(CLOSE_ALL)
+            except (AssertionError, FileNotFoundError, subprocess.TimeoutExpired):
+                self.kill_suite()
+        if not self.has_suite():
+            shutil.rmtree(self.folder / "runtime" / "murvane", ignore_errors=True)
+        home = self.folder / "home"
+        for place, kept in ((home, home / ".config"), (home / ".config", home / ".config" / "libreoffice")):
+            for path in place.iterdir() if place.exists() else ():
+                if path != kept:
+                    shutil.rmtree(path) if path.is_dir() else path.unlink()
+
+    def end_manager(self):
+        if self.manager is not None:
+            self.manager.terminate()
+            self.manager.wait()
+            self.manager = None
+
+    def let_go(self):
         for hand in self.hands:
             hand.let_go()
+        self.hands = []
+
+    def close(self):
+        self.let_go()
         if self.suite is not None:
             try:
                 self.kill_suite()
             except ProcessLookupError:
                 pass
-        if self.manager is not None:
-            self.manager.terminate()
-            self.manager.wait()
+        self.end_manager()
         self.server.terminate()
         self.server.wait()
         shutil.rmtree(self.folder, ignore_errors=True)
