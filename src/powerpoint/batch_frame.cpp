@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -39,7 +40,8 @@ private:
     void finishItem(const ExportItem& row, std::int32_t slide, bool isThere);
     void styleLastShape(const Object& shapes);
     void removeSlidesLeft();
-    void putBack();
+    /// Returns what a picture says that has failed late.
+    [[nodiscard]] std::optional<office::Failure> putBack();
 
     Batch& batch_;
     OfficeSession& session_;
@@ -69,7 +71,7 @@ std::int32_t BatchFrame::run() {
     if (done_ < total) removeSlidesLeft();
     session_.ExcelApp.put("ScreenUpdating", true);
     if (route_.showsCompletion && done_ == total) catalogue::ProgressStep(session_, total, total);
-    putBack();
+    const auto lateFailure = putBack();
     if (done_ < total) {
         session::ShowNotice(session_.notices,
                             fmt::format("The export was cancelled: {} of {} items were exported.",
@@ -78,6 +80,8 @@ std::int32_t BatchFrame::run() {
     } else if (exported_ == 0 && !route_.noneArrived.empty()) {
         session::ShowWarningNotice(session_.notices, route_.noneArrived);
     }
+    // Of which row it is nobody can say by now.
+    if (lateFailure) throw office::Failure(*lateFailure);
     return done_;
 }
 
@@ -170,14 +174,14 @@ void BatchFrame::removeSlidesLeft() {
     }
 }
 
-void BatchFrame::putBack() {
+std::optional<office::Failure> BatchFrame::putBack() {
     office::ContinueOnFailure scope;
     session_.progress.unload();
     session_.host.letEventsRun();
     if (route_.restoresExcel) {
         scope.attempt([&] { session::SetExcelWindow(session_, session::ExcelWindow::Maximised); });
     }
-    scope.attempt([&] { window_.put("ViewType", viewType_); });
+    return session::PutBackView(window_, viewType_);
 }
 
 }  // namespace

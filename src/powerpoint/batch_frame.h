@@ -66,7 +66,8 @@ struct BatchRoute {
 ///
 /// A failure up to the last row goes to the caller, or to `onFailedItem`, and nothing is taken
 /// back: the slides stay, and where the batch ends by it Excel's drawing stays as the route has
-/// left it. What puts the windows back afterwards ignores failures.
+/// left it. What puts the windows back afterwards ignores failures. A picture that fails after the
+/// last row has gone by is a failure of the batch.
 std::int32_t RunBatch(Batch& batch, const BatchRoute& route);
 
 }  // namespace powerpoint

@@ -245,7 +245,10 @@ void SelectionPaste::PasteWithSourceFormatting() {
 
 void SelectionPaste::putBack(std::int32_t viewType) {
     office::ContinueOnFailure scope;
-    scope.attempt([&] { window().put("ViewType", viewType); });
+    scope.attempt([&] {
+        if (const auto lateFailure = session::PutBackView(window(), viewType))
+            session::ShowWarningNotice(session_.notices, lateFailure->description());
+    });
     scope.attempt([&] { session::SetExcelWindow(session_, session::ExcelWindow::Maximised); });
 }
 

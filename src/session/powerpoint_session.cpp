@@ -94,6 +94,14 @@ std::int32_t ExitShowNormalView(OfficeSession& session) {
     return found;
 }
 
+std::optional<office::Failure> PutBackView(const office::Object& window, std::int32_t viewType) {
+    office::ContinueOnFailure scope;
+    scope.attempt([&] { window.put("ViewType", viewType); });
+    const auto& failure = scope.lastFailure();
+    const bool isOfPicture = failure && failure->source() == "Shapes.AddPicture";
+    return isOfPicture ? failure : std::nullopt;
+}
+
 void SetExcelWindow(OfficeSession& session, ExcelWindow state) {
     session.ExcelApp.put("WindowState", static_cast<std::int32_t>(state));
 }

@@ -29,6 +29,12 @@ std::int32_t PrepareSlideView(OfficeSession& session);
 /// the view type found, 0 if it can't be read. Failures are passed over.
 std::int32_t ExitShowNormalView(OfficeSession& session);
 
+/// Gives a window back the view that one of the two has found. Failures of that are passed over. A
+/// suite that draws pictures while it goes on has them all on their slides by then, or tells of one
+/// that failed: that failure is returned.
+[[nodiscard]] std::optional<office::Failure> PutBackView(const office::Object& window,
+                                                         std::int32_t viewType);
+
 enum class ExcelWindow : std::int32_t { Normal = -4143, Maximised = -4137 };
 
 void SetExcelWindow(OfficeSession& session, ExcelWindow state);

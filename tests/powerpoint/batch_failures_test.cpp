@@ -81,4 +81,14 @@ TEST(BatchFailures, DoNotKeepTheRestFromBeingPutBack) {
     EXPECT_EQ(window.get("ViewType").toLong(), 7);
 }
 
+TEST_F(BatchFailuresTest, AViewThatStaysIsPassedOverAndAPictureThatFailsLateIsTold) {
+    // It is read ahead of the batch.
+    constexpr int putBack = 2;
+    suite.failures().fail("DocumentWindow.ViewType", putBack);
+    EXPECT_NO_THROW(exportRows());
+    suite.failures().failAfter("Shapes.AddPicture", "DocumentWindow.ViewType", putBack);
+    EXPECT_THROW(exportRows(), office::Failure);
+    EXPECT_EQ(progress.calls.back(), "unload");
+}
+
 }  // namespace

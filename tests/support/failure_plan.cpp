@@ -12,6 +12,11 @@ void FailurePlan::fail(std::string member, int nth, office::FailureNumber number
     planned_.push_back({std::move(member), nth, false, number});
 }
 
+void FailurePlan::failAfter(std::string culprit, std::string member, int nth) {
+    planned_.push_back({std::move(member), nth, false, office::FailureNumber::ApplicationDefined,
+                        std::move(culprit)});
+}
+
 void FailurePlan::failAlways(std::string member, office::FailureNumber number) {
     planned_.push_back({std::move(member), 0, true, number});
 }
@@ -22,8 +27,9 @@ void FailurePlan::check(std::string_view className, std::string_view member) {
     for (Planned& plan : planned_) {
         if (!meansMember(plan.member, className, member)) continue;
         if (plan.always || --plan.callsLeft == 0) {
-            throw office::Failure(plan.number, fmt::format("{}.{}", className, member),
-                                  fmt::format("{}.{} fails, as planned.", className, member));
+            const std::string name = fmt::format("{}.{}", className, member);
+            throw office::Failure(plan.number, plan.culprit.empty() ? name : plan.culprit,
+                                  name + " fails, as planned.");
         }
     }
 }

@@ -16,6 +16,8 @@ public:
     /// The n-th call of the member from now on fails, once.
     void fail(std::string member, int nth = 1,
               office::FailureNumber number = office::FailureNumber::ApplicationDefined);
+    /// The n-th call of the member fails by what another one has left behind.
+    void failAfter(std::string culprit, std::string member, int nth);
     /// Every call of the member fails from now on.
     void failAlways(std::string member,
                     office::FailureNumber number = office::FailureNumber::ApplicationDefined);
@@ -34,6 +36,7 @@ private:
         int callsLeft;
         bool always;
         office::FailureNumber number;
+        std::string culprit = {};
     };
 
     std::vector<Planned> planned_;

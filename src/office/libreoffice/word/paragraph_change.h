@@ -8,7 +8,7 @@
 namespace libreoffice::word {
 
 /// Changes the paragraph that a cursor is in. `office::Failure` 5 for a style that is not known.
-void changeParagraph(const uno::Reference<css::text::XTextCursor>& cursor,
+void changeParagraph(const uno::Reference<css::text::XTextCursor>& paragraph,
                      const office::model::word::ParagraphChange& change);
 
 }  // namespace libreoffice::word
