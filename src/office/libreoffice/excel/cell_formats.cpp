@@ -165,6 +165,7 @@ CellFormats readCellFormats(const uno::Reference<css::table::XCellRange>& cells,
                                                                  uno::UNO_QUERY_THROW);
         const std::size_t place = read.formats.size();
         read.formats.push_back(FormatReader(alike).read());
+        if (read.ofCells.empty()) continue;
         for (const css::table::CellRangeAddress& part : alike->getRangeAddresses()) {
             const auto [firstRow, lastRow] = shownBetween(shown.rows, part.StartRow, part.EndRow);
             const auto [firstColumn, lastColumn] =

@@ -34,11 +34,16 @@ using office::TableLook;
 }
 
 /// The block and the rest of the merged cells that it holds a part of.
-model::CellBlock wholeCells(const SheetRecord& sheet, const model::CellBlock& block) {
+uno::Reference<css::table::XCellRange> wholeCells(const SheetRecord& sheet,
+                                                  const model::CellBlock& block) {
     const auto cursor =
         sheet.sheet()->createCursorByRange(as<css::sheet::XSheetCellRange>(sheet.range(block)));
     cursor->collapseToMergedArea();
-    return blockOf(as<css::sheet::XCellRangeAddressable>(cursor)->getRangeAddress());
+    return {cursor.get()};
+}
+
+model::CellBlock placeOnSheet(const uno::Reference<css::table::XCellRange>& cells) {
+    return blockOf(as<css::sheet::XCellRangeAddressable>(cells)->getRangeAddress());
 }
 
 /// Nothing if they have more cells than that.
@@ -183,8 +188,8 @@ private:
     void putHiddenMerged(std::size_t row) {
         for (std::size_t column = freeFrom(row, 0); column < width();
              column = freeFrom(row, column + 1)) {
-            const model::CellBlock block = wholeCells(
-                sheet_, model::CellBlock::cell(shown_.rows[row], shown_.columns[column]));
+            const model::CellBlock block = placeOnSheet(wholeCells(
+                sheet_, model::CellBlock::cell(shown_.rows[row], shown_.columns[column])));
             if (block.firstRow == shown_.rows[row] && block.firstColumn == shown_.columns[column])
                 continue;
             const auto cell = sheet_.sheet()->getCellByPosition(block.firstColumn, block.firstRow);
@@ -329,11 +334,11 @@ bool areBlank(SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& 
 }  // namespace
 
 bool isTooLargeForTable(SheetRecord& sheet, const model::CellBlock& block, std::size_t mostCells) {
-    return !shownLinesUpTo(sheet.range(wholeCells(sheet, block)), mostCells);
+    return !shownLinesUpTo(wholeCells(sheet, block), mostCells);
 }
 
 std::optional<TableLook> tableOfBlankCells(SheetRecord& sheet, const model::CellBlock& block) {
-    const auto cells = sheet.range(wholeCells(sheet, block));
+    const auto cells = wholeCells(sheet, block);
     if (!areBlank(sheet, cells)) return std::nullopt;
     const auto [corner, size] = placeOf(cells);
     return TableLook{{pointsOf(size.Width)},
@@ -344,8 +349,8 @@ std::optional<TableLook> tableOfBlankCells(SheetRecord& sheet, const model::Cell
 }
 
 TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block, std::size_t mostCells) {
-    const model::CellBlock whole = wholeCells(sheet, block);
-    const auto cells = sheet.range(whole);
+    const auto cells = wholeCells(sheet, block);
+    const model::CellBlock whole = placeOnSheet(cells);
     const ShownLines shown = shownLinesOf(cells, mostCells);
     const CellFormats formats = readCellFormats(cells, shown);
     const uno::Sequence<sal_Int8> copy = SelectedCells(sheet, cells).copyAs("text/html");
