@@ -7,6 +7,12 @@ namespace contract {
 namespace {
 
 /// What a suite can't make it says, and then nothing is put there.
+TEST_F(WordContract, IsNotEmptyWithATableAlone) {
+    copy("cells");
+    selection().call("PasteSpecial");
+    EXPECT_GT(document.get("Range").get("StoryLength").toLong(), 1);
+}
+
 TEST_F(WordContract, PutsWhatWasCopiedAtTheCaretInEachForm) {
     constexpr std::int32_t overText = 1;
     struct {

@@ -67,9 +67,9 @@ void WriterDocument::setTitle(const std::string& title) {
     propertiesOf(model())->setTitle(toUno(title));
 }
 
-/// LibreOffice's text leaves out the objects in it.
+/// LibreOffice's text leaves out the objects and the tables in it.
 std::int32_t WriterDocument::length() {
-    return body_->getString().getLength() + objects().count() + 1;
+    return body_->getString().getLength() + objects().count() + tableCount() + 1;
 }
 
 void WriterDocument::forgoUndo() {
