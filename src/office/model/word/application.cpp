@@ -146,8 +146,8 @@ public:
 
 }  // namespace
 
-Object applicationObject(GuardPtr guard, TextDocumentsPtr documents) {
-    return makeObject<Application>(std::move(guard), std::move(documents),
+Object applicationObject(const GuardPtr& guard, TextDocumentsPtr documents) {
+    return makeObject<Application>(guard, std::move(documents),
                                    std::make_shared<CaptionLabelNames>());
 }
 

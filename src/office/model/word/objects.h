@@ -56,7 +56,7 @@ template <class Self>
 /// Beyond this Word takes no length.
 inline constexpr double furthestPt = 1584;
 
-[[nodiscard]] Object applicationObject(GuardPtr guard, TextDocumentsPtr documents);
+[[nodiscard]] Object applicationObject(const GuardPtr& guard, TextDocumentsPtr documents);
 [[nodiscard]] Object documentObject(const InDocument& home);
 /// What is selected in a document, or its caret.
 [[nodiscard]] Object selectionObject(const InDocument& home);

@@ -54,7 +54,7 @@ std::string Captions::nameFor(const std::string& label) {
     const std::string key = keyOf(label);
     const std::string plain = lowerCase(word::sequenceName(key));
     for (int number = 1;; ++number) {
-        const std::string name = word::sequenceName(withoutEndBlanks(label), number);
+        std::string name = word::sequenceName(withoutEndBlanks(label), number);
         const auto found = known().find(lowerCase(name));
         if (found == known().end()) return name;
         const auto& labels = found->second.labels;
