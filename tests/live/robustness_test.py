@@ -104,6 +104,11 @@ class AnEndedRun(ProgramTest):
         self.whole_run_seconds()
         for share in (0.0, 0.3, 0.6):
             self.until_struck(lambda: self.killed_at(share))
+        # What was begun goes with the next run beside it.
+        outputs = self.folder / "out"
+        output = outputs / "next.pptx"
+        _, _, errors = self.run_program(self.workbook, "--output", output)
+        self.assertEqual(list(outputs.iterdir()), [output], errors)
 
     def killed_at(self, share):
         process, outputs = self.begin()

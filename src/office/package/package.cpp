@@ -31,6 +31,7 @@ struct Part {
     std::optional<std::string> bytes;
     Storage storage = Storage::Deflated;
     bool isRemoved = false;
+    bool wasRead = false;
     /// Of bytes that are on their way.
     std::shared_future<std::string> late = {};
 
@@ -67,15 +68,16 @@ public:
     }
 
     std::string read(std::string_view name, std::uint64_t most) {
-        const Part& part = at(name);
+        Part& part = at(name);
         if (part.bytes) return *part.bytes;
         const std::uint64_t size = archive.entries()[*part.index].bytes;
         if (size > most)
             throw PackageError(Fault::TooLarge,
                                fmt::format("its part {} takes {} bytes", shown(name), size));
-        if (size > limits.bytesRead - bytesRead)
+        std::uint64_t& counted = std::exchange(part.wasRead, true) ? bytesReadAgain : bytesRead;
+        if (size > limits.bytesRead - counted)
             throw PackageError(Fault::TooLarge, "its parts are too large together");
-        bytesRead += size;
+        counted += size;
         return archive.read(*part.index);
     }
 
@@ -150,6 +152,7 @@ public:
     /// By stem and ending, the numbers up to which all names are taken.
     std::unordered_map<std::string, std::size_t> takenNumbers;
     std::uint64_t bytesRead = 0;
+    std::uint64_t bytesReadAgain = 0;
 
 private:
     static ZipInput& checked(ZipInput& input) {

@@ -52,7 +52,7 @@ struct Limits {
     std::uint64_t parts = 100'000;
     /// Of a part that is read; the others are only carried.
     std::uint64_t partBytes = 64ULL << 20;
-    /// Of all parts together that one package reads in its life.
+    /// Of all parts together that one package reads in its life, and of what it reads once more.
     std::uint64_t bytesRead = 512ULL << 20;
     /// Of the content types and of each part of relationships, which are always markup.
     std::uint64_t markupBytes = 16ULL << 20;

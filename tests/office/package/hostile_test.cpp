@@ -88,6 +88,7 @@ TEST(HostilePackages, AreRefusedForTheirReasonAndOddOnesAreRead) {
         {"far more than allowed", with(file, "a/one.xml", Size, 0xFFFFFFF0), Fault::TooLarge},
         {"more together", package({{"x.png", big}, {"y.png", big}, {"z.png", big}}),
          Fault::TooLarge},
+        {"nearly as much, twice", package({{"x.png", big}, {"y.png", big.substr(600)}}), {}},
         {"more room than there is", with(file, "a/one.xml", PackedSize, 5000), Fault::Damaged},
         {"somewhere else", with(file, "a/one.xml", Offset, 0xFFFFFF), Fault::Damaged},
         {"unknown method", with(file, "a/one.xml", Method, 99, 2), Fault::Damaged},
@@ -131,6 +132,8 @@ TEST(HostilePackages, AreRefusedForTheirReasonAndOddOnesAreRead) {
         std::string text;
         try {
             Package opened = Package::fromBytes(one.file, limits);
+            // As a review does ahead of a paste.
+            exhaust(opened);
             exhaust(opened);
             opened.add("/new.xml", "text/xml", "<new/>");
             opened.save(folder.file("out"));
