@@ -172,9 +172,7 @@ struct Setting {
     Value value;
 };
 
-/// A style's settings run in a scope that goes on after a failure: each one either holds or is a
-/// `Failure`.
-TEST_F(PowerPointContract, AppliesEachSettingOfAStyleOrFails) {
+TEST_F(PowerPointContract, AppliesEachSettingOfAStyle) {
     const std::vector<Setting> settings = {
         {"Shadow", "Visible", -1},      {"Shadow", "Blur", 25},         {"Shadow", "Size", 100},
         {"Shadow", "OffsetX", 8.12132}, {"Shadow", "OffsetY", 8.12132}, {"Reflection", "Offset", 1},
@@ -182,9 +180,7 @@ TEST_F(PowerPointContract, AppliesEachSettingOfAStyleOrFails) {
     };
     const Object picture = addPicture(3, 240, 120);
     for (const auto& [part, member, value] : settings) {
-        if (failureOf([&, &p = part, &m = member, &v = value] { picture.get(p).put(m, v); }) != 0) {
-            continue;
-        }
+        picture.get(part).put(member, value);
         EXPECT_NEAR(picture.get(part).get(member).toDouble(), value.toDouble(), 0.1)
             << part << "." << member;
     }
@@ -193,11 +189,10 @@ TEST_F(PowerPointContract, AppliesEachSettingOfAStyleOrFails) {
 
 TEST_F(PowerPointContract, RefusesSettingsThatNoShapeHas) {
     const Object picture = addPicture(3, 240, 120);
-    if (failureOf([&] { picture.put("AutoShapeType", 5); }) == 0) {
-        EXPECT_EQ(failureOf([&] { picture.get("Adjustments").put("Item", 1, std::nan("")); }), 5);
-        EXPECT_EQ(failureOf([&] { picture.get("Adjustments").put("Item", 2, 0.1); }),
-                  subscriptOutOfRange);
-    }
+    picture.put("AutoShapeType", 5);
+    EXPECT_EQ(failureOf([&] { picture.get("Adjustments").put("Item", 1, std::nan("")); }), 5);
+    EXPECT_EQ(failureOf([&] { picture.get("Adjustments").put("Item", 2, 0.1); }),
+              subscriptOutOfRange);
     const std::vector<Setting> settings = {
         {"Shadow", "Blur", -1},      {"Shadow", "OffsetX", std::nan("")}, {"Shadow", "Size", 1e9},
         {"Reflection", "Size", 101}, {"Reflection", "Offset", -1},
@@ -219,12 +214,12 @@ TEST_F(PowerPointContract, ColoursAShadow) {
     EXPECT_EQ(picture.get("Shadow").get("ForeColor").get("RGB").toLong(), 0x336699);
 }
 
-TEST_F(PowerPointContract, RoundsTheCornersOfAPictureOrFails) {
+TEST_F(PowerPointContract, RoundsTheCornersOfAPicture) {
     const Object picture = addPicture(3, 240, 120);
     EXPECT_NE(failureOf([&] { picture.get("Adjustments").put("Item", 1, 0.03); }), 0)
         << "a plain picture has nothing to adjust";
     EXPECT_EQ(failureOf([&] { picture.put("AutoShapeType", 77); }), 5);
-    if (failureOf([&] { picture.put("AutoShapeType", 5); }) != 0) return;
+    picture.put("AutoShapeType", 5);
     EXPECT_EQ(picture.get("AutoShapeType").toLong(), 5);
     picture.get("Adjustments").put("Item", 1, 0.05);
     EXPECT_NEAR(picture.get("Adjustments").get("Item", 1).toDouble(), 0.05, 0.001);

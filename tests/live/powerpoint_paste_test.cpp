@@ -15,27 +15,13 @@
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/package_parts.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
+#include "support/copied_double.h"
 
 namespace live {
 
 namespace {
 
 using namespace libreoffice;
-
-/// Cells with a look made by hand.
-class CopiedTable : public office::Copied {
-public:
-    explicit CopiedTable(office::TableLook look)
-        : Copied({office::CopySource::Kind::Cells, "", "", "", ""}),
-          look_(std::move(look)) {}
-    [[nodiscard]] double widthPt() const override { return look_.widthPt(); }
-    [[nodiscard]] double heightPt() const override { return look_.heightPt(); }
-    [[nodiscard]] std::string png() const override { return {}; }
-    [[nodiscard]] office::TableLook table() const override { return look_; }
-
-private:
-    office::TableLook look_;
-};
 
 /// A workbook with sheets that draw on each other, and a presentation.
 class PasteLive : public PowerPointLive {
@@ -109,13 +95,13 @@ office::TableLook smallTable() {
 TEST_F(PasteLive, MakesTablesThatComeBackFromFiles) {
     const office::TableLook look = smallTable();
     const auto place = desk->activePresentation()->slideAt(3);
-    static_cast<void>(place->paste(CopiedTable(look), office::PasteAs::Default));
+    static_cast<void>(place->paste(support::CopiedDouble(look), office::PasteAs::Default));
     const auto wide = [&] {
         office::TableLook larger = look;
         for (double& width : larger.columnWidthsPt) width *= 10;
         return larger;
     }();
-    const auto scaled = place->paste(CopiedTable(wide), office::PasteAs::Default);
+    const auto scaled = place->paste(support::CopiedDouble(wide), office::PasteAs::Default);
     EXPECT_NEAR(scaled->size().width, 960 * 0.94, 1);
     for (const auto& [name, filter] :
          {std::pair("saved.pptx", "Impress MS PowerPoint 2007 XML"), {"saved.odp", "impress8"}}) {
