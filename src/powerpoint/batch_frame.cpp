@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <vector>
@@ -36,8 +37,8 @@ public:
 private:
     void prepare();
     void exportRow(const TakenRow& taken);
-    [[nodiscard]] std::int32_t showSlideOf(const TakenRow& taken);
-    void finishItem(const ExportItem& row, std::int32_t slide, bool isThere);
+    [[nodiscard]] Object showSlideOf(const TakenRow& taken);
+    void finishItem(const ExportItem& row, const Object& slide, bool isThere);
     void styleLastShape(const Object& shapes);
     void removeSlidesLeft();
     /// Returns what a picture says that has failed late.
@@ -50,7 +51,9 @@ private:
     Object slides_;
     Object window_;
     std::int32_t viewType_ = 0;
-    std::int32_t slidesAtStart_ = 0;
+    /// In the order of the rows; none where slides are predefined. The user may add, move and
+    /// delete slides meanwhile.
+    std::vector<Object> newSlides_;
     std::int16_t pictureStyle_;
     TitlePlace title_;
     /// Rows that have had their turn, also those that failed.
@@ -89,11 +92,12 @@ void BatchFrame::prepare() {
     viewType_ = session::PrepareSlideView(session_);
     slides_ = session_.SessionPresentation.get("Slides").toObject();
     window_ = session::PresentationWindow(session_);
-    slidesAtStart_ = slides_.get("Count").toLong();
+    const std::int32_t end = slides_.get("Count").toLong() + 1;
     if (!batch_.choices.predefinedSlides) {
-        for (std::size_t i = 0; i < rows_.size(); ++i) {
-            slides_.call("Add", slidesAtStart_ + 1, titleOnlyLayout);
-        }
+        for (std::size_t i = 0; i < rows_.size(); ++i)
+            newSlides_.push_back(slides_.call("Add", end, titleOnlyLayout).toObject());
+        // Each has come ahead of those before it.
+        std::reverse(newSlides_.begin(), newSlides_.end());
     }
     session::SetExcelWindow(session_, session::ExcelWindow::Normal);
     session::RaisePresentation(session_);
@@ -104,7 +108,7 @@ void BatchFrame::exportRow(const TakenRow& taken) {
     const ExportItem& row = batch_.list.rows[taken.index];
     batch_.list.selected = static_cast<std::ptrdiff_t>(taken.index);
     const auto work = [&] {
-        const std::int32_t slide = showSlideOf(taken);
+        const Object slide = showSlideOf(taken);
         catalogue::ProgressStep(session_, done_ + 1, static_cast<std::int32_t>(rows_.size()));
         const bool isThere = route_.insertItem(session_, row, slide);
         if (isThere) ++exported_;
@@ -124,20 +128,21 @@ void BatchFrame::exportRow(const TakenRow& taken) {
     if (!scope.attempt(work)) batch_.onFailedItem(row, *scope.lastFailure());
 }
 
-std::int32_t BatchFrame::showSlideOf(const TakenRow& taken) {
+Object BatchFrame::showSlideOf(const TakenRow& taken) {
     if (batch_.choices.predefinedSlides) {
-        slides_.get("Item", taken.slide).call("Select");
-        return taken.slide;
+        const Object slide = slides_.get("Item", taken.slide).toObject();
+        slide.call("Select");
+        return slide;
     }
-    const std::int32_t slide = slidesAtStart_ + done_ + 1;
-    window_.get("View").call("GotoSlide", slide);
+    const Object& slide = newSlides_.at(static_cast<std::size_t>(done_));
+    window_.get("View").call("GotoSlide", slide.get("SlideIndex"));
     return slide;
 }
 
 /// An item that isn't there leaves the slide's other shapes as they are.
-void BatchFrame::finishItem(const ExportItem& row, std::int32_t slide, bool isThere) {
+void BatchFrame::finishItem(const ExportItem& row, const Object& slide, bool isThere) {
     const SlideOptions& options = batch_.options;
-    const Object shapes = slides_.get("Item", slide).get("Shapes").toObject();
+    const Object shapes = slide.get("Shapes").toObject();
     if (isThere && options.placesShapes) PlaceLastShape(session_, shapes, title_);
     if (isThere) styleLastShape(shapes);
     if (options.sourceLine) AddSourceLine(session_, shapes);
@@ -168,10 +173,8 @@ void BatchFrame::styleLastShape(const Object& shapes) {
 
 /// The new slides of a cancelled batch that no item has come to.
 void BatchFrame::removeSlidesLeft() {
-    if (batch_.choices.predefinedSlides) return;
-    for (auto left = static_cast<std::int32_t>(rows_.size()); left > done_; --left) {
-        slides_.get("Item", slidesAtStart_ + left).call("Delete");
-    }
+    for (; static_cast<std::int32_t>(newSlides_.size()) > done_; newSlides_.pop_back())
+        newSlides_.back().call("Delete");
 }
 
 std::optional<office::Failure> BatchFrame::putBack() {

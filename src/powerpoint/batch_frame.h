@@ -41,9 +41,9 @@ void letExcelDraw(Batch& batch);
 struct BatchRoute {
     /// Takes Excel's drawing to the state that the items need, before the first one.
     void (*prepareScreen)(Batch& batch) = letExcelDraw;
-    /// Puts the row's object on slide `slideIndex`. False if it isn't there and the user knows.
+    /// Puts the row's object on a slide. False if it isn't there and the user knows.
     bool (*insertItem)(session::OfficeSession& session, const catalogue::ExportItem& row,
-                       std::int32_t slideIndex);
+                       const office::Object& slide);
     /// Without items nothing is touched.
     bool endsWithoutItems = false;
     /// Progress ends with the last item as done.

@@ -18,8 +18,7 @@ using session::OfficeSession;
 
 constexpr std::int32_t defaultData = 0;
 
-void pasteChart(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex) {
-    const Object slide = slideOf(session, slideIndex);
+void pasteChart(OfficeSession& session, const ExportItem& row, const Object& slide) {
     catalogue::RestoreScreenUpdating(session);
     slide.call("Select");
     slide.get("Shapes").call("PasteSpecial", defaultData);
@@ -27,30 +26,28 @@ void pasteChart(OfficeSession& session, const ExportItem& row, std::int32_t slid
     describeLastShape(slide, row);
 }
 
-bool PasteChartSheetEditable(OfficeSession& session, const ExportItem& row,
-                             std::int32_t slideIndex) {
+bool PasteChartSheetEditable(OfficeSession& session, const ExportItem& row, const Object& slide) {
     if (!catalogue::TryCopyRow(session, row, catalogue::CopyPause::None)) {
         session::ShowWarningNotice(session.notices, "No chart found in sheet: " + row.sheet);
         return false;
     }
-    pasteChart(session, row, slideIndex);
+    pasteChart(session, row, slide);
     return true;
 }
 
 bool PasteEmbeddedChartEditable(OfficeSession& session, const ExportItem& row,
-                                std::int32_t slideIndex) {
+                                const Object& slide) {
     catalogue::CopyRow(session, row);
-    pasteChart(session, row, slideIndex);
+    pasteChart(session, row, slide);
     return true;
 }
 
-bool PasteRangeEditable(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex) {
+bool PasteRangeEditable(OfficeSession& session, const ExportItem& row, const Object& slide) {
     if (!catalogue::TryCopyRow(session, row, catalogue::CopyPause::None)) {
         session::ShowWarningNotice(session.notices,
                                    fmt::format("Named range '{}' not found.", row.name));
         return false;
     }
-    const Object slide = slideOf(session, slideIndex);
     slide.call("Select");
     catalogue::RestoreScreenUpdating(session);
     office::ContinueOnFailure scope;
@@ -72,11 +69,11 @@ bool PasteRangeEditable(OfficeSession& session, const ExportItem& row, std::int3
 
 }  // namespace
 
-bool PasteRowEditable(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex) {
+bool PasteRowEditable(OfficeSession& session, const ExportItem& row, const Object& slide) {
     catalogue::RestoreScreenUpdating(session);
-    if (row.isChartSheet()) return PasteChartSheetEditable(session, row, slideIndex);
-    if (row.isEmbeddedChart()) return PasteEmbeddedChartEditable(session, row, slideIndex);
-    return PasteRangeEditable(session, row, slideIndex);
+    if (row.isChartSheet()) return PasteChartSheetEditable(session, row, slide);
+    if (row.isEmbeddedChart()) return PasteEmbeddedChartEditable(session, row, slide);
+    return PasteRangeEditable(session, row, slide);
 }
 
 std::int32_t ExportRowsAsEditable(Batch& batch) {

@@ -11,10 +11,10 @@ namespace powerpoint {
 /// Exports the taken rows as objects that can be edited. Result and failures as with `RunBatch`.
 std::int32_t ExportRowsAsEditable(Batch& batch);
 
-/// Puts one row's object on slide `slideIndex` (from 1) of the session's presentation. False if
+/// Puts one row's object on a slide of the session's presentation. False if
 /// there is none: a notice has then said so. A chart on a worksheet that is gone is a failure. A
 /// row of a chart sheet that names a worksheet brings the first chart on that one.
 bool PasteRowEditable(session::OfficeSession& session, const catalogue::ExportItem& row,
-                      std::int32_t slideIndex);
+                      const office::Object& slide);
 
 }  // namespace powerpoint

@@ -17,20 +17,19 @@ using session::OfficeSession;
 /// PowerPoint's number of an embedded OLE object.
 constexpr std::int32_t oleObject = 10;
 
-bool PasteEmbeddedObject(OfficeSession& session, std::int32_t slideIndex) {
-    return pasteByAttempts(
-        session, slideIndex, NextAttempt::AfterFailureOrNothing,
-        {[](const Object& slide) {
-             return slide.get("Shapes").call("PasteSpecial", arg("DataType", oleObject),
-                                             arg("Link", false));
-         },
-         [](const Object& slide) { return slide.get("Shapes").call("PasteSpecial", oleObject); },
-         [&](const Object&) {
-             session::PresentationWindow(session).get("View").call(
-                 "PasteSpecial", arg("DataType", oleObject), arg("DisplayAsIcon", false),
-                 arg("Link", false));
-             return Value();
-         }});
+bool PasteEmbeddedObject(OfficeSession& session, const Object& slide) {
+    return pasteByAttempts(session, slide, NextAttempt::AfterFailureOrNothing,
+                           {[&] {
+                                return slide.get("Shapes").call(
+                                    "PasteSpecial", arg("DataType", oleObject), arg("Link", false));
+                            },
+                            [&] { return slide.get("Shapes").call("PasteSpecial", oleObject); },
+                            [&] {
+                                session::PresentationWindow(session).get("View").call(
+                                    "PasteSpecial", arg("DataType", oleObject),
+                                    arg("DisplayAsIcon", false), arg("Link", false));
+                                return Value();
+                            }});
 }
 
 constexpr ObjectRoute embedded{.paste = PasteEmbeddedObject,
@@ -41,8 +40,8 @@ constexpr ObjectRoute embedded{.paste = PasteEmbeddedObject,
 
 }  // namespace
 
-bool PasteRowAsExcelObject(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex) {
-    return pasteRowAsObject(session, row, slideIndex, embedded);
+bool PasteRowAsExcelObject(OfficeSession& session, const ExportItem& row, const Object& slide) {
+    return pasteRowAsObject(session, row, slide, embedded);
 }
 
 std::int32_t ExportRowsAsExcelObjects(Batch& batch) {

@@ -12,9 +12,9 @@ namespace powerpoint {
 /// says so where none of them arrived.
 std::int32_t ExportRowsAsExcelObjects(Batch& batch);
 
-/// Puts one row's object on slide `slideIndex` (from 1) of the session's presentation. Whether it
+/// Puts one row's object on a slide of the session's presentation. Whether it
 /// is there; if not, a notice has said why.
 bool PasteRowAsExcelObject(session::OfficeSession& session, const catalogue::ExportItem& row,
-                           std::int32_t slideIndex);
+                           const office::Object& slide);
 
 }  // namespace powerpoint

@@ -19,7 +19,7 @@ struct Format {
     std::int32_t (*exportRows)(Batch& batch);
     /// By the row's kind.
     bool (*insertRow)(OfficeSession& session, const catalogue::ExportItem& row,
-                      std::int32_t slideIndex);
+                      const office::Object& slide);
 };
 
 const Format& formatOf(const catalogue::ExportChoices& choices) {
@@ -41,11 +41,11 @@ std::int32_t ExportRows(Batch& batch) {
 bool InsertOneItem(OfficeSession& session, const catalogue::ExportItem& row,
                    const catalogue::ExportChoices& choices) {
     office::ContinueOnFailure scope;
-    std::int32_t slide = 0;
+    office::Object slide;
     const bool slideIsShown = scope.attempt([&] {
         const office::Object& app = session.PowerPointApp;
         session.SessionPresentation = app.get("ActivePresentation").toObject();
-        slide = app.get("ActiveWindow").get("View").get("Slide").get("SlideIndex").toLong();
+        slide = app.get("ActiveWindow").get("View").get("Slide").toObject();
     });
     if (!slideIsShown) {
         session::ShowWarningNotice(

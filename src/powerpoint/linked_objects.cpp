@@ -14,16 +14,15 @@ using office::Object;
 using office::Value;
 using session::OfficeSession;
 
-bool PasteLinkedObject(OfficeSession& session, std::int32_t slideIndex) {
-    return pasteByAttempts(session, slideIndex, NextAttempt::AfterFailure,
-                           {[](const Object& slide) {
-                                return slide.get("Shapes").call("PasteSpecial", arg("Link", true));
-                            },
-                            [&](const Object&) {
-                                session::PresentationWindow(session).get("View").call(
-                                    "PasteSpecial", arg("Link", true));
-                                return Value();
-                            }});
+bool PasteLinkedObject(OfficeSession& session, const Object& slide) {
+    return pasteByAttempts(
+        session, slide, NextAttempt::AfterFailure,
+        {[&] { return slide.get("Shapes").call("PasteSpecial", arg("Link", true)); },
+         [&] {
+             session::PresentationWindow(session).get("View").call("PasteSpecial",
+                                                                   arg("Link", true));
+             return Value();
+         }});
 }
 
 constexpr ObjectRoute linked{.paste = PasteLinkedObject,
@@ -34,8 +33,8 @@ constexpr ObjectRoute linked{.paste = PasteLinkedObject,
 
 }  // namespace
 
-bool PasteRowAsLink(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex) {
-    return pasteRowAsObject(session, row, slideIndex, linked);
+bool PasteRowAsLink(OfficeSession& session, const ExportItem& row, const Object& slide) {
+    return pasteRowAsObject(session, row, slide, linked);
 }
 
 std::int32_t ExportRowsAsLinkedObjects(Batch& batch) {

@@ -43,18 +43,16 @@ bool isThere(const Value& pasted) {
 
 }  // namespace
 
-bool pasteByAttempts(OfficeSession& session, std::int32_t slideIndex, NextAttempt next,
+bool pasteByAttempts(OfficeSession& session, const Object& slide, NextAttempt next,
                      const std::vector<PasteAttempt>& attempts) {
     constexpr std::int32_t slideShownMs = 250;
     office::ContinueOnFailure scope;
     Object shapes;
-    Object slide;
     std::int32_t before = 0;
     const bool isShown = scope.attempt([&] {
-        slide = slideOf(session, slideIndex);
         shapes = slide.get("Shapes").toObject();
         before = shapes.get("Count").toLong();
-        session::PresentationWindow(session).get("View").call("GotoSlide", slideIndex);
+        session::PresentationWindow(session).get("View").call("GotoSlide", slide.get("SlideIndex"));
         slide.call("Select");
     });
     if (!isShown) return false;
@@ -62,7 +60,7 @@ bool pasteByAttempts(OfficeSession& session, std::int32_t slideIndex, NextAttemp
     session::WaitMilliseconds(session, slideShownMs);
     Value pasted;
     for (const PasteAttempt& attempt : attempts) {
-        const bool went = scope.attempt([&] { pasted = attempt(slide); });
+        const bool went = scope.attempt([&] { pasted = attempt(); });
         if (went && (isThere(pasted) || next == NextAttempt::AfterFailure)) break;
     }
     session.host.letEventsRun();
@@ -70,13 +68,13 @@ bool pasteByAttempts(OfficeSession& session, std::int32_t slideIndex, NextAttemp
            scope.read([&] { return shapes.get("Count").toLong() > before; }, false);
 }
 
-bool pasteRowAsObject(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex,
+bool pasteRowAsObject(OfficeSession& session, const ExportItem& row, const Object& slide,
                       const ObjectRoute& route) {
     catalogue::RestoreScreenUpdating(session);
     const bool isCopied = catalogue::TryCopyRow(session, row, route.pause);
-    const bool isThere = isCopied && route.paste(session, slideIndex);
+    const bool isThere = isCopied && route.paste(session, slide);
     if (isThere) {
-        describeLastShape(slideOf(session, slideIndex), row);
+        describeLastShape(slide, row);
     } else {
         const RowTexts texts = textsOf(row, route);
         session::ShowWarningNotice(session.notices,

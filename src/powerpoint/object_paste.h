@@ -13,18 +13,18 @@
 namespace powerpoint {
 
 /// One way of asking PowerPoint to paste. It gives the pasted shapes where it has them, or nothing.
-using PasteAttempt = std::function<office::Value(const office::Object& slide)>;
+using PasteAttempt = std::function<office::Value()>;
 /// Whether the next way is tried after a failure alone, or also after a paste that gave nothing.
 enum class NextAttempt { AfterFailure, AfterFailureOrNothing };
 
 /// Brings a slide into view and pastes on it. Whether something has arrived: shapes that were
 /// given, or more of them on the slide than before.
-bool pasteByAttempts(session::OfficeSession& session, std::int32_t slideIndex, NextAttempt next,
+bool pasteByAttempts(session::OfficeSession& session, const office::Object& slide, NextAttempt next,
                      const std::vector<PasteAttempt>& attempts);
 
 /// What tells the two apart. The targets end the sentence that a paste failed.
 struct ObjectRoute {
-    bool (*paste)(session::OfficeSession& session, std::int32_t slideIndex);
+    bool (*paste)(session::OfficeSession& session, const office::Object& slide);
     catalogue::CopyPause pause;
     const char* chartSheetTarget;
     const char* chartTarget;
@@ -34,6 +34,6 @@ struct ObjectRoute {
 /// Copies a row's object by its kind and pastes it. Whether it is there; if not, a notice has said
 /// why.
 bool pasteRowAsObject(session::OfficeSession& session, const catalogue::ExportItem& row,
-                      std::int32_t slideIndex, const ObjectRoute& route);
+                      const office::Object& slide, const ObjectRoute& route);
 
 }  // namespace powerpoint

@@ -8,10 +8,6 @@ namespace powerpoint {
 using catalogue::ExportItem;
 using office::Object;
 
-Object slideOf(const session::OfficeSession& session, std::int32_t slideIndex) {
-    return session.SessionPresentation.get("Slides").get("Item", slideIndex).toObject();
-}
-
 void describeShape(const Object& shape, const ExportItem& row) {
     office::ContinueOnFailure().attempt(
         [&] { shape.put("AlternativeText", catalogue::DescriptionOf(row)); });

@@ -19,14 +19,13 @@ using office::Object;
 using session::OfficeSession;
 
 void insertPictureFile(OfficeSession& session, const ExportItem& row, const std::string& file,
-                       std::int32_t slideIndex) {
+                       const Object& slide) {
     constexpr std::int32_t noLink = 0;
     constexpr std::int32_t saveWithDocument = -1;
     constexpr std::int32_t naturalSize = -1;
 
     const Object picture =
-        slideOf(session, slideIndex)
-            .get("Shapes")
+        slide.get("Shapes")
             .call("AddPicture", file, noLink, saveWithDocument, 0, 0, naturalSize, naturalSize)
             .toObject();
     session.host.letEventsRun();
@@ -43,14 +42,14 @@ std::int32_t ExportRowsAsPictures(Batch& batch) {
                 .noneArrived = {}});
 }
 
-bool InsertPicture(OfficeSession& session, const ExportItem& row, std::int32_t slideIndex) {
+bool InsertPicture(OfficeSession& session, const ExportItem& row, const Object& slide) {
     const std::string file = catalogue::TemporaryPictureOf(session, row);
     if (!catalogue::ExportRowPicture(session, row, file)) {
         session::ShowWarningNotice(
             session.notices, fmt::format("? Named range '{}' not found or invalid.", row.name));
         return false;
     }
-    insertPictureFile(session, row, file, slideIndex);
+    insertPictureFile(session, row, file, slide);
     if (!row.isChartSheet()) {
         office::ContinueOnFailure().attempt([&] { session.host.deleteFile(file); });
     }

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "export_stage.h"
 #include "powerpoint/batch_frame.h"
 #include "powerpoint/picture_styles.h"
@@ -152,6 +154,22 @@ TEST_F(BatchTest, ARunningShowEndsTheViewIsPutBackAndHiddenRowsStayHidden) {
     EXPECT_TRUE(excelDraws());
     const auto rows = book.handle().get("Sheets").get("Item", "Sales").get("Rows", "3:5");
     EXPECT_TRUE(rows.get("EntireRow").get("Hidden").toBool());
+}
+
+TEST_F(BatchTest, FollowsItsSlidesWhereTheUserAddsAndDeletesOthersMeanwhile) {
+    for (const char* name : {"Chart 1", "Chart 2", "Chart 3"}) add(chartRow(name, "Sales"));
+    const auto slides = deck.handle().get("Slides");
+    bool isAdded = false;
+    host.onEvents = [&] {
+        if (progress.calls.size() == 2 && !std::exchange(isAdded, true)) slides.call("Add", 1, 11);
+        progress.isCancelled = progress.calls.size() == 2;
+    };
+    const auto before = deck.slideCount();
+    exportRows();
+    ASSERT_EQ(deck.slideCount(), before + 3) << "the user's and two of the batch";
+    EXPECT_TRUE(picturesOn(1).empty());
+    EXPECT_EQ(picturesOn(before + 2), Texts{"Chart 1"});
+    EXPECT_EQ(picturesOn(before + 3), Texts{"Chart 2"});
 }
 
 TEST_F(BatchTest, ACancelledBatchEndsAfterTheItemAtHandAndLeavesNoEmptySlides) {

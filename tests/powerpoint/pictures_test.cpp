@@ -23,8 +23,9 @@ protected:
         deck.addSlides(2);
     }
 
-    bool insert(const catalogue::ExportItem& row, std::int16_t slide) {
-        return powerpoint::InsertPicture(session, row, slide);
+    bool insert(const catalogue::ExportItem& row, std::int32_t slide) {
+        const auto slides = deck.handle().get("Slides");
+        return powerpoint::InsertPicture(session, row, slides.get("Item", slide).toObject());
     }
     [[nodiscard]] std::int32_t chartsLeft() const {
         const auto sales = book.handle().get("Sheets").get("Item", "Sales");
