@@ -9,6 +9,7 @@
 #include <csignal>
 #include <memory>
 
+#include "apps/claim.h"
 #include "apps/posix_host.h"
 #include "office/failure.h"
 #include "scripted_console.h"
@@ -196,6 +197,12 @@ TEST_F(PosixHostTest, DeletingTellsAMissingFileFromOneThatStays) {
     EXPECT_FALSE(host->fileExists(folder.file("a")));
     EXPECT_EQ(support::failureOf([&] { host->deleteFile(folder.file("a")); }), 53);
     EXPECT_EQ(support::failureOf([&] { host->deleteFile(folder.path().string()); }), 70);
+}
+
+TEST_F(PosixHostTest, SharesNoNameThatOneHasClaimed) {
+    EXPECT_TRUE(apps::claim(folder.file("book.xlsx")));
+    EXPECT_FALSE(apps::claim(folder.file("book.xlsx")));
+    EXPECT_TRUE(apps::claim(folder.file("other.xlsx")));
 }
 
 TEST_F(PosixHostTest, AFileIsHeldByTheMarkBesideIt) {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "apps/claim.h"
 #include "apps/interruption.h"
 #include "apps/selection_commands.h"
 #include "apps/terminal.h"
@@ -126,6 +127,13 @@ void Windows::showHelpIn(const forms::Form& form) {
 }
 
 void Windows::showMainForm() {
+    if (!claim(session_.ActiveBook.get("FullName").toText())) {
+        session::ShowWarningNotice(session_.notices,
+                                   "The main form is open for this workbook already.\r"
+                                   "Go on there, or close it first.");
+        session_.MainFormOpen = false;
+        return;
+    }
     catalogue::MainFormHooks hooks;
     hooks.StartExport = [this](catalogue::ExportList& list,
                                const catalogue::ExportChoices& choices) {
