@@ -64,9 +64,10 @@ void BookPictures::forEach(const std::string& book, const std::function<void(con
         for (const auto& chart : sheet->chartShapes().all()) {
             const auto size = chart->shape()->getSize();
             suite.writeChart(chart->shape(), file);
-            const auto metafile = suite.metafileOf(chart->shape());
+            const excel::ChartLook look = excel::lookOf(chart->shape());
+            const auto metafile = suite.metafileOf(look.graphic);
             use({bookName, chart->knownName(), contentOf(file),
-                 drawnByRoom(metafile, {size.Width, size.Height}, !excel::isOpaque(chart->shape())),
+                 drawnByRoom(metafile, {size.Width, size.Height}, !excel::isOpaque(look)),
                  maker.drawnOtherwise(metafile)});
         }
     }
