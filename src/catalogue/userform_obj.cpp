@@ -344,8 +344,8 @@ void UserformObj::stepFromBox(forms::TextBox& box, int step) {
 
 void UserformObj::imgChart_DblClick() {
     const ExportItem* row = selectedRow();
-    // What has no picture, as several areas, can't be inserted either.
-    if (row == nullptr || !hooks_.InsertOneItem || imgChart.picture().isEmpty()) return;
+    // Of several areas the click on the row has said that they can't be inserted.
+    if (row == nullptr || row->hasSeveralAreas || !hooks_.InsertOneItem) return;
     keepList();
     const bool inserted = [&] {
         // Inserting lets events run, and nothing may change the rows meanwhile.
