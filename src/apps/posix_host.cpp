@@ -67,7 +67,11 @@ std::optional<pid_t> startOpener(std::string target) {
     ::posix_spawnattr_init(&attributes);
     for (const int output : {STDOUT_FILENO, STDERR_FILENO})
         ::posix_spawn_file_actions_addopen(&files, output, "/dev/null", O_WRONLY, 0);
-    ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
+    // The signals that this process keeps for itself are to reach the other one.
+    sigset_t none;
+    ::sigemptyset(&none);
+    ::posix_spawnattr_setsigmask(&attributes, &none);
+    ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK);
     pid_t process = 0;
     const bool isStarted =
         ::posix_spawnp(&process, command.c_str(), &files, &attributes, arguments, environ) == 0;

@@ -17,7 +17,7 @@ public:
 
     [[nodiscard]] forms::Desktop& desktop();
 
-    /// Unloads all forms as soon as events run. From any thread.
+    /// Closes one form after the other as the user would. From any thread.
     void closeForms();
 
 private:

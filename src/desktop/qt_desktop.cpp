@@ -101,7 +101,18 @@ void QtDesktop::run(const std::function<void()>& event) {
 
 void QtDesktop::closeForms() {
     QMetaObject::invokeMethod(
-        &context_, [this] { run([this] { unloadAll(); }); }, Qt::QueuedConnection);
+        &context_, [this] { closes_ = true; }, Qt::QueuedConnection);
+}
+
+void QtDesktop::closeThoseThatTakeInput() {
+    // Events may run while a form is unloaded.
+    if (!std::exchange(closes_, false)) return;
+    const std::vector<forms::Form*> open(loadedForms().rbegin(), loadedForms().rend());
+    for (forms::Form* form : open) {
+        const auto& now = loadedForms();
+        if (std::find(now.begin(), now.end(), form) != now.end() && form->takesInput) unload(*form);
+    }
+    closes_ = true;
 }
 
 void QtDesktop::runLater(LoadedForm& host, std::function<void()> event) {
@@ -130,6 +141,7 @@ void QtDesktop::pump(bool wait) {
     sync();
     QCoreApplication::processEvents(wait ? QEventLoop::WaitForMoreEvents : QEventLoop::AllEvents);
     sync();
+    closeThoseThatTakeInput();
     deleteClosed();
     throwFailure();
 }

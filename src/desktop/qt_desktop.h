@@ -36,7 +36,8 @@ public:
     [[nodiscard]] std::optional<std::string> chooseFolder(std::string_view title,
                                                           std::string_view start) override;
     void showWorking(bool works) override;
-    /// Unloads all forms as soon as events run. From any thread.
+    /// Closes one form after the other as the user would: each as soon as it takes input, so that
+    /// an export ends as by its Cancel. From any thread.
     void closeForms();
 
     /// Answers message boxes instead of the user. The result counts where the box asks: true for
@@ -67,6 +68,7 @@ private:
     bool showBox(std::string_view text, std::string_view title, bool asks);
     void sync();
     void pump(bool wait);
+    void closeThoseThatTakeInput();
     /// Destroys the windows that have been closed and whose event procedures have ended.
     void deleteClosed();
     void throwFailure();
@@ -83,6 +85,7 @@ private:
     std::vector<std::unique_ptr<LoadedForm>> closed_;
     std::vector<std::pair<LoadedForm*, std::function<void()>>> postponed_;
     std::exception_ptr failure_;
+    bool closes_ = false;
     int holds_ = 0;
 };
 

@@ -126,14 +126,8 @@ public:
 private:
     /// A chart on a worksheet goes with the cells under it.
     [[nodiscard]] std::string addressOf(const ExportItem& row) {
-        if (!row.isEmbeddedChart()) {
-            const Object range = catalogue::rangeOf(session_, row);
-            if (!range) {
-                throw office::Failure(office::FailureNumber::ApplicationDefined, "Range",
-                                      fmt::format("Named range '{}' not found.", row.name));
-            }
-            return range.get("Address").toText();
-        }
+        if (!row.isEmbeddedChart())
+            return catalogue::requiredRange(session_, row).get("Address").toText();
         const Object sheet = session_.ActiveBook.get("Sheets").get("Item", row.sheet).toObject();
         const Object chart = sheet.call("ChartObjects").get("Item", row.name).toObject();
         return sheet.get("Range", chart.get("TopLeftCell"), chart.get("BottomRightCell"))

@@ -12,8 +12,8 @@ namespace powerpoint {
 /// says so where none of them arrived.
 std::int32_t ExportRowsAsExcelObjects(Batch& batch);
 
-/// Puts one row's object on a slide of the session's presentation. Whether it
-/// is there; if not, a notice has said why.
+/// Puts one row's object on a slide of the session's presentation. Whether it is there; if not, a
+/// notice has said why.
 bool PasteRowAsExcelObject(session::OfficeSession& session, const catalogue::ExportItem& row,
                            const office::Object& slide);
 

@@ -12,8 +12,8 @@ namespace powerpoint {
 /// and rows stay as they are.
 std::int32_t ExportRowsAsLinkedObjects(Batch& batch);
 
-/// Puts one row's object on a slide of the session's presentation. Whether it
-/// is there; if not, a notice has said why.
+/// Puts one row's object on a slide of the session's presentation. Whether it is there; if not, a
+/// notice has said why.
 bool PasteRowAsLink(session::OfficeSession& session, const catalogue::ExportItem& row,
                     const office::Object& slide);
 

@@ -11,9 +11,9 @@ namespace powerpoint {
 /// Exports the taken rows as pictures. Result and failures as with `RunBatch`.
 std::int32_t ExportRowsAsPictures(Batch& batch);
 
-/// Puts one row's object on a slide of the session's presentation. The
-/// picture's alternative text is the row's caption, or the object's own name where that is empty.
-/// False if the row leads to no range: a notice has then said so. Failures go to the caller.
+/// Puts one row's object on a slide of the session's presentation. The picture's alternative text
+/// is the row's caption, or the object's own name where that is empty. False if the row leads to no
+/// range: a notice has then said so. Failures go to the caller.
 ///
 /// The file of a chart sheet's picture stays, and the next chart sheet's overwrites it.
 bool InsertPicture(session::OfficeSession& session, const catalogue::ExportItem& row,

@@ -44,6 +44,19 @@ TEST_F(Windows, AModalFormReturnsWhenItIsUnloadedAndTheOthersTakeNoInputUntilThe
     EXPECT_EQ(QGuiApplication::modalWindow(), nullptr);
 }
 
+TEST_F(Windows, AreClosedByTheProgramOneAfterTheOtherAsSoonAsTheyTakeInput) {
+    sample::SampleForm progress(desk);
+    desk.show(progress, ShowMode::Modeless);
+    form.takesInput = false;
+    desk.closeForms();
+    for (int i = 0; i < 3; ++i) desk.letEventsRun();
+    EXPECT_FALSE(desk.isLoaded(progress));
+    EXPECT_TRUE(desk.isLoaded(form)) << "its export goes on";
+    form.takesInput = true;
+    desk.letEventsRun();
+    EXPECT_FALSE(desk.isLoaded(form));
+}
+
 TEST_F(Windows, AFormThatAModalOneShowsCanBeReached) {
     sample::SampleForm dialog(desk), progress(desk);
     const auto clickIn = [&](const sample::SampleForm& of) {

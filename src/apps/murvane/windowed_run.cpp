@@ -197,11 +197,10 @@ int runWithForms(forms::Desktop& desktop, const std::string& commandLine, Consol
     try {
         return session::Main(session, commandLine, windows.handlers());
     } catch (const std::exception& failure) {
-        // The main form keeps its list in the workbook, unless that has gone with the suite.
         try {
             desktop.unloadAll();
         } catch (const office::SuiteLost&) {
-            session.ExcelApp.release();
+            // The workbook that the main form keeps its list in has gone too.
         }
         // Whoever starts the program with a click sees no terminal.
         desktop.messageBox(unhandledFailureReport(failure), "Murvane");
