@@ -66,7 +66,7 @@ class UnderTheForm(AtTheScreen):
     def test_a_workbook_that_is_closed_leaves_the_form_alive(self):
         self.open_sample()
         hand = self.open_main_form()
-        self.in_the_suite("document('Workbook').close(True)")
+        self.in_the_suite("close(document('Workbook'))")
         hand.do("click-row", FORM, LIST, row=2)
         for deed, control in (("double-click", "imgChart"), ("click", "PasteIT")):
             hand.do(deed, FORM, control)
@@ -85,7 +85,7 @@ class UnderTheForm(AtTheScreen):
                 if destination == WORD:
                     self.in_the_suite(NEW_TEXT)
                 self.begin_export(hand, destination)
-                self.in_the_suite(f"document('{kind}').close(True)")
+                self.in_the_suite(f"close(document('{kind}'))")
                 try:
                     hand.wait_for(NOTICE)
                     hand.do("key", NOTICE, key="Return")
@@ -94,7 +94,7 @@ class UnderTheForm(AtTheScreen):
                     # A text that has gone is a failure that ends the program.
                     self.assertEqual((hand.ended(), kind), (1, "Text"))
                     self.assertTrue(hand.end.get("unhandled"), "no report")
-                self.in_the_suite("for each in list(desktop.Components): each.close(True)")
+                self.in_the_suite("close(*desktop.Components)")
         self.assertEqual([p.name for p in (self.folder / "MurvaneHTML").iterdir() if p.name.startswith(".")], [])
 
     def test_a_program_that_is_killed_while_it_publishes_leaves_no_page_and_the_next_clears_up(self):

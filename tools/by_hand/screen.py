@@ -32,7 +32,8 @@ def wait_until(holds, patience=PATIENCE, what="that"):
 
 
 PREAMBLE = """
-import sys, uno
+import sys, threading, uno, unohelper
+from com.sun.star.awt import XCallback
 from com.sun.star.beans import PropertyValue
 
 local = uno.getComponentContext()
@@ -49,6 +50,24 @@ def document(kind):
 
 def filter(name):
     return (PropertyValue("FilterName", 0, name, 0),)
+
+class Closing(unohelper.Base, XCallback):
+    def __init__(self, documents):
+        self.documents, self.done = documents, threading.Event()
+
+    def notify(self, data):
+        try:
+            for each in self.documents:
+                each.close(True)
+        finally:
+            self.done.set()
+
+# On the suite's main thread, as a user does. On another one Writer lets calls in while it takes a text down, and crashes.
+def close(*documents):
+    closing = Closing(documents)
+    context.ServiceManager.createInstanceWithContext("com.sun.star.awt.AsyncCallback", context).addCallback(closing, None)
+    if not closing.done.wait(60):
+        raise TimeoutError("the suite has closed nothing")
 """
 # The bridge at times crashes a Python that takes itself down in order.
 END = """
@@ -62,7 +81,7 @@ LOAD = """
 for path in sys.argv[2:]:
     desktop.loadComponentFromURL(uno.systemPathToFileUrl(path), "_blank", 0, ())
 """
-CLOSE_ALL = "for each in list(desktop.Components): each.close(True)"
+CLOSE_ALL = "close(*desktop.Components)"
 
 
 class Screen:
