@@ -23,8 +23,9 @@ public:
     PngWriter& operator=(const PngWriter&) = delete;
     ~PngWriter();
 
-    /// A byte for each channel of each pixel.
-    void writeRow(std::span<const std::uint8_t> row);
+    /// Where the next row is to be written, a byte for each channel of each pixel, before anything
+    /// else is asked for.
+    [[nodiscard]] std::span<std::uint8_t> nextRow();
     /// The file, once all rows are written.
     [[nodiscard]] std::string bytes();
 
@@ -32,7 +33,7 @@ private:
     struct Packer;
 
     void writeChunk(std::string_view kind, std::string_view content);
-    void pack(std::span<const std::uint8_t> bytes, bool isLast);
+    void packRows(bool isLast);
 
     std::unique_ptr<Packer> packer_;
     std::string file_;

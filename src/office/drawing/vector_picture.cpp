@@ -7,7 +7,6 @@
 #include <cmath>
 #include <cstring>
 #include <memory>
-#include <vector>
 
 #include "office/drawing/metafile.h"
 #include "office/drawing/metafile_painter.h"
@@ -70,22 +69,46 @@ void copyTranslucentRow(const std::uint8_t* from, std::int32_t width, std::uint8
     }
 }
 
-/// The strip of a picture that begins with this row.
-Surface drawStrip(const Painting& painting, const VectorPicture& picture, std::int32_t top,
-                  std::int32_t height) {
-    Surface surface(cairo_image_surface_create(
-        picture.isTranslucent ? CAIRO_FORMAT_ARGB32 : CAIRO_FORMAT_RGB24, picture.width, height));
-    const Context context(cairo_create(surface.get()));
-    if (!picture.isTranslucent) {
-        cairo_set_source_rgb(context.get(), 1, 1, 1);
-        cairo_paint(context.get());
+/// What one strip after the other is drawn on. Cairo's own memory would be cleared, and then
+/// painted.
+class Canvas {
+public:
+    Canvas(const VectorPicture& picture, std::int32_t mostRows)
+        : isTranslucent_(picture.isTranslucent),
+          width_(picture.width),
+          pixels_(std::make_unique_for_overwrite<std::uint32_t[]>(
+              static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(mostRows))) {}
+
+    [[nodiscard]] const std::uint8_t* row(std::int32_t y) const {
+        return reinterpret_cast<const std::uint8_t*>(pixels_.get() + pixelsOf(y));
     }
-    cairo_translate(context.get(), 0, -top);
-    painting(context.get(), picture.width, picture.height);
-    require(context.get());
-    cairo_surface_flush(surface.get());
-    return surface;
-}
+
+    /// The strip of a picture that begins with this row.
+    void draw(const Painting& painting, const VectorPicture& picture, std::int32_t top,
+              std::int32_t rows) {
+        constexpr std::uint32_t white = 0xFFFFFFFF;
+        std::fill_n(pixels_.get(), pixelsOf(rows), isTranslucent_ ? 0 : white);
+        constexpr int bytesOfPixel = 4;
+        const Surface surface(cairo_image_surface_create_for_data(
+            reinterpret_cast<unsigned char*>(pixels_.get()),
+            isTranslucent_ ? CAIRO_FORMAT_ARGB32 : CAIRO_FORMAT_RGB24, width_, rows,
+            width_ * bytesOfPixel));
+        const Context context(cairo_create(surface.get()));
+        cairo_translate(context.get(), 0, -top);
+        painting(context.get(), picture.width, picture.height);
+        require(context.get());
+        cairo_surface_flush(surface.get());
+    }
+
+private:
+    [[nodiscard]] std::size_t pixelsOf(std::int32_t rows) const {
+        return static_cast<std::size_t>(rows) * static_cast<std::size_t>(width_);
+    }
+
+    bool isTranslucent_;
+    std::int32_t width_;
+    std::unique_ptr<std::uint32_t[]> pixels_;
+};
 
 }  // namespace
 
@@ -99,19 +122,14 @@ std::string pngOf(const VectorPicture& picture) {
     PngWriter writer(
         picture.width, picture.height, picture.isTranslucent ? Channels::Rgba : Channels::Rgb,
         perMetre(picture.width, picture.widthPt), perMetre(picture.height, picture.heightPt));
-    std::vector<std::uint8_t> row(static_cast<std::size_t>(picture.width) *
-                                  (picture.isTranslucent ? 4U : 3U));
     const auto copyRow = picture.isTranslucent ? copyTranslucentRow : copyOpaqueRow;
-    const std::int32_t stripHeight = std::max(1, pixelsOfStrip / picture.width);
+    const std::int32_t stripHeight = std::clamp(pixelsOfStrip / picture.width, 1, picture.height);
+    Canvas canvas(picture, stripHeight);
     for (std::int32_t top = 0; top < picture.height; top += stripHeight) {
         const std::int32_t height = std::min(stripHeight, picture.height - top);
-        const Surface strip = drawStrip(painting, picture, top, height);
-        const std::uint8_t* pixels = cairo_image_surface_get_data(strip.get());
-        const auto stride = static_cast<std::size_t>(cairo_image_surface_get_stride(strip.get()));
-        for (std::int32_t y = 0; y < height; ++y) {
-            copyRow(pixels + static_cast<std::size_t>(y) * stride, picture.width, row.data());
-            writer.writeRow(row);
-        }
+        canvas.draw(painting, picture, top, height);
+        for (std::int32_t y = 0; y < height; ++y)
+            copyRow(canvas.row(y), picture.width, writer.nextRow().data());
     }
     return writer.bytes();
 }
