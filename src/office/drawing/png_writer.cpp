@@ -123,6 +123,8 @@ std::span<std::uint8_t> PngWriter::nextRow() {
 std::string PngWriter::bytes() {
     packRows(true);
     writeChunk("IEND", {});
+    // Many are kept at a time, and appending has doubled the room that each takes.
+    file_.shrink_to_fit();
     return std::move(file_);
 }
 

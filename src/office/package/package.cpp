@@ -39,6 +39,11 @@ struct Part {
     void settle() {
         if (late.valid()) bytes = std::exchange(late, {}).get();
     }
+    /// The content, unless it is as it was read; those on their way are waited for, not copied.
+    [[nodiscard]] std::optional<std::string_view> changed() const {
+        if (late.valid()) return late.get();
+        return bytes;
+    }
 };
 
 }  // namespace
@@ -128,13 +133,13 @@ public:
         if (types && types->isChanged()) put(contentTypesPart, types->xml(), Storage::Deflated);
     }
 
-    [[nodiscard]] std::vector<ZipChange> changes() {
+    [[nodiscard]] std::vector<ZipChange> changes() const {
         std::vector<ZipChange> found;
-        for (Part& part : parts) {
-            part.settle();
+        for (const Part& part : parts) {
             if (part.isRemoved && part.index) found.push_back({part.index, {}, {}, {}});
-            if (!part.bytes) continue;
-            found.push_back({part.index, part.name.substr(1), *part.bytes, part.storage});
+            const std::optional<std::string_view> bytes = part.changed();
+            if (!bytes) continue;
+            found.push_back({part.index, part.name.substr(1), bytes, part.storage});
         }
         return found;
     }
