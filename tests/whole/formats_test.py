@@ -1,6 +1,6 @@
 """What arrives on the slides in the formats that are more than pictures: by the list, and by one command."""
 
-from at_the_screen import DIALOG, FORM, LIST, AtTheScreen, unittest
+from at_the_screen import DIALOG, FORM, LIST, AtTheScreen, unittest, wait_until
 
 SLIDES_OF_DECK = 3
 NOTICE = "MurvaneNotice"
@@ -21,11 +21,13 @@ for page in [pages.getByIndex(number) for number in range(pages.Count)][int(sys.
     print("+".join(kind(shape) for shape in shapes if ".presentation." not in shape.ShapeType))
 """ % (CHART, WORKBOOK)
 
+FRESH_SLIDE = """
+deck = document("Presentation")
+deck.CurrentController.setCurrentPage(deck.DrawPages.insertNewByIndex(deck.DrawPages.Count))
+"""
 # A fresh slide on show, and something selected on a sheet by a line of the suite's own language.
-SELECT = """
-book, deck = document("Workbook"), document("Presentation")
-deck.DrawPages.insertNewByIndex(deck.DrawPages.Count)
-deck.CurrentController.setCurrentPage(deck.DrawPages.getByIndex(deck.DrawPages.Count - 1))
+SELECT = FRESH_SLIDE + """
+book = document("Workbook")
 sheet = book.Sheets.getByName(sys.argv[2])
 book.CurrentController.setActiveSheet(sheet)
 exec(sys.argv[3])
@@ -33,6 +35,10 @@ exec(sys.argv[3])
 CELLS = 'book.CurrentController.select(sheet.getCellRangeByName("%s"))'
 A_CHART = "book.CurrentController.select(sheet.DrawPage.getByIndex(0))"
 LINK = "link to Harbour%20Logistics%202026.xlsx"
+
+# What a double click makes of a chart and of a range, by format.
+ONE_ITEM = [("GraphicObjectShape", "GraphicObjectShape"), ("chart", "TableShape"), ("workbook", "workbook"),
+            (LINK, LINK)]
 
 # The sheet, what is selected there, and what the commands for editable, embedded and linked make of it.
 SELECTIONS = [
@@ -71,6 +77,24 @@ class TheFormats(AtTheScreen):
                 self.assertEqual(len(arrived), 3)
                 self.assertEqual(set(arrived), arrives)
                 slides += 3
+
+    def test_of_one_item_come_to_the_slide_in_view(self):
+        self.open_sample()
+        hand = self.open_main_form()
+        for number, arrives in enumerate(ONE_ITEM):
+            hand.do("click", FORM, f"OptionFormat({number})")
+            for kind, arrived in zip(("chart", "range"), arrives):
+                with self.subTest(format=number, kind=kind):
+                    self.in_the_suite(FRESH_SLIDE)
+                    row = next(n for n, each in enumerate(hand.rows()) if each["icon"] == f"icon:{kind}")
+                    pictures, boxes = hand.value(FORM, "imgChart"), len(hand.do("boxes"))
+                    hand.do("click-row", FORM, LIST, row=row)
+                    wait_until(lambda: hand.value(FORM, "imgChart") >= pictures + 2, what="the preview")
+                    hand.do("double-click", FORM, "imgChart")
+                    wait_until(lambda: hand.do("boxes")[boxes:] == ["Done!"], what="the message")
+                    self.assertEqual(self.shapes_behind(-1), [arrived])
+        hand.do("key", FORM, key="Alt+F4")
+        self.assertEqual(hand.ended(), 0, hand.said())
 
     def test_of_the_selection_are_what_the_command_says(self):
         self.open_sample()

@@ -81,8 +81,11 @@ const uno::Reference<css::frame::XController>& ImpressWindow::controller() {
 
 const uno::Reference<css::frame::XController>& ImpressWindow::settledController() {
     const auto slide = std::exchange(awaited_, nullptr);
-    if (slide && !slide->isGone()) showNow(slide);
-    return controller();
+    static_cast<void>(controller());
+    // Who has gone to another slide meanwhile stays there.
+    if (slide && !slide->isGone() && deck_.slideOf(view_->getCurrentPage()) == shown_)
+        showNow(slide);
+    return controller_;
 }
 
 model::DeckSlidePtr ImpressWindow::slideInView() {
@@ -103,6 +106,7 @@ void ImpressWindow::showNow(const model::DeckSlidePtr& slide) {
     static_cast<void>(controller());
     view_->setCurrentPage(std::static_pointer_cast<ImpressSlide>(slide)->page());
     selectedByCall_.reset();
+    shown_ = slide;
     shownAt_ = std::chrono::steady_clock::now();
 }
 

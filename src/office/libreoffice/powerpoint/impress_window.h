@@ -33,7 +33,8 @@ public:
     model::DeckSlidePtr slideInView() override;
     /// A window that has just come to a slide rests there for a moment: LibreOffice paints each
     /// slide that is shown, pictures and all, and nothing else goes on meanwhile. Whatever else is
-    /// asked of the window, but for letting the selection go, brings it to its slide first.
+    /// asked of the window, but for letting the selection go, brings it to its slide first, unless
+    /// somebody has gone to another one.
     void show(const model::DeckSlidePtr& slide) override;
     std::vector<model::DeckShapePtr> selectedShapes() override;
     void select(const model::DeckShapePtr& shape) override;
@@ -67,8 +68,9 @@ private:
     /// In the sorter and in the outline LibreOffice says that it has selected a shape and has none
     /// selected then: there the one counts that was selected by a call.
     std::weak_ptr<model::DeckShape> selectedByCall_;
-    /// The slide that the window is still to come to.
+    /// The slide that the window is still to come to, and the one where it rests till then.
     model::DeckSlidePtr awaited_;
+    model::DeckSlidePtr shown_;
     std::chrono::steady_clock::time_point shownAt_;
 };
 
