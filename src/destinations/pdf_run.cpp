@@ -66,15 +66,12 @@ private:
     struct ParagraphLook {
         std::int32_t style;
         bool beginsPage = false;
+        bool isCentred = false;
         /// Nothing if it is still to be found out.
         std::optional<double> spaceBeforePt = 0;
         double spaceAfterPt = 0;
     };
     void beginParagraph(const ParagraphLook& look);
-    void centre() { formatParagraph("Alignment", 1); }
-    void formatParagraph(const char* member, const office::Value& value) {
-        selection_.get("ParagraphFormat").put(member, value);
-    }
 
     OfficeSession& session_;
     const PdfOptions& options_;
@@ -115,13 +112,18 @@ PdfPages::PdfPages(OfficeSession& session, const PdfOptions& options, const Obje
 }
 
 void PdfPages::beginParagraph(const ParagraphLook& look) {
+    constexpr std::int32_t centre = 1;
     if (!isFirstParagraph_) selection_.call("TypeParagraph");
     isFirstParagraph_ = false;
-    selection_.put("Style", look.style);
+    // Each step would be laid out for itself.
+    const Object format = selection_.get("ParagraphFormat").get("Duplicate").toObject();
+    format.put("Style", look.style);
     // A paragraph takes the break and the spaces of the one before along.
-    formatParagraph("PageBreakBefore", look.beginsPage);
-    if (look.spaceBeforePt) formatParagraph("SpaceBefore", *look.spaceBeforePt);
-    formatParagraph("SpaceAfter", look.spaceAfterPt);
+    format.put("PageBreakBefore", look.beginsPage);
+    if (look.isCentred) format.put("Alignment", centre);
+    if (look.spaceBeforePt) format.put("SpaceBefore", *look.spaceBeforePt);
+    format.put("SpaceAfter", look.spaceAfterPt);
+    selection_.put("ParagraphFormat", format);
 }
 
 void PdfPages::addCover() {
@@ -132,8 +134,8 @@ void PdfPages::addCover() {
         const std::size_t end = rest.find('\n');
         isMore = end != std::string_view::npos;
         beginParagraph({.style = isFirst ? style::title : style::normal,
+                        .isCentred = true,
                         .spaceBeforePt = isFirst ? height_ * share : 12});
-        centre();
         selection_.call("TypeText", std::string(rest.substr(0, end)));
         rest.remove_prefix(isMore ? end + 1 : rest.size());
         isFirst = false;
@@ -165,9 +167,10 @@ void PdfPages::addItem(const ExportItem& row) {
         selection_.call("TypeText", row.caption);
         isFirstPage_ = false;
     }
-    beginParagraph(
-        {.style = style::normal, .beginsPage = !hasHeading && !isFirstPage_, .spaceBeforePt = {}});
-    centre();
+    beginParagraph({.style = style::normal,
+                    .beginsPage = !hasHeading && !isFirstPage_,
+                    .isCentred = true,
+                    .spaceBeforePt = {}});
     selection_.call("Paste");
     const Object shapes = document_.get("InlineShapes").toObject();
     const Object shape = shapes.get("Item", shapes.get("Count").toLong()).toObject();
@@ -180,7 +183,7 @@ void PdfPages::addItem(const ExportItem& row) {
     shape.put("AlternativeText", catalogue::DescriptionOf(row));
     // In the middle of its room.
     const double gap = std::max(0.0, (room - height * scale) / 2);
-    formatParagraph("SpaceBefore", gap);
+    selection_.get("ParagraphFormat").put("SpaceBefore", gap);
     if (options_.includePath) {
         beginParagraph({.style = style::normal, .spaceBeforePt = gap});
         selection_.call("TypeText", fmt::format("{}  -  {}", workbook_, row.sheet));

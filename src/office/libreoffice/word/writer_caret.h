@@ -27,6 +27,8 @@ public:
     /// go, and the caret stands behind it then. `office::Failure` 1004 while several cells of a
     /// table are selected, or without a view.
     [[nodiscard]] const RangeRef& range();
+    /// The same where nothing has happened since `text` or `copy`, without asking once more.
+    [[nodiscard]] const RangeRef& sameRange() const { return range_; }
     /// The text that the caret is in: the document's own, or that of a cell, a frame, a header.
     [[nodiscard]] uno::Reference<css::text::XText> text();
     /// A cursor in the same place, which tells and takes several properties in one call.

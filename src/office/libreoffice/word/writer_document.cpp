@@ -121,7 +121,7 @@ std::string WriterDocument::selectedText() {
 }
 
 void WriterDocument::removeSelected(const CursorRef& selected) {
-    if (!selected->isCollapsed()) caret_.range()->setString(rtl::OUString());
+    if (!selected->isCollapsed()) caret_.sameRange()->setString(rtl::OUString());
 }
 
 /// Line ends become paragraphs.
@@ -129,8 +129,8 @@ void WriterDocument::typeText(const std::string& text) {
     const auto selected = writablePlace("Selection.TypeText");
     const UndoGroup group(steps_, "Typing");
     removeSelected(selected);
-    const auto place = caret_.text();
-    const auto& range = caret_.range();
+    const auto place = selected->getText();
+    const auto& range = caret_.sameRange();
     std::string_view rest = text;
     while (true) {
         const std::size_t end = rest.find_first_of("\r\n");
@@ -145,7 +145,7 @@ void WriterDocument::typeParagraph() {
     const auto selected = writablePlace("Selection.TypeParagraph");
     const UndoGroup group(steps_, "Typing");
     removeSelected(selected);
-    caret_.text()->insertControlCharacter(caret_.range(), PARAGRAPH_BREAK, false);
+    selected->getText()->insertControlCharacter(caret_.sameRange(), PARAGRAPH_BREAK, false);
 }
 
 uno::Reference<css::beans::XPropertySet> WriterDocument::pageStyle() {

@@ -51,20 +51,21 @@ void WriterObjects::refresh() {
 
 void WriterObjects::insert(const WriterObjectPtr& object) {
     const auto place = object->content()->getAnchor();
+    const auto comesBefore = [&](const WriterObjectPtr& other) {
+        return places_->compareRegionStarts(other->content()->getAnchor(), place) >= 0;
+    };
+    // Most come last.
+    if (place.is() && !inOrder_.empty() && comesBefore(inOrder_.back())) {
+        inOrder_.push_back(object);
+        return;
+    }
     // What stands outside of the text lies before its beginning; what is tied to a page has no
     // place in it.
     if (!place.is() || places_->compareRegionStarts(place, text_->getStart()) > 0) {
         elsewhere_.push_back(object);
         return;
     }
-    const auto comesBefore = [&](const WriterObjectPtr& other) {
-        return places_->compareRegionStarts(other->content()->getAnchor(), place) >= 0;
-    };
-    // Most come last.
-    auto at = inOrder_.end();
-    if (!inOrder_.empty() && !comesBefore(inOrder_.back()))
-        at = std::partition_point(inOrder_.begin(), inOrder_.end(), comesBefore);
-    inOrder_.insert(at, object);
+    inOrder_.insert(std::partition_point(inOrder_.begin(), inOrder_.end(), comesBefore), object);
 }
 
 void WriterObjects::add(const ContentRef& content) {

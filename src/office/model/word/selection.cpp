@@ -11,47 +11,65 @@ namespace office::model::word {
 
 namespace {
 
+std::int32_t styleOf(const Value& number, const std::string& source) {
+    constexpr std::array known = {style::normal, style::heading1, style::caption, style::title};
+    const std::int32_t wanted = number.toLong();
+    if (std::find(known.begin(), known.end(), wanted) == known.end())
+        throw Failure(FailureNumber::InvalidProcedureCall, source,
+                      fmt::format("There is no style {} here", wanted));
+    return wanted;
+}
+
 /// How paragraphs look. What is set is not read back.
 class ParagraphFormat : public DocumentObject<ParagraphFormat> {
 public:
-    ParagraphFormat(const InDocument& home, ChangeParagraph change)
+    /// None: a format of no paragraph, which only collects what is set.
+    ParagraphFormat(const InDocument& home, std::optional<ChangeParagraph> change)
         : DocumentObject(home),
           change_(change) {}
 
     static const MemberTable<ParagraphFormat>& members();
 
-private:
-    void apply(const ParagraphChange& change) { (document().*change_)(change); }
+    [[nodiscard]] const ParagraphChange& collected() const { return collected_; }
 
-    ChangeParagraph change_;
+private:
+    template <class Type>
+    void set(std::optional<Type> ParagraphChange::*part, Type value) {
+        collected_.*part = value;
+        if (change_) (document().**change_)(std::exchange(collected_, {}));
+    }
+
+    std::optional<ChangeParagraph> change_;
+    ParagraphChange collected_;
 };
 
 const MemberTable<ParagraphFormat>& ParagraphFormat::members() {
     using Self = ParagraphFormat;
     static const auto table = [] {
         MemberTable<Self> made("ParagraphFormat");
+        made.property("Duplicate",
+                      [](Self& self) { return makeObject<Self>(self.home(), std::nullopt); });
+        made.property("Style", {}, unread<Self>,
+                      [](Self& self, const CallArguments& arguments, const Value& number) {
+                          self.set(&ParagraphChange::style, styleOf(number, arguments.source()));
+                      });
         made.property("PageBreakBefore", {}, unread<Self>,
                       [](Self& self, const CallArguments&, const Value& on) {
-                          ParagraphChange change;
-                          change.breaksPageBefore = on.toBool();
-                          self.apply(change);
+                          self.set(&ParagraphChange::breaksPageBefore, on.toBool());
                       });
         // An unset value is 0, as everywhere in automation: to the left.
-        made.property("Alignment", {}, unread<Self>,
-                      [](Self& self, const CallArguments& arguments, const Value& number) {
-                          ParagraphChange change;
-                          change.alignment =
-                              static_cast<Alignment>(static_cast<std::int32_t>(numberWithin(
-                                  0, 3, number.isEmpty() ? Value(0) : number, arguments.source())));
-                          self.apply(change);
-                      });
+        made.property(
+            "Alignment", {}, unread<Self>,
+            [](Self& self, const CallArguments& arguments, const Value& number) {
+                self.set(&ParagraphChange::alignment,
+                         static_cast<Alignment>(static_cast<std::int32_t>(numberWithin(
+                             0, 3, number.isEmpty() ? Value(0) : number, arguments.source()))));
+            });
         const auto space = [&](const char* name, std::optional<double> ParagraphChange::*part) {
             made.property(name, {}, unread<Self>,
                           [part](Self& self, const CallArguments& arguments, const Value& points) {
-                              ParagraphChange change;
-                              change.*part =
-                                  numberWithin(0, furthestPt, points, arguments.source());
-                              self.apply(change);
+                              self.set(part,
+                                       numberWithin(0, furthestPt, points, arguments.source()));
                           });
         };
         space("SpaceBefore", &ParagraphChange::spaceBefore);
@@ -124,7 +142,8 @@ private:
     void pasteSpecial(const CallArguments& arguments);
     void pasteExcelTable(const CallArguments& arguments);
     void insertCaption(const CallArguments& arguments);
-    void setStyle(const Value& number);
+    void setFormat(const CallArguments& arguments, const Value& value);
+    void setStyle(const CallArguments& arguments, const Value& number);
 };
 
 /// Lines, the only unit of a move here, and what an unset one means.
@@ -142,18 +161,17 @@ const MemberTable<Selection>& Selection::members() {
         MemberTable<Self>("Selection")
             .property("Text", [](Self& self) { return self.document().selectedText(); })
             .property("PageSetup", [](Self& self) { return makeObject<PageSetup>(self.home()); })
-            .property("ParagraphFormat",
-                      [](Self& self) {
-                          return paragraphFormatObject(self.home(), &TextDocument::changeParagraph);
-                      })
+            .property(
+                "ParagraphFormat", {},
+                [](Self& self, const CallArguments&) {
+                    return paragraphFormatObject(self.home(), &TextDocument::changeParagraph);
+                },
+                &Self::setFormat)
             .property("ShapeRange", {},
                       [](Self& self, const CallArguments& arguments) {
                           return selectedShapeObject(self.home(), arguments.source());
                       })
-            .property("Style", {}, unread<Self>,
-                      [](Self& self, const CallArguments&, const Value& number) {
-                          self.setStyle(number);
-                      })
+            .property("Style", {}, unread<Self>, &Self::setStyle)
             .method("TypeText", {"Text"},
                     [](Self& self, const CallArguments& arguments) {
                         self.document().typeText(arguments.at(0).toText());
@@ -272,14 +290,18 @@ void Selection::insertCaption(const CallArguments& arguments) {
     document().insertCaption({label, arguments.at(1, "").toText()});
 }
 
-void Selection::setStyle(const Value& number) {
-    constexpr std::array known = {style::normal, style::heading1, style::caption, style::title};
-    const std::int32_t wanted = number.toLong();
-    if (std::find(known.begin(), known.end(), wanted) == known.end())
-        throw Failure(FailureNumber::InvalidProcedureCall, "Selection.Style",
-                      fmt::format("There is no style {} here", wanted));
+/// All that is set in a duplicate, in one step.
+void Selection::setFormat(const CallArguments& arguments, const Value& value) {
+    const auto format = objectOf<ParagraphFormat>(value);
+    if (!format)
+        throw Failure(FailureNumber::TypeMismatch, arguments.source(),
+                      arguments.source() + " takes the format of a paragraph");
+    document().changeParagraph(format->collected());
+}
+
+void Selection::setStyle(const CallArguments& arguments, const Value& number) {
     ParagraphChange change;
-    change.style = wanted;
+    change.style = styleOf(number, arguments.source());
     document().changeParagraph(change);
 }
 
