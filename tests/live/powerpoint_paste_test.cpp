@@ -1,3 +1,4 @@
+#include <com/sun/star/awt/Gradient2.hpp>
 #include <com/sun/star/chart2/XChartDocument.hpp>
 #include <com/sun/star/chart2/data/XDataReceiver.hpp>
 #include <com/sun/star/drawing/XDrawPage.hpp>
@@ -7,6 +8,8 @@
 #include <com/sun/star/table/XTable.hpp>
 #include <com/sun/star/text/XText.hpp>
 
+#include <algorithm>
+#include <cmath>
 #include <fstream>
 
 #include "live/live_suite.h"
@@ -88,6 +91,7 @@ office::TableLook smallTable() {
     table.cells[3].text = "12.5%";
     table.cells[3].rotation = 90;
     table.cells[4].text = "two";
+    table.cells[4].bar = office::CellBar{0, 0.25, 0x0000FF, 0x0000FF};
     table.cells[5].text = "last";
     return table;
 }
@@ -126,6 +130,12 @@ TEST_F(PasteLive, MakesTablesThatComeBackFromFiles) {
                                   "CharHeight"),
                   10);
         EXPECT_EQ(property<sal_Int32>(cell(0, 1), "RotateAngle"), 9000);
+        const auto stops = property<css::awt::Gradient2>(cell(1, 1), "FillGradient").ColorStops;
+        EXPECT_EQ(std::count_if(
+                      stops.begin(), stops.end(),
+                      [](const auto& stop) { return std::abs(stop.StopOffset - 0.25) < 0.001; }),
+                  2)
+            << "where the bar ends";
         EXPECT_NEAR(lastShape(1)->getSize().Width, 8467, 2) << "240 points";
         again.call("Close");
     }

@@ -60,8 +60,9 @@ private:
     [[nodiscard]] pugi::xml_node text(const TableLook& table);
     void addRoot(const char* name);
     [[nodiscard]] std::string cellStyle(const CellLook& cell);
-    [[nodiscard]] static std::vector<StylePart> drawnCell(const CellLook& cell, Attributes area,
-                                                          const Attributes& lines);
+    [[nodiscard]] std::vector<StylePart> drawnCell(const CellLook& cell, Attributes area,
+                                                   const Attributes& lines);
+    [[nodiscard]] Attributes fillOf(const CellLook& cell);
     [[nodiscard]] static std::vector<StylePart> writtenCell(const CellLook& cell, Attributes area,
                                                             const Attributes& lines);
     [[nodiscard]] std::string paragraphStyle(const CellLook& cell);
@@ -211,11 +212,49 @@ std::string TableDocument::cellStyle(const CellLook& cell) {
 
 constexpr std::array<const char*, 3> heightsInCell = {"top", "middle", "bottom"};
 
+/// A bar is a gradient from the left to the right that changes its colour at one place. It stands
+/// beside the styles: LibreOffice crashes on pasted drawings that have styles with names for users.
+TableDocument::Attributes TableDocument::fillOf(const CellLook& cell) {
+    if (!cell.bar || cell.bar->from >= cell.bar->to) {
+        if (!cell.fill) return {{"draw:fill", "none"}};
+        return {{"draw:fill", "solid"}, {"draw:fill-color", colour(*cell.fill)}};
+    }
+    const std::string name = fmt::format("bar{}", namesOfStyles_.size());
+    const auto& [from, to, left, right] = *cell.bar;
+    const auto addGradient = [&](const char* element) {
+        pugi::xml_node gradient = styles_.append_child(element);
+        setAttributes(gradient,
+                      {{"draw:name", name}, {"draw:style", "linear"}, {"draw:angle", "90deg"}});
+        return gradient;
+    };
+    pugi::xml_node colours = addGradient("draw:gradient");
+    const std::int32_t ground = cell.fill.value_or(0xFFFFFF);
+    for (const auto& [share, there] : {std::pair(0.0, ground),
+                                       {from, ground},
+                                       {from, left},
+                                       {to, right},
+                                       {to, ground},
+                                       {1.0, ground}})
+        setAttributes(colours.append_child("loext:gradient-stop"),
+                      {{"svg:offset", fmt::format("{:.5f}", share)},
+                       {"loext:color-type", "rgb"},
+                       {"loext:color-value", colour(there)}});
+    Attributes fill = {{"draw:fill", "gradient"}, {"draw:fill-gradient-name", name}};
+    if (cell.fill) return fill;
+    pugi::xml_node opacity = addGradient("draw:opacity");
+    for (const auto& [share, there] :
+         {std::pair(0.0, "0"), {from, "0"}, {from, "1"}, {to, "1"}, {to, "0"}, {1.0, "0"}})
+        setAttributes(opacity.append_child("loext:opacity-stop"),
+                      {{"svg:offset", fmt::format("{:.5f}", share)}, {"svg:stop-opacity", there}});
+    fill.emplace_back("draw:opacity-name", name);
+    return fill;
+}
+
 std::vector<TableDocument::StylePart> TableDocument::drawnCell(const CellLook& cell,
                                                                Attributes area,
                                                                const Attributes& lines) {
-    area.emplace_back("draw:fill", cell.fill ? "solid" : "none");
-    if (cell.fill) area.emplace_back("draw:fill-color", colour(*cell.fill));
+    const Attributes fill = fillOf(cell);
+    area.insert(area.end(), fill.begin(), fill.end());
     area.emplace_back("draw:textarea-vertical-align",
                       heightsInCell.at(static_cast<std::size_t>(cell.down)));
     std::vector<StylePart> parts = {{"loext:graphic-properties", area}};
@@ -259,6 +298,8 @@ std::string TableDocument::paragraphStyle(const CellLook& cell) {
         set("font-weight", cell.isBold ? "bold" : "normal");
         if (!italicIsApart()) set("font-style", cell.isItalic ? "italic" : "normal");
     }
+    // A sheet is drawn so, and wider words would be broken.
+    if (kind_ == Kind::Drawing) letters.emplace_back("style:letter-kerning", "true");
     letters.emplace_back("fo:color", colour(cell.fontColour));
     letters.emplace_back("style:text-underline-style", cell.isUnderlined ? "solid" : "none");
     letters.emplace_back("style:text-line-through-style", cell.isStruckOut ? "solid" : "none");
