@@ -60,10 +60,11 @@ def dressed(book):
     log = chart(book, "line", "logarithm")
     log.set_y_axis({"log_base": 10, "name": "orders", "reverse": True})
     yield log
-    dates = book.add_chart({"type": "line"})
-    dates.add_series({"name": "days", "categories": cells("D"), "values": cells("B")})
-    dates.set_x_axis({"date_axis": True, "num_format": "d mmm"})
-    yield dates
+    for axis in ({"date_axis": True}, {"text_axis": True}):
+        dates = book.add_chart({"type": "line"})
+        dates.add_series({"name": "days", "categories": cells("D"), "values": cells("B")})
+        dates.set_x_axis({**axis, "num_format": "d mmm"})
+        yield dates
 
 
 def write(path, version):
@@ -159,6 +160,8 @@ class Charts(ProgramTest):
         for chart in charts:
             xml = package.read(chart).decode()
             self.assertEqual(set(re.findall(r"<c:f>('[^!]*')!", xml)), {SHEET})
+            self.assertNotRegex(xml, r"<c:cat><c:numRef><c:f>[^<]*</c:f><c:numCache><c:formatCode>General",
+                                "days without their format")
             where = re.search(r'<c:externalData [^>]*r:id="(\w+)"', xml).group(1)
             rels = package.read(re.sub(r"charts/(.*)", r"charts/_rels/\1.rels", chart)).decode()
             sources.add(re.search(rf'Id="{where}"[^>]*Target="([^"]*)"', rels).group(1))

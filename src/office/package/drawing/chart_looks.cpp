@@ -121,14 +121,16 @@ void writeLooks(pugi::xml_node chartSpace, int thinLine) {
 void writeDates(pugi::xml_node chartSpace) {
     constexpr std::string_view plain = "General";
     const auto area = childNamed(childNamed(chartSpace, ns::chart, "chart"), ns::chart, "plotArea");
-    for (const pugi::xml_node axis : childrenNamed(area, ns::chart, "dateAx")) {
+    for (const pugi::xml_node axis : area.children()) {
+        const bool isOfDates = isNamed(axis, ns::chart, "dateAx");
+        if (!isOfDates && !isNamed(axis, ns::chart, "catAx")) continue;
         const std::string id = childNamed(axis, ns::chart, "axId").attribute("val").value();
         const auto wanted = childNamed(axis, ns::chart, "numFmt").attribute("formatCode");
         const bool isPlain = !wanted || wanted.value() == plain;
+        if (isPlain && !isOfDates) continue;
         for (const pugi::xml_node group : area.children()) {
             const auto ids = childrenNamed(group, ns::chart, "axId");
-            if (isOneOf(group, ns::chart, std::array<std::string_view, 1>{"dateAx"}) ||
-                std::none_of(ids.begin(), ids.end(),
+            if (std::none_of(ids.begin(), ids.end(),
                              [&](const auto& one) { return one.attribute("val").value() == id; }))
                 continue;
             for (const pugi::xml_node series : childrenNamed(group, ns::chart, "ser")) {

@@ -11,8 +11,8 @@ namespace office::package {
 /// of the finest line of the workbook's theme in English metric units; 0 if it has no theme.
 void writeLooks(pugi::xml_node chartSpace, int thinLine);
 
-/// Says of the categories along an axis of dates that they are dates, where they are stored as
-/// plain numbers: in a presentation there are no cells to tell.
+/// Says how the categories along an axis are shown that is of dates or has a format of its own,
+/// where they are stored as plain numbers: in a presentation there are no cells to tell.
 void writeDates(pugi::xml_node chartSpace);
 
 /// The width of the finest line of a theme; 0 for one that says none.
