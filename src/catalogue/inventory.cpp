@@ -114,7 +114,7 @@ CheckAllState stateOf(std::size_t checked, std::size_t rows) {
 }
 
 CheckAllState fill(session::OfficeSession& session, ExportList& list, session::StoredItems stored,
-                   const SeveralAreas& hasSeveralAreas) {
+                   const SeveralAreasByKey& hasSeveralAreas) {
     list.rows = std::move(stored.items);
     std::size_t checked = 0;
     RowObjects objects(session);

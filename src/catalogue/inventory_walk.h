@@ -10,13 +10,13 @@
 namespace catalogue {
 
 /// Whether the range of a key has several areas, as far as its name is found from its own sheet.
-using SeveralAreas = std::map<std::string, bool>;
+using SeveralAreasByKey = std::map<std::string, bool>;
 
 /// What a walk through a workbook finds.
 struct FoundItems {
     /// Charts first, then chart sheets, then named ranges, all on visible sheets.
     std::vector<ExportItem> items;
-    SeveralAreas hasSeveralAreas;
+    SeveralAreasByKey hasSeveralAreas;
 };
 
 /// Walks through the active workbook and moves the loading bar on by each item. A failure of Excel
