@@ -14,6 +14,7 @@
 
 #include <algorithm>
 
+#include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/units.h"
 
 namespace libreoffice::excel {
@@ -157,8 +158,8 @@ CellFormats readCellFormats(const uno::Reference<css::table::XCellRange>& cells,
                             const ShownLines& shown) {
     CellFormats read;
     read.ofCells.resize(shown.rows.size() * shown.columns.size());
-    const auto formats =
-        as<css::sheet::XUniqueCellFormatRangesSupplier>(cells)->getUniqueCellFormatRanges();
+    const auto formats = answered(
+        as<css::sheet::XUniqueCellFormatRangesSupplier>(cells)->getUniqueCellFormatRanges());
     const sal_Int32 count = formats->getCount();
     for (sal_Int32 i = 0; i < count; ++i) {
         const uno::Reference<css::sheet::XSheetCellRanges> alike(formats->getByIndex(i),

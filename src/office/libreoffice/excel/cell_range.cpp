@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/cell_values.h"
 #include "office/libreoffice/excel/copied.h"
@@ -56,8 +57,8 @@ bool CellRange::areHidden(model::Lines lines) {
 }
 
 bool CellRange::isAllShown() {
-    const auto shown =
-        as<css::sheet::XCellRangesQuery>(range())->queryVisibleCells()->getRangeAddresses();
+    const auto shown = answered(as<css::sheet::XCellRangesQuery>(range())->queryVisibleCells())
+                           ->getRangeAddresses();
     return shown.getLength() == 1 && blockOf(shown[0]) == block_;
 }
 

@@ -14,6 +14,8 @@
 #include <utility>
 #include <vector>
 
+#include "office/libreoffice/excel/answered.h"
+
 namespace libreoffice::excel {
 
 namespace {
@@ -49,8 +51,8 @@ std::vector<Kind> formatKindsOfColumn(NumberFormats& formats,
     std::vector<Kind> kinds(count, Kind::Other);
     const sal_Int32 start =
         as<css::sheet::XCellRangeAddressable>(cells)->getRangeAddress().StartRow;
-    const auto groups =
-        as<css::sheet::XUniqueCellFormatRangesSupplier>(cells)->getUniqueCellFormatRanges();
+    const auto groups = answered(
+        as<css::sheet::XUniqueCellFormatRangesSupplier>(cells)->getUniqueCellFormatRanges());
     const sal_Int32 end = groups->getCount();
     for (sal_Int32 i = 0; i < end; ++i) {
         const uno::Reference<css::sheet::XSheetCellRanges> group(groups->getByIndex(i),

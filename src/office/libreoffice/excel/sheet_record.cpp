@@ -11,6 +11,7 @@
 
 #include <algorithm>
 
+#include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/cell_range.h"
 #include "office/libreoffice/excel/recovered_chart.h"
@@ -145,7 +146,7 @@ model::CellsPtr SheetRecord::cells(const model::CellBlock& block) {
 }
 
 model::CellBlock SheetRecord::used() {
-    const auto cursor = sheet_->createCursor();
+    const auto cursor = answered(sheet_->createCursor());
     const auto used = as<css::sheet::XUsedAreaCursor>(cursor);
     used->gotoStartOfUsedArea(false);
     used->gotoEndOfUsedArea(true);
@@ -209,8 +210,7 @@ PlaceOfCells placeOf(const uno::Reference<css::table::XCellRange>& cells) {
 
 uno::Sequence<css::table::CellRangeAddress> filledParts(
     const uno::Reference<css::table::XCellRange>& cells) {
-    return as<css::sheet::XCellRangesQuery>(cells)
-        ->queryContentCells(contentsOfCells)
+    return answered(as<css::sheet::XCellRangesQuery>(cells)->queryContentCells(contentsOfCells))
         ->getRangeAddresses();
 }
 

@@ -13,6 +13,7 @@
 #include <memory>
 
 #include "office/item_remarks.h"
+#include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/excel/data_bars.h"
 #include "office/libreoffice/excel/table_of_cells.h"
 
@@ -92,8 +93,8 @@ bool hasSeveralLooks(const uno::Reference<css::table::XCell>& cell) {
 /// broken by hand are too.
 bool hasCellOfSeveralLooks(const SheetRecord& sheet, const CellBlock& block) {
     constexpr int most = 20;
-    const auto formatted = as<css::sheet::XCellRangesQuery>(sheet.range(block))
-                               ->queryContentCells(css::sheet::CellFlags::FORMATTED);
+    const auto formatted = answered(as<css::sheet::XCellRangesQuery>(sheet.range(block))
+                                        ->queryContentCells(css::sheet::CellFlags::FORMATTED));
     int seen = 0;
     const auto addresses = formatted->getRangeAddresses();
     for (const css::table::CellRangeAddress& part : addresses) {

@@ -14,6 +14,7 @@
 #include <set>
 
 #include "office/failure.h"
+#include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/excel/cell_formats.h"
 #include "office/libreoffice/excel/cells_as_html.h"
 #include "office/libreoffice/excel/data_bars.h"
@@ -50,7 +51,7 @@ model::CellBlock placeOnSheet(const uno::Reference<css::table::XCellRange>& cell
 std::optional<ShownLines> shownLinesUpTo(const uno::Reference<css::table::XCellRange>& cells,
                                          std::size_t mostCells) {
     std::set<std::int32_t> columns, rows;
-    const auto shown = as<css::sheet::XCellRangesQuery>(cells)->queryVisibleCells();
+    const auto shown = answered(as<css::sheet::XCellRangesQuery>(cells)->queryVisibleCells());
     for (const css::table::CellRangeAddress& part : shown->getRangeAddresses()) {
         if (blockOf(part).cells() > static_cast<double>(mostCells)) return std::nullopt;
         for (sal_Int32 column = part.StartColumn; column <= part.EndColumn; ++column)
