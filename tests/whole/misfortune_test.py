@@ -78,7 +78,8 @@ class UnderTheForm(AtTheScreen):
 
     def test_a_document_that_is_closed_during_an_export_is_told_and_leaves_nothing_half_made(self):
         self.note_what_is_opened()
-        for destination, kind in ((WORD, "Text"), (WORD, "Workbook"), (HTML, "Workbook"), (IMAGES, "Workbook")):
+        # The text last: LibreOffice at times crashes when it goes under a call, and its successor starts afresh.
+        for destination, kind in ((WORD, "Workbook"), (HTML, "Workbook"), (IMAGES, "Workbook"), (WORD, "Text")):
             with self.subTest(destination=destination, closed=kind):
                 self.open_sample(BOOK)
                 hand = self.open_main_form()
@@ -94,8 +95,9 @@ class UnderTheForm(AtTheScreen):
                     # A text that has gone is a failure that ends the program.
                     self.assertEqual((hand.ended(), kind), (1, "Text"))
                     self.assertTrue(hand.end.get("unhandled"), "no report")
-                self.in_the_suite("close(*desktop.Components)")
-        self.assertEqual([p.name for p in (self.folder / "MurvaneHTML").iterdir() if p.name.startswith(".")], [])
+                pages = self.folder / "MurvaneHTML"
+                self.assertEqual([p.name for p in pages.glob(".*")], [])
+                self.screen.clear()
 
     def test_a_program_that_is_killed_while_it_publishes_leaves_no_page_and_the_next_clears_up(self):
         self.note_what_is_opened()
