@@ -63,8 +63,8 @@ endfunction()
 # Compiles several files of a target as one, where their headers cost more than they do. Names in their unnamed namespaces
 # must then differ. Who reads file by file, as clang-tidy does, turns it off.
 #
-# COLD holds for the full preset alone, and for every layer: a cold build takes half the processor time, but a changed file
-# takes its neighbours along.
+# COLD holds for the full preset alone, and for each layer that does not turn it off: a cold build takes half the processor
+# time, but a changed file takes its neighbours along.
 function(murvane_compiled_together target)
     cmake_parse_arguments(ARG "COLD" "" "" ${ARGN})
     if(NOT DEFINED CMAKE_UNITY_BUILD AND (MURVANE_LAYERS_TOGETHER OR NOT ARG_COLD))

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "office/libreoffice/excel/answered.h"
 #include "office/text.h"
 
 namespace libreoffice::excel {
@@ -90,7 +91,8 @@ std::vector<CellCondition> conditionsOn(const SheetRecord& sheet, const model::C
         sheet.sheet(), "ConditionalFormats");
     if (!formats.is()) return found;
     for (const auto& format : formats->getConditionalFormats()) {
-        const auto ranges = property<uno::Reference<css::sheet::XSheetCellRanges>>(format, "Range");
+        const auto ranges =
+            answered(property<uno::Reference<css::sheet::XSheetCellRanges>>(format, "Range"));
         std::vector<model::CellBlock> blocks;
         for (const auto& address : ranges->getRangeAddresses()) blocks.push_back(blockOf(address));
         if (std::none_of(blocks.begin(), blocks.end(), [&](const model::CellBlock& each) {
