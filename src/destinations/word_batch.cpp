@@ -47,7 +47,10 @@ private:
         return format_ == ExportFormat::Pictures && session_.Pictures != office::PictureKind::Png;
     }
     void copy(const ExportItem& row);
+    void putOnNewPage();
     void InsertPageBreakBlock();
+    void TypeParagraph();
+    void takeOutNewPage();
     void paste();
     void FinishWordItem(const ExportItem& row, const Object& shape);
     void SetLastShapeWidth(const Object& shape);
@@ -64,18 +67,15 @@ private:
     /// The picture of the row at hand.
     std::string file_;
     bool hasText_ = false;
-    /// A page has been begun, and nothing has come to it.
-    bool pageIsFresh_ = false;
+    /// What has been written for the row at hand ahead of its paste.
+    int newParagraphs_ = 0;
 };
 
 void WordBatch::exportRow(const ExportItem& row) {
     copy(row);
-    InsertPageBreakBlock();
-    if (format_ == ExportFormat::Pictures) selection_.call("TypeParagraph");
     const Object shapes = document_.get(floats() ? "Shapes" : "InlineShapes").toObject();
     const std::int32_t before = shapes.get("Count").toLong();
-    paste();
-    pageIsFresh_ = false;
+    putOnNewPage();
     session_.host.letEventsRun();
     // What has come may be a table, which is no shape.
     const std::int32_t count = shapes.get("Count").toLong();
@@ -107,6 +107,30 @@ void WordBatch::copy(const ExportItem& row) {
     session::SleepMilliseconds(session_, arrivedMs);
 }
 
+/// The page goes again if nothing comes to it: as the last one it would stay empty.
+void WordBatch::putOnNewPage() {
+    newParagraphs_ = 0;
+    try {
+        InsertPageBreakBlock();
+        if (format_ == ExportFormat::Pictures) TypeParagraph();
+        paste();
+    } catch (const office::Failure&) {
+        takeOutNewPage();
+        throw;
+    }
+}
+
+void WordBatch::takeOutNewPage() {
+    office::ContinueOnFailure scope;
+    for (; newParagraphs_ > 0; --newParagraphs_)
+        scope.attempt([this] { selection_.call("TypeBackspace"); });
+}
+
+void WordBatch::TypeParagraph() {
+    selection_.call("TypeParagraph");
+    ++newParagraphs_;
+}
+
 /// The paragraph that is left behind the break does not break the page once more. An empty document
 /// needs none: its first page would stay empty.
 void WordBatch::InsertPageBreakBlock() {
@@ -117,18 +141,19 @@ void WordBatch::InsertPageBreakBlock() {
         range.call("Collapse", toEnd);
         return range;
     };
-    // Of an item whose paste failed the page is there still.
-    if (!pageIsFresh_ && hasText()) {
+    const auto appendParagraph = [&] {
         end().call("InsertParagraphAfter");
+        ++newParagraphs_;
         end().call("Select");
-        // What came before may be a caption or the item of a list.
-        selection_.put("Style", normal);
-        end().get("ParagraphFormat").put("PageBreakBefore", true);
-        end().call("InsertParagraphAfter");
-        end().get("ParagraphFormat").put("PageBreakBefore", false);
-    }
+    };
     end().call("Select");
-    pageIsFresh_ = true;
+    if (!hasText()) return;
+    appendParagraph();
+    // What came before may be a caption or the item of a list.
+    selection_.put("Style", normal);
+    end().get("ParagraphFormat").put("PageBreakBefore", true);
+    appendParagraph();
+    end().get("ParagraphFormat").put("PageBreakBefore", false);
 }
 
 bool WordBatch::hasText() {

@@ -19,8 +19,7 @@ struct WordOptions {
 /// the choices. The document stays open and unsaved.
 ///
 /// Objects that are embedded or linked always fill the width of the text, without caption and
-/// shadow. A row is copied before anything of it is written, so that one that can't be copied
-/// leaves no page behind.
+/// shadow. A row that can't be copied or pasted leaves no page behind.
 WalkResult ExportRowsToWord(RowBatch& batch, catalogue::ExportFormat format,
                             const WordOptions& options);
 

@@ -59,6 +59,22 @@ TEST_F(WordContract, AppendsPagesBehindAllText) {
     EXPECT_EQ(paragraphsOf(saved("pages.docx")), (Lines{"as it was", "|", "", "*", "|", "", "*"}));
 }
 
+TEST_F(WordContract, TakesEmptyParagraphsOutAgain) {
+    const Object caret = selection();
+    caret.call("TypeText", "as it was");
+    caret.put("Style", -2);
+    EXPECT_EQ(failureOf([&] { caret.call("TypeBackspace"); }), refused);
+    goToNewPage();
+    caret.put("Style", -1);
+    for (int i = 0; i < 2; ++i) caret.call("TypeBackspace");
+    caret.call("TypeText", "!");
+    const std::string file = saved("as it was.docx");
+    EXPECT_EQ(paragraphsOf(file), Lines{"as it was!"});
+    const std::string part = "/word/document.xml";
+    EXPECT_NE(office::package::Package::open(file).read(part).find("\"Heading1\""),
+              std::string::npos);
+}
+
 /// Each label counts for itself, over what stood in the file before, too.
 TEST_F(WordContract, NumbersCaptionsByTheirLabels) {
     const Value labels = word.get("CaptionLabels");

@@ -93,14 +93,25 @@ TEST_F(WordBatchTest, WhatCannotBeCopiedLeavesNoPageBehindAndIsTold) {
     EXPECT_EQ(breaksAndEmptyPages(), std::pair(1, 0));
 }
 
-TEST_F(WordBatchTest, PastesThatFailLeaveOneFreshPageForTheNextItem) {
+TEST_F(WordBatchTest, PastesThatFailLeaveNoPageBehind) {
     addOfEachKind();
-    test.suite.failures().fail("Selection.Paste");
     Texts failed;
     onFailedItem = [&](const auto& row, const auto&) { failed.push_back(row.name); };
+    auto& failures = test.suite.failures();
+    const std::size_t before = document.paragraphs().size();
+    for (int i = 0; i < 3; ++i) failures.fail("Selection.Paste");
     exportRows(ExportFormat::Pictures);
-    EXPECT_EQ(failed, Texts{"Chart 1"});
+    EXPECT_EQ(failed.size(), 3U);
+    ASSERT_EQ(document.paragraphs().size(), before) << "it is as it was";
+    failures.fail("Selection.Paste", 3);
+    exportRows(ExportFormat::Pictures);
     EXPECT_EQ(breaksAndEmptyPages(), std::pair(2, 0));
+
+    auto& fresh = test.suite.word().addDocument("New.docx");
+    ASSERT_TRUE(destinations::AttachWord(session));
+    failures.fail("Selection.Paste");
+    exportRows(ExportFormat::Pictures);
+    EXPECT_EQ(fresh.paragraphs()[1].objects, 1) << "the second item begins it";
 }
 
 TEST_F(WordBatchTest, CancellingEndsItAfterTheItemAtHand) {

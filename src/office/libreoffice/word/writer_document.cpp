@@ -4,6 +4,7 @@
 #include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
 #include <com/sun/star/text/ControlCharacter.hpp>
+#include <com/sun/star/text/XParagraphCursor.hpp>
 #include <com/sun/star/text/XTextDocument.hpp>
 #include <com/sun/star/text/XTextFieldsSupplier.hpp>
 #include <com/sun/star/text/XTextTablesSupplier.hpp>
@@ -146,6 +147,18 @@ void WriterDocument::typeParagraph() {
     const UndoGroup group(steps_, "Typing");
     removeSelected(selected);
     selected->getText()->insertControlCharacter(caret_.sameRange(), PARAGRAPH_BREAK, false);
+}
+
+void WriterDocument::typeBackspace() {
+    constexpr const char* member = "Selection.TypeBackspace";
+    const auto place = writablePlace(member);
+    const auto ends = as<css::text::XParagraphCursor>(place);
+    if (!place->isCollapsed() || !ends->isStartOfParagraph() || !ends->isEndOfParagraph() ||
+        !place->goLeft(1, true))
+        throw Failure(FailureNumber::ApplicationDefined, member,
+                      "An empty paragraph alone can be taken out here");
+    const UndoGroup group(steps_, "Typing");
+    place->setString(rtl::OUString());
 }
 
 uno::Reference<css::beans::XPropertySet> WriterDocument::pageStyle() {

@@ -51,6 +51,7 @@ public:
     void moveToLineStart() override { caret_.goToStartOfLine(); }
     void typeText(const std::string& text) override;
     void typeParagraph() override;
+    void typeBackspace() override;
     void changeParagraph(const model::ParagraphChange& change) override;
     model::Page page() override;
     void setPage(const model::Page& page) override;

@@ -177,6 +177,7 @@ const MemberTable<Selection>& Selection::members() {
                         self.document().typeText(arguments.at(0).toText());
                     })
             .method("TypeParagraph", {}, [](Self& self) { self.document().typeParagraph(); })
+            .method("TypeBackspace", {}, [](Self& self) { self.document().typeBackspace(); })
             .property("InlineShapes",
                       [](Self& self) { return selectedInlineShapesObject(self.home()); })
             .method("MoveDown", {"Unit", "Count", "Extend"}, &Self::moveDown)

@@ -123,6 +123,9 @@ public:
     virtual void moveToLineStart() = 0;
     virtual void typeText(const std::string& text) = 0;
     virtual void typeParagraph() = 0;
+    /// Takes out the empty paragraph with the caret, which goes to the end of the one ahead of it.
+    /// `Failure` 1004 if the caret stands anywhere else.
+    virtual void typeBackspace() = 0;
     virtual void changeParagraph(const ParagraphChange& change) = 0;
     virtual Page page() = 0;
     /// For the whole section. Sides longer than wide make it portrait, the others landscape.

@@ -190,6 +190,18 @@ void FileDocument::typeParagraph() {
     moveToLineStart();
 }
 
+void FileDocument::typeBackspace() {
+    const pugi::xml_node empty = caret_.paragraph;
+    const pugi::xml_node ahead = empty.previous_sibling();
+    if (contentOf(empty) || sectionEndIn(empty) || !isNamed(ahead, ns::word, "p"))
+        office::model::refuse("Selection.TypeBackspace",
+                              "An empty paragraph alone can be taken out here");
+    touch();
+    selected_.reset();
+    empty.parent().remove_child(empty);
+    placeCaret(ahead);
+}
+
 void FileDocument::changeParagraph(const word::ParagraphChange& change) {
     touch();
     changeLook(caret_.paragraph, change, styles_);

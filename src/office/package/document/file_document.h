@@ -73,6 +73,7 @@ public:
     void moveToLineStart() override;
     void typeText(const std::string& text) override;
     void typeParagraph() override;
+    void typeBackspace() override;
     void changeParagraph(const word::ParagraphChange& change) override;
     word::Page page() override;
     void setPage(const word::Page& page) override;
