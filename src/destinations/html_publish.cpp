@@ -110,7 +110,7 @@ public:
     /// The row's record, which is still to be ended: its pictures may be drawn until then.
     [[nodiscard]] Object publishRow(const ExportItem& row) {
         const std::string title = options_.useTitles ? row.caption : std::string();
-        Object record = row.isChartSheet() ? publish(chartSource, row.sheet, "", title)
+        Object record = row.isChartSheet() ? publish(chartSource, row.sheet, ownChartOf(row), title)
                                            : publish(rangeSource, row.sheet, addressOf(row), title);
         ++published_;
         constexpr std::int32_t mostLines = 100;
@@ -124,6 +124,13 @@ public:
     [[nodiscard]] int published() const { return published_; }
 
 private:
+    /// Nothing for a chart sheet; the name of the row's chart where the sheet has become a
+    /// worksheet.
+    [[nodiscard]] std::string ownChartOf(const ExportItem& row) {
+        const Object home = catalogue::chartOf(session_, row).get("Parent").toObject();
+        return home.typeName() == "ChartObject" ? home.get("Name").toText() : std::string();
+    }
+
     /// A chart on a worksheet goes with the cells under it.
     [[nodiscard]] std::string addressOf(const ExportItem& row) {
         if (!row.isEmbeddedChart())

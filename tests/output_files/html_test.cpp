@@ -110,6 +110,15 @@ TEST_F(Html, ThatIsPublishedNeedsNoSheetForBlankLinesAndNoBlankLines) {
     EXPECT_TRUE(book.structureIsProtected());
 }
 
+TEST_F(Html, ThatIsPublishedTakesTheFirstChartOfAWorksheetThatWasAChartSheet) {
+    book.sheet("Former").chart("First").chart("Second");
+    add(ItemKind::ChartSheet, "", "Former");
+    const std::string text = page(publish());
+    EXPECT_EQ(failed, Names{});
+    EXPECT_EQ(count(text, "<img"), 1U);
+    EXPECT_EQ(count(text, "alt=\"First\""), 1U);
+}
+
 TEST_F(Html, LeavesNothingOfAnExportThatFailed) {
     addChart("A", "S");
     addChart("B", "S");
