@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "catalogue/failed_items.h"
 #include "catalogue/number_entry.h"
-#include "destinations/failed_items.h"
 #include "destinations/html_export.h"
 #include "destinations/output_folder.h"
 #include "destinations/size_factor.h"
@@ -126,7 +126,7 @@ void DialogHTML::ContinueOk_Click() {
 }
 
 void DialogHTML::runBatch(const HtmlOptions& wanted, bool asImages) {
-    FailedItems failed;
+    catalogue::FailedItems failed;
     RowBatch batch{session(), list_,
                    [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
     const HtmlResult result =

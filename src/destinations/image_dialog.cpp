@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "destinations/failed_items.h"
+#include "catalogue/failed_items.h"
 #include "destinations/output_folder.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
@@ -161,7 +161,7 @@ void DialogImageFiles::ContinueOk_Click() {
 }
 
 void DialogImageFiles::runBatch(const ImageFileOptions& wanted) {
-    FailedItems failed;
+    catalogue::FailedItems failed;
     RowBatch batch{session(), list_,
                    [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
     const WalkResult result = ExportRowsToImageFiles(batch, wanted);

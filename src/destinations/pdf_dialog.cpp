@@ -5,7 +5,7 @@
 #include <array>
 #include <utility>
 
-#include "destinations/failed_items.h"
+#include "catalogue/failed_items.h"
 #include "destinations/format_names.h"
 #include "destinations/pdf_file.h"
 #include "destinations/size_factor.h"
@@ -120,7 +120,7 @@ PdfOptions DialogPDF::options() {
 void DialogPDF::MakeBlankDoc_Paste_ExportPdf_AndClose() {
     const PdfOptions wanted = options();
     const std::string path = pdfPath(session(), "TempWord");
-    FailedItems failed;
+    catalogue::FailedItems failed;
     RowBatch batch{session(), list_,
                    [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
     session().progress.showItem(0, taken_);

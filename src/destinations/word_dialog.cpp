@@ -5,7 +5,7 @@
 #include <array>
 #include <utility>
 
-#include "destinations/failed_items.h"
+#include "catalogue/failed_items.h"
 #include "destinations/format_names.h"
 #include "destinations/pdf_file.h"
 #include "office/failure_patterns.h"
@@ -114,7 +114,7 @@ void DialogWord::ContinueOk_Click() {
 
 void DialogWord::runBatch() {
     constexpr std::uint32_t settledMs = 100;
-    FailedItems failed;
+    catalogue::FailedItems failed;
     RowBatch batch{
         session(), list_,
         [&](const auto& row,

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "catalogue/export_run.h"
+#include "catalogue/failed_items.h"
 #include "forms/desktop.h"
 #include "office/text.h"
 #include "panels/dialogs.h"
@@ -167,8 +168,17 @@ void Dialog::ContinueOk_Click() {
     options_.shadow = CheckShadow.isChecked();
     options_.pictureStyle = session().PictureStyle;
     panels::RunExport(session(), *this, taken_, [this] {
-        Batch batch{session(), list_, choices_, {}, options_};
+        catalogue::FailedItems failed;
+        Batch batch{session(), list_, choices_,
+                    [&](const auto& row, const auto& failure) {
+                        // Without its presentation no other item would go better.
+                        office::ContinueOnFailure asking;
+                        if (!presentationIsThere(asking)) throw office::Failure(failure);
+                        failed.add(row, failure);
+                    },
+                    options_};
         ExportRows(batch);
+        failed.tell(session());
     });
 }
 

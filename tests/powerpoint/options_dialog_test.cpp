@@ -180,6 +180,23 @@ TEST_F(PowerPointDialog, HandsItsOptionsToTheExportAndEndsTheSession) {
                        "Application.DisplayAlerts = True"}));
 }
 
+TEST_F(PowerPointDialog, GoesOnOverAChartThatHasGoneButNotWithoutItsPresentation) {
+    list.rows[0].name = "Chart 9";
+    open([](powerpoint::Dialog& dialog) { press(dialog, "ContinueOk"); });
+    ASSERT_EQ(deck.slideCount(), 5);
+    EXPECT_TRUE(picturesOn(4).empty());
+    EXPECT_EQ(picturesOn(5), Strings{"Chart 2"});
+    ASSERT_EQ(notices.messages().size(), 1U);
+    EXPECT_TRUE(notices.messages()[0].starts_with("1 item(s) could not be exported:\rChart 9: "))
+        << notices.messages()[0];
+
+    attachAgain();
+    open([&](powerpoint::Dialog& dialog) {
+        host.onEvents = [this] { deck.close(); };
+        EXPECT_THROW(press(dialog, "ContinueOk"), office::Failure);
+    });
+}
+
 TEST_F(PowerPointDialog, KeepsTheStyleThatWasChosenAnEarlierTime) {
     open([&](powerpoint::Dialog& dialog) {
         desktop.answer("PredefinedStyles", [](forms::Form& form) {

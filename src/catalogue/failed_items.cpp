@@ -1,12 +1,12 @@
-#include "destinations/failed_items.h"
+#include "catalogue/failed_items.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
 
-namespace destinations {
+namespace catalogue {
 
-void FailedItems::add(const catalogue::ExportItem& row, const office::Failure& failure) {
+void FailedItems::add(const ExportItem& row, const office::Failure& failure) {
     lines_.push_back(
         fmt::format("{}: {}", row.isChartSheet() ? row.sheet : row.name, failure.description()));
 }
@@ -21,4 +21,4 @@ void FailedItems::tell(session::OfficeSession& session) const {
     session::ShowWarningNotice(session.notices, text);
 }
 
-}  // namespace destinations
+}  // namespace catalogue

@@ -7,12 +7,12 @@
 #include "office/failure.h"
 #include "session/office_session.h"
 
-namespace destinations {
+namespace catalogue {
 
 /// The items that a batch went on without, told in one notice at its end.
 class FailedItems {
 public:
-    void add(const catalogue::ExportItem& row, const office::Failure& failure);
+    void add(const ExportItem& row, const office::Failure& failure);
     /// Nothing where all went well.
     void tell(session::OfficeSession& session) const;
 
@@ -20,4 +20,4 @@ private:
     std::vector<std::string> lines_;
 };
 
-}  // namespace destinations
+}  // namespace catalogue
