@@ -114,7 +114,7 @@ CheckAllState stateOf(std::size_t checked, std::size_t rows) {
 }
 
 CheckAllState fill(session::OfficeSession& session, ExportList& list, session::StoredItems stored,
-                   const SeveralAreasByKey& hasSeveralAreas) {
+                   const KnownAreas& hasSeveralAreas) {
     list.rows = std::move(stored.items);
     std::size_t checked = 0;
     RowObjects objects(session);
@@ -123,7 +123,7 @@ CheckAllState fill(session::OfficeSession& session, ExportList& list, session::S
         if (item.kind != ItemKind::Range) continue;
         // The walk has looked at nearly all of them; what is left are items of hidden sheets and of
         // names that have vanished.
-        const auto known = hasSeveralAreas.find(item.key());
+        const auto known = hasSeveralAreas.find(item.identity());
         item.hasSeveralAreas =
             known != hasSeveralAreas.end() ? known->second : objects.isMultipleAreaRow(item);
         if (item.hasSeveralAreas) item.checked = false;

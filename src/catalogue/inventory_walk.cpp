@@ -152,7 +152,7 @@ void Walk::noteAreas(const std::string& nameText, const ExportItem& item, const 
     const bool isOwnSheets =
         nameText == item.sheet + "!" + item.name || nameText == "'" + item.sheet + "'!" + item.name;
     if (isSheetLevel && !isOwnSheets) return;
-    const std::string key = item.key();
+    const session::ItemIdentity key = item.identity();
     if (!isSheetLevel && found_.hasSeveralAreas.contains(key)) return;
     // The address joins its areas by commas and holds no sheet name that could bring in another
     // one.

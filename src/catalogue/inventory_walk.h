@@ -1,7 +1,6 @@
 #pragma once
 
 #include <map>
-#include <string>
 #include <vector>
 
 #include "catalogue/export_list.h"
@@ -9,14 +8,14 @@
 
 namespace catalogue {
 
-/// Whether the range of a key has several areas, as far as its name is found from its own sheet.
-using SeveralAreasByKey = std::map<std::string, bool>;
+/// Whether the range of an item has several areas, as far as its name is found from its own sheet.
+using KnownAreas = std::map<session::ItemIdentity, bool>;
 
 /// What a walk through a workbook finds.
 struct FoundItems {
     /// Charts first, then chart sheets, then named ranges, all on visible sheets.
     std::vector<ExportItem> items;
-    SeveralAreasByKey hasSeveralAreas;
+    KnownAreas hasSeveralAreas;
 };
 
 /// Walks through the active workbook and moves the loading bar on by each item. A failure of Excel

@@ -180,6 +180,7 @@ void ShowLayoutUtility(session::OfficeSession& session, forms::Desktop& desktop)
         return;
     }
     try {
+        if (!session::CanKeepStore(session)) return;
         session::EnsureStoreSheet(session);
         LayoutForm form(desktop, session);
         desktop.show(form, forms::ShowMode::Modal);

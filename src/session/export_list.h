@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 namespace session {
@@ -12,6 +13,9 @@ enum class ItemKind { Chart, ChartSheet, Range };
 
 /// The name of every chart sheet's item; the chart sheet's own name is the item's `sheet`.
 inline constexpr std::string_view chartSheetText = "{Chart Sheet}";
+
+/// Kind, name and sheet of an item.
+using ItemIdentity = std::tuple<ItemKind, std::string, std::string>;
 
 /// One exportable object of a workbook with what the user has decided about it. The inventory finds
 /// it, the store keeps it, the list shows it, and the exports read it.
@@ -36,6 +40,8 @@ struct ExportItem {
     bool isMarked = false;
 
     /// What makes it the same item from run to run.
+    [[nodiscard]] ItemIdentity identity() const { return {kind, name, sheet}; }
+    /// What the store notes of that; the other columns hold the rest.
     [[nodiscard]] std::string key() const { return name + sheet; }
     bool operator==(const ExportItem&) const = default;
     [[nodiscard]] bool isChartSheet() const { return kind == ItemKind::ChartSheet; }

@@ -262,23 +262,7 @@ void CloseSession(OfficeSession& session, const std::function<void()>& unloadAll
 int OpenMainForm(OfficeSession& session, const CommandHandlers& handlers) {
     if (!handlers.ShowMainForm) return reportNoWindows(session, "/112");
     session.ExcelApp.put("ScreenUpdating", true);
-    if (office::orElse([&] { return session.ActiveBook.get("ReadOnly").toBool(); }, false)) {
-        ShowWarningNotice(session.notices,
-                          "The workbook is read-only, and Murvane keeps its list in the workbook.\r"
-                          "Open it for editing or save it under another name,\r"
-                          "then reopen Murvane.");
-        return commandDone;
-    }
-    // A workbook that has the sheet already takes no new one, so its protection is no hindrance.
-    if (!SheetExists(session, store::sheetName) &&
-        session.ActiveBook.get("ProtectStructure").toBool()) {
-        ShowWarningNotice(session.notices,
-                          "              The workbook looks protected\r\r"
-                          "Please remove the protection and reopen Murvane\r"
-                          "After that you may reprotect the workbook.\r"
-                          "The message will not longer appear");
-        return commandDone;
-    }
+    if (!CanKeepStore(session)) return commandDone;
     EnsureStoreSheet(session);
     session.host.letEventsRun();
     session.MainFormOpen = true;

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <map>
 #include <unordered_set>
 #include <utility>
 
@@ -93,7 +94,6 @@ void fillRow(Table& block, std::size_t row, const ExportItem& item) {
 /// What the store holds, read as one block.
 struct Stored {
     std::vector<ExportItem> items;
-    std::unordered_set<std::string> keys;
     bool hasKeys = false;
     /// The last row with an entry in columns A to H: an item's, or the marker below the items.
     std::size_t lastRow = 0;
@@ -109,9 +109,7 @@ Stored readStored(const Object& sheet) {
         }
         // The marker's row, and whatever else is no item.
         if (block.at(row, nameColumn).isBlank()) continue;
-        const Value& key = block.at(row, keyColumn);
-        if (stored.items.empty()) stored.hasKeys = !key.isBlank();
-        stored.keys.insert(key.toText());
+        if (stored.items.empty()) stored.hasKeys = !block.at(row, keyColumn).isBlank();
         stored.items.push_back(itemIn(block, row));
     }
     return stored;
@@ -142,8 +140,11 @@ StoredItems merged(const Stored& stored, std::vector<ExportItem> found) {
         std::ranges::stable_sort(found, {}, sheetOf);
     }
     std::unordered_set<std::string> formerChartSheets = chartSheetsLostIn(stored, found);
+    // Counted: where several bear one name, a new one is not taken for one that is known.
+    std::map<ItemIdentity, int> known;
+    for (const ExportItem& item : stored.items) ++known[item.identity()];
     for (ExportItem& item : found) {
-        if (stored.keys.contains(item.key())) continue;
+        if (known[item.identity()]-- > 0) continue;
         if (item.isEmbeddedChart() && formerChartSheets.erase(item.sheet) > 0) continue;
         if (!wereUnknown) item.laterRow = laterRow;
         all.items.push_back(std::move(item));
@@ -199,6 +200,27 @@ Value cellOf(const std::optional<double>& share) {
 
 }  // namespace
 
+bool CanKeepStore(OfficeSession& session) {
+    if (office::orElse([&] { return session.ActiveBook.get("ReadOnly").toBool(); }, false)) {
+        ShowWarningNotice(session.notices,
+                          "The workbook is read-only, and Murvane keeps its list in the workbook.\r"
+                          "Open it for editing or save it under another name,\r"
+                          "then reopen Murvane.");
+        return false;
+    }
+    // A workbook that has the sheet already takes no new one, so its protection is no hindrance.
+    if (!SheetExists(session, store::sheetName) &&
+        session.ActiveBook.get("ProtectStructure").toBool()) {
+        ShowWarningNotice(session.notices,
+                          "              The workbook looks protected\r\r"
+                          "Please remove the protection and reopen Murvane\r"
+                          "After that you may reprotect the workbook.\r"
+                          "The message will not longer appear");
+        return false;
+    }
+    return true;
+}
+
 bool SheetExists(OfficeSession& session, std::string_view name) {
     return office::orElse(
         [&] {
@@ -216,11 +238,13 @@ void EnsureStoreSheet(OfficeSession& session) {
     Object sheet;
     // Behind the others: one in front of them would move what all charts refer to, and a suite then
     // draws each of them anew.
-    scope.attempt([&] {
+    const bool isThere = scope.attempt([&] {
         const Object sheets = book.get("Sheets").toObject();
         const Value last = sheets.get("Item", sheets.get("Count"));
         sheet = book.get("Worksheets").call("Add", office::arg("After", last)).toObject();
     });
+    // Names that lead to no sheet would be all that is left of it.
+    if (!isThere) return;
     scope.attempt([&] { sheet.put("Name", store::sheetName); });
     scope.attempt([&] {
         book.get("Names").call("Add", office::arg("Name", store::itemsName),

@@ -27,6 +27,10 @@ inline constexpr const char* foreignName = "AllZichron11111";
 /// Whether the active workbook has a worksheet of this name.
 [[nodiscard]] bool SheetExists(OfficeSession& session, std::string_view name);
 
+/// Whether what the user decides can be kept in the active workbook: it may be written, and has the
+/// store sheet or can take one. A notice says why not.
+[[nodiscard]] bool CanKeepStore(OfficeSession& session);
+
 /// Makes the store sheet with its names and formats, if there is a workbook and it has none.
 /// Failures are passed over: a protected workbook stays without.
 void EnsureStoreSheet(OfficeSession& session);

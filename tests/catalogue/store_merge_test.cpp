@@ -71,6 +71,15 @@ TEST_F(StoreMerge, KeepsOrderChecksNumbersAndCaptionsFromRunToRun) {
     EXPECT_EQ(loaded.check1, catalogue::CheckAllState::Some);
 }
 
+TEST_F(StoreMerge, KnowsItemsByKindNameAndSheetTogether) {
+    run();
+    book.sheet("1Sales").chart("Chart ");
+    book.define("Chart 1", "=Sales!$A$1");
+    EXPECT_EQ(LoadedList(test).names(), (Words{"Chart 1@Sales", "Chart 2@Sales", "Chart @1Sales",
+                                               "Chart 1@Sales"}));
+    EXPECT_EQ(LoadedList(test).names().size(), 4U);
+}
+
 TEST_F(StoreMerge, AppendsNewItemsBelowTheMarkerRow) {
     run();
     book.sheet("Sales").chart("Chart 3");

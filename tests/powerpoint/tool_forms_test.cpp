@@ -121,6 +121,11 @@ TEST_F(ToolForms, TheUtilityMakesTheStoreAndSaysWhatKeepsItFromComingUp) {
     EXPECT_EQ(test.sheet(session::store::sheetName).get("Visible").toLong(), 2);
     desktop.opensWindows = false;
     powerpoint::ShowLayoutUtility(test.session, desktop);
+    test.suite.excel().addWorkbook("Shut.xlsx").protectStructure();
+    test.attach();
+    powerpoint::ShowLayoutUtility(test.session, desktop);
+    EXPECT_NE(test.notices.shown.back().message.find("looks protected"), std::string::npos);
+    test.notices.shown.pop_back();
     test.session.ActiveBook.release();
     powerpoint::ShowLayoutUtility(test.session, desktop);
     EXPECT_EQ(test.notices.messages(),

@@ -59,6 +59,7 @@ TEST_F(WorkbookStore, CannotBeMadeInAProtectedWorkbookAndSaysNothing) {
     book.protectStructure();
     session::EnsureStoreSheet(test.session);
     EXPECT_FALSE(session::SheetExists(test.session, store::sheetName));
+    EXPECT_EQ(test.session.ActiveBook.get("Names").get("Count").toLong(), 0);
     EXPECT_TRUE(test.notices.shown.empty());
 }
 
