@@ -40,20 +40,35 @@ void reviewItems(session::OfficeSession& session, const ExportList& list, Review
                    "No items are checked. Select at least one chart, range, or object to export.");
         return;
     }
-    const std::int32_t exportable = CountExportableRows(session, list);
+    RowObjects objects(session);
+    std::int32_t exportable = 0;
+    std::int32_t gone = 0;
+    for (const ExportItem& row : list.rows) {
+        if (!row.checked) continue;
+        if (objects.isOnVisibleSheet(row)) ++exportable;
+        if (objects.isSheetGone(row)) ++gone;
+    }
+    const std::int32_t hidden = checked - exportable - gone;
     if (exportable == 0 && !isOpen(session.ActiveBook)) {
         AddBlocker(texts.Blockers, "The workbook is no longer open. Open it again and start anew.");
+    } else if (gone == checked) {
+        AddBlocker(texts.Blockers,
+                   "The sheets of all checked items are no longer in the workbook. They may have "
+                   "been renamed: check the items under the new names.");
     } else if (exportable == 0) {
         AddBlocker(texts.Blockers,
                    "All checked items are on hidden worksheets and cannot be exported. Show those "
                    "sheets or uncheck them.");
-    } else if (checked > exportable) {
-        AddReviewItem(
-            texts.ReviewItems, texts.ReviewLines,
-            fmt::format("{} checked item(s) are on hidden worksheets and will be skipped.",
-                        checked - exportable));
+    } else {
+        const auto tellSkipped = [&](std::int32_t count, const char* where) {
+            if (count == 0) return;
+            AddReviewItem(
+                texts.ReviewItems, texts.ReviewLines,
+                fmt::format("{} checked item(s) are on {} and will be skipped.", count, where));
+        };
+        tellSkipped(hidden, "hidden worksheets");
+        tellSkipped(gone, "sheets that are no longer in the workbook");
     }
-    RowObjects objects(session);
     for (const ExportItem& row : list.rows) {
         if (!row.checked || !objects.isMultipleAreaRow(row)) continue;
         AddBlocker(

@@ -39,6 +39,10 @@ bool RowObjects::isOnVisibleSheet(const ExportItem& row) {
     return row.checked && sheetOf(row).isVisible;
 }
 
+bool RowObjects::isSheetGone(const ExportItem& row) {
+    return sheetOf(row).object.isNothing();
+}
+
 bool RowObjects::isMultipleAreaRow(const ExportItem& row) {
     if (row.kind != ItemKind::Range) return false;
     office::ContinueOnFailure scope;

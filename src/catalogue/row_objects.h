@@ -18,6 +18,9 @@ public:
     /// gone.
     [[nodiscard]] bool isOnVisibleSheet(const ExportItem& row);
 
+    /// Whether the workbook has no sheet of the row's any more.
+    [[nodiscard]] bool isSheetGone(const ExportItem& row);
+
     /// Whether the row is a range of several areas, which can't be exported. False if that can't be
     /// told.
     [[nodiscard]] bool isMultipleAreaRow(const ExportItem& row);

@@ -9,7 +9,6 @@
 #include "catalogue/list_columns.h"
 #include "catalogue/list_rows.h"
 #include "catalogue/number_entry.h"
-#include "catalogue/row_objects.h"
 #include "forms/desktop.h"
 #include "furniture/theme.h"
 #include "office/failure_patterns.h"
@@ -267,12 +266,8 @@ void UserformObj::listCharts_ColumnClick(std::size_t column) {
 
 void UserformObj::Check1_Click() {
     if (list_.isLoaded) {
-        const forms::Working working(desktop());
         const bool check = Check1.isChecked();
-        RowObjects objects(session_);
-        for (ExportItem& row : list_.rows) {
-            if (!objects.isMultipleAreaRow(row)) row.checked = check;
-        }
+        for (ExportItem& row : list_.rows) row.checked = check && !row.hasSeveralAreas;
     }
     recolourRows();
     renumberRows();

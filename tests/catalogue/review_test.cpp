@@ -70,6 +70,10 @@ TEST_F(Review, CollectsTheBlockersOfItemsAndDestination) {
     EXPECT_EQ(blockers(),
               Words{"All checked items are on hidden worksheets and cannot be exported. Show those "
                     "sheets or uncheck them."});
+    list.rows = {row("Chart 2", "Renamed", session::ItemKind::Chart)};
+    EXPECT_EQ(blockers(),
+              Words{"The sheets of all checked items are no longer in the workbook. They may have "
+                    "been renamed: check the items under the new names."});
     const auto book = test.session.ActiveBook;
     test.session.ActiveBook.release();
     EXPECT_EQ(blockers(), Words{"The workbook is no longer open. Open it again and start anew."});
@@ -109,6 +113,7 @@ TEST_F(Review, ShowsTheBlockersTogetherWithWhatToReview) {
 
 TEST_F(Review, AsksWhetherToGoOnWithoutTheHiddenItems) {
     list.rows.push_back(row("Chart 2", "Hidden", ItemKind::Chart));
+    list.rows.push_back(row("Chart 3", "Renamed", ItemKind::Chart));
     openDeck(1);
     test.notices.answers = {session::answer::ok, session::answer::cancel};
     EXPECT_EQ(catalogue::PreExportReview(test.session, list, {choices}), ReviewResult::Go);
@@ -116,8 +121,9 @@ TEST_F(Review, AsksWhetherToGoOnWithoutTheHiddenItems) {
     EXPECT_EQ(test.notices.shown.front().title, "Export review");
     EXPECT_EQ(test.notices.shown.front().buttons, session::buttons::question);
     EXPECT_EQ(test.notices.shown.front().message,
-              "- 1 checked item(s) are on hidden worksheets and will be skipped.\r\n\r\n\r\n"
-              "Continue anyway?");
+              "- 1 checked item(s) are on hidden worksheets and will be skipped.\r\n"
+              "- 1 checked item(s) are on sheets that are no longer in the workbook and will be "
+              "skipped.\r\n\r\n\r\nContinue anyway?");
 }
 
 TEST_F(Review, AttachesAgainWhereTheFirstReferenceDoesNotAnswer) {
