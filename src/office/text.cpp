@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <charconv>
+#include <map>
 #include <memory>
+#include <set>
 
 namespace office {
 
@@ -66,6 +68,21 @@ std::string sortKey(std::string_view text) {
     std::string key(static_cast<std::size_t>(size), '\0');
     collator->getSortKey(sorted, reinterpret_cast<std::uint8_t*>(key.data()), size);
     return key;
+}
+
+std::vector<std::string> distinctNames(std::vector<std::string> names) {
+    std::set<std::string> taken;
+    for (const std::string& name : names) taken.insert(lowerCase(name));
+    std::map<std::string, int> seen;
+    for (std::string& name : names) {
+        int& number = seen[lowerCase(name)];
+        if (name.empty() || ++number == 1) continue;
+        std::string distinct = name + " (" + std::to_string(number) + ")";
+        while (!taken.insert(lowerCase(distinct)).second)
+            distinct = name + " (" + std::to_string(++number) + ")";
+        name = std::move(distinct);
+    }
+    return names;
 }
 
 std::string replaceAll(std::string_view text, std::string_view what, std::string_view with) {

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// The few text helpers that every layer needs. All text is UTF-8.
 namespace office {
@@ -20,6 +21,10 @@ namespace office {
 /// Bytes that compare as the user's eye sorts the texts that they are made from: by the rules of
 /// the user's language, accents after plain letters, case aside.
 [[nodiscard]] std::string sortKey(std::string_view text);
+
+/// The names of things of which several may bear the same: the second "Sales" is called "Sales (2)",
+/// or by the next number that is free. Empty ones stay.
+[[nodiscard]] std::vector<std::string> distinctNames(std::vector<std::string> names);
 
 [[nodiscard]] std::string replaceAll(std::string_view text, std::string_view what,
                                      std::string_view with);

@@ -34,6 +34,12 @@ TEST(Text, IgnoresTheCaseOfLettersAlone) {
         EXPECT_EQ(office::sameIgnoringCase(left, right), same) << left;
 }
 
+TEST(Text, TellsNamesakesApart) {
+    using Names = std::vector<std::string>;
+    EXPECT_EQ(office::distinctNames({"Sales", "sales (2)", "SALES", "", "Sales", ""}),
+              (Names{"Sales", "sales (2)", "SALES (3)", "", "Sales (4)", ""}));
+}
+
 TEST(Text, SortsAsTheEyeDoes) {
     const std::vector<std::string> sorted = {"", "10", "9", "Apfel", "ärger", "Zebra", "日本"};
     for (std::size_t i = 1; i < sorted.size(); ++i) {

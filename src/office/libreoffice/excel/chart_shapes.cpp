@@ -57,11 +57,14 @@ ChartShape::ChartShape(CalcDocument& book, uno::Reference<css::drawing::XShape> 
     : book_(book),
       shape_(std::move(shape)),
       named_(as<css::container::XNamed>(shape_)),
-      name_(std::move(name)),
+      ownName_(std::move(name)),
+      name_(ownName_),
       hasName_(hasName) {}
 
 std::string ChartShape::name() {
-    return hasName_ ? fromUno(named_->getName()) : name_;
+    if (!hasName_) return name_;
+    std::string now = fromUno(named_->getName());
+    return now == ownName_ ? name_ : now;
 }
 
 model::Box ChartShape::box() {
@@ -133,6 +136,10 @@ void ChartShapes::refresh(const uno::Sequence<rtl::OUString>& keys) {
     if (keys.hasElements()) {
         collect(as<css::container::XIndexAccess>(drawPageOf(sheet_)), found);
     }
+    std::vector<std::string> names;
+    for (const ChartShapePtr& chart : found) names.push_back(chart->ownName());
+    names = office::distinctNames(std::move(names));
+    for (std::size_t i = 0; i < found.size(); ++i) found[i]->callItself(std::move(names[i]));
     charts_ = std::move(found);
     seenKeys_ = keys;
 }

@@ -26,7 +26,8 @@ class CalcDocument;
     const uno::Reference<css::sheet::XSpreadsheet>& sheet);
 
 /// The shape that shows a chart on a sheet. A chart made in LibreOffice may have no name; then the
-/// key under which the document stores it stands for one.
+/// key under which the document stores it stands for one. Of several with one name each is called by
+/// a name of its own.
 class ChartShape : public office::model::excel::SheetChart {
 public:
     ChartShape(CalcDocument& book, uno::Reference<css::drawing::XShape> shape, std::string name,
@@ -35,6 +36,10 @@ public:
     [[nodiscard]] const uno::Reference<css::drawing::XShape>& shape() const { return shape_; }
     /// As last seen.
     [[nodiscard]] const std::string& knownName() const { return name_; }
+    /// The name that the suite knows it by, as it was at first.
+    [[nodiscard]] const std::string& ownName() const { return ownName_; }
+    /// Tells it from its namesakes.
+    void callItself(std::string distinct) { name_ = std::move(distinct); }
     /// The shape lasts as long as its owner: what is copied of it keeps that one.
     void belongTo(std::weak_ptr<const void> owner) { owner_ = std::move(owner); }
 
@@ -53,6 +58,7 @@ private:
     CalcDocument& book_;
     uno::Reference<css::drawing::XShape> shape_;
     uno::Reference<css::container::XNamed> named_;
+    std::string ownName_;
     std::string name_;
     bool hasName_;
     std::weak_ptr<const void> owner_;

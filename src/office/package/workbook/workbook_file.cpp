@@ -212,6 +212,10 @@ std::vector<WorkbookChart> WorkbookFile::readCharts(const WorkbookSheet& sheet) 
     for (const pugi::xml_node frame : walker.frames) {
         if (auto chart = chartIn(package_, drawing, frame)) charts.push_back(*std::move(chart));
     }
+    std::vector<std::string> names;
+    for (const WorkbookChart& chart : charts) names.push_back(chart.name);
+    names = distinctNames(std::move(names));
+    for (std::size_t i = 0; i < charts.size(); ++i) charts[i].name = std::move(names[i]);
     return charts;
 }
 

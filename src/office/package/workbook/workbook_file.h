@@ -39,6 +39,7 @@ struct WorkbookSheet {
 
 /// A chart in a sheet's drawing.
 struct WorkbookChart {
+    /// Distinct from those of the other charts on the sheet.
     std::string name;
     /// Empty if the drawing names a part that isn't there.
     std::string part;
