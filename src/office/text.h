@@ -22,8 +22,8 @@ namespace office {
 /// the user's language, accents after plain letters, case aside.
 [[nodiscard]] std::string sortKey(std::string_view text);
 
-/// The names of things of which several may bear the same: the second "Sales" is called "Sales (2)",
-/// or by the next number that is free. Empty ones stay.
+/// The names of things of which several may bear the same: the second "Sales" is called "Sales
+/// (2)", or by the next number that is free. Empty ones stay.
 [[nodiscard]] std::vector<std::string> distinctNames(std::vector<std::string> names);
 
 [[nodiscard]] std::string replaceAll(std::string_view text, std::string_view what,

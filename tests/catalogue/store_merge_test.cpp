@@ -75,8 +75,8 @@ TEST_F(StoreMerge, KnowsItemsByKindNameAndSheetTogether) {
     run();
     book.sheet("1Sales").chart("Chart ");
     book.define("Chart 1", "=Sales!$A$1");
-    EXPECT_EQ(LoadedList(test).names(), (Words{"Chart 1@Sales", "Chart 2@Sales", "Chart @1Sales",
-                                               "Chart 1@Sales"}));
+    EXPECT_EQ(LoadedList(test).names(),
+              (Words{"Chart 1@Sales", "Chart 2@Sales", "Chart @1Sales", "Chart 1@Sales"}));
     EXPECT_EQ(LoadedList(test).names().size(), 4U);
 }
 

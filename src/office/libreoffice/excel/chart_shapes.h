@@ -26,8 +26,8 @@ class CalcDocument;
     const uno::Reference<css::sheet::XSpreadsheet>& sheet);
 
 /// The shape that shows a chart on a sheet. A chart made in LibreOffice may have no name; then the
-/// key under which the document stores it stands for one. Of several with one name each is called by
-/// a name of its own.
+/// key under which the document stores it stands for one. Of several with one name each is called
+/// by a name of its own.
 class ChartShape : public office::model::excel::SheetChart {
 public:
     ChartShape(CalcDocument& book, uno::Reference<css::drawing::XShape> shape, std::string name,
