@@ -171,10 +171,12 @@ void BatchFrame::styleLastShape(const Object& shapes) {
     }
 }
 
-/// The new slides of a cancelled batch that no item has come to.
+/// The new slides of a cancelled batch that no item has come to. Some may have gone already, and a
+/// suite may keep its last one.
 void BatchFrame::removeSlidesLeft() {
+    office::ContinueOnFailure scope;
     for (; static_cast<std::int32_t>(newSlides_.size()) > done_; newSlides_.pop_back())
-        newSlides_.back().call("Delete");
+        scope.attempt([&] { newSlides_.back().call("Delete"); });
 }
 
 std::optional<office::Failure> BatchFrame::putBack() {

@@ -1,11 +1,16 @@
+#include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
+
 #include <filesystem>
 #include <fstream>
 
 #include "live/live_suite.h"
+#include "office/libreoffice/powerpoint/impress_deck.h"
 
 namespace live {
 
 namespace {
+
+using namespace libreoffice;
 
 Value titleText(const Value& slide) {
     return support::at(slide, "Shapes.Title.TextFrame.TextRange");
@@ -33,6 +38,17 @@ TEST_F(PowerPointLive, GivesASlideATitleInAPresentationWithoutSuchALayoutAndKeep
     added.call("Delete");
     EXPECT_EQ(failureOf([&] { slide(deck, 1).call("Delete"); }), 1004);
     EXPECT_EQ(slideCount(deck), 1);
+}
+
+TEST_F(PowerPointLive, DeletesNoOtherSlideInPlaceOfOneThatTheUserHasDeleted) {
+    const Object deck = openWithSlides();
+    const Object gone = slide(deck, 3);
+    const auto pages =
+        as<css::drawing::XDrawPagesSupplier>(desk->activePresentation()->model())->getDrawPages();
+    pages->remove({pages->getByIndex(2), uno::UNO_QUERY_THROW});
+    const std::int32_t left = slideCount(deck);
+    EXPECT_NE(failureOf([&] { gone.call("Delete"); }), 0);
+    EXPECT_EQ(slideCount(deck), left);
 }
 
 TEST_F(PowerPointLive, SetsANewTitleInTheTypeOfTheDecksOwn) {

@@ -185,4 +185,16 @@ TEST_F(BatchTest, ACancelledBatchEndsAfterTheItemAtHandAndLeavesNoEmptySlides) {
     EXPECT_EQ(progress.calls.back(), "unload");
 }
 
+TEST_F(BatchTest, ASlideThatCannotBeDeletedKeepsNothingFromBeingPutBackAfterCancel) {
+    add(chartRow("Chart 1", "Sales"));
+    for (const char* name : {"Chart 2", "Chart 3"}) add(chartRow(name, "Sales"));
+    host.onEvents = [this] { progress.isCancelled = !progress.calls.empty(); };
+    suite.failures().fail("Slide.Delete");
+    const auto before = deck.slideCount();
+    EXPECT_NO_THROW(exportRows());
+    EXPECT_EQ(deck.slideCount(), before + 2) << "of two slides without an item one could not go";
+    EXPECT_EQ(notices.messages().back(), "The export was cancelled: 1 of 3 items were exported.");
+    EXPECT_TRUE(excelDraws());
+}
+
 }  // namespace

@@ -89,6 +89,8 @@ ImpressSlidePtr ImpressDeck::slideOf(const uno::Reference<css::drawing::XDrawPag
 }
 
 void ImpressDeck::removeSlide(ImpressSlide& slide) {
+    // For a slide that the user has deleted LibreOffice would remove the first one.
+    static_cast<void>(slide.place());
     // LibreOffice keeps the last slide without a word.
     if (pages_->getCount() == 1)
         throw Failure(FailureNumber::ApplicationDefined, "Slide.Delete",
