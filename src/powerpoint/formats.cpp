@@ -1,6 +1,8 @@
 #include "powerpoint/formats.h"
 
 #include <array>
+#include <string>
+#include <string_view>
 
 #include "office/failure_patterns.h"
 #include "powerpoint/editable.h"
@@ -41,17 +43,22 @@ std::int32_t ExportRows(Batch& batch) {
 bool InsertOneItem(OfficeSession& session, const catalogue::ExportItem& row,
                    const catalogue::ExportChoices& choices) {
     office::ContinueOnFailure scope;
-    office::Object slide;
-    const bool slideIsShown = scope.attempt([&] {
-        const office::Object& app = session.PowerPointApp;
-        session.SessionPresentation = app.get("ActivePresentation").toObject();
-        slide = app.get("ActiveWindow").get("View").get("Slide").toObject();
-    });
-    if (!slideIsShown) {
-        session::ShowWarningNotice(
-            session.notices,
-            "No PowerPoint presentation is open. Open or create a presentation, then try again.");
+    const auto tell = [&](std::string_view why) {
+        session::ShowWarningNotice(session.notices, std::string(why));
         return false;
+    };
+    const office::Object& app = session.PowerPointApp;
+    if (!scope.attempt(
+            [&] { session.SessionPresentation = app.get("ActivePresentation").toObject(); })) {
+        return tell(
+            "No PowerPoint presentation is open. Open or create a presentation, then try again.");
+    }
+    office::Object slide;
+    // Neither a master nor an empty presentation has one.
+    if (!scope.attempt(
+            [&] { slide = app.get("ActiveWindow").get("View").get("Slide").toObject(); })) {
+        return tell(
+            "No slide is in view. Add a slide, or show one in the normal view, then try again.");
     }
     scope.attempt([&] { session::SetExcelWindow(session, session::ExcelWindow::Normal); });
     bool isThere = false;

@@ -122,9 +122,13 @@ TEST_F(PicturesTest, OneItemThatIsNotThereHasBeenExplained) {
     };
     EXPECT_FALSE(insertOne(rangeRow("Nowhere", "Sales")));
     EXPECT_FALSE(insertOne(chartRow("Chart 9", "Sales")));
+    suite.failures().fail("View.Slide");
+    EXPECT_FALSE(insertOne(chartRow("Chart 1", "Sales")));
+    EXPECT_EQ(notices.messages().back(),
+              "No slide is in view. Add a slide, or show one in the normal view, then try again.");
     deck.close();
     EXPECT_FALSE(insertOne(chartRow("Chart 1", "Sales")));
-    ASSERT_EQ(notices.shown.size(), 3U);
+    ASSERT_EQ(notices.shown.size(), 4U);
     EXPECT_EQ(notices.messages().back(),
               "No PowerPoint presentation is open. Open or create a presentation, then try again.");
 }
