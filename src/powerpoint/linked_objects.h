@@ -9,7 +9,7 @@
 namespace powerpoint {
 
 /// Exports the taken rows as linked objects. Result and failures as with `RunBatch`. Excel's window
-/// and rows stay as they are.
+/// is not made large again.
 std::int32_t ExportRowsAsLinkedObjects(Batch& batch);
 
 /// Puts one row's object on a slide of the session's presentation. Whether it is there; if not, a

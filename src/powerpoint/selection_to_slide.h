@@ -8,8 +8,7 @@ namespace powerpoint {
 
 /// The whole command. Selections other than a chart or cells are passed over without a word, and
 /// several areas get a notice. A paste that fails is a failure but for pictures, which have their
-/// own notice or none. PowerPoint's view is put back; Excel's window is made large, and the rows
-/// and columns of its active sheet are shown.
+/// own notice or none. PowerPoint's view is put back, and Excel's window is made large.
 void PasteSelectionToSlide(session::OfficeSession& session, session::SlidePaste mode);
 
 }  // namespace powerpoint
