@@ -1,6 +1,7 @@
 #include "powerpoint/excel_objects.h"
 
 #include "catalogue/export_run.h"
+#include "office/failure_patterns.h"
 #include "powerpoint/object_paste.h"
 #include "session/powerpoint_session.h"
 
@@ -42,6 +43,19 @@ constexpr ObjectRoute embedded{.paste = PasteEmbeddedObject,
 
 bool PasteRowAsExcelObject(OfficeSession& session, const ExportItem& row, const Object& slide) {
     return pasteRowAsObject(session, row, slide, embedded);
+}
+
+std::vector<std::string> remarksOnOneMore(OfficeSession& session) {
+    const auto remarksOn = [&](const std::vector<office::PasteItem>& items) {
+        return session.suite.remarksOn("PowerPoint.Application", office::PasteAs::Embedded, items);
+    };
+    std::vector<std::string> lines;
+    office::ContinueOnFailure().attempt([&] {
+        lines = remarksOn({{}});
+        if (lines.empty()) return;
+        for (const std::string& known : remarksOn({})) std::erase(lines, known);
+    });
+    return lines;
 }
 
 std::int32_t ExportRowsAsExcelObjects(Batch& batch) {

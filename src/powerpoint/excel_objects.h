@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <vector>
 
 #include "powerpoint/batch_frame.h"
 
@@ -11,6 +13,10 @@ namespace powerpoint {
 /// Exports the taken rows as embedded objects. Result and failures as with `RunBatch`; a notice
 /// says so where none of them arrived.
 std::int32_t ExportRowsAsExcelObjects(Batch& batch);
+
+/// What the suite says of a presentation with one more embedded workbook and does not say of it as
+/// it is: it is to be told once, by the one that makes the difference.
+[[nodiscard]] std::vector<std::string> remarksOnOneMore(session::OfficeSession& session);
 
 /// Puts one row's object on a slide of the session's presentation. Whether it is there; if not, a
 /// notice has said why.

@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "office/failure_patterns.h"
 #include "powerpoint/editable.h"
@@ -61,9 +62,15 @@ bool InsertOneItem(OfficeSession& session, const catalogue::ExportItem& row,
             "No slide is in view. Add a slide, or show one in the normal view, then try again.");
     }
     scope.attempt([&] { session::SetExcelWindow(session, session::ExcelWindow::Normal); });
+    std::vector<std::string> remarks;
+    if (choices.format == catalogue::ExportFormat::Embedded) remarks = remarksOnOneMore(session);
     bool isThere = false;
     if (!scope.attempt([&] { isThere = formatOf(choices).insertRow(session, row, slide); })) {
         session::ShowWarningNotice(session.notices, scope.lastFailure()->description());
+    }
+    if (isThere) {
+        for (const std::string& remark : remarks)
+            session::ShowWarningNotice(session.notices, remark);
     }
     return isThere;
 }

@@ -171,6 +171,28 @@ TEST_F(PasteLive, MakesChartsAndWorkbooksThatHoldTheirData) {
     EXPECT_EQ(charts.get("Count").toLong(), 1);
 }
 
+TEST_F(PasteLive, KnowsWhenAPresentationHoldsSeveralWorkbooks) {
+    const auto holds = [&](std::int32_t count) {
+        return desk->activePresentation()->holdsWorkbooks(count);
+    };
+    const Value shapes = slide(deck, 3).get("Shapes");
+    const std::uint64_t calls = callsOf([&] { EXPECT_FALSE(holds(1)); });
+    EXPECT_LE(calls, 4U) << "no shape has to be asked";
+    for (const std::int32_t form : {0, 10}) {
+        sheet("Trend").get("ChartArea").call("Copy");
+        shapes.call("PasteSpecial", form);
+    }
+    EXPECT_TRUE(holds(1));
+    EXPECT_FALSE(holds(2)) << "a chart is none";
+    sheet("Data").get("Range", "A1:B3").call("Copy");
+    shapes.call("PasteSpecial", arg("Link", true));
+    EXPECT_FALSE(holds(2)) << "a link is none";
+    shapes.call("PasteSpecial", 10);
+    EXPECT_TRUE(holds(2));
+    savedAs("saved.pptx", "Impress MS PowerPoint 2007 XML");
+    EXPECT_TRUE(holds(2)) << "those that come with a file count too";
+}
+
 TEST_F(PasteLive, EmbedsSheetsThatAreCalledAsThoseOfANewWorkbook) {
     for (const char* name : {"Murvane", "Sheet1"}) {
         book.get("Sheets").get("Item", 1).put("Name", name);

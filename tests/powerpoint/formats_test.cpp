@@ -145,6 +145,17 @@ protected:
     support::TemporaryFolder folder;
 };
 
+TEST_F(FileFormatsTest, WhatTheSuiteSaysOfOneMoreWorkbookIsToldOnceItIsThere) {
+    suite.remarkOn(office::PasteAs::Embedded, "one too many");
+    choices.format = ExportFormat::Embedded;
+    EXPECT_TRUE(powerpoint::InsertOneItem(session, list.rows.front(), choices));
+    ASSERT_EQ(notices.shown.size(), 1U);
+    EXPECT_TRUE(notices.messages().front().ends_with("one too many"));
+    suite.failures().failAlways("PasteSpecial");
+    EXPECT_FALSE(powerpoint::InsertOneItem(session, list.rows.front(), choices));
+    EXPECT_EQ(notices.shown.size(), 2U) << "only why it is not there";
+}
+
 TEST_F(FileFormatsTest, ArriveAndCountWhetherTheShapesAreHandedOverOrOnlyThere) {
     for (const bool handsOver : {true, false}) {
         if (!handsOver) suite.failures().failAlways("Shapes.PasteSpecial");

@@ -152,12 +152,15 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
                 "Choose another format, or use murvane-export.");
         return remarks;
     }
-    if (as != office::PasteAs::Embedded || items.size() < 2) return remarks;
+    if (as != office::PasteAs::Embedded) return remarks;
     translated(*connection_, "Suite.remarksOn", [&] {
         // All workbooks in one .pptx become one part of it. A private suite writes nothing else.
         const auto deck = desk_->activePresentation();
         if (!desk_->opensHidden() && deck && office::lowerCase(deck->fullName()).ends_with(".odp"))
             return;
+        constexpr std::int32_t several = 2;
+        const std::int32_t missing = several - static_cast<std::int32_t>(items.size());
+        if (missing > 0 && !(deck && deck->holdsWorkbooks(missing))) return;
         remarks.emplace_back(
             "LibreOffice damages a .pptx that holds several embedded workbooks: save the "
             "presentation as .odp, or use murvane-export.");

@@ -34,6 +34,21 @@ rtl::OUString freeName(const uno::Reference<css::embed::XStorage>& storage) {
 
 }  // namespace
 
+std::set<rtl::OUString> objectsStoredIn(const uno::Reference<css::frame::XModel>& document) {
+    // LibreOffice calls its own "Object 1", and those that have come with a .pptx "Obj100".
+    const rtl::OUString prefixes[] = {"Object ", "Obj1",
+                                      rtl::OUString::createFromAscii(namePrefix)};
+    std::set<rtl::OUString> stored;
+    const auto names =
+        as<css::document::XStorageBasedDocument>(document)->getDocumentStorage()->getElementNames();
+    for (const rtl::OUString& name : names) {
+        if (std::any_of(std::begin(prefixes), std::end(prefixes),
+                        [&](const auto& prefix) { return name.startsWith(prefix); }))
+            stored.insert(name);
+    }
+    return stored;
+}
+
 void writeXml(const uno::Reference<css::embed::XStorage>& folder, const char* file,
               std::string_view xml) {
     const auto stream = folder->openStreamElement(rtl::OUString::createFromAscii(file), anew);

@@ -3,6 +3,7 @@
 #include <com/sun/star/embed/XStorage.hpp>
 #include <com/sun/star/frame/XModel.hpp>
 
+#include <set>
 #include <string_view>
 
 #include "office/libreoffice/uno_values.h"
@@ -12,6 +13,10 @@ namespace libreoffice::objects {
 /// Writes a file of a storage.
 void writeXml(const uno::Reference<css::embed::XStorage>& folder, const char* file,
               std::string_view xml);
+
+/// The names of all objects that a document keeps, charts among them.
+[[nodiscard]] std::set<rtl::OUString> objectsStoredIn(
+    const uno::Reference<css::frame::XModel>& document);
 
 /// A folder in a document's own storage that is being filled with a new embedded object. A
 /// shape that is given its name shows the object. Unless it is completed, it is taken out again.

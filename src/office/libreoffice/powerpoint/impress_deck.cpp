@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "office/failure.h"
+#include "office/libreoffice/objects/new_object.h"
 #include "office/libreoffice/units.h"
 #include "office/model/powerpoint/objects.h"
 
@@ -171,6 +172,18 @@ ImpressSlidePtr ImpressDeck::insertPage(std::int32_t place) {
                       "LibreOffice did not move the new slide to the front");
     }
     return added;
+}
+
+bool ImpressDeck::holdsWorkbooks(std::int32_t atLeast) {
+    // As a rule fewer objects are stored than that, and no shape has to be asked.
+    const auto stored = objects::objectsStoredIn(model());
+    if (static_cast<std::int32_t>(stored.size()) < atLeast) return false;
+    std::int32_t found = 0;
+    const std::int32_t slides = slideCount();
+    for (std::int32_t place = 1; place <= slides && found < atLeast; ++place) {
+        if (const ImpressSlidePtr slide = pageAt(place)) found += slide->workbooksAmong(stored);
+    }
+    return found >= atLeast;
 }
 
 void ImpressDeck::activate() {

@@ -40,6 +40,9 @@ public:
     /// A shape of a service ("com.sun.star.drawing.TextShape"), not on a slide yet.
     [[nodiscard]] uno::Reference<css::drawing::XShape> createShape(const char* service);
     [[nodiscard]] LatePictures& latePictures() { return latePictures_; }
+    /// Whether so many workbooks are embedded in it. Objects that came with a .pptx count, whatever
+    /// they hold: LibreOffice doesn't know before one of them is opened.
+    [[nodiscard]] bool holdsWorkbooks(std::int32_t atLeast);
 
     [[nodiscard]] bool isGone() const override { return isClosed(); }
     std::string name() override { return Document::name(); }

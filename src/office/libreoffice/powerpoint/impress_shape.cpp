@@ -29,6 +29,10 @@ constexpr std::array<std::string_view, 9> textPlaceholders = {
     "TitleTextShape", "OutlinerShape", "SubtitleShape",    "NotesShape", "HeaderShape",
     "FooterShape",    "DateTimeShape", "SlideNumberShape", "TextShape"};
 
+/// How LibreOffice calls the kind of an embedded object.
+constexpr const char* workbookClass = "47BBB4CB-CE4C-4E80-A591-42D9AE74950F";
+constexpr const char* unknownClass = "00000000-0000-0000-0000-000000000000";
+
 template <std::size_t Count>
 bool isAmong(const std::array<std::string_view, Count>& names, std::string_view name) {
     return std::find(names.begin(), names.end(), name) != names.end();
@@ -50,6 +54,17 @@ ImpressShape::ImpressShape(uno::Reference<css::drawing::XShape> shape, ImpressSl
 
 bool ImpressShape::isTitle() {
     return service() == "com.sun.star.presentation.TitleTextShape";
+}
+
+rtl::OUString ImpressShape::workbook() {
+    if (!service().ends_with(".OLE2Shape") && !service().ends_with(".CalcShape")) return {};
+    const auto values = get({"CLSID", "PersistName"});
+    rtl::OUString kind, name;
+    values[0] >>= kind;
+    values[1] >>= name;
+    const bool isWorkbook =
+        kind.equalsIgnoreAsciiCaseAscii(workbookClass) || kind.equalsAscii(unknownClass);
+    return isWorkbook ? name : rtl::OUString();
 }
 
 void ImpressShape::set(std::initializer_list<std::pair<const char*, uno::Any>> values) {

@@ -35,6 +35,9 @@ public:
     [[nodiscard]] ImpressSlide& slide() const { return slide_; }
     [[nodiscard]] bool isTitle();
     void markGone() { isGone_ = true; }
+    /// The name by which the presentation keeps the workbook that the shape shows; empty for any
+    /// other shape. An object of which LibreOffice does not know what it holds counts as one.
+    [[nodiscard]] rtl::OUString workbook();
 
     /// Sets several properties in one call; the names in any order.
     void set(std::initializer_list<std::pair<const char*, uno::Any>> values);

@@ -69,6 +69,16 @@ void ImpressSlide::removeShape(ImpressShape& shape) {
     std::erase_if(shapes_, [&](const auto& known) { return known.get() == &shape; });
 }
 
+std::int32_t ImpressSlide::workbooksAmong(const std::set<rtl::OUString>& stored) {
+    std::int32_t found = 0;
+    const std::int32_t count = shapeCount();
+    for (std::int32_t place = 1; place <= count; ++place) {
+        const auto shape = at(place);
+        if (shape && stored.count(shape->workbook()) > 0) ++found;
+    }
+    return found;
+}
+
 void ImpressSlide::markGone() {
     isGone_ = true;
     for (const auto& shape : shapes_) shape->markGone();
