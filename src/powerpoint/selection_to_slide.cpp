@@ -1,11 +1,16 @@
 #include "powerpoint/selection_to_slide.h"
 
+#include <fmt/format.h>
+
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "office/failure_patterns.h"
 #include "office/text.h"
+#include "powerpoint/excel_objects.h"
 #include "session/powerpoint_session.h"
 #include "session/waits.h"
 
@@ -40,6 +45,7 @@ private:
     void prepareOldSlide();
     /// False if the command has told the user that it can't go on.
     [[nodiscard]] bool copyAndPaste();
+    void pasteNamed(SourceKind kind, const std::function<std::string()>& name);
     void PasteByMode(SourceKind kind);
     void pasteChartAsPicture();
     void pasteRangeAsPicture();
@@ -65,6 +71,7 @@ private:
     /// Before version 15 there is no command for source formatting that charts could use, and a
     /// blank slide takes none.
     bool isOld_ = false;
+    bool isThere_ = false;
 };
 
 void SelectionPaste::run() {
@@ -81,10 +88,14 @@ void SelectionPaste::run() {
     isOld_ = office::leadingNumber(session_.PowerPointApp.get("Version").toText()) <
              firstWithRibbonPaste;
     if (isOld_) prepareOldSlide();
+    std::vector<std::string> remarks;
+    if (mode_ == SlidePaste::EmbeddedObject) remarks = remarksOnOneMore(session_);
     if (!copyAndPaste()) return;
     session_.host.letEventsRun();
     window().get("Selection").call("Unselect");
     putBack(viewType);
+    if (!isThere_) return;
+    for (const std::string& remark : remarks) session::ShowWarningNotice(session_.notices, remark);
 }
 
 bool SelectionPaste::findsPresentation() {
@@ -132,16 +143,22 @@ bool SelectionPaste::copyAndPaste() {
     constexpr std::int32_t pictureFormat = -4147;
 
     const Object& book = session_.ActiveBook;
-    const auto pasteChart = [&](std::uint32_t pauseMs) {
-        book.get("ActiveChart").get("ChartArea").call("Copy");
+    const auto pasteChart = [&](std::uint32_t pauseMs, const auto& nameOf) {
+        const Object chart = book.get("ActiveChart").toObject();
+        chart.get("ChartArea").call("Copy");
         session::SleepMilliseconds(session_, pauseMs);
-        PasteByMode(SourceKind::Chart);
+        pasteNamed(SourceKind::Chart, [&] { return nameOf(chart); });
         return true;
     };
-    if (book.get("ActiveSheet").toObject().typeName() == "Chart") return pasteChart(chartSheetMs);
+    if (book.get("ActiveSheet").toObject().typeName() == "Chart")
+        return pasteChart(chartSheetMs,
+                          [](const Object& chart) { return chart.get("Name").toText(); });
     const office::Value selected = session_.ExcelApp.get("Selection");
     const std::string type = selected.isObject() ? selected.toObject().typeName() : std::string();
-    if (type == "ChartArea") return pasteChart(embeddedChartMs);
+    if (type == "ChartArea")
+        return pasteChart(embeddedChartMs, [](const Object& chart) {
+            return chart.get("Parent").get("Name").toText();
+        });
     if (type != "Range") return true;
     const Object cells = selected.toObject();
     if (cells.get("Areas").get("Count").toLong() > 1) {
@@ -154,8 +171,31 @@ bool SelectionPaste::copyAndPaste() {
     } else {
         cells.call("Copy");
     }
-    PasteByMode(SourceKind::Range);
+    pasteNamed(SourceKind::Range, [&] {
+        return fmt::format("{} {}", cells.get("Worksheet").get("Name").toText(),
+                           office::replaceAll(cells.get("Address").toText(), "$", ""));
+    });
     return true;
+}
+
+/// Pastes, and gives what arrives this name as alternative text. What the ribbon's command brings
+/// in its own time may come too late for that.
+void SelectionPaste::pasteNamed(SourceKind kind, const std::function<std::string()>& name) {
+    office::ContinueOnFailure scope;
+    const auto count = [](const Object& shapes) { return shapes.get("Count").toLong(); };
+    Object shapes;
+    std::int32_t before = 0;
+    const bool isCounted = scope.attempt([&] {
+        shapes = slide().get("Shapes").toObject();
+        before = count(shapes);
+    });
+    PasteByMode(kind);
+    if (!isCounted) return;
+    scope.attempt([&] {
+        const std::int32_t last = count(shapes);
+        isThere_ = last > before;
+        if (isThere_) shapes.get("Item", last).put("AlternativeText", name());
+    });
 }
 
 void SelectionPaste::PasteByMode(SourceKind kind) {

@@ -43,6 +43,7 @@ TEST_F(SelectionTest, ArrivesAsAPictureOnTheSlideOnShowAndBothWindowsArePutBack)
     ASSERT_EQ(shapes.size(), 3U);
     EXPECT_DOUBLE_EQ(shapes[1].box().width, 3 * office_double::Worksheet::columnWidth);
     EXPECT_DOUBLE_EQ(shapes[2].box().width, 240);
+    EXPECT_EQ(picturesOn(2), (Texts{"Sales A1:C4", "Chart 1"}));
     EXPECT_EQ(window.get("ViewType").toLong(), 7);
     EXPECT_EQ(session.ExcelApp.get("WindowState").toLong(), -4137);
     EXPECT_TRUE(rows.get("Hidden").toBool());
@@ -104,6 +105,7 @@ TEST_F(SelectionTest, TriesThreeWaysForAPictureOfCellsAndThenSaysSo) {
     run(SlidePaste::Pictures);
     EXPECT_EQ(suite.log().texts("PasteSpecial"),
               (Texts{"View.PasteSpecial(6)", "Shapes.PasteSpecial(6)", "View.PasteSpecial()"}));
+    EXPECT_EQ(suite.log().count("AlternativeText"), 0U) << "the last shape is the user's own";
     EXPECT_EQ(
         notices.messages(),
         Texts{
