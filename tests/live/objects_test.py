@@ -9,7 +9,7 @@ from program import Package, ProgramTest, slides_of
 from validator import faults
 
 SECRET = "Zebra"
-ITEMS = ("Own", "Total", "Chart 1", "{Chart Sheet}@Plot")
+ITEMS = ("Own", "Total", "Whole", "Chart 1", "{Chart Sheet}@Plot")
 
 
 def write_book(path):
@@ -44,6 +44,7 @@ def write_book(path):
                               "values": f"={source}!$A$2:$A$4" if last == "D" else f"={source}!$C$3:$C$6"})
         sheet.insert_chart("B12", chart) if sheet is own else sheet.set_chart(chart)
     book.define_name("Own", "='Own data'!$B$2:$D$6")
+    book.define_name("Whole", "='Own data'!$B:$D")
     book.define_name("Total", "='Own data'!$C$6")
     book.define_name(f"Hidden{SECRET}", f"={SECRET}!$A$2:$A$3")
     own.set_landscape()
@@ -92,7 +93,8 @@ class AnObject(ProgramTest):
         package, books = self.export("linked", "--links", "relative")
         self.assertEqual(books, [])
         related = "".join(package.read(name).decode() for name in package.names if "/slides/_rels/" in name)
-        self.assertIn('Target="../Gr%C3%B6%C3%9Fe%20%26%20co.xlsx!Own%20data!R2C2:R6C4" TargetMode="External"', related)
+        for cells in ("R2C2:R6C4", "C2:C4"):
+            self.assertIn(f'Target="../Gr%C3%B6%C3%9Fe%20%26%20co.xlsx!Own%20data!{cells}" TargetMode="External"', related)
 
 
 if __name__ == "__main__":

@@ -91,7 +91,7 @@ TEST_F(ObjectOnASlide, ShowsTheSheetAndTheCellsOfWhatWasCopied) {
     } const rows[] = {
         {{Kind::Cells, book, "Data", "", "$B$4:$D$20"}, "0", "B4:D20", "1", ".xlsx"},
         {{Kind::Cells, book, "other 'x'", "", "$C$2"}, "1", "C2", "2", ".xlsx"},
-        {{Kind::Cells, book, "Data", "", "$B:$B"}, "0", "A1:D20", "1", ".xlsx"},
+        {{Kind::Cells, book, "Data", "", "$B:$B"}, "0", "B1:B20", "1", ".xlsx"},
         {{Kind::Chart, book, "Data", "Sales", ""}, "0", "F2:M16", "1", ".xlsx"},
         {{Kind::Chart, book, "Plot", "", ""}, "2", "", "3", ".xlsx"},
         {{Kind::Cells, macros, "data", "", "$A$1"}, "0", "A1", "1", ".xlsm"},

@@ -115,6 +115,10 @@ public:
           icons_(blocksWithIcons(*sheet_)),
           frames_(framesOn(*sheet_)) {}
 
+    [[nodiscard]] std::optional<CellBlock> drawnPartOf(const CellBlock& block) const {
+        return model::drawnPart(block, *sheet_);
+    }
+
     void tell(const office::PasteItem& item, const CellBlock& block, ItemRemarks& remarks) const {
         if (block.cells() > static_cast<double>(mostCellsOfTable) &&
             isTooLargeForTable(*sheet_, block, mostCellsOfTable)) {
@@ -154,7 +158,7 @@ std::vector<std::string> lossesOfTables(CalcDocument& book,
             if (!sheet) continue;
             losses = std::make_unique<const LossesOfSheet>(std::move(sheet));
         }
-        losses->tell(item, *block, remarks);
+        if (const auto drawn = losses->drawnPartOf(*block)) losses->tell(item, *drawn, remarks);
     }
     return remarks.lines();
 }

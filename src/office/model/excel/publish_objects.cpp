@@ -73,9 +73,7 @@ private:
         const auto found = findCells(place, what_.place);
         if (!found) refuse(source_, fmt::format("There is no range \"{}\"", what_.place));
         if (found->blocks.size() > 1) refuse(source_, "Several areas can't be published");
-        std::optional<CellBlock> block = found->blocks.front();
-        if (block->spansAllRows() || block->spansAllColumns())
-            block = intersection(*block, found->home.sheet->used());
+        const auto block = drawnPart(found->blocks.front(), *found->home.sheet);
         if (!block) refuse(source_, "There is nothing in these rows or columns");
         CopySource from = sourceOf(found->home, CopySource::Kind::Cells);
         from.address = addressOf(*block);

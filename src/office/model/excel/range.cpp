@@ -251,15 +251,13 @@ void Range::select(const CallArguments& arguments) {
     sheet().select(blocks_);
 }
 
-/// Whole rows and columns end with the used part of the sheet.
 void Range::copyAs(CopySource::Kind kind, const std::string& source) {
     if (blocks_.size() > 1) refuse(source, "This can't be done with several areas");
-    std::optional<CellBlock> block = first();
-    if (block->spansAllRows() || block->spansAllColumns())
-        block = intersection(*block, sheet().used());
+    const std::optional<CellBlock> block = drawnPart(first(), sheet());
     if (!block) refuse(source, "There is nothing in these rows or columns");
     CopySource from = sourceOf(home(), kind);
-    from.address = addressOf(*block);
+    // As it was named: what is bound to whole rows or columns follows them when more comes in.
+    from.address = addressOf(first());
     const CellsPtr copied = *block == first() ? nullptr : sheet().cells(*block);
     books().clipboard().copied = (copied ? *copied : cells()).copy(std::move(from));
 }

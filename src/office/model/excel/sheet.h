@@ -76,4 +76,8 @@ public:
 
 using SheetPtr = std::shared_ptr<Sheet>;
 
+/// What is drawn of a block: whole rows and columns end with the used part of the sheet. Nothing if
+/// none of it is in use.
+[[nodiscard]] std::optional<CellBlock> drawnPart(const CellBlock& block, Sheet& sheet);
+
 }  // namespace office::model::excel

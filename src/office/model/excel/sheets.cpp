@@ -273,4 +273,9 @@ void activateSheet(const InSheet& home, const std::string& source) {
     home.sheet->activate();
 }
 
+std::optional<CellBlock> drawnPart(const CellBlock& block, Sheet& sheet) {
+    if (!block.spansAllRows() && !block.spansAllColumns()) return block;
+    return intersection(block, sheet.used());
+}
+
 }  // namespace office::model::excel

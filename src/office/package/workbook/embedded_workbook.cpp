@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -64,6 +65,13 @@ CellBox usedCells(const Package& workbook, const std::string& sheet) {
     return cellBox(used.attribute("ref").value()).value_or(CellBox());
 }
 
+/// Of whole columns or rows, those that are in use.
+CellBox usedPart(const CellBox& lines, const CellBox& used) {
+    const CellBox part{std::max(lines.left, used.left), std::max(lines.top, used.top),
+                       std::min(lines.right, used.right), std::min(lines.bottom, used.bottom)};
+    return part.left <= part.right && part.top <= part.bottom ? part : used;
+}
+
 /// Nothing for a sheet that is a chart.
 std::optional<CellBox> shownCells(WorkbookFile& workbook, const Package& copy,
                                   const WorkbookSheet& sheet, const CopySource& source) {
@@ -73,8 +81,9 @@ std::optional<CellBox> shownCells(WorkbookFile& workbook, const Package& copy,
         const WorkbookChart* const chart = workbook.chart(sheet, source.chart);
         cells = chart != nullptr ? chart->cells : std::nullopt;
     }
-    const bool isBlock = cells && !cells->hasWholeColumns() && !cells->hasWholeRows();
-    return isBlock ? *cells : usedCells(copy, sheet.part);
+    if (!cells) return usedCells(copy, sheet.part);
+    const bool isWhole = cells->hasWholeColumns() || cells->hasWholeRows();
+    return isWhole ? usedPart(*cells, usedCells(copy, sheet.part)) : *cells;
 }
 
 void show(Package& workbook, const std::string& main, const WorkbookSheet& sheet,
