@@ -1,7 +1,11 @@
 #include "office/libreoffice/powerpoint/paste.h"
 
+#include <com/sun/star/graphic/XGraphic.hpp>
+
 #include "office/failure.h"
 #include "office/libreoffice/at_end.h"
+#include "office/libreoffice/excel/copied.h"
+#include "office/libreoffice/objects/copied_object.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/units.h"
 #include "office/model/powerpoint/paste.h"
@@ -27,6 +31,58 @@ const excel::CopiedHere& copiedHere(const office::Copied& copied) {
     const auto* here = dynamic_cast<const excel::CopiedHere*>(&copied);
     if (here == nullptr || copied.source().kind == CopySource::Kind::Picture) failOnForm();
     return *here;
+}
+
+// What a paste makes, each on top of the slide's other shapes, in the size given; nothing is put
+// there if it fails. Neither the clipboard nor a window is touched.
+
+/// A chart with data of its own.
+ShapeRef addChart(ImpressSlide& slide, const excel::CopiedChart& chart,
+                  const css::awt::Size& size) {
+    objects::NewObject object(slide.deck().model());
+    objects::storeChart(object, chart);
+    NewShape made(slide);
+    made.shape()->setSize(size);
+    setProperty(made.shape(), "PersistName", object.name());
+    object.complete();
+    return made.take();
+}
+
+/// An object that opens as a workbook of the sheet that the copied thing stands on, at the place
+/// where it stands; until then it shows the copied thing's picture. Other sheets come along as far
+/// as charts there draw on them, and are hidden.
+ShapeRef addWorkbook(ImpressSlide& slide, const excel::CopiedHere& copied,
+                     const css::awt::Size& size) {
+    const auto picture = copied.graphic();
+    objects::NewObject object(slide.deck().model());
+    objects::storeEmptyWorkbook(object, copied);
+    NewShape made(slide);
+    made.shape()->setSize(size);
+    setProperty(made.shape(), "PersistName", object.name());
+    objects::fillWorkbook(slide.deck().connection(), copied,
+                          property<uno::Reference<css::frame::XModel>>(made.shape(), "Model"));
+    setProperty(made.shape(), "Graphic", picture);
+    object.complete();
+    return made.take();
+}
+
+/// An object bound to the workbook's file, with the copied thing's picture.
+ShapeRef addLink(ImpressSlide& slide, const excel::CopiedHere& copied, const css::awt::Size& size) {
+    if (copied.source().file.empty())
+        throw office::Failure(office::FailureNumber::ApplicationDefined, "Shapes.PasteSpecial",
+                              "The workbook has to be saved before it can be linked");
+    const uno::Any picture(copied.graphic());
+    NewShape made(slide);
+    // An object without a picture is drawn from the file. The window that draws it loads the file
+    // with threads, which wait for the very lock that a call from here holds meanwhile, and the
+    // suite hangs: the object never gets to be without a picture, neither before nor after.
+    setProperty(made.shape(), "Graphic", picture);
+    setProperty(made.shape(), "LinkURL", fileUrl(copied.source().file));
+    setProperty(made.shape(), "Graphic", picture);
+    // Not before: in some presentations a link fails that is made at a size, and takes the
+    // connection with it.
+    made.shape()->setSize(size);
+    return made.take();
 }
 
 }  // namespace
