@@ -19,7 +19,7 @@ using catalogue::Destination;
 
 class SlidesJob : public Job {
 public:
-    explicit SlidesJob(const JobScene& scene) : scene_(scene) {}
+    using Job::Job;
 
     void open() override {
         if (scene_.options.attach) return;
@@ -31,9 +31,6 @@ public:
     }
 
     std::int32_t exportTo(const std::string& neighbour) override;
-
-private:
-    JobScene scene_;
 };
 
 /// The placement of the options stands in the store of the workbook, where the export looks for it,
@@ -90,7 +87,7 @@ std::int32_t SlidesJob::exportTo(const std::string& neighbour) {
 
 class WordJob : public Job {
 public:
-    explicit WordJob(const JobScene& scene) : scene_(scene) {}
+    using Job::Job;
 
     void open() override {
         if (scene_.options.attach) return;
@@ -111,15 +108,12 @@ public:
         scene_.session.SessionDocument.call("SaveCopyAs", neighbour);
         return result.done;
     }
-
-private:
-    JobScene scene_;
 };
 
 class PdfJob : public Job {
 public:
     explicit PdfJob(const JobScene& scene)
-        : scene_(scene),
+        : Job(scene),
           live_(scene.liveSuite, scene.session.host, scene.session.notices,
                 scene.session.progress) {}
 
@@ -141,14 +135,13 @@ public:
     }
 
 private:
-    JobScene scene_;
     /// Pages are made by a Word that draws.
     session::OfficeSession live_;
 };
 
 class HtmlJob : public Job {
 public:
-    explicit HtmlJob(const JobScene& scene) : scene_(scene) {}
+    using Job::Job;
 
     std::int32_t exportTo(const std::string& neighbour) override {
         // Of a page's width in pixels, a hundredth.
@@ -163,14 +156,11 @@ public:
                                               : destinations::PublishRowsToHtml(batch, html);
         return result.walk.done;
     }
-
-private:
-    JobScene scene_;
 };
 
 class ImagesJob : public Job {
 public:
-    explicit ImagesJob(const JobScene& scene) : scene_(scene) {}
+    using Job::Job;
 
     std::int32_t exportTo(const std::string& neighbour) override {
         using destinations::FileNames;
@@ -183,9 +173,6 @@ public:
                     .replaces = false});
         return result.done;
     }
-
-private:
-    JobScene scene_;
 };
 
 }  // namespace

@@ -29,7 +29,7 @@ struct JobScene {
 /// What a run does for one destination, between the review and the output.
 class Job {
 public:
-    Job() = default;
+    explicit Job(const JobScene& scene) : scene_(scene) {}
     Job(const Job&) = delete;
     Job& operator=(const Job&) = delete;
     virtual ~Job() = default;
@@ -40,6 +40,9 @@ public:
     /// come of it to the output's neighbour. How many have had their turn; the list's selected row
     /// is none once all have.
     virtual std::int32_t exportTo(const std::string& neighbour) = 0;
+
+protected:
+    JobScene scene_;
 };
 
 /// The job of a destination.
