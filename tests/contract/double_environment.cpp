@@ -56,7 +56,7 @@ void fillBook(Workbook& book) {
         .chart("Only")
         .define("Local", "A1")
         .define("Own", "B2");
-    book.sheet("Hidden").value("A1", "out of sight").chart("Chart 1").hide();
+    book.sheet("Hidden").value("A1", "out of sight").chart("Chart 1", {96, 30, 240, 144}).hide();
     book.sheet("Buried").value("A1", "deep").veryHide();
     book.sheet("Locked").value("A1", "fixed").protect();
     book.chartSheet("Backstage").hide();

@@ -35,18 +35,15 @@ TEST_F(ExcelContract, ListsTheNamesOfTheWorkbookAndThoseOfItsSheets) {
     EXPECT_EQ(names, expected);
 }
 
-TEST_F(ExcelContract, LeadsFromANameToItsRangeAlsoThroughTheApplication) {
+TEST_F(ExcelContract, LeadsFromANameToItsRange) {
     for (const auto& [name, sheetName, address] : ranges) {
-        for (const Value& found :
-             {book.get("Names").get("Item", name).get("RefersToRange"), excel.get("Range", name)}) {
-            EXPECT_EQ(found.toObject().typeName(), "Range") << name;
-            expectMembers(found, {{"Address", address},
-                                  {"Worksheet.Name", sheetName},
-                                  {"Parent.Name", sheetName},
-                                  {"Worksheet.Parent.Name", "contract-book.xlsx"}});
-        }
+        const Value found = book.get("Names").get("Item", name).get("RefersToRange");
+        EXPECT_EQ(found.toObject().typeName(), "Range") << name;
+        expectMembers(found, {{"Address", address},
+                              {"Worksheet.Name", sheetName},
+                              {"Worksheet.Parent.Name", "contract-book.xlsx"}});
     }
-    EXPECT_EQ(failureOf([&] { excel.get("Range", "Nonesuch"); }), refused);
+    EXPECT_EQ(failureOf([&] { sheet("Sales").get("Range", "Nonesuch"); }), refused);
     // A name of a sheet is found by its bare name where no other has it.
     expectMembers(book.get("Names").get("Item", "own"), {{"RefersToRange.Address", "$B$2"}});
     EXPECT_EQ(range("Data, 2026", "Own").get("Address").toText(), "$B$2");
@@ -62,7 +59,7 @@ TEST_F(ExcelContract, FindsASheetsOwnNameAheadOfTheWorkbooks) {
         const char* active;
         const char* sheet;
         const char* ofSheet;   ///< Sheets(sheet).Range("Local"); null: on another sheet
-        const char* ofActive;  ///< Range("Local") and Names("Local")
+        const char* ofActive;  ///< Names("Local")
     };
     const std::vector<Case> cases = {
         {"Sales", "Sales", "$A$2:$B$3", "$A$2:$B$3"}, {"Sales", "Data, 2026", "$A$1", "$A$2:$B$3"},
@@ -76,7 +73,6 @@ TEST_F(ExcelContract, FindsASheetsOwnNameAheadOfTheWorkbooks) {
         } else {
             EXPECT_EQ(range(sheetName, "Local").get("Address").toText(), ofSheet) << active;
         }
-        EXPECT_EQ(excel.get("Range", "Local").get("Address").toText(), ofActive) << active;
         EXPECT_EQ(
             book.get("Names").get("Item", "Local").get("RefersToRange").get("Address").toText(),
             ofActive)
@@ -105,7 +101,7 @@ TEST_F(ExcelContract, DefinesNamesInRowAndColumnNotation) {
     names.call("Add", arg("Name", "Block"), arg("RefersToR1C1", "='Data, 2026'!R23C15:R30C22"));
     expectMembers(names.get("Item", "Columns"), {{"RefersToRange.Address", "$A:$H"}});
     expectMembers(names.get("Item", "Block"), {{"RefersToRange.Address", "$O$23:$V$30"},
-                                               {"RefersToRange.Parent.Name", "Data, 2026"}});
+                                               {"RefersToRange.Worksheet.Name", "Data, 2026"}});
     for (const char* formula : {"=42", "no cells", "=SUM(Sales!$A$1)"})
         EXPECT_EQ(failureOf([&] { names.call("Add", "Other", formula); }), refused) << formula;
     for (const char* name : {"", "A1", "loc1", "two words", "7th"})

@@ -9,11 +9,9 @@ using Names = std::vector<std::string>;
 TEST_F(ExcelContract, KnowsItselfAndTheWorkbookItHasOpened) {
     EXPECT_EQ(suite().attach("excel.application").typeName(), "Application");
     EXPECT_TRUE(suite().attach("Nonesuch.Application").isNothing());
-    EXPECT_TRUE(excel.get("Version").toText().starts_with("16."));
     const std::string path = environment().document("contract-book.xlsx");
     EXPECT_EQ(book.typeName(), "Workbook");
-    expectMembers(excel, {{"Name", "Microsoft Excel"},
-                          {"ActiveWorkbook.Name", "contract-book.xlsx"},
+    expectMembers(excel, {{"ActiveWorkbook.Name", "contract-book.xlsx"},
                           {"ActiveWorkbook.FullName", path},
                           {"ActiveWorkbook.ReadOnly", false},
                           {"ActiveSheet.Name", "Sales"}});
@@ -47,7 +45,7 @@ TEST_F(ExcelContract, KeepsBothKindsOfSheetsInTabOrderAndTellsThemApart) {
     EXPECT_EQ(namesIn(book.get("Worksheets")),
               (Names{"Sales", "Types", "Data, 2026", "Hidden", "Buried", "Locked"}));
     EXPECT_EQ(namesIn(book.get("Charts")), (Names{"Overview", "Backstage"}));
-    EXPECT_EQ(excel.get("Sheets").get("Count").toLong(), 8);
+    EXPECT_EQ(book.get("Sheets").get("Count").toLong(), 8);
     expectMembers(sheet("Data, 2026"), {{"Index", 4}, {"Type", -4167}});
     EXPECT_EQ(sheet("sALES").typeName(), "Worksheet");
     EXPECT_EQ(sheet(3).typeName(), "Chart");
@@ -144,7 +142,7 @@ TEST_F(ExcelContract, FailsOnEveryObjectOfAClosedWorkbook) {
     EXPECT_EQ(excel.get("Workbooks").get("Count").toLong(), 0);
     EXPECT_TRUE(excel.get("ActiveWorkbook").isEmpty());
     for (const auto& [object, member] :
-         {std::pair(book, "Name"), {sales, "Name"}, {cell, "Value"}, {chart, "Chart.Name"}})
+         {std::pair(book, "Name"), {sales, "Name"}, {cell, "Value"}, {chart, "Name"}})
         EXPECT_NE(failureOf([&, &o = object, &m = member] { support::at(o, m); }), 0) << member;
 }
 

@@ -35,8 +35,8 @@ TEST_F(PowerPointContract, NamesClassAndMemberThatItDoesntHave) {
 TEST_F(ExcelContract, RefusesWrongArguments) {
     const Value names = book.get("Names");
     EXPECT_EQ(failureOf([&] { names.call("Add", arg("Named", "x")); }), 448);
-    EXPECT_EQ(failureOf([&] { sheet("Sales").get("Cells", 1, 2, 3, 4); }), 450);
-    EXPECT_NE(failureOf([&] { sheet("Sales").get("Cells", 0, 1); }), 0);
+    EXPECT_EQ(failureOf([&] { sheet("Sales").get("Range", "A1", "B2", "C3"); }), 450);
+    EXPECT_EQ(failureOf([&] { sheet("Sales").get("Columns", "B2"); }), 13);
     EXPECT_NE(failureOf([&] { sheet("Sales").get("Range", "no address"); }), 0);
     EXPECT_EQ(failureOf([&] { book.put("FullName", "x"); }), 438);
 }

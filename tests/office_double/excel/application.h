@@ -26,7 +26,6 @@ public:
     void addFile(const std::string& path, std::function<void(Workbook&)> fill);
     /// What the file prompt answers; "False" until told otherwise.
     void answerOpenPrompt(office::Value answer) { openPromptAnswer_ = std::move(answer); }
-    void setVersion(std::string version) { version_ = std::move(version); }
     /// The user selects cells on the active sheet.
     void selectRange(const std::string& address);
 
@@ -37,7 +36,6 @@ public:
     void activate(const Workbook& book);
     void closeBook(const Workbook& book);
 
-    std::string version() override { return version_; }
     excel::Settings& settings() override { return settings_; }
     std::vector<excel::BookPtr> open() override { return {books_.begin(), books_.end()}; }
     excel::BookPtr active() override;
@@ -52,7 +50,6 @@ public:
 
 private:
     std::shared_ptr<SuiteState> state_;
-    std::string version_ = "16.0";
     excel::Settings settings_;
     /// The one that was active last stands at the end of `recent_`.
     std::vector<std::shared_ptr<Workbook>> books_;

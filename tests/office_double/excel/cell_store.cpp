@@ -70,34 +70,4 @@ CellBlock CellStore::used() const {
     return block;
 }
 
-std::vector<std::pair<std::int32_t, std::int32_t>> CellStore::filledRows(
-    const CellBlock& block) const {
-    std::vector<std::pair<std::int32_t, std::int32_t>> stretches;
-    for (const auto& [place, value] : cells_) {
-        if (!covers(block, place.first, place.second)) continue;
-        if (!stretches.empty() && stretches.back().second + 1 >= place.first) {
-            stretches.back().second = place.first;
-        } else {
-            stretches.emplace_back(place.first, place.first);
-        }
-    }
-    return stretches;
-}
-
-void CellStore::hide(const CellBlock& block, excel::Lines lines, bool hidden) {
-    hidden_.push_back({block, lines, hidden});
-}
-
-bool CellStore::isHidden(const CellBlock& block, excel::Lines lines) const {
-    for (auto entry = hidden_.rbegin(); entry != hidden_.rend(); ++entry) {
-        const bool covered =
-            lines == excel::Lines::Rows
-                ? entry->block.firstRow <= block.firstRow && block.firstRow <= entry->block.lastRow
-                : entry->block.firstColumn <= block.firstColumn &&
-                      block.firstColumn <= entry->block.lastColumn;
-        if (covered && entry->lines == lines) return entry->hidden;
-    }
-    return false;
-}
-
 }  // namespace office_double

@@ -13,7 +13,7 @@ namespace office_double {
 
 namespace excel = office::model::excel;
 
-/// The contents of one worksheet, sparse: values, number formats, hidden rows and columns.
+/// The contents of one worksheet, sparse: values and number formats.
 class CellStore {
 public:
     [[nodiscard]] office::Table read(const excel::CellBlock& block) const;
@@ -26,24 +26,12 @@ public:
 
     /// The smallest block from A1 on that holds all that is filled.
     [[nodiscard]] excel::CellBlock used() const;
-    /// Stretches of filled rows of a block.
-    [[nodiscard]] std::vector<std::pair<std::int32_t, std::int32_t>> filledRows(
-        const excel::CellBlock& block) const;
-
-    void hide(const excel::CellBlock& block, excel::Lines lines, bool hidden);
-    [[nodiscard]] bool isHidden(const excel::CellBlock& block, excel::Lines lines) const;
 
 private:
     /// By row, then column.
     std::map<std::pair<std::int32_t, std::int32_t>, office::Value> cells_;
     /// The last one that covers a cell counts.
     std::vector<std::pair<excel::CellBlock, std::string>> formats_;
-    struct HiddenLines {
-        excel::CellBlock block;
-        excel::Lines lines;
-        bool hidden;
-    };
-    std::vector<HiddenLines> hidden_;
 };
 
 }  // namespace office_double

@@ -43,13 +43,6 @@ public:
         return {block_.firstColumn * Worksheet::columnWidth, block_.firstRow * Worksheet::rowHeight,
                 block_.columns() * Worksheet::columnWidth, block_.rows() * Worksheet::rowHeight};
     }
-    bool areHidden(excel::Lines lines) override { return sheet_.store().isHidden(block_, lines); }
-    void hide(excel::Lines lines, bool hidden) override {
-        sheet_.store().hide(block_, lines, hidden);
-    }
-    std::vector<std::pair<std::int32_t, std::int32_t>> filledRows() override {
-        return sheet_.store().filledRows(block_);
-    }
     office::CopiedPtr copy(office::CopySource source) override {
         office::TableLook table;
         const office::Table values = read();
@@ -201,11 +194,6 @@ Worksheet& Worksheet::block(std::string_view firstCell,
 
 Worksheet& Worksheet::format(std::string_view address, std::string numberFormat) {
     store_.setFormat(requiredBlocks(address).front(), std::move(numberFormat));
-    return *this;
-}
-
-Worksheet& Worksheet::hideRows(int first, int last) {
-    store_.hide({0, first - 1, 0, last - 1}, excel::Lines::Rows, true);
     return *this;
 }
 

@@ -112,7 +112,6 @@ public:
     Worksheet& block(std::string_view firstCell,
                      const std::vector<std::vector<office::Value>>& rows);
     Worksheet& format(std::string_view address, std::string numberFormat);
-    Worksheet& hideRows(int first, int last);
     /// A name of this sheet alone; the address may have several areas: "A1:A5,C1:C5".
     Worksheet& define(const std::string& name, std::string_view address);
     Worksheet& protect();

@@ -26,7 +26,6 @@ class CalcBooks : public model::Books {
 public:
     explicit CalcBooks(DeskPtr desk) : desk_(std::move(desk)) {}
 
-    std::string version() override { return "16.0"; }
     model::Settings& settings() override { return desk_->excelSettings; }
     std::vector<model::BookPtr> open() override;
     model::BookPtr active() override { return desk_->activeWorkbook(); }

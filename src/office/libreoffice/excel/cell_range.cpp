@@ -1,12 +1,7 @@
 #include "office/libreoffice/excel/cell_range.h"
 
-#include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XSheetOperation.hpp>
-#include <com/sun/star/table/XColumnRowRange.hpp>
 
-#include <algorithm>
-
-#include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/cell_values.h"
 #include "office/libreoffice/excel/copied.h"
@@ -44,44 +39,6 @@ void CellRange::setNumberFormat(const std::string& code) {
 model::Box CellRange::place() {
     const auto [corner, size] = placeOf(range());
     return {pointsOf(corner.X), pointsOf(corner.Y), pointsOf(size.Width), pointsOf(size.Height)};
-}
-
-uno::Reference<uno::XInterface> CellRange::linesOf(model::Lines lines) {
-    const auto all = as<css::table::XColumnRowRange>(range());
-    if (lines == model::Lines::Columns) return all->getColumns();
-    return all->getRows();
-}
-
-bool CellRange::areHidden(model::Lines lines) {
-    return !property<bool>(linesOf(lines), "IsVisible", true);
-}
-
-bool CellRange::isAllShown() {
-    const auto shown = answered(as<css::sheet::XCellRangesQuery>(range())->queryVisibleCells())
-                           ->getRangeAddresses();
-    return shown.getLength() == 1 && blockOf(shown[0]) == block_;
-}
-
-void CellRange::hide(model::Lines lines, bool hidden) {
-    // Where nothing is hidden the workbook stays untouched: it would count as changed otherwise.
-    if (!hidden && isAllShown()) return;
-    setProperty(linesOf(lines), "IsVisible", !hidden);
-}
-
-std::vector<std::pair<std::int32_t, std::int32_t>> CellRange::filledRows() {
-    std::vector<std::pair<std::int32_t, std::int32_t>> found;
-    for (const css::table::CellRangeAddress& part : filledParts(range()))
-        found.emplace_back(part.StartRow, part.EndRow);
-    std::sort(found.begin(), found.end());
-    std::vector<std::pair<std::int32_t, std::int32_t>> joined;
-    for (const auto& stretch : found) {
-        if (!joined.empty() && joined.back().second + 1 >= stretch.first) {
-            joined.back().second = std::max(joined.back().second, stretch.second);
-        } else {
-            joined.push_back(stretch);
-        }
-    }
-    return joined;
 }
 
 office::CopiedPtr CellRange::copy(office::CopySource source) {

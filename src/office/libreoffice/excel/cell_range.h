@@ -5,7 +5,6 @@
 #include <memory>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "office/libreoffice/excel/sheet_record.h"
 #include "office/model/excel/cells.h"
@@ -26,15 +25,10 @@ public:
     void setNumberFormat(const std::string& code) override;
 
     model::Box place() override;
-    bool areHidden(model::Lines lines) override;
-    void hide(model::Lines lines, bool hidden) override;
-    std::vector<std::pair<std::int32_t, std::int32_t>> filledRows() override;
     office::CopiedPtr copy(office::CopySource source) override;
 
 private:
     [[nodiscard]] const uno::Reference<css::table::XCellRange>& range();
-    [[nodiscard]] uno::Reference<uno::XInterface> linesOf(model::Lines lines);
-    [[nodiscard]] bool isAllShown();
 
     SheetRecordPtr sheet_;
     model::CellBlock block_;

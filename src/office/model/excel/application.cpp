@@ -18,17 +18,9 @@ public:
 private:
     /// Where the active workbook is; its book is null with none open.
     [[nodiscard]] InBook active() const { return {guard(), books_, books_->active()}; }
-    /// `Failure` 1004 with none open.
-    [[nodiscard]] InBook requiredBook(const std::string& source) const;
-    /// `Failure` 1004 if a chart sheet is on top.
-    [[nodiscard]] InSheet requiredWorksheet(const std::string& source) const;
 
     template <class Read>
     static auto ofActive(Read read);
-    template <class Read>
-    static auto ofBook(Read read);
-    template <class Read>
-    static auto ofWorksheet(Read read);
     template <class Field>
     static void addSetting(MemberTable<Application>& table, const char* name,
                            Field Settings::*field, Field (Value::*as)() const);
@@ -48,21 +40,6 @@ auto Application::ofActive(Read read) {
     };
 }
 
-/// One that fails with none open.
-template <class Read>
-auto Application::ofBook(Read read) {
-    return [read](Application& self, const CallArguments& arguments) {
-        return read(self.requiredBook(arguments.source()));
-    };
-}
-
-template <class Read>
-auto Application::ofWorksheet(Read read) {
-    return [read](Application& self, const CallArguments& arguments) {
-        return read(self.requiredWorksheet(arguments.source()), arguments);
-    };
-}
-
 template <class Field>
 void Application::addSetting(MemberTable<Application>& table, const char* name,
                              Field Settings::*field, Field (Value::*as)() const) {
@@ -76,33 +53,15 @@ void Application::addSetting(MemberTable<Application>& table, const char* name,
 const MemberTable<Application>& Application::members() {
     using Self = Application;
     static const auto table = [] {
-        const auto sheets = [](SheetKind kind) {
-            return ofBook([kind](const InBook& home) { return sheetsObject(home, kind); });
-        };
-        const auto lines = [](RangeUnit unit) {
-            return ofWorksheet([unit](const InSheet& home, const CallArguments& arguments) {
-                return linesByArguments(home, arguments, unit);
-            });
-        };
         MemberTable<Self> made("Application");
-        made.property("Name", [](Self&) { return "Microsoft Excel"; })
-            .property("Version", [](Self& self) { return self.books_->version(); })
-            .property("Workbooks",
+        made.property("Workbooks",
                       [](Self& self) { return workbooksObject(self.guard(), self.books_); })
             .property("ActiveWorkbook", ofActive(workbookObject))
             .property("ActiveSheet", ofActive([](const InBook& home) {
                           return valueOf(sheetObject(home, home.book->activeSheet()));
                       }))
-            .property("ActiveChart", ofActive(activeChart))
             .property("Selection", ofActive(selectionObject))
-            .property("Sheets", sheets(SheetKind::Any))
-            .property("Worksheets", sheets(SheetKind::Worksheet))
-            .property("Charts", sheets(SheetKind::ChartSheet))
-            .property("Names", ofBook([](const InBook& home) { return namesObject(home); }))
             .property("Range", {"Cell1", "Cell2"}, &Self::range)
-            .property("Cells", {"RowIndex", "ColumnIndex"}, ofWorksheet(cellsByArguments))
-            .property("Rows", {"RowIndex"}, lines(RangeUnit::Rows))
-            .property("Columns", {"ColumnIndex"}, lines(RangeUnit::Columns))
             .method("Intersect", {"Arg1", "Arg2"}, &Self::intersect)
             .method("Max", {"Arg1", "Arg2"},
                     [](Self&, const CallArguments& arguments) {
@@ -124,25 +83,9 @@ const MemberTable<Application>& Application::members() {
     return table;
 }
 
-InBook Application::requiredBook(const std::string& source) const {
-    InBook home = active();
-    if (!home.book) refuse(source, "No workbook is open");
-    return home;
-}
-
-InSheet Application::requiredWorksheet(const std::string& source) const {
-    InBook home = requiredBook(source);
-    SheetPtr sheet = home.book->activeSheet();
-    if (!sheet || sheet->isChartSheet()) refuse(source, "The active sheet is no worksheet");
-    return {std::move(home), std::move(sheet)};
-}
-
-/// Two cells of another sheet make a range of that sheet.
+/// Takes cells: which sheet an address alone means is for the caller to say.
 Object Application::range(const CallArguments& arguments) {
-    const std::string& source = arguments.source();
-    return rangeByArguments(arguments.at(0).isObject() ? placeOfRange(arguments.at(0), source).home
-                                                       : requiredWorksheet(source),
-                            arguments, true);
+    return rangeByArguments(placeOfRange(arguments.at(0), arguments.source()).home, arguments);
 }
 
 /// The cells that two ranges of one sheet share; empty if they share none.

@@ -26,7 +26,6 @@ public:
     Books& operator=(const Books&) = delete;
     virtual ~Books() = default;
 
-    virtual std::string version() = 0;
     virtual Settings& settings() = 0;
 
     virtual std::vector<BookPtr> open() = 0;

@@ -113,11 +113,6 @@ bool needsQuotes(const std::string& name) {
 
 }  // namespace
 
-bool CellBlock::isOnSheet() const {
-    return firstColumn >= 0 && firstRow >= 0 && lastColumn <= lastColumnOfSheet &&
-           lastRow <= lastRowOfSheet;
-}
-
 std::optional<CellBlock> intersection(const CellBlock& one, const CellBlock& other) {
     const CellBlock common{
         std::max(one.firstColumn, other.firstColumn), std::max(one.firstRow, other.firstRow),

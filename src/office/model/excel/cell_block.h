@@ -25,7 +25,6 @@ struct CellBlock {
     [[nodiscard]] bool spansAllColumns() const {
         return firstColumn == 0 && lastColumn == lastColumnOfSheet;
     }
-    [[nodiscard]] bool isOnSheet() const;
 
     bool operator==(const CellBlock&) const = default;
 

@@ -3,8 +3,6 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <utility>
-#include <vector>
 
 #include "office/copied.h"
 #include "office/model/excel/cell_block.h"
@@ -20,8 +18,6 @@ struct Box {
     double width = 0;
     double height = 0;
 };
-
-enum class Lines { Rows, Columns };
 
 /// One block of cells of a sheet. What reads or writes does so for the whole block at once.
 class Cells {
@@ -43,12 +39,6 @@ public:
     virtual void setNumberFormat(const std::string& code) = 0;
 
     virtual Box place() = 0;
-    virtual bool areHidden(Lines lines) = 0;
-    /// Hides or shows the block's rows or columns. What is so already leaves the workbook
-    /// unchanged.
-    virtual void hide(Lines lines, bool hidden) = 0;
-    /// First and last places of the rows of the block that are filled, in stretches.
-    virtual std::vector<std::pair<std::int32_t, std::int32_t>> filledRows() = 0;
 
     /// The cells, or a picture of them as they look on the screen, which is taken now. `Failure`
     /// 1004 if there is nothing to take a picture of.

@@ -1,7 +1,5 @@
 #include <fmt/format.h>
 
-#include <algorithm>
-
 #include "office/model/excel/objects.h"
 #include "office/text.h"
 
@@ -79,11 +77,8 @@ public:
         static const auto table =
             MemberTable<Self>("ChartObject")
                 .property("Name", [](Self& self) { return self.chart().name(); })
-                .property("Index", &Self::index)
                 .property("Chart",
                           [](Self& self) { return chartObject(self.home(), self.chartPtr()); })
-                .property("Parent",
-                          [](Self& self) { return sheetObject(self.home(), self.home().sheet); })
                 .property("TopLeftCell",
                           [](Self& self) {
                               const Box box = self.chart().box();
@@ -98,10 +93,6 @@ public:
                               return self.cellAt(box.left + box.width - inside,
                                                  box.top + box.height - inside);
                           })
-                .property("Left", [](Self& self) { return self.chart().box().left; })
-                .property("Top", [](Self& self) { return self.chart().box().top; })
-                .property("Width", [](Self& self) { return self.chart().box().width; })
-                .property("Height", [](Self& self) { return self.chart().box().height; })
                 .method("Activate", {}, &Self::select)
                 .method("Select", {"Replace"}, &Self::select)
                 .method("Copy", {}, &Self::copy)
@@ -117,13 +108,6 @@ private:
     [[nodiscard]] Object cellAt(double left, double top) const {
         return rangeObject(home(), {sheet().cellAt(left, top)});
     }
-
-    Value index() {
-        const auto charts = sheet().charts();
-        const auto place = std::find(charts.begin(), charts.end(), chartPtr());
-        if (place == charts.end()) failGone("ChartObject.Index");
-        return countOf(static_cast<std::size_t>(place - charts.begin()) + 1);
-    }
 };
 
 /// The chart in a chart object.
@@ -135,13 +119,6 @@ public:
         using Self = Chart;
         static const auto table =
             MemberTable<Self>("Chart")
-                // As Excel calls it: by the sheet and the object.
-                .property(
-                    "Name",
-                    [](Self& self) { return self.sheet().name() + " " + self.chart().name(); })
-                .property(
-                    "Parent",
-                    [](Self& self) { return chartObjectObject(self.home(), self.chartPtr()); })
                 .property("ChartArea",
                           [](Self& self) { return chartAreaObject(self.home(), self.chartPtr()); })
                 .method("Export", {"Filename", "FilterName", "Interactive"},
@@ -169,12 +146,8 @@ public:
           chart_(std::move(chart)) {}
 
     static const MemberTable<ChartArea>& members() {
-        using Self = ChartArea;
         static const auto table =
-            MemberTable<Self>("ChartArea")
-                .property("Parent", [](Self& self) { return self.parent(); })
-                .method("Select", {}, [](Self& self) { self.parent().call("Select"); })
-                .method("Copy", {}, &Self::copy);
+            MemberTable<ChartArea>("ChartArea").method("Copy", {}, &ChartArea::copy);
         return table;
     }
 
@@ -184,9 +157,6 @@ private:
         if (chart_) source.chart = chart_->name();
         const SheetChartPtr chart = chart_ ? chart_ : sheet().ownChart();
         books().clipboard().copied = chart->copy(std::move(source));
-    }
-    [[nodiscard]] Object parent() const {
-        return chart_ ? chartObject(home(), chart_) : sheetObject(home(), home().sheet);
     }
 
     SheetChartPtr chart_;

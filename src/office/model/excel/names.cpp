@@ -34,19 +34,15 @@ bool isListed(const std::string& name) {
 }
 
 /// In the order of the alphabet; equal ones by sheet, the workbook's own last.
-NameEntries listNames(Book& book, const SheetPtr& ofSheet) {
+NameEntries listNames(Book& book) {
     NameEntries names;
     const auto append = [&](const SheetPtr& scope) {
         for (std::string& name : (scope ? scope->names() : book.names()).all()) {
             if (isListed(name)) names.push_back({scope, std::move(name)});
         }
     };
-    if (ofSheet) {
-        append(ofSheet);
-    } else {
-        for (const SheetPtr& sheet : book.sheets()) append(sheet);
-        append(nullptr);
-    }
+    for (const SheetPtr& sheet : book.sheets()) append(sheet);
+    append(nullptr);
     std::stable_sort(names.begin(), names.end(), [](const NameEntry& one, const NameEntry& other) {
         return lowerCase(one.name) < lowerCase(other.name);
     });
@@ -111,20 +107,18 @@ private:
     NameEntry entry_;
 };
 
-/// The defined names of a workbook, those of its sheets included, or of one sheet. A list that is
-/// held keeps its order; counting reads it anew.
+/// The defined names of a workbook, those of its sheets included. A list that is held keeps its
+/// order; counting reads it anew.
 class Names : public ObjectIn<Names> {
 public:
-    Names(InBook home, SheetPtr ofSheet)
-        : ObjectIn(std::move(home)),
-          ofSheet_(std::move(ofSheet)) {}
+    using ObjectIn::ObjectIn;
 
     static const MemberTable<Names>& members() {
         static const auto table =
             MemberTable<Names>("Names")
                 .property("Count",
                           [](Names& self) {
-                              self.entries_ = listNames(self.book(), self.ofSheet_);
+                              self.entries_ = listNames(self.book());
                               return countOf(self.entries_->size());
                           })
                 .property("Item", {"Index"}, &Names::item)
@@ -140,19 +134,17 @@ private:
     Object add(const CallArguments& arguments);
     [[nodiscard]] NameEntry entryToAdd(const std::string& name, const std::string& source) const;
 
-    SheetPtr ofSheet_;
     std::optional<NameEntries> entries_;
 };
 
 Object Names::item(const CallArguments& arguments) {
     const ItemIndex index(arguments.at(0), arguments.source());
     if (index.isName()) {
-        const auto found =
-            ofSheet_ ? findIn(book(), ofSheet_, index.name()) : findName(book(), index.name());
+        const auto found = findName(book(), index.name());
         if (!found) index.fail();
         return makeObject<Name>(home(), *found);
     }
-    if (!entries_) entries_ = listNames(book(), ofSheet_);
+    if (!entries_) entries_ = listNames(book());
     return makeObject<Name>(home(), (*entries_)[index.placeBelow(entries_->size())]);
 }
 
@@ -165,7 +157,7 @@ bool isName(const std::string& name) {
 
 NameEntry Names::entryToAdd(const std::string& name, const std::string& source) const {
     const auto split = splitSheet(name);
-    NameEntry entry{split ? book().findSheet(split->sheet) : ofSheet_, split ? split->text : name};
+    NameEntry entry{split ? book().findSheet(split->sheet) : nullptr, split ? split->text : name};
     if (split && !entry.scope)
         refuse(source, fmt::format("There is no sheet \"{}\"", split->sheet));
     if (!isName(entry.name)) refuse(source, fmt::format("A name can't be \"{}\"", entry.name));
@@ -187,8 +179,8 @@ Object Names::add(const CallArguments& arguments) {
 
 }  // namespace
 
-Object namesObject(const InBook& home, const SheetPtr& ofSheet) {
-    return makeObject<Names>(home, ofSheet);
+Object namesObject(const InBook& home) {
+    return makeObject<Names>(home);
 }
 
 std::optional<RangePlace> findCells(const InSheet& home, std::string_view text) {

@@ -55,8 +55,8 @@ enum class SheetKind { Any, Worksheet, ChartSheet };
 [[nodiscard]] Object sheetObject(const InBook& home, const SheetPtr& sheet);
 /// Brings a sheet to the top. `Failure` 1004 for a hidden one.
 void activateSheet(const InSheet& home, const std::string& source);
-/// All names of the workbook, or those of one sheet.
-[[nodiscard]] Object namesObject(const InBook& home, const SheetPtr& ofSheet = nullptr);
+/// All names of the workbook.
+[[nodiscard]] Object namesObject(const InBook& home);
 [[nodiscard]] Object chartObjectsObject(const InSheet& home);
 /// The chart that an index asks for: a number or a name. `Failure` 9 if there is none.
 [[nodiscard]] Object chartObjectByIndex(const InSheet& home, const CallArguments& arguments);
@@ -71,18 +71,12 @@ void activateSheet(const InSheet& home, const std::string& source);
 /// without one, the end of the file's name. `Failure` 5 for a filter that there isn't.
 void exportPicture(SheetChart& chart, const CallArguments& arguments);
 
-/// What a range counts and steps by: `Rows` and `Columns` give ranges of their own kind.
-enum class RangeUnit { Cells, Rows, Columns };
-[[nodiscard]] Object rangeObject(const InSheet& home, CellBlocks blocks,
-                                 RangeUnit unit = RangeUnit::Cells);
+[[nodiscard]] Object rangeObject(const InSheet& home, CellBlocks blocks);
 /// The arguments of `Range`: an address, a name, or two cells. `Failure` 1004 if there is no such
-/// range, or if it is on another sheet and may not be.
-[[nodiscard]] Object rangeByArguments(const InSheet& home, const CallArguments& arguments,
-                                      bool mayLeaveSheet);
-/// Those of `Cells`, and of `Rows` and `Columns`.
-[[nodiscard]] Object cellsByArguments(const InSheet& home, const CallArguments& arguments);
-[[nodiscard]] Object linesByArguments(const InSheet& home, const CallArguments& arguments,
-                                      RangeUnit unit);
+/// range on the sheet.
+[[nodiscard]] Object rangeByArguments(const InSheet& home, const CallArguments& arguments);
+/// Those of `Columns`: "B:D". `Failure` 13 for anything else.
+[[nodiscard]] Object columnsByArguments(const InSheet& home, const CallArguments& arguments);
 /// The sheet that a range lies on, and its blocks. `Failure` 13 if the value is no range.
 struct RangePlace {
     InSheet home;

@@ -39,7 +39,6 @@ struct PlacedCharts {
 };
 
 struct Publications {
-    std::vector<PublicationPtr> all;
     /// How many there have been, for the names of those to come.
     int made = 0;
     /// The number of the picture that was written last.

@@ -2,7 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <utility>
 
@@ -135,16 +134,6 @@ public:
         using Self = PublishObject;
         static const auto table =
             MemberTable<Self>("PublishObject")
-                .property("SourceType",
-                          [](Self& self) { return static_cast<std::int32_t>(self.what_->source); })
-                .property("Filename", [](Self& self) { return self.what_->file; })
-                .property("Sheet", [](Self& self) { return self.what_->sheet; })
-                .property("Source", [](Self& self) { return self.what_->place; })
-                .property("HtmlType", [](Self&) { return staticPage; })
-                .property("DivID", [](Self& self) { return self.what_->divId; })
-                .property(
-                    "Title", [](Self& self) { return self.what_->title; },
-                    [](Self& self, const Value& title) { self.what_->title = title.toText(); })
                 .property(
                     "AutoRepublish", [](Self&) { return false; },
                     [](Self& self, const Value& wanted) {
@@ -153,23 +142,18 @@ public:
                                    "Pages are not published again by themselves here");
                         Publisher::end(*self.what_);
                     })
-                .method("Publish", {"Create"},
-                        [](Self& self, const CallArguments& arguments) {
-                            Publisher(self.home(), *self.what_, arguments.source())
-                                .publish(arguments.at(0, false).toBool());
-                        })
-                .method("Delete", {},
-                        [](Self& self) { std::erase(self.book().publications().all, self.what_); });
+                .method("Publish", {"Create"}, [](Self& self, const CallArguments& arguments) {
+                    Publisher(self.home(), *self.what_, arguments.source())
+                        .publish(arguments.at(0, false).toBool());
+                });
         return table;
     }
-
-    static constexpr std::int32_t staticPage = 0;
 
 private:
     PublicationPtr what_;
 };
 
-/// The records of a workbook.
+/// The records of a workbook. Nobody asks for one again, so each lives as long as its object.
 class PublishObjects : public ObjectIn<PublishObjects> {
 public:
     using ObjectIn::ObjectIn;
@@ -178,17 +162,10 @@ public:
         using Self = PublishObjects;
         static const auto table =
             MemberTable<Self>("PublishObjects")
-                .property("Count", [](Self& self) { return countOf(self.all().size()); })
-                .property("Item", {"Index"},
-                          [](Self& self, const CallArguments& arguments) {
-                              const ItemIndex index(arguments.at(0).toLong(), arguments.source());
-                              return self.object(self.all()[index.placeBelow(self.all().size())]);
-                          })
                 .method("Add",
                         {"SourceType", "Filename", "Sheet", "Source", "HtmlType", "DivID", "Title"},
                         &Self::add)
                 .method("Delete", {}, [](Self& self) {
-                    self.all().clear();
                     self.book().publications().placedCharts.clear();
                     self.book().publications().gaps.clear();
                 });
@@ -196,11 +173,6 @@ public:
     }
 
 private:
-    [[nodiscard]] std::vector<PublicationPtr>& all() const { return book().publications().all; }
-    [[nodiscard]] Object object(PublicationPtr what) const {
-        return makeObject<PublishObject>(home(), std::move(what));
-    }
-
     Object add(const CallArguments& arguments);
 };
 
@@ -211,19 +183,18 @@ Object PublishObjects::add(const CallArguments& arguments) {
     const bool isChart = type == static_cast<std::int32_t>(Publication::Source::Chart);
     if (!isChart && type != static_cast<std::int32_t>(Publication::Source::Range))
         refuse(arguments.source(), "Only ranges and charts can be published");
-    if (arguments.at(HtmlType, PublishObject::staticPage).toLong() != PublishObject::staticPage)
-        refuse(arguments.source(), "Only pages that stay as they are can be published");
+    constexpr std::int32_t staticPage = 0;
+    if (arguments.at(HtmlType, staticPage).toLong() != staticPage ||
+        !arguments.at(DivId, "").toText().empty())
+        refuse(arguments.source(), "Pages stay as they are, and their items are counted, here");
     auto what = std::make_shared<Publication>();
     what->source = isChart ? Publication::Source::Chart : Publication::Source::Range;
     what->file = arguments.at(Filename).toText();
     what->sheet = arguments.at(OfSheet, "").toText();
     what->place = arguments.at(Source, "").toText();
-    what->divId = arguments.at(DivId, "").toText();
+    what->divId = fmt::format("item{}", ++book().publications().made);
     what->title = arguments.at(Title, "").toText();
-    const int number = ++book().publications().made;
-    if (what->divId.empty()) what->divId = fmt::format("item{}", number);
-    all().push_back(what);
-    return object(std::move(what));
+    return makeObject<PublishObject>(home(), std::move(what));
 }
 
 }  // namespace

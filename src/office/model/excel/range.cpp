@@ -1,6 +1,5 @@
 #include <fmt/format.h>
 
-#include <limits>
 #include <utility>
 
 #include "office/model/excel/objects.h"
@@ -12,7 +11,20 @@ namespace {
 /// More than fits in memory comfortably; nobody reads a sheet of 17 thousand million cells.
 constexpr double mostCells = 5e6;
 
-constexpr std::int32_t directionUp = -4162;
+/// The rows of a block, which are counted.
+class Rows : public ObjectIn<Rows, InSheet> {
+public:
+    Rows(InSheet home, std::int32_t count) : ObjectIn(std::move(home)), count_(count) {}
+
+    static const MemberTable<Rows>& members() {
+        static const auto table =
+            MemberTable<Rows>("Rows").property("Count", [](Rows& self) { return self.count_; });
+        return table;
+    }
+
+private:
+    std::int32_t count_;
+};
 
 /// The blocks of a range, one by one.
 class Areas : public ObjectIn<Areas, InSheet> {
@@ -41,15 +53,13 @@ private:
 /// Excel's does.
 class Range : public ObjectIn<Range, InSheet> {
 public:
-    Range(InSheet home, CellBlocks blocks, RangeUnit unit)
+    Range(InSheet home, CellBlocks blocks)
         : ObjectIn(std::move(home)),
-          blocks_(std::move(blocks)),
-          unit_(unit) {}
+          blocks_(std::move(blocks)) {}
 
     static const MemberTable<Range>& members();
 
     [[nodiscard]] const CellBlocks& blocks() const { return blocks_; }
-    Object item(const CallArguments& arguments);
 
 private:
     [[nodiscard]] const CellBlock& first() const { return blocks_.front(); }
@@ -58,27 +68,15 @@ private:
         if (!cells_) cells_ = sheet().cells(first());
         return *cells_;
     }
-    [[nodiscard]] Object other(CellBlocks blocks, RangeUnit unit = RangeUnit::Cells) const {
-        return rangeObject(home(), std::move(blocks), unit);
-    }
-    [[nodiscard]] Object entire(RangeUnit unit) const;
-    [[nodiscard]] CellBlock itemBlock(const CallArguments& arguments) const;
-    [[nodiscard]] Lines lines() const {
-        return unit_ == RangeUnit::Columns ? Lines::Columns : Lines::Rows;
-    }
     template <class Change>
     void change(const std::string& source, Change change);
 
-    Value count();
     Value value();
     void setValue(const Value& value);
-    Object end(const CallArguments& arguments);
-    void setHidden(const Value& hidden);
     void select(const CallArguments& arguments);
     void copyAs(CopySource::Kind kind, const std::string& source);
 
     CellBlocks blocks_;
-    RangeUnit unit_;
     CellsPtr cells_;
 };
 
@@ -87,21 +85,13 @@ const MemberTable<Range>& Range::members() {
     static const auto table =
         MemberTable<Self>("Range")
             .property("Address", [](Self& self) { return addressOf(self.blocks_); })
-            .property("Count", &Self::count)
             .property("Areas",
                       [](Self& self) { return makeObject<Areas>(self.home(), self.blocks_); })
             .property("Worksheet",
                       [](Self& self) { return sheetObject(self.home(), self.home().sheet); })
-            .property("Parent",
-                      [](Self& self) { return sheetObject(self.home(), self.home().sheet); })
             .property("Row", [](Self& self) { return self.first().firstRow + 1; })
-            .property("Rows", [](Self& self) { return self.other(self.blocks_, RangeUnit::Rows); })
-            .property("Columns",
-                      [](Self& self) { return self.other(self.blocks_, RangeUnit::Columns); })
-            .property("EntireRow", [](Self& self) { return self.entire(RangeUnit::Rows); })
-            .property("EntireColumn", [](Self& self) { return self.entire(RangeUnit::Columns); })
-            .property("Cells", {"RowIndex", "ColumnIndex"}, &Self::item)
-            .property("End", {"Direction"}, &Self::end)
+            .property("Rows",
+                      [](Self& self) { return makeObject<Rows>(self.home(), self.first().rows()); })
             .property("Value", &Self::value, &Self::setValue)
             .property(
                 "NumberFormat", [](Self& self) { return self.cells().numberFormat(); },
@@ -109,13 +99,8 @@ const MemberTable<Range>& Range::members() {
                     self.change("Range.NumberFormat",
                                 [&](Cells& cells) { cells.setNumberFormat(code.toText()); });
                 })
-            .property("Left", [](Self& self) { return self.cells().place().left; })
-            .property("Top", [](Self& self) { return self.cells().place().top; })
             .property("Width", [](Self& self) { return self.cells().place().width; })
             .property("Height", [](Self& self) { return self.cells().place().height; })
-            .property(
-                "Hidden", [](Self& self) { return self.cells().areHidden(self.lines()); },
-                &Self::setHidden)
             .method("ClearContents", {},
                     [](Self& self, const CallArguments& arguments) {
                         self.change(arguments.source(), [](Cells& cells) { cells.clear(); });
@@ -130,51 +115,6 @@ const MemberTable<Range>& Range::members() {
                         self.copyAs(CopySource::Kind::Picture, arguments.source());
                     });
     return table;
-}
-
-Value Range::count() {
-    if (unit_ == RangeUnit::Rows) return first().rows();
-    if (unit_ == RangeUnit::Columns) return first().columns();
-    double all = 0;
-    for (const CellBlock& block : blocks_) all += block.cells();
-    if (all > std::numeric_limits<std::int32_t>::max()) return all;
-    return static_cast<std::int32_t>(all);
-}
-
-Object Range::entire(RangeUnit unit) const {
-    CellBlocks whole;
-    for (const CellBlock& block : blocks_) {
-        whole.push_back(
-            unit == RangeUnit::Rows
-                ? CellBlock{0, block.firstRow, CellBlock::lastColumnOfSheet, block.lastRow}
-                : CellBlock{block.firstColumn, 0, block.lastColumn, CellBlock::lastRowOfSheet});
-    }
-    return other(std::move(whole), unit);
-}
-
-CellBlock Range::itemBlock(const CallArguments& arguments) const {
-    const std::int32_t index = arguments.at(0).toLong() - 1;
-    const std::int32_t row = first().firstRow + index;
-    if (unit_ == RangeUnit::Rows) return {first().firstColumn, row, first().lastColumn, row};
-    if (unit_ == RangeUnit::Columns) {
-        const std::int32_t column = first().firstColumn + index;
-        return {column, first().firstRow, column, first().lastRow};
-    }
-    if (!arguments.has(1)) {
-        return CellBlock::cell(first().firstRow + index / first().columns(),
-                               first().firstColumn + index % first().columns());
-    }
-    const Value& which = arguments.at(1);
-    const std::int32_t place =
-        which.isText() ? columnOf(which.toText()).value_or(-1) : which.toLong() - 1;
-    return CellBlock::cell(row, first().firstColumn + place);
-}
-
-Object Range::item(const CallArguments& arguments) {
-    if (!arguments.has(0)) return other(blocks_);
-    const CellBlock block = itemBlock(arguments);
-    if (!block.isOnSheet()) refuse(arguments.source(), "There is no such cell");
-    return other({block}, unit_);
 }
 
 void requireMovable(const CellBlock& block, const std::string& source) {
@@ -220,30 +160,6 @@ void Range::setValue(const Value& value) {
     });
 }
 
-/// Where a jump upwards ends: at the edge of the filled cells that the cell stands in, at the next
-/// filled one, or at the edge of the sheet.
-Object Range::end(const CallArguments& arguments) {
-    if (arguments.at(0).toLong() != directionUp)
-        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                      "Only jumps upwards are known");
-    const std::int32_t from = first().firstRow;
-    const std::int32_t column = first().firstColumn;
-    std::int32_t end = 0;
-    for (const auto& [top, bottom] : sheet().cells({column, 0, column, from})->filledRows()) {
-        if (top == from) continue;
-        end = bottom == from ? top : bottom;
-    }
-    return other({CellBlock::cell(end, column)});
-}
-
-void Range::setHidden(const Value& hidden) {
-    const bool isColumns = unit_ == RangeUnit::Columns && first().spansAllRows();
-    if (!isColumns && !first().spansAllColumns())
-        refuse("Range.Hidden", "Only entire rows and columns can be hidden");
-    requireThere(home(), "Range.Hidden");
-    for (const CellBlock& block : blocks_) sheet().cells(block)->hide(lines(), hidden.toBool());
-}
-
 void Range::select(const CallArguments& arguments) {
     requireThere(home(), arguments.source());
     if (book().activeSheet() != home().sheet)
@@ -276,33 +192,13 @@ RangePlace cellsOf(const InSheet& home, const Value& wanted, const std::string& 
     return *found;
 }
 
-/// What `Rows` and `Columns` take: a number, "B:D" or "1:5", or a single "B". Columns may be
-/// counted too.
-CellBlock linesOf(const Value& which, bool rows, const std::string& source) {
-    if (which.isText()) {
-        const std::string text = which.toText();
-        auto block = blockOf(text.find(':') == std::string::npos ? text + ":" + text : text);
-        if (!rows && block && block->spansAllColumns() &&
-            block->lastRow <= CellBlock::lastColumnOfSheet)
-            return {block->firstRow, 0, block->lastRow, CellBlock::lastRowOfSheet};
-        if (block && (rows ? block->spansAllColumns() : block->spansAllRows())) return *block;
-    } else {
-        const std::int32_t place = which.toLong() - 1;
-        const CellBlock block = rows ? CellBlock{0, place, CellBlock::lastColumnOfSheet, place}
-                                     : CellBlock{place, 0, place, CellBlock::lastRowOfSheet};
-        if (block.isOnSheet()) return block;
-    }
-    throw Failure(FailureNumber::TypeMismatch, source,
-                  rows ? "These are no rows" : "These are no columns");
-}
-
 }  // namespace
 
-Object rangeObject(const InSheet& home, CellBlocks blocks, RangeUnit unit) {
-    return makeObject<Range>(home, std::move(blocks), unit);
+Object rangeObject(const InSheet& home, CellBlocks blocks) {
+    return makeObject<Range>(home, std::move(blocks));
 }
 
-Object rangeByArguments(const InSheet& home, const CallArguments& arguments, bool mayLeaveSheet) {
+Object rangeByArguments(const InSheet& home, const CallArguments& arguments) {
     RangePlace found = cellsOf(home, arguments.at(0), arguments.source());
     if (arguments.has(1)) {
         const RangePlace other = cellsOf(found.home, arguments.at(1), arguments.source());
@@ -313,20 +209,16 @@ Object rangeByArguments(const InSheet& home, const CallArguments& arguments, boo
         }
         found.blocks = {all};
     }
-    if (!mayLeaveSheet && found.home.sheet != home.sheet)
+    if (found.home.sheet != home.sheet)
         noSuchRange(arguments.source(), arguments.at(0), " on this sheet");
     return rangeObject(found.home, std::move(found.blocks));
 }
 
-Object cellsByArguments(const InSheet& home, const CallArguments& arguments) {
-    return Range(home, {CellBlock::wholeSheet()}, RangeUnit::Cells).item(arguments);
-}
-
-Object linesByArguments(const InSheet& home, const CallArguments& arguments, RangeUnit unit) {
-    const CellBlock block =
-        arguments.has(0) ? linesOf(arguments.at(0), unit == RangeUnit::Rows, arguments.source())
-                         : CellBlock::wholeSheet();
-    return rangeObject(home, {block}, unit);
+Object columnsByArguments(const InSheet& home, const CallArguments& arguments) {
+    const auto block = blockOf(arguments.at(0).toText());
+    if (!block || !block->spansAllRows())
+        throw Failure(FailureNumber::TypeMismatch, arguments.source(), "These are no columns");
+    return rangeObject(home, {*block});
 }
 
 RangePlace placeOfRange(const Value& range, const std::string& source) {

@@ -29,8 +29,7 @@ bool isSheetName(const std::string& name) {
            !name.ends_with('\'') && name.find_first_of(":\\/?*[]") == std::string::npos;
 }
 
-bool isTaken(Book& book, const std::string& name) {
-    const auto names = book.sheetNames();
+bool isTaken(const std::vector<std::string>& names, const std::string& name) {
     return std::any_of(names.begin(), names.end(),
                        [&](const std::string& each) { return sameIgnoringCase(each, name); });
 }
@@ -54,7 +53,8 @@ void rename(const InSheet& home, const std::string& name) {
     requireThere(home, source);
     if (name == home.sheet->knownName()) return;
     const bool isOwn = sameIgnoringCase(name, home.sheet->knownName());
-    if (isSheetName(name) && (isOwn || !isTaken(*home.book, name))) home.sheet->rename(name);
+    if (isSheetName(name) && (isOwn || !isTaken(home.book->sheetNames(), name)))
+        home.sheet->rename(name);
     // What lies below may refuse a name without a word.
     if (home.sheet->name() != name)
         refuse(source, fmt::format("A sheet can't have the name \"{}\"", name));
@@ -119,25 +119,18 @@ public:
                           })
                 .property("Range", {"Cell1", "Cell2"},
                           [](Self& self, const CallArguments& arguments) {
-                              return rangeByArguments(self.home(), arguments, false);
-                          })
-                .property("Cells", {"RowIndex", "ColumnIndex"},
-                          [](Self& self, const CallArguments& arguments) {
-                              return cellsByArguments(self.home(), arguments);
-                          })
-                .property("Rows", {"RowIndex"},
-                          [](Self& self, const CallArguments& arguments) {
-                              return linesByArguments(self.home(), arguments, RangeUnit::Rows);
-                          })
-                .property("Columns", {"ColumnIndex"},
-                          [](Self& self, const CallArguments& arguments) {
-                              return linesByArguments(self.home(), arguments, RangeUnit::Columns);
+                              return rangeByArguments(self.home(), arguments);
                           })
                 .property(
-                    "UsedRange",
-                    [](Self& self) { return rangeObject(self.home(), {self.sheet().used()}); })
-                .property("Names",
-                          [](Self& self) { return namesObject(self.home(), self.home().sheet); });
+                    "Cells",
+                    [](Self& self) { return rangeObject(self.home(), {CellBlock::wholeSheet()}); })
+                .property("Columns", {"ColumnIndex"},
+                          [](Self& self, const CallArguments& arguments) {
+                              return columnsByArguments(self.home(), arguments);
+                          })
+                .property("UsedRange", [](Self& self) {
+                    return rangeObject(self.home(), {self.sheet().used()});
+                });
         return table;
     }
 };
@@ -175,7 +168,7 @@ public:
             MemberTable<Sheets>("Sheets")
                 .property("Count", [](Sheets& self) { return countOf(self.all().size()); })
                 .property("Item", {"Index"}, &Sheets::item)
-                .method("Add", {"Before", "After", "Count", "Type"}, &Sheets::add);
+                .method("Add", {"Before", "After"}, &Sheets::add);
         return table;
     }
 
@@ -191,7 +184,6 @@ private:
 
     Object item(const CallArguments& arguments);
     Object add(const CallArguments& arguments);
-    [[nodiscard]] std::int32_t placeToAdd(const CallArguments& arguments) const;
 
     SheetKind kind_;
 };
@@ -217,37 +209,26 @@ std::int32_t placeOfSheet(const Value& value, const std::string& source) {
     return home->sheet->place();
 }
 
-enum AddArgument : std::size_t { Before, After, HowMany, Type };
-
-/// Ahead of the active sheet unless told otherwise.
-std::int32_t Sheets::placeToAdd(const CallArguments& arguments) const {
-    if (arguments.has(Before)) return placeOfSheet(arguments.at(Before), arguments.source());
-    if (arguments.has(After)) return placeOfSheet(arguments.at(After), arguments.source()) + 1;
-    const SheetPtr active = book().activeSheet();
-    return active ? active->place() : 0;
-}
-
-/// Gives the last of the new worksheets. The sheet on top stays there; Excel would bring the new
-/// one up.
+/// Behind a sheet, or ahead of the active one. The sheet on top stays there; Excel would bring the
+/// new one up.
 Object Sheets::add(const CallArguments& arguments) {
-    const bool otherType = arguments.at(Type, worksheetType).toLong() != worksheetType;
-    if (kind_ == SheetKind::ChartSheet || otherType)
-        refuse(arguments.source(), "Only worksheets can be added");
+    constexpr std::size_t after = 1;
+    if (kind_ == SheetKind::ChartSheet || arguments.has(0))
+        refuse(arguments.source(), "Worksheets alone are added, behind others");
     requireOpenStructure(book(), arguments.source());
-    std::int32_t place = placeToAdd(arguments);
-    auto names = book().sheetNames();
-    std::size_t number = names.size();
-    SheetPtr added;
-    for (std::int32_t left = arguments.at(HowMany, 1).toLong(); left > 0; --left) {
-        std::string name;
-        do {
-            name = fmt::format("Sheet{}", ++number);
-        } while (std::any_of(names.begin(), names.end(), [&](const std::string& each) {
-            return sameIgnoringCase(each, name);
-        }));
-        added = book().addSheet(name, place++);
+    std::int32_t place = 0;
+    if (arguments.has(after)) {
+        place = placeOfSheet(arguments.at(after), arguments.source()) + 1;
+    } else if (const SheetPtr active = book().activeSheet()) {
+        place = active->place();
     }
-    return sheetObject(home(), added);
+    const auto names = book().sheetNames();
+    std::size_t number = names.size();
+    std::string name;
+    do {
+        name = fmt::format("Sheet{}", ++number);
+    } while (isTaken(names, name));
+    return sheetObject(home(), book().addSheet(name, place));
 }
 
 }  // namespace
