@@ -70,7 +70,7 @@ private:
 ///
 ///     static const MemberTable<Worksheet> table = MemberTable<Worksheet>("Worksheet")
 ///         .property("Name", &Worksheet::name, &Worksheet::setName)
-///         .property("Cells", {"RowIndex", "ColumnIndex"}, &Worksheet::cells)
+///         .property("Columns", {"ColumnIndex"}, &Worksheet::columns)
 ///         .method("Select", {"Replace"}, &Worksheet::select);
 ///
 /// A property that is read may also be called and a method may also be read, as late-bound

@@ -92,8 +92,8 @@ TEST_F(ExcelContract, ExportsInVectorsOfTheTrueSize) {
                                   : chart.call("Export", file, one.filter);
             const office::VectorFile vectors = office::vectorFileOf(support::textOf(file), file);
             EXPECT_EQ(vectors.kind, one.kind);
-            EXPECT_NEAR(vectors.widthPt, isChart ? 240 : cells.get("Width").toDouble(), 0.2);
-            EXPECT_NEAR(vectors.heightPt, isChart ? 144 : cells.get("Height").toDouble(), 0.2);
+            EXPECT_NEAR(vectors.widthPt, isChart ? 240 : cells.get("Width").toDouble(), point);
+            EXPECT_NEAR(vectors.heightPt, isChart ? 144 : cells.get("Height").toDouble(), point);
         }
     }
     EXPECT_EQ(failureOf([&] {

@@ -100,17 +100,14 @@ TEST_F(PowerPointContract, RefusesASizeThatWouldHideTheShape) {
     EXPECT_GT(picture.get("Height").toDouble(), 0);
 }
 
-TEST_F(PowerPointContract, SelectsTheLastShapeAndWorksOnTheSelection) {
-    goTo(3);
+TEST_F(PowerPointContract, PlacesTheLastShape) {
     addPicture(3, 240, 120);
     const Value shapes = slide(3).get("Shapes");
-    shapes.get("Item", shapes.get("Count")).call("Select");
-    const Value selected = selection().get("ShapeRange");
-    EXPECT_EQ(selected.get("Count").toLong(), 1);
-    selected.put("LockAspectRatio", true);
-    selected.put("Top", 54);
-    selected.put("Width", 480);
-    selected.put("Left", 240);
+    const Value last = shapes.get("Item", shapes.get("Count"));
+    last.put("LockAspectRatio", true);
+    last.put("Top", 54);
+    last.put("Width", 480);
+    last.put("Left", 240);
     const Value placed = slide(3).get("Shapes").get("Item", shapes.get("Count"));
     EXPECT_NEAR(placed.get("Top").toDouble(), 54, 0.5);
     EXPECT_NEAR(placed.get("Left").toDouble(), 240, 0.5);
@@ -118,12 +115,11 @@ TEST_F(PowerPointContract, SelectsTheLastShapeAndWorksOnTheSelection) {
     EXPECT_NEAR(placed.get("Height").toDouble(), 240, 0.5);
 }
 
-TEST_F(PowerPointContract, DropsTheSelection) {
-    goTo(3);
+TEST_F(PowerPointContract, ComesToTheSlideOfAShapeThatIsSelectedAndStaysThere) {
+    goTo(2);
     addPicture(3, 50, 50).call("Select");
-    EXPECT_EQ(selection().get("ShapeRange").get("Count").toLong(), 1);
+    EXPECT_EQ(selection().get("SlideRange").get("SlideIndex").toLong(), 3);
     selection().call("Unselect");
-    EXPECT_NE(failureOf([&] { selection().get("ShapeRange").get("Count"); }), 0);
     EXPECT_EQ(selection().get("SlideRange").get("SlideIndex").toLong(), 3)
         << "the slide in view is still the one that an export works on";
 }
@@ -132,11 +128,11 @@ TEST_F(PowerPointContract, NamesAShapeAndDescribesIt) {
     const Object picture = addPicture(3, 50, 50);
     picture.put("Name", "Chart 1");
     picture.put("AlternativeText", "Umsätze by item");
-    const Value found = slide(3).get("Shapes").get("Item", "Chart 1");
-    EXPECT_EQ(found.get("AlternativeText").toText(), "Umsätze by item");
-    found.call("Delete");
-    EXPECT_EQ(failureOf([&] { slide(3).get("Shapes").get("Item", "Chart 1"); }),
-              subscriptOutOfRange);
+    const Value shapes = slide(3).get("Shapes");
+    const std::int32_t count = shapes.get("Count").toLong();
+    expectMembers(shapes.get("Item", count),
+                  {{"Name", "Chart 1"}, {"AlternativeText", "Umsätze by item"}});
+    EXPECT_EQ(failureOf([&] { shapes.get("Item", count + 1); }), subscriptOutOfRange);
 }
 
 /// The road of the source line.
@@ -146,8 +142,7 @@ TEST_F(PowerPointContract, GrowsALabelWithItsTextAndKeepsItsPlace) {
         selection().get("SlideRange").get("Shapes").call("AddLabel", 1, 20.25, 518, 8.5, 28.875);
     label.call("Select");
     label.get("TextFrame").put("WordWrap", false);
-    const Value text = selection().get("ShapeRange").get("TextFrame").get("TextRange");
-    text.get("Characters", arg("Start", 1), arg("Length", 0)).call("Select");
+    const Value text = label.get("TextFrame").get("TextRange");
     text.put("Text", "/documents/of the group/contract-book.xlsx");
     text.get("Font").put("Name", "Tahoma");
     text.get("Font").put("Size", 10);
@@ -159,7 +154,7 @@ TEST_F(PowerPointContract, GrowsALabelWithItsTextAndKeepsItsPlace) {
     EXPECT_EQ(range.get("Text").toText(), "/documents/of the group/contract-book.xlsx");
     EXPECT_EQ(range.get("Font").get("Name").toText(), "Tahoma");
     EXPECT_NEAR(range.get("Font").get("Size").toDouble(), 10, 0.1);
-    EXPECT_EQ(range.get("Font").get("Color").get("RGB").toLong(), 0xB2B2B2);
+    EXPECT_EQ(range.get("Font").get("Color").toLong(), 0xB2B2B2);
     EXPECT_EQ(made.get("TextFrame").get("WordWrap").toLong(), 0);
     EXPECT_GT(made.get("Width").toDouble(), 100);
     EXPECT_NEAR(made.get("Left").toDouble(), 20.25, 1);

@@ -74,7 +74,7 @@ TEST_F(PowerPointLive, IsAtTheSlideAskedForLastOnceAnythingIsAskedOfTheWindow) {
     const Value shape = addPicture(slide(deck, 2), 50, 50);
     goTo(3);
     shape.call("Select");
-    expectMembers(window, {{"View.Slide.SlideIndex", 2}, {"Selection.ShapeRange.Count", 1}});
+    expectMembers(window, {{"View.Slide.SlideIndex", 2}});
     // It stays where it is if the slide has gone meanwhile.
     goTo(1);
     expectMembers(window, {{"View.Slide.SlideIndex", 1}});

@@ -308,8 +308,6 @@ TEST_F(PresentationFile, TakesAlternativesOfAShapeForOneShape) {
     const Object deck = open(std::move(package));
     EXPECT_EQ(addPicture(deck, 1).get("Name").toText(), "Picture 9");
     EXPECT_EQ(shapesOf(deck, 1).get("Count").toLong(), 3);
-    shapesOf(deck, 1).get("Item", "new").call("Delete");
-    EXPECT_EQ(saved(deck).read(firstSlide).find("c:Choice"), std::string::npos);
 }
 
 TEST_F(PresentationFile, BecomesThePresentationThatItsEndingSays) {

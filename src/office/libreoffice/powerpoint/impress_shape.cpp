@@ -133,10 +133,6 @@ model::ShapeText* ImpressShape::textFrame() {
     return holdsText() ? this : nullptr;
 }
 
-void ImpressShape::remove() {
-    slide_.removeShape(*this);
-}
-
 std::string ImpressShape::words() {
     return fromUno(text()->getString().replace('\n', '\r'));
 }

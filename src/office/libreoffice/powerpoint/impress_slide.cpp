@@ -62,13 +62,6 @@ ImpressShapePtr ImpressSlide::held(const uno::Reference<css::drawing::XShape>& s
     return shapes_.back();
 }
 
-void ImpressSlide::removeShape(ImpressShape& shape) {
-    page_->remove(shape.reference());
-    shape.markGone();
-    if (title_.get() == &shape) title_ = nullptr;
-    std::erase_if(shapes_, [&](const auto& known) { return known.get() == &shape; });
-}
-
 std::int32_t ImpressSlide::workbooksAmong(const std::set<rtl::OUString>& stored) {
     std::int32_t found = 0;
     const std::int32_t count = shapeCount();

@@ -32,7 +32,6 @@ public:
     [[nodiscard]] ImpressShapePtr title();
     /// The record of a shape that was fetched from this slide.
     ImpressShapePtr held(const uno::Reference<css::drawing::XShape>& shape);
-    void removeShape(ImpressShape& shape);
     /// How many of its shapes show a workbook that is one of these objects of the presentation.
     [[nodiscard]] std::int32_t workbooksAmong(const std::set<rtl::OUString>& stored);
     /// With its shapes.

@@ -98,30 +98,14 @@ void ImpressWindow::show(const model::DeckSlidePtr& slide) {
     constexpr auto rest = std::chrono::milliseconds(250);
     if (std::chrono::steady_clock::now() - shownAt_ >= rest) return showNow(slide);
     awaited_ = slide;
-    selectedByCall_.reset();
 }
 
 void ImpressWindow::showNow(const model::DeckSlidePtr& slide) {
     awaited_.reset();
     static_cast<void>(controller());
     view_->setCurrentPage(std::static_pointer_cast<ImpressSlide>(slide)->page());
-    selectedByCall_.reset();
     shown_ = slide;
     shownAt_ = std::chrono::steady_clock::now();
-}
-
-std::vector<model::DeckShapePtr> ImpressWindow::selectedShapes() {
-    std::vector<model::DeckShapePtr> shapes;
-    const auto selected = selection();
-    if (selected.empty()) {
-        if (const auto shape = selectedByCall_.lock(); shape && !shape->isGone())
-            shapes.push_back(shape);
-        return shapes;
-    }
-    const auto slide = std::static_pointer_cast<ImpressSlide>(slideInView());
-    if (!slide) return shapes;
-    for (const auto& shape : selected) shapes.push_back(slide->held(shape));
-    return shapes;
 }
 
 void ImpressWindow::select(const model::DeckShapePtr& shape) {
@@ -129,7 +113,6 @@ void ImpressWindow::select(const model::DeckShapePtr& shape) {
     const auto slide = wanted.slide().shared_from_this();
     if (slideInView() != slide) showNow(slide);
     select(wanted.reference());
-    selectedByCall_ = shape;
 }
 
 void ImpressWindow::select(const uno::Reference<css::drawing::XShape>& shape) {
@@ -140,7 +123,6 @@ void ImpressWindow::select(const uno::Reference<css::drawing::XShape>& shape) {
 void ImpressWindow::unselect() {
     static_cast<void>(controller());
     selection_->select(uno::Any());
-    selectedByCall_.reset();
 }
 
 std::vector<uno::Reference<css::drawing::XShape>> ImpressWindow::selection() {

@@ -36,7 +36,6 @@ public:
     /// asked of the window, but for letting the selection go, brings it to its slide first, unless
     /// somebody has gone to another one.
     void show(const model::DeckSlidePtr& slide) override;
-    std::vector<model::DeckShapePtr> selectedShapes() override;
     void select(const model::DeckShapePtr& shape) override;
     void unselect() override;
 
@@ -65,9 +64,6 @@ private:
     /// The controller's further interfaces, kept with it since asking for one is a remote call.
     uno::Reference<css::drawing::XDrawView> view_;
     uno::Reference<css::view::XSelectionSupplier> selection_;
-    /// In the sorter and in the outline LibreOffice says that it has selected a shape and has none
-    /// selected then: there the one counts that was selected by a call.
-    std::weak_ptr<model::DeckShape> selectedByCall_;
     /// The slide that the window is still to come to, and the one where it rests till then.
     model::DeckSlidePtr awaited_;
     model::DeckSlidePtr shown_;

@@ -59,8 +59,6 @@ public:
 
     /// Null for a shape that can't hold text, such as a picture.
     virtual ShapeText* textFrame() = 0;
-
-    virtual void remove() = 0;
 };
 
 using DeckShapePtr = std::shared_ptr<DeckShape>;

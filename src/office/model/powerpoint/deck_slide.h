@@ -60,7 +60,6 @@ public:
     /// masters.
     virtual DeckSlidePtr slideInView() = 0;
     virtual void show(const DeckSlidePtr& slide) = 0;
-    virtual std::vector<DeckShapePtr> selectedShapes() = 0;
     /// Selects this shape alone. Brings its slide into view, or is `Failure` 1004 where the
     /// application leaves that to the user.
     virtual void select(const DeckShapePtr& shape) = 0;

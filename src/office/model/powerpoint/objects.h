@@ -39,12 +39,8 @@ inline constexpr double furthestPt = 169056;
 [[nodiscard]] Object windowsObject(const GuardPtr& guard, std::vector<DeckPtr> decks);
 [[nodiscard]] Object slidesObject(const InDeck& home);
 [[nodiscard]] Object slideObject(const InDeck& home, const DeckSlidePtr& slide);
-/// A range of one slide.
-[[nodiscard]] Object slideRangeObject(const InDeck& home, const DeckSlidePtr& slide);
 [[nodiscard]] Object shapesObject(const InDeck& home, const DeckSlidePtr& slide);
 [[nodiscard]] Object shapeObject(const InDeck& home, const DeckShapePtr& shape);
-/// At least one shape.
-[[nodiscard]] Object shapeRangeObject(const InDeck& home, std::vector<DeckShapePtr> shapes);
 /// Parts of a shape. The text's: `Failure` 1004 for a shape that holds none.
 [[nodiscard]] Object textFrameObject(const InDeck& home, const DeckShapePtr& shape);
 [[nodiscard]] Object shadowObject(const InDeck& home, const DeckShapePtr& shape);

@@ -1,7 +1,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <functional>
 #include <utility>
 
 #include "office/model/powerpoint/objects.h"
@@ -19,46 +18,17 @@ public:
           shape_(std::move(shape)) {}
 
     [[nodiscard]] DeckShape& shape() const { return *shape_; }
-    [[nodiscard]] const DeckShapePtr& shapePtr() const { return shape_; }
     /// Of a shape that was found to hold text.
     [[nodiscard]] ShapeText& text() const { return *shape_->textFrame(); }
 
     /// A part of the same shape.
-    template <class Other, class... Args>
-    [[nodiscard]] Object other(Args&&... args) const {
-        return makeObject<Other>(this->home(), shape_, std::forward<Args>(args)...);
+    template <class Other>
+    [[nodiscard]] Object other() const {
+        return makeObject<Other>(this->home(), shape_);
     }
 
 private:
     DeckShapePtr shape_;
-};
-
-/// A colour, by functions that read and change what has it.
-class ColorFormat : public ShapePart<ColorFormat> {
-public:
-    using Read = std::function<std::int32_t(DeckShape&)>;
-    using Write = std::function<void(DeckShape&, std::int32_t)>;
-
-    ColorFormat(const InDeck& home, DeckShapePtr shape, Read read, Write write)
-        : ShapePart(home, std::move(shape)),
-          read_(std::move(read)),
-          write_(std::move(write)) {}
-
-    static const MemberTable<ColorFormat>& members() {
-        using Self = ColorFormat;
-        static const auto table =
-            MemberTable<Self>("ColorFormat")
-                .property(
-                    "RGB", [](Self& self) { return self.read_(self.shape()); },
-                    [](Self& self, const Value& colour) {
-                        self.write_(self.shape(), colour.toLong());
-                    });
-        return table;
-    }
-
-private:
-    Read read_;
-    Write write_;
 };
 
 class ShapeFont : public ShapePart<ShapeFont> {
@@ -80,35 +50,12 @@ public:
                         const double sizePt = numberWithin(1, 4000, points, "Font.Size");
                         self.text().setFont({.name = {}, .sizePt = sizePt, .colour = {}});
                     })
-                // An object whose RGB is read and set; a number put to it is its RGB.
+                // PowerPoint has an object there, to which a number can be put.
                 .property(
-                    "Color",
-                    [](Self& self) {
-                        return self.other<ColorFormat>(
-                            [](DeckShape& shape) { return shape.textFrame()->font().colour; },
-                            setColour);
-                    },
+                    "Color", [](Self& self) { return self.text().font().colour; },
                     [](Self& self, const Value& colour) {
-                        setColour(self.shape(), colour.toLong());
+                        self.text().setFont({.name = {}, .sizePt = {}, .colour = colour.toLong()});
                     });
-        return table;
-    }
-
-private:
-    static void setColour(DeckShape& shape, std::int32_t colour) {
-        shape.textFrame()->setFont({.name = {}, .sizePt = {}, .colour = colour});
-    }
-};
-
-/// Some characters of a shape's text, for a caret to be put there. Nothing shows one here: a shape
-/// whose text is selected is selected itself already.
-class Characters : public ShapePart<Characters> {
-public:
-    using ShapePart::ShapePart;
-
-    static const MemberTable<Characters>& members() {
-        static const auto table =
-            MemberTable<Characters>("TextRange").method("Select", {}, [](Characters&) {});
         return table;
     }
 };
@@ -124,8 +71,6 @@ public:
                 .property(
                     "Text", [](Self& self) { return self.text().words(); },
                     [](Self& self, const Value& words) { self.text().setWords(words.toText()); })
-                .property("Characters", {"Start", "Length"},
-                          [](Self& self, const CallArguments&) { return self.other<Characters>(); })
                 .property("Font", [](Self& self) { return self.other<ShapeFont>(); });
         return table;
     }
@@ -147,24 +92,43 @@ public:
     }
 };
 
+Shadow plainShadow(double offsetPt) {
+    constexpr std::int32_t grey = 0x808080;
+    return {.isVisible = true, .offsetXPt = offsetPt, .offsetYPt = offsetPt, .colour = grey};
+}
+
 /// Whatever is set of a shape that has no shadow gives it one, straight behind the shape at first.
+template <class Type>
+void changeShadow(DeckShape& shape, Type Shadow::*part, Type value) {
+    Shadow shadow = shape.shadow();
+    if (!shadow.isVisible) shadow = plainShadow(0);
+    shadow.*part = value;
+    shape.setShadow(shadow);
+}
+
+class ShadowColor : public ShapePart<ShadowColor> {
+public:
+    using ShapePart::ShapePart;
+
+    static const MemberTable<ShadowColor>& members() {
+        using Self = ShadowColor;
+        static const auto table =
+            MemberTable<Self>("ColorFormat")
+                .property(
+                    "RGB", [](Self& self) { return self.shape().shadow().colour; },
+                    [](Self& self, const Value& colour) {
+                        changeShadow(self.shape(), &Shadow::colour, colour.toLong());
+                    });
+        return table;
+    }
+};
+
 class ShadowFormat : public ShapePart<ShadowFormat> {
 public:
     using ShapePart::ShapePart;
     static const MemberTable<ShadowFormat>& members();
 
 private:
-    static Shadow plainShadow(double offsetPt) {
-        constexpr std::int32_t grey = 0x808080;
-        return {.isVisible = true, .offsetXPt = offsetPt, .offsetYPt = offsetPt, .colour = grey};
-    }
-    template <class Type>
-    static void change(DeckShape& shape, Type Shadow::*part, Type value) {
-        Shadow shadow = shape.shadow();
-        if (!shadow.isVisible) shadow = plainShadow(0);
-        shadow.*part = value;
-        shape.setShadow(shadow);
-    }
     void setVisible(const Value& on);
 };
 
@@ -175,19 +139,13 @@ const MemberTable<ShadowFormat>& ShadowFormat::members() {
         made.property(
                 "Visible", [](Self& self) { return triState(self.shape().shadow().isVisible); },
                 &Self::setVisible)
-            .property("ForeColor", [](Self& self) {
-                return self.other<ColorFormat>(
-                    [](DeckShape& shape) { return shape.shadow().colour; },
-                    [](DeckShape& shape, std::int32_t rgb) {
-                        change(shape, &Shadow::colour, rgb);
-                    });
-            });
+            .property("ForeColor", [](Self& self) { return self.other<ShadowColor>(); });
         const auto number = [&](const char* name, double Shadow::*part, double lowest) {
             made.property(
                 name, [part](Self& self) { return self.shape().shadow().*part; },
                 [part, lowest](Self& self, const Value& value) {
-                    change(self.shape(), part,
-                           numberWithin(lowest, furthestPt, value, "ShadowFormat"));
+                    changeShadow(self.shape(), part,
+                                 numberWithin(lowest, furthestPt, value, "ShadowFormat"));
                 });
         };
         number("Blur", &Shadow::blurPt, 0);

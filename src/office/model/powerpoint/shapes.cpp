@@ -51,109 +51,77 @@ Outline outlineOf(const Value& number, const std::string& source) {
     return wanted;
 }
 
-/// The members that a shape and a range of shapes have in common: each reads the first shape and
-/// writes all of them. A part of a shape is had of one shape only.
-template <class Self>
-class ShapeMembers : public DeckObject<Self> {
+class Shape : public DeckObject<Shape> {
 public:
-    ShapeMembers(const InDeck& home, std::vector<DeckShapePtr> shapes)
-        : DeckObject<Self>(home, shapes.front()),
-          shapes_(std::move(shapes)) {}
-
-    [[nodiscard]] const std::vector<DeckShapePtr>& shapes() const { return shapes_; }
-    static MemberTable<Self> table(const char* className);
+    Shape(const InDeck& home, const DeckShapePtr& shape) : DeckObject(home, shape), shape_(shape) {}
+    static const MemberTable<Shape>& members();
 
 private:
     template <class Read>
     static auto reads(Read read) {
-        return [read](Self& self) { return std::invoke(read, *self.shapes().front()); };
+        return [read](Shape& self) { return std::invoke(read, *self.shape_); };
     }
     /// `change` takes a shape and the value.
     template <class Change>
     static auto writes(Change change) {
-        return [change](Self& self, const Value& value) {
-            for (const auto& shape : self.shapes()) change(*shape, value);
-        };
+        return [change](Shape& self, const Value& value) { change(*self.shape_, value); };
     }
     static auto part(Object (*make)(const InDeck&, const DeckShapePtr&)) {
-        return [make](Self& self, const CallArguments& arguments) {
-            if (self.shapes().size() != 1)
-                refuse(arguments.source(), "The range holds several shapes");
-            return make(self.home(), self.shapes().front());
+        return [make](Shape& self) { return make(self.home(), self.shape_); };
+    }
+
+    DeckShapePtr shape_;
+};
+
+const MemberTable<Shape>& Shape::members() {
+    static const auto all = [] {
+        MemberTable<Shape> table("Shape");
+        table
+            .property(
+                "Name", reads(&DeckShape::name),
+                writes([](DeckShape& shape, const Value& name) { shape.setName(name.toText()); }))
+            .property("AlternativeText", reads(&DeckShape::alternativeText),
+                      writes([](DeckShape& shape, const Value& text) {
+                          shape.setAlternativeText(text.toText());
+                      }))
+            .property("LockAspectRatio",
+                      reads([](DeckShape& shape) { return triState(shape.keepsProportions()); }),
+                      writes([](DeckShape& shape, const Value& on) {
+                          shape.setKeepsProportions(on.toBool());
+                      }))
+            .property("AutoShapeType", reads([](DeckShape& shape) {
+                          return static_cast<std::int32_t>(shape.outline());
+                      }),
+                      writes([](DeckShape& shape, const Value& number) {
+                          shape.setOutline(outlineOf(number, "Shape.AutoShapeType"));
+                      }))
+            .property("TextFrame", part(textFrameObject))
+            .property("Shadow", part(shadowObject))
+            .property("Reflection", part(reflectionObject))
+            .property("Adjustments", part(adjustmentsObject))
+            .method("Select", {}, [](Shape& self) { self.deck().window().select(self.shape_); });
+        const auto edge = [&](const std::string& name, double Point::*which) {
+            table.property(
+                name, reads([which](DeckShape& shape) { return shape.corner().*which; }),
+                writes([which, source = "Shape." + name](DeckShape& shape, const Value& to) {
+                    moveTo(shape, which, placePt(to, source));
+                }));
         };
-    }
-
-    std::vector<DeckShapePtr> shapes_;
-};
-
-template <class Self>
-MemberTable<Self> ShapeMembers<Self>::table(const char* className) {
-    MemberTable<Self> table(className);
-    table
-        .property("Name", reads(&DeckShape::name),
-                  writes([](DeckShape& shape, const Value& name) { shape.setName(name.toText()); }))
-        .property("AlternativeText", reads(&DeckShape::alternativeText),
-                  writes([](DeckShape& shape, const Value& text) {
-                      shape.setAlternativeText(text.toText());
-                  }))
-        .property("LockAspectRatio",
-                  reads([](DeckShape& shape) { return triState(shape.keepsProportions()); }),
-                  writes([](DeckShape& shape, const Value& on) {
-                      shape.setKeepsProportions(on.toBool());
-                  }))
-        .property("AutoShapeType", reads([](DeckShape& shape) {
-                      return static_cast<std::int32_t>(shape.outline());
-                  }),
-                  writes([](DeckShape& shape, const Value& number) {
-                      shape.setOutline(outlineOf(number, "Shape.AutoShapeType"));
-                  }))
-        .property("TextFrame", {}, part(textFrameObject))
-        .property("Shadow", {}, part(shadowObject))
-        .property("Reflection", {}, part(reflectionObject))
-        .property("Adjustments", {}, part(adjustmentsObject))
-        .method("Select", {},
-                [](Self& self) { self.deck().window().select(self.shapes().front()); })
-        .method("Delete", {}, [](Self& self) {
-            for (const auto& shape : self.shapes()) shape->remove();
-        });
-    const auto edge = [&](const std::string& name, double Point::*which) {
-        table.property(name, reads([which](DeckShape& shape) { return shape.corner().*which; }),
-                       writes([which, source = "Shape." + name](DeckShape& shape, const Value& to) {
-                           moveTo(shape, which, placePt(to, source));
-                       }));
-    };
-    edge("Left", &Point::left);
-    edge("Top", &Point::top);
-    const auto side = [&](const std::string& name, double Size::*which) {
-        table.property(name, reads([which](DeckShape& shape) { return shape.size().*which; }),
-                       writes([which, source = "Shape." + name](DeckShape& shape, const Value& to) {
-                           resize(shape, which, lengthPt(to, source));
-                       }));
-    };
-    side("Width", &Size::width);
-    side("Height", &Size::height);
-    return table;
+        edge("Left", &Point::left);
+        edge("Top", &Point::top);
+        const auto side = [&](const std::string& name, double Size::*which) {
+            table.property(
+                name, reads([which](DeckShape& shape) { return shape.size().*which; }),
+                writes([which, source = "Shape." + name](DeckShape& shape, const Value& to) {
+                    resize(shape, which, lengthPt(to, source));
+                }));
+        };
+        side("Width", &Size::width);
+        side("Height", &Size::height);
+        return table;
+    }();
+    return all;
 }
-
-class Shape : public ShapeMembers<Shape> {
-public:
-    using ShapeMembers::ShapeMembers;
-    static const MemberTable<Shape>& members() {
-        static const auto all = table("Shape");
-        return all;
-    }
-};
-
-class ShapeRange : public ShapeMembers<ShapeRange> {
-public:
-    using ShapeMembers::ShapeMembers;
-    static const MemberTable<ShapeRange>& members() {
-        static const auto all = table("ShapeRange").property("Count", [](ShapeRange& self) {
-            return countOf(self.shapes().size());
-        });
-        return all;
-    }
-};
 
 class Shapes : public DeckObject<Shapes> {
 public:
@@ -177,8 +145,6 @@ const MemberTable<Shapes>& Shapes::members() {
         MemberTable<Self>("Shapes")
             .property("Count", [](Self& self) { return self.slide_.shapeCount(); })
             .property("Item", {"Index"}, &Self::item)
-            .property("HasTitle",
-                      [](Self& self) { return triState(self.slide_.titleShape() != nullptr); })
             .property("Title", {}, &Self::title)
             .method(
                 "AddPicture",
@@ -188,26 +154,17 @@ const MemberTable<Shapes>& Shapes::members() {
             .method("PasteSpecial",
                     {"DataType", "DisplayAsIcon", "IconFileName", "IconIndex", "IconLabel", "Link"},
                     [](Self& self, const CallArguments& arguments) {
-                        return shapeRangeObject(
-                            self.home(), {pasteSpecial(self.deck(), self.slide_, arguments)});
+                        return shapeObject(self.home(),
+                                           pasteSpecial(self.deck(), self.slide_, arguments));
                     });
     return table;
 }
 
 Object Shapes::item(const CallArguments& arguments) {
-    const ItemIndex index(arguments.at(0), arguments.source());
-    if (!index.isName()) {
-        if (auto shape = slide_.shapeAt(arguments.at(0).toLong()))
-            return shapeObject(home(), shape);
-        index.fail();
-    }
-    const std::int32_t count = slide_.shapeCount();
-    for (std::int32_t place = 1; place <= count; ++place) {
-        auto shape = slide_.shapeAt(place);
-        if (shape && sameIgnoringCase(shape->name(), index.name()))
-            return shapeObject(home(), shape);
-    }
-    index.fail();
+    const std::int32_t place = arguments.at(0).toLong();
+    const auto shape = slide_.shapeAt(place);
+    if (!shape) ItemIndex(place, arguments.source()).fail();
+    return shapeObject(home(), shape);
 }
 
 Object Shapes::title(const CallArguments& arguments) {
@@ -259,11 +216,7 @@ Object shapesObject(const InDeck& home, const DeckSlidePtr& slide) {
 }
 
 Object shapeObject(const InDeck& home, const DeckShapePtr& shape) {
-    return makeObject<Shape>(home, std::vector{shape});
-}
-
-Object shapeRangeObject(const InDeck& home, std::vector<DeckShapePtr> shapes) {
-    return makeObject<ShapeRange>(home, std::move(shapes));
+    return makeObject<Shape>(home, shape);
 }
 
 }  // namespace office::model::powerpoint

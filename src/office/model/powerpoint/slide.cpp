@@ -54,51 +54,29 @@ Object Slides::add(const CallArguments& arguments) {
     return slideObject(home(), slide);
 }
 
-/// The members that a slide and a range of one slide have in common.
-template <class Self>
-class SlideMembers : public DeckObject<Self> {
+class Slide : public DeckObject<Slide> {
 public:
-    SlideMembers(const InDeck& home, const DeckSlidePtr& slide)
-        : DeckObject<Self>(home, slide),
-          slide_(slide) {}
+    Slide(const InDeck& home, const DeckSlidePtr& slide) : DeckObject(home, slide), slide_(slide) {}
 
-    [[nodiscard]] const DeckSlidePtr& slide() const { return slide_; }
-
-    static MemberTable<Self> table(const char* className) {
-        const auto place = [](Self& self) { return self.slide()->place(); };
-        return MemberTable<Self>(className)
-            .property("SlideIndex", place)
-            .property("SlideNumber", place)
-            .property(
-                "Layout", [](Self& self) { return self.slide()->layout(); },
-                [](Self& self, const Value& number) {
-                    self.slide()->setLayout(knownLayout(number, "Slide.Layout"));
-                })
-            .property("Shapes", [](Self& self) { return shapesObject(self.home(), self.slide()); })
-            .method("Select", {}, [](Self& self) { self.deck().window().show(self.slide()); })
-            .method("Delete", {}, [](Self& self) { self.slide()->remove(); });
+    static const MemberTable<Slide>& members() {
+        using Self = Slide;
+        static const auto table =
+            MemberTable<Self>("Slide")
+                .property("SlideIndex", [](Self& self) { return self.slide_->place(); })
+                .property(
+                    "Layout", [](Self& self) { return self.slide_->layout(); },
+                    [](Self& self, const Value& number) {
+                        self.slide_->setLayout(knownLayout(number, "Slide.Layout"));
+                    })
+                .property("Shapes",
+                          [](Self& self) { return shapesObject(self.home(), self.slide_); })
+                .method("Select", {}, [](Self& self) { self.deck().window().show(self.slide_); })
+                .method("Delete", {}, [](Self& self) { self.slide_->remove(); });
+        return table;
     }
 
 private:
     DeckSlidePtr slide_;
-};
-
-class Slide : public SlideMembers<Slide> {
-public:
-    using SlideMembers::SlideMembers;
-    static const MemberTable<Slide>& members() {
-        static const auto all = table("Slide");
-        return all;
-    }
-};
-
-class SlideRange : public SlideMembers<SlideRange> {
-public:
-    using SlideMembers::SlideMembers;
-    static const MemberTable<SlideRange>& members() {
-        static const auto all = table("SlideRange");
-        return all;
-    }
 };
 
 }  // namespace
@@ -115,10 +93,6 @@ Object slidesObject(const InDeck& home) {
 
 Object slideObject(const InDeck& home, const DeckSlidePtr& slide) {
     return makeObject<Slide>(home, slide);
-}
-
-Object slideRangeObject(const InDeck& home, const DeckSlidePtr& slide) {
-    return makeObject<SlideRange>(home, slide);
 }
 
 }  // namespace office::model::powerpoint

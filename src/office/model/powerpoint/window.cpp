@@ -43,7 +43,7 @@ public:
     }
 };
 
-/// What is selected in a window: shapes, or else the slide in view.
+/// What is selected in a window, as far as it is asked for: the slide in view.
 class Selection : public DeckObject<Selection> {
 public:
     using DeckObject::DeckObject;
@@ -54,15 +54,8 @@ public:
             MemberTable<Self>("Selection")
                 .property("SlideRange", {},
                           [](Self& self, const CallArguments& arguments) {
-                              return slideRangeObject(self.home(),
-                                                      slideInView(self.deck(), arguments.source()));
-                          })
-                .property("ShapeRange", {},
-                          [](Self& self, const CallArguments& arguments) {
-                              auto shapes = self.deck().window().selectedShapes();
-                              if (shapes.empty())
-                                  refuse(arguments.source(), "No shape is selected");
-                              return shapeRangeObject(self.home(), std::move(shapes));
+                              return slideObject(self.home(),
+                                                 slideInView(self.deck(), arguments.source()));
                           })
                 .method("Unselect", {}, [](Self& self) { self.deck().window().unselect(); });
         return table;

@@ -306,19 +306,11 @@ model::DeckSlidePtr FileDeck::slideInView() {
 }
 
 void FileDeck::show(const model::DeckSlidePtr& slide) {
-    unselect();
     inView_ = std::dynamic_pointer_cast<FileSlide>(slide);
-}
-
-std::vector<model::DeckShapePtr> FileDeck::selectedShapes() {
-    const auto shape = selected_.lock();
-    if (!shape || shape->isGone()) return {};
-    return {shape};
 }
 
 void FileDeck::select(const model::DeckShapePtr& shape) {
     show(std::dynamic_pointer_cast<FileShape>(shape)->slide().shared_from_this());
-    selected_ = shape;
 }
 
 }  // namespace office::package

@@ -16,7 +16,7 @@
 
 namespace office::package {
 
-/// A presentation in a package. Its window remembers what it shows and what is selected in it.
+/// A presentation in a package. Its window remembers what it shows.
 class FileDeck : public model::Deck,
                  private model::DeckWindow,
                  public std::enable_shared_from_this<FileDeck> {
@@ -64,9 +64,8 @@ private:
     void setViewType(std::int32_t viewType) override;
     model::DeckSlidePtr slideInView() override;
     void show(const model::DeckSlidePtr& slide) override;
-    std::vector<model::DeckShapePtr> selectedShapes() override;
     void select(const model::DeckShapePtr& shape) override;
-    void unselect() override { selected_.reset(); }
+    void unselect() override {}
 
     void readSlides();
     void listSlide(std::int32_t place, const std::string& relationshipId, const std::string& id);
@@ -88,7 +87,6 @@ private:
     std::set<unsigned> slideIds_;
     std::int32_t viewType_ = 9;
     std::weak_ptr<FileSlide> inView_;
-    std::weak_ptr<model::DeckShape> selected_;
     std::function<void(FileDeck&)> closed_;
     std::function<void(FileDeck&)> activated_;
     /// Whether the list of slides is another than it was.

@@ -194,8 +194,4 @@ pugi::xml_node FileShape::looks(std::string_view member) {
     return found;
 }
 
-void FileShape::remove() {
-    slide_.removeShape(*this);
-}
-
 }  // namespace office::package

@@ -54,7 +54,6 @@ public:
     model::Reflection reflection() override;
     void setReflection(const model::Reflection& reflection) override;
     model::ShapeText* textFrame() override;
-    void remove() override;
 
 private:
     std::string words() override;
