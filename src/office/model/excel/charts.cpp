@@ -119,6 +119,9 @@ public:
         using Self = Chart;
         static const auto table =
             MemberTable<Self>("Chart")
+                .property(
+                    "Parent",
+                    [](Self& self) { return chartObjectObject(self.home(), self.chartPtr()); })
                 .property("ChartArea",
                           [](Self& self) { return chartAreaObject(self.home(), self.chartPtr()); })
                 .method("Export", {"Filename", "FilterName", "Interactive"},
