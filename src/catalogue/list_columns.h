@@ -38,7 +38,8 @@ inline constexpr std::array<ListColumn, 8> listColumns = {{
     {"Name&Sheet", "", 0, forms::Alignment::Left},
 }};
 
-/// What an item has in a column, from 1. Empty for a column that never shows.
+/// What an item has in a column, from 1; of those that never show, only column 7 is sorted by and
+/// has anything.
 [[nodiscard]] const std::string& cellText(const ExportItem& item, std::size_t column);
 
 /// The widths of the columns in a list of this width, all in twips. Column 3 shows only where

@@ -52,9 +52,8 @@ public:
     /// Null while there is no window.
     BrowserView* view = nullptr;
     /// The folder whose pictures and style sheets pages may show; empty: none. Nothing else is
-    /// loaded but the page itself, from nowhere.
+    /// loaded but the page itself, from nowhere, and no dialog of a page or a certificate appears.
     std::string resourceFolder;
-    /// No dialog of a page or a certificate ever appears.
 
     /// Asked before a link is followed: true cancels it.
     std::function<bool(std::string_view url)> onBeforeNavigate;

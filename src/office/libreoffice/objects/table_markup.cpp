@@ -18,8 +18,9 @@ using office::CellLine;
 using office::CellLook;
 using office::TableLook;
 
-/// Between a cell's border and its text, as Excel draws it.
-constexpr double paddingPt = 2;
+/// Between a cell's border and its text, as Calc draws it; what is said of fitting texts goes by
+/// it.
+constexpr double paddingPt = 1;
 
 std::string points(double length) {
     return fmt::format("{:.3f}pt", length);
