@@ -2,7 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <functional>
 #include <set>
 
 #include "destinations/row_picture.h"
@@ -36,14 +35,10 @@ std::string_view extensionOf(ImageFormat format) {
 /// The names of one run's files.
 class Names {
 public:
-    using IsTaken = std::function<bool(const std::string& path)>;
-
-    Names(OfficeSession& session, const ImageFileOptions& options, IsTaken isTaken)
-        : options_(options),
-          isTaken_(std::move(isTaken)),
-          folder_(options.folder.empty() ? defaultImageFolder(session) : options.folder) {}
-
-    [[nodiscard]] const std::string& folder() const { return folder_; }
+    Names(OfficeSession& session, const ImageFileOptions& options, bool replaces)
+        : host_(session.host),
+          options_(options),
+          replaces_(replaces) {}
 
     /// `index` is the row's, from 0.
     std::string pathFor(const ExportItem& row, std::size_t index) {
@@ -63,15 +58,19 @@ public:
 
 private:
     [[nodiscard]] std::string pathOf(const std::string& name) const {
-        return fmt::format("{}/{}{}", folder_, name, extensionOf(options_.format));
+        return fmt::format("{}/{}{}", options_.folder, name, extensionOf(options_.format));
     }
     [[nodiscard]] bool isUsed(const std::string& path) const {
-        return used_.contains(office::lowerCase(path)) || isTaken_(path);
+        return used_.contains(office::lowerCase(path)) || isTaken(path);
+    }
+    /// A folder never gives way to a picture.
+    [[nodiscard]] bool isTaken(const std::string& path) const {
+        return host_.pathExists(path) && !(replaces_ && host_.fileExists(path));
     }
 
+    session::Host& host_;
     const ImageFileOptions& options_;
-    IsTaken isTaken_;
-    std::string folder_;
+    bool replaces_;
     std::set<std::string> used_;
 };
 
@@ -84,7 +83,7 @@ std::string defaultImageFolder(OfficeSession& session) {
 std::vector<std::string> plannedImageFiles(OfficeSession& session,
                                            const catalogue::ExportList& list,
                                            const ImageFileOptions& options) {
-    Names names(session, options, [](const std::string&) { return false; });
+    Names names(session, options, true);
     std::vector<std::string> files;
     for (const catalogue::TakenRow& taken : catalogue::takeRows(session, list, {}))
         files.push_back(names.pathFor(list.rows[taken.index], taken.index));
@@ -93,10 +92,8 @@ std::vector<std::string> plannedImageFiles(OfficeSession& session,
 
 WalkResult ExportRowsToImageFiles(RowBatch& batch, const ImageFileOptions& options) {
     OfficeSession& session = batch.session;
-    Names names(session, options, [&](const std::string& path) {
-        return !options.replaces && session.host.pathExists(path);
-    });
-    session.host.makeFolder(names.folder());
+    Names names(session, options, options.replaces);
+    session.host.makeFolder(options.folder);
     const WalkResult result =
         walkRowsAhead(batch, [&](const catalogue::TakenRow& taken, const ExportItem& row) {
             const std::string path = names.pathFor(row, taken.index);

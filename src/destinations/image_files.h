@@ -16,7 +16,7 @@ enum class FileNames { NameAndSheet, Numerator };
 struct ImageFileOptions {
     session::ImageFormat format = session::ImageFormat::Png;
     FileNames names = FileNames::NameAndSheet;
-    /// Empty: `defaultImageFolder`. It is made if need be.
+    /// It is made if need be.
     std::string folder = {};
     /// Whether files that are in the folder already give way; otherwise the new ones get names that
     /// are free. Two items of one run never share a file.
@@ -26,7 +26,7 @@ struct ImageFileOptions {
 /// "MurvaneImages" in the user's home.
 [[nodiscard]] std::string defaultImageFolder(session::OfficeSession& session);
 
-/// The files that an export would write, with all names as if the folder were empty.
+/// The files that an export which replaces others would write.
 [[nodiscard]] std::vector<std::string> plannedImageFiles(session::OfficeSession& session,
                                                          const catalogue::ExportList& list,
                                                          const ImageFileOptions& options);

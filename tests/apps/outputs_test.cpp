@@ -181,6 +181,26 @@ TEST_F(OutputsTest, AFolderComesIntoBeingOrTakesInWhatWasMade) {
     EXPECT_NE(modeOf("new") & 0100U, 0U);
 }
 
+TEST_F(OutputsTest, AFolderWhereAFileShouldBeKeepsAllAsItWas) {
+    namespace fs = std::filesystem;
+    fs::create_directories(folder.path() / "site/pictures");
+    folder.write("site/pictures/1.png", "old");
+    for (const char* page : {"a.html", "c.html"}) folder.write(std::string("site/") + page, "old");
+    fs::create_directory(folder.path() / "site/b.html");
+    const auto output = outputAt("site", overwrite, Destination::Html);
+    fs::create_directory(output->neighbour() / "pictures");
+    for (const char* made : {"a.html", "b.html", "c.html", "pictures/2.png"})
+        std::ofstream(output->neighbour() / made) << "new";
+    EXPECT_THROW(output->commit(), RunError);
+    EXPECT_EQ(folder.read("site/a.html") + folder.read("site/c.html"), "oldold");
+    EXPECT_EQ(folder.read("site/pictures/1.png"), "old");
+    fs::remove(folder.path() / "site/b.html");
+    output->commit();
+    EXPECT_EQ(folder.read("site/a.html") + folder.read("site/c.html"), "newnew");
+    EXPECT_FALSE(fs::exists(folder.path() / "site/pictures/1.png"));
+    EXPECT_EQ(folder.names(), Names{"site"});
+}
+
 TEST_F(OutputsTest, AnInputIsNeverWrittenOver) {
     const std::string deck = folder.write("deck.pptx", "x");
     std::filesystem::create_hard_link(deck, folder.path() / "same.pptx");

@@ -30,7 +30,7 @@ public:
     [[nodiscard]] const std::filesystem::path& neighbour();
 
     /// `RunError` if nothing was written to the neighbour, or if the name was taken meanwhile and
-    /// may not be.
+    /// may not be; what is there is left alone then.
     virtual void commit() = 0;
 
 protected:
@@ -40,6 +40,8 @@ protected:
     [[nodiscard]] bool overwrites() const { return overwrites_; }
     [[noreturn]] void refuse(const std::string& why) const;
     [[noreturn]] void failWithoutContent() const;
+    /// For a name that was free when the run began.
+    [[noreturn]] static void failForAnother(const std::filesystem::path& there);
     virtual void makeNeighbour(const std::filesystem::path& folder) = 0;
     void setNeighbour(std::filesystem::path neighbour) { neighbour_ = std::move(neighbour); }
     [[nodiscard]] bool hasNeighbour() const { return !neighbour_.empty(); }

@@ -76,6 +76,11 @@ public:
 
 protected:
     void makeNeighbour(const fs::path& folder) override;
+
+private:
+    [[nodiscard]] std::vector<fs::path> made();
+    void requireRoomFor(const fs::path& path) const;
+    void takeIn(const fs::path& path);
 };
 
 std::string listed(const std::vector<std::string>& endings) {
@@ -129,22 +134,59 @@ void OutputFolder::makeNeighbour(const fs::path& folder) {
     setNeighbour(made);
 }
 
-/// A folder that is there takes the files in, one after the other; they are complete.
+/// A folder that is there takes in what was made, which is complete, one after the other. What
+/// would be in the way is found out ahead of the first.
 void OutputFolder::commit() {
     std::error_code ignored;
     if (!hasNeighbour() || fs::is_empty(neighbour(), ignored)) failWithoutContent();
     if (!fs::exists(file(), ignored)) {
         takeName(neighbour(), file());
     } else {
-        std::vector<fs::path> made;
-        for (const auto& entry : fs::directory_iterator(neighbour())) made.push_back(entry.path());
-        for (const fs::path& path : made) {
-            const fs::path to = file() / path.filename();
-            if (overwrites() && fs::is_directory(path, ignored)) fs::remove_all(to, ignored);
-            takeName(path, to);
-        }
+        const std::vector<fs::path> all = made();
+        for (const fs::path& path : all) requireRoomFor(path);
+        for (const fs::path& path : all) takeIn(path);
     }
     removeNeighbour();
+}
+
+/// Folders first: a page comes when its pictures are there.
+std::vector<fs::path> OutputFolder::made() {
+    std::vector<fs::path> all;
+    for (const auto& entry : fs::directory_iterator(neighbour())) all.push_back(entry.path());
+    std::partition(all.begin(), all.end(), [](const fs::path& path) {
+        std::error_code ignored;
+        return fs::is_directory(path, ignored);
+    });
+    return all;
+}
+
+void OutputFolder::requireRoomFor(const fs::path& path) const {
+    const fs::path to = file() / path.filename();
+    std::error_code ignored;
+    const fs::file_status there = fs::symlink_status(to, ignored);
+    if (!fs::exists(there)) return;
+    if (!overwrites()) failForAnother(to);
+    if (fs::is_directory(there) && !fs::is_directory(path, ignored))
+        throw RunError(fmt::format(
+            "{} is a folder where a file is to be written; nothing was replaced. Move it "
+            "elsewhere, or choose another output.",
+            apps::utf8Of(to)));
+}
+
+/// A folder takes another's place, which comes back if it can't.
+void OutputFolder::takeIn(const fs::path& path) {
+    const fs::path to = file() / path.filename();
+    const fs::path aside = neighbour().parent_path() / "replaced";
+    std::error_code ignored;
+    std::error_code staysThere = std::make_error_code(std::errc::no_such_file_or_directory);
+    if (overwrites() && fs::is_directory(path, ignored)) fs::rename(to, aside, staysThere);
+    try {
+        takeName(path, to);
+    } catch (const RunError&) {
+        if (!staysThere) fs::rename(aside, to, ignored);
+        throw;
+    }
+    if (!staysThere) fs::remove_all(aside, ignored);
 }
 
 }  // namespace
@@ -184,6 +226,11 @@ void Output::failWithoutContent() const {
     throw RunError(fmt::format("Nothing was written, so {} was not made.", apps::utf8Of(file_)));
 }
 
+void Output::failForAnother(const fs::path& there) {
+    throw RunError(fmt::format("{} was made by somebody else meanwhile and was left alone.",
+                               apps::utf8Of(there)));
+}
+
 void Output::requireOtherThan(const fs::path& input) const {
     std::error_code ignored;
     if (!fs::equivalent(file_, input, ignored)) return;
@@ -213,10 +260,7 @@ void Output::removeNeighbour() {
 void Output::takeName(const fs::path& from, const fs::path& to) const {
     adoptMode(from, to);
     const int error = apps::giveName(from.string(), to.string(), overwrites_);
-    if (error == EEXIST) {
-        throw RunError(fmt::format("{} was made by somebody else meanwhile and was left alone.",
-                                   apps::utf8Of(to)));
-    }
+    if (error == EEXIST) failForAnother(to);
     if (error != 0) {
         throw RunError(
             fmt::format("{} can't be written: {}.", apps::utf8Of(to), std::strerror(error)));
