@@ -95,8 +95,12 @@ office::Object requiredRange(session::OfficeSession& session, const ExportItem& 
     office::Object range = rangeOf(session, row);
     if (!range)
         throw office::Failure(office::FailureNumber::ApplicationDefined, "Range",
-                              fmt::format("Named range '{}' not found.", row.name));
+                              rangeNotFound(row));
     return range;
+}
+
+std::string rangeNotFound(const ExportItem& row) {
+    return fmt::format("Named range '{}' not found.", row.name);
 }
 
 }  // namespace catalogue

@@ -47,5 +47,7 @@ private:
 [[nodiscard]] office::Object rangeOf(session::OfficeSession& session, const ExportItem& row);
 /// The same where there has to be one: `Failure` 1004 otherwise.
 [[nodiscard]] office::Object requiredRange(session::OfficeSession& session, const ExportItem& row);
+/// What there is to say where it leads to none.
+[[nodiscard]] std::string rangeNotFound(const ExportItem& row);
 
 }  // namespace catalogue

@@ -98,7 +98,6 @@ void DialogHTML::readFields() {
 HtmlOptions DialogHTML::options() {
     constexpr double widestPx = 1000;
     constexpr double percent = 100;
-    constexpr double mostLines = 100;
     const SizeFactor factor = sizeFactorOf(txtAmount.text());
     if (SameWidthHTNL.isChecked() && !factor.isGood && !txtAmount.text().empty()) {
         if (factor.isNumber) {
@@ -110,7 +109,7 @@ HtmlOptions DialogHTML::options() {
     const double lines = std::trunc(office::leadingNumber(TextBox10.text()));
     return {.useTitles = Check3.isChecked(),
             .widthPx = factor.percent * widestPx / percent,
-            .skipLines = static_cast<std::int32_t>(std::clamp(lines, 0.0, mostLines)),
+            .skipLines = static_cast<std::int32_t>(std::clamp<double>(lines, 0, mostBlankLines)),
             .folder = defaultHtmlFolder(session())};
 }
 

@@ -17,7 +17,7 @@ std::string defaultHtmlFolder(OfficeSession& session) {
 
 HtmlFiles::HtmlFiles(OfficeSession& session, const HtmlOptions& options)
     : host_(session.host),
-      folder_(options.folder.empty() ? defaultHtmlFolder(session) : options.folder) {
+      folder_(options.folder) {
     constexpr int first = 101;
     constexpr int last = 999;
     host_.makeFolder(folder_);
@@ -62,7 +62,6 @@ std::string HtmlFiles::keep() {
 
 void AppendHtmlBlock(HtmlBody& body, double widthPx, std::int32_t skipLines,
                      std::string_view imagePath, std::string_view caption) {
-    constexpr std::int32_t mostLines = 100;
     if (!caption.empty() && body.useTitles) {
         body.text += fmt::format(
             "<div style='text-align: center;'><big><big><big>{}<br></big></big></big></div>"
@@ -74,7 +73,7 @@ void AppendHtmlBlock(HtmlBody& body, double widthPx, std::int32_t skipLines,
         "<div style='text-align: center;'> \n"
         "<img style='width:{}px; height:px;' alt='vfd'\nsrc={}></div>\n\n",
         widthPx, imagePath);
-    for (std::int32_t line = 0; line < std::min(mostLines, skipLines); ++line) body.text += "<br>";
+    for (std::int32_t line = 0; line < skipLines; ++line) body.text += "<br>";
 }
 
 void WriteHtmlFile(session::Host& host, const std::string& file, std::string_view text) {

@@ -13,11 +13,12 @@ struct HtmlOptions {
     bool useTitles = true;  ///< captions above the items
     /// Of each image in pixels, on a page of images.
     double widthPx = 700;
-    /// Between items: 0 to 100.
+    /// Between items: 0 to `mostBlankLines`.
     std::int32_t skipLines = 10;
-    /// Empty: `defaultHtmlFolder`. It is made if need be.
+    /// It is made if need be.
     std::string folder = {};
 };
+inline constexpr std::int32_t mostBlankLines = 100;
 
 /// "MurvaneHTML" in the user's home.
 [[nodiscard]] std::string defaultHtmlFolder(session::OfficeSession& session);

@@ -113,8 +113,7 @@ public:
         Object record = row.isChartSheet() ? publish(chartSource, row.sheet, ownChartOf(row), title)
                                            : publish(rangeSource, row.sheet, addressOf(row), title);
         ++published_;
-        constexpr std::int32_t mostLines = 100;
-        const std::int32_t lines = std::min(mostLines, options_.skipLines);
+        const std::int32_t lines = options_.skipLines;
         if (lines > 0 && blank_.isThere())
             end(publish(rangeSource, std::string(blank_.name), fmt::format("A1:A{}", lines), ""));
         return record;

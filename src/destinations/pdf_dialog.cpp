@@ -111,7 +111,6 @@ PdfOptions DialogPDF::options() {
     }
     return {.pageTitles = Check3.isChecked(),
             .includePath = Check1.isChecked(),
-            .openPdf = Check2.isChecked(),
             .coverPage = CoverT.isChecked(),
             .sizeFactor = factor.percent,
             .coverText = CoverText.text()};
@@ -134,7 +133,7 @@ void DialogPDF::MakeBlankDoc_Paste_ExportPdf_AndClose() {
         tellIfCancelled(session(), result.walk);
         failed.tell(session());
         // Events run until the PDF is open.
-        if (result.isMade && wanted.openPdf && !OpenPdfFile(session(), path))
+        if (result.isMade && Check2.isChecked() && !OpenPdfFile(session(), path))
             session::ShowWarningNotice(
                 session().notices,
                 fmt::format("PDF was created but couldn't be opened automatically:\r\n{}", path));

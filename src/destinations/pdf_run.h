@@ -10,7 +10,6 @@ namespace destinations {
 struct PdfOptions {
     bool pageTitles = true;    ///< captions as headings and bookmarks
     bool includePath = false;  ///< the workbook's path and name and the sheet at the foot
-    bool openPdf = true;
     bool coverPage = false;
     /// An item's size in per cent of the room that its page has, 1 to 100. Proportions stay.
     double sizeFactor = 70;

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "destinations/text_area.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
 #include "session/alerts_off.h"
@@ -217,9 +218,7 @@ void SelectionPaste::setSize(SourceKind kind) {
         kind == SourceKind::Range ? command_.rangeShapes : command_.chartShapes;
     if (collection.empty()) return;
     const Object shape = pastedShape(collection);
-    const Object page = selection_.get("PageSetup").toObject();
-    const double pageText = page.get("PageWidth").toDouble() - page.get("LeftMargin").toDouble() -
-                            page.get("RightMargin").toDouble();
+    const double pageText = textWidthOf(selection_.get("PageSetup"));
     const double ratio = shape.get("Height").toDouble() / shape.get("Width").toDouble();
     shape.put("Width", pageText);
     shape.put("Height", ratio * pageText);

@@ -1,13 +1,13 @@
 #include "destinations/word_batch.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <optional>
 #include <string_view>
 
 #include "catalogue/row_copies.h"
+#include "catalogue/row_objects.h"
 #include "catalogue/row_pictures.h"
+#include "destinations/text_area.h"
 #include "office/failure_patterns.h"
 #include "session/waits.h"
 
@@ -20,11 +20,6 @@ using catalogue::ExportItem;
 using office::arg;
 using office::Object;
 using session::OfficeSession;
-
-struct Sides {
-    double width = 0;
-    double height = 0;
-};
 
 /// One run: what every row needs is looked up once and held.
 class WordBatch {
@@ -98,7 +93,7 @@ void WordBatch::copy(const ExportItem& row) {
         file_ = catalogue::TemporaryPictureOf(session_, row);
         if (!catalogue::ExportRowPicture(session_, row, file_))
             throw office::Failure(office::FailureNumber::ApplicationDefined, "Range",
-                                  fmt::format("Named range '{}' not found.", row.name));
+                                  catalogue::rangeNotFound(row));
     } else if (format_ == ExportFormat::Pictures) {
         catalogue::CopyRowAsPicture(session_, row);
     } else {
@@ -180,10 +175,7 @@ void WordBatch::paste() {
 
 const Sides& WordBatch::textArea() {
     if (textArea_) return *textArea_;
-    const Object page = selection_.get("PageSetup").toObject();
-    const auto length = [&](std::string_view name) { return page.get(name).toDouble(); };
-    textArea_ = {length("PageWidth") - length("LeftMargin") - length("RightMargin"),
-                 length("PageHeight") - length("TopMargin") - length("BottomMargin")};
+    textArea_ = textAreaOf(selection_.get("PageSetup"));
     return *textArea_;
 }
 

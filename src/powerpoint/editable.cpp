@@ -4,6 +4,7 @@
 
 #include "catalogue/export_run.h"
 #include "catalogue/row_copies.h"
+#include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
 #include "powerpoint/pasted_shape.h"
 
@@ -44,8 +45,7 @@ bool PasteEmbeddedChartEditable(OfficeSession& session, const ExportItem& row,
 
 bool PasteRangeEditable(OfficeSession& session, const ExportItem& row, const Object& slide) {
     if (!catalogue::TryCopyRow(session, row, catalogue::CopyPause::None)) {
-        session::ShowWarningNotice(session.notices,
-                                   fmt::format("Named range '{}' not found.", row.name));
+        session::ShowWarningNotice(session.notices, catalogue::rangeNotFound(row));
         return false;
     }
     slide.call("Select");

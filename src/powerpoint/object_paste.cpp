@@ -5,6 +5,7 @@
 #include <string>
 
 #include "catalogue/export_run.h"
+#include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
 #include "powerpoint/pasted_shape.h"
 #include "session/powerpoint_session.h"
@@ -33,7 +34,7 @@ RowTexts textsOf(const ExportItem& row, const ObjectRoute& route) {
     if (row.isEmbeddedChart())
         return {fmt::format("Chart '{}' was not found on sheet '{}'.", row.name, row.sheet),
                 fmt::format("Could not paste embedded chart '{}' {}", row.name, route.chartTarget)};
-    return {fmt::format("Named range '{}' not found.", row.name),
+    return {catalogue::rangeNotFound(row),
             fmt::format("Could not paste '{}' {}", row.name, route.rangeTarget)};
 }
 

@@ -13,13 +13,17 @@ constexpr const char* pagesFolder = "MurvaneHTML";
 
 class Html : public FilesStage {
 protected:
-    HtmlResult publish(const HtmlOptions& options = {}) {
+    HtmlResult publish(HtmlOptions options = {}) {
         auto all = batch();
-        return destinations::PublishRowsToHtml(all, options);
+        return destinations::PublishRowsToHtml(all, withFolder(options));
     }
-    HtmlResult exportImages(const HtmlOptions& options = {}) {
+    HtmlResult exportImages(HtmlOptions options = {}) {
         auto all = batch();
-        return destinations::ExportRowsToHtmlAsImages(all, options);
+        return destinations::ExportRowsToHtmlAsImages(all, withFolder(options));
+    }
+    HtmlOptions& withFolder(HtmlOptions& options) {
+        if (options.folder.empty()) options.folder = destinations::defaultHtmlFolder(session);
+        return options;
     }
     [[nodiscard]] std::string page(const HtmlResult& result) const {
         return host.home.read(std::filesystem::relative(result.file, host.home.path()).string());
@@ -37,7 +41,7 @@ TEST(HtmlBlocks, AreWrittenToTheLetter) {
     destinations::AppendHtmlBlock(body, 700, 2, "HTML101/Temp1.png", "<i>2026</i>");
     destinations::AppendHtmlBlock(body, 52.5, 0, "a.png", "");
     body.useTitles = false;
-    destinations::AppendHtmlBlock(body, 700, 500, "b.png", "unseen");
+    destinations::AppendHtmlBlock(body, 700, 100, "b.png", "unseen");
     std::string expected =
         "<div style='text-align: center;'><big><big><big><i>2026</i><br></big></big></big></div>"
         "<br><br><div style='text-align: center;'> \n<img style='width:700px; height:px;' "

@@ -126,7 +126,6 @@ public:
             destinations::ExportRowsToPdf(batch,
                                           {.pageTitles = options.titles.value_or(true),
                                            .includePath = options.source,
-                                           .openPdf = false,
                                            .coverPage = !options.coverText.empty(),
                                            .sizeFactor = options.sizePercent,
                                            .coverText = options.coverText},

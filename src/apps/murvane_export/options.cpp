@@ -11,6 +11,7 @@
 
 #include "apps/murvane_export/errors.h"
 #include "apps/version.h"
+#include "destinations/html_page.h"
 #include "office/text.h"
 #include "powerpoint/picture_styles.h"
 
@@ -210,7 +211,7 @@ void declareLooks(CLI::App& app, Options& options, RawTexts& raw) {
         ->check(CLI::Range(1.0, 100.0).description(""))
         ->type_name("1-100");
     app.add_option("--blank-lines", options.blankLines, "HTML: lines between items")
-        ->check(CLI::Range(0, 100).description(""))
+        ->check(CLI::Range(0, destinations::mostBlankLines).description(""))
         ->type_name("0-100");
     app.add_option("--image-format", raw.imageFormat, "Images: the kind of files")
         ->check(oneOf(namesOf(imageFormatsByName())))

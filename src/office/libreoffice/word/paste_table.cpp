@@ -70,9 +70,7 @@ void removeEmptyParagraphAhead(const uno::Reference<css::text::XTextCursor>& tab
 
 /// What is built by calls takes seconds; what is read like a file, some milliseconds.
 void WriterDocument::insertTable(const CursorRef& place, const office::TableLook& table) {
-    const model::Page paper = page();
-    const double room = paper.width - paper.leftMargin - paper.rightMargin;
-    const double scale = std::min(1.0, room / table.widthPt());
+    const double scale = std::min(1.0, page().textWidth() / table.widthPt());
     const auto package = packageOf(desk_.connection(), objects::tableText(table, scale));
     const std::int32_t before = tableCount();
     const auto start = place->getStart();

@@ -21,6 +21,8 @@ struct Page {
     double rightMargin = 0;
     double topMargin = 0;
     double bottomMargin = 0;
+
+    [[nodiscard]] double textWidth() const { return width - leftMargin - rightMargin; }
 };
 
 enum class Alignment : std::int32_t { Left = 0, Centre = 1, Right = 2, Justified = 3 };

@@ -96,10 +96,9 @@ void pasteInto(FileDocument& document, const Copied& copied, PasteAs as,
         return pasteObject(document, copied, as, anchoring);
     if (isCells && as == PasteAs::Default) {
         const TableLook look = copied.table();
-        const word::Page page = document.page();
         if (look.columnWidthsPt.size() <= mostTableColumns)
-            return document.insertTable(wordTable(
-                look, page.width - page.leftMargin - page.rightMargin, document.rules().measure));
+            return document.insertTable(
+                wordTable(look, document.page().textWidth(), document.rules().measure));
     } else if (isChart && (as == PasteAs::Default || as == PasteAs::Linked)) {
         if (pasteChart(document, copied, as, anchoring)) return;
     } else if (as == PasteAs::Linked) {
