@@ -7,7 +7,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
@@ -187,16 +186,6 @@ std::string PosixHost::readFile(std::string_view path) {
                       "File can't be read: " + std::string(path));
     }
     return bytes;
-}
-
-std::vector<std::string> PosixHost::fileNames(std::string_view folder) {
-    std::vector<std::string> names;
-    std::error_code ignored;
-    for (const auto& entry : fs::directory_iterator(fs::path(folder), ignored)) {
-        if (entry.is_regular_file(ignored)) names.push_back(entry.path().filename().string());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
 }
 
 std::string PosixHost::helpFolder() {

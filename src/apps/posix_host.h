@@ -29,7 +29,6 @@ public:
     void deleteFile(std::string_view path) override;
     [[nodiscard]] bool fileExists(std::string_view path) override;
     [[nodiscard]] std::string readFile(std::string_view path) override;
-    [[nodiscard]] std::vector<std::string> fileNames(std::string_view folder) override;
     /// Beside the program, or in the share folder of the place that it is installed in.
     [[nodiscard]] std::string helpFolder() override;
     [[nodiscard]] bool fileIsHeld(std::string_view path) override;

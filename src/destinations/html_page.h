@@ -27,8 +27,8 @@ inline constexpr std::int32_t mostBlankLines = 100;
 /// goes with this object, and nothing of an export that failed is left.
 class HtmlFiles {
 public:
-    /// Takes the first number whose names are free, and makes the folders. `office::Failure` 75 if
-    /// they can't be made or all numbers are taken.
+    /// Takes the first number whose names are free, and makes the folder with the draft in it.
+    /// `office::Failure` 75 if they can't be made or all numbers are taken.
     HtmlFiles(session::OfficeSession& session, const HtmlOptions& options);
     ~HtmlFiles();
     HtmlFiles(const HtmlFiles&) = delete;

@@ -24,9 +24,9 @@ struct CopySource {
     std::string address;
 };
 
-/// What was copied in Excel last. PowerPoint's back end says what a paste of it makes: from here it
-/// can be had as a picture and, of cells, as a table; what else a paste wants it fetches from the
-/// source itself.
+/// What was copied in Excel last. The back ends of PowerPoint and Word say what a paste of it makes:
+/// from here it can be had as a picture and, of cells, as a table; what else a paste wants they
+/// fetch from the source itself.
 class Copied {
 public:
     explicit Copied(CopySource source) : source_(std::move(source)) {}
@@ -65,8 +65,9 @@ using ClipboardPtr = std::shared_ptr<Clipboard>;
 
 /// What a paste is to make of it.
 enum class PasteAs {
-    /// A chart or a table that can be edited in the presentation; of a picture, a picture.
+    /// A chart or a table that can be edited where it is pasted; of a picture, a picture.
     Default,
+    /// A picture, asked of PowerPoint alone.
     Metafile,
     Png,
     /// An object that opens as a workbook of its own.

@@ -52,13 +52,13 @@ public:
 
     virtual void clearClipboard() = 0;
     virtual ClipboardPicture clipboardPicture(ClipboardPicture::Kind kind) = 0;
-    /// Where its Excel leaves what was copied, for a PowerPoint that stands elsewhere.
+    /// Where its Excel leaves what was copied, for a PowerPoint or a Word that stands elsewhere.
     virtual ClipboardPtr clipboard() = 0;
     /// The picture files of its Excel that may still be on their way; null if all are whole as soon
     /// as it says so.
     virtual PictureFilesPtr pictureFiles() { return nullptr; }
     /// What the user should know before items are pasted in this form into the active document of
-    /// an application ("PowerPoint.Application"), a line each.
+    /// an application ("Word.Application"), a line each.
     virtual std::vector<std::string> remarksOn(std::string_view /*className*/, PasteAs,
                                                const std::vector<PasteItem>&) {
         return {};

@@ -95,15 +95,6 @@ bool Help::HelpFileExists(std::string_view file) {
     return host_.fileExists(pathOf(file));
 }
 
-std::string Help::GetAvailableHelpFiles() {
-    std::string joined;
-    for (const std::string& name : host_.fileNames(host_.helpFolder())) {
-        if (!name.starts_with("help_") || !name.ends_with(".html")) continue;
-        joined += (joined.empty() ? "" : "\r\n") + name;
-    }
-    return joined;
-}
-
 void Help::ShowHelp(std::string_view file) {
     if (!HelpFileExists(file)) {
         host_.messageBox(fmt::format("Help file not found: {}", file), "Error");

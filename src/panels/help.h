@@ -28,8 +28,6 @@ public:
     void ShowHelpFor(const forms::Form& form);
 
     [[nodiscard]] bool HelpFileExists(std::string_view file);
-    /// The names of the pages "help_*.html" of the help folder, joined by CR LF.
-    [[nodiscard]] std::string GetAvailableHelpFiles();
 
 private:
     [[nodiscard]] std::string pathOf(std::string_view file);

@@ -70,8 +70,6 @@ public:
 
     /// The bytes of a file. `office::Failure` 53 if there is no such file, 75 if it can't be read.
     [[nodiscard]] virtual std::string readFile(std::string_view path) = 0;
-    /// The names of the files in a folder, sorted; none where the folder can't be read.
-    [[nodiscard]] virtual std::vector<std::string> fileNames(std::string_view folder) = 0;
     /// The folder of the pages of help that come with the program, without a separator at its end.
     [[nodiscard]] virtual std::string helpFolder() = 0;
 

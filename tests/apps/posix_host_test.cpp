@@ -46,14 +46,12 @@ TEST_F(PosixHostTest, TemporaryFilesStandInAFolderForThisUserAloneThatGoesWithTh
     EXPECT_EQ(folder.names(), std::set<std::string>{});
 }
 
-TEST_F(PosixHostTest, FilesAreReadWholeAndNamedInOrder) {
+TEST_F(PosixHostTest, FilesAreReadWhole) {
     for (const char* name : {"b.html", "a.html"}) {
         std::ofstream(folder.path() / name, std::ios::binary) << "x\r\n" << std::string(1, '\0');
     }
     std::filesystem::create_directory(folder.path() / "c.html");
     const std::string path = folder.path().string();
-    EXPECT_EQ(host->fileNames(path), (std::vector<std::string>{"a.html", "b.html"}));
-    EXPECT_TRUE(host->fileNames(path + "/none").empty());
     EXPECT_EQ(host->readFile(path + "/a.html"), std::string("x\r\n\0", 4));
     EXPECT_EQ(support::failureOf([&] { host->readFile(path + "/none"); }), 53);
     EXPECT_EQ(support::failureOf([&] { host->readFile(path + "/c.html"); }), 53);

@@ -75,8 +75,8 @@ TEST_F(WordContract, TakesThePictureOfAFileInItsOwnSize) {
 }
 
 TEST_F(WordContract, PutsAPictureOverTheText) {
-    copy("chart");
-    selection().call("PasteSpecial", arg("DataType", 9), arg("Placement", 1));
+    copy("picture");
+    selection().call("PasteSpecial", arg("Placement", 1));
     ASSERT_EQ(shapes("Shapes").get("Count").toLong(), 1);
     EXPECT_EQ(shapes("InlineShapes").get("Count").toLong(), 0);
     shapes("Shapes").get("Item", 1).put("Left", Value());

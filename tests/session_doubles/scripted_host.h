@@ -120,14 +120,6 @@ public:
         }
         return found->second;
     }
-    [[nodiscard]] std::vector<std::string> fileNames(std::string_view folder) override {
-        std::vector<std::string> names;
-        for (const std::string& path : files) {
-            const std::size_t end = path.rfind('/');
-            if (path.substr(0, end) == folder) names.push_back(path.substr(end + 1));
-        }
-        return names;
-    }
     [[nodiscard]] std::string helpFolder() override { return "/program/help"; }
     [[nodiscard]] bool fileIsHeld(std::string_view path) override {
         return heldFiles.contains(path);

@@ -63,7 +63,7 @@ protected:
             const auto breaks = properties.child("w:pageBreakBefore");
             std::string text = breaks && breaks.attribute("w:val").as_bool(true) ? "|" : "";
             if (const auto style = properties.child("w:pStyle"))
-                text += document.styles().nameOf(style.attribute("w:val").value()) + ":";
+                text += std::string(style.attribute("w:val").value()) + ":";
             visitInOrder(paragraph, [&](const auto& element) {
                 const bool isObject = isTextObject(element);
                 if (isObject) text += "*";

@@ -8,8 +8,7 @@ namespace office_double {
 std::vector<Paragraph> Document::paragraphs() {
     std::vector<Paragraph> all;
     for (const auto& node : package::paragraphsIn(body())) {
-        Paragraph paragraph{.text = package::textOf(node),
-                            .style = styles().nameOf(package::styleOf(node))};
+        Paragraph paragraph{.text = package::textOf(node), .style = package::styleOf(node)};
         const auto breaks = node.child("w:pPr").child("w:pageBreakBefore");
         paragraph.breaksPageBefore = breaks && breaks.attribute("w:val").as_bool(true);
         package::visitInOrder(node, [&](const auto& element) {
@@ -25,7 +24,7 @@ std::vector<Paragraph> Document::paragraphs() {
 std::vector<std::string> Document::captions() {
     std::vector<std::string> all;
     for (Paragraph& paragraph : paragraphs()) {
-        if (paragraph.style == "caption") all.push_back(std::move(paragraph.text));
+        if (paragraph.style == "Caption") all.push_back(std::move(paragraph.text));
     }
     return all;
 }

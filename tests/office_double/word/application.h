@@ -17,7 +17,7 @@ namespace word = office::model::word;
 /// A paragraph as a test sees it.
 struct Paragraph {
     std::string text;
-    /// In small letters: "normal", "caption", "heading 1".
+    /// Its name in the file: "Caption", "Heading1"; empty for the plain one.
     std::string style;
     bool breaksPageBefore = false;
     /// Pictures, charts and objects in it.

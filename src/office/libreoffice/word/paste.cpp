@@ -38,12 +38,12 @@ const excel::CopiedHere& copiedHere(const office::Copied& copied) {
     return *here;
 }
 
-/// In vectors, so that its text is text in a PDF, unless dots are wanted or all there is.
-uno::Reference<css::graphic::XGraphic> pictureOf(const office::Copied& copied, PasteAs as,
+/// In vectors, so that its text is text in a PDF, unless dots are all there is.
+uno::Reference<css::graphic::XGraphic> pictureOf(const office::Copied& copied,
                                                  const Connection& connection) {
     uno::Reference<css::graphic::XGraphic> picture;
     const auto* here = dynamic_cast<const excel::CopiedHere*>(&copied);
-    if (here != nullptr && as != PasteAs::Png) picture = here->graphic();
+    if (here != nullptr) picture = here->graphic();
     if (!picture.is()) picture = graphicOf(connection, copied.png());
     if (!picture.is()) fail("LibreOffice could not read the picture");
     return picture;
@@ -151,8 +151,8 @@ void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anch
     const Connection& connection = desk_.connection();
     pasted_.clear();
     const UndoGroup group(steps_, "Paste");
-    if (as == PasteAs::Png || as == PasteAs::Metafile || (isPicture && as == PasteAs::Default)) {
-        insertGraphic(place, pictureOf(copied, as, connection), sizeOf(copied), anchoring);
+    if (isPicture && as == PasteAs::Default) {
+        insertGraphic(place, pictureOf(copied, connection), sizeOf(copied), anchoring);
         return;
     }
     if (as == PasteAs::Default && copied.source().kind == CopySource::Kind::Cells) {

@@ -241,9 +241,6 @@ void Selection::pasteSpecial(const CallArguments& arguments) {
     constexpr std::size_t dataType = 4;
     constexpr std::int32_t floatOverText = 1;
     constexpr std::int32_t oleObject = 0;
-    /// Word's numbers of what can be pasted beside objects.
-    constexpr std::array<std::pair<std::int32_t, PasteAs>, 2> pictures = {
-        {{3, PasteAs::Metafile}, {9, PasteAs::Metafile}}};
 
     const std::string& source = arguments.source();
     if (arguments.at(icon, false).toBool())
@@ -260,18 +257,10 @@ void Selection::pasteSpecial(const CallArguments& arguments) {
         paste(PasteAs::Default, anchoring, source);
         return;
     }
-    const std::int32_t wanted = arguments.at(dataType).toLong();
-    if (wanted == oleObject) {
-        paste(PasteAs::Embedded, anchoring, source);
-        return;
-    }
-    const auto* const known =
-        std::find_if(pictures.begin(), pictures.end(),
-                     [&](const auto& candidate) { return candidate.first == wanted; });
-    if (known == pictures.end())
+    if (const std::int32_t wanted = arguments.at(dataType).toLong(); wanted != oleObject)
         throw Failure(FailureNumber::InvalidProcedureCall, source,
                       fmt::format("There is no data type {} here", wanted));
-    paste(known->second, anchoring, source);
+    paste(PasteAs::Embedded, anchoring, source);
 }
 
 void Selection::pasteExcelTable(const CallArguments& arguments) {

@@ -134,10 +134,6 @@ std::string DocumentStyles::nextOf(const std::string& id) {
     return next == plain ? std::string() : next;
 }
 
-std::string DocumentStyles::nameOf(const std::string& id) {
-    return nameIn(byId(id.empty() ? plainId() : id));
-}
-
 void DocumentStyles::write() {
     if (isChanged_) package_.replace(part_, xml_->bytes());
     isChanged_ = false;

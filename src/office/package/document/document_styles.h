@@ -22,8 +22,6 @@ public:
     [[nodiscard]] std::string idOf(std::int32_t number);
     /// What the paragraph behind one of this style has; `id` is empty as above. `PackageError`.
     [[nodiscard]] std::string nextOf(const std::string& id);
-    /// The name by which Word knows a style in every language, in small letters: "heading 1".
-    [[nodiscard]] std::string nameOf(const std::string& id);
     /// Hands changed styles to the package.
     void write();
 

@@ -312,7 +312,6 @@ word::TextObjectPtr FileDocument::pasted() {
 /// it.
 void FileDocument::insertTable(const std::string& table) {
     touch();
-    const bool isLast = isCaretAtEnd();
     if (contentOf(caret_.paragraph) || breaksPage(caret_.paragraph) ||
         sectionEndIn(caret_.paragraph)) {
         typeParagraph();
@@ -322,7 +321,6 @@ void FileDocument::insertTable(const std::string& table) {
         if (breaksPage(caret_.paragraph)) changeParagraph(goesOn);
     }
     insertMarkup(caret_.paragraph.parent(), table, caret_.paragraph);
-    if (tables_) tables_ = isLast ? std::optional(*tables_ + 1) : std::nullopt;
 }
 
 void FileDocument::paste(const Copied& copied, PasteAs as, word::Anchoring anchoring) {
@@ -363,14 +361,13 @@ word::TextObjectPtr FileDocument::objectAt(word::Anchoring anchoring, std::int32
 }
 
 std::int32_t FileDocument::tableCount() {
-    if (tables_) return *tables_;
-    tables_ = 0;
+    std::int32_t count = 0;
     visitInOrder(body_, [&](pugi::xml_node element) {
         const bool isTable = isNamed(element, ns::word, "tbl");
-        if (isTable) ++*tables_;
+        if (isTable) ++count;
         return !isTable && !isNamed(element, ns::word, "p");
     });
-    return *tables_;
+    return count;
 }
 
 word::TextObjectPtr FileDocument::selectedObject() {

@@ -32,7 +32,6 @@ public:
     [[nodiscard]] Package& package() { return package_; }
     [[nodiscard]] const FileRules& rules() const { return *rules_; }
     [[nodiscard]] pugi::xml_node body() const { return body_; }
-    [[nodiscard]] DocumentStyles& styles() { return styles_; }
     [[nodiscard]] ChartParts& charts() { return charts_; }
     /// The part with the text.
     [[nodiscard]] const std::string& mainPart() const { return main_; }
@@ -125,7 +124,6 @@ private:
     std::optional<std::set<unsigned>> drawingIds_;
     unsigned lastDrawingId_ = 0;
     bool hasShapeType_ = false;
-    std::optional<std::int32_t> tables_;
     std::weak_ptr<FileObject> selected_;
     std::weak_ptr<FileObject> pasted_;
     std::function<void(FileDocument&)> closed_;
