@@ -4,8 +4,11 @@
 #include <com/sun/star/drawing/XDrawPage.hpp>
 #include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/sheet/XArrayFormulaRange.hpp>
+#include <com/sun/star/sheet/XNamedRanges.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/table/XTable.hpp>
+#include <com/sun/star/table/XTableChartsSupplier.hpp>
 #include <com/sun/star/text/XText.hpp>
 
 #include <algorithm>
@@ -203,6 +206,53 @@ TEST_F(PasteLive, EmbedsSheetsThatAreCalledAsThoseOfANewWorkbook) {
         const uno::Reference<css::table::XCellRange> data(
             embedded->getSheets()->getByName(toUno(name)), uno::UNO_QUERY_THROW);
         EXPECT_EQ(data->getCellByPosition(1, 8)->getValue(), 84) << name;
+    }
+}
+
+TEST_F(PasteLive, EmbedsTheChartOfAChartSheetThatLibreOfficeLoses) {
+    const Object lost =
+        excelApp.get("Workbooks").call("Open", copyOf(MURVANE_TEST_BOOKS, "lost.xlsx")).toObject();
+    lost.get("Charts").get("Item", "Gone").get("ChartArea").call("Copy");
+    slide(deck, 3).get("Shapes").call("PasteSpecial", 10);
+    const auto embedded =
+        property<uno::Reference<css::sheet::XSpreadsheetDocument>>(lastShape(), "Model");
+    const uno::Reference<css::table::XTableChartsSupplier> sheet(
+        embedded->getSheets()->getByName("Gone"), uno::UNO_QUERY_THROW);
+    EXPECT_EQ(sheet->getCharts()->getElementNames().getLength(), 1);
+    desk->clipboard().copied.reset();
+}
+
+TEST_F(PasteLive, MakesValuesOfFormulasThatLeadToOtherSheets) {
+    const auto source = desk->activeWorkbook()->model();
+    const auto names = property<uno::Reference<css::sheet::XNamedRanges>>(source, "NamedRanges");
+    names->addNewByName("Away", "$Data.$B$2:$B$4", {}, 0);
+    names->addNewByName("FarAway", "SUM(Away)", {}, 0);
+    const auto sheets = as<css::sheet::XSpreadsheetDocument>(source)->getSheets();
+    sheets->insertNewByName("Own", 0);
+    const uno::Reference<css::table::XCellRange> own(sheets->getByName("Own"),
+                                                     uno::UNO_QUERY_THROW);
+    names->addNewByName("Near", "$Own.$A$1", {}, 0);
+    const char* const formulas[] = {"=7", "=SUM(Away)", "=FarAway", "=Near*2", "=$Data.B2*2"};
+    for (sal_Int32 row = 0; row < 5; ++row)
+        own->getCellByPosition(0, row)->setFormula(rtl::OUString::createFromAscii(formulas[row]));
+    const auto array = [&](sal_Int32 first, const char* formula) {
+        as<css::sheet::XArrayFormulaRange>(own->getCellRangeByPosition(0, first, 0, first + 1))
+            ->setArrayFormula(rtl::OUString::createFromAscii(formula));
+    };
+    array(5, "=$Data.B2:B3*3");
+    array(7, "=A1:A2*3");
+    sheet("Own").get("Range", "A1:A9").call("Copy");
+    slide(deck, 3).get("Shapes").call("PasteSpecial", 10);
+    const auto embedded =
+        property<uno::Reference<css::sheet::XSpreadsheetDocument>>(lastShape(), "Model");
+    const uno::Reference<css::table::XCellRange> copy(embedded->getSheets()->getByName("Own"),
+                                                      uno::UNO_QUERY_THROW);
+    for (sal_Int32 row = 0; row < 9; ++row) {
+        const auto cell = copy->getCellByPosition(0, row);
+        const std::string formula = fromUno(cell->getFormula());
+        EXPECT_EQ(cell->getValue(), own->getCellByPosition(0, row)->getValue()) << row;
+        const bool isKept = row == 3 || row > 6;
+        EXPECT_EQ(formula.find_first_of("=") != formula.npos, isKept || row == 0) << formula;
     }
 }
 

@@ -74,8 +74,11 @@ model::Box ChartShape::box() {
 }
 
 office::CopiedPtr ChartShape::copy(office::CopySource source) {
-    if (source.kind == office::CopySource::Kind::Chart)
-        return std::make_shared<CopiedChart>(book_, std::move(source), shape_, owner_.lock());
+    if (source.kind == office::CopySource::Kind::Chart) {
+        SheetOfChart home = home_.document.is() ? home_ : SheetOfChart{book_.model(), source.sheet};
+        return std::make_shared<CopiedChart>(book_, std::move(source), shape_, std::move(home),
+                                             owner_.lock());
+    }
     const css::awt::Size size = shape_->getSize();
     return std::make_shared<CopiedPicture>(
         book_.desk(), std::move(source),

@@ -5,6 +5,7 @@
 #include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/drawing/XDrawPage.hpp>
 #include <com/sun/star/drawing/XShape.hpp>
+#include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
 #include <com/sun/star/table/XTableChartsSupplier.hpp>
 
@@ -25,6 +26,12 @@ class CalcDocument;
 [[nodiscard]] uno::Reference<css::drawing::XDrawPage> drawPageOf(
     const uno::Reference<css::sheet::XSpreadsheet>& sheet);
 
+/// Where a chart is to be found: a document, and the sheet's name there.
+struct SheetOfChart {
+    uno::Reference<css::frame::XModel> document;
+    std::string sheet;
+};
+
 /// The shape that shows a chart on a sheet. A chart made in LibreOffice may have no name; then the
 /// key under which the document stores it stands for one. Of several with one name each is called
 /// by a name of its own.
@@ -40,8 +47,12 @@ public:
     [[nodiscard]] const std::string& ownName() const { return ownName_; }
     /// Tells it from its namesakes.
     void callItself(std::string distinct) { name_ = std::move(distinct); }
-    /// The shape lasts as long as its owner: what is copied of it keeps that one.
-    void belongTo(std::weak_ptr<const void> owner) { owner_ = std::move(owner); }
+    /// The shape is that of another document and lasts as long as its owner: what is copied of it
+    /// keeps that one.
+    void belongTo(std::weak_ptr<const void> owner, SheetOfChart home) {
+        owner_ = std::move(owner);
+        home_ = std::move(home);
+    }
 
     [[nodiscard]] bool isGone() const override { return false; }
     std::string name() override;
@@ -62,6 +73,7 @@ private:
     std::string name_;
     bool hasName_;
     std::weak_ptr<const void> owner_;
+    SheetOfChart home_;
 };
 
 using ChartShapePtr = std::shared_ptr<ChartShape>;

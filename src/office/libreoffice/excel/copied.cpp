@@ -58,11 +58,12 @@ office::TableLook CopiedPicture::table() const {
 }
 
 CopiedChart::CopiedChart(CalcDocument& book, office::CopySource source,
-                         uno::Reference<css::drawing::XShape> shape,
+                         uno::Reference<css::drawing::XShape> shape, SheetOfChart home,
                          std::shared_ptr<const void> owner)
     : CopiedHere(std::move(source)),
       book_(book.shared_from_this()),
       owner_(std::move(owner)),
+      home_(std::move(home)),
       shape_(std::move(shape)),
       size_(shape_->getSize()) {}
 

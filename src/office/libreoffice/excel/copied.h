@@ -47,10 +47,13 @@ class CopiedChart : public CopiedHere {
 public:
     /// `owner`: without it the shape would go; null for one on a sheet of the workbook.
     CopiedChart(CalcDocument& book, office::CopySource source,
-                uno::Reference<css::drawing::XShape> shape, std::shared_ptr<const void> owner);
+                uno::Reference<css::drawing::XShape> shape, SheetOfChart home,
+                std::shared_ptr<const void> owner);
 
     [[nodiscard]] CalcDocument& book() const;
     [[nodiscard]] const uno::Reference<css::drawing::XShape>& shape() const { return shape_; }
+    /// Where the shape is, which for one that was recovered is not in its workbook.
+    [[nodiscard]] const SheetOfChart& home() const { return home_; }
     [[nodiscard]] double widthPt() const override;
     [[nodiscard]] double heightPt() const override;
     [[nodiscard]] office::Picture picture(office::Sharpness sharpness) const override;
@@ -60,6 +63,7 @@ public:
 private:
     std::shared_ptr<CalcDocument> book_;
     std::shared_ptr<const void> owner_;
+    SheetOfChart home_;
     uno::Reference<css::drawing::XShape> shape_;
     css::awt::Size size_;
 };

@@ -84,6 +84,7 @@ public:
         asFarAsPossible([&] { as<css::util::XCloseable>(model_)->close(true); });
     }
 
+    [[nodiscard]] const uno::Reference<css::frame::XModel>& model() const { return model_; }
     [[nodiscard]] uno::Reference<css::sheet::XSpreadsheet> sheet(const std::string& name) const {
         return {as<css::sheet::XSpreadsheetDocument>(model_)->getSheets()->getByName(toUno(name)),
                 uno::UNO_QUERY_THROW};
@@ -93,7 +94,7 @@ private:
     uno::Reference<css::frame::XModel> model_;
 };
 
-RecoveredChart::RecoveredChart(SheetRecord& sheet) {
+RecoveredChart::RecoveredChart(SheetRecord& sheet) : sheet_(sheet.fileName) {
     const Connection& connection = sheet.book().connection();
     const rtl::OUString url = sheet.book().url();
     const auto parts = PackageParts::open(connection, url);
@@ -108,9 +109,13 @@ RecoveredChart::RecoveredChart(SheetRecord& sheet) {
     replacePart(connection, copyUrl, drawing, mended);
     // Only looked at: nothing of it has to be made changeable.
     copy_ = std::make_unique<OpenCopy>(sheet.book().desk().load(copyUrl, true, {}, true));
-    charts_ = std::make_unique<ChartShapes>(sheet.book(), copy_->sheet(sheet.fileName));
+    charts_ = std::make_unique<ChartShapes>(sheet.book(), copy_->sheet(sheet_));
     if (charts_->all().empty()) fail(sheet, "it has none");
     chart_ = charts_->all().front();
+}
+
+SheetOfChart RecoveredChart::home() const {
+    return {copy_->model(), sheet_};
 }
 
 RecoveredChart::~RecoveredChart() {

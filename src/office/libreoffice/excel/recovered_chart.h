@@ -24,12 +24,14 @@ public:
     ~RecoveredChart();
 
     [[nodiscard]] const ChartShapePtr& chart() const { return chart_; }
+    [[nodiscard]] SheetOfChart home() const;
 
 private:
     class OpenCopy;
 
     // In this order, so that they go in the other: the shape first, the folder last.
     PrivateFolder folder_;
+    std::string sheet_;
     std::unique_ptr<OpenCopy> copy_;
     std::unique_ptr<ChartShapes> charts_;
     ChartShapePtr chart_;

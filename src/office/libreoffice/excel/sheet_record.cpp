@@ -195,7 +195,7 @@ model::SheetChartPtr SheetRecord::ownChart() {
     if (!shapes.empty()) return shapes.front();
     // LibreOffice has lost it. The chart lasts as long as what it was recovered from.
     const auto recovered = std::make_shared<RecoveredChart>(*this);
-    recovered->chart()->belongTo(recovered);
+    recovered->chart()->belongTo(recovered, recovered->home());
     return {recovered, recovered->chart().get()};
 }
 

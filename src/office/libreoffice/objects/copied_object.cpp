@@ -37,24 +37,19 @@ std::string settingsShowing(const css::awt::Rectangle& area) {
         item("Height", area.Height));
 }
 
-/// Where on its sheet something stands that was copied.
-struct Place {
-    excel::CalcDocument& book;
-    css::awt::Rectangle area;
-};
-
-Place placeOf(const excel::CopiedHere& copied) {
+/// What something that was copied takes of its sheet.
+css::awt::Rectangle areaOf(const excel::CopiedHere& copied) {
     css::awt::Point corner;
     css::awt::Size size;
     if (const auto* cells = dynamic_cast<const excel::CopiedCells*>(&copied)) {
         corner = property<css::awt::Point>(cells->cells(), "Position");
         size = property<css::awt::Size>(cells->cells(), "Size");
-        return {cells->sheet().book(), {corner.X, corner.Y, size.Width, size.Height}};
+    } else {
+        const auto& chart = dynamic_cast<const excel::CopiedChart&>(copied);
+        corner = chart.shape()->getPosition();
+        size = chart.shape()->getSize();
     }
-    const auto& chart = dynamic_cast<const excel::CopiedChart&>(copied);
-    corner = chart.shape()->getPosition();
-    size = chart.shape()->getSize();
-    return {chart.book(), {corner.X, corner.Y, size.Width, size.Height}};
+    return {corner.X, corner.Y, size.Width, size.Height};
 }
 
 }  // namespace
@@ -69,7 +64,7 @@ void storeChart(NewObject& object, const excel::CopiedChart& chart) {
 void storeEmptyWorkbook(NewObject& object, const excel::CopiedHere& copied) {
     object.setMediaType("application/vnd.oasis.opendocument.spreadsheet");
     object.writeXml("content.xml", emptyBook);
-    object.writeXml("settings.xml", settingsShowing(placeOf(copied).area));
+    object.writeXml("settings.xml", settingsShowing(areaOf(copied)));
     object.close();
 }
 
@@ -77,7 +72,14 @@ void storeEmptyWorkbook(NewObject& object, const excel::CopiedHere& copied) {
 /// in it, and would hand on sheets that nobody has chosen.
 void fillWorkbook(const Connection& connection, const excel::CopiedHere& copied,
                   const uno::Reference<css::frame::XModel>& workbook) {
-    copySheet(connection, placeOf(copied).book.model(), copied.source().sheet, workbook);
+    if (const auto* cells = dynamic_cast<const excel::CopiedCells*>(&copied)) {
+        copySheet(connection, cells->sheet().book().model(), copied.source().sheet, workbook);
+        return;
+    }
+    const auto& chart = dynamic_cast<const excel::CopiedChart&>(copied);
+    // The workbook may have been closed since.
+    static_cast<void>(chart.book());
+    copySheet(connection, chart.home().document, chart.home().sheet, workbook);
 }
 
 }  // namespace libreoffice::objects
