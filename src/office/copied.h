@@ -24,9 +24,9 @@ struct CopySource {
     std::string address;
 };
 
-/// What was copied in Excel last. The back ends of PowerPoint and Word say what a paste of it makes:
-/// from here it can be had as a picture and, of cells, as a table; what else a paste wants they
-/// fetch from the source itself.
+/// What was copied in Excel last. The back ends of PowerPoint and Word say what a paste of it
+/// makes: from here it can be had as a picture and, of cells, as a table; what else a paste wants
+/// they fetch from the source itself.
 class Copied {
 public:
     explicit Copied(CopySource source) : source_(std::move(source)) {}
