@@ -4,15 +4,24 @@
 
 namespace destinations {
 
-double textWidthOf(const office::Value& page) {
-    return page.get("PageWidth").toDouble() - page.get("LeftMargin").toDouble() -
-           page.get("RightMargin").toDouble();
+namespace {
+
+double toEdgeOf(const office::Value& page) {
+    return page.get("PageWidth").toDouble() - page.get("LeftMargin").toDouble();
 }
 
-Sides textAreaOf(const office::Value& page) {
-    const double height = page.get("PageHeight").toDouble() - page.get("TopMargin").toDouble() -
-                          page.get("BottomMargin").toDouble();
-    return {textWidthOf(page), height};
+}  // namespace
+
+TextArea textAreaOf(const office::Value& page) {
+    const double toEdge = toEdgeOf(page);
+    return {toEdge - page.get("RightMargin").toDouble(),
+            page.get("PageHeight").toDouble() - page.get("TopMargin").toDouble() -
+                page.get("BottomMargin").toDouble(),
+            toEdge};
+}
+
+double textWidthOf(const office::Value& page) {
+    return toEdgeOf(page) - page.get("RightMargin").toDouble();
 }
 
 }  // namespace destinations

@@ -4,14 +4,16 @@
 
 namespace destinations {
 
-/// In points.
-struct Sides {
+/// What the margins of a page leave, in points.
+struct TextArea {
     double width = 0;
     double height = 0;
+    /// From the left margin to the right edge of the paper.
+    double toEdge = 0;
 };
 
-/// What the margins of a page leave, by its PageSetup.
+/// By its PageSetup.
+[[nodiscard]] TextArea textAreaOf(const office::Value& page);
 [[nodiscard]] double textWidthOf(const office::Value& page);
-[[nodiscard]] Sides textAreaOf(const office::Value& page);
 
 }  // namespace destinations

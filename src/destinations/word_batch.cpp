@@ -21,6 +21,22 @@ using office::arg;
 using office::Object;
 using session::OfficeSession;
 
+struct Size {
+    double width = 0;
+    double height = 0;
+};
+
+Size sizeOf(const Object& shape) {
+    return {shape.get("Width").toDouble(), shape.get("Height").toDouble()};
+}
+
+/// Makes it as large as a width and a height allow, in its proportions.
+void fit(const Object& shape, const Size& natural, double width, double height) {
+    const double scale = std::min(width / natural.width, height / natural.height);
+    shape.put("Width", natural.width * scale);
+    shape.put("Height", natural.height * scale);
+}
+
 /// One run: what every row needs is looked up once and held.
 class WordBatch {
 public:
@@ -48,17 +64,18 @@ private:
     void takeOutNewPage();
     void paste();
     void FinishWordItem(const ExportItem& row, const Object& shape);
+    void FitOnPage(const Object& shape);
     void SetLastShapeWidth(const Object& shape);
     [[nodiscard]] bool hasText();
     /// Of the last page, which all items go behind.
-    [[nodiscard]] const Sides& textArea();
+    [[nodiscard]] const TextArea& textArea();
 
     OfficeSession& session_;
     ExportFormat format_;
     const WordOptions& options_;
     Object document_;
     Object selection_;
-    std::optional<Sides> textArea_;
+    std::optional<TextArea> textArea_;
     /// The picture of the row at hand.
     std::string file_;
     bool hasText_ = false;
@@ -173,7 +190,7 @@ void WordBatch::paste() {
     }
 }
 
-const Sides& WordBatch::textArea() {
+const TextArea& WordBatch::textArea() {
     if (textArea_) return *textArea_;
     textArea_ = textAreaOf(selection_.get("PageSetup"));
     return *textArea_;
@@ -183,10 +200,13 @@ void WordBatch::FinishWordItem(const ExportItem& row, const Object& shape) {
     if (shape && options_.sameWidth) {
         /// Of the text area: what is higher loses its proportions.
         constexpr double highest = 0.5;
-        const Sides& area = textArea();
-        const double ratio = shape.get("Height").toDouble() / shape.get("Width").toDouble();
+        const TextArea& area = textArea();
+        const Size natural = sizeOf(shape);
         shape.put("Width", area.width);
-        shape.put("Height", std::min(ratio * area.width, area.height * highest));
+        shape.put("Height",
+                  std::min(natural.height / natural.width * area.width, area.height * highest));
+    } else if (shape) {
+        FitOnPage(shape);
     }
     if (options_.caption && !row.caption.empty()) {
         // The caption is a label of its own, which counts by itself. There may be one already.
@@ -205,14 +225,23 @@ void WordBatch::FinishWordItem(const ExportItem& row, const Object& shape) {
     }
 }
 
+/// What the paper would cut off becomes as large as the text area has room for. All else keeps its
+/// size, over the right margin, too.
+void WordBatch::FitOnPage(const Object& shape) {
+    /// Of the text area: the rest is for the line ahead and the caption.
+    constexpr double highest = 0.9;
+    const TextArea& area = textArea();
+    const Size natural = sizeOf(shape);
+    const double room = area.height * highest;
+    if (natural.width > area.toEdge || natural.height > room)
+        fit(shape, natural, std::min(natural.width, area.width), room);
+}
+
 /// As wide as the text, but no higher than its page.
 void WordBatch::SetLastShapeWidth(const Object& shape) {
     shape.call("Select");
-    const Sides& area = textArea();
-    const Sides natural{shape.get("Width").toDouble(), shape.get("Height").toDouble()};
-    const double scale = std::min(area.width / natural.width, area.height / natural.height);
-    shape.put("Width", natural.width * scale);
-    shape.put("Height", natural.height * scale);
+    const TextArea& area = textArea();
+    fit(shape, sizeOf(shape), area.width, area.height);
 }
 
 }  // namespace

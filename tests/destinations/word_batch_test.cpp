@@ -82,6 +82,27 @@ TEST_F(WordBatchTest, CaptionsCountByTheirTextAndPicturesTakeWidthAndShadow) {
     }
 }
 
+TEST_F(WordBatchTest, PicturesKeepTheirSizeUnlessThePaperCutsThemOff) {
+    const struct {
+        double width, height, expectedWidth, expectedHeight;
+    } rows[] = {{240, 150, 240, 150},
+                {500, 100, 500, 100},
+                {902.6, 200, 451.3, 100},
+                {100, 6282, 10, 628.2},
+                {500, 1256.4, 250, 628.2}};
+    for (const auto& row : rows) {
+        const std::string name = std::to_string(row.width) + std::to_string(row.height);
+        book.sheet("Sales").chart(name, {0, 0, row.width, row.height});
+        add(name.c_str(), "Sales", "");
+    }
+    exportRows(ExportFormat::Pictures);
+    for (std::int32_t i = 0; i < 5; ++i) {
+        const auto size = document.objectAt(Anchoring::Inline, i + 1)->size();
+        EXPECT_NEAR(size.width, rows[i].expectedWidth, 0.2) << i;
+        EXPECT_NEAR(size.height, rows[i].expectedHeight, 0.2) << i;
+    }
+}
+
 TEST_F(WordBatchTest, WhatCannotBeCopiedLeavesNoPageBehindAndIsTold) {
     add("Gone", "Sales", "Turnover", session::ItemKind::Range);
     add("Chart 9", "Sales", "Turnover");

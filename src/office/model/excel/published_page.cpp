@@ -29,7 +29,7 @@ h2 { margin: 12px 0; font-size: 20px; text-align: center; }
 .item table { border-collapse: collapse; table-layout: fixed; }
 .item td { padding: 0 1px; vertical-align: bottom; line-height: 1.2; white-space: pre; }
 .item td.wraps { white-space: pre-wrap; overflow-wrap: break-word; }
-.item td div { display: inline-block; writing-mode: vertical-rl; }
+.item td div { display: inline-block; vertical-align: bottom; overflow: hidden; writing-mode: vertical-rl; }
 .item td div.upwards { transform: rotate(180deg); }
 .item > img { display: block; }
 .charts { position: absolute; inset: 0; overflow: hidden; pointer-events: none; }
