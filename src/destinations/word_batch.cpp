@@ -21,6 +21,10 @@ using office::arg;
 using office::Object;
 using session::OfficeSession;
 
+/// Of the text area's height: the rest is for the empty lines on the page and for a caption. What
+/// is higher would go on to the next page, and leave this one empty.
+constexpr double highestShare = 0.85;
+
 struct Size {
     double width = 0;
     double height = 0;
@@ -228,20 +232,18 @@ void WordBatch::FinishWordItem(const ExportItem& row, const Object& shape) {
 /// What the paper would cut off becomes as large as the text area has room for. All else keeps its
 /// size, over the right margin, too.
 void WordBatch::FitOnPage(const Object& shape) {
-    /// Of the text area: the rest is for the line ahead and the caption.
-    constexpr double highest = 0.9;
     const TextArea& area = textArea();
     const Size natural = sizeOf(shape);
-    const double room = area.height * highest;
+    const double room = area.height * highestShare;
     if (natural.width > area.toEdge || natural.height > room)
         fit(shape, natural, std::min(natural.width, area.width), room);
 }
 
-/// As wide as the text, but no higher than its page.
+/// As wide as the text, but no higher than its page has room for.
 void WordBatch::SetLastShapeWidth(const Object& shape) {
     shape.call("Select");
     const TextArea& area = textArea();
-    fit(shape, sizeOf(shape), area.width, area.height);
+    fit(shape, sizeOf(shape), area.width, area.height * highestShare);
 }
 
 }  // namespace

@@ -88,8 +88,8 @@ TEST_F(WordBatchTest, PicturesKeepTheirSizeUnlessThePaperCutsThemOff) {
     } rows[] = {{240, 150, 240, 150},
                 {500, 100, 500, 100},
                 {902.6, 200, 451.3, 100},
-                {100, 6282, 10, 628.2},
-                {500, 1256.4, 250, 628.2}};
+                {100, 5932, 10, 593.2},
+                {500, 1186.4, 250, 593.2}};
     for (const auto& row : rows) {
         const std::string name = std::to_string(row.width) + std::to_string(row.height);
         book.sheet("Sales").chart(name, {0, 0, row.width, row.height});
