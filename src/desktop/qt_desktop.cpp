@@ -160,8 +160,7 @@ void QtDesktop::throwFailure() {
 
 forms::Screen QtDesktop::screen() const {
     const QSize size = QGuiApplication::primaryScreen()->geometry().size();
-    return {twipsOf(size.width()), twipsOf(size.height()), forms::twipsPerPixel,
-            forms::twipsPerPixel};
+    return {twipsOf(size.width()), twipsOf(size.height())};
 }
 
 bool QtDesktop::showBox(std::string_view text, std::string_view title, bool asks) {

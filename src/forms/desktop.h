@@ -13,12 +13,10 @@ namespace forms {
 
 enum class ShowMode { Modeless, Modal };
 
-/// The screen's size, and how many twips a pixel has on it.
+/// The screen's size.
 struct Screen {
     Twips width = 0;
     Twips height = 0;
-    Twips twipsPerPixelX = twipsPerPixel;
-    Twips twipsPerPixelY = twipsPerPixel;
 };
 
 /// The windows of the program, and the forms collection behind them. One implementation draws, one

@@ -101,13 +101,11 @@ bool OptionsForm::wbStatus_BeforeNavigate2(std::string_view url) {
         RenderPanel();
         return true;
     }
-    bool cancel = false;
-    const std::string option = CancelIfToggle(url, cancel);
-    if (!option.empty()) {
-        ToggleOption(option);
-        RenderPanel();
-    }
-    return cancel;
+    const std::string option = ToggleKeyFromUrl(url);
+    if (option.empty()) return false;
+    ToggleOption(option);
+    RenderPanel();
+    return true;
 }
 
 std::string OptionsForm::optionRow(std::string_view key, const forms::CheckBox& box) {

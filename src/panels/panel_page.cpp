@@ -119,10 +119,4 @@ std::string SelectKeyFromUrl(std::string_view url) {
     return keyBehind("murvane://select/", url);
 }
 
-std::string CancelIfToggle(std::string_view url, bool& cancel) {
-    std::string key = ToggleKeyFromUrl(url);
-    if (!key.empty()) cancel = true;
-    return key;
-}
-
 }  // namespace panels

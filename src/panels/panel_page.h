@@ -61,7 +61,4 @@ struct ActionPanel {
 /// "murvane://select/" + group + "/" + key: group and key as they stand, with the slash.
 [[nodiscard]] std::string SelectKeyFromUrl(std::string_view url);
 
-/// The key of a toggle link; `cancel` becomes true if there is one and stays as it is if not.
-[[nodiscard]] std::string CancelIfToggle(std::string_view url, bool& cancel);
-
 }  // namespace panels

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "office/failure_patterns.h"
-#include "office/text.h"
 
 namespace session {
 
@@ -27,9 +26,8 @@ void OpenWorkbookPrompt(OfficeSession& session) {
     scope.attempt([&] { excel.get("Workbooks").call("Open", office::arg("FileName", name)); });
 }
 
-bool IsFileOpen(OfficeSession& session, std::string_view fileName, bool fallback) {
-    if (office::trim(fileName).empty() || !session.host.fileExists(fileName)) return fallback;
-    return session.host.fileIsHeld(fileName);
+bool IsFileOpen(OfficeSession& session, std::string_view fileName) {
+    return session.host.fileExists(fileName) && session.host.fileIsHeld(fileName);
 }
 
 }  // namespace session

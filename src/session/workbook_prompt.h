@@ -10,9 +10,7 @@ namespace session {
 /// in use don't keep the opening from being tried. Failures are passed over.
 void OpenWorkbookPrompt(OfficeSession& session);
 
-/// Whether another process holds the file. `fallback` for a blank name and for a file that isn't
-/// there.
-[[nodiscard]] bool IsFileOpen(OfficeSession& session, std::string_view fileName,
-                              bool fallback = false);
+/// Whether the file is there and another process holds it.
+[[nodiscard]] bool IsFileOpen(OfficeSession& session, std::string_view fileName);
 
 }  // namespace session

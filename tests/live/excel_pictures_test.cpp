@@ -62,7 +62,7 @@ protected:
         return exported(holder.get("Chart"), "blank.png");
     }
     [[nodiscard]] excel::ChartShapePtr shapeOf(const char* sheetName, std::size_t place) const {
-        const auto active = desk->activeWorkbook();
+        const auto active = desk->active<excel::CalcDocument>();
         return active->sheetList().find(sheetName)->chartShapes().all().at(place);
     }
 };
@@ -75,7 +75,8 @@ TEST_F(ExcelPictures, ExportsChartsCrispAtTheirTrueSizeAndTransparentWhereTheirB
         const Value object = sheet(book, "Data").call("ChartObjects", name);
         const std::string path = exported(object.get("Chart"));
         const support::PngSize size = support::pngSizeOf(path);
-        const auto box = desk->activeWorkbook()->findSheet("Data")->findChart(name)->box();
+        const auto box =
+            desk->active<excel::CalcDocument>()->findSheet("Data")->findChart(name)->box();
         EXPECT_NEAR(size.dotsPerInch(), 288, 1) << name;
         EXPECT_NEAR(size.widthPoints(), box.width, 0.5) << name;
         EXPECT_NEAR(size.heightPoints(), box.height, 0.5) << name;

@@ -119,7 +119,8 @@ TEST_F(ExcelSheets, FindsTheCellsUnderAChartWhereLinesAreHiddenOrOfManySizes) {
     for (const char* address :
          {"A1", "D3", "D5", "G12", "A20", "F41", "ZZ900", "XFD1048576", "B2"}) {
         const auto cell = excel::model::blockOf(address).value();
-        const auto box = desk->activeWorkbook()->findSheet("Looks")->cells(cell)->place();
+        const auto box =
+            desk->active<excel::CalcDocument>()->findSheet("Looks")->cells(cell)->place();
         const Object chart = looks.get("ChartObjects")
                                  .call("Add", box.left, box.top, box.width - 1, box.height - 1)
                                  .toObject();

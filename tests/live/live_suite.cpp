@@ -84,7 +84,7 @@ ExcelLive::ExcelLive() {
 }
 
 void ExcelLive::TearDown() {
-    for (const auto& book : desk->workbooks()) book->close();
+    for (const auto& book : desk->open<excel::CalcDocument>()) book->close();
 }
 
 Object ExcelLive::open(std::string_view name) {
@@ -96,7 +96,7 @@ Object ExcelLive::sheet(const Object& book, const Value& which) {
 }
 
 uno::Reference<css::frame::XModel> ExcelLive::model() const {
-    return desk->activeWorkbook()->model();
+    return desk->active<excel::CalcDocument>()->model();
 }
 
 std::string ExcelLive::savedAs(std::string_view name, const char* filter,
@@ -126,7 +126,7 @@ PowerPointLive::PowerPointLive() {
 
 void PowerPointLive::TearDown() {
     support::keepDecks(file(""), MURVANE_TEST_DECKS);
-    for (const auto& deck : desk->presentations()) deck->close();
+    for (const auto& deck : desk->open<powerpoint::ImpressDeck>()) deck->close();
 }
 
 Object PowerPointLive::open(std::string_view deck) {

@@ -41,12 +41,12 @@ protected:
     }
     void TearDown() override {
         PowerPointLive::TearDown();
-        for (const auto& each : desk->workbooks()) each->close();
+        for (const auto& each : desk->open<excel::CalcDocument>()) each->close();
     }
 
     /// The presentation as it comes back from a file.
     Object savedAs(const char* name, const char* filter) {
-        const auto model = desk->activePresentation()->model();
+        const auto model = desk->active<powerpoint::ImpressDeck>()->model();
         as<css::frame::XStorable>(model)->storeToURL(
             fileUrl(file(name)), propertyValues({{"FilterName", uno::Any(toUno(filter))}}));
         return openFile(file(name));
@@ -55,7 +55,7 @@ protected:
     /// A shape of the active presentation's third slide, from the end.
     [[nodiscard]] uno::Reference<css::drawing::XShape> lastShape(std::int32_t fromEnd = 0) {
         const uno::Reference<css::drawing::XDrawPage> page(
-            as<css::drawing::XDrawPagesSupplier>(desk->activePresentation()->model())
+            as<css::drawing::XDrawPagesSupplier>(desk->active<powerpoint::ImpressDeck>()->model())
                 ->getDrawPages()
                 ->getByIndex(2),
             uno::UNO_QUERY_THROW);
@@ -101,7 +101,7 @@ office::TableLook smallTable() {
 
 TEST_F(PasteLive, MakesTablesThatComeBackFromFiles) {
     const office::TableLook look = smallTable();
-    const auto place = desk->activePresentation()->slideAt(3);
+    const auto place = desk->active<powerpoint::ImpressDeck>()->slideAt(3);
     static_cast<void>(place->paste(support::CopiedDouble(look), office::PasteAs::Default));
     const auto wide = [&] {
         office::TableLook larger = look;
@@ -176,7 +176,7 @@ TEST_F(PasteLive, MakesChartsAndWorkbooksThatHoldTheirData) {
 
 TEST_F(PasteLive, KnowsWhenAPresentationHoldsSeveralWorkbooks) {
     const auto holds = [&](std::int32_t count) {
-        return desk->activePresentation()->holdsWorkbooks(count);
+        return desk->active<powerpoint::ImpressDeck>()->holdsWorkbooks(count);
     };
     const Value shapes = slide(deck, 3).get("Shapes");
     const std::uint64_t calls = callsOf([&] { EXPECT_FALSE(holds(1)); });
@@ -262,7 +262,7 @@ TEST_F(PasteLive, BindsALinkToTheFileAndNeedsOne) {
     shapes.call("PasteSpecial", arg("Link", true));
     EXPECT_EQ(property<rtl::OUString>(lastShape(), "LinkURL"), fileUrl(file("sheets.xlsx")));
     expectSaved(deck, 3, {"<p:link"});
-    desk->workbook(desk->load("private:factory/scalc", true))->markActive();
+    desk->record<excel::CalcDocument>(desk->load("private:factory/scalc", true))->markActive();
     excelApp.get("ActiveSheet").get("Range", "A1:B3").call("Copy");
     const std::int32_t before = shapes.get("Count").toLong();
     EXPECT_EQ(failureOf([&] { shapes.call("PasteSpecial", arg("Link", true)); }), 1004);

@@ -71,7 +71,8 @@ TEST_F(PowerPointLive, GoesOnWithAPictureThatWasReplacedToRoundIt) {
     const Object deck = openWithSlides();
     const auto selectedShapes = [&] {
         Names names;
-        for (const auto& shape : desk->activePresentation()->impressWindow().selection())
+        for (const auto& shape :
+             desk->active<powerpoint::ImpressDeck>()->impressWindow().selection())
             names.push_back(libreoffice::fromUno(
                 libreoffice::as<libreoffice::css::container::XNamed>(shape)->getName()));
         return names;

@@ -44,7 +44,8 @@ TEST_F(PowerPointLive, DeletesNoOtherSlideInPlaceOfOneThatTheUserHasDeleted) {
     const Object deck = openWithSlides();
     const Object gone = slide(deck, 3);
     const auto pages =
-        as<css::drawing::XDrawPagesSupplier>(desk->activePresentation()->model())->getDrawPages();
+        as<css::drawing::XDrawPagesSupplier>(desk->active<powerpoint::ImpressDeck>()->model())
+            ->getDrawPages();
     pages->remove({pages->getByIndex(2), uno::UNO_QUERY_THROW});
     const std::int32_t left = slideCount(deck);
     EXPECT_NE(failureOf([&] { gone.call("Delete"); }), 0);

@@ -71,8 +71,8 @@ class Windows : public testing::Test {
 protected:
     void TearDown() override {
         const auto desk = freshDesk();
-        for (const auto& book : desk->workbooks()) book->close();
-        for (const auto& deck : desk->presentations()) deck->close();
+        for (const auto& book : desk->open<excel::CalcDocument>()) book->close();
+        for (const auto& deck : desk->open<powerpoint::ImpressDeck>()) deck->close();
     }
 
     /// What automation that was just started knows.
@@ -123,8 +123,8 @@ TEST_F(Windows, TheActiveDocumentOfAKindIsTheOneThatTheUserWasInLast) {
         for (const bool anew : {true, false}) {
             EXPECT_TRUE(becomesTrue([&] {
                 const DeskPtr asked = anew ? freshDesk() : desk;
-                return asked->activeWorkbook()->model() == last(0, 1) &&
-                       asked->activePresentation()->model() == last(2, 3);
+                return asked->active<excel::CalcDocument>()->model() == last(0, 1) &&
+                       asked->active<powerpoint::ImpressDeck>()->model() == last(2, 3);
             })) << told;
             if (HasFailure()) return;
         }

@@ -31,11 +31,6 @@ TEST(PanelLinks, GiveTheKeyBehindTheirPrefix) {
         EXPECT_EQ(panels::ActionKeyFromUrl(url), action) << url;
         EXPECT_EQ(panels::ToggleKeyFromUrl(url), toggle) << url;
         EXPECT_EQ(panels::SelectKeyFromUrl(url), select) << url;
-        for (const bool before : {false, true}) {
-            bool cancel = before;
-            EXPECT_EQ(panels::CancelIfToggle(url, cancel), toggle) << url;
-            EXPECT_EQ(cancel, before || !toggle.empty()) << url;
-        }
     }
 }
 

@@ -40,16 +40,14 @@ TEST(WorkbookPrompt, OpensAFileThatIsInUseAfterSayingSo) {
     EXPECT_NE(test.suite.excel().findOpen("Budget.xlsx"), nullptr);
 }
 
-TEST(FileInUse, IsTheFallbackForAFileThatIsNotThere) {
-    const std::tuple<const char*, bool, bool> cases[] = {
-        {"", false, false},    {"  ", true, true},     {"/none", false, false},
-        {"/none", true, true}, {"/free", true, false}, {"/held", false, true},
-    };
+TEST(FileInUse, IsNoneThatIsNotThere) {
+    const std::pair<const char*, bool> cases[] = {
+        {"", false}, {"/none", false}, {"/free", false}, {"/held", true}};
     TestSession test;
     test.host.files = {"/free", "/held"};
     test.host.heldFiles = {"/held"};
-    for (const auto& [name, fallback, isOpen] : cases)
-        EXPECT_EQ(session::IsFileOpen(test.session, name, fallback), isOpen) << name;
+    for (const auto& [name, isOpen] : cases)
+        EXPECT_EQ(session::IsFileOpen(test.session, name), isOpen) << name;
 }
 
 TEST(FileNames, MayBeAnythingThatStaysInItsFolder) {

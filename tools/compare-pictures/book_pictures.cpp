@@ -60,7 +60,7 @@ void BookPictures::forEach(const std::string& book, const std::function<void(con
     const std::string file = folder.file("suite.png");
     const std::string bookName = std::filesystem::path(book).filename().string();
 
-    for (const auto& sheet : desk_->activeWorkbook()->sheetList().all()) {
+    for (const auto& sheet : desk_->active<excel::CalcDocument>()->sheetList().all()) {
         for (const auto& chart : sheet->chartShapes().all()) {
             const auto size = chart->shape()->getSize();
             suite.writeChart(chart->shape(), file);

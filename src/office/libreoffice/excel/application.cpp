@@ -28,7 +28,7 @@ public:
 
     model::Settings& settings() override { return desk_->excelSettings; }
     std::vector<model::BookPtr> open() override;
-    model::BookPtr active() override { return desk_->activeWorkbook(); }
+    model::BookPtr active() override { return desk_->active<CalcDocument>(); }
     model::BookPtr load(const std::string& file, const std::string& password,
                         bool readOnly) override;
     /// By LibreOffice's own dialog; false where nobody is there to be asked.
@@ -43,7 +43,7 @@ private:
 };
 
 std::vector<model::BookPtr> CalcBooks::open() {
-    const auto books = desk_->workbooks();
+    const auto books = desk_->open<CalcDocument>();
     return {books.begin(), books.end()};
 }
 

@@ -1,38 +1,21 @@
-#include <utility>
-
 #include "office/libreoffice/powerpoint/impress_deck.h"
+#include "office/libreoffice/suite_documents.h"
 #include "office/model/powerpoint/objects.h"
 
 namespace libreoffice::powerpoint {
 
 namespace {
 
-class ImpressDecks : public model::Decks {
+class ImpressDecks : public SuiteDocuments<model::Decks, model::Deck, ImpressDeck> {
 public:
-    explicit ImpressDecks(DeskPtr desk) : desk_(std::move(desk)) {}
+    using SuiteDocuments::SuiteDocuments;
 
     std::string version() override { return "16.0"; }
-    std::vector<model::DeckPtr> open() override {
-        const auto decks = desk_->presentations();
-        return {decks.begin(), decks.end()};
-    }
-    model::DeckPtr active() override { return desk_->activePresentation(); }
-    model::DeckPtr load(const std::string& file, bool withWindow) override {
-        const rtl::OUString url = fileUrl(file);
-        auto deck = desk_->alreadyOpen<ImpressDeck>(url);
-        if (!deck) deck = desk_->loaded<ImpressDeck>(url, withWindow);
-        deck->markActive();
-        return deck;
-    }
     model::DeckPtr create(bool withWindow) override {
-        auto deck = desk_->loaded<ImpressDeck>("private:factory/simpress", withWindow);
+        auto deck = makeNew("private:factory/simpress", withWindow);
         deck->beginAnew();
-        deck->markActive();
         return deck;
     }
-
-private:
-    DeskPtr desk_;
 };
 
 }  // namespace

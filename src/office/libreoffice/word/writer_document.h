@@ -62,7 +62,7 @@ public:
 
     std::int32_t objectCount(model::Anchoring anchoring) override;
     model::TextObjectPtr objectAt(model::Anchoring anchoring, std::int32_t place) override;
-    std::int32_t tableCount() override;
+    [[nodiscard]] std::int32_t tableCount();
     model::TextObjectPtr selectedObject() override;
     model::TextObjectPtr pasted() override;
 

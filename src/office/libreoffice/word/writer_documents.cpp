@@ -1,5 +1,4 @@
-#include <utility>
-
+#include "office/libreoffice/suite_documents.h"
 #include "office/libreoffice/word/writer_document.h"
 #include "office/model/word/objects.h"
 
@@ -7,34 +6,18 @@ namespace libreoffice::word {
 
 namespace {
 
-class WriterDocuments : public model::TextDocuments {
+class WriterDocuments
+    : public SuiteDocuments<model::TextDocuments, model::TextDocument, WriterDocument> {
 public:
-    explicit WriterDocuments(DeskPtr desk) : desk_(std::move(desk)) {}
+    using SuiteDocuments::SuiteDocuments;
 
-    std::string version() override { return "16.0"; }
-    std::vector<model::TextDocumentPtr> open() override {
-        const auto documents = desk_->textDocuments();
-        return {documents.begin(), documents.end()};
-    }
-    model::TextDocumentPtr active() override { return desk_->activeTextDocument(); }
-    model::TextDocumentPtr load(const std::string& file, bool withWindow) override {
-        const rtl::OUString url = fileUrl(file);
-        auto document = desk_->alreadyOpen<WriterDocument>(url);
-        if (!document) document = desk_->loaded<WriterDocument>(url, withWindow);
-        document->markActive();
-        return document;
-    }
     model::TextDocumentPtr create(bool withWindow) override {
-        auto document = desk_->loaded<WriterDocument>("private:factory/swriter", withWindow);
+        auto document = makeNew("private:factory/swriter", withWindow);
         if (!withWindow) document->forgoUndo();
-        document->markActive();
         return document;
     }
     /// The other applications live in the same process.
     void quit() override {}
-
-private:
-    DeskPtr desk_;
 };
 
 }  // namespace

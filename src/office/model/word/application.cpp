@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "office/model/item_index.h"
 #include "office/model/word/objects.h"
 
 namespace office::model::word {
@@ -59,14 +58,6 @@ const MemberTable<Documents>& Documents::members() {
     static const auto table =
         MemberTable<Self>("Documents")
             .property("Count", [](Self& self) { return countOf(self.documents().open().size()); })
-            .property("Item", {"Index"},
-                      [](Self& self, const CallArguments& arguments) {
-                          return self.object(
-                              ItemIndex(arguments.at(0), arguments.source())
-                                  .of(self.documents().open(), [](const TextDocumentPtr& document) {
-                                      return document->name();
-                                  }));
-                      })
             .method("Open",
                     {"FileName", "ConfirmConversions", "ReadOnly", "AddToRecentFiles", "Visible"},
                     &Self::open)
@@ -119,7 +110,6 @@ public:
         using Self = Application;
         static const auto table =
             MemberTable<Self>("Application")
-                .property("Version", [](Self& self) { return self.documents().version(); })
                 .property("Documents", [](Self& self) { return self.other<Documents>(); })
                 .property("CaptionLabels", [](Self& self) { return self.other<CaptionLabels>(); })
                 .property("ActiveDocument", {},

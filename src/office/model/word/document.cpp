@@ -24,7 +24,11 @@ public:
                                                            &TextDocument::changeLastParagraph);
                           })
                 .property("StoryLength", [](Self& self) { return self.document().length(); })
-                .method("Collapse", {"Direction"}, &Self::collapse)
+                .method("Collapse", {"Direction"},
+                        [](Self& self, const CallArguments& arguments) {
+                            requireCollapseToEnd(arguments);
+                            self.isAtEnd_ = true;
+                        })
                 .method("InsertParagraphAfter", {},
                         [](Self& self) { self.document().appendParagraph(); })
                 .method("Select", {}, [](Self& self, const CallArguments& arguments) {
@@ -35,15 +39,6 @@ public:
     }
 
 private:
-    void collapse(const CallArguments& arguments) {
-        constexpr std::int32_t toEnd = 0;
-        constexpr std::int32_t toStart = 1;
-        if (arguments.at(0, toStart).toLong() != toEnd)
-            throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                          "A range collapses to its end here");
-        isAtEnd_ = true;
-    }
-
     void requireEnd(const std::string& source) const {
         if (!isAtEnd_)
             throw Failure(FailureNumber::InvalidProcedureCall, source,
@@ -51,17 +46,6 @@ private:
     }
 
     bool isAtEnd_ = false;
-};
-
-class Tables : public DocumentObject<Tables> {
-public:
-    using DocumentObject::DocumentObject;
-
-    static const MemberTable<Tables>& members() {
-        static const auto table = MemberTable<Tables>("Tables").property(
-            "Count", [](Tables& self) { return self.document().tableCount(); });
-        return table;
-    }
 };
 
 /// Of the properties of a document, its title.
@@ -88,10 +72,8 @@ public:
 
     static const MemberTable<Window>& members() {
         using Self = Window;
-        static const auto table =
-            MemberTable<Self>("Window")
-                .property("Selection", [](Self& self) { return selectionObject(self.home()); })
-                .method("Activate", {}, [](Self& self) { self.document().activate(); });
+        static const auto table = MemberTable<Self>("Window").property(
+            "Selection", [](Self& self) { return selectionObject(self.home()); });
         return table;
     }
 };
@@ -117,7 +99,6 @@ const MemberTable<Document>& Document::members() {
             .property("ActiveWindow", [](Self& self) { return makeObject<Window>(self.home()); })
             .property("InlineShapes", [](Self& self) { return inlineShapesObject(self.home()); })
             .property("Shapes", [](Self& self) { return shapesObject(self.home()); })
-            .property("Tables", [](Self& self) { return makeObject<Tables>(self.home()); })
             .property("BuiltInDocumentProperties", {"Index"}, &Self::property)
             .method("Activate", {}, [](Self& self) { self.document().activate(); })
             .method("SaveCopyAs", {"FileName"},

@@ -53,6 +53,9 @@ template <class Self>
                   arguments.source() + " can be set here, not read");
 }
 
+/// `Failure` 5 for a `Collapse` to anything but the end.
+void requireCollapseToEnd(const CallArguments& arguments);
+
 /// Beyond this Word takes no length.
 inline constexpr double furthestPt = 1584;
 

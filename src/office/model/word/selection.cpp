@@ -137,7 +137,6 @@ public:
 private:
     void moveDown(const CallArguments& arguments);
     void moveLeft(const CallArguments& arguments);
-    void collapse(const CallArguments& arguments);
     void paste(PasteAs as, Anchoring anchoring, const std::string& source);
     void pasteSpecial(const CallArguments& arguments);
     void pasteExcelTable(const CallArguments& arguments);
@@ -182,7 +181,8 @@ const MemberTable<Selection>& Selection::members() {
                       [](Self& self) { return selectedInlineShapesObject(self.home()); })
             .method("MoveDown", {"Unit", "Count", "Extend"}, &Self::moveDown)
             .method("MoveLeft", {"Unit", "Count", "Extend"}, &Self::moveLeft)
-            .method("Collapse", {"Direction"}, &Self::collapse)
+            .method("Collapse", {"Direction"},
+                    [](Self&, const CallArguments& at) { requireCollapseToEnd(at); })
             .method("HomeKey", {"Unit", "Extend"},
                     [](Self& self, const CallArguments& arguments) {
                         requireLines(arguments);
@@ -218,14 +218,6 @@ void Selection::moveLeft(const CallArguments& arguments) {
         arguments.at(2, 0).toLong() != extend || !document().pasted())
         throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
                       "The caret moves left over what was pasted, and nothing else, here");
-}
-
-void Selection::collapse(const CallArguments& arguments) {
-    constexpr std::int32_t toEnd = 0;
-    constexpr std::int32_t toStart = 1;
-    if (arguments.at(0, toStart).toLong() != toEnd)
-        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                      "A selection collapses to its end here");
 }
 
 void Selection::paste(PasteAs as, Anchoring anchoring, const std::string& source) {
@@ -296,6 +288,14 @@ void Selection::setStyle(const CallArguments& arguments, const Value& number) {
 }
 
 }  // namespace
+
+void requireCollapseToEnd(const CallArguments& arguments) {
+    constexpr std::int32_t toEnd = 0;
+    constexpr std::int32_t toStart = 1;
+    if (arguments.at(0, toStart).toLong() != toEnd)
+        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
+                      "It collapses to its end here");
+}
 
 Object paragraphFormatObject(const InDocument& home, ChangeParagraph change) {
     return makeObject<ParagraphFormat>(home, change);

@@ -148,7 +148,6 @@ public:
     virtual std::int32_t objectCount(Anchoring anchoring) = 0;
     /// Null if there is none at this place.
     virtual TextObjectPtr objectAt(Anchoring anchoring, std::int32_t place) = 0;
-    virtual std::int32_t tableCount() = 0;
     /// The object over the text that alone is selected; null if there is none.
     virtual TextObjectPtr selectedObject() = 0;
 
@@ -175,7 +174,6 @@ public:
     TextDocuments& operator=(const TextDocuments&) = delete;
     virtual ~TextDocuments() = default;
 
-    virtual std::string version() = 0;
     virtual std::vector<TextDocumentPtr> open() = 0;
     /// The one that was used last; null with none open.
     virtual TextDocumentPtr active() = 0;

@@ -360,16 +360,6 @@ word::TextObjectPtr FileDocument::objectAt(word::Anchoring anchoring, std::int32
     return nullptr;
 }
 
-std::int32_t FileDocument::tableCount() {
-    std::int32_t count = 0;
-    visitInOrder(body_, [&](pugi::xml_node element) {
-        const bool isTable = isNamed(element, ns::word, "tbl");
-        if (isTable) ++count;
-        return !isTable && !isNamed(element, ns::word, "p");
-    });
-    return count;
-}
-
 word::TextObjectPtr FileDocument::selectedObject() {
     const auto object = selected_.lock();
     const bool counts =

@@ -81,7 +81,6 @@ public:
     void insertCaption(const word::Caption& caption) override;
     std::int32_t objectCount(word::Anchoring anchoring) override;
     word::TextObjectPtr objectAt(word::Anchoring anchoring, std::int32_t place) override;
-    std::int32_t tableCount() override;
     word::TextObjectPtr selectedObject() override;
     word::TextObjectPtr pasted() override;
     CopiedPtr copied() override { return rules_->clipboard ? rules_->clipboard->copied : nullptr; }

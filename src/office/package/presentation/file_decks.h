@@ -9,6 +9,7 @@ namespace office::package {
 class FileDecks : public OpenFiles<model::Decks, model::Deck, FileDeck> {
 public:
     using OpenFiles::OpenFiles;
+    std::string version() override { return "16.0"; }
     model::DeckPtr create(bool withWindow) override;
 };
 
