@@ -9,21 +9,8 @@ namespace apps {
 
 namespace {
 
+using office::characterAt;
 using office::characterLength;
-
-unsigned char byteAt(std::string_view text, std::size_t at) {
-    return static_cast<unsigned char>(text[at]);
-}
-
-char32_t characterAt(std::string_view text, std::size_t at, std::size_t length) {
-    const unsigned char lead = byteAt(text, at);
-    if (length == 1) return lead;
-    char32_t character = lead & (0x7FU >> length);
-    for (std::size_t i = 1; i < length; ++i) {
-        character = character << 6U | (byteAt(text, at + i) & 0x3FU);
-    }
-    return character;
-}
 
 struct CharacterRange {
     char32_t first;
@@ -69,7 +56,7 @@ std::size_t columnCount(std::string_view text) {
     std::size_t columns = 0;
     for (std::size_t at = 0; at < text.size();) {
         const std::size_t length = std::max<std::size_t>(1, characterLength(text, at));
-        columns += columnsOf(characterAt(text, at, length));
+        columns += columnsOf(characterAt(text, at));
         at += length;
     }
     return columns;
@@ -80,7 +67,7 @@ std::string printable(std::string_view text, std::string_view kept) {
     for (std::size_t at = 0; at < text.size();) {
         const std::size_t length = std::max<std::size_t>(1, characterLength(text, at));
         const std::string_view own = text.substr(at, length);
-        const char32_t character = characterAt(text, at, length);
+        const char32_t character = characterAt(text, at);
         const bool isControl = character < 0x20 || (character >= 0x7F && character < 0xA0);
         shown += isControl && kept.find(own) == std::string_view::npos ? " " : own;
         at += length;

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <string>
 #include <string_view>
 
 #include "furniture/palette.h"
+#include "office/text.h"
 
 namespace furniture {
 
@@ -78,27 +78,14 @@ constexpr std::array<Rule, 10> rules = {{
 }};
 constexpr Rule otherButtons = {{}, StyleNeutralButton, Words::Own, "OK", 9.75};
 
-std::string lowerCase(std::string_view text) {
-    std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](unsigned char sign) { return static_cast<char>(std::tolower(sign)); });
-    return lower;
-}
-
-std::string trimmed(const std::string& text) {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 void apply(const Rule& rule, forms::CommandButton& button) {
-    std::string caption = rule.words == Words::Own ? trimmed(button.caption) : std::string();
+    std::string caption(rule.words == Words::Own ? office::trim(button.caption) : "");
     if (caption.empty()) caption = rule.caption;
     rule.style(button, caption, rule.sizePt);
 }
 
 void themeButton(forms::CommandButton& button) {
-    const std::string name = lowerCase(button.name());
+    const std::string name = office::lowerCase(button.name());
     const auto* rule =
         std::find_if(rules.begin(), rules.end(), [&](const Rule& one) { return one.name == name; });
     if (rule != rules.end()) {

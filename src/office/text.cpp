@@ -1,5 +1,6 @@
 #include "office/text.h"
 
+#include <fmt/format.h>
 #include <unicode/coll.h>
 #include <unicode/unistr.h>
 
@@ -110,6 +111,22 @@ std::size_t characterLength(std::string_view text, std::size_t at) {
     const bool wrong = (lead == 0xE0U && second < 0xA0U) || (lead == 0xEDU && second > 0x9FU) ||
                        (lead == 0xF0U && second < 0x90U) || (lead == 0xF4U && second > 0x8FU);
     return wrong ? 0 : length;
+}
+
+char32_t characterAt(std::string_view text, std::size_t at) {
+    const std::size_t length = characterLength(text, at);
+    const auto lead = static_cast<unsigned char>(text[at]);
+    if (length < 2) return lead;
+    char32_t character = lead & (0x7FU >> length);
+    for (const char byte : text.substr(at + 1, length - 1))
+        character = character << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
+    return character;
+}
+
+std::string colourText(std::int32_t colour) {
+    const auto bits = static_cast<std::uint32_t>(colour);
+    return fmt::format("#{:02x}{:02x}{:02x}", bits & 0xFFU, bits >> 8U & 0xFFU,
+                       bits >> 16U & 0xFFU);
 }
 
 double leadingNumber(std::string_view text) {

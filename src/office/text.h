@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -35,11 +37,17 @@ namespace office {
 /// With the five characters that mean something in markup replaced.
 [[nodiscard]] std::string escapeMarkup(std::string_view text);
 
+/// A colour as style sheets have it, "#rrggbb"; red is its lowest byte.
+[[nodiscard]] std::string colourText(std::int32_t colour);
+
 /// The user's language as pages name it: "de".
 [[nodiscard]] std::string userLanguage();
 
 /// Bytes of the character that begins at a byte of the text; 0 if none does that is well-formed.
 [[nodiscard]] std::size_t characterLength(std::string_view text, std::size_t at);
+
+/// That character. A byte that begins none stands for itself.
+[[nodiscard]] char32_t characterAt(std::string_view text, std::size_t at);
 
 /// The number that a text begins with, the way `Val` reads it: blanks skipped, a point as decimal
 /// mark, 0 when there is none. "12 px" is 12, "abc" is 0.

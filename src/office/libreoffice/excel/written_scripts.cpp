@@ -4,6 +4,8 @@
 #include <array>
 #include <cstdint>
 
+#include "office/text.h"
+
 namespace libreoffice::excel {
 
 namespace {
@@ -27,23 +29,16 @@ constexpr std::array<Block, 11> intricate = {{
     {0x10000, 0x10FFFF},  // emoji, and scripts of the past
 }};
 
-/// What follows the first byte of a character, in bits to the byte.
-constexpr std::uint32_t continued = 6;
-
 }  // namespace
 
 bool isIntricate(std::string_view text) {
-    std::uint32_t character = 0;
-    const auto belongs = [&](const Block& block) {
-        return character >= block.first && character <= block.last;
-    };
-    for (std::size_t i = 0; i < text.size();) {
-        const auto byte = static_cast<std::uint8_t>(text[i++]);
-        if (byte < 0x80) continue;
-        character = byte >= 0xF0 ? byte & 0x07U : byte >= 0xE0 ? byte & 0x0FU : byte & 0x1FU;
-        while (i < text.size() && (static_cast<std::uint8_t>(text[i]) & 0xC0U) == 0x80U)
-            character = character << continued | (static_cast<std::uint8_t>(text[i++]) & 0x3FU);
-        if (std::any_of(intricate.begin(), intricate.end(), belongs)) return true;
+    for (std::size_t at = 0; at < text.size();
+         at += std::max<std::size_t>(1, office::characterLength(text, at))) {
+        const char32_t character = office::characterAt(text, at);
+        if (std::any_of(intricate.begin(), intricate.end(), [&](const Block& block) {
+                return character >= block.first && character <= block.last;
+            }))
+            return true;
     }
     return false;
 }

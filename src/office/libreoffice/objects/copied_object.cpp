@@ -7,6 +7,7 @@
 
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/objects/sheet_copy.h"
+#include "office/model/refusal.h"
 
 namespace libreoffice::objects {
 
@@ -53,6 +54,13 @@ css::awt::Rectangle areaOf(const excel::CopiedHere& copied) {
 }
 
 }  // namespace
+
+const excel::CopiedHere& copiedHere(const office::Copied& copied, const char* member) {
+    const auto* here = dynamic_cast<const excel::CopiedHere*>(&copied);
+    if (here == nullptr || copied.source().kind == office::CopySource::Kind::Picture)
+        office::model::refuse(member, "It can't be pasted in this form");
+    return *here;
+}
 
 void storeChart(NewObject& object, const excel::CopiedChart& chart) {
     const auto model = property<uno::Reference<uno::XInterface>>(chart.shape(), "Model");

@@ -10,6 +10,10 @@
 /// to stand in.
 namespace libreoffice::objects {
 
+/// What was copied here, with all that this suite knows of it. `office::Failure` 1004 of a member
+/// for a picture, and for what another program has copied.
+[[nodiscard]] const excel::CopiedHere& copiedHere(const office::Copied& copied, const char* member);
+
 /// Fills an object with a chart. As a document of another kind has no cells, the chart that is read
 /// from there takes its values from the table that is stored with it.
 void storeChart(NewObject& object, const excel::CopiedChart& chart);

@@ -26,12 +26,6 @@ std::string points(double length) {
     return fmt::format("{:.3f}pt", length);
 }
 
-std::string colour(std::int32_t blueGreenRed) {
-    const auto value = static_cast<std::uint32_t>(blueGreenRed);
-    return fmt::format("#{:02x}{:02x}{:02x}", value & 0xFFU, value >> 8U & 0xFFU,
-                       value >> 16U & 0xFFU);
-}
-
 void setAttributes(pugi::xml_node node,
                    std::initializer_list<std::pair<const char*, std::string>> attributes) {
     for (const auto& [name, value] : attributes)
@@ -192,7 +186,7 @@ std::string TableDocument::line(const CellLine& line) const {
     if (line.style == CellLine::Style::Dotted) kind = "dotted";
     if (line.style == CellLine::Style::Double) kind = "double";
     return fmt::format("{} {} {}", points(std::max(thinnest, line.widthPt * scale_)), kind,
-                       colour(line.colour));
+                       office::colourText(line.colour));
 }
 
 std::string TableDocument::cellStyle(const CellLook& cell) {
@@ -218,7 +212,7 @@ constexpr std::array<const char*, 3> heightsInCell = {"top", "middle", "bottom"}
 TableDocument::Attributes TableDocument::fillOf(const CellLook& cell) {
     if (!cell.bar || cell.bar->from >= cell.bar->to) {
         if (!cell.fill) return {{"draw:fill", "none"}};
-        return {{"draw:fill", "solid"}, {"draw:fill-color", colour(*cell.fill)}};
+        return {{"draw:fill", "solid"}, {"draw:fill-color", office::colourText(*cell.fill)}};
     }
     const std::string name = fmt::format("bar{}", namesOfStyles_.size());
     const auto& [from, to, left, right] = *cell.bar;
@@ -239,7 +233,7 @@ TableDocument::Attributes TableDocument::fillOf(const CellLook& cell) {
         setAttributes(colours.append_child("loext:gradient-stop"),
                       {{"svg:offset", fmt::format("{:.5f}", share)},
                        {"loext:color-type", "rgb"},
-                       {"loext:color-value", colour(there)}});
+                       {"loext:color-value", office::colourText(there)}});
     Attributes fill = {{"draw:fill", "gradient"}, {"draw:fill-gradient-name", name}};
     if (cell.fill) return fill;
     pugi::xml_node opacity = addGradient("draw:opacity");
@@ -270,7 +264,7 @@ std::vector<TableDocument::StylePart> TableDocument::writtenCell(const CellLook&
                                                                  Attributes area,
                                                                  const Attributes& lines) {
     constexpr std::int32_t upwards = 90;
-    if (cell.fill) area.emplace_back("fo:background-color", colour(*cell.fill));
+    if (cell.fill) area.emplace_back("fo:background-color", office::colourText(*cell.fill));
     area.emplace_back("style:vertical-align",
                       heightsInCell.at(static_cast<std::size_t>(cell.down)));
     if (cell.rotation != 0)
@@ -301,7 +295,7 @@ std::string TableDocument::paragraphStyle(const CellLook& cell) {
     }
     // A sheet is drawn so, and wider words would be broken.
     if (kind_ == Kind::Drawing) letters.emplace_back("style:letter-kerning", "true");
-    letters.emplace_back("fo:color", colour(cell.fontColour));
+    letters.emplace_back("fo:color", office::colourText(cell.fontColour));
     letters.emplace_back("style:text-underline-style", cell.isUnderlined ? "solid" : "none");
     letters.emplace_back("style:text-line-through-style", cell.isStruckOut ? "solid" : "none");
     return styled("paragraph",

@@ -2,13 +2,13 @@
 
 #include <com/sun/star/graphic/XGraphic.hpp>
 
-#include "office/failure.h"
 #include "office/libreoffice/at_end.h"
 #include "office/libreoffice/excel/copied.h"
 #include "office/libreoffice/objects/copied_object.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/units.h"
 #include "office/model/powerpoint/paste.h"
+#include "office/model/refusal.h"
 
 namespace libreoffice::powerpoint {
 
@@ -21,17 +21,7 @@ css::awt::Size onPaper(const model::Size& size) {
     return {hundredthMmOf(size.width), hundredthMmOf(size.height)};
 }
 
-[[noreturn]] void failOnForm() {
-    throw office::Failure(office::FailureNumber::ApplicationDefined, "Shapes.PasteSpecial",
-                          "It can't be pasted in this form");
-}
-
-/// What was copied, with all that this suite knows of it.
-const excel::CopiedHere& copiedHere(const office::Copied& copied) {
-    const auto* here = dynamic_cast<const excel::CopiedHere*>(&copied);
-    if (here == nullptr || copied.source().kind == CopySource::Kind::Picture) failOnForm();
-    return *here;
-}
+constexpr const char* pasteSpecial = "Shapes.PasteSpecial";
 
 // What a paste makes, each on top of the slide's other shapes, in the size given; nothing is put
 // there if it fails. Neither the clipboard nor a window is touched.
@@ -69,8 +59,7 @@ ShapeRef addWorkbook(ImpressSlide& slide, const excel::CopiedHere& copied,
 /// An object bound to the workbook's file, with the copied thing's picture.
 ShapeRef addLink(ImpressSlide& slide, const excel::CopiedHere& copied, const css::awt::Size& size) {
     if (copied.source().file.empty())
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "Shapes.PasteSpecial",
-                              "The workbook has to be saved before it can be linked");
+        office::model::refuse(pasteSpecial, "The workbook has to be saved before it can be linked");
     const uno::Any picture(copied.graphic());
     NewShape made(slide);
     // An object without a picture is drawn from the file. The window that draws it loads the file
@@ -104,12 +93,15 @@ model::DeckShapePtr ImpressSlide::paste(const office::Copied& copied, PasteAs as
         return addPicture(copied.picture(office::Sharpness::Crisp), place.size, place.corner);
     const css::awt::Size size = onPaper(place.size);
     if (as == PasteAs::Embedded)
-        return pasted(addWorkbook(*this, copiedHere(copied), size), "Object", place.corner);
+        return pasted(addWorkbook(*this, objects::copiedHere(copied, pasteSpecial), size), "Object",
+                      place.corner);
     if (as == PasteAs::Linked)
-        return pasted(addLink(*this, copiedHere(copied), size), "Object", place.corner);
+        return pasted(addLink(*this, objects::copiedHere(copied, pasteSpecial), size), "Object",
+                      place.corner);
     if (const auto* chart = dynamic_cast<const excel::CopiedChart*>(&copied))
         return pasted(addChart(*this, *chart, size), "Chart", place.corner);
-    if (copied.source().kind != CopySource::Kind::Cells) failOnForm();
+    if (copied.source().kind != CopySource::Kind::Cells)
+        office::model::refuse(pasteSpecial, "It can't be pasted in this form");
     return pasted(addTable(*this, copied.table(), place.scale), "Table", place.corner);
 }
 

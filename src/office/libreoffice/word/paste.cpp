@@ -30,14 +30,6 @@ constexpr const char* member = "Selection.PasteSpecial";
     throw Failure(FailureNumber::ApplicationDefined, member, why);
 }
 
-/// What was copied, with all that this suite knows of it.
-const excel::CopiedHere& copiedHere(const office::Copied& copied) {
-    const auto* here = dynamic_cast<const excel::CopiedHere*>(&copied);
-    if (here == nullptr || copied.source().kind == CopySource::Kind::Picture)
-        fail("It can't be pasted in this form");
-    return *here;
-}
-
 /// In vectors, so that its text is text in a PDF, unless dots are all there is.
 uno::Reference<css::graphic::XGraphic> pictureOf(const office::Copied& copied,
                                                  const Connection& connection) {
@@ -159,7 +151,7 @@ void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anch
         insertTable(place, copied.table());
         return;
     }
-    const excel::CopiedHere& here = copiedHere(copied);
+    const excel::CopiedHere& here = objects::copiedHere(copied, member);
     objects::NewObject object(model());
     const auto picture = as == PasteAs::Embedded ? here.graphic() : nullptr;
     if (as == PasteAs::Embedded) {

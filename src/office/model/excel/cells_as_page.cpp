@@ -22,12 +22,6 @@ std::string pixels(double points) {
     return text + "px";
 }
 
-std::string colourText(std::int32_t colour) {
-    const auto bits = static_cast<std::uint32_t>(colour);
-    return fmt::format("#{:02x}{:02x}{:02x}", bits & 0xFFU, bits >> 8U & 0xFFU,
-                       bits >> 16U & 0xFFU);
-}
-
 /// The name of a font comes from the workbook, and may hold what ends a text in a style.
 std::string fontFamily(const std::string& name) {
     std::string plain;
