@@ -223,7 +223,7 @@ TEST_F(PasteLive, EmbedsTheChartOfAChartSheetThatLibreOfficeLoses) {
 }
 
 TEST_F(PasteLive, MakesValuesOfFormulasThatLeadToOtherSheets) {
-    const auto source = desk->activeWorkbook()->model();
+    const auto source = desk->active<excel::CalcDocument>()->model();
     const auto names = property<uno::Reference<css::sheet::XNamedRanges>>(source, "NamedRanges");
     names->addNewByName("Away", "$Data.$B$2:$B$4", {}, 0);
     names->addNewByName("FarAway", "SUM(Away)", {}, 0);

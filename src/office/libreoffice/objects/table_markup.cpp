@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+#include "office/text.h"
+
 namespace libreoffice::objects {
 
 namespace {
