@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -56,9 +57,18 @@ private:
 
 using CopiedPtr = std::shared_ptr<const Copied>;
 
+/// As wide as something is to be, but no higher than that.
+struct RoomForTable {
+    double widthPt = 0;
+    double heightPt = 0;
+};
+
 /// Where the applications of one machine leave what was copied, for each other.
 struct Clipboard {
     CopiedPtr copied;
+    /// What a table that is pasted now will be made to fit into. One that is pasted in that size
+    /// has its letters in proportion, where a suite stretches columns and rows alone.
+    std::optional<RoomForTable> room = {};
 };
 
 using ClipboardPtr = std::shared_ptr<Clipboard>;

@@ -38,6 +38,7 @@ private:
     void prepare();
     void exportRow(const TakenRow& taken);
     [[nodiscard]] Object showSlideOf(const TakenRow& taken);
+    [[nodiscard]] bool insert(const ExportItem& row, const Object& slide);
     void finishItem(const ExportItem& row, const Object& slide, bool isThere);
     void styleLastShape(const Object& shapes);
     void removeSlidesLeft();
@@ -110,7 +111,7 @@ void BatchFrame::exportRow(const TakenRow& taken) {
     const auto work = [&] {
         const Object slide = showSlideOf(taken);
         catalogue::ProgressStep(session_, done_ + 1, static_cast<std::int32_t>(rows_.size()));
-        const bool isThere = route_.insertItem(session_, row, slide);
+        const bool isThere = insert(row, slide);
         if (isThere) ++exported_;
         finishItem(row, slide, isThere);
         const auto unselect = [&] { window_.get("Selection").call("Unselect"); };
@@ -137,6 +138,23 @@ Object BatchFrame::showSlideOf(const TakenRow& taken) {
     const Object& slide = newSlides_.at(static_cast<std::size_t>(done_));
     window_.get("View").call("GotoSlide", slide.get("SlideIndex"));
     return slide;
+}
+
+/// A table is told its room: it is drawn for the size in which it comes.
+bool BatchFrame::insert(const ExportItem& row, const Object& slide) {
+    struct Room {
+        office::Clipboard& clipboard;
+        ~Room() { clipboard.room.reset(); }
+    } const room{*session_.suite.clipboard()};
+    const bool isTable = batch_.choices.format == catalogue::ExportFormat::Editable &&
+                         !row.isChartSheet() && !row.isEmbeddedChart();
+    if (isTable && batch_.options.placesShapes) {
+        office::ContinueOnFailure().attempt([&] {
+            room.clipboard.room =
+                RoomForLastShape(session_, slide.get("Shapes").toObject(), title_);
+        });
+    }
+    return route_.insertItem(session_, row, slide);
 }
 
 /// An item that isn't there leaves the slide's other shapes as they are.

@@ -59,14 +59,24 @@ double leftOf(const session::Placement& placement, const SlideSize& slide, doubl
     return slide.widthPt * std::clamp(*placement.left, 0.0, 1 - smallestShare);
 }
 
+double widthOf(const session::Placement& placement, const SlideSize& slide) {
+    return slide.widthPt * std::clamp(placement.width.value_or(defaultShare), smallestShare, 1.0);
+}
+
+/// What can't be read is left to the program's choice.
+session::Placement placementOf(OfficeSession& session) {
+    session::Placement placement;
+    office::ContinueOnFailure().attempt([&] { placement = session::readStoredPlacement(session); });
+    return placement;
+}
+
 /// `shape` keeps its proportions while it is moved: each change of a width or a height changes the
 /// other one too, so both are read back after it.
 void moveShape(const Object& shape, double topPt, const session::Placement& placement,
                const SlideSize& slide) {
     shape.put("LockAspectRatio", true);
     shape.put("Top", topPt);
-    const double share = placement.width.value_or(defaultShare);
-    shape.put("Width", slide.widthPt * std::clamp(share, smallestShare, 1.0));
+    shape.put("Width", widthOf(placement, slide));
     double widthPt = shape.get("Width").toDouble();
 
     const double placedTopPt = shape.get("Top").toDouble();
@@ -114,15 +124,24 @@ void PlaceLastShape(OfficeSession& session, const Object& shapes, TitlePlace& ti
     {
         const session::PowerPointWindowLockScope lock(session);
         const SlideSize slide = slideSizeOf(session.SessionPresentation);
-        // What can't be read is left to the program's choice.
-        office::ContinueOnFailure scope;
-        session::Placement placement;
-        scope.attempt([&] { placement = session::readStoredPlacement(session); });
-        scope.attempt([&] { readTitle(shapes, title); });
+        const session::Placement placement = placementOf(session);
+        office::ContinueOnFailure().attempt([&] { readTitle(shapes, title); });
         moveShape(shapes.get("Item", shapes.get("Count").toLong()).toObject(),
                   topOf(placement, title, slide), placement, slide);
     }
     session.suite.clearClipboard();
+}
+
+std::optional<office::RoomForTable> RoomForLastShape(OfficeSession& session, const Object& shapes,
+                                                     TitlePlace title) {
+    if (!session::SheetExists(session, session::store::sheetName)) return std::nullopt;
+    const SlideSize slide = slideSizeOf(session.SessionPresentation);
+    const session::Placement placement = placementOf(session);
+    office::ContinueOnFailure().attempt([&] { readTitle(shapes, title); });
+    const double widthPt = widthOf(placement, slide);
+    const double leftPt = leftOf(placement, slide, widthPt);
+    return office::RoomForTable{std::min(widthPt, slide.widthPt - leftPt),
+                                slide.heightPt * bottomShare - topOf(placement, title, slide)};
 }
 
 void AddSourceLine(OfficeSession& session, const Object& shapes) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+
+#include "office/copied.h"
 #include "office/value.h"
 #include "session/office_session.h"
 
@@ -23,6 +26,12 @@ struct TitlePlace {
 /// Does nothing without a store; failures go to the caller.
 void PlaceLastShape(session::OfficeSession& session, const office::Object& shapes,
                     TitlePlace& title);
+
+/// What there is room for where `PlaceLastShape` will place a shape on this slide; nothing if it
+/// won't. Failures go to the caller.
+[[nodiscard]] std::optional<office::RoomForTable> RoomForLastShape(session::OfficeSession& session,
+                                                                   const office::Object& shapes,
+                                                                   TitlePlace title);
 
 /// Writes the workbook's full path in small grey letters below a slide's shapes. Failures go to the
 /// caller.

@@ -144,6 +144,20 @@ TEST_F(PasteLive, MakesTablesThatComeBackFromFiles) {
     }
 }
 
+TEST_F(PasteLive, MakesATableInTheSizeOfItsRoom) {
+    const auto place = desk->activePresentation()->slideAt(3);
+    for (const auto& [room, scale] :
+         {std::pair(office::RoomForTable{480, 400}, 2.0), {{480, 25}, 0.5}}) {
+        desk->clipboard().room = room;
+        const auto shape =
+            place->paste(support::CopiedDouble(smallTable()), office::PasteAs::Default);
+        EXPECT_NEAR(shape->size().width, 240 * scale, 1);
+        const auto table = kept(property<uno::Reference<css::table::XTable>>(lastShape(), "Model"));
+        const auto text = kept(as<css::text::XText>(table->getCellByPosition(0, 0)));
+        EXPECT_NEAR(property<float>(kept(text->createTextCursor()), "CharHeight"), 10 * scale, 0.1);
+    }
+}
+
 TEST_F(PasteLive, MakesChartsAndWorkbooksThatHoldTheirData) {
     const Value shapes = slide(deck, 3).get("Shapes");
     for (const std::int32_t form : {0, 10}) {

@@ -116,6 +116,26 @@ TEST_F(FormatsTest, CellsThatMakeNoTableAreToldAndTheBatchGoesOn) {
     EXPECT_EQ(picturesOn(3), Texts{"Second"});
 }
 
+TEST_F(FormatsTest, ATableIsPastedWithTheRoomKnownThatItIsPlacedIn) {
+    add(rangeRow("Total", "Sales"));
+    add(chartRow("Chart 1", "Sales"));
+    storePlacement(0.5, 0.4, 0.8);
+    options.placesShapes = true;
+    std::vector<std::optional<office::RoomForTable>> rooms;
+    suite.log().clear();
+    host.onEvents = [&] {
+        if (suite.log().count("PasteSpecial") > rooms.size())
+            rooms.push_back(suite.clipboard()->room);
+    };
+    exportAs(ExportFormat::Editable);
+    ASSERT_EQ(rooms.size(), 2U);
+    ASSERT_TRUE(rooms.front());
+    EXPECT_NEAR(rooms.front()->widthPt, 960 * 0.2, 1e-6) << "up to the right edge";
+    EXPECT_NEAR(rooms.front()->heightPt, 540 * 0.45, 1e-6);
+    EXPECT_FALSE(rooms.back()) << "a chart keeps the size of its text";
+    EXPECT_FALSE(suite.clipboard()->room);
+}
+
 TEST_F(FormatsTest, AnEditableChartThatIsGoneFailsAndASheetStandsForItsFirstChart) {
     add(chartSheetRow("Sales"));
     book.sheet("Empty");

@@ -2,6 +2,8 @@
 
 #include <com/sun/star/graphic/XGraphic.hpp>
 
+#include <algorithm>
+
 #include "office/libreoffice/at_end.h"
 #include "office/libreoffice/excel/copied.h"
 #include "office/libreoffice/objects/copied_object.h"
@@ -102,7 +104,12 @@ model::DeckShapePtr ImpressSlide::paste(const office::Copied& copied, PasteAs as
         return pasted(addChart(*this, *chart, size), "Chart", place.corner);
     if (copied.source().kind != CopySource::Kind::Cells)
         office::model::refuse(pasteSpecial, "It can't be pasted in this form");
-    return pasted(addTable(*this, copied.table(), place.scale), "Table", place.corner);
+    const office::TableLook table = copied.table();
+    double scale = place.scale;
+    // LibreOffice doesn't scale the text with the table later.
+    if (const auto& room = deck_.desk().clipboard().room)
+        scale = std::min(room->widthPt / table.widthPt(), room->heightPt / table.heightPt());
+    return pasted(addTable(*this, table, scale), "Table", place.corner);
 }
 
 ImpressShapePtr ImpressSlide::pasted(const ShapeRef& reference, std::string_view kind,
