@@ -4,9 +4,12 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <system_error>
 
+#include "office/failure.h"
 #include "office/package/xml.h"
+#include "office/text.h"
 
 namespace office::package {
 
@@ -33,6 +36,9 @@ std::string mainPartOf(Package& package, std::span<const std::string_view> types
     throw PackageError(Fault::NotAPackage, fmt::format("it is no {}", kind));
 }
 
+namespace {
+
+/// With what signs them.
 void dropMacros(Package& package, const std::string& main) {
     Relationships& relationships = package.relationshipsOf(main);
     const Relationship* const macros = relationships.ofType(macroProject);
@@ -41,6 +47,22 @@ void dropMacros(Package& package, const std::string& main) {
     relationships.remove(macros->id);
     // Their signatures hang on them.
     package.removeWithTargets(part);
+}
+
+}  // namespace
+
+void becomeFileOf(const std::string& path, const FileKind (&kinds)[2], Package& package,
+                  const std::string& main, const std::string& className) {
+    const std::string lower = lowerCase(path);
+    const auto* const kind = std::find_if(std::begin(kinds), std::end(kinds), [&](const auto& one) {
+        return lower.ends_with(one.ending);
+    });
+    if (kind == std::end(kinds))
+        throw Failure(FailureNumber::InvalidProcedureCall, className + ".SaveCopyAs",
+                      fmt::format("A {} is saved as {} or {}, not as {}", lowerCase(className),
+                                  kinds[0].ending, kinds[1].ending, path));
+    package.setContentType(main, kind->contentType);
+    if (!kind->keepsMacros) dropMacros(package, main);
 }
 
 void saveOver(Package& package, const std::string& path) {

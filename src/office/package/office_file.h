@@ -33,8 +33,18 @@ struct FileFacts {
 [[nodiscard]] std::string mainPartOf(Package& package, std::span<const std::string_view> types,
                                      const char* kind);
 
-/// Takes out the macros of the part that a package is about, with what signs them.
-void dropMacros(Package& package, const std::string& main);
+/// A kind of file that a package about something can be saved as.
+struct FileKind {
+    std::string_view ending;
+    /// What the part says that the package is about.
+    const char* contentType;
+    bool keepsMacros;
+};
+/// Makes a package the kind of file that a path ends as; macros and what signs them go where it
+/// keeps none. `Failure` 5, of the class's `SaveCopyAs`, for another ending than those of the
+/// kinds.
+void becomeFileOf(const std::string& path, const FileKind (&kinds)[2], Package& package,
+                  const std::string& main, const std::string& className);
 
 /// Writes a package to a file; what stands there is replaced by the whole, or stays.
 /// `PackageError`.

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -27,6 +28,53 @@ public:
                           fmt::format("{}.{}", use.className, use.member), error.what());
         }
     }
+};
+
+/// A presentation or document in a package: what both have, whatever is in them. `Self` has
+/// `markGone`.
+template <class Model, class Self>
+class OpenFile : public Model, public std::enable_shared_from_this<Self> {
+public:
+    /// `path` is empty for one that has no file yet. `mainPart` finds the part that the package is
+    /// about.
+    OpenFile(Package package, std::string path, std::string name, FileRulesPtr rules,
+             std::string (*mainPart)(Package&))
+        : package_(std::move(package)),
+          path_(std::move(path)),
+          name_(std::move(name)),
+          rules_(std::move(rules)),
+          main_(mainPart(package_)) {}
+
+    [[nodiscard]] Package& package() { return package_; }
+    [[nodiscard]] const FileRules& rules() const { return *rules_; }
+    /// What is called when it is closed.
+    void onClosed(std::function<void(Self&)> closed) { closed_ = std::move(closed); }
+    void onActivated(std::function<void(Self&)> activated) { activated_ = std::move(activated); }
+
+    [[nodiscard]] bool isGone() const override { return isGone_; }
+    std::string name() override { return name_; }
+    std::string fullName() override { return path_.empty() ? name_ : path_; }
+    CopiedPtr copied() override { return rules_->clipboard ? rules_->clipboard->copied : nullptr; }
+    void activate() override { activated_(*this->shared_from_this()); }
+    void close() override {
+        // Whoever is called lets go of it.
+        const auto self = this->shared_from_this();
+        closed_(*self);
+    }
+
+protected:
+    Package package_;
+    std::string path_;
+    std::string name_;
+    FileRulesPtr rules_;
+    std::string main_;
+    /// Whether the main part is another than it was.
+    bool isChanged_ = false;
+    bool isGone_ = false;
+
+private:
+    std::function<void(Self&)> closed_;
+    std::function<void(Self&)> activated_;
 };
 
 /// The presentations or documents that an application has open, as files or to become such.

@@ -45,11 +45,8 @@ std::string documentPartOf(Package& package) {
 }
 
 FileDocument::FileDocument(Package package, std::string path, std::string name, FileRulesPtr rules)
-    : package_(std::move(package)),
-      path_(std::move(path)),
-      name_(std::move(name)),
-      rules_(std::move(rules)),
-      main_(documentPartOf(package_)),
+    : OpenFile(std::move(package), std::move(path), std::move(name), std::move(rules),
+               documentPartOf),
       xml_(package_.read(main_), main_),
       body_(childNamed(xml_.root(), ns::word, "body")),
       styles_(package_, main_),
@@ -368,13 +365,8 @@ word::TextObjectPtr FileDocument::selectedObject() {
 }
 
 void FileDocument::saveCopy(const std::string& path) {
-    const std::string lower = lowerCase(path);
-    const bool keepsMacros = lower.ends_with(".docm");
-    if (!keepsMacros && !lower.ends_with(".docx"))
-        throw Failure(FailureNumber::InvalidProcedureCall, "Document.SaveCopyAs",
-                      "A document is saved as .docx or .docm, not as " + path);
-    package_.setContentType(main_, keepsMacros ? macroDocument : plainDocument);
-    if (!keepsMacros) dropMacros(package_, main_);
+    becomeFileOf(path, {{".docx", plainDocument, false}, {".docm", macroDocument, true}}, package_,
+                 main_, "Document");
     styles_.write();
     if (isChanged_) package_.replace(main_, xml_.bytes());
     saveOver(package_, path);
@@ -383,12 +375,6 @@ void FileDocument::saveCopy(const std::string& path) {
 void FileDocument::exportPdf(const std::string& /*path*/, const word::PdfOptions& /*options*/) {
     office::model::refuse("Document.ExportAsFixedFormat",
                           "A document that is open as a file alone has no pages to export");
-}
-
-void FileDocument::close() {
-    // Whoever is called lets go of it.
-    const auto self = shared_from_this();
-    closed_(*this);
 }
 
 void FileDocument::markGone() {

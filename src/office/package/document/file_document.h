@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
@@ -14,7 +13,7 @@
 #include "office/package/document/file_object.h"
 #include "office/package/drawing/chart_parts.h"
 #include "office/package/file_rules.h"
-#include "office/package/package.h"
+#include "office/package/open_files.h"
 #include "office/package/xml.h"
 
 namespace office::package {
@@ -23,14 +22,12 @@ namespace word = office::model::word;
 
 /// A document in a package. Its caret stands in a paragraph, and nothing is ever selected but an
 /// object.
-class FileDocument : public word::TextDocument, public std::enable_shared_from_this<FileDocument> {
+class FileDocument : public OpenFile<word::TextDocument, FileDocument> {
 public:
     /// `path` is empty for a document that has no file yet. `PackageError` if the package is
     /// damaged or no document.
     FileDocument(Package package, std::string path, std::string name, FileRulesPtr rules);
 
-    [[nodiscard]] Package& package() { return package_; }
-    [[nodiscard]] const FileRules& rules() const { return *rules_; }
     [[nodiscard]] pugi::xml_node body() const { return body_; }
     [[nodiscard]] ChartParts& charts() { return charts_; }
     /// The part with the text.
@@ -50,15 +47,7 @@ public:
     void touch() { isChanged_ = true; }
     void select(const FileObjectPtr& object) { selected_ = object; }
     void markGone();
-    /// What is called when it is closed.
-    void onClosed(std::function<void(FileDocument&)> closed) { closed_ = std::move(closed); }
-    void onActivated(std::function<void(FileDocument&)> activated) {
-        activated_ = std::move(activated);
-    }
 
-    [[nodiscard]] bool isGone() const override { return isGone_; }
-    std::string name() override { return name_; }
-    std::string fullName() override { return path_.empty() ? name_ : path_; }
     std::string title() override;
     void setTitle(const std::string& title) override;
     std::int32_t length() override;
@@ -83,13 +72,10 @@ public:
     word::TextObjectPtr objectAt(word::Anchoring anchoring, std::int32_t place) override;
     word::TextObjectPtr selectedObject() override;
     word::TextObjectPtr pasted() override;
-    CopiedPtr copied() override { return rules_->clipboard ? rules_->clipboard->copied : nullptr; }
-    void activate() override { activated_(*this); }
     /// Also with the ending .docm. A document with macros leaves them out of a .docx.
     void saveCopy(const std::string& path) override;
     /// `Failure` 1004 always: pages are made by a suite.
     void exportPdf(const std::string& path, const word::PdfOptions& options) override;
-    void close() override;
 
 private:
     /// Where typing goes to: ahead of something in a paragraph, or its end.
@@ -108,11 +94,6 @@ private:
     void readObjects();
     void readDrawingIds();
 
-    Package package_;
-    std::string path_;
-    std::string name_;
-    FileRulesPtr rules_;
-    std::string main_;
     Xml xml_;
     pugi::xml_node body_;
     DocumentStyles styles_;
@@ -125,10 +106,6 @@ private:
     bool hasShapeType_ = false;
     std::weak_ptr<FileObject> selected_;
     std::weak_ptr<FileObject> pasted_;
-    std::function<void(FileDocument&)> closed_;
-    std::function<void(FileDocument&)> activated_;
-    bool isChanged_ = false;
-    bool isGone_ = false;
 };
 
 using FileDocumentPtr = std::shared_ptr<FileDocument>;

@@ -91,11 +91,8 @@ std::string presentationPartOf(Package& package) {
 }
 
 FileDeck::FileDeck(Package package, std::string path, std::string name, FileRulesPtr rules)
-    : package_(std::move(package)),
-      path_(std::move(path)),
-      name_(std::move(name)),
-      rules_(std::move(rules)),
-      main_(presentationPartOf(package_)),
+    : OpenFile(std::move(package), std::move(path), std::move(name), std::move(rules),
+               presentationPartOf),
       presentation_(package_.read(main_), main_),
       layouts_(package_),
       charts_(package_, folderOf(main_)) {
@@ -251,13 +248,9 @@ void FileDeck::markGone() {
 }
 
 void FileDeck::saveCopy(const std::string& path) {
-    const std::string lower = lowerCase(path);
-    const bool keepsMacros = lower.ends_with(".pptm");
-    if (!keepsMacros && !lower.ends_with(".pptx"))
-        throw Failure(FailureNumber::InvalidProcedureCall, "Presentation.SaveCopyAs",
-                      "A presentation is saved as .pptx or .pptm, not as " + path);
+    becomeFileOf(path, {{".pptx", plainPresentation, false}, {".pptm", macroPresentation, true}},
+                 package_, main_, "Presentation");
     for (const auto& slide : slides_) slide->write();
-    writeKind(keepsMacros);
     try {
         writeCount();
     } catch (const PackageError&) {
@@ -265,17 +258,6 @@ void FileDeck::saveCopy(const std::string& path) {
     }
     if (isChanged_) package_.replace(main_, presentation_.bytes());
     saveOver(package_, path);
-}
-
-void FileDeck::close() {
-    // Whoever is called lets go of it.
-    const auto self = shared_from_this();
-    closed_(*this);
-}
-
-void FileDeck::writeKind(bool keepsMacros) {
-    package_.setContentType(main_, keepsMacros ? macroPresentation : plainPresentation);
-    if (!keepsMacros) dropMacros(package_, main_);
 }
 
 /// The number that file managers show.

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <set>
 #include <string>
@@ -8,7 +7,7 @@
 
 #include "office/model/powerpoint/deck.h"
 #include "office/package/drawing/chart_parts.h"
-#include "office/package/package.h"
+#include "office/package/open_files.h"
 #include "office/package/presentation/deck_file.h"
 #include "office/package/presentation/deck_layouts.h"
 #include "office/package/presentation/file_slide.h"
@@ -17,16 +16,12 @@
 namespace office::package {
 
 /// A presentation in a package. Its window remembers what it shows.
-class FileDeck : public model::Deck,
-                 private model::DeckWindow,
-                 public std::enable_shared_from_this<FileDeck> {
+class FileDeck : public OpenFile<model::Deck, FileDeck>, private model::DeckWindow {
 public:
     /// `path` is empty for a deck that has no file yet. `PackageError` if the package is damaged or
     /// no presentation.
     FileDeck(Package package, std::string path, std::string name, FileRulesPtr rules);
 
-    [[nodiscard]] Package& package() { return package_; }
-    [[nodiscard]] const FileRules& rules() const { return *rules_; }
     [[nodiscard]] const MeasureText& measure() const { return rules_->measure; }
     [[nodiscard]] DeckLayouts& layouts() { return layouts_; }
     [[nodiscard]] ChartParts& charts() { return charts_; }
@@ -37,27 +32,16 @@ public:
     [[nodiscard]] std::int32_t placeOf(const FileSlide& slide) const;
     void removeSlide(FileSlide& slide);
     void markGone();
-    /// What is called when it is closed.
-    void onClosed(std::function<void(FileDeck&)> closed) { closed_ = std::move(closed); }
-    void onActivated(std::function<void(FileDeck&)> activated) {
-        activated_ = std::move(activated);
-    }
 
-    [[nodiscard]] bool isGone() const override { return isGone_; }
-    std::string name() override { return name_; }
-    std::string fullName() override { return path_.empty() ? name_ : path_; }
     model::Size slideSize() override;
     std::int32_t slideCount() override { return static_cast<std::int32_t>(slides_.size()); }
     model::DeckSlidePtr slideAt(std::int32_t place) override;
     model::DeckSlidePtr addSlide(std::int32_t place, std::int32_t layout) override;
     model::DeckWindow& window() override { return *this; }
-    CopiedPtr copied() override { return rules_->clipboard ? rules_->clipboard->copied : nullptr; }
-    void activate() override { activated_(*this); }
     bool showsSlides() override { return false; }
     void endSlideShow() override {}
     /// Also with the ending .pptm. A deck with macros leaves them out of a .pptx.
     void saveCopy(const std::string& path) override;
-    void close() override;
 
 private:
     std::int32_t viewType() override { return viewType_; }
@@ -72,13 +56,7 @@ private:
     [[nodiscard]] std::string freeSlideId();
     [[nodiscard]] std::string neighbourLayout();
     void writeCount();
-    void writeKind(bool keepsMacros);
 
-    Package package_;
-    std::string path_;
-    std::string name_;
-    FileRulesPtr rules_;
-    std::string main_;
     Xml presentation_;
     DeckLayouts layouts_;
     ChartParts charts_;
@@ -87,11 +65,6 @@ private:
     std::set<unsigned> slideIds_;
     std::int32_t viewType_ = 9;
     std::weak_ptr<FileSlide> inView_;
-    std::function<void(FileDeck&)> closed_;
-    std::function<void(FileDeck&)> activated_;
-    /// Whether the list of slides is another than it was.
-    bool isChanged_ = false;
-    bool isGone_ = false;
 };
 
 using FileDeckPtr = std::shared_ptr<FileDeck>;
