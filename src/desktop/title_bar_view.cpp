@@ -102,7 +102,7 @@ public:
         close_ = new TitleBarButton(Sign::Close, QStringLiteral("Close"), *this, host);
         const auto wire = [this](TitleBarButton* button, void (furniture::TitleBar::*press)()) {
             connect(button, &QAbstractButton::clicked, this,
-                    [this, press] { tell([this, press] { (bar_.*press)(); }); });
+                    [this, press] { tell([&bar = bar_, press] { (bar.*press)(); }); });
         };
         wire(minimise_, &furniture::TitleBar::pressMinimise);
         wire(maximise_, &furniture::TitleBar::pressMaximise);
