@@ -178,8 +178,8 @@ void FormWindow::syncPlace() {
     const QSize edges(2 * margin(), 2 * margin());
     if (form_->resizable) {
         setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-        setMinimumSize(QSize(pixelsOf(form_->naturalWidth()), pixelsOf(form_->naturalHeight())) +
-                       edges);
+        const int lowest = pixelsOf(std::min(form_->naturalHeight(), form_->place.height));
+        setMinimumSize(QSize(pixelsOf(form_->naturalWidth()), lowest) + edges);
         if (corner_ == nullptr) corner_ = new Corner(*plate_, colourOf(drawn_.ground));
         corner_->setVisible(drawn_.state == forms::WindowState::Normal);
         resize(place.size() + edges);
@@ -215,7 +215,7 @@ void FormWindow::switchSize() {
     // The window manager has no part in this: without one the form is enlarged all the same.
     if (drawn_.state == forms::WindowState::Maximised) {
         if (normalPlace_.width == 0) normalPlace_ = form_->place;
-        const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+        const QRect room = screen()->availableGeometry();
         form_->place = {twipsOf(room.left() - screenOrigin().x()),
                         twipsOf(room.top() - screenOrigin().y()), twipsOf(room.width()),
                         twipsOf(room.height())};
@@ -370,7 +370,16 @@ bool FormWindow::isInputOfMine(const QObject* receiver, const QEvent& event) con
         case QEvent::KeyPress:
         case QEvent::KeyRelease:
         case QEvent::Shortcut:
-        case QEvent::ShortcutOverride: {
+        case QEvent::ShortcutOverride:
+        // These come whatever became of the press, and the menu of a text box pastes into it.
+        case QEvent::ContextMenu:
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
+        case QEvent::Drop:
+        case QEvent::InputMethod:
+        case QEvent::TouchBegin:
+        case QEvent::TouchUpdate:
+        case QEvent::TouchEnd: {
             const auto* widget = qobject_cast<const QWidget*>(receiver);
             return widget != nullptr && widget->window() == this;
         }

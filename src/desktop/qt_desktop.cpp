@@ -101,7 +101,14 @@ void QtDesktop::run(const std::function<void()>& event) {
 
 void QtDesktop::closeForms() {
     QMetaObject::invokeMethod(
-        &context_, [this] { closes_ = true; }, Qt::QueuedConnection);
+        &context_,
+        [this] {
+            closes_ = true;
+            // A box runs its own loop, and the forms wait for its answer.
+            if (auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+                box->reject();
+        },
+        Qt::QueuedConnection);
 }
 
 void QtDesktop::closeThoseThatTakeInput() {
@@ -165,6 +172,7 @@ forms::Screen QtDesktop::screen() const {
 
 bool QtDesktop::showBox(std::string_view text, std::string_view title, bool asks) {
     if (answer_) return answer_(text, title);
+    if (closes_) return false;
     QMessageBox box(QMessageBox::NoIcon, textOf(title), textOf(text),
                     asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     QPalette colours = box.palette();
@@ -196,6 +204,7 @@ bool QtDesktop::ask(std::string_view text, std::string_view title) {
 }
 
 std::optional<std::string> QtDesktop::chooseFolder(std::string_view title, std::string_view start) {
+    if (closes_) return std::nullopt;
     QFileDialog dialog(nullptr, textOf(title), textOf(start));
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);

@@ -3,6 +3,7 @@
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
+#include <QtWidgets/QApplication>
 
 #include <ctime>
 #include <stdexcept>
@@ -82,11 +83,34 @@ TEST_F(Windows, AFormThatTakesNoInputLetsClicksKeysAndItsClosingPass) {
     key(Qt::Key_Return);
     window(form).close();
     desk.letEventsRun();
+    QWidget& box = *desk.widgetOf(form.SlideTitle);
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, {4, 4}, box.mapToGlobal(QPoint(4, 4)));
+    QApplication::sendEvent(&box, &menu);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "it pastes";
+    QInputMethodEvent typed;
+    typed.setCommitString("x");
+    QApplication::sendEvent(&box, &typed);
+    desk.letEventsRun();
     EXPECT_TRUE(form.happened.empty());
     EXPECT_TRUE(desk.isLoaded(form));
     form.takesInput = true;
     click(form.ContinueOk);
     EXPECT_EQ(times("Continue"), 1);
+}
+
+TEST_F(Windows, ABoxGivesWayToTheEndOfTheProgram) {
+    QTimer::singleShot(30, [&] { desk.closeForms(); });
+    bool isStuck = false;
+    QTimer::singleShot(5000, [&] {
+        isStuck = true;
+        if (QWidget* box = QApplication::activeModalWidget()) box->close();
+    });
+    desk.messageBox("text", "title");
+    EXPECT_FALSE(isStuck);
+    EXPECT_FALSE(desk.ask("text", "title")) << "and none comes up any more";
+    EXPECT_FALSE(isStuck);
+    desk.letEventsRun();
+    EXPECT_FALSE(desk.isLoaded(form));
 }
 
 TEST_F(Windows, AFormThatIsShownOnceMoreLeavesTheKeyboardWhereItIs) {
