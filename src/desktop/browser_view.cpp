@@ -54,7 +54,7 @@ void BrowserView::navigate(std::string_view url) {
 void BrowserView::loadWanted() {
     if (wanted_.isEmpty()) return;
     if (view_ == nullptr) startEngine();
-    loading_ = std::exchange(wanted_, QString());
+    loading_ = last_ = std::exchange(wanted_, QString());
     triesLeft_ = triesAfterAFailure;
     page_->allow(textOf(browser_.resourceFolder));
     page_->show(QUrl(loading_));
@@ -75,6 +75,11 @@ void BrowserView::startEngine() {
     connect(page_, &QWebEnginePage::renderProcessTerminated, this, [this] {
         complete_ = false;
         view_->hide();
+        QTimer::singleShot(betweenTries, this, [this] {
+            if (!wanted_.isEmpty() || !loading_.isEmpty() || revivalsLeft_ == 0) return;
+            --revivalsLeft_;
+            navigate(textOf(last_));
+        });
     });
     setFocusProxy(view_);
     view_->hide();

@@ -60,6 +60,9 @@ private:
     QString wanted_;
     QString loading_;
     int triesLeft_ = 0;
+    /// What was shown last, and how often it may be shown once more after the engine has died.
+    QString last_;
+    int revivalsLeft_ = 2;
     /// Where the keyboard was before a click took it into the page; a link that is clicked gives it
     /// back.
     QPointer<QWidget> focusBefore_;

@@ -119,7 +119,8 @@ void MurvaneNotice::tmrHtml_Timer() {
 
 void MurvaneNotice::LoadNoticeHtml(const std::string& page) {
     if (page.empty()) return;
-    navigateToPage(host_, wbNotice, "MurvaneNotice.html", page);
+    if (!navigateToPage(host_, wbNotice, "MurvaneNotice.html", page) && !pending_.Message.empty())
+        desktop().messageBox(pending_.Message, pending_.Title);
     tmrFit.enabled = true;
 }
 

@@ -5,14 +5,14 @@
 
 namespace panels {
 
-void navigateToPage(session::Host& host, forms::WebBrowser& browser, std::string_view fileName,
+bool navigateToPage(session::Host& host, forms::WebBrowser& browser, std::string_view fileName,
                     std::string_view page) {
-    if (page.empty()) return;
-    office::ContinueOnFailure scope;
-    std::string path;
-    if (!scope.attempt([&] { path = host.temporaryFile(fileName); })) return;
-    scope.attempt([&] { host.writeTemporaryFile(fileName, std::string(page) + "\r\n"); });
-    browser.navigate(session::fileAddress(path));
+    if (page.empty()) return false;
+    return office::ContinueOnFailure().attempt([&] {
+        const std::string path = host.temporaryFile(fileName);
+        host.writeTemporaryFile(fileName, std::string(page) + "\r\n");
+        browser.navigate(session::fileAddress(path));
+    });
 }
 
 }  // namespace panels

@@ -8,9 +8,9 @@
 namespace panels {
 
 /// Writes a page to a file in the temporary folder and has the browser show it; no dialog of the
-/// page will ever appear. Returns at once. Where the file can't be written the browser shows what
-/// the earlier one holds. Nothing happens for an empty page, or without a temporary folder.
-void navigateToPage(session::Host& host, forms::WebBrowser& browser, std::string_view fileName,
+/// page will ever appear. Returns at once: whether the page is on its way. An empty one is not, nor
+/// one that can't be written: what an earlier file of that name holds is not what is to be said.
+bool navigateToPage(session::Host& host, forms::WebBrowser& browser, std::string_view fileName,
                     std::string_view page);
 
 }  // namespace panels

@@ -81,7 +81,7 @@ TEST_F(ActionPanel, ShowsItsPageFromOneFileAsALineOfText) {
     panels::NavigatePanelFile(host, sheet.wbStatus, "not written");
     desktop.letEventsRun();
     EXPECT_EQ(desktop.browser(sheet)->page(), "<p>page</p>\r\n") << "the earlier one";
-    EXPECT_EQ(desktop.browser(sheet)->navigations.size(), 2U);
+    EXPECT_EQ(desktop.browser(sheet)->navigations.size(), 1U);
 }
 
 TEST_F(ActionPanel, LeavesTheBrowserAloneForAnEmptyPageAndWithoutATemporaryFolder) {
