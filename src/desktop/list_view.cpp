@@ -153,6 +153,8 @@ void ListView::paintPlaceholder() {
 
 void ListView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
+    // A box that a click has brought up takes the release.
+    endDrag(false);
     const QModelIndex hit = indexAt(event->pos());
     if (!hit.isValid()) return;
     // A little more than the box itself: it is small to hit.

@@ -128,6 +128,15 @@ TEST_F(Lists, RowsAreDraggedToWhereTheLineShowsThem) {
               1)
         << "given up";
     EXPECT_EQ(times("Cancel"), 0);
+    // A box that the press brings up takes the release.
+    QTest::mousePress(&area, Qt::LeftButton, {}, textOf(3));
+    const QPoint onBox = view().checkBoxOf(1).center();
+    QTest::mousePress(&area, Qt::LeftButton, {}, onBox);
+    dragTo(area, onBox + QPoint(2, 1));
+    drop(onBox);
+    EXPECT_EQ(std::count_if(form.happened.begin(), form.happened.end(),
+                            [](const std::string& event) { return event.starts_with("move"); }),
+              1);
 }
 
 TEST_F(Lists, ColumnsAreAsWideAsTheFormSaysAndTheLastFillsTheList) {
