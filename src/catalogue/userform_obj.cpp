@@ -58,6 +58,7 @@ ExportChoices UserformObj::choices() const {
 
 void UserformObj::Form_Load() {
     topmost = true;
+    giveWayToLowScreen();
     // A load that fails half-way leaves a form that can still be closed.
     office::ContinueOnFailure scope;
     bool isWanted = true;

@@ -116,6 +116,8 @@ private:
     void wireEvents();
     void wireHelp(forms::CommandButton& button);
     void prepareToGrow();
+    /// On a screen lower than the form the list does, so that "Continue" is in reach.
+    void giveWayToLowScreen();
 
     // Loading.
     void loadForm();

@@ -1,5 +1,6 @@
 // Where the controls of the main form stand, what they say at first, and which event goes where.
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -153,6 +154,14 @@ void UserformObj::Form_Resize() {
     previewWidth_ = naturalPreviewWidth + wider * (100 - listShare) / 100;
     if (imgChart.place.width == before) imgChart.place.width = previewWidth_;
     resizeColumns();
+}
+
+void UserformObj::giveWayToLowScreen() {
+    // Of the list's height; some rows of it stay.
+    constexpr forms::Twips mostGiven = 1950;
+    place.height =
+        std::clamp(desktop().screen().height, naturalHeight() - mostGiven, naturalHeight());
+    if (place.height < naturalHeight()) Form_Resize();
 }
 
 void UserformObj::setCaptionsAndTips() {

@@ -225,6 +225,14 @@ TEST_F(TheMainForm, givesTheRoomThatItGainsToTheListAndThePreview) {
     EXPECT_EQ(placesAfter(-3000, -1500), natural);
 }
 
+TEST_F(TheMainForm, givesWayToAScreenThatIsLowerThanIt) {
+    desktop.size.height = 576 * forms::twipsPerPixel;
+    UserformObj& form = open();
+    EXPECT_EQ(form.place.height, desktop.size.height);
+    EXPECT_LT(form.PasteIT.place.top + form.PasteIT.place.height, form.place.height);
+    EXPECT_GT(form.listCharts.place.height, 50 * forms::twipsPerPixel);
+}
+
 TEST_F(TheMainForm, offersADestinationByThePictureInItsShape) {
     UserformObj& form = open();
     const int destinations[] = {0, 1, 2, 4};
