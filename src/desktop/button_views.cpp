@@ -1,6 +1,5 @@
-// What takes clicks and keys: buttons, check boxes, options, text boxes, sliders.
+// Buttons, check boxes and options.
 
-#include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QPushButton>

@@ -1,4 +1,4 @@
-// What takes clicks and keys: buttons, check boxes, options, text boxes, sliders.
+// Text boxes and sliders.
 
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
