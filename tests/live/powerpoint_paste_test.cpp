@@ -145,7 +145,7 @@ TEST_F(PasteLive, MakesTablesThatComeBackFromFiles) {
 }
 
 TEST_F(PasteLive, MakesATableInTheSizeOfItsRoom) {
-    const auto place = desk->activePresentation()->slideAt(3);
+    const auto place = desk->active<powerpoint::ImpressDeck>()->slideAt(3);
     for (const auto& [room, scale] :
          {std::pair(office::RoomForTable{480, 400}, 2.0), {{480, 25}, 0.5}}) {
         desk->clipboard().room = room;
