@@ -134,8 +134,10 @@ TEST_F(ExcelTables, DoWithWideTextsWhatASheetDoes) {
         "shrinks to its cell 8.5pt",
         "横浜と神戸と東京と大 2x1",
         "ends…",
+        "cut at a colo",
+        "on over its colour fill=00FF00 2x1",
     };
-    const TableLook table = tableOf("Wide", "A1:D8");
+    const TableLook table = tableOf("Wide", "A1:D10");
     std::vector<std::string> found;
     for (const CellLook& look : table.cells) {
         if (!look.isCovered && !look.text.empty()) found.push_back(described(look));
@@ -145,7 +147,10 @@ TEST_F(ExcelTables, DoWithWideTextsWhatASheetDoes) {
 
 TEST_F(ExcelTables, HaveTheBarsThatFormatsDraw) {
     std::vector<std::string> found;
-    for (const CellLook& look : tableOf("Bars", "A1:E3").cells) {
+    const TableLook table = tableOf("Bars", "A1:F3");
+    EXPECT_EQ(table.at(0, 4).text, "2");
+    EXPECT_EQ(table.at(0, 5).text, "") << "a bar alone";
+    for (const CellLook& look : table.cells) {
         found.push_back(look.bar
                             ? fmt::format("{:.3g}-{:.3g} {:06X}-{:06X}", look.bar->from,
                                           look.bar->to, look.bar->leftColour, look.bar->rightColour)
@@ -157,16 +162,19 @@ TEST_F(ExcelTables, HaveTheBarsThatFormatsDraw) {
         "0-0.25 0000FF-0000FF",
         "0-0.667 0000FF-0000FF",
         "none",
+        "0-0.5 0000FF-CCCCFF",
         "0.5-1 0000FF-0000FF",
         "0-1 0000FF-CCCCFF",
         "0-0.5 0000FF-0000FF",
         "0-1 0000FF-0000FF",
         "none",
+        "0-0.9 0000FF-CCCCFF",
         "0-0.5 0000FF-0000FF",
         "0-0 0000FF-CCCCFF",
         "0-0 0000FF-0000FF",
         "0-0 0000FF-0000FF",
         "none",
+        "0-0.1 0000FF-CCCCFF",
     };
     EXPECT_EQ(found, expected);
 }

@@ -133,6 +133,7 @@ std::optional<DataBars::Bars> DataBars::barsOf(
     if (axis == css::sheet::DataBarAxis::AXIS_AUTOMATIC) bars.axis = Axis::Automatic;
     if (axis == css::sheet::DataBarAxis::AXIS_MIDDLE) bars.axis = Axis::Middle;
     bars.isFading = property<bool>(entry, "UseGradient");
+    bars.isAlone = !property<bool>(entry, "ShowValue", true);
     bars.colour = swapRedAndBlue(property<sal_Int32>(entry, "Color"));
     bars.negativeColour = property<bool>(entry, "UseNegativeColor")
                               ? swapRedAndBlue(property<sal_Int32>(entry, "NegativeColor"))
@@ -140,28 +141,38 @@ std::optional<DataBars::Bars> DataBars::barsOf(
     return bars;
 }
 
-std::optional<office::CellBar> DataBars::barOf(std::int32_t column, std::int32_t row,
-                                               double number) const {
+std::optional<DataBars::Bar> DataBars::barOf(std::int32_t column, std::int32_t row,
+                                             double number) const {
     const auto found = std::find_if(all_.begin(), all_.end(), [&](const Bars& bars) {
         return std::any_of(bars.blocks.begin(), bars.blocks.end(), [&](const auto& block) {
             return intersection(block, model::CellBlock::cell(row, column)).has_value();
         });
     });
     if (found == all_.end()) return std::nullopt;
-    const auto& [blocks, least, most, axis, isFading, colour, negativeColour] = *found;
+    return Bar{lookOf(*found, number), found->isAlone};
+}
+
+office::CellBar DataBars::lookOf(const Bars& bars, double number) {
+    const auto& [blocks, least, most, axis, isFading, isAlone, colour, negativeColour] = bars;
     const double value = std::clamp(number, least, most);
-    if (axis == Axis::None || least >= 0) {
+    const double share = (value - least) / (most - least);
+    const std::int32_t end = isFading ? faded(colour) : colour;
+    if (axis == Axis::None) {
+        // The suite does not tell how long the shortest and the longest bar are. Such bars are
+        // those of files without the later notation as a rule, and there it is so if nobody says
+        // otherwise.
+        constexpr double shortest = 0.1, longest = 0.9;
+        return {0, std::lerp(shortest, longest, share), colour, end};
+    }
+    if (least >= 0) {
         const double zero = axis == Axis::Middle ? 0.5 : 0;
-        const double to = zero + (1 - zero) * (value - least) / (most - least);
-        return office::CellBar{zero, to, colour, isFading ? faded(colour) : colour};
+        return {zero, std::lerp(zero, 1.0, share), colour, end};
     }
     double zero = most <= 0 ? 1 : -least / (most - least);
     if (axis == Axis::Middle) zero = 0.5;
-    if (value >= 0)
-        return office::CellBar{zero, zero + (1 - zero) * (most > 0 ? value / most : 0), colour,
-                               isFading ? faded(colour) : colour};
-    return office::CellBar{zero * (1 - value / least), zero,
-                           isFading ? faded(negativeColour) : negativeColour, negativeColour};
+    if (value >= 0) return {zero, std::lerp(zero, 1.0, most > 0 ? value / most : 0), colour, end};
+    return {zero * (1 - value / least), zero, isFading ? faded(negativeColour) : negativeColour,
+            negativeColour};
 }
 
 }  // namespace libreoffice::excel

@@ -26,9 +26,14 @@ class DataBars {
 public:
     DataBars(SheetRecord& sheet, const model::CellBlock& block);
 
+    struct Bar {
+        office::CellBar look;
+        /// Whether the number is not shown with it.
+        bool isAlone = false;
+    };
     /// The bar of a cell with this number, by its place on the sheet.
-    [[nodiscard]] std::optional<office::CellBar> barOf(std::int32_t column, std::int32_t row,
-                                                       double number) const;
+    [[nodiscard]] std::optional<Bar> barOf(std::int32_t column, std::int32_t row,
+                                           double number) const;
 
 private:
     enum class Axis { None, Middle, Automatic };
@@ -38,10 +43,12 @@ private:
         double most = 0;
         Axis axis = Axis::None;
         bool isFading = false;
+        bool isAlone = false;
         std::int32_t colour = 0;
         std::int32_t negativeColour = 0;
     };
 
+    [[nodiscard]] static office::CellBar lookOf(const Bars& bars, double number);
     static std::optional<Bars> barsOf(SheetRecord& sheet,
                                       const uno::Reference<css::beans::XPropertySet>& entry,
                                       const std::vector<model::CellBlock>& blocks);

@@ -138,23 +138,25 @@ private:
             cut(at(row, column), roomIn(row, column));
     }
 
-    /// Whether a text of the row can run over into the cell at this place.
-    [[nodiscard]] bool isFree(std::size_t row, std::size_t column) {
+    /// Whether this text can run over into the cell at this place of its row. The cell would lose a
+    /// ground of its own.
+    [[nodiscard]] bool isFree(const CellLook& text, std::size_t row, std::size_t column) {
         if (column >= table_.columnWidthsPt.size()) return false;
         const CellLook& cell = at(row, column);
-        return !cell.isCovered && cell.text.empty() && cell.columns == 1 && cell.rows == 1;
+        return !cell.isCovered && cell.text.empty() && cell.columns == 1 && cell.rows == 1 &&
+               cell.fill == text.fill && !cell.bar;
     }
 
     bool spanNext(std::size_t row, std::size_t column) {
         const std::size_t next = column + static_cast<std::size_t>(at(row, column).columns);
-        if (!isFree(row, next)) return false;
+        if (!isFree(at(row, column), row, next)) return false;
         at(row, column).right = at(row, next).right;
         span(at(row, column), at(row, next));
         return true;
     }
 
     bool spanBefore(std::size_t row, std::size_t column) {
-        if (column == 0 || !isFree(row, column - 1)) return false;
+        if (column == 0 || !isFree(at(row, column), row, column - 1)) return false;
         at(row, column).left = at(row, column - 1).left;
         span(at(row, column), at(row, column - 1));
         std::swap(at(row, column), at(row, column - 1));
