@@ -316,6 +316,18 @@ TEST_F(WordLive, KeepsTheOrderOfReadingAndOneStepToTakeBack) {
     EXPECT_TRUE(table().is());
 }
 
+TEST_F(WordLive, PassesOverObjectsThatAMacroHasLeftWithoutAPlace) {
+    selection().call("TypeText", "Report");
+    copyCells();
+    selection().call("PasteSpecial", arg("DataType", 0), arg("Placement", 1));
+    selection().call("PasteSpecial");
+    EXPECT_EQ(count("Shapes"), 1);
+    body()->setString("Other");
+    copyCells();
+    selection().call("PasteSpecial", arg("DataType", 0), arg("Placement", 1));
+    EXPECT_EQ(count("Shapes"), 1) << "the one that has a place";
+}
+
 TEST_F(WordLive, CostsTheSameForEveryItem) {
     const auto item = [&] {
         return callsOf([&] {

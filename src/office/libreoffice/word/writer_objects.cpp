@@ -1,6 +1,7 @@
 #include "office/libreoffice/word/writer_objects.h"
 
 #include <com/sun/star/container/XNamed.hpp>
+#include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/text/XTextEmbeddedObjectsSupplier.hpp>
 #include <com/sun/star/text/XTextGraphicObjectsSupplier.hpp>
 
@@ -49,7 +50,39 @@ void WriterObjects::refresh() {
     for (const auto& object : all) insert(object);
 }
 
+/// A macro that replaces all text and the table at its end leaves objects behind whose place
+/// LibreOffice can't compare with any other.
+bool WriterObjects::hasLostItsPlace(const WriterObjectPtr& object) const {
+    try {
+        const auto place = object->content()->getAnchor();
+        if (place.is()) places_->compareRegionStarts(place, text_->getStart());
+        return false;
+    } catch (const css::lang::DisposedException&) {
+        throw;
+    } catch (const uno::RuntimeException&) {
+        return true;
+    }
+}
+
 void WriterObjects::insert(const WriterObjectPtr& object) {
+    try {
+        insertInOrder(object);
+    } catch (const css::lang::DisposedException&) {
+        throw;
+    } catch (const uno::RuntimeException&) {
+        const auto lost =
+            std::stable_partition(inOrder_.begin(), inOrder_.end(),
+                                  [this](const auto& other) { return !hasLostItsPlace(other); });
+        elsewhere_.insert(elsewhere_.end(), lost, inOrder_.end());
+        inOrder_.erase(lost, inOrder_.end());
+        if (hasLostItsPlace(object))
+            elsewhere_.push_back(object);
+        else
+            insertInOrder(object);
+    }
+}
+
+void WriterObjects::insertInOrder(const WriterObjectPtr& object) {
     const auto place = object->content()->getAnchor();
     const auto comesBefore = [&](const WriterObjectPtr& other) {
         return places_->compareRegionStarts(other->content()->getAnchor(), place) >= 0;

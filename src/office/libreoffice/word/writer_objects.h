@@ -31,7 +31,9 @@ public:
 
 private:
     void refresh();
+    [[nodiscard]] bool hasLostItsPlace(const WriterObjectPtr& object) const;
     void insert(const WriterObjectPtr& object);
+    void insertInOrder(const WriterObjectPtr& object);
     [[nodiscard]] WriterObjectPtr known(const rtl::OUString& name) const;
     [[nodiscard]] std::int32_t countThere();
 
@@ -41,7 +43,7 @@ private:
     uno::Reference<css::container::XIndexAccess> pictures_;
     uno::Reference<css::container::XIndexAccess> embedded_;
     std::vector<WriterObjectPtr> inOrder_;
-    /// Those in headers, footers and frames.
+    /// Those in headers, footers and frames, and those that have lost their place.
     std::vector<WriterObjectPtr> elsewhere_;
 };
 
