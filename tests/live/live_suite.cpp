@@ -11,10 +11,10 @@
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/excel/application.h"
 #include "office/libreoffice/excel/calc_document.h"
-#include "office/libreoffice/excel/package_parts.h"
 #include "office/libreoffice/libreoffice_suite.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/private_instance.h"
+#include "office/package/package.h"
 #include "support/png_file.h"
 #include "support/written_decks.h"
 
@@ -164,9 +164,8 @@ std::int32_t PowerPointLive::slideCount(const Object& deck) {
 void PowerPointLive::expectSaved(const Object& deck, int slide, const std::vector<std::string>& all,
                                  const std::vector<std::string>& none) const {
     deck.call("SaveCopyAs", file("saved.pptx"));
-    const auto package = excel::PackageParts::open(*connection(), fileUrl(file("saved.pptx")));
-    ASSERT_TRUE(package);
-    const std::string xml = package->read(fmt::format("ppt/slides/slide{}.xml", slide));
+    const auto package = office::package::Package::open(file("saved.pptx"));
+    const std::string xml = package.read(fmt::format("/ppt/slides/slide{}.xml", slide));
     for (const std::string& each : all)
         EXPECT_NE(xml.find(each), std::string::npos) << each << "\n" << xml;
     for (const std::string& each : none)

@@ -19,8 +19,8 @@
 #include "office/failure.h"
 #include "office/libreoffice/excel/application.h"
 #include "office/libreoffice/excel/calc_document.h"
-#include "office/libreoffice/excel/package_parts.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
+#include "office/package/package.h"
 #include "support/copied_double.h"
 
 namespace live {
@@ -177,9 +177,9 @@ TEST_F(PasteLive, MakesChartsAndWorkbooksThatHoldTheirData) {
         EXPECT_EQ(series[7], uno::Any(84.0));
         again.call("Close");
     }
-    const auto package = excel::PackageParts::open(*connection(), fileUrl(file("saved.pptx")));
+    const auto package = office::package::Package::open(file("saved.pptx"));
     std::ofstream(file("embedded.xlsx"), std::ios::binary)
-        << package->read("ppt/embeddings/oleObject1.xlsx");
+        << package.read("/ppt/embeddings/oleObject1.xlsx");
     const Value opened = excelApp.get("Workbooks").call("Open", file("embedded.xlsx"));
     EXPECT_EQ(namesIn(opened.get("Sheets")), (std::vector<std::string>{"Trend", "Data"}));
     const Value sheets = opened.get("Sheets");

@@ -28,16 +28,4 @@ PrivateFolder::~PrivateFolder() {
     fs::remove_all(path_, ignored);
 }
 
-std::string PrivateFolder::copyOf(const std::string& file) const {
-    const fs::path target = path_ / fs::path(file).filename();
-    std::error_code error;
-    fs::copy_file(file, target, error);
-    if (!error) fs::permissions(target, fs::perms::owner_read | fs::perms::owner_write, error);
-    if (error) {
-        throw office::Failure(office::FailureNumber::PathFileAccess, "PrivateFolder",
-                              "\"" + file + "\" can't be copied: " + error.message());
-    }
-    return target.string();
-}
-
 }  // namespace libreoffice

@@ -15,10 +15,6 @@ public:
     PrivateFolder& operator=(const PrivateFolder&) = delete;
     ~PrivateFolder();
 
-    /// Copies a file into the folder, under its own name and so that it can be written.
-    /// `office::Failure` 75 if it can't be copied.
-    [[nodiscard]] std::string copyOf(const std::string& file) const;
-
     [[nodiscard]] std::string file(const char* name) const { return (path_ / name).string(); }
 
 private:

@@ -64,7 +64,7 @@ SheetList& CalcDocument::sheetList() {
 }
 
 const WorkbookFacts& CalcDocument::facts() {
-    if (!facts_) facts_ = readWorkbookFacts(connection(), url());
+    if (!facts_) facts_ = readWorkbookFacts(url());
     return *facts_;
 }
 

@@ -1,28 +1,20 @@
 #include "office/libreoffice/excel/recovered_chart.h"
 
-#include <com/sun/star/beans/NamedValue.hpp>
-#include <com/sun/star/container/XHierarchicalNameAccess.hpp>
-#include <com/sun/star/io/XActiveDataSink.hpp>
-#include <com/sun/star/io/XInputStream.hpp>
 #include <com/sun/star/lang/XComponent.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
-#include <com/sun/star/util/XChangesBatch.hpp>
 #include <com/sun/star/util/XCloseable.hpp>
 #include <fmt/format.h>
 #include <pugixml.hpp>
-#include <sys/stat.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <sstream>
-#include <system_error>
 #include <utility>
 #include <vector>
 
 #include "office/failure.h"
 #include "office/libreoffice/at_end.h"
 #include "office/libreoffice/excel/calc_document.h"
-#include "office/libreoffice/excel/package_parts.h"
+#include "office/package/package.h"
 
 namespace libreoffice::excel {
 
@@ -55,21 +47,22 @@ std::string withoutNegativePlaces(const std::string& drawing) {
     return text.str();
 }
 
-void replacePart(const Connection& connection, const rtl::OUString& package,
-                 const std::string& part, const std::string& text) {
-    // Told that it is a plain archive; it would look for an OpenDocument manifest otherwise.
-    const auto zip = connection.create(
-        "com.sun.star.packages.Package",
-        {uno::Any(package),
-         uno::Any(css::beans::NamedValue("StorageFormat", uno::Any(rtl::OUString("ZipFormat"))))});
-    uno::Reference<css::io::XActiveDataSink> sink(
-        as<css::container::XHierarchicalNameAccess>(zip)->getByHierarchicalName(toUno(part)),
-        uno::UNO_QUERY_THROW);
-    const uno::Sequence<sal_Int8> bytes(reinterpret_cast<const sal_Int8*>(text.data()),
-                                        static_cast<sal_Int32>(text.size()));
-    sink->setInputStream(as<css::io::XInputStream>(
-        connection.create("com.sun.star.io.SequenceInputStream", {uno::Any(bytes)})));
-    as<css::util::XChangesBatch>(zip)->commitChanges();
+/// Writes the workbook anew, with the chart where LibreOffice sees it.
+void writeMended(const SheetRecord& sheet, const std::string& original, const std::string& copy) {
+    using office::package::Package;
+    try {
+        Package package = Package::open(original);
+        const auto& relationships = package.relationshipsOf(sheet.part);
+        const auto* const found = relationships.ofType("drawing");
+        if (found == nullptr) fail(sheet, "it has none");
+        const std::string drawing = relationships.partOf(*found);
+        const std::string mended = withoutNegativePlaces(package.read(drawing));
+        if (mended.empty()) fail(sheet, "it has none");
+        package.replace(drawing, mended);
+        package.save(copy);
+    } catch (const office::package::PackageError&) {
+        fail(sheet, "its file is not at hand");
+    }
 }
 
 }  // namespace
@@ -95,20 +88,13 @@ private:
 };
 
 RecoveredChart::RecoveredChart(SheetRecord& sheet) : sheet_(sheet.fileName) {
-    const Connection& connection = sheet.book().connection();
-    const rtl::OUString url = sheet.book().url();
-    const auto parts = PackageParts::open(connection, url);
-    if (!parts || sheet.part.empty() || !url.startsWith("file:"))
-        fail(sheet, "its file is not at hand");
-    const std::string drawing = parts->related(sheet.part, "/drawing");
-    const std::string mended = withoutNegativePlaces(parts->read(drawing));
-    if (mended.empty()) fail(sheet, "it has none");
-
-    const std::string file = folder_.copyOf(pathOfUrl(url));
-    const rtl::OUString copyUrl = fileUrl(file);
-    replacePart(connection, copyUrl, drawing, mended);
+    if (sheet.part.empty()) fail(sheet, "its file is not at hand");
+    const std::string original = pathOfUrl(sheet.book().url());
+    const std::string copy =
+        folder_.file(std::filesystem::path(original).filename().string().c_str());
+    writeMended(sheet, original, copy);
     // Only looked at: nothing of it has to be made changeable.
-    copy_ = std::make_unique<OpenCopy>(sheet.book().desk().load(copyUrl, true, {}, true));
+    copy_ = std::make_unique<OpenCopy>(sheet.book().desk().load(fileUrl(copy), true, {}, true));
     charts_ = std::make_unique<ChartShapes>(sheet.book(), copy_->sheet(sheet_));
     if (charts_->all().empty()) fail(sheet, "it has none");
     chart_ = charts_->all().front();

@@ -2,10 +2,10 @@
 
 #include <pugixml.hpp>
 
-#include <map>
 #include <string_view>
+#include <utility>
 
-#include "office/libreoffice/excel/package_parts.h"
+#include "office/package/package.h"
 
 namespace libreoffice::excel {
 
@@ -29,32 +29,41 @@ pugi::xml_node childNamed(const pugi::xml_node& parent, std::string_view name) {
     });
 }
 
-}  // namespace
-
-WorkbookFacts readWorkbookFacts(const Connection& connection, const rtl::OUString& url) {
+WorkbookFacts factsOf(office::package::Package package) {
     WorkbookFacts facts;
-    const auto parts = PackageParts::open(connection, url);
-    if (!parts) return facts;
-    const std::string workbookPart = parts->related("", "/officeDocument");
-    const std::string text = parts->read(workbookPart);
+    const auto& ofPackage = package.relationshipsOf("/");
+    const auto* const main = ofPackage.ofType("officeDocument");
+    if (main == nullptr) return facts;
+    const std::string part = ofPackage.partOf(*main);
+    const std::string text = package.read(part);
     pugi::xml_document document;
     if (!document.load_buffer(text.data(), text.size())) return facts;
 
-    std::map<std::string, Relationship> byId;
-    for (Relationship& relationship : parts->relationshipsOf(workbookPart)) {
-        byId.emplace(relationship.id, std::move(relationship));
-    }
+    const auto& relationships = package.relationshipsOf(part);
     const pugi::xml_node workbook = document.document_element();
     for (const pugi::xml_node node : childNamed(workbook, "sheets").children()) {
-        const Relationship& relationship = byId[attributeEndingIn(node, ":id")];
-        facts.sheets.push_back({node.attribute("name").value(), relationship.target,
-                                relationship.type.ends_with("/chartsheet"),
+        const auto* const found = relationships.withId(attributeEndingIn(node, ":id"));
+        const bool isThere = found != nullptr && !found->isExternal;
+        facts.sheets.push_back({node.attribute("name").value(),
+                                isThere ? relationships.partOf(*found) : std::string(),
+                                isThere && found->type.ends_with("/chartsheet"),
                                 std::string_view(node.attribute("state").value()) == "veryHidden"});
     }
     facts.structureIsLocked =
         childNamed(workbook, "workbookProtection").attribute("lockStructure").as_bool();
     facts.known = !facts.sheets.empty();
     return facts;
+}
+
+}  // namespace
+
+WorkbookFacts readWorkbookFacts(const rtl::OUString& url) {
+    if (!url.startsWith("file:")) return {};
+    try {
+        return factsOf(office::package::Package::open(pathOfUrl(url)));
+    } catch (const office::package::PackageError&) {
+        return {};
+    }
 }
 
 }  // namespace libreoffice::excel

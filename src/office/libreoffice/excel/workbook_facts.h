@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "office/libreoffice/connection.h"
+#include "office/libreoffice/uno_values.h"
 
 namespace libreoffice::excel {
 
@@ -23,7 +23,7 @@ struct WorkbookFacts {
     bool structureIsLocked = false;
 };
 
-[[nodiscard]] WorkbookFacts readWorkbookFacts(const Connection& connection,
-                                              const rtl::OUString& url);
+/// Read from the file itself, which is let go of again at once.
+[[nodiscard]] WorkbookFacts readWorkbookFacts(const rtl::OUString& url);
 
 }  // namespace libreoffice::excel
