@@ -16,6 +16,13 @@ sigset_t endingSignals() {
     return signals;
 }
 
+/// Whoever started the program may have said otherwise: nohup for the end of the session, a script
+/// for Ctrl-C in what it leaves running. A signal that is waited for comes even so.
+bool isIgnored(int signal) {
+    struct sigaction action = {};
+    return sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
 }  // namespace
 
 Interruption::Interruption() {
@@ -42,6 +49,7 @@ void Interruption::wait() {
     const sigset_t signals = endingSignals();
     int signal = 0;
     while (sigwait(&signals, &signal) == 0 && !isOver_) {
+        if (isIgnored(signal)) continue;
         const std::lock_guard<std::mutex> lock(actionLock_);
         const bool isFirst = !happened_.exchange(true);
         if (isFirst && action_) action_();

@@ -106,6 +106,19 @@ TEST(Interruption, RunsItsActionOnceOnEachSignalThatEndsAProgram) {
     }
 }
 
+TEST(Interruption, LeavesOutWhatTheProgramWasToldToIgnore) {
+    ::signal(SIGHUP, SIG_IGN);
+    apps::Interruption interruption;
+    Awaited action;
+    interruption.onceHappened([&] { ++action.times; });
+    ::kill(::getpid(), SIGHUP);
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    EXPECT_FALSE(interruption.hasHappened());
+    ::kill(::getpid(), SIGINT);
+    EXPECT_TRUE(action.happensSoon());
+    ::signal(SIGHUP, SIG_DFL);
+}
+
 TEST(PosixConsole, ReadsALineAtATimeUntilTheEnd) {
     int ends[2];
     ASSERT_EQ(::pipe(ends), 0);
