@@ -1,11 +1,14 @@
 #include "office/libreoffice/private_instance.h"
 
 #include <fmt/format.h>
+#include <langinfo.h>
+#include <locale.h>
 #include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <string_view>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -41,6 +44,22 @@ void removeTemporaryFiles(const Profile& profile) {
     std::filesystem::remove_all(temporaryFolder(profile), ignored);
 }
 
+/// Whether the user's locale is one of this machine and spells names in UTF-8.
+bool localeIsUtf8() {
+    const locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);
+    if (locale == nullptr) return false;
+    const bool isUtf8 = std::string_view(nl_langinfo_l(CODESET, locale)) == "UTF-8";
+    freelocale(locale);
+    return isUtf8;
+}
+
+std::vector<std::string> environmentFor(const Profile& profile) {
+    std::vector<std::string> variables = {"TMPDIR=" + temporaryFolder(profile).string()};
+    // In another one, as services and cron have it, the suite opens no file with an umlaut.
+    if (!localeIsUtf8()) variables.emplace_back("LC_ALL=C.UTF-8");
+    return variables;
+}
+
 Process launch(const Profile& profile, const std::string& pipeName) {
     std::error_code ignored;
     std::filesystem::create_directories(temporaryFolder(profile), ignored);
@@ -50,7 +69,7 @@ Process launch(const Profile& profile, const std::string& pipeName) {
                            "-env:UserInstallation=" + fromUno(fileUrl(profile.folder())),
                            "--accept=pipe,name=" + pipeName + ";urp", "--headless", "--norestore",
                            "--nologo", "--nodefault", "--nolockcheck"},
-                          true, {"TMPDIR=" + temporaryFolder(profile).string()});
+                          true, environmentFor(profile));
 }
 
 [[noreturn]] void failToStart(const std::string& why) {
