@@ -17,9 +17,11 @@
 
 #include "office/failure.h"
 #include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/unasking_copy.h"
 #include "office/libreoffice/guard.h"
 #include "office/libreoffice/password_answer.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
+#include "office/libreoffice/private_folder.h"
 #include "office/libreoffice/word/writer_document.h"
 
 namespace libreoffice {
@@ -158,8 +160,9 @@ void Desk::noteOrderOfWindows() {
     for (const auto& [at, document] : fromLowest) document->markActive();
 }
 
-/// `file` names the file of a document that was loaded apart from it.
-void Desk::makeChangeable(const uno::Reference<css::frame::XModel>& model,
+/// Says whether it can be changed now. `file` names the file of a document that was loaded apart
+/// from it.
+bool Desk::makeChangeable(const uno::Reference<css::frame::XModel>& model,
                           const rtl::OUString& file) {
     if (!file.isEmpty()) {
         if (isOfKind<excel::CalcDocument>(model))
@@ -171,25 +174,45 @@ void Desk::makeChangeable(const uno::Reference<css::frame::XModel>& model,
     }
     // Files say that they are better opened for reading; in a window a click goes over that.
     const auto storable = tryAs<css::frame::XStorable>(model);
-    if (!storable.is() || !storable->isReadonly()) return;
+    if (!storable.is() || !storable->isReadonly()) return true;
     const auto controller = model->getCurrentController();
-    if (!controller.is()) return;
+    if (!controller.is()) return false;
     const auto dispatcher =
         as<css::frame::XDispatchHelper>(connection_->create("com.sun.star.frame.DispatchHelper"));
     dispatcher->executeDispatch(as<css::frame::XDispatchProvider>(controller->getFrame()),
                                 ".uno:EditDoc", rtl::OUString(), 0, {});
+    return !storable->isReadonly();
 }
 
 uno::Reference<css::frame::XModel> Desk::load(const rtl::OUString& url, bool hidden,
                                               const std::string& password, bool readOnly) {
+    const bool isToChange = hidden_ && !readOnly;
+    // A private suite locks nothing, and without a lock it opens only what can be written.
+    const bool isApart =
+        isToChange && url.startsWith("file:") && access(pathOfUrl(url).c_str(), W_OK) != 0;
+    const auto model = loadOnce(url, hidden, password, readOnly, isApart);
+    if (!isToChange) return model;
+    if (makeChangeable(model, isApart ? url : rtl::OUString())) return model;
+    // Its file asks for a password before it is changed. What is loaded apart from the file is
+    // none of its concern, but Excel's packages ask even then.
+    as<css::util::XCloseable>(model)->close(true);
+    const PrivateFolder folder;
+    const std::string copy = folder.file("workbook.xlsx");
+    const auto source = excel::writeUnaskingCopy(pathOfUrl(url), copy) ? fileUrl(copy) : url;
+    const auto apart = loadOnce(source, hidden, password, readOnly, true);
+    makeChangeable(apart, url);
+    return apart;
+}
+
+/// `isApart` loads it as if it were a template, which is a new document without a file.
+uno::Reference<css::frame::XModel> Desk::loadOnce(const rtl::OUString& url, bool hidden,
+                                                  const std::string& password, bool readOnly,
+                                                  bool isApart) {
     if (url.startsWith("file:") && !std::filesystem::exists(pathOfUrl(url)))
         failToOpen(url, "there is no such file");
     const rtl::Reference<PasswordAnswer> answer(new PasswordAnswer(toUno(password)));
     uno::Reference<css::lang::XComponent> component;
     std::string reason;
-    // A private suite locks nothing, and without a lock it opens only what can be written.
-    const bool isApart = hidden_ && !readOnly && url.startsWith("file:") &&
-                         access(pathOfUrl(url).c_str(), W_OK) != 0;
     try {
         component = connection_->desktop()->loadComponentFromURL(
             url, "_blank", 0,
@@ -203,11 +226,7 @@ uno::Reference<css::frame::XModel> Desk::load(const rtl::OUString& url, bool hid
         if (connection_->isLost()) throw;
         reason = fromUno(error.Message);
     }
-    if (component.is()) {
-        auto model = as<css::frame::XModel>(component);
-        if (hidden_ && !readOnly) makeChangeable(model, isApart ? url : rtl::OUString());
-        return model;
-    }
+    if (component.is()) return as<css::frame::XModel>(component);
     // A password that is missing or wrong comes as "type detection aborted", or as no document and
     // no exception, like a damaged file and one that another instance holds.
     if (answer->wasAsked())

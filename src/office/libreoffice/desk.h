@@ -78,7 +78,10 @@ public:
     office::model::excel::Settings excelSettings;
 
 private:
-    void makeChangeable(const uno::Reference<css::frame::XModel>& model, const rtl::OUString& file);
+    uno::Reference<css::frame::XModel> loadOnce(const rtl::OUString& url, bool hidden,
+                                                const std::string& password, bool readOnly,
+                                                bool isApart);
+    bool makeChangeable(const uno::Reference<css::frame::XModel>& model, const rtl::OUString& file);
     /// Null for a document that has not been met.
     std::shared_ptr<Document> known(const uno::Reference<css::frame::XModel>& model);
     void noteOrderOfWindows();
