@@ -14,7 +14,9 @@ public:
     Console& operator=(const Console&) = delete;
     virtual ~Console() = default;
 
-    virtual void writeOut(std::string_view text) = 0;
+    /// Says whether all of it has gone out, as far as somebody still reads it; if not, the reason
+    /// is in `errno`.
+    [[nodiscard]] virtual bool writeOut(std::string_view text) = 0;
     virtual void writeError(std::string_view text) = 0;
     /// Whether a line on standard error can be written over.
     [[nodiscard]] virtual bool errorIsTerminal() const = 0;

@@ -1,5 +1,6 @@
 #include "apps/posix_console.h"
 
+#include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
 
@@ -12,27 +13,37 @@ namespace {
 
 constexpr int interruptCheckMs = 200;
 
-void writeAll(int stream, std::string_view text) {
+/// Leaves its reason in `errno` where it fails.
+bool writeAll(int stream, std::string_view text) {
     while (!text.empty()) {
         const ssize_t written = ::write(stream, text.data(), text.size());
         if (written < 0 && errno == EINTR) continue;
-        // Nobody listens any more: there is nowhere to complain to.
-        if (written <= 0) return;
+        // Whoever has read enough of it goes away, and has what was wanted.
+        if (written <= 0) return errno == EPIPE;
         text.remove_prefix(static_cast<std::size_t>(written));
     }
+    return true;
 }
 
 }  // namespace
 
+void openStandardStreams() {
+    for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
+        // It takes the lowest number that is free, which is this one.
+        if (::fcntl(stream, F_GETFD) < 0) static_cast<void>(::open("/dev/null", O_RDWR));
+    }
+}
+
 PosixConsole::PosixConsole(std::function<bool()> isInterrupted)
     : isInterrupted_(std::move(isInterrupted)) {}
 
-void PosixConsole::writeOut(std::string_view text) {
-    writeAll(STDOUT_FILENO, text);
+bool PosixConsole::writeOut(std::string_view text) {
+    return writeAll(STDOUT_FILENO, text);
 }
 
 void PosixConsole::writeError(std::string_view text) {
-    writeAll(STDERR_FILENO, text);
+    // There is nowhere to complain to.
+    static_cast<void>(writeAll(STDERR_FILENO, text));
 }
 
 bool PosixConsole::errorIsTerminal() const {

@@ -29,6 +29,12 @@ TEST_F(RunFailuresTest, WhatItTellsOfNamesCannotDriveTheTerminal) {
     }
 }
 
+TEST_F(RunFailuresTest, AListThatDoesNotGoOutIsNoSuccess) {
+    console.takesOut = false;
+    EXPECT_EQ(run({bookFile, "--list"}), 1);
+    EXPECT_TRUE(console.errorHas("The list could not be written: No space")) << console.error;
+}
+
 TEST_F(RunFailuresTest, KeptGoingTheRunSavesTheOthersAndListsWhatFailed) {
     suite->failures().fail("Chart.Export", 2);
     EXPECT_EQ(exportWith({"--keep-going"}), 1);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cerrno>
 #include <deque>
 #include <optional>
 #include <string>
@@ -14,8 +15,14 @@ public:
     bool isTerminal = false;
     bool somebodyIsThere = false;
     std::deque<std::string> typed;
+    bool takesOut = true;
 
-    void writeOut(std::string_view text) override { out += text; }
+    [[nodiscard]] bool writeOut(std::string_view text) override {
+        out += text;
+        if (takesOut) return true;
+        errno = ENOSPC;
+        return false;
+    }
     void writeError(std::string_view text) override { error += text; }
     [[nodiscard]] bool errorIsTerminal() const override { return isTerminal; }
     [[nodiscard]] bool canAsk() const override { return somebodyIsThere; }

@@ -56,13 +56,14 @@ int runCommand(int count, char** words, const std::string& commandLine, apps::Co
     return runInTerminal(commandLine, console, suites);
 }
 
+constexpr int unhandled = 1;
+
 int runOrReport(int count, char** words) {
-    constexpr int unhandled = 1;
     apps::MachineConsole console([] { return false; });
     const std::string commandLine = commandLineOf(count, words);
     if (commandLine == "--version") {
-        console.writeOut(fmt::format("murvane {}\n", apps::version));
-        return session::commandDone;
+        const bool isTold = console.writeOut(fmt::format("murvane {}\n", apps::version));
+        return isTold ? session::commandDone : unhandled;
     }
     // Nothing to do, so nothing to attach to either.
     if (office::trim(commandLine).empty()) return session::commandDone;
@@ -77,5 +78,6 @@ int runOrReport(int count, char** words) {
 }  // namespace
 
 int main(int count, char** words) {
+    apps::openStandardStreams();
     apps::endProcess(runOrReport(count, words));
 }

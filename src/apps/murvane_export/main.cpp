@@ -6,6 +6,7 @@
 
 #include "apps/end_of_process.h"
 #include "apps/interruption.h"
+#include "apps/murvane_export/errors.h"
 #include "apps/murvane_export/options.h"
 #include "apps/murvane_export/run.h"
 #include "apps/suite_source.h"
@@ -23,9 +24,8 @@ int runOrder(int count, char** words) {
     const auto parsed =
         unattended::parseOptions(std::vector<std::string>(words + 1, words + count));
     if (const auto* end = std::get_if<unattended::ParseEnd>(&parsed)) {
-        console.writeOut(end->out);
         console.writeError(end->error);
-        return end->exitCode;
+        return console.writeOut(end->out) ? end->exitCode : unattended::exit_code::failed;
     }
     apps::MachineHost host(console);
     return unattended::run(
@@ -36,5 +36,6 @@ int runOrder(int count, char** words) {
 }  // namespace
 
 int main(int count, char** words) {
+    apps::openStandardStreams();
     apps::endProcess(runOrder(count, words));
 }

@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include <cerrno>
+#include <cstring>
 #include <fstream>
 #include <memory>
 #include <optional>
@@ -243,8 +245,9 @@ int Run::printItems() {
     stopIfInterrupted();
     arrangeItems();
     line_.clear();
-    surroundings_.console.writeOut(options_.json ? listAsJson(list_, bookName_)
-                                                 : listAsTable(list_));
+    if (!surroundings_.console.writeOut(options_.json ? listAsJson(list_, bookName_)
+                                                      : listAsTable(list_)))
+        throw RunError(fmt::format("The list could not be written: {}.", std::strerror(errno)));
     return exit_code::done;
 }
 
