@@ -7,10 +7,10 @@
 #include <unistd.h>
 
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "office/failure.h"
 
@@ -18,14 +18,17 @@ namespace libreoffice {
 
 namespace {
 
-std::filesystem::path profilesFolder() {
-    if (const char* cache = std::getenv("XDG_CACHE_HOME"); cache != nullptr && *cache == '/') {
-        return std::filesystem::path(cache) / "murvane";
-    }
-    if (const char* home = std::getenv("HOME"); home != nullptr && *home == '/') {
-        return std::filesystem::path(home) / ".cache/murvane";
-    }
-    return fmt::format("/var/tmp/murvane-{}", getuid());
+/// The best one first. A service may run with a home that isn't there or that it can't write to.
+std::vector<std::filesystem::path> profilesFolders() {
+    std::vector<std::filesystem::path> folders;
+    const auto addBelow = [&](const char* variable, const char* way) {
+        if (const char* folder = std::getenv(variable); folder != nullptr && *folder == '/')
+            folders.push_back(std::filesystem::path(folder) / way);
+    };
+    addBelow("XDG_CACHE_HOME", "murvane");
+    addBelow("HOME", ".cache/murvane");
+    folders.emplace_back(fmt::format("/var/tmp/murvane-{}", getuid()));
+    return folders;
 }
 
 /// Where anybody may plant a folder, one of another user's would show him our documents.
@@ -51,19 +54,26 @@ constexpr std::string_view settings = R"(<?xml version="1.0" encoding="UTF-8"?>
 </oor:items>
 )";
 
-/// A new folder gets the settings; the suite keeps them when it writes its own beside them.
-void prepare(const std::filesystem::path& folder) {
+/// A new folder gets the settings, whole or not at all; the suite keeps them when it writes its own
+/// beside them.
+bool prepare(const std::filesystem::path& folder) {
     const std::filesystem::path file = folder / "user/registrymodifications.xcu";
+    const std::filesystem::path draft = folder / "user/settings.draft";
     std::error_code error;
-    if (std::filesystem::exists(file, error)) return;
+    if (std::filesystem::exists(file, error)) return true;
     std::filesystem::create_directories(file.parent_path(), error);
-    std::ofstream(file) << settings;
+    std::ofstream written(draft);
+    written << settings;
+    written.close();
+    if (written) std::filesystem::rename(draft, file, error);
+    if (written && !error) return true;
+    std::filesystem::remove(draft, error);
+    return false;
 }
 
 }  // namespace
 
-Profile Profile::acquire() {
-    const std::filesystem::path parent = profilesFolder();
+std::optional<Profile> Profile::acquireIn(const std::filesystem::path& parent) {
     std::error_code error;
     std::filesystem::create_directories(parent, error);
     for (int number = 1; isOurs(parent) && number <= mostAtATime; ++number) {
@@ -73,14 +83,25 @@ Profile Profile::acquire() {
             open(lockFile.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
         if (lock < 0) break;
         if (flock(lock, LOCK_EX | LOCK_NB) == 0) {
-            prepare(folder);
-            return {folder, lock};
+            if (prepare(folder)) return Profile(folder, lock);
+            close(lock);
+            break;
         }
         close(lock);
     }
+    return std::nullopt;
+}
+
+Profile Profile::acquire() {
+    const auto parents = profilesFolders();
+    for (const auto& parent : parents) {
+        if (auto profile = acquireIn(parent)) return std::move(*profile);
+    }
     throw office::Failure(
         office::FailureNumber::PathFileAccess, "Profile.acquire",
-        fmt::format("No folder for the suite's profile can be made in \"{}\"", parent.string()));
+        fmt::format("No folder for the suite's profile can be made in \"{}\". Let "
+                    "XDG_CACHE_HOME name a folder that can be written to",
+                    parents.front().string()));
 }
 
 Profile::Profile(std::string folder, int lock) : folder_(std::move(folder)), lock_(lock) {}

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+#include <optional>
 #include <string>
 
 namespace libreoffice {
@@ -22,6 +24,7 @@ public:
 
 private:
     Profile(std::string folder, int lock);
+    static std::optional<Profile> acquireIn(const std::filesystem::path& parent);
 
     std::string folder_;
     int lock_;
