@@ -70,8 +70,9 @@ std::string makePrivateFolder(const std::string& parent) {
     std::string path = makeOne(parent, privateStart);
     if (path.empty()) return {};
     // An office suite's pictures pass through folders of the same names here.
-    std::error_code ignored;
-    sweep(fs::temp_directory_path(ignored).string());
+    std::error_code error;
+    const fs::path pictures = fs::temp_directory_path(error);
+    sweep(error ? "/tmp" : pictures.string());
     return path;
 }
 

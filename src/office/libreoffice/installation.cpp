@@ -1,6 +1,7 @@
 #include "office/libreoffice/installation.h"
 
 #include <fmt/format.h>
+#include <pwd.h>
 #include <rtl/digest.h>
 #include <unistd.h>
 
@@ -27,8 +28,9 @@ std::string programFolder() {
 }
 
 std::string userProfileFolder() {
-    return environmentOr("XDG_CONFIG_HOME", environmentOr("HOME", "/") + "/.config") +
-           "/libreoffice/4";
+    const struct passwd* const user = getpwuid(geteuid());
+    const std::string home = environmentOr("HOME", user != nullptr ? user->pw_dir : "/");
+    return environmentOr("XDG_CONFIG_HOME", home + "/.config") + "/libreoffice/4";
 }
 
 std::string singleInstanceSocket(const std::string& profileFolder) {

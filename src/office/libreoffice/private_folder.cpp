@@ -12,15 +12,27 @@ namespace libreoffice {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+/// Empty if none can be made there.
+std::string folderIn(const fs::path& parent) {
+    std::string path = (parent / fmt::format("murvane-of-{}-XXXXXX", getpid())).string();
+    return mkdtemp(path.data()) == nullptr ? std::string() : path;
+}
+
+}  // namespace
+
 PrivateFolder::PrivateFolder() {
     std::error_code error;
-    std::string pattern =
-        (fs::temp_directory_path(error) / fmt::format("murvane-of-{}-XXXXXX", getpid())).string();
-    if (error || mkdtemp(pattern.data()) == nullptr) {
+    const fs::path named = fs::temp_directory_path(error);
+    std::string made = error ? std::string() : folderIn(named);
+    // What the environment names may be gone.
+    if (made.empty()) made = folderIn("/tmp");
+    if (made.empty()) {
         throw office::Failure(office::FailureNumber::PathFileAccess, "PrivateFolder",
                               "No temporary folder can be made");
     }
-    path_ = pattern;
+    path_ = made;
 }
 
 PrivateFolder::~PrivateFolder() {
