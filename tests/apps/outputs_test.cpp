@@ -114,13 +114,16 @@ TEST_F(OutputsTest, NothingWrittenIsNoOutput) {
 }
 
 TEST_F(OutputsTest, ALinkStaysALink) {
-    folder.write("real.pptx", "old");
-    std::filesystem::create_symlink("real.pptx", folder.path() / "link.pptx");
-    const auto output = outputAt("link.pptx", overwrite);
-    writeNeighbour(*output, "new");
-    output->commit();
-    EXPECT_TRUE(std::filesystem::is_symlink(folder.path() / "link.pptx"));
-    EXPECT_EQ(folder.read("real.pptx"), "new");
+    std::filesystem::create_directory(folder.path() / "real");
+    std::filesystem::create_symlink("link2.pptx", folder.path() / "link.pptx");
+    std::filesystem::create_symlink("real/out.pptx", folder.path() / "link2.pptx");
+    for (const bool isThere : {false, true}) {
+        const auto output = outputAt("link.pptx", isThere);
+        writeNeighbour(*output, isThere ? "new" : "old");
+        output->commit();
+        EXPECT_TRUE(std::filesystem::is_symlink(folder.path() / "link.pptx"));
+        EXPECT_EQ(folder.read("real/out.pptx"), isThere ? "new" : "old");
+    }
 }
 
 TEST_F(OutputsTest, WhatCannotBeWrittenIsFoundOutAtOnce) {

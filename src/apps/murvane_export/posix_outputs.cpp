@@ -23,11 +23,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The file itself where the name is a link to it, so that replacing it leaves the link alone.
+/// The file itself where the name is a link to it, also to one that isn't there yet, so that
+/// writing it leaves the link alone.
 fs::path behindLinks(const fs::path& file) {
-    std::error_code ignored;
-    const fs::path absolute = fs::absolute(file, ignored);
-    return fs::is_symlink(absolute, ignored) ? fs::weakly_canonical(absolute, ignored) : absolute;
+    constexpr int mostLinks = 40;
+    std::error_code error;
+    fs::path path = fs::absolute(file, error);
+    for (int i = 0; i < mostLinks && fs::is_symlink(path, error); ++i) {
+        const fs::path target = fs::read_symlink(path, error);
+        if (error) break;
+        path = path.parent_path() / target;
+    }
+    return path;
 }
 
 std::string reason() {
