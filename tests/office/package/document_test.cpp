@@ -42,6 +42,10 @@ TEST_F(DocumentFile, TakesPicturesWithNumberedCaptions) {
         {R"(<w:sdt><w:sdtContent><w:p><w:r><w:t>in</w:t></w:r></w:p></w:sdtContent></w:sdt>)",
          {""},
          {"in", "", "|", "", "*"}},
+        {R"(<w:altChunk/>)", {""}, {"", "|", "", "*"}},
+        {R"(<w:p><w:r><w:t>ahead</w:t></w:r></w:p><w:altChunk/>)",
+         {""},
+         {"ahead", "", "|", "", "*"}},
         // A section that ends with the last paragraph goes on to end there.
         {R"(<w:p><w:pPr><w:jc w:val="center"/><w:sectPr/></w:pPr></w:p>)",
          {""},
@@ -50,7 +54,8 @@ TEST_F(DocumentFile, TakesPicturesWithNumberedCaptions) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.body + testing::PrintToString(row.labels));
         const auto document = open(row.body);
-        EXPECT_EQ(document->length() == 1, row.body.find("<w:t") == std::string::npos);
+        EXPECT_EQ(document->length() == 1, row.body.find("<w:t") == std::string::npos &&
+                                               row.body.find("<w:alt") == std::string::npos);
         for (const std::string& label : row.labels) addPicture(*document, label);
         EXPECT_EQ(read(*document), row.expected);
         const auto again = saved(*document);
@@ -58,6 +63,7 @@ TEST_F(DocumentFile, TakesPicturesWithNumberedCaptions) {
         EXPECT_EQ(again->objectCount(Anchoring::Inline),
                   static_cast<std::int32_t>(row.labels.size()));
         EXPECT_STREQ(again->body().last_child().name(), "w:sectPr");
+        EXPECT_STREQ(again->body().last_child().previous_sibling().name(), "w:p");
     }
 }
 

@@ -30,7 +30,7 @@ constexpr std::array<std::string_view, 4> documentTypes = {
     "application/vnd.openxmlformats-officedocument.wordprocessingml.template.main+xml",
     "application/vnd.ms-word.template.macroEnabledTemplate.main+xml"};
 
-constexpr std::array<std::string_view, 4> blocks = {"p", "tbl", "sdt", "customXml"};
+constexpr std::array<std::string_view, 5> blocks = {"p", "tbl", "sdt", "customXml", "altChunk"};
 
 bool isBlock(pugi::xml_node element) {
     return isNamed(element, ns::compatibility, "AlternateContent") ||
@@ -75,8 +75,9 @@ void FileDocument::setTitle(const std::string& title) {
 std::int32_t FileDocument::length() {
     std::size_t count = objects().size();
     visitInOrder(body_, [&](pugi::xml_node element) {
-        // The end of a row counts as one, too.
-        if (isNamed(element, ns::word, "tr")) ++count;
+        // The end of a row counts as one, too, and so does the text of another file, which Word
+        // reads when it opens this one.
+        if (isNamed(element, ns::word, "tr") || isNamed(element, ns::word, "altChunk")) ++count;
         return !isNamed(element, ns::word, "p");
     });
     for (const pugi::xml_node paragraph : paragraphsIn(body_)) {
