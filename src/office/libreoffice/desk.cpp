@@ -197,8 +197,9 @@ uno::Reference<css::frame::XModel> Desk::load(const rtl::OUString& url, bool hid
     // none of its concern, but Excel's packages ask even then.
     as<css::util::XCloseable>(model)->close(true);
     const PrivateFolder folder;
-    const std::string copy = folder.file("workbook.xlsx");
-    const auto source = excel::writeUnaskingCopy(pathOfUrl(url), copy) ? fileUrl(copy) : url;
+    const std::filesystem::path file = pathOfUrl(url);
+    const std::string copy = folder.file(file.filename().c_str());
+    const auto source = excel::writeUnaskingCopy(file.string(), copy) ? fileUrl(copy) : url;
     const auto apart = loadOnce(source, hidden, password, readOnly, true);
     makeChangeable(apart, url);
     return apart;
