@@ -39,6 +39,11 @@ constexpr const char* slideNumberTooHigh =
     "than the number of slides in the PowerPoint file.\r"
     "Export can't take place ";
 
+constexpr const char* readOnly =
+    "The presentation is opened for reading only.\r"
+    "Open it for editing or save it under another name,\r"
+    "then continue.";
+
 }  // namespace
 
 Dialog::Dialog(forms::Desktop& theDesktop, session::OfficeSession& session,
@@ -157,6 +162,10 @@ void Dialog::ContinueOk_Click() {
         session().SessionPresentation.release();
         namePresentation(scope);
         if (!session().SessionPresentation) SetPanelMessage(noPowerPoint, "warning");
+        return;
+    }
+    if (scope.read([&] { return session().SessionPresentation.get("ReadOnly").toBool(); }, false)) {
+        session::ShowWarningNotice(session().notices, readOnly);
         return;
     }
     if (!slideNumbersFit()) {

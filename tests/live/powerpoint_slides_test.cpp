@@ -52,6 +52,16 @@ TEST_F(PowerPointLive, DeletesNoOtherSlideInPlaceOfOneThatTheUserHasDeleted) {
     EXPECT_EQ(slideCount(deck), left);
 }
 
+TEST_F(PowerPointLive, ChangesNoDeckThatIsOpenedForReadingOnly) {
+    const std::string file = copyOf(MURVANE_TEST_DECKS, "english.pptx");
+    static_cast<void>(desk->load(fileUrl(file), true, {}, true));
+    const Object deck = app.get("Presentations").get("Item", 1).toObject();
+    EXPECT_TRUE(deck.get("ReadOnly").toBool());
+    const std::int32_t slides = slideCount(deck);
+    EXPECT_EQ(failureOf([&] { addSlide(deck, titleOnly); }), 1004);
+    EXPECT_EQ(slideCount(deck), slides);
+}
+
 TEST_F(PowerPointLive, SetsANewTitleInTheTypeOfTheDecksOwn) {
     const Object deck = open("english.pptx");
     const Value text = titleText(addSlide(deck, titleOnly));

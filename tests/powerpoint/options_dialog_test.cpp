@@ -254,6 +254,20 @@ TEST_F(PowerPointDialog, RefusesASlideNumberBeyondTheDeck) {
     }
 }
 
+TEST_F(PowerPointDialog, StaysOpenOverAPresentationThatIsOpenForReadingOnly) {
+    open([&](powerpoint::Dialog& dialog) {
+        deck.readOnly = true;
+        press(dialog, "ContinueOk");
+        ASSERT_EQ(notices.messages().size(), 1U);
+        EXPECT_EQ(notices.messages()[0].find("The presentation is opened for reading only."), 0U);
+        EXPECT_EQ(deck.slideCount(), 3);
+        deck.readOnly = false;
+        press(dialog, "ContinueOk");
+        EXPECT_EQ(deck.slideCount(), 5);
+        EXPECT_FALSE(desktop.isLoaded(dialog));
+    });
+}
+
 TEST_F(PowerPointDialog, StaysOpenWhenThePresentationHasGoneAndNamesAnotherOneFirst) {
     open([&](powerpoint::Dialog& dialog) {
         deck.close();

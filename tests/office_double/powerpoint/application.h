@@ -55,10 +55,12 @@ struct Presentation : package::FileDeck {
     [[nodiscard]] office::Object handle() { return model::presentationObject(home()); }
     [[nodiscard]] Slide slide(std::int32_t place) { return {home(), slideAt(place)}; }
 
+    bool isReadOnly() override { return readOnly; }
     bool showsSlides() override { return showRuns; }
     void endSlideShow() override { showRuns = false; }
 
     office::model::GuardPtr guard;
+    bool readOnly = false;
     bool showRuns = false;
 };
 

@@ -2,6 +2,7 @@
 
 #include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
 #include <com/sun/star/drawing/XMasterPagesSupplier.hpp>
+#include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/lang/IndexOutOfBoundsException.hpp>
 #include <com/sun/star/lang/XServiceInfo.hpp>
 #include <com/sun/star/presentation/XPresentationSupplier.hpp>
@@ -106,6 +107,16 @@ uno::Reference<css::drawing::XShape> ImpressDeck::createShape(const char* servic
             uno::UNO_QUERY_THROW};
 }
 
+bool ImpressDeck::isReadOnly() {
+    return as<css::frame::XStorable>(model())->isReadonly();
+}
+
+void ImpressDeck::requireWritable(const char* member) {
+    if (isReadOnly())
+        throw Failure(FailureNumber::ApplicationDefined, member,
+                      fmt::format("\"{}\" is opened for reading only", name()));
+}
+
 model::Size ImpressDeck::slideSize() {
     const css::awt::Size size = sizeOf(pageAt(1)->properties());
     return {pointsOf(size.Width), pointsOf(size.Height)};
@@ -162,6 +173,7 @@ bool ImpressDeck::wouldComeBeforeNewSlides(std::int32_t place, std::int32_t layo
 }
 
 ImpressSlidePtr ImpressDeck::insertPage(std::int32_t place) {
+    requireWritable("Slides.Add");
     if (std::exchange(beginsWithoutSlides_, false)) return pageAt(1);
     // LibreOffice counts from 0 and inserts after the page that it is given.
     const bool atFront = place == 1;

@@ -35,6 +35,9 @@ public:
     [[nodiscard]] bool hasNoSlides() const { return beginsWithoutSlides_; }
     /// The slide of a page, or of a page of notes; null for a master page.
     [[nodiscard]] ImpressSlidePtr slideOf(const uno::Reference<css::drawing::XDrawPage>& page);
+    /// `office::Failure` 1004 in a presentation opened for reading only, which LibreOffice lets
+    /// automation change, though nobody can keep what comes of it.
+    void requireWritable(const char* member);
     /// `office::Failure` 1004 for the last one.
     void removeSlide(ImpressSlide& slide);
     /// A shape of a service ("com.sun.star.drawing.TextShape"), not on a slide yet.
@@ -47,6 +50,7 @@ public:
     [[nodiscard]] bool isGone() const override { return isClosed(); }
     std::string name() override { return Document::name(); }
     std::string fullName() override { return Document::fullName(); }
+    bool isReadOnly() override;
     /// All slides have the size of the first one.
     model::Size slideSize() override;
     std::int32_t slideCount() override;

@@ -114,6 +114,7 @@ ImpressShapePtr ImpressSlide::add(const char* service) {
 }
 
 model::DeckShapePtr ImpressSlide::addPicture(const std::string& file, const model::Point& corner) {
+    deck_.requireWritable("Shapes.AddPicture");
     if (const auto onItsWay = deck_.latePictures().take(file))
         return addPicture(*onItsWay, {onItsWay->widthPt, onItsWay->heightPt}, corner);
     const FilePicture picture = pictureOfFile(deck_.connection(), file);

@@ -89,6 +89,7 @@ NewShape::~NewShape() {
 }
 
 model::DeckShapePtr ImpressSlide::paste(const office::Copied& copied, PasteAs as) {
+    deck_.requireWritable(pasteSpecial);
     const auto place = model::pastePlaceFor({copied.widthPt(), copied.heightPt()}, deck_, *this);
     const bool isPicture = copied.source().kind == CopySource::Kind::Picture;
     if (as == PasteAs::Png || as == PasteAs::Metafile || (isPicture && as == PasteAs::Default))

@@ -18,6 +18,8 @@ public:
     virtual std::string name() = 0;
     /// The file's path; the name alone of one never saved.
     virtual std::string fullName() = 0;
+    /// Whether it is opened for reading only.
+    virtual bool isReadOnly() = 0;
     virtual Size slideSize() = 0;
 
     virtual std::int32_t slideCount() = 0;

@@ -57,6 +57,7 @@ const MemberTable<Presentation>& Presentation::members() {
         MemberTable<Self>("Presentation")
             .property("Name", [](Self& self) { return self.deck().name(); })
             .property("FullName", [](Self& self) { return self.deck().fullName(); })
+            .property("ReadOnly", [](Self& self) { return self.deck().isReadOnly(); })
             .property("Slides", [](Self& self) { return slidesObject(self.home()); })
             .property(
                 "PageSetup",

@@ -33,6 +33,7 @@ public:
     void removeSlide(FileSlide& slide);
     void markGone();
 
+    bool isReadOnly() override { return false; }
     model::Size slideSize() override;
     std::int32_t slideCount() override { return static_cast<std::int32_t>(slides_.size()); }
     model::DeckSlidePtr slideAt(std::int32_t place) override;
