@@ -62,7 +62,16 @@ office::Object chartOf(const session::OfficeSession& session, const ExportItem& 
             .get("Chart")
             .toObject();
     };
-    if (!row.isChartSheet()) return chartOn(row.name);
+    if (!row.isChartSheet()) {
+        try {
+            return chartOn(row.name);
+        } catch (const office::Failure& failure) {
+            if (!failure.is(office::FailureNumber::SubscriptOutOfRange)) throw;
+            throw office::Failure(
+                failure.number(), failure.source(),
+                fmt::format("Chart '{}' was not found on sheet '{}'.", row.name, row.sheet));
+        }
+    }
     office::ContinueOnFailure scope;
     office::Object chart;
     const bool isChartSheet = scope.attempt(
