@@ -40,6 +40,7 @@ private:
     [[nodiscard]] Object showSlideOf(const TakenRow& taken);
     [[nodiscard]] bool insert(const ExportItem& row, const Object& slide);
     void finishItem(const ExportItem& row, const Object& slide, bool isThere);
+    void putTitle(const Object& shapes, const std::string& caption);
     void styleLastShape(const Object& shapes);
     void removeSlidesLeft();
     /// Returns what a picture says that has failed late.
@@ -164,14 +165,24 @@ void BatchFrame::finishItem(const ExportItem& row, const Object& slide, bool isT
     if (isThere && options.placesShapes) PlaceLastShape(session_, shapes, title_);
     if (isThere) styleLastShape(shapes);
     if (options.sourceLine) AddSourceLine(session_, shapes);
-    if (options.titles) {
-        shapes.get("Title").get("TextFrame").get("TextRange").put("Text", row.caption);
-    }
+    if (options.titles) putTitle(shapes, row.caption);
     if (isThere && options.shadow) {
         // The option has no look of its own: it sets the style for the rest of the batch. Coming
         // after the source line, it gives the shadow to that one where there is one.
         pictureStyle_ = style::shadow;
         styleLastShape(shapes);
+    }
+}
+
+/// A slide that was there before has a title of its own, or no place for one.
+void BatchFrame::putTitle(const Object& shapes, const std::string& caption) {
+    const auto put = [&] {
+        shapes.get("Title").get("TextFrame").get("TextRange").put("Text", caption);
+    };
+    if (!batch_.choices.predefinedSlides) {
+        put();
+    } else if (!caption.empty()) {
+        office::ContinueOnFailure().attempt(put);
     }
 }
 

@@ -22,13 +22,12 @@ Options parsed(const Words& words) {
 }
 
 TEST(Options, EverythingThatCanBeSaidIsHeard) {
-    const Options options =
-        parsed({"book.xlsx",  "--to",       "slides",  "--into",   "deck.pptx",  "--output",
-                "out.pptx",   "--items",    "A,B@S",   "--items",  "C",          "--order",
-                "C",          "--captions", "c.csv",   "--slides", "predefined", "--no-titles",
-                "--source",   "--shadow",   "--style", "rounded",  "--top",      "0.25",
-                "--width",    "default",    "--left",  "0",        "--yes",      "--quiet",
-                "--overwrite"});
+    const Options options = parsed(
+        {"book.xlsx", "--to",     "slides",     "--into",   "deck.pptx", "--output", "out.pptx",
+         "--items",   "A,B@S",    "--items",    "C",        "--order",   "C",        "--captions",
+         "c.csv",     "--slides", "predefined", "--titles", "--source",  "--shadow", "--style",
+         "rounded",   "--top",    "0.25",       "--width",  "default",   "--left",   "0",
+         "--yes",     "--quiet",  "--overwrite"});
     EXPECT_EQ(options.task, Task::Export);
     EXPECT_EQ(options.book, "book.xlsx");
     EXPECT_EQ(options.targets, (Targets{{Destination::PowerPoint, "out.pptx"}}));
@@ -36,7 +35,7 @@ TEST(Options, EverythingThatCanBeSaidIsHeard) {
     EXPECT_EQ(options.items, (Words{"A,B@S", "C"}));
     EXPECT_EQ(options.order, Words{"C"});
     EXPECT_EQ(options.captionsFile, "c.csv");
-    EXPECT_TRUE(options.predefinedSlides && !*options.titles && options.source && options.shadow);
+    EXPECT_TRUE(options.predefinedSlides && *options.titles && options.source && options.shadow);
     EXPECT_EQ(options.pictureStyle, 3);
     EXPECT_EQ(options.top->share, 0.25);
     EXPECT_EQ(options.width->share, std::nullopt);
@@ -76,9 +75,6 @@ TEST(Options, WrongUsageEndsWithTwoAndSaysWhy) {
         {"all and some", {"b.xlsx", "--list", "--all", "--items", "A"}, "--items"},
         {"attach and deck", {"--attach", "--into", "d.pptx", "--output", "o.pptx"}, "--attach"},
         {"slides of nothing", {"b.xlsx", "--output", "o.pptx", "--slides", "predefined"}, "--into"},
-        {"titles of slides that exist",
-         {"b.xlsx", "--list", "--into", "d.pptx", "--slides", "predefined", "--titles"},
-         "--slides new"},
         {"unknown style", {"b.xlsx", "--list", "--style", "neon"}, "neon"},
         {"sheet alone in a link", {"b.xlsx", "--list", "--embed-only-sheet"}, "--format embedded"},
         {"links of pictures", {"b.xlsx", "--list", "--links", "relative"}, "--format linked"},

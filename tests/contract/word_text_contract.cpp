@@ -71,8 +71,7 @@ TEST_F(WordContract, TakesEmptyParagraphsOutAgain) {
     const std::string file = saved("as it was.docx");
     EXPECT_EQ(paragraphsOf(file), Lines{"as it was!"});
     const std::string part = "/word/document.xml";
-    EXPECT_NE(office::package::Package::open(file).read(part).find("\"Title\""),
-              std::string::npos);
+    EXPECT_NE(office::package::Package::open(file).read(part).find("\"Title\""), std::string::npos);
 }
 
 /// Each label counts for itself, over what stood in the file before, too.

@@ -194,7 +194,7 @@ void declareLooks(CLI::App& app, Options& options, RawTexts& raw) {
         ->check(oneOf({"new", "predefined"}))
         ->type_name("new|predefined");
     app.add_flag("--titles", raw.titles,
-                 "Captions become titles of new slides, as they do of pages in PDF and HTML");
+                 "Captions become titles of slides, as they do of pages in PDF and HTML");
     app.add_flag("--no-titles", raw.noTitles, "They don't, not there either");
     app.add_flag("--source", options.source,
                  "A line with the workbook's path on each slide, or each page of a PDF");
@@ -325,8 +325,6 @@ void finish(Options& options, const RawTexts& raw) {
             "--into and --attach don't go together: --attach uses what is active in the running "
             "suite.");
     }
-    if (options.predefinedSlides && options.titles.value_or(false))
-        throw UsageError("--titles goes with --slides new: slides that exist keep their titles.");
     if (options.predefinedSlides && options.deck.empty() && !options.attach &&
         options.task != Task::List) {
         throw UsageError(
