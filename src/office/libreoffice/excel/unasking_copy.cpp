@@ -3,9 +3,9 @@
 #include <pugixml.hpp>
 
 #include <sstream>
-#include <string_view>
 
 #include "office/package/package.h"
+#include "office/package/xml.h"
 
 namespace libreoffice::excel {
 
@@ -21,9 +21,8 @@ bool writeUnaskingCopy(const std::string& original, const std::string& copy) {
         pugi::xml_document document;
         if (!document.load_buffer(bytes.data(), bytes.size(), pugi::parse_full)) return false;
         pugi::xml_node root = document.document_element();
-        const pugi::xml_node asking = root.find_child([](pugi::xml_node node) {
-            const std::string_view name = node.name();
-            return name.substr(name.find(':') + 1) == "fileSharing";
+        const pugi::xml_node asking = root.find_child([](const pugi::xml_node& node) {
+            return office::package::localName(node) == "fileSharing";
         });
         if (!root.remove_child(asking)) return false;
         std::ostringstream text;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "office/package/package.h"
+#include "office/package/xml.h"
 
 namespace libreoffice::excel {
 
@@ -21,12 +22,8 @@ std::string attributeEndingIn(const pugi::xml_node& node, std::string_view end) 
 }
 
 pugi::xml_node childNamed(const pugi::xml_node& parent, std::string_view name) {
-    return parent.find_child([&](const pugi::xml_node& node) {
-        std::string_view local = node.name();
-        if (const auto colon = local.find(':'); colon != std::string_view::npos)
-            local.remove_prefix(colon + 1);
-        return local == name;
-    });
+    return parent.find_child(
+        [&](const pugi::xml_node& node) { return office::package::localName(node) == name; });
 }
 
 WorkbookFacts factsOf(office::package::Package package) {
