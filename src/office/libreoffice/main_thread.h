@@ -10,8 +10,9 @@ namespace libreoffice {
 /// to the suite that the task makes are carried out by that thread. Throws what the task throws,
 /// and `css::uno::Exception` if the suite is lost meanwhile.
 ///
-/// A font lays its characters out without the suite's lock: anywhere else that crashes the suite
-/// now and then, while it draws a text of its own.
+/// For what heeds the suite's lock too late: a font lays its characters out without it, which
+/// crashes a suite that draws a text of its own meanwhile; an embedded object takes its own lock
+/// first, which stops a suite for good that lays its text out.
 ///
 /// What the task refers to has to last as long as the task itself: after a lost connection that is
 /// longer than the call.

@@ -9,6 +9,7 @@
 #include <com/sun/star/text/WrapTextMode.hpp>
 
 #include "office/failure.h"
+#include "office/libreoffice/main_thread.h"
 #include "office/libreoffice/objects/copied_object.h"
 #include "office/libreoffice/objects/picture_graphic.h"
 #include "office/libreoffice/units.h"
@@ -99,6 +100,20 @@ NewContent::~NewContent() {
     }
 }
 
+/// LibreOffice puts objects to rest when there are many, and forgets their pictures then: one that
+/// rests already keeps the picture that it is given.
+///
+/// An object that goes to rest keeps its own lock while it waits for that of the suite; a text that
+/// lays itself out meanwhile holds that one and waits for the object. On the main thread there is
+/// nobody to wait for.
+void putToRest(const Connection& connection,
+               const uno::Reference<css::embed::XEmbeddedObject>& workbook) {
+    onMainThread(connection, [workbook] {
+        uno::Reference<css::embed::XEmbedPersist>(workbook, uno::UNO_QUERY_THROW)->storeOwn();
+        workbook->changeState(css::embed::EmbedStates::LOADED);
+    });
+}
+
 }  // namespace
 
 /// The new thing goes in front of what is selected, which is taken out only then: if the one can't
@@ -166,12 +181,8 @@ void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anch
         objects::fillWorkbook(
             connection, here,
             property<uno::Reference<css::frame::XModel>>(made.content(), "Model"));
-        // LibreOffice puts objects to rest when there are many, and forgets their pictures then:
-        // this one rests before it gets its own.
-        const auto workbook =
-            property<uno::Reference<css::embed::XEmbeddedObject>>(made.content(), "EmbeddedObject");
-        uno::Reference<css::embed::XEmbedPersist>(workbook, uno::UNO_QUERY_THROW)->storeOwn();
-        workbook->changeState(css::embed::EmbedStates::LOADED);
+        putToRest(connection, property<uno::Reference<css::embed::XEmbeddedObject>>(
+                                  made.content(), "EmbeddedObject"));
         made.set("Graphic", picture);
     }
     insertObject(place, made.content());
