@@ -23,7 +23,13 @@ namespace {
 WriterCaret::WriterCaret(uno::Reference<css::frame::XModel> document)
     : document_(std::move(document)) {}
 
+void WriterCaret::keepView() {
+    attach();
+    keepsView_ = true;
+}
+
 void WriterCaret::attach() {
+    if (keepsView_) return;
     auto current = document_->getCurrentController();
     if (!current.is()) refuse("Selection", "The document has no window");
     if (current.get() == controller_.get()) return;

@@ -23,6 +23,9 @@ class WriterCaret {
 public:
     explicit WriterCaret(uno::Reference<css::frame::XModel> document);
 
+    /// Says that the document's view stays the same, as nobody sees it.
+    void keepView();
+
     /// What is selected of the text, or the place of the caret. An object that is selected is let
     /// go, and the caret stands behind it then. `office::Failure` 1004 while several cells of a
     /// table are selected, or without a view.
@@ -50,6 +53,7 @@ private:
     void leaveObject();
 
     uno::Reference<css::frame::XModel> document_;
+    bool keepsView_ = false;
     uno::Reference<css::frame::XController> controller_;
     uno::Reference<css::view::XSelectionSupplier> selection_;
     uno::Reference<css::text::XTextViewCursor> cursor_;

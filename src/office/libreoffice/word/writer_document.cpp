@@ -12,6 +12,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <array>
 #include <string_view>
 #include <utility>
 
@@ -29,18 +30,19 @@ using css::text::ControlCharacter::PARAGRAPH_BREAK;
 using office::Failure;
 using office::FailureNumber;
 
-/// The height of a header or footer, which LibreOffice takes from the room between the margins.
-std::int32_t bandHeight(const uno::Reference<css::beans::XPropertySet>& page, const char* isOn,
-                        const char* height) {
-    return property<bool>(page, isOn) ? property<sal_Int32>(page, height) : 0;
-}
+/// The heights of header and footer, which LibreOffice takes from the room between the margins.
+struct Bands {
+    std::int32_t header = 0;
+    std::int32_t footer = 0;
+};
 
-std::int32_t headerHeight(const uno::Reference<css::beans::XPropertySet>& page) {
-    return bandHeight(page, "HeaderIsOn", "HeaderHeight");
-}
-
-std::int32_t footerHeight(const uno::Reference<css::beans::XPropertySet>& page) {
-    return bandHeight(page, "FooterIsOn", "FooterHeight");
+Bands bandsOf(const uno::Reference<css::beans::XMultiPropertySet>& page) {
+    static const auto names = namesOf({"FooterHeight", "FooterIsOn", "HeaderHeight", "HeaderIsOn"});
+    const auto values = page->getPropertyValues(names);
+    const auto heightIf = [&](sal_Int32 isOn, sal_Int32 height) {
+        return values[isOn].get<bool>() ? values[height].get<sal_Int32>() : 0;
+    };
+    return {.header = heightIf(3, 2), .footer = heightIf(1, 0)};
 }
 
 uno::Reference<css::document::XDocumentProperties> propertiesOf(
@@ -73,9 +75,11 @@ std::int32_t WriterDocument::length() {
     return body_->getString().getLength() + objects().count() + tableCount() + 1;
 }
 
-void WriterDocument::forgoUndo() {
+void WriterDocument::stayUnseen() {
     steps_->lock();
     steps_.clear();
+    isUnseen_ = true;
+    caret_.keepView();
 }
 
 void WriterDocument::requireWritable(const uno::Reference<css::beans::XMultiPropertySet>& place,
@@ -88,7 +92,7 @@ void WriterDocument::requireWritable(const uno::Reference<css::beans::XMultiProp
 
 WriterDocument::CursorRef WriterDocument::writablePlace(const std::string& member) {
     auto place = caret_.copy();
-    requireWritable(as<css::beans::XMultiPropertySet>(place), member);
+    if (!isUnseen_) requireWritable(as<css::beans::XMultiPropertySet>(place), member);
     return place;
 }
 
@@ -161,7 +165,7 @@ void WriterDocument::typeBackspace() {
     place->setString(rtl::OUString());
 }
 
-uno::Reference<css::beans::XPropertySet> WriterDocument::pageStyle() {
+uno::Reference<css::beans::XMultiPropertySet> WriterDocument::pageStyle() {
     const uno::Reference<css::container::XNameAccess> pages(
         as<css::style::XStyleFamiliesSupplier>(model())->getStyleFamilies()->getByName(
             "PageStyles"),
@@ -170,32 +174,40 @@ uno::Reference<css::beans::XPropertySet> WriterDocument::pageStyle() {
 }
 
 model::Page WriterDocument::page() {
+    static const auto names =
+        namesOf({"BottomMargin", "Height", "LeftMargin", "RightMargin", "TopMargin", "Width"});
     const auto style = pageStyle();
-    const auto length = [&](const char* name, std::int32_t more = 0) {
-        return pointsOf(property<sal_Int32>(style, name) + more);
+    const auto values = style->getPropertyValues(names);
+    const auto length = [&](sal_Int32 i, std::int32_t more = 0) {
+        return pointsOf(values[i].get<sal_Int32>() + more);
     };
-    return {.width = length("Width"),
-            .height = length("Height"),
-            .leftMargin = length("LeftMargin"),
-            .rightMargin = length("RightMargin"),
-            .topMargin = length("TopMargin", headerHeight(style)),
-            .bottomMargin = length("BottomMargin", footerHeight(style))};
+    const Bands bands = bandsOf(style);
+    return {.width = length(5),
+            .height = length(1),
+            .leftMargin = length(2),
+            .rightMargin = length(3),
+            .topMargin = length(4, bands.header),
+            .bottomMargin = length(0, bands.footer)};
 }
 
 void WriterDocument::setPage(const model::Page& page) {
     static_cast<void>(writablePlace("PageSetup"));
+    static const auto names = namesOf({"BottomMargin", "Height", "IsLandscape", "LeftMargin",
+                                       "RightMargin", "TopMargin", "Width"});
     const auto style = pageStyle();
-    const auto set = [&](const char* name, double points, std::int32_t less = 0) {
-        setProperty(style, name, std::max<sal_Int32>(0, hundredthMmOf(points) - less));
+    const auto length = [](double points, std::int32_t less = 0) {
+        return uno::Any(std::max<sal_Int32>(0, hundredthMmOf(points) - less));
     };
+    const Bands bands = bandsOf(style);
     const UndoGroup group(steps_, "Page");
-    setProperty(style, "IsLandscape", page.width > page.height);
-    set("Width", page.width);
-    set("Height", page.height);
-    set("LeftMargin", page.leftMargin);
-    set("RightMargin", page.rightMargin);
-    set("TopMargin", page.topMargin, headerHeight(style));
-    set("BottomMargin", page.bottomMargin, footerHeight(style));
+    const std::array<uno::Any, 7> values = {length(page.bottomMargin, bands.footer),
+                                            length(page.height),
+                                            uno::Any(page.width > page.height),
+                                            length(page.leftMargin),
+                                            length(page.rightMargin),
+                                            length(page.topMargin, bands.header),
+                                            length(page.width)};
+    style->setPropertyValues(names, {values.data(), values.size()});
 }
 
 void WriterDocument::insertCaption(const model::Caption& caption) {
@@ -207,7 +219,7 @@ void WriterDocument::insertCaption(const model::Caption& caption) {
 }
 
 WriterObjects& WriterDocument::objects() {
-    if (!objects_) objects_ = std::make_unique<WriterObjects>(*this);
+    if (!objects_) objects_ = std::make_unique<WriterObjects>(*this, isUnseen_);
     return *objects_;
 }
 

@@ -26,8 +26,9 @@ public:
     WriterDocument(Desk& desk, uno::Reference<css::frame::XModel> opened);
 
     [[nodiscard]] Desk& desk() const { return desk_; }
-    /// Says that nobody will take back what is done to it.
-    void forgoUndo();
+    /// Says that it has no window and never gets one: nobody takes back what is done to it, and
+    /// nobody else protects anything or puts objects into it, so nothing of that is asked.
+    void stayUnseen();
     [[nodiscard]] WriterCaret& caret() { return caret_; }
     [[nodiscard]] const uno::Reference<css::text::XText>& body() const { return body_; }
     /// A thing of a service ("com.sun.star.text.TextGraphicObject"), not in the text yet.
@@ -88,7 +89,7 @@ private:
     void insertGraphic(const CursorRef& place,
                        const uno::Reference<css::graphic::XGraphic>& graphic,
                        const css::awt::Size& size, model::Anchoring anchoring);
-    [[nodiscard]] uno::Reference<css::beans::XPropertySet> pageStyle();
+    [[nodiscard]] uno::Reference<css::beans::XMultiPropertySet> pageStyle();
     [[nodiscard]] WriterObjects& objects();
     /// Fields follow a change at the next pause of the suite only, those of some files not at all.
     void refreshFields();
@@ -98,6 +99,7 @@ private:
     uno::Reference<css::lang::XMultiServiceFactory> factory_;
     uno::Reference<css::document::XUndoManager> steps_;
     uno::Reference<css::frame::XStorable> file_;
+    bool isUnseen_ = false;
     WriterCaret caret_;
     WriterCaptions captions_;
     std::unique_ptr<WriterObjects> objects_;

@@ -13,7 +13,7 @@ public:
 
     model::TextDocumentPtr create(bool withWindow) override {
         auto document = makeNew("private:factory/swriter", withWindow);
-        if (!withWindow) document->forgoUndo();
+        if (!withWindow) document->stayUnseen();
         return document;
     }
     /// The other applications live in the same process.

@@ -12,8 +12,9 @@
 
 namespace libreoffice::word {
 
-WriterObjects::WriterObjects(WriterDocument& document)
+WriterObjects::WriterObjects(WriterDocument& document, bool areAllKnown)
     : document_(document),
+      areAllKnown_(areAllKnown),
       text_(document.body()),
       places_(as<css::text::XTextRangeCompare>(text_)),
       pictures_(as<css::container::XIndexAccess>(
@@ -21,8 +22,9 @@ WriterObjects::WriterObjects(WriterDocument& document)
       embedded_(as<css::container::XIndexAccess>(
           as<css::text::XTextEmbeddedObjectsSupplier>(document.model())->getEmbeddedObjects())) {}
 
-std::int32_t WriterObjects::countThere() {
-    return pictures_->getCount() + embedded_->getCount();
+bool WriterObjects::areThere(std::size_t count) {
+    return areAllKnown_ ||
+           static_cast<std::size_t>(pictures_->getCount() + embedded_->getCount()) == count;
 }
 
 WriterObjectPtr WriterObjects::known(const rtl::OUString& name) const {
@@ -35,7 +37,7 @@ WriterObjectPtr WriterObjects::known(const rtl::OUString& name) const {
 }
 
 void WriterObjects::refresh() {
-    if (static_cast<std::size_t>(countThere()) == inOrder_.size() + elsewhere_.size()) return;
+    if (areThere(inOrder_.size() + elsewhere_.size())) return;
     std::vector<WriterObjectPtr> all;
     for (const auto& list : {pictures_, embedded_}) {
         const sal_Int32 count = list->getCount();
@@ -102,7 +104,7 @@ void WriterObjects::insertInOrder(const WriterObjectPtr& object) {
 }
 
 void WriterObjects::add(const ContentRef& content) {
-    if (static_cast<std::size_t>(countThere()) == inOrder_.size() + elsewhere_.size() + 1)
+    if (areThere(inOrder_.size() + elsewhere_.size() + 1))
         insert(std::make_shared<WriterObject>(content, document_));
 }
 

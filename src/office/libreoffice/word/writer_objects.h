@@ -18,7 +18,8 @@ namespace libreoffice::word {
 /// is kept, and made anew only when there are more of them or fewer than it knows of.
 class WriterObjects {
 public:
-    explicit WriterObjects(WriterDocument& document);
+    /// `areAllKnown`: nobody but `add` puts any in or takes any out.
+    WriterObjects(WriterDocument& document, bool areAllKnown);
 
     [[nodiscard]] std::int32_t count();
     [[nodiscard]] std::int32_t count(model::Anchoring anchoring);
@@ -30,14 +31,16 @@ public:
     void add(const ContentRef& content);
 
 private:
+    /// Whether there are that many in the document.
+    [[nodiscard]] bool areThere(std::size_t count);
     void refresh();
     [[nodiscard]] bool hasLostItsPlace(const WriterObjectPtr& object) const;
     void insert(const WriterObjectPtr& object);
     void insertInOrder(const WriterObjectPtr& object);
     [[nodiscard]] WriterObjectPtr known(const rtl::OUString& name) const;
-    [[nodiscard]] std::int32_t countThere();
 
     WriterDocument& document_;
+    bool areAllKnown_;
     uno::Reference<css::text::XText> text_;
     uno::Reference<css::text::XTextRangeCompare> places_;
     uno::Reference<css::container::XIndexAccess> pictures_;
