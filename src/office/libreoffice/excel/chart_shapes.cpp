@@ -1,6 +1,5 @@
 #include "office/libreoffice/excel/chart_shapes.h"
 
-#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/container/XChild.hpp>
 #include <com/sun/star/drawing/XDrawPageSupplier.hpp>
 #include <com/sun/star/drawing/XShapes.hpp>
@@ -30,15 +29,16 @@ struct Identity {
     std::string key;
 };
 
-Identity identityOf(const uno::Reference<css::drawing::XShape>& shape) {
-    const auto values = as<css::beans::XMultiPropertySet>(shape)->getPropertyValues(
-        namesOf({"CLSID", "Name", "PersistName"}));
-    const auto text = [&](sal_Int32 i) {
-        rtl::OUString value;
-        values[i] >>= value;
-        return fromUno(value);
-    };
-    return {office::lowerCase(text(0)), text(1), text(2)};
+std::string textOf(const uno::Any& value) {
+    rtl::OUString text;
+    value >>= text;
+    return fromUno(text);
+}
+
+Identity identityOf(const uno::Reference<css::beans::XMultiPropertySet>& shape) {
+    static const auto names = namesOf({"CLSID", "Name", "PersistName"});
+    const auto values = shape->getPropertyValues(names);
+    return {office::lowerCase(textOf(values[0])), textOf(values[1]), textOf(values[2])};
 }
 
 }  // namespace
@@ -53,17 +53,19 @@ uno::Reference<css::drawing::XDrawPage> drawPageOf(
 }
 
 ChartShape::ChartShape(CalcDocument& book, uno::Reference<css::drawing::XShape> shape,
-                       std::string name, bool hasName)
+                       uno::Reference<css::beans::XMultiPropertySet> properties, std::string name,
+                       bool hasName)
     : book_(book),
       shape_(std::move(shape)),
-      named_(as<css::container::XNamed>(shape_)),
+      properties_(std::move(properties)),
       ownName_(std::move(name)),
       name_(ownName_),
       hasName_(hasName) {}
 
 std::string ChartShape::name() {
     if (!hasName_) return name_;
-    std::string now = fromUno(named_->getName());
+    static const auto names = namesOf({"Name"});
+    std::string now = textOf(properties_->getPropertyValues(names)[0]);
     return now == ownName_ ? name_ : now;
 }
 
@@ -157,10 +159,11 @@ void ChartShapes::collect(const uno::Reference<css::container::XIndexAccess>& sh
             into.push_back(known);
             continue;
         }
-        const Identity identity = identityOf(shape);
+        const auto properties = as<css::beans::XMultiPropertySet>(shape);
+        const Identity identity = identityOf(properties);
         if (identity.classId == chartClass) {
             into.push_back(std::make_shared<ChartShape>(
-                book_, shape, identity.name.empty() ? identity.key : identity.name,
+                book_, shape, properties, identity.name.empty() ? identity.key : identity.name,
                 !identity.name.empty()));
         } else if (const auto group = tryAs<css::container::XIndexAccess>(shape); group.is()) {
             collect(group, into);

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/container/XIndexAccess.hpp>
-#include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/drawing/XDrawPage.hpp>
 #include <com/sun/star/drawing/XShape.hpp>
 #include <com/sun/star/frame/XModel.hpp>
@@ -37,7 +36,8 @@ struct SheetOfChart {
 /// by a name of its own.
 class ChartShape : public office::model::excel::SheetChart {
 public:
-    ChartShape(CalcDocument& book, uno::Reference<css::drawing::XShape> shape, std::string name,
+    ChartShape(CalcDocument& book, uno::Reference<css::drawing::XShape> shape,
+               uno::Reference<css::beans::XMultiPropertySet> properties, std::string name,
                bool hasName);
 
     [[nodiscard]] const uno::Reference<css::drawing::XShape>& shape() const { return shape_; }
@@ -68,7 +68,7 @@ public:
 private:
     CalcDocument& book_;
     uno::Reference<css::drawing::XShape> shape_;
-    uno::Reference<css::container::XNamed> named_;
+    uno::Reference<css::beans::XMultiPropertySet> properties_;
     std::string ownName_;
     std::string name_;
     bool hasName_;

@@ -165,7 +165,9 @@ private:
     SheetChartPtr chart_;
 };
 
-/// The charts of a worksheet. `Add` makes one that holds a picture: it is not counted here.
+/// The charts of a worksheet, numbered as they were when they were last counted by this object: a
+/// loop over them asks the suite once. `Add` makes one that holds a picture: it is not counted
+/// here.
 class ChartObjects : public ObjectIn<ChartObjects, InSheet> {
 public:
     using ObjectIn::ObjectIn;
@@ -174,11 +176,8 @@ public:
         using Self = ChartObjects;
         static const auto table =
             MemberTable<Self>("ChartObjects")
-                .property("Count", [](Self& self) { return countOf(self.sheet().charts().size()); })
-                .property("Item", {"Index"},
-                          [](Self& self, const CallArguments& arguments) {
-                              return chartObjectByIndex(self.home(), arguments);
-                          })
+                .property("Count", &Self::count)
+                .property("Item", {"Index"}, &Self::item)
                 .method("Add", {"Left", "Top", "Width", "Height"},
                         [](Self& self, const CallArguments& at) {
                             const Box box{at.at(0).toDouble(), at.at(1).toDouble(),
@@ -188,6 +187,19 @@ public:
                         });
         return table;
     }
+
+private:
+    Value count() {
+        counted_ = sheet().charts();
+        return countOf(counted_.size());
+    }
+    Value item(const CallArguments& arguments) {
+        const ItemIndex index(arguments.at(0), arguments.source());
+        if (index.isName() || counted_.empty()) return chartObjectByIndex(home(), arguments);
+        return chartObjectObject(home(), counted_[index.placeBelow(counted_.size())]);
+    }
+
+    std::vector<SheetChartPtr> counted_;
 };
 
 }  // namespace
