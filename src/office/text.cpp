@@ -27,6 +27,13 @@ icu::UnicodeString unicode(std::string_view text) {
     return icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())});
 }
 
+/// Alike for texts that are the same but for their case.
+std::string folded(std::string_view text) {
+    std::string key;
+    unicode(text).foldCase().toUTF8String(key);
+    return key;
+}
+
 /// By the user's language. A program that is started without one sorts as most languages do.
 std::unique_ptr<icu::Collator> makeCollator() {
     const icu::Locale& users = icu::Locale::getDefault();
@@ -73,13 +80,13 @@ std::string sortKey(std::string_view text) {
 
 std::vector<std::string> distinctNames(std::vector<std::string> names) {
     std::set<std::string> taken;
-    for (const std::string& name : names) taken.insert(lowerCase(name));
+    for (const std::string& name : names) taken.insert(folded(name));
     std::map<std::string, int> seen;
     for (std::string& name : names) {
-        int& number = seen[lowerCase(name)];
+        int& number = seen[folded(name)];
         if (name.empty() || ++number == 1) continue;
         std::string distinct = name + " (" + std::to_string(number) + ")";
-        while (!taken.insert(lowerCase(distinct)).second)
+        while (!taken.insert(folded(distinct)).second)
             distinct = name + " (" + std::to_string(++number) + ")";
         name = std::move(distinct);
     }

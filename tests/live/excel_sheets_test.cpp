@@ -130,6 +130,21 @@ TEST_F(ExcelSheets, FindsTheCellsUnderAChartWhereLinesAreHiddenOrOfManySizes) {
     }
 }
 
+TEST_F(ExcelSheets, KeepsTheNameByWhichAChartWasListedWhenItsNamesakeGoes) {
+    const Object book = open("charts.xlsx");
+    const auto shapes = excel::drawPageOf(uno::Reference<css::sheet::XSpreadsheet>(
+        userSheets()->getByName("Data"), uno::UNO_QUERY_THROW));
+    const auto shape = [&](sal_Int32 place) {
+        return shapes->getByIndex(place).get<uno::Reference<css::drawing::XShape>>();
+    };
+    for (const sal_Int32 place : {0, 1}) as<css::container::XNamed>(shape(place))->setName("Twin");
+    const Object charts = sheet(book, "Data").get("ChartObjects").toObject();
+    EXPECT_EQ(namesIn(charts), (Names{"Twin", "Twin (2)", "Veiled", "Dark"}));
+    shapes->remove(shape(0));
+    EXPECT_EQ(namesIn(charts), (Names{"Twin (2)", "Veiled", "Dark"}));
+    EXPECT_NE(failureOf([&] { charts.get("Item", "Twin"); }), 0);
+}
+
 TEST_F(ExcelSheets, CostsNoMoreCallsToLookUpASheetWhenThereAreMany) {
     const Object book = open("sheets.xlsx");
     const Value sheets = book.get("Sheets");

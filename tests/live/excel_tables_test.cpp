@@ -136,8 +136,9 @@ TEST_F(ExcelTables, DoWithWideTextsWhatASheetDoes) {
         "ends…",
         "cut at a colo",
         "on over its colour fill=00FF00 2x1",
+        "on over no colour fill=FFFFFF 2x1",
     };
-    const TableLook table = tableOf("Wide", "A1:D10");
+    const TableLook table = tableOf("Wide", "A1:D11");
     std::vector<std::string> found;
     for (const CellLook& look : table.cells) {
         if (!look.isCovered && !look.text.empty()) found.push_back(described(look));

@@ -36,8 +36,8 @@ TEST(Text, IgnoresTheCaseOfLettersAlone) {
 
 TEST(Text, TellsNamesakesApart) {
     using Names = std::vector<std::string>;
-    EXPECT_EQ(office::distinctNames({"Sales", "sales (2)", "SALES", "", "Sales", ""}),
-              (Names{"Sales", "sales (2)", "SALES (3)", "", "Sales (4)", ""}));
+    EXPECT_EQ(office::distinctNames({"Sales", "sales (2)", "SALES", "", "Sales", "", "Ü", "ü"}),
+              (Names{"Sales", "sales (2)", "SALES (3)", "", "Sales (4)", "", "Ü", "ü (2)"}));
 }
 
 TEST(Text, SortsAsTheEyeDoes) {

@@ -141,10 +141,16 @@ void ChartShapes::refresh(const uno::Sequence<rtl::OUString>& keys) {
     if (keys.hasElements()) {
         collect(as<css::container::XIndexAccess>(drawPageOf(sheet_)), found);
     }
+    // One that has been listed keeps the name that it was listed by, whoever has gone: it comes
+    // first.
+    std::vector<ChartShapePtr> inTurn = found;
+    std::stable_partition(inTurn.begin(), inTurn.end(), [&](const ChartShapePtr& chart) {
+        return std::find(charts_.begin(), charts_.end(), chart) != charts_.end();
+    });
     std::vector<std::string> names;
-    for (const ChartShapePtr& chart : found) names.push_back(chart->ownName());
+    for (const ChartShapePtr& chart : inTurn) names.push_back(chart->knownName());
     names = office::distinctNames(std::move(names));
-    for (std::size_t i = 0; i < found.size(); ++i) found[i]->callItself(std::move(names[i]));
+    for (std::size_t i = 0; i < inTurn.size(); ++i) inTurn[i]->callItself(std::move(names[i]));
     charts_ = std::move(found);
     seenKeys_ = keys;
 }

@@ -43,8 +43,6 @@ public:
     [[nodiscard]] const uno::Reference<css::drawing::XShape>& shape() const { return shape_; }
     /// As last seen.
     [[nodiscard]] const std::string& knownName() const { return name_; }
-    /// The name that the suite knows it by, as it was at first.
-    [[nodiscard]] const std::string& ownName() const { return ownName_; }
     /// Tells it from its namesakes.
     void callItself(std::string distinct) { name_ = std::move(distinct); }
     /// The shape is that of another document and lasts as long as its owner: what is copied of it
@@ -69,6 +67,7 @@ private:
     CalcDocument& book_;
     uno::Reference<css::drawing::XShape> shape_;
     uno::Reference<css::beans::XMultiPropertySet> properties_;
+    /// The name that the suite knows it by, as it was at first.
     std::string ownName_;
     std::string name_;
     bool hasName_;

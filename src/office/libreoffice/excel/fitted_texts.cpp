@@ -21,6 +21,12 @@ constexpr double sideMarginPt = 1;
 /// Widths are those of single characters: close to one another they take less.
 constexpr double tolerancePt = 1;
 
+/// A cell that has none shows the sheet's.
+std::int32_t groundOf(const CellLook& cell) {
+    constexpr std::int32_t white = 0xFFFFFF;
+    return cell.fill.value_or(white);
+}
+
 class TextFitter {
 public:
     TextFitter(TableLook& table, TextWidths& widths, NumberFormats& formats)
@@ -144,7 +150,7 @@ private:
         if (column >= table_.columnWidthsPt.size()) return false;
         const CellLook& cell = at(row, column);
         return !cell.isCovered && cell.text.empty() && cell.columns == 1 && cell.rows == 1 &&
-               cell.fill == text.fill && !cell.bar;
+               groundOf(cell) == groundOf(text) && !cell.bar;
     }
 
     bool spanNext(std::size_t row, std::size_t column) {

@@ -2,7 +2,6 @@
 
 #include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
 #include <com/sun/star/drawing/XMasterPagesSupplier.hpp>
-#include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/lang/IndexOutOfBoundsException.hpp>
 #include <com/sun/star/lang/XServiceInfo.hpp>
 #include <com/sun/star/presentation/XPresentationSupplier.hpp>
@@ -58,6 +57,7 @@ ImpressDeck::ImpressDeck(Desk& desk, uno::Reference<css::frame::XModel> opened)
       desk_(desk),
       pages_(as<css::drawing::XDrawPagesSupplier>(model())->getDrawPages()),
       factory_(as<css::lang::XMultiServiceFactory>(model())),
+      file_(as<css::frame::XStorable>(model())),
       latePictures_(desk.connectionPtr(), desk.drawingRoom),
       window_(*this),
       layouts_(model()) {}
@@ -108,7 +108,7 @@ uno::Reference<css::drawing::XShape> ImpressDeck::createShape(const char* servic
 }
 
 bool ImpressDeck::isReadOnly() {
-    return as<css::frame::XStorable>(model())->isReadonly();
+    return file_->isReadonly();
 }
 
 void ImpressDeck::requireWritable(const char* member) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <com/sun/star/drawing/XDrawPages.hpp>
+#include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/presentation/XPresentation2.hpp>
 
@@ -85,6 +86,7 @@ private:
     Desk& desk_;
     uno::Reference<css::drawing::XDrawPages> pages_;
     uno::Reference<css::lang::XMultiServiceFactory> factory_;
+    uno::Reference<css::frame::XStorable> file_;
     uno::Reference<css::presentation::XPresentation2> slideShow_;
     LatePictures latePictures_;
     ImpressWindow window_;
