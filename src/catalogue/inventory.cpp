@@ -95,7 +95,6 @@ private:
 /// can't be selected. The first sheet is never tried.
 void leaveChartSheet(const office::Object& book) {
     constexpr std::int32_t worksheetType = -4167;
-    constexpr std::int32_t visibleSheet = -1;
     if (book.get("ActiveSheet").get("Type").toLong() == worksheetType) return;
     const office::Value sheets = book.get("Sheets");
     const std::int32_t count = sheets.get("Count").toLong();

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
 #include "session/workbook_store.h"
 
@@ -11,8 +12,6 @@ namespace {
 
 using office::Object;
 using office::Value;
-
-constexpr std::int32_t visibleSheet = -1;
 
 /// A sheet-level name without its sheet; any other as it stands.
 std::string shortName(const std::string& nameText) {

@@ -7,12 +7,6 @@
 
 namespace catalogue {
 
-namespace {
-
-constexpr std::int32_t visibleSheet = -1;
-
-}  // namespace
-
 const RowObjects::Sheet& RowObjects::sheetOf(const ExportItem& row) {
     const std::string_view trimmed = office::trim(row.sheet);
     const auto [place, isNew] =

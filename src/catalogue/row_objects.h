@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <string>
 
@@ -7,6 +8,9 @@
 #include "session/office_session.h"
 
 namespace catalogue {
+
+/// What `Visible` of a sheet says that is neither hidden nor very hidden.
+constexpr std::int32_t visibleSheet = -1;
 
 /// Looks up what the rows stand for, during one walk over them. Each sheet is asked for once: make
 /// a new one for each walk, since the user may show or hide a sheet between two.

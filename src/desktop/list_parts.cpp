@@ -175,14 +175,14 @@ void ListHeader::hover(int section) {
 
 namespace {
 
-constexpr int markSize = 14;
+constexpr int boxSize = 14;
 constexpr int iconSize = 16;
 constexpr int gap = 5;
 
 }  // namespace
 
 QRect RowPainter::checkBoxIn(const QRect& cell) {
-    return {cell.left() + gap, cell.center().y() - markSize / 2 + 1, markSize, markSize};
+    return {cell.left() + gap, cell.center().y() - boxSize / 2 + 1, boxSize, boxSize};
 }
 
 QSize RowPainter::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
@@ -224,7 +224,7 @@ void RowPainter::paintGround(QPainter& painter, const QStyleOptionViewItem& opti
 QRect RowPainter::textBoxIn(const QRect& cell, const QModelIndex& index) const {
     QRect box = cell.adjusted(gap, 0, -gap, 0);
     if (index.column() != 0) return box;
-    if (looks.checkBoxes) box.setLeft(box.left() + markSize + gap);
+    if (looks.checkBoxes) box.setLeft(box.left() + boxSize + gap);
     if (!index.data(RowsModel::iconRole).toString().isEmpty()) {
         box.setLeft(box.left() + iconSize + gap);
     }

@@ -9,6 +9,7 @@
 
 #include "catalogue/export_run.h"
 #include "office/failure_patterns.h"
+#include "powerpoint/numbers.h"
 #include "powerpoint/placement.h"
 #include "session/powerpoint_session.h"
 
@@ -20,8 +21,6 @@ using catalogue::ExportItem;
 using catalogue::TakenRow;
 using office::Object;
 using session::OfficeSession;
-
-constexpr std::int32_t titleOnlyLayout = 11;
 
 /// One run of the frame. What every row needs is looked up once and held.
 class BatchFrame {
@@ -97,7 +96,7 @@ void BatchFrame::prepare() {
     const std::int32_t end = slides_.get("Count").toLong() + 1;
     if (!batch_.choices.predefinedSlides) {
         for (std::size_t i = 0; i < rows_.size(); ++i)
-            newSlides_.push_back(slides_.call("Add", end, titleOnlyLayout).toObject());
+            newSlides_.push_back(slides_.call("Add", end, number::titleOnlyLayout).toObject());
         // Each has come ahead of those before it.
         std::reverse(newSlides_.begin(), newSlides_.end());
     }

@@ -6,6 +6,7 @@
 #include "catalogue/row_copies.h"
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
+#include "powerpoint/numbers.h"
 #include "powerpoint/pasted_shape.h"
 
 namespace powerpoint {
@@ -17,12 +18,10 @@ using office::arg;
 using office::Object;
 using session::OfficeSession;
 
-constexpr std::int32_t defaultData = 0;
-
 void pasteChart(OfficeSession& session, const ExportItem& row, const Object& slide) {
     catalogue::RestoreScreenUpdating(session);
     slide.call("Select");
-    slide.get("Shapes").call("PasteSpecial", defaultData);
+    slide.get("Shapes").call("PasteSpecial", number::defaultData);
     session.host.letEventsRun();
     describeLastShape(slide, row);
 }
@@ -52,7 +51,7 @@ bool PasteRangeEditable(OfficeSession& session, const ExportItem& row, const Obj
     catalogue::RestoreScreenUpdating(session);
     office::ContinueOnFailure scope;
     const bool isThere = scope.attempt([&] {
-        slide.get("Shapes").call("PasteSpecial", arg("DataType", defaultData),
+        slide.get("Shapes").call("PasteSpecial", arg("DataType", number::defaultData),
                                  arg("DisplayAsIcon", false), arg("IconFileName", ""),
                                  arg("IconIndex", 0), arg("IconLabel", ""), arg("Link", false));
     });

@@ -2,6 +2,7 @@
 
 #include "catalogue/export_run.h"
 #include "office/failure_patterns.h"
+#include "powerpoint/numbers.h"
 #include "powerpoint/object_paste.h"
 #include "session/powerpoint_session.h"
 
@@ -15,22 +16,20 @@ using office::Object;
 using office::Value;
 using session::OfficeSession;
 
-/// PowerPoint's number of an embedded OLE object.
-constexpr std::int32_t oleObject = 10;
-
 bool PasteEmbeddedObject(OfficeSession& session, const Object& slide) {
-    return pasteByAttempts(session, slide, NextAttempt::AfterFailureOrNothing,
-                           {[&] {
-                                return slide.get("Shapes").call(
-                                    "PasteSpecial", arg("DataType", oleObject), arg("Link", false));
-                            },
-                            [&] { return slide.get("Shapes").call("PasteSpecial", oleObject); },
-                            [&] {
-                                session::PresentationWindow(session).get("View").call(
-                                    "PasteSpecial", arg("DataType", oleObject),
-                                    arg("DisplayAsIcon", false), arg("Link", false));
-                                return Value();
-                            }});
+    return pasteByAttempts(
+        session, slide, NextAttempt::AfterFailureOrNothing,
+        {[&] {
+             return slide.get("Shapes").call("PasteSpecial", arg("DataType", number::oleObject),
+                                             arg("Link", false));
+         },
+         [&] { return slide.get("Shapes").call("PasteSpecial", number::oleObject); },
+         [&] {
+             session::PresentationWindow(session).get("View").call(
+                 "PasteSpecial", arg("DataType", number::oleObject), arg("DisplayAsIcon", false),
+                 arg("Link", false));
+             return Value();
+         }});
 }
 
 constexpr ObjectRoute embedded{.paste = PasteEmbeddedObject,

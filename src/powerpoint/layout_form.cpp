@@ -20,8 +20,8 @@ using forms::Place;
 using forms::Slider;
 using forms::Twips;
 
-constexpr Twips width = 9360;
-constexpr Twips height = 5880;
+constexpr Twips layoutWidth = 9360;
+constexpr Twips layoutHeight = 5880;
 /// Where the sliders stand while the program chooses.
 constexpr double standardTop = 0.25;
 constexpr double standardWidth = 0.9;
@@ -56,8 +56,8 @@ double SliderToFraction(std::int32_t value) {
 }  // namespace
 
 LayoutForm::LayoutForm(forms::Desktop& theDesktop, session::OfficeSession& session)
-    : Form(theDesktop, "LayoutForm", width, height),
-      TitelBar1(*this, "TitelBar1", {0, 0, width, 420}),
+    : Form(theDesktop, "LayoutForm", layoutWidth, layoutHeight),
+      TitelBar1(*this, "TitelBar1", {0, 0, layoutWidth, 420}),
       Frame1(*this, "Frame1", {240, 660, 3840, 4260}),
       OptionTop(optionsOf(*this, "OptionTop", 3360, Frame1)),
       TopSlider(*this, "TopSlider", {1680, 1140, 480, 2520}, Slider::Orientation::Vertical,
@@ -73,7 +73,7 @@ LayoutForm::LayoutForm(forms::Desktop& theDesktop, session::OfficeSession& sessi
       AlignSlider(*this, "AlignSlider", {240, 1080, 4320, 480}, Slider::Orientation::Horizontal,
                   &Frame3),
       Label3(*this, "Label3", {240, 1620, 4320, 300}, &Frame3),
-      CloseLayout(*this, "CloseLayout", {width - 240 - 1920, 5160, 1920, 480}),
+      CloseLayout(*this, "CloseLayout", {layoutWidth - 240 - 1920, 5160, 1920, 480}),
       session_(session) {
     escapeCloses = true;
     setCaptions();

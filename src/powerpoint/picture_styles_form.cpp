@@ -14,8 +14,8 @@ namespace {
 
 using forms::Twips;
 
-constexpr Twips width = 12300;
-constexpr Twips height = 5640;
+constexpr Twips stylesWidth = 12300;
+constexpr Twips stylesHeight = 5640;
 constexpr Twips optionWidth = 1800;
 constexpr Twips optionGap = 120;
 
@@ -47,14 +47,14 @@ std::array<forms::OptionButton, 6> optionsOf(forms::Form& form, forms::Frame& fr
 }  // namespace
 
 PredefinedStyles::PredefinedStyles(forms::Desktop& theDesktop, std::int16_t& chosen)
-    : Form(theDesktop, "PredefinedStyles", width, height),
-      TitelBar1(*this, "TitelBar1", {0, 0, width, 420}),
+    : Form(theDesktop, "PredefinedStyles", stylesWidth, stylesHeight),
+      TitelBar1(*this, "TitelBar1", {0, 0, stylesWidth, 420}),
       Image1(*this, "Image1", {240, 600, 360, 360}),
       Label1(*this, "Label1", {720, 660, 6000, 300}),
-      Frame3(*this, "Frame3", {240, 1080, width - 480, 3480}),
+      Frame3(*this, "Frame3", {240, 1080, stylesWidth - 480, 3480}),
       Picture1(*this, "Picture1", {4110, 180, 3600, 2340}, &Frame3),
       OptionStyle(optionsOf(*this, Frame3)),
-      Styles(*this, "Styles", {width - 240 - 1920, 4860, 1920, 480}),
+      Styles(*this, "Styles", {stylesWidth - 240 - 1920, 4860, 1920, 480}),
       chosen_(chosen) {
     caption = "Murvane";
     escapeCloses = true;

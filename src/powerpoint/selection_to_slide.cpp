@@ -11,6 +11,7 @@
 #include "office/failure_patterns.h"
 #include "office/text.h"
 #include "powerpoint/excel_objects.h"
+#include "powerpoint/numbers.h"
 #include "session/powerpoint_session.h"
 #include "session/waits.h"
 
@@ -22,13 +23,6 @@ using office::arg;
 using office::Object;
 using session::OfficeSession;
 using session::SlidePaste;
-
-constexpr std::int32_t titleLayout = 1;
-constexpr std::int32_t titleOnlyLayout = 11;
-constexpr std::int32_t blankLayout = 12;
-constexpr std::int32_t enhancedMetafile = 2;
-constexpr std::int32_t png = 6;
-constexpr std::int32_t oleObject = 10;
 
 enum class SourceKind { Chart, Range };
 
@@ -129,7 +123,8 @@ void SelectionPaste::prepareOldSlide() {
     office::ContinueOnFailure scope;
     scope.attempt([&] {
         const Object slides = window().get("Selection").get("SlideRange").toObject();
-        if (slides.get("Layout").toLong() == blankLayout) slides.put("Layout", titleLayout);
+        if (slides.get("Layout").toLong() == number::blankLayout)
+            slides.put("Layout", number::titleLayout);
         const Object shapes = slides.get("Shapes").toObject();
         shapes.get("Item", shapes.get("Count").toLong()).call("Select");
     });
@@ -207,7 +202,7 @@ void SelectionPaste::PasteByMode(SourceKind kind) {
             pasteFormatted(kind);
             break;
         case SlidePaste::EmbeddedObject:
-            slide().get("Shapes").call("PasteSpecial", oleObject);
+            slide().get("Shapes").call("PasteSpecial", number::oleObject);
             break;
         case SlidePaste::LinkedObject:
             slide().get("Shapes").call("PasteSpecial", arg("Link", true));
@@ -218,9 +213,9 @@ void SelectionPaste::PasteByMode(SourceKind kind) {
 void SelectionPaste::pasteChartAsPicture() {
     office::ContinueOnFailure scope;
     scope.attempt([&] { showSlide(); });
-    scope.attempt([&] { window().get("View").call("PasteSpecial", enhancedMetafile); });
+    scope.attempt([&] { window().get("View").call("PasteSpecial", number::enhancedMetafile); });
     if (!scope.failed()) return;
-    scope.attempt([&] { slide().get("Shapes").call("PasteSpecial", enhancedMetafile); });
+    scope.attempt([&] { slide().get("Shapes").call("PasteSpecial", number::enhancedMetafile); });
 }
 
 void SelectionPaste::pasteRangeAsPicture() {
@@ -243,27 +238,28 @@ bool SelectionPaste::PasteRangeAsPicture() {
         showSlide();
         session_.host.letEventsRun();
         session::SleepMilliseconds(session_, slideShownMs);
-        if (slide().get("Layout").toLong() == blankLayout) slide().put("Layout", titleOnlyLayout);
+        if (slide().get("Layout").toLong() == number::blankLayout)
+            slide().put("Layout", number::titleOnlyLayout);
     });
-    return isReady && (scope.attempt([&] { window().get("View").call("PasteSpecial", png); }) ||
-                       scope.attempt([&] { slide().get("Shapes").call("PasteSpecial", png); }) ||
-                       scope.attempt([&] { window().get("View").call("PasteSpecial"); }));
+    return isReady &&
+           (scope.attempt([&] { window().get("View").call("PasteSpecial", number::png); }) ||
+            scope.attempt([&] { slide().get("Shapes").call("PasteSpecial", number::png); }) ||
+            scope.attempt([&] { window().get("View").call("PasteSpecial"); }));
 }
 
 void SelectionPaste::pasteFormatted(SourceKind kind) {
-    constexpr std::int32_t defaultData = 0;
     constexpr std::int32_t ribbonMs = 1000;
     if (kind == SourceKind::Range) {
         showSlide();
         if (isOld_) {
-            if (slide().get("Layout").toLong() == blankLayout)
-                slide().put("Layout", titleOnlyLayout);
+            if (slide().get("Layout").toLong() == number::blankLayout)
+                slide().put("Layout", number::titleOnlyLayout);
             const Object shapes = slide().get("Shapes").toObject();
             shapes.get("Item", shapes.get("Count").toLong()).call("Select");
         }
         PasteWithSourceFormatting();
     } else if (isOld_) {
-        slide().get("Shapes").call("PasteSpecial", arg("DataType", defaultData));
+        slide().get("Shapes").call("PasteSpecial", arg("DataType", number::defaultData));
     } else {
         executeSourceFormatting();
         session::WaitMilliseconds(session_, ribbonMs);

@@ -12,7 +12,8 @@ namespace office::package {
 
 namespace {
 
-constexpr std::string_view space = "http://schemas.openxmlformats.org/package/2006/relationships";
+constexpr std::string_view relationshipsSpace =
+    "http://schemas.openxmlformats.org/package/2006/relationships";
 constexpr std::string_view transitional =
     "http://schemas.openxmlformats.org/officeDocument/2006/relationships/";
 constexpr std::string_view strict = "http://purl.oclc.org/ooxml/officeDocument/relationships/";
@@ -35,11 +36,11 @@ Relationships::Relationships(std::string source, std::string_view xml)
       xml_(xml.empty() ? none : xml) {
     const std::string part = relationshipsPartOf(source_);
     const Xml document(xml_, part);
-    if (!isNamed(document.root(), space, "Relationships"))
+    if (!isNamed(document.root(), relationshipsSpace, "Relationships"))
         throw PackageError(Fault::Damaged,
                            fmt::format("its part {} holds no relationships", shown(part)));
     for (const pugi::xml_node node : document.root().children()) {
-        if (!isNamed(node, space, "Relationship")) continue;
+        if (!isNamed(node, relationshipsSpace, "Relationship")) continue;
         Relationship found{node.attribute("Id").value(), node.attribute("Type").value(),
                            node.attribute("Target").value(),
                            std::string_view(node.attribute("TargetMode").value()) == "External"};
@@ -129,7 +130,8 @@ std::string Relationships::xml() const {
     pugi::xml_node root = document.root();
     for (pugi::xml_node node = root.first_child(); node;) {
         const pugi::xml_node next = node.next_sibling();
-        if (isNamed(node, space, "Relationship") && removed_.contains(node.attribute("Id").value()))
+        if (isNamed(node, relationshipsSpace, "Relationship") &&
+            removed_.contains(node.attribute("Id").value()))
             root.remove_child(node);
         node = next;
     }

@@ -41,7 +41,7 @@ std::string saidBy(pugi::xml_node element, std::initializer_list<std::string_vie
 }
 
 /// What is particular to a cell of a table.
-std::string described(pugi::xml_node cell) {
+std::string describedCell(pugi::xml_node cell) {
     std::string all = saidBy(cell, {"rowSpan", "gridSpan", "hMerge", "vMerge"});
     for (const pugi::xml_node paragraph : cell.child("a:txBody").children("a:p")) {
         all += " |" + std::string(paragraph.child("a:r").child("a:t").text().get()) +
@@ -149,7 +149,7 @@ TEST_F(Table, LooksAsItsCellsDo) {
     };
     std::vector<std::string> found;
     for (const pugi::xml_node row : saved().children("a:tr")) {
-        for (const pugi::xml_node cell : row.children("a:tc")) found.push_back(described(cell));
+        for (const pugi::xml_node cell : row.children("a:tc")) found.push_back(describedCell(cell));
     }
     EXPECT_EQ(found, expected);
 }

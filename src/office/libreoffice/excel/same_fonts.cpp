@@ -21,7 +21,7 @@ namespace {
 /// in the width of all.
 constexpr const char* sample = "I M g f a W 1 0 . % & i l r s x Q";
 /// Large enough for widths that no hint of a font changes.
-constexpr sal_Int16 measuredSize = 1000;
+constexpr sal_Int16 comparedSize = 1000;
 /// Kerning with spaces makes less of a difference; another font makes more.
 constexpr double alike = 0.006;
 constexpr int boldFrom = 600;
@@ -49,7 +49,7 @@ double SameFonts::suiteWidth(const NamedFont& font, const std::string& line) {
     }
     css::awt::FontDescriptor wanted;
     wanted.Name = toUno(font.family);
-    wanted.Height = measuredSize;
+    wanted.Height = comparedSize;
     wanted.Weight =
         font.weight >= boldFrom ? css::awt::FontWeight::BOLD : css::awt::FontWeight::NORMAL;
     wanted.Slant = font.isItalic ? css::awt::FontSlant_ITALIC : css::awt::FontSlant_NONE;
@@ -57,7 +57,7 @@ double SameFonts::suiteWidth(const NamedFont& font, const std::string& line) {
     onMainThread(*connection_, [device = device_, wanted, characters = toUno(line), width] {
         *width = device->getFont(wanted)->getStringWidth(characters);
     });
-    return *width / double{measuredSize};
+    return *width / double{comparedSize};
 }
 
 bool SameFonts::isSame(const NamedFont& font, const std::string& line) {

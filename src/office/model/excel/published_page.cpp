@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view source = "PublishObject.Publish";
+constexpr std::string_view publishing = "PublishObject.Publish";
 
 /// Lengths of what comes from the workbook are written where it stands. Grounds are printed too:
 /// they are part of a table's looks.
@@ -39,7 +39,7 @@ h2 { margin: 12px 0; font-size: 20px; text-align: center; }
 constexpr std::string_view end = "</body>\n</html>\n";
 
 [[noreturn]] void failToWrite(const fs::path& path) {
-    throw Failure(FailureNumber::PathFileAccess, std::string(source),
+    throw Failure(FailureNumber::PathFileAccess, std::string(publishing),
                   fmt::format("{} can't be written", path.string()));
 }
 
@@ -54,7 +54,7 @@ std::streamoff endOfBody(std::fstream& file, const fs::path& path) {
     file.clear();
     const std::size_t found = lowerCase(tail).rfind("</body>");
     if (found == std::string::npos) {
-        refuse(std::string(source),
+        refuse(std::string(publishing),
                fmt::format("{} is no page that anything can be added to", path.string()));
     }
     return from + static_cast<std::streamoff>(found);
