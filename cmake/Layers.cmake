@@ -68,7 +68,7 @@ endfunction()
 function(murvane_compiled_together target)
     cmake_parse_arguments(ARG "COLD" "" "" ${ARGN})
     if(NOT DEFINED CMAKE_UNITY_BUILD AND (MURVANE_LAYERS_TOGETHER OR NOT ARG_COLD))
-        set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
+        set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 16)
     endif()
 endfunction()
 
