@@ -38,6 +38,8 @@ TEST_F(BatchTest, NewSlidesFollowTheOldOnesInTheOrderOfTheRows) {
     EXPECT_EQ(picturesOn(5), Texts{"Chart 2"});
     EXPECT_EQ(suite.log().texts("Slides.Add"),
               (Texts{"Slides.Add(3, 11)", "Slides.Add(3, 11)", "Slides.Add(3, 11)"}));
+    EXPECT_EQ(suite.log().texts("Slides.Item"),
+              (Texts{"Slides.Item(3)", "Slides.Item(4)", "Slides.Item(5)"}));
     EXPECT_EQ(list.selected, 2);
     EXPECT_EQ(progress.calls, (Texts{"item 1 of 3", "item 2 of 3", "item 3 of 3", "unload"}));
 }
