@@ -5,8 +5,6 @@
 #include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/drawing/framework/ResourceId.hpp>
 #include <com/sun/star/drawing/framework/XControllerManager.hpp>
-#include <com/sun/star/frame/XDispatchHelper.hpp>
-#include <com/sun/star/frame/XDispatchProvider.hpp>
 #include <com/sun/star/frame/XFrame.hpp>
 #include <fmt/format.h>
 
@@ -19,6 +17,7 @@
 
 #include "office/failure.h"
 #include "office/libreoffice/at_end.h"
+#include "office/libreoffice/main_thread.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 
 namespace libreoffice::powerpoint {
@@ -172,7 +171,7 @@ void ImpressWindow::changeView(std::int32_t number) {
                               "DocumentWindow.ViewType",
                               fmt::format("There is no view {}", wanted));
     if (viewType() == wanted) return;
-    dispatch(kind->command);
+    commands().run(kind->command);
     // With a window on a screen the view follows a moment after the command.
     using std::chrono::steady_clock;
     const auto deadline = steady_clock::now() + std::chrono::seconds(2);
@@ -194,12 +193,12 @@ bool ImpressWindow::moveToFront(const model::DeckSlidePtr& slide) {
     constexpr const char* command = ".uno:MovePageFirst";
     const auto before = slideInView();
     showNow(slide);
-    dispatch(command);
+    commands().run(command);
     if (slide->place() != 1) {
         const std::int32_t view = viewType();
         changeView(slideSorter);
         showNow(slide);
-        dispatch(command);
+        commands().run(command);
         changeView(view);
     }
     if (before) showNow(before);
@@ -214,25 +213,35 @@ void ImpressWindow::pasteOnto(ImpressSlide& slide, sal_uInt32 format) {
     });
     if (view != normalView) changeView(normalView);
     static_cast<void>(settledController());
-    const auto before = view_->getCurrentPage();
-    const uno::Any selected = selection_->getSelection();
-    const AtEnd pageBack([&] {
-        selection_->select(uno::Any());
-        if (before != slide.page()) view_->setCurrentPage(before);
-        if (selected.hasValue()) selection_->select(selected);
+    // What is pasted is selected, and the main thread would put up its toolbars and panels, only to
+    // take them down again: a sixth of the time of a table. While it waits it doesn't.
+    onMainThread(deck_.connection(), [commands = commands(), view = view_, selection = selection_,
+                                      page = slide.page(), format] {
+        const auto before = view->getCurrentPage();
+        const uno::Any selected = selection->getSelection();
+        const AtEnd pageBack([&] {
+            selection->select(uno::Any());
+            if (before != page) view->setCurrentPage(before);
+            if (selected.hasValue()) selection->select(selected);
+        });
+        if (before != page) view->setCurrentPage(page);
+        // What is selected would take the contents in.
+        selection->select(uno::Any());
+        commands.run(".uno:ClipboardFormatItems",
+                     propertyValues({{"SelectedFormat", uno::Any(format)}}));
     });
-    if (before != slide.page()) view_->setCurrentPage(slide.page());
-    // What is selected would take the contents in.
-    selection_->select(uno::Any());
-    dispatch(".uno:ClipboardFormatItems", propertyValues({{"SelectedFormat", uno::Any(format)}}));
 }
 
-void ImpressWindow::dispatch(const char* command,
-                             const uno::Sequence<css::beans::PropertyValue>& arguments) {
-    const auto frame = as<css::frame::XDispatchProvider>(controller()->getFrame());
-    as<css::frame::XDispatchHelper>(deck_.connection().create("com.sun.star.frame.DispatchHelper"))
-        ->executeDispatch(frame, rtl::OUString::createFromAscii(command), rtl::OUString(), 0,
-                          arguments);
+ImpressWindow::Commands ImpressWindow::commands() {
+    return {as<css::frame::XDispatchHelper>(
+                deck_.connection().create("com.sun.star.frame.DispatchHelper")),
+            as<css::frame::XDispatchProvider>(controller()->getFrame())};
+}
+
+void ImpressWindow::Commands::run(const char* command,
+                                  const uno::Sequence<css::beans::PropertyValue>& arguments) const {
+    dispatcher->executeDispatch(frame, rtl::OUString::createFromAscii(command), rtl::OUString(), 0,
+                                arguments);
 }
 
 }  // namespace libreoffice::powerpoint

@@ -4,6 +4,8 @@
 #include <com/sun/star/drawing/XDrawView.hpp>
 #include <com/sun/star/drawing/XShape.hpp>
 #include <com/sun/star/frame/XController.hpp>
+#include <com/sun/star/frame/XDispatchHelper.hpp>
+#include <com/sun/star/frame/XDispatchProvider.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
 #include <chrono>
@@ -49,15 +51,22 @@ public:
     void pasteOnto(ImpressSlide& slide, sal_uInt32 format);
 
 private:
+    /// The commands of the window's menus (".uno:DiaMode").
+    struct Commands {
+        uno::Reference<css::frame::XDispatchHelper> dispatcher;
+        uno::Reference<css::frame::XDispatchProvider> frame;
+
+        void run(const char* command,
+                 const uno::Sequence<css::beans::PropertyValue>& arguments = {}) const;
+    };
+
     [[nodiscard]] const uno::Reference<css::frame::XController>& controller();
     /// With the slide in view that was asked for last.
     [[nodiscard]] const uno::Reference<css::frame::XController>& settledController();
     void showNow(const model::DeckSlidePtr& slide);
     void changeView(std::int32_t viewType);
     [[nodiscard]] bool showsMasterPage();
-    /// Runs a command of the menus (".uno:DiaMode") here.
-    void dispatch(const char* command,
-                  const uno::Sequence<css::beans::PropertyValue>& arguments = {});
+    [[nodiscard]] Commands commands();
 
     ImpressDeck& deck_;
     uno::Reference<css::frame::XController> controller_;
