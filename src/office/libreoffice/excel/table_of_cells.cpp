@@ -37,8 +37,8 @@ using office::TableLook;
 /// The block and the rest of the merged cells that it holds a part of.
 uno::Reference<css::table::XCellRange> wholeCells(const SheetRecord& sheet,
                                                   const model::CellBlock& block) {
-    const auto cursor =
-        sheet.sheet()->createCursorByRange(as<css::sheet::XSheetCellRange>(sheet.range(block)));
+    const auto cursor = answered(
+        sheet.sheet()->createCursorByRange(as<css::sheet::XSheetCellRange>(sheet.range(block))));
     cursor->collapseToMergedArea();
     return {cursor.get()};
 }
