@@ -116,9 +116,8 @@ class Charts(ProgramTest):
         return deck
 
     def drawn(self, *decks):
-        """For each deck the charts of its slides as small pictures. One suite draws all, on the profile of the runs before."""
-        subprocess.run(["soffice", f"-env:UserInstallation=file://{self.cache}/murvane/suite-1", "--headless",
-                        "--convert-to", "pdf", "--outdir", self.folder, *decks], check=True, capture_output=True, timeout=240)
+        """For each deck the charts of its slides as small pictures. One suite draws all."""
+        self.as_pdf(*decks)
         for deck in decks:
             subprocess.run(["pdftoppm", "-r", f"{DOTS_PER_INCH}", "-x", f"{LEFT}", "-y", f"{TOP}", "-W", f"{WIDTH}",
                             "-H", f"{HEIGHT}", f"{deck.with_suffix('')}.pdf", deck], check=True)

@@ -102,9 +102,7 @@ class TheSampleWorkbook(ProgramTest):
             self.assertAlmostEqual(picture["top"], HEIGHT * 0.3, delta=0.1)
             self.assertLessEqual(picture["width"], WIDTH * 0.5 + 0.1)
 
-        subprocess.run(["soffice", f"-env:UserInstallation=file://{self.cache}/murvane/suite-1", "--headless", "--convert-to",
-                        "pdf", "--outdir", str(self.folder), str(self.folder / "Result.pptx")],
-                       check=True, capture_output=True, timeout=120)
+        self.as_pdf(self.folder / "Result.pptx")
         text = subprocess.run(["pdftotext", str(self.folder / "Result.pdf"), "-"], check=True, capture_output=True,
                               text=True).stdout
         self.assertEqual(text.count("\f"), len(slides))

@@ -197,6 +197,12 @@ class ProgramTest(unittest.TestCase):
         output, errors = process.communicate(timeout=240)
         return process.returncode, output, errors
 
+    def as_pdf(self, *files):
+        """Has the suite draw the files, on the profile of the runs before, as files beside them."""
+        subprocess.run(["soffice", f"-env:UserInstallation=file://{self.cache}/murvane/suite-1", "--headless",
+                        "--convert-to", "pdf", "--outdir", self.folder, *files], check=True, capture_output=True,
+                       env={**self.environment, "DISPLAY": "none"}, timeout=240)
+
     def assert_nothing_left(self, output=None):
         """No process, no temporary file, no socket, no half-written output."""
         self.assertEqual(processes_naming(self.cache), [])

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <thread>
@@ -42,6 +43,10 @@ bool becomesTrue(const Condition& condition, std::chrono::seconds patience = 10s
 class Screen : public testing::Environment {
 public:
     void SetUp() override {
+        // On a new profile the suite would try out its drawing for a second.
+        const auto profile = folder.path() / "profile" / "user";
+        std::filesystem::create_directories(profile);
+        std::filesystem::copy_file(MURVANE_QUIET_SUITE, profile / "registrymodifications.xcu");
         const std::string pipe = "murvane-windows-" + std::to_string(getpid());
         process = std::make_unique<Process>(
             Process::start({programFolder() + "/soffice",
