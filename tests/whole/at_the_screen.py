@@ -1,6 +1,7 @@
 """What the tests of the whole program share: a screen with the sample workbook and deck open in LibreOffice."""
 
 import atexit
+import json
 import os
 import pathlib
 import shutil
@@ -23,6 +24,12 @@ NEW_TEXT = """
 text = desktop.loadComponentFromURL("private:factory/swriter", "_blank", 0, ())
 text.Text.String = "Report"
 text.CurrentController.ViewCursor.gotoEnd(False)
+"""
+# How many pictures there are on each slide.
+PICTURES = """
+pages = document("Presentation").DrawPages
+print([sum(shape.supportsService("com.sun.star.drawing.GraphicObjectShape") for shape in pages.getByIndex(number))
+       for number in range(pages.Count)])
 """
 
 
@@ -65,6 +72,7 @@ class AtTheScreen(unittest.TestCase):
         """Until the first items are on their way."""
         hand.do("click", self.open_dialog(hand, destination), "ContinueOk")
         hand.wait_for("Progress")
+        wait_until(lambda: hand.caption("Progress", "lblStatus") >= "2", what="the second item")
 
     def note_what_is_opened(self):
         """The file in which the path stands that the program has opened."""
@@ -81,8 +89,12 @@ class AtTheScreen(unittest.TestCase):
         """Runs a script of the suite's own language binding over the user's suite; what it prints."""
         return self.screen.in_the_suite(script, *arguments)
 
+    def pictures_on_slides(self):
+        """How many pictures each slide of the open presentation has."""
+        return json.loads(self.in_the_suite(PICTURES))
+
     def saved_deck(self):
-        """The slides of the open presentation, by way of a copy on disk."""
+        """The slides of the open presentation, by way of a copy on disk, which the validator looks at."""
         copy = self.folder / "copy.pptx"
         self.in_the_suite("""
 deck = document("Presentation")

@@ -124,7 +124,7 @@ class UnderTheForm(AtTheScreen):
             hand.do("click", FORM, "PasteIT")
             hand.do("key", FORM, key="Alt+F4")
         self.assertEqual(hand.ended(120), 0, hand.said())
-        self.assertEqual(len(self.saved_deck()), 3 + len(wanted))
+        self.assertEqual(len(self.pictures_on_slides()), 3 + len(wanted))
 
     def test_names_full_of_markup_stay_texts(self):
         hostile = SAMPLES / "bad-inputs" / "odd-names.xlsx"

@@ -84,11 +84,10 @@ class TheRoad(AtTheScreen):
                 hand.do("click-row", FORM, LIST, row=row)
                 # The first change takes the old picture away.
                 wait_until(lambda: hand.value(FORM, "imgChart") >= pictures + 2, what="the preview")
-        before = [len(slide.pictures) for slide in self.saved_deck()]
+        before = self.pictures_on_slides()
         hand.do("double-click", FORM, "imgChart")
         wait_until(lambda: hand.do("boxes") == ["Done!"], what="the message")
-        after = [len(slide.pictures) for slide in self.saved_deck()]
-        self.assertEqual(sum(after), sum(before) + 1)
+        self.assertEqual(sum(self.pictures_on_slides()), sum(before) + 1)
         hand.do("key", FORM, key="Alt+F4")
         self.assertEqual(hand.ended(), 0, hand.said())
 
@@ -110,7 +109,7 @@ class TheRoad(AtTheScreen):
         self.open_dialog(hand)
         hand.do("key", DIALOG, key="Return")
         self.assertEqual(hand.ended(120), 0, hand.said())
-        self.assertEqual([len(slide.pictures) for slide in self.saved_deck()], [0, 1, 1])
+        self.assertEqual(self.pictures_on_slides(), [0, 1, 1])
 
     def test_can_be_walked_by_the_keyboard_and_heard(self):
         self.open_sample()

@@ -1,8 +1,10 @@
 """A screen of its own with a LibreOffice on it, and somebody who uses Murvane there."""
 
+import contextlib
 import json
 import os
 import pathlib
+import select
 import shutil
 import signal
 import subprocess
@@ -69,11 +71,20 @@ def close(*documents):
     if not closing.done.wait(60):
         raise TimeoutError("the suite has closed nothing")
 """
-# The bridge at times crashes a Python that takes itself down in order.
-END = """
-import os
-sys.stdout.flush()
-os._exit(0)
+# Runs scripts, each as a line of JSON with its arguments, and answers each with a line: what it has printed, and its failure.
+RUN_SCRIPTS = """
+import contextlib, gc, io, json, traceback
+names = dict(globals())
+for line in sys.stdin:
+    script, sys.argv[2:] = json.loads(line)
+    said, failure = io.StringIO(), ""
+    try:
+        with contextlib.redirect_stdout(said):
+            exec(script, dict(names))
+    except Exception:
+        failure = traceback.format_exc()
+    gc.collect()  # lets go of the suite's objects
+    print(json.dumps([said.getvalue(), failure]), flush=True)
 """
 
 
@@ -95,6 +106,7 @@ class Screen:
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="murvane-screen-"))
         self.hands = []
         self.suite = None
+        self.scripts = None
         self.server, display = self._start_server(size)
         home = self.folder / "home"
         runtime = self.folder / "runtime"
@@ -176,11 +188,29 @@ class Screen:
         """Runs a script of the suite's own language binding over the user's suite, by the pipe that Murvane has
         asked it for; what it prints."""
         pipe = (pathlib.Path(self.environment["XDG_RUNTIME_DIR"]) / "murvane" / "suite-pipe").read_text().strip()
-        ran = subprocess.run(["/usr/bin/python3", "-c", PREAMBLE + script + END, pipe, *map(str, arguments)],
-                             env=self.environment, capture_output=True, text=True, timeout=120)
-        if ran.returncode != 0:
-            raise AssertionError(f"the script in the suite ended with {ran.returncode}: {ran.stderr}")
-        return ran.stdout
+        if self.scripts is None or self.scripts.args[-1] != pipe:
+            self.end_scripts()
+            self.scripts = subprocess.Popen(["/usr/bin/python3", "-c", PREAMBLE + RUN_SCRIPTS, pipe], env=self.environment,
+                                            stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        said, failure = "", "its program has ended"
+        with contextlib.suppress(BrokenPipeError):
+            self.scripts.stdin.write(json.dumps([script, [*map(str, arguments)]]) + "\n")
+            self.scripts.stdin.flush()
+        if not select.select([self.scripts.stdout], [], [], 2 * PATIENCE)[0]:
+            failure = "it does not end"
+        elif line := self.scripts.stdout.readline():
+            said, failure = json.loads(line)
+        if failure:
+            self.end_scripts()
+            raise AssertionError(f"a script in the suite failed: {failure}")
+        return said
+
+    def end_scripts(self):
+        # The bridge at times crashes a Python that takes itself down in order.
+        if self.scripts is not None:
+            self.scripts.kill()
+            self.scripts.communicate()
+            self.scripts = None
 
     def use(self, code):
         """Starts Murvane with a code; the one at the screen."""
@@ -205,7 +235,7 @@ class Screen:
         if self.has_suite():
             try:
                 self.in_the_suite(CLOSE_ALL)
-            except (AssertionError, FileNotFoundError, subprocess.TimeoutExpired):
+            except (AssertionError, FileNotFoundError):
                 self.kill_suite()
         if not self.has_suite():
             shutil.rmtree(self.folder / "runtime" / "murvane", ignore_errors=True)
@@ -228,6 +258,7 @@ class Screen:
 
     def close(self):
         self.let_go()
+        self.end_scripts()
         if self.suite is not None:
             try:
                 self.kill_suite()
