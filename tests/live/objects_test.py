@@ -1,6 +1,7 @@
 """Embedded workbooks and links in presentations as files: valid, on their sheet, and nothing handed on that must stay."""
 
 import io
+import re
 import unittest
 import zipfile
 
@@ -9,6 +10,7 @@ from program import Package, ProgramTest, slides_of
 from validator import faults
 
 SECRET = "Zebra"
+SHOWN = rb'(?<=activeTab=")\d+|(?<=oleSize ref=")[A-Z0-9:]+'
 ITEMS = ("Own", "Total", "Whole", "Chart 1", "{Chart Sheet}@Plot")
 
 
@@ -63,10 +65,14 @@ class AnObject(ProgramTest):
         slides_of(output)
         package = Package(output)
         books = sorted(name for name in package.names if "/embeddings/" in name)
-        for name in books:
-            (self.folder / "part.xlsx").write_bytes(package.read(name))
-            self.assertEqual(faults(self.folder / "part.xlsx"), [], name)
-        return package, [zipfile.ZipFile(io.BytesIO(package.read(name))) for name in books]
+        books = [zipfile.ZipFile(io.BytesIO(package.read(name))) for name in books]
+        # Most differ in nothing but the cells and the sheet that they show.
+        different = {frozenset((name, re.sub(SHOWN, b"", book.read(name))) for name in book.namelist()): book
+                     for book in books}
+        for book in different.values():
+            (self.folder / "part.xlsx").write_bytes(book.fp.getvalue())
+            self.assertEqual(faults(self.folder / "part.xlsx"), [])
+        return package, books
 
     def test_holds_a_workbook_each(self):
         _, books = self.export("embedded")

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -49,8 +50,10 @@ protected:
                        PasteAs::Default, Anchoring::Inline);
         if (!label.empty()) document.insertCaption({label, ""});
     }
+    /// As it is read again. A new version goes over its file: the validator sees the last one.
     FileDocumentPtr saved(FileDocument& document) {
-        const std::string file = folder.file(std::to_string(++files_) + ".docx");
+        std::string file = document.fullName();
+        if (!std::filesystem::exists(file)) file = folder.file(std::to_string(++files_) + ".docx");
         document.saveCopy(file);
         return documents->add(Package::open(file), file, file);
     }
