@@ -17,6 +17,7 @@
 #include "powerpoint/formats.h"
 #include "powerpoint/layout_form.h"
 #include "powerpoint/picture_styles_form.h"
+#include "powerpoint/read_only.h"
 #include "session/alerts_off.h"
 #include "session/powerpoint_session.h"
 
@@ -38,11 +39,6 @@ constexpr const char* slideNumberTooHigh =
     "At least one Slide Number in the list is greater\r"
     "than the number of slides in the PowerPoint file.\r"
     "Export can't take place ";
-
-constexpr const char* readOnly =
-    "The presentation is opened for reading only.\r"
-    "Open it for editing or save it under another name,\r"
-    "then continue.";
 
 }  // namespace
 
@@ -164,10 +160,7 @@ void Dialog::ContinueOk_Click() {
         if (!session().SessionPresentation) SetPanelMessage(noPowerPoint, "warning");
         return;
     }
-    if (scope.read([&] { return session().SessionPresentation.get("ReadOnly").toBool(); }, false)) {
-        session::ShowWarningNotice(session().notices, readOnly);
-        return;
-    }
+    if (refusesAsReadOnly(session())) return;
     if (!slideNumbersFit()) {
         session::ShowWarningNotice(session().notices, slideNumberTooHigh);
         return;

@@ -12,6 +12,7 @@
 #include "office/text.h"
 #include "powerpoint/excel_objects.h"
 #include "powerpoint/numbers.h"
+#include "powerpoint/read_only.h"
 #include "session/powerpoint_session.h"
 #include "session/waits.h"
 
@@ -76,6 +77,7 @@ void SelectionPaste::run() {
             "one");
         return;
     }
+    if (refusesAsReadOnly(session_)) return;
     findSlide();
     const std::int32_t viewType = session::ExitShowNormalView(session_);
     constexpr double firstWithRibbonPaste = 15;

@@ -60,6 +60,7 @@ TEST_F(PowerPointLive, ChangesNoDeckThatIsOpenedForReadingOnly) {
     const std::int32_t slides = slideCount(deck);
     EXPECT_EQ(failureOf([&] { addSlide(deck, titleOnly); }), 1004);
     EXPECT_EQ(slideCount(deck), slides);
+    EXPECT_EQ(failureOf([&] { slide(deck, 1).put("Layout", blank); }), 1004);
 }
 
 TEST_F(PowerPointLive, SetsANewTitleInTheTypeOfTheDecksOwn) {

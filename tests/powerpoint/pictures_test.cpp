@@ -122,13 +122,17 @@ TEST_F(PicturesTest, OneItemThatIsNotThereHasBeenExplained) {
     };
     EXPECT_FALSE(insertOne(rangeRow("Nowhere", "Sales")));
     EXPECT_FALSE(insertOne(chartRow("Chart 9", "Sales")));
+    deck.readOnly = true;
+    EXPECT_FALSE(insertOne(chartRow("Chart 1", "Sales")));
+    EXPECT_EQ(notices.messages().back().find("The presentation is opened for reading only."), 0U);
+    deck.readOnly = false;
     suite.failures().fail("View.Slide");
     EXPECT_FALSE(insertOne(chartRow("Chart 1", "Sales")));
     EXPECT_EQ(notices.messages().back(),
               "No slide is in view. Add a slide, or show one in the normal view, then try again.");
     deck.close();
     EXPECT_FALSE(insertOne(chartRow("Chart 1", "Sales")));
-    ASSERT_EQ(notices.shown.size(), 4U);
+    ASSERT_EQ(notices.shown.size(), 5U);
     EXPECT_EQ(notices.messages().back(),
               "No PowerPoint presentation is open. Open or create a presentation, then try again.");
 }

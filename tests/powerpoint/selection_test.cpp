@@ -118,6 +118,23 @@ TEST_F(SelectionTest, RefusesSeveralAreasAndLeavesExcelAsItIs) {
     EXPECT_EQ(deck.slide(1).shapes().size(), 1U);
 }
 
+TEST_F(SelectionTest, ChangesNothingInAPresentationThatIsOpenForReadingOnly) {
+    deck.readOnly = true;
+    for (const auto mode : {SlidePaste::Pictures, SlidePaste::SourceFormatting,
+                            SlidePaste::EmbeddedObject, SlidePaste::LinkedObject}) {
+        for (const bool isChart : {true, false}) {
+            suite.excel().selectRange("A1");
+            if (isChart) selectChart();
+            notices.shown.clear();
+            run(mode);
+            ASSERT_EQ(notices.shown.size(), 1U) << static_cast<int>(mode) << isChart;
+            EXPECT_EQ(notices.messages()[0].find("The presentation is opened for reading only."),
+                      0U);
+            EXPECT_EQ(suite.log().count("PasteSpecial"), 0U);
+        }
+    }
+}
+
 TEST_F(SelectionTest, TakesTheLastSlideWhereNoneIsOnShowAndAsksForAPresentation) {
     suite.excel().selectRange("A1");
     suite.failures().fail("View.Slide");

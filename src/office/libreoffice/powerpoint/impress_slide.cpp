@@ -95,6 +95,7 @@ std::int32_t ImpressSlide::layout() {
 }
 
 void ImpressSlide::setLayout(std::int32_t layout) {
+    deck_.requireWritable("Slide.Layout");
     deck_.layouts().apply(*this, layout);
 }
 
