@@ -53,7 +53,9 @@ public:
                                                           std::string_view) override {
         return std::nullopt;
     }
-    [[nodiscard]] bool ask(std::string_view, std::string_view) override { return false; }
+    [[nodiscard]] std::optional<bool> ask(std::string_view, std::string_view) override {
+        return false;
+    }
     void messageBox(std::string_view text, std::string_view title) override;
 
 private:

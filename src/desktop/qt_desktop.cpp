@@ -4,6 +4,7 @@
 #include <QtCore/QTimer>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QIcon>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtWebEngineCore/QWebEngineProfile>
@@ -18,6 +19,26 @@
 #include "furniture/palette.h"
 
 namespace desktop {
+
+namespace {
+
+/// Escape and the cross leave a question without an answer; Qt would press "No" for them.
+class PlainBox : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->matches(QKeySequence::Cancel)) {
+            reject();
+        } else {
+            QMessageBox::keyPressEvent(event);
+        }
+    }
+    void closeEvent(QCloseEvent* event) override { QDialog::closeEvent(event); }
+};
+
+}  // namespace
 
 QtDesktop::QtDesktop() = default;
 
@@ -170,10 +191,11 @@ forms::Screen QtDesktop::screen() const {
     return {twipsOf(size.width()), twipsOf(size.height())};
 }
 
-bool QtDesktop::showBox(std::string_view text, std::string_view title, bool asks) {
+std::optional<bool> QtDesktop::showBox(std::string_view text, std::string_view title,
+                                       bool asks) {
     if (answer_) return answer_(text, title);
-    if (closes_) return false;
-    QMessageBox box(QMessageBox::NoIcon, textOf(title), textOf(text),
+    if (closes_) return std::nullopt;
+    PlainBox box(QMessageBox::NoIcon, textOf(title), textOf(text),
                     asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     QPalette colours = box.palette();
     colours.setColor(QPalette::Window, colourOf(furniture::palette::ThemeGround));
@@ -192,14 +214,17 @@ bool QtDesktop::showBox(std::string_view text, std::string_view title, bool asks
     }
     box.setWindowFlag(Qt::WindowStaysOnTopHint);
     box.setTextFormat(Qt::PlainText);
-    return box.exec() == QMessageBox::Yes;
+    const int pressed = box.exec();
+    if (pressed == QMessageBox::Yes) return true;
+    if (pressed == QMessageBox::No) return false;
+    return std::nullopt;
 }
 
 void QtDesktop::messageBox(std::string_view text, std::string_view title) {
     showBox(text, title, false);
 }
 
-bool QtDesktop::ask(std::string_view text, std::string_view title) {
+std::optional<bool> QtDesktop::ask(std::string_view text, std::string_view title) {
     return showBox(text, title, true);
 }
 

@@ -32,7 +32,7 @@ public:
     void waitForEvents() override;
     [[nodiscard]] forms::Screen screen() const override;
     void messageBox(std::string_view text, std::string_view title) override;
-    [[nodiscard]] bool ask(std::string_view text, std::string_view title) override;
+    [[nodiscard]] std::optional<bool> ask(std::string_view text, std::string_view title) override;
     [[nodiscard]] std::optional<std::string> chooseFolder(std::string_view title,
                                                           std::string_view start) override;
     void showWorking(bool works) override;
@@ -65,7 +65,7 @@ private:
     [[nodiscard]] bool holdsEvents() const { return holds_ > 0; }
     [[nodiscard]] QWebEngineProfile& browserProfile();
 
-    bool showBox(std::string_view text, std::string_view title, bool asks);
+    std::optional<bool> showBox(std::string_view text, std::string_view title, bool asks);
     void sync();
     void pump(bool wait);
     void closeThoseThatTakeInput();

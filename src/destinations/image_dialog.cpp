@@ -137,17 +137,17 @@ ImageFileOptions DialogImageFiles::options() const {
 
 /// Pictures that are made anew mostly take the place of the old ones; but another workbook may have
 /// left files of the same names.
-bool DialogImageFiles::mayReplace(const ImageFileOptions& wanted) {
+std::optional<bool> DialogImageFiles::mayReplace(const ImageFileOptions& wanted) {
     const auto files = plannedImageFiles(session(), list_, wanted);
     const auto there = std::count_if(files.begin(), files.end(), [this](const std::string& file) {
         return session().host.pathExists(file);
     });
-    return there > 0 &&
-           session().host.ask(
-               fmt::format("{} of the {} files are in the folder already.\n\nReplace them? With "
-                           "No, the new ones get other names.",
-                           there, files.size()),
-               "Murvane");
+    if (there == 0) return false;
+    return session().host.ask(
+        fmt::format("{} of the {} files are in the folder already.\n\nReplace them? With No, the "
+                    "new ones get other names.",
+                    there, files.size()),
+        "Murvane");
 }
 
 void DialogImageFiles::ContinueOk_Click() {
@@ -156,7 +156,9 @@ void DialogImageFiles::ContinueOk_Click() {
         SetPanelMessage(cantWriteTo(wanted.folder), "warning");
         return;
     }
-    wanted.replaces = mayReplace(wanted);
+    const auto replaces = mayReplace(wanted);
+    if (!replaces) return;
+    wanted.replaces = *replaces;
     panels::RunExport(session(), *this, taken_, [&] { runBatch(wanted); });
 }
 

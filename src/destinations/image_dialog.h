@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -47,7 +48,8 @@ protected:
 private:
     void showFolder();
     [[nodiscard]] ImageFileOptions options() const;
-    [[nodiscard]] bool mayReplace(const ImageFileOptions& wanted);
+    /// Nothing if the user was asked and has not answered.
+    [[nodiscard]] std::optional<bool> mayReplace(const ImageFileOptions& wanted);
     void runBatch(const ImageFileOptions& wanted);
 
     catalogue::ExportList& list_;

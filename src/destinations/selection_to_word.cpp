@@ -135,7 +135,7 @@ SourceKind SelectionPaste::findSource() const {
 bool SelectionPaste::mayReplaceText() {
     const std::string text = selection_.get("Text").toText();
     return text.empty() || text.size() <= office::characterLength(text, 0) ||
-           session_.host.ask(command_.question, title);
+           session_.host.ask(command_.question, title).value_or(false);
 }
 
 void SelectionPaste::moveDown() {

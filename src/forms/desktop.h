@@ -59,8 +59,10 @@ public:
     [[nodiscard]] virtual Screen screen() const = 0;
     /// The platform's plain message box with an exclamation mark, above everything.
     virtual void messageBox(std::string_view text, std::string_view title) = 0;
-    /// The same with Yes and No; true for Yes.
-    [[nodiscard]] virtual bool ask(std::string_view text, std::string_view title) = 0;
+    /// The same with Yes and No; true for Yes. Nothing if the box is closed without an answer, by
+    /// the user or because the program is to end.
+    [[nodiscard]] virtual std::optional<bool> ask(std::string_view text,
+                                                  std::string_view title) = 0;
     /// The platform's dialog for a folder, beginning at `start`. A full path, or nothing if it is
     /// cancelled.
     [[nodiscard]] virtual std::optional<std::string> chooseFolder(std::string_view title,

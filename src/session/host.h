@@ -123,8 +123,10 @@ public:
     [[nodiscard]] virtual std::optional<std::string> chooseFolder(std::string_view title,
                                                                   std::string_view start) = 0;
 
-    /// A plain box with Yes and No. False for No, and where nobody is there to be asked.
-    [[nodiscard]] virtual bool ask(std::string_view text, std::string_view title) = 0;
+    /// A plain box with Yes and No. False for No, and where nobody is there to be asked; nothing if
+    /// the box is closed without an answer, by the user or because the program is to end.
+    [[nodiscard]] virtual std::optional<bool> ask(std::string_view text,
+                                                  std::string_view title) = 0;
 
     /// The system's plain message box with an exclamation mark, for when nothing better can be
     /// shown.

@@ -4,6 +4,8 @@
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
 
 #include <ctime>
 #include <stdexcept>
@@ -98,6 +100,20 @@ TEST_F(Windows, AFormThatTakesNoInputLetsClicksKeysAndItsClosingPass) {
     EXPECT_EQ(times("Continue"), 1);
 }
 
+TEST_F(Windows, AQuestionThatIsClosedHasNoAnswer) {
+    const auto askedAnd = [&](const std::function<void(QMessageBox&)>& close) {
+        QTimer::singleShot(
+            30, [&] { close(dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget())); });
+        return desk.ask("text", "title");
+    };
+    using Answer = std::optional<bool>;
+    EXPECT_EQ(askedAnd([](auto& box) { box.button(QMessageBox::Yes)->click(); }), Answer(true));
+    EXPECT_EQ(askedAnd([](auto& box) { box.button(QMessageBox::No)->click(); }), Answer(false));
+    EXPECT_EQ(askedAnd([](auto& box) { QTest::keyClick(&box, Qt::Key_Escape); }), Answer());
+    EXPECT_EQ(askedAnd([](auto& box) { box.close(); }), Answer());
+    EXPECT_EQ(askedAnd([&](auto&) { desk.closeForms(); }), Answer());
+}
+
 TEST_F(Windows, ABoxGivesWayToTheEndOfTheProgram) {
     QTimer::singleShot(30, [&] { desk.closeForms(); });
     bool isStuck = false;
@@ -107,7 +123,7 @@ TEST_F(Windows, ABoxGivesWayToTheEndOfTheProgram) {
     });
     desk.messageBox("text", "title");
     EXPECT_FALSE(isStuck);
-    EXPECT_FALSE(desk.ask("text", "title")) << "and none comes up any more";
+    EXPECT_EQ(desk.ask("text", "title"), std::nullopt) << "and none comes up any more";
     EXPECT_FALSE(isStuck);
     desk.letEventsRun();
     EXPECT_FALSE(desk.isLoaded(form));

@@ -47,7 +47,7 @@ void WindowlessDesktop::messageBox(std::string_view text, std::string_view title
     messages.push_back({std::string(text), std::string(title)});
 }
 
-bool WindowlessDesktop::ask(std::string_view text, std::string_view title) {
+std::optional<bool> WindowlessDesktop::ask(std::string_view text, std::string_view title) {
     messageBox(text, title);
     return saysYes;
 }

@@ -62,7 +62,7 @@ public:
     void waitForEvents() override;
     [[nodiscard]] forms::Screen screen() const override { return size; }
     void messageBox(std::string_view text, std::string_view title) override;
-    [[nodiscard]] bool ask(std::string_view text, std::string_view title) override;
+    [[nodiscard]] std::optional<bool> ask(std::string_view text, std::string_view title) override;
     [[nodiscard]] std::optional<std::string> chooseFolder(std::string_view title,
                                                           std::string_view start) override;
 

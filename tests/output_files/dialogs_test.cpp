@@ -121,6 +121,13 @@ TEST_F(FilesDialogs, AskBeforeFilesAreReplacedAndStayOpenWhereNothingCanBeWritte
     exportOnce();
     EXPECT_EQ(host.boxes.size(), 2U);
     EXPECT_EQ(filesIn("MurvaneImages").size(), 4U);
+    host.saysYes = std::nullopt;
+    images([&](DialogImageFiles& dialog) {
+        dialog.ContinueOk_Click();
+        EXPECT_TRUE(desktop.isLoaded(dialog)) << "as it was before the click";
+    });
+    EXPECT_EQ(host.boxes.size(), 3U);
+    EXPECT_EQ(filesIn("MurvaneImages").size(), 4U);
     EXPECT_TRUE(host.opened.empty());
     host.chosenFolder = host.home.write("file", "x");
     images([&](DialogImageFiles& dialog) {

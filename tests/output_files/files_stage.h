@@ -33,7 +33,7 @@ public:
         opened.emplace_back(path);
         return opensFiles;
     }
-    [[nodiscard]] bool ask(std::string_view text, std::string_view) override {
+    [[nodiscard]] std::optional<bool> ask(std::string_view text, std::string_view) override {
         boxes.emplace_back(text);
         return saysYes;
     }
@@ -48,7 +48,7 @@ public:
     std::vector<std::string> boxes;
     std::optional<std::string> chosenFolder;
     bool opensFiles = true;
-    bool saysYes = false;
+    std::optional<bool> saysYes = false;
 
 private:
     ScriptedConsole console_;

@@ -185,7 +185,7 @@ public:
                                                           std::string_view) override {
         return chosenFolder;
     }
-    [[nodiscard]] bool ask(std::string_view text, std::string_view title) override {
+    [[nodiscard]] std::optional<bool> ask(std::string_view text, std::string_view title) override {
         messageBox(text, title);
         return saysYes;
     }

@@ -41,7 +41,7 @@ public:
     void messageBox(std::string_view text, std::string_view title) override {
         desktop_().messageBox(text, title);
     }
-    [[nodiscard]] bool ask(std::string_view text, std::string_view title) override {
+    [[nodiscard]] std::optional<bool> ask(std::string_view text, std::string_view title) override {
         return desktop_().ask(text, title);
     }
     [[nodiscard]] std::optional<std::string> chooseFolder(std::string_view title,
