@@ -191,12 +191,11 @@ forms::Screen QtDesktop::screen() const {
     return {twipsOf(size.width()), twipsOf(size.height())};
 }
 
-std::optional<bool> QtDesktop::showBox(std::string_view text, std::string_view title,
-                                       bool asks) {
+std::optional<bool> QtDesktop::showBox(std::string_view text, std::string_view title, bool asks) {
     if (answer_) return answer_(text, title);
     if (closes_) return std::nullopt;
     PlainBox box(QMessageBox::NoIcon, textOf(title), textOf(text),
-                    asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+                 asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     QPalette colours = box.palette();
     colours.setColor(QPalette::Window, colourOf(furniture::palette::ThemeGround));
     colours.setColor(QPalette::WindowText, colourOf(furniture::palette::ThemeText));

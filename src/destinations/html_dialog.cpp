@@ -125,14 +125,15 @@ void DialogHTML::ContinueOk_Click() {
 }
 
 void DialogHTML::runBatch(const HtmlOptions& wanted, bool asImages) {
-    catalogue::FailedItems failed;
-    RowBatch batch{session(), list_,
-                   [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
-    const HtmlResult result =
-        asImages ? ExportRowsToHtmlAsImages(batch, wanted) : PublishRowsToHtml(batch, wanted);
-    session().progress.unload();
-    tellIfCancelled(session(), result.walk);
-    failed.tell(session());
+    HtmlResult result;
+    catalogue::exportAndTellOfFailed(session(), [&](catalogue::FailedItems& failed) {
+        RowBatch batch{session(), list_,
+                       [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
+        result =
+            asImages ? ExportRowsToHtmlAsImages(batch, wanted) : PublishRowsToHtml(batch, wanted);
+        session().progress.unload();
+        tellIfCancelled(session(), result.walk);
+    });
     if (!result.file.empty() && Check2.isChecked()) openOrName(session(), result.file);
 }
 

@@ -163,13 +163,13 @@ void DialogImageFiles::ContinueOk_Click() {
 }
 
 void DialogImageFiles::runBatch(const ImageFileOptions& wanted) {
-    catalogue::FailedItems failed;
-    RowBatch batch{session(), list_,
-                   [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
-    const WalkResult result = ExportRowsToImageFiles(batch, wanted);
-    session().progress.unload();
-    tellIfCancelled(session(), result);
-    failed.tell(session());
+    catalogue::exportAndTellOfFailed(session(), [&](catalogue::FailedItems& failed) {
+        RowBatch batch{session(), list_,
+                       [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
+        const WalkResult result = ExportRowsToImageFiles(batch, wanted);
+        session().progress.unload();
+        tellIfCancelled(session(), result);
+    });
     if (Check2.isChecked()) openOrName(session(), wanted.folder);
 }
 

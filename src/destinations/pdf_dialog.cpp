@@ -119,24 +119,25 @@ PdfOptions DialogPDF::options() {
 void DialogPDF::MakeBlankDoc_Paste_ExportPdf_AndClose() {
     const PdfOptions wanted = options();
     const std::string path = pdfPath(session(), "TempWord");
-    catalogue::FailedItems failed;
-    RowBatch batch{session(), list_,
-                   [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
     session().progress.showItem(0, taken_);
     office::ContinueOnFailure scope;
     PdfResult result;
-    const bool went = scope.attempt([&] { result = ExportRowsToPdf(batch, wanted, path); });
-    session().progress.unload();
+    const bool went = scope.attempt([&] {
+        catalogue::exportAndTellOfFailed(session(), [&](catalogue::FailedItems& failed) {
+            RowBatch batch{session(), list_,
+                           [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
+            result = ExportRowsToPdf(batch, wanted, path);
+            session().progress.unload();
+            tellIfCancelled(session(), result.walk);
+        });
+    });
     if (!went) {
         session::ShowErrorNotice(session().notices, scope.lastFailure()->description());
-    } else {
-        tellIfCancelled(session(), result.walk);
-        failed.tell(session());
+    } else if (result.isMade && Check2.isChecked() && !OpenPdfFile(session(), path)) {
         // Events run until the PDF is open.
-        if (result.isMade && Check2.isChecked() && !OpenPdfFile(session(), path))
-            session::ShowWarningNotice(
-                session().notices,
-                fmt::format("PDF was created but couldn't be opened automatically:\r\n{}", path));
+        session::ShowWarningNotice(
+            session().notices,
+            fmt::format("PDF was created but couldn't be opened automatically:\r\n{}", path));
     }
 }
 

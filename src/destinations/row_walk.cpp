@@ -20,28 +20,6 @@ std::int32_t takenRowsOfFiles(session::OfficeSession& session, const catalogue::
     return choices.predefinedSlides ? 0 : takenRows(session, list);
 }
 
-namespace {
-
-/// Does something for a row. Its failure is told if somebody wants to know, or ends the export.
-/// False after one that was told.
-template <class Statement>
-bool letHaveTurn(const RowBatch& batch, const catalogue::ExportItem& row,
-                 const Statement& statement) {
-    if (!batch.onFailedItem) {
-        statement();
-        return true;
-    }
-    office::ContinueOnFailure scope;
-    if (scope.attempt(statement)) return true;
-    const office::Failure failure = *scope.lastFailure();
-    // A full disk is one for every item.
-    if (failure.is(office::FailureNumber::PathFileAccess)) throw failure;
-    batch.onFailedItem(row, failure);
-    return false;
-}
-
-}  // namespace
-
 WalkResult walkRows(RowBatch& batch,
                     const std::function<void(const catalogue::TakenRow& taken,
                                              const catalogue::ExportItem& row)>& exportRow) {
@@ -53,7 +31,7 @@ WalkResult walkRows(RowBatch& batch,
         if (batch.session.progress.cancelled()) break;
         const catalogue::ExportItem& row = batch.list.rows[taken.index];
         batch.list.selected = static_cast<std::ptrdiff_t>(taken.index);
-        const bool went = letHaveTurn(batch, row, [&] {
+        const bool went = catalogue::letHaveTurn(batch.onFailedItem, row, [&] {
             catalogue::ProgressStep(batch.session, result.done + 1, result.total);
             exportRow(taken, row);
         });
@@ -82,7 +60,8 @@ WalkResult walkRowsAhead(
         begun.pop_front();
         const std::ptrdiff_t atHand = batch.list.selected;
         batch.list.selected = static_cast<std::ptrdiff_t>(first.index);
-        if (!letHaveTurn(batch, batch.list.rows[first.index], first.end)) ++failed;
+        if (!catalogue::letHaveTurn(batch.onFailedItem, batch.list.rows[first.index], first.end))
+            ++failed;
         batch.list.selected = atHand;
     };
     WalkResult result =

@@ -5,7 +5,7 @@
 
 #include "catalogue/export_list.h"
 #include "catalogue/export_run.h"
-#include "office/failure.h"
+#include "catalogue/failed_items.h"
 #include "session/office_session.h"
 
 namespace destinations {
@@ -14,10 +14,7 @@ namespace destinations {
 struct RowBatch {
     session::OfficeSession& session;
     catalogue::ExportList& list;
-    /// Told of each item that failed; the batch then goes on with the next one. Where there is
-    /// none, the failure goes to the caller, as does one of a file that can't be written.
-    std::function<void(const catalogue::ExportItem& row, const office::Failure& failure)>
-        onFailedItem;
+    catalogue::OnFailedItem onFailedItem;
 };
 
 /// What a walk came to.

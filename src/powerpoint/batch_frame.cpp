@@ -83,8 +83,11 @@ std::int32_t BatchFrame::run() {
     } else if (exported_ == 0 && !route_.noneArrived.empty()) {
         session::ShowWarningNotice(session_.notices, route_.noneArrived);
     }
-    // Of which row it is nobody can say by now.
-    if (lateFailure) throw office::Failure(*lateFailure);
+    if (lateFailure && !batch_.onLateFailure) {
+        batch_.list.selected = -1;
+        throw office::Failure(*lateFailure);
+    }
+    if (lateFailure) batch_.onLateFailure(*lateFailure);
     return done_;
 }
 
@@ -123,12 +126,7 @@ void BatchFrame::exportRow(const TakenRow& taken) {
             unselect();
         }
     };
-    if (!batch_.onFailedItem) {
-        work();
-        return;
-    }
-    office::ContinueOnFailure scope;
-    if (!scope.attempt(work)) batch_.onFailedItem(row, *scope.lastFailure());
+    catalogue::letHaveTurn(batch_.onFailedItem, row, work);
 }
 
 Object BatchFrame::showSlideOf(const TakenRow& taken) {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "catalogue/export_list.h"
+#include "catalogue/failed_items.h"
 #include "office/failure.h"
 #include "powerpoint/picture_styles.h"
 #include "session/office_session.h"
@@ -27,11 +28,11 @@ struct Batch {
     session::OfficeSession& session;
     catalogue::ExportList& list;
     const catalogue::ExportChoices& choices;
-    /// Told of each item that failed; the batch then goes on with the next one. Where there is
-    /// none, the failure goes to the caller.
-    std::function<void(const catalogue::ExportItem& row, const office::Failure& failure)>
-        onFailedItem;
+    catalogue::OnFailedItem onFailedItem;
     SlideOptions options = {};
+    /// Told of a picture that fails after the last row has gone by, when nobody can say of which
+    /// row it is. Where there is none, that is a failure of the batch, with no row at hand.
+    std::function<void(const office::Failure& failure)> onLateFailure = {};
 };
 
 /// As the formats need it that paste.
@@ -66,8 +67,7 @@ struct BatchRoute {
 ///
 /// A failure up to the last row goes to the caller, or to `onFailedItem`, and nothing is taken
 /// back: the slides stay, and where the batch ends by it Excel's drawing stays as the route has
-/// left it. What puts the windows back afterwards ignores failures. A picture that fails after the
-/// last row has gone by is a failure of the batch.
+/// left it. What puts the windows back afterwards ignores failures.
 std::int32_t RunBatch(Batch& batch, const BatchRoute& route);
 
 }  // namespace powerpoint

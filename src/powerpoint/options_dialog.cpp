@@ -170,18 +170,23 @@ void Dialog::ContinueOk_Click() {
     options_.shadow = CheckShadow.isChecked();
     options_.pictureStyle = session().PictureStyle;
     panels::RunExport(session(), *this, taken_, [this] {
-        catalogue::FailedItems failed;
-        Batch batch{session(), list_, choices_,
-                    [&](const auto& row, const auto& failure) {
-                        // Without its presentation no other item would go better.
-                        office::ContinueOnFailure asking;
-                        if (!presentationIsThere(asking)) throw office::Failure(failure);
-                        failed.add(row, failure);
-                    },
-                    options_};
-        ExportRows(batch);
-        failed.tell(session());
+        catalogue::exportAndTellOfFailed(session(), [this](auto& failed) { runBatch(failed); });
     });
+}
+
+void Dialog::runBatch(catalogue::FailedItems& failed) {
+    Batch batch{session(),
+                list_,
+                choices_,
+                [&](const auto& row, const auto& failure) {
+                    // Without its presentation no other item would go better.
+                    office::ContinueOnFailure asking;
+                    if (!presentationIsThere(asking)) throw office::Failure(failure);
+                    failed.add(row, failure);
+                },
+                options_,
+                [&](const auto& failure) { failed.add(failure); }};
+    ExportRows(batch);
 }
 
 bool Dialog::presentationIsThere(office::ContinueOnFailure& scope) {

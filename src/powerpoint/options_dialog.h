@@ -42,6 +42,7 @@ protected:
 private:
     bool findsPresentation();
     void namePresentation(office::ContinueOnFailure& scope);
+    void runBatch(catalogue::FailedItems& failed);
     [[nodiscard]] bool presentationIsThere(office::ContinueOnFailure& scope);
     [[nodiscard]] bool slideNumbersFit();
     [[nodiscard]] forms::CheckBox* optionOf(std::string_view key);

@@ -5,8 +5,8 @@
 namespace powerpoint {
 
 bool refusesAsReadOnly(session::OfficeSession& session) {
-    const bool isReadOnly = office::orElse(
-        [&] { return session.SessionPresentation.get("ReadOnly").toBool(); }, false);
+    const bool isReadOnly =
+        office::orElse([&] { return session.SessionPresentation.get("ReadOnly").toBool(); }, false);
     if (isReadOnly) {
         session::ShowWarningNotice(session.notices,
                                    "The presentation is opened for reading only.\r"

@@ -36,6 +36,9 @@ TEST_F(BatchFailuresTest, AFailedItemIsToldAndTheOthersGoOnWhereTheCallerAsks) {
     EXPECT_EQ(failed, std::vector<std::string>{"Chart 2: Chart.Export"});
     EXPECT_EQ(picturesOn(3).size(), 0U);
     EXPECT_EQ(picturesOn(4).size(), 1U);
+    suite.failures().fail("Chart.Export", 2, office::FailureNumber::PathFileAccess);
+    EXPECT_THROW(powerpoint::ExportRows(batch), office::Failure) << "the disk is full for all";
+    EXPECT_EQ(failed.size(), 1U);
 }
 
 TEST_F(BatchFailuresTest, AWorkbookThatIsClosedMeanwhileIsNotTakenForHiddenSheets) {
@@ -88,6 +91,7 @@ TEST_F(BatchFailuresTest, AViewThatStaysIsPassedOverAndAPictureThatFailsLateIsTo
     EXPECT_NO_THROW(exportRows());
     suite.failures().failAfter("Shapes.AddPicture", "DocumentWindow.ViewType", putBack);
     EXPECT_THROW(exportRows(), office::Failure);
+    EXPECT_EQ(list.selected, -1) << "nobody can say whose it is";
     EXPECT_EQ(progress.calls.back(), "unload");
 }
 

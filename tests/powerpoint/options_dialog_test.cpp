@@ -190,11 +190,28 @@ TEST_F(PowerPointDialog, GoesOnOverAChartThatHasGoneButNotWithoutItsPresentation
               Strings{"1 item(s) could not be exported:\r"
                       "Chart 9: Chart 'Chart 9' was not found on sheet 'Sales'."});
 
+    // A picture that fails late is told with the others, and the program goes on.
     attachAgain();
+    notices.shown.clear();
     open([&](powerpoint::Dialog& dialog) {
-        host.onEvents = [this] { deck.close(); };
+        constexpr int putBack = 2;
+        suite.failures().failAfter("Shapes.AddPicture", "DocumentWindow.ViewType", putBack);
+        EXPECT_NO_THROW(press(dialog, "ContinueOk"));
+    });
+    ASSERT_EQ(notices.shown.size(), 1U);
+    EXPECT_EQ(notices.messages()[0].find("2 item(s) could not be exported:\rChart 9: "), 0U);
+    EXPECT_NE(notices.messages()[0].find("\rA picture: "), std::string::npos);
+
+    attachAgain();
+    notices.shown.clear();
+    open([&](powerpoint::Dialog& dialog) {
+        host.onEvents = [this] {
+            if (progress.calls.back() == "item 2 of 2") deck.close();
+        };
         EXPECT_THROW(press(dialog, "ContinueOk"), office::Failure);
     });
+    ASSERT_EQ(notices.shown.size(), 1U) << "what failed until then is told all the same";
+    EXPECT_EQ(notices.messages()[0].find("1 item(s) could not be exported:\rChart 9: "), 0U);
 }
 
 TEST_F(PowerPointDialog, KeepsTheStyleThatWasChosenAnEarlierTime) {
