@@ -16,11 +16,7 @@ void copyChartSheet(OfficeSession& session, const ExportItem& row) {
 }
 
 void copyEmbeddedChart(OfficeSession& session, const ExportItem& row) {
-    session.ActiveBook.get("Worksheets")
-        .get("Item", row.sheet)
-        .call("ChartObjects")
-        .get("Item", row.name)
-        .call("Copy");
+    chartObjectOf(session, row).call("Copy");
 }
 
 }  // namespace

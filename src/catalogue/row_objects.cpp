@@ -47,30 +47,33 @@ bool RowObjects::isMultipleAreaRow(const ExportItem& row) {
     return scope.read([&] { return range.get("Areas").get("Count").toLong() > 1; }, false);
 }
 
+office::Object chartObjectOf(const session::OfficeSession& session, const ExportItem& row) {
+    const office::Object sheet = session.ActiveBook.get("Sheets").get("Item", row.sheet).toObject();
+    office::ContinueOnFailure scope;
+    office::Object object;
+    if (!scope.attempt(
+            [&] { object = sheet.call("ChartObjects").get("Item", row.name).toObject(); }))
+        throw office::Failure(scope.lastFailure()->number(), scope.lastFailure()->source(),
+                              chartNotFound(row));
+    return object;
+}
+
+std::string chartNotFound(const ExportItem& row) {
+    return fmt::format("Chart '{}' was not found on sheet '{}'.", row.name, row.sheet);
+}
+
 office::Object chartOf(const session::OfficeSession& session, const ExportItem& row) {
-    const auto chartOn = [&](const office::Value& chart) {
-        return session.ActiveBook.get("Sheets")
-            .get("Item", row.sheet)
-            .call("ChartObjects")
-            .get("Item", chart)
-            .get("Chart")
-            .toObject();
-    };
-    if (!row.isChartSheet()) {
-        try {
-            return chartOn(row.name);
-        } catch (const office::Failure& failure) {
-            if (!failure.is(office::FailureNumber::SubscriptOutOfRange)) throw;
-            throw office::Failure(
-                failure.number(), failure.source(),
-                fmt::format("Chart '{}' was not found on sheet '{}'.", row.name, row.sheet));
-        }
-    }
+    if (!row.isChartSheet()) return chartObjectOf(session, row).get("Chart").toObject();
     office::ContinueOnFailure scope;
     office::Object chart;
     const bool isChartSheet = scope.attempt(
         [&] { chart = session.ActiveBook.get("Charts").get("Item", row.sheet).toObject(); });
-    return isChartSheet ? chart : chartOn(1);
+    if (isChartSheet) return chart;
+    return session.ActiveBook.get("Sheets")
+        .get("Item", row.sheet)
+        .call("ChartObjects", 1)
+        .get("Chart")
+        .toObject();
 }
 
 office::Object rangeOf(session::OfficeSession& session, const ExportItem& row) {

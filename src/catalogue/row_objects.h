@@ -42,6 +42,13 @@ private:
     std::map<std::string, Sheet> sheets_;
 };
 
+/// What holds the chart of a row on its sheet. `Failure` with the words of `chartNotFound` if the
+/// sheet has no such chart.
+[[nodiscard]] office::Object chartObjectOf(const session::OfficeSession& session,
+                                           const ExportItem& row);
+/// What there is to say where the chart of a sheet has gone.
+[[nodiscard]] std::string chartNotFound(const ExportItem& row);
+
 /// The chart of a row: of its chart sheet, or the one that lies on its sheet. LibreOffice saves a
 /// chart sheet as a worksheet with a chart, which then is the row's.
 [[nodiscard]] office::Object chartOf(const session::OfficeSession& session, const ExportItem& row);

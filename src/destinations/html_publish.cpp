@@ -134,9 +134,10 @@ private:
     [[nodiscard]] std::string addressOf(const ExportItem& row) {
         if (!row.isEmbeddedChart())
             return catalogue::requiredRange(session_, row).get("Address").toText();
-        const Object sheet = session_.ActiveBook.get("Sheets").get("Item", row.sheet).toObject();
-        const Object chart = sheet.call("ChartObjects").get("Item", row.name).toObject();
-        return sheet.get("Range", chart.get("TopLeftCell"), chart.get("BottomRightCell"))
+        const Object chart = catalogue::chartObjectOf(session_, row);
+        const Object topLeft = chart.get("TopLeftCell").toObject();
+        return topLeft.get("Worksheet")
+            .get("Range", topLeft, chart.get("BottomRightCell"))
             .get("Address")
             .toText();
     }

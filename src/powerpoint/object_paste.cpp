@@ -32,7 +32,7 @@ RowTexts textsOf(const ExportItem& row, const ObjectRoute& route) {
             fmt::format("No chart found in sheet: {}", row.sheet),
             fmt::format("Could not paste chart sheet '{}' {}", row.sheet, route.chartSheetTarget)};
     if (row.isEmbeddedChart())
-        return {fmt::format("Chart '{}' was not found on sheet '{}'.", row.name, row.sheet),
+        return {catalogue::chartNotFound(row),
                 fmt::format("Could not paste embedded chart '{}' {}", row.name, route.chartTarget)};
     return {catalogue::rangeNotFound(row),
             fmt::format("Could not paste '{}' {}", row.name, route.rangeTarget)};

@@ -75,10 +75,12 @@ protected:
         add(ItemKind::Chart, name, sheet, caption);
     }
 
-    /// Going on after items that fail, whose names are noted.
+    /// Going on after items that fail, whose names and reasons are noted.
     destinations::RowBatch batch() {
-        return {session, list,
-                [this](const auto& row, const office::Failure&) { failed.push_back(row.name); }};
+        return {session, list, [this](const auto& row, const office::Failure& failure) {
+                    failed.push_back(row.name);
+                    reasons.push_back(failure.description());
+                }};
     }
 
     /// The files in a folder of the home and below it, by their paths from there.
@@ -100,6 +102,7 @@ protected:
     session::OfficeSession session{suite, host, notices, progress};
     catalogue::ExportList list;
     std::vector<std::string> failed;
+    std::vector<std::string> reasons;
 };
 
 using Names = std::vector<std::string>;

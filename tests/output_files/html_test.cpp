@@ -81,9 +81,12 @@ TEST_F(Html, ThatIsPublishedKeepsTablesAndEscapesAllThatComesFromTheWorkbook) {
     book.chartSheet("Trend").size(360, 240);
     add(ItemKind::ChartSheet, "", "Trend");
     add(ItemKind::Range, "Gone", "S");
+    add(ItemKind::Chart, "Gone", "S");
     book.setModified(false);
     const std::string text = page(publish());
-    EXPECT_EQ(failed, Names{"Gone"});
+    EXPECT_EQ(failed, (Names{"Gone", "Gone"}));
+    EXPECT_EQ(reasons,
+              (Names{"Named range 'Gone' not found.", "Chart 'Gone' was not found on sheet 'S'."}));
     EXPECT_EQ(count(text, "<script"), 0U);
     EXPECT_EQ(count(text, "&lt;script&gt;alert(&#39;1&#39;)"), 2U) << "twice as cells";
     EXPECT_EQ(count(text, "<h2>&quot;1&quot; &lt; 2 &amp; &#39;more&#39;</h2>"), 1U);
