@@ -53,6 +53,7 @@ public:
     virtual void clearClipboard() = 0;
     virtual ClipboardPicture clipboardPicture(ClipboardPicture::Kind kind) = 0;
     /// Where its Excel leaves what was copied, for a PowerPoint or a Word that stands elsewhere.
+    /// Never null: it stays empty where the applications pass copies among themselves.
     virtual ClipboardPtr clipboard() = 0;
     /// The picture files of its Excel that may still be on their way; null if all are whole as soon
     /// as it says so.

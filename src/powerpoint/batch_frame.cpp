@@ -142,18 +142,16 @@ Object BatchFrame::showSlideOf(const TakenRow& taken) {
 
 /// A table is told its room: it is drawn for the size in which it comes.
 bool BatchFrame::insert(const ExportItem& row, const Object& slide) {
-    struct Room {
-        office::Clipboard& clipboard;
-        ~Room() { clipboard.room.reset(); }
-    } const room{*session_.suite.clipboard()};
     const bool isTable = batch_.choices.format == catalogue::ExportFormat::Editable &&
                          !row.isChartSheet() && !row.isEmbeddedChart();
-    if (isTable && batch_.options.placesShapes) {
-        office::ContinueOnFailure().attempt([&] {
-            room.clipboard.room =
-                RoomForLastShape(session_, slide.get("Shapes").toObject(), title_);
-        });
-    }
+    if (!isTable || !batch_.options.placesShapes) return route_.insertItem(session_, row, slide);
+    struct Room {
+        office::ClipboardPtr clipboard;
+        ~Room() { clipboard->room.reset(); }
+    } const room{session_.suite.clipboard()};
+    office::ContinueOnFailure().attempt([&] {
+        room.clipboard->room = RoomForLastShape(session_, slide.get("Shapes").toObject(), title_);
+    });
     return route_.insertItem(session_, row, slide);
 }
 
