@@ -69,10 +69,13 @@ std::string makeOne(const std::string& parent, std::string_view start) {
 std::string makePrivateFolder(const std::string& parent) {
     std::string path = makeOne(parent, privateStart);
     if (path.empty()) return {};
-    // An office suite's pictures pass through folders of the same names here.
+    // The work with an office suite has folders of the same names: where the environment says or,
+    // if none can be made there, in the system's own place.
+    constexpr const char* ofSystem = "/tmp";
     std::error_code error;
-    const fs::path pictures = fs::temp_directory_path(error);
-    sweep(error ? "/tmp" : pictures.string());
+    const fs::path named = fs::temp_directory_path(error);
+    if (!error && named != ofSystem) sweep(named.string());
+    sweep(ofSystem);
     return path;
 }
 
