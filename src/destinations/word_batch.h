@@ -18,8 +18,9 @@ struct WordOptions {
 /// Appends the taken rows to the session's document, each on a page of its own, in the format of
 /// the choices. The document stays open and unsaved.
 ///
-/// Objects that are embedded or linked always fill the width of the text, without caption and
-/// shadow. A row that can't be copied or pasted leaves no page behind.
+/// Objects that are embedded or linked fill the width of the text, as far as their page has room
+/// for the height, without caption and shadow. A row that can't be copied or pasted leaves no page
+/// behind.
 WalkResult ExportRowsToWord(RowBatch& batch, catalogue::ExportFormat format,
                             const WordOptions& options);
 
