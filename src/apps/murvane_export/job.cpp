@@ -105,8 +105,6 @@ public:
                                                            {.sameWidth = options.sameWidth,
                                                             .caption = options.captionsBelow,
                                                             .shadow = options.shadow});
-        // What fails from here on is no item's.
-        scene_.list.selected = -1;
         scene_.session.SessionDocument.call("SaveCopyAs", neighbour);
         return result.done;
     }

@@ -7,13 +7,13 @@
 #include <pugixml.hpp>
 
 #include <filesystem>
-#include <sstream>
 #include <utility>
 #include <vector>
 
 #include "office/failure.h"
 #include "office/libreoffice/at_end.h"
 #include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/changed_copy.h"
 #include "office/package/package.h"
 
 namespace libreoffice::excel {
@@ -26,12 +26,10 @@ namespace {
                                       sheet.knownName(), why));
 }
 
-/// Moves what begins left of or above the page to its edge. Empty if nothing does.
-std::string withoutNegativePlaces(const std::string& drawing) {
-    pugi::xml_document document;
-    if (!document.load_buffer(drawing.data(), drawing.size(), pugi::parse_full)) return {};
+/// Moves what begins left of or above the page to its edge. False if nothing does.
+bool mendNegativePlaces(const pugi::xml_node& drawing) {
     bool mended = false;
-    for (const pugi::xml_node anchor : document.document_element().children()) {
+    for (const pugi::xml_node anchor : drawing.children()) {
         for (pugi::xml_node place : anchor.children()) {
             if (!std::string_view(place.name()).ends_with("pos")) continue;
             for (pugi::xml_attribute side : place.attributes()) {
@@ -41,25 +39,14 @@ std::string withoutNegativePlaces(const std::string& drawing) {
             }
         }
     }
-    if (!mended) return {};
-    std::ostringstream text;
-    document.save(text, "", pugi::format_raw);
-    return text.str();
+    return mended;
 }
 
 /// Writes the workbook anew, with the chart where LibreOffice sees it.
 void writeMended(const SheetRecord& sheet, const std::string& original, const std::string& copy) {
-    using office::package::Package;
     try {
-        Package package = Package::open(original);
-        const auto& relationships = package.relationshipsOf(sheet.part);
-        const auto* const found = relationships.ofType("drawing");
-        if (found == nullptr) fail(sheet, "it has none");
-        const std::string drawing = relationships.partOf(*found);
-        const std::string mended = withoutNegativePlaces(package.read(drawing));
-        if (mended.empty()) fail(sheet, "it has none");
-        package.replace(drawing, mended);
-        package.save(copy);
+        if (!writeChangedCopy(original, copy, sheet.part, "drawing", mendNegativePlaces))
+            fail(sheet, "it has none");
     } catch (const office::package::PackageError&) {
         fail(sheet, "its file is not at hand");
     }

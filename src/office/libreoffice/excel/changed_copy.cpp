@@ -1,0 +1,29 @@
+#include "office/libreoffice/excel/changed_copy.h"
+
+#include <sstream>
+
+#include "office/package/package.h"
+
+namespace libreoffice::excel {
+
+bool writeChangedCopy(const std::string& original, const std::string& copy, std::string_view owner,
+                      std::string_view relationshipType,
+                      const std::function<bool(pugi::xml_node root)>& change) {
+    using office::package::Package;
+    Package package = Package::open(original);
+    const auto& relationships = package.relationshipsOf(owner);
+    const auto* const found = relationships.ofType(relationshipType);
+    if (found == nullptr) return false;
+    const std::string part = relationships.partOf(*found);
+    const std::string bytes = package.read(part);
+    pugi::xml_document document;
+    if (!document.load_buffer(bytes.data(), bytes.size(), pugi::parse_full)) return false;
+    if (!change(document.document_element())) return false;
+    std::ostringstream text;
+    document.save(text, "", pugi::format_raw);
+    package.replace(part, text.str());
+    package.save(copy);
+    return true;
+}
+
+}  // namespace libreoffice::excel
