@@ -293,7 +293,7 @@ class Hand:
             line = self.process.stdout.readline()
             if not line:
                 # What closes the last form ends the program, at times ahead of its answer.
-                if deed in ("key", "click") and self.end:
+                if deed in ("key", "click", "click-row") and self.end:
                     return None
                 raise AssertionError("the program has ended: " + self.said())
             answer = json.loads(line)
