@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "catalogue/userform_obj.h"
+#include "forms/desktop.h"
 
 namespace catalogue {
 
