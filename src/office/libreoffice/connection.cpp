@@ -4,9 +4,11 @@
 #include <com/sun/star/bridge/XBridgeFactory2.hpp>
 #include <com/sun/star/connection/Connector.hpp>
 #include <cppuhelper/bootstrap.hxx>
+#include <cppuhelper/exc_hlp.hxx>
 #include <rtl/bootstrap.hxx>
 #include <rtl/ref.hxx>
 
+#include <tuple>
 #include <utility>
 
 #include "office/libreoffice/counted_connection.h"
@@ -14,13 +16,30 @@
 
 namespace libreoffice {
 
+namespace {
+
+/// UNO describes the carrier of its exceptions when the first one crosses a bridge, and a second
+/// thread that comes meanwhile finds half a description and crashes. A suite that is killed brings
+/// several threads there at once; so the first one crosses here, while there is one thread.
+void describeExceptions() {
+    try {
+        throw uno::RuntimeException();
+    } catch (const uno::RuntimeException&) {
+        std::ignore = cppu::getCaughtException();
+    }
+}
+
+}  // namespace
+
 const uno::Reference<uno::XComponentContext>& localContext() {
     static const uno::Reference<uno::XComponentContext> context = [] {
         // Without this the local environment knows the base types only, and the first use of an
         // office type crashes.
         rtl::Bootstrap::set("URE_BOOTSTRAP",
                             toUno("vnd.sun.star.pathname:" + programFolder() + "/fundamentalrc"));
-        return cppu::defaultBootstrap_InitialComponentContext();
+        auto local = cppu::defaultBootstrap_InitialComponentContext();
+        describeExceptions();
+        return local;
     }();
     return context;
 }
