@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <optional>
@@ -34,15 +35,27 @@ struct Part {
     bool wasRead = false;
     /// Of bytes that are on their way.
     std::shared_future<std::string> late = {};
+    /// Of bytes that have been put aside.
+    std::optional<PartsAside::Place> aside = {};
 
     /// Waits for them.
     void settle() {
         if (late.valid()) bytes = std::exchange(late, {}).get();
     }
-    /// The content, unless it is as it was read; those on their way are waited for, not copied.
+    /// The content, unless it is as it was read or has been put aside; what is on its way is
+    /// waited for, not copied.
     [[nodiscard]] std::optional<std::string_view> changed() const {
         if (late.valid()) return late.get();
         return bytes;
+    }
+    void change(std::string to) {
+        bytes = std::move(to);
+        aside.reset();
+    }
+    void drop() {
+        bytes.reset();
+        late = {};
+        aside.reset();
     }
 };
 
@@ -75,6 +88,7 @@ public:
     std::string read(std::string_view name, std::uint64_t most) {
         Part& part = at(name);
         if (part.bytes) return *part.bytes;
+        if (part.aside) return aside.read(*part.aside);
         const std::uint64_t size = archive.entries()[*part.index].bytes;
         if (size > most)
             throw PackageError(Fault::TooLarge,
@@ -86,6 +100,12 @@ public:
         return archive.read(*part.index);
     }
 
+    /// Whether these are the new bytes of a part.
+    [[nodiscard]] bool holds(const Part& part, const std::string& bytes) {
+        if (!part.aside) return part.bytes == bytes;
+        return part.aside->bytes == bytes.size() && aside.read(*part.aside) == bytes;
+    }
+
     Part& place(std::string_view name, Storage storage) {
         const auto [found, isNew] = byKey.try_emplace(partKey(name), parts.size());
         if (isNew) parts.push_back({std::string(name), {}, {}, storage});
@@ -93,7 +113,21 @@ public:
     }
 
     void put(std::string_view name, std::string bytes, Storage storage) {
-        place(name, storage).bytes = std::move(bytes);
+        place(name, storage).change(std::move(bytes));
+    }
+
+    /// The same for a part that is rather written than read.
+    void putAside(std::string_view name, std::string bytes, Storage storage) {
+        Part& part = place(name, storage);
+        part.drop();
+        part.aside = aside.put(bytes);
+        if (!part.aside) part.bytes = std::move(bytes);
+    }
+
+    void putLate(std::string_view name, std::shared_future<std::string> bytes) {
+        putDrawnAside();
+        place(name, Storage::Stored).late = std::move(bytes);
+        onTheirWay.push_back(partKey(name));
     }
 
     void remove(std::string_view name) {
@@ -101,8 +135,7 @@ public:
         if (found == byKey.end()) return;
         Part& part = parts[found->second];
         part.isRemoved = true;
-        part.bytes.reset();
-        part.late = {};
+        part.drop();
         byKey.erase(found);
         contentTypes().remove(name);
     }
@@ -138,8 +171,8 @@ public:
         for (const Part& part : parts) {
             if (part.isRemoved && part.index) found.push_back({part.index, {}, {}, {}});
             const std::optional<std::string_view> bytes = part.changed();
-            if (!bytes) continue;
-            found.push_back({part.index, part.name.substr(1), bytes, part.storage});
+            if (!bytes && !part.aside) continue;
+            found.push_back({part.index, part.name.substr(1), bytes, part.storage, part.aside});
         }
         return found;
     }
@@ -148,6 +181,7 @@ public:
     ZipInput input;
     ZipArchive archive;
     std::vector<Part> parts;
+    PartsAside aside;
     std::unordered_map<std::string, std::size_t> byKey;
     std::unordered_map<std::string, std::unique_ptr<Relationships>> relationships;
     /// The names of what has been added, by the hash of the bytes.
@@ -160,6 +194,25 @@ public:
     std::uint64_t bytesReadAgain = 0;
 
 private:
+    /// What has come meanwhile. A picture that could not be drawn fails where it is asked for.
+    void putDrawnAside() {
+        std::erase_if(onTheirWay, [&](const std::string& key) {
+            const auto found = byKey.find(key);
+            if (found == byKey.end()) return true;
+            Part& part = parts[found->second];
+            if (!part.late.valid()) return true;
+            if (part.late.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
+                return false;
+            try {
+                part.aside = aside.put(part.late.get());
+                if (part.aside) part.late = {};
+            } catch (const std::exception&) {
+                return true;
+            }
+            return true;
+        });
+    }
+
     static ZipInput& checked(ZipInput& input) {
         refuseCompoundFile(input);
         return input;
@@ -182,6 +235,8 @@ private:
     }
 
     std::optional<ContentTypes> types;
+    /// The keys of the parts whose bytes were, when it was last looked.
+    std::vector<std::string> onTheirWay;
 };
 
 Package::Package(std::unique_ptr<Content> content) : content_(std::move(content)) {}
@@ -221,17 +276,20 @@ std::string Package::read(std::string_view part) const {
 
 std::string Package::head(std::string_view part, std::size_t most) const {
     const auto& found = content_->at(part);
-    return found.bytes ? found.bytes->substr(0, most) : content_->archive.read(*found.index, most);
+    if (found.bytes) return found.bytes->substr(0, most);
+    if (found.aside)
+        return content_->aside.read({found.aside->start, std::min(found.aside->bytes, most)});
+    return content_->archive.read(*found.index, most);
 }
 
 void Package::replace(std::string_view part, std::string bytes) {
-    content_->at(part).bytes = std::move(bytes);
+    content_->at(part).change(std::move(bytes));
 }
 
 void Package::add(std::string_view part, std::string_view contentType, std::string bytes,
                   Storage storage) {
     content_->contentTypes().set(part, contentType);
-    content_->put(part, std::move(bytes), storage);
+    content_->putAside(part, std::move(bytes), storage);
 }
 
 void Package::remove(std::string_view part) {
@@ -264,11 +322,11 @@ std::string Package::addMedia(std::string_view stem, std::string_view ending,
     const auto [first, last] = content_->media.equal_range(hash);
     for (auto one = first; one != last; ++one) {
         const Part* part = content_->find(one->second);
-        if (part != nullptr && part->bytes == bytes && one->second.ends_with(ending))
+        if (part != nullptr && one->second.ends_with(ending) && content_->holds(*part, bytes))
             return one->second;
     }
     std::string name = freeName(stem, ending);
-    content_->put(name, std::move(bytes), storage);
+    content_->putAside(name, std::move(bytes), storage);
     content_->contentTypes().setByExtension(name, contentType);
     content_->media.emplace(hash, name);
     return name;
@@ -280,7 +338,7 @@ std::string Package::addMedia(std::string_view stem, std::string_view ending,
     std::string& name = content_->lateMedia[look];
     if (!name.empty() && has(name)) return name;
     name = freeName(stem, ending);
-    content_->place(name, Storage::Stored).late = std::move(bytes);
+    content_->putLate(name, std::move(bytes));
     content_->contentTypes().setByExtension(name, contentType);
     return name;
 }
@@ -302,14 +360,14 @@ Relationships& Package::relationshipsOf(std::string_view part) {
 void Package::save(const std::filesystem::path& file) {
     content_->putMarkup();
     ZipOutput output(file);
-    content_->archive.write(output, content_->changes());
+    content_->archive.write(output, content_->changes(), content_->aside);
 }
 
 std::string Package::bytes() {
     content_->putMarkup();
     std::string bytes;
     ZipOutput output(bytes);
-    content_->archive.write(output, content_->changes());
+    content_->archive.write(output, content_->changes(), content_->aside);
     return bytes;
 }
 

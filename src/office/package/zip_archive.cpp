@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <system_error>
 
 #include "office/package/part_name.h"
@@ -41,6 +42,69 @@ PackageError errorOf(zip_error_t& error, std::string_view what) {
             return {Fault::Unreadable,
                     fmt::format("{} ({})", what,
                                 isSystems ? std::generic_category().message(system) : reason)};
+    }
+}
+
+/// What libzip reads a part from that has been put aside.
+class AsideReader {
+public:
+    AsideReader(PartsAside& aside, const PartsAside::Place& place) : aside_(aside), place_(place) {
+        zip_error_init(&error_);
+    }
+    AsideReader(const AsideReader&) = delete;
+    AsideReader& operator=(const AsideReader&) = delete;
+    ~AsideReader() { zip_error_fini(&error_); }
+
+    static zip_int64_t answer(void* self, void* data, zip_uint64_t length,
+                              zip_source_cmd_t command);
+
+private:
+    zip_int64_t read(char* to, zip_uint64_t count);
+
+    PartsAside& aside_;
+    PartsAside::Place place_;
+    std::uint64_t done_ = 0;
+    zip_error_t error_{};
+};
+
+zip_int64_t AsideReader::read(char* to, zip_uint64_t count) {
+    count = std::min(count, place_.bytes - done_);
+    if (!aside_.read(place_.start + done_, to, count)) {
+        zip_error_set(&error_, ZIP_ER_READ, EIO);
+        return -1;
+    }
+    done_ += count;
+    return static_cast<zip_int64_t>(count);
+}
+
+zip_int64_t AsideReader::answer(void* self, void* data, zip_uint64_t length,
+                                zip_source_cmd_t command) {
+    auto* reader = static_cast<AsideReader*>(self);
+    switch (command) {
+        case ZIP_SOURCE_OPEN:
+            reader->done_ = 0;
+            return 0;
+        case ZIP_SOURCE_READ:
+            return reader->read(static_cast<char*>(data), length);
+        case ZIP_SOURCE_STAT: {
+            auto* stat = static_cast<zip_stat_t*>(data);
+            zip_stat_init(stat);
+            stat->size = reader->place_.bytes;
+            stat->valid |= ZIP_STAT_SIZE;
+            return sizeof(zip_stat_t);
+        }
+        case ZIP_SOURCE_ERROR:
+            return zip_error_to_data(&reader->error_, data, length);
+        case ZIP_SOURCE_SUPPORTS:
+            return ZIP_SOURCE_SUPPORTS_READABLE;
+        case ZIP_SOURCE_FREE:
+            delete reader;
+            return 0;
+        case ZIP_SOURCE_CLOSE:
+            return 0;
+        default:
+            zip_error_set(&reader->error_, ZIP_ER_OPNOTSUPP, 0);
+            return -1;
     }
 }
 
@@ -128,7 +192,18 @@ void ZipArchive::copy(ZipOutput& output) const {
                                        std::generic_category().message(output.error())));
 }
 
-void ZipArchive::write(ZipOutput& output, const std::vector<ZipChange>& changes) const {
+zip_source_t* ZipArchive::sourceOf(zip_t* archive, const ZipChange& change, PartsAside& aside) {
+    if (!change.aside)
+        return zip_source_buffer(archive, change.bytes->data(), change.bytes->size(), 0);
+    auto reader = std::make_unique<AsideReader>(aside, *change.aside);
+    zip_source_t* source = zip_source_function(archive, &AsideReader::answer, reader.get());
+    // It goes with the source.
+    if (source != nullptr) static_cast<void>(reader.release());
+    return source;
+}
+
+void ZipArchive::write(ZipOutput& output, const std::vector<ZipChange>& changes,
+                       PartsAside& aside) const {
     // libzip writes nothing at all if nothing has changed.
     if (changes.empty()) {
         copy(output);
@@ -140,12 +215,11 @@ void ZipArchive::write(ZipOutput& output, const std::vector<ZipChange>& changes)
         if (!isGood) throw errorOf(*zip_get_error(archive.get()), "it can't be written");
     };
     for (const ZipChange& change : changes) {
-        if (!change.bytes) {
+        if (!change.bytes && !change.aside) {
             check(zip_delete(archive.get(), *change.index) == 0);
             continue;
         }
-        zip_source_t* bytes =
-            zip_source_buffer(archive.get(), change.bytes->data(), change.bytes->size(), 0);
+        zip_source_t* bytes = sourceOf(archive.get(), change, aside);
         check(bytes != nullptr);
         zip_int64_t index = -1;
         if (!change.index) {

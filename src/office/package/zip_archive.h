@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "office/package/package.h"
+#include "office/package/parts_aside.h"
 #include "office/package/zip_source.h"
 
 namespace office::package {
@@ -25,9 +26,11 @@ struct ZipChange {
     std::optional<std::uint64_t> index;
     /// Of a new one.
     std::string name;
-    /// None takes the entry out. They have to outlive the writing.
+    /// Where neither these nor `aside` are given, the entry is taken out. They have to outlive the
+    /// writing.
     std::optional<std::string_view> bytes;
     Storage storage = Storage::Deflated;
+    std::optional<PartsAside::Place> aside = {};
 };
 
 /// A ZIP file, of which only the directory is read at once.
@@ -43,8 +46,9 @@ public:
     /// At most so many bytes from its beginning.
     [[nodiscard]] std::string read(std::uint64_t index, std::uint64_t most) const;
     /// Writes a new archive: the entries in their order, those that don't change as the same
-    /// compressed bytes, new ones last. `PackageError`.
-    void write(ZipOutput& output, const std::vector<ZipChange>& changes) const;
+    /// compressed bytes, new ones last. `aside` holds the bytes of those that are kept there.
+    /// `PackageError`.
+    void write(ZipOutput& output, const std::vector<ZipChange>& changes, PartsAside& aside) const;
 
 private:
     struct Discard {
@@ -53,6 +57,8 @@ private:
     using Handle = std::unique_ptr<zip_t, Discard>;
 
     [[nodiscard]] static Handle open(ZipSource& source);
+    [[nodiscard]] static zip_source_t* sourceOf(zip_t* archive, const ZipChange& change,
+                                                PartsAside& aside);
     void copy(ZipOutput& output) const;
 
     ZipInput& input_;

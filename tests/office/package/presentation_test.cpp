@@ -123,6 +123,23 @@ TEST_F(PresentationFile, KeepsTextsWhateverTheyHold) {
     }
 }
 
+TEST_F(PresentationFile, KeepsShapesThatAreHeldHoweverManySlidesFollow) {
+    const Object deck = open(support::emptyDeck());
+    addSlide(deck, 1, "first");
+    addSlide(deck, 2, "second");
+    const Object picture = addPicture(deck, 1);
+    deck.get("Slides").get("Item", 2).call("Delete");
+    Texts expected = {"first"};
+    for (int place = 2; place < 20; ++place) {
+        expected.push_back(std::to_string(place));
+        addSlide(deck, place, expected.back());
+    }
+    picture.put("Name", "held");
+    const Object again = open(saved(deck));
+    EXPECT_EQ(titlesOf(again), expected);
+    EXPECT_EQ(shapesOf(again, 1).get("Item", 2).get("Name").toText(), "held");
+}
+
 TEST_F(PresentationFile, DressesATitleAsTheLayoutShowsItWhereNoStyleSaysIt) {
     for (const bool hasStyle : {true, false}) {
         Package package = support::emptyDeck();

@@ -2,6 +2,8 @@
 #include <sys/resource.h>
 
 #include <csignal>
+#include <future>
+#include <stdexcept>
 
 #include "office/package/package.h"
 #include "office/package/zip_bytes.h"
@@ -138,21 +140,73 @@ TEST_F(RoundTrip, LeavesNothingWhenItFails) {
     EXPECT_EQ(folder_.read("there"), "kept");
 }
 
+/// Does something on a disk that takes no more than a few bytes of a file.
+template <class Statement>
+void onFullDisk(Statement statement) {
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit small{100, before.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &small);
+    statement();
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+}
+
 TEST_F(RoundTrip, SaysWhenTheDiskIsFull) {
     const std::string file = package();
     for (const bool isChanged : {false, true}) {
         Package opened = Package::fromBytes(file);
         if (isChanged) opened.add("/b.xml", "b", std::string(1 << 20, 'b'), Storage::Stored);
-        rlimit before{};
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit small{100, before.rlim_max};
-        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-        setrlimit(RLIMIT_FSIZE, &small);
-        EXPECT_THROW(opened.save(folder_.file("out")), PackageError);
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, handler);
+        onFullDisk([&] { EXPECT_THROW(opened.save(folder_.file("out")), PackageError); });
         EXPECT_EQ(folder_.names(), std::set<std::string>{});
     }
+}
+
+TEST_F(RoundTrip, KeepsLargePartsWhereverThereIsRoomForThem) {
+    const std::string file = package();
+    const auto picture = [](char of) { return std::string(1 << 17, of); };
+    for (const bool isFull : {false, true}) {
+        Package opened = Package::fromBytes(file);
+        const auto addAll = [&] {
+            opened.add("/b.xml", "b", picture('b'));
+            opened.add("/c.xml", "c", picture('c'));
+            opened.replace("/c.xml", "<c/>");
+            for (const char bytes : {'1', '2', '1'})
+                opened.addMedia("/m/image", ".png", "image/png", picture(bytes));
+            for (const char bytes : {'3', '4', '3'}) {
+                std::promise<std::string> drawn;
+                drawn.set_value(picture(bytes));
+                opened.addMedia("/m/image", ".png", "image/png", drawn.get_future().share(),
+                                {bytes});
+            }
+        };
+        if (isFull) {
+            onFullDisk(addAll);
+        } else {
+            addAll();
+        }
+        EXPECT_EQ(opened.read("/m/image3.png"), picture('3'));
+        EXPECT_EQ(opened.head("/b.xml", 3), "bbb");
+        EXPECT_EQ(opened.bytes(), opened.bytes());
+        const Package again = saved(opened);
+        for (const char number : {'1', '2', '3', '4'})
+            EXPECT_EQ(again.read(std::string("/m/image") + number + ".png"), picture(number));
+        EXPECT_FALSE(again.has("/m/image5.png"));
+        EXPECT_EQ(again.read("/b.xml"), picture('b'));
+        EXPECT_EQ(again.read("/c.xml"), "<c/>");
+    }
+}
+
+TEST_F(RoundTrip, TellsOfAPictureThatCouldNotBeDrawnWhenItIsWritten) {
+    const std::string file = package();
+    Package opened = Package::fromBytes(file);
+    for (const char* look : {"one", "two"}) {
+        std::promise<std::string> drawn;
+        drawn.set_exception(std::make_exception_ptr(std::runtime_error("not drawn")));
+        opened.addMedia("/m/image", ".png", "image/png", drawn.get_future().share(), look);
+    }
+    EXPECT_THROW(opened.save(folder_.file("out")), std::runtime_error);
 }
 
 TEST(Relationships, ReachTheirPartsHoweverTheyNameThem) {

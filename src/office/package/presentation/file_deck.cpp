@@ -150,7 +150,19 @@ model::Size FileDeck::slideSize() {
 
 model::DeckSlidePtr FileDeck::slideAt(std::int32_t place) {
     const auto index = static_cast<std::size_t>(place) - 1;
-    return index < slides_.size() ? slides_[index] : nullptr;
+    if (index >= slides_.size()) return nullptr;
+    noteUse(slides_[index]);
+    return slides_[index];
+}
+
+void FileDeck::noteUse(const FileSlidePtr& slide) {
+    constexpr std::size_t most = 8;
+    std::erase_if(inUse_, [&](const auto& one) { return one.lock() == slide; });
+    inUse_.push_back(slide);
+    if (inUse_.size() <= most) return;
+    const FileSlidePtr longest = inUse_.front().lock();
+    inUse_.pop_front();
+    if (longest) longest->rest();
 }
 
 /// The layout whose master's layouts new slides get: that of the last slide which has one.
@@ -182,6 +194,7 @@ model::DeckSlidePtr FileDeck::addSlide(std::int32_t place, std::int32_t layout) 
     slides_.insert(slides_.begin() + (place - 1), slide);
     slide->makePlaceholders(layout);
     if (neighbour) slide->takeFurnitureOf(*neighbour);
+    noteUse(slide);
     return slide;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <deque>
 #include <memory>
 #include <set>
 #include <string>
@@ -53,6 +54,8 @@ private:
     void unselect() override {}
 
     void readSlides();
+    /// Keeps the slides that were asked for last as they are, and lets the one before them rest.
+    void noteUse(const FileSlidePtr& slide);
     void listSlide(std::int32_t place, const std::string& relationshipId, const std::string& id);
     [[nodiscard]] std::string freeSlideId();
     [[nodiscard]] std::string neighbourLayout();
@@ -62,6 +65,7 @@ private:
     DeckLayouts layouts_;
     ChartParts charts_;
     std::vector<std::shared_ptr<FileSlide>> slides_;
+    std::deque<std::weak_ptr<FileSlide>> inUse_;
     /// All numbers of slides that are taken or were; empty until one is asked for.
     std::set<unsigned> slideIds_;
     std::int32_t viewType_ = 9;

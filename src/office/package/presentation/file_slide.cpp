@@ -304,4 +304,12 @@ void FileSlide::write() {
     isChanged_ = false;
 }
 
+void FileSlide::rest() {
+    const auto isHeld = [](const FileShapePtr& shape) { return shape.use_count() > 1; };
+    if (isGone_ || !xml_ || std::any_of(shapes_.begin(), shapes_.end(), isHeld)) return;
+    write();
+    shapes_.clear();
+    xml_.reset();
+}
+
 }  // namespace office::package

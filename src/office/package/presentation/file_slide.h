@@ -38,6 +38,9 @@ public:
     void markGone();
     /// Hands a changed slide to the package.
     void write();
+    /// The same, and lets go of what the slide has been read into, which is several times as large.
+    /// A slide one of whose shapes is held by somebody stays as it is.
+    void rest();
 
     [[nodiscard]] bool isGone() const override { return isGone_; }
     std::int32_t place() override;
