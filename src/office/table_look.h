@@ -39,6 +39,9 @@ struct CellLook {
     /// Line feeds between lines that were broken by hand.
     std::string text;
     std::string fontName;
+    /// What East Asian and complex scripts are written in, where that is a Western font.
+    std::string asianFontName;
+    std::string complexFontName;
     double fontSizePt = 11;
     std::int32_t fontColour = 0;
     bool isBold = false;

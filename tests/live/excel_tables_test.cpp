@@ -196,6 +196,14 @@ TEST_F(ExcelTables, HoldWholeCellsOfAnySheet) {
             << name;
 }
 
+TEST_F(ExcelTables, WriteAWesternFontsOtherScriptsAsTheSheetDoes) {
+    const TableLook scripts = tableOf("Scripts", "A1:A2");
+    EXPECT_EQ(scripts.at(0, 0).fontName, "Calibri");
+    EXPECT_FALSE(scripts.at(0, 0).asianFontName.empty());
+    EXPECT_EQ(scripts.at(1, 0).fontName, "Yu Gothic");
+    EXPECT_EQ(scripts.at(1, 0).asianFontName, "") << "a stand-in of the suite's";
+}
+
 TEST_F(ExcelTables, CostNoMoreCallsForMoreCells) {
     const auto callsFor = [&](const char* address) {
         return callsOf([&] { EXPECT_EQ(tableOf("Grid", address).cells.back().text.size(), 4U); });

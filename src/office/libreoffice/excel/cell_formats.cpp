@@ -61,6 +61,7 @@ public:
         CellFormat format;
         CellLook& look = format.look;
         look.fontName = fromUno(value<rtl::OUString>("CharFontName"));
+        takeOtherFonts(look);
         look.fontSizePt = value<float>("CharHeight");
         look.fontColour = swapRedAndBlue(std::max(value<std::int32_t>("CharColor"), 0));
         look.isBold = value<float>("CharWeight") > css::awt::FontWeight::NORMAL;
@@ -90,12 +91,23 @@ public:
     }
 
 private:
+    /// LibreOffice has other fonts for what it finds no characters for. Of a font that it doesn't
+    /// have it only sees the stand-in, which may lack one of both: there the workbook's holds.
+    void takeOtherFonts(CellLook& look) const {
+        const auto asian = fromUno(value<rtl::OUString>("CharFontNameAsian"));
+        const auto complex = fromUno(value<rtl::OUString>("CharFontNameComplex"));
+        if (asian == look.fontName || complex == look.fontName) return;
+        look.asianFontName = asian;
+        look.complexFontName = complex;
+    }
     static const std::vector<std::string_view>& sortedNames() {
         static const std::vector<std::string_view> names = {
-            "BottomBorder2", "CellBackColor", "CharColor",     "CharFontName", "CharHeight",
-            "CharPosture",   "CharStrikeout", "CharUnderline", "CharWeight",   "HoriJustify",
-            "IsTextWrapped", "LeftBorder2",   "NumberFormat",  "Orientation",  "ParaIndent",
-            "RightBorder2",  "RotateAngle",   "ShrinkToFit",   "TopBorder2",   "VertJustify"};
+            "BottomBorder2",     "CellBackColor",       "CharColor",    "CharFontName",
+            "CharFontNameAsian", "CharFontNameComplex", "CharHeight",   "CharPosture",
+            "CharStrikeout",     "CharUnderline",       "CharWeight",   "HoriJustify",
+            "IsTextWrapped",     "LeftBorder2",         "NumberFormat", "Orientation",
+            "ParaIndent",        "RightBorder2",        "RotateAngle",  "ShrinkToFit",
+            "TopBorder2",        "VertJustify"};
         return names;
     }
     static const uno::Sequence<rtl::OUString>& names() {

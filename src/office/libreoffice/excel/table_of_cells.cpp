@@ -96,6 +96,13 @@ std::vector<double> lengthsOf(const uno::Reference<css::container::XIndexAccess>
     return lengths;
 }
 
+void takeFonts(CellLook& look, const CellLook& own) {
+    look.fontName = own.fontName;
+    look.asianFontName = own.asianFontName;
+    look.complexFontName = own.complexFontName;
+    look.fontSizePt = own.fontSizePt;
+}
+
 /// Fills a table from what the suite says of its cells.
 class TableMaker {
 public:
@@ -111,8 +118,7 @@ public:
             const CellLook& own = formats.formats[format].look;
             CellLook look;
             // A cell that holds nothing is as high as its characters would be.
-            look.fontName = own.fontName;
-            look.fontSizePt = own.fontSizePt;
+            takeFonts(look, own);
             look.fill = own.fill;
             cells_.push_back(look);
         }
@@ -231,8 +237,7 @@ private:
 
     [[nodiscard]] CellLook dressed(CellLook look, std::size_t row, std::size_t column) const {
         const CellLook& own = format(row, column);
-        look.fontName = own.fontName;
-        look.fontSizePt = own.fontSizePt;
+        takeFonts(look, own);
         look.indentPt = own.indentPt;
         look.wraps = own.wraps;
         look.rotation = own.rotation;

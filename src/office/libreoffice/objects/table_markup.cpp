@@ -283,14 +283,19 @@ std::string TableDocument::paragraphStyle(const CellLook& cell) {
         {"fo:margin-right", "0pt"},
         {"fo:margin-top", "0pt"},
         {"fo:margin-bottom", "0pt"},
-        {"fo:line-height", "100%"}};
+        {"fo:line-height", "100%"},
+        // A sheet puts no space between a number and the ideograph behind it.
+        {"style:text-autospace", "none"}};
     Attributes letters;
-    for (const char* script : {"", "-asian", "-complex"}) {
+    for (const auto& [script, ownFont] : {std::pair("", &cell.fontName),
+                                          {"-asian", &cell.asianFontName},
+                                          {"-complex", &cell.complexFontName}}) {
         const char* space = *script == '\0' ? "fo" : "style";
         const auto set = [&](const char* name, const std::string& value) {
             letters.emplace_back(fmt::format("{}:{}{}", space, name, script), value);
         };
-        if (!cell.fontName.empty()) set("font-family", fmt::format("'{}'", cell.fontName));
+        const std::string& font = ownFont->empty() ? cell.fontName : *ownFont;
+        if (!font.empty()) set("font-family", fmt::format("'{}'", font));
         set("font-size", points(cell.fontSizePt * scale_));
         set("font-weight", cell.isBold ? "bold" : "normal");
         if (!italicIsApart()) set("font-style", cell.isItalic ? "italic" : "normal");

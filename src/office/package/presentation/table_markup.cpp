@@ -192,10 +192,16 @@ private:
         properties.append_attribute("strike").set_value(cell.isStruckOut ? "sngStrike"
                                                                          : "noStrike");
         writeColour(properties, cell.fontColour);
-        for (const char* script : {"a:latin", "a:ea", "a:cs"})
+        const auto setFont = [&](const char* script) {
             properties.append_child(script)
                 .append_attribute("typeface")
                 .set_value(legible(cell.fontName).c_str());
+        };
+        setFont("a:latin");
+        // What a Western font has no characters for is left to the theme's.
+        if (!cell.asianFontName.empty()) return;
+        setFont("a:ea");
+        setFont("a:cs");
     }
 
     static void writeColour(pugi::xml_node holder, std::int32_t colour) {
