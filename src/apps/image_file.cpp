@@ -13,8 +13,7 @@ namespace {
 using session::ImageFormat;
 
 [[noreturn]] void fail(const std::string& why) {
-    throw office::Failure(office::FailureNumber::ApplicationDefined, "Host.writeImage",
-                          "The picture can't be converted: " + why);
+    office::refuse("Host.writeImage", "The picture can't be converted: " + why);
 }
 
 /// Once in a process. The signals stay with the program.

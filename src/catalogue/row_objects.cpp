@@ -99,9 +99,7 @@ office::Object rangeOf(session::OfficeSession& session, const ExportItem& row) {
 
 office::Object requiredRange(session::OfficeSession& session, const ExportItem& row) {
     office::Object range = rangeOf(session, row);
-    if (!range)
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "Range",
-                              rangeNotFound(row));
+    if (!range) office::refuse("Range", rangeNotFound(row));
     return range;
 }
 

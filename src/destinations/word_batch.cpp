@@ -113,8 +113,7 @@ void WordBatch::copy(const ExportItem& row) {
     if (takesFiles()) {
         file_ = catalogue::TemporaryPictureOf(session_, row);
         if (!catalogue::ExportRowPicture(session_, row, file_))
-            throw office::Failure(office::FailureNumber::ApplicationDefined, "Range",
-                                  catalogue::rangeNotFound(row));
+            office::refuse("Range", catalogue::rangeNotFound(row));
     } else if (format_ == ExportFormat::Pictures) {
         catalogue::CopyRowAsPicture(session_, row);
     } else {

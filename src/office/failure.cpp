@@ -15,4 +15,12 @@ Failure::Failure(std::int32_t number, std::string source, const std::string& des
 SuiteLost::SuiteLost(const std::string& description)
     : Failure(FailureNumber::Disconnected, "Application", description) {}
 
+void refuse(const std::string& source, const std::string& why) {
+    throw Failure(FailureNumber::ApplicationDefined, source, why);
+}
+
+void refuseCall(const std::string& source, const std::string& why) {
+    throw Failure(FailureNumber::InvalidProcedureCall, source, why);
+}
+
 }  // namespace office

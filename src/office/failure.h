@@ -53,4 +53,10 @@ public:
     explicit SuiteLost(const std::string& description);
 };
 
+/// Something that the application refuses: `Failure` 1004.
+[[noreturn]] void refuse(const std::string& source, const std::string& why);
+
+/// A call that can't be carried out as it is made: `Failure` 5.
+[[noreturn]] void refuseCall(const std::string& source, const std::string& why);
+
 }  // namespace office

@@ -23,8 +23,7 @@ constexpr double mmPerInch = 25.4;
 constexpr double pixelsPerInch = 96;
 
 [[noreturn]] void fail(const std::string& what, std::string_view why) {
-    throw Failure(FailureNumber::ApplicationDefined, "AddPicture",
-                  fmt::format("{} can't be used as a picture: {}", what, why));
+    refuse("AddPicture", fmt::format("{} can't be used as a picture: {}", what, why));
 }
 
 std::uint32_t numberAt(std::string_view bytes, std::size_t at) {

@@ -166,8 +166,7 @@ void DrawingRoom::write(const std::string& path, const std::string& png, const b
     if (file) return;
     std::error_code ignored;
     std::filesystem::remove(path, ignored);
-    throw Failure(FailureNumber::ApplicationDefined, "Chart.Export",
-                  fmt::format("The picture could not be written to \"{}\"", path));
+    refuse("Chart.Export", fmt::format("The picture could not be written to \"{}\"", path));
 }
 
 void DrawingRoom::work() {

@@ -5,8 +5,7 @@
 namespace office::drawing {
 
 void failToDraw(const std::string& reason) {
-    throw Failure(FailureNumber::ApplicationDefined, "Picture",
-                  "The picture could not be drawn: " + reason);
+    refuse("Picture", "The picture could not be drawn: " + reason);
 }
 
 }  // namespace office::drawing

@@ -65,8 +65,7 @@ uno::Reference<css::frame::XModel> modelOf(uno::Reference<uno::XInterface> compo
 }
 
 [[noreturn]] void failToOpen(const rtl::OUString& url, const std::string& why) {
-    throw office::Failure(office::FailureNumber::ApplicationDefined, "Open",
-                          fmt::format("\"{}\" could not be opened: {}", pathOfUrl(url), why));
+    office::refuse("Open", fmt::format("\"{}\" could not be opened: {}", pathOfUrl(url), why));
 }
 
 }  // namespace

@@ -100,8 +100,7 @@ office::Object LibreOfficeSuite::attach(std::string_view className) {
 office::Object LibreOfficeSuite::start(std::string_view className) {
     // All applications of LibreOffice run as soon as one does.
     if (auto application = attach(className); !application.isNothing()) return application;
-    throw office::Failure(office::FailureNumber::ApplicationDefined, "Suite.start",
-                          fmt::format("\"{}\" can't be started here", className));
+    office::refuse("Suite.start", fmt::format("\"{}\" can't be started here", className));
 }
 
 void LibreOfficeSuite::clearClipboard() {

@@ -75,8 +75,7 @@ Process launch(const Profile& profile, const std::string& pipeName) {
 }
 
 [[noreturn]] void failToStart(const std::string& why) {
-    throw office::Failure(office::FailureNumber::ApplicationDefined, "LibreOffice",
-                          "LibreOffice could not be started: " + why);
+    office::refuse("LibreOffice", "LibreOffice could not be started: " + why);
 }
 
 }  // namespace

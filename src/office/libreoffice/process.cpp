@@ -68,8 +68,7 @@ Process Process::start(const std::vector<std::string>& command, bool endsWithUs,
     const pid_t parent = getpid();
     const pid_t child = fork();
     if (child < 0) {
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "Process.start",
-                              "The system could not start another process");
+        office::refuse("Process.start", "The system could not start another process");
     }
     if (child == 0) becomeCommand(arguments.data(), environment.data(), endsWithUs, parent);
     return Process(child);

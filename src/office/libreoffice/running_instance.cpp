@@ -79,9 +79,8 @@ std::shared_ptr<Connection> connectToRunning() {
         }
         std::this_thread::sleep_for(pipePollInterval);
     }
-    throw office::Failure(
-        office::FailureNumber::ApplicationDefined, "LibreOffice",
-        "LibreOffice is running but does not answer. A dialog may be open in it.");
+    office::refuse("LibreOffice",
+                   "LibreOffice is running but does not answer. A dialog may be open in it.");
 }
 
 }  // namespace libreoffice

@@ -1,5 +1,7 @@
 #include "office/model/model_object.h"
 
+#include <fmt/format.h>
+
 #include <functional>
 
 namespace office::model {
@@ -25,6 +27,13 @@ Value GuardedObject::run(const MemberUse& use) {
         return {};
     };
     return guard_->run(use, std::cref(statement));
+}
+
+double numberWithin(double low, double high, const Value& value, const std::string& source) {
+    const double number = value.toDouble();
+    if (!(number >= low && number <= high))
+        refuseCall(source, fmt::format("{}: the value {} is out of range", source, number));
+    return number;
 }
 
 }  // namespace office::model

@@ -85,6 +85,10 @@ template <class Class>
     return std::dynamic_pointer_cast<Class>(value.toObject().target());
 }
 
+/// The number that a setting gets. `Failure` 5 if it lies outside.
+[[nodiscard]] double numberWithin(double low, double high, const Value& value,
+                                  const std::string& source);
+
 /// The three-valued flags of the object models, of which only two occur: -1 and 0.
 [[nodiscard]] inline Value triState(bool on) {
     return on ? -1 : 0;

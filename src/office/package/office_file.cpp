@@ -58,9 +58,9 @@ void becomeFileOf(const std::string& path, const FileKind (&kinds)[2], Package& 
         return lower.ends_with(one.ending);
     });
     if (kind == std::end(kinds))
-        throw Failure(FailureNumber::InvalidProcedureCall, className + ".SaveCopyAs",
-                      fmt::format("A {} is saved as {} or {}, not as {}", lowerCase(className),
-                                  kinds[0].ending, kinds[1].ending, path));
+        refuseCall(className + ".SaveCopyAs",
+                   fmt::format("A {} is saved as {} or {}, not as {}", lowerCase(className),
+                               kinds[0].ending, kinds[1].ending, path));
     package.setContentType(main, kind->contentType);
     if (!kind->keepsMacros) dropMacros(package, main);
 }

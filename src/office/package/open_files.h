@@ -24,8 +24,7 @@ public:
         try {
             return statement();
         } catch (const PackageError& error) {
-            throw Failure(FailureNumber::ApplicationDefined,
-                          fmt::format("{}.{}", use.className, use.member), error.what());
+            refuse(fmt::format("{}.{}", use.className, use.member), error.what());
         }
     }
 };

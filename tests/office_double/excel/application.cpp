@@ -63,8 +63,7 @@ excel::BookPtr ExcelApplication::active() {
 excel::BookPtr ExcelApplication::load(const std::string& file, const std::string&, bool readOnly) {
     const std::filesystem::path path = file;
     const auto known = files_.find(file);
-    if (known == files_.end())
-        office::model::refuse("Workbooks.Open", "There is no workbook " + file);
+    if (known == files_.end()) office::refuse("Workbooks.Open", "There is no workbook " + file);
     Workbook& book = addWorkbook(path.filename().string(), path.parent_path().string());
     known->second(book);
     if (readOnly) book.readOnly();

@@ -159,7 +159,7 @@ void PlacedChart::writePicture(const std::string& path, office::PictureKind kind
 }
 
 void PlacedChart::paste(const office::CopiedPtr&) {
-    office::model::refuse("Chart.Paste", "This chart has data of its own");
+    office::refuse("Chart.Paste", "This chart has data of its own");
 }
 
 void PlacedChart::select() {

@@ -97,7 +97,7 @@ void CalcBooks::writePicture(const office::CopiedPtr& picture, const model::Box&
         pictureMaker(*desk_).writeMetafile(
             {}, {hundredthMmOf(area.width), hundredthMmOf(area.height)}, path, kind);
     } else {
-        office::model::refuse("Chart.Export", "The chart holds something else than a picture");
+        office::refuse("Chart.Export", "The chart holds something else than a picture");
     }
 }
 

@@ -46,8 +46,7 @@ office::CopiedPtr CellRange::copy(office::CopySource source) {
     constexpr std::int32_t thinnest = 3;
     const css::awt::Size size = placeOf(range()).size;
     if (size.Width <= thinnest || size.Height <= thinnest)
-        office::model::refuse("Range.Copy",
-                              "There is nothing to copy: these rows or columns are hidden");
+        office::refuse("Range.Copy", "There is nothing to copy: these rows or columns are hidden");
     if (source.kind == office::CopySource::Kind::Cells)
         return std::make_shared<CopiedCells>(sheet_, std::move(source), range(), block_, size);
     return std::make_shared<CopiedPicture>(sheet_->book().desk(), std::move(source),

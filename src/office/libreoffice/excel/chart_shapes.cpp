@@ -93,7 +93,7 @@ void ChartShape::writePicture(const std::string& path, office::PictureKind kind)
 }
 
 void ChartShape::paste(const office::CopiedPtr&) {
-    office::model::refuse("Chart.Paste", "This chart has data of its own");
+    office::refuse("Chart.Paste", "This chart has data of its own");
 }
 
 void ChartShape::select() {

@@ -19,8 +19,7 @@ constexpr auto beginOfPng = "\x89PNG\r\n\x1a\n"sv;
 constexpr auto endOfPng = "\0\0\0\0IEND\xae\x42\x60\x82"sv;
 
 [[noreturn]] void failToWrite(const std::string& path) {
-    throw office::Failure(office::FailureNumber::ApplicationDefined, "Chart.Export",
-                          fmt::format("The picture could not be written to \"{}\"", path));
+    office::refuse("Chart.Export", fmt::format("The picture could not be written to \"{}\"", path));
 }
 
 /// Leaves no half of a picture.

@@ -48,8 +48,7 @@ uno::Sequence<sal_Int8> takePictureOfCells(SheetRecord& sheet,
         metafile = selected.copyAs(metafileType);
     }
     if (!metafile.hasElements() || size.Width <= 0 || size.Height <= 0) {
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "Range.CopyPicture",
-                              "There is nothing to take a picture of");
+        office::refuse("Range.CopyPicture", "There is nothing to take a picture of");
     }
     return metafile;
 }

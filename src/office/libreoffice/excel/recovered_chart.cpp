@@ -21,9 +21,8 @@ namespace libreoffice::excel {
 namespace {
 
 [[noreturn]] void fail(const SheetRecord& sheet, std::string_view why) {
-    throw office::Failure(office::FailureNumber::ApplicationDefined, "Chart",
-                          fmt::format("The chart of the chart sheet \"{}\" could not be read: {}",
-                                      sheet.knownName(), why));
+    office::refuse("Chart", fmt::format("The chart of the chart sheet \"{}\" could not be read: {}",
+                                        sheet.knownName(), why));
 }
 
 /// Moves what begins left of or above the page to its edge. False if nothing does.

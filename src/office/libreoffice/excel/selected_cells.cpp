@@ -9,13 +9,9 @@ namespace libreoffice::excel {
 
 namespace {
 
-[[noreturn]] void failToCopy(const char* why) {
-    throw office::Failure(office::FailureNumber::ApplicationDefined, "Range.Copy", why);
-}
-
 uno::Reference<css::frame::XController> windowOf(const CalcDocument& book) {
     auto window = book.controller();
-    if (!window.is()) failToCopy("The workbook has no window to copy from");
+    if (!window.is()) office::refuse("Range.Copy", "The workbook has no window to copy from");
     return window;
 }
 
@@ -51,7 +47,7 @@ SelectedCells::~SelectedCells() {
 /// cost more than the copy.
 uno::Sequence<sal_Int8> SelectedCells::copyAs(const char* mimeType) const {
     const auto copy = as<css::datatransfer::XTransferableSupplier>(window_)->getTransferable();
-    if (!copy.is()) failToCopy("These cells can't be copied");
+    if (!copy.is()) office::refuse("Range.Copy", "These cells can't be copied");
     const css::datatransfer::DataFlavor flavour(rtl::OUString::createFromAscii(mimeType), "",
                                                 cppu::UnoType<uno::Sequence<sal_Int8>>::get());
     uno::Sequence<sal_Int8> bytes;

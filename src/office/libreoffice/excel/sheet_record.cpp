@@ -137,7 +137,7 @@ bool SheetRecord::isProtected() {
 
 void SheetRecord::activate() {
     const auto view = book_.view();
-    if (!view.is()) office::model::refuse("Sheet.Activate", "The workbook has no window");
+    if (!view.is()) office::refuse("Sheet.Activate", "The workbook has no window");
     view->setActiveSheet(sheet_);
 }
 

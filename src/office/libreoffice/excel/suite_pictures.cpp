@@ -101,9 +101,7 @@ ChartLook lookOf(const uno::Reference<css::drawing::XShape>& chart) {
         as<css::beans::XMultiPropertySet>(chart)->getPropertyValues(namesOf({"Graphic", "Model"}));
     ChartLook look;
     shown[0] >>= look.graphic;
-    if (!look.graphic.is())
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "Chart",
-                              "LibreOffice shows nothing of the chart");
+    if (!look.graphic.is()) office::refuse("Chart", "LibreOffice shows nothing of the chart");
     shown[1] >>= look.model;
     return look;
 }

@@ -30,10 +30,6 @@ using office::CellLine;
 using office::CellLook;
 using office::TableLook;
 
-[[noreturn]] void refuseTable(const char* why) {
-    throw office::Failure(office::FailureNumber::ApplicationDefined, "Range.Copy", why);
-}
-
 /// The block and the rest of the merged cells that it holds a part of.
 uno::Reference<css::table::XCellRange> wholeCells(const SheetRecord& sheet,
                                                   const model::CellBlock& block) {
@@ -65,8 +61,8 @@ std::optional<ShownLines> shownLinesUpTo(const uno::Reference<css::table::XCellR
 ShownLines shownLinesOf(const uno::Reference<css::table::XCellRange>& cells,
                         std::size_t mostCells) {
     auto shown = shownLinesUpTo(cells, mostCells);
-    if (!shown) refuseTable("These are too many cells for a table");
-    if (shown->columns.empty()) refuseTable("There is nothing to make a table of");
+    if (!shown) office::refuse("Range.Copy", "These are too many cells for a table");
+    if (shown->columns.empty()) office::refuse("Range.Copy", "There is nothing to make a table of");
     return *std::move(shown);
 }
 

@@ -5,9 +5,9 @@
 #include <com/sun/star/document/XStorageBasedDocument.hpp>
 #include <fmt/format.h>
 
+#include "office/failure.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/objects/sheet_copy.h"
-#include "office/model/refusal.h"
 
 namespace libreoffice::objects {
 
@@ -58,7 +58,7 @@ css::awt::Rectangle areaOf(const excel::CopiedHere& copied) {
 const excel::CopiedHere& copiedHere(const office::Copied& copied, const char* member) {
     const auto* here = dynamic_cast<const excel::CopiedHere*>(&copied);
     if (here == nullptr || copied.source().kind == office::CopySource::Kind::Picture)
-        office::model::refuse(member, "It can't be pasted in this form");
+        office::refuse(member, "It can't be pasted in this form");
     return *here;
 }
 

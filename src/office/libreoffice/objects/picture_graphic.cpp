@@ -65,8 +65,7 @@ FilePicture pictureOfFile(const Connection& connection, const std::string& file)
                                  : connection.graphics()->queryGraphic(
                                        propertyValues({{"URL", uno::Any(fileUrl(file))}}));
     if (!graphic.is())
-        throw office::Failure(office::FailureNumber::ApplicationDefined, member,
-                              fmt::format("\"{}\" holds no picture that LibreOffice reads", file));
+        office::refuse(member, fmt::format("\"{}\" holds no picture that LibreOffice reads", file));
     if (!vectors) return {graphic, naturalSize(graphic)};
     return {graphic, {hundredthMmOf(vectors->widthPt), hundredthMmOf(vectors->heightPt)}};
 }

@@ -21,9 +21,6 @@ namespace libreoffice::powerpoint {
 
 namespace {
 
-using office::Failure;
-using office::FailureNumber;
-
 std::int32_t inProportion(std::int32_t length, std::int32_t before, std::int32_t after) {
     return static_cast<std::int32_t>(std::lround(static_cast<double>(length) * after / before));
 }
@@ -95,8 +92,7 @@ void ImpressDeck::removeSlide(ImpressSlide& slide) {
     static_cast<void>(slide.place());
     // LibreOffice keeps the last slide without a word.
     if (pages_->getCount() == 1)
-        throw Failure(FailureNumber::ApplicationDefined, "Slide.Delete",
-                      "LibreOffice keeps the last slide of a presentation");
+        office::refuse("Slide.Delete", "LibreOffice keeps the last slide of a presentation");
     pages_->remove(slide.page());
     slide.markGone();
     std::erase_if(slides_, [&](const auto& known) { return known.get() == &slide; });
@@ -113,8 +109,7 @@ bool ImpressDeck::isReadOnly() {
 
 void ImpressDeck::requireWritable(const char* member) {
     if (isReadOnly())
-        throw Failure(FailureNumber::ApplicationDefined, member,
-                      fmt::format("\"{}\" is opened for reading only", name()));
+        office::refuse(member, fmt::format("\"{}\" is opened for reading only", name()));
 }
 
 model::Size ImpressDeck::slideSize() {
@@ -180,8 +175,7 @@ ImpressSlidePtr ImpressDeck::insertPage(std::int32_t place) {
     auto added = held(pages_->insertNewByIndex(atFront ? 0 : place - 2));
     if (atFront && !window_.moveToFront(added)) {
         removeSlide(*added);
-        throw Failure(FailureNumber::ApplicationDefined, "Slides.Add",
-                      "LibreOffice did not move the new slide to the front");
+        office::refuse("Slides.Add", "LibreOffice did not move the new slide to the front");
     }
     return added;
 }

@@ -67,9 +67,7 @@ std::string mainView(const Connection& connection,
 
 const uno::Reference<css::frame::XController>& ImpressWindow::controller() {
     auto current = deck_.controller();
-    if (!current.is())
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "DocumentWindow",
-                              "The presentation has no window");
+    if (!current.is()) office::refuse("DocumentWindow", "The presentation has no window");
     if (current.get() != controller_.get()) {
         controller_ = std::move(current);
         view_ = as<css::drawing::XDrawView>(controller_);
@@ -167,9 +165,7 @@ void ImpressWindow::changeView(std::int32_t number) {
         std::find_if(viewKinds.begin(), viewKinds.end(),
                      [&](const ViewKind& candidate) { return candidate.viewType == wanted; });
     if (kind == viewKinds.end())
-        throw office::Failure(office::FailureNumber::InvalidProcedureCall,
-                              "DocumentWindow.ViewType",
-                              fmt::format("There is no view {}", wanted));
+        office::refuseCall("DocumentWindow.ViewType", fmt::format("There is no view {}", wanted));
     if (viewType() == wanted) return;
     commands().run(kind->command);
     // With a window on a screen the view follows a moment after the command.
@@ -177,8 +173,7 @@ void ImpressWindow::changeView(std::int32_t number) {
     const auto deadline = steady_clock::now() + std::chrono::seconds(2);
     while (viewType() != wanted) {
         if (steady_clock::now() > deadline)
-            throw office::Failure(office::FailureNumber::ApplicationDefined,
-                                  "DocumentWindow.ViewType", "The window keeps its view");
+            office::refuse("DocumentWindow.ViewType", "The window keeps its view");
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
     // A fresh outline goes back to the slide of the view before it a moment later, and would undo

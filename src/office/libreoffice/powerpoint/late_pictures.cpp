@@ -18,9 +18,7 @@ void show(const Connection& connection, const uno::Reference<css::beans::XProper
           const std::string& png) {
     translated(connection, source, [&] {
         const auto graphic = graphicOf(connection, png);
-        if (!graphic.is())
-            throw office::Failure(office::FailureNumber::ApplicationDefined, source,
-                                  "LibreOffice could not read the picture");
+        if (!graphic.is()) office::refuse(source, "LibreOffice could not read the picture");
         shape->setPropertyValue("Graphic", uno::Any(graphic));
     });
 }
@@ -67,7 +65,7 @@ void LatePictures::settle() {
     } catch (const office::SuiteLost&) {
         throw;
     } catch (const std::exception& error) {
-        throw office::Failure(office::FailureNumber::ApplicationDefined, source, error.what());
+        office::refuse(source, error.what());
     }
 }
 

@@ -4,13 +4,13 @@
 
 #include <algorithm>
 
+#include "office/failure.h"
 #include "office/libreoffice/at_end.h"
 #include "office/libreoffice/excel/copied.h"
 #include "office/libreoffice/objects/copied_object.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/units.h"
 #include "office/model/powerpoint/paste.h"
-#include "office/model/refusal.h"
 
 namespace libreoffice::powerpoint {
 
@@ -61,7 +61,7 @@ ShapeRef addWorkbook(ImpressSlide& slide, const excel::CopiedHere& copied,
 /// An object bound to the workbook's file, with the copied thing's picture.
 ShapeRef addLink(ImpressSlide& slide, const excel::CopiedHere& copied, const css::awt::Size& size) {
     if (copied.source().file.empty())
-        office::model::refuse(pasteSpecial, "The workbook has to be saved before it can be linked");
+        office::refuse(pasteSpecial, "The workbook has to be saved before it can be linked");
     const uno::Any picture(copied.graphic());
     NewShape made(slide);
     // An object without a picture is drawn from the file. The window that draws it loads the file
@@ -104,7 +104,7 @@ model::DeckShapePtr ImpressSlide::paste(const office::Copied& copied, PasteAs as
     if (const auto* chart = dynamic_cast<const excel::CopiedChart*>(&copied))
         return pasted(addChart(*this, *chart, size), "Chart", place.corner);
     if (copied.source().kind != CopySource::Kind::Cells)
-        office::model::refuse(pasteSpecial, "It can't be pasted in this form");
+        office::refuse(pasteSpecial, "It can't be pasted in this form");
     const office::TableLook table = copied.table();
     double scale = place.scale;
     // LibreOffice doesn't scale the text with the table later.

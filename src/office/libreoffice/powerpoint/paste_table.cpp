@@ -88,8 +88,7 @@ ShapeRef addTable(ImpressSlide& slide, const office::TableLook& table, double sc
         deck.impressWindow().pasteOnto(slide, drawingFormat);
     }
     if (slide.page()->getCount() != before + 1)
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "Shapes.PasteSpecial",
-                              "LibreOffice did not take the table");
+        office::refuse("Shapes.PasteSpecial", "LibreOffice did not take the table");
     return {slide.page()->getByIndex(before), uno::UNO_QUERY_THROW};
 }
 

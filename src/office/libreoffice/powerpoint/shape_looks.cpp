@@ -177,8 +177,8 @@ void ImpressShape::setOutline(model::Outline wanted) {
     } else if (isPicture()) {
         replacePicture(wanted);
     } else {
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "Shape.AutoShapeType",
-                              "LibreOffice gives an outline to pictures and drawn shapes only");
+        office::refuse("Shape.AutoShapeType",
+                       "LibreOffice gives an outline to pictures and drawn shapes only");
     }
 }
 

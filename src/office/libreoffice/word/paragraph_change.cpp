@@ -60,8 +60,8 @@ rtl::OUString nameOfStyle(std::int32_t number) {
     const auto* const known = std::find_if(styles.begin(), styles.end(),
                                            [&](const auto& each) { return each.first == number; });
     if (known == styles.end())
-        throw office::Failure(office::FailureNumber::InvalidProcedureCall, "ParagraphFormat.Style",
-                              fmt::format("There is no style {} here", number));
+        office::refuseCall("ParagraphFormat.Style",
+                           fmt::format("There is no style {} here", number));
     return rtl::OUString::createFromAscii(known->second);
 }
 

@@ -21,15 +21,9 @@ namespace libreoffice::word {
 namespace {
 
 using office::CopySource;
-using office::Failure;
-using office::FailureNumber;
 using office::PasteAs;
 
 constexpr const char* member = "Selection.PasteSpecial";
-
-[[noreturn]] void fail(const char* why) {
-    throw Failure(FailureNumber::ApplicationDefined, member, why);
-}
 
 /// In vectors, so that its text is text in a PDF, unless dots are all there is.
 uno::Reference<css::graphic::XGraphic> pictureOf(const office::Copied& copied,
@@ -37,8 +31,9 @@ uno::Reference<css::graphic::XGraphic> pictureOf(const office::Copied& copied,
     uno::Reference<css::graphic::XGraphic> picture;
     const auto* here = dynamic_cast<const excel::CopiedHere*>(&copied);
     if (here != nullptr) picture = here->graphic();
-    if (!picture.is()) picture = graphicOf(connection, copied.png());
-    if (!picture.is()) fail("LibreOffice could not read the picture");
+    if (!picture.is())
+        picture = graphicOf(connection, copied.picture(office::Sharpness::Crisp).png.get());
+    if (!picture.is()) office::refuse(member, "LibreOffice could not read the picture");
     return picture;
 }
 
@@ -151,7 +146,8 @@ void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anch
     const auto place = writablePlace(member);
     const bool isPicture = copied.source().kind == CopySource::Kind::Picture;
     if (as == PasteAs::Linked) {
-        fail(
+        office::refuse(
+            member,
             "LibreOffice can't link a text document to a workbook. Paste a picture or an embedded "
             "workbook instead, or use murvane-export.");
     }

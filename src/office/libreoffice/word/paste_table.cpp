@@ -79,8 +79,7 @@ void WriterDocument::insertTable(const CursorRef& place, const office::TableLook
         "private:stream", propertyValues({{"InputStream", uno::Any(package->getInputStream())},
                                           {"FilterName", uno::Any(rtl::OUString("writer8"))}}));
     if (tableCount() != before + 1)
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "Selection.PasteSpecial",
-                              "LibreOffice takes no table here");
+        office::refuse("Selection.PasteSpecial", "LibreOffice takes no table here");
     removeSelected(place);
     removeEmptyParagraphAhead(inserted);
 }

@@ -12,13 +12,7 @@
 
 namespace libreoffice::word {
 
-namespace {
-
-[[noreturn]] void refuse(const std::string& source, const char* why) {
-    throw office::Failure(office::FailureNumber::ApplicationDefined, source, why);
-}
-
-}  // namespace
+using office::refuse;
 
 WriterCaret::WriterCaret(uno::Reference<css::frame::XModel> document)
     : document_(std::move(document)) {}

@@ -27,8 +27,6 @@ namespace {
 
 using css::text::ControlCharacter::APPEND_PARAGRAPH;
 using css::text::ControlCharacter::PARAGRAPH_BREAK;
-using office::Failure;
-using office::FailureNumber;
 
 /// The heights of header and footer, which LibreOffice takes from the room between the margins.
 struct Bands {
@@ -85,8 +83,7 @@ void WriterDocument::stayUnseen() {
 void WriterDocument::requireWritable(const uno::Reference<css::beans::XMultiPropertySet>& place,
                                      const std::string& member) {
     if (file_->isReadonly())
-        throw Failure(FailureNumber::ApplicationDefined, member,
-                      fmt::format("\"{}\" is opened for reading only", name()));
+        office::refuse(member, fmt::format("\"{}\" is opened for reading only", name()));
     word::requireWritable(place, member);
 }
 
@@ -159,8 +156,7 @@ void WriterDocument::typeBackspace() {
     const auto ends = as<css::text::XParagraphCursor>(place);
     if (!place->isCollapsed() || !ends->isStartOfParagraph() || !ends->isEndOfParagraph() ||
         !place->goLeft(1, true))
-        throw Failure(FailureNumber::ApplicationDefined, member,
-                      "An empty paragraph alone can be taken out here");
+        office::refuse(member, "An empty paragraph alone can be taken out here");
     const UndoGroup group(steps_, "Typing");
     place->setString(rtl::OUString());
 }

@@ -79,8 +79,7 @@ void WriterObject::setShadow(const model::ObjectShadow& shadow) {
 
 void WriterObject::setLeft(double left) {
     if (anchoring_ == model::Anchoring::Inline)
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "Shape.Left",
-                              "What stands in a line has the place that the line gives it");
+        office::refuse("Shape.Left", "What stands in a line has the place that the line gives it");
     setProperty(properties_, "HoriOrient", css::text::HoriOrientation::NONE);
     setProperty(properties_, "HoriOrientRelation", css::text::RelOrientation::PAGE_PRINT_AREA);
     setProperty(properties_, "HoriOrientPosition", hundredthMmOf(left));

@@ -248,8 +248,8 @@ void exportPicture(SheetChart& chart, const CallArguments& arguments) {
     const std::string filter = arguments.at(1, "").toText();
     auto kind = pictureKindCalled(filter);
     if (!kind && !filter.empty())
-        throw Failure(
-            FailureNumber::InvalidProcedureCall, arguments.source(),
+        refuseCall(
+            arguments.source(),
             fmt::format("A chart can't be exported as \"{}\", only as PNG, SVG or EMF", filter));
     if (!kind) kind = pictureKindCalled(path.substr(path.rfind('.') + 1));
     chart.writePicture(path, kind.value_or(PictureKind::Png));

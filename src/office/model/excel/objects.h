@@ -8,7 +8,6 @@
 #include "office/model/excel/books.h"
 #include "office/model/item_index.h"
 #include "office/model/model_object.h"
-#include "office/model/refusal.h"
 
 /// The classes of Excel's object model, made here and reached by their members only.
 namespace office::model::excel {

@@ -8,7 +8,6 @@
 #include <system_error>
 
 #include "office/failure.h"
-#include "office/model/refusal.h"
 #include "office/text.h"
 
 namespace office::model::excel {

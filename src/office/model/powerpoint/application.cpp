@@ -60,8 +60,8 @@ const MemberTable<Presentations>& Presentations::members() {
 
 Object Presentations::open(const CallArguments& arguments) {
     if (arguments.at(1, false).toBool() || arguments.at(2, false).toBool())
-        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                      "A presentation is opened here under its name and to be changed");
+        refuseCall(arguments.source(),
+                   "A presentation is opened here under its name and to be changed");
     return object(decks().load(arguments.at(0).toText(), arguments.at(3, true).toBool()));
 }
 
@@ -99,8 +99,7 @@ private:
         const std::string& source = arguments.source();
         const std::string command = arguments.at(0).toText();
         if (!sameIgnoringCase(command, "PasteSourceFormatting"))
-            throw Failure(FailureNumber::InvalidProcedureCall, source,
-                          fmt::format("There is no command \"{}\" here", command));
+            refuseCall(source, fmt::format("There is no command \"{}\" here", command));
         const DeckPtr deck = decks().active();
         const DeckSlidePtr slide = deck ? deck->window().slideInView() : nullptr;
         if (!slide) refuse(source, "No slide is in view");

@@ -8,7 +8,6 @@
 #include "office/failure.h"
 #include "office/model/model_object.h"
 #include "office/model/powerpoint/deck.h"
-#include "office/model/refusal.h"
 
 /// The classes of PowerPoint's object model, made here and reached by their members only.
 namespace office::model::powerpoint {

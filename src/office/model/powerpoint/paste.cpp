@@ -24,16 +24,14 @@ constexpr std::array<std::pair<std::int32_t, PasteAs>, 5> dataTypes = {{
 PasteAs wantedForm(const CallArguments& arguments) {
     constexpr std::size_t link = 5;
     if (arguments.at(1, false).toBool())
-        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                      "Nothing is shown as an icon here");
+        refuseCall(arguments.source(), "Nothing is shown as an icon here");
     if (arguments.at(link, false).toBool()) return PasteAs::Linked;
     const std::int32_t wanted = arguments.at(0, 0).toLong();
     const auto* const known =
         std::find_if(dataTypes.begin(), dataTypes.end(),
                      [&](const auto& candidate) { return candidate.first == wanted; });
     if (known == dataTypes.end())
-        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                      fmt::format("There is no data type {} here", wanted));
+        refuseCall(arguments.source(), fmt::format("There is no data type {} here", wanted));
     return known->second;
 }
 

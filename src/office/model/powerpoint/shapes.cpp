@@ -23,8 +23,8 @@ double placePt(const Value& points, const std::string& source) {
 double lengthPt(const Value& points, const std::string& source) {
     const double length = placePt(points, source);
     if (!(length > 0))
-        throw Failure(FailureNumber::InvalidProcedureCall, source,
-                      fmt::format("{}: a shape can't be {} points wide or high", source, length));
+        refuseCall(source,
+                   fmt::format("{}: a shape can't be {} points wide or high", source, length));
     return std::max(length, smallestSidePt);
 }
 
@@ -46,8 +46,7 @@ void resize(DeckShape& shape, double Size::*side, double toPt) {
 Outline outlineOf(const Value& number, const std::string& source) {
     const auto wanted = static_cast<Outline>(number.toLong());
     if (wanted != Outline::Rectangle && wanted != Outline::RoundedRectangle)
-        throw Failure(FailureNumber::InvalidProcedureCall, source,
-                      fmt::format("There is no outline {} here", number.toLong()));
+        refuseCall(source, fmt::format("There is no outline {} here", number.toLong()));
     return wanted;
 }
 
@@ -177,9 +176,7 @@ Object Shapes::title(const CallArguments& arguments) {
 Object Shapes::addPicture(const CallArguments& arguments) {
     constexpr double ownSize = -1;
     const std::string& source = arguments.source();
-    if (arguments.at(1, false).toBool())
-        throw Failure(FailureNumber::InvalidProcedureCall, source,
-                      "A picture can't be linked here");
+    if (arguments.at(1, false).toBool()) refuseCall(source, "A picture can't be linked here");
     const Point corner{placePt(arguments.at(3, 0), source), placePt(arguments.at(4, 0), source)};
     const auto side = [&](std::size_t position) {
         const Value given = arguments.at(position, ownSize);
@@ -202,8 +199,7 @@ Object Shapes::addLabel(const CallArguments& arguments) {
     constexpr std::int32_t horizontal = 1;
     const std::string& source = arguments.source();
     if (arguments.at(0).toLong() != horizontal)
-        throw Failure(FailureNumber::InvalidProcedureCall, source,
-                      "Only horizontal text can be added");
+        refuseCall(source, "Only horizontal text can be added");
     const Point corner{placePt(arguments.at(1), source), placePt(arguments.at(2), source)};
     const Size size{lengthPt(arguments.at(3), source), lengthPt(arguments.at(4), source)};
     return shapeObject(home(), slide_.addLabel(corner, size));

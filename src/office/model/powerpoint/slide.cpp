@@ -15,8 +15,7 @@ std::int32_t knownLayout(const Value& number, const std::string& source) {
     constexpr std::array known = {layout::title, layout::titleOnly, layout::blank};
     const std::int32_t wanted = number.toLong();
     if (std::find(known.begin(), known.end(), wanted) == known.end())
-        throw Failure(FailureNumber::InvalidProcedureCall, source,
-                      fmt::format("There is no slide layout {} here", wanted));
+        refuseCall(source, fmt::format("There is no slide layout {} here", wanted));
     return wanted;
 }
 

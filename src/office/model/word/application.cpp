@@ -69,16 +69,14 @@ Object Documents::open(const CallArguments& arguments) {
     constexpr std::size_t readOnly = 2;
     constexpr std::size_t visible = 4;
     if (arguments.at(readOnly, false).toBool())
-        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                      "A document is opened here to be changed");
+        refuseCall(arguments.source(), "A document is opened here to be changed");
     return object(documents().load(arguments.at(0).toText(), arguments.at(visible, true).toBool()));
 }
 
 Object Documents::add(const CallArguments& arguments) {
     constexpr std::size_t visible = 3;
     if (arguments.has(0) || arguments.at(1, false).toBool())
-        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                      "A new document is made without a template here");
+        refuseCall(arguments.source(), "A new document is made without a template here");
     return object(documents().create(arguments.at(visible, true).toBool()));
 }
 

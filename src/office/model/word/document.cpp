@@ -40,9 +40,7 @@ public:
 
 private:
     void requireEnd(const std::string& source) const {
-        if (!isAtEnd_)
-            throw Failure(FailureNumber::InvalidProcedureCall, source,
-                          "This works on the end of the text here");
+        if (!isAtEnd_) refuseCall(source, "This works on the end of the text here");
     }
 
     bool isAtEnd_ = false;
@@ -116,8 +114,8 @@ const MemberTable<Document>& Document::members() {
 
 Object Document::property(const CallArguments& arguments) {
     if (!sameIgnoringCase(arguments.at(0).toText(), "Title"))
-        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                      fmt::format("There is no property \"{}\" here", arguments.at(0).toText()));
+        refuseCall(arguments.source(),
+                   fmt::format("There is no property \"{}\" here", arguments.at(0).toText()));
     return makeObject<DocumentProperty>(home());
 }
 
@@ -126,8 +124,7 @@ void Document::exportAsFixedFormat(const CallArguments& arguments) {
     constexpr std::size_t createBookmarks = 10;
     constexpr std::size_t structureTags = 11;
     if (arguments.at(1).toLong() != pdf || arguments.at(2, false).toBool())
-        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                      "A document is exported as PDF here, without opening it");
+        refuseCall(arguments.source(), "A document is exported as PDF here, without opening it");
     PdfOptions options;
     options.headingBookmarks = arguments.at(createBookmarks, 0).toLong() != 0;
     options.structureTags = arguments.at(structureTags, true).toBool();
@@ -136,8 +133,7 @@ void Document::exportAsFixedFormat(const CallArguments& arguments) {
 
 void Document::close(const CallArguments& arguments) {
     if (arguments.at(0, true).toBool())
-        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                      "A document is closed here without saving");
+        refuseCall(arguments.source(), "A document is closed here without saving");
     document().close();
 }
 

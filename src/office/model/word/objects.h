@@ -8,7 +8,6 @@
 
 #include "office/failure.h"
 #include "office/model/model_object.h"
-#include "office/model/refusal.h"
 #include "office/model/word/text_document.h"
 #include "office/text.h"
 
@@ -49,8 +48,7 @@ public:
 /// Reads a property that is written only: nothing needs to know what it was. `Failure` 5.
 template <class Self>
 [[nodiscard]] Value unread(Self& /*self*/, const CallArguments& arguments) {
-    throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                  arguments.source() + " can be set here, not read");
+    refuseCall(arguments.source(), arguments.source() + " can be set here, not read");
 }
 
 /// `Failure` 5 for a `Collapse` to anything but the end.

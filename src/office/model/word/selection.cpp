@@ -15,8 +15,7 @@ std::int32_t styleOf(const Value& number, const std::string& source) {
     constexpr std::array known = {style::normal, style::heading1, style::caption, style::title};
     const std::int32_t wanted = number.toLong();
     if (std::find(known.begin(), known.end(), wanted) == known.end())
-        throw Failure(FailureNumber::InvalidProcedureCall, source,
-                      fmt::format("There is no style {} here", wanted));
+        refuseCall(source, fmt::format("There is no style {} here", wanted));
     return wanted;
 }
 
@@ -150,8 +149,7 @@ void requireLines(const CallArguments& arguments) {
     constexpr std::int32_t line = 5;
     const Value unit = arguments.at(0, line);
     if (!unit.isEmpty() && unit.toLong() != line)
-        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                      "Moves go by lines here");
+        refuseCall(arguments.source(), "Moves go by lines here");
 }
 
 const MemberTable<Selection>& Selection::members() {
@@ -216,8 +214,8 @@ void Selection::moveLeft(const CallArguments& arguments) {
     constexpr std::int32_t extend = 1;
     if (arguments.at(0, character).toLong() != character || arguments.at(1, 1).toLong() != 1 ||
         arguments.at(2, 0).toLong() != extend || !document().pasted())
-        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                      "The caret moves left over what was pasted, and nothing else, here");
+        refuseCall(arguments.source(),
+                   "The caret moves left over what was pasted, and nothing else, here");
 }
 
 void Selection::paste(PasteAs as, Anchoring anchoring, const std::string& source) {
@@ -235,9 +233,7 @@ void Selection::pasteSpecial(const CallArguments& arguments) {
     constexpr std::int32_t oleObject = 0;
 
     const std::string& source = arguments.source();
-    if (arguments.at(icon, false).toBool())
-        throw Failure(FailureNumber::InvalidProcedureCall, source,
-                      "Nothing is shown as an icon here");
+    if (arguments.at(icon, false).toBool()) refuseCall(source, "Nothing is shown as an icon here");
     const auto anchoring = arguments.at(placement, 0).toLong() == floatOverText
                                ? Anchoring::Floating
                                : Anchoring::Inline;
@@ -250,15 +246,13 @@ void Selection::pasteSpecial(const CallArguments& arguments) {
         return;
     }
     if (const std::int32_t wanted = arguments.at(dataType).toLong(); wanted != oleObject)
-        throw Failure(FailureNumber::InvalidProcedureCall, source,
-                      fmt::format("There is no data type {} here", wanted));
+        refuseCall(source, fmt::format("There is no data type {} here", wanted));
     paste(PasteAs::Embedded, anchoring, source);
 }
 
 void Selection::pasteExcelTable(const CallArguments& arguments) {
     const std::string& source = arguments.source();
-    if (arguments.at(0).toBool())
-        throw Failure(FailureNumber::InvalidProcedureCall, source, "A table is not linked here");
+    if (arguments.at(0).toBool()) refuseCall(source, "A table is not linked here");
     const CopiedPtr copied = document().copied();
     if (!copied || copied->source().kind != CopySource::Kind::Cells)
         refuse(source, "No cells have been copied");
@@ -293,8 +287,7 @@ void requireCollapseToEnd(const CallArguments& arguments) {
     constexpr std::int32_t toEnd = 0;
     constexpr std::int32_t toStart = 1;
     if (arguments.at(0, toStart).toLong() != toEnd)
-        throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                      "It collapses to its end here");
+        refuseCall(arguments.source(), "It collapses to its end here");
 }
 
 Object paragraphFormatObject(const InDocument& home, ChangeParagraph change) {

@@ -81,8 +81,8 @@ void ShadowFormat::setType(const Value& number) {
 double lengthPt(const Value& points, const std::string& source) {
     const double length = numberWithin(0, furthestPt, points, source);
     if (!(length > 0))
-        throw Failure(FailureNumber::InvalidProcedureCall, source,
-                      fmt::format("{}: nothing can be {} points wide or high", source, length));
+        refuseCall(source,
+                   fmt::format("{}: nothing can be {} points wide or high", source, length));
     return length;
 }
 
@@ -196,8 +196,7 @@ private:
     /// In the place of what is selected.
     Object addPicture(const CallArguments& arguments) {
         if (arguments.at(1, false).toBool())
-            throw Failure(FailureNumber::InvalidProcedureCall, arguments.source(),
-                          "A picture can't be linked here");
+            refuseCall(arguments.source(), "A picture can't be linked here");
         document().addPicture(arguments.at(0).toText());
         return makeObject<InlineShape>(home(), pasted());
     }

@@ -6,7 +6,7 @@
 #include <array>
 #include <utility>
 
-#include "office/model/refusal.h"
+#include "office/failure.h"
 #include "office/package/document/core_properties.h"
 #include "office/package/document/drawing_markup.h"
 #include "office/package/document/page_section.h"
@@ -192,8 +192,7 @@ void FileDocument::typeBackspace() {
     const pugi::xml_node empty = caret_.paragraph;
     const pugi::xml_node ahead = empty.previous_sibling();
     if (contentOf(empty) || sectionEndIn(empty) || !isNamed(ahead, ns::word, "p"))
-        office::model::refuse("Selection.TypeBackspace",
-                              "An empty paragraph alone can be taken out here");
+        refuse("Selection.TypeBackspace", "An empty paragraph alone can be taken out here");
     touch();
     selected_.reset();
     empty.parent().remove_child(empty);
@@ -374,8 +373,8 @@ void FileDocument::saveCopy(const std::string& path) {
 }
 
 void FileDocument::exportPdf(const std::string& /*path*/, const word::PdfOptions& /*options*/) {
-    office::model::refuse("Document.ExportAsFixedFormat",
-                          "A document that is open as a file alone has no pages to export");
+    refuse("Document.ExportAsFixedFormat",
+           "A document that is open as a file alone has no pages to export");
 }
 
 void FileDocument::markGone() {

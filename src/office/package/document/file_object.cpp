@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "office/model/refusal.h"
+#include "office/failure.h"
 #include "office/package/document/file_document.h"
 #include "office/package/document/vml_shape.h"
 #include "office/package/drawing/chart_flags.h"
@@ -88,7 +88,7 @@ void FileObject::resize(const word::ObjectSize& size) {
     document_.touch();
     if (const auto shape = vmlShapeIn(element_)) return package::resize(shape, size);
     const auto extent = childNamed(element_, ns::wordDrawing, "extent");
-    if (!extent) office::model::refuse("Shape.Width", "An object of this kind has no size");
+    if (!extent) refuse("Shape.Width", "An object of this kind has no size");
     setSides(extent, size);
     const auto transform = childNamed(looksIn(element_), ns::drawing, "xfrm");
     if (const auto inner = childNamed(transform, ns::drawing, "ext")) setSides(inner, size);
@@ -107,8 +107,7 @@ void FileObject::setAlternativeText(const std::string& text) {
         return;
     }
     const auto properties = childNamed(element_, ns::wordDrawing, "docPr");
-    if (!properties)
-        office::model::refuse("Shape.AlternativeText", "An object of this kind has no such text");
+    if (!properties) refuse("Shape.AlternativeText", "An object of this kind has no such text");
     attributeFor(properties, "descr").set_value(shown.c_str());
 }
 
@@ -137,7 +136,7 @@ void FileObject::setShadow(const word::ObjectShadow& shadow) {
         document_.package().replace(part, chart.bytes());
     } else {
         const auto looks = looksIn(element_);
-        if (!looks) office::model::refuse("Shape.Shadow", "An object of this kind has no shadow");
+        if (!looks) refuse("Shape.Shadow", "An object of this kind has no shadow");
         setShadowIn(looks, shadow);
     }
     document_.touch();
@@ -155,7 +154,7 @@ void FileObject::setShadow(const word::ObjectShadow& shadow) {
 
 void FileObject::setLeft(double left) {
     if (anchoring() != word::Anchoring::Floating)
-        office::model::refuse("Shape.Left", "What stands in a line has no place of its own");
+        refuse("Shape.Left", "What stands in a line has no place of its own");
     document_.touch();
     if (const auto shape = vmlShapeIn(element_)) return package::setLeft(shape, left);
     auto place = childNamed(element_, ns::wordDrawing, "positionH");

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "office/model/refusal.h"
+#include "office/failure.h"
 #include "office/package/document/drawing_markup.h"
 #include "office/package/document/word_table.h"
 #include "office/package/drawing/picture_file.h"
@@ -47,7 +47,7 @@ bool pasteChart(FileDocument& document, const Copied& copied, PasteAs as,
     SourceChart chart = findChart(copied.source(), *document.rules().workbooks);
     if (!chart.obstacle.empty()) {
         if (as == PasteAs::Default) return false;
-        office::model::refuse(pasteSpecial, "The chart can't be linked to: " + chart.obstacle);
+        refuse(pasteSpecial, "The chart can't be linked to: " + chart.obstacle);
     }
     const std::string link =
         as == PasteAs::Linked ? fileAddress(chart.book->path(), document.rules().linkBase) : "";
@@ -102,8 +102,7 @@ void pasteInto(FileDocument& document, const Copied& copied, PasteAs as,
     } else if (isChart && (as == PasteAs::Default || as == PasteAs::Linked)) {
         if (pasteChart(document, copied, as, anchoring)) return;
     } else if (as == PasteAs::Linked) {
-        office::model::refuse(pasteSpecial,
-                              "A picture leads to no file that it could be linked to");
+        refuse(pasteSpecial, "A picture leads to no file that it could be linked to");
     }
     insertPicture(document, pictureOf(copied), anchoring);
 }

@@ -77,8 +77,7 @@ PictureFile vectorPicture(VectorFile vectors, PictureFiles* pictures) {
         Picture emf = finishedPicture(size.width, size.height, std::move(vectors.bytes));
         return {std::move(emf.png), {}, {}, ".emf", "image/x-emf", size};
     }
-    if (pictures == nullptr)
-        throw Failure(FailureNumber::ApplicationDefined, source, "No SVG can be drawn here");
+    if (pictures == nullptr) refuse(source, "No SVG can be drawn here");
     PictureFile picture = pngFile(pictures->draw(vectors), size);
     picture.svg = std::move(vectors.bytes);
     return picture;
@@ -99,8 +98,7 @@ PictureFile readPicture(const std::string& file, PictureFiles* pictures) {
     constexpr std::size_t headSize = 33;
     office::model::powerpoint::Size size;
     if (bytes.size() >= headSize && bytes.starts_with(signature)) size = sizeOfPng(bytes);
-    if (!(size.width > 0 && size.height > 0))
-        throw Failure(FailureNumber::ApplicationDefined, source, file + " holds no PNG picture");
+    if (!(size.width > 0 && size.height > 0)) refuse(source, file + " holds no PNG picture");
     return pngFile(finishedPicture(size.width, size.height, std::move(bytes)), size);
 }
 

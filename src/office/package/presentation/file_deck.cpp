@@ -290,8 +290,7 @@ void FileDeck::writeCount() {
 void FileDeck::setViewType(std::int32_t viewType) {
     constexpr std::int32_t lastView = 12;
     if (viewType < 1 || viewType > lastView)
-        throw Failure(FailureNumber::InvalidProcedureCall, "DocumentWindow.ViewType",
-                      fmt::format("There is no view {}", viewType));
+        refuseCall("DocumentWindow.ViewType", fmt::format("There is no view {}", viewType));
     viewType_ = viewType;
 }
 

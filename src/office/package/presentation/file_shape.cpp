@@ -188,9 +188,7 @@ pugi::xml_node FileShape::drawnProperties() const {
 
 pugi::xml_node FileShape::looks(std::string_view member) {
     const auto found = drawnProperties();
-    if (!found)
-        office::model::refuse("Shape." + std::string(member),
-                              "A shape of this kind has no such property");
+    if (!found) refuse("Shape." + std::string(member), "A shape of this kind has no such property");
     return found;
 }
 

@@ -252,8 +252,7 @@ FileShapePtr FileSlide::pasteChart(const Copied& copied, PasteAs as) {
     SourceChart chart = findChart(copied.source(), *deck_.rules().workbooks);
     if (!chart.obstacle.empty()) {
         if (as == PasteAs::Default) return nullptr;
-        office::model::refuse("Shapes.PasteSpecial",
-                              "The chart can't be linked to: " + chart.obstacle);
+        refuse("Shapes.PasteSpecial", "The chart can't be linked to: " + chart.obstacle);
     }
     const std::string link =
         as == PasteAs::Linked ? fileAddress(chart.book->path(), deck_.rules().linkBase) : "";
@@ -274,7 +273,7 @@ model::DeckShapePtr FileSlide::paste(const Copied& copied, PasteAs as) {
     if (isChart) {
         if (FileShapePtr chart = pasteChart(copied, as)) return chart;
     } else if (kind != CopySource::Kind::Picture && as != PasteAs::Png && as != PasteAs::Metafile) {
-        office::model::refuse("Shapes.PasteSpecial", "It can't be pasted in this form");
+        refuse("Shapes.PasteSpecial", "It can't be pasted in this form");
     }
     PictureFile picture = pictureOf(copied);
     const model::PastePlace place = model::pastePlaceFor(picture.size, deck_, *this);

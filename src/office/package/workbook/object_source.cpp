@@ -5,8 +5,7 @@
 #include <filesystem>
 #include <utility>
 
-#include "office/model/refusal.h"
-#include "office/package/workbook/cell_box.h"
+#include "office/failure.h"
 #include "office/package/workbook/embedded_workbook.h"
 #include "office/text.h"
 
@@ -51,9 +50,8 @@ void requireNoObstacle(PasteAs as, const CopySource& source, const FileRules& ru
     const std::string obstacle =
         objectObstacle(as, source, *rules.workbooks, rules.embedsSheetAlone);
     if (!obstacle.empty())
-        office::model::refuse(
-            member, fmt::format("It can't be {}: {}", as == PasteAs::Linked ? "linked" : "embedded",
-                                obstacle));
+        refuse(member, fmt::format("It can't be {}: {}",
+                                   as == PasteAs::Linked ? "linked" : "embedded", obstacle));
 }
 
 ObjectSource embedWorkbook(Package& package, const std::string& holder, const std::string& stem,
