@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "office/failure.h"
 #include "office/picture.h"
 #include "office/table_look.h"
 
@@ -30,29 +31,32 @@ struct CopySource {
 /// they fetch from the source itself.
 class Copied {
 public:
-    explicit Copied(CopySource source) : source_(std::move(source)) {}
+    /// In points, as it is in the workbook.
+    Copied(CopySource source, double widthPt, double heightPt)
+        : source_(std::move(source)),
+          widthPt_(widthPt),
+          heightPt_(heightPt) {}
     Copied(const Copied&) = delete;
     Copied& operator=(const Copied&) = delete;
     virtual ~Copied() = default;
 
     [[nodiscard]] const CopySource& source() const { return source_; }
-    /// In points, as it is in the workbook.
-    [[nodiscard]] virtual double widthPt() const = 0;
-    [[nodiscard]] virtual double heightPt() const = 0;
-    /// A PNG file with 288 dots to the inch and the true size. `Failure` 1004 if there is nothing
-    /// to take a picture of.
-    [[nodiscard]] virtual std::string png() const = 0;
-    /// The same for those who can wait for it, or with fewer dots where that is quicker.
-    [[nodiscard]] virtual Picture picture(Sharpness) const {
-        return finishedPicture(widthPt(), heightPt(), png());
-    }
+    [[nodiscard]] double widthPt() const { return widthPt_; }
+    [[nodiscard]] double heightPt() const { return heightPt_; }
+    /// A PNG file with the true size: with 288 dots to the inch, or with fewer where that is
+    /// quicker. `Failure` 1004 if there is nothing to take a picture of.
+    [[nodiscard]] virtual Picture picture(Sharpness sharpness) const = 0;
     /// `Failure` 1004 for anything but cells.
-    [[nodiscard]] virtual TableLook table() const = 0;
+    [[nodiscard]] virtual TableLook table() const {
+        refuse("Copy", "What was copied has no cells");
+    }
     /// The same with as many cells as a page takes, which is more than a table elsewhere holds.
     [[nodiscard]] virtual TableLook tableOfPage() const { return table(); }
 
 private:
     CopySource source_;
+    double widthPt_;
+    double heightPt_;
 };
 
 using CopiedPtr = std::shared_ptr<const Copied>;

@@ -105,7 +105,9 @@ TEST_F(ExcelPictures, LooksInTheDrawingRoomAsTheSuiteDrawsIt) {
         const auto& copied = dynamic_cast<const excel::CopiedPicture&>(*desk->clipboard().copied);
         EXPECT_EQ(maker.drawnOtherwise(copied.metafile()), "");
         maker.suite().writeMetafile(copied.metafile(), copied.size(), own);
-        EXPECT_LT(meanDifference(copied.png(), bytesOf(own)), 1) << name;
+        EXPECT_LT(meanDifference(copied.picture(office::Sharpness::Crisp).png.get(), bytesOf(own)),
+                  1)
+            << name;
     }
     const Object charts = open("charts.xlsx");
     const auto plain = shapeOf("Data", 0);
@@ -189,7 +191,7 @@ TEST_F(ExcelPictures, ExportsAChartSheetThatLibreOfficeLoses) {
     const Value chart = book.get("Charts").get("Item", "Gone");
     EXPECT_EQ(bytesOf(exported(chart)), wanted);
     chart.get("ChartArea").call("Copy");
-    EXPECT_EQ(desk->clipboard().copied->png(), wanted);
+    EXPECT_EQ(desk->clipboard().copied->picture(office::Sharpness::Crisp).png.get(), wanted);
     desk->clipboard().copied.reset();
     EXPECT_EQ(openDocuments(), before);
     EXPECT_TRUE(book.get("Saved").toBool());
@@ -225,7 +227,7 @@ TEST_F(ExcelPictures, DrawsColumnsBehindTheLastFilledOneAsWideAsTheyAre) {
     range.call("CopyPicture");
     const auto& copied = dynamic_cast<const excel::CopiedPicture&>(*desk->clipboard().copied);
     const auto drawn = office::drawing::sizeOfMetafile(excel::bytesOf(copied.metafile()));
-    EXPECT_NEAR(drawn.width, copied.size().width, 100);
+    EXPECT_NEAR(drawn.width, copied.size().Width, 100);
     EXPECT_NEAR(copied.widthPt(), range.get("Width").toDouble(), 0.5);
     EXPECT_TRUE(book.get("Saved").toBool());
 }

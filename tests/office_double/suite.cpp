@@ -62,7 +62,7 @@ office::ClipboardPicture DoubleSuite::clipboardPicture(office::ClipboardPicture:
     if (!copied) return picture;
     if (kind != office::ClipboardPicture::Kind::Vector) {
         picture.mediaType = "image/png";
-        const std::string png = copied->png();
+        const std::string png = copied->picture(office::Sharpness::Crisp).png.get();
         picture.bytes.assign(png.begin(), png.end());
     } else {
         picture.mediaType = "image/svg+xml";

@@ -11,23 +11,17 @@ namespace support {
 struct CopiedDouble : office::Copied {
     CopiedDouble(const office::CopySource& source, double width, double height,
                  office::TableLook cells = {})
-        : Copied(source),
-          wide(width),
-          high(height),
+        : Copied(source, width, height),
           look(std::move(cells)) {}
     explicit CopiedDouble(const office::TableLook& cells)
         : CopiedDouble({office::CopySource::Kind::Cells, {}, {}, {}, {}}, cells.widthPt(),
                        cells.heightPt(), cells) {}
-    [[nodiscard]] double widthPt() const override { return wide; }
-    [[nodiscard]] double heightPt() const override { return high; }
-    [[nodiscard]] std::string png() const override {
-        const auto bytes = pngPictureOfPoints(wide, high);
-        return {bytes.begin(), bytes.end()};
+    [[nodiscard]] office::Picture picture(office::Sharpness) const override {
+        const auto bytes = pngPictureOfPoints(widthPt(), heightPt());
+        return office::finishedPicture(widthPt(), heightPt(), {bytes.begin(), bytes.end()});
     }
     [[nodiscard]] office::TableLook table() const override { return look; }
 
-    double wide;
-    double high;
     office::TableLook look;
 };
 

@@ -18,7 +18,6 @@ namespace compare {
 namespace {
 
 using libreoffice::pointsOf;
-using libreoffice::excel::PictureSize;
 
 std::string contentOf(const std::string& file) {
     std::ifstream stream(file, std::ios::binary);
@@ -27,14 +26,14 @@ std::string contentOf(const std::string& file) {
 
 /// Empty if the room knows no way to draw it.
 std::string drawnByRoom(const libreoffice::uno::Sequence<sal_Int8>& metafile,
-                        const PictureSize& size, bool isTranslucent) {
+                        const libreoffice::css::awt::Size& size, bool isTranslucent) {
     const auto pixels = libreoffice::excel::pixelsOf(size, office::Sharpness::Crisp);
     office::ContinueOnFailure scope;
     std::string png;
     scope.attempt([&] {
         png = office::drawing::pngOf({std::string(libreoffice::excel::bytesOf(metafile)),
-                                      pixels.width, pixels.height, pointsOf(size.width),
-                                      pointsOf(size.height), isTranslucent});
+                                      pixels.Width, pixels.Height, pointsOf(size.Width),
+                                      pointsOf(size.Height), isTranslucent});
     });
     return png;
 }
@@ -62,12 +61,11 @@ void BookPictures::forEach(const std::string& book, const std::function<void(con
 
     for (const auto& sheet : desk_->active<excel::CalcDocument>()->sheetList().all()) {
         for (const auto& chart : sheet->chartShapes().all()) {
-            const auto size = chart->shape()->getSize();
             suite.writeChart(chart->shape(), file);
             const excel::ChartLook look = excel::lookOf(chart->shape());
             const auto metafile = suite.metafileOf(look.graphic);
             use({bookName, chart->knownName(), contentOf(file),
-                 drawnByRoom(metafile, {size.Width, size.Height}, !excel::isOpaque(look)),
+                 drawnByRoom(metafile, chart->shape()->getSize(), !excel::isOpaque(look)),
                  maker.drawnOtherwise(metafile)});
         }
     }

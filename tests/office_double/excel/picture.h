@@ -17,23 +17,19 @@ namespace excel = office::model::excel;
 class CopiedThing : public office::Copied {
 public:
     CopiedThing(office::CopySource source, const excel::Box& box, office::TableLook table = {})
-        : Copied(std::move(source)),
-          box_(box),
+        : Copied(std::move(source), box.width, box.height),
           table_(std::move(table)) {}
 
-    [[nodiscard]] double widthPt() const override { return box_.width; }
-    [[nodiscard]] double heightPt() const override { return box_.height; }
-    [[nodiscard]] std::string png() const override {
-        const auto bytes = support::pngPictureOfPoints(box_.width, box_.height);
-        return {bytes.begin(), bytes.end()};
+    [[nodiscard]] office::Picture picture(office::Sharpness) const override {
+        const auto bytes = support::pngPictureOfPoints(widthPt(), heightPt());
+        return office::finishedPicture(widthPt(), heightPt(), {bytes.begin(), bytes.end()});
     }
     [[nodiscard]] office::TableLook table() const override {
-        if (table_.cells.empty()) office::model::refuse("Range.Copy", "These are no cells");
+        if (table_.cells.empty()) office::refuse("Range.Copy", "These are no cells");
         return table_;
     }
 
 private:
-    excel::Box box_;
     office::TableLook table_;
 };
 
@@ -44,7 +40,7 @@ inline void writePictureOf(const excel::Box& box, const std::string& path,
     } catch (const office::Failure&) {
         throw;
     } catch (const std::runtime_error& error) {
-        office::model::refuse("Chart.Export", error.what());
+        office::refuse("Chart.Export", error.what());
     }
 }
 

@@ -51,7 +51,7 @@ office::CopiedPtr CellRange::copy(office::CopySource source) {
         return std::make_shared<CopiedCells>(sheet_, std::move(source), range(), block_, size);
     return std::make_shared<CopiedPicture>(sheet_->book().desk(), std::move(source),
                                            takePictureOfCells(*sheet_, range(), block_, size),
-                                           PictureSize{size.Width, size.Height});
+                                           size);
 }
 
 }  // namespace libreoffice::excel

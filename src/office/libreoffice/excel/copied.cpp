@@ -22,62 +22,35 @@ auto translated(const Desk& desk, Statement statement) {
     return libreoffice::translated(desk.connection(), "Copy", statement);
 }
 
-[[noreturn]] void failWithoutCells() {
-    throw office::Failure(office::FailureNumber::ApplicationDefined, "Copy",
-                          "What was copied has no cells");
-}
-
 }  // namespace
 
 CopiedPicture::CopiedPicture(Desk& desk, office::CopySource source,
-                             uno::Sequence<sal_Int8> metafile, const PictureSize& size)
-    : CopiedHere(std::move(source)),
+                             uno::Sequence<sal_Int8> metafile, const css::awt::Size& size)
+    : CopiedHere(std::move(source), size),
       desk_(desk),
-      metafile_(std::move(metafile)),
-      size_(size) {}
-
-double CopiedPicture::widthPt() const {
-    return pointsOf(size_.width);
-}
-
-double CopiedPicture::heightPt() const {
-    return pointsOf(size_.height);
-}
+      metafile_(std::move(metafile)) {}
 
 office::Picture CopiedPicture::picture(office::Sharpness sharpness) const {
     return translated(desk_,
-                      [&] { return pictureMaker(desk_).metafile(metafile_, size_, sharpness); });
+                      [&] { return pictureMaker(desk_).metafile(metafile_, size(), sharpness); });
 }
 
 uno::Reference<css::graphic::XGraphic> CopiedPicture::graphic() const {
     return translated(desk_, [&] { return pictureMaker(desk_).suite().graphicOf(metafile_); });
 }
 
-office::TableLook CopiedPicture::table() const {
-    failWithoutCells();
-}
-
 CopiedChart::CopiedChart(CalcDocument& book, office::CopySource source,
                          uno::Reference<css::drawing::XShape> shape, SheetOfChart home,
                          std::shared_ptr<const void> owner)
-    : CopiedHere(std::move(source)),
+    : CopiedHere(std::move(source), shape->getSize()),
       book_(book.shared_from_this()),
       owner_(std::move(owner)),
       home_(std::move(home)),
-      shape_(std::move(shape)),
-      size_(shape_->getSize()) {}
+      shape_(std::move(shape)) {}
 
 CalcDocument& CopiedChart::book() const {
     book_->requireOpen("Copy");
     return *book_;
-}
-
-double CopiedChart::widthPt() const {
-    return pointsOf(size_.Width);
-}
-
-double CopiedChart::heightPt() const {
-    return pointsOf(size_.Height);
 }
 
 office::Picture CopiedChart::picture(office::Sharpness sharpness) const {
@@ -89,39 +62,26 @@ uno::Reference<css::graphic::XGraphic> CopiedChart::graphic() const {
     return translated(book().desk(), [&] { return lookOf(shape_).graphic; });
 }
 
-office::TableLook CopiedChart::table() const {
-    failWithoutCells();
-}
-
 CopiedCells::CopiedCells(SheetRecordPtr sheet, office::CopySource source,
                          uno::Reference<css::table::XCellRange> cells,
                          const office::model::excel::CellBlock& block, const css::awt::Size& size)
-    : CopiedHere(std::move(source)),
+    : CopiedHere(std::move(source), size),
       sheet_(std::move(sheet)),
       book_(sheet_->book().shared_from_this()),
       cells_(std::move(cells)),
-      block_(block),
-      size_(size) {}
+      block_(block) {}
 
 SheetRecord& CopiedCells::sheet() const {
     book_->requireOpen("Copy");
     return *sheet_;
 }
 
-double CopiedCells::widthPt() const {
-    return pointsOf(size_.Width);
-}
-
-double CopiedCells::heightPt() const {
-    return pointsOf(size_.Height);
-}
-
 office::Picture CopiedCells::picture(office::Sharpness sharpness) const {
     SheetRecord& source = sheet();
     Desk& desk = source.book().desk();
     return translated(desk, [&] {
-        return pictureMaker(desk).metafile(takePictureOfCells(source, cells_, block_, size_),
-                                           {size_.Width, size_.Height}, sharpness);
+        return pictureMaker(desk).metafile(takePictureOfCells(source, cells_, block_, size()),
+                                           size(), sharpness);
     });
 }
 
@@ -130,7 +90,7 @@ uno::Reference<css::graphic::XGraphic> CopiedCells::graphic() const {
     Desk& desk = source.book().desk();
     return translated(desk, [&] {
         return pictureMaker(desk).suite().graphicOf(
-            takePictureOfCells(source, cells_, block_, size_));
+            takePictureOfCells(source, cells_, block_, size()));
     });
 }
 

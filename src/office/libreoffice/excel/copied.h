@@ -1,11 +1,13 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 
 #include "office/copied.h"
 #include "office/libreoffice/excel/chart_shapes.h"
 #include "office/libreoffice/excel/picture_maker.h"
 #include "office/libreoffice/excel/sheet_record.h"
+#include "office/libreoffice/units.h"
 #include "office/model/excel/cell_block.h"
 
 namespace libreoffice::excel {
@@ -13,33 +15,32 @@ namespace libreoffice::excel {
 /// What was copied in Calc. An Impress of the same suite can take it over without a file between.
 class CopiedHere : public office::Copied {
 public:
-    using Copied::Copied;
-    [[nodiscard]] std::string png() const override {
-        return picture(office::Sharpness::Crisp).png.get();
-    }
+    CopiedHere(office::CopySource source, const css::awt::Size& size)
+        : Copied(std::move(source), pointsOf(size.Width), pointsOf(size.Height)),
+          size_(size) {}
+
+    [[nodiscard]] const css::awt::Size& size() const { return size_; }
     /// A picture of it in vectors, of the size that it has in the workbook. `office::Failure` 1004
     /// if there is nothing to take a picture of.
     [[nodiscard]] virtual uno::Reference<css::graphic::XGraphic> graphic() const = 0;
+
+private:
+    css::awt::Size size_;
 };
 
 /// A picture of a chart or of cells, in the suite's own vector format.
 class CopiedPicture : public CopiedHere {
 public:
     CopiedPicture(Desk& desk, office::CopySource source, uno::Sequence<sal_Int8> metafile,
-                  const PictureSize& size);
+                  const css::awt::Size& size);
 
     [[nodiscard]] const uno::Sequence<sal_Int8>& metafile() const { return metafile_; }
-    [[nodiscard]] const PictureSize& size() const { return size_; }
-    [[nodiscard]] double widthPt() const override;
-    [[nodiscard]] double heightPt() const override;
     [[nodiscard]] office::Picture picture(office::Sharpness sharpness) const override;
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
-    [[nodiscard]] office::TableLook table() const override;
 
 private:
     Desk& desk_;
     uno::Sequence<sal_Int8> metafile_;
-    PictureSize size_;
 };
 
 /// A chart. Its workbook has to be open still when more of it is asked for.
@@ -54,18 +55,14 @@ public:
     [[nodiscard]] const uno::Reference<css::drawing::XShape>& shape() const { return shape_; }
     /// Where the shape is, which for one that was recovered is not in its workbook.
     [[nodiscard]] const SheetOfChart& home() const { return home_; }
-    [[nodiscard]] double widthPt() const override;
-    [[nodiscard]] double heightPt() const override;
     [[nodiscard]] office::Picture picture(office::Sharpness sharpness) const override;
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
-    [[nodiscard]] office::TableLook table() const override;
 
 private:
     std::shared_ptr<CalcDocument> book_;
     std::shared_ptr<const void> owner_;
     SheetOfChart home_;
     uno::Reference<css::drawing::XShape> shape_;
-    css::awt::Size size_;
 };
 
 /// One block of cells. Its workbook has to be open still when more of it is asked for.
@@ -78,8 +75,6 @@ public:
     [[nodiscard]] SheetRecord& sheet() const;
     [[nodiscard]] const uno::Reference<css::table::XCellRange>& cells() const { return cells_; }
     [[nodiscard]] const office::model::excel::CellBlock& block() const { return block_; }
-    [[nodiscard]] double widthPt() const override;
-    [[nodiscard]] double heightPt() const override;
     [[nodiscard]] office::Picture picture(office::Sharpness sharpness) const override;
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
     [[nodiscard]] office::TableLook table() const override;
@@ -92,7 +87,6 @@ private:
     std::shared_ptr<CalcDocument> book_;
     uno::Reference<css::table::XCellRange> cells_;
     office::model::excel::CellBlock block_;
-    css::awt::Size size_;
 };
 
 }  // namespace libreoffice::excel

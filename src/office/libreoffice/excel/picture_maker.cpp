@@ -19,11 +19,6 @@ using office::PictureKind;
 using office::Sharpness;
 using office::drawing::VectorPicture;
 
-PictureSize sizeOf(const uno::Reference<css::drawing::XShape>& chart) {
-    const css::awt::Size size = chart->getSize();
-    return {size.Width, size.Height};
-}
-
 std::string onWhite(std::string svg) {
     const std::size_t content = svg.find('>', svg.find("<svg"));
     if (content == std::string::npos) return {};
@@ -33,12 +28,12 @@ std::string onWhite(std::string svg) {
 /// The suite writes pictures to files only: one in a folder that only this user can read, and gone
 /// again at once.
 template <class Write>
-office::Picture drawnBySuite(const PictureSize& size, Write write) {
+office::Picture drawnBySuite(const css::awt::Size& size, Write write) {
     const PrivateFolder folder;
     const std::string file = folder.file("copied.png");
     write(file);
     std::ifstream png(file, std::ios::binary);
-    return office::finishedPicture(pointsOf(size.width), pointsOf(size.height),
+    return office::finishedPicture(pointsOf(size.Width), pointsOf(size.Height),
                                    {std::istreambuf_iterator<char>(png), {}});
 }
 
@@ -62,28 +57,28 @@ std::string PictureMaker::drawnOtherwise(const uno::Sequence<sal_Int8>& metafile
 }
 
 PictureMaker::Vectors PictureMaker::drawable(const uno::Sequence<sal_Int8>& metafile,
-                                             const PictureSize& size, bool isTranslucent,
+                                             const css::awt::Size& size, bool isTranslucent,
                                              Sharpness sharpness) {
     if (!drawnOtherwise(metafile).empty()) return std::nullopt;
-    const PixelSize pixels = pixelsOf(size, sharpness);
+    const css::awt::Size pixels = pixelsOf(size, sharpness);
     return VectorPicture{.vectors = std::string(bytesOf(metafile)),
-                         .width = pixels.width,
-                         .height = pixels.height,
-                         .widthPt = pointsOf(size.width),
-                         .heightPt = pointsOf(size.height),
+                         .width = pixels.Width,
+                         .height = pixels.Height,
+                         .widthPt = pointsOf(size.Width),
+                         .heightPt = pointsOf(size.Height),
                          .isTranslucent = isTranslucent};
 }
 
 PictureMaker::Vectors PictureMaker::vectorsOf(const uno::Reference<css::drawing::XShape>& chart,
                                               Sharpness sharpness) {
     const ChartLook look = lookOf(chart);
-    return drawable(suite_.metafileOf(look.graphic), sizeOf(chart), !isOpaque(look), sharpness);
+    return drawable(suite_.metafileOf(look.graphic), chart->getSize(), !isOpaque(look), sharpness);
 }
 
 office::Picture PictureMaker::chart(const uno::Reference<css::drawing::XShape>& chart,
                                     Sharpness sharpness) {
     if (auto vectors = vectorsOf(chart, sharpness)) return room_->draw(std::move(*vectors));
-    return drawnBySuite(sizeOf(chart),
+    return drawnBySuite(chart->getSize(),
                         [&](const std::string& file) { suite_.writeChart(chart, file); });
 }
 
@@ -98,15 +93,16 @@ void PictureMaker::writeChart(const uno::Reference<css::drawing::XShape>& chart,
 }
 
 office::Picture PictureMaker::metafile(const uno::Sequence<sal_Int8>& metafile,
-                                       const PictureSize& size, Sharpness sharpness) {
+                                       const css::awt::Size& size, Sharpness sharpness) {
     if (auto vectors = drawable(metafile, size, false, sharpness))
         return room_->draw(std::move(*vectors));
     return drawnBySuite(
         size, [&](const std::string& file) { suite_.writeMetafile(metafile, size, file); });
 }
 
-void PictureMaker::writeMetafile(const uno::Sequence<sal_Int8>& metafile, const PictureSize& size,
-                                 const std::string& path, office::PictureKind kind) {
+void PictureMaker::writeMetafile(const uno::Sequence<sal_Int8>& metafile,
+                                 const css::awt::Size& size, const std::string& path,
+                                 office::PictureKind kind) {
     if (kind == PictureKind::Svg)
         return writePictureFile(path, onWhite(suite_.svgOfMetafile(metafile, size)));
     if (kind == PictureKind::Emf)

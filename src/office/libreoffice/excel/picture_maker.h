@@ -38,8 +38,8 @@ public:
 
     /// A copied picture on white. An empty one gives a white area.
     [[nodiscard]] office::Picture metafile(const uno::Sequence<sal_Int8>& metafile,
-                                           const PictureSize& size, office::Sharpness sharpness);
-    void writeMetafile(const uno::Sequence<sal_Int8>& metafile, const PictureSize& size,
+                                           const css::awt::Size& size, office::Sharpness sharpness);
+    void writeMetafile(const uno::Sequence<sal_Int8>& metafile, const css::awt::Size& size,
                        const std::string& path, office::PictureKind kind);
 
     [[nodiscard]] SuitePictures& suite() { return suite_; }
@@ -51,8 +51,9 @@ private:
     using Vectors = std::optional<office::drawing::VectorPicture>;
 
     /// None if the suite has to draw it.
-    [[nodiscard]] Vectors drawable(const uno::Sequence<sal_Int8>& metafile, const PictureSize& size,
-                                   bool isTranslucent, office::Sharpness sharpness);
+    [[nodiscard]] Vectors drawable(const uno::Sequence<sal_Int8>& metafile,
+                                   const css::awt::Size& size, bool isTranslucent,
+                                   office::Sharpness sharpness);
     [[nodiscard]] Vectors vectorsOf(const uno::Reference<css::drawing::XShape>& chart,
                                     office::Sharpness sharpness);
 

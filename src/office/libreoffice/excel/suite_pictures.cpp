@@ -49,9 +49,9 @@ struct ScreenSize {
     std::int32_t width;
     std::int32_t height;
 
-    explicit ScreenSize(const PictureSize& size) {
-        const double wide = size.width * screenDpi / hundredthMmPerInch;
-        const double high = size.height * screenDpi / hundredthMmPerInch;
+    explicit ScreenSize(const css::awt::Size& size) {
+        const double wide = size.Width * screenDpi / hundredthMmPerInch;
+        const double high = size.Height * screenDpi / hundredthMmPerInch;
         const double pixels = wide * high * crisp * crisp;
         const double scale = std::min({1.0, std::sqrt(mostPixels / std::max(1.0, pixels)),
                                        longestSide / std::max(wide, high)});
@@ -68,11 +68,11 @@ struct ScreenSize {
 };
 
 /// The logical size becomes the density that the file carries: its true physical size.
-FilterData pngSettings(const ScreenSize& screen, const PictureSize& size, bool translucent) {
+FilterData pngSettings(const ScreenSize& screen, const css::awt::Size& size, bool translucent) {
     return propertyValues({{"PixelWidth", uno::Any(screen.width * crisp)},
                            {"PixelHeight", uno::Any(screen.height * crisp)},
-                           {"LogicalWidth", uno::Any(size.width)},
-                           {"LogicalHeight", uno::Any(size.height)},
+                           {"LogicalWidth", uno::Any(size.Width)},
+                           {"LogicalHeight", uno::Any(size.Height)},
                            {"Compression", uno::Any(compression)},
                            {"Translucent", uno::Any(sal_Int32{translucent})}});
 }
@@ -90,7 +90,7 @@ void writePng(const uno::Reference<css::document::XExporter>& exporter, const Fi
 
 }  // namespace
 
-PixelSize pixelsOf(const PictureSize& size, office::Sharpness sharpness) {
+css::awt::Size pixelsOf(const css::awt::Size& size, office::Sharpness sharpness) {
     const ScreenSize screen(size);
     const auto dots = static_cast<std::int32_t>(sharpness);
     return {screen.width * dots, screen.height * dots};
@@ -191,7 +191,7 @@ void SuitePictures::layOnPage(const uno::Reference<css::graphic::XGraphic>& grap
 }
 
 void SuitePictures::writePage(const uno::Reference<css::graphic::XGraphic>& graphic,
-                              const PictureSize& size, const std::string& path) {
+                              const css::awt::Size& size, const std::string& path) {
     const ScreenSize screen(size);
     layOnPage(graphic, screen.onPaper());
     writePng(page().exporter, pngSettings(screen, size, false), path);
@@ -209,8 +209,7 @@ const uno::Reference<css::document::XExporter>& SuitePictures::exporterOf(
 
 void SuitePictures::writeChart(const uno::Reference<css::drawing::XShape>& chart,
                                const std::string& path) {
-    const css::awt::Size shapeSize = chart->getSize();
-    const PictureSize size{shapeSize.Width, shapeSize.Height};
+    const css::awt::Size size = chart->getSize();
     const ChartLook look = lookOf(chart);
     if (isOpaque(look)) {
         writePage(look.graphic, size, path);
@@ -219,8 +218,8 @@ void SuitePictures::writeChart(const uno::Reference<css::drawing::XShape>& chart
     }
 }
 
-void SuitePictures::writeMetafile(const uno::Sequence<sal_Int8>& metafile, const PictureSize& size,
-                                  const std::string& path) {
+void SuitePictures::writeMetafile(const uno::Sequence<sal_Int8>& metafile,
+                                  const css::awt::Size& size, const std::string& path) {
     writePage(graphicOf(metafile), size, path);
 }
 
@@ -246,27 +245,26 @@ uno::Sequence<sal_Int8> SuitePictures::metafileOf(
 }
 
 std::string SuitePictures::svgOfChart(const uno::Reference<css::drawing::XShape>& chart) {
-    const css::awt::Size size = chart->getSize();
     // Not the chart's own vectors: the exporter scales all that is drawn, labels that reach out
     // of the chart too, to the size of the shape.
-    return svgOfPage(lookOf(chart).graphic, {size.Width, size.Height});
+    return svgOfPage(lookOf(chart).graphic, chart->getSize());
 }
 
 std::string SuitePictures::svgOfMetafile(const uno::Sequence<sal_Int8>& metafile,
-                                         const PictureSize& size) {
+                                         const css::awt::Size& size) {
     return svgOfPage(graphicOf(metafile), size);
 }
 
 std::string SuitePictures::svgOfPage(const uno::Reference<css::graphic::XGraphic>& graphic,
-                                     const PictureSize& size) {
+                                     const css::awt::Size& size) {
     const css::awt::Size paper = ScreenSize(size).onPaper();
     layOnPage(graphic, paper);
     constexpr double hundredthsPerMm = 100;
     return mended({.text = written(page().exporter, "image/svg+xml"),
                    .pageWidth = paper.Width,
                    .pageHeight = paper.Height,
-                   .widthMm = size.width / hundredthsPerMm,
-                   .heightMm = size.height / hundredthsPerMm,
+                   .widthMm = size.Width / hundredthsPerMm,
+                   .heightMm = size.Height / hundredthsPerMm,
                    .hairline = hundredthMmPerInch / screenDpi / crisp});
 }
 
@@ -297,8 +295,8 @@ std::string SuitePictures::emfOfChart(const uno::Reference<css::drawing::XShape>
 }
 
 std::string SuitePictures::emfOfMetafile(const uno::Sequence<sal_Int8>& metafile,
-                                         const PictureSize& size) {
-    layOnPage(graphicOf(metafile), {size.width, size.height});
+                                         const css::awt::Size& size) {
+    layOnPage(graphicOf(metafile), size);
     constexpr sal_Int32 white = 0xFFFFFF;
     const auto& shape = page().shapeProperties;
     shape->setPropertyValue("FillColor", uno::Any(white));

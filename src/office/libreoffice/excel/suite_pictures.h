@@ -17,23 +17,13 @@
 
 namespace libreoffice::excel {
 
-/// Size in hundredths of a millimetre.
-struct PictureSize {
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-};
-
-/// Size in pixels.
-struct PixelSize {
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-};
-
-/// With fewer dots than asked for where they would take too much memory.
-[[nodiscard]] PixelSize pixelsOf(const PictureSize& size, office::Sharpness sharpness);
+/// The pixels of a picture whose size is in hundredths of a millimetre. Fewer than asked for where
+/// they would take too much memory.
+[[nodiscard]] css::awt::Size pixelsOf(const css::awt::Size& size, office::Sharpness sharpness);
 
 /// Charts and copied ranges as the suite draws them: PNG files at three times screen density that
 /// carry their true physical size, and vectors.
+/// Sizes are in hundredths of a millimetre.
 ///
 /// Opaque pictures are laid on the page of a drawing that belongs to no window and to none of the
 /// suite's lists of documents. It goes with this object, and also if this process dies. Neither a
@@ -51,18 +41,18 @@ public:
     void writeChart(const uno::Reference<css::drawing::XShape>& chart, const std::string& path);
 
     /// A copied picture as a PNG file on white. An empty one gives a white area.
-    void writeMetafile(const uno::Sequence<sal_Int8>& metafile, const PictureSize& size,
+    void writeMetafile(const uno::Sequence<sal_Int8>& metafile, const css::awt::Size& size,
                        const std::string& path);
 
     /// The same in vectors, as an SVG text.
     [[nodiscard]] std::string svgOfChart(const uno::Reference<css::drawing::XShape>& chart);
     [[nodiscard]] std::string svgOfMetafile(const uno::Sequence<sal_Int8>& metafile,
-                                            const PictureSize& size);
+                                            const css::awt::Size& size);
 
     /// The same as the bytes of an EMF. A copied picture is on white.
     [[nodiscard]] std::string emfOfChart(const uno::Reference<css::drawing::XShape>& chart);
     [[nodiscard]] std::string emfOfMetafile(const uno::Sequence<sal_Int8>& metafile,
-                                            const PictureSize& size);
+                                            const css::awt::Size& size);
 
     /// What a chart shows in the suite's own vector format, as a range is copied.
     [[nodiscard]] uno::Sequence<sal_Int8> metafileOf(
@@ -83,9 +73,9 @@ private:
     /// What the suite is made to write into the file of this name.
     [[nodiscard]] std::string writtenBy(const std::function<void(const std::string& file)>& write);
     [[nodiscard]] std::string svgOfPage(const uno::Reference<css::graphic::XGraphic>& graphic,
-                                        const PictureSize& size);
-    void writePage(const uno::Reference<css::graphic::XGraphic>& graphic, const PictureSize& size,
-                   const std::string& path);
+                                        const css::awt::Size& size);
+    void writePage(const uno::Reference<css::graphic::XGraphic>& graphic,
+                   const css::awt::Size& size, const std::string& path);
     [[nodiscard]] const uno::Reference<css::document::XExporter>& exporterOf(
         const uno::Reference<css::drawing::XShape>& shape);
 
