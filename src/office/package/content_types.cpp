@@ -75,20 +75,16 @@ std::string ContentTypes::xml() const {
     const Xml document(xml_, ownPart);
     pugi::xml_node root = document.root();
     std::unordered_set<std::string> written;
-    for (pugi::xml_node node = root.first_child(); node;) {
-        const pugi::xml_node next = node.next_sibling();
-        if (isNamed(node, space, "Override")) {
-            const std::string key = keyOf(node.attribute("PartName").value());
-            written.insert(key);
-            const auto own = byPart_.find(key);
-            if (own == byPart_.end()) {
-                root.remove_child(node);
-            } else if (own->second != node.attribute("ContentType").value()) {
-                attributeFor(node, "ContentType").set_value(own->second.c_str());
-            }
-        }
-        node = next;
-    }
+    keepChildren(root, [&](pugi::xml_node node) {
+        if (!isNamed(node, space, "Override")) return true;
+        const std::string key = keyOf(node.attribute("PartName").value());
+        written.insert(key);
+        const auto own = byPart_.find(key);
+        if (own == byPart_.end()) return false;
+        if (own->second != node.attribute("ContentType").value())
+            attributeFor(node, "ContentType").set_value(own->second.c_str());
+        return true;
+    });
     for (const std::string& extension : newExtensions_) {
         pugi::xml_node node = append(root, "Default");
         node.append_attribute("Extension").set_value(extension.c_str());

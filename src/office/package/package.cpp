@@ -357,6 +357,20 @@ Relationships& Package::relationshipsOf(std::string_view part) {
     return content_->relationshipsOf(part);
 }
 
+std::string Package::partOfType(std::string_view source, std::string_view type) {
+    return partOf(relationshipsOf(source), relationshipsOf(source).ofType(type));
+}
+
+std::string Package::partOfId(std::string_view source, std::string_view id) {
+    return partOf(relationshipsOf(source), relationshipsOf(source).withId(id));
+}
+
+std::string Package::partOf(const Relationships& all, const Relationship* one) const {
+    if (one == nullptr || one->isExternal) return {};
+    std::string part = all.partOf(*one);
+    return has(part) ? part : std::string();
+}
+
 void Package::save(const std::filesystem::path& file) {
     content_->putMarkup();
     ZipOutput output(file);

@@ -108,7 +108,11 @@ public:
 
     /// Of a part; of the package itself for "/". A change through it is written with the package.
     /// It stays where it is until the part is removed. `PackageError`.
-    [[nodiscard]] Relationships& relationshipsOf(std::string_view part);
+    Relationships& relationshipsOf(std::string_view part);
+    /// The part that a relationship of a type, or of an id, leads to. Empty if there is none in the
+    /// package.
+    [[nodiscard]] std::string partOfType(std::string_view source, std::string_view type);
+    [[nodiscard]] std::string partOfId(std::string_view source, std::string_view id);
 
     /// Writes the package to a file that isn't there yet. `PackageError` Unreadable with the
     /// system's reason; what was begun is removed.
@@ -119,6 +123,8 @@ public:
 private:
     class Content;
     explicit Package(std::unique_ptr<Content> content);
+    std::string partOf(const Relationships& all, const Relationship* one) const;
+
     std::unique_ptr<Content> content_;
 };
 

@@ -90,26 +90,25 @@ std::string Relationships::freeId() {
 }
 
 std::string Relationships::add(std::string_view type, std::string_view part) {
-    Relationship added{{}, fullType(type), targetOf(source_, part), false};
+    const Relationship added{{}, fullType(type), targetOf(source_, part), false};
     const std::string destination = destinationOf(added);
     if (const auto found = byDestination_.find(destination); found != byDestination_.end())
         return found->second;
-    added.id = freeId();
-    ids_.insert(added.id);
-    added_.insert(added.id);
-    byDestination_.emplace(destination, added.id);
-    places_.emplace(added.id, all_.size());
-    all_.push_back(added);
-    return added.id;
+    byDestination_.emplace(destination, append(added));
+    return all_.back().id;
 }
 
 std::string Relationships::addExternal(std::string_view type, const std::string& address) {
-    const Relationship added{freeId(), fullType(type), address, true};
+    return append({{}, fullType(type), address, true});
+}
+
+std::string Relationships::append(Relationship added) {
+    added.id = freeId();
     ids_.insert(added.id);
     added_.insert(added.id);
     places_.emplace(added.id, all_.size());
-    all_.push_back(added);
-    return added.id;
+    all_.push_back(std::move(added));
+    return all_.back().id;
 }
 
 void Relationships::remove(std::string id) {
@@ -128,13 +127,10 @@ std::string Relationships::xml() const {
     if (!isChanged()) return xml_;
     const Xml document(xml_, relationshipsPartOf(source_));
     pugi::xml_node root = document.root();
-    for (pugi::xml_node node = root.first_child(); node;) {
-        const pugi::xml_node next = node.next_sibling();
-        if (isNamed(node, relationshipsSpace, "Relationship") &&
-            removed_.contains(node.attribute("Id").value()))
-            root.remove_child(node);
-        node = next;
-    }
+    keepChildren(root, [&](pugi::xml_node node) {
+        return !isNamed(node, relationshipsSpace, "Relationship") ||
+               !removed_.contains(node.attribute("Id").value());
+    });
     // In the prefix of the root: "Relationship" is "Relationships" without its last letter.
     std::string name = root.name();
     name.pop_back();

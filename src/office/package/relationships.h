@@ -50,6 +50,7 @@ public:
 private:
     [[nodiscard]] std::string destinationOf(const Relationship& relationship) const;
     std::string freeId();
+    std::string append(Relationship added);
 
     std::string source_;
     std::string xml_;

@@ -64,27 +64,22 @@ public:
     bool isTooRich = false;
 };
 
-/// Whether an element is understood where it stands, and needs no other part.
-class Independence : public pugi::xml_tree_walker {
-public:
-    bool for_each(pugi::xml_node& node) override {
-        holds = holds && isKnown(node, node.name());
-        for (const pugi::xml_attribute attribute : node.attributes()) {
-            const auto prefix = split(attribute.name()).first;
-            holds = holds && (prefix.empty() || prefix == "xml" || prefix == "xmlns" ||
-                              (isKnown(node, attribute.name()) &&
-                               namespaceOf(node, prefix) != ns::relationships));
-        }
-        return holds;
-    }
-
-    bool holds = true;
-
-private:
-    static bool isKnown(pugi::xml_node at, std::string_view qualified) {
-        return at.type() != pugi::node_element || !namespaceOf(at, split(qualified).first).empty();
-    }
-};
+/// Whether an element and all in it are understood where they stand, and need no other part.
+bool isIndependent(pugi::xml_node node) {
+    const auto isKnown = [&](std::string_view prefix) {
+        return node.type() != pugi::node_element || !namespaceOf(node, prefix).empty();
+    };
+    const auto attributes = node.attributes();
+    return isKnown(split(node.name()).first) &&
+           std::all_of(
+               attributes.begin(), attributes.end(),
+               [&](const pugi::xml_attribute& attribute) {
+                   const auto prefix = split(attribute.name()).first;
+                   return prefix.empty() || prefix == "xml" || prefix == "xmlns" ||
+                          (isKnown(prefix) && namespaceOf(node, prefix) != ns::relationships);
+               }) &&
+           std::all_of(node.begin(), node.end(), isIndependent);
+}
 
 struct BytesWriter : pugi::xml_writer {
     void write(const void* data, size_t size) override {
@@ -94,32 +89,24 @@ struct BytesWriter : pugi::xml_writer {
 };
 
 /// The prefixes that an element and all in it are written with.
-class UsedPrefixes : public pugi::xml_tree_walker {
-public:
-    explicit UsedPrefixes(pugi::xml_node element) {
-        for_each(element);
-        element.traverse(*this);
-    }
-    bool for_each(pugi::xml_node& node) override {
-        prefixes_.emplace(split(node.name()).first);
+std::set<std::string_view> usedPrefixes(pugi::xml_node element) {
+    std::set<std::string_view> used;
+    const auto take = [&](pugi::xml_node node) {
+        used.insert(split(node.name()).first);
         for (const pugi::xml_attribute attribute : node.attributes())
-            prefixes_.emplace(split(attribute.name()).first);
-        return true;
-    }
-    [[nodiscard]] bool has(std::string_view prefix) const {
-        return prefixes_.contains(std::string(prefix));
-    }
-
-private:
-    std::set<std::string> prefixes_;
-};
+            used.insert(split(attribute.name()).first);
+    };
+    take(element);
+    visitBelow(element, take);
+    return used;
+}
 
 /// Declares the prefixes of an element that stands where its document has others or none.
 void declarePrefixes(pugi::xml_node element) {
-    const UsedPrefixes used(element);
+    const std::set<std::string_view> used = usedPrefixes(element);
     for (const auto& [declaration, space] : ownPrefixes) {
         const std::string_view prefix = split(declaration).second;
-        if (used.has(prefix) && namespaceOf(element, prefix) != space)
+        if (used.contains(prefix) && namespaceOf(element, prefix) != space)
             element.append_attribute(std::string(declaration).c_str())
                 .set_value(std::string(space).c_str());
     }
@@ -256,10 +243,7 @@ pugi::xml_node insertMarkup(pugi::xml_node parent, const std::string& markup,
 
 pugi::xml_node adopt(pugi::xml_node parent, pugi::xml_node element) {
     pugi::xml_node copy = parent.append_copy(element);
-    Independence independence;
-    independence.for_each(copy);
-    copy.traverse(independence);
-    if (independence.holds) return copy;
+    if (isIndependent(copy)) return copy;
     parent.remove_child(copy);
     return {};
 }

@@ -86,6 +86,35 @@ pugi::xml_node childInOrder(pugi::xml_node parent, std::string_view space, std::
 pugi::xml_node insertMarkup(pugi::xml_node parent, const std::string& markup,
                             pugi::xml_node before = {});
 
+/// Takes the children out that don't satisfy something.
+template <class Test>
+void keepChildren(pugi::xml_node parent, const Test& isKept) {
+    for (pugi::xml_node child = parent.first_child(); child;) {
+        const pugi::xml_node next = child.next_sibling();
+        if (!isKept(child)) parent.remove_child(child);
+        child = next;
+    }
+}
+
+/// Shows all nodes below one, in their order.
+template <class Visit>
+void visitBelow(pugi::xml_node parent, const Visit& visit) {
+    for (const pugi::xml_node child : parent.children()) {
+        visit(child);
+        visitBelow(child, visit);
+    }
+}
+
+/// All elements below one that satisfy something, in their order.
+template <class Test>
+[[nodiscard]] std::vector<pugi::xml_node> elementsBelow(pugi::xml_node parent, const Test& test) {
+    std::vector<pugi::xml_node> found;
+    visitBelow(parent, [&](pugi::xml_node node) {
+        if (node.type() == pugi::node_element && test(node)) found.push_back(node);
+    });
+    return found;
+}
+
 /// Puts a copy of an element of another document in as the last child. Null, and nothing is put in,
 /// for one that needs a namespace which isn't known here, or that leads to other parts.
 pugi::xml_node adopt(pugi::xml_node parent, pugi::xml_node element);

@@ -8,9 +8,13 @@
 #include <string_view>
 #include <vector>
 
+#include "office/package/xml.h"
+
 namespace libreoffice::excel {
 
 namespace {
+
+using office::package::elementsBelow;
 
 constexpr unsigned asWritten =
     pugi::parse_default | pugi::parse_ws_pcdata | pugi::parse_doctype | pugi::parse_declaration;
@@ -35,22 +39,6 @@ pugi::xml_node nextElement(pugi::xml_node node) {
     do node = node.next_sibling();
     while (node && node.type() != pugi::node_element);
     return node;
-}
-
-using Condition = bool (*)(const pugi::xml_node&);
-
-std::vector<pugi::xml_node> allOf(pugi::xml_document& document, Condition condition) {
-    struct Walker : pugi::xml_tree_walker {
-        bool for_each(pugi::xml_node& node) override {
-            if (condition(node)) found.push_back(node);
-            return true;
-        }
-        Condition condition = nullptr;
-        std::vector<pugi::xml_node> found;
-    } walker;
-    walker.condition = condition;
-    document.traverse(walker);
-    return walker.found;
 }
 
 bool isTurnedText(const pugi::xml_node& node) {
@@ -100,12 +88,12 @@ void dropClipsOfPage(pugi::xml_document& document, const SuiteSvg& page) {
     const std::string outline =
         fmt::format("M 0,0 L {0},0 {0},{1} 0,{1} 0,0 Z ", page.pageWidth, page.pageHeight);
     std::vector<std::string> ofPage;
-    for (const pugi::xml_node& clip : allOf(document, isClip)) {
+    for (const pugi::xml_node& clip : elementsBelow(document, isClip)) {
         const pugi::xml_node path = clip.child("path");
         if (outline == path.attribute("d").value() && !nextElement(path))
             ofPage.push_back(fmt::format("url(#{})", clip.attribute("id").value()));
     }
-    for (pugi::xml_node& group : allOf(document, isClipped)) {
+    for (pugi::xml_node& group : elementsBelow(document, isClipped)) {
         if (std::find(ofPage.begin(), ofPage.end(), group.attribute("clip-path").value()) !=
             ofPage.end())
             group.remove_attribute("clip-path");
@@ -131,8 +119,8 @@ std::string mended(const SuiteSvg& page) {
     set("preserveAspectRatio", "none");
     // What has no width of its own inherits this one.
     set("stroke-width", fmt::format("{:.3f}", page.hairline));
-    for (const pugi::xml_node& text : allOf(document, isTurnedText)) turnAroundItself(text);
-    for (const pugi::xml_node& group : allOf(document, isLostOpacity)) giveBack(group);
+    for (const pugi::xml_node& text : elementsBelow(document, isTurnedText)) turnAroundItself(text);
+    for (const pugi::xml_node& group : elementsBelow(document, isLostOpacity)) giveBack(group);
     dropClipsOfPage(document, page);
     std::ostringstream written;
     document.save(written, "", pugi::format_raw);

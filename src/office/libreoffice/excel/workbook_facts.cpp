@@ -28,10 +28,8 @@ pugi::xml_node childNamed(const pugi::xml_node& parent, std::string_view name) {
 
 WorkbookFacts factsOf(office::package::Package package) {
     WorkbookFacts facts;
-    const auto& ofPackage = package.relationshipsOf("/");
-    const auto* const main = ofPackage.ofType("officeDocument");
-    if (main == nullptr) return facts;
-    const std::string part = ofPackage.partOf(*main);
+    const std::string part = package.partOfType("/", "officeDocument");
+    if (part.empty()) return facts;
     const std::string text = package.read(part);
     pugi::xml_document document;
     if (!document.load_buffer(text.data(), text.size())) return facts;

@@ -17,26 +17,17 @@ constexpr const char* noProperties =
     R"(<cp:coreProperties)"
     R"( xmlns:cp="http://schemas.openxmlformats.org/package/2006/metadata/core-properties"/>)";
 
-/// The part that holds them; empty if there is none.
-std::string partWithProperties(Package& package) {
-    const Relationships& relationships = package.relationshipsOf("/");
-    const Relationship* const found = relationships.ofType(coreProperties);
-    if (found == nullptr || found->isExternal) return {};
-    const std::string part = relationships.partOf(*found);
-    return package.has(part) ? part : std::string();
-}
-
 }  // namespace
 
 std::string titleOf(Package& package) {
-    const std::string part = partWithProperties(package);
+    const std::string part = package.partOfType("/", coreProperties);
     if (part.empty()) return {};
     const Xml properties(package.read(part), part);
     return childNamed(properties.root(), dublinCore, "title").text().get();
 }
 
 void setTitleOf(Package& package, const std::string& title) {
-    std::string part = partWithProperties(package);
+    std::string part = package.partOfType("/", coreProperties);
     if (part.empty()) {
         part = package.freeName("/docProps/core", ".xml");
         package.add(part, corePropertiesType, noProperties);

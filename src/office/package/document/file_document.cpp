@@ -228,26 +228,19 @@ void FileDocument::setPage(const word::Page& page) {
 }
 
 void FileDocument::readDrawingIds() {
-    struct Walker : pugi::xml_tree_walker {
-        bool for_each(pugi::xml_node& node) override {
-            const std::string id = node.attribute("id").value();
-            if (localName(node) == "docPr") taken.insert(node.attribute("id").as_uint());
-            if (id == pictureShapeTypeId) hasShapeType = true;
-            // "_x0000_i1025"
-            const auto number = id.find_last_not_of("0123456789") + 1;
-            if (isNamed(node, ns::vml, "shape") && number < id.size()) {
-                const double shape = leadingNumber(id.substr(number));
-                if (shape > firstVmlShape && shape < UINT32_MAX)
-                    taken.insert(static_cast<unsigned>(shape) - firstVmlShape);
-            }
-            return true;
+    std::set<unsigned>& taken = drawingIds_.emplace();
+    visitBelow(body_, [&](pugi::xml_node node) {
+        const std::string id = node.attribute("id").value();
+        if (localName(node) == "docPr") taken.insert(node.attribute("id").as_uint());
+        if (id == pictureShapeTypeId) hasShapeType_ = true;
+        // "_x0000_i1025"
+        const auto number = id.find_last_not_of("0123456789") + 1;
+        if (isNamed(node, ns::vml, "shape") && number < id.size()) {
+            const double shape = leadingNumber(id.substr(number));
+            if (shape > firstVmlShape && shape < UINT32_MAX)
+                taken.insert(static_cast<unsigned>(shape) - firstVmlShape);
         }
-        std::set<unsigned> taken;
-        bool hasShapeType = false;
-    } walker;
-    body_.traverse(walker);
-    drawingIds_ = std::move(walker.taken);
-    hasShapeType_ = walker.hasShapeType;
+    });
 }
 
 unsigned FileDocument::freeDrawingId() {

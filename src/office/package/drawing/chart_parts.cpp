@@ -43,10 +43,8 @@ constexpr std::array<std::pair<const char*, const char*>, 12> plainColours = {{
 /// Programs tell by these properties what the file was written by.
 FlagDefaults defaultsOf(Package& book) {
     try {
-        const Relationships& relationships = book.relationshipsOf("/");
-        const Relationship* const found = relationships.ofType("extended-properties");
-        if (found == nullptr) return FlagDefaults::Standard;
-        const std::string part = relationships.partOf(*found);
+        const std::string part = book.partOfType("/", "extended-properties");
+        if (part.empty()) return FlagDefaults::Standard;
         const Xml properties(book.read(part), part);
         const std::string writer = properties.root().child("Application").text().get();
         const std::string version = properties.root().child("AppVersion").text().get();

@@ -85,14 +85,11 @@ std::string DeckLayouts::masterOf(const std::string& layout) {
 }
 
 std::vector<std::string> DeckLayouts::layoutsOf(const std::string& master) {
-    const Relationships& relationships = package_.relationshipsOf(master);
     std::vector<std::string> found;
     const auto list = childNamed(page(master).root(), ns::presentation, "sldLayoutIdLst");
     for (const auto& entry : childrenNamed(list, ns::presentation, "sldLayoutId")) {
-        const Relationship* const one =
-            relationships.withId(attributeNamed(entry, ns::relationships, "id").value());
-        if (one == nullptr || one->isExternal) continue;
-        if (std::string part = relationships.partOf(*one); package_.has(part))
+        const auto id = attributeNamed(entry, ns::relationships, "id");
+        if (std::string part = package_.partOfId(master, id.value()); !part.empty())
             found.push_back(std::move(part));
     }
     return found;

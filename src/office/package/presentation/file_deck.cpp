@@ -275,11 +275,8 @@ void FileDeck::saveCopy(const std::string& path) {
 
 /// The number that file managers show.
 void FileDeck::writeCount() {
-    const Relationships& relationships = package_.relationshipsOf("/");
-    const Relationship* const found = relationships.ofType("extended-properties");
-    if (found == nullptr || found->isExternal) return;
-    const std::string part = relationships.partOf(*found);
-    if (!package_.has(part)) return;
+    const std::string part = package_.partOfType("/", "extended-properties");
+    if (part.empty()) return;
     Xml properties(package_.read(part), part);
     auto count = properties.root().child("Slides");
     if (!count || count.text().as_int() == slideCount()) return;

@@ -169,18 +169,14 @@ model::DeckShapePtr FileSlide::titleShape() {
 
 std::int32_t FileSlide::freeShapeId() {
     constexpr std::uint32_t highest = 0x7FFFFFFE;
-    struct Walker : pugi::xml_tree_walker {
-        bool for_each(pugi::xml_node& node) override {
-            if (std::string_view(node.name()).ends_with("cNvPr"))
-                taken.insert(node.attribute("id").as_uint());
-            return true;
-        }
-        std::set<std::uint32_t> taken = {1};
-    } walker;
-    tree().traverse(walker);
-    std::uint32_t id = *walker.taken.rbegin() + 1;
-    if (*walker.taken.rbegin() > highest) {
-        for (id = 2; walker.taken.contains(id);) ++id;
+    std::set<std::uint32_t> taken = {1};
+    visitBelow(tree(), [&](pugi::xml_node node) {
+        if (std::string_view(node.name()).ends_with("cNvPr"))
+            taken.insert(node.attribute("id").as_uint());
+    });
+    std::uint32_t id = *taken.rbegin() + 1;
+    if (*taken.rbegin() > highest) {
+        for (id = 2; taken.contains(id);) ++id;
     }
     return static_cast<std::int32_t>(id);
 }

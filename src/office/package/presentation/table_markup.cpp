@@ -288,19 +288,12 @@ void stretchTable(pugi::xml_node table, double across, double down) {
                 stretch(properties.attribute(margin), ofText);
         }
     }
-    struct Characters : pugi::xml_tree_walker {
-        double factor = 1;
-        bool for_each(pugi::xml_node& node) override {
-            auto size = node.attribute("sz");
-            if (size &&
-                (isNamed(node, ns::drawing, "rPr") || isNamed(node, ns::drawing, "endParaRPr")))
-                size.set_value(std::max(std::llround(size.as_double() * factor),
-                                        std::llround(smallestSizePt * perPoint)));
-            return true;
-        }
-    } characters;
-    characters.factor = ofText;
-    table.traverse(characters);
+    visitBelow(table, [&](pugi::xml_node node) {
+        auto size = node.attribute("sz");
+        if (size && (isNamed(node, ns::drawing, "rPr") || isNamed(node, ns::drawing, "endParaRPr")))
+            size.set_value(std::max(std::llround(size.as_double() * ofText),
+                                    std::llround(smallestSizePt * perPoint)));
+    });
 }
 
 }  // namespace office::package

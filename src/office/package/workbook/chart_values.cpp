@@ -113,11 +113,10 @@ bool hidesSeries(pugi::xml_node extension) {
 void dropHiddenSeries(const Xml& chart, const FormulaReach& reach) {
     const auto hidden = elementsBelow(chart.root(), hidesSeries);
     std::for_each(hidden.rbegin(), hidden.rend(), [&](pugi::xml_node extension) {
-        const auto formulas = elementsBelow(extension, isFormula);
-        if (std::any_of(formulas.begin(), formulas.end(), [&](const pugi::xml_node& formula) {
-                return reach.leavesSheet(formula.text().get());
-            }))
-            extension.parent().remove_child(extension);
+        const auto leaving = elementsBelow(extension, [&](pugi::xml_node node) {
+            return isFormula(node) && reach.leavesSheet(node.text().get());
+        });
+        if (!leaving.empty()) extension.parent().remove_child(extension);
     });
 }
 

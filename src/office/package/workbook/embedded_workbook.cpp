@@ -8,10 +8,10 @@
 
 #include "office/package/office_file.h"
 #include "office/package/part_name.h"
-#include "office/package/workbook/cell_box.h"
 #include "office/package/workbook/sheet_alone.h"
 #include "office/package/workbook/sheet_head.h"
 #include "office/package/xml.h"
+#include "office/text.h"
 
 namespace office::package {
 
@@ -59,35 +59,35 @@ void selectSheet(Package& workbook, const std::string& sheet, bool isSelected) {
 }
 
 /// The cells that the sheet says are in use.
-CellBox usedCells(const Package& workbook, const std::string& sheet) {
+CellBlock usedCells(const Package& workbook, const std::string& sheet) {
     const SheetHead head(workbook.read(sheet), sheet);
     const auto used = childNamed(head.root(), ns::spreadsheet, "dimension");
-    return cellBox(used.attribute("ref").value()).value_or(CellBox());
+    return blockOf(used.attribute("ref").value()).value_or(CellBlock());
 }
 
-/// Of whole columns or rows, those that are in use.
-CellBox usedPart(const CellBox& lines, const CellBox& used) {
-    const CellBox part{std::max(lines.left, used.left), std::max(lines.top, used.top),
-                       std::min(lines.right, used.right), std::min(lines.bottom, used.bottom)};
-    return part.left <= part.right && part.top <= part.bottom ? part : used;
-}
-
-/// Nothing for a sheet that is a chart.
-std::optional<CellBox> shownCells(WorkbookFile& workbook, const Package& copy,
-                                  const WorkbookSheet& sheet, const CopySource& source) {
+/// Nothing for a sheet that is a chart. Of whole columns or rows, those that are in use.
+std::optional<CellBlock> shownCells(WorkbookFile& workbook, const Package& copy,
+                                    const WorkbookSheet& sheet, const CopySource& source) {
     if (sheet.kind != WorkbookSheet::Kind::Worksheet) return {};
-    std::optional<CellBox> cells = cellBox(source.address);
+    std::optional<CellBlock> cells = blockOf(source.address);
     if (source.kind == CopySource::Kind::Chart) {
         const WorkbookChart* const chart = workbook.chart(sheet, source.chart);
         cells = chart != nullptr ? chart->cells : std::nullopt;
     }
-    if (!cells) return usedCells(copy, sheet.part);
-    const bool isWhole = cells->hasWholeColumns() || cells->hasWholeRows();
-    return isWhole ? usedPart(*cells, usedCells(copy, sheet.part)) : *cells;
+    if (cells && !cells->spansAllRows() && !cells->spansAllColumns()) return cells;
+    const CellBlock used = usedCells(copy, sheet.part);
+    return cells ? intersection(*cells, used).value_or(used) : used;
+}
+
+/// "B4:H20"; "B4" for a single cell.
+std::string plainAddress(const CellBlock& cells) {
+    const std::string first = addressOf(CellBlock::cell(cells.firstRow, cells.firstColumn));
+    const std::string last = addressOf(CellBlock::cell(cells.lastRow, cells.lastColumn));
+    return replaceAll(first == last ? first : first + ":" + last, "$", "");
 }
 
 void show(Package& workbook, const std::string& main, const WorkbookSheet& sheet,
-          const std::optional<CellBox>& cells) {
+          const std::optional<CellBlock>& cells) {
     const Xml xml(workbook.read(main), main);
     pugi::xml_node root = xml.root();
     int place = 0;
@@ -110,7 +110,7 @@ void show(Package& workbook, const std::string& main, const WorkbookSheet& sheet
     root.remove_child(childNamed(root, ns::spreadsheet, "oleSize"));
     if (cells) {
         auto size = childInOrder(root, ns::spreadsheet, "oleSize", workbookOrder);
-        attributeFor(size, "ref").set_value(cells->name().c_str());
+        attributeFor(size, "ref").set_value(plainAddress(*cells).c_str());
     }
     workbook.replace(main, xml.bytes());
 }

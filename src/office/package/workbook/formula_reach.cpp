@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "office/package/workbook/cell_box.h"
+#include "office/model/excel/cell_block.h"
 #include "office/text.h"
 
 namespace office::package {
@@ -105,7 +105,9 @@ private:
             next() == ':' && at_ + 1 < text_.size() && isOfWord(text_[at_ + 1]);
         const bool isEdge = isColumn(found) && (isAfterColon || isBeforeColon);
         const bool isValue = name == "true" || name == "false" || name.starts_with("_xlpm.");
-        if (isNumber || isEdge || isValue || found.front() == '$' || cellBox(found)) return;
+        if (isNumber || isEdge || isValue || found.front() == '$' ||
+            office::model::excel::blockOf(found))
+            return;
         finding_.leaves = !reach_.names_.contains(name);
         if (next() == '[') columns();
     }

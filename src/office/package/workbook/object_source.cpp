@@ -13,13 +13,22 @@ namespace office::package {
 
 namespace {
 
+/// "R4C2:R20C8", "R4C2", and "C2:C8" or "R4:R20" for whole columns or rows.
+std::string addressByNumbers(const CellBlock& cells) {
+    const auto [left, top, right, bottom] = cells;
+    if (cells.spansAllRows()) return fmt::format("C{}:C{}", left + 1, right + 1);
+    if (cells.spansAllColumns()) return fmt::format("R{}:R{}", top + 1, bottom + 1);
+    const std::string first = fmt::format("R{}C{}", top + 1, left + 1);
+    return cells.cells() == 1 ? first : fmt::format("{}:R{}C{}", first, bottom + 1, right + 1);
+}
+
 /// "Sales%202026.xlsx!Sheet%201!R5C2:R8C7", as the program that follows the link reads it: sheets
 /// have no apostrophes there, and cells go by their numbers.
 std::string addressOfCells(const FileRules& rules, const CopySource& source) {
     const std::filesystem::path path(std::u8string(source.file.begin(), source.file.end()));
     const std::string address =
         fmt::format("{}!{}!{}", fileAddress(path, rules.linkBase), addressWord(source.sheet),
-                    cellBox(source.address).value_or(CellBox()).nameByNumbers());
+                    addressByNumbers(blockOf(source.address).value_or(CellBlock())));
     // The colon between two cells must not stand in the first name of a relative address.
     const bool isPlainName = address.find('/') == std::string::npos;
     return isPlainName ? "./" + address : address;

@@ -114,10 +114,8 @@ private:
     /// Of what the file says about itself, which program wrote it stays: what charts leave out
     /// means one thing or the other by its version.
     void keepMaker() {
-        const Relationships& relationships = workbook_.relationshipsOf("/");
-        const Relationship* const found = relationships.ofType("extended-properties");
-        if (found == nullptr) return;
-        const std::string part = relationships.partOf(*found);
+        const std::string part = workbook_.partOfType("/", "extended-properties");
+        if (part.empty()) return;
         const Xml xml(workbook_.read(part), part);
         keepChildren(xml.root(), [](pugi::xml_node child) {
             return localName(child) == "Application" || localName(child) == "AppVersion";
@@ -208,11 +206,10 @@ private:
         if (kind != "chartEx") return true;
         // Charts of the later kinds know no values without cells.
         const Xml chart(target(), part);
-        const auto formulas =
-            elementsBelow(chart.root(), [](pugi::xml_node node) { return localName(node) == "f"; });
-        return std::none_of(formulas.begin(), formulas.end(), [&](const pugi::xml_node& formula) {
-            return reach_.leavesSheet(formula.text().get());
+        const auto leaving = elementsBelow(chart.root(), [&](pugi::xml_node node) {
+            return localName(node) == "f" && reach_.leavesSheet(node.text().get());
         });
+        return leaving.empty();
     }
 
     /// Keeps a part and all that it leads to, reduced to what the sheet needs.

@@ -161,20 +161,6 @@ void reduceStyles(pugi::xml_node root, const std::set<unsigned>& used) {
 
 }  // namespace
 
-std::vector<pugi::xml_node> elementsBelow(pugi::xml_node root, bool (*test)(pugi::xml_node)) {
-    struct Walker : pugi::xml_tree_walker {
-        bool for_each(pugi::xml_node& node) override {
-            if (node.type() == pugi::node_element && test(node)) found.push_back(node);
-            return true;
-        }
-        bool (*test)(pugi::xml_node) = nullptr;
-        std::vector<pugi::xml_node> found;
-    } walker;
-    walker.test = test;
-    root.traverse(walker);
-    return walker.found;
-}
-
 void reduceSheet(const Xml& sheet, const FormulaReach& reach) {
     pugi::xml_node root = sheet.root();
     keepChildren(root, [](pugi::xml_node child) {
@@ -202,17 +188,14 @@ void reduceSheet(const Xml& sheet, const FormulaReach& reach) {
 }
 
 void reduceDrawing(const Xml& drawing, const FormulaReach& reach) {
-    const auto isForeign = [&](pugi::xml_node anchor) {
-        const auto inner = elementsBelow(anchor, [](pugi::xml_node node) {
-            // What a control looks like, and a picture of cells.
-            const std::string_view name = localName(node);
-            return name == "graphicData" || name == "compatExt" || name == "cameraTool";
-        });
-        return std::any_of(inner.begin(), inner.end(), [](const pugi::xml_node& node) {
-            return !keptGraphics.contains(node.attribute("uri").value()) || !firstElement(node);
-        });
+    const auto isForeign = [](pugi::xml_node node) {
+        // What a control looks like, and a picture of cells.
+        const std::string_view name = localName(node);
+        return (name == "graphicData" || name == "compatExt" || name == "cameraTool") &&
+               (!keptGraphics.contains(node.attribute("uri").value()) || !firstElement(node));
     };
-    keepChildren(drawing.root(), [&](pugi::xml_node anchor) { return !isForeign(anchor); });
+    keepChildren(drawing.root(),
+                 [&](pugi::xml_node anchor) { return elementsBelow(anchor, isForeign).empty(); });
     const auto followers = elementsBelow(drawing.root(), [](pugi::xml_node node) {
         return node.attribute("macro") || node.attribute("textlink");
     });

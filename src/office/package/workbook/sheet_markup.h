@@ -1,25 +1,9 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "office/package/workbook/formula_reach.h"
 #include "office/package/xml.h"
 
 namespace office::package {
-
-/// All elements below one that satisfy something, in their order.
-[[nodiscard]] std::vector<pugi::xml_node> elementsBelow(pugi::xml_node root,
-                                                        bool (*test)(pugi::xml_node));
-/// Takes the children out that don't satisfy something.
-template <typename Test>
-void keepChildren(pugi::xml_node parent, Test isKept) {
-    for (pugi::xml_node child = parent.first_child(); child;) {
-        const pugi::xml_node next = child.next_sibling();
-        if (!isKept(child)) parent.remove_child(child);
-        child = next;
-    }
-}
 
 /// Takes out of a sheet what needs more than the sheet: cells keep their values in place of their
 /// formulas, and conditional formats, validation, sparklines and hyperlinks go.

@@ -59,24 +59,19 @@ bool leadsElsewhere(std::string_view formula) {
     return false;
 }
 
-/// What only its data can say against a chart.
-struct DataWalker : pugi::xml_tree_walker {
-    bool for_each(pugi::xml_node& node) override {
-        const std::string_view name = localName(node);
-        if (name == "f" || name == "sqref")
-            isElsewhere = isElsewhere || leadsElsewhere(node.text().get());
-        if (name == "numRef") lacksValues = lacksValues || !has(node, "numCache");
-        if (name == "strRef") lacksValues = lacksValues || !has(node, "strCache");
-        if (name == "multiLvlStrRef") lacksValues = lacksValues || !has(node, "multiLvlStrCache");
-        return true;
-    }
-    static bool has(pugi::xml_node reference, std::string_view cache) {
-        return static_cast<bool>(childNamed(reference, ns::chart, cache));
-    }
+bool leadsElsewhereFrom(pugi::xml_node node) {
+    const std::string_view name = localName(node);
+    return (name == "f" || name == "sqref") && leadsElsewhere(node.text().get());
+}
 
-    bool isElsewhere = false;
-    bool lacksValues = false;
-};
+bool lacksValues(pugi::xml_node node) {
+    const std::string_view name = localName(node);
+    const auto lacks = [&](std::string_view reference, std::string_view cache) {
+        return name == reference && !childNamed(node, ns::chart, cache);
+    };
+    return lacks("numRef", "numCache") || lacks("strRef", "strCache") ||
+           lacks("multiLvlStrRef", "multiLvlStrCache");
+}
 
 /// Whether all that a part's markup names may leave the workbook with it.
 bool canLeave(Package& book, const std::string& part, const Xml& xml, Holder holder) {
@@ -99,12 +94,12 @@ std::string obstacleIn(const Xml& xml) {
     auto root = xml.root();
     if (!isNamed(root, ns::chart, "chartSpace")) return "it is no chart of the usual kind";
     if (childNamed(root, ns::chart, "pivotSource")) return "its data is a pivot table";
-    DataWalker data;
-    root.traverse(data);
-    if (data.isElsewhere || childNamed(root, ns::chart, "externalData"))
+    if (!elementsBelow(root, leadsElsewhereFrom).empty() ||
+        childNamed(root, ns::chart, "externalData"))
         return "its data is in another workbook";
-    if (data.lacksValues) return "its values are not stored in the workbook's file";
-    return {};
+    return elementsBelow(root, lacksValues).empty()
+               ? ""
+               : "its values are not stored in the workbook's file";
 }
 
 std::string obstacleOf(SourceChart& chart, const CopySource& source, WorkbookFiles& workbooks) {
@@ -141,7 +136,7 @@ SourceChart findChart(const CopySource& source, WorkbookFiles& workbooks) {
 
 const std::string& themeOf(WorkbookFile& book) {
     return book.remembered("theme", [&] {
-        const std::string part = book.themePart();
+        const std::string part = book.package().partOfType(book.mainPart(), "theme");
         std::string bytes = part.empty() ? part : book.package().read(part);
         if (!bytes.empty()) static_cast<void>(Xml(bytes, part));
         return bytes;
@@ -158,21 +153,17 @@ std::vector<Companion> companionsOf(Package& book, const std::string& part, Hold
 }
 
 std::vector<pugi::xml_attribute> relationshipIdsIn(const Xml& xml) {
-    struct Walker : pugi::xml_tree_walker {
-        bool for_each(pugi::xml_node& node) override {
-            for (const pugi::xml_attribute attribute : node.attributes()) {
-                const std::string_view name = attribute.name();
-                const auto colon = name.find(':');
-                if (colon == std::string_view::npos || name.starts_with("xml")) continue;
-                if (attributeNamed(node, ns::relationships, name.substr(colon + 1)) == attribute)
-                    found.push_back(attribute);
-            }
-            return true;
+    std::vector<pugi::xml_attribute> found;
+    visitBelow(xml.root(), [&](pugi::xml_node node) {
+        for (const pugi::xml_attribute attribute : node.attributes()) {
+            const std::string_view name = attribute.name();
+            const auto colon = name.find(':');
+            if (colon == std::string_view::npos || name.starts_with("xml")) continue;
+            if (attributeNamed(node, ns::relationships, name.substr(colon + 1)) == attribute)
+                found.push_back(attribute);
         }
-        std::vector<pugi::xml_attribute> found;
-    } walker;
-    xml.root().traverse(walker);
-    return std::move(walker.found);
+    });
+    return found;
 }
 
 }  // namespace office::package

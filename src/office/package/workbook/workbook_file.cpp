@@ -54,29 +54,14 @@ WorkbookSheet::Kind kindOf(const Relationship& relationship) {
     return WorkbookSheet::Kind::Other;
 }
 
-WorkbookSheet::State stateOf(std::string_view word) {
-    if (word == "hidden") return WorkbookSheet::State::Hidden;
-    return word == "veryHidden" ? WorkbookSheet::State::VeryHidden : WorkbookSheet::State::Visible;
-}
-
-/// The part that an id leads to; empty if it leads out of the package or to nothing.
-std::string partOfId(Package& package, const std::string& source, std::string_view id) {
-    const Relationships& relationships = package.relationshipsOf(source);
-    const Relationship* const found = relationships.withId(id);
-    if (found == nullptr || found->isExternal) return {};
-    std::string part = relationships.partOf(*found);
-    return package.has(part) ? part : std::string();
-}
-
-/// Of what is bound to cells, which are counted from 0 there: the number from 1.
-std::uint32_t numberIn(pugi::xml_node corner, std::string_view name, std::uint32_t last) {
-    return std::min(childNamed(corner, ns::spreadsheetDrawing, name).text().as_uint(), last - 1) +
-           1;
+std::int32_t numberIn(pugi::xml_node corner, std::string_view name, std::int32_t last) {
+    const unsigned number = childNamed(corner, ns::spreadsheetDrawing, name).text().as_uint();
+    return static_cast<std::int32_t>(std::min(number, static_cast<unsigned>(last)));
 }
 
 /// The cells under what stands in a drawing. Where only one corner is bound to a cell, all cells
 /// are taken to have their usual size.
-std::optional<CellBox> cellsUnder(pugi::xml_node frame) {
+std::optional<CellBlock> cellsUnder(pugi::xml_node frame) {
     constexpr double columnEmu = 609600;
     constexpr double rowEmu = 190500;
     const auto corner = [&](const char* name) {
@@ -84,21 +69,16 @@ std::optional<CellBox> cellsUnder(pugi::xml_node frame) {
     };
     while (frame && !corner("from")) frame = frame.parent();
     if (!frame) return {};
-    CellBox box{.left = numberIn(corner("from"), "col", CellBox::lastColumn),
-                .top = numberIn(corner("from"), "row", CellBox::lastRow)};
-    const auto away = [&](std::uint32_t from, const char* side, double emu, std::uint32_t last) {
+    const auto ends = [&](const char* line, const char* side, double emu, std::int32_t last) {
+        const std::int32_t first = numberIn(corner("from"), line, last);
+        if (const auto to = corner("to")) return std::pair(first, numberIn(to, line, last));
         const double length = std::max(0.0, corner("ext").attribute(side).as_double());
-        return from +
-               static_cast<std::uint32_t>(std::min(length / emu, static_cast<double>(last - from)));
+        const double more = std::min(length / emu, static_cast<double>(last - first));
+        return std::pair(first, first + static_cast<std::int32_t>(more));
     };
-    const auto to = corner("to");
-    box.right = to ? numberIn(to, "col", CellBox::lastColumn)
-                   : away(box.left, "cx", columnEmu, CellBox::lastColumn);
-    box.bottom =
-        to ? numberIn(to, "row", CellBox::lastRow) : away(box.top, "cy", rowEmu, CellBox::lastRow);
-    box.right = std::max(box.right, box.left);
-    box.bottom = std::max(box.bottom, box.top);
-    return box;
+    const auto [left, right] = ends("col", "cx", columnEmu, CellBlock::lastColumnOfSheet);
+    const auto [top, bottom] = ends("row", "cy", rowEmu, CellBlock::lastRowOfSheet);
+    return CellBlock{left, top, std::max(left, right), std::max(top, bottom)};
 }
 
 std::optional<WorkbookChart> chartIn(Package& package, const std::string& drawing,
@@ -112,7 +92,7 @@ std::optional<WorkbookChart> chartIn(Package& package, const std::string& drawin
     const auto id = attributeNamed(standard ? standard : extended, ns::relationships, "id");
     return WorkbookChart{
         .name = childNamed(about, ns::spreadsheetDrawing, "cNvPr").attribute("name").value(),
-        .part = partOfId(package, drawing, id.value()),
+        .part = package.partOfId(drawing, id.value()),
         .isExtended = !standard,
         .cells = cellsUnder(frame)};
 }
@@ -170,12 +150,11 @@ void WorkbookFile::readSheets() {
     const auto list = childNamed(workbook.root(), ns::spreadsheet, "sheets");
     for (const auto& entry : childrenNamed(list, ns::spreadsheet, "sheet")) {
         const std::string id = attributeNamed(entry, ns::relationships, "id").value();
-        const std::string part = partOfId(package_, main_, id);
+        const std::string part = package_.partOfId(main_, id);
         if (part.empty()) continue;
         sheets_.push_back({.name = entry.attribute("name").value(),
                            .part = part,
-                           .kind = kindOf(*relationships.withId(id)),
-                           .state = stateOf(entry.attribute("state").value())});
+                           .kind = kindOf(*relationships.withId(id))});
     }
 }
 
@@ -194,22 +173,14 @@ const std::vector<WorkbookChart>& WorkbookFile::chartsOf(const WorkbookSheet& sh
 }
 
 std::vector<WorkbookChart> WorkbookFile::readCharts(const WorkbookSheet& sheet) {
-    const Relationships& relationships = package_.relationshipsOf(sheet.part);
-    const Relationship* const found = relationships.ofType("drawing");
-    if (found == nullptr || found->isExternal) return {};
-    const std::string drawing = relationships.partOf(*found);
-    if (!package_.has(drawing)) return {};
+    const std::string drawing = package_.partOfType(sheet.part, "drawing");
+    if (drawing.empty()) return {};
     const Xml xml(package_.read(drawing), drawing);
-    struct Walker : pugi::xml_tree_walker {
-        bool for_each(pugi::xml_node& node) override {
-            if (isNamed(node, ns::spreadsheetDrawing, "graphicFrame")) frames.push_back(node);
-            return true;
-        }
-        std::vector<pugi::xml_node> frames;
-    } walker;
-    xml.root().traverse(walker);
+    const auto isFrame = [](pugi::xml_node node) {
+        return isNamed(node, ns::spreadsheetDrawing, "graphicFrame");
+    };
     std::vector<WorkbookChart> charts;
-    for (const pugi::xml_node frame : walker.frames) {
+    for (const pugi::xml_node frame : elementsBelow(xml.root(), isFrame)) {
         if (auto chart = chartIn(package_, drawing, frame)) charts.push_back(*std::move(chart));
     }
     std::vector<std::string> names;
@@ -226,14 +197,6 @@ const WorkbookChart* WorkbookFile::chart(const WorkbookSheet& sheet, std::string
         return sameIgnoringCase(one.name, name);
     });
     return found == charts.end() ? nullptr : &*found;
-}
-
-std::string WorkbookFile::themePart() {
-    const Relationships& relationships = package_.relationshipsOf(main_);
-    const Relationship* const found = relationships.ofType("theme");
-    if (found == nullptr || found->isExternal) return {};
-    std::string part = relationships.partOf(*found);
-    return package_.has(part) ? part : std::string();
 }
 
 std::string WorkbookFile::bytes() const {

@@ -11,10 +11,13 @@
 #include <unordered_map>
 #include <vector>
 
+#include "office/model/excel/cell_block.h"
 #include "office/package/package.h"
-#include "office/package/workbook/cell_box.h"
 
 namespace office::package {
+
+using office::model::excel::blockOf;
+using office::model::excel::CellBlock;
 
 /// What a workbook's file is by its ending, with macros or without.
 struct WorkbookFormat {
@@ -29,12 +32,10 @@ struct WorkbookFormat {
 
 struct WorkbookSheet {
     enum class Kind { Worksheet, ChartSheet, Other };
-    enum class State { Visible, Hidden, VeryHidden };
 
     std::string name;
     std::string part;
     Kind kind = Kind::Worksheet;
-    State state = State::Visible;
 };
 
 /// A chart in a sheet's drawing.
@@ -47,7 +48,7 @@ struct WorkbookChart {
     /// own.
     bool isExtended = false;
     /// The cells that it covers; nothing for one that isn't bound to cells.
-    std::optional<CellBox> cells;
+    std::optional<CellBlock> cells;
 };
 
 /// A workbook's package, of which something is pasted elsewhere. It is only read, and no more of it
@@ -73,8 +74,6 @@ public:
     /// By its name in any case; of an empty name the only one that the sheet has. Null if there is
     /// none.
     [[nodiscard]] const WorkbookChart* chart(const WorkbookSheet& sheet, std::string_view name);
-    /// Empty if it has none.
-    [[nodiscard]] std::string themePart();
     /// The whole file. TooLarge for one that no presentation should carry.
     [[nodiscard]] std::string bytes() const;
     /// What is made of it for a purpose, once for all that ask.
