@@ -101,7 +101,6 @@ void UserformObj::loadForm() {
         ActiveWbk.setText(
             fmt::format("Active Workbook:{} ", session_.ActiveBook.get("Name").toText()));
     }
-    session_.MainFormOpen = true;
     furniture::ApplyTheme(*this);
     resizeColumns();
     recolourRows();
@@ -131,7 +130,6 @@ void UserformObj::listChartsShowPreview() {
 }
 
 void UserformObj::Form_Unload() {
-    session_.MainFormOpen = false;
     keepList();
     office::ContinueOnFailure scope;
     scope.attempt([this] { session_.ExcelApp.put("ScreenUpdating", true); });

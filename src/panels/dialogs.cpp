@@ -45,7 +45,6 @@ void RunExport(session::OfficeSession& session, forms::Form& dialog, std::int32_
 
 void CloseAllAndEnd(session::OfficeSession& session, forms::Desktop& desktop) {
     office::ContinueOnFailure scope;
-    session.MainFormOpen = false;
     scope.attempt([&] { session.progress.unload(); });
     scope.attempt([&] {
         if (forms::Form* main = desktop.findLoaded(mainForm)) desktop.unload(*main);

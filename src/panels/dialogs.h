@@ -36,9 +36,8 @@ private:
 void RunExport(session::OfficeSession& session, forms::Form& dialog, std::int32_t total,
                const std::function<void()>& batch);
 
-/// The end after an export: unloads the main form, which saves its list, then all others, and lets
-/// go of presentation and applications. Clears `MainFormOpen`, by which the program ends. Failures
-/// are passed over.
+/// The end after an export: unloads the main form, which saves its list, then all others, by which
+/// the program ends, and lets go of presentation and applications. Failures are passed over.
 void CloseAllAndEnd(session::OfficeSession& session, forms::Desktop& desktop);
 
 }  // namespace panels

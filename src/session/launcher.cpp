@@ -249,7 +249,6 @@ int Main(OfficeSession& session, std::string_view commandLine, const CommandHand
 }
 
 void CloseSession(OfficeSession& session, const std::function<void()>& unloadAllForms) {
-    session.MainFormOpen = false;
     session.ActiveBook.release();
     session.SessionPresentation.release();
     session.SessionDocument.release();
@@ -265,9 +264,7 @@ int OpenMainForm(OfficeSession& session, const CommandHandlers& handlers) {
     if (!CanKeepStore(session)) return commandDone;
     EnsureStoreSheet(session);
     session.host.letEventsRun();
-    session.MainFormOpen = true;
     handlers.ShowMainForm();
-    while (session.MainFormOpen) session.host.letEventsRun();
     return commandDone;
 }
 

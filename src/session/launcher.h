@@ -20,8 +20,7 @@ struct CommandHandlers {
     std::function<void()> CountWorkbookItems;
     std::function<void()> ShowAboutForm;
     std::function<void()> ShowLayoutUtility;
-    /// Makes `UserformObj` if needed and shows it modeless; it clears `MainFormOpen` when it has
-    /// closed.
+    /// Shows `UserformObj` modeless and returns when it has closed.
     std::function<void()> ShowMainForm;
     std::function<void(SlidePaste)> PasteSelectionToSlide;
     std::function<void(WordPaste)> PasteSelectionToWord;

@@ -39,7 +39,6 @@ struct OfficeSession {
     /// The look that the user has chosen for what comes to slides; none at the start.
     std::int16_t PictureStyle = 0;
     bool PowerPointFound = false;
-    bool MainFormOpen = false;
     std::int16_t ItemCount = 0;
     office::WindowHandle PowerPointFrameHandle = 0;
 };

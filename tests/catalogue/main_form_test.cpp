@@ -98,7 +98,6 @@ TEST_F(TheMainForm, comesUpFilledOnPowerPointPicturesAndNewSlides) {
     EXPECT_EQ(form.Check1.value(), CheckBox::State::Checked)
         << "the red row was counted before it was unchecked";
     EXPECT_FALSE(form.TitlesFrame.visible);
-    EXPECT_TRUE(test.session.MainFormOpen);
     EXPECT_FALSE(form.choices().predefinedSlides);
     EXPECT_FALSE(form.Option1[3].visible) << "PDF is not offered";
 }
@@ -247,7 +246,6 @@ TEST_F(TheMainForm, endsWithItsLoadingForm) {
     test.progress.isLoadingCancelled = true;
     UserformObj& form = open();
     EXPECT_FALSE(desktop.isLoaded(form));
-    EXPECT_FALSE(test.session.MainFormOpen);
     EXPECT_TRUE(desktop.record.empty() || desktop.record.back() != "show UserformObj modeless");
 }
 
@@ -392,7 +390,6 @@ TEST_F(TheMainForm, keepsItsListInItsWorkbookWhicheverTheUserLooksAt) {
     test.session.ActiveBook =
         test.session.ExcelApp.get("Workbooks").get("Item", "Other.xlsx").toObject();
     closeAndAttach(form);
-    EXPECT_FALSE(test.session.MainFormOpen);
     UserformObj& again = open();
     EXPECT_EQ(again.list().rows[0].name, "Chart 2");
     EXPECT_EQ(again.list().rows[0].caption, "Kept");

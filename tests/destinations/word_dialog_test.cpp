@@ -53,7 +53,6 @@ TEST_F(WordDialogTest, SaysWhereItGoesAndHandsItsOptionsToTheBatch) {
     EXPECT_TRUE(pageHas("Report.docx") && pageHas("pictures")) << page;
     EXPECT_EQ(document.captions(), (Texts{"Turnover 1", "Turnover 2"}));
     EXPECT_TRUE(document.pdfs.empty());
-    EXPECT_FALSE(session.MainFormOpen);
     EXPECT_FALSE(session.WordApp);
 }
 

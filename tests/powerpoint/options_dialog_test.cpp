@@ -173,7 +173,7 @@ TEST_F(PowerPointDialog, HandsItsOptionsToTheExportAndEndsTheSession) {
     EXPECT_TRUE(desktop.loadedForms().empty());
     EXPECT_FALSE(main.takesInput) << "the rows are being read";
     EXPECT_TRUE(session.PowerPointApp.isNothing());
-    EXPECT_FALSE(session.ExcelApp || session.SessionPresentation || session.MainFormOpen);
+    EXPECT_FALSE(session.ExcelApp || session.SessionPresentation);
     EXPECT_EQ(progress.calls.front(), "item 0 of 2");
     EXPECT_EQ(suite.log().texts("DisplayAlerts"),
               (Strings{"Application.DisplayAlerts", "Application.DisplayAlerts = False",

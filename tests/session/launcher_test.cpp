@@ -24,10 +24,7 @@ struct CommandRecorder {
         };
         handlers.ShowAboutForm = [this] { ran.emplace_back("about"); };
         handlers.ShowLayoutUtility = [this] { ran.emplace_back("layout"); };
-        handlers.ShowMainForm = [this] {
-            ran.emplace_back("main form");
-            session.MainFormOpen = false;
-        };
+        handlers.ShowMainForm = [this] { ran.emplace_back("main form"); };
         handlers.PasteSelectionToSlide = [this](session::SlidePaste mode) {
             ran.push_back("slide " + std::to_string(static_cast<int>(mode)));
         };
@@ -193,19 +190,13 @@ protected:
     }
 };
 
-TEST_F(MainForm, IsShownOnceTheWorkbookHasItsStoreAndKeepsTheCommandRunning) {
-    int pumpsUntilClosed = 3;
+TEST_F(MainForm, IsShownOnceTheWorkbookHasItsStore) {
     recorder.handlers.ShowMainForm = [&] {
         recorder.ran.emplace_back("main form");
         EXPECT_TRUE(session::SheetExists(test.session, session::store::sheetName));
-        test.host.pumps = 0;
-    };
-    test.host.onEvents = [&] {
-        if (formWasShown() && --pumpsUntilClosed == 0) test.session.MainFormOpen = false;
     };
     EXPECT_EQ(run("/112"), 0);
     EXPECT_TRUE(formWasShown());
-    EXPECT_EQ(test.host.pumps, 3);
 }
 
 TEST_F(MainForm, LeavesAWorkbookWithoutItemsAlone) {
@@ -267,13 +258,11 @@ TEST(Closing, LetsGoOfEverythingAndEndsNoApplication) {
     test.attach();
     test.session.SessionPresentation =
         test.session.PowerPointApp.get("ActivePresentation").toObject();
-    test.session.MainFormOpen = true;
     int unloaded = 0;
     session::CloseSession(test.session, [&] {
         ++unloaded;
         throw office::Failure(5, "Form", "no");
     });
-    EXPECT_FALSE(test.session.MainFormOpen);
     EXPECT_FALSE(test.session.ActiveBook || test.session.SessionPresentation ||
                  test.session.ExcelApp || test.session.PowerPointApp);
     EXPECT_EQ(unloaded, 1);

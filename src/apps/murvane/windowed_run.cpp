@@ -131,7 +131,6 @@ void Windows::showMainForm() {
         session::ShowWarningNotice(session_.notices,
                                    "The main form is open for this workbook already.\r"
                                    "Go on there, or close it first.");
-        session_.MainFormOpen = false;
         return;
     }
     catalogue::MainFormHooks hooks;
@@ -165,9 +164,7 @@ void Windows::showMainForm() {
     };
     mainForm_ = std::make_unique<catalogue::UserformObj>(desktop_, session_, std::move(hooks));
     desktop_.show(*mainForm_, forms::ShowMode::Modeless);
-    // Not by `MainFormOpen`: the form may be closed while a dialog above it is up.
     while (desktop_.isLoaded(*mainForm_)) desktop_.waitForEvents();
-    session_.MainFormOpen = false;
 }
 
 int pasteSelection(const DesktopSource& desktop, const std::string& commandLine, Console& console,

@@ -181,10 +181,7 @@ int Run::perform() {
     std::optional<int> result;
     session::CommandHandlers handlers;
     handlers.CountWorkbookItems = [&] { catalogue::CountWorkbookItems(session_); };
-    handlers.ShowMainForm = [&] {
-        session_.MainFormOpen = false;
-        result = workOnItems();
-    };
+    handlers.ShowMainForm = [&] { result = workOnItems(); };
     session::Main(session_, mainFormCode, handlers);
     return result.value_or(exit_code::blocked);
 }
