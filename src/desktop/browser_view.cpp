@@ -31,7 +31,7 @@ constexpr std::chrono::milliseconds betweenTries{50};
 
 BrowserView::BrowserView(forms::WebBrowser& browser, QWidget& parent, ViewHost& host)
     : QWidget(&parent),
-      ControlView(browser, host),
+      ControlView(browser, *this, host),
       browser_(browser) {
     setFocusPolicy(Qt::StrongFocus);
     browser_.view = this;

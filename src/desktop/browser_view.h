@@ -19,7 +19,6 @@ class BrowserView final : public QWidget, public ControlView, public forms::Brow
 public:
     BrowserView(forms::WebBrowser& browser, QWidget& parent, ViewHost& host);
 
-    QWidget& widget() override { return *this; }
     void detach(bool controlIsThere) override;
 
     void navigate(std::string_view url) override;

@@ -28,14 +28,12 @@ class ButtonView final : public QPushButton, public ControlView {
 public:
     ButtonView(forms::CommandButton& button, QWidget& parent, ViewHost& host)
         : QPushButton(&parent),
-          ControlView(button, host),
+          ControlView(button, *this, host),
           button_(button) {
         setAttribute(Qt::WA_Hover);
         setFocusPolicy(Qt::StrongFocus);
         connect(this, &QPushButton::clicked, this, [this] { tell([this] { button_.press(); }); });
     }
-
-    QWidget& widget() override { return *this; }
 
 protected:
     void paintEvent(QPaintEvent*) override {
@@ -77,13 +75,11 @@ class CheckBoxView final : public QCheckBox, public ControlView {
 public:
     CheckBoxView(forms::CheckBox& box, QWidget& parent, ViewHost& host)
         : QCheckBox(&parent),
-          ControlView(box, host),
+          ControlView(box, *this, host),
           box_(box) {
         setAttribute(Qt::WA_Hover);
         setFocusPolicy(Qt::StrongFocus);
     }
-
-    QWidget& widget() override { return *this; }
 
 protected:
     void paintEvent(QPaintEvent*) override {
@@ -144,14 +140,12 @@ class OptionView final : public QRadioButton, public ControlView {
 public:
     OptionView(forms::OptionButton& option, QWidget& parent, ViewHost& host)
         : QRadioButton(&parent),
-          ControlView(option, host),
+          ControlView(option, *this, host),
           option_(option) {
         setAttribute(Qt::WA_Hover);
         setAutoExclusive(false);
         setFocusPolicy(Qt::StrongFocus);
     }
-
-    QWidget& widget() override { return *this; }
 
 protected:
     void paintEvent(QPaintEvent*) override {

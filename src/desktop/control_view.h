@@ -40,12 +40,15 @@ public:
 /// from its own copy only, so that it may outlive the control by the rest of an event.
 class ControlView {
 public:
-    ControlView(forms::Control& control, ViewHost& host) : control_(control), host_(host) {}
+    ControlView(forms::Control& control, QWidget& widget, ViewHost& host)
+        : control_(control),
+          widget_(widget),
+          host_(host) {}
     ControlView(const ControlView&) = delete;
     ControlView& operator=(const ControlView&) = delete;
     virtual ~ControlView() = default;
 
-    [[nodiscard]] virtual QWidget& widget() = 0;
+    [[nodiscard]] QWidget& widget() const { return widget_; }
     /// Takes over what has changed in the control. Raises no event of the control.
     void sync();
     /// The last call before the window goes; `controlIsThere` unless the control has gone first.
@@ -93,6 +96,7 @@ private:
     void applyLook(const Look& before);
 
     forms::Control& control_;
+    QWidget& widget_;
     ViewHost& host_;
     Look look_;
     bool hasLook_ = false;

@@ -22,7 +22,7 @@ class TextBoxView final : public QLineEdit, public ControlView {
 public:
     TextBoxView(forms::TextBox& box, QWidget& parent, ViewHost& host)
         : QLineEdit(&parent),
-          ControlView(box, host),
+          ControlView(box, *this, host),
           box_(box) {
         setFrame(false);
         setTextMargins(5, 0, 5, 0);
@@ -30,8 +30,6 @@ public:
             tell([this, text = textOf(typed)] { box_.setText(text); });
         });
     }
-
-    QWidget& widget() override { return *this; }
 
 protected:
     void paintEvent(QPaintEvent* event) override {
@@ -96,15 +94,13 @@ public:
         : QSlider(slider.orientation == forms::Slider::Orientation::Vertical ? Qt::Vertical
                                                                              : Qt::Horizontal,
                   &parent),
-          ControlView(slider, host),
+          ControlView(slider, *this, host),
           slider_(slider) {
         setFocusPolicy(Qt::StrongFocus);
         setAttribute(Qt::WA_Hover);
         connect(this, &QSlider::valueChanged, this,
                 [this](int value) { tell([this, value] { slider_.setValue(value); }); });
     }
-
-    QWidget& widget() override { return *this; }
 
 protected:
     void paintEvent(QPaintEvent*) override {

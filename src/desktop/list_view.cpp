@@ -18,7 +18,7 @@ namespace desktop {
 
 ListView::ListView(forms::ListView& list, QWidget& parent, ViewHost& host)
     : QTreeView(&parent),
-      ControlView(list, host),
+      ControlView(list, *this, host),
       list_(list),
       header_(new ListHeader(this)),
       painter_(new RowPainter(this)) {

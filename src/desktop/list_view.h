@@ -16,7 +16,6 @@ class ListView final : public QTreeView, public ControlView {
 public:
     ListView(forms::ListView& list, QWidget& parent, ViewHost& host);
 
-    QWidget& widget() override { return *this; }
     void detach(bool /*controlIsThere*/) override { model_.clear(); }
 
     /// Where a row's check box is, in pixels of the area of the rows. For tests.

@@ -25,12 +25,11 @@ class LabelView final : public QLabel, public ControlView {
 public:
     LabelView(forms::Label& label, QWidget& parent, ViewHost& host)
         : QLabel(&parent),
-          ControlView(label, host),
+          ControlView(label, *this, host),
           label_(label) {
         setTextFormat(Qt::PlainText);
     }
 
-    QWidget& widget() override { return *this; }
     [[nodiscard]] bool isLightweight() const override { return true; }
 
 protected:
@@ -62,12 +61,10 @@ class FrameView final : public QGroupBox, public ControlView {
 public:
     FrameView(forms::Frame& frame, QWidget& parent, ViewHost& host)
         : QGroupBox(&parent),
-          ControlView(frame, host),
+          ControlView(frame, *this, host),
           frame_(frame) {
         setFocusPolicy(Qt::NoFocus);
     }
-
-    QWidget& widget() override { return *this; }
 
 protected:
     void paintEvent(QPaintEvent*) override {
@@ -106,12 +103,11 @@ class ShapeView final : public QWidget, public ControlView {
 public:
     ShapeView(forms::Shape& shape, QWidget& parent, ViewHost& host)
         : QWidget(&parent),
-          ControlView(shape, host),
+          ControlView(shape, *this, host),
           shape_(shape) {
         setAttribute(Qt::WA_TransparentForMouseEvents);
     }
 
-    QWidget& widget() override { return *this; }
     [[nodiscard]] bool isLightweight() const override { return true; }
 
 protected:
@@ -137,9 +133,7 @@ class PictureBoxView final : public QFrame, public ControlView {
 public:
     PictureBoxView(forms::Control& box, QWidget& parent, ViewHost& host)
         : QFrame(&parent),
-          ControlView(box, host) {}
-
-    QWidget& widget() override { return *this; }
+          ControlView(box, *this, host) {}
 
 protected:
     void paintEvent(QPaintEvent*) override {
@@ -156,10 +150,9 @@ class ImageView final : public QLabel, public ControlView {
 public:
     ImageView(forms::Image& image, QWidget& parent, ViewHost& host)
         : QLabel(&parent),
-          ControlView(image, host),
+          ControlView(image, *this, host),
           image_(image) {}
 
-    QWidget& widget() override { return *this; }
     [[nodiscard]] bool isLightweight() const override { return true; }
 
 protected:
@@ -259,13 +252,11 @@ class ProgressView final : public QProgressBar, public ControlView {
 public:
     ProgressView(furniture::ProgressBar& bar, QWidget& parent, ViewHost& host)
         : QProgressBar(&parent),
-          ControlView(bar, host),
+          ControlView(bar, *this, host),
           bar_(bar) {
         setRange(0, 100);
         setTextVisible(false);
     }
-
-    QWidget& widget() override { return *this; }
 
 protected:
     void paintEvent(QPaintEvent*) override {

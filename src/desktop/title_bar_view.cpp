@@ -94,7 +94,7 @@ class TitleBarView final : public QWidget, public ControlView {
 public:
     TitleBarView(furniture::TitleBar& bar, QWidget& parent, ViewHost& host)
         : QWidget(&parent),
-          ControlView(bar, host),
+          ControlView(bar, *this, host),
           bar_(bar) {
         using Sign = TitleBarButton::Sign;
         minimise_ = new TitleBarButton(Sign::Minimise, QStringLiteral("Minimise"), *this, host);
@@ -108,8 +108,6 @@ public:
         wire(maximise_, &furniture::TitleBar::pressMaximise);
         wire(close_, &furniture::TitleBar::pressClose);
     }
-
-    QWidget& widget() override { return *this; }
 
 protected:
     void paintEvent(QPaintEvent*) override {
