@@ -8,7 +8,6 @@
 #include <set>
 
 #include "office/model/powerpoint/objects.h"
-#include "office/model/powerpoint/paste.h"
 #include "office/package/drawing/picture_file.h"
 #include "office/package/part_name.h"
 #include "office/package/presentation/file_deck.h"
@@ -27,23 +26,6 @@ bool isShape(pugi::xml_node node) {
     return std::any_of(shapeNames.begin(), shapeNames.end(), [&](std::string_view name) {
         return isNamed(node, ns::presentation, name);
     });
-}
-
-std::string boxMarkup(const model::Point& corner, const model::Size& size) {
-    return fmt::format(R"(<a:xfrm><a:off x="{}" y="{}"/><a:ext cx="{}" cy="{}"/></a:xfrm>)",
-                       emuOf(corner.left), emuOf(corner.top), emuOf(size.width),
-                       emuOf(size.height));
-}
-
-std::string chartFrameMarkup(const std::string& relationship, const model::PastePlace& place) {
-    return fmt::format(
-        R"(<p:graphicFrame><p:nvGraphicFramePr><p:cNvPr/><p:cNvGraphicFramePr>)"
-        R"(<a:graphicFrameLocks noChangeAspect="1"/></p:cNvGraphicFramePr><p:nvPr/>)"
-        R"(</p:nvGraphicFramePr><p:xfrm><a:off x="{}" y="{}"/><a:ext cx="{}" cy="{}"/></p:xfrm>)"
-        R"(<a:graphic><a:graphicData uri="{}"><c:chart xmlns:c="{}" r:id="{}"/></a:graphicData>)"
-        R"(</a:graphic></p:graphicFrame>)",
-        emuOf(place.corner.left), emuOf(place.corner.top), emuOf(place.size.width),
-        emuOf(place.size.height), ns::chart, ns::chart, relationship);
 }
 
 const char* nameOf(const Placeholder& placeholder) {
@@ -67,6 +49,11 @@ void takeLook(pugi::xml_node paragraph, pugi::xml_node shown) {
 }
 
 }  // namespace
+
+std::string boxMarkup(const model::Point& corner, const model::Size& size) {
+    return fmt::format(R"(<a:off x="{}" y="{}"/><a:ext cx="{}" cy="{}"/>)", emuOf(corner.left),
+                       emuOf(corner.top), emuOf(size.width), emuOf(size.height));
+}
 
 pugi::xml_node FileSlide::tree() {
     if (!xml_) xml_ = std::make_unique<Xml>(deck_.package().read(part_), part_);
@@ -189,6 +176,18 @@ FileShapePtr FileSlide::addShape(std::string_view kind, const std::string& marku
 }
 
 /// Takes a new element in as the topmost shape, named by its kind and its number.
+FileShapePtr FileSlide::addFrame(std::string_view kind, std::string_view lock,
+                                 const model::PastePlace& place, std::string_view space,
+                                 const std::string& content) {
+    return addShape(
+        kind, fmt::format(R"(<p:graphicFrame><p:nvGraphicFramePr><p:cNvPr/><p:cNvGraphicFramePr>)"
+                          R"(<a:graphicFrameLocks {}="1"/></p:cNvGraphicFramePr><p:nvPr/>)"
+                          R"(</p:nvGraphicFramePr><p:xfrm>{}</p:xfrm><a:graphic>)"
+                          R"(<a:graphicData uri="{}">{}</a:graphicData></a:graphic>)"
+                          R"(</p:graphicFrame>)",
+                          lock, boxMarkup(place.corner, place.size), space, content));
+}
+
 FileShapePtr FileSlide::nameShape(std::string_view kind, pugi::xml_node element) {
     const std::int32_t id = freeShapeId();
     auto properties = firstElement(firstElement(element));
@@ -226,21 +225,23 @@ FileShapePtr FileSlide::addPicture(PictureFile picture, const model::Point& corn
     const std::string blip = addBlip(deck_.package(), part_, deck_.mediaStem(), std::move(picture));
     return addShape(
         "Picture",
-        fmt::format(R"(<p:pic><p:nvPicPr><p:cNvPr/><p:cNvPicPr><a:picLocks noChangeAspect="1"/>)"
-                    R"(</p:cNvPicPr><p:nvPr/></p:nvPicPr><p:blipFill>{})"
-                    R"(<a:stretch><a:fillRect/></a:stretch></p:blipFill><p:spPr>{})"
-                    R"(<a:prstGeom prst="rect"><a:avLst/></a:prstGeom></p:spPr></p:pic>)",
-                    blip, boxMarkup(corner, size)));
+        fmt::format(
+            R"(<p:pic><p:nvPicPr><p:cNvPr/><p:cNvPicPr><a:picLocks noChangeAspect="1"/>)"
+            R"(</p:cNvPicPr><p:nvPr/></p:nvPicPr><p:blipFill>{})"
+            R"(<a:stretch><a:fillRect/></a:stretch></p:blipFill><p:spPr><a:xfrm>{}</a:xfrm>)"
+            R"(<a:prstGeom prst="rect"><a:avLst/></a:prstGeom></p:spPr></p:pic>)",
+            blip, boxMarkup(corner, size)));
 }
 
 model::DeckShapePtr FileSlide::addLabel(const model::Point& corner, const model::Size& size) {
     return addShape(
         "TextBox",
-        fmt::format(R"(<p:sp><p:nvSpPr><p:cNvPr/><p:cNvSpPr txBox="1"/><p:nvPr/></p:nvSpPr>)"
-                    R"(<p:spPr>{}<a:prstGeom prst="rect"><a:avLst/></a:prstGeom><a:noFill/>)"
-                    R"(</p:spPr><p:txBody><a:bodyPr wrap="square"><a:spAutoFit/></a:bodyPr>)"
-                    R"(<a:lstStyle/><a:p/></p:txBody></p:sp>)",
-                    boxMarkup(corner, size)));
+        fmt::format(
+            R"(<p:sp><p:nvSpPr><p:cNvPr/><p:cNvSpPr txBox="1"/><p:nvPr/></p:nvSpPr>)"
+            R"(<p:spPr><a:xfrm>{}</a:xfrm><a:prstGeom prst="rect"><a:avLst/></a:prstGeom>)"
+            R"(<a:noFill/></p:spPr><p:txBody><a:bodyPr wrap="square"><a:spAutoFit/></a:bodyPr>)"
+            R"(<a:lstStyle/><a:p/></p:txBody></p:sp>)",
+            boxMarkup(corner, size)));
 }
 
 /// Null for one that goes as a picture.
@@ -256,7 +257,8 @@ FileShapePtr FileSlide::pasteChart(const Copied& copied, PasteAs as) {
     const std::string id = deck_.package().relationshipsOf(part_).add("chart", part);
     const model::PastePlace place =
         model::pastePlaceFor({copied.widthPt(), copied.heightPt()}, deck_, *this);
-    return addShape("Chart", chartFrameMarkup(id, place));
+    return addFrame("Chart", "noChangeAspect", place, ns::chart,
+                    fmt::format(R"(<c:chart xmlns:c="{}" r:id="{}"/>)", ns::chart, id));
 }
 
 model::DeckShapePtr FileSlide::paste(const Copied& copied, PasteAs as) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "office/model/powerpoint/deck_slide.h"
+#include "office/model/powerpoint/paste.h"
 #include "office/package/drawing/picture_file.h"
 #include "office/package/presentation/file_shape.h"
 #include "office/package/xml.h"
@@ -56,6 +57,11 @@ public:
 
     /// Puts a shape on top of the others, and names it by its kind and its number.
     FileShapePtr addShape(std::string_view kind, const std::string& markup);
+    /// The same for what stands in a frame: a chart, a table, an object. `lock` is what the user
+    /// can't do with the frame, `space` the namespace of what it holds.
+    FileShapePtr addFrame(std::string_view kind, std::string_view lock,
+                          const model::PastePlace& place, std::string_view space,
+                          const std::string& content);
 
 private:
     [[nodiscard]] std::vector<FileShapePtr>& shapes();
@@ -77,5 +83,8 @@ private:
 };
 
 using FileSlidePtr = std::shared_ptr<FileSlide>;
+
+/// A place and a size, as a transformation holds them.
+[[nodiscard]] std::string boxMarkup(const model::Point& corner, const model::Size& size);
 
 }  // namespace office::package

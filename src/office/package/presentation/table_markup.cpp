@@ -258,16 +258,8 @@ FileShapePtr pasteTable(FileSlide& slide, const Copied& copied) {
     const TableLook look = copied.table();
     const model::PastePlace place =
         model::pastePlaceFor({look.widthPt(), look.heightPt()}, slide.deck(), slide);
-    return slide.addShape(
-        "Table",
-        fmt::format(R"(<p:graphicFrame><p:nvGraphicFramePr><p:cNvPr/><p:cNvGraphicFramePr>)"
-                    R"(<a:graphicFrameLocks noGrp="1"/></p:cNvGraphicFramePr><p:nvPr/>)"
-                    R"(</p:nvGraphicFramePr><p:xfrm><a:off x="{}" y="{}"/><a:ext cx="{}" cy="{}"/>)"
-                    R"(</p:xfrm><a:graphic><a:graphicData uri="{}">{}</a:graphicData>)"
-                    R"(</a:graphic></p:graphicFrame>)",
-                    emuOf(place.corner.left), emuOf(place.corner.top), emuOf(place.size.width),
-                    emuOf(place.size.height), tableSpace,
-                    tableMarkup(look, place.scale, slide.deck().measure())));
+    return slide.addFrame("Table", "noGrp", place, tableSpace,
+                          tableMarkup(look, place.scale, slide.deck().measure()));
 }
 
 pugi::xml_node tableIn(pugi::xml_node shape) {
