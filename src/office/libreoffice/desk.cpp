@@ -17,7 +17,7 @@
 
 #include "office/failure.h"
 #include "office/libreoffice/excel/calc_document.h"
-#include "office/libreoffice/excel/unasking_copy.h"
+#include "office/libreoffice/excel/changed_copy.h"
 #include "office/libreoffice/guard.h"
 #include "office/libreoffice/password_answer.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"

@@ -102,6 +102,15 @@ void Document::writeCopy(std::string_view member, const std::string& path,
     if (size == 0) fail(FailureNumber::ApplicationDefined, "the file is empty");
 }
 
+bool Document::cameThrough(const char* filter) const {
+    rtl::OUString name;
+    const auto arguments = model_->getArgs();
+    for (const auto& argument : arguments) {
+        if (argument.Name == "FilterName") argument.Value >>= name;
+    }
+    return name.indexOf(rtl::OUString::createFromAscii(filter)) >= 0;
+}
+
 bool Document::raise() const {
     const auto shown = controller();
     if (!shown.is()) return false;

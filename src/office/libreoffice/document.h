@@ -53,6 +53,8 @@ public:
     void writeCopy(std::string_view member, const std::string& path,
                    const std::vector<FileKind>& kinds,
                    const uno::Sequence<css::beans::PropertyValue>& options = {}) const;
+    /// Whether it was loaded through a filter that has this in its name.
+    [[nodiscard]] bool cameThrough(const char* filter) const;
     /// Gives the document's window the foreground. False if it has none that is shown.
     bool raise() const;
     /// Closes without saving.

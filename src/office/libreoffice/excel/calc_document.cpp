@@ -11,7 +11,6 @@
 #include <com/sun/star/util/XModifiable.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
 
-#include <algorithm>
 #include <utility>
 
 #include "office/libreoffice/at_end.h"
@@ -58,7 +57,9 @@ CalcDocument::CalcDocument(Desk& desk, uno::Reference<css::frame::XModel> calc)
 SheetList& CalcDocument::sheetList() {
     if (!sheets_) {
         sheets_.emplace(*this, as<css::sheet::XSpreadsheetDocument>(model())->getSheets(), facts());
-        if (!facts().known && comesFromExcel()) sheets_->tellKindsByLooks();
+        // A file that can't be looked into, being encrypted or of the old binary format, may have
+        // chart sheets too.
+        if (!facts().known && cameThrough("MS Excel")) sheets_->tellKindsByLooks();
     }
     return *sheets_;
 }
@@ -66,18 +67,6 @@ SheetList& CalcDocument::sheetList() {
 const WorkbookFacts& CalcDocument::facts() {
     if (!facts_) facts_ = readWorkbookFacts(url());
     return *facts_;
-}
-
-/// A file that can't be looked into, being encrypted or of the old binary format, but that may have
-/// chart sheets.
-bool CalcDocument::comesFromExcel() const {
-    const auto arguments = model()->getArgs();
-    return std::any_of(arguments.begin(), arguments.end(),
-                       [](const css::beans::PropertyValue& argument) {
-                           rtl::OUString filter;
-                           return argument.Name == "FilterName" && (argument.Value >>= filter) &&
-                                  filter.indexOf("MS Excel") >= 0;
-                       });
 }
 
 bool CalcDocument::isReadOnly() {

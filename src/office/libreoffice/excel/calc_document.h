@@ -62,7 +62,6 @@ public:
 
 private:
     [[nodiscard]] const WorkbookFacts& facts();
-    [[nodiscard]] bool comesFromExcel() const;
 
     Desk& desk_;
     bool leavesFileAlone_ = false;

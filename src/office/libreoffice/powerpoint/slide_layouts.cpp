@@ -8,6 +8,9 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+
+#include "office/libreoffice/powerpoint/impress_deck.h"
+
 namespace libreoffice::powerpoint {
 
 namespace {
@@ -65,7 +68,10 @@ void SlideLayouts::apply(ImpressSlide& slide, std::int32_t number) {
     const auto setNumber = [&] {
         slide.properties()->setPropertyValue("Layout", uno::Any(layout.ofLibreOffice));
     };
-    if (!isFromPowerPoint()) return setNumber();
+    // In LibreOffice's own files a master page is a whole design, and taking another one by its
+    // looks would change the slide's.
+    if (!fromPowerPoint_) fromPowerPoint_ = slide.deck().cameThrough("PowerPoint 2007");
+    if (!*fromPowerPoint_) return setNumber();
     const auto target = as<drawing::XMasterPageTarget>(slide.page());
     const PageRef inherited = target->getMasterPage();
     const PageRef found = masterFor(number, inherited, slide.page());
@@ -81,20 +87,6 @@ void SlideLayouts::dressTitle(ImpressSlide& slide, const PageRef& masterPage) {
     auto& look = titleLooks_[masterPage.get()];
     if (!look) look = std::make_shared<const TitleLook>(masterPage, title->reference());
     title->wear(look);
-}
-
-bool SlideLayouts::isFromPowerPoint() {
-    // In LibreOffice's own files a master page is a whole design, and taking another one by its
-    // looks would change the slide's.
-    if (!fromPowerPoint_) {
-        const auto arguments = model_->getArgs();
-        fromPowerPoint_ = std::any_of(arguments.begin(), arguments.end(), [](const auto& argument) {
-            rtl::OUString filter;
-            return argument.Name == "FilterName" && (argument.Value >>= filter) &&
-                   filter.indexOf("PowerPoint 2007") >= 0;
-        });
-    }
-    return *fromPowerPoint_;
 }
 
 SlideLayouts::PageRef SlideLayouts::masterFor(std::int32_t layout, const PageRef& inherited,

@@ -48,7 +48,6 @@ private:
 
     void dressTitle(ImpressSlide& slide, const PageRef& masterPage);
     void loadMasters();
-    [[nodiscard]] bool isFromPowerPoint();
     [[nodiscard]] PageRef masterFor(std::int32_t layout, const PageRef& inherited,
                                     const PageRef& slide);
     [[nodiscard]] PageRef findMaster(std::int32_t layout, const std::string& design,

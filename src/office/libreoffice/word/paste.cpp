@@ -87,12 +87,7 @@ NewContent::NewContent(const WriterDocument& document, const char* service,
 }
 
 NewContent::~NewContent() {
-    if (!isInserted_) return;
-    try {
-        content_->dispose();
-    } catch (const uno::Exception&) {
-        // The document or the suite has gone, and the object with it.
-    }
+    if (isInserted_) asFarAsPossible([&] { content_->dispose(); });
 }
 
 /// LibreOffice puts objects to rest when there are many, and forgets their pictures then: one that

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "office/libreoffice/uno_values.h"
+#include "office/libreoffice/at_end.h"
 
 namespace libreoffice::word {
 
@@ -19,11 +19,7 @@ public:
     UndoGroup(const UndoGroup&) = delete;
     UndoGroup& operator=(const UndoGroup&) = delete;
     ~UndoGroup() {
-        try {
-            if (steps_.is()) steps_->leaveUndoContext();
-        } catch (const uno::Exception&) {
-            // The document or the suite has gone, and its steps with it.
-        }
+        if (steps_.is()) asFarAsPossible([&] { steps_->leaveUndoContext(); });
     }
 
 private:
