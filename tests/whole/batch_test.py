@@ -1,6 +1,6 @@
 """What a batch does to the open presentation beside the plain road: other views, another deck, its cancelling."""
 
-from at_the_screen import DECK, DIALOG, FORM, LIST, AtTheScreen, unittest
+from at_the_screen import DECK, DIALOG, SMALL_BOOK, AtTheScreen, unittest
 
 SLIDES_OF_DECK = 3
 SHOW_VIEW = """
@@ -11,13 +11,8 @@ dispatcher.executeDispatch(frame, sys.argv[2], "", 0, ())
 
 
 class TheBatch(AtTheScreen):
-    def check_only(self, hand, *rows):
-        for number, row in enumerate(hand.rows()):
-            if row["checked"] != (number in rows):
-                hand.do("check-row", FORM, LIST, row=number)
-
     def test_comes_to_its_slides_in_every_view_of_the_deck(self):
-        self.open_sample()
+        self.open_sample(DECK, SMALL_BOOK)
         for view in (".uno:DiaMode", ".uno:OutlineMode", ".uno:NotesMode"):
             with self.subTest(view=view):
                 hand = self.open_main_form()
@@ -29,7 +24,7 @@ class TheBatch(AtTheScreen):
         self.assertEqual(self.pictures_on_slides()[SLIDES_OF_DECK:], [1] * 6)
 
     def test_goes_to_the_deck_that_the_dialog_names_though_another_comes_to_the_front(self):
-        self.open_sample()
+        self.open_sample(DECK, SMALL_BOOK)
         hand = self.open_main_form()
         self.check_only(hand, 0, 2)
         self.open_dialog(hand)

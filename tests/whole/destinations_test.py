@@ -1,7 +1,6 @@
 """The destinations beside PowerPoint, through the main form and by one command."""
 
-from at_the_screen import (BOOK, FORM, HTML, IMAGES, LIST, NEW_TEXT, PAGE, WORD, AtTheScreen, unittest,
-                           wait_until)
+from at_the_screen import (BOOK, FORM, HTML, IMAGES, NEW_TEXT, PAGE, WORD, AtTheScreen, unittest, wait_until)
 
 PICTURES, EDITABLE, EMBEDDED = 0, 1, 2
 
@@ -36,22 +35,13 @@ class TheDestinations(AtTheScreen):
         pictures, objects, tables, pages, *captions = f"{counts} {captions}".split(" ", 4)
         return int(pictures), int(objects), int(tables), int(pages), "".join(captions)
 
-    @staticmethod
-    def choose(hand, kinds=("chart-sheet", "chart", "range")):
-        """One item of each kind."""
-        rows = hand.rows()
-        wanted = [next(i for i, row in enumerate(rows) if row["icon"] == "icon:" + kind) for kind in kinds]
-        for i, row in enumerate(rows):
-            if row["checked"] != (i in wanted):
-                hand.do("check-row", FORM, LIST, row=i)
-
     def test_of_word_takes_pictures_charts_tables_and_workbooks(self):
         self.open_book_and_text()
         for number, arrives in ((PICTURES, (3, 0, 0)), (EDITABLE, (0, 2, 1)), (EMBEDDED, (0, 3, 0))):
             with self.subTest(format=number):
                 before = self.in_text()
                 hand = self.open_main_form()
-                self.choose(hand)
+                self.check_one_of_each_kind(hand)
                 hand.do("click", FORM, f"Option1({WORD})")
                 hand.do("click", FORM, f"OptionFormat({number})")
                 hand.do("click", self.open_dialog(hand, WORD), "ContinueOk")
@@ -83,7 +73,7 @@ class TheDestinations(AtTheScreen):
         opened = self.note_what_is_opened()
         self.open_sample(BOOK)
         hand = self.open_main_form()
-        self.choose(hand)
+        self.check_one_of_each_kind(hand)
         hand.do("click", self.open_dialog(hand, HTML), "ContinueOk")
         self.assertEqual(hand.ended(120), 0, hand.said())
         folder = self.folder / "MurvaneHTML"
@@ -98,7 +88,7 @@ class TheDestinations(AtTheScreen):
         opened = self.note_what_is_opened()
         self.open_sample(BOOK)
         hand = self.open_main_form()
-        self.choose(hand)
+        self.check_one_of_each_kind(hand)
         dialog = self.open_dialog(hand, IMAGES)
         hand.do("follow", dialog, PAGE, href="murvane://select/imgFormat/jpeg")
         wait_until(lambda: hand.value(dialog, "Jpeg"), what="the format")

@@ -64,12 +64,7 @@ class TheFormats(AtTheScreen):
         for number, arrives in ((1, {"chart", "TableShape"}), (2, {"workbook"}), (3, {LINK})):
             with self.subTest(format=number):
                 hand = self.open_main_form()
-                rows = hand.rows()
-                wanted = [next(i for i, row in enumerate(rows) if row["icon"] == "icon:" + kind)
-                          for kind in ("chart-sheet", "chart", "range")]
-                for i, row in enumerate(rows):
-                    if row["checked"] != (i in wanted):
-                        hand.do("check-row", FORM, LIST, row=i)
+                self.check_one_of_each_kind(hand)
                 hand.do("click", FORM, f"OptionFormat({number})")
                 hand.do("click", FORM, "PasteIT")
                 if number == 2:

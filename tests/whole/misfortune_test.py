@@ -5,8 +5,8 @@ import subprocess
 
 import xlsxwriter
 
-from at_the_screen import (BOOK, BUILD, DECK, FORM, HTML, IMAGES, LIST, NEW_TEXT, SAMPLES, SLIDES, WORD, AtTheScreen, unittest,
-                           wait_until)
+from at_the_screen import (BOOK, BUILD, DECK, FORM, HTML, IMAGES, LIST, NEW_TEXT, SAMPLES, SLIDES, SMALL_BOOK, WORD, AtTheScreen,
+                           unittest, wait_until)
 
 NOTICE = "MurvaneNotice"
 
@@ -64,7 +64,7 @@ class WithoutTheSuite(AtTheScreen):
 
 class UnderTheForm(AtTheScreen):
     def test_a_workbook_that_is_closed_leaves_the_form_alive(self):
-        self.open_sample()
+        self.open_sample(SMALL_BOOK)
         hand = self.open_main_form()
         self.in_the_suite("close(document('Workbook'))")
         hand.do("click-row", FORM, LIST, row=2)
@@ -109,6 +109,7 @@ class UnderTheForm(AtTheScreen):
         self.assertEqual([p.name for p in pages.iterdir() if not p.name.startswith(".")], [])
         hand.process.wait()
         hand = self.open_main_form()
+        self.check_only(hand, 0, 1)
         hand.do("click", self.open_dialog(hand, HTML), "ContinueOk")
         self.assertEqual(hand.ended(120), 0, hand.said())
         self.assertEqual(sorted(p.name for p in pages.iterdir()), ["MurvaneHTML101.html", "MurvaneHTML101_files"])

@@ -2,7 +2,7 @@
 
 import json
 
-from at_the_screen import DIALOG, FORM, PAGE, AtTheScreen, unittest, wait_until
+from at_the_screen import DECK, DIALOG, FORM, PAGE, SMALL_BOOK, AtTheScreen, unittest, wait_until
 
 NOTICE, NOTICE_PAGE = "MurvaneNotice", "wbNotice"
 
@@ -64,7 +64,7 @@ class Pages(AtTheScreen):
         self.assertIn(FORM, hand.do("forms"))
 
     def test_of_the_blocked_export(self):
-        self.open_sample()
+        self.open_sample(DECK, SMALL_BOOK)
         hand = self.open_main_form()
         hand.do("click", FORM, "Check1")
         wait_until(lambda: not any(row["checked"] for row in hand.rows()))

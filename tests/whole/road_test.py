@@ -1,6 +1,6 @@
 """The whole road by hand: from the list of the open workbook to the slides of the open presentation."""
 
-from at_the_screen import DIALOG, FORM, LIST, PAGE, AtTheScreen, png_lines, unittest, wait_until
+from at_the_screen import DECK, DIALOG, FORM, LIST, PAGE, SMALL_BOOK, AtTheScreen, png_lines, unittest, wait_until
 
 SLIDES_OF_DECK = 3
 SHEET, ORDER, CAPTION = 1, 3, 4
@@ -92,7 +92,7 @@ class TheRoad(AtTheScreen):
         self.assertEqual(hand.ended(), 0, hand.said())
 
     def test_leads_to_the_slides_that_the_user_numbers(self):
-        self.open_sample()
+        self.open_sample(DECK, SMALL_BOOK)
         hand = self.open_main_form()
         hand.do("click", FORM, "Check1")
         wait_until(lambda: not any(row["checked"] for row in hand.rows()), what="the unchecking")
@@ -112,7 +112,7 @@ class TheRoad(AtTheScreen):
         self.assertEqual(self.pictures_on_slides(), [0, 1, 1])
 
     def test_can_be_walked_by_the_keyboard_and_heard(self):
-        self.open_sample()
+        self.open_sample(DECK, SMALL_BOOK)
         hand = self.open_main_form()
         stops = hand.do("tab-order", FORM)
         self.assertEqual([stop for stop in stops if not stop[1].strip()], [])

@@ -2,7 +2,7 @@
 
 import subprocess
 
-from at_the_screen import DIALOG, FORM, PAGE, AtTheScreen, unittest, wait_until
+from at_the_screen import DECK, DIALOG, FORM, PAGE, SMALL_BOOK, AtTheScreen, unittest, wait_until
 
 MIDDLE = ("800", "600")
 
@@ -18,13 +18,12 @@ class TheWindows(AtTheScreen):
         wait_until(lambda: self.window_in_the_middle() == window, 5, f"{name} on top")
 
     def test_the_options_stand_above_the_main_form_also_after_a_tool(self):
+        self.open_sample(DECK, SMALL_BOOK)
         self.check()
-        self.screen.clear()
         self.screen.end_manager()
         self.check()
 
     def check(self):
-        self.open_sample()
         hand = self.open_main_form()
         hand.settle(FORM)
         main_form = self.window_in_the_middle()

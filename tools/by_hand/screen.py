@@ -22,6 +22,7 @@ def wait_until(holds, patience=PATIENCE, what="that"):
     """Polls; what `holds` returns once it is true. A refusal counts as not yet."""
     deadline = time.monotonic() + patience
     refusal = None
+    pause = 0.02
     while time.monotonic() < deadline:
         try:
             seen = holds()
@@ -29,7 +30,9 @@ def wait_until(holds, patience=PATIENCE, what="that"):
                 return seen
         except Refused as refused:
             refusal = refused
-        time.sleep(0.05)
+        time.sleep(pause)
+        # What takes long is seldom asked for: each look costs the one who is waited for some time too.
+        pause = min(1.2 * pause, 0.25)
     raise AssertionError(f"waited {patience:.0f} s in vain for {what}" + (f": {refusal}" if refusal else ""))
 
 
