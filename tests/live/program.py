@@ -55,7 +55,7 @@ def suite_of(process, cache):
                 continue
             if suites:
                 return int(suites[0])
-        time.sleep(0.005)
+        time.sleep(0.02)
     return None
 
 
