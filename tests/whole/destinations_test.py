@@ -69,7 +69,7 @@ class TheDestinations(AtTheScreen):
                     if not made:
                         self.assertIn("This icon refers to tables only", boxes[0])
 
-    def test_of_html_publishes_a_page_with_its_pictures(self):
+    def test_of_html_and_image_files_come_into_their_folders(self):
         opened = self.note_what_is_opened()
         self.open_sample(BOOK)
         hand = self.open_main_form()
@@ -84,11 +84,7 @@ class TheDestinations(AtTheScreen):
         self.assertEqual(len(list((folder / "MurvaneHTML101_files").iterdir())), 2)
         self.assertNotIn("Reserved", self.in_the_suite(SHEETS))
 
-    def test_of_image_files_are_of_the_format_that_was_chosen(self):
-        opened = self.note_what_is_opened()
-        self.open_sample(BOOK)
         hand = self.open_main_form()
-        self.check_one_of_each_kind(hand)
         dialog = self.open_dialog(hand, IMAGES)
         hand.do("follow", dialog, PAGE, href="murvane://select/imgFormat/jpeg")
         wait_until(lambda: hand.value(dialog, "Jpeg"), what="the format")

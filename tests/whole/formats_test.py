@@ -97,7 +97,7 @@ class TheFormats(AtTheScreen):
         hand.do("key", FORM, key="Alt+F4")
         self.assertEqual(hand.ended(), 0, hand.said())
 
-    def test_of_the_selection_are_what_the_command_says(self):
+    def test_of_the_selection_are_what_the_command_says_or_are_refused_in_words(self):
         self.open_sample()
         self.assertEqual(self.screen.use("/11").ended(), 0)
         for sheet, selection, *arrives in SELECTIONS:
@@ -109,10 +109,7 @@ class TheFormats(AtTheScreen):
                         self.answer(hand)
                     self.assertEqual(hand.ended(60), 0, hand.said())
                     self.assertEqual(self.shapes_behind(-1), [kind])
-
-    def test_of_cells_under_a_chart_or_in_a_hidden_row_are_refused_in_words(self):
-        self.open_sample()
-        self.assertEqual(self.screen.use("/11").ended(), 0)
+        # Cells under a chart, and of a hidden row.
         self.in_the_suite(SELECT, "Fleet", "at = sheet.DrawPage.getByIndex(0).Anchor\n"
                                            "book.CurrentController.select(at)")
         hand = self.screen.use("/3122")

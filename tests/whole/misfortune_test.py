@@ -21,7 +21,7 @@ class WithoutTheSuite(AtTheScreen):
     def test_a_suite_that_dies_under_the_form_or_during_the_export_ends_the_program_with_a_report(self):
         for destination in (None, SLIDES, WORD, HTML, IMAGES):
             with self.subTest(destination=destination):
-                self.open_sample(*([DECK] if destination == SLIDES else []), BOOK)
+                self.open_sample(*([DECK] if destination == SLIDES else []), SMALL_BOOK if destination is None else BOOK)
                 hand = self.open_main_form()
                 if destination == WORD:
                     self.in_the_suite(NEW_TEXT)
