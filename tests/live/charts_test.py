@@ -6,7 +6,6 @@ import unittest
 import urllib.parse
 import zipfile
 
-import program  # noqa: F401  (finds the validator)
 import xlsxwriter
 from program import Package, ProgramTest, slides_of
 

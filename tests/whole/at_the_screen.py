@@ -2,7 +2,6 @@
 
 import atexit
 import json
-import os
 import pathlib
 import shutil
 import sys
@@ -27,6 +26,15 @@ text = desktop.loadComponentFromURL("private:factory/swriter", "_blank", 0, ())
 text.Text.String = "Report"
 text.CurrentController.ViewCursor.gotoEnd(False)
 """
+# Something selected on a sheet by a line of the suite's own language.
+SELECT = """
+book = document("Workbook")
+sheet = book.Sheets.getByName(sys.argv[2])
+book.CurrentController.setActiveSheet(sheet)
+exec(sys.argv[3])
+"""
+CELLS = 'book.CurrentController.select(sheet.getCellRangeByName("%s"))'
+A_CHART = "book.CurrentController.select(sheet.DrawPage.getByIndex(0))"
 # How many pictures there are on each slide.
 PICTURES = """
 pages = document("Presentation").DrawPages
@@ -115,5 +123,5 @@ deck.storeToURL(uno.systemPathToFileUrl(sys.argv[2]), filter("Impress MS PowerPo
         return slides_of(copy)
 
 
-__all__ = ["AtTheScreen", "BOOK", "BUILD", "DECK", "DIALOG", "FORM", "HTML", "IMAGES", "LIST", "NEW_TEXT", "PAGE",
-           "Refused", "SLIDES", "SMALL_BOOK", "Screen", "WORD", "png_lines", "slides_of", "unittest", "wait_until"]
+__all__ = ["A_CHART", "AtTheScreen", "BOOK", "BUILD", "CELLS", "DECK", "DIALOG", "FORM", "HTML", "IMAGES", "LIST", "NEW_TEXT", "PAGE",
+           "Refused", "SELECT", "SLIDES", "SMALL_BOOK", "Screen", "WORD", "png_lines", "slides_of", "unittest", "wait_until"]

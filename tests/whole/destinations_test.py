@@ -1,6 +1,7 @@
 """The destinations beside PowerPoint, through the main form and by one command."""
 
-from at_the_screen import (BOOK, FORM, HTML, IMAGES, NEW_TEXT, PAGE, WORD, AtTheScreen, unittest, wait_until)
+from at_the_screen import (A_CHART, BOOK, CELLS, FORM, HTML, IMAGES, NEW_TEXT, PAGE, SELECT, WORD, AtTheScreen, unittest,
+                           wait_until)
 
 PICTURES, EDITABLE, EMBEDDED = 0, 1, 2
 
@@ -13,15 +14,7 @@ captions = [each.String for each in paragraphs if each.ParaStyleName in ("Captio
 print(text.GraphicObjects.Count, text.EmbeddedObjects.Count, text.TextTables.Count,
       text.CurrentController.PageCount, "|".join(captions))
 """
-SELECT = """
-book = document("Workbook")
-sheet = book.Sheets.getByName(sys.argv[2])
-book.CurrentController.setActiveSheet(sheet)
-exec(sys.argv[3])
-"""
 SHEETS = 'print(*document("Workbook").Sheets.ElementNames, sep="|")'
-CELLS = 'book.CurrentController.select(sheet.getCellRangeByName("A1:F8"))'
-A_CHART = "book.CurrentController.select(sheet.DrawPage.getByIndex(0))"
 
 
 class TheDestinations(AtTheScreen):
@@ -52,7 +45,7 @@ class TheDestinations(AtTheScreen):
 
     def test_of_the_selection_to_word(self):
         self.open_book_and_text()
-        for sheet, selection, arrives in (("Revenue", CELLS, [(1, 0, 0), (0, 1, 0), (0, 0, 1)]),
+        for sheet, selection, arrives in (("Revenue", CELLS % "A1:F8", [(1, 0, 0), (0, 1, 0), (0, 0, 1)]),
                                           ("Fleet", A_CHART, [(1, 0, 0), (0, 1, 0), None]),
                                           ("Segment mix", "", [(1, 0, 0), (0, 1, 0), None])):
             for code, made in zip(("/512", "/612", "/812"), arrives):

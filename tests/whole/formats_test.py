@@ -1,6 +1,6 @@
 """What arrives on the slides in the formats that are more than pictures: by the list, and by one command."""
 
-from at_the_screen import DIALOG, FORM, LIST, AtTheScreen, unittest, wait_until
+from at_the_screen import A_CHART, CELLS, DIALOG, FORM, LIST, SELECT, AtTheScreen, unittest, wait_until
 
 SLIDES_OF_DECK = 3
 NOTICE = "MurvaneNotice"
@@ -25,15 +25,6 @@ FRESH_SLIDE = """
 deck = document("Presentation")
 deck.CurrentController.setCurrentPage(deck.DrawPages.insertNewByIndex(deck.DrawPages.Count))
 """
-# A fresh slide on show, and something selected on a sheet by a line of the suite's own language.
-SELECT = FRESH_SLIDE + """
-book = document("Workbook")
-sheet = book.Sheets.getByName(sys.argv[2])
-book.CurrentController.setActiveSheet(sheet)
-exec(sys.argv[3])
-"""
-CELLS = 'book.CurrentController.select(sheet.getCellRangeByName("%s"))'
-A_CHART = "book.CurrentController.select(sheet.DrawPage.getByIndex(0))"
 LINK = "link to Harbour%20Logistics%202026.xlsx"
 
 # What a double click makes of a chart and of a range, by format.
@@ -103,15 +94,16 @@ class TheFormats(AtTheScreen):
         for sheet, selection, *arrives in SELECTIONS:
             for code, kind in zip(("/312", "/3122", "/412"), arrives):
                 with self.subTest(sheet=sheet, selection=selection, code=code):
-                    self.in_the_suite(SELECT, sheet, selection)
+                    self.in_the_suite(FRESH_SLIDE + SELECT, sheet, selection)
                     hand = self.screen.use(code)
                     if kind == "workbook" and selection == CELLS % "B5":
                         self.answer(hand)
                     self.assertEqual(hand.ended(60), 0, hand.said())
                     self.assertEqual(self.shapes_behind(-1), [kind])
         # Cells under a chart, and of a hidden row.
-        self.in_the_suite(SELECT, "Fleet", "at = sheet.DrawPage.getByIndex(0).Anchor\n"
-                                           "book.CurrentController.select(at)")
+        self.in_the_suite(FRESH_SLIDE + SELECT, "Fleet",
+                          "at = sheet.DrawPage.getByIndex(0).Anchor\n"
+                          "book.CurrentController.select(at)")
         hand = self.screen.use("/3122")
         hand.wait_for(NOTICE)
         hand.wait_for_page(NOTICE, "wbNotice", "#noticeRoot")
@@ -119,7 +111,7 @@ class TheFormats(AtTheScreen):
         self.assertIn("The specified range contains embedded charts.", text)
         hand.do("key", NOTICE, key="Return")
         self.assertEqual(hand.ended(), 0)
-        self.in_the_suite(SELECT, "Revenue", "sheet.Rows.getByIndex(5).IsVisible = False\n" + CELLS % "A6:F6")
+        self.in_the_suite(FRESH_SLIDE + SELECT, "Revenue", "sheet.Rows.getByIndex(5).IsVisible = False\n" + CELLS % "A6:F6")
         hand = self.screen.use("/412")
         self.assertEqual(hand.ended(60), 1)
         (box,) = hand.end["boxes"]
