@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <optional>
 
 #include "catalogue/row_copies.h"
 #include "office/failure_patterns.h"
@@ -67,11 +66,12 @@ private:
         std::int32_t style;
         bool beginsPage = false;
         bool isCentred = false;
-        /// Nothing if it is still to be found out.
-        std::optional<double> spaceBeforePt = 0;
+        double spaceBeforePt = 0;
         double spaceAfterPt = 0;
     };
+    void beginParagraph();
     void beginParagraph(const ParagraphLook& look);
+    void dressParagraph(const ParagraphLook& look);
 
     OfficeSession& session_;
     const PdfOptions& options_;
@@ -111,17 +111,25 @@ PdfPages::PdfPages(OfficeSession& session, const PdfOptions& options, const Obje
         .put("Value", session.ActiveBook.get("Name").toText());
 }
 
-void PdfPages::beginParagraph(const ParagraphLook& look) {
-    constexpr std::int32_t centre = 1;
+void PdfPages::beginParagraph() {
     if (!isFirstParagraph_) selection_.call("TypeParagraph");
     isFirstParagraph_ = false;
+}
+
+void PdfPages::beginParagraph(const ParagraphLook& look) {
+    beginParagraph();
+    dressParagraph(look);
+}
+
+void PdfPages::dressParagraph(const ParagraphLook& look) {
+    constexpr std::int32_t centre = 1;
     // Each step would be laid out for itself.
     const Object format = selection_.get("ParagraphFormat").get("Duplicate").toObject();
     format.put("Style", look.style);
     // A paragraph takes the break and the spaces of the one before along.
     format.put("PageBreakBefore", look.beginsPage);
     if (look.isCentred) format.put("Alignment", centre);
-    if (look.spaceBeforePt) format.put("SpaceBefore", *look.spaceBeforePt);
+    format.put("SpaceBefore", look.spaceBeforePt);
     format.put("SpaceAfter", look.spaceAfterPt);
     selection_.put("ParagraphFormat", format);
 }
@@ -167,10 +175,7 @@ void PdfPages::addItem(const ExportItem& row) {
         selection_.call("TypeText", row.caption);
         isFirstPage_ = false;
     }
-    beginParagraph({.style = style::normal,
-                    .beginsPage = !hasHeading && !isFirstPage_,
-                    .isCentred = true,
-                    .spaceBeforePt = {}});
+    beginParagraph();
     selection_.call("Paste");
     const Object shapes = document_.get("InlineShapes").toObject();
     const Object shape = shapes.get("Item", shapes.get("Count").toLong()).toObject();
@@ -183,7 +188,10 @@ void PdfPages::addItem(const ExportItem& row) {
     shape.put("AlternativeText", catalogue::DescriptionOf(row));
     // In the middle of its room.
     const double gap = std::max(0.0, (room - height * scale) / 2);
-    selection_.get("ParagraphFormat").put("SpaceBefore", gap);
+    dressParagraph({.style = style::normal,
+                    .beginsPage = !hasHeading && !isFirstPage_,
+                    .isCentred = true,
+                    .spaceBeforePt = gap});
     if (options_.includePath) {
         beginParagraph({.style = style::normal, .spaceBeforePt = gap});
         selection_.call("TypeText", fmt::format("{}  -  {}", workbook_, row.sheet));

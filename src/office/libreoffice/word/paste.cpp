@@ -62,10 +62,14 @@ public:
         isInserted_ = true;
     }
     [[nodiscard]] const ContentRef& content() const { return content_; }
+    [[nodiscard]] WriterObjectPtr object(WriterDocument& document) const {
+        return std::make_shared<WriterObject>(content_, properties_, anchoring_, document);
+    }
     void keep() { isInserted_ = false; }
 
 private:
     ContentRef content_;
+    model::Anchoring anchoring_;
     uno::Reference<css::beans::XPropertySet> properties_;
     bool isInserted_ = false;
 };
@@ -73,6 +77,7 @@ private:
 NewContent::NewContent(const WriterDocument& document, const char* service,
                        const css::awt::Size& size, model::Anchoring anchoring)
     : content_(as<css::text::XTextContent>(document.createInstance(service))),
+      anchoring_(anchoring),
       properties_(as<css::beans::XPropertySet>(content_)) {
     set("Size", size);
     if (anchoring == model::Anchoring::Inline) {
@@ -108,10 +113,10 @@ void putToRest(const Connection& connection,
 
 /// The new thing goes in front of what is selected, which is taken out only then: if the one can't
 /// be had, the other stays.
-void WriterDocument::insertObject(const CursorRef& place, const ContentRef& object) {
+void WriterDocument::insertObject(const CursorRef& place, const WriterObjectPtr& object) {
     removeSelected(place);
     objects().add(object);
-    pasted_ = object;
+    pasted_ = object->content();
 }
 
 model::TextObjectPtr WriterDocument::pasted() {
@@ -124,7 +129,7 @@ void WriterDocument::insertGraphic(const CursorRef& place,
     NewContent made(*this, "com.sun.star.text.TextGraphicObject", size, anchoring);
     made.set("Graphic", graphic);
     made.insertAt(place);
-    insertObject(place, made.content());
+    insertObject(place, made.object(*this));
     made.keep();
 }
 
@@ -176,7 +181,7 @@ void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anch
                                   made.content(), "EmbeddedObject"));
         made.set("Graphic", picture);
     }
-    insertObject(place, made.content());
+    insertObject(place, made.object(*this));
     made.keep();
     object.complete();
 }

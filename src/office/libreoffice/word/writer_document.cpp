@@ -78,6 +78,23 @@ void WriterDocument::stayUnseen() {
     steps_.clear();
     isUnseen_ = true;
     caret_.keepView();
+    // Each change would be laid out for itself.
+    model()->lockControllers();
+    isLaidOut_ = false;
+}
+
+void WriterDocument::layOut() {
+    if (!std::exchange(isLaidOut_, true)) model()->unlockControllers();
+}
+
+void WriterDocument::moveDown(std::int32_t lines) {
+    layOut();
+    caret_.goDown(lines);
+}
+
+void WriterDocument::moveToLineStart() {
+    layOut();
+    caret_.goToStartOfLine();
 }
 
 void WriterDocument::requireWritable(const uno::Reference<css::beans::XMultiPropertySet>& place,
@@ -249,12 +266,14 @@ void WriterDocument::refreshFields() {
 }
 
 void WriterDocument::saveCopy(const std::string& path) {
+    layOut();
     refreshFields();
     writeCopy("Document.SaveCopyAs", path,
               {{".docx", "MS Word 2007 XML"}, {".odt", "writer8"}, {".doc", "MS Word 97"}});
 }
 
 void WriterDocument::exportPdf(const std::string& path, const model::PdfOptions& options) {
+    layOut();
     refreshFields();
     writeCopy("Document.ExportAsFixedFormat", path, {{".pdf", "writer_pdf_Export"}},
               propertyValues({{"UseTaggedPDF", uno::Any(options.structureTags)},

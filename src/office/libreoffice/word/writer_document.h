@@ -27,8 +27,10 @@ public:
 
     [[nodiscard]] Desk& desk() const { return desk_; }
     /// Says that it has no window and never gets one: nobody takes back what is done to it, and
-    /// nobody else protects anything or puts objects into it, so nothing of that is asked.
+    /// nobody else protects anything or puts objects into it, so nothing of that is asked, and no
+    /// lines and pages are made before somebody needs them.
     void stayUnseen();
+    [[nodiscard]] bool isUnseen() const { return isUnseen_; }
     [[nodiscard]] WriterCaret& caret() { return caret_; }
     [[nodiscard]] const uno::Reference<css::text::XText>& body() const { return body_; }
     /// A thing of a service ("com.sun.star.text.TextGraphicObject"), not in the text yet.
@@ -48,8 +50,8 @@ public:
     void selectEnd() override { caret_.goTo(body_->getEnd()); }
 
     std::string selectedText() override;
-    void moveDown(std::int32_t lines) override { caret_.goDown(lines); }
-    void moveToLineStart() override { caret_.goToStartOfLine(); }
+    void moveDown(std::int32_t lines) override;
+    void moveToLineStart() override;
     void typeText(const std::string& text) override;
     void typeParagraph() override;
     void typeBackspace() override;
@@ -85,12 +87,14 @@ private:
     void removeSelected(const CursorRef& selected);
     void changeParagraph(const CursorRef& paragraph, const model::ParagraphChange& change);
     void insertTable(const CursorRef& place, const office::TableLook& table);
-    void insertObject(const CursorRef& place, const ContentRef& object);
+    void insertObject(const CursorRef& place, const WriterObjectPtr& object);
     void insertGraphic(const CursorRef& place,
                        const uno::Reference<css::graphic::XGraphic>& graphic,
                        const css::awt::Size& size, model::Anchoring anchoring);
     [[nodiscard]] uno::Reference<css::beans::XMultiPropertySet> pageStyle();
     [[nodiscard]] WriterObjects& objects();
+    /// Makes lines and pages of a document that has none yet.
+    void layOut();
     /// Fields follow a change at the next pause of the suite only, those of some files not at all.
     void refreshFields();
 
@@ -100,6 +104,7 @@ private:
     uno::Reference<css::document::XUndoManager> steps_;
     uno::Reference<css::frame::XStorable> file_;
     bool isUnseen_ = false;
+    bool isLaidOut_ = true;
     WriterCaret caret_;
     WriterCaptions captions_;
     std::unique_ptr<WriterObjects> objects_;

@@ -44,18 +44,34 @@ WriterObject::WriterObject(ContentRef content, WriterDocument& document)
                      ? model::Anchoring::Inline
                      : model::Anchoring::Floating) {}
 
+WriterObject::WriterObject(ContentRef content, uno::Reference<css::beans::XPropertySet> properties,
+                           model::Anchoring anchoring, WriterDocument& document)
+    : content_(std::move(content)),
+      properties_(std::move(properties)),
+      document_(document),
+      anchoring_(anchoring) {}
+
+const rtl::OUString& WriterObject::name() {
+    if (name_.isEmpty()) name_ = as<css::container::XNamed>(content_)->getName();
+    return name_;
+}
+
 bool WriterObject::isGone() const {
     return document_.isClosed();
 }
 
 model::ObjectSize WriterObject::size() {
-    const auto size = property<css::awt::Size>(properties_, "Size");
-    return {pointsOf(size.Width), pointsOf(size.Height)};
+    if (size_) return *size_;
+    const auto shown = property<css::awt::Size>(properties_, "Size");
+    const model::ObjectSize size{pointsOf(shown.Width), pointsOf(shown.Height)};
+    if (document_.isUnseen()) size_ = size;
+    return size;
 }
 
 void WriterObject::resize(const model::ObjectSize& size) {
     setProperty(properties_, "Size",
                 css::awt::Size(hundredthMmOf(size.width), hundredthMmOf(size.height)));
+    if (document_.isUnseen()) size_ = size;
 }
 
 std::string WriterObject::alternativeText() {

@@ -4,6 +4,7 @@
 #include <com/sun/star/text/XTextContent.hpp>
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "office/libreoffice/uno_values.h"
@@ -21,10 +22,13 @@ using ContentRef = uno::Reference<css::text::XTextContent>;
 class WriterObject : public model::TextObject {
 public:
     WriterObject(ContentRef content, WriterDocument& document);
+    /// One that has just been made; nothing of it is asked for.
+    WriterObject(ContentRef content, uno::Reference<css::beans::XPropertySet> properties,
+                 model::Anchoring anchoring, WriterDocument& document);
 
     [[nodiscard]] const ContentRef& content() const { return content_; }
     /// What tells it from the others: the same object comes as another reference now and then.
-    [[nodiscard]] const rtl::OUString& name() const { return name_; }
+    [[nodiscard]] const rtl::OUString& name();
     [[nodiscard]] model::Anchoring anchoring() const override { return anchoring_; }
 
     [[nodiscard]] bool isGone() const override;
@@ -45,6 +49,8 @@ private:
     WriterDocument& document_;
     model::Anchoring anchoring_;
     model::ObjectShadow shadow_;
+    /// As it was asked for or set last, in a document that nobody sees and nobody else changes.
+    std::optional<model::ObjectSize> size_;
 };
 
 using WriterObjectPtr = std::shared_ptr<WriterObject>;

@@ -103,9 +103,8 @@ void WriterObjects::insertInOrder(const WriterObjectPtr& object) {
     inOrder_.insert(std::partition_point(inOrder_.begin(), inOrder_.end(), comesBefore), object);
 }
 
-void WriterObjects::add(const ContentRef& content) {
-    if (areThere(inOrder_.size() + elsewhere_.size() + 1))
-        insert(std::make_shared<WriterObject>(content, document_));
+void WriterObjects::add(const WriterObjectPtr& made) {
+    if (areThere(inOrder_.size() + elsewhere_.size() + 1)) insert(made);
 }
 
 std::int32_t WriterObjects::count() {

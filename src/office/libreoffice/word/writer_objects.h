@@ -28,7 +28,7 @@ public:
     /// The record of one of them; null for what is none.
     [[nodiscard]] WriterObjectPtr recordOf(const ContentRef& content);
     /// Takes in one that was just put into the text.
-    void add(const ContentRef& content);
+    void add(const WriterObjectPtr& made);
 
 private:
     /// Whether there are that many in the document.
