@@ -174,11 +174,12 @@ CellFormats readCellFormats(const uno::Reference<css::table::XCellRange>& cells,
         as<css::sheet::XUniqueCellFormatRangesSupplier>(cells)->getUniqueCellFormatRanges());
     const sal_Int32 count = formats->getCount();
     for (sal_Int32 i = 0; i < count; ++i) {
-        const uno::Reference<css::sheet::XSheetCellRanges> alike(formats->getByIndex(i),
-                                                                 uno::UNO_QUERY_THROW);
+        const uno::Reference<uno::XInterface> cellsAlike(formats->getByIndex(i),
+                                                         uno::UNO_QUERY_THROW);
         const std::size_t place = read.formats.size();
-        read.formats.push_back(FormatReader(alike).read());
+        read.formats.push_back(FormatReader(cellsAlike).read());
         if (read.ofCells.empty()) continue;
+        const auto alike = as<css::sheet::XSheetCellRanges>(cellsAlike);
         for (const css::table::CellRangeAddress& part : alike->getRangeAddresses()) {
             const auto [firstRow, lastRow] = shownBetween(shown.rows, part.StartRow, part.EndRow);
             const auto [firstColumn, lastColumn] =

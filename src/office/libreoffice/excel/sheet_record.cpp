@@ -10,6 +10,7 @@
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
 #include <algorithm>
+#include <cmath>
 
 #include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/excel/calc_document.h"
@@ -39,9 +40,8 @@ public:
     [[nodiscard]] std::int32_t next() {
         constexpr int guesses = 8;
         if (isDone()) return found_;
-        const std::int32_t guess = ++tries_ > guesses
-                                       ? found_ + (end_ - found_) / 2
-                                       : seen_.place + (point_ - seen_.start) / seen_.length;
+        const std::int32_t guess =
+            ++tries_ > guesses ? found_ + (end_ - found_) / 2 : seen_.place + linesOn();
         return std::clamp(guess, found_ + 1, end_ - 1);
     }
     void learn(std::int32_t place, std::int32_t start, std::int32_t length) {
@@ -59,6 +59,14 @@ public:
     }
 
 private:
+    /// How many lines lie between the one seen last and the point. Charts often begin where a line
+    /// does, and each line on the way may be half a unit longer than it says.
+    [[nodiscard]] std::int32_t linesOn() const {
+        const double lines = static_cast<double>(point_ - seen_.start) / seen_.length;
+        const double slack = 1 + std::abs(lines) / 2;
+        return static_cast<std::int32_t>(std::floor(lines + slack / seen_.length));
+    }
+
     SeenLine& seen_;
     std::int32_t point_;
     std::int32_t found_ = 0;

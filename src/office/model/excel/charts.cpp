@@ -1,5 +1,7 @@
 #include <fmt/format.h>
 
+#include <filesystem>
+
 #include "office/model/excel/objects.h"
 #include "office/text.h"
 
@@ -235,9 +237,10 @@ Object chartAreaObject(const InSheet& home, const SheetChartPtr& chart) {
 
 CopySource sourceOf(const InSheet& home, CopySource::Kind kind) {
     const std::string file = home.book->fullName();
-    // A workbook that was never saved has a name and no path.
+    // A workbook that was never saved has a name and no path. No title can be taken for a path.
+    const bool isFile = std::filesystem::path(file).is_absolute() || file != home.book->name();
     return {.kind = kind,
-            .file = file == home.book->name() ? std::string() : file,
+            .file = isFile ? file : std::string(),
             .sheet = home.sheet->name(),
             .chart = {},
             .address = {}};

@@ -45,8 +45,10 @@ public:
     }
 
 private:
-    [[nodiscard]] PagePicture pictureOf(const InSheet& place, SheetChart& chart, const Box& at) {
-        CopySource source = sourceOf(place, CopySource::Kind::Chart);
+    [[nodiscard]] PagePicture pictureOf(const InSheet& place, CopySource source, SheetChart& chart,
+                                        const Box& at) {
+        source.kind = CopySource::Kind::Chart;
+        source.address.clear();
         if (!place.sheet->isChartSheet()) source.chart = chart.name();
         std::string name = source.chart.empty() ? place.sheet->knownName() : source.chart;
         const CopiedPtr copied = chart.copy(std::move(source));
@@ -61,7 +63,8 @@ private:
                                         ? place.sheet->ownChart()
                                         : place.sheet->findChart(what_.place);
         if (!chart) refuse(source_, fmt::format("There is no chart \"{}\"", what_.place));
-        const PagePicture picture = pictureOf(place, *chart, {});
+        const PagePicture picture =
+            pictureOf(place, sourceOf(place, CopySource::Kind::Chart), *chart, {});
         return pageItem(what_.divId, what_.title, picture.box.width, pictureAsPage(picture));
     }
 
@@ -76,9 +79,8 @@ private:
         if (!block) refuse(source_, "There is nothing in these rows or columns");
         CopySource from = sourceOf(found->home, CopySource::Kind::Cells);
         from.address = addressOf(*block);
-        const TableLook look =
-            found->home.sheet->cells(*block)->copy(std::move(from))->tableOfPage();
-        const std::vector<PagePicture> charts = chartsOn(found->home, look);
+        const TableLook look = found->home.sheet->cells(*block)->copy(from)->tableOfPage();
+        const std::vector<PagePicture> charts = chartsOn(found->home, from, look);
         if (charts.empty() && !showsCells(look)) gaps.emplace(asked, look);
         return itemOf(look, charts);
     }
@@ -89,7 +91,8 @@ private:
     }
 
     /// The charts that lie on the cells, or stick out of them.
-    [[nodiscard]] std::vector<PagePicture> chartsOn(const InSheet& place, const TableLook& look) {
+    [[nodiscard]] std::vector<PagePicture> chartsOn(const InSheet& place, const CopySource& from,
+                                                    const TableLook& look) {
         constexpr double touchingPt = 0.5;
         std::vector<PagePicture> pictures;
         const auto& [charts, boxes] = placedCharts(*place.sheet);
@@ -99,7 +102,7 @@ private:
                               box.left + box.width > look.leftPt + touchingPt &&
                               box.top + touchingPt < look.topPt + look.heightPt() &&
                               box.top + box.height > look.topPt + touchingPt;
-            if (lies) pictures.push_back(pictureOf(place, *charts[i], box));
+            if (lies) pictures.push_back(pictureOf(place, from, *charts[i], box));
         }
         return pictures;
     }
