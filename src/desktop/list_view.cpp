@@ -16,6 +16,24 @@
 
 namespace desktop {
 
+namespace {
+
+bool leadsToAnotherRow(int key) {
+    switch (key) {
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_Home:
+        case Qt::Key_End:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
 ListView::ListView(forms::ListView& list, QWidget& parent, ViewHost& host)
     : QTreeView(&parent),
       ControlView(list, *this, host),
@@ -201,9 +219,17 @@ void ListView::keyPressEvent(QKeyEvent* event) {
         event->ignore();
         return;
     }
-    const QScopedValueRollback pick(
-        keyPick_, event->modifiers().testFlag(Qt::ShiftModifier) ? Pick::Through : Pick::Only);
+    // With the other keys it makes a capital of the letter that leads to a name.
+    const bool extends =
+        event->modifiers().testFlag(Qt::ShiftModifier) && leadsToAnotherRow(event->key());
+    const QScopedValueRollback pick(keyPick_, extends ? Pick::Through : Pick::Only);
+    if (!event->text().isEmpty() && event->text().front().isPrint()) sinceLetter_.start();
     QTreeView::keyPressEvent(event);
+}
+
+bool ListView::isTyping() const {
+    return sinceLetter_.isValid() &&
+           !sinceLetter_.hasExpired(QApplication::keyboardInputInterval());
 }
 
 bool ListView::runKey(const QKeyEvent& event) {
@@ -222,7 +248,7 @@ bool ListView::runKey(const QKeyEvent& event) {
             if (list_.onRowsClear) list_.onRowsClear();
         });
     } else if (event.key() == Qt::Key_Space && painter_->looks.checkBoxes &&
-               currentIndex().isValid()) {
+               currentIndex().isValid() && !isTyping()) {
         toggle(currentIndex().row());
     } else {
         return false;

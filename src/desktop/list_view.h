@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QElapsedTimer>
 #include <QtWidgets/QTreeView>
 
 #include <string>
@@ -52,6 +53,8 @@ private:
     void focusMoved();
     /// Runs what a key asks for; false for a key that the list knows nothing of.
     bool runKey(const QKeyEvent& event);
+    /// A name is being typed, to which a blank then belongs.
+    [[nodiscard]] bool isTyping() const;
 
     forms::ListView& list_;
     RowsModel model_;
@@ -62,6 +65,7 @@ private:
     bool syncing_ = false;
     /// How an arrow key that is under way chooses.
     Pick keyPick_ = Pick::Only;
+    QElapsedTimer sinceLetter_;
     /// The row on which the button went down, or -1.
     int pressedRow_ = -1;
     QPoint pressedAt_;

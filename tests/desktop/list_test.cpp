@@ -104,6 +104,19 @@ TEST_F(Lists, KeysMoveAndClearTheChosenRowsAndALetterJumpsToAName) {
     EXPECT_EQ(form.rows.selected(), 5);
 }
 
+TEST_F(Lists, CapitalsAndBlanksBelongToTheNameThatIsTyped) {
+    form.rows.rows[5].cells[0] = "Margin";
+    form.rows.rows[6].cells[0] = "Margin 2";
+    clickRow(1);
+    form.focus = &form.listCharts;
+    key(Qt::Key_M, Qt::ShiftModifier);
+    EXPECT_EQ(form.rows.selected(), 5);
+    EXPECT_EQ(std::ranges::count_if(form.rows.rows, &sample::Rows::Row::marked), 1);
+    type("argin 2");
+    EXPECT_EQ(form.rows.selected(), 6);
+    EXPECT_TRUE(form.rows.isChecked(5));
+}
+
 TEST_F(Lists, RowsAreDraggedToWhereTheLineShowsThem) {
     QWidget& area = *view().viewport();
     const auto drag = [&](int from, QPoint to) {
