@@ -1,6 +1,7 @@
 #include "office/libreoffice/excel/calc_document.h"
 
 #include <com/sun/star/container/XNamed.hpp>
+#include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/drawing/XShapes.hpp>
 #include <com/sun/star/frame/XController.hpp>
 #include <com/sun/star/frame/XFrame.hpp>
@@ -100,6 +101,12 @@ NamedRanges& CalcDocument::names() {
         names_.emplace(*this,
                        property<uno::Reference<css::sheet::XNamedRanges>>(model(), "NamedRanges"));
     return *names_;
+}
+
+const uno::Reference<css::document::XUndoManager>& CalcDocument::undoSteps() {
+    if (!undoSteps_.is())
+        undoSteps_ = as<css::document::XUndoManagerSupplier>(model())->getUndoManager();
+    return undoSteps_;
 }
 
 uno::Reference<css::sheet::XSpreadsheetView> CalcDocument::view() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <com/sun/star/document/XUndoManager.hpp>
 #include <com/sun/star/sheet/XNamedRanges.hpp>
 #include <com/sun/star/sheet/XSpreadsheetView.hpp>
 
@@ -32,6 +33,8 @@ public:
     [[nodiscard]] SheetList& sheetList();
     [[nodiscard]] NumberFormats& formats() { return formats_; }
     [[nodiscard]] uno::Reference<css::sheet::XSpreadsheetView> view() const;
+    /// What the user can take back.
+    [[nodiscard]] const uno::Reference<css::document::XUndoManager>& undoSteps();
     /// The workbook as `NamedCells` give it.
     [[nodiscard]] model::BookPtr self() { return shared_from_this(); }
 
@@ -68,6 +71,7 @@ private:
     std::optional<WorkbookFacts> facts_;
     std::optional<SheetList> sheets_;
     std::optional<NamedRanges> names_;
+    uno::Reference<css::document::XUndoManager> undoSteps_;
     NumberFormats formats_;
 };
 

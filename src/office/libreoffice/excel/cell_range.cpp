@@ -6,6 +6,7 @@
 #include "office/libreoffice/excel/cell_values.h"
 #include "office/libreoffice/excel/copied.h"
 #include "office/libreoffice/excel/range_picture.h"
+#include "office/libreoffice/excel/unrecorded.h"
 #include "office/libreoffice/units.h"
 #include "office/model/excel/objects.h"
 
@@ -21,10 +22,12 @@ office::Table CellRange::read() {
 }
 
 void CellRange::write(const office::Table& values) {
+    const Unrecorded quiet(sheet_->book());
     writeCells(sheet_->book().formats(), range(), block_, values);
 }
 
 void CellRange::clear() {
+    const Unrecorded quiet(sheet_->book());
     as<css::sheet::XSheetOperation>(range())->clearContents(contentsOfCells);
 }
 
@@ -33,6 +36,7 @@ std::string CellRange::numberFormat() {
 }
 
 void CellRange::setNumberFormat(const std::string& code) {
+    const Unrecorded quiet(sheet_->book());
     setProperty(range(), "NumberFormat", sheet_->book().formats().keyFor(code));
 }
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/unrecorded.h"
 #include "office/text.h"
 
 namespace libreoffice::excel {
@@ -130,6 +131,7 @@ bool NamedRanges::isVisible(const std::string& name) {
 void NamedRanges::define(const std::string& name, const model::CellsOfSheet& cells, bool visible) {
     const rtl::OUString contents = toUno(contentsOf(cells));
     const sal_Int32 type = visible ? 0 : hiddenNameFlag;
+    const Unrecorded quiet(book_);
     if (has(name)) {
         const auto known = fetch(name);
         known->setContent(contents);

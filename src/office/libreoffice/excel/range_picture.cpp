@@ -10,6 +10,7 @@
 #include "office/failure.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/selected_cells.h"
+#include "office/libreoffice/excel/unrecorded.h"
 
 namespace libreoffice::excel {
 
@@ -25,6 +26,7 @@ constexpr const char* metafileType =
 /// empty text in the last column of the block makes it have memory for all of them.
 void allocateColumns(const SheetRecord& sheet, const model::CellBlock& block) {
     const KeptModifiedFlag flag(sheet.book());
+    const Unrecorded quiet(sheet.book());
     const auto corner = sheet.sheet()->getCellByPosition(block.lastColumn, block.lastRow);
     if (corner->getType() == css::table::CellContentType_EMPTY)
         as<css::text::XTextRange>(corner)->setString("");

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "office/failure.h"
+#include "office/libreoffice/excel/unrecorded.h"
 #include "office/text.h"
 
 namespace libreoffice::excel {
@@ -82,11 +83,13 @@ bool SheetList::isThere(SheetRecord& sheet) {
 }
 
 SheetRecordPtr SheetList::add(const std::string& name, std::int32_t place) {
+    const Unrecorded quiet(book_);
     sheets_->insertNewByName(toUno(name), static_cast<sal_Int16>(place));
     return recordFor(name);
 }
 
 void SheetList::remove(const model::SheetPtr& sheet) {
+    const Unrecorded quiet(book_);
     sheets_->removeByName(toUno(sheet->name()));
     const auto record = std::dynamic_pointer_cast<SheetRecord>(sheet);
     record->foundDeleted = true;

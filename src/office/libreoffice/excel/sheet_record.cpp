@@ -16,6 +16,7 @@
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/cell_range.h"
 #include "office/libreoffice/excel/recovered_chart.h"
+#include "office/libreoffice/excel/unrecorded.h"
 #include "office/libreoffice/units.h"
 #include "office/model/excel/objects.h"
 
@@ -107,6 +108,7 @@ std::string SheetRecord::name() {
 }
 
 void SheetRecord::rename(const std::string& name) {
+    const Unrecorded quiet(book_);
     named()->setName(toUno(name));
     name_ = this->name();
 }
@@ -123,6 +125,7 @@ bool SheetRecord::isShown() {
 }
 
 void SheetRecord::show(bool shown) {
+    const Unrecorded quiet(book_);
     properties()->setPropertyValue("IsVisible", uno::Any(shown));
 }
 
