@@ -1,4 +1,5 @@
 #include <com/sun/star/container/XNamed.hpp>
+#include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/table/XColumnRowRange.hpp>
@@ -72,6 +73,47 @@ TEST_F(ExcelSheets, TellsTheChartSheetsOfAnEncryptedFileByTheirLooks) {
     book = books.call("Open", secret, arg("Password", "pass")).toObject();
     EXPECT_EQ(namesIn(book.get("Charts")), (Names{"Trend", "Alike"}));
     EXPECT_EQ(namesIn(book.get("Worksheets")), (Names{"Data", "Hidden", "Buried"}));
+}
+
+TEST_F(ExcelSheets, KnowsAWorkbookThatIsSavedUnderAnotherName) {
+    const Object book = open("sheets.xlsx");
+    const std::string before = book.get("Identity").toText();
+    as<css::frame::XStorable>(model())->storeAsURL(toUno("file://" + file("other.ods")), {});
+    EXPECT_EQ(book.get("Name").toText(), "other.ods");
+    EXPECT_EQ(book.get("Identity").toText(), before);
+    EXPECT_NE(open("lost.xlsx").get("Identity").toText(), before);
+}
+
+TEST_F(ExcelSheets, LeavesWhatTheUserCanUndoAndRedoAsItIs) {
+    const Object book = open("sheets.xlsx");
+    const auto steps = as<css::document::XUndoManagerSupplier>(model())->getUndoManager();
+    userRenames("Data", "Figures");
+    userRenames("Alike", "Unlike");
+    steps->undo();
+    const auto toUndoAndRedo = [&] {
+        return std::pair(steps->getAllUndoActionTitles().getLength(),
+                         steps->getAllRedoActionTitles().getLength());
+    };
+    ASSERT_EQ(toUndoAndRedo(), std::pair(1, 1));
+    const Value sheets = book.get("Sheets");
+    const Object added = book.get("Worksheets")
+                             .call("Add", arg("After", sheets.get("Item", sheets.get("Count"))))
+                             .toObject();
+    added.put("Name", "Ours");
+    book.get("Names").call("Add", arg("Name", "OurCells"), arg("RefersToR1C1", "=Ours!C1:C8"));
+    const Object cells = added.get("Range", "OurCells").toObject();
+    cells.put("NumberFormat", "@");
+    added.get("Range", "A1:B1").put("Value", true);
+    added.put("Visible", 2);
+    added.get("Cells").call("ClearContents");
+    EXPECT_EQ(toUndoAndRedo(), std::pair(1, 1));
+    steps->redo();
+    steps->undo();
+    steps->undo();
+    EXPECT_EQ(namesIn(book.get("Sheets")),
+              (Names{"Data", "Trend", "Alike", "Hidden", "Buried", "Ours"}));
+    added.call("Delete");
+    EXPECT_EQ(toUndoAndRedo(), std::pair(0, 2));
 }
 
 TEST_F(ExcelSheets, OpensNothingButWorkbooksAndSaysWhy) {

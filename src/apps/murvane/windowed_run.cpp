@@ -127,7 +127,7 @@ void Windows::showHelpIn(const forms::Form& form) {
 }
 
 void Windows::showMainForm() {
-    if (!claim(session_.ActiveBook.get("FullName").toText())) {
+    if (!claim(session_.ActiveBook.get("Identity").toText())) {
         session::ShowWarningNotice(session_.notices,
                                    "The main form is open for this workbook already.\r"
                                    "Go on there, or close it first.");

@@ -11,6 +11,7 @@
 #include <com/sun/star/util/XCloseable.hpp>
 #include <cppuhelper/implbase1.hxx>
 #include <fmt/format.h>
+#include <uno/environment.hxx>
 
 #include <algorithm>
 #include <filesystem>
@@ -62,6 +63,17 @@ std::string Document::name() const {
 std::string Document::fullName() const {
     const std::string path = pathOfUrl(url());
     return path.empty() ? name() : path;
+}
+
+/// By what the suite calls the object on every bridge. It holds the process's own number: documents
+/// of another suite are others.
+std::string Document::identity() const {
+    const uno::Environment here = uno::Environment::getCurrent();
+    uno_ExtEnvironment* objects = here.get()->pExtEnv;
+    const uno::Reference<uno::XInterface> object(model_, uno::UNO_QUERY_THROW);
+    rtl_uString* name = nullptr;
+    objects->getObjectIdentifier(objects, &name, object.get());
+    return name == nullptr ? fullName() : fromUno(rtl::OUString(name, SAL_NO_ACQUIRE));
 }
 
 void Document::writeCopy(std::string_view member, const std::string& path,

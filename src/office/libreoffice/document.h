@@ -34,6 +34,8 @@ public:
     [[nodiscard]] std::string name() const;
     /// The path of the file; the name alone for a document never saved.
     [[nodiscard]] std::string fullName() const;
+    /// The same for every program that is connected to the suite, as long as the document is open.
+    [[nodiscard]] std::string identity() const;
     /// The file's address; empty for a document never saved.
     [[nodiscard]] rtl::OUString url() const { return file_.isEmpty() ? model_->getURL() : file_; }
     /// Names the file of a document that was loaded apart from it.

@@ -44,6 +44,7 @@ public:
     [[nodiscard]] bool isGone() const override { return closed_; }
     std::string name() override { return name_; }
     std::string fullName() override { return folder_ + "/" + name_; }
+    std::string identity() override { return fullName(); }
     bool isReadOnly() override { return readOnly_; }
     bool isModified() override { return modified_; }
     void setModified(bool modified) override { modified_ = modified; }

@@ -44,6 +44,7 @@ public:
     [[nodiscard]] bool isGone() const override { return isClosed(); }
     std::string name() override { return Document::name(); }
     std::string fullName() override { return Document::fullName(); }
+    std::string identity() override { return Document::identity(); }
     bool isReadOnly() override;
     bool isModified() override;
     void setModified(bool modified) override;

@@ -29,6 +29,8 @@ public:
     virtual std::string name() = 0;
     /// The file's path; the name alone of one never saved.
     virtual std::string fullName() = 0;
+    /// Tells it from every other one that is open, also once it is saved under another name.
+    virtual std::string identity() = 0;
     /// Whether its file may not be written. It can be changed all the same.
     virtual bool isReadOnly() = 0;
     virtual bool isModified() = 0;

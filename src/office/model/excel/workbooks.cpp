@@ -26,6 +26,8 @@ const MemberTable<Workbook>& Workbook::members() {
         MemberTable<Self>("Workbook")
             .property("Name", [](Self& self) { return self.book().name(); })
             .property("FullName", [](Self& self) { return self.book().fullName(); })
+            // Excel has no such member; its names change with the file's.
+            .property("Identity", [](Self& self) { return self.book().identity(); })
             .property(
                 "Saved", [](Self& self) { return !self.book().isModified(); },
                 [](Self& self, const Value& saved) { self.book().setModified(!saved.toBool()); })
