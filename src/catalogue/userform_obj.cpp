@@ -105,6 +105,7 @@ void UserformObj::loadForm() {
     resizeColumns();
     recolourRows();
     renumberRows();
+    keptRows_ = list_.rows;
     focus = &listCharts;
 }
 
@@ -130,12 +131,27 @@ void UserformObj::listChartsShowPreview() {
 }
 
 void UserformObj::Form_Unload() {
-    keepList();
+    const bool isLost = !keepList() && !isKept();
     office::ContinueOnFailure scope;
     scope.attempt([this] { session_.ExcelApp.put("ScreenUpdating", true); });
     session_.PowerPointApp.release();
     session_.ExcelApp.release();
+    if (isLost) {
+        session::ShowWarningNotice(
+            session_.notices,
+            "Your last changes to the list could not be written into the workbook:\r"
+            "it has been closed, or takes no changes any more.\r"
+            "The workbook holds the list as it was before them.");
+    }
     desktop().unloadAll();
+}
+
+void UserformObj::Form_Entered() {
+    if (takesInput) nameTarget();
+}
+
+void UserformObj::Form_Left() {
+    if (takesInput && !isKept()) keepList();
 }
 
 void UserformObj::ShowSmartHelp() const {
@@ -351,9 +367,16 @@ void UserformObj::imgChart_DblClick() {
 }
 
 /// Also ahead of each export, which may end the program by a failure.
-void UserformObj::keepList() {
+bool UserformObj::keepList() {
     session_.ActiveBook = workbook_;
-    session::SaveListToStore(session_, list_);
+    if (!session::SaveListToStore(session_, list_)) return false;
+    keptRows_ = list_.rows;
+    return true;
+}
+
+bool UserformObj::isKept() const {
+    return std::ranges::equal(list_.rows, keptRows_, {}, &ExportItem::decisions,
+                              &ExportItem::decisions);
 }
 
 void UserformObj::SlideTitle_Change() {

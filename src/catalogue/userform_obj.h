@@ -45,6 +45,10 @@ public:
 
     void Form_Load() override;
     void Form_Unload() override;
+    /// Another presentation may be the active one by now.
+    void Form_Entered() override;
+    /// What was changed is written into the workbook, which the user may be about to save.
+    void Form_Left() override;
     /// The list and the preview share what the form has gained.
     void Form_Resize() override;
 
@@ -141,6 +145,10 @@ private:
     void ShowHtmlTarget();
     void ShowImageTarget();
     void showTarget(const Target& target);
+    /// Only says anew where things go; what is chosen stays as it is.
+    void nameTarget();
+    bool namePresentation();
+    bool nameDocument();
 
     // The list.
     [[nodiscard]] ExportItem* selectedRow();
@@ -148,7 +156,9 @@ private:
     void renumberRows();
     void resizeColumns();
     void activateWorkbook();
-    void keepList();
+    /// Whether it is in the workbook now.
+    bool keepList();
+    [[nodiscard]] bool isKept() const;
 
     // Panels.
     [[nodiscard]] forms::Timer& timer(int index) {
@@ -163,6 +173,8 @@ private:
     MainFormHooks hooks_;
     ExportList list_;
     ExportListView listRows_;
+    /// The rows as they came up or were written last.
+    std::vector<ExportItem> keptRows_;
     /// The workbook that the rows are of, whichever the user looks at meanwhile.
     office::Object workbook_;
     std::array<std::unique_ptr<forms::Timer>, 5> timers_;

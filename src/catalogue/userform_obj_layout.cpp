@@ -256,6 +256,7 @@ void UserformObj::setFirstState() {
 void UserformObj::wireEvents() {
     for (std::size_t i = 0; i < Option1.size(); ++i) {
         Option1.at(i).onClick = [this, i] { Option1_Click(static_cast<int>(i)); };
+        Option1.at(i).onClickAgain = [this] { nameTarget(); };
     }
     for (std::size_t i = 0; i < Image1.size(); ++i) {
         const auto destination = static_cast<std::size_t>(destinationOfImage.at(i));

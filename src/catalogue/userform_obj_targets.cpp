@@ -49,28 +49,47 @@ void UserformObj::Option1_Click(int index) {
     TitlesFrame.visible = true;
 }
 
-void UserformObj::ShowPowerPointTarget() {
+void UserformObj::nameTarget() {
+    if (Option1[0].value()) {
+        namePresentation();
+    } else if (Option1[1].value()) {
+        nameDocument();
+    }
+}
+
+/// False if the application isn't running.
+bool UserformObj::namePresentation() {
     session::AttachPowerPoint(session_);
     if (!session_.PowerPointFound) {
         DestinationFile.caption = "PowerPoint is not running";
-        return;
+        return false;
     }
     DestinationFile.caption = activeLine(session_.PowerPointApp, "ActivePresentation",
                                          "Active presentation: ", "No active presentation open");
-    showTarget({true, true, "Paste to new created slides", true});
-    PasteExpress.caption = "*DoubleClick to paste displayed item only";
+    return true;
 }
 
-void UserformObj::ShowWordTarget() {
+bool UserformObj::nameDocument() {
     office::Object word;
     office::ContinueOnFailure scope;
     scope.attempt([&] { word = session_.suite.attach("Word.Application"); });
     if (!word) {
         DestinationFile.caption = "Word is not running";
-        return;
+        return false;
     }
     DestinationFile.caption =
         activeLine(word, "ActiveDocument", "Active document: ", "No active document open");
+    return true;
+}
+
+void UserformObj::ShowPowerPointTarget() {
+    if (!namePresentation()) return;
+    showTarget({true, true, "Paste to new created slides", true});
+    PasteExpress.caption = "*DoubleClick to paste displayed item only";
+}
+
+void UserformObj::ShowWordTarget() {
+    if (!nameDocument()) return;
     showTarget({true, false, "Paste to new created pages", true});
 }
 

@@ -294,7 +294,14 @@ void FormWindow::moveEvent(QMoveEvent*) {
 
 void FormWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() != QEvent::WindowStateChange || form_ == nullptr || syncing_) return;
+    if (form_ == nullptr) return;
+    if (event->type() == QEvent::ActivationChange && opened_) {
+        host_.deliver([this, entered = isActiveWindow()] {
+            if (form_ != nullptr) entered ? form_->Form_Entered() : form_->Form_Left();
+        });
+        return;
+    }
+    if (event->type() != QEvent::WindowStateChange || syncing_) return;
     if (isMinimized()) {
         form_->windowState = drawn_.state = forms::WindowState::Minimised;
     } else if (drawn_.state == forms::WindowState::Minimised) {

@@ -133,14 +133,13 @@ void QtDesktop::closeForms() {
 }
 
 void QtDesktop::closeThoseThatTakeInput() {
-    // Events may run while a form is unloaded.
-    if (!std::exchange(closes_, false)) return;
+    if (!closes_) return;
+    // Events may run while a form is unloaded, and what it then shows is closed as well.
     const std::vector<forms::Form*> open(loadedForms().rbegin(), loadedForms().rend());
     for (forms::Form* form : open) {
         const auto& now = loadedForms();
         if (std::find(now.begin(), now.end(), form) != now.end() && form->takesInput) unload(*form);
     }
-    closes_ = true;
 }
 
 void QtDesktop::runLater(LoadedForm& host, std::function<void()> event) {

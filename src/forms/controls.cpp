@@ -12,7 +12,10 @@ void CheckBox::setValue(State value) {
 }
 
 void OptionButton::setValue(bool value) {
-    if (std::exchange(value_, value) == value) return;
+    if (std::exchange(value_, value) == value) {
+        if (value && onClickAgain) onClickAgain();
+        return;
+    }
     if (!value) return;
     for (Control* other : form().controls()) {
         auto* option = dynamic_cast<OptionButton*>(other);

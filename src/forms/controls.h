@@ -81,6 +81,8 @@ public:
     /// `Style` 1: drawn as a button that stays down.
     bool graphical = false;
     Event onClick;
+    /// The option is chosen already.
+    Event onClickAgain;
 
 private:
     bool value_ = false;

@@ -64,6 +64,9 @@ public:
 
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
+    /// The user has come to the form's window, or has gone on to another one of any program.
+    virtual void Form_Entered() {}
+    virtual void Form_Left() {}
     virtual void Form_Unload() {}
     virtual void Form_Resize() {}
 

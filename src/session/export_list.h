@@ -41,6 +41,10 @@ struct ExportItem {
 
     /// What makes it the same item from run to run.
     [[nodiscard]] ItemIdentity identity() const { return {kind, name, sheet}; }
+    /// What the user decides about it and the store keeps, but for its place in the list.
+    [[nodiscard]] auto decisions() const {
+        return std::tuple(identity(), checked, slideNumber, caption);
+    }
     /// What the store notes of that; the other columns hold the rest.
     [[nodiscard]] std::string key() const { return name + sheet; }
     bool operator==(const ExportItem&) const = default;

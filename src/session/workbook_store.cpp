@@ -68,7 +68,8 @@ ExportItem itemIn(const Table& block, std::size_t row) {
     item.caption = text(captionColumn);
     item.laterRow = text(laterRowColumn);
     item.kind = kindOf(item.name, text(kindColumn));
-    item.checked = block.at(row, checkedColumn).toBool();
+    // A cell that somebody has written to may say neither; the rest of the list is as good as ever.
+    item.checked = office::orElse([&] { return block.at(row, checkedColumn).toBool(); }, true);
     return item;
 }
 
@@ -282,13 +283,16 @@ StoredItems MergeIntoStore(OfficeSession& session, std::vector<ExportItem> found
     return all;
 }
 
-void SaveListToStore(OfficeSession& session, const ExportList& list) {
-    if (!list.isLoaded) return;
+bool SaveListToStore(OfficeSession& session, const ExportList& list) {
+    if (!list.isLoaded) return true;
+    // In a file that LibreOffice has saved it is merely hidden: the user can show and delete it.
+    EnsureStoreSheet(session);
     office::ContinueOnFailure scope;
     Object sheet;
-    scope.attempt([&] { sheet = storeSheet(session); });
+    if (!scope.attempt([&] { sheet = storeSheet(session); })) return false;
     scope.attempt([&] { writeItems(sheet, list.rows); });
     scope.attempt([&] { writeCaptions(sheet, list.rows); });
+    return !scope.failed();
 }
 
 Placement readStoredPlacement(OfficeSession& session) {

@@ -53,8 +53,9 @@ struct StoredItems {
 [[nodiscard]] StoredItems MergeIntoStore(OfficeSession& session, std::vector<ExportItem> found);
 
 /// Puts the rows of the list in the place of the stored items; their order becomes that of the
-/// store. Nothing happens for a list that was not loaded. What fails is passed over.
-void SaveListToStore(OfficeSession& session, const ExportList& list);
+/// store, which is made anew if it has gone. Nothing happens for a list that was not loaded. What
+/// fails is passed over; false if anything did.
+bool SaveListToStore(OfficeSession& session, const ExportList& list);
 
 /// Where shapes stand on their slide: shares of the slide's height and width. What is left open is
 /// the program's to choose.

@@ -378,6 +378,41 @@ TEST_F(TheMainForm, leavesTheStoredListAloneIfItsOwnNeverCameUp) {
     EXPECT_EQ(again.list().rows[0].caption, "Kept");
 }
 
+TEST_F(TheMainForm, keepsWhatWasChangedWhenTheUserLeavesItAndSaysSoWhereItCannot) {
+    UserformObj& form = open();
+    test.suite.log().clear();
+    form.Form_Left();
+    EXPECT_EQ(test.suite.log().count(), 0U) << "nothing was changed";
+    form.SlideTitle.setText("Kept");
+    form.Form_Left();
+    const auto caption = test.sheet(session::store::sheetName).get("Range", "T1").get("Value");
+    EXPECT_EQ(caption.toText(), "Kept");
+    test.session.ActiveBook.call("Close", false);
+    closeAndAttach(form);
+    EXPECT_TRUE(test.notices.shown.empty()) << "all of it is in the workbook that was closed";
+
+    test.suite.excel().addWorkbook("Book2.xlsx").sheet("Sales").chart("Chart 1");
+    test.attach();
+    UserformObj& late = open();
+    late.SlideTitle.setText("Lost");
+    test.session.ActiveBook.call("Close", false);
+    closeAndAttach(late);
+    ASSERT_EQ(test.notices.shown.size(), 1U);
+    EXPECT_NE(test.notices.shown[0].message.find("could not be written"), std::string::npos);
+}
+
+TEST_F(TheMainForm, followsTheActivePresentationWithoutLeavingTheSlidesThatAreChosen) {
+    UserformObj& form = open();
+    form.OptionPredefSlides.setValue(true);
+    test.suite.powerPoint().addPresentation("Other.pptx");
+    form.Form_Entered();
+    EXPECT_EQ(form.DestinationFile.caption, "Active presentation: Other.pptx");
+    test.suite.powerPoint().addPresentation("Third.pptx");
+    form.Image1[0].onClick();
+    EXPECT_EQ(form.DestinationFile.caption, "Active presentation: Third.pptx");
+    EXPECT_TRUE(form.OptionPredefSlides.value());
+}
+
 TEST_F(TheMainForm, keepsItsListInItsWorkbookWhicheverTheUserLooksAt) {
     UserformObj& form = open();
     form.listCharts.check(0, false);

@@ -171,6 +171,14 @@ TEST_F(StoreMerge, TakesARenamedSheetsItemsForNewOnes) {
               (Words{"Chart 1@Sales", "Chart 2@Sales", "Chart 1@Turnover", "Chart 2@Turnover"}));
 }
 
+TEST_F(StoreMerge, TakesACheckMarkThatIsNoneForOne) {
+    run();
+    test.sheet(session::store::sheetName).get("Range", "E1").put("Value", "yes");
+    const LoadedList loaded(test);
+    ASSERT_EQ(loaded.list.rows.size(), 2U);
+    EXPECT_TRUE(loaded.list.rows[0].checked);
+}
+
 TEST_F(StoreMerge, DistinguishesKeysByCase) {
     run();
     book.sheet("Sales").chart("CHART 1");

@@ -59,8 +59,11 @@ public:
     void Form_Load() override;
     void Form_Unload() override { happened.emplace_back("unload"); }
     void Form_Resize() override { happened.emplace_back("resize"); }
+    void Form_Entered() override { visits += '+'; }
+    void Form_Left() override { visits += '-'; }
 
     std::vector<std::string> happened;
+    std::string visits;
     Rows rows;
     furniture::clsShadow shadow;
 

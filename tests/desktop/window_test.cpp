@@ -60,6 +60,30 @@ TEST_F(Windows, AreClosedByTheProgramOneAfterTheOtherAsSoonAsTheyTakeInput) {
     EXPECT_FALSE(desk.isLoaded(form));
 }
 
+TEST_F(Windows, WhatAFormShowsWhenTheProgramClosesItIsClosedToo) {
+    sample::SampleForm notice(desk);
+    struct Asking : forms::Form {
+        using Form::Form;
+        void Form_Unload() override { desktop().show(*above, ShowMode::Modal); }
+        forms::Form* above = nullptr;
+    } asking(desk, "Asking", 3000, 3000);
+    asking.above = &notice;
+    desk.show(asking, ShowMode::Modeless);
+    desk.closeForms();
+    EXPECT_TRUE(waitUntil([&] { return desk.loadedForms().empty(); }));
+    EXPECT_EQ(notice.happened, std::vector<std::string>{"unload"});
+}
+
+TEST_F(Windows, AFormHearsThatTheUserLeavesItAndComesBack) {
+    ASSERT_TRUE(waitUntil([&] { return form.visits == "+"; }));
+    sample::SampleForm other(desk);
+    desk.show(other, ShowMode::Modeless);
+    EXPECT_TRUE(waitUntil([&] { return form.visits == "+-"; })) << form.visits;
+    window(form).activateWindow();
+    EXPECT_TRUE(waitUntil([&] { return form.visits == "+-+"; })) << form.visits;
+    EXPECT_EQ(other.visits, "+-");
+}
+
 TEST_F(Windows, AFormThatAModalOneShowsCanBeReached) {
     sample::SampleForm dialog(desk), progress(desk);
     const auto clickIn = [&](const sample::SampleForm& of) {

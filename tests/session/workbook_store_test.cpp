@@ -34,11 +34,11 @@ protected:
         made.sheet = "Sales";
         return made;
     }
-    void save(const std::vector<std::string>& names) {
+    bool save(const std::vector<std::string>& names) {
         session::ExportList list;
         list.isLoaded = true;
         for (const std::string& name : names) list.rows.push_back(item(name));
-        session::SaveListToStore(test.session, list);
+        return session::SaveListToStore(test.session, list);
     }
 };
 
@@ -111,8 +111,16 @@ TEST_F(WorkbookStore, IsWrittenInAFewCallsAndSaysNothingWhereTheWorkbookHasGone)
     EXPECT_LE(test.suite.log().count(), 20U);
     EXPECT_EQ(cell("A200"), "Chart");
     test.suite.failures().failAlways("Worksheets");
-    save({"Chart 1"});
+    EXPECT_FALSE(save({"Chart 1"}));
     EXPECT_TRUE(test.notices.shown.empty());
+}
+
+TEST_F(WorkbookStore, ComesBackWithTheListAfterSomebodyHasDeletedIt) {
+    session::EnsureStoreSheet(test.session);
+    test.sheet(store::sheetName).call("Delete");
+    EXPECT_TRUE(save({"Chart 1"}));
+    EXPECT_EQ(cell("A1"), "Chart 1");
+    EXPECT_EQ(test.sheet(store::sheetName).get("Visible").toLong(), 2);
 }
 
 TEST_F(WorkbookStore, HoldsThePlacementAsSharesOrLeavesItOpen) {

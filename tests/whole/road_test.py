@@ -1,5 +1,7 @@
 """The whole road by hand: from the list of the open workbook to the slides of the open presentation."""
 
+import subprocess
+
 from at_the_screen import DECK, DIALOG, FORM, LIST, PAGE, SMALL_BOOK, AtTheScreen, png_lines, unittest, wait_until
 
 SLIDES_OF_DECK = 3
@@ -73,6 +75,32 @@ class TheRoad(AtTheScreen):
                          [(row["checked"], row["texts"][:5]) for row in rows])
         again.do("key", FORM, key="Alt+F4")
         self.assertEqual(again.ended(), 0, again.said())
+
+    def test_keeps_the_list_in_the_workbook_that_is_saved_from_another_window_under_another_name(self):
+        self.open_sample(SMALL_BOOK)
+        hand = self.open_main_form()
+        hand.do("click-row", FORM, LIST, row=0)
+        hand.do("click", FORM, "AddCaption")
+        wait_until(lambda: hand.do("control", FORM, "TitlesFrame")["visible"])
+        hand.do("click", FORM, "SlideTitle")
+        hand.do("key", FORM, key="Ctrl+A")
+        hand.do("type", FORM, text="Typed")
+        wait_until(lambda: hand.rows()[0]["texts"][CAPTION] == "Typed", what="the caption")
+        window = self.screen.window_named(SMALL_BOOK)[0]
+        subprocess.run(["xdotool", "windowactivate", window], env=self.screen.environment, check=True)
+        stored = """
+book = document("Workbook")
+print(book.Sheets.getByName("kukukukuZichron").getCellRangeByName("T1").String, *book.UndoManager.getAllUndoActionTitles())
+"""
+        wait_until(lambda: self.in_the_suite(stored).strip() == "Typed", what="the caption in the store, by no step of Undo")
+        self.in_the_suite('document("Workbook").storeAsURL(uno.systemPathToFileUrl(sys.argv[2]), ())', self.folder / "Other.ods")
+        second = self.screen.use("/112")
+        second.wait_for("MurvaneNotice")
+        second.do("key", "MurvaneNotice", key="Escape")
+        self.assertEqual(second.ended(), 0, second.said())
+        self.in_the_suite('close(document("Workbook"))')
+        hand.do("key", FORM, key="Alt+F4")
+        self.assertEqual(hand.ended(), 0, hand.said())
 
     def test_shows_what_is_clicked_and_puts_it_on_the_slide_in_view(self):
         self.open_sample()
