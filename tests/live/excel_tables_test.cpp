@@ -1,14 +1,22 @@
+#include <com/sun/star/lang/Locale.hpp>
+#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/util/XNumberFormatTypes.hpp>
+#include <com/sun/star/util/XNumberFormatsSupplier.hpp>
 #include <fmt/format.h>
 
 #include <utility>
 
 #include "live/live_suite.h"
 #include "office/copied.h"
+#include "office/libreoffice/excel/cells_as_html.h"
 
 namespace live {
 
 namespace {
 
+namespace css = libreoffice::css;
+namespace uno = libreoffice::uno;
+using libreoffice::as;
 using office::CellLine;
 using office::CellLook;
 using office::TableLook;
@@ -144,6 +152,27 @@ TEST_F(ExcelTables, DoWithWideTextsWhatASheetDoes) {
         if (!look.isCovered && !look.text.empty()) found.push_back(described(look));
     }
     EXPECT_EQ(found, expected);
+}
+
+TEST(CellsAsHtml, HaveTheirNumbersInTheSuitesLanguage) {
+    for (const char* mark : {".", ","}) {
+        const std::string cell = fmt::format("<td sdval=\"-1{}25E-05\">x</td>", mark);
+        const auto cells =
+            libreoffice::excel::readCellsAsHtml("<table><tr>" + cell + "</tr></table>");
+        EXPECT_EQ(cells.rows.at(0).cells.at(0).number, -1.25e-5);
+    }
+}
+
+TEST_F(ExcelTables, RoundNumbersWhateverTheirLanguageCallsTheFormat) {
+    const auto formats = as<css::util::XNumberFormatTypes>(
+        as<css::util::XNumberFormatsSupplier>(model())->getNumberFormats());
+    const uno::Reference<css::sheet::XSpreadsheet> wide(
+        as<css::sheet::XSpreadsheetDocument>(model())->getSheets()->getByName("Wide"),
+        uno::UNO_QUERY_THROW);
+    libreoffice::setProperty(wide->getCellByPosition(1, 5), "NumberFormat",
+                             formats->getStandardIndex(css::lang::Locale("de", "DE", "")));
+    EXPECT_EQ(tableOf("Wide", "A6:D6").at(0, 1).text, "33,3333333");
+    EXPECT_EQ(sheet(book, "Wide").get("Range", "B6").get("NumberFormat").toText(), "General");
 }
 
 TEST_F(ExcelTables, HaveTheBarsThatFormatsDraw) {

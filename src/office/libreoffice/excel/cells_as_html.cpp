@@ -41,7 +41,8 @@ std::optional<std::string> attributeOf(const xmlNode& node, std::string_view nam
 std::optional<double> numberOf(const xmlNode& node, std::string_view name) {
     const auto text = attributeOf(node, name);
     if (!text || text->empty()) return std::nullopt;
-    return office::leadingNumber(*text);
+    // The values of cells have the decimal mark of the suite's language, and no other mark.
+    return office::leadingNumber(office::replaceAll(*text, ",", "."));
 }
 
 std::int32_t countOf(const xmlNode& node, std::string_view name) {

@@ -48,6 +48,10 @@ NumberFormats::Format& NumberFormats::format(std::int32_t key) {
     rtl::OUString code;
     properties->getPropertyValue("Type") >>= type;
     properties->getPropertyValue("FormatString") >>= code;
+    // Each language has a word of its own for it.
+    bool isGeneral = false;
+    properties->getPropertyValue("StandardFormat") >>= isGeneral;
+    if (isGeneral) code = "General";
     Format read{Kind::Other, fromUno(code), {}};
     if ((type & css::util::NumberFormat::LOGICAL) != 0) read.kind = Kind::Boolean;
     if ((type & css::util::NumberFormat::TEXT) != 0) read.kind = Kind::Text;

@@ -22,7 +22,7 @@ public:
     NumberFormats(const Connection& connection, uno::Reference<css::frame::XModel> model);
 
     [[nodiscard]] Kind kindOf(std::int32_t key);
-    /// "General", "0.00", "@", ...
+    /// "General", "0.00", "@", ... "General" in every language of the suite or of the format.
     [[nodiscard]] std::string codeOf(std::int32_t key);
     /// The colour that a format gives a number, such as red to one below zero; `otherwise` if it
     /// gives none. 0xBBGGRR.
