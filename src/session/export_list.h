@@ -34,6 +34,8 @@ struct ExportItem {
     bool checked = true;
     /// A range of several areas: it can't be exported and may not be checked.
     bool hasSeveralAreas = false;
+    /// Known from the store alone: the workbook has lost it, or it is on a hidden sheet.
+    bool isMissing = false;
     /// Shown in grey: the item lacks something, or isn't checked.
     bool isMuted = false;
     /// One of the rows that are chosen for a common deed.

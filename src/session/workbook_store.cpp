@@ -140,7 +140,8 @@ StoredItems merged(const Stored& stored, std::vector<ExportItem> found) {
         };
         std::ranges::stable_sort(found, {}, sheetOf);
     }
-    std::unordered_set<std::string> formerChartSheets = chartSheetsLostIn(stored, found);
+    const std::unordered_set<std::string> lostChartSheets = chartSheetsLostIn(stored, found);
+    std::unordered_set<std::string> formerChartSheets = lostChartSheets;
     // Counted: where several bear one name, a new one is not taken for one that is known.
     std::map<ItemIdentity, int> known;
     for (const ExportItem& item : stored.items) ++known[item.identity()];
@@ -149,6 +150,12 @@ StoredItems merged(const Stored& stored, std::vector<ExportItem> found) {
         if (item.isEmbeddedChart() && formerChartSheets.erase(item.sheet) > 0) continue;
         if (!wereUnknown) item.laterRow = laterRow;
         all.items.push_back(std::move(item));
+    }
+    for (std::size_t i = stored.items.size(); i-- > 0;) {
+        ExportItem& item = all.items[i];
+        const bool isOnWorksheet = item.isChartSheet() && lostChartSheets.contains(item.sheet) &&
+                                   !formerChartSheets.contains(item.sheet);
+        item.isMissing = known[item.identity()]-- > 0 && !isOnWorksheet;
     }
     return all;
 }

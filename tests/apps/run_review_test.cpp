@@ -22,6 +22,7 @@ protected:
             hideSouth(book);
             auto& store = book.sheet("kukukukuZichron");
             store.block("A1", {{"Chart 1", "North", "", 1, true, "Embedded", "", "Chart 1North"},
+                               {"Chart 9", "North", "", "", false, "Embedded", "", "Chart 9North"},
                                {"Chart 1", "South", "", 2, true, "Embedded", "", "Chart 1South"}});
         });
     }
@@ -64,6 +65,7 @@ TEST_F(RunReviewTest, AWarningEndsTheRunUnlessItWasAgreedToBeforehand) {
     console.typed = {"n", "y"};
     EXPECT_EQ(exportWith({"--overwrite"}), 3);
     EXPECT_EQ(exportWith({"--overwrite"}), 0) << console.error;
+    EXPECT_EQ(exportWith({"--overwrite", "--all"}), 0) << "of what there is " << console.error;
 }
 
 TEST_F(RunReviewTest, ARangeOfSeveralAreasIsLeftOutByAllAndBlocksByName) {

@@ -182,7 +182,7 @@ void checkOnly(ExportList& list, const std::vector<std::size_t>& indices) {
 }
 
 void checkAll(ExportList& list) {
-    for (ExportItem& row : list.rows) row.checked = !row.hasSeveralAreas;
+    for (ExportItem& row : list.rows) row.checked = !row.hasSeveralAreas && !row.isMissing;
 }
 
 void moveToTop(ExportList& list, const std::vector<std::size_t>& indices) {
