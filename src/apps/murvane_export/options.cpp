@@ -365,6 +365,17 @@ void requireDestinations(const CLI::App& app, const Options& options) {
     }
 }
 
+/// What goes with the task, and with other options.
+void requireTask(const CLI::App& app, const Options& options) {
+    for (const char* option : {"--to", "--output", "--into", "--overwrite"}) {
+        if (options.task == Task::List && app.count(option) > 0)
+            throw UsageError(fmt::format("{} and --list don't go together.", option));
+    }
+    const bool makesPdf = options.targetOf(catalogue::Destination::Pdf) != nullptr;
+    if (app.count("--size") > 0 && !makesPdf && !options.sameWidth)
+        throw UsageError("--size goes with --to pdf, or with --to html and --same-width.");
+}
+
 }  // namespace
 
 std::variant<Options, ParseEnd> parseOptions(const std::vector<std::string>& arguments) {
@@ -386,6 +397,7 @@ std::variant<Options, ParseEnd> parseOptions(const std::vector<std::string>& arg
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
         finish(options, raw);
         requireDestinations(app, options);
+        requireTask(app, options);
     } catch (const CLI::ParseError& end) {
         std::ostringstream out;
         std::ostringstream error;
