@@ -83,4 +83,8 @@ std::string makeDraftFolder(const std::string& parent) {
     return makeOne(parent, draftStart);
 }
 
+void sweepDraftFolders(const std::string& parent) {
+    sweep(parent);
+}
+
 }  // namespace apps

@@ -14,4 +14,7 @@ namespace apps {
 /// A hidden one beside what it is written for, where other machines may have theirs.
 [[nodiscard]] std::string makeDraftFolder(const std::string& parent);
 
+/// Takes those away that processes of this user have left which were killed.
+void sweepDraftFolders(const std::string& parent);
+
 }  // namespace apps

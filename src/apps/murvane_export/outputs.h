@@ -25,8 +25,9 @@ public:
     /// `UsageError` if the output is this file, which the run reads.
     void requireOtherThan(const std::filesystem::path& input) const;
 
-    /// In a folder of this run's own beside the output, ready to be written to: a file, or an empty
-    /// folder. `RunError` if it can't be made.
+    /// In a folder of this run's own beside the output, or within it where that is a folder which
+    /// is there already, ready to be written to: a file, or an empty folder. `RunError` if it can't
+    /// be made.
     [[nodiscard]] const std::filesystem::path& neighbour();
 
     /// `RunError` if nothing was written to the neighbour, or if the name was taken meanwhile and
@@ -34,8 +35,9 @@ public:
     virtual void commit() = 0;
 
 protected:
-    /// `UsageError` if the folder that it comes into is missing or can't be written.
-    Output(const std::filesystem::path& file, bool overwrites);
+    /// `UsageError` if the folder that drafts come into is missing or can't be written.
+    Output(const std::filesystem::path& file, const std::filesystem::path& draftPlace,
+           bool overwrites);
 
     [[nodiscard]] bool overwrites() const { return overwrites_; }
     [[noreturn]] void refuse(const std::string& why) const;
@@ -51,9 +53,14 @@ protected:
 
 private:
     std::filesystem::path file_;
+    std::filesystem::path draftPlace_;
     bool overwrites_;
     std::filesystem::path neighbour_;
 };
+
+/// The file that a name means: itself, or what it is a link to, also where that isn't there yet.
+/// Absolute.
+[[nodiscard]] std::filesystem::path behindLinks(const std::filesystem::path& file);
 
 /// The output of a target. `UsageError` if the name has not the ending of its kind, if its folder
 /// is missing or can't be written, if a folder bears the name of a file or a file that of a folder,

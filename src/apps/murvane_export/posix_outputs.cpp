@@ -23,20 +23,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The file itself where the name is a link to it, also to one that isn't there yet, so that
-/// writing it leaves the link alone.
-fs::path behindLinks(const fs::path& file) {
-    constexpr int mostLinks = 40;
-    std::error_code error;
-    fs::path path = fs::absolute(file, error);
-    for (int i = 0; i < mostLinks && fs::is_symlink(path, error); ++i) {
-        const fs::path target = fs::read_symlink(path, error);
-        if (error) break;
-        path = path.parent_path() / target;
-    }
-    return path;
-}
-
 std::string reason() {
     return std::strerror(errno);
 }
@@ -98,7 +84,7 @@ std::string listed(const std::vector<std::string>& endings) {
 
 OutputFile::OutputFile(const fs::path& name, const std::vector<std::string>& endings,
                        bool overwritesFile)
-    : Output(behindLinks(name), overwritesFile) {
+    : Output(behindLinks(name), behindLinks(name).parent_path(), overwritesFile) {
     std::error_code ignored;
     if (std::find(endings.begin(), endings.end(), extensionOf(file())) == endings.end())
         refuse(fmt::format("its name has to end in {}.", listed(endings)));
@@ -122,13 +108,19 @@ void OutputFile::commit() {
     removeNeighbour();
 }
 
+/// A folder that is there may be the only place that takes files, and may be a disk of its own.
+fs::path draftPlaceFor(const fs::path& folder) {
+    std::error_code ignored;
+    return fs::is_directory(folder, ignored) ? folder : folder.parent_path();
+}
+
 OutputFolder::OutputFolder(const fs::path& name, bool overwritesFolder)
-    : Output(behindLinks(name), overwritesFolder) {
+    : Output(behindLinks(name), draftPlaceFor(behindLinks(name)), overwritesFolder) {
     std::error_code ignored;
     if (fs::exists(file(), ignored) && !fs::is_directory(file(), ignored))
         refuse("it is a file. Name a folder.");
     if (!fs::is_directory(file(), ignored)) return;
-    if (!apps::takesFiles(file().string())) refuse("the folder takes no files. Choose another.");
+    apps::sweepDraftFolders(file().string());
     if (!overwrites() && !fs::is_empty(file(), ignored))
         refuse(
             "it exists and holds files. Choose another name, or write into it with "
@@ -209,8 +201,23 @@ void requireReadable(const fs::path& file, const std::string& what) {
                                  what, apps::utf8Of(file), reason()));
 }
 
-Output::Output(const fs::path& file, bool overwrites) : file_(file), overwrites_(overwrites) {
-    const std::string folder = apps::utf8Of(file_.parent_path());
+fs::path behindLinks(const fs::path& file) {
+    constexpr int mostLinks = 40;
+    std::error_code error;
+    fs::path path = fs::absolute(file, error);
+    for (int i = 0; i < mostLinks && fs::is_symlink(path, error); ++i) {
+        const fs::path target = fs::read_symlink(path, error);
+        if (error) break;
+        path = path.parent_path() / target;
+    }
+    return path;
+}
+
+Output::Output(const fs::path& file, const fs::path& draftPlace, bool overwrites)
+    : file_(file),
+      draftPlace_(draftPlace),
+      overwrites_(overwrites) {
+    const std::string folder = apps::utf8Of(draftPlace_);
     std::error_code ignored;
     if (!fs::is_directory(folder, ignored)) {
         refuse(
@@ -248,10 +255,10 @@ void Output::requireOtherThan(const fs::path& input) const {
 
 const fs::path& Output::neighbour() {
     if (!neighbour_.empty()) return neighbour_;
-    const std::string folder = apps::makeDraftFolder(file_.parent_path().string());
+    const std::string folder = apps::makeDraftFolder(draftPlace_.string());
     if (folder.empty()) {
-        throw RunError(fmt::format("No file can be made in {}: {}.",
-                                   apps::utf8Of(file_.parent_path()), reason()));
+        throw RunError(
+            fmt::format("No file can be made in {}: {}.", apps::utf8Of(draftPlace_), reason()));
     }
     makeNeighbour(folder);
     return neighbour_;
