@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,6 +35,8 @@ struct PasteItem {
     std::string name;
     /// As far as it is known before the copy. Cells have an address if they are to be a table.
     CopySource source;
+    /// Of a table where it is to go; none: any number.
+    std::optional<std::size_t> mostColumns = {};
 };
 
 /// The office applications of this machine, apart from their object models: which of them run,

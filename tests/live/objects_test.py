@@ -96,11 +96,15 @@ class AnObject(ProgramTest):
             self.assertIn("https://example.org/a", book.read("xl/worksheets/_rels/sheet2.xml.rels").decode())
 
     def test_leads_to_the_cells_from_where_the_deck_is(self):
+        # Which is behind a link that bears its name.
+        (self.folder / "elsewhere" / "now").mkdir(parents=True)
+        (self.folder / "decks").mkdir()
+        (self.folder / "decks" / "linked2.pptx").symlink_to("../elsewhere/now/deck.pptx")
         package, books = self.export("linked", "--links", "relative")
         self.assertEqual(books, [])
         related = "".join(package.read(name).decode() for name in package.names if "/slides/_rels/" in name)
         for cells in ("R2C2:R6C4", "C2:C4"):
-            self.assertIn(f'Target="../Gr%C3%B6%C3%9Fe%20%26%20co.xlsx!Own%20data!{cells}" TargetMode="External"', related)
+            self.assertIn(f'Target="../../Gr%C3%B6%C3%9Fe%20%26%20co.xlsx!Own%20data!{cells}" TargetMode="External"', related)
 
 
 if __name__ == "__main__":

@@ -1,10 +1,11 @@
 #include "apps/murvane_export/file_suite.h"
 
-#include <filesystem>
 #include <utility>
 
+#include "apps/murvane_export/outputs.h"
 #include "apps/utf8.h"
 #include "office/package/document/document_file.h"
+#include "office/package/document/word_table.h"
 #include "office/package/presentation/deck_file.h"
 #include "office/package/workbook/paste_remarks.h"
 
@@ -34,7 +35,7 @@ package::FileRules rulesOf(office::Suite& below, session::Host& host, const Opti
     rules.embedsSheetAlone = options.embedsSheetAlone;
     const Target* target = options.targetOf(destination);
     if (options.linksAreRelative && target != nullptr && !target->output.empty())
-        rules.linkBase = std::filesystem::absolute(apps::pathOf(target->output)).parent_path();
+        rules.linkBase = behindLinks(apps::pathOf(target->output)).parent_path();
     return rules;
 }
 
@@ -73,7 +74,11 @@ std::vector<std::string> FileSuite::remarksOn(std::string_view className, office
     auto remarks = package::pasteRemarks(as, items, *workbooks_, embedsSheetAlone_);
     // Tables are made of what the suite says of the cells, wherever they go.
     if (as == office::PasteAs::Default) {
-        for (std::string& line : below_.remarksOn(className, as, items))
+        std::vector<office::PasteItem> tables = items;
+        if (className == word) {
+            for (office::PasteItem& item : tables) item.mostColumns = package::mostTableColumns;
+        }
+        for (std::string& line : below_.remarksOn(className, as, tables))
             remarks.push_back(std::move(line));
     }
     return remarks;

@@ -28,6 +28,9 @@ static_assert(mostCellsOfTable == 5000, "the texts say so");
 const ItemRemarks::Text tooLarge = {
     "{} can't be a table and will be left out: it has more than 5,000 cells.",
     "{} can't be tables and will be left out: each has more than 5,000 cells."};
+const ItemRemarks::Text tooWide = {
+    "{} will be a picture: it has more columns than a table can have there.",
+    "{} will be pictures: each has more columns than a table can have there."};
 const ItemRemarks::Text icons = {"The table of {} will be without the icons in its cells.",
                                  "The tables of {} will be without the icons in their cells."};
 const ItemRemarks::Text severalLooks = {
@@ -125,6 +128,10 @@ public:
             remarks.add(tooLarge, item);
             return;
         }
+        if (isTooWide(item, block)) {
+            remarks.add(tooWide, item);
+            return;
+        }
         if (std::any_of(icons_.begin(), icons_.end(), [&](const CellBlock& each) {
                 return intersection(each, block).has_value();
             }))
@@ -138,6 +145,10 @@ public:
     }
 
 private:
+    [[nodiscard]] bool isTooWide(const office::PasteItem& item, const CellBlock& block) const {
+        return item.mostColumns && isTooWideForTable(*sheet_, block, *item.mostColumns);
+    }
+
     std::shared_ptr<SheetRecord> sheet_;
     std::vector<CellBlock> icons_;
     std::vector<Frame> frames_;

@@ -342,6 +342,13 @@ bool isTooLargeForTable(SheetRecord& sheet, const model::CellBlock& block, std::
     return !shownLinesUpTo(wholeCells(sheet, block), mostCells);
 }
 
+bool isTooWideForTable(SheetRecord& sheet, const model::CellBlock& block, std::size_t mostColumns) {
+    const auto cells = wholeCells(sheet, block);
+    if (static_cast<std::size_t>(placeOnSheet(cells).columns()) <= mostColumns) return false;
+    const auto shown = shownLinesUpTo(cells, mostCellsOfTable);
+    return shown && shown->columns.size() > mostColumns;
+}
+
 std::optional<TableLook> tableOfBlankCells(SheetRecord& sheet, const model::CellBlock& block) {
     const auto cells = wholeCells(sheet, block);
     if (!areBlank(sheet, cells)) return std::nullopt;

@@ -20,6 +20,9 @@ constexpr std::size_t mostCellsOfTable = 5000;
 /// Whether more of a block is shown than that, merged cells that stick out included.
 [[nodiscard]] bool isTooLargeForTable(SheetRecord& sheet, const model::CellBlock& block,
                                       std::size_t mostCells);
+/// Whether a block that is not too large shows more columns than that.
+[[nodiscard]] bool isTooWideForTable(SheetRecord& sheet, const model::CellBlock& block,
+                                     std::size_t mostColumns);
 
 /// One cell of the size of a block of which nothing is seen; nothing for another. It may be one
 /// that conditions would dress up: then the table tells.
