@@ -1,5 +1,7 @@
 #include "destinations/word_batch.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <optional>
 #include <string_view>
@@ -44,11 +46,12 @@ void fit(const Object& shape, const Size& natural, double width, double height) 
 /// One run: what every row needs is looked up once and held.
 class WordBatch {
 public:
-    WordBatch(OfficeSession& session, ExportFormat format, const WordOptions& options)
-        : session_(session),
+    WordBatch(RowBatch& batch, ExportFormat format, const WordOptions& options)
+        : session_(batch.session),
           format_(format),
           options_(options),
-          document_(session.SessionDocument),
+          tellsRefused_(format != ExportFormat::Pictures && !batch.onFailedItem),
+          document_(session_.SessionDocument),
           selection_(document_.get("ActiveWindow").get("Selection").toObject()) {}
 
     void exportRow(const ExportItem& row);
@@ -61,6 +64,7 @@ private:
     [[nodiscard]] bool takesFiles() const {
         return format_ == ExportFormat::Pictures && session_.Pictures != office::PictureKind::Png;
     }
+    [[nodiscard]] bool bring(const ExportItem& row);
     void copy(const ExportItem& row);
     void putOnNewPage();
     void InsertPageBreakBlock();
@@ -77,6 +81,7 @@ private:
     OfficeSession& session_;
     ExportFormat format_;
     const WordOptions& options_;
+    bool tellsRefused_;
     Object document_;
     Object selection_;
     std::optional<TextArea> textArea_;
@@ -88,10 +93,9 @@ private:
 };
 
 void WordBatch::exportRow(const ExportItem& row) {
-    copy(row);
     const Object shapes = document_.get(floats() ? "Shapes" : "InlineShapes").toObject();
     const std::int32_t before = shapes.get("Count").toLong();
-    putOnNewPage();
+    if (!bring(row)) return;
     session_.host.letEventsRun();
     // What has come may be a table, which is no shape.
     const std::int32_t count = shapes.get("Count").toLong();
@@ -106,6 +110,28 @@ void WordBatch::exportRow(const ExportItem& row) {
     } else if (shape) {
         SetLastShapeWidth(shape);
     }
+}
+
+/// As on slides, an item that can't be had in the form is told, and the others go on.
+bool WordBatch::bring(const ExportItem& row) {
+    const auto come = [&] {
+        copy(row);
+        putOnNewPage();
+    };
+    office::ContinueOnFailure scope;
+    if (!tellsRefused_) {
+        come();
+    } else if (!scope.attempt(come)) {
+        const office::Failure& failure = *scope.lastFailure();
+        // A full disk is no fault of the item's.
+        if (failure.is(office::FailureNumber::PathFileAccess)) throw office::Failure(failure);
+        session::ShowWarningNotice(
+            session_.notices,
+            fmt::format("Could not paste '{}' into the document: {}",
+                        row.isChartSheet() ? row.sheet : row.name, failure.description()));
+        return false;
+    }
+    return true;
 }
 
 void WordBatch::copy(const ExportItem& row) {
@@ -259,7 +285,7 @@ bool AttachWord(OfficeSession& session) {
 
 WalkResult ExportRowsToWord(RowBatch& batch, ExportFormat format, const WordOptions& options) {
     OfficeSession& session = batch.session;
-    WordBatch words(session, format, options);
+    WordBatch words(batch, format, options);
     if (format != ExportFormat::Pictures) session.ExcelApp.put("ScreenUpdating", true);
     const WalkResult result = walkRows(
         batch, [&](const catalogue::TakenRow&, const ExportItem& row) { words.exportRow(row); });

@@ -20,7 +20,8 @@ struct WordOptions {
 ///
 /// Objects that are embedded or linked fill the width of the text, as far as their page has room
 /// for the height, without caption and shadow. A row that can't be copied or pasted leaves no page
-/// behind.
+/// behind. Where the batch collects no failures, one that can't be had in another form than a
+/// picture is told in a notice, and the others go on.
 WalkResult ExportRowsToWord(RowBatch& batch, catalogue::ExportFormat format,
                             const WordOptions& options);
 

@@ -135,6 +135,16 @@ TEST_F(WordBatchTest, PastesThatFailLeaveNoPageBehind) {
     EXPECT_EQ(fresh.paragraphs()[1].objects, 1) << "the second item begins it";
 }
 
+TEST_F(WordBatchTest, AFormThatIsRefusedIsToldAndTheOthersGoOn) {
+    addOfEachKind();
+    test.suite.failures().fail("Selection.PasteSpecial", 2);
+    exportRows(ExportFormat::Editable);
+    ASSERT_EQ(test.notices.shown.size(), 1U);
+    EXPECT_EQ(test.notices.shown[0].message.substr(0, 48),
+              "Could not paste 'Overview' into the document: Se");
+    EXPECT_EQ(breaksAndEmptyPages(), std::pair(2, 0));
+}
+
 TEST_F(WordBatchTest, CancellingEndsItAfterTheItemAtHand) {
     addOfEachKind();
     test.host.onEvents = [this] { test.progress.isCancelled = true; };
