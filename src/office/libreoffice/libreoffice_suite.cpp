@@ -146,9 +146,10 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
         remarks.emplace_back("The workbook has to be saved before anything can be linked to it.");
     if (office::sameIgnoringCase(className, "Word.Application")) {
         if (as == office::PasteAs::Linked)
-            remarks.emplace_back(
+            remarks.push_back(fmt::format(
                 "LibreOffice links no text document to a workbook: the items will be left out. "
-                "Choose another format, or use murvane-export.");
+                "Choose another format, or {}.",
+                desk_->opensHidden() ? "append to a .docx" : "use murvane-export"));
         return remarks;
     }
     if (as != office::PasteAs::Embedded) return remarks;
@@ -160,9 +161,11 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
         constexpr std::int32_t several = 2;
         const std::int32_t missing = several - static_cast<std::int32_t>(items.size());
         if (missing > 0 && !(deck && deck->holdsWorkbooks(missing))) return;
-        remarks.emplace_back(
+        remarks.push_back(fmt::format(
             "LibreOffice damages a .pptx that holds several embedded workbooks: save the "
-            "presentation as .odp, or use murvane-export.");
+            "presentation as {}.",
+            desk_->opensHidden() ? "an ordinary .pptx first, and add to that one"
+                                 : ".odp, or use murvane-export"));
     });
     return remarks;
 }

@@ -147,9 +147,10 @@ void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anch
     const bool isPicture = copied.source().kind == CopySource::Kind::Picture;
     if (as == PasteAs::Linked) {
         office::refuse(
-            member,
-            "LibreOffice can't link a text document to a workbook. Paste a picture or an embedded "
-            "workbook instead, or use murvane-export.");
+            member, desk_.opensHidden()
+                        ? "LibreOffice can't link a text document to a workbook."
+                        : "LibreOffice can't link a text document to a workbook. Paste a picture "
+                          "or an embedded workbook instead, or use murvane-export.");
     }
     const Connection& connection = desk_.connection();
     pasted_.clear();
