@@ -1,4 +1,5 @@
 #include <chrono>
+#include <functional>
 
 #include "apps/interruption.h"
 #include "apps/suite_source.h"
@@ -10,10 +11,12 @@ namespace {
 
 using libreoffice::LibreOfficeSuite;
 
+using WaitFor = void (Interruption::*)(std::function<void()> action);
+
 std::shared_ptr<office::Suite> interruptible(std::shared_ptr<LibreOfficeSuite> suite,
-                                             Interruption* interruption) {
+                                             Interruption* interruption, WaitFor waitFor) {
     if (interruption != nullptr) {
-        interruption->onceHappened([weak = std::weak_ptr<LibreOfficeSuite>(suite)] {
+        (interruption->*waitFor)([weak = std::weak_ptr<LibreOfficeSuite>(suite)] {
             if (const auto held = weak.lock()) held->interrupt();
         });
     }
@@ -29,9 +32,13 @@ SuiteSource suitesOfThisMachine(Interruption* interruption) {
     };
     return {[=] {
                 return interruptible(LibreOfficeSuite::startPrivate(patience, isUnwanted),
-                                     interruption);
+                                     interruption, &Interruption::onceHappened);
             },
-            [=] { return interruptible(LibreOfficeSuite::attachToRunning(), interruption); }};
+            // What is half done in the user's own documents would stay there.
+            [=] {
+                return interruptible(LibreOfficeSuite::attachToRunning(), interruption,
+                                     &Interruption::onceInsisted);
+            }};
 }
 
 }  // namespace apps

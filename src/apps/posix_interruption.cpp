@@ -40,9 +40,17 @@ Interruption::~Interruption() {
 }
 
 void Interruption::onceHappened(std::function<void()> action) {
+    await(1, std::move(action));
+}
+
+void Interruption::onceInsisted(std::function<void()> action) {
+    await(2, std::move(action));
+}
+
+void Interruption::await(int times, std::function<void()> action) {
     const std::lock_guard<std::mutex> lock(actionLock_);
-    action_ = std::move(action);
-    if (happened_ && action_) action_();
+    actions_[times] = std::move(action);
+    if (times_ >= times && actions_[times]) actions_[times]();
 }
 
 void Interruption::wait() {
@@ -51,8 +59,8 @@ void Interruption::wait() {
     while (sigwait(&signals, &signal) == 0 && !isOver_) {
         if (isIgnored(signal)) continue;
         const std::lock_guard<std::mutex> lock(actionLock_);
-        const bool isFirst = !happened_.exchange(true);
-        if (isFirst && action_) action_();
+        const auto& action = actions_[++times_];
+        if (action) action();
     }
 }
 

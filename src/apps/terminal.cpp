@@ -76,7 +76,8 @@ int TerminalNotices::show(const session::Notice& notice) {
     line_.clear();
     print(notice);
     if ((notice.buttons & (cancelFlag | yesNoFlag)) == 0) {
-        if (notice.kind == "warning" || notice.kind == "error") ++remarks_;
+        const bool isRemark = notice.kind == "warning" || notice.kind == "error";
+        if (isRemark && onRemark_) onRemark_();
         return session::answer::ok;
     }
     const bool isAccept = isAccepted();

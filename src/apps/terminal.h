@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -40,17 +41,16 @@ enum class Answering { Accepts, Refuses, AsksUser };
 class TerminalNotices : public session::NoticePresenter {
 public:
     /// `refusalHint` follows the words about a question that nobody was asked; it may be empty.
+    /// `onRemark` is told of each warning or error that left no choice.
     TerminalNotices(Console& console, StatusLine& line, Answering answering,
-                    std::string refusalHint = {})
+                    std::string refusalHint = {}, std::function<void()> onRemark = {})
         : console_(console),
           line_(line),
           answering_(answering),
-          refusalHint_(std::move(refusalHint)) {}
+          refusalHint_(std::move(refusalHint)),
+          onRemark_(std::move(onRemark)) {}
 
     int show(const session::Notice& notice) override;
-
-    /// Warnings and errors shown so far that left no choice.
-    [[nodiscard]] int remarks() const { return remarks_; }
 
 private:
     void print(const session::Notice& notice);
@@ -60,13 +60,16 @@ private:
     StatusLine& line_;
     Answering answering_;
     std::string refusalHint_;
-    int remarks_ = 0;
+    std::function<void()> onRemark_;
 };
 
 /// Shows how far a run is on the status line.
 class TerminalProgress : public session::ProgressDisplay {
 public:
-    explicit TerminalProgress(StatusLine& line) : line_(line) {}
+    /// `isCancelled` says whether the user wants the batch to end; none: it goes to its end.
+    explicit TerminalProgress(StatusLine& line, std::function<bool()> isCancelled = {})
+        : line_(line),
+          isCancelled_(std::move(isCancelled)) {}
 
     void showLoading() override { line_.show("Reading the workbook"); }
     void setLoadingValue(int percent) override;
@@ -75,10 +78,12 @@ public:
     void unloadLoading() override { line_.clear(); }
 
     void showItem(int item, int total) override;
+    [[nodiscard]] bool cancelled() const override { return isCancelled_ && isCancelled_(); }
     void unload() override { line_.clear(); }
 
 private:
     StatusLine& line_;
+    std::function<bool()> isCancelled_;
     int loading_ = 0;
 };
 

@@ -47,6 +47,23 @@ TEST_F(RunAttachedTest, LeavesThePlacementInTheUsersWorkbookAsItWasAlsoAfterAFai
     }
 }
 
+TEST_F(RunAttachedTest, EndsAfterTheItemAtHandWhenInterrupted) {
+    openUsersDocuments();
+    isInterrupted = [this] { return suite->log().count("Chart.Export") >= 2; };
+    const std::string page = folder.file("page");
+    EXPECT_EQ(attach({"--to", "slides", "--top", "0.5", "--to", "html", "--output", page}), 1);
+    EXPECT_TRUE(
+        console.errorHas("Interrupted: 2 of 5 items are in the open presentation; no file "
+                         "was written."))
+        << console.error;
+    EXPECT_EQ(deck->slideCount(), 3) << "no slide without its item";
+    EXPECT_EQ(pictures().size(), 2U);
+    const auto store = suite->excel().activeWorkbook()->handle().get("Sheets").get(
+        "Item", session::store::sheetName);
+    EXPECT_NE(store.get("Range", "O1").get("Value").toText(), "0.5");
+    EXPECT_EQ(folder.names(), (std::set<std::string>{"Book.xlsx", "Deck.pptx"}));
+}
+
 TEST_F(RunAttachedTest, LeavesExcelDrawingAlsoAfterAFailure) {
     openUsersDocuments();
     suite->failures().fail("Chart.Export");

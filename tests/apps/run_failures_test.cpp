@@ -60,6 +60,14 @@ TEST_F(RunFailuresTest, AnItemThatIsTurnedAwayMakesTheOutputIncomplete) {
     EXPECT_TRUE(hasOutput());
 }
 
+TEST_F(RunFailuresTest, AnItemIsMissingOnceHoweverOftenItIsTold) {
+    suite->failures().failAlways("Shapes.PasteSpecial");
+    suite->failures().failAlways("View.PasteSpecial");
+    EXPECT_EQ(exportWith({"--format", "embedded", "--items", "Chart 2,Overview"}), 1);
+    EXPECT_TRUE(console.errorHas("No objects could be pasted")) << console.error;
+    EXPECT_TRUE(console.errorHas("of 2 items 2 could not be exported")) << console.error;
+}
+
 TEST_F(RunFailuresTest, AFailedSaveLeavesWhatWasThere) {
     suite->failures().failAlways("Presentation.SaveCopyAs");
     EXPECT_EQ(exportWith(), 1);

@@ -44,11 +44,12 @@ protected:
 };
 
 TEST_F(TerminalNoticesTest, OneLineStaysOneLineAndMoreAreIndented) {
-    apps::TerminalNotices notices(console, line, Answering::Refuses);
+    int remarks = 0;
+    apps::TerminalNotices notices(console, line, Answering::Refuses, {}, [&] { ++remarks; });
     session::ShowWarningNotice(notices, "Not found.");
     session::ShowErrorNotice(notices, "One\r\rTwo\r\n  Three\n", "Export blocked");
     EXPECT_EQ(console.error, "Warning: Not found.\nExport blocked:\n  One\n  Two\n  Three\n");
-    EXPECT_EQ(notices.remarks(), 2);
+    EXPECT_EQ(remarks, 2);
 }
 
 TEST_F(TerminalNoticesTest, TextFromAWorkbookCannotDriveTheTerminal) {
@@ -93,10 +94,12 @@ TEST(Interruption, RunsItsActionOnceOnEachSignalThatEndsAProgram) {
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
         apps::Interruption interruption;
         EXPECT_FALSE(interruption.hasHappened());
-        Awaited action;
+        Awaited action, second;
         interruption.onceHappened([&] { ++action.times; });
+        interruption.onceInsisted([&] { ++second.times; });
         ::kill(::getpid(), signal);
         EXPECT_TRUE(action.happensSoon()) << signal;
+        EXPECT_EQ(second.times, 0);
         EXPECT_TRUE(interruption.hasHappened());
         ::kill(::getpid(), signal);
         // The next one must not take it.
@@ -106,6 +109,7 @@ TEST(Interruption, RunsItsActionOnceOnEachSignalThatEndsAProgram) {
         Awaited late;
         interruption.onceHappened([&] { ++late.times; });
         EXPECT_EQ(late.times, 1) << "at once";
+        EXPECT_TRUE(second.happensSoon());
         EXPECT_EQ(action.times, 1);
     }
 }

@@ -27,10 +27,19 @@ int runOrder(int count, char** words) {
         console.writeError(end->error);
         return console.writeOut(end->out) ? end->exitCode : unattended::exit_code::failed;
     }
+    const auto& options = std::get<unattended::Options>(parsed);
+    if (options.attach) {
+        interruption.onceHappened([&] {
+            console.writeError(
+                "\nEnding after the item at hand. Once more breaks off at once, and leaves what is "
+                "half done in the open documents.\n");
+        });
+    }
     apps::MachineHost host(console);
-    return unattended::run(
-        std::get<unattended::Options>(parsed),
-        {apps::suitesOfThisMachine(&interruption), host, console, isInterrupted});
+    const int exitCode = unattended::run(
+        options, {apps::suitesOfThisMachine(&interruption), host, console, isInterrupted});
+    interruption.onceHappened({});
+    return exitCode;
 }
 
 }  // namespace

@@ -7,7 +7,9 @@
 #include <fstream>
 #include <memory>
 #include <optional>
+#include <set>
 #include <sstream>
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -39,9 +41,14 @@ using session::OfficeSession;
 /// The command that opens the main form.
 constexpr const char* mainFormCode = "/112";
 constexpr const char* interruptedText = "Interrupted; nothing was written.";
+constexpr const char* brokenOffText =
+    "Broken off; no file was written, and what was half done stays in the open documents.";
 
-/// The caller pressed Ctrl-C, or asked by a signal.
-class Interrupted : public std::exception {};
+/// The caller pressed Ctrl-C, or asked by a signal. Says what is there.
+class Interrupted : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
 
 std::string readFile(const std::string& path) {
     const std::ifstream file(apps::pathOf(path), std::ios::binary);
@@ -120,9 +127,14 @@ public:
           surroundings_(surroundings),
           order_(order),
           line_(surroundings.console, !options.quiet),
-          progress_(line_),
+          // A suite of our own is ended under the batch instead.
+          progress_(line_, [this] { return options_.attach && surroundings_.isInterrupted(); }),
           notices_(surroundings.console, line_, answeringFor(options, surroundings.console),
-                   " --yes goes on over this."),
+                   " --yes goes on over this.",
+                   [this] {
+                       if (place_ < outcomes_.size())
+                           outcomes_[place_].missing.insert(list_.selected);
+                   }),
           session_(suite, surroundings.host, notices_, progress_),
           documents_(session_),
           liveSuite_(liveSuite) {}
@@ -143,9 +155,10 @@ private:
     void runJob(std::size_t place);
     void letUserSee();
     int commit();
-    void stopIfInterrupted() const {
-        if (surroundings_.isInterrupted()) throw Interrupted();
+    void stopIfInterrupted() {
+        if (surroundings_.isInterrupted()) throw Interrupted(whatIsThere());
     }
+    [[nodiscard]] std::string whatIsThere();
 
     const Options& options_;
     const Surroundings& surroundings_;
@@ -163,12 +176,14 @@ private:
     struct Outcome {
         /// Items that have had their turn.
         std::int32_t taken = 0;
-        /// Of them those that were turned away with a notice.
-        int remarks = 0;
+        /// Of them those that failed or were turned away with a notice, by their rows.
+        std::set<std::ptrdiff_t> missing;
         /// A line for each item that failed.
         std::vector<std::string> failures;
     };
     std::vector<Outcome> outcomes_;
+    /// The job at hand; none ahead of the first one.
+    std::size_t place_ = std::string::npos;
 };
 
 int Run::perform() {
@@ -217,7 +232,8 @@ void Run::openDocuments() {
 Run::OnFailedItem Run::failureHandler(std::size_t place) {
     if (!options_.keepGoing) return nullptr;
     return [this, place](const ExportItem& row, const office::Failure& failure) {
-        stopIfInterrupted();
+        if (!options_.attach) stopIfInterrupted();
+        outcomes_[place].missing.insert(list_.selected);
         outcomes_[place].failures.push_back(describe(row, failure));
     };
 }
@@ -269,11 +285,9 @@ int Run::reviewAlone() {
 
 int Run::exportItems() {
     if (review() != catalogue::ReviewResult::Go) return exit_code::blocked;
-    for (std::size_t place = 0; place < jobs_.size(); ++place) {
+    for (place_ = 0; place_ < jobs_.size(); ++place_) {
         stopIfInterrupted();
-        const int remarksBefore = notices_.remarks();
-        runJob(place);
-        outcomes_[place].remarks = notices_.remarks() - remarksBefore;
+        runJob(place_);
     }
     stopIfInterrupted();
     line_.clear();
@@ -290,7 +304,7 @@ void Run::runJob(std::size_t place) {
     } catch (const office::Failure& failure) {
         line_.clear();
         letUserSee();
-        if (surroundings_.isInterrupted()) throw;
+        if (surroundings_.isInterrupted() && !options_.attach) throw;
         // A disk that is full is no fault of the item at hand.
         if (list_.selected < 0 || failure.is(office::FailureNumber::PathFileAccess))
             throw RunError(fmt::format("{} could not be made: {}",
@@ -304,6 +318,24 @@ void Run::runJob(std::size_t place) {
     letUserSee();
 }
 
+/// The user's own documents keep the items that they have got.
+std::string Run::whatIsThere() {
+    std::string text;
+    for (std::size_t place = 0; place < outcomes_.size(); ++place) {
+        const Outcome& outcome = outcomes_[place];
+        const catalogue::Destination destination = options_.targets[place].destination;
+        const bool isSlides = destination == catalogue::Destination::PowerPoint;
+        const auto there = outcome.taken - static_cast<std::int32_t>(outcome.missing.size());
+        if (!options_.attach || there <= 0) continue;
+        if (!isSlides && destination != catalogue::Destination::Word) continue;
+        const auto all = takeRows(session_, list_, choicesFor(destination, options_)).size();
+        text += fmt::format("{}{} of {} items are in the open {}", text.empty() ? "" : ", ", there,
+                            all, isSlides ? "presentation" : "document");
+    }
+    if (text.empty()) return interruptedText;
+    return fmt::format("Interrupted: {}; no file was written.", text);
+}
+
 /// A batch may leave Excel without drawing; the user's own goes on without us.
 void Run::letUserSee() {
     if (options_.attach) catalogue::RestoreScreenUpdating(session_);
@@ -315,7 +347,7 @@ int Run::commit() {
     for (std::size_t place = 0; place < jobs_.size(); ++place) {
         const Outcome& outcome = outcomes_[place];
         const std::string file = apps::utf8Of(order_.outputs[place]->file());
-        const int missing = outcome.remarks + static_cast<int>(outcome.failures.size());
+        const std::size_t missing = outcome.missing.size();
         if (missing > 0) {
             std::string text = fmt::format(
                 "{} is incomplete: of {} items {} could not be exported{}\n", file, outcome.taken,
@@ -348,7 +380,7 @@ int runInSuite(const Options& options, const Surroundings& surroundings) {
         suite = options.attach ? surroundings.suites.attachToRunning()
                                : surroundings.suites.startPrivate();
     }
-    if (surroundings.isInterrupted()) throw Interrupted();
+    if (surroundings.isInterrupted()) throw Interrupted(interruptedText);
     for (const FileRoute* route : {&order.decks, &order.documents}) {
         for (const std::string& remark : route->remarks)
             tell(surroundings.console, "murvane-export: " + remark + "\n");
@@ -371,11 +403,12 @@ int run(const Options& options, const Surroundings& surroundings) {
         return complain(error.what(), exit_code::wrongUsage);
     } catch (const RunError& error) {
         return complain(error.what(), exit_code::failed);
-    } catch (const Interrupted&) {
-        return complain(interruptedText, exit_code::failed);
+    } catch (const Interrupted& interruption) {
+        return complain(interruption.what(), exit_code::failed);
     } catch (const office::Failure& failure) {
         // An interruption takes the suite away under whatever is being done with it.
-        return complain(surroundings.isInterrupted() ? interruptedText : reportOf(failure),
+        const char* const ended = options.attach ? brokenOffText : interruptedText;
+        return complain(surroundings.isInterrupted() ? ended : reportOf(failure),
                         exit_code::failed);
     } catch (const std::exception& error) {
         return complain(error.what(), exit_code::failed);
