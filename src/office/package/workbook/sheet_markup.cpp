@@ -1,7 +1,11 @@
 #include "office/package/workbook/sheet_markup.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <set>
+
+#include "office/package/package.h"
 
 namespace office::package {
 
@@ -110,6 +114,14 @@ void reduceRules(pugi::xml_node root, const FormulaReach& reach) {
     });
 }
 
+/// An empty text is the result of a formula as any other is.
+bool hasValue(pugi::xml_node cell) {
+    const auto value = sheetChild(cell, "v");
+    const bool isText = std::string_view(cell.attribute("t").value()) == "str";
+    return (value && isText) || !std::string_view(value.text().get()).empty() ||
+           sheetChild(cell, "is");
+}
+
 void reduceCells(pugi::xml_node data, const FormulaReach& reach) {
     // A shared formula stands with its first cell.
     std::set<std::string_view> sharedGone;
@@ -125,8 +137,15 @@ void reduceCells(pugi::xml_node data, const FormulaReach& reach) {
             // They lead to a table of the workbook that goes.
             cell.remove_attribute("cm");
             cell.remove_attribute("vm");
-            if (const auto formula = sheetChild(cell, "f"); formula && leaves(formula))
-                cell.remove_child(formula);
+            const auto formula = sheetChild(cell, "f");
+            if (!formula || !leaves(formula)) continue;
+            if (!hasValue(cell))
+                throw PackageError(
+                    Fault::Damaged,
+                    fmt::format("the formula in {} leads away from its sheet, and its value is not "
+                                "stored: a spreadsheet program that opens and saves it stores it",
+                                cell.attribute("r").value()));
+            cell.remove_child(formula);
         }
     }
 }
