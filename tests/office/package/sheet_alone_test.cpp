@@ -7,6 +7,7 @@
 #include "office/package/small_workbook.h"
 #include "office/package/workbook/embedded_workbook.h"
 #include "office/package/workbook/formula_reach.h"
+#include "office/package/workbook/object_source.h"
 #include "support/temporary_folder.h"
 
 namespace {
@@ -71,6 +72,67 @@ std::string chart() {
            "xmlns:c15=\"http://schemas.microsoft.com/office/drawing/2012/chart\">"
            "<c:pivotSource><c:name>Zebra</c:name></c:pivotSource>" +
            series("Data") + series("Zebra") + hidden + "</c:chartSpace>";
+}
+
+TEST(ASheetAlone, IsRefusedWithoutTheValuesThatItWouldHaveToKeep) {
+    const support::TemporaryFolder folder;
+    const std::pair<const char*, bool> cells[] = {
+        {"<c r=\"A1\"><f>Plot!A1</f><v/></c>", false},
+        {"<c r=\"A1\"><f>Plot!A1</f></c>", false},
+        {"<c r=\"A1\"><f>B1*2</f></c>", true},
+        {"<c r=\"A1\" t=\"str\"><f>Plot!A1</f><v></v></c>", true},
+        {"<c r=\"A1\"><f>Plot!A1</f><v>0</v></c>", true}};
+    for (const auto& [cell, isFine] : cells) {
+        const std::string file = folder.write(
+            "Book.xlsx", small_workbook::bytes(
+                             {{"xl/sheet1.xml", sheet("<sheetData><row r=\"1\">" +
+                                                      std::string(cell) + "</row></sheetData>")}}));
+        WorkbookFiles workbooks;
+        const auto obstacle =
+            objectObstacle(office::PasteAs::Embedded,
+                           {CopySource::Kind::Cells, file, "Data", "", "$A$1"}, workbooks, true);
+        EXPECT_EQ(obstacle.empty(), isFine) << cell << obstacle;
+    }
+}
+
+std::string noteBox(const char* row) {
+    return "<v:shape id=\"s" + std::string(row) + "\"><x:ClientData ObjectType=\"Note\"><x:Row>" +
+           row + "</x:Row><x:Column>1</x:Column></x:ClientData></v:shape>";
+}
+
+TEST(ASheetAlone, HandsOnNoConversations) {
+    const support::TemporaryFolder folder;
+    const auto note = [](const char* cell, const char* author, const char* text) {
+        return "<comment ref=\"" + std::string(cell) + "\" authorId=\"" + author + "\"><text><t>" +
+               text + "</t></text></comment>";
+    };
+    for (const bool hasNote : {true, false}) {
+        const std::string file = folder.write(
+            "Book.xlsx",
+            small_workbook::bytes(
+                {{"xl/sheet1.xml", sheet("<sheetData/><legacyDrawing r:id=\"rId2\"/>")},
+                 {"xl/_rels/sheet1.xml.rels",
+                  relationshipsTo({{"comments", "comments1.xml"}, {"vmlDrawing", "notes.vml"}})},
+                 {"xl/comments1.xml",
+                  sheet("<authors><author>Zebra</author><author>tc={1}</author><author>Ann"
+                        "</author></authors><commentList>" +
+                            note("B2", "1", "[Threaded comment] Zebra") +
+                            (hasNote ? note("B3", "2", "a note") : "") + "</commentList>",
+                        "comments")},
+                 {"xl/notes.vml", "<xml>" + noteBox("1") + noteBox("2") + "<br></xml>"}}));
+        WorkbookFile workbook{std::filesystem::path(file)};
+        const Package copy = Package::fromBytes(
+            embeddedWorkbook(workbook, {CopySource::Kind::Cells, file, "Data", "", "$A$1"}, true)
+                .bytes);
+        EXPECT_EQ(copy.has("/xl/comments1.xml") && copy.has("/xl/notes.vml"), hasNote);
+        EXPECT_EQ(copy.read("/xl/sheet1.xml").find("legacyDrawing") != std::string::npos, hasNote);
+        if (!hasNote) continue;
+        const std::string notes = copy.read("/xl/comments1.xml");
+        for (const char* gone : {"Zebra", "tc=", "B2"})
+            EXPECT_EQ(notes.find(gone), std::string::npos) << gone << notes;
+        EXPECT_NE(notes.find("<author>Ann</author>"), std::string::npos) << notes;
+        EXPECT_EQ(copy.read("/xl/notes.vml"), "<xml>" + noteBox("2") + "<br></xml>");
+    }
 }
 
 TEST(ASheetAlone, HandsOnNothingOfTheOthers) {

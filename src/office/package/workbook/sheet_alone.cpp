@@ -8,6 +8,7 @@
 #include "office/package/part_name.h"
 #include "office/package/workbook/chart_values.h"
 #include "office/package/workbook/sheet_markup.h"
+#include "office/package/workbook/sheet_notes.h"
 #include "office/package/workbook/source_chart.h"
 #include "office/text.h"
 
@@ -32,18 +33,6 @@ const std::set<std::string_view> keptInWorkbook = {"fileVersion", "workbookPr", 
 std::string_view kindOf(const Relationship& relationship) {
     const std::string_view type = relationship.type;
     return type.substr(type.rfind('/') + 1);
-}
-
-/// Notes are boxes in a drawing of the old kind, which holds controls, too.
-bool holdsNotesAlone(const std::string& drawing) {
-    constexpr std::string_view mark = "ObjectType=\"";
-    std::size_t notes = 0;
-    for (auto at = drawing.find(mark); at != std::string::npos; at = drawing.find(mark, at)) {
-        at += mark.size();
-        if (!std::string_view(drawing).substr(at).starts_with("Note\"")) return false;
-        ++notes;
-    }
-    return notes > 0;
 }
 
 /// Takes the elements out that need relationships which have gone.
@@ -79,6 +68,7 @@ public:
     void keep() {
         const Xml xml(workbook_.read(main_), main_);
         knowTables();
+        knowConversations();
         const auto& all = workbook_.relationshipsOf(main_).all();
         if (std::any_of(all.begin(), all.end(),
                         [](const Relationship& one) { return kindOf(one) == "vbaProject"; }))
@@ -133,6 +123,19 @@ private:
             if (!workbook_.has(part)) continue;
             const Xml table(workbook_.read(part), part);
             reach_.add(table.root().attribute("displayName").value());
+        }
+    }
+
+    void knowConversations() {
+        const Relationships& relationships = workbook_.relationshipsOf(sheet_.part);
+        for (const Relationship& one : relationships.all()) {
+            if (one.isExternal || kindOf(one) != "comments") continue;
+            const std::string part = relationships.partOf(one);
+            if (!workbook_.has(part)) continue;
+            const Xml notes(workbook_.read(part), part);
+            conversations_ = conversationsIn(notes);
+            hasNotes_ = dropConversations(notes);
+            workbook_.replace(part, notes.bytes());
         }
     }
 
@@ -202,7 +205,8 @@ private:
         const auto target = [&] {
             return workbook_.read(workbook_.relationshipsOf(part).partOf(one));
         };
-        if (kind == "vmlDrawing") return holdsNotesAlone(target());
+        if (kind == "comments") return hasNotes_;
+        if (kind == "vmlDrawing") return hasNotes_ && holdsNotesAlone(target());
         if (kind != "chartEx") return true;
         // Charts of the later kinds know no values without cells.
         const Xml chart(target(), part);
@@ -231,6 +235,8 @@ private:
     }
 
     void reduce(const std::string& part, std::string_view kind, const std::set<std::string>& gone) {
+        if (kind == "vmlDrawing" && !conversations_.empty())
+            workbook_.replace(part, withoutBoxesOf(conversations_, workbook_.read(part)));
         const bool isSheet = kind == "worksheet" || kind == "chartsheet";
         const bool isDrawing = kind == "drawing" || kind == "chartUserShapes";
         if (!isSheet && !isDrawing && kind != "chart" && kind != "table") return;
@@ -275,6 +281,8 @@ private:
     std::string main_;
     const WorkbookSheet& sheet_;
     FormulaReach reach_;
+    NotedCells conversations_;
+    bool hasNotes_ = false;
     std::set<std::string> kept_;
 };
 
