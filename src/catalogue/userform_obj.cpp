@@ -199,7 +199,7 @@ void UserformObj::OptionNewSlides_Click() {
     OptionNewSlides.font.bold = true;
     resizeColumns();
     recolourRows();
-    // The column of slide numbers is kept, if only just: the list would else lose its place.
+    // Of less than a pixel: the column of slide numbers stays one of the list's, and isn't seen.
     if (listCharts.columns.size() > 2) listCharts.columns[2].width = 1;
 }
 

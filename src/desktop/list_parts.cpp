@@ -209,9 +209,10 @@ void RowPainter::paintGround(QPainter& painter, const QStyleOptionViewItem& opti
     const bool dark = isDark(looks.ground);
     const QColor accent = accentOn(looks.ground);
     QColor ground = looks.ground;
-    if (index.row() == looks.selectedRow || index.data(RowsModel::markedRole).toBool()) {
+    const bool isSelected = index.row() == looks.selectedRow;
+    if (index.data(RowsModel::markedRole).toBool() || (isSelected && !looks.hasMarks)) {
         ground = blend(ground, accent, looks.hasFocus ? (dark ? 0.42 : 0.32) : (dark ? 0.26 : 0.2));
-    } else if (index.row() == looks.hoveredRow) {
+    } else if (isSelected || index.row() == looks.hoveredRow) {
         ground = blend(ground, accent, dark ? 0.12 : 0.08);
     }
     painter.fillRect(option.rect, ground);

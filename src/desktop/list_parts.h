@@ -71,6 +71,8 @@ public:
         bool gridLines = false;
         bool checkBoxes = false;
         int selectedRow = -1;
+        /// Rows are chosen, whether or not the selected one is among them.
+        bool hasMarks = false;
         int hoveredRow = -1;
         /// Where rows that are being dragged would go: before this row. -1: none are.
         int dropBefore = -1;

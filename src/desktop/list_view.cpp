@@ -84,6 +84,7 @@ bool ListView::syncOwn() {
     painter_->looks.gridLines = list_.gridLines;
     painter_->looks.checkBoxes = list_.checkBoxes;
     model_.show(list_);
+    painter_->looks.hasMarks = markedRows() > 0;
     if (columnsDiffer) syncColumns();
     syncSelection();
     viewport()->update();
@@ -191,12 +192,16 @@ void ListView::mousePressEvent(QMouseEvent* event) {
     click(hit.row(), shift ? Pick::Through : control ? Pick::Toggle : Pick::Only);
 }
 
-bool ListView::isOneOfSeveral(int row) const {
+int ListView::markedRows() const {
     int marked = 0;
     for (int each = 0; each < model_.rowCount(); ++each) {
         if (model_.index(each, 0).data(RowsModel::markedRole).toBool()) ++marked;
     }
-    return marked > 1 && model_.index(row, 0).data(RowsModel::markedRole).toBool();
+    return marked;
+}
+
+bool ListView::isOneOfSeveral(int row) const {
+    return markedRows() > 1 && model_.index(row, 0).data(RowsModel::markedRole).toBool();
 }
 
 void ListView::toggle(int row) {

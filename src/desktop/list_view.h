@@ -46,6 +46,7 @@ private:
     void paintDropLine();
     void toggle(int row);
     void click(int row, Pick pick);
+    [[nodiscard]] int markedRows() const;
     [[nodiscard]] bool isOneOfSeveral(int row) const;
     void hover(int row);
     void drag(const QPoint& to);

@@ -31,7 +31,7 @@ std::string styleSheet(const std::array<StyleRule, count>& rules) {
 // clang-format off
 constexpr std::array<StyleRule, 25> baseRules{{
     {"html,body",
-     "margin:0;padding:0;overflow:hidden;background:#111827;"
+     "margin:0;padding:0;overflow-x:hidden;overflow-y:auto;background:#111827;"
      "font-family:Segoe UI,Tahoma,Arial,sans-serif;color:#f1f5f9;height:100%"},
     // The shadow is stated twice: the older engine knows only the filter.
     {".panel",
@@ -45,13 +45,14 @@ constexpr std::array<StyleRule, 25> baseRules{{
     {".body",
      "padding:14px 16px 10px;font-size:13px;line-height:1.5;text-align:center;color:#e2e8f0"},
     {".body p", "margin:0 0 8px 0"},
-    {".summary", "display:table;width:100%;margin:0 auto 6px auto"},
+    // Fixed, or a path without a blank would make it wider than the page.
+    {".summary", "display:table;table-layout:fixed;width:100%;margin:0 auto 6px auto"},
     {".count",
      "display:table-cell;vertical-align:middle;width:52px;font-size:26px;font-weight:700;"
      "color:#60a5fa;line-height:1"},
     {".summary-text", "display:table-cell;vertical-align:middle;text-align:left;padding-left:10px"},
     {".summary-lead", "font-size:12px;color:#94a3b8;margin-bottom:2px"},
-    {".dest-name", "font-size:15px;font-weight:700;color:#f1f5f9;word-wrap:break-word"},
+    {".dest-name", "font-size:15px;font-weight:700;color:#f1f5f9;word-wrap:break-word;overflow-wrap:anywhere"},
     {".format-tag",
      "display:inline-block;margin-top:4px;padding:2px 10px;border-radius:999px;"
      "background:rgba(37,99,235,.25);color:#93c5fd;font-size:11px;font-weight:700"},

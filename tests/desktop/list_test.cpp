@@ -80,6 +80,9 @@ TEST_F(Lists, ShiftAndControlChooseSeveral) {
     clickRow(2, Qt::ControlModifier);
     EXPECT_EQ(marked(), ".x.x..");
     EXPECT_EQ(form.rows.selected(), 2);
+    const QImage picture = view().viewport()->grab().toImage();
+    const auto groundOf = [&](int row) { return picture.pixel(textOf(row) - QPoint(0, 9)); };
+    EXPECT_NE(groundOf(2), groundOf(1)) << "the row that was taken out";
     clickRow(0, Qt::ShiftModifier);
     EXPECT_EQ(marked(), "xxx...") << "from the row that was chosen last";
     form.focus = &form.listCharts;

@@ -218,17 +218,21 @@ TEST_F(PowerPointDialog, GoesOnOverAChartThatHasGoneButNotWithoutItsPresentation
     EXPECT_EQ(notices.messages()[0].find("1 item(s) could not be exported:\rChart 9: "), 0U);
 }
 
-TEST_F(PowerPointDialog, KeepsTheStyleThatWasChosenAnEarlierTime) {
+TEST_F(PowerPointDialog, KeepsTheStyleAndTheLayoutThatWereChosenAnEarlierTime) {
+    storePlacement(0.5, 0.25, 0.1);
     open([&](powerpoint::Dialog& dialog) {
         desktop.answer("PredefinedStyles", [](forms::Form& form) {
             forms_double::choose(form, "OptionStyle", powerpoint::style::shadow);
             press(form, "Styles");
         });
+        desktop.answer("LayoutForm", [](forms::Form& form) { press(form, "CloseLayout"); });
         dialog.RunPanelAction("style");
+        dialog.RunPanelAction("layout");
     });
     open([](powerpoint::Dialog& dialog) { press(dialog, "ContinueOk"); });
     ASSERT_EQ(deck.slideCount(), 5);
     EXPECT_TRUE(deck.slide(5).shapes().back().hasShadow());
+    EXPECT_DOUBLE_EQ(deck.slide(5).shapes().back().box().left, 96);
 }
 
 TEST_F(PowerPointDialog, ExportsToThePresentationThatItNamesWhateverTheUserLooksAtMeanwhile) {
