@@ -29,10 +29,12 @@ std::string styleSheet(const std::array<StyleRule, count>& rules) {
 }
 
 // clang-format off
-constexpr std::array<StyleRule, 25> baseRules{{
+constexpr std::array<StyleRule, 27> baseRules{{
     {"html,body",
      "margin:0;padding:0;overflow-x:hidden;overflow-y:auto;background:#111827;"
      "font-family:Segoe UI,Tahoma,Arial,sans-serif;color:#f1f5f9;height:100%"},
+    {"::-webkit-scrollbar", "width:10px;background:#111827"},
+    {"::-webkit-scrollbar-thumb", "background:#475569;border-radius:5px"},
     // The shadow is stated twice: the older engine knows only the filter.
     {".panel",
      "box-sizing:border-box;border:1px solid #334155;border-radius:10px;overflow:hidden;"
@@ -46,7 +48,7 @@ constexpr std::array<StyleRule, 25> baseRules{{
      "padding:14px 16px 10px;font-size:13px;line-height:1.5;text-align:center;color:#e2e8f0"},
     {".body p", "margin:0 0 8px 0"},
     // Fixed, or a path without a blank would make it wider than the page.
-    {".summary", "display:table;table-layout:fixed;width:100%;margin:0 auto 6px auto"},
+    {".summary", "display:table;table-layout:fixed;width:100%;margin:0 auto 4px auto"},
     {".count",
      "display:table-cell;vertical-align:middle;width:52px;font-size:26px;font-weight:700;"
      "color:#60a5fa;line-height:1"},
@@ -75,7 +77,7 @@ constexpr std::array<StyleRule, 25> baseRules{{
 }};
 
 constexpr std::array<StyleRule, 20> optionRules{{
-    {".opts", "padding:8px 14px 14px 14px;text-align:left;border-top:1px solid #334155"},
+    {".opts", "padding:6px 14px 8px 14px;text-align:left;border-top:1px solid #334155"},
     {".opts-title",
      "font-size:11px;font-weight:700;color:#94a3b8;margin:0 0 6px 2px;letter-spacing:.2px"},
     {".opt-row",
