@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "catalogue/row_copies.h"
 #include "office/failure_patterns.h"
@@ -17,18 +18,13 @@ using office::arg;
 using office::Object;
 using session::OfficeSession;
 
-/// Word, and one document of it that nobody else has seen. Both go as they have come.
+/// Word, and one document of it that nobody else has seen. The document goes with this object, and
+/// so does a Word that was started for it, unless the user has opened documents of their own there.
 class TemporaryDocument {
 public:
-    explicit TemporaryDocument(OfficeSession& session) {
-        office::ContinueOnFailure scope;
-        scope.attempt([&] { word_ = session.suite.attach("Word.Application"); });
-        if (!word_) {
-            if (!scope.attempt([&] { word_ = session.suite.start("Word.Application"); }))
-                throw office::Failure(office::FailureNumber::ApplicationDefined, "Word.Application",
-                                      "Microsoft Word is not available.");
-            createdWord_ = true;
-        }
+    // By way of the other constructor, so that a Word is not left behind if it makes no document.
+    explicit TemporaryDocument(OfficeSession& session)
+        : TemporaryDocument(session.suite.attach("Word.Application"), session) {
         document_ = word_.get("Documents").call("Add", arg("Visible", false)).toObject();
     }
     TemporaryDocument(const TemporaryDocument&) = delete;
@@ -36,9 +32,16 @@ public:
     /// A lost application has closed everything itself.
     ~TemporaryDocument() {
         try {
-            document_.call("Close", arg("SaveChanges", false));
-            if (createdWord_) word_.call("Quit", arg("SaveChanges", false));
-        } catch (const office::Failure&) {
+            office::ContinueOnFailure scope;
+            if (document_)
+                scope.attempt([&] { document_.call("Close", arg("SaveChanges", false)); });
+            if (!createdWord_) return;
+            const std::int32_t own = scope.failed() ? 1 : 0;
+            scope.attempt([&] {
+                if (word_.get("Documents").get("Count").toLong() == own)
+                    word_.call("Quit", arg("SaveChanges", false));
+            });
+        } catch (const office::SuiteLost&) {
             return;
         }
     }
@@ -46,6 +49,15 @@ public:
     [[nodiscard]] const Object& document() const { return document_; }
 
 private:
+    TemporaryDocument(Object running, OfficeSession& session) : word_(std::move(running)) {
+        if (word_) return;
+        createdWord_ = office::ContinueOnFailure().attempt(
+            [&] { word_ = session.suite.start("Word.Application"); });
+        if (!createdWord_)
+            throw office::Failure(office::FailureNumber::ApplicationDefined, "Word.Application",
+                                  "Microsoft Word is not available.");
+    }
+
     Object word_;
     Object document_;
     bool createdWord_ = false;
@@ -215,7 +227,8 @@ PdfResult ExportRowsToPdf(RowBatch& batch, const PdfOptions& options, const std:
     });
     if (result.isMade)
         temporary.document().call("ExportAsFixedFormat", path, pdf, false,
-                                  arg("CreateBookmarks", headings), arg("DocStructureTags", true));
+                                  arg("IncludeDocProps", true), arg("CreateBookmarks", headings),
+                                  arg("DocStructureTags", true));
     return result;
 }
 

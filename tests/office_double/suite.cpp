@@ -47,6 +47,7 @@ Object DoubleSuite::attach(std::string_view className) {
 }
 
 Object DoubleSuite::start(std::string_view className) {
+    if (office::sameIgnoringCase(className, "Word.Application")) return word().handle();
     throw Failure(429, "Suite.start", fmt::format("{} can't be started", className));
 }
 

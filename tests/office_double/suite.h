@@ -50,7 +50,7 @@ public:
     void setPacing(office::Pacing pacing) { pacing_ = pacing; }
 
     Object attach(std::string_view className) override;
-    /// `Failure`: no part of the program under test starts an application.
+    /// `Failure` for all but Word: no part of the program under test starts another.
     Object start(std::string_view className) override;
     void clearClipboard() override;
     office::ClipboardPicture clipboardPicture(office::ClipboardPicture::Kind kind) override;

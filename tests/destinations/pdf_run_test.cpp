@@ -1,0 +1,50 @@
+#include "destinations/pdf_run.h"
+#include "support/automation.h"
+#include "word_stage.h"
+
+namespace {
+
+class PdfRunTest : public stage::WordStage {
+protected:
+    PdfRunTest() {
+        test.suite.quitWord();
+        test.suite.log().clear();
+        add("Chart 1", "Sales", "Turnover");
+    }
+    void exportPdf() {
+        destinations::RowBatch batch{session, list, [](const auto&, const auto&) {}};
+        destinations::ExportRowsToPdf(batch, {}, "/out.pdf");
+    }
+};
+
+TEST_F(PdfRunTest, EndsTheWordThatItHasStartedUnlessTheUserHasADocumentThere) {
+    struct Case {
+        const char* failing;
+        bool userOpensOne;
+        std::size_t quits;
+    };
+    for (const Case& each :
+         {Case{"", false, 1}, Case{"", true, 0}, Case{"Document.Close", false, 1},
+          Case{"Document.Close", true, 0}, Case{"Documents.Add", false, 1},
+          Case{"Document.ExportAsFixedFormat", false, 1}}) {
+        if (*each.failing != 0) test.suite.failures().fail(each.failing);
+        test.host.onEvents = [&] {
+            if (each.userOpensOne) test.suite.word().addDocument("Letter.docx");
+        };
+        support::failureOf([&] { exportPdf(); });
+        EXPECT_EQ(test.suite.log().count("Application.Quit"), each.quits) << each.failing;
+        test.suite.quitWord();
+        test.suite.log().clear();
+    }
+}
+
+TEST_F(PdfRunTest, LeavesAWordThatRunsAndPutsTheTitleIntoTheFile) {
+    test.suite.word().addDocument("Letter.docx");
+    exportPdf();
+    EXPECT_EQ(test.suite.log().count("Application.Quit"), 0U);
+    EXPECT_EQ(test.suite.word().open().size(), 1U);
+    EXPECT_NE(test.suite.log().texts("ExportAsFixedFormat").at(0).find("IncludeDocProps:=True"),
+              std::string::npos);
+}
+
+}  // namespace
