@@ -49,6 +49,8 @@ bool InsertOneItem(OfficeSession& session, const catalogue::ExportItem& row,
         session::ShowWarningNotice(session.notices, std::string(why));
         return false;
     };
+    // One that was started while the form is up is another one.
+    session::AttachPowerPoint(session);
     const office::Object& app = session.PowerPointApp;
     if (!scope.attempt(
             [&] { session.SessionPresentation = app.get("ActivePresentation").toObject(); })) {

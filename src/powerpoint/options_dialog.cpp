@@ -156,6 +156,7 @@ void Dialog::ContinueOk_Click() {
     if (!presentationIsThere(scope)) {
         // With another one open the user sees its name ahead of the next click.
         session().SessionPresentation.release();
+        session::AttachPowerPoint(session());
         namePresentation(scope);
         if (!session().SessionPresentation) SetPanelMessage(noPowerPoint, "warning");
         return;

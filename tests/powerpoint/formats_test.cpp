@@ -167,6 +167,7 @@ protected:
 
 TEST_F(FileFormatsTest, WhatTheSuiteSaysOfOneMoreWorkbookIsToldOnceItIsThere) {
     suite.remarkOn(office::PasteAs::Embedded, "one too many");
+    session.PowerPointApp.release();
     choices.format = ExportFormat::Embedded;
     EXPECT_TRUE(powerpoint::InsertOneItem(session, list.rows.front(), choices));
     ASSERT_EQ(notices.shown.size(), 1U);
