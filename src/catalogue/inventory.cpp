@@ -30,8 +30,8 @@ std::int32_t countEmbeddedCharts(const office::Object& book) {
 }
 
 bool isReserved(const std::string& nameText) {
-    return nameText == store::itemsName || nameText == store::reservedName ||
-           nameText == store::foreignName;
+    return isOfExcelItself(nameText) || nameText == store::itemsName ||
+           nameText == store::reservedName || nameText == store::foreignName;
 }
 
 std::int32_t countRangeNames(const office::Object& book) {
@@ -46,8 +46,8 @@ std::int32_t countRangeNames(const office::Object& book) {
     for (std::int32_t i = 1; i <= count; ++i) {
         scope.attempt([&] {
             const office::Value name = names.get("Item", i);
-            const bool isRange = !name.get("RefersToRange").toObject().isNothing();
-            if (isRange && !isReserved(name.get("Name").toText())) ++ranges;
+            if (isReserved(name.get("Name").toText())) return;
+            if (!name.get("RefersToRange").toObject().isNothing()) ++ranges;
         });
     }
     return ranges;
@@ -59,7 +59,8 @@ std::int16_t shortCount(std::size_t count) {
 }
 
 /// Excel doesn't draw, raise events or calculate while this lives, since a workbook can hold many
-/// items. At its end all three are on, also after a failure.
+/// items. At its end, also after a failure, it draws, raises events, and calculates as the user has
+/// chosen.
 class ExcelPause {
 public:
     // By way of the other constructor, so that a failure half-way through is undone as well.
@@ -71,12 +72,11 @@ public:
     }
 
     ~ExcelPause() {
-        constexpr std::int32_t automatic = -4105;
         try {
             office::ContinueOnFailure scope;
             scope.attempt([&] { excel_.put("ScreenUpdating", true); });
             scope.attempt([&] { excel_.put("EnableEvents", true); });
-            scope.attempt([&] { excel_.put("Calculation", automatic); });
+            scope.attempt([&] { excel_.put("Calculation", calculation_); });
         } catch (const office::SuiteLost&) {
             // Excel has gone; the call that follows says so.
             excel_.release();
@@ -86,9 +86,12 @@ public:
     ExcelPause& operator=(const ExcelPause&) = delete;
 
 private:
-    explicit ExcelPause(office::Object excel) : excel_(std::move(excel)) {}
+    explicit ExcelPause(office::Object excel)
+        : excel_(std::move(excel)),
+          calculation_(excel_.get("Calculation").toLong()) {}
 
     office::Object excel_;
+    std::int32_t calculation_;
 };
 
 /// Looking names up needs a worksheet on top, and so does whoever works on after this. Hidden ones

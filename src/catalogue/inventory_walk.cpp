@@ -1,9 +1,12 @@
 #include "catalogue/inventory_walk.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
+#include "office/text.h"
 #include "session/workbook_store.h"
 
 namespace catalogue {
@@ -123,6 +126,8 @@ void Walk::readVisibleSheets() {
 }
 
 void Walk::takeName(const Value& name) {
+    const std::string nameText = name.get("Name").toText();
+    if (isOfExcelItself(nameText)) return;
     // The name's own range says at once which sheet and workbook it lies in: it is the one that a
     // look-up of the name from the application would find, at a fraction of the calls and whatever
     // sheet is active.
@@ -136,7 +141,6 @@ void Walk::takeName(const Value& name) {
     if (sheet.get("Parent").get("Name").toText() != bookName_) return;
     if (!name.get("Visible").toBool()) return;
 
-    const std::string nameText = name.get("Name").toText();
     item.name = shortName(nameText);
     item.order = std::to_string(place->second);
     item.kind = ItemKind::Range;
@@ -180,6 +184,13 @@ void Walk::advanceLoadBar() {
 }
 
 }  // namespace
+
+bool isOfExcelItself(const std::string& nameText) {
+    constexpr std::array<std::string_view, 2> own = {"Print_Titles", "_FilterDatabase"};
+    const std::string name = shortName(nameText);
+    return std::any_of(own.begin(), own.end(),
+                       [&](std::string_view each) { return office::sameIgnoringCase(each, name); });
+}
 
 FoundItems FindItems(session::OfficeSession& session) {
     return Walk(session).run();

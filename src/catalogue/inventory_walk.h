@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <string>
 #include <vector>
 
 #include "catalogue/export_list.h"
@@ -17,6 +18,10 @@ struct FoundItems {
     std::vector<ExportItem> items;
     KnownAreas hasSeveralAreas;
 };
+
+/// Whether a name is one under which Excel keeps something of its own: the rows and columns that
+/// each printed page repeats, the cells of a filter. Nobody has named those.
+[[nodiscard]] bool isOfExcelItself(const std::string& nameText);
 
 /// Walks through the active workbook and moves the loading bar on by each item. A failure of Excel
 /// goes to the caller, but a name that can't be read is left out.

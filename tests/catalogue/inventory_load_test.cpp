@@ -47,12 +47,14 @@ TEST_F(Inventory, ListsAFreshWorkbookInTheOrderOfItsSheets) {
 
 TEST_F(Inventory, LeavesOutWhatIsHiddenForeignReservedOrNoRange) {
     book.sheet("Sales").chart("Chart 1");
+    book.sheet("Sales").define("Print_Titles", "$1:$1");
     book.sheet("Hidden").chart("Chart 2").hide();
     book.chartSheet("Old").veryHide();
     test.suite.excel().addWorkbook("Other.xlsx").sheet("Sales");
     test.suite.excel().activate(book);
     book.define("Shown", "=Sales!$A$1")
         .defineHidden("Secret", "=Sales!$A$1")
+        .define("_FilterDatabase", "=Sales!$A$1:$B$2")
         .define("OnHidden", "=Hidden!$A$1")
         .define("Elsewhere", "=[Other.xlsx]Sales!$A$1")
         .define("Rate", "=42")
@@ -148,6 +150,11 @@ TEST_F(Inventory, SetsExcelBackAfterTheWalkAlsoAfterAFailure) {
     load();
     EXPECT_EQ(during, "FalseFalse-4135");
     EXPECT_EQ(settings(), "TrueTrue-4105");
+    test.session.ExcelApp.put("Calculation", 2);
+    load();
+    EXPECT_EQ(during, "FalseFalse-4135");
+    EXPECT_EQ(settings(), "TrueTrue2") << "as the user has it";
+    test.session.ExcelApp.put("Calculation", -4105);
     test.suite.failures().failAlways("ChartObject.Name");
     EXPECT_THROW(LoadedList{test}, office::Failure);
     EXPECT_EQ(settings(), "TrueTrue-4105");

@@ -107,7 +107,8 @@ TEST_F(ExcelCells, MovesABlockInAsManyCallsAsItHasColumnsAtMost) {
 
 TEST_F(ExcelCells, ListsNamesAsExcelDoes) {
     EXPECT_EQ(namesIn(book.get("Names")),
-              (Names{"Columns", "OffSheet", "Data!Own", "Wide!Print_Area", "Relative", "Total"}));
+              (Names{"Columns", "OffSheet", "Data!Own", "Wide!Print_Area", "Wide!Print_Titles",
+                     "Relative", "Total"}));
     const auto addressOf = [&](const char* name) {
         return book.get("Names").get("Item", name).get("RefersToRange").get("Address").toText();
     };

@@ -1,7 +1,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <utility>
 
@@ -26,20 +25,12 @@ struct NameEntry {
 
 using NameEntries = std::vector<NameEntry>;
 
-/// What Excel keeps under a name for its own use: no range that anybody has named.
-bool isListed(const std::string& name) {
-    constexpr std::array<std::string_view, 2> own = {"Print_Titles", "_FilterDatabase"};
-    return std::none_of(own.begin(), own.end(),
-                        [&](std::string_view each) { return sameIgnoringCase(each, name); });
-}
-
 /// In the order of the alphabet; equal ones by sheet, the workbook's own last.
 NameEntries listNames(Book& book) {
     NameEntries names;
     const auto append = [&](const SheetPtr& scope) {
-        for (std::string& name : (scope ? scope->names() : book.names()).all()) {
-            if (isListed(name)) names.push_back({scope, std::move(name)});
-        }
+        for (std::string& name : (scope ? scope->names() : book.names()).all())
+            names.push_back({scope, std::move(name)});
     };
     for (const SheetPtr& sheet : book.sheets()) append(sheet);
     append(nullptr);
