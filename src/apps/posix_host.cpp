@@ -211,6 +211,15 @@ bool PosixHost::pathExists(std::string_view path) {
     return ::lstat(std::string(path).c_str(), &ignored) == 0;
 }
 
+std::vector<std::string> PosixHost::namesIn(std::string_view folder) {
+    std::vector<std::string> names;
+    std::error_code problem;
+    for (auto each = fs::directory_iterator(fs::path(folder), problem);
+         !problem && each != fs::directory_iterator(); each.increment(problem))
+        names.push_back(each->path().filename().string());
+    return names;
+}
+
 std::string PosixHost::outputFolder(std::string_view name) {
     session::requireFileName(name);
     const auto home = environment("HOME");

@@ -33,6 +33,7 @@ public:
     [[nodiscard]] std::string helpFolder() override;
     [[nodiscard]] bool fileIsHeld(std::string_view path) override;
     [[nodiscard]] bool pathExists(std::string_view path) override;
+    [[nodiscard]] std::vector<std::string> namesIn(std::string_view folder) override;
     [[nodiscard]] std::string outputFolder(std::string_view name) override;
     void makeFolder(std::string_view path) override;
     void removeFolder(std::string_view path) override;

@@ -21,13 +21,15 @@ HtmlFiles::HtmlFiles(OfficeSession& session, const HtmlOptions& options)
     constexpr int first = 101;
     constexpr int last = 999;
     host_.makeFolder(folder_);
+    const std::vector<std::string> names = host_.namesIn(folder_);
     for (int number = first; number <= last; ++number) {
         imagesName_ = fmt::format("HTML{}", number);
-        pageName_ = fmt::format("MurvaneHTML{}.html", number);
-        publishedName_ = fmt::format("MurvaneHTML{}_files", number);
-        const auto names = {pageName_, imagesName_, publishedName_};
+        const std::string pageStem = fmt::format("MurvaneHTML{}", number);
+        pageName_ = pageStem + ".html";
+        // Excel puts a page's pictures into a folder beside it that is called after the page, with
+        // an ending of its own language.
         if (std::any_of(names.begin(), names.end(), [&](const std::string& name) {
-                return host_.pathExists(folder_ + "/" + name);
+                return name == imagesName_ || name.starts_with(pageStem);
             }))
             continue;
         draft_ = host_.makeDraftFolder(folder_);
@@ -47,8 +49,8 @@ std::string HtmlFiles::keep() {
     std::string page = folder_ + "/" + pageName_;
     std::vector<std::string> moved;
     try {
-        for (const std::string& name : {imagesName_, publishedName_}) {
-            if (!host_.pathExists(draft_ + "/" + name)) continue;
+        for (const std::string& name : host_.namesIn(draft_)) {
+            if (name == pageName_) continue;
             host_.moveTo(draft_ + "/" + name, folder_ + "/" + name);
             moved.push_back(folder_ + "/" + name);
         }

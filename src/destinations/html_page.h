@@ -39,8 +39,8 @@ public:
     /// The folder of the page's images in the draft, and its name as the page knows it.
     [[nodiscard]] std::string images() const { return draft_ + "/" + imagesName_; }
     [[nodiscard]] const std::string& imagesName() const { return imagesName_; }
-    /// Moves all to its place, the page last. The page's path there. `office::Failure` 75 if that
-    /// can't be done; then nothing is there.
+    /// Moves all that the draft holds to its place, the page last. The page's path there.
+    /// `office::Failure` 75 if that can't be done; then nothing is there.
     std::string keep();
 
 private:
@@ -48,8 +48,6 @@ private:
     std::string folder_;
     std::string draft_;
     std::string pageName_;
-    /// Where Excel puts the pictures of a page.
-    std::string publishedName_;
     std::string imagesName_;
 };
 

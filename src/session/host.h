@@ -80,6 +80,10 @@ public:
     /// nowhere.
     [[nodiscard]] virtual bool pathExists(std::string_view path) = 0;
 
+    /// The names of what stands in a folder, links that lead nowhere included, in no order. None if
+    /// it can't be read.
+    [[nodiscard]] virtual std::vector<std::string> namesIn(std::string_view folder) = 0;
+
     /// The full path of a folder for the program's output, in the user's home. Nothing is made.
     [[nodiscard]] virtual std::string outputFolder(std::string_view name) = 0;
     /// Makes a folder and those above it that are missing; one that is there already is fine.

@@ -129,6 +129,15 @@ public:
         return files.contains(path) || folders.contains(path);
     }
 
+    [[nodiscard]] std::vector<std::string> namesIn(std::string_view folder) override {
+        std::vector<std::string> names;
+        for (const auto* const paths : {&files, &folders}) {
+            for (const std::string& path : *paths)
+                if (folderOf(path) == folder) names.push_back(path.substr(folder.size() + 1));
+        }
+        return names;
+    }
+
     [[nodiscard]] std::string outputFolder(std::string_view name) override {
         session::requireFileName(name);
         return home + "/" + std::string(name);
