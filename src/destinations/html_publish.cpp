@@ -2,18 +2,18 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
+#include <vector>
 
 #include "catalogue/row_objects.h"
 #include "destinations/html_export.h"
 #include "office/failure_patterns.h"
+#include "session/workbook_store.h"
 
 namespace destinations {
 
 namespace {
 
 using catalogue::ExportItem;
-using office::arg;
 using office::Object;
 using session::OfficeSession;
 
@@ -49,13 +49,12 @@ public:
         // A protected workbook takes no sheet; the page is then without blank lines.
         scope_.attempt([this] {
             const KeptMark mark(book());
-            const Object sheets = book().get("Worksheets").toObject();
             // A run that was killed has left it.
             sheet_ = office::orElse(
-                [&] { return sheets.get("Item", std::string(name)).toObject(); }, Object());
+                [&] { return book().get("Worksheets").get("Item", std::string(name)).toObject(); },
+                Object());
             if (sheet_) return;
-            const Object last = sheets.get("Item", sheets.get("Count").toLong()).toObject();
-            sheet_ = sheets.call("Add", arg("After", last)).toObject();
+            sheet_ = session::AddSheetAtEnd(book());
             sheet_.put("Name", std::string(name));
         });
     }
@@ -93,6 +92,35 @@ private:
     Object sheet_;
 };
 
+/// The records that a run makes of what it publishes. They go with this object; those that the user
+/// has made stay.
+class OwnRecords {
+public:
+    explicit OwnRecords(const Object& book) : all_(book.get("PublishObjects").toObject()) {}
+    ~OwnRecords() {
+        try {
+            office::ContinueOnFailure scope;
+            for (const Object& record : own_) scope.attempt([&] { record.call("Delete"); });
+        } catch (const office::SuiteLost&) {
+            return;
+        }
+    }
+    OwnRecords(const OwnRecords&) = delete;
+    OwnRecords& operator=(const OwnRecords&) = delete;
+
+    [[nodiscard]] Object add(std::int32_t type, const std::string& page, const std::string& sheet,
+                             const std::string& source, const std::string& title) {
+        constexpr std::int32_t staticPage = 0;
+        own_.push_back(
+            all_.call("Add", type, page, sheet, source, staticPage, "", title).toObject());
+        return own_.back();
+    }
+
+private:
+    Object all_;
+    std::vector<Object> own_;
+};
+
 /// One run of the export.
 class Publishing {
 public:
@@ -100,10 +128,8 @@ public:
         : session_(session),
           options_(options),
           page_(std::move(page)),
-          records_(session.ActiveBook.get("PublishObjects").toObject()),
-          blank_(session) {
-        // Those of earlier runs are for pages that nobody asked for again.
-        records_.call("Delete");
+          blank_(session),
+          records_(session.ActiveBook) {
         if (blank_.isThere()) end(publish(rangeSource, std::string(blank_.name), "B1:B4", ""));
     }
 
@@ -144,9 +170,7 @@ private:
 
     [[nodiscard]] Object publish(std::int32_t type, const std::string& sheet,
                                  const std::string& source, const std::string& title) {
-        constexpr std::int32_t staticPage = 0;
-        Object record =
-            records_.call("Add", type, page_, sheet, source, staticPage, "", title).toObject();
+        Object record = records_.add(type, page_, sheet, source, title);
         record.call("Publish", false);
         return record;
     }
@@ -154,8 +178,8 @@ private:
     OfficeSession& session_;
     const HtmlOptions& options_;
     std::string page_;
-    Object records_;
     BlankSheet blank_;
+    OwnRecords records_;
     int published_ = 0;
 };
 

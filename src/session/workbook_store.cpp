@@ -238,6 +238,22 @@ bool SheetExists(OfficeSession& session, std::string_view name) {
         false);
 }
 
+Object AddSheetAtEnd(const Object& book) {
+    const Object sheets = book.get("Sheets").toObject();
+    const Value last = sheets.get("Item", sheets.get("Count"));
+    const std::string onTop = book.get("ActiveSheet").get("Name").toText();
+    // Without a count there would be as many as are selected.
+    Object sheet = book.get("Worksheets")
+                       .call("Add", office::arg("After", last), office::arg("Count", 1))
+                       .toObject();
+    // An Excel brings the new one up. What is on top is not brought up again: that takes time.
+    office::ContinueOnFailure().attempt([&] {
+        if (book.get("ActiveSheet").get("Name").toText() != onTop)
+            sheets.get("Item", onTop).call("Activate");
+    });
+    return sheet;
+}
+
 void EnsureStoreSheet(OfficeSession& session) {
     if (session.ActiveBook.isNothing() || SheetExists(session, store::sheetName)) return;
 
@@ -246,11 +262,7 @@ void EnsureStoreSheet(OfficeSession& session) {
     Object sheet;
     // Behind the others: one in front of them would move what all charts refer to, and a suite then
     // draws each of them anew.
-    const bool isThere = scope.attempt([&] {
-        const Object sheets = book.get("Sheets").toObject();
-        const Value last = sheets.get("Item", sheets.get("Count"));
-        sheet = book.get("Worksheets").call("Add", office::arg("After", last)).toObject();
-    });
+    const bool isThere = scope.attempt([&] { sheet = AddSheetAtEnd(book); });
     // Names that lead to no sheet would be all that is left of it.
     if (!isThere) return;
     scope.attempt([&] { sheet.put("Name", store::sheetName); });

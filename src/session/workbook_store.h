@@ -31,6 +31,10 @@ inline constexpr const char* foreignName = "AllZichron11111";
 /// store sheet or can take one. A notice says why not.
 [[nodiscard]] bool CanKeepStore(OfficeSession& session);
 
+/// A new worksheet behind all others; the sheet on top stays there. `Failure` of Excel where the
+/// workbook takes none.
+[[nodiscard]] office::Object AddSheetAtEnd(const office::Object& book);
+
 /// Makes the store sheet with its names and formats, if there is a workbook and it has none.
 /// Failures are passed over: a protected workbook stays without.
 void EnsureStoreSheet(OfficeSession& session);

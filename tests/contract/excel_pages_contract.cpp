@@ -42,7 +42,9 @@ TEST_F(ExcelContract, PublishesRangesAndChartsToAPageThatGrowsAtItsEnd) {
     EXPECT_EQ(read(file).find("Item 2"), std::string::npos) << "made anew";
     EXPECT_NE(read(file).find("image002.png"), std::string::npos) << "the first is still there";
     EXPECT_EQ(book.get("Saved").toBool(), wasSaved);
-    records.call("Delete");
+    first.call("Delete");
+    EXPECT_EQ(records.get("Count").toLong(), 2);
+    for (const Object& record : {second, third}) record.call("Delete");
     std::filesystem::remove_all(std::filesystem::path(file).parent_path() / "page_files");
 }
 
@@ -57,6 +59,7 @@ TEST_F(ExcelContract, RefusesToPublishWhatIsNotThere) {
         const Value record = records.call("Add", type, file, sheetName, source, 0, "", "");
         EXPECT_EQ(failureOf([&] { record.call("Publish", false); }), refused) << source;
         EXPECT_EQ(failureOf([&] { record.toObject().put("AutoRepublish", true); }), refused);
+        record.call("Delete");
     }
     EXPECT_FALSE(std::filesystem::exists(file)) << "no page of nothing";
     EXPECT_EQ(failureOf([&] { records.call("Add", 1, file); }), refused);
@@ -65,10 +68,12 @@ TEST_F(ExcelContract, RefusesToPublishWhatIsNotThere) {
     const Value record = records.call("Add", aRange, other, "Sales", "A1", 0, "", "");
     EXPECT_EQ(failureOf([&] { record.call("Publish", false); }), refused);
     EXPECT_EQ(read(other), "no page");
+    record.call("Delete");
     const Value nowhere =
         records.call("Add", aRange, "/nowhere/at/all.html", "Sales", "A1", 0, "", "");
     EXPECT_EQ(failureOf([&] { nowhere.call("Publish", true); }), 75);
-    records.call("Delete");
+    nowhere.call("Delete");
+    EXPECT_EQ(records.get("Count").toLong(), 0);
 }
 
 }  // namespace

@@ -72,6 +72,19 @@ TEST_F(Html, OfImagesNamesEachByItsRowAndTakesTheFirstFreeNumber) {
     EXPECT_EQ(failed, Names{"Gone"});
 }
 
+TEST_F(Html, TakesAlongWhatAnExcelOfAnotherLanguagePutsBesideThePage) {
+    for (const char* number : {"101", "102"}) {
+        destinations::HtmlFiles files(session, {.folder = host.home.file(pagesFolder)});
+        host.writeFile(files.page(), "page");
+        const std::string pictures = files.page().substr(0, files.page().rfind('.')) + "-Dateien";
+        host.makeFolder(pictures);
+        EXPECT_TRUE(files.keep().ends_with(std::string("/MurvaneHTML") + number + ".html"));
+        std::filesystem::remove(host.home.file(pagesFolder) + "/MurvaneHTML101.html");
+    }
+    EXPECT_EQ(filesIn(pagesFolder),
+              (Names{"MurvaneHTML101-Dateien", "MurvaneHTML102-Dateien", "MurvaneHTML102.html"}));
+}
+
 TEST_F(Html, ThatIsPublishedKeepsTablesAndEscapesAllThatComesFromTheWorkbook) {
     auto& sheet = book.sheet("S");
     sheet.value("A1", "<script>alert('1')</script>").value("B2", 42).define("T", "A1:B2");
@@ -106,6 +119,8 @@ TEST_F(Html, ThatIsPublishedKeepsTablesAndEscapesAllThatComesFromTheWorkbook) {
 
 TEST_F(Html, ThatIsPublishedNeedsNoSheetForBlankLinesAndNoBlankLines) {
     addChart("A", "S");
+    const office::Value records = session.ActiveBook.get("PublishObjects");
+    records.call("Add", 4, host.home.file("theirs.html"), "S", "A1");
     book.sheet("kukuMurvaneReservedName02");
     const std::string plain = page(publish({.skipLines = 0}));
     book.protectStructure();
@@ -115,6 +130,7 @@ TEST_F(Html, ThatIsPublishedNeedsNoSheetForBlankLinesAndNoBlankLines) {
     EXPECT_EQ(count(bare, "class=\"item\""), 1U);
     EXPECT_EQ(count(bare, "<img"), 1U);
     EXPECT_TRUE(book.structureIsProtected());
+    EXPECT_EQ(records.get("Count").toLong(), 1) << "the user's own";
 }
 
 TEST_F(Html, ThatIsPublishedTakesTheFirstChartOfAWorksheetThatWasAChartSheet) {
@@ -134,6 +150,7 @@ TEST_F(Html, LeavesNothingOfAnExportThatFailed) {
     EXPECT_EQ(support::failureOf([&] { publish(); }), 75);
     EXPECT_EQ(book.sheetNames(), Names{"S"});
     EXPECT_FALSE(book.isModified());
+    EXPECT_EQ(session.ActiveBook.get("PublishObjects").get("Count").toLong(), 0);
     for (auto& row : list.rows) row.name = "Gone";
     EXPECT_EQ(publish().file, "");
     EXPECT_EQ(exportImages().file, "");

@@ -55,6 +55,15 @@ TEST_F(WorkbookStore, IsAVeryHiddenSheetWithItsNamesAndFormats) {
                            {{"RefersToRange.Address", "$O$23:$V$30"}});
 }
 
+TEST_F(WorkbookStore, IsOneSheetBeneathTheOneThatTheUserLooksAt) {
+    book.sheet("Costs");
+    book.activateSheet("Sales");
+    book.bringUpNewSheets();
+    session::EnsureStoreSheet(test.session);
+    EXPECT_EQ(book.activeTab()->name(), "Sales");
+    EXPECT_TRUE(test.suite.log().texts("Sheets.Add").at(0).ends_with("Count:=1)"));
+}
+
 TEST_F(WorkbookStore, CannotBeMadeInAProtectedWorkbookAndSaysNothing) {
     book.protectStructure();
     session::EnsureStoreSheet(test.session);

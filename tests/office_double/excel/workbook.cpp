@@ -78,7 +78,10 @@ excel::SheetPtr Workbook::addSheet(const std::string& name, std::int32_t place) 
     modified_ = true;
     // The sheet that is on top stays there.
     if (active_.expired() && !tabs_.empty()) active_ = tabs_.front();
-    return *tabs_.insert(tabs_.begin() + place, std::make_shared<Worksheet>(*this, name));
+    const auto added =
+        *tabs_.insert(tabs_.begin() + place, std::make_shared<Worksheet>(*this, name));
+    if (bringsUpNewSheets_) active_ = added;
+    return added;
 }
 
 void Workbook::removeSheet(const excel::SheetPtr& sheet) {

@@ -38,6 +38,8 @@ public:
     [[nodiscard]] std::shared_ptr<Sheet> activeTab() const;
     [[nodiscard]] const std::vector<std::shared_ptr<Sheet>>& tabs() const { return tabs_; }
     void activateSheet(const std::string& name);
+    /// As Excel does; others leave on top what is there.
+    void bringUpNewSheets() { bringsUpNewSheets_ = true; }
     void sheetRenamed(const std::string& from, const std::string& to);
     void select(excel::Selection selection) { selection_ = std::move(selection); }
 
@@ -68,6 +70,7 @@ private:
     std::weak_ptr<Sheet> active_;
     excel::Selection selection_;
     NameList names_{*this};
+    bool bringsUpNewSheets_ = false;
     bool structureProtected_ = false;
     bool readOnly_ = false;
     bool modified_ = false;

@@ -39,16 +39,26 @@ struct PlacedCharts {
 };
 
 struct Publications {
+    /// Those that have not been deleted.
+    std::vector<PublicationPtr> records;
     /// How many there have been, for the names of those to come.
     int made = 0;
     /// The number of the picture that was written last.
     int lastPicture = 0;
-    /// As they were seen first since the records were cleared: to ask for all of them for each
-    /// record would take ever longer.
+    /// As they were seen first since there was no record: to ask for all of them for each record
+    /// would take ever longer.
     std::map<const Sheet*, PlacedCharts> placedCharts;
     /// Places that showed nothing when they were published first since then: most are there to keep
     /// items apart, and are asked for again and again.
     std::map<std::pair<const Sheet*, std::string>, TableLook> gaps;
+
+    /// What was seen goes with the last record.
+    void remove(const PublicationPtr& record) {
+        std::erase(records, record);
+        if (!records.empty()) return;
+        placedCharts.clear();
+        gaps.clear();
+    }
 };
 
 }  // namespace office::model::excel

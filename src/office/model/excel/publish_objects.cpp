@@ -145,10 +145,13 @@ public:
                                    "Pages are not published again by themselves here");
                         Publisher::end(*self.what_);
                     })
-                .method("Publish", {"Create"}, [](Self& self, const CallArguments& arguments) {
-                    Publisher(self.home(), *self.what_, arguments.source())
-                        .publish(arguments.at(0, false).toBool());
-                });
+                .method("Publish", {"Create"},
+                        [](Self& self, const CallArguments& arguments) {
+                            Publisher(self.home(), *self.what_, arguments.source())
+                                .publish(arguments.at(0, false).toBool());
+                        })
+                .method("Delete", {},
+                        [](Self& self) { self.book().publications().remove(self.what_); });
         return table;
     }
 
@@ -156,7 +159,7 @@ private:
     PublicationPtr what_;
 };
 
-/// The records of a workbook. Nobody asks for one again, so each lives as long as its object.
+/// The records of a workbook, which are not saved with it.
 class PublishObjects : public ObjectIn<PublishObjects> {
 public:
     using ObjectIn::ObjectIn;
@@ -165,13 +168,12 @@ public:
         using Self = PublishObjects;
         static const auto table =
             MemberTable<Self>("PublishObjects")
+                .property(
+                    "Count",
+                    [](Self& self) { return countOf(self.book().publications().records.size()); })
                 .method("Add",
                         {"SourceType", "Filename", "Sheet", "Source", "HtmlType", "DivID", "Title"},
-                        &Self::add)
-                .method("Delete", {}, [](Self& self) {
-                    self.book().publications().placedCharts.clear();
-                    self.book().publications().gaps.clear();
-                });
+                        &Self::add);
         return table;
     }
 
@@ -197,6 +199,7 @@ Object PublishObjects::add(const CallArguments& arguments) {
     what->place = arguments.at(Source, "").toText();
     what->divId = fmt::format("item{}", ++book().publications().made);
     what->title = arguments.at(Title, "").toText();
+    book().publications().records.push_back(what);
     return makeObject<PublishObject>(home(), std::move(what));
 }
 

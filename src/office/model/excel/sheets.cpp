@@ -168,7 +168,7 @@ public:
             MemberTable<Sheets>("Sheets")
                 .property("Count", [](Sheets& self) { return countOf(self.all().size()); })
                 .property("Item", {"Index"}, &Sheets::item)
-                .method("Add", {"Before", "After"}, &Sheets::add);
+                .method("Add", {"Before", "After", "Count"}, &Sheets::add);
         return table;
     }
 
@@ -213,8 +213,9 @@ std::int32_t placeOfSheet(const Value& value, const std::string& source) {
 /// new one up.
 Object Sheets::add(const CallArguments& arguments) {
     constexpr std::size_t after = 1;
-    if (kind_ == SheetKind::ChartSheet || arguments.has(0))
-        refuse(arguments.source(), "Worksheets alone are added, behind others");
+    constexpr std::size_t count = 2;
+    if (kind_ == SheetKind::ChartSheet || arguments.has(0) || arguments.at(count, 1).toLong() != 1)
+        refuse(arguments.source(), "Worksheets alone are added, one at a time behind others");
     requireOpenStructure(book(), arguments.source());
     std::int32_t place = 0;
     if (arguments.has(after)) {
