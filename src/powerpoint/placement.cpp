@@ -160,7 +160,7 @@ void AddSourceLine(OfficeSession& session, const Object& shapes) {
     const Object font = text.get("Font").toObject();
     font.put("Name", "Tahoma");
     font.put("Size", 10);
-    font.put("Color", paleGrey);
+    font.get("Color").put("RGB", paleGrey);
 }
 
 }  // namespace powerpoint

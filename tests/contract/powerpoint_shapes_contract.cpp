@@ -146,7 +146,7 @@ TEST_F(PowerPointContract, GrowsALabelWithItsTextAndKeepsItsPlace) {
     text.put("Text", "/documents/of the group/contract-book.xlsx");
     text.get("Font").put("Name", "Tahoma");
     text.get("Font").put("Size", 10);
-    text.get("Font").put("Color", 178 + 178 * 256 + 178 * 65536);
+    text.get("Font").get("Color").put("RGB", 178 + 178 * 256 + 178 * 65536);
     selection().call("Unselect");
 
     const Value made = slide(4).get("Shapes").get("Item", 1);
@@ -154,7 +154,7 @@ TEST_F(PowerPointContract, GrowsALabelWithItsTextAndKeepsItsPlace) {
     EXPECT_EQ(range.get("Text").toText(), "/documents/of the group/contract-book.xlsx");
     EXPECT_EQ(range.get("Font").get("Name").toText(), "Tahoma");
     EXPECT_NEAR(range.get("Font").get("Size").toDouble(), 10, 0.1);
-    EXPECT_EQ(range.get("Font").get("Color").toLong(), 0xB2B2B2);
+    EXPECT_EQ(range.get("Font").get("Color").get("RGB").toLong(), 0xB2B2B2);
     EXPECT_EQ(made.get("TextFrame").get("WordWrap").toLong(), 0);
     EXPECT_GT(made.get("Width").toDouble(), 100);
     EXPECT_NEAR(made.get("Left").toDouble(), 20.25, 1);

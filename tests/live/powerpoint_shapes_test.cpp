@@ -110,7 +110,7 @@ TEST_F(PowerPointLive, WritesALabelAtItsCornerAsWideAsItsText) {
     text.put("Text", "/documents/of the group/a book with a long name.xlsx");
     text.get("Font").put("Name", "Tahoma");
     text.get("Font").put("Size", 10);
-    text.get("Font").put("Color", 178 + 178 * 256 + 178 * 65536);
+    text.get("Font").get("Color").put("RGB", 178 + 178 * 256 + 178 * 65536);
     EXPECT_NEAR(label.get("Left").toDouble(), 20.25, 0.02);
     EXPECT_NEAR(label.get("Top").toDouble(), 518, 0.02);
     expectSaved(deck, 5,

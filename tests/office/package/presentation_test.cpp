@@ -200,7 +200,7 @@ TEST_F(PresentationFile, SaysInItsXmlHowLabelsAndPicturesLook) {
     const Value font = frame.get("TextRange").get("Font");
     font.put("Name", "Tahoma");
     font.put("Size", 10);
-    font.put("Color", 0xB2A190);
+    font.get("Color").put("RGB", 0xB2A190);
     const Object picture = addPicture(deck, 1);
     picture.put("AutoShapeType", 5);
     picture.get("Adjustments").put("Item", 1, 0.05);

@@ -31,6 +31,23 @@ private:
     DeckShapePtr shape_;
 };
 
+class FontColor : public ShapePart<FontColor> {
+public:
+    using ShapePart::ShapePart;
+
+    static const MemberTable<FontColor>& members() {
+        using Self = FontColor;
+        static const auto table =
+            MemberTable<Self>("ColorFormat")
+                .property(
+                    "RGB", [](Self& self) { return self.text().font().colour; },
+                    [](Self& self, const Value& colour) {
+                        self.text().setFont({.name = {}, .sizePt = {}, .colour = colour.toLong()});
+                    });
+        return table;
+    }
+};
+
 class ShapeFont : public ShapePart<ShapeFont> {
 public:
     using ShapePart::ShapePart;
@@ -50,12 +67,7 @@ public:
                         const double sizePt = numberWithin(1, 4000, points, "Font.Size");
                         self.text().setFont({.name = {}, .sizePt = sizePt, .colour = {}});
                     })
-                // PowerPoint has an object there, to which a number can be put.
-                .property(
-                    "Color", [](Self& self) { return self.text().font().colour; },
-                    [](Self& self, const Value& colour) {
-                        self.text().setFont({.name = {}, .sizePt = {}, .colour = colour.toLong()});
-                    });
+                .property("Color", [](Self& self) { return self.other<FontColor>(); });
         return table;
     }
 };
