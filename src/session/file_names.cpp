@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "office/failure.h"
-#include "office/text.h"
+#include "office/file_address.h"
 
 namespace session {
 
@@ -48,9 +48,7 @@ std::string safeFileName(std::string_view name) {
 }
 
 std::string fileAddress(std::string_view path) {
-    const std::string encoded = office::addressWord(office::replaceAll(path, "\\", "/"));
-    return (path.starts_with('/') ? "file://" : "file:///") +
-           office::replaceAll(encoded, "%2F", "/");
+    return office::fileAddress(std::u8string(path.begin(), path.end()));
 }
 
 std::string readableFileName(std::string_view name, std::size_t longest) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "office/failure.h"
+#include "office/file_address.h"
 #include "office/package/document/drawing_markup.h"
 #include "office/package/document/word_table.h"
 #include "office/package/drawing/picture_file.h"

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <set>
 
+#include "office/file_address.h"
 #include "office/model/powerpoint/objects.h"
 #include "office/package/drawing/picture_file.h"
 #include "office/package/part_name.h"

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "office/failure.h"
+#include "office/file_address.h"
 #include "office/package/workbook/embedded_workbook.h"
 #include "office/text.h"
 

@@ -1,0 +1,41 @@
+#include "office/file_address.h"
+
+#include <system_error>
+
+#include "office/text.h"
+
+namespace office {
+
+namespace {
+
+/// Of a path with slashes between its names. A colon stays after the letter of a drive only, since
+/// it would make a scheme of the first name of a relative one.
+std::string addressOf(const std::filesystem::path& path) {
+    std::string address;
+    for (const std::filesystem::path& name : path) {
+        const auto text = name.generic_u8string();
+        if (text == u8"/") continue;
+        if (!address.empty()) address += '/';
+        const std::string word(text.begin(), text.end());
+        address += name == path.root_name() ? word : addressWord(word);
+    }
+    return address;
+}
+
+}  // namespace
+
+std::string fileAddress(const std::filesystem::path& file, const std::filesystem::path& base) {
+    if (!base.empty()) {
+        // Where a link of the file system is on the way, ".." leads to where it points.
+        const auto whole = [](const std::filesystem::path& path) {
+            std::error_code problem;
+            return std::filesystem::weakly_canonical(std::filesystem::absolute(path), problem);
+        };
+        const auto way = whole(file).lexically_relative(whole(base));
+        if (!way.empty()) return addressOf(way);
+    }
+    const std::string path = addressOf(std::filesystem::absolute(file));
+    return (path.starts_with("//") ? "file:" : "file:///") + path;
+}
+
+}  // namespace office
