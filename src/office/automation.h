@@ -14,7 +14,9 @@ class Value;
 /// Member names are compared without regard to case, as automation does. Every member function
 /// throws `Failure` when the member does not exist, when an argument does not fit, or when the
 /// application refuses; the object is then as it was unless the member's own documentation says
-/// otherwise. `SuiteLost` means that the application has gone.
+/// otherwise. `SuiteLost` means that Excel has gone, or the one process that all applications live
+/// in: the run is at its end. Of another application that has ended by itself each call is a
+/// `Failure` Disconnected, and the user may start it again.
 class Automation {
 public:
     Automation() = default;

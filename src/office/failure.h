@@ -21,7 +21,8 @@ enum class FailureNumber : std::int32_t {
     NoSuchNamedArgument = 448,
     WrongArgumentCount = 450,
     ApplicationDefined = 1004,
-    /// The object stands for something that has gone: a closed document, a deleted shape.
+    /// The object stands for something that has gone: a closed document, a deleted shape, an
+    /// application other than Excel that has ended by itself.
     Disconnected = static_cast<std::int32_t>(0x80010108),
 };
 
@@ -45,9 +46,9 @@ private:
     std::string source_;
 };
 
-/// The application itself has gone: its process died, or the connection to it broke. No failure
-/// pattern but plain code handles this one, since every further call would fail the same way; it
-/// ends the run with a report.
+/// Excel has gone, or the one suite that all applications are of: its process died, or the
+/// connection to it broke. No failure pattern but plain code handles this one, since every further
+/// call would fail the same way; it ends the run with a report.
 class SuiteLost : public Failure {
 public:
     explicit SuiteLost(const std::string& description);

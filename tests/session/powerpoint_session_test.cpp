@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "office/failure_patterns.h"
 #include "session/powerpoint_session.h"
 #include "session_doubles/test_session.h"
 
@@ -51,6 +52,14 @@ protected:
         return failure ? failure->number() : 0;
     }
 };
+
+TEST_F(PowerPointWindow, OfAnApplicationThatHasEndedAloneIsNoLostSuite) {
+    const office::Object deck = test.session.PowerPointApp.get("ActivePresentation").toObject();
+    test.suite.quitPowerPoint();
+    office::ContinueOnFailure scope;
+    EXPECT_FALSE(scope.attempt([&] { deck.get("Name"); }));
+    EXPECT_TRUE(scope.lastFailure()->is(office::FailureNumber::Disconnected));
+}
 
 TEST_F(PowerPointWindow, IsLockedForTheVersionsWhoseClassIsKnown) {
     EXPECT_EQ(lockAs("16.0"), 0);
