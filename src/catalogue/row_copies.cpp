@@ -1,5 +1,6 @@
 #include "catalogue/row_copies.h"
 
+#include "catalogue/numbers.h"
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
 #include "session/waits.h"
@@ -18,15 +19,14 @@ void CopyRow(OfficeSession& session, const ExportItem& row) {
 }
 
 void CopyRowAsPicture(OfficeSession& session, const ExportItem& row) {
-    constexpr std::int32_t asOnScreen = 1;
-    constexpr std::int32_t pictureFormat = -4147;
     if (row.kind == ItemKind::Range) {
         requiredRange(session, row)
-            .call("CopyPicture", arg("Appearance", asOnScreen), arg("Format", pictureFormat));
+            .call("CopyPicture", arg("Appearance", number::asOnScreen),
+                  arg("Format", number::pictureFormat));
     } else {
         chartOf(session, row)
-            .call("CopyPicture", arg("Appearance", asOnScreen), arg("Size", asOnScreen),
-                  arg("Format", pictureFormat));
+            .call("CopyPicture", arg("Appearance", number::asOnScreen),
+                  arg("Size", number::asOnScreen), arg("Format", number::pictureFormat));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include "catalogue/numbers.h"
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
 #include "session/file_names.h"
@@ -28,11 +29,9 @@ const char* filterOf(office::PictureKind kind) {
 /// By way of a chart on the sheet: a range has no export of its own. The chart goes again, whatever
 /// happens.
 void exportRange(const Object& range, const std::string& file, const char* filter) {
-    constexpr std::int32_t asOnScreen = 1;
-    constexpr std::int32_t pictureFormat = -4147;
-
     const Object sheet = range.get("Worksheet").toObject();
-    range.call("CopyPicture", arg("Appearance", asOnScreen), arg("Format", pictureFormat));
+    range.call("CopyPicture", arg("Appearance", number::asOnScreen),
+               arg("Format", number::pictureFormat));
     const Object holder =
         sheet.call("ChartObjects")
             .call("Add", 0, 0, range.get("Width").toDouble(), range.get("Height").toDouble())

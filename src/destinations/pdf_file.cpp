@@ -5,6 +5,7 @@
 #include <array>
 #include <vector>
 
+#include "destinations/word_numbers.h"
 #include "office/failure_patterns.h"
 #include "session/file_names.h"
 
@@ -57,7 +58,6 @@ bool OpenPdfFile(OfficeSession& session, const std::string& path) {
 }
 
 void ExportActiveDocumentToPdf(OfficeSession& session) {
-    constexpr std::int32_t pdf = 17;
     if (!session.WordApp) {
         session::ShowErrorNotice(session.notices, "Microsoft Word is not available.");
         return;
@@ -69,7 +69,7 @@ void ExportActiveDocumentToPdf(OfficeSession& session) {
     std::string base = session.SessionDocument.get("Name").toText();
     base = base.substr(0, base.rfind('.'));
     const std::string path = pdfPath(session, base);
-    session.SessionDocument.call("ExportAsFixedFormat", path, pdf, false);
+    session.SessionDocument.call("ExportAsFixedFormat", path, number::pdf, false);
     if (!OpenPdfFile(session, path))
         session::ShowWarningNotice(
             session.notices, fmt::format("Couldn't open PDF with the default viewer:\r\n{}", path));

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "catalogue/row_copies.h"
+#include "destinations/word_numbers.h"
 #include "office/failure_patterns.h"
 #include "session/waits.h"
 
@@ -96,13 +97,6 @@ private:
     bool isFirstParagraph_ = true;
 };
 
-/// Word's numbers of its styles.
-namespace style {
-constexpr std::int32_t normal = -1;
-constexpr std::int32_t heading1 = -2;
-constexpr std::int32_t title = -63;
-}  // namespace style
-
 constexpr double sourceLinePt = 24;
 
 PdfPages::PdfPages(OfficeSession& session, const PdfOptions& options, const Object& document)
@@ -153,7 +147,7 @@ void PdfPages::addCover() {
     for (bool isMore = true; isMore;) {
         const std::size_t end = rest.find('\n');
         isMore = end != std::string_view::npos;
-        beginParagraph({.style = isFirst ? style::title : style::normal,
+        beginParagraph({.style = isFirst ? number::title : number::normal,
                         .isCentred = true,
                         .spaceBeforePt = isFirst ? height_ * share : 12});
         selection_.call("TypeText", std::string(rest.substr(0, end)));
@@ -183,7 +177,7 @@ void PdfPages::addItem(const ExportItem& row) {
     const bool hasHeading = options_.pageTitles && !row.caption.empty();
     if (hasHeading) {
         room -= headingHeight(row.caption);
-        beginParagraph({.style = style::heading1, .beginsPage = !isFirstPage_, .spaceAfterPt = 6});
+        beginParagraph({.style = number::heading1, .beginsPage = !isFirstPage_, .spaceAfterPt = 6});
         selection_.call("TypeText", row.caption);
         isFirstPage_ = false;
     }
@@ -200,12 +194,12 @@ void PdfPages::addItem(const ExportItem& row) {
     shape.put("AlternativeText", catalogue::DescriptionOf(row));
     // In the middle of its room.
     const double gap = std::max(0.0, (room - height * scale) / 2);
-    dressParagraph({.style = style::normal,
+    dressParagraph({.style = number::normal,
                     .beginsPage = !hasHeading && !isFirstPage_,
                     .isCentred = true,
                     .spaceBeforePt = gap});
     if (options_.includePath) {
-        beginParagraph({.style = style::normal, .spaceBeforePt = gap});
+        beginParagraph({.style = number::normal, .spaceBeforePt = gap});
         selection_.call("TypeText", fmt::format("{}  -  {}", workbook_, row.sheet));
     }
     isFirstPage_ = false;
@@ -214,7 +208,6 @@ void PdfPages::addItem(const ExportItem& row) {
 }  // namespace
 
 PdfResult ExportRowsToPdf(RowBatch& batch, const PdfOptions& options, const std::string& path) {
-    constexpr std::int32_t pdf = 17;
     constexpr std::int32_t headings = 1;
     OfficeSession& session = batch.session;
     const TemporaryDocument temporary(session);
@@ -226,7 +219,7 @@ PdfResult ExportRowsToPdf(RowBatch& batch, const PdfOptions& options, const std:
         result.isMade = true;
     });
     if (result.isMade)
-        temporary.document().call("ExportAsFixedFormat", path, pdf, false,
+        temporary.document().call("ExportAsFixedFormat", path, number::pdf, false,
                                   arg("IncludeDocProps", true), arg("CreateBookmarks", headings),
                                   arg("DocStructureTags", true));
     return result;

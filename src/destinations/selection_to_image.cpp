@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "catalogue/numbers.h"
 #include "destinations/image_files.h"
 #include "destinations/row_picture.h"
 
@@ -15,8 +16,6 @@ using session::OfficeSession;
 
 /// Copies the selection if it is something that a picture can be taken of.
 bool copySelection(OfficeSession& session) {
-    constexpr std::int32_t asOnScreen = 1;
-    constexpr std::int32_t bitmap = 2;
     const Object& book = session.ActiveBook;
     const bool isChartSheet = book.get("ActiveSheet").toObject().typeName() == "Chart";
     const office::Value selected = session.ExcelApp.get("Selection");
@@ -27,7 +26,8 @@ bool copySelection(OfficeSession& session) {
         return true;
     }
     if (type != "Range" || selection.get("Areas").get("Count").toLong() != 1) return false;
-    selection.call("CopyPicture", arg("Appearance", asOnScreen), arg("Format", bitmap));
+    selection.call("CopyPicture", arg("Appearance", catalogue::number::asOnScreen),
+                   arg("Format", catalogue::number::bitmapFormat));
     return true;
 }
 

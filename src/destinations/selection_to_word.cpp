@@ -4,7 +4,9 @@
 #include <string>
 #include <string_view>
 
+#include "catalogue/numbers.h"
 #include "destinations/text_area.h"
+#include "destinations/word_numbers.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
 #include "session/alerts_off.h"
@@ -155,13 +157,12 @@ void SelectionPaste::copyAndPaste(SourceKind kind) {
 }
 
 void SelectionPaste::copy(SourceKind kind) {
-    constexpr std::int32_t asOnScreen = 1;
-    constexpr std::int32_t pictureFormat = -4147;
     const bool isPicture = mode_ == WordPaste::Picture;
     if (kind == SourceKind::Range) {
         const Object cells = session_.ExcelApp.get("Selection").toObject();
         if (isPicture) {
-            cells.call("CopyPicture", arg("Appearance", asOnScreen), arg("Format", pictureFormat));
+            cells.call("CopyPicture", arg("Appearance", catalogue::number::asOnScreen),
+                       arg("Format", catalogue::number::pictureFormat));
         } else {
             cells.call("Copy");
         }
@@ -169,17 +170,15 @@ void SelectionPaste::copy(SourceKind kind) {
     }
     const Object chart = session_.ActiveBook.get("ActiveChart").toObject();
     if (isPicture) {
-        chart.call("CopyPicture", arg("Appearance", asOnScreen), arg("Size", asOnScreen),
-                   arg("Format", pictureFormat));
+        chart.call("CopyPicture", arg("Appearance", catalogue::number::asOnScreen),
+                   arg("Size", catalogue::number::asOnScreen),
+                   arg("Format", catalogue::number::pictureFormat));
     } else {
         chart.get("ChartArea").call("Copy");
     }
 }
 
 void SelectionPaste::paste(SourceKind kind) {
-    constexpr std::int32_t oleObject = 0;
-    constexpr std::int32_t overTheText = 1;
-    constexpr std::int32_t inLine = 0;
     switch (mode_) {
         case WordPaste::Picture:
             selection_.call("Paste");
@@ -193,10 +192,11 @@ void SelectionPaste::paste(SourceKind kind) {
             // Where a shape over the text is looked for afterwards, it has to become one.
             const std::string_view shapes =
                 kind == SourceKind::Range ? command_.rangeShapes : command_.chartShapes;
-            selection_.call("PasteSpecial", arg("Link", mode_ == WordPaste::FloatingLinked),
-                            arg("DataType", oleObject),
-                            arg("Placement", shapes == "Shapes" ? overTheText : inLine),
-                            arg("DisplayAsIcon", false));
+            selection_.call(
+                "PasteSpecial", arg("Link", mode_ == WordPaste::FloatingLinked),
+                arg("DataType", number::oleObject),
+                arg("Placement", shapes == "Shapes" ? number::overTheText : number::inLine),
+                arg("DisplayAsIcon", false));
         }
     }
 }
@@ -205,11 +205,10 @@ void SelectionPaste::paste(SourceKind kind) {
 Object SelectionPaste::pastedShape(std::string_view collection) {
     constexpr std::int32_t character = 1;
     constexpr std::int32_t extend = 1;
-    constexpr std::int32_t toEnd = 0;
     if (collection == "Shapes") return selection_.get("ShapeRange").toObject();
     selection_.call("MoveLeft", character, 1, extend);
     const Object shape = selection_.get("InlineShapes").get("Item", 1).toObject();
-    selection_.call("Collapse", toEnd);
+    selection_.call("Collapse", number::toEnd);
     return shape;
 }
 

@@ -10,6 +10,7 @@
 #include "catalogue/row_objects.h"
 #include "catalogue/row_pictures.h"
 #include "destinations/text_area.h"
+#include "destinations/word_numbers.h"
 #include "office/failure_patterns.h"
 #include "session/waits.h"
 
@@ -175,11 +176,9 @@ void WordBatch::TypeParagraph() {
 /// The paragraph that is left behind the break does not break the page once more. An empty document
 /// needs none: its first page would stay empty.
 void WordBatch::InsertPageBreakBlock() {
-    constexpr std::int32_t toEnd = 0;
-    constexpr std::int32_t normal = -1;
     const auto end = [&] {
         Object range = document_.get("Range").toObject();
-        range.call("Collapse", toEnd);
+        range.call("Collapse", number::toEnd);
         return range;
     };
     const auto appendParagraph = [&] {
@@ -191,7 +190,7 @@ void WordBatch::InsertPageBreakBlock() {
     if (!hasText()) return;
     appendParagraph();
     // What came before may be a caption or the item of a list.
-    selection_.put("Style", normal);
+    selection_.put("Style", number::normal);
     end().get("ParagraphFormat").put("PageBreakBefore", true);
     appendParagraph();
     end().get("ParagraphFormat").put("PageBreakBefore", false);
@@ -203,8 +202,6 @@ bool WordBatch::hasText() {
 }
 
 void WordBatch::paste() {
-    constexpr std::int32_t oleObject = 0;
-    constexpr std::int32_t overTheText = 1;
     if (takesFiles()) {
         selection_.get("InlineShapes").call("AddPicture", file_, false, true);
         office::ContinueOnFailure().attempt([&] { session_.host.deleteFile(file_); });
@@ -214,7 +211,7 @@ void WordBatch::paste() {
         selection_.call("PasteSpecial");
     } else {
         selection_.call("PasteSpecial", arg("Link", format_ == ExportFormat::Linked),
-                        arg("DataType", oleObject), arg("Placement", overTheText),
+                        arg("DataType", number::oleObject), arg("Placement", number::overTheText),
                         arg("DisplayAsIcon", false));
     }
 }

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "catalogue/numbers.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
 #include "powerpoint/excel_objects.h"
@@ -136,8 +137,6 @@ bool SelectionPaste::copyAndPaste() {
     constexpr std::uint32_t chartSheetMs = 300;
     constexpr std::uint32_t embeddedChartMs = 1000;
     constexpr std::uint32_t cellsMs = 300;
-    constexpr std::int32_t asOnScreen = 1;
-    constexpr std::int32_t pictureFormat = -4147;
 
     const Object& book = session_.ActiveBook;
     const auto pasteChart = [&](std::uint32_t pauseMs, const auto& nameOf) {
@@ -163,7 +162,8 @@ bool SelectionPaste::copyAndPaste() {
         return false;
     }
     if (mode_ == SlidePaste::Pictures) {
-        cells.call("CopyPicture", arg("Appearance", asOnScreen), arg("Format", pictureFormat));
+        cells.call("CopyPicture", arg("Appearance", catalogue::number::asOnScreen),
+                   arg("Format", catalogue::number::pictureFormat));
         session::SleepMilliseconds(session_, cellsMs);
     } else {
         cells.call("Copy");
