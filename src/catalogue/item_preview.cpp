@@ -1,5 +1,6 @@
 #include "catalogue/item_preview.h"
 
+#include "catalogue/numbers.h"
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
 
@@ -40,18 +41,16 @@ void copyForFirstPreview(OfficeSession& session, const ExportItem& row) {
     } else if (row.isEmbeddedChart()) {
         copyEmbeddedChart(session, row);
     } else {
-        constexpr std::int32_t asOnScreen = 1;
-        constexpr std::int32_t bitmap = 2;
         rangeOf(session, row)
-            .call("CopyPicture", arg("Appearance", asOnScreen), arg("Format", bitmap));
+            .call("CopyPicture", arg("Appearance", number::asOnScreen),
+                  arg("Format", number::bitmapFormat));
     }
 }
 
 forms::Picture pictureOnClipboard(OfficeSession& session) {
-    using Kind = office::ClipboardPicture::Kind;
     forms::Picture picture;
     office::ContinueOnFailure().attempt(
-        [&] { picture.bytes = session.suite.clipboardPicture(Kind::ScreenBitmap).bytes; });
+        [&] { picture.bytes = session.suite.clipboardPicture(office::Sharpness::Screen); });
     return picture;
 }
 

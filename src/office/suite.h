@@ -20,16 +20,6 @@ using WindowHandle = std::uintptr_t;
 /// while.
 enum class Pacing { FinishedOnReturn, Asynchronous };
 
-/// A picture taken from the clipboard: PNG or vector bytes, empty if the clipboard held none of the
-/// kind asked for.
-struct ClipboardPicture {
-    /// A bitmap for the screen may have fewer pixels.
-    enum class Kind { Bitmap, ScreenBitmap, Vector };
-    Kind kind = Kind::Bitmap;
-    std::string mediaType;
-    std::vector<std::uint8_t> bytes;
-};
-
 /// Something that is to be pasted, under the name that the user knows it by.
 struct PasteItem {
     std::string name;
@@ -55,7 +45,8 @@ public:
     virtual Object start(std::string_view className) = 0;
 
     virtual void clearClipboard() = 0;
-    virtual ClipboardPicture clipboardPicture(ClipboardPicture::Kind kind) = 0;
+    /// What the clipboard holds, as the bytes of a PNG; empty if it holds no picture.
+    virtual std::vector<std::uint8_t> clipboardPicture(Sharpness sharpness) = 0;
     /// Where its Excel leaves what was copied, for a PowerPoint or a Word that stands elsewhere.
     /// Never null: it stays empty where the applications pass copies among themselves.
     virtual ClipboardPtr clipboard() = 0;
@@ -73,9 +64,8 @@ public:
     /// none.
     virtual WindowHandle findWindow(std::string_view className, std::string_view caption) = 0;
 
-    /// Shows the window by a show command (1 is normal) and gives it the foreground. False if it
-    /// did not get it.
-    virtual bool raiseWindow(WindowHandle window, int showCommand) = 0;
+    /// Shows the window in its normal size and gives it the foreground. False if it did not get it.
+    virtual bool raiseWindow(WindowHandle window) = 0;
 
     /// Freezes the drawing of one window. Only one is frozen at a time: false if another already
     /// is.

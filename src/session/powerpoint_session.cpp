@@ -68,10 +68,8 @@ office::Object PresentationWindow(const OfficeSession& session) {
 }
 
 void RaisePresentation(OfficeSession& session) {
-    constexpr int showNormal = 1;
     const std::string caption = session.SessionPresentation.get("Name").toText() + " - PowerPoint";
-    office::WindowHandle window = 0;
-    BringWindowToFront(session, caption, window, showNormal);
+    BringWindowToFront(session, caption);
 }
 
 std::int32_t PrepareSlideView(OfficeSession& session) {
@@ -106,11 +104,9 @@ void SetExcelWindow(OfficeSession& session, ExcelWindow state) {
     session.ExcelApp.put("WindowState", static_cast<std::int32_t>(state));
 }
 
-bool BringWindowToFront(OfficeSession& session, std::string_view caption,
-                        office::WindowHandle& window, int showCommand) {
-    if (window == 0) window = session.suite.findWindow({}, caption);
-    if (window == 0) return false;
-    return session.suite.raiseWindow(window, showCommand);
+bool BringWindowToFront(OfficeSession& session, std::string_view caption) {
+    const office::WindowHandle window = session.suite.findWindow({}, caption);
+    return window != 0 && session.suite.raiseWindow(window);
 }
 
 std::optional<office::Failure> PowerPointWindowLock(OfficeSession& session, bool release) {

@@ -39,10 +39,9 @@ enum class ExcelWindow : std::int32_t { Normal = -4143, Maximised = -4137 };
 
 void SetExcelWindow(OfficeSession& session, ExcelWindow state);
 
-/// Shows a window by a show command (1 is normal) and gives it the foreground. A `window` of 0 is
-/// looked up by its caption and stored. False, and nothing has moved, if there is no such window.
-bool BringWindowToFront(OfficeSession& session, std::string_view caption,
-                        office::WindowHandle& window, int showCommand);
+/// Shows the window of this caption in its normal size and gives it the foreground. False, and
+/// nothing has moved, if there is none.
+bool BringWindowToFront(OfficeSession& session, std::string_view caption);
 
 /// What stands in the last-failure record when the lock could not be taken. Nobody is told: without
 /// a lock PowerPoint merely redraws while a shape is moved.

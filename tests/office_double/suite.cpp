@@ -56,23 +56,11 @@ void DoubleSuite::clearClipboard() {
     state_->clipboard->copied.reset();
 }
 
-office::ClipboardPicture DoubleSuite::clipboardPicture(office::ClipboardPicture::Kind kind) {
-    office::ClipboardPicture picture;
-    picture.kind = kind;
+std::vector<std::uint8_t> DoubleSuite::clipboardPicture(office::Sharpness) {
     const office::CopiedPtr& copied = state_->clipboard->copied;
-    if (!copied) return picture;
-    if (kind != office::ClipboardPicture::Kind::Vector) {
-        picture.mediaType = "image/png";
-        const std::string png = copied->picture(office::Sharpness::Crisp).png.get();
-        picture.bytes.assign(png.begin(), png.end());
-    } else {
-        picture.mediaType = "image/svg+xml";
-        const std::string svg =
-            fmt::format(R"(<svg xmlns="http://www.w3.org/2000/svg" width="{}pt" height="{}pt"/>)",
-                        copied->widthPt(), copied->heightPt());
-        picture.bytes.assign(svg.begin(), svg.end());
-    }
-    return picture;
+    if (!copied) return {};
+    const std::string png = copied->picture(office::Sharpness::Crisp).png.get();
+    return {png.begin(), png.end()};
 }
 
 std::vector<std::string> DoubleSuite::remarksOn(std::string_view /*className*/, office::PasteAs as,
@@ -96,7 +84,7 @@ office::WindowHandle DoubleSuite::findWindow(std::string_view className, std::st
     return 0;
 }
 
-bool DoubleSuite::raiseWindow(office::WindowHandle window, int) {
+bool DoubleSuite::raiseWindow(office::WindowHandle window) {
     raised_ = window;
     return window != 0;
 }

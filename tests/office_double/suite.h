@@ -53,7 +53,7 @@ public:
     /// `Failure` for all but Word: no part of the program under test starts another.
     Object start(std::string_view className) override;
     void clearClipboard() override;
-    office::ClipboardPicture clipboardPicture(office::ClipboardPicture::Kind kind) override;
+    std::vector<std::uint8_t> clipboardPicture(office::Sharpness sharpness) override;
     office::ClipboardPtr clipboard() override { return state_->clipboard; }
     std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;
@@ -62,7 +62,7 @@ public:
     /// Presentations have windows with captions such as "Deck.pptx - PowerPoint" and the class
     /// "PPTFrameClass".
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;
-    bool raiseWindow(office::WindowHandle window, int showCommand) override;
+    bool raiseWindow(office::WindowHandle window) override;
     bool lockDrawing(office::WindowHandle window) override;
     void unlockDrawing() override { locked_ = 0; }
     void redraw(office::WindowHandle) override { ++redraws_; }

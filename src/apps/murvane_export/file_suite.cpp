@@ -90,8 +90,8 @@ office::WindowHandle FileSuite::findWindow(std::string_view className, std::stri
     return powerPoint_ ? 0 : below_.findWindow(className, caption);
 }
 
-bool FileSuite::raiseWindow(office::WindowHandle window, int showCommand) {
-    return !powerPoint_ && below_.raiseWindow(window, showCommand);
+bool FileSuite::raiseWindow(office::WindowHandle window) {
+    return !powerPoint_ && below_.raiseWindow(window);
 }
 
 bool FileSuite::lockDrawing(office::WindowHandle window) {

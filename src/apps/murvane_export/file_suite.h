@@ -25,15 +25,15 @@ public:
     office::Object attach(std::string_view className) override;
     office::Object start(std::string_view className) override;
     void clearClipboard() override { below_.clearClipboard(); }
-    office::ClipboardPicture clipboardPicture(office::ClipboardPicture::Kind kind) override {
-        return below_.clipboardPicture(kind);
+    std::vector<std::uint8_t> clipboardPicture(office::Sharpness sharpness) override {
+        return below_.clipboardPicture(sharpness);
     }
     office::ClipboardPtr clipboard() override { return below_.clipboard(); }
     office::PictureFilesPtr pictureFiles() override { return below_.pictureFiles(); }
     std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;
-    bool raiseWindow(office::WindowHandle window, int showCommand) override;
+    bool raiseWindow(office::WindowHandle window) override;
     bool lockDrawing(office::WindowHandle window) override;
     void unlockDrawing() override { below_.unlockDrawing(); }
     void redraw(office::WindowHandle window) override { below_.redraw(window); }

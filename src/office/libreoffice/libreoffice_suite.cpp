@@ -109,26 +109,11 @@ void LibreOfficeSuite::clearClipboard() {
     clipboard_->copied.reset();
 }
 
-office::ClipboardPicture LibreOfficeSuite::clipboardPicture(office::ClipboardPicture::Kind kind) {
-    office::ClipboardPicture picture;
-    picture.kind = kind;
+std::vector<std::uint8_t> LibreOfficeSuite::clipboardPicture(office::Sharpness sharpness) {
     const office::CopiedPtr copied = clipboard_->copied;
-    if (!copied) return picture;
-    if (kind != office::ClipboardPicture::Kind::Vector) {
-        picture.mediaType = "image/png";
-        const bool isForScreen = kind == office::ClipboardPicture::Kind::ScreenBitmap;
-        const std::string png =
-            copied->picture(isForScreen ? office::Sharpness::Screen : office::Sharpness::Crisp)
-                .png.get();
-        picture.bytes.assign(png.begin(), png.end());
-        return picture;
-    }
-    picture.mediaType = "application/x-openoffice-gdimetafile";
-    if (const auto* drawn = dynamic_cast<const excel::CopiedPicture*>(copied.get())) {
-        const auto& metafile = drawn->metafile();
-        picture.bytes.assign(metafile.begin(), metafile.end());
-    }
-    return picture;
+    if (!copied) return {};
+    const std::string png = copied->picture(sharpness).png.get();
+    return {png.begin(), png.end()};
 }
 
 std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className, office::PasteAs as,
@@ -185,7 +170,7 @@ office::WindowHandle LibreOfficeSuite::findWindow(std::string_view className,
     });
 }
 
-bool LibreOfficeSuite::raiseWindow(office::WindowHandle window, int /*showCommand*/) {
+bool LibreOfficeSuite::raiseWindow(office::WindowHandle window) {
     const auto presentation = presentationOf(window);
     return presentation &&
            translated(*connection_, "Suite.raiseWindow", [&] { return presentation->raise(); });

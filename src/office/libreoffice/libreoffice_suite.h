@@ -56,13 +56,13 @@ public:
     office::Object attach(std::string_view className) override;
     office::Object start(std::string_view className) override;
     void clearClipboard() override;
-    office::ClipboardPicture clipboardPicture(office::ClipboardPicture::Kind kind) override;
+    std::vector<std::uint8_t> clipboardPicture(office::Sharpness sharpness) override;
     office::ClipboardPtr clipboard() override { return clipboard_; }
     office::PictureFilesPtr pictureFiles() override;
     std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;
-    bool raiseWindow(office::WindowHandle window, int showCommand) override;
+    bool raiseWindow(office::WindowHandle window) override;
     /// Remembered, and nothing is locked: the user would sit in front of a frozen presentation if
     /// this process died.
     bool lockDrawing(office::WindowHandle window) override;
