@@ -280,6 +280,7 @@ void UserformObj::wireEvents() {
     listCharts.onRowsStep = [this](int step) { listCharts_RowsStep(step); };
     listCharts.onRowsMove = [this](std::size_t before) { listCharts_RowsMove(before); };
     listCharts.onRowsClear = [this] { listCharts_RowsClear(); };
+    listCharts.onRowInsert = [this] { imgChart_DblClick(); };
     imgChart.onDblClick = [this] { imgChart_DblClick(); };
     SlideTitle.onChange = [this] { SlideTitle_Change(); };
     TextBox10.onChange = [this] { TextBox10_Change(); };

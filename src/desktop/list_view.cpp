@@ -56,11 +56,7 @@ ListView::ListView(forms::ListView& list, QWidget& parent, ViewHost& host)
     setIndentation(0);
     setFrameShape(QFrame::NoFrame);
     setMouseTracking(true);
-    connect(header_, &QHeaderView::sectionClicked, this, [this](int column) {
-        tell([this, column] {
-            if (list_.onColumnClick) list_.onColumnClick(static_cast<std::size_t>(column));
-        });
-    });
+    connect(header_, &QHeaderView::sectionClicked, this, [this](int column) { sortBy(column); });
     connect(header_, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
         if (syncing_ || width == 0) return;
         tell([this, column, width] {
@@ -246,6 +242,12 @@ bool ListView::runKey(const QKeyEvent& event) {
         tell([this, up] {
             if (list_.onRowsStep) list_.onRowsStep(up ? -1 : 1);
         });
+    } else if (control && event.key() >= Qt::Key_1 && event.key() <= Qt::Key_9) {
+        sortBy(event.key() - Qt::Key_1);
+    } else if (control && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)) {
+        tell([this] {
+            if (list_.onRowInsert) list_.onRowInsert();
+        });
     } else if (event.matches(QKeySequence::SelectAll)) {
         tell([this] { list_.markAll(); });
     } else if (event.key() == Qt::Key_Delete) {
@@ -259,6 +261,14 @@ bool ListView::runKey(const QKeyEvent& event) {
         return false;
     }
     return true;
+}
+
+/// The form sorts; a column that isn't shown sorts nothing.
+void ListView::sortBy(int column) {
+    if (column >= header_->count() || header_->isSectionHidden(column)) return;
+    tell([this, column] {
+        if (list_.onColumnClick) list_.onColumnClick(static_cast<std::size_t>(column));
+    });
 }
 
 void ListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

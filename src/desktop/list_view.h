@@ -45,6 +45,7 @@ private:
     void paintPlaceholder();
     void paintDropLine();
     void toggle(int row);
+    void sortBy(int column);
     void click(int row, Pick pick);
     [[nodiscard]] int markedRows() const;
     [[nodiscard]] bool isOneOfSeveral(int row) const;

@@ -83,6 +83,8 @@ public:
     std::function<void(int step)> onRowsStep;
     /// What the user can write into them is to be wiped out.
     std::function<void()> onRowsClear;
+    /// The selected one is to go where the form would put it by the mouse.
+    std::function<void()> onRowInsert;
 
 private:
     void markThrough(std::size_t row);

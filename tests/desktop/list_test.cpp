@@ -101,7 +101,11 @@ TEST_F(Lists, KeysMoveAndClearTheChosenRowsAndALetterJumpsToAName) {
     key(Qt::Key_Up, Qt::ControlModifier);
     key(Qt::Key_Down, Qt::ControlModifier);
     key(Qt::Key_Delete);
-    for (const char* event : {"step -1", "step 1", "clear"}) EXPECT_EQ(times(event), 1) << event;
+    form.listCharts.onRowInsert = [this] { form.happened.emplace_back("insert"); };
+    key(Qt::Key_Return, Qt::ControlModifier);
+    key(Qt::Key_4, Qt::ControlModifier);
+    for (const char* event : {"step -1", "step 1", "clear", "insert", "column 3"})
+        EXPECT_EQ(times(event), 1) << event;
     EXPECT_EQ(form.rows.selected(), 1);
     type("ma");
     EXPECT_EQ(form.rows.selected(), 5);
