@@ -76,7 +76,7 @@ void DialogWord::nameDocument() {
     scope.attempt([&] {
         SetPanelMessage(
             fmt::format(
-                "{} object(s) will be pasted to\r{}\r as {}\r starting at the end of the document",
+                "{} object(s) will be pasted to\r{}\r as {}\r starting at the insertion point",
                 taken_, session().SessionDocument.get("Name").toText(),
                 formatName(choices_.format)),
             "info");

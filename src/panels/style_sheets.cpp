@@ -29,12 +29,10 @@ std::string styleSheet(const std::array<StyleRule, count>& rules) {
 }
 
 // clang-format off
-constexpr std::array<StyleRule, 27> baseRules{{
+constexpr std::array<StyleRule, 25> baseRules{{
     {"html,body",
-     "margin:0;padding:0;overflow-x:hidden;overflow-y:auto;background:#111827;"
+     "margin:0;padding:0;overflow:hidden;background:#111827;"
      "font-family:Segoe UI,Tahoma,Arial,sans-serif;color:#f1f5f9;height:100%"},
-    {"::-webkit-scrollbar", "width:10px;background:#111827"},
-    {"::-webkit-scrollbar-thumb", "background:#475569;border-radius:5px"},
     // The shadow is stated twice: the older engine knows only the filter.
     {".panel",
      "box-sizing:border-box;border:1px solid #334155;border-radius:10px;overflow:hidden;"
@@ -47,14 +45,13 @@ constexpr std::array<StyleRule, 27> baseRules{{
     {".body",
      "padding:14px 16px 10px;font-size:13px;line-height:1.5;text-align:center;color:#e2e8f0"},
     {".body p", "margin:0 0 8px 0"},
-    // Fixed, or a path without a blank would make it wider than the page.
-    {".summary", "display:table;table-layout:fixed;width:100%;margin:0 auto 4px auto"},
+    {".summary", "display:table;width:100%;margin:0 auto 6px auto"},
     {".count",
      "display:table-cell;vertical-align:middle;width:52px;font-size:26px;font-weight:700;"
      "color:#60a5fa;line-height:1"},
     {".summary-text", "display:table-cell;vertical-align:middle;text-align:left;padding-left:10px"},
     {".summary-lead", "font-size:12px;color:#94a3b8;margin-bottom:2px"},
-    {".dest-name", "font-size:15px;font-weight:700;color:#f1f5f9;word-wrap:break-word;overflow-wrap:anywhere"},
+    {".dest-name", "font-size:15px;font-weight:700;color:#f1f5f9;word-wrap:break-word"},
     {".format-tag",
      "display:inline-block;margin-top:4px;padding:2px 10px;border-radius:999px;"
      "background:rgba(37,99,235,.25);color:#93c5fd;font-size:11px;font-weight:700"},
@@ -77,7 +74,7 @@ constexpr std::array<StyleRule, 27> baseRules{{
 }};
 
 constexpr std::array<StyleRule, 20> optionRules{{
-    {".opts", "padding:6px 14px 8px 14px;text-align:left;border-top:1px solid #334155"},
+    {".opts", "padding:8px 14px 14px 14px;text-align:left;border-top:1px solid #334155"},
     {".opts-title",
      "font-size:11px;font-weight:700;color:#94a3b8;margin:0 0 6px 2px;letter-spacing:.2px"},
     {".opt-row",
@@ -131,6 +128,18 @@ constexpr std::array<StyleRule, 9> toolRules{{
      "border:2px solid #2563eb;border-radius:0 2px 2px 2px;background:#111827"},
     {".tool-label", "vertical-align:middle;line-height:1.35"},
     {".app-badge", "text-align:center"},
+}};
+
+// So that nothing is out of reach in the strip: the usual options just have room, and a page that a
+// long path makes higher can be scrolled.
+constexpr std::array<StyleRule, 6> roomRules{{
+    {"html,body", "overflow-x:hidden;overflow-y:auto"},
+    {"::-webkit-scrollbar", "width:10px;background:#111827"},
+    {"::-webkit-scrollbar-thumb", "background:#475569;border-radius:5px"},
+    // Fixed, or a path without a blank would make it wider than the page.
+    {".summary", "table-layout:fixed;margin-bottom:4px"},
+    {".dest-name", "overflow-wrap:anywhere"},
+    {".opts", "padding-top:6px;padding-bottom:8px"},
 }};
 // clang-format on
 
@@ -187,7 +196,8 @@ constexpr std::array<StyleRule, 28> noticeRules{{
 }  // namespace
 
 std::string PanelCss() {
-    return styleSheet(baseRules) + styleSheet(optionRules) + styleSheet(toolRules);
+    return styleSheet(baseRules) + styleSheet(optionRules) + styleSheet(toolRules) +
+           styleSheet(roomRules);
 }
 
 std::string NoticeCss() {
