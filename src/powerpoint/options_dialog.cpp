@@ -147,7 +147,7 @@ void Dialog::RunPanelAction(std::string_view key) {
     } else if (lower == "layout") {
         LayoutForm layout(desktop(), session());
         panels::ShowToolForm(layout);
-        if (layout.isApplied()) session().PlacesPictures = true;
+        if (layout.isApplied()) options_.placesShapes = true;
     }
 }
 
@@ -170,8 +170,6 @@ void Dialog::ContinueOk_Click() {
     options_.sourceLine = SourceInc.isChecked();
     options_.shadow = CheckShadow.isChecked();
     options_.pictureStyle = session().PictureStyle;
-    // Only there the user has been asked.
-    options_.placesShapes = choices_.format == ExportFormat::Pictures && session().PlacesPictures;
     panels::RunExport(session(), *this, taken_, [this] {
         catalogue::exportAndTellOfFailed(session(), [this](auto& failed) { runBatch(failed); });
     });

@@ -38,8 +38,6 @@ struct OfficeSession {
     office::PictureKind Pictures = office::PictureKind::Png;
     /// The look that the user has chosen for what comes to slides; none at the start.
     std::int16_t PictureStyle = 0;
-    /// The user has had pictures placed as the workbook's store says.
-    bool PlacesPictures = false;
     bool PowerPointFound = false;
     std::int16_t ItemCount = 0;
     office::WindowHandle PowerPointFrameHandle = 0;

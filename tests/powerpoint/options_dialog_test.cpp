@@ -218,7 +218,7 @@ TEST_F(PowerPointDialog, GoesOnOverAChartThatHasGoneButNotWithoutItsPresentation
     EXPECT_EQ(notices.messages()[0].find("1 item(s) could not be exported:\rChart 9: "), 0U);
 }
 
-TEST_F(PowerPointDialog, KeepsTheStyleAndTheLayoutThatWereChosenAnEarlierTime) {
+TEST_F(PowerPointDialog, KeepsTheStyleThatWasChosenAnEarlierTimeButNotTheLayout) {
     storePlacement(0.5, 0.25, 0.1);
     open([&](powerpoint::Dialog& dialog) {
         desktop.answer("PredefinedStyles", [](forms::Form& form) {
@@ -232,7 +232,7 @@ TEST_F(PowerPointDialog, KeepsTheStyleAndTheLayoutThatWereChosenAnEarlierTime) {
     open([](powerpoint::Dialog& dialog) { press(dialog, "ContinueOk"); });
     ASSERT_EQ(deck.slideCount(), 5);
     EXPECT_TRUE(deck.slide(5).shapes().back().hasShadow());
-    EXPECT_DOUBLE_EQ(deck.slide(5).shapes().back().box().left, 96);
+    EXPECT_NE(deck.slide(5).shapes().back().box().left, 96);
 }
 
 TEST_F(PowerPointDialog, ExportsToThePresentationThatItNamesWhateverTheUserLooksAtMeanwhile) {
