@@ -81,9 +81,8 @@ office::CopiedPtr ChartShape::copy(office::CopySource source) {
         return std::make_shared<CopiedChart>(book_, std::move(source), shape_, std::move(home),
                                              owner_.lock());
     }
-    return std::make_shared<CopiedPicture>(
-        book_.desk(), std::move(source),
-        pictureMaker(book_.desk()).suite().metafileOf(lookOf(shape_).graphic), shape_->getSize());
+    return std::make_shared<CopiedPicture>(book_.desk(), std::move(source), lookOf(shape_).graphic,
+                                           shape_->getSize());
 }
 
 void ChartShape::writePicture(const std::string& path, office::PictureKind kind) {

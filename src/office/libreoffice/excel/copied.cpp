@@ -30,12 +30,25 @@ CopiedPicture::CopiedPicture(Desk& desk, office::CopySource source,
       desk_(desk),
       metafile_(std::move(metafile)) {}
 
+CopiedPicture::CopiedPicture(Desk& desk, office::CopySource source,
+                             uno::Reference<css::graphic::XGraphic> graphic,
+                             const css::awt::Size& size)
+    : CopiedHere(std::move(source), size),
+      desk_(desk),
+      graphic_(std::move(graphic)) {}
+
+uno::Sequence<sal_Int8> CopiedPicture::metafile() const {
+    if (!graphic_.is()) return metafile_;
+    return translated(desk_, [&] { return pictureMaker(desk_).suite().metafileOf(graphic_); });
+}
+
 office::Picture CopiedPicture::picture(office::Sharpness sharpness) const {
     return translated(desk_,
-                      [&] { return pictureMaker(desk_).metafile(metafile_, size(), sharpness); });
+                      [&] { return pictureMaker(desk_).metafile(metafile(), size(), sharpness); });
 }
 
 uno::Reference<css::graphic::XGraphic> CopiedPicture::graphic() const {
+    if (graphic_.is()) return graphic_;
     return translated(desk_, [&] { return pictureMaker(desk_).suite().graphicOf(metafile_); });
 }
 

@@ -28,19 +28,24 @@ private:
     css::awt::Size size_;
 };
 
-/// A picture of a chart or of cells, in the suite's own vector format.
+/// A picture of a chart or of cells as they were, in the suite's own vector format.
 class CopiedPicture : public CopiedHere {
 public:
     CopiedPicture(Desk& desk, office::CopySource source, uno::Sequence<sal_Int8> metafile,
                   const css::awt::Size& size);
+    /// One that stays in the suite until somebody asks for its bytes.
+    CopiedPicture(Desk& desk, office::CopySource source,
+                  uno::Reference<css::graphic::XGraphic> graphic, const css::awt::Size& size);
 
-    [[nodiscard]] const uno::Sequence<sal_Int8>& metafile() const { return metafile_; }
+    [[nodiscard]] uno::Sequence<sal_Int8> metafile() const;
     [[nodiscard]] office::Picture picture(office::Sharpness sharpness) const override;
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
 
 private:
     Desk& desk_;
+    /// One of both.
     uno::Sequence<sal_Int8> metafile_;
+    uno::Reference<css::graphic::XGraphic> graphic_;
 };
 
 /// A chart. Its workbook has to be open still when more of it is asked for.

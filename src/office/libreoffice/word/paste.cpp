@@ -55,10 +55,9 @@ public:
     void set(const char* name, const Type& value) {
         setProperty(properties_, name, value);
     }
-    /// In front of what a cursor holds.
-    void insertAt(const uno::Reference<css::text::XTextCursor>& place) {
-        const auto start = place->getStart();
-        start->getText()->insertTextContent(start, content_, false);
+    /// In front of what is selected.
+    void insertAt(const TextPlace& place) {
+        place.text->insertTextContent(place.start(), content_, false);
         isInserted_ = true;
     }
     [[nodiscard]] const ContentRef& content() const { return content_; }
@@ -113,9 +112,12 @@ void putToRest(const Connection& connection,
 
 /// The new thing goes in front of what is selected, which is taken out only then: if the one can't
 /// be had, the other stays.
-void WriterDocument::insertObject(const CursorRef& place, const WriterObjectPtr& object) {
+void WriterDocument::insertObject(const TextPlace& place, const WriterObjectPtr& object) {
     removeSelected(place);
-    objects().add(object);
+    if (caret_.isAtEnd())
+        objects().addLast(object);
+    else
+        objects().add(object);
     pasted_ = object->content();
 }
 
@@ -123,7 +125,7 @@ model::TextObjectPtr WriterDocument::pasted() {
     return pasted_.is() ? objects().recordOf(pasted_) : nullptr;
 }
 
-void WriterDocument::insertGraphic(const CursorRef& place,
+void WriterDocument::insertGraphic(const TextPlace& place,
                                    const uno::Reference<css::graphic::XGraphic>& graphic,
                                    const css::awt::Size& size, model::Anchoring anchoring) {
     NewContent made(*this, "com.sun.star.text.TextGraphicObject", size, anchoring);
@@ -134,7 +136,7 @@ void WriterDocument::insertGraphic(const CursorRef& place,
 }
 
 void WriterDocument::addPicture(const std::string& file) {
-    const auto place = writablePlace("InlineShapes.AddPicture");
+    const TextPlace place = writablePlace("InlineShapes.AddPicture");
     if (desk_.drawingRoom) desk_.drawingRoom->complete(file);
     const FilePicture picture = pictureOfFile(desk_.connection(), file);
     pasted_.clear();
@@ -143,7 +145,7 @@ void WriterDocument::addPicture(const std::string& file) {
 }
 
 void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anchoring anchoring) {
-    const auto place = writablePlace(member);
+    const TextPlace place = writablePlace(member);
     const bool isPicture = copied.source().kind == CopySource::Kind::Picture;
     if (as == PasteAs::Linked) {
         office::refuse(

@@ -69,12 +69,11 @@ void removeEmptyParagraphAhead(const uno::Reference<css::text::XTextCursor>& tab
 }  // namespace
 
 /// What is built by calls takes seconds; what is read like a file, some milliseconds.
-void WriterDocument::insertTable(const CursorRef& place, const office::TableLook& table) {
+void WriterDocument::insertTable(const TextPlace& place, const office::TableLook& table) {
     const double scale = std::min(1.0, page().textWidth() / table.widthPt());
     const auto package = packageOf(desk_.connection(), objects::tableText(table, scale));
     const std::int32_t before = tableCount();
-    const auto start = place->getStart();
-    const auto inserted = start->getText()->createTextCursorByRange(start);
+    const auto inserted = place.text->createTextCursorByRange(place.start());
     as<css::document::XDocumentInsertable>(inserted)->insertDocumentFromURL(
         "private:stream", propertyValues({{"InputStream", uno::Any(package->getInputStream())},
                                           {"FilterName", uno::Any(rtl::OUString("writer8"))}}));

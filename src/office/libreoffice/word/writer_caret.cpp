@@ -20,6 +20,11 @@ WriterCaret::WriterCaret(uno::Reference<css::frame::XModel> document)
 void WriterCaret::keepView() {
     attach();
     keepsView_ = true;
+    textAtEnd_ = cursor_->getText();
+    const auto cursor = textAtEnd_->createTextCursorByRange(range_);
+    cursorAtEnd_ = {cursor, as<css::text::XParagraphCursor>(cursor),
+                    as<css::beans::XMultiPropertySet>(cursor),
+                    as<css::beans::XMultiPropertyStates>(cursor)};
 }
 
 void WriterCaret::attach() {
@@ -35,6 +40,7 @@ void WriterCaret::attach() {
 }
 
 uno::Reference<css::text::XText> WriterCaret::text() {
+    if (isAtEnd()) return textAtEnd_;
     attach();
     try {
         return cursor_->getText();
@@ -51,7 +57,9 @@ const RangeRef& WriterCaret::range() {
 }
 
 uno::Reference<css::text::XTextCursor> WriterCaret::copy() {
-    return text()->createTextCursorByRange(range_);
+    if (!isAtEnd()) return text()->createTextCursorByRange(range_);
+    cursorAtEnd_.cursor->gotoRange(range_, false);
+    return cursorAtEnd_.cursor;
 }
 
 void WriterCaret::leaveObject() {
@@ -69,12 +77,14 @@ void WriterCaret::leaveObject() {
 
 void WriterCaret::goTo(const RangeRef& place) {
     attach();
+    textAtEnd_.clear();
     // Moving the cursor alone leaves an object selected.
     selection_->select(uno::Any(place));
 }
 
 void WriterCaret::goDown(std::int32_t lines) {
     static_cast<void>(range());
+    textAtEnd_.clear();
     for (std::int32_t line = 0; line < lines; ++line) {
         if (lines_->goDown(1, false)) continue;
         cursor_->gotoEnd(false);
@@ -84,6 +94,7 @@ void WriterCaret::goDown(std::int32_t lines) {
 
 void WriterCaret::goToStartOfLine() {
     static_cast<void>(range());
+    textAtEnd_.clear();
     as<css::view::XLineCursor>(cursor_)->gotoStartOfLine(false);
 }
 
@@ -94,6 +105,7 @@ rtl::OUString WriterCaret::pageStyle() {
 
 void WriterCaret::select(const uno::Reference<css::text::XTextContent>& object) {
     attach();
+    textAtEnd_.clear();
     selection_->select(uno::Any(object));
 }
 

@@ -104,10 +104,16 @@ void WriterDocument::requireWritable(const uno::Reference<css::beans::XMultiProp
     word::requireWritable(place, member);
 }
 
-WriterDocument::CursorRef WriterDocument::writablePlace(const std::string& member) {
+WriterDocument::CursorRef WriterDocument::writableCursor(const std::string& member) {
     auto place = caret_.copy();
     if (!isUnseen_) requireWritable(as<css::beans::XMultiPropertySet>(place), member);
     return place;
+}
+
+TextPlace WriterDocument::writablePlace(const std::string& member) {
+    if (caret_.isAtEnd()) return {body_, caret_.sameRange()};
+    const auto cursor = writableCursor(member);
+    return {cursor->getText(), RangeRef(cursor.get()), !cursor->isCollapsed()};
 }
 
 void WriterDocument::appendParagraph() {
@@ -124,7 +130,7 @@ void WriterDocument::changeLastParagraph(const model::ParagraphChange& change) {
 }
 
 void WriterDocument::changeParagraph(const model::ParagraphChange& change) {
-    changeParagraph(writablePlace("ParagraphFormat"), change);
+    changeParagraph(writableCursor("ParagraphFormat"), change);
 }
 
 void WriterDocument::changeParagraph(const CursorRef& paragraph,
@@ -139,37 +145,36 @@ std::string WriterDocument::selectedText() {
     return fromUno(caret_.range()->getString());
 }
 
-void WriterDocument::removeSelected(const CursorRef& selected) {
-    if (!selected->isCollapsed()) caret_.sameRange()->setString(rtl::OUString());
+void WriterDocument::removeSelected(const TextPlace& place) {
+    if (place.isSelection) caret_.sameRange()->setString(rtl::OUString());
 }
 
 /// Line ends become paragraphs.
 void WriterDocument::typeText(const std::string& text) {
-    const auto selected = writablePlace("Selection.TypeText");
+    const TextPlace place = writablePlace("Selection.TypeText");
     const UndoGroup group(steps_, "Typing");
-    removeSelected(selected);
-    const auto place = selected->getText();
+    removeSelected(place);
     const auto& range = caret_.sameRange();
     std::string_view rest = text;
     while (true) {
         const std::size_t end = rest.find_first_of("\r\n");
-        place->insertString(range, toUno(rest.substr(0, end)), false);
+        place.text->insertString(range, toUno(rest.substr(0, end)), false);
         if (end == std::string_view::npos) return;
-        place->insertControlCharacter(range, PARAGRAPH_BREAK, false);
+        place.text->insertControlCharacter(range, PARAGRAPH_BREAK, false);
         rest.remove_prefix(rest.substr(end).starts_with("\r\n") ? end + 2 : end + 1);
     }
 }
 
 void WriterDocument::typeParagraph() {
-    const auto selected = writablePlace("Selection.TypeParagraph");
+    const TextPlace place = writablePlace("Selection.TypeParagraph");
     const UndoGroup group(steps_, "Typing");
-    removeSelected(selected);
-    selected->getText()->insertControlCharacter(caret_.sameRange(), PARAGRAPH_BREAK, false);
+    removeSelected(place);
+    place.text->insertControlCharacter(caret_.sameRange(), PARAGRAPH_BREAK, false);
 }
 
 void WriterDocument::typeBackspace() {
     constexpr const char* member = "Selection.TypeBackspace";
-    const auto place = writablePlace(member);
+    const auto place = writableCursor(member);
     const auto ends = as<css::text::XParagraphCursor>(place);
     if (!place->isCollapsed() || !ends->isStartOfParagraph() || !ends->isEndOfParagraph() ||
         !place->goLeft(1, true))
@@ -224,9 +229,9 @@ void WriterDocument::setPage(const model::Page& page) {
 }
 
 void WriterDocument::insertCaption(const model::Caption& caption) {
-    const auto place = writablePlace("Selection.InsertCaption");
+    const TextPlace place = writablePlace("Selection.InsertCaption");
     const UndoGroup group(steps_, "Caption");
-    const auto written = captions_.insertBelow(as<css::text::XTextRange>(place), caption);
+    const auto written = captions_.insertBelow(place.range, caption);
     if (!written.isLast) refreshFields();
     caret_.goTo(written.end);
 }

@@ -20,6 +20,15 @@
 
 namespace libreoffice::word {
 
+/// A place in a text, or a part of it that is selected.
+struct TextPlace {
+    uno::Reference<css::text::XText> text;
+    RangeRef range;
+    bool isSelection = false;
+
+    [[nodiscard]] RangeRef start() const { return isSelection ? range->getStart() : range; }
+};
+
 /// An open text, and what automation remembers about it: the objects that have been met.
 class WriterDocument : public Document, public model::TextDocument {
 public:
@@ -81,14 +90,16 @@ private:
     /// `office::Failure` 1004 if nobody may write at a place; `member` is who asks.
     void requireWritable(const uno::Reference<css::beans::XMultiPropertySet>& place,
                          const std::string& member);
-    /// The caret's place, or what is selected; failures as above.
-    [[nodiscard]] CursorRef writablePlace(const std::string& member);
+    /// A cursor in the caret's place, or around what is selected; failures as above.
+    [[nodiscard]] CursorRef writableCursor(const std::string& member);
+    /// The same place, to put something there.
+    [[nodiscard]] TextPlace writablePlace(const std::string& member);
     /// Takes out what is selected of the text, and leaves the caret there.
-    void removeSelected(const CursorRef& selected);
+    void removeSelected(const TextPlace& place);
     void changeParagraph(const CursorRef& paragraph, const model::ParagraphChange& change);
-    void insertTable(const CursorRef& place, const office::TableLook& table);
-    void insertObject(const CursorRef& place, const WriterObjectPtr& object);
-    void insertGraphic(const CursorRef& place,
+    void insertTable(const TextPlace& place, const office::TableLook& table);
+    void insertObject(const TextPlace& place, const WriterObjectPtr& object);
+    void insertGraphic(const TextPlace& place,
                        const uno::Reference<css::graphic::XGraphic>& graphic,
                        const css::awt::Size& size, model::Anchoring anchoring);
     [[nodiscard]] uno::Reference<css::beans::XMultiPropertySet> pageStyle();

@@ -29,6 +29,8 @@ public:
     [[nodiscard]] WriterObjectPtr recordOf(const ContentRef& content);
     /// Takes in one that was just put into the text.
     void add(const WriterObjectPtr& made);
+    /// The same for one behind all others of a document of which all are known.
+    void addLast(const WriterObjectPtr& made) { inOrder_.push_back(made); }
 
 private:
     /// Whether there are that many in the document.
