@@ -77,7 +77,7 @@ TEST_F(ExcelPages, CostFewCallsForAChartOnBlankCells) {
         published(book, "Data", place);
     };
     publish(1);
-    EXPECT_LT(callsOf([&] { publish(2); }), 110U);
+    EXPECT_LT(callsOf([&] { publish(2); }), 60U);
     const auto publishGap = [&] { published(book, "Data", "Z90:Z99"); };
     publishGap();
     EXPECT_LT(callsOf(publishGap), 10U) << "known by now";

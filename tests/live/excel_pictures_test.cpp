@@ -114,7 +114,8 @@ TEST_F(ExcelPictures, LooksInTheDrawingRoomAsTheSuiteDrawsIt) {
     const auto metafile = maker.suite().metafileOf(excel::lookOf(plain->shape()).graphic);
     EXPECT_EQ(maker.drawnOtherwise(metafile), "");
     maker.suite().writeChart(plain->shape(), own);
-    const auto ours = maker.chart(plain->shape(), office::Sharpness::Crisp);
+    const auto ours =
+        maker.chart(plain->shape(), plain->shape()->getSize(), office::Sharpness::Crisp);
     EXPECT_LT(meanDifference(ours.png.get(), bytesOf(own)), 1);
 }
 

@@ -158,8 +158,7 @@ TEST_F(ExcelSheets, FindsTheCellsUnderAChartWhereLinesAreHiddenOrOfManySizes) {
     for (sal_Int32 row = 10; row < 40; ++row)
         setProperty(lines->getRows()->getByIndex(row).get<uno::Reference<uno::XInterface>>(),
                     "Height", row % 3 == 0 ? 5000 : 100 + row);
-    for (const char* address :
-         {"A1", "D3", "D5", "G12", "A20", "F41", "ZZ900", "XFD1048576", "B2"}) {
+    const auto expectFound = [&](const char* address) {
         const auto cell = excel::model::blockOf(address).value();
         const auto box =
             desk->active<excel::CalcDocument>()->findSheet("Looks")->cells(cell)->place();
@@ -169,7 +168,12 @@ TEST_F(ExcelSheets, FindsTheCellsUnderAChartWhereLinesAreHiddenOrOfManySizes) {
         const std::string found = excel::model::addressOf(cell);
         EXPECT_EQ(chart.get("TopLeftCell").get("Address").toText(), found);
         EXPECT_EQ(chart.get("BottomRightCell").get("Address").toText(), found);
-    }
+    };
+    for (const char* address :
+         {"A1", "D3", "D5", "G12", "A20", "F41", "ZZ900", "XFD1048576", "B2", "F50"})
+        expectFound(address);
+    lines->getRows()->insertByIndex(20, 3);
+    for (const char* address : {"F50", "B2", "A24"}) expectFound(address);
 }
 
 TEST_F(ExcelSheets, KeepsTheNameByWhichAChartWasListedWhenItsNamesakeGoes) {

@@ -352,6 +352,29 @@ TEST_F(WordLive, CostsTheSameForEveryItem) {
     EXPECT_LT(third, 200U);
 }
 
+TEST_F(WordLive, WritesWhereTheCaretStandsInADocumentThatNobodySees) {
+    document = app.get("Documents").call("Add", arg("Visible", false)).toObject();
+    const auto item = [&](const std::string& name) {
+        selection().call("TypeParagraph");
+        selection().call("TypeText", name);
+        selection().call("Paste");
+        document.get("InlineShapes")
+            .get("Item", count("InlineShapes"))
+            .put("AlternativeText", name);
+    };
+    copyPicture();
+    item("first");
+    EXPECT_LT(callsOf([&] { item("second"); }), 12U);
+    caption("Figure");
+    item("third");
+    EXPECT_EQ(text(), "\nfirst\nsecond\nFigure 1\nthird");
+    selection().call("HomeKey", 5);
+    selection().call("TypeText", "The ");
+    EXPECT_EQ(text(), "\nfirst\nsecond\nFigure 1\nThe third");
+    selection().call("Paste");
+    EXPECT_EQ(document.get("InlineShapes").get("Item", 4).get("AlternativeText").toText(), "third");
+}
+
 TEST_F(WordLive, WritesFilesAndStaysWhatItIs) {
     selection().put("Style", -2);
     selection().call("TypeText", "A heading");

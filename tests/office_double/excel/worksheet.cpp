@@ -43,6 +43,14 @@ public:
         return {block_.firstColumn * Worksheet::columnWidth, block_.firstRow * Worksheet::rowHeight,
                 block_.columns() * Worksheet::columnWidth, block_.rows() * Worksheet::rowHeight};
     }
+    bool areBlank() override {
+        const office::Table values = read();
+        for (std::size_t row = 1; row <= values.rows(); ++row) {
+            for (std::size_t column = 1; column <= values.columns(); ++column)
+                if (!values.at(row, column).isEmpty()) return false;
+        }
+        return true;
+    }
     office::CopiedPtr copy(office::CopySource source) override {
         office::TableLook table;
         const office::Table values = read();

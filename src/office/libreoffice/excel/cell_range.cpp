@@ -1,11 +1,13 @@
 #include "office/libreoffice/excel/cell_range.h"
 
 #include <com/sun/star/sheet/XSheetOperation.hpp>
+#include <com/sun/star/util/XMergeable.hpp>
 
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/cell_values.h"
 #include "office/libreoffice/excel/copied.h"
 #include "office/libreoffice/excel/range_picture.h"
+#include "office/libreoffice/excel/table_of_cells.h"
 #include "office/libreoffice/excel/unrecorded.h"
 #include "office/libreoffice/units.h"
 #include "office/model/excel/objects.h"
@@ -43,6 +45,10 @@ void CellRange::setNumberFormat(const std::string& code) {
 model::Box CellRange::place() {
     const auto [corner, size] = placeOf(range());
     return {pointsOf(corner.X), pointsOf(corner.Y), pointsOf(size.Width), pointsOf(size.Height)};
+}
+
+bool CellRange::areBlank() {
+    return !as<css::util::XMergeable>(range())->getIsMerged() && excel::areBlank(*sheet_, range());
 }
 
 office::CopiedPtr CellRange::copy(office::CopySource source) {

@@ -25,6 +25,7 @@ public:
     void setNumberFormat(const std::string& code) override;
 
     model::Box place() override;
+    bool areBlank() override;
     office::CopiedPtr copy(office::CopySource source) override;
 
 private:

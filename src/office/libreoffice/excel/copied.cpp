@@ -68,7 +68,7 @@ CalcDocument& CopiedChart::book() const {
 
 office::Picture CopiedChart::picture(office::Sharpness sharpness) const {
     Desk& desk = book().desk();
-    return translated(desk, [&] { return pictureMaker(desk).chart(shape_, sharpness); });
+    return translated(desk, [&] { return pictureMaker(desk).chart(shape_, size(), sharpness); });
 }
 
 uno::Reference<css::graphic::XGraphic> CopiedChart::graphic() const {

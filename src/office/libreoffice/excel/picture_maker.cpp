@@ -70,23 +70,22 @@ PictureMaker::Vectors PictureMaker::drawable(const uno::Sequence<sal_Int8>& meta
 }
 
 PictureMaker::Vectors PictureMaker::vectorsOf(const uno::Reference<css::drawing::XShape>& chart,
-                                              Sharpness sharpness) {
+                                              const css::awt::Size& size, Sharpness sharpness) {
     const ChartLook look = lookOf(chart);
-    return drawable(suite_.metafileOf(look.graphic), chart->getSize(), !isOpaque(look), sharpness);
+    return drawable(suite_.metafileOf(look.graphic), size, !isOpaque(look), sharpness);
 }
 
 office::Picture PictureMaker::chart(const uno::Reference<css::drawing::XShape>& chart,
-                                    Sharpness sharpness) {
-    if (auto vectors = vectorsOf(chart, sharpness)) return room_->draw(std::move(*vectors));
-    return drawnBySuite(chart->getSize(),
-                        [&](const std::string& file) { suite_.writeChart(chart, file); });
+                                    const css::awt::Size& size, Sharpness sharpness) {
+    if (auto vectors = vectorsOf(chart, size, sharpness)) return room_->draw(std::move(*vectors));
+    return drawnBySuite(size, [&](const std::string& file) { suite_.writeChart(chart, file); });
 }
 
 void PictureMaker::writeChart(const uno::Reference<css::drawing::XShape>& chart,
                               const std::string& path, office::PictureKind kind) {
     if (kind == PictureKind::Svg) return writePictureFile(path, suite_.svgOfChart(chart));
     if (kind == PictureKind::Emf) return writePictureFile(path, suite_.emfOfChart(chart));
-    auto vectors = vectorsOf(chart, Sharpness::Crisp);
+    auto vectors = vectorsOf(chart, chart->getSize(), Sharpness::Crisp);
     if (!vectors) return suite_.writeChart(chart, path);
     makeWayFor(path);
     room_->drawFile(std::move(*vectors), path);

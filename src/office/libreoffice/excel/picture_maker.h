@@ -30,7 +30,7 @@ public:
     /// A chart as a PNG. One whose background lets things shine through stays transparent; all
     /// others come without an alpha channel.
     [[nodiscard]] office::Picture chart(const uno::Reference<css::drawing::XShape>& chart,
-                                        office::Sharpness sharpness);
+                                        const css::awt::Size& size, office::Sharpness sharpness);
     /// The same as a file, also in vectors; a PNG may still be on its way (`office::PictureFiles`).
     /// `office::Failure` 1004 if it can't be written; then there is none of that name.
     void writeChart(const uno::Reference<css::drawing::XShape>& chart, const std::string& path,
@@ -55,7 +55,7 @@ private:
                                    const css::awt::Size& size, bool isTranslucent,
                                    office::Sharpness sharpness);
     [[nodiscard]] Vectors vectorsOf(const uno::Reference<css::drawing::XShape>& chart,
-                                    office::Sharpness sharpness);
+                                    const css::awt::Size& size, office::Sharpness sharpness);
 
     SuitePictures suite_;
     SameFonts fonts_;

@@ -321,7 +321,8 @@ TableLook withoutUnseenLines(const TableLook& table) {
     return seen;
 }
 
-/// Whether nothing is seen of cells. Conditions may dress up empty ones too.
+}  // namespace
+
 bool areBlank(SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& cells) {
     if (filledParts(cells).hasElements()) return false;
     const CellFormats formats = readCellFormats(cells, {});
@@ -335,8 +336,6 @@ bool areBlank(SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& 
         sheet.sheet(), "ConditionalFormats");
     return !conditions.is() || conditions->getLength() == 0;
 }
-
-}  // namespace
 
 bool isTooLargeForTable(SheetRecord& sheet, const model::CellBlock& block, std::size_t mostCells) {
     return !shownLinesUpTo(wholeCells(sheet, block), mostCells);

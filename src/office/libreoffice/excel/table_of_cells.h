@@ -24,6 +24,10 @@ constexpr std::size_t mostCellsOfTable = 5000;
 [[nodiscard]] bool isTooWideForTable(SheetRecord& sheet, const model::CellBlock& block,
                                      std::size_t mostColumns);
 
+/// Whether nothing is seen of cells. Conditions may dress up empty ones too.
+[[nodiscard]] bool areBlank(SheetRecord& sheet,
+                            const uno::Reference<css::table::XCellRange>& cells);
+
 /// One cell of the size of a block of which nothing is seen; nothing for another. It may be one
 /// that conditions would dress up: then the table tells.
 [[nodiscard]] std::optional<office::TableLook> tableOfBlankCells(SheetRecord& sheet,

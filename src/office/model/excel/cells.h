@@ -39,6 +39,8 @@ public:
     virtual void setNumberFormat(const std::string& code) = 0;
 
     virtual Box place() = 0;
+    /// Whether nothing is seen of them, and none of them is merged with others.
+    virtual bool areBlank() = 0;
 
     /// The cells, or a picture of them as they look on the screen, which is taken now. `Failure`
     /// 1004 if there is nothing to take a picture of.

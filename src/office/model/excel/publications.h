@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -34,8 +35,14 @@ using PublicationPtr = std::shared_ptr<Publication>;
 
 /// The charts of a sheet, and where they lie.
 struct PlacedCharts {
-    std::vector<SheetChartPtr> charts;
-    std::vector<Box> boxes;
+    struct One {
+        SheetChartPtr chart;
+        std::string name;
+        Box box;
+    };
+    std::vector<One> charts;
+    /// The cells under several of them and between them, if nothing is seen of any.
+    std::optional<CellBlock> blankCells;
 };
 
 struct Publications {

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 
@@ -45,12 +46,20 @@ public:
     }
 
 private:
-    [[nodiscard]] PagePicture pictureOf(const InSheet& place, CopySource source, SheetChart& chart,
+    /// Where something on a sheet comes from, as far as a page has use for it: its sheet has just
+    /// been found by its name, and the workbook's file is not asked for.
+    [[nodiscard]] static CopySource sourceOn(const InSheet& place, CopySource::Kind kind) {
+        return {.kind = kind,
+                .file = {},
+                .sheet = place.sheet->knownName(),
+                .chart = {},
+                .address = {}};
+    }
+
+    [[nodiscard]] PagePicture pictureOf(const InSheet& place, SheetChart& chart, std::string name,
                                         const Box& at) {
-        source.kind = CopySource::Kind::Chart;
-        source.address.clear();
-        if (!place.sheet->isChartSheet()) source.chart = chart.name();
-        std::string name = source.chart.empty() ? place.sheet->knownName() : source.chart;
+        CopySource source = sourceOn(place, CopySource::Kind::Chart);
+        if (!place.sheet->isChartSheet()) source.chart = name;
         const CopiedPtr copied = chart.copy(std::move(source));
         what_.pictures.emplace_back(page_.placeForPicture(), copied->picture(Sharpness::Crisp));
         return {page_.addressOf(what_.pictures.back().first),
@@ -64,7 +73,8 @@ private:
                                         : place.sheet->findChart(what_.place);
         if (!chart) refuse(source_, fmt::format("There is no chart \"{}\"", what_.place));
         const PagePicture picture =
-            pictureOf(place, sourceOf(place, CopySource::Kind::Chart), *chart, {});
+            pictureOf(place, *chart,
+                      place.sheet->isChartSheet() ? place.sheet->knownName() : chart->name(), {});
         return pageItem(what_.divId, what_.title, picture.box.width, pictureAsPage(picture));
     }
 
@@ -77,10 +87,9 @@ private:
         if (found->blocks.size() > 1) refuse(source_, "Several areas can't be published");
         const auto block = drawnPart(found->blocks.front(), *found->home.sheet);
         if (!block) refuse(source_, "There is nothing in these rows or columns");
-        CopySource from = sourceOf(found->home, CopySource::Kind::Cells);
-        from.address = addressOf(*block);
-        const TableLook look = found->home.sheet->cells(*block)->copy(from)->tableOfPage();
-        const std::vector<PagePicture> charts = chartsOn(found->home, from, look);
+        const PlacedCharts& placed = placedCharts(*found->home.sheet);
+        const TableLook look = lookOf(found->home, *block, placed);
+        const std::vector<PagePicture> charts = chartsOn(found->home, placed, look);
         if (charts.empty() && !showsCells(look)) gaps.emplace(asked, look);
         return itemOf(look, charts);
     }
@@ -90,32 +99,63 @@ private:
         return pageItem(what_.divId, what_.title, look.widthPt(), cellsAsPage(look, charts));
     }
 
+    [[nodiscard]] static TableLook lookOf(const InSheet& place, const CellBlock& block,
+                                          const PlacedCharts& placed) {
+        // Thinner ones are hidden, which a copy refuses.
+        constexpr double thinnestPt = 0.1;
+        const CellsPtr cells = place.sheet->cells(block);
+        if (placed.blankCells && intersection(block, *placed.blankCells) == block) {
+            const Box at = cells->place();
+            if (at.width > thinnestPt && at.height > thinnestPt)
+                return {{at.width}, {at.height}, {CellLook{}}, at.left, at.top};
+        }
+        CopySource from = sourceOn(place, CopySource::Kind::Cells);
+        from.address = addressOf(block);
+        return cells->copy(from)->tableOfPage();
+    }
+
     /// The charts that lie on the cells, or stick out of them.
-    [[nodiscard]] std::vector<PagePicture> chartsOn(const InSheet& place, const CopySource& from,
+    [[nodiscard]] std::vector<PagePicture> chartsOn(const InSheet& place,
+                                                    const PlacedCharts& placed,
                                                     const TableLook& look) {
         constexpr double touchingPt = 0.5;
         std::vector<PagePicture> pictures;
-        const auto& [charts, boxes] = placedCharts(*place.sheet);
-        for (std::size_t i = 0; i < charts.size(); ++i) {
-            const Box& box = boxes[i];
+        for (const auto& [chart, name, box] : placed.charts) {
             const bool lies = box.left + touchingPt < look.leftPt + look.widthPt() &&
                               box.left + box.width > look.leftPt + touchingPt &&
                               box.top + touchingPt < look.topPt + look.heightPt() &&
                               box.top + box.height > look.topPt + touchingPt;
-            if (lies) pictures.push_back(pictureOf(place, from, *charts[i], box));
+            if (lies) pictures.push_back(pictureOf(place, *chart, name, box));
         }
         return pictures;
     }
 
     [[nodiscard]] const PlacedCharts& placedCharts(Sheet& sheet) {
-        PlacedCharts& placed = home_.book->publications().placedCharts[&sheet];
-        auto charts = sheet.charts();
-        if (charts != placed.charts) {
-            placed.boxes.clear();
-            for (const SheetChartPtr& chart : charts) placed.boxes.push_back(chart->box());
-            placed.charts = std::move(charts);
+        auto& all = home_.book->publications().placedCharts;
+        if (const auto known = all.find(&sheet); known != all.end()) return known->second;
+        PlacedCharts placed;
+        for (const SheetChartPtr& chart : sheet.charts())
+            placed.charts.push_back({chart, chart->name(), chart->box()});
+        // One alone is as soon looked at when its turn comes.
+        if (placed.charts.size() > 1) {
+            const CellBlock block = cellsUnder(sheet, placed.charts);
+            if (sheet.cells(block)->areBlank()) placed.blankCells = block;
         }
-        return placed;
+        return all.emplace(&sheet, std::move(placed)).first->second;
+    }
+
+    [[nodiscard]] static CellBlock cellsUnder(Sheet& sheet,
+                                              const std::vector<PlacedCharts::One>& charts) {
+        Box all = charts.front().box;
+        double right = 0;
+        double bottom = 0;
+        for (const auto& [chart, name, box] : charts) {
+            all.left = std::min(all.left, box.left);
+            all.top = std::min(all.top, box.top);
+            right = std::max(right, box.left + box.width);
+            bottom = std::max(bottom, box.top + box.height);
+        }
+        return around(sheet.cellAt(all.left, all.top), sheet.cellAt(right, bottom));
     }
 
     const InBook& home_;
