@@ -4,6 +4,7 @@
 #include <com/sun/star/drawing/XShapeGrouper.hpp>
 #include <com/sun/star/drawing/XShapes.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
 #include <cmath>
@@ -16,6 +17,7 @@
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/copied.h"
 #include "office/libreoffice/excel/picture_maker.h"
+#include "office/libreoffice/excel/selected_cells.h"
 #include "support/png_file.h"
 
 namespace live {
@@ -220,6 +222,16 @@ TEST_F(ExcelPictures, ShowsAHiddenSheetOnlyForTheMomentOfTheCopy) {
     EXPECT_GT(bytesOf(path).size(), bytesOf(blank(150, 30)).size());
     expectMembers(hidden, {{"Visible", 0}, {"Parent.Saved", true}});
     EXPECT_EQ(sheet(book, "Buried").get("Visible").toLong(), 2);
+}
+
+TEST_F(ExcelPictures, AsksNoWindowForACopyThatHasBeenClosedMeanwhile) {
+    static_cast<void>(open("cells.xlsx"));
+    const auto book = desk->active<excel::CalcDocument>();
+    const auto data = book->sheetList().find("Data");
+    const excel::SelectedCells cells(*data, data->range(excel::model::CellBlock::cell(0, 0)));
+    book->close();
+    EXPECT_THROW(static_cast<void>(cells.copyAs("text/html")), css::lang::DisposedException);
+    EXPECT_FALSE(connection()->isLost());
 }
 
 TEST_F(ExcelPictures, DrawsColumnsBehindTheLastFilledOneAsWideAsTheyAre) {

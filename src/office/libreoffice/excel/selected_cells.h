@@ -1,5 +1,6 @@
 #pragma once
 
+#include <com/sun/star/datatransfer/XTransferable.hpp>
 #include <com/sun/star/frame/XController.hpp>
 #include <com/sun/star/table/XCellRange.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
@@ -25,11 +26,12 @@ private:
     SheetRecord* sheet_;
 };
 
-/// Cells that are selected to be copied. The user's clipboard stays; his selection is put back.
+/// Cells that are copied by way of a selection. The user's clipboard stays; his selection is put
+/// back.
 class SelectedCells {
 public:
     /// `office::Failure` 1004 for a workbook without a window.
-    SelectedCells(SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& cells);
+    SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells);
     SelectedCells(const SelectedCells&) = delete;
     SelectedCells& operator=(const SelectedCells&) = delete;
     ~SelectedCells();
@@ -38,6 +40,10 @@ public:
     [[nodiscard]] uno::Sequence<sal_Int8> copyAs(const char* mimeType) const;
 
 private:
+    [[nodiscard]] uno::Reference<css::datatransfer::XTransferable> copy() const;
+
+    const Connection& connection_;
+    uno::Reference<css::table::XCellRange> cells_;
     uno::Reference<css::frame::XController> window_;
     ShownForNow shown_;
     uno::Reference<css::view::XSelectionSupplier> selection_;
