@@ -28,11 +28,22 @@ void setUnlessSet(const char* name, const QByteArray& value) {
     if (!qEnvironmentVariableIsSet(name)) qputenv(name, value);
 }
 
+QtMessageHandler usualMessages = nullptr;
+
+/// The engine says that it misses OpenGL, which is as it should be.
+void passOnUnlessOfOpenGl(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (!text.contains(u"OpenGL context") && !text.contains(u"No suitable graphics backend"))
+        usualMessages(type, context, text);
+}
+
 void prepareBrowserEngine() {
     // Panels of text need no graphics card, and without one the engine looks the same on every
     // machine and starts faster.
     setUnlessSet("QT_QUICK_BACKEND", "software");
     setUnlessSet("QTWEBENGINE_CHROMIUM_FLAGS", "--disable-gpu");
+    // Nothing is drawn by OpenGL, and to look for it takes two fifths of a command's start.
+    setUnlessSet("QT_XCB_GL_INTEGRATION", "none");
+    usualMessages = qInstallMessageHandler(passOnUnlessOfOpenGl);
     // The engine's sandbox refuses to work for the administrator, and then no page would come at
     // all. Nobody else goes without it.
     if (geteuid() == 0) setUnlessSet("QTWEBENGINE_DISABLE_SANDBOX", "1");
