@@ -7,6 +7,8 @@ import shutil
 import sys
 import unittest
 
+import xlsxwriter
+
 HERE = pathlib.Path(__file__).resolve().parent
 sys.path += [str(HERE.parents[1] / "tools" / "by_hand"), str(HERE.parent / "live")]
 
@@ -17,6 +19,10 @@ FORM, LIST, DIALOG, PAGE = "UserformObj", "listCharts", "Dialog", "wbStatus"
 BOOK, DECK = "Harbour Logistics 2026.xlsx", "Board deck.pptx"
 # Two charts and a table: for what takes any workbook, since it is open in a third of the time.
 SMALL_BOOK = "few-charts.xlsx"
+# A chart sheet, a chart and a range: for what takes one of each kind.
+ONE_OF_EACH = "One of each.xlsx"
+# Some fifty items that are open in a third of the time too: for what strikes an export on its way.
+LONG_BOOK = "many-ranges.xlsx"
 # The destinations of the main form that can be chosen, and the dialogs that they lead to.
 SLIDES, WORD, HTML, IMAGES = 0, 1, 2, 4
 DIALOGS = {SLIDES: DIALOG, WORD: "DialogWord", HTML: "DialogHTML", IMAGES: "DialogImageFiles"}
@@ -43,6 +49,21 @@ print([sum(shape.supportsService("com.sun.star.drawing.GraphicObjectShape") for 
 """
 
 
+def write_one_of_each(path):
+    with xlsxwriter.Workbook(path) as book:
+        table, charts, whole = book.add_worksheet("Revenue"), book.add_worksheet("Fleet"), book.add_chartsheet("Segment mix")
+        head, money = book.add_format({"bold": True, "bg_color": "#1F3864"}), book.add_format({"num_format": "#,##0.0"})
+        table.write_row(0, 0, ["Port", "Q1", "Q2", "Q3", "Q4", "Year"], head)
+        for row in range(1, 8):
+            table.write_row(row, 0, [f"port {row}", *(7 * row % 11 + quarter for quarter in range(4))], money)
+            table.write_formula(row, 5, f"=SUM(B{row + 1}:E{row + 1})", money, 4 * (7 * row % 11) + 6)
+        for sheet, kind in ((charts, "column"), (whole, "pie")):
+            chart = book.add_chart({"type": kind})
+            chart.add_series({"categories": "=Revenue!$A$2:$A$8", "values": "=Revenue!$F$2:$F$8"})
+            sheet.insert_chart("B2", chart) if sheet is charts else sheet.set_chart(chart)
+        book.define_name("Revenue_by_port", "=Revenue!$A$1:$F$8")
+
+
 class AtTheScreen(unittest.TestCase):
     """All tests of a program share a screen and the suite on it; each has documents of its own there."""
 
@@ -59,7 +80,10 @@ class AtTheScreen(unittest.TestCase):
         """Copies of the samples, open in the suite."""
         names = names or (DECK, BOOK)
         for name in names:
-            shutil.copy(SAMPLES / name, self.folder / name)
+            if name == ONE_OF_EACH:
+                write_one_of_each(self.folder / name)
+            else:
+                shutil.copy(SAMPLES / name, self.folder / name)
         self.screen.open_in_suite(*(self.folder / name for name in names))
 
     def open_main_form(self):
@@ -123,5 +147,5 @@ deck.storeToURL(uno.systemPathToFileUrl(sys.argv[2]), filter("Impress MS PowerPo
         return slides_of(copy)
 
 
-__all__ = ["A_CHART", "AtTheScreen", "BOOK", "BUILD", "CELLS", "DECK", "DIALOG", "FORM", "HTML", "IMAGES", "LIST", "NEW_TEXT", "PAGE",
-           "Refused", "SELECT", "SLIDES", "SMALL_BOOK", "Screen", "WORD", "png_lines", "slides_of", "unittest", "wait_until"]
+__all__ = ["A_CHART", "AtTheScreen", "BOOK", "BUILD", "CELLS", "DECK", "DIALOG", "FORM", "HTML", "IMAGES", "LIST", "LONG_BOOK", "NEW_TEXT",
+           "ONE_OF_EACH", "PAGE", "Refused", "SELECT", "SLIDES", "SMALL_BOOK", "Screen", "WORD", "png_lines", "slides_of", "unittest", "wait_until"]

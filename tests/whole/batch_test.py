@@ -1,6 +1,6 @@
 """What a batch does to the open presentation beside the plain road: other views, another deck, its cancelling."""
 
-from at_the_screen import DECK, DIALOG, SMALL_BOOK, AtTheScreen, unittest
+from at_the_screen import DECK, DIALOG, LONG_BOOK, SMALL_BOOK, AtTheScreen, unittest
 
 SLIDES_OF_DECK = 3
 SHOW_VIEW = """
@@ -38,7 +38,7 @@ print(sorted((each.Title, each.DrawPages.Count) for each in decks if each.URL))
         self.assertIn(f"('{DECK}', {SLIDES_OF_DECK + 2})", counts)
 
     def test_ends_after_the_item_at_hand_when_it_is_cancelled(self):
-        self.open_sample()
+        self.open_sample(DECK, LONG_BOOK)
         hand = self.open_main_form()
         self.begin_export(hand)
         hand.do("key", "Progress", key="Escape")

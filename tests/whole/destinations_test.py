@@ -1,6 +1,6 @@
 """The destinations beside PowerPoint, through the main form and by one command."""
 
-from at_the_screen import (A_CHART, BOOK, CELLS, FORM, HTML, IMAGES, NEW_TEXT, PAGE, SELECT, WORD, AtTheScreen, unittest,
+from at_the_screen import (A_CHART, CELLS, FORM, HTML, IMAGES, NEW_TEXT, ONE_OF_EACH, PAGE, SELECT, WORD, AtTheScreen, unittest,
                            wait_until)
 
 PICTURES, EDITABLE, EMBEDDED = 0, 1, 2
@@ -19,7 +19,7 @@ SHEETS = 'print(*document("Workbook").Sheets.ElementNames, sep="|")'
 
 class TheDestinations(AtTheScreen):
     def open_book_and_text(self):
-        self.open_sample(BOOK)
+        self.open_sample(ONE_OF_EACH)
         self.assertEqual(self.screen.use("/11").ended(), 0)
         self.in_the_suite(NEW_TEXT)
 
@@ -64,7 +64,7 @@ class TheDestinations(AtTheScreen):
 
     def test_of_html_and_image_files_come_into_their_folders(self):
         opened = self.note_what_is_opened()
-        self.open_sample(BOOK)
+        self.open_sample(ONE_OF_EACH)
         hand = self.open_main_form()
         self.check_one_of_each_kind(hand)
         hand.do("click", self.open_dialog(hand, HTML), "ContinueOk")

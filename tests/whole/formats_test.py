@@ -1,6 +1,6 @@
 """What arrives on the slides in the formats that are more than pictures: by the list, and by one command."""
 
-from at_the_screen import A_CHART, CELLS, DIALOG, FORM, LIST, SELECT, AtTheScreen, unittest, wait_until
+from at_the_screen import A_CHART, CELLS, DECK, DIALOG, FORM, LIST, ONE_OF_EACH, SELECT, AtTheScreen, unittest, wait_until
 
 SLIDES_OF_DECK = 3
 NOTICE = "MurvaneNotice"
@@ -25,7 +25,7 @@ FRESH_SLIDE = """
 deck = document("Presentation")
 deck.CurrentController.setCurrentPage(deck.DrawPages.insertNewByIndex(deck.DrawPages.Count))
 """
-LINK = "link to Harbour%20Logistics%202026.xlsx"
+LINK = "link to One%20of%20each.xlsx"
 
 # What a double click makes of a chart and of a range, by format.
 ONE_ITEM = [("GraphicObjectShape", "GraphicObjectShape"), ("chart", "TableShape"), ("workbook", "workbook"),
@@ -50,7 +50,7 @@ class TheFormats(AtTheScreen):
         hand.do("key", NOTICE, key="Return")
 
     def test_of_the_list_are_what_they_say(self):
-        self.open_sample()
+        self.open_sample(DECK, ONE_OF_EACH)
         slides = SLIDES_OF_DECK
         for number, arrives in ((1, {"chart", "TableShape"}), (2, {"workbook"}), (3, {LINK})):
             with self.subTest(format=number):
@@ -69,7 +69,7 @@ class TheFormats(AtTheScreen):
                 slides += 3
 
     def test_of_one_item_come_to_the_slide_in_view(self):
-        self.open_sample()
+        self.open_sample(DECK, ONE_OF_EACH)
         hand = self.open_main_form()
         for number, arrives in enumerate(ONE_ITEM):
             hand.do("click", FORM, f"OptionFormat({number})")
@@ -89,7 +89,7 @@ class TheFormats(AtTheScreen):
         self.assertEqual(hand.ended(), 0, hand.said())
 
     def test_of_the_selection_are_what_the_command_says_or_are_refused_in_words(self):
-        self.open_sample()
+        self.open_sample(DECK, ONE_OF_EACH)
         self.assertEqual(self.screen.use("/11").ended(), 0)
         for sheet, selection, *arrives in SELECTIONS:
             for code, kind in zip(("/312", "/3122", "/412"), arrives):

@@ -5,7 +5,7 @@ import subprocess
 
 import xlsxwriter
 
-from at_the_screen import (BOOK, BUILD, DECK, FORM, HTML, IMAGES, LIST, NEW_TEXT, SAMPLES, SLIDES, SMALL_BOOK, WORD, AtTheScreen,
+from at_the_screen import (BUILD, DECK, FORM, HTML, IMAGES, LIST, LONG_BOOK, NEW_TEXT, SAMPLES, SLIDES, SMALL_BOOK, WORD, AtTheScreen,
                            unittest, wait_until)
 
 NOTICE = "MurvaneNotice"
@@ -21,7 +21,7 @@ class WithoutTheSuite(AtTheScreen):
     def test_a_suite_that_dies_under_the_form_or_during_the_export_ends_the_program_with_a_report(self):
         for destination in (None, SLIDES, WORD, HTML, IMAGES):
             with self.subTest(destination=destination):
-                self.open_sample(*([DECK] if destination == SLIDES else []), SMALL_BOOK if destination is None else BOOK)
+                self.open_sample(*([DECK] if destination == SLIDES else []), SMALL_BOOK if destination is None else LONG_BOOK)
                 hand = self.open_main_form()
                 if destination == WORD:
                     self.in_the_suite(NEW_TEXT)
@@ -44,6 +44,7 @@ class WithoutTheSuite(AtTheScreen):
         self.assertIn("An Excel workbook must be open to set slide position.", text)
         layout.do("key", NOTICE, key="Return")
         self.assertEqual(layout.ended(), 0)
+        self.assertNotRegex(layout.said(), "OpenGL|graphics")
         about = self.screen.use("/004")
         about.wait_for("MurvaneAbout")
         about.do("key", "MurvaneAbout", key="Escape")
@@ -81,7 +82,7 @@ class UnderTheForm(AtTheScreen):
         # The text last: LibreOffice at times crashes when it goes under a call, and its successor starts afresh.
         for destination, kind in ((WORD, "Workbook"), (HTML, "Workbook"), (IMAGES, "Workbook"), (WORD, "Text")):
             with self.subTest(destination=destination, closed=kind):
-                self.open_sample(BOOK)
+                self.open_sample(LONG_BOOK)
                 hand = self.open_main_form()
                 if destination == WORD:
                     self.in_the_suite(NEW_TEXT)
@@ -101,7 +102,7 @@ class UnderTheForm(AtTheScreen):
 
     def test_a_program_that_is_killed_while_it_publishes_leaves_no_page_and_the_next_clears_up(self):
         self.note_what_is_opened()
-        self.open_sample(BOOK)
+        self.open_sample(LONG_BOOK)
         hand = self.open_main_form()
         self.begin_export(hand, HTML)
         hand.process.kill()
@@ -115,7 +116,7 @@ class UnderTheForm(AtTheScreen):
         self.assertEqual(sorted(p.name for p in pages.iterdir()), ["MurvaneHTML101.html", "MurvaneHTML101_files"])
 
     def test_clicks_during_an_export_change_nothing(self):
-        self.open_sample()
+        self.open_sample(DECK, LONG_BOOK)
         hand = self.open_main_form()
         wanted = [row["texts"][0] for row in hand.rows() if row["checked"]]
         self.begin_export(hand)
@@ -129,7 +130,7 @@ class UnderTheForm(AtTheScreen):
 
     def test_names_full_of_markup_stay_texts(self):
         hostile = SAMPLES / "bad-inputs" / "odd-names.xlsx"
-        self.open_sample(BOOK)
+        self.open_sample(SMALL_BOOK)
         shutil.copy(hostile, self.folder / hostile.name)
         self.screen.open_in_suite(self.folder / hostile.name)
         hand = self.open_main_form()

@@ -30,7 +30,7 @@ class Pages(AtTheScreen):
         return hand.do("ask", form, page, script="document.body.innerText")
 
     def test_of_the_options_dialog(self):
-        self.open_sample()
+        self.open_sample(DECK, SMALL_BOOK)
         hand = self.open_main_form()
         checked = sum(row["checked"] for row in hand.rows())
         self.open_dialog(hand)

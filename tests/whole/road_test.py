@@ -2,7 +2,7 @@
 
 import subprocess
 
-from at_the_screen import DECK, DIALOG, FORM, LIST, PAGE, SMALL_BOOK, AtTheScreen, png_lines, unittest, wait_until
+from at_the_screen import DECK, DIALOG, FORM, LIST, ONE_OF_EACH, PAGE, SMALL_BOOK, AtTheScreen, png_lines, unittest, wait_until
 
 SLIDES_OF_DECK = 3
 SHEET, ORDER, CAPTION = 1, 3, 4
@@ -103,7 +103,7 @@ print(book.Sheets.getByName("kukukukuZichron").getCellRangeByName("T1").String, 
         self.assertEqual(hand.ended(), 0, hand.said())
 
     def test_shows_what_is_clicked_and_puts_it_on_the_slide_in_view(self):
-        self.open_sample()
+        self.open_sample(DECK, ONE_OF_EACH)
         hand = self.open_main_form()
         for kind in ("chart", "chart-sheet", "range"):
             with self.subTest(kind=kind):
