@@ -33,7 +33,9 @@ public:
     std::int32_t run();
 
 private:
+    void walk();
     void prepare();
+    void addSlides();
     void exportRow(const TakenRow& taken);
     [[nodiscard]] Object showSlideOf(const TakenRow& taken);
     [[nodiscard]] bool insert(const ExportItem& row, const Object& slide);
@@ -41,6 +43,7 @@ private:
     void putTitle(const Object& shapes, const std::string& caption);
     void styleLastShape(const Object& shapes);
     void removeSlidesLeft();
+    void tidyUp();
     /// Returns what a picture says that has failed late.
     [[nodiscard]] std::optional<office::Failure> putBack();
 
@@ -64,11 +67,13 @@ private:
 std::int32_t BatchFrame::run() {
     rows_ = catalogue::takeRows(session_, batch_.list, batch_.choices);
     if (rows_.empty() && route_.endsWithoutItems) return 0;
-    prepare();
-    for (const TakenRow& taken : rows_) {
-        if (session_.progress.cancelled()) break;
-        exportRow(taken);
-        ++done_;
+    try {
+        walk();
+    } catch (const office::SuiteLost&) {
+        throw;
+    } catch (const office::Failure&) {
+        if (batch_.tidiesUpAfterFailure) tidyUp();
+        throw;
     }
     const auto total = static_cast<std::int32_t>(rows_.size());
     if (done_ < total) removeSlidesLeft();
@@ -91,23 +96,43 @@ std::int32_t BatchFrame::run() {
     return done_;
 }
 
+void BatchFrame::walk() {
+    prepare();
+    for (const TakenRow& taken : rows_) {
+        if (session_.progress.cancelled()) return;
+        exportRow(taken);
+        ++done_;
+    }
+}
+
 void BatchFrame::prepare() {
     viewType_ = session::PrepareSlideView(session_);
     slides_ = session_.SessionPresentation.get("Slides").toObject();
     window_ = session::PresentationWindow(session_);
-    const std::int32_t end = slides_.get("Count").toLong() + 1;
-    if (!batch_.choices.predefinedSlides) {
-        const auto count = static_cast<std::int32_t>(rows_.size());
-        // None is held before all are there: one that comes ahead of slides that nobody knows can
-        // be put behind them, which LibreOffice does ten times as fast.
-        for (std::int32_t i = 0; i < count; ++i)
-            static_cast<void>(slides_.call("Add", end, number::titleOnlyLayout));
-        for (std::int32_t i = 0; i < count; ++i)
-            newSlides_.push_back(slides_.get("Item", end + i).toObject());
-    }
+    if (!batch_.choices.predefinedSlides) addSlides();
     session::SetExcelWindow(session_, session::ExcelWindow::Normal);
     session::RaisePresentation(session_);
     route_.prepareScreen(batch_);
+}
+
+/// None is held before all are there: one that comes ahead of slides that nobody knows can be put
+/// behind them, which LibreOffice does ten times as fast.
+void BatchFrame::addSlides() {
+    const std::int32_t end = slides_.get("Count").toLong() + 1;
+    const auto count = static_cast<std::int32_t>(rows_.size());
+    std::int32_t added = 0;
+    const auto hold = [&] {
+        for (std::int32_t i = 0; i < added; ++i)
+            newSlides_.push_back(slides_.get("Item", end + i).toObject());
+    };
+    try {
+        for (; added < count; ++added)
+            static_cast<void>(slides_.call("Add", end, number::titleOnlyLayout));
+    } catch (const office::Failure&) {
+        if (batch_.tidiesUpAfterFailure) hold();
+        throw;
+    }
+    hold();
 }
 
 void BatchFrame::exportRow(const TakenRow& taken) {
@@ -197,12 +222,18 @@ void BatchFrame::styleLastShape(const Object& shapes) {
     }
 }
 
-/// The new slides of a cancelled batch that no item has come to. Some may have gone already, and a
-/// suite may keep its last one.
+/// The new slides of a batch that ends early which no item has come to. Some may have gone already,
+/// and a suite may keep its last one.
 void BatchFrame::removeSlidesLeft() {
     office::ContinueOnFailure scope;
     for (; static_cast<std::int32_t>(newSlides_.size()) > done_; newSlides_.pop_back())
         scope.attempt([&] { newSlides_.back().call("Delete"); });
+}
+
+void BatchFrame::tidyUp() {
+    removeSlidesLeft();
+    office::ContinueOnFailure().attempt([&] { session_.ExcelApp.put("ScreenUpdating", true); });
+    static_cast<void>(putBack());
 }
 
 std::optional<office::Failure> BatchFrame::putBack() {

@@ -33,6 +33,9 @@ struct Batch {
     /// Told of a picture that fails after the last row has gone by, when nobody can say of which
     /// row it is. Where there is none, that is a failure of the batch, with no row at hand.
     std::function<void(const office::Failure& failure)> onLateFailure = {};
+    /// A failure that ends the batch leaves no slide without its item, and windows as after a
+    /// cancelled one.
+    bool tidiesUpAfterFailure = false;
 };
 
 /// As the formats need it that paste.
@@ -65,9 +68,9 @@ struct BatchRoute {
 /// When the user cancels, the batch ends after the item at hand: what was made stays, new slides
 /// without an item go, and a notice says how far it came.
 ///
-/// A failure up to the last row goes to the caller, or to `onFailedItem`, and nothing is taken
-/// back: the slides stay, and where the batch ends by it Excel's drawing stays as the route has
-/// left it. What puts the windows back afterwards ignores failures.
+/// A failure up to the last row goes to the caller, or to `onFailedItem`. Where the batch ends by
+/// it and isn't told to tidy up, nothing is taken back: the slides stay, and Excel's drawing stays
+/// as the route has left it. What puts the windows back afterwards ignores failures.
 std::int32_t RunBatch(Batch& batch, const BatchRoute& route);
 
 }  // namespace powerpoint

@@ -64,6 +64,22 @@ TEST_F(RunAttachedTest, EndsAfterTheItemAtHandWhenInterrupted) {
     EXPECT_EQ(folder.names(), (std::set<std::string>{"Book.xlsx", "Deck.pptx"}));
 }
 
+TEST_F(RunAttachedTest, AFailureLeavesNoSlideWithoutItsItemAndSaysWhatIsThere) {
+    const std::tuple<const char*, int, const char*, int> all[] = {
+        {"Chart.Export", 2, "1 of 5 items are in the open presentation; no file was written.", 2},
+        {"Slides.Add", 3, "Slides.Add", 1},
+        {"Presentation.SaveCopyAs", 1, "5 of 5 items are in the open presentation; no file", 6}};
+    for (const auto& [member, at, said, slides] : all) {
+        suite = std::make_shared<office_double::DoubleSuite>();
+        openUsersDocuments();
+        suite->failures().fail(member, at);
+        EXPECT_EQ(attach(), 1) << member;
+        EXPECT_TRUE(console.errorHas(said)) << console.error;
+        EXPECT_EQ(deck->slideCount(), slides) << member;
+        EXPECT_EQ(console.errorHas("are in the open"), slides > 1) << console.error;
+    }
+}
+
 TEST_F(RunAttachedTest, LeavesExcelDrawingAlsoAfterAFailure) {
     openUsersDocuments();
     suite->failures().fail("Chart.Export");

@@ -30,7 +30,7 @@ public:
         }
     }
 
-    std::int32_t exportTo(const std::string& neighbour) override;
+    void exportTo(const std::string& neighbour) override;
 };
 
 /// The placement of the options stands in the store of the workbook, where the export looks for it,
@@ -64,7 +64,7 @@ private:
     session::Placement before_;
 };
 
-std::int32_t SlidesJob::exportTo(const std::string& neighbour) {
+void SlidesJob::exportTo(const std::string& neighbour) {
     const Options& options = scene_.options;
     session::AttachPowerPoint(scene_.session);
     const session::AlertsOff quiet(scene_.session.ExcelApp);
@@ -77,12 +77,16 @@ std::int32_t SlidesJob::exportTo(const std::string& neighbour) {
                      .placesShapes = options.placesShapes()};
     std::optional<PlacementForARun> placement;
     if (options.placesShapes()) placement.emplace(scene_.session, options);
-    const std::int32_t done = powerpoint::ExportRows(batch);
+    batch.tidiesUpAfterFailure = options.attach;
+    // All slides have got what they get by then, and the presentation may be the user's own.
+    std::optional<office::Failure> lateFailure;
+    batch.onLateFailure = [&](const office::Failure& failure) { lateFailure = failure; };
+    done_ = powerpoint::ExportRows(batch);
     placement.reset();
     scene_.list.selected = -1;
     scene_.documents.removeFirstSlides();
+    if (lateFailure) throw office::Failure(*lateFailure);
     scene_.session.SessionPresentation.call("SaveCopyAs", neighbour);
-    return done;
 }
 
 class WordJob : public Job {
@@ -98,15 +102,15 @@ public:
         }
     }
 
-    std::int32_t exportTo(const std::string& neighbour) override {
+    void exportTo(const std::string& neighbour) override {
         const Options& options = scene_.options;
         destinations::RowBatch batch{scene_.session, scene_.list, scene_.onFailedItem};
-        const auto result = destinations::ExportRowsToWord(batch, options.format,
-                                                           {.sameWidth = options.sameWidth,
-                                                            .caption = options.captionsBelow,
-                                                            .shadow = options.shadow});
+        done_ = destinations::ExportRowsToWord(batch, options.format,
+                                               {.sameWidth = options.sameWidth,
+                                                .caption = options.captionsBelow,
+                                                .shadow = options.shadow})
+                    .done;
         scene_.session.SessionDocument.call("SaveCopyAs", neighbour);
-        return result.done;
     }
 };
 
@@ -117,7 +121,7 @@ public:
           live_(scene.liveSuite, scene.session.host, scene.session.notices,
                 scene.session.progress) {}
 
-    std::int32_t exportTo(const std::string& neighbour) override {
+    void exportTo(const std::string& neighbour) override {
         const Options& options = scene_.options;
         live_.ExcelApp = scene_.session.ExcelApp;
         live_.ActiveBook = scene_.session.ActiveBook;
@@ -130,7 +134,7 @@ public:
                                            .sizeFactor = options.sizePercent,
                                            .coverText = options.coverText},
                                           neighbour);
-        return result.walk.done;
+        done_ = result.walk.done;
     }
 
 private:
@@ -142,7 +146,7 @@ class HtmlJob : public Job {
 public:
     using Job::Job;
 
-    std::int32_t exportTo(const std::string& neighbour) override {
+    void exportTo(const std::string& neighbour) override {
         // Of a page's width in pixels, a hundredth.
         constexpr double percentPx = 10;
         const Options& options = scene_.options;
@@ -153,7 +157,7 @@ public:
                                              .folder = neighbour};
         const auto result = options.sameWidth ? destinations::ExportRowsToHtmlAsImages(batch, html)
                                               : destinations::PublishRowsToHtml(batch, html);
-        return result.walk.done;
+        done_ = result.walk.done;
     }
 };
 
@@ -161,7 +165,7 @@ class ImagesJob : public Job {
 public:
     using Job::Job;
 
-    std::int32_t exportTo(const std::string& neighbour) override {
+    void exportTo(const std::string& neighbour) override {
         using destinations::FileNames;
         const Options& options = scene_.options;
         destinations::RowBatch batch{scene_.session, scene_.list, scene_.onFailedItem};
@@ -170,7 +174,7 @@ public:
                     .names = options.numbersFiles ? FileNames::Numerator : FileNames::NameAndSheet,
                     .folder = neighbour,
                     .replaces = false});
-        return result.done;
+        done_ = result.done;
     }
 };
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <utility>
 
 #include "apps/murvane_export/documents.h"
 #include "apps/murvane_export/options.h"
@@ -29,7 +30,7 @@ struct JobScene {
 /// What a run does for one destination, between the review and the output.
 class Job {
 public:
-    explicit Job(const JobScene& scene) : scene_(scene) {}
+    explicit Job(JobScene scene) : scene_(std::move(scene)) {}
     Job(const Job&) = delete;
     Job& operator=(const Job&) = delete;
     virtual ~Job() = default;
@@ -37,12 +38,15 @@ public:
     /// Opens or makes what the items go into. `RunError` if it can't be opened.
     virtual void open() {}
     /// Gives the items their turn, as the options dialog and its button do, and writes what has
-    /// come of it to the output's neighbour. How many have had their turn; the list's selected row
-    /// is none once all have.
-    virtual std::int32_t exportTo(const std::string& neighbour) = 0;
+    /// come of it to the output's neighbour. A failure at an item leaves it the list's selected
+    /// row; otherwise there is none.
+    virtual void exportTo(const std::string& neighbour) = 0;
+    /// How many items have had their turn, once all have that will have one.
+    [[nodiscard]] std::int32_t done() const { return done_; }
 
 protected:
     JobScene scene_;
+    std::int32_t done_ = 0;
 };
 
 /// The job of a destination.

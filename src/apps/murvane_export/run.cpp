@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fstream>
@@ -29,6 +30,7 @@
 #include "catalogue/list_rows.h"
 #include "catalogue/review.h"
 #include "office/failure.h"
+#include "office/failure_patterns.h"
 #include "session/launcher.h"
 
 namespace unattended {
@@ -159,6 +161,9 @@ private:
         if (surroundings_.isInterrupted()) throw Interrupted(whatIsThere());
     }
     [[nodiscard]] std::string whatIsThere();
+    [[nodiscard]] std::string inOpenDocuments();
+    [[nodiscard]] std::int32_t turnsAhead(std::size_t place);
+    [[noreturn]] void complainAbout(std::size_t place, const office::Failure& failure);
 
     const Options& options_;
     const Surroundings& surroundings_;
@@ -298,28 +303,54 @@ void Run::runJob(std::size_t place) {
     list_.selected = -1;
     const std::string neighbour = apps::utf8Of(order_.outputs[place]->neighbour());
     try {
-        outcomes_[place].taken = jobs_[place]->exportTo(neighbour);
+        jobs_[place]->exportTo(neighbour);
+        outcomes_[place].taken = jobs_[place]->done();
     } catch (const office::SuiteLost&) {
         throw;
     } catch (const office::Failure& failure) {
         line_.clear();
         letUserSee();
         if (surroundings_.isInterrupted() && !options_.attach) throw;
-        // A disk that is full is no fault of the item at hand.
-        if (list_.selected < 0 || failure.is(office::FailureNumber::PathFileAccess))
-            throw RunError(fmt::format("{} could not be made: {}",
-                                       apps::utf8Of(order_.outputs[place]->file()),
-                                       reportOf(failure)));
-        const ExportItem& row = list_.rows[static_cast<std::size_t>(list_.selected)];
-        throw RunError(fmt::format(
-            "Could not export {}\n--keep-going leaves such items out and saves the others.",
-            describe(row, failure)));
+        complainAbout(place, failure);
     }
     letUserSee();
 }
 
-/// The user's own documents keep the items that they have got.
+void Run::complainAbout(std::size_t place, const office::Failure& failure) {
+    const bool isOfItem = list_.selected >= 0;
+    outcomes_[place].taken = isOfItem ? turnsAhead(place) : jobs_[place]->done();
+    std::string there = office::orElse([this] { return inOpenDocuments(); }, std::string());
+    if (!there.empty()) there = fmt::format("\n{}; no file was written.", there);
+    // A disk that is full is no fault of the item at hand.
+    if (!isOfItem || failure.is(office::FailureNumber::PathFileAccess))
+        throw RunError(fmt::format("{} could not be made: {}{}",
+                                   apps::utf8Of(order_.outputs[place]->file()), reportOf(failure),
+                                   there));
+    const ExportItem& row = list_.rows[static_cast<std::size_t>(list_.selected)];
+    throw RunError(fmt::format(
+        "Could not export {}{}\n--keep-going leaves such items out and saves the others.",
+        describe(row, failure), there));
+}
+
+/// Of the items of a job that has failed at the list's selected one.
+std::int32_t Run::turnsAhead(std::size_t place) {
+    const auto choices = choicesFor(options_.targets[place].destination, options_);
+    const auto rows = office::orElse([&] { return takeRows(session_, list_, choices); },
+                                     std::vector<catalogue::TakenRow>());
+    const auto selected = static_cast<std::size_t>(list_.selected);
+    const auto at = std::find_if(rows.begin(), rows.end(),
+                                 [&](const auto& row) { return row.index == selected; });
+    return static_cast<std::int32_t>(at - rows.begin());
+}
+
 std::string Run::whatIsThere() {
+    const std::string text = inOpenDocuments();
+    if (text.empty()) return interruptedText;
+    return fmt::format("Interrupted: {}; no file was written.", text);
+}
+
+/// The user's own documents keep the items that they have got. Empty if there are none.
+std::string Run::inOpenDocuments() {
     std::string text;
     for (std::size_t place = 0; place < outcomes_.size(); ++place) {
         const Outcome& outcome = outcomes_[place];
@@ -332,8 +363,7 @@ std::string Run::whatIsThere() {
         text += fmt::format("{}{} of {} items are in the open {}", text.empty() ? "" : ", ", there,
                             all, isSlides ? "presentation" : "document");
     }
-    if (text.empty()) return interruptedText;
-    return fmt::format("Interrupted: {}; no file was written.", text);
+    return text;
 }
 
 /// A batch may leave Excel without drawing; the user's own goes on without us.
