@@ -222,6 +222,10 @@ TEST_F(OutputsTest, AnInputHasToBeAFileThatCanBeRead) {
     EXPECT_NO_THROW(unattended::requireReadable(folder.write("b.xlsx", "x"), "workbook"));
     EXPECT_THROW(unattended::requireReadable(folder.path(), "workbook"), UsageError);
     EXPECT_THROW(unattended::requireReadable(folder.file("none.xlsx"), "workbook"), UsageError);
+    EXPECT_NO_THROW(unattended::requireFile(folder.file("b.xlsx"), "workbook"));
+    ::mkfifo(folder.file("pipe.xlsx").c_str(), 0600);
+    EXPECT_NO_THROW(unattended::requireReadable(folder.file("pipe.xlsx"), "captions file"));
+    EXPECT_THROW(unattended::requireFile(folder.file("pipe.xlsx"), "workbook"), UsageError);
 }
 
 }  // namespace

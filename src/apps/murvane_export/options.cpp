@@ -86,6 +86,7 @@ const std::map<std::string, catalogue::ExportFormat>& formatsByName() {
 template <class Meaning>
 std::vector<std::string> namesOf(const std::map<std::string, Meaning>& known) {
     std::vector<std::string> names;
+    names.reserve(known.size());
     for (const auto& [name, meaning] : known) names.push_back(name);
     return names;
 }
@@ -288,6 +289,24 @@ std::optional<bool> titlesOf(const RawTexts& raw) {
     return raw.titles;
 }
 
+/// An empty value is a variable of the caller's script that was never set. Left out in silence, a
+/// deck would be begun anew where one was meant to grow.
+void requireValues(const CLI::App& app, const std::vector<std::string>& arguments) {
+    const auto refuse = [](const std::string& option) {
+        throw UsageError(fmt::format("{} has an empty value.", option));
+    };
+    // The parser would take the next option for the value.
+    for (const std::string& argument : arguments) {
+        const std::string name = argument.substr(0, argument.find('='));
+        const bool isEmpty = name.size() + 1 == argument.size();
+        if (isEmpty && app.get_option_no_throw(name) != nullptr) refuse(name);
+    }
+    for (const CLI::Option* option : app.get_options()) {
+        const auto& values = option->results();
+        if (std::find(values.begin(), values.end(), "") != values.end()) refuse(option->get_name());
+    }
+}
+
 /// What no single option can know.
 void finish(Options& options, const RawTexts& raw) {
     if (raw.list && raw.check) throw UsageError("--list and --check don't go together.");
@@ -395,6 +414,7 @@ std::variant<Options, ParseEnd> parseOptions(const std::vector<std::string>& arg
 
     try {
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+        requireValues(app, arguments);
         finish(options, raw);
         requireDestinations(app, options);
         requireTask(app, options);

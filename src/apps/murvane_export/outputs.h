@@ -10,6 +10,8 @@ namespace unattended {
 
 /// `UsageError` unless the file can be opened for reading. `what` names it in the text: "workbook".
 void requireReadable(const std::filesystem::path& file, const std::string& what);
+/// And unless it is a file that can be read as often as need be, which no pipe can.
+void requireFile(const std::filesystem::path& file, const std::string& what);
 
 /// What a run writes. It comes into being as a whole or not at all: a neighbour of it is written,
 /// which `commit` gives its name. The neighbour's folder goes with this object, and with it

@@ -201,6 +201,16 @@ void requireReadable(const fs::path& file, const std::string& what) {
                                  what, apps::utf8Of(file), reason()));
 }
 
+void requireFile(const fs::path& file, const std::string& what) {
+    requireReadable(file, what);
+    std::error_code ignored;
+    if (fs::is_regular_file(file, ignored)) return;
+    throw UsageError(fmt::format(
+        "The {} {} is a pipe or a device, and is read more than once. Save it to a file and name "
+        "that.",
+        what, apps::utf8Of(file)));
+}
+
 fs::path behindLinks(const fs::path& file) {
     constexpr int mostLinks = 40;
     std::error_code error;

@@ -94,7 +94,7 @@ Order checkOrder(const Options& options) {
                          std::pair(options.deck, "presentation"),
                          std::pair(options.document, "document")};
     for (const auto& [file, what] : inputs) {
-        if (!file.empty()) requireReadable(apps::pathOf(file), what);
+        if (!file.empty()) requireFile(apps::pathOf(file), what);
     }
     if (!options.captionsFile.empty()) {
         requireReadable(apps::pathOf(options.captionsFile), "captions file");
