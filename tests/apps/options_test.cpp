@@ -23,11 +23,11 @@ Options parsed(const Words& words) {
 
 TEST(Options, EverythingThatCanBeSaidIsHeard) {
     const Options options = parsed(
-        {"book.xlsx", "--to",     "slides",     "--into",   "deck.pptx", "--output", "out.pptx",
-         "--items",   "A,B@S",    "--items",    "C",        "--order",   "C",        "--captions",
-         "c.csv",     "--slides", "predefined", "--titles", "--source",  "--shadow", "--style",
-         "rounded",   "--top",    "0.25",       "--width",  "default",   "--left",   "0",
-         "--yes",     "--quiet",  "--overwrite"});
+        {"book.xlsx", "--to",     "slides",      "--into",   "deck.pptx", "--output", "out.pptx",
+         "--items",   "A,B@S",    "--items",     "C",        "--order",   "C",        "--captions",
+         "c.csv",     "--slides", "predefined",  "--titles", "--source",  "--shadow", "--style",
+         "rounded",   "--top",    "0.25",        "--width",  "default",   "--left",   "0",
+         "--yes",     "--quiet",  "--overwrite", "--format", "editable"});
     EXPECT_EQ(options.task, Task::Export);
     EXPECT_EQ(options.book, "book.xlsx");
     EXPECT_EQ(options.targets, (Targets{{Destination::PowerPoint, "out.pptx"}}));
@@ -62,6 +62,10 @@ TEST(Options, OutputsTellTheirDestinationWhereNothingElseDoes) {
     EXPECT_EQ(both.deck + " " + both.document, "d.potx d.odt");
     EXPECT_EQ(both.coverText, "One\nTwo");
     EXPECT_EQ(both.titles, std::nullopt);
+    EXPECT_TRUE(parsed({"b.xlsx", "--output", "o.docx", "--to", "word", "--to", "slides",
+                        "--output", "o.pptx", "--format", "embedded", "--shadow"})
+                    .shadow)
+        << "which the slides take";
 }
 
 TEST(Options, WrongUsageEndsWithTwoAndSaysWhy) {
@@ -113,6 +117,18 @@ TEST(Options, WrongUsageEndsWithTwoAndSaysWhy) {
          {"b.xlsx", "--output", "o.pdf", "--format", "editable"},
          "--to slides or word"},
         {"shadows of pages", {"b.xlsx", "--output", "o.pdf", "--shadow"}, "--to slides or word"},
+        {"captions of objects",
+         {"b.xlsx", "--output", "o.docx", "--format", "embedded", "--captions-below"},
+         "--captions-below and --format embedded"},
+        {"widths of objects",
+         {"b.xlsx", "--output", "o.docx", "--format", "linked", "--same-width"},
+         "--same-width and --format linked"},
+        {"shadows of objects",
+         {"b.xlsx", "--output", "o.docx", "--format", "embedded", "--shadow"},
+         "--shadow and --format embedded"},
+        {"two looks",
+         {"b.xlsx", "--output", "o.pptx", "--style", "rounded", "--shadow"},
+         "--style and --shadow"},
         {"the source of pages", {"b.xlsx", "--output", "o.docx", "--source"}, "--to slides or pdf"},
         {"titles of a document",
          {"b.xlsx", "--output", "o.docx", "--no-titles"},

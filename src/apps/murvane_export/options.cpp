@@ -8,6 +8,7 @@
 #include <array>
 #include <map>
 #include <sstream>
+#include <tuple>
 
 #include "apps/murvane_export/errors.h"
 #include "apps/version.h"
@@ -384,6 +385,23 @@ void requireDestinations(const CLI::App& app, const Options& options) {
     }
 }
 
+/// In a document what is embedded or linked is as wide as the text, and takes nothing else.
+void requireLooksInWord(const CLI::App& app, const Options& options, const std::string& format) {
+    using catalogue::Destination;
+    if (format != "embedded" && format != "linked") return;
+    if (options.targetOf(Destination::Word) == nullptr) return;
+    const std::tuple<const char*, std::optional<Destination>> all[] = {
+        {"--captions-below", std::nullopt},
+        {"--same-width", Destination::Html},
+        {"--shadow", Destination::PowerPoint}};
+    for (const auto& [option, other] : all) {
+        const bool isHeeded = other && options.targetOf(*other) != nullptr;
+        if (app.count(option) > 0 && !isHeeded)
+            throw UsageError(
+                fmt::format("{} and --format {} don't go together in Word.", option, format));
+    }
+}
+
 /// What goes with the task, and with other options.
 void requireTask(const CLI::App& app, const Options& options) {
     for (const char* option : {"--to", "--output", "--into", "--overwrite"}) {
@@ -393,6 +411,15 @@ void requireTask(const CLI::App& app, const Options& options) {
     const bool makesPdf = options.targetOf(catalogue::Destination::Pdf) != nullptr;
     if (app.count("--size") > 0 && !makesPdf && !options.sameWidth)
         throw UsageError("--size goes with --to pdf, or with --to html and --same-width.");
+    // The form offers both for editable items alone.
+    const bool makesSlides = options.targetOf(catalogue::Destination::PowerPoint) != nullptr;
+    const bool isEditable = options.format == catalogue::ExportFormat::Editable;
+    if (makesSlides && !isEditable && options.shadow &&
+        options.pictureStyle != powerpoint::style::none)
+        throw UsageError(
+            "--style and --shadow don't go together: from the second item on, the shadow would "
+            "take the place of the style. Choose a style that has a shadow, such as "
+            "shadow-around.");
 }
 
 }  // namespace
@@ -417,6 +444,7 @@ std::variant<Options, ParseEnd> parseOptions(const std::vector<std::string>& arg
         requireValues(app, arguments);
         finish(options, raw);
         requireDestinations(app, options);
+        requireLooksInWord(app, options, raw.format);
         requireTask(app, options);
     } catch (const CLI::ParseError& end) {
         std::ostringstream out;
