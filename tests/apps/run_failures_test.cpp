@@ -77,6 +77,26 @@ TEST_F(RunFailuresTest, AFailedSaveLeavesWhatWasThere) {
     EXPECT_EQ(folder.read("Out.pptx"), "old");
 }
 
+TEST_F(RunFailuresTest, AnOutputThatCannotTakeItsPlaceTakesTheOthersAlong) {
+    const std::string document = folder.file("Out.docx");
+    isInterrupted = [&] {
+        if (suite->log().count("Chart.CopyPicture") > 0) folder.write("Out.docx", "theirs");
+        return false;
+    };
+    EXPECT_EQ(exportWith({"--output", document}), 1);
+    EXPECT_TRUE(console.errorHas("somebody else meanwhile and was left alone.\nNo other output"))
+        << console.error;
+    EXPECT_FALSE(hasOutput());
+    EXPECT_EQ(folder.read("Out.docx"), "theirs");
+    // What the suite in memory draws reaches no folder.
+    folder.write("Out.pptx", "old");
+    EXPECT_EQ(exportWith({"--overwrite", "--to", "slides", "--to", "images", "--output",
+                          folder.file("pictures")}),
+              1);
+    EXPECT_TRUE(console.errorHas("Nothing was written, so ")) << console.error;
+    EXPECT_EQ(folder.read("Out.pptx"), "old");
+}
+
 TEST_F(RunFailuresTest, ALostSuiteIsReportedWheneverItGoes) {
     ASSERT_EQ(exportWith({"--overwrite"}), 0);
     const int calls = static_cast<int>(suite->log().count());

@@ -33,7 +33,10 @@ public:
     [[nodiscard]] const std::filesystem::path& neighbour();
 
     /// `RunError` if nothing was written to the neighbour, or if the name was taken meanwhile and
-    /// may not be; what is there is left alone then.
+    /// may not be, or by what can't be replaced. For all outputs of a run ahead of the first
+    /// commit.
+    virtual void requireCanCommit() = 0;
+    /// `RunError` as well if the system refuses; what is there is left alone then.
     virtual void commit() = 0;
 
 protected:

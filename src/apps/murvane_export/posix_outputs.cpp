@@ -54,6 +54,7 @@ class OutputFile : public Output {
 public:
     OutputFile(const fs::path& name, const std::vector<std::string>& endings, bool overwrites);
 
+    void requireCanCommit() override;
     void commit() override;
 
 protected:
@@ -65,6 +66,7 @@ class OutputFolder : public Output {
 public:
     OutputFolder(const fs::path& name, bool overwrites);
 
+    void requireCanCommit() override;
     void commit() override;
 
 protected:
@@ -99,9 +101,16 @@ void OutputFile::makeNeighbour(const fs::path& folder) {
     setNeighbour(made);
 }
 
-void OutputFile::commit() {
+void OutputFile::requireCanCommit() {
     std::error_code ignored;
     if (!hasNeighbour() || fs::file_size(neighbour(), ignored) == 0) failWithoutContent();
+    const bool isReplaceable = overwrites() && !fs::is_directory(file(), ignored);
+    if (fs::exists(file(), ignored) && !isReplaceable) failForAnother(file());
+}
+
+void OutputFile::commit() {
+    requireCanCommit();
+    std::error_code ignored;
     // What replaces a file is on the disk first, so that a power cut leaves the one or the other.
     if (fs::exists(file(), ignored)) apps::flush(neighbour().string());
     takeName(neighbour(), file());
@@ -133,17 +142,22 @@ void OutputFolder::makeNeighbour(const fs::path& folder) {
     setNeighbour(made);
 }
 
-/// A folder that is there takes in what was made, which is complete, one after the other. What
-/// would be in the way is found out ahead of the first.
-void OutputFolder::commit() {
+void OutputFolder::requireCanCommit() {
     std::error_code ignored;
     if (!hasNeighbour() || fs::is_empty(neighbour(), ignored)) failWithoutContent();
+    if (!fs::exists(file(), ignored)) return;
+    if (!fs::is_directory(file(), ignored)) failForAnother(file());
+    for (const fs::path& path : made()) requireRoomFor(path);
+}
+
+/// A folder that is there takes in what was made, which is complete, one after the other.
+void OutputFolder::commit() {
+    requireCanCommit();
+    std::error_code ignored;
     if (!fs::exists(file(), ignored)) {
         takeName(neighbour(), file());
     } else {
-        const std::vector<fs::path> all = made();
-        for (const fs::path& path : all) requireRoomFor(path);
-        for (const fs::path& path : all) takeIn(path);
+        for (const fs::path& path : made()) takeIn(path);
     }
     removeNeighbour();
 }

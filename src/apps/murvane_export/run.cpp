@@ -156,12 +156,14 @@ private:
     [[nodiscard]] catalogue::ReviewResult review();
     void runJob(std::size_t place);
     void letUserSee();
+    void tellOfIncomplete();
     int commit();
     void stopIfInterrupted() {
         if (surroundings_.isInterrupted()) throw Interrupted(whatIsThere());
     }
     [[nodiscard]] std::string whatIsThere();
     [[nodiscard]] std::string inOpenDocuments();
+    [[nodiscard]] std::string thereIfAnything();
     [[nodiscard]] std::int32_t turnsAhead(std::size_t place);
     [[noreturn]] void complainAbout(std::size_t place, const office::Failure& failure);
 
@@ -319,8 +321,7 @@ void Run::runJob(std::size_t place) {
 void Run::complainAbout(std::size_t place, const office::Failure& failure) {
     const bool isOfItem = list_.selected >= 0;
     outcomes_[place].taken = isOfItem ? turnsAhead(place) : jobs_[place]->done();
-    std::string there = office::orElse([this] { return inOpenDocuments(); }, std::string());
-    if (!there.empty()) there = fmt::format("\n{}; no file was written.", there);
+    const std::string there = thereIfAnything();
     // A disk that is full is no fault of the item at hand.
     if (!isOfItem || failure.is(office::FailureNumber::PathFileAccess))
         throw RunError(fmt::format("{} could not be made: {}{}",
@@ -330,6 +331,12 @@ void Run::complainAbout(std::size_t place, const office::Failure& failure) {
     throw RunError(fmt::format(
         "Could not export {}{}\n--keep-going leaves such items out and saves the others.",
         describe(row, failure), there));
+}
+
+/// A line behind the words about a failure.
+std::string Run::thereIfAnything() {
+    const std::string there = office::orElse([this] { return inOpenDocuments(); }, std::string());
+    return there.empty() ? there : fmt::format("\n{}; no file was written.", there);
 }
 
 /// Of the items of a job that has failed at the list's selected one.
@@ -371,21 +378,34 @@ void Run::letUserSee() {
     if (options_.attach) catalogue::RestoreScreenUpdating(session_);
 }
 
-/// All outputs get their names, now that each of them is complete, and the user is told.
+void Run::tellOfIncomplete() {
+    for (std::size_t place = 0; place < jobs_.size(); ++place) {
+        const Outcome& outcome = outcomes_[place];
+        if (outcome.missing.empty()) continue;
+        std::string text =
+            fmt::format("{} is incomplete: of {} items {} could not be exported{}\n",
+                        apps::utf8Of(order_.outputs[place]->file()), outcome.taken,
+                        outcome.missing.size(), outcome.failures.empty() ? "; see above." : ":");
+        for (const std::string& line : outcome.failures) text += "  " + line + "\n";
+        tell(surroundings_.console, text);
+    }
+}
+
+/// All outputs get their names, once each of them is complete and can have it, and the user is
+/// told.
 int Run::commit() {
+    tellOfIncomplete();
+    try {
+        for (const auto& output : order_.outputs) output->requireCanCommit();
+    } catch (const RunError& error) {
+        const bool isAlone = order_.outputs.size() == 1;
+        throw RunError(std::string(error.what()) + (isAlone ? "" : "\nNo other output was made.") +
+                       thereIfAnything());
+    }
     int exitCode = exit_code::done;
     for (std::size_t place = 0; place < jobs_.size(); ++place) {
         const Outcome& outcome = outcomes_[place];
-        const std::string file = apps::utf8Of(order_.outputs[place]->file());
-        const std::size_t missing = outcome.missing.size();
-        if (missing > 0) {
-            std::string text = fmt::format(
-                "{} is incomplete: of {} items {} could not be exported{}\n", file, outcome.taken,
-                missing, outcome.failures.empty() ? "; see above." : ":");
-            for (const std::string& line : outcome.failures) text += "  " + line + "\n";
-            tell(surroundings_.console, text);
-            exitCode = exit_code::failed;
-        }
+        if (!outcome.missing.empty()) exitCode = exit_code::failed;
         try {
             order_.outputs[place]->commit();
         } catch (const RunError& error) {
@@ -393,9 +413,10 @@ int Run::commit() {
             exitCode = exit_code::failed;
             continue;
         }
-        if (missing == 0 && !options_.quiet) {
+        if (outcome.missing.empty() && !options_.quiet) {
             surroundings_.console.writeError(fmt::format(
-                "Exported {} item{} to {}\n", outcome.taken, outcome.taken == 1 ? "" : "s", file));
+                "Exported {} item{} to {}\n", outcome.taken, outcome.taken == 1 ? "" : "s",
+                apps::utf8Of(order_.outputs[place]->file())));
         }
     }
     return exitCode;
