@@ -26,6 +26,7 @@ std::string_view kindOf(const ExportItem& row) {
 
 std::string_view exportMark(const ExportItem& row) {
     if (row.hasSeveralAreas) return "several areas";
+    if (row.isMissing) return "hidden or gone";
     return row.checked ? "yes" : "no";
 }
 
@@ -70,6 +71,7 @@ std::string listAsJson(const catalogue::ExportList& list, std::string_view workb
                          {"kind", session::kindText(row.kind)},
                          {"checked", row.checked},
                          {"severalAreas", row.hasSeveralAreas},
+                         {"missing", row.isMissing},
                          {"slide", row.slideNumber},
                          {"caption", row.caption}});
     }
