@@ -45,8 +45,16 @@ TEST_F(RunReviewTest, ABlockedExportEndsWithThreeAndTheReasonsAndACheckRunsTheRe
 
 TEST_F(RunReviewTest, AWarningEndsTheRunUnlessItWasAgreedToBeforehand) {
     storeHiddenItem();
-    EXPECT_EQ(run({bookFile, "--check"}), 0);
+    EXPECT_EQ(run({bookFile, "--check"}), 3) << "as the export";
     EXPECT_TRUE(console.errorHas("will be skipped."));
+    EXPECT_EQ(run({bookFile, "--check", "--yes"}), 0);
+    console.somebodyIsThere = true;
+    EXPECT_EQ(run({bookFile, "--check"}), 0);
+    EXPECT_FALSE(console.errorHas("Type y")) << console.error;
+    console.somebodyIsThere = false;
+    EXPECT_EQ(run({bookFile, "--list"}), 0);
+    EXPECT_NE(console.out.find("South     chart        hidden or gone"), std::string::npos)
+        << console.out;
     EXPECT_EQ(exportWith(), 3);
     EXPECT_TRUE(console.errorHas("1 checked item(s) are on hidden worksheets and will be skipped."))
         << console.error;

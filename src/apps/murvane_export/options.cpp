@@ -158,7 +158,9 @@ void declareFiles(CLI::App& app, Options& options, RawTexts& raw) {
 void declareItems(CLI::App& app, Options& options, RawTexts& raw) {
     app.add_flag("--list", raw.list, "Show the items of the workbook and end");
     app.add_flag("--json", options.json, "With --list: as JSON");
-    app.add_flag("--check", raw.check, "Run the review alone and end; 3 when it blocks the export");
+    app.add_flag("--check", raw.check,
+                 "Run the review alone and end; 3 when it blocks the export, as a warning does\n"
+                 "without --yes where nobody can be asked");
     app.add_flag("--all", options.allItems, "Every item that can be exported");
     app.add_option("--items", options.items, "These items alone")
         ->allow_extra_args(false)

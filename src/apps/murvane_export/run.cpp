@@ -60,9 +60,10 @@ std::string readFile(const std::string& path) {
 }
 
 apps::Answering answeringFor(const Options& options, const apps::Console& console) {
-    // A review alone asks nothing: what it finds is the answer.
-    if (options.yes || options.task == Task::Check) return apps::Answering::Accepts;
-    return console.canAsk() ? apps::Answering::AsksUser : apps::Answering::Refuses;
+    if (options.yes) return apps::Answering::Accepts;
+    if (!console.canAsk()) return apps::Answering::Refuses;
+    // A review alone asks nothing, and the export could.
+    return options.task == Task::Check ? apps::Answering::Accepts : apps::Answering::AsksUser;
 }
 
 /// What is told of names in documents must not drive the terminal.
