@@ -224,13 +224,15 @@ TEST_F(ExcelPictures, ShowsAHiddenSheetOnlyForTheMomentOfTheCopy) {
     EXPECT_EQ(sheet(book, "Buried").get("Visible").toLong(), 2);
 }
 
-TEST_F(ExcelPictures, AsksNoWindowForACopyThatHasBeenClosedMeanwhile) {
+TEST_F(ExcelPictures, AsksNothingThatCrashesTheSuiteOfAWorkbookThatIsClosedMeanwhile) {
     static_cast<void>(open("cells.xlsx"));
     const auto book = desk->active<excel::CalcDocument>();
     const auto data = book->sheetList().find("Data");
     const excel::SelectedCells cells(*data, data->range(excel::model::CellBlock::cell(0, 0)));
+    static_cast<void>(data->cellAt(100, 100));
     book->close();
     EXPECT_THROW(static_cast<void>(cells.copyAs("text/html")), css::lang::DisposedException);
+    EXPECT_THROW(static_cast<void>(data->cellAt(200, 200)), uno::Exception);
     EXPECT_FALSE(connection()->isLost());
 }
 

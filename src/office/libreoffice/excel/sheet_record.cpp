@@ -171,37 +171,11 @@ model::CellBlock SheetRecord::cellAt(double left, double top) {
     while (!column.isDone() || !row.isDone()) {
         const std::int32_t atColumn = column.next();
         const std::int32_t atRow = row.next();
-        const auto [corner, size] = placeOfCell(atColumn, atRow);
+        const auto [corner, size] = placeOf(range(model::CellBlock::cell(atRow, atColumn)));
         column.learn(atColumn, corner.X, size.Width);
         row.learn(atRow, corner.Y, size.Height);
     }
     return model::CellBlock::cell(row.found(), column.found());
-}
-
-PlaceOfCells SheetRecord::placeOfCell(std::int32_t column, std::int32_t row) {
-    static const auto names = namesOf({"AbsoluteName", "Position", "Size"});
-    const model::CellBlock wanted = model::CellBlock::cell(row, column);
-    if (movedCell_.cursor.is()) {
-        movedCell_.cursor->gotoOffset(column - movedCell_.column, row - movedCell_.row);
-        movedCell_.column = column;
-        movedCell_.row = row;
-        const auto values = movedCell_.properties->getPropertyValues(names);
-        rtl::OUString name;
-        values[0] >>= name;
-        // Rows that have been inserted or deleted since move it too.
-        if (model::blockOf(fromUno(name.copy(name.lastIndexOf('.') + 1))) == wanted) {
-            PlaceOfCells place;
-            values[1] >>= place.corner;
-            values[2] >>= place.size;
-            return place;
-        }
-    }
-    const auto cell = as<css::sheet::XSheetCellRange>(range(wanted));
-    movedCell_.cursor = as<css::table::XCellCursor>(answered(sheet_->createCursorByRange(cell)));
-    movedCell_.properties = as<css::beans::XMultiPropertySet>(movedCell_.cursor);
-    movedCell_.column = column;
-    movedCell_.row = row;
-    return placeOf({movedCell_.cursor.get()});
 }
 
 void SheetRecord::select(const model::CellBlocks& blocks) {

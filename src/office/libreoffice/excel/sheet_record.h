@@ -2,14 +2,12 @@
 
 #include <com/sun/star/awt/Point.hpp>
 #include <com/sun/star/awt/Size.hpp>
-#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
 #include <com/sun/star/table/CellRangeAddress.hpp>
-#include <com/sun/star/table/XCellCursor.hpp>
 #include <com/sun/star/table/XCellRange.hpp>
 
 #include <memory>
@@ -110,17 +108,6 @@ private:
     uno::Reference<css::sheet::XCellRangeAddressable> addressable_;
     std::string name_;
     ChartShapes charts_;
-    /// A cell that is moved over the sheet to ask where others lie: one made for each of them would
-    /// take more calls.
-    struct MovedCell {
-        uno::Reference<css::table::XCellCursor> cursor;
-        uno::Reference<css::beans::XMultiPropertySet> properties;
-        std::int32_t column = 0;
-        std::int32_t row = 0;
-    };
-    [[nodiscard]] PlaceOfCells placeOfCell(std::int32_t column, std::int32_t row);
-
-    MovedCell movedCell_;
     SeenLine seenColumn_{0, 0, 2258};
     SeenLine seenRow_{0, 0, 452};
     std::optional<NamedRanges> names_;
