@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "office/cell_contents.h"
 #include "office/failure.h"
 #include "office/picture.h"
 #include "office/table_look.h"
@@ -52,6 +53,17 @@ public:
     }
     /// The same with as many cells as a page takes, which is more than a table elsewhere holds.
     [[nodiscard]] virtual TableLook tableOfPage() const { return table(); }
+    /// What cells of the workbook hold now, which a chart may draw on: those at an address such as
+    /// "$B$4:$H$20". Nothing where that can't be told.
+    [[nodiscard]] virtual std::optional<CellContents> contentsOf(
+        const std::string& /*sheet*/, const std::string& /*address*/) const {
+        return std::nullopt;
+    }
+    /// One of those cells as it is shown: "12.5 %".
+    [[nodiscard]] virtual std::string shownTextOf(const std::string& /*sheet*/,
+                                                  const std::string& /*address*/) const {
+        return {};
+    }
 
 private:
     CopySource source_;

@@ -172,6 +172,10 @@ pugi::xml_node firstElement(pugi::xml_node parent) {
         [](const pugi::xml_node& child) { return child.type() == pugi::node_element; });
 }
 
+pugi::xml_node childCalled(pugi::xml_node parent, std::string_view name) {
+    return parent.find_child([&](const pugi::xml_node& child) { return localName(child) == name; });
+}
+
 pugi::xml_node childNamed(pugi::xml_node parent, std::string_view space, std::string_view name) {
     return parent.find_child(
         [&](const pugi::xml_node& child) { return isNamed(child, space, name); });

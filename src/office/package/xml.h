@@ -58,6 +58,8 @@ private:
 [[nodiscard]] bool isNamed(pugi::xml_node node, std::string_view space, std::string_view name);
 /// The first child that is an element; null if there is none.
 [[nodiscard]] pugi::xml_node firstElement(pugi::xml_node parent);
+/// The first child that goes by this name in any namespace; null if there is none.
+[[nodiscard]] pugi::xml_node childCalled(pugi::xml_node parent, std::string_view name);
 /// The first child of that name; null if there is none.
 [[nodiscard]] pugi::xml_node childNamed(pugi::xml_node parent, std::string_view space,
                                         std::string_view name);

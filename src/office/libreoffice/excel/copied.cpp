@@ -1,11 +1,13 @@
 #include "office/libreoffice/excel/copied.h"
 
 #include <com/sun/star/awt/Size.hpp>
+#include <com/sun/star/text/XTextRange.hpp>
 
 #include <utility>
 
 #include "office/failure.h"
 #include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/contents_of_cells.h"
 #include "office/libreoffice/excel/range_picture.h"
 #include "office/libreoffice/excel/table_of_cells.h"
 #include "office/libreoffice/guard.h"
@@ -73,6 +75,28 @@ office::Picture CopiedChart::picture(office::Sharpness sharpness) const {
 
 uno::Reference<css::graphic::XGraphic> CopiedChart::graphic() const {
     return translated(book().desk(), [&] { return lookOf(shape_).graphic; });
+}
+
+std::optional<office::CellContents> CopiedChart::contentsOf(const std::string& sheet,
+                                                            const std::string& address) const {
+    CalcDocument& workbook = book();
+    return translated(workbook.desk(), [&]() -> std::optional<office::CellContents> {
+        const SheetRecordPtr found = workbook.sheetList().find(sheet);
+        const auto block = office::model::excel::blockOf(address);
+        if (!found || !block) return std::nullopt;
+        return readContents(*found, *block);
+    });
+}
+
+std::string CopiedChart::shownTextOf(const std::string& sheet, const std::string& address) const {
+    CalcDocument& workbook = book();
+    return translated(workbook.desk(), [&]() -> std::string {
+        const SheetRecordPtr found = workbook.sheetList().find(sheet);
+        const auto block = office::model::excel::blockOf(address);
+        if (!found || !block) return {};
+        return fromUno(
+            as<css::text::XTextRange>(found->range(*block)->getCellByPosition(0, 0))->getString());
+    });
 }
 
 CopiedCells::CopiedCells(SheetRecordPtr sheet, office::CopySource source,

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
 #include <utility>
 
 #include "office/copied.h"
@@ -62,6 +64,10 @@ public:
     [[nodiscard]] const SheetOfChart& home() const { return home_; }
     [[nodiscard]] office::Picture picture(office::Sharpness sharpness) const override;
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
+    [[nodiscard]] std::optional<office::CellContents> contentsOf(
+        const std::string& sheet, const std::string& address) const override;
+    [[nodiscard]] std::string shownTextOf(const std::string& sheet,
+                                          const std::string& address) const override;
 
 private:
     std::shared_ptr<CalcDocument> book_;

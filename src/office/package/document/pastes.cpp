@@ -52,7 +52,7 @@ bool pasteChart(FileDocument& document, const Copied& copied, PasteAs as,
     }
     const std::string link =
         as == PasteAs::Linked ? fileAddress(chart.book->path(), document.rules().linkBase) : "";
-    const std::string part = document.charts().add(std::move(chart), link);
+    const std::string part = document.charts().add(std::move(chart), copied, link);
     const std::string relationship =
         document.package().relationshipsOf(document.mainPart()).add("chart", part);
     const unsigned id = document.freeDrawingId();

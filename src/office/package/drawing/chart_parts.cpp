@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "office/package/drawing/chart_looks.h"
+#include "office/package/drawing/chart_memory.h"
 #include "office/package/part_name.h"
 #include "office/text.h"
 
@@ -95,7 +96,7 @@ ChartParts::Origin& ChartParts::originOf(const WorkbookFilePtr& book) {
     return origins_.emplace(book, std::move(origin)).first->second;
 }
 
-std::string ChartParts::add(SourceChart chart, const std::string& link) {
+std::string ChartParts::add(SourceChart chart, const Copied& copied, const std::string& link) {
     WorkbookFile& book = *chart.book;
     Origin& origin = originOf(chart.book);
     std::vector<Luggage> luggage = pack(book.package(), origin, chart.part, Holder::Chart);
@@ -105,6 +106,7 @@ std::string ChartParts::add(SourceChart chart, const std::string& link) {
     root.remove_child(childNamed(root, ns::chart, "printSettings"));
     writeFlags(root, origin.defaults);
     writeLooks(root, origin.thinLine);
+    rememberCells(*chart.xml, copied);
     writeDates(root);
     // From here on nothing can be missing any more.
     const std::string part = package_.freeName(folder_ + "/charts/chart", ".xml");

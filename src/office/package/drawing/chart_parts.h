@@ -17,10 +17,11 @@ public:
         : package_(target),
           folder_(std::move(folder)) {}
 
-    /// The name of a new part with a chart, which has no obstacle. Its data stays in the workbook
-    /// at the address `link`, or goes along in a copy of the workbook if that is empty.
-    /// `PackageError` for what goes with the chart and can't be read; then nothing has been added.
-    std::string add(SourceChart chart, const std::string& link);
+    /// The name of a new part with a chart that was copied, which has no obstacle. Its data stays
+    /// in the workbook at the address `link`, or goes along in a copy of the workbook if that is
+    /// empty. `PackageError` for what goes with the chart and can't be read; then nothing has been
+    /// added.
+    std::string add(SourceChart chart, const Copied& copied, const std::string& link);
 
 private:
     /// What the charts of one workbook have in common.

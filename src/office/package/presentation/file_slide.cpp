@@ -254,7 +254,7 @@ FileShapePtr FileSlide::pasteChart(const Copied& copied, PasteAs as) {
     }
     const std::string link =
         as == PasteAs::Linked ? fileAddress(chart.book->path(), deck_.rules().linkBase) : "";
-    const std::string part = deck_.charts().add(std::move(chart), link);
+    const std::string part = deck_.charts().add(std::move(chart), copied, link);
     const std::string id = deck_.package().relationshipsOf(part_).add("chart", part);
     const model::PastePlace place =
         model::pastePlaceFor({copied.widthPt(), copied.heightPt()}, deck_, *this);

@@ -1,0 +1,302 @@
+#include "office/package/drawing/chart_memory.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "office/package/workbook/chart_cells.h"
+#include "office/text.h"
+
+namespace office::package {
+
+namespace {
+
+using Content = CellContent::Kind;
+
+/// An element with a formula and what the chart remembers of its cells.
+struct Reference {
+    enum class Memory { Numbers, Texts, Levels };
+
+    pugi::xml_node node;
+    pugi::xml_node cache;
+    Memory memory = Memory::Numbers;
+    CellsOfSheet cells;
+    /// Of categories, which may be numbers or texts.
+    bool isHeading = false;
+    /// Names and titles are drawn even if their cells are hidden.
+    bool isName = false;
+};
+
+std::optional<CellsOfSheet> cellsOf(std::string_view formula) {
+    formula = trim(formula);
+    if (formula.starts_with('(') && formula.ends_with(')'))
+        formula = formula.substr(1, formula.size() - 2);
+    return cellsOfFormula(formula, office::model::excel::Notation::A1);
+}
+
+bool isLine(const CellBlock& block) {
+    return block.columns() == 1 || block.rows() == 1;
+}
+
+std::optional<Reference> referenceOf(pugi::xml_node node) {
+    using Memory = Reference::Memory;
+    struct Type {
+        std::string_view name;
+        std::string_view cache;
+        Memory memory;
+    };
+    static constexpr Type types[] = {{"numRef", "numCache", Memory::Numbers},
+                                     {"strRef", "strCache", Memory::Texts},
+                                     {"multiLvlStrRef", "multiLvlStrCache", Memory::Levels},
+                                     {"datalabelsRange", "dlblRangeCache", Memory::Texts}};
+    for (const Type& type : types) {
+        if (localName(node) != type.name) continue;
+        const auto cache = childCalled(node, type.cache);
+        auto cells = cellsOf(childCalled(node, "f").text().get());
+        if (!cache || !cells) return {};
+        const auto& blocks = cells->blocks;
+        const bool isPlain = type.memory == Memory::Levels
+                                 ? blocks.size() == 1
+                                 : std::all_of(blocks.begin(), blocks.end(), isLine);
+        if (!isPlain) return {};
+        const std::string_view holder = localName(node.parent());
+        return Reference{node,
+                         cache,
+                         type.memory,
+                         *std::move(cells),
+                         holder == "cat" || holder == "xVal",
+                         holder == "tx"};
+    }
+    return {};
+}
+
+std::vector<Reference> referencesIn(const Xml& chart) {
+    std::vector<Reference> references;
+    visitBelow(chart.root(), [&](pugi::xml_node node) {
+        if (auto found = referenceOf(node)) references.push_back(*std::move(found));
+    });
+    return references;
+}
+
+std::optional<double> numberIn(std::string_view text) {
+    text = trim(text);
+    double number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (text.empty() || error != std::errc{} || end != text.data() + text.size()) return {};
+    return number;
+}
+
+bool isSameNumber(std::string_view text, double number) {
+    constexpr double noise = 1e-12;
+    const auto known = numberIn(text);
+    return known &&
+           std::abs(*known - number) <= noise * std::max(std::abs(*known), std::abs(number));
+}
+
+/// Lines ends aside, which differ between programs.
+bool isSameText(std::string_view one, std::string_view other) {
+    const auto plain = [](std::string_view text) { return replaceAll(trim(text), "\r", ""); };
+    return plain(one) == plain(other);
+}
+
+class Memories {
+public:
+    Memories(const Copied& copied, std::vector<Reference> references, std::string element,
+             bool drawsHidden)
+        : references_(std::move(references)),
+          cells_(copied, wanted(references_)),
+          element_(std::move(element)),
+          drawsHidden_(drawsHidden) {
+        std::erase_if(references_, [&](const Reference& one) { return !cells_.know(one.cells); });
+    }
+
+    /// What is hidden leaves no gap: as soon as one line leaves places out, all have to.
+    void refresh() {
+        const bool all = drawsHidden_ || std::none_of(references_.begin(), references_.end(),
+                                                      [&](const Reference& one) {
+                                                          return !one.isName && hidesAnyOf(one);
+                                                      });
+        for (const Reference& one : references_) {
+            if (const auto lines = linesOf(one, all); !isRemembered(one, lines)) write(one, lines);
+        }
+    }
+
+private:
+    static std::vector<CellsOfSheet> wanted(const std::vector<Reference>& references) {
+        std::vector<CellsOfSheet> cells;
+        for (const Reference& one : references) cells.push_back(one.cells);
+        return cells;
+    }
+
+    /// Whether the categories stand one below the other.
+    [[nodiscard]] static bool areInRows(const Reference& levels) {
+        const auto values =
+            childCalled(childCalled(levels.node.parent().parent(), "val"), "numRef");
+        const auto cells = cellsOf(childCalled(values, "f").text().get());
+        const CellBlock& block = levels.cells.blocks.front();
+        if (cells && cells->blocks.front().cells() > 1) return cells->blocks.front().columns() == 1;
+        return block.rows() >= block.columns();
+    }
+
+    /// Each level of categories as cells of its own, the innermost first.
+    [[nodiscard]] static std::vector<CellsOfSheet> levelsOf(const Reference& one) {
+        if (one.memory != Reference::Memory::Levels) return {one.cells};
+        std::vector<CellsOfSheet> levels;
+        const CellBlock& block = one.cells.blocks.front();
+        const bool inRows = areInRows(one);
+        for (std::int32_t i = 0; i < (inRows ? block.columns() : block.rows()); ++i) {
+            CellBlock level = block;
+            if (inRows)
+                level.firstColumn = level.lastColumn = block.lastColumn - i;
+            else
+                level.firstRow = level.lastRow = block.lastRow - i;
+            levels.push_back({one.cells.sheet, {level}});
+        }
+        return levels;
+    }
+
+    [[nodiscard]] bool hidesAnyOf(const Reference& one) const {
+        return cells_.hideAnyOf(levelsOf(one).front());
+    }
+
+    [[nodiscard]] std::vector<ChartLine> linesOf(const Reference& one, bool all) const {
+        std::vector<ChartLine> lines;
+        for (const CellsOfSheet& level : levelsOf(one)) {
+            const Drawn drawn = lines.empty() ? Drawn::Shown : Drawn::ShownHeadings;
+            lines.push_back(cells_.lineOf(level, all || one.isName ? Drawn::All : drawn));
+        }
+        return lines;
+    }
+
+    [[nodiscard]] bool isRemembered(const Reference& one,
+                                    const std::vector<ChartLine>& lines) const {
+        if (one.memory != Reference::Memory::Levels) return agrees(one, one.cache, lines.front());
+        std::size_t level = 0;
+        for (const pugi::xml_node child : one.cache.children()) {
+            if (localName(child) != "lvl") continue;
+            if (level >= lines.size() || !agrees(one, child, lines[level])) return false;
+            ++level;
+        }
+        return level == lines.size();
+    }
+
+    [[nodiscard]] bool agrees(const Reference& one, pugi::xml_node holder,
+                              const ChartLine& line) const {
+        std::map<unsigned, const char*> known;
+        for (const pugi::xml_node point : holder.children()) {
+            if (localName(point) == "pt")
+                known[point.attribute("idx").as_uint()] = childCalled(point, "v").text().get();
+        }
+        for (const ChartPoint& point : line.points) {
+            const auto found = known.find(point.index);
+            if (!agrees(one, found == known.end() ? nullptr : found->second, point)) return false;
+            if (found != known.end()) known.erase(found);
+        }
+        // A text in a line of numbers is drawn as 0.
+        return std::all_of(known.begin(), known.end(), [&](const auto& rest) {
+            const bool isZero =
+                one.memory == Reference::Memory::Numbers && isSameNumber(rest.second, 0);
+            return isZero || *rest.second == '\0';
+        });
+    }
+
+    [[nodiscard]] bool agrees(const Reference& one, const char* known,
+                              const ChartPoint& point) const {
+        const CellContent& content = *point.content;
+        if (content.kind == Content::Error) return known == nullptr || *known == '#';
+        const bool isText = content.kind == Content::Text;
+        if (one.memory == Reference::Memory::Numbers && isText)
+            return !one.isHeading && (known == nullptr || isSameNumber(known, 0));
+        if (known == nullptr) return false;
+        if (isText) return isSameText(known, content.text);
+        return isSameNumber(known, content.number) ||
+               (one.memory != Reference::Memory::Numbers &&
+                isSameText(known, cells_.textOf(one.cells.sheet, point)));
+    }
+
+    [[nodiscard]] std::string textOf(const Reference& one, const ChartPoint& point) const {
+        const CellContent& content = *point.content;
+        const bool isNumber = one.memory == Reference::Memory::Numbers;
+        if (content.kind == Content::Error) return "#N/A";
+        if (content.kind == Content::Text) return isNumber ? "0" : legible(content.text);
+        return isNumber ? fmt::format("{}", content.number)
+                        : legible(cells_.textOf(one.cells.sheet, point));
+    }
+
+    [[nodiscard]] std::string named(const char* name) const { return element_ + name; }
+
+    void write(Reference one, const std::vector<ChartLine>& lines) const {
+        const bool hasText = std::any_of(
+            lines.front().points.begin(), lines.front().points.end(),
+            [](const ChartPoint& point) { return point.content->kind == Content::Text; });
+        if (one.memory == Reference::Memory::Numbers && one.isHeading && hasText) makeTexts(one);
+        const bool hasLevels = one.memory == Reference::Memory::Levels;
+        const auto formats = formatsOf(one.cache, lines.front().count);
+        keepChildren(one.cache, [](pugi::xml_node child) {
+            return localName(child) == "formatCode" || localName(child) == "extLst";
+        });
+        const auto rest = childCalled(one.cache, "extLst");
+        const auto add = [&](const char* name) {
+            return rest ? one.cache.insert_child_before(named(name).c_str(), rest)
+                        : one.cache.append_child(named(name).c_str());
+        };
+        add("ptCount").append_attribute("val").set_value(lines.front().count);
+        for (const ChartLine& line : lines) {
+            auto level = hasLevels ? add("lvl") : pugi::xml_node();
+            for (const ChartPoint& point : line.points) {
+                auto made = hasLevels ? level.append_child(named("pt").c_str()) : add("pt");
+                made.append_attribute("idx").set_value(point.index);
+                if (const auto format = formats.find(point.index); format != formats.end())
+                    made.append_attribute("formatCode").set_value(format->second.c_str());
+                made.append_child(named("v").c_str()).text().set(textOf(one, point).c_str());
+            }
+        }
+    }
+
+    /// What points are formatted by as long as they stay in their places.
+    static std::map<unsigned, std::string> formatsOf(pugi::xml_node cache, unsigned count) {
+        std::map<unsigned, std::string> formats;
+        if (childCalled(cache, "ptCount").attribute("val").as_uint() != count) return formats;
+        for (const pugi::xml_node point : cache.children()) {
+            if (const auto format = point.attribute("formatCode"))
+                formats[point.attribute("idx").as_uint()] = format.value();
+        }
+        return formats;
+    }
+
+    void makeTexts(Reference& one) const {
+        one.memory = Reference::Memory::Texts;
+        one.node.set_name(named("strRef").c_str());
+        one.cache.set_name(named("strCache").c_str());
+        one.cache.remove_child(childCalled(one.cache, "formatCode"));
+        for (pugi::xml_node point : one.cache.children()) point.remove_attribute("formatCode");
+    }
+
+    std::vector<Reference> references_;
+    ChartCells cells_;
+    /// The prefix of the chart's elements, with its colon.
+    std::string element_;
+    bool drawsHidden_;
+};
+
+}  // namespace
+
+void rememberCells(const Xml& chart, const Copied& copied) {
+    std::vector<Reference> references = referencesIn(chart);
+    if (references.empty()) return;
+    const std::string_view root = chart.root().name();
+    const auto shownOnly =
+        childNamed(childNamed(chart.root(), ns::chart, "chart"), ns::chart, "plotVisOnly");
+    Memories(copied, std::move(references), std::string(root.substr(0, root.find(':') + 1)),
+             shownOnly && !shownOnly.attribute("val").as_bool(true))
+        .refresh();
+}
+
+}  // namespace office::package

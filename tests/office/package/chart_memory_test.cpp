@@ -1,0 +1,184 @@
+#include <fmt/format.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "office/package/drawing/chart_memory.h"
+#include "office/package/workbook/chart_cells.h"
+#include "support/copied_double.h"
+
+namespace {
+
+using namespace office::package;
+using office::CellContent;
+using Content = CellContent::Kind;
+
+/// A copy out of a workbook of one sheet, "Data", with numbers that are shown as "#1", "#2".
+struct CopyOfCells : support::CopiedDouble {
+    CopyOfCells() : CopiedDouble(office::TableLook()) {}
+
+    [[nodiscard]] std::optional<office::CellContents> contentsOf(
+        const std::string& sheet, const std::string& address) const override {
+        if (sheet != "Data") return std::nullopt;
+        const CellBlock block = office::model::excel::blockOf(address).value();
+        office::CellContents found;
+        for (std::size_t row = 0; row < rows.size(); ++row) {
+            const auto place = static_cast<std::int32_t>(row);
+            if (place < block.firstRow || place > block.lastRow) continue;
+            found.showsRow.push_back(row != hiddenRow);
+            for (auto column = block.firstColumn; column <= block.lastColumn; ++column)
+                found.cells.push_back(rows[row].at(static_cast<std::size_t>(column)));
+        }
+        found.showsColumn.assign(static_cast<std::size_t>(block.columns()), true);
+        return found;
+    }
+    [[nodiscard]] std::string shownTextOf(const std::string& /*sheet*/,
+                                          const std::string& address) const override {
+        const CellBlock block = office::model::excel::blockOf(address).value();
+        return fmt::format("#{}", rows.at(static_cast<std::size_t>(block.firstRow))
+                                      .at(static_cast<std::size_t>(block.firstColumn))
+                                      .number);
+    }
+
+    std::vector<std::vector<CellContent>> rows;
+    std::size_t hiddenRow = 99;
+};
+
+CellContent holding(double value) {
+    return {Content::Number, value, {}};
+}
+CellContent holding(const char* value) {
+    return {Content::Text, 0, value};
+}
+
+/// What a chart remembers: points parted by "|", those that it hasn't got as "-".
+std::string rememberedPoints(const std::string& points) {
+    std::string marks;
+    unsigned count = 0;
+    for (std::size_t from = 0; from <= points.size(); ++count) {
+        const std::size_t end = std::min(points.find('|', from), points.size());
+        const std::string one = points.substr(from, end - from);
+        if (one != "-") marks += fmt::format(R"(<c:pt idx="{}"><c:v>{}</c:v></c:pt>)", count, one);
+        from = end + 1;
+    }
+    return fmt::format(R"(<c:ptCount val="{}"/>{})", count, marks);
+}
+
+std::string numbersOf(const std::string& formula, const std::string& points) {
+    return fmt::format(
+        "<c:numRef><c:f>{}</c:f><c:numCache><c:formatCode>0.0</c:formatCode>{}</c:numCache></"
+        "c:numRef>",
+        formula, rememberedPoints(points));
+}
+
+std::string textsOf(const std::string& formula, const std::string& points) {
+    return fmt::format("<c:strRef><c:f>{}</c:f><c:strCache>{}</c:strCache></c:strRef>", formula,
+                       rememberedPoints(points));
+}
+
+std::string levelsOf(const std::string& inner, const std::string& outer) {
+    const auto level = [](const std::string& points) {
+        const std::string all = rememberedPoints(points);
+        return all.substr(all.find("/>") + 2);
+    };
+    return fmt::format(R"(<c:multiLvlStrRef><c:f>Data!$A$2:$B$5</c:f><c:multiLvlStrCache>)"
+                       R"(<c:ptCount val="{}"/><c:lvl>{}</c:lvl><c:lvl>{}</c:lvl>)"
+                       R"(</c:multiLvlStrCache></c:multiLvlStrRef>)",
+                       std::count(inner.begin(), inner.end(), '|') + 1, level(inner), level(outer));
+}
+
+std::string chartOf(const std::string& name, const std::string& categories,
+                    const std::string& values) {
+    return fmt::format(
+        R"(<c:chartSpace xmlns:c="{}"><c:chart><c:ser><c:tx>{}</c:tx><c:cat>{}</c:cat>)"
+        R"(<c:val>{}</c:val></c:ser><c:plotVisOnly val="1"/></c:chart></c:chartSpace>)",
+        ns::chart, name, categories, values);
+}
+
+TEST(AChartsMemory, IsThatOfItsCells) {
+    struct Case {
+        const char* about;
+        std::string name, categories, values;
+        /// Empty for what stays.
+        std::string nameAfter, categoriesAfter, valuesAfter;
+    };
+    const std::string name = textsOf("Data!$C$1", "Net"),
+                      names = textsOf("Data!$B$2:$B$5", "a|b|c|d");
+    const char* const places = "Data!$C$2:$C$5";
+    const std::string values = numbersOf(places, "1.5|-|0|#N/A");
+    const Case cases[] = {
+        {"what agrees", name, names, numbersOf(places, "1.50000000000001|-|-|#DIV/0!"), {}, {}, {}},
+        {"what is no cell", name, names, numbersOf("[0]!Sales", "8|9"), {}, {}, {}},
+        {"what is on no sheet", name, names, numbersOf("Gone!$A$1:$A$2", "8|9"), {}, {}, {}},
+        {"values",
+         name,
+         names,
+         numbersOf(places, "7|8|0|-"),
+         {},
+         {},
+         numbersOf(places, "1.5|-|0|#N/A")},
+        {"none", name, names, numbersOf(places, "-"), {}, {}, numbersOf(places, "1.5|-|0|#N/A")},
+        {"several areas",
+         name,
+         names,
+         numbersOf("(Data!$C$5,Data!$C$2:$C$3)", "1|2|3"),
+         {},
+         {},
+         numbersOf("(Data!$C$5,Data!$C$2:$C$3)", "#N/A|1.5|-")},
+        {"texts",
+         textsOf("Data!$C$1", "Gross"),
+         textsOf("Data!$B$2:$B$5", "a|b|c|-"),
+         values,
+         name,
+         names,
+         {}},
+        {"texts for numbers", name, numbersOf("Data!$B$2:$B$5", "1|2|3|4"), values, {}, names, {}},
+        {"shown numbers", textsOf("Data!$C$2", "#1.5"), names, values, {}, {}, {}},
+        {"changed numbers",
+         textsOf("Data!$C$2", "#9"),
+         names,
+         values,
+         textsOf("Data!$C$2", "#1.5"),
+         {},
+         {}},
+        {"levels",
+         name,
+         levelsOf("a|b|c|e", "X|-|Y|-"),
+         values,
+         {},
+         levelsOf("a|b|c|d", "X|-|Y|-"),
+         {}},
+        {"levels that stand", name, levelsOf("a|b|c|d", "X|-|Y|-"), values, {}, {}, {}},
+    };
+    CopyOfCells copied;
+    copied.rows = {{{}, {}, holding("Net")},
+                   {holding("X"), holding("a"), holding(1.5)},
+                   {{}, holding("b"), {}},
+                   {holding("Y"), holding("c"), holding("n/a")},
+                   {{}, holding("d"), {Content::Error, 0, {}}}};
+    const auto expect = [&](const char* about, const std::string& before,
+                            const std::string& after) {
+        const Xml xml(before, "chart");
+        rememberCells(xml, copied);
+        EXPECT_EQ(xml.bytes(), Xml(after, "chart").bytes()) << about;
+    };
+    const auto either = [](const std::string& after, const std::string& before) {
+        return after.empty() ? before : after;
+    };
+    for (const Case& one : cases)
+        expect(one.about, chartOf(one.name, one.categories, one.values),
+               chartOf(either(one.nameAfter, one.name), either(one.categoriesAfter, one.categories),
+                       either(one.valuesAfter, one.values)));
+    // All lines leave the same places out; a heading stays with what is left below it.
+    copied.hiddenRow = 1;
+    expect("hidden", chartOf(name, levelsOf("a|b|c|d", "X|-|Y|-"), values),
+           chartOf(name, levelsOf("b|c|d", "X|Y|-"), numbersOf(places, "-|0|#N/A")));
+    copied.hiddenRow = 0;
+    expect("a hidden name", chartOf(textsOf("Data!$C$1", "Old"), names, values),
+           chartOf(name, names, values));
+}
+
+}  // namespace
