@@ -41,6 +41,13 @@ TEST(AFormula, LeavesItsSheetForOtherSheetsNamesTablesAndTexts) {
         {"DOUBLE(1)", true},
         {"netOf(A1)", true},
         {"getpivotdata(\"x\",A1)", true},
+        {"CUBEKPIMEMBER(\"x\",\"y\",1)", true},
+        {"HYPERLINK(\"#'Costs 2026'!A1\",\"Costs\")", true},
+        {"HYPERLINK(\"#Secret\")", true},
+        {"HYPERLINK(\"[Book.xlsx]Costs!A1\")", true},
+        {"HYPERLINK(\"#'My ''own'' data'!A1\",\"Costs!A1\")", false},
+        {"HYPERLINK(\"https://example.org/#Costs!A1\")", false},
+        {"IF(A1=\"#Costs!A1\",1)", false},
     };
     for (const auto& [formula, leaves] : rows)
         EXPECT_EQ(reach.leavesSheet(formula), leaves) << formula;
@@ -76,22 +83,50 @@ std::string chart() {
 
 TEST(ASheetAlone, IsRefusedWithoutTheValuesThatItWouldHaveToKeep) {
     const support::TemporaryFolder folder;
-    const std::pair<const char*, bool> cells[] = {
-        {"<c r=\"A1\"><f>Plot!A1</f><v/></c>", false},
-        {"<c r=\"A1\"><f>Plot!A1</f></c>", false},
-        {"<c r=\"A1\"><f>B1*2</f></c>", true},
-        {"<c r=\"A1\" t=\"str\"><f>Plot!A1</f><v></v></c>", true},
-        {"<c r=\"A1\"><f>Plot!A1</f><v>0</v></c>", true}};
-    for (const auto& [cell, isFine] : cells) {
+    struct Stored {
+        std::string about;
+        zip_bytes::Item part;
+        bool isFine;
+    };
+    const auto cell = [](const char* one, bool isFine) {
+        return Stored{one,
+                      {"xl/sheet1.xml",
+                       sheet("<sheetData><row r=\"1\">" + std::string(one) + "</row></sheetData>")},
+                      isFine};
+    };
+    const auto values = [](const char* reference, bool isFine) {
+        return Stored{
+            reference,
+            {"xl/chart1.xml",
+             "<c:chartSpace "
+             "xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\"><c:val>" +
+                 std::string(reference) + "</c:val></c:chartSpace>"},
+            isFine};
+    };
+    const Stored contents[] = {
+        cell("<c r=\"A1\"><f>Plot!A1</f><v/></c>", false),
+        cell("<c r=\"A1\"><f>Plot!A1</f></c>", false),
+        cell("<c r=\"A1\"><f>B1*2</f></c>", true),
+        cell("<c r=\"A1\" t=\"str\"><f>Plot!A1</f><v></v></c>", true),
+        cell("<c r=\"A1\"><f>Plot!A1</f><v>0</v></c>", true),
+        values("<c:numRef><c:f>Data!A1</c:f></c:numRef>", true),
+        values("<c:numRef><c:f>Plot!A1</c:f></c:numRef>", false),
+        values("<c:strRef><c:f>Plot!A1</c:f><c:strCache><c:ptCount val=\"0\"/></c:strCache>"
+               "</c:strRef>",
+               false),
+        values("<c:numRef><c:f>Plot!A1</c:f><c:numCache><c:ptCount val=\"1\"/></c:numCache>"
+               "</c:numRef>",
+               true)};
+    for (const Stored& one : contents) {
         const std::string file = folder.write(
-            "Book.xlsx", small_workbook::bytes(
-                             {{"xl/sheet1.xml", sheet("<sheetData><row r=\"1\">" +
-                                                      std::string(cell) + "</row></sheetData>")}}));
+            "Book.xlsx", small_workbook::bytes({one.part,
+                                                {"xl/_rels/drawing1.xml.rels",
+                                                 relationshipsTo({{"chart", "chart1.xml"}})}}));
         WorkbookFiles workbooks;
         const auto obstacle =
             objectObstacle(office::PasteAs::Embedded,
                            {CopySource::Kind::Cells, file, "Data", "", "$A$1"}, workbooks, true);
-        EXPECT_EQ(obstacle.empty(), isFine) << cell << obstacle;
+        EXPECT_EQ(obstacle.empty(), one.isFine) << one.about << obstacle;
     }
 }
 
@@ -151,7 +186,7 @@ TEST(ASheetAlone, HandsOnNothingOfTheOthers) {
         "<formula>B1&gt;1</formula></cfRule></conditionalFormatting>"
         "<dataValidations count=\"2\"><dataValidation sqref=\"A1\"><formula1>Zebra!A1:A3</formula1>"
         "</dataValidation><dataValidation sqref=\"B1\"><formula1>C1:C3</formula1></dataValidation>"
-        "</dataValidations><hyperlinks><hyperlink ref=\"A1\" "
+        "</dataValidations><hyperlinks>\n<hyperlink ref=\"A1\" "
         "location=\"'Zebra'!A1\"/></hyperlinks>"
         "<extLst><ext "
         "uri=\"{05C60535-1F16-4fd2-B633-F4F36F0B64E0}\"><sparklineGroups><sparklineGroup>"
@@ -181,7 +216,9 @@ TEST(ASheetAlone, HandsOnNothingOfTheOthers) {
                "&quot;Zebra&quot;\"/>"
                "<numFmt numFmtId=\"171\" formatCode=\"0 &quot;t&quot;\"/></numFmts><cellXfs>"
                "<xf numFmtId=\"0\"/><xf numFmtId=\"171\"/><xf numFmtId=\"170\"/></cellXfs>"
-               "<cellStyles><cellStyle name=\"Zebra\" xfId=\"1\"/></cellStyles><dxfs><dxf><numFmt "
+               "<cellStyles>\n<cellStyle name=\"Normal\" builtinId=\"0\"/>\n<cellStyle "
+               "name=\"Zebra\" "
+               "xfId=\"1\"/>\n</cellStyles><dxfs><dxf><numFmt "
                "numFmtId=\"170\" formatCode=\"&quot;Zebra&quot;\"/></dxf></dxfs>",
 
                "styleSheet")},
@@ -224,6 +261,7 @@ TEST(ASheetAlone, HandsOnNothingOfTheOthers) {
         EXPECT_NE(left.find(kept), std::string::npos) << kept << " in " << left;
     for (const char* gone : {"sqref=\"A1\"", "hyperlinks", "oleObject", "sparkline"})
         EXPECT_EQ(left.find(gone), std::string::npos) << gone;
+    EXPECT_NE(copy.read("/xl/styles.xml").find("<cellStyles count=\"1\">"), std::string::npos);
     EXPECT_NE(copy.read("/xl/strings.xml").find("<si><t>mine</t></si><si><t>too</t></si>"),
               std::string::npos);
     const std::string values = copy.read("/xl/chart1.xml");

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "office/package/workbook/sheet_markup.h"
+#include "office/package/package.h"
 
 namespace office::package {
 
@@ -79,16 +79,29 @@ void putText(pugi::xml_node reference, pugi::xml_node cache) {
     holder.remove_child(reference);
 }
 
-void putValues(pugi::xml_node reference) {
+/// What a reference remembers; blank cells count as points.
+pugi::xml_node cacheOf(pugi::xml_node reference) {
     const std::string_view kind = localName(reference);
-    if (kind == "numRef") {
-        putPoints(reference, childOf(reference, "numCache"), "numLit");
-    } else if (kind == "multiLvlStrRef") {
-        putPoints(reference, childOf(reference, "multiLvlStrCache"), "strLit");
-    } else if (localName(reference.parent()) == "tx") {
-        putText(reference, childOf(reference, "strCache"));
+    const auto cache = childOf(reference, kind == "numRef"   ? "numCache"
+                                          : kind == "strRef" ? "strCache"
+                                                             : "multiLvlStrCache");
+    const bool isEmpty = childOf(cache, "ptCount").attribute("val").as_uint() == 0 &&
+                         !childOf(cache, "pt") && !childOf(cache, "lvl");
+    if (isEmpty)
+        throw PackageError(Fault::Damaged,
+                           "a chart draws on another sheet, and its values are not stored: a "
+                           "spreadsheet program that opens and saves it stores them");
+    return cache;
+}
+
+void putValues(pugi::xml_node reference) {
+    const pugi::xml_node cache = cacheOf(reference);
+    if (localName(reference) == "numRef") {
+        putPoints(reference, cache, "numLit");
+    } else if (localName(reference) == "strRef" && localName(reference.parent()) == "tx") {
+        putText(reference, cache);
     } else {
-        putPoints(reference, childOf(reference, "strCache"), "strLit");
+        putPoints(reference, cache, "strLit");
     }
 }
 

@@ -11,9 +11,9 @@ namespace office::package {
 namespace {
 
 /// Functions whose cells don't stand in the formula, or not on the sheet.
-constexpr std::array<std::string_view, 9> farFunctions = {
-    "indirect", "getpivotdata",     "rtd",          "cubemember",        "cubevalue",
-    "cubeset",  "cuberankedmember", "cubesetcount", "cubememberproperty"};
+constexpr std::array<std::string_view, 10> farFunctions = {
+    "indirect", "getpivotdata",     "rtd",          "cubemember",         "cubevalue",
+    "cubeset",  "cuberankedmember", "cubesetcount", "cubememberproperty", "cubekpimember"};
 
 bool isOfWord(char c) {
     const auto code = static_cast<unsigned char>(c);
@@ -46,7 +46,7 @@ private:
     void step() {
         const char c = next();
         if (c == '"') {
-            static_cast<void>(quoted('"'));
+            text(quoted('"'));
         } else if (c == '\'') {
             sheet(quoted('\''));
         } else if (c == '#') {
@@ -77,6 +77,13 @@ private:
         return inner;
     }
 
+    /// Where a link leads is told by a text.
+    void text(std::string_view literal) {
+        if (!hasLink_) return;
+        if (literal.starts_with('[')) finding_.leaves = true;
+        if (literal.starts_with('#')) finding_.leaves = reach_.leavesSheet(literal.substr(1));
+    }
+
     /// The name of a sheet, ahead of its mark.
     void sheet(std::string_view name) {
         if (next() == '!') ++at_;
@@ -98,6 +105,7 @@ private:
         const std::string name = lowerCase(found);
         if (next() == '(') {
             finding_.leaves = isFarFunction(found, name);
+            hasLink_ = hasLink_ || name == "hyperlink";
             return;
         }
         const bool isNumber = found.front() >= '0' && found.front() <= '9';
@@ -141,6 +149,7 @@ private:
     std::string_view text_;
     std::size_t at_ = 0;
     Finding finding_;
+    bool hasLink_ = false;
 };
 
 FormulaReach::FormulaReach(std::string_view sheet) : sheet_(sheet) {}

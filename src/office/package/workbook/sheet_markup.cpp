@@ -173,9 +173,11 @@ void reduceStyles(pugi::xml_node root, const std::set<unsigned>& used) {
     keepChildren(styles, [&](pugi::xml_node style) {
         return style.attribute("builtinId") || used.contains(style.attribute("xfId").as_uint());
     });
-    if (styles)
-        attributeFor(styles, "count")
-            .set_value(static_cast<unsigned>(std::distance(styles.begin(), styles.end())));
+    const std::size_t left = childrenNamed(styles, ns::spreadsheet, "cellStyle").size();
+    if (left == 0)
+        root.remove_child(styles);
+    else
+        attributeFor(styles, "count").set_value(left);
 }
 
 }  // namespace
@@ -194,7 +196,7 @@ void reduceSheet(const Xml& sheet, const FormulaReach& reach) {
         keepChildren(extensions, [](pugi::xml_node child) {
             return keptExtensions.contains(child.attribute("uri").value());
         });
-        if (!extensions.first_child()) root.remove_child(extensions);
+        if (!firstElement(extensions)) root.remove_child(extensions);
     }
     reduceRules(root, reach);
     reduceCells(sheetChild(root, "sheetData"), reach);
@@ -202,7 +204,7 @@ void reduceSheet(const Xml& sheet, const FormulaReach& reach) {
         keepChildren(links, [&](pugi::xml_node link) {
             return !reach.leavesSheet(link.attribute("location").value());
         });
-        if (!links.first_child()) root.remove_child(links);
+        if (!firstElement(links)) root.remove_child(links);
     }
 }
 
@@ -299,11 +301,11 @@ void reduceFormats(const Xml& styles, const Xml& sheet) {
     keepChildren(all, [&](pugi::xml_node format) {
         return formats.contains(format.attribute("numFmtId").value());
     });
-    const auto left = std::distance(all.begin(), all.end());
+    const std::size_t left = childrenNamed(all, ns::spreadsheet, "numFmt").size();
     if (left == 0)
         styles.root().remove_child(all);
     else
-        attributeFor(all, "count").set_value(static_cast<unsigned>(left));
+        attributeFor(all, "count").set_value(left);
 }
 
 }  // namespace office::package
