@@ -27,6 +27,8 @@ struct CellBar {
     /// Of its left and of its right end, 0xBBGGRR.
     std::int32_t leftColour = 0;
     std::int32_t rightColour = 0;
+    /// Whether it stands for the text.
+    bool isAlone = false;
 
     bool operator==(const CellBar&) const = default;
 };
@@ -80,6 +82,12 @@ struct TableLook {
 
     [[nodiscard]] const CellLook& at(std::size_t row, std::size_t column) const {
         return cells.at(row * columnWidthsPt.size() + column);
+    }
+    /// For a place that draws the bars: without the texts that they stand for.
+    void leaveTextsToBars() {
+        for (CellLook& cell : cells) {
+            if (cell.bar && cell.bar->isAlone) cell.text.clear();
+        }
     }
     [[nodiscard]] double widthPt() const {
         double all = 0;

@@ -179,7 +179,8 @@ TEST_F(ExcelTables, HaveTheBarsThatFormatsDraw) {
     std::vector<std::string> found;
     const TableLook table = tableOf("Bars", "A1:F3");
     EXPECT_EQ(table.at(0, 4).text, "2");
-    EXPECT_EQ(table.at(0, 5).text, "") << "a bar alone";
+    EXPECT_EQ(table.at(0, 5).text, "2") << "for programs that draw no bars";
+    EXPECT_TRUE(table.at(0, 5).bar.value().isAlone);
     for (const CellLook& look : table.cells) {
         found.push_back(look.bar
                             ? fmt::format("{:.3g}-{:.3g} {:06X}-{:06X}", look.bar->from,

@@ -115,6 +115,8 @@ TEST_F(Table, LooksAsItsCellsDo) {
     look.cells[2].text = "one\n\ntwo";
     look.cells[2].across = CellLook::Across::Right;
     look.cells[2].bottom = {1.5, 0, CellLine::Style::Double};
+    look.cells[5].text = "9";
+    look.cells[5].bar = {0, 0, 0, 0, true};
     look.cells[5].across = CellLook::Across::Centre;
     look.cells[5].left = {0.1, 0, CellLine::Style::Dotted};
     look.cells[6].text = "up";

@@ -141,15 +141,17 @@ std::optional<DataBars::Bars> DataBars::barsOf(
     return bars;
 }
 
-std::optional<DataBars::Bar> DataBars::barOf(std::int32_t column, std::int32_t row,
-                                             double number) const {
+std::optional<office::CellBar> DataBars::barOf(std::int32_t column, std::int32_t row,
+                                               double number) const {
     const auto found = std::find_if(all_.begin(), all_.end(), [&](const Bars& bars) {
         return std::any_of(bars.blocks.begin(), bars.blocks.end(), [&](const auto& block) {
             return intersection(block, model::CellBlock::cell(row, column)).has_value();
         });
     });
     if (found == all_.end()) return std::nullopt;
-    return Bar{lookOf(*found, number), found->isAlone};
+    office::CellBar look = lookOf(*found, number);
+    look.isAlone = found->isAlone;
+    return look;
 }
 
 office::CellBar DataBars::lookOf(const Bars& bars, double number) {

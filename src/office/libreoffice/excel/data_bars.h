@@ -26,14 +26,9 @@ class DataBars {
 public:
     DataBars(SheetRecord& sheet, const model::CellBlock& block);
 
-    struct Bar {
-        office::CellBar look;
-        /// Whether the number is not shown with it.
-        bool isAlone = false;
-    };
     /// The bar of a cell with this number, by its place on the sheet.
-    [[nodiscard]] std::optional<Bar> barOf(std::int32_t column, std::int32_t row,
-                                           double number) const;
+    [[nodiscard]] std::optional<office::CellBar> barOf(std::int32_t column, std::int32_t row,
+                                                       double number) const;
 
 private:
     enum class Axis { None, Middle, Automatic };

@@ -33,6 +33,8 @@ const ItemRemarks::Text tooWide = {
     "{} will be pictures: each has more columns than a table can have there."};
 const ItemRemarks::Text icons = {"The table of {} will be without the icons in its cells.",
                                  "The tables of {} will be without the icons in their cells."};
+const ItemRemarks::Text bars = {"The table of {} will be without the bars in its cells.",
+                                "The tables of {} will be without the bars in their cells."};
 const ItemRemarks::Text severalLooks = {
     "In the table of {} the text of each cell will have one look alone, where it has several now.",
     "In the tables of {} the text of each cell will have one look alone, where it has several "
@@ -72,14 +74,18 @@ std::vector<Frame> framesOn(const SheetRecord& sheet) {
     return frames;
 }
 
-/// The cells whose conditional formats draw icons.
-std::vector<CellBlock> blocksWithIcons(const SheetRecord& sheet) {
-    constexpr CellBlock all = {0, 0, CellBlock::lastColumnOfSheet, CellBlock::lastRowOfSheet};
+/// The cells whose conditional formats draw icons, or bars.
+std::vector<CellBlock> blocksWith(sal_Int32 kind, const SheetRecord& sheet) {
     std::vector<CellBlock> found;
-    for (const auto& [blocks, entry] :
-         conditionsOn(sheet, all, css::sheet::ConditionEntryType::ICONSET))
+    for (const auto& [blocks, entry] : conditionsOn(sheet, CellBlock::wholeSheet(), kind))
         found.insert(found.end(), blocks.begin(), blocks.end());
     return found;
+}
+
+bool meetAny(const std::vector<CellBlock>& blocks, const CellBlock& cells) {
+    return std::any_of(blocks.begin(), blocks.end(), [&](const CellBlock& each) {
+        return intersection(each, cells).has_value();
+    });
 }
 
 /// Whether parts of a cell's text look different. The suite calls a look ambiguous then, whichever
@@ -113,9 +119,11 @@ bool hasCellOfSeveralLooks(const SheetRecord& sheet, const CellBlock& block) {
 
 class LossesOfSheet {
 public:
-    explicit LossesOfSheet(std::shared_ptr<SheetRecord> sheet)
+    LossesOfSheet(std::shared_ptr<SheetRecord> sheet, bool drawsBars)
         : sheet_(std::move(sheet)),
-          icons_(blocksWithIcons(*sheet_)),
+          icons_(blocksWith(css::sheet::ConditionEntryType::ICONSET, *sheet_)),
+          lostBars_(drawsBars ? std::vector<CellBlock>()
+                              : blocksWith(css::sheet::ConditionEntryType::DATABAR, *sheet_)),
           frames_(framesOn(*sheet_)) {}
 
     [[nodiscard]] std::optional<CellBlock> drawnPartOf(const CellBlock& block) const {
@@ -132,10 +140,8 @@ public:
             remarks.add(tooWide, item);
             return;
         }
-        if (std::any_of(icons_.begin(), icons_.end(), [&](const CellBlock& each) {
-                return intersection(each, block).has_value();
-            }))
-            remarks.add(icons, item);
+        if (meetAny(icons_, block)) remarks.add(icons, item);
+        if (meetAny(lostBars_, block)) remarks.add(bars, item);
         if (hasCellOfSeveralLooks(*sheet_, block)) remarks.add(severalLooks, item);
         if (frames_.empty()) return;
         const PlaceOfCells place = excel::placeOf(sheet_->range(block));
@@ -151,13 +157,15 @@ private:
 
     std::shared_ptr<SheetRecord> sheet_;
     std::vector<CellBlock> icons_;
+    std::vector<CellBlock> lostBars_;
     std::vector<Frame> frames_;
 };
 
 }  // namespace
 
 std::vector<std::string> lossesOfTables(CalcDocument& book,
-                                        const std::vector<office::PasteItem>& items) {
+                                        const std::vector<office::PasteItem>& items,
+                                        bool drawsBars) {
     std::map<std::string, std::unique_ptr<const LossesOfSheet>> sheets;
     ItemRemarks remarks;
     for (const office::PasteItem& item : items) {
@@ -167,7 +175,7 @@ std::vector<std::string> lossesOfTables(CalcDocument& book,
         if (!losses) {
             auto sheet = std::dynamic_pointer_cast<SheetRecord>(book.findSheet(item.source.sheet));
             if (!sheet) continue;
-            losses = std::make_unique<const LossesOfSheet>(std::move(sheet));
+            losses = std::make_unique<const LossesOfSheet>(std::move(sheet), drawsBars);
         }
         if (const auto drawn = losses->drawnPartOf(*block)) losses->tell(item, *drawn, remarks);
     }

@@ -130,11 +130,8 @@ public:
             put(dressed(cell.look, row, column), {shown_.columns[column], shown_.rows[row]});
             const CellFormat& own = formatAt(row, column);
             if (cell.number) {
-                if (const auto bar =
-                        bars_.barOf(shown_.columns[column], shown_.rows[row], *cell.number)) {
-                    at(row, column).bar = bar->look;
-                    if (bar->isAlone) at(row, column).text.clear();
-                }
+                at(row, column).bar =
+                    bars_.barOf(shown_.columns[column], shown_.rows[row], *cell.number);
                 at(row, column).fontColour = sheet_.book().formats().colourOf(
                     *cell.number, own.numberFormat, cell.look.fontColour);
             }

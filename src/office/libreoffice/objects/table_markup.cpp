@@ -217,7 +217,7 @@ TableDocument::Attributes TableDocument::fillOf(const CellLook& cell) {
         return {{"draw:fill", "solid"}, {"draw:fill-color", office::colourText(*cell.fill)}};
     }
     const std::string name = fmt::format("bar{}", namesOfStyles_.size());
-    const auto& [from, to, left, right] = *cell.bar;
+    const auto& [from, to, left, right, isAlone] = *cell.bar;
     const auto addGradient = [&](const char* element) {
         pugi::xml_node gradient = styles_.append_child(element);
         setAttributes(gradient,

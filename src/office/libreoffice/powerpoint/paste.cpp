@@ -105,7 +105,8 @@ model::DeckShapePtr ImpressSlide::paste(const office::Copied& copied, PasteAs as
         return pasted(addChart(*this, *chart, size), "Chart", place.corner);
     if (copied.source().kind != CopySource::Kind::Cells)
         office::refuse(pasteSpecial, "It can't be pasted in this form");
-    const office::TableLook table = copied.table();
+    office::TableLook table = copied.table();
+    table.leaveTextsToBars();
     double scale = place.scale;
     // LibreOffice doesn't scale the text with the table later.
     if (const auto& room = deck_.desk().clipboard().room)

@@ -88,7 +88,8 @@ private:
         const auto block = drawnPart(found->blocks.front(), *found->home.sheet);
         if (!block) refuse(source_, "There is nothing in these rows or columns");
         const PlacedCharts& placed = placedCharts(*found->home.sheet);
-        const TableLook look = lookOf(found->home, *block, placed);
+        TableLook look = lookOf(found->home, *block, placed);
+        look.leaveTextsToBars();
         const std::vector<PagePicture> charts = chartsOn(found->home, placed, look);
         if (charts.empty() && !showsCells(look)) gaps.emplace(asked, look);
         return itemOf(look, charts);

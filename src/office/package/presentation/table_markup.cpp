@@ -255,7 +255,8 @@ std::string tableMarkup(const TableLook& look, double scale, const MeasureText& 
 }
 
 FileShapePtr pasteTable(FileSlide& slide, const Copied& copied) {
-    const TableLook look = copied.table();
+    TableLook look = copied.table();
+    look.leaveTextsToBars();
     const model::PastePlace place =
         model::pastePlaceFor({look.widthPt(), look.heightPt()}, slide.deck(), slide);
     return slide.addFrame("Table", "noGrp", place, tableSpace,
