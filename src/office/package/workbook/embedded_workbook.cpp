@@ -148,8 +148,10 @@ std::string copyOnSheet(const WorkbookFile& workbook, const WorkbookSheet& sheet
 
 const std::string& rememberedCopy(WorkbookFile& workbook, const WorkbookSheet& sheet,
                                   bool sheetAlone) {
-    return workbook.remembered(fmt::format("{}|{}", sheet.part, sheetAlone),
-                               [&] { return copyOnSheet(workbook, sheet, sheetAlone); });
+    const auto make = [&] { return copyOnSheet(workbook, sheet, sheetAlone); };
+    // Whole copies are as large as the workbook, one for each sheet.
+    return sheetAlone ? workbook.remembered(sheet.part, make)
+                      : workbook.rememberedLast(sheet.part, make);
 }
 
 }  // namespace

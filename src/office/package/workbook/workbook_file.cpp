@@ -205,6 +205,17 @@ const std::string& WorkbookFile::remembered(const std::string& purpose,
     return known.get();
 }
 
+const std::string& WorkbookFile::rememberedLast(const std::string& purpose,
+                                                const std::function<std::string()>& make) {
+    if (!last_.valid() || lastPurpose_ != purpose) {
+        // Ahead of the next one, so that there are never two.
+        last_ = {};
+        lastPurpose_ = purpose;
+        last_ = madeOnce<std::string>(make);
+    }
+    return last_.get();
+}
+
 WorkbookFilePtr WorkbookFiles::at(const std::string& path) {
     const std::filesystem::path file(std::u8string(path.begin(), path.end()));
     std::error_code problem;

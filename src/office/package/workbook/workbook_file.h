@@ -79,6 +79,9 @@ public:
     /// What is made of it for a purpose, once for all that ask.
     [[nodiscard]] const std::string& remembered(const std::string& purpose,
                                                 const std::function<std::string()>& make);
+    /// The same for what is large: it holds until something is made for another purpose.
+    [[nodiscard]] const std::string& rememberedLast(const std::string& purpose,
+                                                    const std::function<std::string()>& make);
 
 private:
     void readSheets();
@@ -93,6 +96,8 @@ private:
     /// By the part of the sheet.
     std::unordered_map<std::string, std::shared_future<std::vector<WorkbookChart>>> charts_;
     std::unordered_map<std::string, std::shared_future<std::string>> remembered_;
+    std::string lastPurpose_;
+    std::shared_future<std::string> last_;
 };
 
 using WorkbookFilePtr = std::shared_ptr<WorkbookFile>;
