@@ -112,7 +112,8 @@ void writeLooks(pugi::xml_node chartSpace, int thinLine) {
                 if (isNamed(child, ns::chart, one.name)) writeWidth(child, one.order, thinLine);
             }
             // Deeper there are values and texts.
-            if (isNamed(node, ns::chart, "plotArea") || isNamed(child, ns::chart, "ser"))
+            if (isNamed(node, ns::chart, "plotArea") || isNamed(child, ns::chart, "ser") ||
+                isNamed(child, ns::chart, "dLbls"))
                 open.push_back(child);
         }
     }
