@@ -47,8 +47,8 @@ FlagDefaults defaultsOf(Package& book) {
         const std::string part = book.partOfType("/", "extended-properties");
         if (part.empty()) return FlagDefaults::Standard;
         const Xml properties(book.read(part), part);
-        const std::string writer = properties.root().child("Application").text().get();
-        const std::string version = properties.root().child("AppVersion").text().get();
+        const std::string writer = childCalled(properties.root(), "Application").text().get();
+        const std::string version = childCalled(properties.root(), "AppVersion").text().get();
         return lowerCase(writer).starts_with("microsoft") && version.starts_with("12.")
                    ? FlagDefaults::Excel2007
                    : FlagDefaults::Standard;
@@ -61,6 +61,13 @@ FlagDefaults defaultsOf(Package& book) {
 std::string overrideOf(const Xml& theme) {
     const Xml made(emptyTheme, "theme");
     const auto elements = childNamed(theme.root(), ns::drawing, "themeElements");
+    // Under the theme's own prefixes.
+    for (const pugi::xml_node around : {elements, theme.root()}) {
+        for (const pugi::xml_attribute attribute : around.attributes()) {
+            if (attribute.value() == ns::drawing && !made.root().attribute(attribute.name()))
+                made.root().append_copy(attribute);
+        }
+    }
     for (const char* const name : {"clrScheme", "fontScheme", "fmtScheme"}) {
         if (const auto scheme = childNamed(elements, ns::drawing, name)) adopt(made.root(), scheme);
     }

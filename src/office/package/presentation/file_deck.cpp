@@ -278,7 +278,7 @@ void FileDeck::writeCount() {
     const std::string part = package_.partOfType("/", "extended-properties");
     if (part.empty()) return;
     Xml properties(package_.read(part), part);
-    auto count = properties.root().child("Slides");
+    auto count = childCalled(properties.root(), "Slides");
     if (!count || count.text().as_int() == slideCount()) return;
     count.text().set(slideCount());
     package_.replace(part, properties.bytes());
