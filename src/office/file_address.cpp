@@ -26,12 +26,14 @@ std::string addressOf(const std::filesystem::path& path) {
 
 std::string fileAddress(const std::filesystem::path& file, const std::filesystem::path& base) {
     if (!base.empty()) {
-        // Where a link of the file system is on the way, ".." leads to where it points.
+        // Where a link of the file system is on the way, ".." leads to where it points. The file
+        // may be one itself, which is followed when it is opened.
         const auto whole = [](const std::filesystem::path& path) {
             std::error_code problem;
             return std::filesystem::weakly_canonical(std::filesystem::absolute(path), problem);
         };
-        const auto way = whole(file).lexically_relative(whole(base));
+        const auto place = whole(std::filesystem::absolute(file).parent_path()) / file.filename();
+        const auto way = place.lexically_relative(whole(base));
         if (!way.empty()) return addressOf(way);
     }
     const std::string path = addressOf(std::filesystem::absolute(file));

@@ -1,3 +1,4 @@
+#include "office/file_address.h"
 #include "office/package/document/file_documents.h"
 #include "run_stage.h"
 
@@ -116,6 +117,19 @@ TEST_F(RunTest, AnExistingOutputIsReplacedOnlyWhenToldSo) {
     EXPECT_EQ(folder.read("Out.pptx"), "old");
     EXPECT_EQ(exportWith({"--overwrite"}), 0);
     EXPECT_EQ(slidesIn("Out.pptx"), 7);
+}
+
+TEST_F(RunTest, AWorkbookBearsTheNameOfTheLinkThatItIsNamedBy) {
+    namespace fs = std::filesystem;
+    fs::create_directories(folder.path() / "deep/inner");
+    fs::create_directory_symlink("deep/inner", folder.path() / "short");
+    fs::create_symlink("../Book.xlsx", folder.path() / "deep/this month.xlsx");
+    const std::string link = folder.file("deep/this month.xlsx");
+    suite->excel().addFile(link, [](office_double::Workbook& book) { fill(book); });
+    EXPECT_EQ(run({folder.file("short/.././this month.xlsx"), "--list", "--json"}), 0);
+    EXPECT_NE(console.out.find(link), std::string::npos) << console.out << console.error;
+    EXPECT_EQ(run({link, "--output", folder.file("Out.pptx"), "--overwrite"}), 0);
+    EXPECT_EQ(office::fileAddress(link, folder.path() / "deep/inner"), "../this%20month.xlsx");
 }
 
 TEST_F(RunTest, AFileThatTheSuiteCannotOpenIsNamed) {

@@ -26,9 +26,20 @@ Object applicationOf(office::Suite& suite, std::string_view className) {
     return running ? running : suite.start(className);
 }
 
+/// With the links of the file system that it leads through: what is linked to a workbook goes on
+/// following them. ".." behind one leads to where that points, as it does for the system.
 std::string absolutePath(const fs::path& file) {
     std::error_code ignored;
-    return apps::utf8Of(fs::weakly_canonical(fs::absolute(file, ignored), ignored));
+    fs::path path;
+    for (const fs::path& name : fs::absolute(file, ignored)) {
+        if (name == "..") {
+            if (fs::is_symlink(path, ignored)) path = fs::canonical(path, ignored);
+            path = path.parent_path();
+        } else if (name != ".") {
+            path /= name;
+        }
+    }
+    return apps::utf8Of(path);
 }
 
 [[noreturn]] void complainUnopened(const fs::path& file, const office::Failure& failure) {
