@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
+
+#include <array>
 
 #include "apps/murvane_export/errors.h"
 #include "apps/murvane_export/outputs.h"
@@ -90,6 +93,33 @@ TEST_F(OutputsTest, ReplacesWhatItMayAndKeepsItsModeAndGivesANewFileTheUsualOne)
     ::umask(mask);
     EXPECT_EQ(modeOf("old.pptx"), 0604U);
     EXPECT_EQ(modeOf("new.pptx"), 0640U);
+}
+
+TEST_F(OutputsTest, ATeamGoesOnSharingWhatOneOfThemReplacesOrMakes) {
+    // Where this user may give files away; otherwise the group is the same anyway.
+    constexpr gid_t team = 12345;
+    const std::string old = folder.write("old.pptx", "old");
+    const bool gaveAway = ::chown(old.c_str(), static_cast<uid_t>(-1), team) == 0;
+    ::chmod(old.c_str(), 0660);
+    // Of a shared folder: its group may write to new files, whatever the mask of the one who makes
+    // them. Owner, group, mask and others, each with its permissions.
+    const std::array<std::uint16_t, 18> rules = {2,      0,      1,      7,      0xFFFF, 0xFFFF,
+                                                 4,      7,      0xFFFF, 0xFFFF, 0x10,   7,
+                                                 0xFFFF, 0xFFFF, 0x20,   0,      0xFFFF, 0xFFFF};
+    const bool isShared = ::setxattr(folder.path().c_str(), "system.posix_acl_default",
+                                     rules.data(), sizeof rules, 0) == 0;
+    const mode_t mask = ::umask(0077);
+    for (const char* name : {"old.pptx", "new.pptx"}) {
+        const auto output = outputAt(name, overwrite);
+        writeNeighbour(*output, "new");
+        output->commit();
+    }
+    ::umask(mask);
+    struct stat status = {};
+    ASSERT_EQ(::stat(old.c_str(), &status), 0);
+    EXPECT_EQ(modeOf("old.pptx"), 0660U);
+    EXPECT_TRUE(!gaveAway || status.st_gid == team) << status.st_gid;
+    EXPECT_EQ(modeOf("new.pptx"), isShared ? 0660U : 0600U);
 }
 
 TEST_F(OutputsTest, AFileMadeMeanwhileIsLeftAlone) {

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "apps/murvane_export/options.h"
 
@@ -41,8 +42,7 @@ public:
 
 protected:
     /// `UsageError` if the folder that drafts come into is missing or can't be written.
-    Output(const std::filesystem::path& file, const std::filesystem::path& draftPlace,
-           bool overwrites);
+    Output(std::filesystem::path file, std::filesystem::path draftPlace, bool overwrites);
 
     [[nodiscard]] bool overwrites() const { return overwrites_; }
     [[noreturn]] void refuse(const std::string& why) const;

@@ -1,3 +1,4 @@
+#include <fcntl.h>
 #include <fmt/format.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -6,8 +7,9 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <fstream>
+#include <optional>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "apps/murvane_export/errors.h"
@@ -27,26 +29,51 @@ std::string reason() {
     return std::strerror(errno);
 }
 
+/// Whether a file could be made, empty, where there was none.
+bool madeFile(const fs::path& path, mode_t mode) {
+    const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+    if (file >= 0) ::close(file);
+    return file >= 0;
+}
+
 std::string extensionOf(const fs::path& file) {
     return office::lowerCase(apps::utf8Of(file.extension()));
 }
 
-/// A temporary file is made for its owner alone; the output gets the mode of what it replaces, or
-/// that of any new file or folder.
-void adoptMode(const fs::path& made, const fs::path& replaced) {
+/// The mode that a new file or folder gets at a place, found out by making one: the user's mask
+/// decides, or the rules of a folder that is shared.
+std::optional<mode_t> modeOfNew(const fs::path& sample, bool isFolder) {
+    const mode_t all = isFolder ? 0777 : 0666;
+    const bool isMade = isFolder ? ::mkdir(sample.c_str(), all) == 0 : madeFile(sample, all);
+    struct stat status = {};
+    if (!isMade || ::stat(sample.c_str(), &status) != 0) return std::nullopt;
+    std::error_code ignored;
+    fs::remove(sample, ignored);
+    return status.st_mode & 07777U;
+}
+
+/// The mode of a file that is replaced, and its group, so that those who shared it still do. Where
+/// the group can't be had, another one may no more than everybody.
+mode_t modeAndGroupOf(const struct stat& replaced, const fs::path& made) {
+    const mode_t mode = replaced.st_mode & 07777U;
+    struct stat now = {};
+    const bool isOfGroup = ::stat(made.c_str(), &now) != 0 || now.st_gid == replaced.st_gid;
+    if (isOfGroup || ::chown(made.c_str(), static_cast<uid_t>(-1), replaced.st_gid) == 0)
+        return mode;
+    return (mode & ~070U) | ((mode & 07U) << 3U);
+}
+
+/// A temporary file may be made for its owner alone; the output gets the mode of what it replaces,
+/// or that of any new file or folder.
+void adoptMode(const fs::path& made, const fs::path& replaced, const fs::path& draft) {
     struct stat before = {};
-    mode_t mode = 0;
     std::error_code ignored;
     const bool isFolder = fs::is_directory(made, ignored);
-    if (!isFolder && ::stat(replaced.c_str(), &before) == 0) {
-        mode = before.st_mode & 07777U;
-    } else {
-        const mode_t mask = ::umask(0);
-        ::umask(mask);
-        mode = (isFolder ? 0777U : 0666U) & ~mask;
-    }
+    const bool replaces = !isFolder && ::stat(replaced.c_str(), &before) == 0;
+    const std::optional<mode_t> mode =
+        replaces ? modeAndGroupOf(before, made) : modeOfNew(draft / "sample", isFolder);
     // A file system without modes takes none, and needs none.
-    static_cast<void>(::chmod(made.c_str(), mode));
+    if (mode) static_cast<void>(::chmod(made.c_str(), *mode));
 }
 
 /// One file.
@@ -97,7 +124,7 @@ OutputFile::OutputFile(const fs::path& name, const std::vector<std::string>& end
 
 void OutputFile::makeNeighbour(const fs::path& folder) {
     const fs::path made = folder / ("output" + extensionOf(file()));
-    std::ofstream{made};
+    madeFile(made, 0666);
     setNeighbour(made);
 }
 
@@ -237,9 +264,9 @@ fs::path behindLinks(const fs::path& file) {
     return path;
 }
 
-Output::Output(const fs::path& file, const fs::path& draftPlace, bool overwrites)
-    : file_(file),
-      draftPlace_(draftPlace),
+Output::Output(fs::path file, fs::path draftPlace, bool overwrites)
+    : file_(std::move(file)),
+      draftPlace_(std::move(draftPlace)),
       overwrites_(overwrites) {
     const std::string folder = apps::utf8Of(draftPlace_);
     std::error_code ignored;
@@ -296,7 +323,7 @@ void Output::removeNeighbour() {
 }
 
 void Output::takeName(const fs::path& from, const fs::path& to) const {
-    adoptMode(from, to);
+    adoptMode(from, to, neighbour_.parent_path());
     const int error = apps::giveName(from.string(), to.string(), overwrites_);
     if (error == EEXIST) failForAnother(to);
     if (error != 0) {
