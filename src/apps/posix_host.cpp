@@ -1,6 +1,7 @@
 #include "apps/posix_host.h"
 
 #include <fcntl.h>
+#include <fmt/format.h>
 #include <pwd.h>
 #include <spawn.h>
 #include <sys/stat.h>
@@ -134,7 +135,7 @@ std::optional<std::string> PosixHost::environment(std::string_view name) {
 
 const std::string& PosixHost::privateFolder() {
     if (privateFolder_) return *privateFolder_;
-    for (const char* variable : {"XDG_RUNTIME_DIR", "TMPDIR"}) {
+    for (const char* variable : {"TEMP", "XDG_RUNTIME_DIR", "TMPDIR"}) {
         const auto parent = environment(variable);
         const std::string made = parent ? makePrivateFolder(*parent) : std::string();
         if (!made.empty()) return privateFolder_.emplace(made);
@@ -142,16 +143,15 @@ const std::string& PosixHost::privateFolder() {
     const std::string made = makePrivateFolder("/tmp");
     if (made.empty()) {
         throw Failure(FailureNumber::PathFileAccess, "Host.temporaryFile",
-                      "No folder for temporary files can be made: neither in XDG_RUNTIME_DIR nor "
-                      "in TMPDIR nor in /tmp");
+                      "No folder for temporary files can be made: neither in TEMP nor in "
+                      "XDG_RUNTIME_DIR nor in TMPDIR nor in /tmp");
     }
     return privateFolder_.emplace(made);
 }
 
 std::string PosixHost::temporaryFile(std::string_view fileName) {
     session::requireFileName(fileName);
-    const auto folder = environment("TEMP");
-    return (folder ? *folder : privateFolder()) + "/" + std::string(fileName);
+    return privateFolder() + "/" + std::string(fileName);
 }
 
 std::string PosixHost::writeTemporaryFile(std::string_view fileName, std::string_view text) {

@@ -11,8 +11,8 @@
 namespace apps {
 
 /// This machine, as Linux and its relatives have it. The private temporary folder is made when the
-/// first file is asked for, under `XDG_RUNTIME_DIR`, `TMPDIR` or `/tmp`, and goes with this object;
-/// those of processes that were killed go when the next one is made.
+/// first file is asked for, under `TEMP`, `XDG_RUNTIME_DIR`, `TMPDIR` or `/tmp`, and goes with this
+/// object; those of processes that were killed go when the next one is made.
 class PosixHost : public session::Host {
 public:
     explicit PosixHost(Console& console) : console_(console) {}

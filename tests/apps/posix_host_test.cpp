@@ -86,13 +86,19 @@ TEST_F(PosixHostTest, FoldersOfProcessesThatAreNoMoreAreSweptAndNothingElse) {
 }
 
 TEST_F(PosixHostTest, AFolderThatTheUserNamesIsUsedAndStaysAndARuntimeFolderMayBeGone) {
-    const std::string own = folder.path().string();
-    ::setenv("TEMP", own.c_str(), 1);
-    EXPECT_EQ(host->temporaryFile("a.png"), own + "/a.png");
+    const support::TemporaryFolder own;
+    ::setenv("TEMP", own.path().c_str(), 1);
+    const auto placeOf = [](apps::PosixHost& any) {
+        return std::filesystem::path(any.temporaryFile("a.png")).parent_path();
+    };
+    apps::PosixHost atTheSameTime(console);
+    EXPECT_EQ(placeOf(*host).parent_path(), own.path());
+    EXPECT_NE(placeOf(*host), placeOf(atTheSameTime));
     host = std::make_unique<apps::PosixHost>(console);
-    EXPECT_TRUE(std::filesystem::exists(own));
+    EXPECT_EQ(own.names().size(), 1U) << "the other's";
     ::setenv("TEMP", "/proc", 1);
-    EXPECT_THROW(host->writeTemporaryFile("page.html", "x"), office::Failure);
+    EXPECT_EQ(placeOf(*host).parent_path(), folder.path());
+    host = std::make_unique<apps::PosixHost>(console);
     ::unsetenv("TEMP");
     ::setenv("XDG_RUNTIME_DIR", "/nowhere/at/all", 1);
     EXPECT_TRUE(
