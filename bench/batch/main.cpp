@@ -51,8 +51,7 @@ Sizes measure(bench::MeasuredSuite& measured, const std::filesystem::path& folde
     const auto run = [&](bench::Deck where, std::vector<double>& times) {
         const std::filesystem::path output = folder / "murvane.pptx";
         std::filesystem::remove(output);
-        const auto cost =
-            bench::runMurvaneBatch(*measured.suite, where, book, output.string(), what);
+        auto cost = bench::runMurvaneBatch(*measured.suite, where, book, output.string(), what);
         times.push_back(cost.seconds);
         return cost;
     };

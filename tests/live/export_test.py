@@ -124,7 +124,7 @@ class TheSampleWorkbook(ProgramTest):
             book.define_name(name.replace(" ", "_"), f"=Data!{cells}")
         book.close()
         code, _, errors = self.run_program(path, "--all", "--check", "--format", "editable", "--output", output)
-        self.assertEqual(code, 0, errors)
+        self.assertEqual(code, 3, errors)
         self.assertFalse(output.exists())
         for loss, names in (("icons", '"All_of_it" and "Signs"'), ("look", '"All_of_it" and "Words"'),
                             ("drawings", '"All_of_it" and "Covered"'), ("5,000", '"Big"')):
