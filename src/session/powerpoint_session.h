@@ -39,8 +39,8 @@ enum class ExcelWindow : std::int32_t { Normal = -4143, Maximised = -4137 };
 
 void SetExcelWindow(OfficeSession& session, ExcelWindow state);
 
-/// Shows the window of this caption in its normal size and gives it the foreground. False, and
-/// nothing has moved, if there is none.
+/// Shows the window of this caption and gives it the foreground. False, and nothing has moved, if
+/// there is none.
 bool BringWindowToFront(OfficeSession& session, std::string_view caption);
 
 /// What stands in the last-failure record when the lock could not be taken. Nobody is told: without

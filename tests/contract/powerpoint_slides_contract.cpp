@@ -153,6 +153,20 @@ TEST_F(PowerPointContract, FindsAWindowByItsCaption) {
     EXPECT_NE(suite().findWindow("PPTFrameClass", ""), 0U);
     EXPECT_EQ(suite().findWindow("", "Nonesuch.pptx - PowerPoint"), 0U);
     EXPECT_EQ(suite().findWindow("PP12FrameClass", ""), 0U);
+
+    const std::filesystem::path elsewhere = environment().temporaryFile("elsewhere");
+    create_directory(elsewhere);
+    copy(environment().document("contract-deck.pptx"), elsewhere / "contract-deck.pptx");
+    const Object namesake = powerPoint.get("Presentations")
+                                .call("Open", (elsewhere / "contract-deck.pptx").string())
+                                .toObject();
+    for (const Object& each : {deck, namesake}) {
+        each.get("Windows").get("Item", 1).call("Activate");
+        EXPECT_EQ(suite().findWindow("", "contract-deck.pptx - PowerPoint"),
+                  suite().findWindow("", ""))
+            << "the active one";
+    }
+    namesake.call("Close");
 }
 
 TEST_F(PowerPointContract, FreezesOneWindowAtATime) {

@@ -1,14 +1,29 @@
 // A LibreOffice with windows on a screen, as a user has it.
 
 #include <com/sun/star/awt/XTopWindow.hpp>
-#include <com/sun/star/frame/XController.hpp>
+#include <com/sun/star/frame/XController2.hpp>
+#include <com/sun/star/frame/XDispatchHelper.hpp>
+#include <com/sun/star/frame/XDispatchProvider.hpp>
 #include <com/sun/star/frame/XFrame.hpp>
+#include <com/sun/star/sheet/FilterOperator.hpp>
+#include <com/sun/star/sheet/XCellRangeData.hpp>
+#include <com/sun/star/sheet/XSheetCellRangeContainer.hpp>
+#include <com/sun/star/sheet/XSheetFilterable.hpp>
+#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/sheet/XSpreadsheetView.hpp>
+#include <com/sun/star/sheet/XViewFreezable.hpp>
+#include <com/sun/star/sheet/XViewPane.hpp>
+#include <com/sun/star/util/XMergeable.hpp>
+#include <com/sun/star/view/XSelectionSupplier.hpp>
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <thread>
@@ -20,6 +35,7 @@
 #include "office/libreoffice/installation.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/process.h"
+#include "support/automation.h"
 #include "support/temporary_folder.h"
 
 namespace live {
@@ -134,6 +150,161 @@ TEST_F(Windows, TheActiveDocumentOfAKindIsTheOneThatTheUserWasInLast) {
             if (HasFailure()) return;
         }
     } while (std::next_permutation(order.begin(), order.end()));
+}
+
+/// A new workbook in a window, with two sheets of numbers.
+class WorkbookInAWindow : public Windows {
+protected:
+    WorkbookInAWindow() {
+        sheets->insertNewByName("Two", 1);
+        uno::Sequence<uno::Sequence<uno::Any>> rows(300);
+        for (sal_Int32 row = 0; row < rows.getLength(); ++row) {
+            const std::array values = {uno::Any(row), uno::Any(row % 2)};
+            rows.getArray()[row] = {values.data(), values.size()};
+        }
+        for (const char* name : {"Sheet1", "Two"})
+            as<css::sheet::XCellRangeData>(cells(name, "A1:B300"))->setDataArray(rows);
+    }
+
+    [[nodiscard]] uno::Reference<css::sheet::XSpreadsheet> sheet(const char* name) const {
+        return uno::Reference<css::sheet::XSpreadsheet>(sheets->getByName(toUno(name)),
+                                                        uno::UNO_QUERY_THROW);
+    }
+    [[nodiscard]] uno::Reference<css::table::XCellRange> cells(const char* name,
+                                                               const char* address) const {
+        return sheet(name)->getCellRangeByName(toUno(address));
+    }
+    void select(const uno::Reference<uno::XInterface>& what) const {
+        static_cast<void>(as<css::view::XSelectionSupplier>(view)->select(uno::Any(what)));
+    }
+    void dispatch(const char* command) const {
+        as<css::frame::XDispatchHelper>(
+            screen->connection->create("com.sun.star.frame.DispatchHelper"))
+            ->executeDispatch(
+                as<css::frame::XDispatchProvider>(model->getCurrentController()->getFrame()),
+                toUno(command), {}, 0, {});
+    }
+    /// "Sheet!$A$1:$B$2"
+    [[nodiscard]] std::string selection() const {
+        const auto selected = book->selection();
+        return selected.sheet->knownName() + "!" + office::model::excel::addressOf(selected.blocks);
+    }
+
+    DeskPtr desk = freshDesk();
+    Model model = desk->load("private:factory/scalc", false);
+    std::shared_ptr<excel::CalcDocument> book = desk->record<excel::CalcDocument>(model);
+    uno::Reference<css::sheet::XSpreadsheets> sheets =
+        as<css::sheet::XSpreadsheetDocument>(model)->getSheets();
+    uno::Reference<css::sheet::XSpreadsheetView> view =
+        as<css::sheet::XSpreadsheetView>(model->getCurrentController());
+};
+
+TEST_F(WorkbookInAWindow, TellsWhatIsSelectedAsExcelDoes) {
+    view->setActiveSheet(sheet("Two"));
+    as<css::util::XMergeable>(cells("Two", "F2:H4"))->merge(true);
+    const auto list = as<css::sheet::XSheetFilterable>(cells("Two", "A1:B300"));
+    const auto filter = list->createFilterDescriptor(true);
+    css::sheet::TableFilterField ones;
+    ones.Field = 1;
+    ones.IsNumeric = true;
+    ones.NumericValue = 1;
+    ones.Operator = css::sheet::FilterOperator_EQUAL;
+    filter->setFilterFields({&ones, 1});
+    list->filter(filter);
+
+    select(cells("Two", "A2:B8"));
+    EXPECT_EQ(selection(), "Two!$A$2:$B$8") << "in a filtered list";
+    select(cells("Two", "F2"));
+    EXPECT_EQ(selection(), "Two!$F$2:$H$4") << "a merged cell";
+    const auto several = as<css::sheet::XSheetCellRangeContainer>(
+        as<css::lang::XMultiServiceFactory>(model)->createInstance(
+            "com.sun.star.sheet.SheetCellRanges"));
+    for (const sal_Int32 row : {301, 303}) several->addRangeAddress({1, 0, row, 1, row}, false);
+    select(several);
+    EXPECT_EQ(selection(), "Two!$A$302:$B$302,$A$304:$B$304");
+    dispatch(".uno:TableSelectAll");
+    select(cells("Two", "D302:E303"));
+    EXPECT_EQ(selection(), "Two!$D$302:$E$303") << "on two sheets";
+}
+
+TEST_F(WorkbookInAWindow, LooksTheSameAfterACopyOfCells) {
+    const auto panes = as<css::container::XIndexAccess>(view);
+    const std::function<void()> divisions[] = {
+        [] {}, [&] { as<css::sheet::XViewFreezable>(view)->freezeAtPosition(1, 2); },
+        [&] {
+            as<css::sheet::XViewFreezable>(view)->freezeAtPosition(0, 0);
+            select(cells("Two", "B5"));
+            dispatch(".uno:SplitWindow");
+        },
+        [&] { dispatch(".uno:TableSelectAll"); }};
+    const auto scroll = [&] {
+        const uno::Reference<css::sheet::XViewPane> last(panes->getByIndex(panes->getCount() - 1),
+                                                         uno::UNO_QUERY_THROW);
+        last->setFirstVisibleRow(240);
+        last->setFirstVisibleColumn(3);
+    };
+    const auto seen = [&] {
+        std::string all =
+            fromUno(model->getCurrentController()->getViewData().get<rtl::OUString>());
+        // The room for the tabs of a window that is still coming up.
+        all.replace(all.find("tw:"), all.find(';', all.find("tw:")) - all.find("tw:"), selection());
+        for (sal_Int32 i = 0; i < panes->getCount(); ++i) {
+            const uno::Reference<css::sheet::XViewPane> pane(panes->getByIndex(i), uno::UNO_QUERY);
+            all += fmt::format(" {},{}", pane->getFirstVisibleColumn(), pane->getFirstVisibleRow());
+        }
+        return all;
+    };
+    office::CopySource asCells;
+    asCells.kind = office::CopySource::Kind::Cells;
+    view->setActiveSheet(sheet("Sheet1"));
+    select(cells("Sheet1", "B250"));
+    scroll();
+    view->setActiveSheet(sheet("Two"));
+    cells("Two", "A1")->getCellByPosition(0, 0)->setFormula("of Two");
+    for (std::size_t division = 0; division < std::size(divisions); ++division) {
+        divisions[division]();
+        for (const char* selected : {"B5", "A5:B9"}) {
+            select(cells("Two", selected));
+            scroll();
+            book->setModified(false);
+            const std::string before = seen();
+            for (const auto& [name, first] : {std::pair("Sheet1", "0"), {"Two", "of Two"}}) {
+                const auto copy = book->findSheet(name)->cells({0, 0, 1, 2})->copy(asCells);
+                EXPECT_EQ(copy->table().at(0, 0).text, first) << division << selected;
+                EXPECT_EQ(seen(), before) << division << selected << name;
+                EXPECT_FALSE(book->isModified());
+            }
+        }
+    }
+}
+
+TEST_F(WorkbookInAWindow, KeepsInItsCellWhatIsBeingTyped) {
+    const auto press = [](const char* key) {
+        Process::start({"/usr/bin/xdotool", "key", key}, true).waitFor(10s);
+    };
+    view->setActiveSheet(sheet("Sheet1"));
+    select(cells("Sheet1", "D5"));
+    goTo(model);
+    as<css::frame::XController2>(model->getCurrentController())->getComponentWindow()->setFocus();
+    press("7");
+    std::this_thread::sleep_for(500ms);
+    static_cast<void>(book->findSheet("Two")->cells({0, 0, 1, 2})->copy({}));
+    press("Return");
+    const auto typed = [&](const char* name) {
+        return fromUno(cells(name, "D5")->getCellByPosition(0, 0)->getFormula());
+    };
+    EXPECT_TRUE(becomesTrue([&] { return typed("Sheet1") + typed("Two") == "7"; }, 3s));
+    EXPECT_EQ(typed("Two"), "");
+}
+
+TEST_F(WorkbookInAWindow, IsThereInItsPrintPreviewToo) {
+    view->setActiveSheet(sheet("Two"));
+    dispatch(".uno:PrintPreview");
+    ASSERT_TRUE(becomesTrue([&] { return !book->view().is(); }));
+    EXPECT_EQ(book->activeSheet()->knownName(), "Two");
+    std::string why;
+    support::failureOf([&] { book->activeSheet()->cells({0, 0, 1, 2})->copy({}); }, &why);
+    EXPECT_NE(why.find("print preview"), std::string::npos) << why;
 }
 
 }  // namespace

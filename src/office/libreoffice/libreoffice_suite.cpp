@@ -161,9 +161,12 @@ office::WindowHandle LibreOfficeSuite::findWindow(std::string_view className,
     if (!desk_) return 0;
     return translated(*connection_, "Suite.findWindow", [&]() -> office::WindowHandle {
         if (!className.empty() && className != frameClass) return 0;
-        if (caption.empty()) return handleOf(desk_->active<powerpoint::ImpressDeck>());
+        const auto active = desk_->active<powerpoint::ImpressDeck>();
+        if (caption.empty()) return handleOf(active);
         if (!caption.ends_with(captionEnd)) return 0;
         const std::string_view wanted = caption.substr(0, caption.size() - captionEnd.size());
+        // Files of one name may lie in several folders.
+        if (active && active->name() == wanted) return handleOf(active);
         for (const auto& presentation : desk_->open<powerpoint::ImpressDeck>()) {
             if (presentation->name() == wanted) return handleOf(presentation);
         }

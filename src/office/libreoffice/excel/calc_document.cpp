@@ -7,15 +7,19 @@
 #include <com/sun/star/frame/XFrame.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
+#include <com/sun/star/sheet/XCellRangesQuery.hpp>
+#include <com/sun/star/sheet/XSelectedSheetsSupplier.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/util/XModifiable.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
 
+#include <algorithm>
 #include <utility>
 
 #include "office/libreoffice/at_end.h"
 #include "office/libreoffice/connection.h"
+#include "office/libreoffice/excel/answered.h"
 
 namespace libreoffice::excel {
 
@@ -46,6 +50,44 @@ model::SheetChartPtr editedChart(const Connection& connection, SheetRecord* acti
     return chartWhere(active, [&](const ChartShape& chart) {
         return property<uno::Reference<uno::XInterface>>(chart.shape(), "Model") == current;
     });
+}
+
+/// Whether all that is shown of a block belongs to some of its rows, which these are, in order.
+bool showOf(const SheetRecord& sheet, const model::CellBlock& block,
+            const model::CellBlocks& rows) {
+    const auto shown =
+        answered(as<css::sheet::XCellRangesQuery>(sheet.range(block))->queryVisibleCells());
+    const auto parts = shown->getRangeAddresses();
+    return std::all_of(parts.begin(), parts.end(), [&](const css::table::CellRangeAddress& part) {
+        const auto at = std::partition_point(rows.begin(), rows.end(), [&](const auto& each) {
+            return each.lastRow < part.StartRow;
+        });
+        return at != rows.end() && at->firstRow <= part.StartRow && part.EndRow <= at->lastRow;
+    });
+}
+
+/// What is selected on the sheet on top. The suite tells the cells of each selected sheet, and of a
+/// block that a filter runs through the shown rows.
+model::CellBlocks selectedBlocks(CalcDocument& book,
+                                 const uno::Reference<css::sheet::XSheetCellRanges>& ranges) {
+    const auto sheet = std::dynamic_pointer_cast<SheetRecord>(book.activeSheet());
+    if (!sheet) return {};
+    const std::int32_t onTop = sheet->place();
+    model::CellBlocks blocks;
+    const auto addresses = ranges->getRangeAddresses();
+    for (const css::table::CellRangeAddress& address : addresses) {
+        if (address.Sheet == onTop) blocks.push_back(blockOf(address));
+    }
+    if (blocks.size() < 2) return blocks;
+    std::sort(blocks.begin(), blocks.end(),
+              [](const auto& one, const auto& other) { return one.firstRow < other.firstRow; });
+    const model::CellBlock whole = around(blocks.front(), blocks.back());
+    const bool areRowsOfOne =
+        std::all_of(blocks.begin(), blocks.end(), [&](const model::CellBlock& block) {
+            return block.firstColumn == whole.firstColumn && block.lastColumn == whole.lastColumn;
+        });
+    if (areRowsOfOne && showOf(*sheet, whole, blocks)) return {whole};
+    return blocks;
 }
 
 }  // namespace
@@ -118,6 +160,12 @@ model::SheetPtr CalcDocument::activeSheet() {
         const auto active = as<css::container::XNamed>(window->getActiveSheet());
         return sheetList().find(fromUno(active->getName()));
     }
+    // A print preview of some sheets.
+    if (const auto preview = tryAs<css::sheet::XSelectedSheetsSupplier>(controller());
+        preview.is()) {
+        const auto shown = preview->getSelectedSheets();
+        if (shown.hasElements()) return sheetList().at(shown[0]);
+    }
     for (const SheetRecordPtr& sheet : sheetList().all()) {
         if (sheet->isShown()) return sheet;
     }
@@ -128,16 +176,14 @@ model::Selection CalcDocument::selection() {
     const uno::Reference<uno::XInterface> selected = model()->getCurrentSelection();
     if (const auto range = tryAs<css::sheet::XCellRangeAddressable>(selected); range.is()) {
         const auto address = range->getRangeAddress();
-        return {sheetList().at(address.Sheet), {blockOf(address)}, nullptr};
+        const SheetRecordPtr sheet = sheetList().at(address.Sheet);
+        const model::CellBlock block = blockOf(address);
+        // The suite names a merged cell by its first one alone.
+        const bool isCell = block == model::CellBlock::cell(block.firstRow, block.firstColumn);
+        return {sheet, {isCell && sheet ? blockOf(sheet->wholeCells(block)) : block}, nullptr};
     }
-    if (const auto ranges = tryAs<css::sheet::XSheetCellRanges>(selected); ranges.is()) {
-        const auto addresses = ranges->getRangeAddresses();
-        if (!addresses.hasElements()) return {};
-        model::Selection cells{sheetList().at(addresses[0].Sheet), {}, nullptr};
-        for (const css::table::CellRangeAddress& address : addresses)
-            cells.blocks.push_back(blockOf(address));
-        return cells;
-    }
+    if (const auto ranges = tryAs<css::sheet::XSheetCellRanges>(selected); ranges.is())
+        return {activeSheet(), selectedBlocks(*this, ranges), nullptr};
     const model::SheetPtr active = activeSheet();
     auto* record = dynamic_cast<SheetRecord*>(active.get());
     auto chart = selectedChart(record, selected);

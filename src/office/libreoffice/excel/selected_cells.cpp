@@ -1,13 +1,20 @@
 #include "office/libreoffice/excel/selected_cells.h"
 
+#include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/datatransfer/XTransferableSupplier.hpp>
+#include <com/sun/star/frame/XDispatchHelper.hpp>
+#include <com/sun/star/frame/XDispatchProvider.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
+#include <com/sun/star/sheet/XSheetCellRanges.hpp>
+#include <com/sun/star/sheet/XViewPane.hpp>
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
 #include "office/failure.h"
 #include "office/libreoffice/at_end.h"
+#include "office/libreoffice/connection.h"
 #include "office/libreoffice/main_thread.h"
 
 namespace libreoffice::excel {
@@ -17,8 +24,61 @@ namespace {
 uno::Reference<css::frame::XController> windowOf(const CalcDocument& book) {
     auto window = book.controller();
     if (!window.is()) office::refuse("Range.Copy", "The workbook has no window to copy from");
+    if (!tryAs<css::view::XSelectionSupplier>(window).is())
+        office::refuse("Range.Copy", "The workbook is shown in print preview");
     return window;
 }
+
+std::vector<css::table::CellRangeAddress> cellsOf(const uno::Any& selected) {
+    const uno::Reference<uno::XInterface> what(selected, uno::UNO_QUERY);
+    if (const auto one = tryAs<css::sheet::XCellRangeAddressable>(what); one.is())
+        return {one->getRangeAddress()};
+    const auto several = tryAs<css::sheet::XSheetCellRanges>(what);
+    if (!several.is()) return {};
+    const auto addresses = several->getRangeAddresses();
+    return {addresses.begin(), addresses.end()};
+}
+
+bool areOfSeveralSheets(const std::vector<css::table::CellRangeAddress>& cells) {
+    return std::any_of(cells.begin(), cells.end(),
+                       [&](const auto& each) { return each.Sheet != cells.front().Sheet; });
+}
+
+/// Of several selected sheets the suite copies the first one's cells, whichever are asked for.
+void selectOneSheetAlone(const Connection& connection,
+                         const uno::Reference<css::frame::XController>& window) {
+    as<css::frame::XDispatchHelper>(connection.create("com.sun.star.frame.DispatchHelper"))
+        ->executeDispatch(as<css::frame::XDispatchProvider>(window->getFrame()),
+                          ".uno:TableDeselectAll", {}, 0, {});
+}
+
+/// Where the parts of a window, which may be divided, are scrolled to.
+class Scrolled {
+public:
+    explicit Scrolled(const uno::Reference<css::frame::XController>& window) {
+        const auto panes = as<css::container::XIndexAccess>(window);
+        const sal_Int32 count = panes->getCount();
+        for (sal_Int32 i = 0; i < count; ++i) {
+            const uno::Reference<css::sheet::XViewPane> pane(panes->getByIndex(i),
+                                                             uno::UNO_QUERY_THROW);
+            panes_.push_back({pane, pane->getFirstVisibleColumn(), pane->getFirstVisibleRow()});
+        }
+    }
+    void putBack() const {
+        for (const auto& [pane, column, row] : panes_) {
+            pane->setFirstVisibleColumn(column);
+            pane->setFirstVisibleRow(row);
+        }
+    }
+
+private:
+    struct Place {
+        uno::Reference<css::sheet::XViewPane> pane;
+        sal_Int32 column;
+        sal_Int32 row;
+    };
+    std::vector<Place> panes_;
+};
 
 }  // namespace
 
@@ -36,25 +96,66 @@ ShownForNow::~ShownForNow() {
 }
 
 SelectedCells::SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells)
-    : connection_(sheet.book().connection()),
+    : sheet_(sheet),
       cells_(std::move(cells)),
       window_(windowOf(sheet.book())),
-      shown_(sheet),
       selection_(as<css::view::XSelectionSupplier>(window_)),
-      before_(selection_->getSelection()) {}
+      before_(selection_->getSelection()),
+      cellsBefore_(cellsOf(before_)),
+      wasSelected_(cellsBefore_ == cellsOf(uno::Any(cells_))) {
+    if (wasSelected_) return;
+    if (!sheet.book().desk().opensHidden()) {
+        view_ = window_->getViewData();
+        finishTyping();
+    }
+    if (areOfSeveralSheets(cellsBefore_)) selectOneSheetAlone(sheet.book().connection(), window_);
+    shown_.emplace(sheet);
+}
+
+/// What is being typed would be written to the same place of the sheet that comes to the top. It is
+/// entered where it belongs as soon as another cell is selected.
+void SelectedCells::finishTyping() const {
+    if (cellsBefore_.empty()) return;
+    const css::table::CellRangeAddress& typed = cellsBefore_.front();
+    CalcDocument& book = sheet_.book();
+    const auto onTop = areOfSeveralSheets(cellsBefore_)
+                           ? std::dynamic_pointer_cast<SheetRecord>(book.activeSheet())
+                           : book.sheetList().at(typed.Sheet);
+    if (!onTop || typed.EndColumn == model::CellBlock::lastColumnOfSheet) return;
+    selection_->select(
+        uno::Any(onTop->range(model::CellBlock::cell(typed.StartRow, typed.EndColumn + 1))));
+}
 
 SelectedCells::~SelectedCells() {
-    asFarAsPossible([&] { selection_->select(before_); });
+    if (!wasSelected_) asFarAsPossible([&] { putBack(); });
+}
+
+void SelectedCells::putBack() const {
+    if (!view_.hasValue()) {
+        selection_->select(before_);
+        return;
+    }
+    // This selects the cell that the cursor is in, and selecting more than that scrolls.
+    window_->restoreViewData(view_);
+    if (cellsBefore_.size() == 1 && blockOf(cellsBefore_.front()).cells() == 1) return;
+    const Scrolled scrolled(window_);
+    selection_->select(before_);
+    scrolled.putBack();
 }
 
 /// LibreOffice crashes when it asks a closed window for a copy, and the user may close it at any
-/// time. The main thread closes windows: while that waits, one that takes the selection is open.
+/// time. The main thread closes windows: while that waits, one that takes the selection, or still
+/// has one, is open.
 uno::Reference<css::datatransfer::XTransferable> SelectedCells::copy() const {
     const auto copy = std::make_shared<uno::Reference<css::datatransfer::XTransferable>>();
     const auto copier = as<css::datatransfer::XTransferableSupplier>(window_);
-    onMainThread(connection_, [=, cells = uno::Any(cells_), selection = selection_] {
-        if (!selection->select(cells))
-            throw css::lang::DisposedException("The workbook has been closed", {});
+    onMainThread(sheet_.book().connection(), [=, cells = uno::Any(cells_), selection = selection_,
+                                              isSelected = wasSelected_] {
+        const bool isOpen =
+            isSelected
+                ? uno::Reference<uno::XInterface>(selection->getSelection(), uno::UNO_QUERY).is()
+                : selection->select(cells);
+        if (!isOpen) throw css::lang::DisposedException("The workbook has been closed", {});
         *copy = copier->getTransferable();
     });
     return *copy;

@@ -2,10 +2,12 @@
 
 #include <com/sun/star/datatransfer/XTransferable.hpp>
 #include <com/sun/star/frame/XController.hpp>
+#include <com/sun/star/table/CellRangeAddress.hpp>
 #include <com/sun/star/table/XCellRange.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
 #include <optional>
+#include <vector>
 
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/sheet_record.h"
@@ -26,11 +28,13 @@ private:
     SheetRecord* sheet_;
 };
 
-/// Cells that are copied by way of a selection. The user's clipboard stays; his selection is put
-/// back.
+/// Cells that are copied by way of a selection: the suite copies nothing else. Unless they are
+/// selected anyway, that brings their sheet to the top, and runs what is to run when somebody goes
+/// there. Afterwards the window is as it was: the sheet on top, what is selected, where each sheet
+/// is scrolled to. What was being typed into a cell has been entered. The user's clipboard stays.
 class SelectedCells {
 public:
-    /// `office::Failure` 1004 for a workbook without a window.
+    /// `office::Failure` 1004 for a workbook without a window, or one in print preview.
     SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells);
     SelectedCells(const SelectedCells&) = delete;
     SelectedCells& operator=(const SelectedCells&) = delete;
@@ -41,13 +45,20 @@ public:
 
 private:
     [[nodiscard]] uno::Reference<css::datatransfer::XTransferable> copy() const;
+    void finishTyping() const;
+    void putBack() const;
 
-    const Connection& connection_;
+    SheetRecord& sheet_;
     uno::Reference<css::table::XCellRange> cells_;
     uno::Reference<css::frame::XController> window_;
-    ShownForNow shown_;
     uno::Reference<css::view::XSelectionSupplier> selection_;
     uno::Any before_;
+    /// What of `before_` is cells.
+    std::vector<css::table::CellRangeAddress> cellsBefore_;
+    /// As the window writes it; nothing where nobody sees it, or where nothing was selected here.
+    uno::Any view_;
+    bool wasSelected_;
+    std::optional<ShownForNow> shown_;
 };
 
 }  // namespace libreoffice::excel

@@ -3,6 +3,8 @@
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
+#include <com/sun/star/sheet/XSheetCellCursor.hpp>
+#include <com/sun/star/sheet/XSheetCellRange.hpp>
 #include <com/sun/star/sheet/XSheetCellRangeContainer.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
 #include <com/sun/star/sheet/XUsedAreaCursor.hpp>
@@ -97,6 +99,14 @@ const uno::Reference<css::container::XNamed>& SheetRecord::named() {
 uno::Reference<css::table::XCellRange> SheetRecord::range(const model::CellBlock& block) const {
     return sheet_->getCellRangeByPosition(block.firstColumn, block.firstRow, block.lastColumn,
                                           block.lastRow);
+}
+
+uno::Reference<css::table::XCellRange> SheetRecord::wholeCells(
+    const model::CellBlock& block) const {
+    const auto cursor =
+        answered(sheet_->createCursorByRange(as<css::sheet::XSheetCellRange>(range(block))));
+    cursor->collapseToMergedArea();
+    return {cursor.get()};
 }
 
 bool SheetRecord::isThere() {
@@ -208,6 +218,10 @@ model::SheetChartPtr SheetRecord::ownChart() {
     const auto recovered = std::make_shared<RecoveredChart>(*this);
     recovered->chart()->belongTo(recovered, recovered->home());
     return {recovered, recovered->chart().get()};
+}
+
+model::CellBlock blockOf(const uno::Reference<css::table::XCellRange>& cells) {
+    return blockOf(as<css::sheet::XCellRangeAddressable>(cells)->getRangeAddress());
 }
 
 PlaceOfCells placeOf(const uno::Reference<css::table::XCellRange>& cells) {

@@ -31,6 +31,7 @@ struct PlaceOfCells {
     css::awt::Size size;
 };
 
+[[nodiscard]] model::CellBlock blockOf(const uno::Reference<css::table::XCellRange>& cells);
 [[nodiscard]] PlaceOfCells placeOf(const uno::Reference<css::table::XCellRange>& cells);
 
 /// What is written into cells.
@@ -59,6 +60,9 @@ public:
     [[nodiscard]] CalcDocument& book() const { return book_; }
     [[nodiscard]] const uno::Reference<css::sheet::XSpreadsheet>& sheet() const { return sheet_; }
     [[nodiscard]] uno::Reference<css::table::XCellRange> range(const model::CellBlock& block) const;
+    /// The block and the rest of the merged cells that it holds a part of.
+    [[nodiscard]] uno::Reference<css::table::XCellRange> wholeCells(
+        const model::CellBlock& block) const;
     [[nodiscard]] ChartShapes& chartShapes() { return charts_; }
     void noteName(std::string name) { name_ = std::move(name); }
     [[nodiscard]] bool isShown();

@@ -2,8 +2,6 @@
 
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XConditionalFormats.hpp>
-#include <com/sun/star/sheet/XSheetCellCursor.hpp>
-#include <com/sun/star/sheet/XSheetCellRange.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
 #include <com/sun/star/table/XColumnRowRange.hpp>
 #include <com/sun/star/text/XTextRange.hpp>
@@ -29,19 +27,6 @@ namespace {
 using office::CellLine;
 using office::CellLook;
 using office::TableLook;
-
-/// The block and the rest of the merged cells that it holds a part of.
-uno::Reference<css::table::XCellRange> wholeCells(const SheetRecord& sheet,
-                                                  const model::CellBlock& block) {
-    const auto cursor = answered(
-        sheet.sheet()->createCursorByRange(as<css::sheet::XSheetCellRange>(sheet.range(block))));
-    cursor->collapseToMergedArea();
-    return {cursor.get()};
-}
-
-model::CellBlock placeOnSheet(const uno::Reference<css::table::XCellRange>& cells) {
-    return blockOf(as<css::sheet::XCellRangeAddressable>(cells)->getRangeAddress());
-}
 
 /// Nothing if they have more cells than that.
 std::optional<ShownLines> shownLinesUpTo(const uno::Reference<css::table::XCellRange>& cells,
@@ -191,8 +176,8 @@ private:
     void putHiddenMerged(std::size_t row) {
         for (std::size_t column = freeFrom(row, 0); column < width();
              column = freeFrom(row, column + 1)) {
-            const model::CellBlock block = placeOnSheet(wholeCells(
-                sheet_, model::CellBlock::cell(shown_.rows[row], shown_.columns[column])));
+            const model::CellBlock block = blockOf(sheet_.wholeCells(
+                model::CellBlock::cell(shown_.rows[row], shown_.columns[column])));
             if (block.firstRow == shown_.rows[row] && block.firstColumn == shown_.columns[column])
                 continue;
             const auto cell = sheet_.sheet()->getCellByPosition(block.firstColumn, block.firstRow);
@@ -335,18 +320,18 @@ bool areBlank(SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& 
 }
 
 bool isTooLargeForTable(SheetRecord& sheet, const model::CellBlock& block, std::size_t mostCells) {
-    return !shownLinesUpTo(wholeCells(sheet, block), mostCells);
+    return !shownLinesUpTo(sheet.wholeCells(block), mostCells);
 }
 
 bool isTooWideForTable(SheetRecord& sheet, const model::CellBlock& block, std::size_t mostColumns) {
-    const auto cells = wholeCells(sheet, block);
-    if (static_cast<std::size_t>(placeOnSheet(cells).columns()) <= mostColumns) return false;
+    const auto cells = sheet.wholeCells(block);
+    if (static_cast<std::size_t>(blockOf(cells).columns()) <= mostColumns) return false;
     const auto shown = shownLinesUpTo(cells, mostCellsOfTable);
     return shown && shown->columns.size() > mostColumns;
 }
 
 std::optional<TableLook> tableOfBlankCells(SheetRecord& sheet, const model::CellBlock& block) {
-    const auto cells = wholeCells(sheet, block);
+    const auto cells = sheet.wholeCells(block);
     if (!areBlank(sheet, cells)) return std::nullopt;
     const auto [corner, size] = placeOf(cells);
     return TableLook{{pointsOf(size.Width)},
@@ -357,8 +342,8 @@ std::optional<TableLook> tableOfBlankCells(SheetRecord& sheet, const model::Cell
 }
 
 TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block, std::size_t mostCells) {
-    const auto cells = wholeCells(sheet, block);
-    const model::CellBlock whole = placeOnSheet(cells);
+    const auto cells = sheet.wholeCells(block);
+    const model::CellBlock whole = blockOf(cells);
     const ShownLines shown = shownLinesOf(cells, mostCells);
     const CellFormats formats = readCellFormats(cells, shown);
     const uno::Sequence<sal_Int8> copy = SelectedCells(sheet, cells).copyAs("text/html");

@@ -12,8 +12,8 @@ constexpr std::size_t mostCellsOfTable = 5000;
 
 /// A block of cells as it is seen, in a number of calls that grows with the formats in it and not
 /// with the cells. Merged cells that stick out of the block belong to it. The user's clipboard
-/// stays, his selection is put back. `office::Failure` 1004 if nothing of it is shown, or more
-/// cells than that.
+/// and window stay as they were. `office::Failure` 1004 if nothing of it is shown, or more cells
+/// than that.
 [[nodiscard]] office::TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block,
                                              std::size_t mostCells);
 
