@@ -3,6 +3,7 @@
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/table/XColumnRowRange.hpp>
+#include <com/sun/star/text/WritingMode2.hpp>
 
 #include "live/live_suite.h"
 #include "office/libreoffice/excel/calc_document.h"
@@ -174,6 +175,9 @@ TEST_F(ExcelSheets, FindsTheCellsUnderAChartWhereLinesAreHiddenOrOfManySizes) {
         expectFound(address);
     lines->getRows()->insertByIndex(20, 3);
     for (const char* address : {"F50", "B2", "A24"}) expectFound(address);
+    setProperty(lines, "TableLayout", css::text::WritingMode2::RL_TB);
+    for (const char* address : {"A1", "D3", "G12", "A20", "ZZ900", "XFD1048576"})
+        expectFound(address);
 }
 
 TEST_F(ExcelSheets, KeepsTheNameByWhichAChartWasListedWhenItsNamesakeGoes) {

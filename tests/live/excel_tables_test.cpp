@@ -1,5 +1,6 @@
 #include <com/sun/star/lang/Locale.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/text/WritingMode2.hpp>
 #include <com/sun/star/util/XNumberFormatTypes.hpp>
 #include <com/sun/star/util/XNumberFormatsSupplier.hpp>
 #include <fmt/format.h>
@@ -122,6 +123,22 @@ TEST_F(ExcelTables, LookAsTheirCellsDo) {
     EXPECT_NEAR(table.heightPt(), cells.get("Height").toDouble(), 0.1);
     for (const double height : table.rowHeightsPt)
         EXPECT_NEAR(height, height == table.rowHeightsPt.front() ? 30 : 15, 3);
+}
+
+TEST_F(ExcelTables, HaveTheFirstColumnAtTheRightWhereTheSheetHasIt) {
+    const TableLook usual = tableOf("Looks", "A1:G7");
+    const uno::Reference<uno::XInterface> looks(
+        as<css::sheet::XSpreadsheetDocument>(model())->getSheets()->getByName("Looks"),
+        uno::UNO_QUERY);
+    libreoffice::setProperty(looks, "TableLayout", css::text::WritingMode2::RL_TB);
+    const TableLook table = tableOf("Looks", "A1:G7");
+    EXPECT_EQ(described(table.at(0, 5)), described(usual.at(0, 0)));
+    EXPECT_EQ(described(table.at(1, 4)), described(usual.at(1, 0))) << "merged";
+    EXPECT_EQ(described(table.at(1, 5)), "covered");
+    EXPECT_EQ(described(table.at(3, 2)),
+              "lines left=0.7 dotted right=0.7 dashed top=0.7 0000FF bottom=1.8 double 00FF00");
+    EXPECT_NEAR(table.columnWidthsPt.front(), usual.columnWidthsPt.back(), 0.1);
+    EXPECT_NEAR(table.leftPt + table.widthPt(), 0, 0.1);
 }
 
 TEST_F(ExcelTables, DoWithWideTextsWhatASheetDoes) {

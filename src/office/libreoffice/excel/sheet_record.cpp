@@ -175,14 +175,17 @@ model::CellBlock SheetRecord::used() {
 }
 
 model::CellBlock SheetRecord::cellAt(double left, double top) {
-    Search column(seenColumn_, hundredthMmOf(left), model::CellBlock::lastColumnOfSheet);
+    // On a sheet that is read from right to left all places are negative: there a line ends where
+    // it is said to lie, and a point at the edge of two belongs to the first.
+    const std::int32_t x = hundredthMmOf(left);
+    Search column(seenColumn_, x < 0 ? -x - 1 : x, model::CellBlock::lastColumnOfSheet);
     Search row(seenRow_, hundredthMmOf(top), model::CellBlock::lastRowOfSheet);
     // A cell tells of its column and of its row.
     while (!column.isDone() || !row.isDone()) {
         const std::int32_t atColumn = column.next();
         const std::int32_t atRow = row.next();
         const auto [corner, size] = placeOf(range(model::CellBlock::cell(atRow, atColumn)));
-        column.learn(atColumn, corner.X, size.Width);
+        column.learn(atColumn, corner.X < 0 ? 1 - corner.X - size.Width : corner.X, size.Width);
         row.learn(atRow, corner.Y, size.Height);
     }
     return model::CellBlock::cell(row.found(), column.found());

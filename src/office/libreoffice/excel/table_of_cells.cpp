@@ -125,7 +125,7 @@ public:
     }
 
     /// Of each cell, row by row.
-    [[nodiscard]] const std::vector<CellValue>& values() const { return values_; }
+    [[nodiscard]] std::vector<CellValue> takeValues() { return std::move(values_); }
 
     [[nodiscard]] std::vector<CellLook> takeCells() {
         for (std::size_t row = 0; row < height(); ++row) {
@@ -261,6 +261,27 @@ private:
     std::vector<bool> isPut_;
 };
 
+/// The first column of a sheet that is read from right to left is the one at the right. Texts stand
+/// where they would elsewhere, to the left or to the right; lines change their sides.
+void mirror(TableLook& table, std::vector<CellValue>& values) {
+    const std::size_t width = table.columnWidthsPt.size();
+    const auto mirrorRows = [&](auto& all) {
+        for (auto row = all.begin(); row != all.end(); row += static_cast<std::ptrdiff_t>(width))
+            std::reverse(row, row + static_cast<std::ptrdiff_t>(width));
+    };
+    std::reverse(table.columnWidthsPt.begin(), table.columnWidthsPt.end());
+    mirrorRows(table.cells);
+    mirrorRows(values);
+    for (std::size_t i = 0; i < table.cells.size(); ++i) {
+        CellLook& look = table.cells[i];
+        std::swap(look.left, look.right);
+        if (look.isCovered || look.columns == 1) continue;
+        const std::size_t first = i + 1 - static_cast<std::size_t>(look.columns);
+        std::swap(look, table.cells[first]);
+        std::swap(values[i], values[first]);
+    }
+}
+
 /// Adds up the lengths of those that become one line with the last one before that is kept.
 std::vector<double> joined(const std::vector<double>& lengths, const std::set<std::size_t>& kept) {
     std::vector<double> all;
@@ -367,9 +388,12 @@ TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block, std::s
     for (std::size_t row = 0; row < std::min(html.rows.size(), shown.rows.size()); ++row)
         maker.putRow(html.rows[row], row);
     table.cells = maker.takeCells();
+    std::vector<CellValue> values = maker.takeValues();
+    // The suite counts from the right there.
+    if (corner.X < 0) mirror(table, values);
     std::shared_ptr<TextWidths>& widths = sheet.book().desk().textWidths;
     if (!widths) widths = std::make_shared<TextWidths>(sheet.book().desk().connection());
-    fitTexts(table, maker.values(), *widths, sheet.book().formats());
+    fitTexts(table, values, *widths, sheet.book().formats());
     return withoutUnseenLines(table);
 }
 
