@@ -1,8 +1,10 @@
 #include <com/sun/star/lang/Locale.hpp>
+#include <com/sun/star/sheet/XArrayFormulaRange.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/text/WritingMode2.hpp>
 #include <com/sun/star/util/XNumberFormatTypes.hpp>
 #include <com/sun/star/util/XNumberFormatsSupplier.hpp>
+#include <com/sun/star/util/XProtectable.hpp>
 #include <fmt/format.h>
 
 #include <utility>
@@ -241,6 +243,21 @@ TEST_F(ExcelTables, HoldWholeCellsOfAnySheet) {
                   }),
                   refused)
             << name;
+}
+
+TEST_F(ExcelTables, HoldPartsOfArrayFormulas) {
+    const uno::Reference<css::sheet::XSpreadsheet> grid(
+        as<css::sheet::XSpreadsheetDocument>(model())->getSheets()->getByName("Grid"),
+        uno::UNO_QUERY);
+    as<css::sheet::XArrayFormulaRange>(grid->getCellRangeByName("P2:Q9"))
+        ->setArrayFormula("=A2:B9");
+    as<css::util::XProtectable>(grid)->protect("");
+    book.put("Saved", true);
+    const TableLook part = tableOf("Grid", "O1:P4");
+    EXPECT_EQ(part.at(3, 1).text, "3");
+    EXPECT_EQ(part.columnWidthsPt.size() * part.rowHeightsPt.size(), 8U);
+    EXPECT_TRUE(book.get("Saved").toBool());
+    EXPECT_EQ(tableOf("Grid", "P2:Q9").cells.size(), 16U) << "all is shown again";
 }
 
 TEST_F(ExcelTables, WriteAWesternFontsOtherScriptsAsTheSheetDoes) {

@@ -15,6 +15,7 @@
 #include "office/failure.h"
 #include "office/libreoffice/at_end.h"
 #include "office/libreoffice/connection.h"
+#include "office/libreoffice/excel/whole_arrays.h"
 #include "office/libreoffice/main_thread.h"
 
 namespace libreoffice::excel {
@@ -146,11 +147,11 @@ void SelectedCells::putBack() const {
 /// LibreOffice crashes when it asks a closed window for a copy, and the user may close it at any
 /// time. The main thread closes windows: while that waits, one that takes the selection, or still
 /// has one, is open.
-uno::Reference<css::datatransfer::XTransferable> SelectedCells::copy() const {
+uno::Reference<css::datatransfer::XTransferable> SelectedCells::copyOf(
+    const uno::Reference<css::table::XCellRange>& wanted, bool isSelected) const {
     const auto copy = std::make_shared<uno::Reference<css::datatransfer::XTransferable>>();
     const auto copier = as<css::datatransfer::XTransferableSupplier>(window_);
-    onMainThread(sheet_.book().connection(), [=, cells = uno::Any(cells_), selection = selection_,
-                                              isSelected = wasSelected_] {
+    onMainThread(sheet_.book().connection(), [=, cells = uno::Any(wanted), selection = selection_] {
         const bool isOpen =
             isSelected
                 ? uno::Reference<uno::XInterface>(selection->getSelection(), uno::UNO_QUERY).is()
@@ -159,6 +160,21 @@ uno::Reference<css::datatransfer::XTransferable> SelectedCells::copy() const {
         *copy = copier->getTransferable();
     });
     return *copy;
+}
+
+uno::Reference<css::datatransfer::XTransferable> SelectedCells::copy() const {
+    if (auto copy = copyOf(cells_, wasSelected_); copy.is()) return copy;
+    const model::CellBlock block = blockOf(cells_);
+    const model::CellBlock whole = withWholeArrays(sheet_, block);
+    const HiddenAround rest(sheet_, block, whole);
+    if (!rest.isHidden())
+        office::refuse("Range.Copy", "LibreOffice copies no part of an array formula");
+    const Scrolled scrolled(window_);
+    const AtEnd selectAgain([&] {
+        selection_->select(uno::Any(cells_));
+        scrolled.putBack();
+    });
+    return copyOf(sheet_.range(whole), false);
 }
 
 /// Asked for by its name alone: the list of all offers, and the answer of one that is not offered,

@@ -45,6 +45,8 @@ public:
 
 private:
     [[nodiscard]] uno::Reference<css::datatransfer::XTransferable> copy() const;
+    [[nodiscard]] uno::Reference<css::datatransfer::XTransferable> copyOf(
+        const uno::Reference<css::table::XCellRange>& wanted, bool isSelected) const;
     void finishTyping() const;
     void putBack() const;
 
