@@ -71,7 +71,9 @@ def write(path, version):
         data = book.add_worksheet(SHEET.strip("'").replace("''", "'"))
         data.write_row(0, 0, ["Port", "2025", "2026", "Day"])
         for row in range(1, ROWS + 1):
-            data.write_row(row, 0, [f"port {row}", 7 * row % 11 + 1, 5 * row % 7 + 2])
+            data.write_row(row, 0, [f"port {row}", 7 * row % 11 + 1])
+            # With no result but 0 in the file, which asks who opens it to calculate.
+            data.write_formula(row, 2, f"=MOD(5*{row},7)+2")
             data.write(row, 3, 46000 + row * row, book.add_format({"num_format": "yyyy-mm-dd"}))
         rewrites, charts = {}, []
         for kind, subtype, edits in [*((kind, sub, []) for kind, subs in SUBTYPES.items() for sub in subs),

@@ -53,6 +53,8 @@ model::BookPtr CalcBooks::load(const std::string& file, const std::string& passw
     auto book = desk_->alreadyOpen<CalcDocument>(url);
     if (!book) {
         book = desk_->loaded<CalcDocument>(url, true, password);
+        // What a user looks at stays as he sees it.
+        if (desk_->opensHidden()) book->calculateIfItsFileAsks();
         if (readOnly) book->leaveFileAlone();
     }
     book->markActive();

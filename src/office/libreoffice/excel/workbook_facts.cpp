@@ -46,6 +46,7 @@ WorkbookFacts factsOf(office::package::Package package) {
     }
     facts.structureIsLocked =
         childNamed(workbook, "workbookProtection").attribute("lockStructure").as_bool();
+    facts.calculatesOnLoad = childNamed(workbook, "calcPr").attribute("fullCalcOnLoad").as_bool();
     facts.known = !facts.sheets.empty();
     return facts;
 }

@@ -21,6 +21,9 @@ struct WorkbookFacts {
     bool known = false;
     std::vector<Sheet> sheets;
     bool structureIsLocked = false;
+    /// Whoever wrote the file left the calculating to who opens it: the results in it are no
+    /// results.
+    bool calculatesOnLoad = false;
 };
 
 /// Read from the file itself, which is let go of again at once.
