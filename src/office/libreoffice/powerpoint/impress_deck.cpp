@@ -26,11 +26,12 @@ std::int32_t inProportion(std::int32_t length, std::int32_t before, std::int32_t
 }
 
 /// The placeholders of a master page keep their share of the slide.
-void resizeShapes(const uno::Reference<css::drawing::XDrawPage>& page, const css::awt::Size& before,
-                  const css::awt::Size& after) {
+void resizeShapes(ImpressDeck& deck, const uno::Reference<css::drawing::XDrawPage>& page,
+                  const css::awt::Size& before, const css::awt::Size& after) {
     const sal_Int32 count = page->getCount();
     for (sal_Int32 i = 0; i < count; ++i) {
         const uno::Reference<css::drawing::XShape> shape(page->getByIndex(i), uno::UNO_QUERY_THROW);
+        deck.hold(shape);
         const css::awt::Point corner = shape->getPosition();
         const css::awt::Size size = shape->getSize();
         shape->setSize({inProportion(size.Width, before.Width, after.Width),
@@ -70,6 +71,7 @@ void ImpressDeck::beginAnew() {
     const sal_Int32 count = masters->getCount();
     for (sal_Int32 i = 0; i < count; ++i)
         resizeShapes(
+            *this,
             uno::Reference<css::drawing::XDrawPage>(masters->getByIndex(i), uno::UNO_QUERY_THROW),
             before, wideSlide);
     beginsWithoutSlides_ = true;

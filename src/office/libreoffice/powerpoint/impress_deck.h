@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "office/libreoffice/desk.h"
@@ -43,6 +44,9 @@ public:
     void removeSlide(ImpressSlide& slide);
     /// A shape of a service ("com.sun.star.drawing.TextShape"), not on a slide yet.
     [[nodiscard]] uno::Reference<css::drawing::XShape> createShape(const char* service);
+    /// Keeps a shape until the presentation is closed: LibreOffice crashes on one that is closed
+    /// just when a shape of it is let go.
+    void hold(uno::Reference<css::drawing::XShape> shape) { shapes_.push_back(std::move(shape)); }
     [[nodiscard]] LatePictures& latePictures() { return latePictures_; }
     /// Whether so many workbooks are embedded in it. Objects that came with a .pptx count, whatever
     /// they hold: LibreOffice doesn't know before one of them is opened.
@@ -92,6 +96,7 @@ private:
     ImpressWindow window_;
     SlideLayouts layouts_;
     std::vector<ImpressSlidePtr> slides_;
+    std::vector<uno::Reference<css::drawing::XShape>> shapes_;
     NewSlides newSlides_;
     /// LibreOffice can't have a presentation without slides: the one that it begins with counts
     /// from the first slide on that is added, and is that slide.

@@ -207,6 +207,7 @@ void ImpressShape::replacePicture(model::Outline wanted) {
                 {"TextAutoGrowHeight", uno::Any(false)}});
     filled.set("FillBitmap", as<css::awt::XBitmap>(graphic));
     slide_.page()->remove(shape_);
+    deck.hold(shape_);
     shape_ = made.take();
     properties_ = filled.properties_;
     severalProperties_ = filled.severalProperties_;

@@ -74,7 +74,7 @@ void SlideLayouts::apply(ImpressSlide& slide, std::int32_t number) {
     if (!*fromPowerPoint_) return setNumber();
     const auto target = as<drawing::XMasterPageTarget>(slide.page());
     const PageRef inherited = target->getMasterPage();
-    const PageRef found = masterFor(number, inherited, slide.page());
+    const PageRef found = masterFor(number, inherited, slide);
     const PageRef& wanted = found.is() ? found : inherited;
     if (wanted.get() != inherited.get()) target->setMasterPage(wanted);
     setNumber();
@@ -85,12 +85,13 @@ void SlideLayouts::dressTitle(ImpressSlide& slide, const PageRef& masterPage) {
     const ImpressShapePtr title = slide.title();
     if (!title) return;
     auto& look = titleLooks_[masterPage.get()];
-    if (!look) look = std::make_shared<const TitleLook>(masterPage, title->reference());
+    if (!look)
+        look = std::make_shared<const TitleLook>(slide.deck(), masterPage, title->reference());
     title->wear(look);
 }
 
 SlideLayouts::PageRef SlideLayouts::masterFor(std::int32_t layout, const PageRef& inherited,
-                                              const PageRef& slide) {
+                                              const ImpressSlide& slide) {
     const auto key = std::pair(layout, inherited.get());
     if (const auto known = found_.find(key); known != found_.end()) return known->second;
     if (masters_.empty()) loadMasters();
@@ -113,7 +114,7 @@ void SlideLayouts::loadMasters() {
 }
 
 SlideLayouts::PageRef SlideLayouts::findMaster(std::int32_t layout, const std::string& design,
-                                               const PageRef& slide) {
+                                               const ImpressSlide& slide) {
     std::vector<Master*> candidates;
     for (Master& master : masters_) {
         if (master.design == design) candidates.push_back(&master);
@@ -124,8 +125,9 @@ SlideLayouts::PageRef SlideLayouts::findMaster(std::int32_t layout, const std::s
     }
     // The file comes from a PowerPoint in another language, or is not the first design of its file,
     // whose names get lost.
-    if (PageRef alike = masterOfAlikeSlide(layout, candidates, slide); alike.is()) return alike;
-    for (Master* master : candidates) countPlaceholders(*master);
+    if (PageRef alike = masterOfAlikeSlide(layout, candidates, slide.page()); alike.is())
+        return alike;
+    for (Master* master : candidates) countPlaceholders(slide.deck(), *master);
     return masterByPlaceholders(layout, candidates);
 }
 
@@ -147,13 +149,14 @@ SlideLayouts::PageRef SlideLayouts::masterOfAlikeSlide(std::int32_t layout,
     return {};
 }
 
-void SlideLayouts::countPlaceholders(Master& master) {
+void SlideLayouts::countPlaceholders(ImpressDeck& deck, Master& master) {
     if (master.titles) return;
     master.titles = 0;
     const sal_Int32 count = master.page->getCount();
     for (sal_Int32 i = 0; i < count; ++i) {
         const uno::Reference<drawing::XShape> shape(master.page->getByIndex(i),
                                                     uno::UNO_QUERY_THROW);
+        deck.hold(shape);
         const std::string service = serviceOf(shape);
         if (service == "com.sun.star.presentation.TitleTextShape") {
             master.titles = *master.titles + 1;

@@ -49,15 +49,15 @@ private:
     void dressTitle(ImpressSlide& slide, const PageRef& masterPage);
     void loadMasters();
     [[nodiscard]] PageRef masterFor(std::int32_t layout, const PageRef& inherited,
-                                    const PageRef& slide);
+                                    const ImpressSlide& slide);
     [[nodiscard]] PageRef findMaster(std::int32_t layout, const std::string& design,
-                                     const PageRef& slide);
+                                     const ImpressSlide& slide);
     [[nodiscard]] PageRef masterOfAlikeSlide(std::int32_t layout,
                                              const std::vector<Master*>& candidates,
                                              const PageRef& except) const;
     [[nodiscard]] static PageRef masterByPlaceholders(std::int32_t layout,
                                                       const std::vector<Master*>& candidates);
-    static void countPlaceholders(Master& master);
+    static void countPlaceholders(ImpressDeck& deck, Master& master);
 
     uno::Reference<css::frame::XModel> model_;
     std::optional<bool> fromPowerPoint_;

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "office/libreoffice/powerpoint/impress_shape.h"
+#include "office/libreoffice/powerpoint/impress_deck.h"
 
 namespace libreoffice::powerpoint {
 
@@ -27,11 +27,12 @@ uno::Reference<css::text::XTextCursor> firstCharacterOf(
 
 }  // namespace
 
-TitleLook::TitleLook(const uno::Reference<css::drawing::XDrawPage>& masterPage,
+TitleLook::TitleLook(ImpressDeck& deck, const uno::Reference<css::drawing::XDrawPage>& masterPage,
                      const ShapeRef& newTitle) {
     const sal_Int32 count = masterPage->getCount();
     for (sal_Int32 i = 0; i < count; ++i) {
         const ShapeRef shape(masterPage->getByIndex(i), uno::UNO_QUERY_THROW);
+        deck.hold(shape);
         if (serviceOf(shape) != "com.sun.star.presentation.TitleTextShape") continue;
         ofText_ = differing(firstCharacterOf(shape), newTitle,
                             {"CharCaseMap", "CharColor", "CharFontName", "CharHeight",

@@ -10,6 +10,8 @@
 
 namespace libreoffice::powerpoint {
 
+class ImpressDeck;
+
 /// How a master page sets its title, as far as a new slide of it does not take it over.
 ///
 /// LibreOffice reads a PowerPoint title's bold type, and that its frame keeps its height, for the
@@ -20,7 +22,8 @@ public:
     using ShapeRef = uno::Reference<css::drawing::XShape>;
 
     /// What differs between the master page's title and one that a new slide of it has got.
-    TitleLook(const uno::Reference<css::drawing::XDrawPage>& masterPage, const ShapeRef& newTitle);
+    TitleLook(ImpressDeck& deck, const uno::Reference<css::drawing::XDrawPage>& masterPage,
+              const ShapeRef& newTitle);
 
     void applyToFrame(const ShapeRef& title) const { apply(ofFrame_, title); }
     /// For a title that holds words.
