@@ -62,6 +62,7 @@ private:
     /// Rows that have had their turn, also those that failed.
     std::int32_t done_ = 0;
     std::int32_t exported_ = 0;
+    bool isOneMissing_ = false;
 };
 
 std::int32_t BatchFrame::run() {
@@ -141,8 +142,11 @@ void BatchFrame::exportRow(const TakenRow& taken) {
     const auto work = [&] {
         const Object slide = showSlideOf(taken);
         catalogue::ProgressStep(session_, done_ + 1, static_cast<std::int32_t>(rows_.size()));
+        // A workbook that is closed meanwhile would bring up a notice for each of its items.
+        if (isOneMissing_) static_cast<void>(session_.ActiveBook.get("Name"));
         const bool isThere = insert(row, slide);
         if (isThere) ++exported_;
+        if (!isThere) isOneMissing_ = true;
         finishItem(row, slide, isThere);
         const auto unselect = [&] { window_.get("Selection").call("Unselect"); };
         if (route_.ignoresSelection) {

@@ -46,6 +46,19 @@ TEST_F(BatchFailuresTest, AWorkbookThatIsClosedMeanwhileIsNotTakenForHiddenSheet
     EXPECT_THROW(exportRows(), office::Failure);
 }
 
+TEST_F(BatchFailuresTest, AWorkbookThatIsClosedInTheMiddleBringsUpOneNoticeOfItsRanges) {
+    for (const char* name : {"Prices", "Costs"}) add(stage::rangeRow(name, "Sales"));
+    host.onEvents = [&] {
+        if (progress.calls.back() == "item 3 of 5") session.ActiveBook.call("Close", false);
+    };
+    int failed = 0;
+    powerpoint::Batch batch{session, list, choices, {}};
+    batch.onFailedItem = [&](const auto&, const auto&) { ++failed; };
+    powerpoint::ExportRows(batch);
+    EXPECT_EQ(failed, 2);
+    EXPECT_EQ(notices.messages().size(), 1U);
+}
+
 TEST_F(BatchFailuresTest, AFileStaysWhereItCannotBeDeletedOrAFailureFollows) {
     suite.failures().fail("Shapes.AddPicture", 2);
     EXPECT_THROW(exportRows(), office::Failure);
