@@ -221,6 +221,10 @@ void reviewWord(session::OfficeSession& session, std::string& blockers) {
     scope.attempt([&] { document = word.get("ActiveDocument").toObject(); });
     if (document.isNothing()) {
         AddBlocker(blockers, "No active Word document is open. Open a document, then try again.");
+    } else if (scope.read([&] { return document.get("ReadOnly").toBool(); }, false)) {
+        AddBlocker(blockers,
+                   "The Word document is opened for reading only. Open it for editing or save it "
+                   "under another name, then try again.");
     }
 }
 

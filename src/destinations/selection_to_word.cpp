@@ -10,6 +10,7 @@
 #include "office/failure_patterns.h"
 #include "office/text.h"
 #include "session/alerts_off.h"
+#include "session/read_only.h"
 #include "session/waits.h"
 
 namespace destinations {
@@ -88,7 +89,8 @@ private:
 };
 
 void SelectionPaste::run() {
-    if (!RequireWordDocument()) return;
+    if (!RequireWordDocument() || session::refusesAsReadOnly(session_, document_, "document"))
+        return;
     const SourceKind kind = findSource();
     if (kind == SourceKind::None) {
         say("Nothing to paste, try again");
@@ -207,7 +209,7 @@ Object SelectionPaste::pastedShape(std::string_view collection) {
     constexpr std::int32_t extend = 1;
     if (collection == "Shapes") return selection_.get("ShapeRange").toObject();
     selection_.call("MoveLeft", character, 1, extend);
-    const Object shape = selection_.get("InlineShapes").get("Item", 1).toObject();
+    Object shape = selection_.get("InlineShapes").get("Item", 1).toObject();
     selection_.call("Collapse", number::toEnd);
     return shape;
 }

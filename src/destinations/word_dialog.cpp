@@ -12,6 +12,7 @@
 #include "office/text.h"
 #include "panels/dialogs.h"
 #include "panels/panel_page.h"
+#include "session/read_only.h"
 #include "session/waits.h"
 
 namespace destinations {
@@ -109,6 +110,7 @@ void DialogWord::ContinueOk_Click() {
             SetPanelMessage(noWord, "warning");
         return;
     }
+    if (session::refusesAsReadOnly(session(), session().SessionDocument, "document")) return;
     panels::RunExport(session(), *this, taken_, [this] { runBatch(); });
 }
 

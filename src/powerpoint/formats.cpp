@@ -10,8 +10,8 @@
 #include "powerpoint/excel_objects.h"
 #include "powerpoint/linked_objects.h"
 #include "powerpoint/pictures.h"
-#include "powerpoint/read_only.h"
 #include "session/powerpoint_session.h"
+#include "session/read_only.h"
 
 namespace powerpoint {
 
@@ -57,7 +57,8 @@ bool InsertOneItem(OfficeSession& session, const catalogue::ExportItem& row,
         return tell(
             "No PowerPoint presentation is open. Open or create a presentation, then try again.");
     }
-    if (refusesAsReadOnly(session)) return false;
+    if (session::refusesAsReadOnly(session, session.SessionPresentation, "presentation"))
+        return false;
     office::Object slide;
     // Neither a master nor an empty presentation has one.
     if (!scope.attempt(

@@ -17,9 +17,9 @@
 #include "powerpoint/formats.h"
 #include "powerpoint/layout_form.h"
 #include "powerpoint/picture_styles_form.h"
-#include "powerpoint/read_only.h"
 #include "session/alerts_off.h"
 #include "session/powerpoint_session.h"
+#include "session/read_only.h"
 
 namespace powerpoint {
 
@@ -161,7 +161,8 @@ void Dialog::ContinueOk_Click() {
         if (!session().SessionPresentation) SetPanelMessage(noPowerPoint, "warning");
         return;
     }
-    if (refusesAsReadOnly(session())) return;
+    if (session::refusesAsReadOnly(session(), session().SessionPresentation, "presentation"))
+        return;
     if (!slideNumbersFit()) {
         session::ShowWarningNotice(session().notices, slideNumberTooHigh);
         return;

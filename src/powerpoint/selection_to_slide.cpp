@@ -13,8 +13,8 @@
 #include "office/text.h"
 #include "powerpoint/excel_objects.h"
 #include "powerpoint/numbers.h"
-#include "powerpoint/read_only.h"
 #include "session/powerpoint_session.h"
+#include "session/read_only.h"
 #include "session/waits.h"
 
 namespace powerpoint {
@@ -78,7 +78,7 @@ void SelectionPaste::run() {
             "one");
         return;
     }
-    if (refusesAsReadOnly(session_)) return;
+    if (session::refusesAsReadOnly(session_, session_.SessionPresentation, "presentation")) return;
     findSlide();
     const std::int32_t viewType = session::ExitShowNormalView(session_);
     constexpr double firstWithRibbonPaste = 15;

@@ -82,6 +82,9 @@ TEST_F(Review, CollectsTheBlockersOfItemsAndDestination) {
     choices.destination = Destination::Word;
     EXPECT_EQ(blockers(),
               Words{"Word is not running. Open Word with an active document, then try again."});
+    test.suite.word().addDocument("Report.docx").readOnly = true;
+    EXPECT_EQ(blockers(), Words{"The Word document is opened for reading only. Open it for editing "
+                                "or save it under another name, then try again."});
     choices.destination = Destination::PowerPoint;
     test.suite.powerPoint();
     EXPECT_EQ(blockers(),

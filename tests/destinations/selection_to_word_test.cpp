@@ -69,6 +69,10 @@ TEST_F(SelectionToWordTest, SaysWhatIsMissing) {
     session.ActiveBook.get("Sheets").get("Item", "Overview").call("Activate");
     paste(WordPaste::Table);
     EXPECT_EQ(boxes(), (Texts{tablesOnly, tablesOnly}));
+    document.readOnly = true;
+    paste(WordPaste::InlineEmbedded);
+    ASSERT_EQ(test.notices.messages().size(), 1U);
+    EXPECT_EQ(test.notices.messages()[0].find("The document is opened for reading only."), 0U);
     document.close();
     test.host.messages.clear();
     for (const auto mode : {WordPaste::Picture, WordPaste::InlineEmbedded,

@@ -81,6 +81,20 @@ TEST_F(WordDialogTest, WithoutADocumentItIsNotOpened) {
     EXPECT_TRUE(desktop.record.empty());
 }
 
+TEST_F(WordDialogTest, StaysOpenOverADocumentThatIsOpenForReadingOnly) {
+    document.readOnly = true;
+    desktop.answer("DialogWord", [this](forms::Form& dialog) {
+        press(dialog, "ContinueOk");
+        ASSERT_EQ(test.notices.messages().size(), 1U);
+        EXPECT_EQ(test.notices.messages()[0].find("The document is opened for reading only."), 0U);
+        ASSERT_TRUE(desktop.isLoaded(dialog));
+        document.readOnly = false;
+        press(dialog, "ContinueOk");
+    });
+    startWord();
+    EXPECT_EQ(document.objectCount(office::model::word::Anchoring::Inline), 3);
+}
+
 TEST_F(WordDialogTest, ItemsThatFailAreToldTogetherAtTheEnd) {
     add("Gone", "Sales", "", session::ItemKind::Range);
     answer("DialogWord", {});

@@ -256,6 +256,7 @@ TEST_F(WordLive, RefusesWhereNobodyMayWriteAndLeavesAllAsItWas) {
             if (each->name() == "locked.odt") each->markActive();
         }
         document = app.get("ActiveDocument").toObject();
+        EXPECT_TRUE(document.get("ReadOnly").toBool());
     };
     const auto anywhere = [] {};
     const auto paste = [&] { selection().call("PasteSpecial"); };

@@ -51,11 +51,13 @@ struct Document : package::FileDocument {
             {guard, shared_from_this(), std::make_shared<word::CaptionLabelNames>()});
     }
 
+    bool isReadOnly() override { return readOnly; }
     void exportPdf(const std::string& path, const word::PdfOptions& options) override {
         pdfs.push_back({path, options});
     }
 
     office::model::GuardPtr guard;
+    bool readOnly = false;
     std::vector<WrittenPdf> pdfs;
 };
 

@@ -99,7 +99,7 @@ void WriterDocument::moveToLineStart() {
 
 void WriterDocument::requireWritable(const uno::Reference<css::beans::XMultiPropertySet>& place,
                                      const std::string& member) {
-    if (file_->isReadonly())
+    if (isReadOnly())
         office::refuse(member, fmt::format("\"{}\" is opened for reading only", name()));
     word::requireWritable(place, member);
 }

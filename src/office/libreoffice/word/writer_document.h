@@ -50,6 +50,7 @@ public:
     [[nodiscard]] bool isGone() const override { return isClosed(); }
     std::string name() override { return Document::name(); }
     std::string fullName() override { return Document::fullName(); }
+    bool isReadOnly() override { return file_->isReadonly(); }
     std::string title() override;
     void setTitle(const std::string& title) override;
     std::int32_t length() override;

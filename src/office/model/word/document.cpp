@@ -93,6 +93,7 @@ const MemberTable<Document>& Document::members() {
         MemberTable<Self>("Document")
             .property("Name", [](Self& self) { return self.document().name(); })
             .property("FullName", [](Self& self) { return self.document().fullName(); })
+            .property("ReadOnly", [](Self& self) { return self.document().isReadOnly(); })
             .property("Range", [](Self& self) { return makeObject<Range>(self.home()); })
             .property("ActiveWindow", [](Self& self) { return makeObject<Window>(self.home()); })
             .property("InlineShapes", [](Self& self) { return inlineShapesObject(self.home()); })

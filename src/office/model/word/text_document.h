@@ -103,6 +103,8 @@ public:
     virtual std::string name() = 0;
     /// The file's path; the name alone of one never saved.
     virtual std::string fullName() = 0;
+    /// Whether it is opened for reading only.
+    virtual bool isReadOnly() = 0;
     /// Its title among the properties of the document.
     virtual std::string title() = 0;
     virtual void setTitle(const std::string& title) = 0;

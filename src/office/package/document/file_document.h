@@ -48,6 +48,7 @@ public:
     void select(const FileObjectPtr& object) { selected_ = object; }
     void markGone();
 
+    bool isReadOnly() override { return false; }
     std::string title() override;
     void setTitle(const std::string& title) override;
     std::int32_t length() override;
