@@ -23,8 +23,7 @@ bool letHaveTurn(const OnFailedItem& onFailedItem, const ExportItem& row,
 }
 
 void FailedItems::add(const ExportItem& row, const office::Failure& failure) {
-    lines_.push_back(
-        fmt::format("{}: {}", row.isChartSheet() ? row.sheet : row.name, failure.description()));
+    lines_.push_back(fmt::format("{}: {}", row.shownName(), failure.description()));
 }
 
 void FailedItems::add(const office::Failure& failure) {

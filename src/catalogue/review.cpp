@@ -185,16 +185,15 @@ void reviewFormat(session::OfficeSession& session, const ExportList& list, Expor
     std::vector<office::PasteItem> items;
     for (const ExportItem& row : list.rows) {
         if (!objects.isOnVisibleSheet(row)) continue;
-        const bool isRange = !row.isChartSheet() && !row.isEmbeddedChart();
         items.push_back(
-            {.name = row.isChartSheet() ? row.sheet : row.name,
-             .source = {.kind = isRange ? CopySource::Kind::Cells : CopySource::Kind::Chart,
+            {.name = row.shownName(),
+             .source = {.kind = row.isRange() ? CopySource::Kind::Cells : CopySource::Kind::Chart,
                         .file = file,
                         .sheet = row.sheet,
                         .chart = row.isEmbeddedChart() ? row.name : "",
                         .address = {}}});
         // What a table would lose is found by its cells.
-        if (isRange && format == ExportFormat::Editable)
+        if (row.isRange() && format == ExportFormat::Editable)
             items.back().source.address = scope.read(
                 [&] { return rangeOf(session, row).get("Address").toText(); }, std::string());
     }

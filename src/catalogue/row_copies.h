@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "catalogue/export_list.h"
 #include "session/office_session.h"
@@ -20,8 +21,10 @@ enum class CopyPause { None, UntilRendered };
 void CopyRow(session::OfficeSession& session, const ExportItem& row);
 void CopyRowAsPicture(session::OfficeSession& session, const ExportItem& row);
 
-/// False if there is no such object or if it can't be copied.
-bool TryCopyRow(session::OfficeSession& session, const ExportItem& row, CopyPause pause);
+/// Empty once the row's object is copied, otherwise what a notice has to say: `notFound` where
+/// there is no such object, and the reason where there is one.
+[[nodiscard]] std::string TryCopyRow(session::OfficeSession& session, const ExportItem& row,
+                                     CopyPause pause, std::string_view notFound);
 
 /// What an item is called where it can't be seen: its caption, or else the object's name.
 [[nodiscard]] std::string DescriptionOf(const ExportItem& row);

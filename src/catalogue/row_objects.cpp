@@ -38,7 +38,7 @@ bool RowObjects::isSheetGone(const ExportItem& row) {
 }
 
 bool RowObjects::isMultipleAreaRow(const ExportItem& row) {
-    if (row.kind != ItemKind::Range) return false;
+    if (!row.isRange()) return false;
     office::ContinueOnFailure scope;
     office::Object range;
     const bool isOnSheet =

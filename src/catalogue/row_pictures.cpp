@@ -55,16 +55,15 @@ void exportRange(const Object& range, const std::string& file, const char* filte
 }  // namespace
 
 std::string TemporaryPictureOf(OfficeSession& session, const ExportItem& row) {
-    const bool isRange = !row.isChartSheet() && !row.isEmbeddedChart();
     return session.host.temporaryFile(
-        fmt::format("{}_{}{}", isRange ? "Range" : "EmbeddedChart",
+        fmt::format("{}_{}{}", row.isRange() ? "Range" : "EmbeddedChart",
                     session::safeFileName(row.isChartSheet() ? "" : row.name),
                     office::endingOf(session.Pictures)));
 }
 
 bool ExportRowPicture(OfficeSession& session, const ExportItem& row, const std::string& file) {
     const char* const filter = filterOf(session.Pictures);
-    if (row.kind != ItemKind::Range) {
+    if (!row.isRange()) {
         chartOf(session, row).call("Export", arg("Filename", file), arg("FilterName", filter));
     } else {
         const Object range = rangeOf(session, row);

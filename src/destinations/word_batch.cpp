@@ -126,10 +126,9 @@ bool WordBatch::bring(const ExportItem& row) {
         const office::Failure& failure = *scope.lastFailure();
         // A full disk is no fault of the item's.
         if (failure.is(office::FailureNumber::PathFileAccess)) throw office::Failure(failure);
-        session::ShowWarningNotice(
-            session_.notices,
-            fmt::format("Could not paste '{}' into the document: {}",
-                        row.isChartSheet() ? row.sheet : row.name, failure.description()));
+        session::ShowWarningNotice(session_.notices,
+                                   fmt::format("Could not paste '{}' into the document: {}",
+                                               row.shownName(), failure.description()));
         return false;
     }
     return true;

@@ -171,8 +171,8 @@ Object BatchFrame::showSlideOf(const TakenRow& taken) {
 
 /// A table is told its room: it is drawn for the size in which it comes.
 bool BatchFrame::insert(const ExportItem& row, const Object& slide) {
-    const bool isTable = batch_.choices.format == catalogue::ExportFormat::Editable &&
-                         !row.isChartSheet() && !row.isEmbeddedChart();
+    const bool isTable =
+        batch_.choices.format == catalogue::ExportFormat::Editable && row.isRange();
     if (!isTable || !batch_.options.placesShapes) return route_.insertItem(session_, row, slide);
     struct Room {
         office::ClipboardPtr clipboard;

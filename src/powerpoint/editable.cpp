@@ -18,6 +18,14 @@ using office::arg;
 using office::Object;
 using session::OfficeSession;
 
+/// If not, a notice has said why.
+bool isCopied(OfficeSession& session, const ExportItem& row, const std::string& notFound) {
+    const std::string why =
+        catalogue::TryCopyRow(session, row, catalogue::CopyPause::None, notFound);
+    if (!why.empty()) session::ShowWarningNotice(session.notices, why);
+    return why.empty();
+}
+
 void pasteChart(OfficeSession& session, const ExportItem& row, const Object& slide) {
     catalogue::RestoreScreenUpdating(session);
     slide.call("Select");
@@ -27,10 +35,7 @@ void pasteChart(OfficeSession& session, const ExportItem& row, const Object& sli
 }
 
 bool PasteChartSheetEditable(OfficeSession& session, const ExportItem& row, const Object& slide) {
-    if (!catalogue::TryCopyRow(session, row, catalogue::CopyPause::None)) {
-        session::ShowWarningNotice(session.notices, "No chart found in sheet: " + row.sheet);
-        return false;
-    }
+    if (!isCopied(session, row, "No chart found in sheet: " + row.sheet)) return false;
     pasteChart(session, row, slide);
     return true;
 }
@@ -43,10 +48,7 @@ bool PasteEmbeddedChartEditable(OfficeSession& session, const ExportItem& row,
 }
 
 bool PasteRangeEditable(OfficeSession& session, const ExportItem& row, const Object& slide) {
-    if (!catalogue::TryCopyRow(session, row, catalogue::CopyPause::None)) {
-        session::ShowWarningNotice(session.notices, catalogue::rangeNotFound(row));
-        return false;
-    }
+    if (!isCopied(session, row, catalogue::rangeNotFound(row))) return false;
     slide.call("Select");
     catalogue::RestoreScreenUpdating(session);
     office::ContinueOnFailure scope;

@@ -22,7 +22,7 @@ using session::OfficeSession;
 
 /// The notices of a row's kind.
 struct RowTexts {
-    std::string copyFailed;
+    std::string notFound;
     std::string pasteFailed;
 };
 
@@ -72,16 +72,15 @@ bool pasteByAttempts(OfficeSession& session, const Object& slide, NextAttempt ne
 bool pasteRowAsObject(OfficeSession& session, const ExportItem& row, const Object& slide,
                       const ObjectRoute& route) {
     catalogue::RestoreScreenUpdating(session);
-    const bool isCopied = catalogue::TryCopyRow(session, row, route.pause);
-    const bool isThere = isCopied && route.paste(session, slide);
-    if (isThere) {
+    const RowTexts texts = textsOf(row, route);
+    std::string why = catalogue::TryCopyRow(session, row, route.pause, texts.notFound);
+    if (why.empty() && !route.paste(session, slide)) why = texts.pasteFailed;
+    if (why.empty()) {
         describeLastShape(slide, row);
     } else {
-        const RowTexts texts = textsOf(row, route);
-        session::ShowWarningNotice(session.notices,
-                                   isCopied ? texts.pasteFailed : texts.copyFailed);
+        session::ShowWarningNotice(session.notices, why);
     }
-    return isThere;
+    return why.empty();
 }
 
 }  // namespace powerpoint

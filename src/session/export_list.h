@@ -52,6 +52,9 @@ struct ExportItem {
     bool operator==(const ExportItem&) const = default;
     [[nodiscard]] bool isChartSheet() const { return kind == ItemKind::ChartSheet; }
     [[nodiscard]] bool isEmbeddedChart() const { return kind == ItemKind::Chart; }
+    [[nodiscard]] bool isRange() const { return kind == ItemKind::Range; }
+    /// What messages call it.
+    [[nodiscard]] const std::string& shownName() const { return isChartSheet() ? sheet : name; }
 };
 
 /// "Embedded", "Chart" or "Range", as the store spells the kinds.
