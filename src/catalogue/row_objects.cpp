@@ -77,7 +77,7 @@ office::Object chartOf(const session::OfficeSession& session, const ExportItem& 
 }
 
 office::Object rangeOf(session::OfficeSession& session, const ExportItem& row) {
-    // A sheet-level name is listed without the quote that opens its sheet.
+    // A store may hold a sheet-level name with its sheet, without the quote that opens that.
     const std::string name = row.name.find('!') == std::string::npos ? row.name : "'" + row.name;
     office::ContinueOnFailure scope;
     office::Object range;

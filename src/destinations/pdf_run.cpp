@@ -83,6 +83,7 @@ private:
         double spaceAfterPt = 0;
     };
     void beginParagraph();
+    void pasteInParagraph();
     void beginParagraph(const ParagraphLook& look);
     void dressParagraph(const ParagraphLook& look);
 
@@ -165,6 +166,20 @@ double PdfPages::headingHeight(const std::string& caption) const {
     return session_.host.textSize(caption, {"Arial", fontPt}, width_).heightPt + spacePt;
 }
 
+/// The paragraph goes again if nothing comes to it: it would take a page of its own.
+void PdfPages::pasteInParagraph() {
+    const bool isFirst = isFirstParagraph_;
+    beginParagraph();
+    try {
+        selection_.call("Paste");
+    } catch (const office::Failure&) {
+        isFirstParagraph_ = isFirst;
+        if (!isFirst)
+            office::ContinueOnFailure().attempt([this] { selection_.call("TypeBackspace"); });
+        throw;
+    }
+}
+
 void PdfPages::addItem(const ExportItem& row) {
     /// What lines take beside their letters, and what rounding takes.
     constexpr double slackPt = 12;
@@ -181,8 +196,7 @@ void PdfPages::addItem(const ExportItem& row) {
         selection_.call("TypeText", row.caption);
         isFirstPage_ = false;
     }
-    beginParagraph();
-    selection_.call("Paste");
+    pasteInParagraph();
     const Object shapes = document_.get("InlineShapes").toObject();
     const Object shape = shapes.get("Item", shapes.get("Count").toLong()).toObject();
     const double width = shape.get("Width").toDouble();

@@ -47,4 +47,19 @@ TEST_F(PdfRunTest, LeavesAWordThatRunsAndPutsTheTitleIntoTheFile) {
               std::string::npos);
 }
 
+TEST_F(PdfRunTest, TakesOutTheParagraphOfAPictureThatDidNotCome) {
+    list.rows.front().caption.clear();
+    add("Chart 2", "Sales", "");
+    add("Chart 1", "Sales", "");
+    for (const std::size_t nth : {1U, 2U}) {
+        test.suite.log().clear();
+        test.suite.failures().fail("Selection.Paste", static_cast<int>(nth));
+        exportPdf();
+        const auto count = [&](const char* member) { return test.suite.log().count(member); };
+        EXPECT_EQ(count("Selection.Paste"), 3U);
+        EXPECT_EQ(count("Selection.TypeParagraph"), nth) << "the first one is there";
+        EXPECT_EQ(count("Selection.TypeBackspace"), nth - 1);
+    }
+}
+
 }  // namespace
