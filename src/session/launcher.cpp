@@ -86,18 +86,6 @@ int show(OfficeSession& session, std::string_view command, const std::function<v
     return commandDone;
 }
 
-template <class... Args>
-int perform(OfficeSession& session, std::string_view command,
-            const std::function<void(Args...)>& handler, std::type_identity_t<Args>... arguments) {
-    if (!handler) {
-        return refuse(session, fmt::format("This version of Murvane does not have the command {} "
-                                           "yet.",
-                                           command));
-    }
-    handler(arguments...);
-    return commandDone;
-}
-
 /// The code has no form to show, and is there to fail like this.
 void showUnassignedForm() {
     const office::Object neverAssigned;
@@ -184,30 +172,26 @@ bool selectionTouchesEmbeddedChart(OfficeSession& session) {
 }
 
 /// `/3122`. An embedded object of cells would bring along the charts that lie on them.
-int pasteAsEmbeddedObject(OfficeSession& session, std::string_view command,
-                          const CommandHandlers& handlers) {
+void pasteAsEmbeddedObject(OfficeSession& session, const CommandHandlers& handlers) {
     if (selectionTouchesEmbeddedChart(session)) {
         ShowWarningNotice(
             session.notices,
             "The specified range contains embedded charts. Please export in another format.");
-        return commandDone;
+        return;
     }
-    return perform(session, command, handlers.PasteSelectionToSlide, SlidePaste::EmbeddedObject);
+    handlers.PasteSelectionToSlide(SlidePaste::EmbeddedObject);
 }
 
-int runSelectionCommand(OfficeSession& session, std::string_view command,
-                        const CommandHandlers& handlers) {
-    if (command == embeddedObjectCode) return pasteAsEmbeddedObject(session, command, handlers);
+void runSelectionCommand(OfficeSession& session, std::string_view command,
+                         const CommandHandlers& handlers) {
+    if (command == embeddedObjectCode) pasteAsEmbeddedObject(session, handlers);
+    if (command == imageCode) handlers.SaveSelectionAsImage();
     for (const ToSlide& known : slideCommands) {
-        if (command == known.code)
-            return perform(session, command, handlers.PasteSelectionToSlide, known.mode);
+        if (command == known.code) handlers.PasteSelectionToSlide(known.mode);
     }
     for (const ToWord& known : wordCommands) {
-        if (command == known.code)
-            return perform(session, command, handlers.PasteSelectionToWord, known.mode);
+        if (command == known.code) handlers.PasteSelectionToWord(known.mode);
     }
-    if (command == imageCode) return perform(session, command, handlers.SaveSelectionAsImage);
-    return commandDone;
 }
 
 int runCommand(OfficeSession& session, std::string_view command, const CommandHandlers& handlers,
@@ -217,14 +201,11 @@ int runCommand(OfficeSession& session, std::string_view command, const CommandHa
     if (session.ExcelApp.isNothing()) return commandDone;
     if (command == mainFormCode) {
         session.ItemCount = 0;
-        if (session.ActiveBook) {
-            const int status = perform(session, command, handlers.CountWorkbookItems);
-            if (status != commandDone) return status;
-        }
+        if (session.ActiveBook) handlers.CountWorkbookItems();
         return runMainForm(session, handlers);
     }
-    if (session.ActiveBook.isNothing()) return commandDone;
-    return runSelectionCommand(session, command, handlers);
+    if (session.ActiveBook) runSelectionCommand(session, command, handlers);
+    return commandDone;
 }
 
 }  // namespace

@@ -12,9 +12,8 @@ enum class SlidePaste { Pictures = 0, SourceFormatting = 1, EmbeddedObject = 2, 
 /// How the selection gets into a Word document.
 enum class WordPaste { Picture, InlineEmbedded, FloatingLinked, Table };
 
-/// What the commands run that lives in higher layers. A version of the program that hasn't got one
-/// of them yet leaves it out, and a run without a screen leaves out those that show a form; the
-/// command then says so in a notice and fails.
+/// What the commands run that lives in higher layers. A run without a screen leaves out those that
+/// show a form; the command then says so in a notice and fails.
 struct CommandHandlers {
     /// Sets `ItemCount` from the active workbook.
     std::function<void()> CountWorkbookItems;
