@@ -32,16 +32,13 @@ DialogHTML::DialogHTML(forms::Desktop& theDesktop, session::OfficeSession& sessi
       TextBox10(*this, "TextBox10", {}),
       Label2(*this, "Label2", {}),
       Label5(*this, "Label5", {}),
-      Check2(*this, "Check2", {}),
       list_(list),
       choices_(choices) {
     Check3.caption = "Use captions as titles";
     SameWidthHTNL.caption = "Make all items same optimized width (otherwise keep Excel item size)";
     Label2.caption = "Width size factor (1-100)";
     Label5.caption = "Blank lines between items";
-    Check2.caption = "Open Html file when done";
     Check3.startWith(State::Checked);
-    Check2.startWith(State::Checked);
     txtAmount.startWith("70");
     TextBox10.startWith("10");
     SameWidthHTNL.onClick = [this] {
@@ -52,7 +49,7 @@ DialogHTML::DialogHTML(forms::Desktop& theDesktop, session::OfficeSession& sessi
             std::string(office::trim(catalogue::Validate_Number_Entry(TextBox10.text()))));
     };
     for (forms::Control* hidden : std::initializer_list<forms::Control*>{
-             &Check3, &SameWidthHTNL, &txtAmount, &TextBox10, &Label2, &Label5, &Check2})
+             &Check3, &SameWidthHTNL, &txtAmount, &TextBox10, &Label2, &Label5})
         hidden->visible = false;
 }
 
@@ -134,7 +131,7 @@ void DialogHTML::runBatch(const HtmlOptions& wanted, bool asImages) {
         session().progress.unload();
         tellIfCancelled(session(), result.walk);
     });
-    if (!result.file.empty() && Check2.isChecked()) openOrName(session(), result.file);
+    if (!result.file.empty()) openOrName(session(), result.file);
 }
 
 void StartHtmlExport(session::OfficeSession& session, forms::Desktop& desktop,

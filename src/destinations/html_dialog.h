@@ -26,7 +26,6 @@ public:
     forms::TextBox TextBox10;
     forms::Label Label2;
     forms::Label Label5;
-    forms::CheckBox Check2;
 
 protected:
     [[nodiscard]] std::string BuildOptionsMarkup() const override;

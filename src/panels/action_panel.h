@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
 
@@ -26,28 +25,22 @@ void NavigatePanelFile(session::Host& host, forms::WebBrowser& browser, std::str
 [[nodiscard]] std::string ReadFieldValue(const forms::WebBrowser& browser, std::string_view id,
                                          std::string_view fallback);
 
-/// The bar of a dialog. What it hasn't got is null.
+/// The bar of a dialog.
 struct ActionBar {
     forms::Label& bar;
     forms::CommandButton& button;
-    forms::Label* border = nullptr;
-    forms::Label* caption = nullptr;
-    std::array<forms::CommandButton*, 2> extraButtons = {};
-    forms::Label* footer = nullptr;
+    forms::Label& border;
 };
 
-/// The whole placement with the theme, once per dialog, at the end of its `Form_Load`. The caption
-/// of the bar takes no part in it.
+/// The whole placement with the theme, once per dialog, at the end of its `Form_Load`.
 void SetupActionPanel(forms::Form& form, forms::WebBrowser& browser, const ActionBar& parts);
 
-/// Along the foot of the form: border, bar, button, and from the left what else there is.
+/// Along the foot of the form: border, bar and button.
 void LayoutActionBar(const forms::Form& form, const ActionBar& parts);
 
-/// Between `top` and the bar less a gap; `maximumHeight` 0 is none. Never lower than 1500, even
-/// where it then covers the bar.
+/// Between `top` and the bar less a gap. Never lower than 1500, even where it then covers the bar.
 void LayoutActionBrowser(const forms::Form& form, forms::WebBrowser& browser,
-                         const forms::Label& bar, forms::Twips top, forms::Twips gap,
-                         forms::Twips maximumHeight);
+                         const forms::Label& bar, forms::Twips top, forms::Twips gap);
 
 void PlaceContinueButton(forms::CommandButton& button, const forms::Place& place);
 

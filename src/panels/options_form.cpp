@@ -24,7 +24,6 @@ OptionsForm::OptionsForm(forms::Desktop& theDesktop, session::OfficeSession& ses
       wbStatus(*this, "wbStatus", {}),
       lblActionBar(*this, "lblActionBar", {}),
       lblActionBorder(*this, "lblActionBorder", {}),
-      lblActionCaption(*this, "lblActionCaption", {}),
       ContinueOk(*this, "ContinueOk", {}),
       session_(session),
       destinationWord_(std::move(destinationWord)) {
@@ -46,7 +45,6 @@ OptionsForm::OptionsForm(forms::Desktop& theDesktop, session::OfficeSession& ses
 
 void OptionsForm::beginForm() {
     topmost = true;
-    lblActionCaption.visible = false;
     shadow_.emplace().Shadow(*this);
 }
 
@@ -57,12 +55,7 @@ void OptionsForm::showPanel() {
 }
 
 ActionBar OptionsForm::actionBar() {
-    return {.bar = lblActionBar,
-            .button = ContinueOk,
-            .border = &lblActionBorder,
-            .caption = nullptr,
-            .extraButtons = {},
-            .footer = nullptr};
+    return {.bar = lblActionBar, .button = ContinueOk, .border = lblActionBorder};
 }
 
 void OptionsForm::SetPanelMessage(std::string message, std::string kind) {
@@ -80,7 +73,6 @@ void OptionsForm::RenderPanel() {
     ShowActionPanel(session_.host, wbStatus,
                     {.message = message_,
                      .kind = kind_,
-                     .footer = {},
                      .destinationWord = destinationWord_,
                      .options = BuildOptionsMarkup(),
                      .tools = BuildToolsMarkup()});

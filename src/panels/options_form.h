@@ -38,7 +38,6 @@ public:
     forms::WebBrowser wbStatus;
     forms::Label lblActionBar;
     forms::Label lblActionBorder;
-    forms::Label lblActionCaption;
     forms::CommandButton ContinueOk;
 
 protected:

@@ -35,9 +35,7 @@ std::string BuildActionPanelHtml(const ActionPanel& panel) {
     std::string body = BuildSummaryHtml(panel.message, panel.destinationWord);
     if (body.empty()) body = TextToParagraphs(panel.message);
 
-    std::string content = block("div", "body", body) + panel.tools + panel.options;
-    if (!panel.footer.empty()) content += block("div", "footer", HtmlEscape(panel.footer));
-
+    const std::string content = block("div", "body", body) + panel.tools + panel.options;
     return wholePage(PanelCss(), block("div", "panel " + NormalizeNoticeKind(panel.kind), content));
 }
 

@@ -12,7 +12,6 @@ namespace panels {
 struct ActionPanel {
     std::string message;
     std::string kind;             ///< of a notice: colours the frame
-    std::string footer;           ///< a line at the foot, or empty
     std::string destinationWord;  ///< "PowerPoint", "Word", "PDF", "HTML" or "Images"
     std::string options;          ///< finished markup, or empty
     std::string tools;            ///< finished markup, or empty; stands above the options

@@ -29,7 +29,7 @@ std::string styleSheet(const std::array<StyleRule, count>& rules) {
 }
 
 // clang-format off
-constexpr std::array<StyleRule, 25> baseRules{{
+constexpr std::array<StyleRule, 24> baseRules{{
     {"html,body",
      "margin:0;padding:0;overflow:hidden;background:#111827;"
      "font-family:Segoe UI,Tahoma,Arial,sans-serif;color:#f1f5f9;height:100%"},
@@ -68,9 +68,6 @@ constexpr std::array<StyleRule, 25> baseRules{{
     {".app-badge.images", "background:#7b1fa2"},
     {".flow-arrow",
      "display:inline-block;margin:0 8px;font-size:13px;color:#64748b;font-weight:700"},
-    {".footer",
-     "padding:10px 12px 12px;border-top:1px solid rgba(239,68,68,.28);background:#1a1418;"
-     "color:#fca5a5;font-size:11px;text-align:center;font-weight:600;line-height:1.45;margin:0"},
 }};
 
 constexpr std::array<StyleRule, 20> optionRules{{

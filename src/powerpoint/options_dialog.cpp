@@ -45,21 +45,15 @@ constexpr const char* slideNumberTooHigh =
 Dialog::Dialog(forms::Desktop& theDesktop, session::OfficeSession& session,
                catalogue::ExportList& list, const catalogue::ExportChoices& choices)
     : OptionsForm(theDesktop, session, "Dialog", "PowerPoint", "icon:powerpoint"),
-      Label7(*this, "Label7", {780, 900, 3600, 240}),
       Frame3(*this, "Frame3", {180, 1500, 8880, 1740}),
       SlideTitle(*this, "SlideTitle", {180, 300, 8400, 300}, &Frame3),
       SourceInc(*this, "SourceInc", {180, 720, 8400, 300}, &Frame3),
       CheckShadow(*this, "CheckShadow", {180, 1140, 8400, 300}, &Frame3),
-      CreateBlankPPT(*this, "CreateBlankPPT", {7560, 840, 1200, 420}),
       list_(list),
       choices_(choices) {
-    Label7.caption = "Active PowerPoint file:";
     SlideTitle.caption = "Use captions as slide title";
     SourceInc.caption = "Include source file sheet at the bottom of each slide";
     CheckShadow.caption = "Add shadow to pasted items";
-    CreateBlankPPT.caption = "New";
-    // It does nothing. Covered by the panel, it would only be a stop on the way of the Tab key.
-    CreateBlankPPT.visible = false;
 }
 
 void Dialog::Form_Load() {
@@ -67,7 +61,6 @@ void Dialog::Form_Load() {
     options_ = {};
     // Slides that exist already have their titles.
     SlideTitle.enabled = !choices_.predefinedSlides;
-    CreateBlankPPT.enabled = !choices_.predefinedSlides;
     Frame3.visible = false;
     CheckShadow.visible = false;
     if (!findsPresentation()) return;

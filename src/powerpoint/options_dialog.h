@@ -28,12 +28,10 @@ public:
     /// Opens a tool form.
     void RunPanelAction(std::string_view key) override;
 
-    forms::Label Label7;
     forms::Frame Frame3;
     forms::CheckBox SlideTitle;
     forms::CheckBox SourceInc;
     forms::CheckBox CheckShadow;
-    forms::CommandButton CreateBlankPPT;
 
 protected:
     [[nodiscard]] std::string BuildOptionsMarkup() const override;

@@ -16,12 +16,11 @@ void expectPanel(const panels::ActionPanel& panel, const std::string& name) {
                    name);
 }
 
-TEST(PanelPage, ShowsASummaryWithToolsOptionsAndFooter) {
+TEST(PanelPage, ShowsASummaryWithToolsAndOptions) {
     panels::ActionPanel panel;
     panel.message =
         "3 object(s) will be pasted to\rQ3 <draft>.pptx\ras Pictures\rstarting at slide 4";
     panel.kind = "info";
-    panel.footer = "PowerPoint & Excel stay open";
     panel.destinationWord = "PowerPoint";
     panel.options = panels::OptionsBlockHtml(
         "Options", panels::OptionRowHtml("slideTitle", "Add slide titles", true, true) +
