@@ -26,15 +26,7 @@ struct Topic {
     std::string_view file;
 };
 
-/// The names that the form had in its first design stand first.
-constexpr std::array<Topic, 24> controlTopics{{
-    {"lstItems", itemsHelp},
-    {"chkSelectAll", itemsHelp},
-    {"cmdExport", optionsHelp},
-    {"optPowerPoint", optionsHelp},
-    {"optExcel", optionsHelp},
-    {"txtCaption", captionsHelp},
-    {"txtSlideNumber", captionsHelp},
+constexpr std::array<Topic, 17> controlTopics{{
     {"listCharts", itemsHelp},
     {"Check1", itemsHelp},
     {"imgChart", itemsHelp},
