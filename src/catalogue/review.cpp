@@ -2,7 +2,9 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "catalogue/export_run.h"
@@ -10,7 +12,6 @@
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
-#include "panels/markup.h"
 #include "panels/notices.h"
 #include "session/powerpoint_session.h"
 
@@ -18,15 +19,11 @@ namespace catalogue {
 
 namespace {
 
-void AddBlocker(std::string& blockers, std::string_view text) {
-    blockers += panels::element("li", {}, panels::HtmlEscape(text));
-}
+using Lines = std::vector<std::string>;
 
-void AddReviewItem(std::string& reviewItems, std::string& reviewLines, std::string_view text) {
-    const std::string line = fmt::format("- {}\r\n", text);
-    if (("\n" + reviewLines).find("\n" + line) != std::string::npos) return;
-    reviewItems += panels::element("li", {}, panels::HtmlEscape(text));
-    reviewLines += line;
+void AddReviewItem(Lines& reviewItems, std::string line) {
+    if (std::find(reviewItems.begin(), reviewItems.end(), line) == reviewItems.end())
+        reviewItems.push_back(std::move(line));
 }
 
 bool isOpen(const office::Object& book) {
@@ -36,8 +33,8 @@ bool isOpen(const office::Object& book) {
 void reviewItems(session::OfficeSession& session, const ExportList& list, ReviewTexts& texts) {
     const std::int32_t checked = CountCheckedRows(list);
     if (checked == 0) {
-        AddBlocker(texts.Blockers,
-                   "No items are checked. Select at least one chart, range, or object to export.");
+        texts.Blockers.emplace_back(
+            "No items are checked. Select at least one chart, range, or object to export.");
         return;
     }
     RowObjects objects(session);
@@ -50,20 +47,21 @@ void reviewItems(session::OfficeSession& session, const ExportList& list, Review
     }
     const std::int32_t hidden = checked - exportable - gone;
     if (exportable == 0 && !isOpen(session.ActiveBook)) {
-        AddBlocker(texts.Blockers, "The workbook is no longer open. Open it again and start anew.");
+        texts.Blockers.emplace_back(
+            "The workbook is no longer open. Open it again and start anew.");
     } else if (gone == checked) {
-        AddBlocker(texts.Blockers,
-                   "The sheets of all checked items are no longer in the workbook. They may have "
-                   "been renamed: check the items under the new names.");
+        texts.Blockers.emplace_back(
+            "The sheets of all checked items are no longer in the workbook. They may have "
+            "been renamed: check the items under the new names.");
     } else if (exportable == 0) {
-        AddBlocker(texts.Blockers,
-                   "All checked items are on hidden worksheets and cannot be exported. Show those "
-                   "sheets or uncheck them.");
+        texts.Blockers.emplace_back(
+            "All checked items are on hidden worksheets and cannot be exported. Show those "
+            "sheets or uncheck them.");
     } else {
         const auto tellSkipped = [&](std::int32_t count, const char* where) {
             if (count == 0) return;
             AddReviewItem(
-                texts.ReviewItems, texts.ReviewLines,
+                texts.ReviewItems,
                 fmt::format("{} checked item(s) are on {} and will be skipped.", count, where));
         };
         tellSkipped(hidden, "hidden worksheets");
@@ -71,8 +69,7 @@ void reviewItems(session::OfficeSession& session, const ExportList& list, Review
     }
     for (const ExportItem& row : list.rows) {
         if (!row.checked || !objects.isMultipleAreaRow(row)) continue;
-        AddBlocker(
-            texts.Blockers,
+        texts.Blockers.emplace_back(
             fmt::format("\"{}\" is a multiple-area range and cannot be exported.", row.name));
     }
 }
@@ -97,34 +94,32 @@ Count slideCount(const session::OfficeSession& session) {
 }
 
 /// True if the row's slide number is one of the presentation's.
-bool reviewSlideNumber(const ExportItem& row, std::int32_t slides, std::string& blockers) {
+bool reviewSlideNumber(const ExportItem& row, std::int32_t slides, Lines& blockers) {
     const std::string_view text = office::trim(row.slideNumber);
     if (text.empty()) {
-        AddBlocker(blockers,
-                   fmt::format(
-                       "Missing slide number for \"{}\". Enter a slide number or uncheck the item.",
-                       row.name));
+        blockers.emplace_back(fmt::format(
+            "Missing slide number for \"{}\". Enter a slide number or uncheck the item.",
+            row.name));
         return false;
     }
     const std::int32_t number = slideNumberOf(text);
     if (number < 1) {
-        AddBlocker(blockers, fmt::format("Invalid slide number for \"{}\".", row.name));
+        blockers.emplace_back(fmt::format("Invalid slide number for \"{}\".", row.name));
         return false;
     }
     if (number > slides) {
-        AddBlocker(blockers,
-                   fmt::format("Slide {} for \"{}\" exceeds the presentation size ({} slides).",
-                               number, row.name, slides));
+        blockers.emplace_back(
+            fmt::format("Slide {} for \"{}\" exceeds the presentation size ({} slides).", number,
+                        row.name, slides));
         return false;
     }
     return true;
 }
 
-void reviewSlideNumbers(session::OfficeSession& session, const ExportList& list,
-                        std::string& blockers) {
+void reviewSlideNumbers(session::OfficeSession& session, const ExportList& list, Lines& blockers) {
     const Count slides = slideCount(session);
     if (!slides) {
-        AddBlocker(blockers, "Could not read the open PowerPoint presentation.");
+        blockers.emplace_back("Could not read the open PowerPoint presentation.");
         return;
     }
     RowObjects objects(session);
@@ -134,9 +129,9 @@ void reviewSlideNumbers(session::OfficeSession& session, const ExportList& list,
         if (reviewSlideNumber(row, *slides, blockers)) anyValid = true;
     }
     if (blockers.empty() && !anyValid) {
-        AddBlocker(blockers,
-                   "No checked items have a valid slide number. Enter slide numbers in the list "
-                   "before exporting.");
+        blockers.emplace_back(
+            "No checked items have a valid slide number. Enter slide numbers in the list "
+            "before exporting.");
     }
 }
 
@@ -152,18 +147,17 @@ Count attachAndCount(session::OfficeSession& session) {
 /// What keeps an export to slides from running: PowerPoint, its presentation and, where slides are
 /// predefined, the slide numbers of the rows on visible sheets.
 void reviewPowerPoint(session::OfficeSession& session, const ExportList& list,
-                      const ExportChoices& choices, std::string& blockers) {
+                      const ExportChoices& choices, Lines& blockers) {
     const Count presentations = attachAndCount(session);
     if (!presentations) {
-        AddBlocker(
-            blockers,
+        blockers.emplace_back(
             "PowerPoint is not running. Open PowerPoint and a presentation, then try again.");
         return;
     }
     if (*presentations == 0) {
-        AddBlocker(blockers,
-                   "No PowerPoint presentation is open. Open or create a presentation, then try "
-                   "again.");
+        blockers.emplace_back(
+            "No PowerPoint presentation is open. Open or create a presentation, then try "
+            "again.");
         return;
     }
     if (choices.predefinedSlides) reviewSlideNumbers(session, list, blockers);
@@ -202,28 +196,28 @@ void reviewFormat(session::OfficeSession& session, const ExportList& list, Expor
                                                        : office::PasteAs::Linked;
     scope.attempt([&] {
         for (const std::string& line : session.suite.remarksOn(application, as, items))
-            AddReviewItem(texts.ReviewItems, texts.ReviewLines, line);
+            AddReviewItem(texts.ReviewItems, line);
     });
 }
 
 /// What keeps an export to Word from running: Word and its document.
-void reviewWord(session::OfficeSession& session, std::string& blockers) {
+void reviewWord(session::OfficeSession& session, Lines& blockers) {
     office::ContinueOnFailure scope;
     office::Object word;
     scope.attempt([&] { word = session.suite.attach("Word.Application"); });
     if (word.isNothing()) {
-        AddBlocker(blockers,
-                   "Word is not running. Open Word with an active document, then try again.");
+        blockers.emplace_back(
+            "Word is not running. Open Word with an active document, then try again.");
         return;
     }
     office::Object document;
     scope.attempt([&] { document = word.get("ActiveDocument").toObject(); });
     if (document.isNothing()) {
-        AddBlocker(blockers, "No active Word document is open. Open a document, then try again.");
+        blockers.emplace_back("No active Word document is open. Open a document, then try again.");
     } else if (scope.read([&] { return document.get("ReadOnly").toBool(); }, false)) {
-        AddBlocker(blockers,
-                   "The Word document is opened for reading only. Open it for editing or save it "
-                   "under another name, then try again.");
+        blockers.emplace_back(
+            "The Word document is opened for reading only. Open it for editing or save it "
+            "under another name, then try again.");
     }
 }
 
@@ -254,11 +248,11 @@ ReviewResult PreExportReview(session::OfficeSession& session, const ExportList& 
         panels::ShowExportBlockedNotice(session.notices, texts.Blockers, texts.ReviewItems);
         return ReviewResult::Blocked;
     }
-    if (!texts.ReviewLines.empty()) {
+    if (!texts.ReviewItems.empty()) {
+        std::string question;
+        for (const std::string& line : texts.ReviewItems) question += "- " + line + "\r\n";
         const int reply = session::ShowConfirmNotice(
-            session.notices,
-            fmt::format("{}\r\n\r\nContinue anyway?", office::trim(texts.ReviewLines)),
-            "Export review");
+            session.notices, question + "\r\n\r\nContinue anyway?", "Export review");
         if (reply == session::answer::cancel) return ReviewResult::Cancelled;
     }
     return ReviewResult::Go;

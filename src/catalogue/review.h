@@ -10,11 +10,10 @@ namespace catalogue {
 
 /// What a review has found.
 struct ReviewTexts {
-    /// Each keeps the export from running. Markup: one "<li>" for each, its text escaped.
-    std::string Blockers;
-    /// What the user may overrule, as markup and as plain lines "- text" ended by CR LF.
-    std::string ReviewItems;
-    std::string ReviewLines;
+    /// Each keeps the export from running.
+    std::vector<std::string> Blockers;
+    /// What the user may overrule.
+    std::vector<std::string> ReviewItems;
 };
 
 /// Looks at the rows and at the application of each destination, and tells nobody. What is found

@@ -199,17 +199,6 @@ int BrowserView::contentHeight(std::string_view id) {
         .toInt();
 }
 
-std::string BrowserView::checkedValues(std::string_view name) {
-    if (!complete_) return {};
-    return textOf(askPage(*page_,
-                          QStringLiteral("Array.from(document.getElementsByName(%1))"
-                                         ".filter(function(e){return e.checked;})"
-                                         ".map(function(e){return e.value;}).join(',')")
-                              .arg(scriptText(name)),
-                          host())
-                      .toString());
-}
-
 void BrowserView::setStyle(std::string_view property, std::string_view value) {
     setStyleOf(QStringLiteral("document.body,document.documentElement"), property, value);
 }

@@ -25,7 +25,6 @@ public:
     [[nodiscard]] bool isComplete() override { return complete_; }
     [[nodiscard]] std::optional<std::string> fieldValue(std::string_view id) override;
     [[nodiscard]] int contentHeight(std::string_view id) override;
-    [[nodiscard]] std::string checkedValues(std::string_view name) override;
     void setStyle(std::string_view property, std::string_view value) override;
     void setBodyStyle(std::string_view property, std::string_view value) override;
     void setDivStyle(std::string_view className, std::string_view property,

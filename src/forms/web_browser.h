@@ -26,8 +26,6 @@ public:
     /// `ScrollHeight` of the element with this id, or of the body if there is none, in pixels of an
     /// unscaled screen; 0 while there is no layout. Where it is 0, its `offsetHeight`.
     [[nodiscard]] virtual int contentHeight(std::string_view id) = 0;
-    /// The values of the checked elements of this name, in the order of the page.
-    [[nodiscard]] virtual std::string checkedValues(std::string_view name) = 0;
     /// Sets a style of the body and of the document's root.
     virtual void setStyle(std::string_view property, std::string_view value) = 0;
     /// The same of the body alone.

@@ -27,7 +27,7 @@ constexpr int yesAndNo = 4;
 
 constexpr Twips defaultWidth = 8400;
 constexpr Twips minimumBody = 1800;
-constexpr Twips tallestOwnBody = 8400;
+constexpr Twips tallestBody = 8400;
 constexpr Twips barHeight = 1140;
 constexpr Twips margin = 180;
 constexpr Twips buttonWidth = 1920;
@@ -72,23 +72,18 @@ MurvaneNotice::MurvaneNotice(forms::Desktop& theDesktop, session::Host& host, Pe
 
 void MurvaneNotice::Form_Load() {
     shadow_.emplace().Shadow(*this);
-    acceptedValues.clear();
     pageIsRequested_ = false;
     Result = has(pending_.Buttons, withCancel) ? session::answer::cancel : session::answer::ok;
-    place.width = pending_.Width > 0 ? std::min(pending_.Width, desktop().screen().width - 600)
-                                     : defaultWidth;
     const std::string title = pending_.Title.empty() ? "Murvane" : pending_.Title;
     TitelBar1.caption = " " + title;
     wbNotice.accessibleName =
         pending_.Message.empty() ? title : title + ": " + onOneLine(pending_.Message);
-    TitelBar1.place.width = place.width;
     showButtons();
     PlaceNoticeBrowser();
-    const Twips body = pending_.BodyHeight > 0 ? pending_.BodyHeight : minimumBody;
-    FitNoticeToBody(body);
+    FitNoticeToBody(minimumBody);
     furniture::ApplyTheme(*this);
     // The theme has styled the buttons anew.
-    FitNoticeToBody(body);
+    FitNoticeToBody(minimumBody);
     CenterNotice();
     if (!pending_.Html.empty()) tmrHtml.enabled = true;
 }
@@ -126,16 +121,10 @@ void MurvaneNotice::LoadNoticeHtml(const std::string& page) {
 
 void MurvaneNotice::wbNotice_DocumentComplete() {
     furniture::ApplyBrowserBackground(wbNotice, furniture::palette::ThemeGroundText);
-    tmrFit.enabled = pending_.BodyHeight < 1;
-    if (pending_.BodyHeight > 0) FitNoticeToBody(pending_.BodyHeight);
+    tmrFit.enabled = true;
 }
 
 void MurvaneNotice::tmrFit_Timer() {
-    if (pending_.BodyHeight > 0) {
-        FitNoticeToBody(pending_.BodyHeight);
-        tmrFit.enabled = false;
-        return;
-    }
     if (MeasureNotice()) {
         tmrFit.enabled = false;
         return;
@@ -143,7 +132,7 @@ void MurvaneNotice::tmrFit_Timer() {
     ++tries_;
     if (tries_ < mostTries) return;
     tmrFit.enabled = false;
-    FitNoticeToBody(0);
+    FitNoticeToBody(minimumBody);
 }
 
 bool MurvaneNotice::MeasureNotice() {
@@ -155,7 +144,7 @@ bool MurvaneNotice::MeasureNotice() {
 
     Twips body = (heightPx + 24) * forms::twipsPerPixel + 360;
     body = std::max(body, minimumBody);
-    const Twips limit = pending_.BodyHeight > 0 ? pending_.BodyHeight : NoticeMaxBodyHeight();
+    const Twips limit = NoticeMaxBodyHeight();
     if (body > limit) {
         body = limit;
         document->setStyle("overflow", "auto");
@@ -172,8 +161,7 @@ Twips MurvaneNotice::NoticeHeaderHeight() const {
 
 Twips MurvaneNotice::NoticeMaxBodyHeight() const {
     const Twips room = desktop().screen().height - NoticeHeaderHeight() - barHeight - 480;
-    const Twips cap = pending_.BodyHeight > 0 ? pending_.BodyHeight : tallestOwnBody;
-    return std::min(std::max(room, minimumBody), cap);
+    return std::clamp(room, minimumBody, tallestBody);
 }
 
 Twips MurvaneNotice::NoticeFormHeight(Twips body) const {
@@ -181,8 +169,6 @@ Twips MurvaneNotice::NoticeFormHeight(Twips body) const {
 }
 
 void MurvaneNotice::FitNoticeToBody(Twips height) {
-    if (height < 1) height = pending_.BodyHeight;
-    if (height < 1) height = minimumBody;
     Twips body = std::min(height, NoticeMaxBodyHeight());
     const Twips needed = NoticeFormHeight(body);
     place.height = std::min(needed, desktop().screen().height - 600);
@@ -216,13 +202,7 @@ void MurvaneNotice::PlaceNoticeBrowser() {
     wbNotice.place = {margin, NoticeHeaderHeight(), place.width - 2 * margin, minimumBody};
 }
 
-void MurvaneNotice::ReadAcceptedValues() {
-    acceptedValues.clear();
-    if (wbNotice.view != nullptr) acceptedValues = wbNotice.view->checkedValues("mvAccept");
-}
-
 void MurvaneNotice::btnOK_Click() {
-    ReadAcceptedValues();
     Result = has(pending_.Buttons, yesAndNo) ? session::answer::yes : session::answer::ok;
     desktop().unload(*this);
 }

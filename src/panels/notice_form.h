@@ -15,12 +15,10 @@ namespace panels {
 
 /// What a notice is handed before it loads.
 struct PendingNotice {
-    std::string Html;             ///< the finished page
-    std::string Title;            ///< of the title bar
-    std::string Message = {};     ///< the page's words alone, for a screen reader
-    int Buttons = 0;              ///< a message-box code, read by its flags 1 and 4
-    forms::Twips Width = 0;       ///< of the form; 0: its own
-    forms::Twips BodyHeight = 0;  ///< of the page; 0: as the text needs
+    std::string Html;          ///< the finished page
+    std::string Title;         ///< of the title bar
+    std::string Message = {};  ///< the page's words alone, for a screen reader
+    int Buttons = 0;           ///< a message-box code, read by its flags 1 and 4
 };
 
 /// A message as a card with real buttons below it. The form grows with its text, within limits, and
@@ -34,9 +32,6 @@ public:
 
     /// The code of the answer: `session::answer`.
     int Result = 0;
-    /// The values of the checked boxes of the page that are named "mvAccept", joined by commas;
-    /// from the press on `btnOK` on.
-    std::string acceptedValues;
 
     furniture::TitleBar TitelBar1;
     forms::WebBrowser wbNotice;
@@ -55,7 +50,6 @@ private:
 
     void showButtons();
     void LoadNoticeHtml(const std::string& page);
-    /// 0 stands for the fixed height, or else for the least.
     void FitNoticeToBody(forms::Twips height);
     void placeButtons();
     /// True once the page could be measured and the form fits it.
@@ -65,7 +59,6 @@ private:
     [[nodiscard]] forms::Twips NoticeFormHeight(forms::Twips body) const;
     void CenterNotice();
     void PlaceNoticeBrowser();
-    void ReadAcceptedValues();
 
     session::Host& host_;
     PendingNotice pending_;

@@ -1,9 +1,11 @@
 #include "panels/notices.h"
 
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
 #include <exception>
 
 #include "office/failure.h"
-#include "office/text.h"
 #include "panels/dialogs.h"
 #include "panels/markup.h"
 #include "panels/style_sheets.h"
@@ -23,12 +25,12 @@ std::string lead(std::string_view text) {
     return block("p", "lead", element("strong", {}, HtmlEscape(text)));
 }
 
-std::string unescaped(std::string text) {
-    text = office::replaceAll(text, "&lt;", "<");
-    text = office::replaceAll(text, "&gt;", ">");
-    text = office::replaceAll(text, "&quot;", "\"");
-    text = office::replaceAll(text, "&#39;", "'");
-    return office::replaceAll(text, "&amp;", "&");
+using Lines = std::vector<std::string>;
+
+std::string list(const Lines& lines, std::string_view cssClass) {
+    std::string items;
+    for (const std::string& line : lines) items += element("li", {}, HtmlEscape(line));
+    return block("ul", cssClass, items);
 }
 
 }  // namespace
@@ -49,30 +51,23 @@ std::string BuildNoticeHtml(std::string_view title, std::string_view body, std::
 
 std::string noticePage(const session::Notice& notice) {
     if (!notice.page.empty()) return notice.page;
-    return BuildNoticeHtml(notice.title, TextToParagraphs(notice.message), notice.kind,
-                           notice.badge);
+    return BuildNoticeHtml(notice.title, TextToParagraphs(notice.message), notice.kind, {});
 }
 
-int ShowExportBlockedNotice(session::NoticePresenter& presenter, std::string_view fixes,
-                            std::string_view reviews) {
+int ShowExportBlockedNotice(session::NoticePresenter& presenter, const Lines& fixes,
+                            const Lines& reviews) {
     session::Notice notice;
     notice.title = "Export blocked";
     notice.kind = "error";
-    notice.badge = "Pre-export check";
-    notice.message = listText(fixes);
+    notice.message = fmt::format("{}", fmt::join(fixes, "\r\n"));
 
-    std::string body = lead("Fix these before exporting:") + block("ul", "issue-list", fixes);
+    std::string body = lead("Fix these before exporting:") + list(fixes, "issue-list");
     if (!reviews.empty()) {
-        body += lead("Also review:") + block("ul", "issue-list review", reviews);
-        notice.message += "\r\n\r\n" + listText(reviews);
+        body += lead("Also review:") + list(reviews, "issue-list review");
+        notice.message += fmt::format("\r\n\r\n{}", fmt::join(reviews, "\r\n"));
     }
-    notice.page = BuildNoticeHtml(notice.title, body, notice.kind, notice.badge);
+    notice.page = BuildNoticeHtml(notice.title, body, notice.kind, "Pre-export check");
     return presenter.show(notice);
-}
-
-std::string listText(std::string_view listItems) {
-    const std::string broken = office::replaceAll(listItems, "</li><li>", "\r\n");
-    return unescaped(office::replaceAll(office::replaceAll(broken, "<li>", ""), "</li>", ""));
 }
 
 int NoticePanel::show(const session::Notice& notice) {

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/desktop.h"
 #include "panels/notice_form.h"
@@ -18,13 +19,11 @@ namespace panels {
 /// The page of any notice: the one it brings, or its message as paragraphs.
 [[nodiscard]] std::string noticePage(const session::Notice& notice);
 
-/// Tells what keeps an export from running. Both lists are markup, one "<li>" for each entry with
-/// its text escaped; `reviews` may be empty. Returns the answer's code.
-int ShowExportBlockedNotice(session::NoticePresenter& presenter, std::string_view fixes,
-                            std::string_view reviews);
-
-/// The entries of such a list as plain text, a line each without a line break at the end.
-[[nodiscard]] std::string listText(std::string_view listItems);
+/// Tells what keeps an export from running, and what else there is to review. Returns the answer's
+/// code.
+int ShowExportBlockedNotice(session::NoticePresenter& presenter,
+                            const std::vector<std::string>& fixes,
+                            const std::vector<std::string>& reviews);
 
 /// Shows notices in the form `MurvaneNotice`, above everything. There is one at a time: a notice
 /// that comes while another is up unloads it, which is then answered as a closed one.

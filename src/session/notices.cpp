@@ -3,13 +3,9 @@
 namespace session {
 
 int ShowNotice(NoticePresenter& presenter, std::string_view message, std::string_view title,
-               std::string_view kind, int buttons, std::string_view badge) {
-    return presenter.show({std::string(message),
-                           std::string(title),
-                           std::string(kind),
-                           buttons,
-                           std::string(badge),
-                           {}});
+               std::string_view kind, int buttons) {
+    return presenter.show(
+        {std::string(message), std::string(title), std::string(kind), buttons, {}});
 }
 
 int ShowWarningNotice(NoticePresenter& presenter, std::string_view message,

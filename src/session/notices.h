@@ -25,9 +25,8 @@ struct Notice {
     std::string title;
     std::string kind;  ///< "info", "warning", "error", "success" or one of their aliases
     int buttons = buttons::okOnly;
-    std::string badge;  ///< empty: the kind's own
-    std::string page;   ///< finished markup of the whole page, where the caller has composed one;
-                        ///< empty: made from `message`
+    std::string page;  ///< finished markup of the whole page, where the caller has composed one;
+                       ///< empty: made from `message`
 };
 
 /// Shows notices, one at a time and modal. A window with a browser shows the page, a terminal
@@ -45,7 +44,7 @@ public:
 
 /// The calls that all parts of the program use: message first, title second.
 int ShowNotice(NoticePresenter& presenter, std::string_view message, std::string_view title,
-               std::string_view kind, int buttons, std::string_view badge = {});
+               std::string_view kind, int buttons);
 int ShowWarningNotice(NoticePresenter& presenter, std::string_view message,
                       std::string_view title = "Murvane");
 int ShowErrorNotice(NoticePresenter& presenter, std::string_view message,

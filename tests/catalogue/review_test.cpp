@@ -1,13 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "catalogue/review.h"
 #include "loaded_list.h"
-#include "office/text.h"
-#include "panels/notices.h"
 
 namespace {
 
@@ -41,12 +38,7 @@ protected:
         list.rows.front().slideNumber = slideNumber;
     }
     [[nodiscard]] Words blockers() {
-        const std::string markup = catalogue::reviewExport(test.session, list, {choices}).Blockers;
-        const std::string text = office::replaceAll(panels::listText(markup), "\r\n", "\n");
-        Words lines;
-        std::istringstream stream(text);
-        for (std::string line; std::getline(stream, line);) lines.push_back(line);
-        return lines;
+        return catalogue::reviewExport(test.session, list, {choices}).Blockers;
     }
 };
 
@@ -191,12 +183,12 @@ TEST_F(Review, AsksOverWhatTheFormatCannotDoForAnItem) {
     test.suite.remarkOn(office::PasteAs::Embedded, "it stays <small>");
     const auto lines = [&](catalogue::ExportFormat format) {
         choices.format = format;
-        return catalogue::reviewExport(test.session, list, {choices}).ReviewLines;
+        return catalogue::reviewExport(test.session, list, {choices}).ReviewItems;
     };
-    const std::string hidden = "- 1 checked item(s) are on hidden worksheets and will be skipped.";
+    const std::string hidden = "1 checked item(s) are on hidden worksheets and will be skipped.";
     EXPECT_EQ(lines(catalogue::ExportFormat::Embedded),
-              hidden + "\r\n- Chart 1 of /documents/Book1.xlsx, sheet Sales: it stays <small>\r\n");
-    EXPECT_EQ(lines(catalogue::ExportFormat::Linked), hidden + "\r\n");
+              (Words{hidden, "Chart 1 of /documents/Book1.xlsx, sheet Sales: it stays <small>"}));
+    EXPECT_EQ(lines(catalogue::ExportFormat::Linked), Words{hidden});
 }
 
 }  // namespace

@@ -180,8 +180,6 @@ TEST_F(Browser, APageAnswersAboutItselfAndItsOwnScriptsDoNotRun) {
     const PageFile file(
         "<div id='noticeRoot' style='height:230px'></div><input id='width' value='a\"b'>"
         "<input id=\"it's\" value='ü'><p id='p' style='height:70px'>x</p>"
-        "<input type=checkbox name=mvAccept value=a checked><input type=checkbox name=mvAccept "
-        "value=b><input type=checkbox name=mvAccept value=c checked>"
         "<script>document.getElementById('width').value='script';</script>");
     open(file.url());
     EXPECT_EQ(page().fieldValue("width"), "a\"b");
@@ -190,7 +188,6 @@ TEST_F(Browser, APageAnswersAboutItselfAndItsOwnScriptsDoNotRun) {
     EXPECT_EQ(page().fieldValue("p"), std::nullopt) << "an element without a value";
     EXPECT_EQ(page().contentHeight("noticeRoot"), 230);
     EXPECT_GE(page().contentHeight("missing"), 300);
-    EXPECT_EQ(page().checkedValues("mvAccept"), "a,c");
     form.wbStatus.accessibleName = "Export options";
     desk.letEventsRun();
     EXPECT_EQ(engine().accessibleName(), QStringLiteral("Export options"));

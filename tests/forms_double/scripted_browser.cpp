@@ -58,10 +58,6 @@ int ScriptedBrowser::contentHeight(std::string_view id) {
     return !isLoaded_ || found == script_.contentHeights.end() ? 0 : found->second;
 }
 
-std::string ScriptedBrowser::checkedValues(std::string_view) {
-    return isLoaded_ ? script_.checkedValues : std::string();
-}
-
 void ScriptedBrowser::setStyle(std::string_view property, std::string_view value) {
     if (isLoaded_) styles[std::string(property)] = value;
 }

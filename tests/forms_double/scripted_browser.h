@@ -17,7 +17,6 @@ struct PageScript {
     std::map<std::string, std::string, std::less<>> fields;
     /// By the id of the element asked for.
     std::map<std::string, int, std::less<>> contentHeights;
-    std::string checkedValues;
     bool completes = true;
     /// The texts of files by their paths; all are empty where it is not set.
     const std::map<std::string, std::string, std::less<>>* files = nullptr;
@@ -53,7 +52,6 @@ public:
     [[nodiscard]] bool isComplete() override { return isLoaded_; }
     [[nodiscard]] std::optional<std::string> fieldValue(std::string_view id) override;
     [[nodiscard]] int contentHeight(std::string_view id) override;
-    [[nodiscard]] std::string checkedValues(std::string_view name) override;
     void setStyle(std::string_view property, std::string_view value) override;
     void setBodyStyle(std::string_view property, std::string_view value) override;
     void setDivStyle(std::string_view className, std::string_view property,

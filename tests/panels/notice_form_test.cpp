@@ -141,29 +141,6 @@ TEST_F(NoticeTest, StopsWaitingForItsPageAfterAboutASecond) {
     }
 }
 
-TEST_F(NoticeTest, KeepsAFixedSizeWhateverThePageNeeds) {
-    panels::MurvaneNotice form(desktop, host,
-                               {.Html = "page", .Title = "T", .Width = 99000, .BodyHeight = 3000});
-    desktop.page.contentHeights = {{"noticeRoot", 600}};
-    desktop.show(form, forms::ShowMode::Modeless);
-    desktop.advance(300ms);
-    EXPECT_EQ(form.place.width, desktop.size.width - 600);
-    EXPECT_EQ(form.wbNotice.place.height, 3000);
-    EXPECT_FALSE(form.tmrFit.enabled);
-}
-
-TEST_F(NoticeTest, HandsOverTheBoxesThatWereCheckedOnlyWithOk) {
-    desktop.page.checkedValues = "3,7";
-    for (const char* button : {"btnOK", "btnCancel"}) {
-        panels::MurvaneNotice form(desktop, host, {.Html = "page", .Title = "T", .Buttons = 33});
-        desktop.show(form, forms::ShowMode::Modeless);
-        desktop.advance(100ms);
-        // The page must still be there when it is asked.
-        press(form, button);
-        EXPECT_EQ(form.acceptedValues, button == std::string("btnOK") ? "3,7" : "");
-    }
-}
-
 TEST_F(NoticeTest, WorksWithoutAPage) {
     desktop.hasBrowsers = false;
     const auto refuse = [&](forms::Form& form) {

@@ -47,15 +47,14 @@ TEST(NoticePage, HasTheBadgeOfItsKindUnlessOneIsGivenOrThePageIsTheCallers) {
 
 TEST(BlockedNotice, ListsWhatToFixAndWhatToReview) {
     RecordingNotices notices;
-    panels::ShowExportBlockedNotice(notices, "<li>Fix &quot;A&quot;</li><li>Fix B</li>",
-                                    "<li>Look at &lt;C&gt;</li>");
+    panels::ShowExportBlockedNotice(notices, {"Fix \"A\"", "Fix B"}, {"Look at <C>"});
     ASSERT_EQ(notices.shown.size(), 1U);
     const session::Notice notice = notices.shown.front();
     EXPECT_EQ(notice.title, "Export blocked");
     EXPECT_EQ(notice.buttons, session::buttons::okOnly);
     EXPECT_EQ(notice.message, "Fix \"A\"\r\nFix B\r\n\r\nLook at <C>");
     expectNotice(notice.page, "export_blocked.html");
-    panels::ShowExportBlockedNotice(notices, "<li>Fix A</li>", "");
+    panels::ShowExportBlockedNotice(notices, {"Fix A"}, {});
     EXPECT_EQ(notices.shown.back().page.find("Also review:"), std::string::npos);
     EXPECT_EQ(notices.shown.back().message, "Fix A");
 }
