@@ -1,5 +1,7 @@
 #include "catalogue/export_run.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -41,6 +43,13 @@ std::vector<TakenRow> takeRows(session::OfficeSession& session, const ExportList
 void ProgressStep(session::OfficeSession& session, std::int32_t item, std::int32_t total) {
     session.progress.showItem(item, total);
     session.host.letEventsRun();
+}
+
+void TellCancelled(session::OfficeSession& session, std::int32_t exported, std::int32_t total) {
+    session::ShowNotice(
+        session.notices,
+        fmt::format("The export was cancelled: {} of {} items were exported.", exported, total),
+        "Murvane", "info", session::buttons::okOnly);
 }
 
 void RestoreScreenUpdating(session::OfficeSession& session) {

@@ -32,6 +32,9 @@ struct TakenRow {
 /// Shows that the export is at its item `item` of `total`, and lets events run.
 void ProgressStep(session::OfficeSession& session, std::int32_t item, std::int32_t total);
 
+/// Tells how far an export has come that the user has cancelled.
+void TellCancelled(session::OfficeSession& session, std::int32_t exported, std::int32_t total);
+
 /// Lets both applications draw again, failures ignored, and lets events run.
 void RestoreScreenUpdating(session::OfficeSession& session);
 

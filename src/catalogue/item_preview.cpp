@@ -1,34 +1,20 @@
 #include "catalogue/item_preview.h"
 
 #include "catalogue/numbers.h"
+#include "catalogue/row_copies.h"
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
 
 namespace catalogue {
 
-namespace {
-
 using office::arg;
-using office::Object;
 using session::OfficeSession;
 
-void copyChartSheet(OfficeSession& session, const ExportItem& row) {
-    chartOf(session, row).get("ChartArea").call("Copy");
-}
-
-void copyEmbeddedChart(OfficeSession& session, const ExportItem& row) {
-    chartObjectOf(session, row).call("Copy");
-}
-
-}  // namespace
-
 PreviewCopy copyForPreview(OfficeSession& session, const ExportItem& row) {
-    if (row.isChartSheet()) {
-        copyChartSheet(session, row);
-    } else if (row.isEmbeddedChart()) {
-        copyEmbeddedChart(session, row);
+    if (!row.isRange()) {
+        CopyRow(session, row);
     } else {
-        const Object range = rangeOf(session, row);
+        const office::Object range = rangeOf(session, row);
         if (range.get("Areas").get("Count").toLong() > 1) return PreviewCopy::SeveralAreas;
         range.call("Copy");
     }
@@ -36,10 +22,8 @@ PreviewCopy copyForPreview(OfficeSession& session, const ExportItem& row) {
 }
 
 void copyForFirstPreview(OfficeSession& session, const ExportItem& row) {
-    if (row.isChartSheet()) {
-        copyChartSheet(session, row);
-    } else if (row.isEmbeddedChart()) {
-        copyEmbeddedChart(session, row);
+    if (!row.isRange()) {
+        CopyRow(session, row);
     } else {
         rangeOf(session, row)
             .call("CopyPicture", arg("Appearance", number::asOnScreen),

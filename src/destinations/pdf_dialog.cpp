@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "catalogue/failed_items.h"
-#include "destinations/format_names.h"
 #include "destinations/pdf_file.h"
 #include "destinations/size_factor.h"
 #include "office/failure_patterns.h"
@@ -60,10 +59,11 @@ void DialogPDF::Form_Load() {
     if (taken_ < 1) {
         showNothingSelected();
     } else {
-        SetPanelMessage(fmt::format("{} object(s) will be pasted to\r\r as {}\r starting at the "
-                                    "insertion point",
-                                    taken_, formatName(catalogue::ExportFormat::Pictures)),
-                        "info");
+        SetPanelMessage(
+            fmt::format("{} object(s) will be pasted to\r\r as pictures\r starting at the "
+                        "insertion point",
+                        taken_),
+            "info");
     }
     showPanel();
 }

@@ -1,7 +1,5 @@
 #include "destinations/row_walk.h"
 
-#include <fmt/format.h>
-
 #include <deque>
 #include <utility>
 
@@ -75,11 +73,8 @@ WalkResult walkRowsAhead(
 }
 
 void tellIfCancelled(session::OfficeSession& session, const WalkResult& result) {
-    if (!result.wasCancelled()) return;
-    session::ShowNotice(session.notices,
-                        fmt::format("The export was cancelled: {} of {} items were exported.",
-                                    result.done - result.failed, result.total),
-                        "Murvane", "info", session::buttons::okOnly);
+    if (result.wasCancelled())
+        catalogue::TellCancelled(session, result.done - result.failed, result.total);
 }
 
 }  // namespace destinations

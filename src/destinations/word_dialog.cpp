@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "catalogue/failed_items.h"
-#include "destinations/format_names.h"
 #include "destinations/pdf_file.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
@@ -23,6 +22,19 @@ using catalogue::ExportFormat;
 
 constexpr const char* noWord =
     "No open Word found. \r Please open an existing document or create a new one";
+
+constexpr std::string_view formatName(ExportFormat format) {
+    switch (format) {
+        case ExportFormat::Editable:
+            return "Excel editable";
+        case ExportFormat::Embedded:
+            return "Excel embedded";
+        case ExportFormat::Linked:
+            return "Linked embedded objects";
+        default:
+            return "pictures";
+    }
+}
 
 /// The key of each row, in their order.
 constexpr std::array<std::pair<const char*, forms::CheckBox DialogWord::*>, 4> rows = {{

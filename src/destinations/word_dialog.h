@@ -20,7 +20,7 @@ public:
     /// Runs the export and ends the session.
     void ContinueOk_Click() override;
     /// Flips an option, if it is enabled.
-    void ToggleOption(std::string_view key) override;
+    void ToggleOption(std::string_view wanted) override;
 
     forms::CheckBox SameWidth;
     forms::CheckBox AddCaption;

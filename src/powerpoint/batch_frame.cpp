@@ -1,7 +1,5 @@
 #include "powerpoint/batch_frame.h"
 
-#include <fmt/format.h>
-
 #include <optional>
 #include <string>
 #include <vector>
@@ -82,10 +80,7 @@ std::int32_t BatchFrame::run() {
     if (route_.showsCompletion && done_ == total) catalogue::ProgressStep(session_, total, total);
     const auto lateFailure = putBack();
     if (done_ < total) {
-        session::ShowNotice(session_.notices,
-                            fmt::format("The export was cancelled: {} of {} items were exported.",
-                                        exported_, total),
-                            "Murvane", "info", session::buttons::okOnly);
+        catalogue::TellCancelled(session_, exported_, total);
     } else if (exported_ == 0 && !route_.noneArrived.empty()) {
         session::ShowWarningNotice(session_.notices, route_.noneArrived);
     }
