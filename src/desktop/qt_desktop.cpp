@@ -35,7 +35,7 @@ protected:
             QMessageBox::keyPressEvent(event);
         }
     }
-    void closeEvent(QCloseEvent* event) override { QDialog::closeEvent(event); }
+    void closeEvent(QCloseEvent*) override { reject(); }
 };
 
 }  // namespace

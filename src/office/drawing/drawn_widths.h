@@ -1,9 +1,9 @@
 #pragma once
 
-#include <compare>
 #include <memory>
 #include <optional>
 #include <string>
+#include <tuple>
 
 namespace office::drawing {
 
@@ -13,7 +13,10 @@ struct NamedFont {
     int weight = 400;
     bool isItalic = false;
 
-    auto operator<=>(const NamedFont&) const = default;
+    bool operator<(const NamedFont& other) const {
+        return std::tie(family, weight, isItalic) <
+               std::tie(other.family, other.weight, other.isItalic);
+    }
 };
 
 /// How wide texts are in the fonts that drawings come out in. For one thread.

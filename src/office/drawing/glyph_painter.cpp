@@ -77,8 +77,8 @@ void GlyphPainter::paintGlyphs(const Metafile::Text& text) {
             const PangoGlyphInfo& glyph = run->glyphs->glyphs[i];
             if (run->glyphs->log_clusters[i] != cluster) before = 0;
             cluster = run->glyphs->log_clusters[i];
-            const double place =
-                text.places.at(static_cast<std::size_t>(run->item->offset + cluster));
+            const double place = text.places.at(static_cast<std::size_t>(run->item->offset) +
+                                                static_cast<std::size_t>(cluster));
             if (glyph.glyph != PANGO_GLYPH_EMPTY && (glyph.glyph & PANGO_GLYPH_UNKNOWN_FLAG) == 0) {
                 glyphs.push_back({glyph.glyph,
                                   std::round(place * across_) + before +

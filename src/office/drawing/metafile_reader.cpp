@@ -375,7 +375,7 @@ void Reader::readText(Values values) {
     const std::size_t first = values.word();
     const std::size_t count = values.word();
     std::vector<double> ends;
-    for (std::uint32_t left = values.next<std::uint32_t>(); left > 0; --left)
+    for (auto left = values.next<std::uint32_t>(); left > 0; --left)
         ends.push_back(values.number() * state_.mapping.scaleX);
     std::u16string units;
     for (int left = values.word(); left > 0; --left) units += values.next<char16_t>();

@@ -121,7 +121,7 @@ std::shared_ptr<Kind> Desk::active() {
             const auto model = modelOf(onTop);
             if (model.is() && isOfKind<Kind>(model)) document = record<Kind>(model);
         }
-        if (const auto wanted = std::dynamic_pointer_cast<Kind>(document)) {
+        if (auto wanted = std::dynamic_pointer_cast<Kind>(document)) {
             wanted->markActive();
             return wanted;
         }
@@ -246,7 +246,7 @@ std::shared_ptr<Kind> Desk::alreadyOpen(const rtl::OUString& url) {
         const auto model = tryAs<css::frame::XModel>(component);
         if (!model.is()) continue;
         if (isOfKind<Kind>(model)) {
-            if (const auto document = record<Kind>(model); document->url() == url) return document;
+            if (auto document = record<Kind>(model); document->url() == url) return document;
         } else if (model->getURL() == url) {
             failToOpen(url, kindOf<Kind>.absence);
         }

@@ -145,6 +145,7 @@ void ChartShapes::refresh(const uno::Sequence<rtl::OUString>& keys) {
         return std::find(charts_.begin(), charts_.end(), chart) != charts_.end();
     });
     std::vector<std::string> names;
+    names.reserve(inTurn.size());
     for (const ChartShapePtr& chart : inTurn) names.push_back(chart->knownName());
     names = office::distinctNames(std::move(names));
     for (std::size_t i = 0; i < inTurn.size(); ++i) inTurn[i]->callItself(std::move(names[i]));

@@ -51,6 +51,7 @@ std::vector<SheetRecordPtr> SheetList::all() {
     const auto now = names();
     if (now != namesSeen_) followNames(now);
     std::vector<SheetRecordPtr> sheets;
+    sheets.reserve(now.size());
     for (const std::string& name : now) sheets.push_back(recordFor(name));
     return sheets;
 }

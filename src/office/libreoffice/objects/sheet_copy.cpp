@@ -357,7 +357,7 @@ void copySheet(const Connection& connection, const ModelRef& from, const std::st
         // the source. A workbook without drawings takes sheets over without their charts.
         const Scratch cells(connection, filler);
         for (sal_Int32 place = 0; place <= *behind.rbegin(); ++place) {
-            if (behind.count(place) == 0) {
+            if (!behind.contains(place)) {
                 sheets->insertNewByName(toUno(fmt::format("{} {}", filler, place)),
                                         static_cast<sal_Int16>(place));
                 continue;
@@ -374,7 +374,7 @@ void copySheet(const Connection& connection, const ModelRef& from, const std::st
     setProperty(copy, "IsVisible", true);
     const auto all = sheets->getElementNames();
     for (const rtl::OUString& each : all) {
-        if (wanted.count(each) == 0) {
+        if (!wanted.contains(each)) {
             sheets->removeByName(each);
         } else if (each != name) {
             setProperty(sheetOf(into, each), "IsVisible", false);

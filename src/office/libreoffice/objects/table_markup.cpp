@@ -291,8 +291,8 @@ std::string TableDocument::paragraphStyle(const CellLook& cell) {
                                           {"-asian", &cell.asianFontName},
                                           {"-complex", &cell.complexFontName}}) {
         const char* space = *script == '\0' ? "fo" : "style";
-        const auto set = [&](const char* name, const std::string& value) {
-            letters.emplace_back(fmt::format("{}:{}{}", space, name, script), value);
+        const auto set = [&, ending = script](const char* name, const std::string& value) {
+            letters.emplace_back(fmt::format("{}:{}{}", space, name, ending), value);
         };
         const std::string& font = ownFont->empty() ? cell.fontName : *ownFont;
         if (!font.empty()) set("font-family", fmt::format("'{}'", font));

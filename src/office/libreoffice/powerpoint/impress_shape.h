@@ -58,7 +58,7 @@ public:
     /// Kept here: nothing in LibreOffice answers to it.
     void setKeepsProportions(bool keeps) override { keepsProportions_ = keeps; }
     model::Outline outline() override;
-    void setOutline(model::Outline outline) override;
+    void setOutline(model::Outline wanted) override;
     std::optional<double> adjustment(std::int32_t place) override;
     bool setAdjustment(std::int32_t place, double value) override;
     model::Shadow shadow() override;

@@ -67,7 +67,7 @@ std::int32_t ImpressSlide::workbooksAmong(const std::set<rtl::OUString>& stored)
     const std::int32_t count = shapeCount();
     for (std::int32_t place = 1; place <= count; ++place) {
         const auto shape = at(place);
-        if (shape && stored.count(shape->workbook()) > 0) ++found;
+        if (shape && stored.contains(shape->workbook())) ++found;
     }
     return found;
 }

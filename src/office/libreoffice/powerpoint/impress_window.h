@@ -31,7 +31,7 @@ public:
     std::int32_t viewType() override;
     /// 1 (slide) is the normal view. A run ends with this call: then, it waits for the pictures
     /// that are still drawn. `office::Failure` 1004 also if one of them could not be.
-    void setViewType(std::int32_t viewType) override;
+    void setViewType(std::int32_t number) override;
     model::DeckSlidePtr slideInView() override;
     /// A window that has just come to a slide rests there for a moment: LibreOffice paints each
     /// slide that is shown, pictures and all, and nothing else goes on meanwhile. Whatever else is
@@ -64,7 +64,7 @@ private:
     /// With the slide in view that was asked for last.
     [[nodiscard]] const uno::Reference<css::frame::XController>& settledController();
     void showNow(const model::DeckSlidePtr& slide);
-    void changeView(std::int32_t viewType);
+    void changeView(std::int32_t number);
     [[nodiscard]] bool showsMasterPage();
     [[nodiscard]] Commands commands();
 

@@ -23,8 +23,9 @@ WriterObjects::WriterObjects(WriterDocument& document, bool areAllKnown)
           as<css::text::XTextEmbeddedObjectsSupplier>(document.model())->getEmbeddedObjects())) {}
 
 bool WriterObjects::areThere(std::size_t count) {
-    return areAllKnown_ ||
-           static_cast<std::size_t>(pictures_->getCount() + embedded_->getCount()) == count;
+    return areAllKnown_ || static_cast<std::size_t>(pictures_->getCount()) +
+                                   static_cast<std::size_t>(embedded_->getCount()) ==
+                               count;
 }
 
 WriterObjectPtr WriterObjects::known(const rtl::OUString& name) const {
