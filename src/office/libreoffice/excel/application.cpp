@@ -1,11 +1,15 @@
 #include "office/libreoffice/excel/application.h"
 
+#include <com/sun/star/beans/NamedValue.hpp>
+#include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/ui/dialogs/ExecutableDialogResults.hpp>
 #include <com/sun/star/ui/dialogs/XFilePicker2.hpp>
 #include <com/sun/star/ui/dialogs/XFilterManager.hpp>
+#include <com/sun/star/util/XChangesBatch.hpp>
 
 #include <utility>
 
+#include "office/libreoffice/at_end.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/copied.h"
 #include "office/libreoffice/excel/picture_maker.h"
@@ -16,6 +20,30 @@
 namespace libreoffice::excel {
 
 namespace {
+
+/// What Excel does with a workbook whose file asks for it, and LibreOffice by a setting of its own:
+/// without, the charts of a program that writes formulas without their results are empty. What is
+/// calculated later counts as changed.
+std::shared_ptr<CalcDocument> loadedAndCalculated(Desk& desk, const rtl::OUString& url,
+                                                  const std::string& password) {
+    constexpr std::int32_t always = 0;
+    constexpr std::int32_t never = 1;
+    const auto provider = as<css::lang::XMultiServiceFactory>(
+        desk.connection().create("com.sun.star.configuration.ConfigurationProvider"));
+    const css::beans::NamedValue place(
+        "nodepath", uno::Any(rtl::OUString("/org.openoffice.Office.Calc/Formula/Load")));
+    const uno::Any argument(place);
+    const auto settings = provider->createInstanceWithArguments(
+        "com.sun.star.configuration.ConfigurationUpdateAccess",
+        uno::Sequence<uno::Any>(&argument, 1));
+    const auto recalculate = [&](std::int32_t when) {
+        setProperty(settings, "OOXMLRecalcMode", when);
+        as<css::util::XChangesBatch>(settings)->commitChanges();
+    };
+    recalculate(always);
+    const AtEnd back([&] { recalculate(never); });
+    return desk.loaded<CalcDocument>(url, true, password);
+}
 
 /// The workbooks of LibreOffice.
 ///
@@ -52,9 +80,10 @@ model::BookPtr CalcBooks::load(const std::string& file, const std::string& passw
     const rtl::OUString url = fileUrl(file);
     auto book = desk_->alreadyOpen<CalcDocument>(url);
     if (!book) {
-        book = desk_->loaded<CalcDocument>(url, true, password);
         // What a user looks at stays as he sees it.
-        if (desk_->opensHidden()) book->calculateIfItsFileAsks();
+        const bool calculates = desk_->opensHidden() && readWorkbookFacts(url).calculatesOnLoad;
+        book = calculates ? loadedAndCalculated(*desk_, url, password)
+                          : desk_->loaded<CalcDocument>(url, true, password);
         if (readOnly) book->leaveFileAlone();
     }
     book->markActive();

@@ -6,7 +6,6 @@
 #include <com/sun/star/frame/XController.hpp>
 #include <com/sun/star/frame/XFrame.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
-#include <com/sun/star/sheet/XCalculatable.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XSelectedSheetsSupplier.hpp>
@@ -111,13 +110,6 @@ SheetList& CalcDocument::sheetList() {
 const WorkbookFacts& CalcDocument::facts() {
     if (!facts_) facts_ = readWorkbookFacts(url());
     return *facts_;
-}
-
-void CalcDocument::calculateIfItsFileAsks() {
-    if (!facts().calculatesOnLoad) return;
-    const bool was = isModified();
-    as<css::sheet::XCalculatable>(model())->calculateAll();
-    setModified(was);
 }
 
 bool CalcDocument::isReadOnly() {

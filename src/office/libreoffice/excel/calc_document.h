@@ -40,9 +40,6 @@ public:
 
     /// Its file counts as one that may not be written.
     void leaveFileAlone() { leavesFileAlone_ = true; }
-    /// What Excel does with a file that asks for it, and LibreOffice leaves to its user: without,
-    /// the charts of a program that writes formulas without their results are empty.
-    void calculateIfItsFileAsks();
 
     [[nodiscard]] bool isGone() const override { return isClosed(); }
     std::string name() override { return Document::name(); }
