@@ -59,10 +59,11 @@ public:
         const std::string& /*sheet*/, const std::string& /*address*/) const {
         return std::nullopt;
     }
-    /// One of those cells as it is shown: "12.5 %".
-    [[nodiscard]] virtual std::string shownTextOf(const std::string& /*sheet*/,
-                                                  const std::string& /*address*/) const {
-        return {};
+    /// One of those cells as it is shown: "12.5 %", or as nothing if its format hides it. Nothing
+    /// where that can't be told.
+    [[nodiscard]] virtual std::optional<std::string> shownTextOf(
+        const std::string& /*sheet*/, const std::string& /*address*/) const {
+        return std::nullopt;
     }
 
 private:

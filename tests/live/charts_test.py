@@ -59,6 +59,9 @@ def dressed(book):
     log = chart(book, "line", "logarithm")
     log.set_y_axis({"log_base": 10, "name": "orders", "reverse": True})
     yield log
+    empty = book.add_chart({"type": "column"})
+    empty.add_series({"name": "empty", "values": cells("E")})
+    yield empty
     for axis in ({"date_axis": True}, {"text_axis": True}):
         dates = book.add_chart({"type": "line"})
         dates.add_series({"name": "days", "categories": cells("D"), "values": cells("B")})
@@ -74,6 +77,11 @@ def write(path, version):
             data.write_row(row, 0, [f"port {row}", 7 * row % 11 + 1])
             # With no result but 0 in the file, which asks who opens it to calculate.
             data.write_formula(row, 2, f"=MOD(5*{row},7)+2")
+            # Cells that are blank, and those that only look so, which count as 0.
+            if row % 3 == 2:
+                data.write_formula(row, 4, '=""', None, "")
+            elif row % 3 == 1:
+                data.write(row, 4, row)
             data.write(row, 3, 46000 + row * row, book.add_format({"num_format": "yyyy-mm-dd"}))
         rewrites, charts = {}, []
         for kind, subtype, edits in [*((kind, sub, []) for kind, subs in SUBTYPES.items() for sub in subs),
@@ -165,6 +173,9 @@ class Charts(ProgramTest):
             self.assertEqual(set(re.findall(r"<c:f>('[^!]*')!", xml)), {SHEET})
             self.assertNotRegex(xml, r"<c:cat><c:numRef><c:f>[^<]*</c:f><c:numCache><c:formatCode>General",
                                 "days without their format")
+            for points in re.findall(r"!\$E\$2:.*?<c:numCache>(.*?)</c:numCache>", xml):
+                self.assertEqual(re.findall(r'idx="(\d)"><c:v>(\d)</c:v>', points),
+                                 [("0", "1"), ("1", "0"), ("3", "4"), ("4", "0")])
             where = re.search(r'<c:externalData [^>]*r:id="(\w+)"', xml).group(1)
             rels = package.read(re.sub(r"charts/(.*)", r"charts/_rels/\1.rels", chart)).decode()
             sources.add(re.search(rf'Id="{where}"[^>]*Target="([^"]*)"', rels).group(1))

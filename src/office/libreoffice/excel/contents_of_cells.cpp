@@ -22,6 +22,27 @@ office::CellContent contentOf(const uno::Any& cell) {
     return {text.isEmpty() ? Content::Blank : Content::Text, 0, fromUno(text)};
 }
 
+/// A formula may yield a text of no letters, which is read as a blank cell is.
+void tellEmptyTexts(office::CellContents& contents,
+                    const uno::Reference<css::table::XCellRange>& range,
+                    const model::CellBlock& block) {
+    using Content = office::CellContent::Kind;
+    const auto isBlank = [](const office::CellContent& cell) {
+        return cell.kind == Content::Blank;
+    };
+    if (std::none_of(contents.cells.begin(), contents.cells.end(), isBlank)) return;
+    for (const css::table::CellRangeAddress& area : filledParts(range)) {
+        for (sal_Int32 row = area.StartRow; row <= area.EndRow; ++row) {
+            for (sal_Int32 column = area.StartColumn; column <= area.EndColumn; ++column) {
+                const auto place =
+                    (row - block.firstRow) * block.columns() + column - block.firstColumn;
+                office::CellContent& cell = contents.cells[static_cast<std::size_t>(place)];
+                if (isBlank(cell)) cell.kind = Content::Text;
+            }
+        }
+    }
+}
+
 void markShown(std::vector<bool>& lines, sal_Int32 first, sal_Int32 last, sal_Int32 begin) {
     std::fill(lines.begin() + (first - begin), lines.begin() + (last - begin + 1), true);
 }
@@ -46,6 +67,7 @@ office::CellContents readContents(SheetRecord& sheet, const model::CellBlock& bl
     for (const auto& row : rows) {
         for (const uno::Any& cell : row) contents.cells.push_back(contentOf(cell));
     }
+    tellEmptyTexts(contents, range, read);
     const auto shown =
         answered(as<css::sheet::XCellRangesQuery>(range)->queryVisibleCells())->getRangeAddresses();
     for (const css::table::CellRangeAddress& area : shown) {

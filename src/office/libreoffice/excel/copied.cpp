@@ -88,12 +88,13 @@ std::optional<office::CellContents> CopiedChart::contentsOf(const std::string& s
     });
 }
 
-std::string CopiedChart::shownTextOf(const std::string& sheet, const std::string& address) const {
+std::optional<std::string> CopiedChart::shownTextOf(const std::string& sheet,
+                                                    const std::string& address) const {
     CalcDocument& workbook = book();
-    return translated(workbook.desk(), [&]() -> std::string {
+    return translated(workbook.desk(), [&]() -> std::optional<std::string> {
         const SheetRecordPtr found = workbook.sheetList().find(sheet);
         const auto block = office::model::excel::blockOf(address);
-        if (!found || !block) return {};
+        if (!found || !block) return std::nullopt;
         return fromUno(
             as<css::text::XTextRange>(found->range(*block)->getCellByPosition(0, 0))->getString());
     });

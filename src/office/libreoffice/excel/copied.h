@@ -66,8 +66,8 @@ public:
     [[nodiscard]] uno::Reference<css::graphic::XGraphic> graphic() const override;
     [[nodiscard]] std::optional<office::CellContents> contentsOf(
         const std::string& sheet, const std::string& address) const override;
-    [[nodiscard]] std::string shownTextOf(const std::string& sheet,
-                                          const std::string& address) const override;
+    [[nodiscard]] std::optional<std::string> shownTextOf(const std::string& sheet,
+                                                         const std::string& address) const override;
 
 private:
     std::shared_ptr<CalcDocument> book_;

@@ -199,11 +199,8 @@ private:
             if (!agrees(one, found == known.end() ? nullptr : found->second, point)) return false;
             if (found != known.end()) known.erase(found);
         }
-        // A text in a line of numbers is drawn as 0.
         return std::all_of(known.begin(), known.end(), [&](const auto& rest) {
-            const bool isZero =
-                one.memory == Reference::Memory::Numbers && isSameNumber(rest.second, 0);
-            return isZero || *rest.second == '\0';
+            return rest.first < line.count && *rest.second == '\0';
         });
     }
 
@@ -212,13 +209,20 @@ private:
         const CellContent& content = *point.content;
         if (content.kind == Content::Error) return known == nullptr || *known == '#';
         const bool isText = content.kind == Content::Text;
+        // A text in a line of numbers is drawn as 0.
         if (one.memory == Reference::Memory::Numbers && isText)
-            return !one.isHeading && (known == nullptr || isSameNumber(known, 0));
-        if (known == nullptr) return false;
-        if (isText) return isSameText(known, content.text);
-        return isSameNumber(known, content.number) ||
+            return !isTextHeading(one, point) && (known == nullptr || isSameNumber(known, 0));
+        const std::string_view text = known == nullptr ? "" : known;
+        if (isText) return isSameText(text, content.text);
+        return isSameNumber(text, content.number) ||
                (one.memory != Reference::Memory::Numbers &&
-                isSameText(known, cells_.textOf(one.cells.sheet, point)));
+                isSameText(text, cells_.textOf(one.cells.sheet, point)));
+    }
+
+    /// An empty text leaves the others of its line the numbers that they are.
+    [[nodiscard]] static bool isTextHeading(const Reference& one, const ChartPoint& point) {
+        return one.isHeading && point.content->kind == Content::Text &&
+               !point.content->text.empty();
     }
 
     [[nodiscard]] std::string textOf(const Reference& one, const ChartPoint& point) const {
@@ -233,10 +237,11 @@ private:
     [[nodiscard]] std::string named(const char* name) const { return element_ + name; }
 
     void write(Reference one, const std::vector<ChartLine>& lines) const {
-        const bool hasText = std::any_of(
-            lines.front().points.begin(), lines.front().points.end(),
-            [](const ChartPoint& point) { return point.content->kind == Content::Text; });
-        if (one.memory == Reference::Memory::Numbers && one.isHeading && hasText) makeTexts(one);
+        const auto& points = lines.front().points;
+        const bool hasText = std::any_of(points.begin(), points.end(), [&](const auto& point) {
+            return isTextHeading(one, point);
+        });
+        if (one.memory == Reference::Memory::Numbers && hasText) makeTexts(one);
         const bool hasLevels = one.memory == Reference::Memory::Levels;
         const auto formats = formatsOf(one.cache, lines.front().count);
         keepChildren(one.cache, [](pugi::xml_node child) {
@@ -251,6 +256,9 @@ private:
         for (const ChartLine& line : lines) {
             auto level = hasLevels ? add("lvl") : pugi::xml_node();
             for (const ChartPoint& point : line.points) {
+                if (one.isHeading && one.memory == Reference::Memory::Numbers &&
+                    point.content->kind == Content::Text)
+                    continue;
                 auto made = hasLevels ? level.append_child(named("pt").c_str()) : add("pt");
                 made.append_attribute("idx").set_value(point.index);
                 if (const auto format = formats.find(point.index); format != formats.end())

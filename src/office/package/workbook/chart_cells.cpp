@@ -102,9 +102,9 @@ ChartLine ChartCells::lineOf(const CellsOfSheet& cells, Drawn drawn) const {
 }
 
 std::string ChartCells::textOf(const std::string& sheet, const ChartPoint& point) const {
-    std::string text =
+    const auto text =
         copied_.shownTextOf(sheet, addressOf(CellBlock::cell(point.row, point.column)));
-    return text.empty() ? fmt::format("{}", point.content->number) : text;
+    return text ? *text : fmt::format("{}", point.content->number);
 }
 
 }  // namespace office::package
