@@ -114,6 +114,11 @@ TEST(ASheetAlone, IsRefusedWithoutTheValuesThatItWouldHaveToKeep) {
         values("<c:strRef><c:f>Plot!A1</c:f><c:strCache><c:ptCount val=\"0\"/></c:strCache>"
                "</c:strRef>",
                false),
+        values("<c:strRef><c:f>Plot!A1</c:f><c:strCache><c:ptCount val=\"1\"/></c:strCache>"
+               "</c:strRef>"
+               "<c:numRef><c:f>Plot!A1</c:f><c:numCache><c:ptCount val=\"0\"/></c:numCache>"
+               "</c:numRef>",
+               true),
         values("<c:numRef><c:f>Plot!A1</c:f><c:numCache><c:ptCount val=\"1\"/></c:numCache>"
                "</c:numRef>",
                true)};

@@ -79,23 +79,31 @@ void putText(pugi::xml_node reference, pugi::xml_node cache) {
     holder.remove_child(reference);
 }
 
-/// What a reference remembers; blank cells count as points.
 pugi::xml_node cacheOf(pugi::xml_node reference) {
     const std::string_view kind = localName(reference);
-    const auto cache = childOf(reference, kind == "numRef"   ? "numCache"
-                                          : kind == "strRef" ? "strCache"
-                                                             : "multiLvlStrCache");
-    const bool isEmpty = childOf(cache, "ptCount").attribute("val").as_uint() == 0 &&
-                         !childOf(cache, "pt") && !childOf(cache, "lvl");
-    if (isEmpty)
-        throw PackageError(Fault::Damaged,
-                           "a chart draws on another sheet, and its values are not stored: a "
-                           "spreadsheet program that opens and saves it stores them");
-    return cache;
+    return childOf(reference, kind == "numRef"   ? "numCache"
+                              : kind == "strRef" ? "strCache"
+                                                 : "multiLvlStrCache");
 }
 
-void putValues(pugi::xml_node reference) {
+/// Whether it remembers something; blank cells count as points.
+bool hasPoints(pugi::xml_node cache) {
+    return childOf(cache, "ptCount").attribute("val").as_uint() > 0 || childOf(cache, "pt") ||
+           childOf(cache, "lvl");
+}
+
+/// A cache of no points is that of hidden cells where others have some: a program that stores no
+/// values stores none at all.
+void requireStored(pugi::xml_node cache, bool hasOthers) {
+    if (hasPoints(cache) || (hasOthers && childOf(cache, "ptCount"))) return;
+    throw PackageError(Fault::Damaged,
+                       "a chart draws on another sheet, and its values are not stored: a "
+                       "spreadsheet program that opens and saves it stores them");
+}
+
+void putValues(pugi::xml_node reference, bool hasOthers) {
     const pugi::xml_node cache = cacheOf(reference);
+    requireStored(cache, hasOthers);
     if (localName(reference) == "numRef") {
         putPoints(reference, cache, "numLit");
     } else if (localName(reference) == "strRef" && localName(reference.parent()) == "tx") {
@@ -148,8 +156,10 @@ void keepChartValues(const Xml& chart, const FormulaReach& reach) {
     }
     // From the innermost, since what stands in another element goes with that.
     const auto references = elementsBelow(chart.root(), isReference);
+    const bool hasAny = std::any_of(references.begin(), references.end(),
+                                    [](const auto& one) { return hasPoints(cacheOf(one)); });
     std::for_each(references.rbegin(), references.rend(), [&](pugi::xml_node reference) {
-        if (leaving.contains(reference)) putValues(reference);
+        if (leaving.contains(reference)) putValues(reference, hasAny);
     });
     for (const char* gone : {"pivotSource", "externalData"}) {
         if (const auto found = childOf(chart.root(), gone)) chart.root().remove_child(found);
