@@ -17,7 +17,7 @@ using office::CellContent;
 using Content = CellContent::Kind;
 
 /// A copy out of a workbook of one sheet, "Data", with numbers that are shown as "#1", "#2"; 8 is
-/// hidden.
+/// hidden, 9 is a long one.
 struct CopyOfCells : support::CopiedDouble {
     CopyOfCells() : CopiedDouble(office::TableLook()) {}
 
@@ -33,7 +33,8 @@ struct CopyOfCells : support::CopiedDouble {
             for (auto column = block.firstColumn; column <= block.lastColumn; ++column)
                 found.cells.push_back(rows[row].at(static_cast<std::size_t>(column)));
         }
-        found.showsColumn.assign(static_cast<std::size_t>(block.columns()), true);
+        for (auto column = block.firstColumn; column <= block.lastColumn; ++column)
+            found.showsColumn.push_back(column != hiddenColumn);
         return found;
     }
     [[nodiscard]] std::optional<std::string> shownTextOf(
@@ -42,11 +43,13 @@ struct CopyOfCells : support::CopiedDouble {
         const double number = rows.at(static_cast<std::size_t>(block.firstRow))
                                   .at(static_cast<std::size_t>(block.firstColumn))
                                   .number;
+        if (number == 9) return "-1,234.5 %";
         return number == 8 ? "" : fmt::format("#{}", number);
     }
 
     std::vector<std::vector<CellContent>> rows;
     std::size_t hiddenRow = 99;
+    std::int32_t hiddenColumn = 99;
 };
 
 CellContent holding(double value) {
@@ -92,10 +95,17 @@ std::string levelsOf(const std::string& inner, const std::string& outer) {
                        std::count(inner.begin(), inner.end(), '|') + 1, level(inner), level(outer));
 }
 
+std::string labelOf(const std::string& text) {
+    return fmt::format(
+        "<c15:dlblFTEntry><c15:f>Data!$C$1</c15:f><c15:dlblFieldTableCache>{}"
+        "</c15:dlblFieldTableCache></c15:dlblFTEntry>",
+        rememberedPoints(text));
+}
+
 std::string chartOf(const std::string& name, const std::string& categories,
                     const std::string& values) {
     return fmt::format(
-        R"(<c:chartSpace xmlns:c="{}"><c:chart><c:ser><c:tx>{}</c:tx><c:cat>{}</c:cat>)"
+        R"(<c:chartSpace xmlns:c="{}" xmlns:c15="15"><c:chart><c:ser><c:tx>{}</c:tx><c:cat>{}</c:cat>)"
         R"(<c:val>{}</c:val></c:ser><c:plotVisOnly val="1"/></c:chart></c:chartSpace>)",
         ns::chart, name, categories, values);
 }
@@ -156,6 +166,15 @@ TEST(AChartsMemory, IsThatOfItsCells) {
         {"texts for numbers", name, numbersOf("Data!$B$2:$B$5", "1|2|3|4"), values, {}, names, {}},
         {"shown numbers", textsOf("Data!$C$2", "#1.5"), names, values, {}, {}, {}},
         {"hidden numbers", name, textsOf("Data!$D$2:$D$5", "-|#7|-|-"), values, {}, {}, {}},
+        {"another language's", textsOf("Data!$D$1", "-1.234,5%"), names, values, {}, {}, {}},
+        {"other numbers",
+         textsOf("Data!$D$1", "-12.345%"),
+         names,
+         values,
+         textsOf("Data!$D$1", "-1,234.5 %"),
+         {},
+         {}},
+        {"a label's field", labelOf("Old"), names, values, labelOf("Net"), {}, {}},
         {"changed numbers",
          textsOf("Data!$C$2", "#9"),
          names,
@@ -173,7 +192,7 @@ TEST(AChartsMemory, IsThatOfItsCells) {
         {"levels that stand", name, levelsOf("a|b|c|d", "X|-|Y|-"), values, {}, {}, {}},
     };
     CopyOfCells copied;
-    copied.rows = {{{}, {}, holding("Net"), {}},
+    copied.rows = {{{}, {}, holding("Net"), holding(9)},
                    {holding("X"), holding("a"), holding(1.5), holding("")},
                    {{}, holding("b"), {}, holding(7)},
                    {holding("Y"), holding("c"), holding("n/a"), {}},
@@ -196,6 +215,14 @@ TEST(AChartsMemory, IsThatOfItsCells) {
     expect("hidden", chartOf(name, levelsOf("a|b|c|d", "X|-|Y|-"), values),
            chartOf(name, levelsOf("b|c|d", "X|Y|-"), numbersOf(places, "-|0|#N/A")));
     copied.hiddenRow = 0;
+    for (const auto& [column, left] : {std::pair(0, "a|b|c|d"), std::pair(1, "X|-|Y|-")}) {
+        copied.hiddenColumn = column;
+        std::string one = levelsOf(left, "");
+        one.erase(one.rfind("<c:lvl>"), one.rfind("</c:lvl>") + 8 - one.rfind("<c:lvl>"));
+        expect("a hidden level", chartOf(name, levelsOf("a|b|c|d", "X|-|Y|-"), values),
+               chartOf(name, one, values));
+    }
+    copied.hiddenColumn = 99;
     expect("a hidden name", chartOf(textsOf("Data!$C$1", "Old"), names, values),
            chartOf(name, names, values));
 }

@@ -30,7 +30,7 @@ struct Reference {
     CellsOfSheet cells;
     /// Of categories, which may be numbers or texts.
     bool isHeading = false;
-    /// Names and titles are drawn even if their cells are hidden.
+    /// Names, titles and single labels are drawn even if their cells are hidden.
     bool isName = false;
 };
 
@@ -55,7 +55,8 @@ std::optional<Reference> referenceOf(pugi::xml_node node) {
     static constexpr Type types[] = {{"numRef", "numCache", Memory::Numbers},
                                      {"strRef", "strCache", Memory::Texts},
                                      {"multiLvlStrRef", "multiLvlStrCache", Memory::Levels},
-                                     {"datalabelsRange", "dlblRangeCache", Memory::Texts}};
+                                     {"datalabelsRange", "dlblRangeCache", Memory::Texts},
+                                     {"dlblFTEntry", "dlblFieldTableCache", Memory::Texts}};
     for (const Type& type : types) {
         if (localName(node) != type.name) continue;
         const auto cache = childCalled(node, type.cache);
@@ -72,7 +73,7 @@ std::optional<Reference> referenceOf(pugi::xml_node node) {
                          type.memory,
                          *std::move(cells),
                          holder == "cat" || holder == "xVal",
-                         holder == "tx"};
+                         holder == "tx" || type.name == "dlblFTEntry"};
     }
     return {};
 }
@@ -106,6 +107,32 @@ bool isSameText(std::string_view one, std::string_view other) {
     return plain(one) == plain(other);
 }
 
+/// Numbers are shown by the language of the machine, others part their digits by other marks.
+/// Letters stay: two months may have the same digits.
+std::string withoutMarks(std::string_view text) {
+    std::string plain;
+    bool isParted = false;
+    for (std::size_t i = 0; i < text.size();
+         i += std::max<std::size_t>(1, characterLength(text, i))) {
+        constexpr std::u32string_view marks = U" .,'/\u00a0\u2019\u202f";
+        const char32_t letter = characterAt(text, i);
+        const bool isDigit = letter >= U'0' && letter <= U'9';
+        if (marks.find(letter) != std::u32string_view::npos) {
+            isParted = true;
+            continue;
+        }
+        const bool followsDigit = !plain.empty() && plain.back() >= '0' && plain.back() <= '9';
+        if (isParted && isDigit && followsDigit) plain += '.';
+        isParted = false;
+        plain += text.substr(i, std::max<std::size_t>(1, characterLength(text, i)));
+    }
+    return plain;
+}
+
+bool isSameShown(std::string_view known, const std::string& shown) {
+    return isSameText(known, shown) || withoutMarks(known) == withoutMarks(shown);
+}
+
 class Memories {
 public:
     Memories(const Copied& copied, std::vector<Reference> references, std::string element,
@@ -117,14 +144,10 @@ public:
         std::erase_if(references_, [&](const Reference& one) { return !cells_.know(one.cells); });
     }
 
-    /// What is hidden leaves no gap: as soon as one line leaves places out, all have to.
+    /// What is hidden leaves no gap, unless the chart draws it.
     void refresh() {
-        const bool all = drawsHidden_ || std::none_of(references_.begin(), references_.end(),
-                                                      [&](const Reference& one) {
-                                                          return !one.isName && hidesAnyOf(one);
-                                                      });
         for (const Reference& one : references_) {
-            if (const auto lines = linesOf(one, all); !isRemembered(one, lines)) write(one, lines);
+            if (const auto lines = linesOf(one); !isRemembered(one, lines)) write(one, lines);
         }
     }
 
@@ -162,15 +185,19 @@ private:
         return levels;
     }
 
-    [[nodiscard]] bool hidesAnyOf(const Reference& one) const {
-        return cells_.hideAnyOf(levelsOf(one).front());
-    }
-
-    [[nodiscard]] std::vector<ChartLine> linesOf(const Reference& one, bool all) const {
+    /// A level that is hidden as a whole doesn't count, as long as another does.
+    [[nodiscard]] std::vector<ChartLine> linesOf(const Reference& one) const {
+        const bool all = drawsHidden_ || one.isName;
+        std::vector<CellsOfSheet> levels = levelsOf(one);
+        const auto isHidden = [&](const CellsOfSheet& level) {
+            return cells_.lineOf(level, Drawn::Shown).count == 0;
+        };
+        if (!all && !std::all_of(levels.begin(), levels.end(), isHidden))
+            std::erase_if(levels, isHidden);
         std::vector<ChartLine> lines;
-        for (const CellsOfSheet& level : levelsOf(one)) {
+        for (const CellsOfSheet& level : levels) {
             const Drawn drawn = lines.empty() ? Drawn::Shown : Drawn::ShownHeadings;
-            lines.push_back(cells_.lineOf(level, all || one.isName ? Drawn::All : drawn));
+            lines.push_back(cells_.lineOf(level, all ? Drawn::All : drawn));
         }
         return lines;
     }
@@ -216,7 +243,7 @@ private:
         if (isText) return isSameText(text, content.text);
         return isSameNumber(text, content.number) ||
                (one.memory != Reference::Memory::Numbers &&
-                isSameText(text, cells_.textOf(one.cells.sheet, point)));
+                isSameShown(text, cells_.textOf(one.cells.sheet, point)));
     }
 
     /// An empty text leaves the others of its line the numbers that they are.

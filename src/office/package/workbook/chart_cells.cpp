@@ -63,10 +63,6 @@ bool ChartCells::know(const CellsOfSheet& cells) const {
     });
 }
 
-bool ChartCells::hideAnyOf(const CellsOfSheet& cells) const {
-    return lineOf(cells, Drawn::Shown).count != lineOf(cells, Drawn::All).count;
-}
-
 ChartLine ChartCells::lineOf(const CellsOfSheet& cells, Drawn drawn) const {
     ChartLine line;
     for (const CellBlock& block : cells.blocks) {

@@ -38,7 +38,6 @@ public:
 
     /// Whether all of these could be read.
     [[nodiscard]] bool know(const CellsOfSheet& cells) const;
-    [[nodiscard]] bool hideAnyOf(const CellsOfSheet& cells) const;
     /// Of known cells, each block one row or one column. It holds as long as this does.
     [[nodiscard]] ChartLine lineOf(const CellsOfSheet& cells, Drawn drawn) const;
     /// As it is shown.
