@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "apps/process_folder.h"
+#include "office/process_folder_name.h"
 
 namespace apps {
 
@@ -19,27 +20,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view privateStart = "murvane-of-";
-constexpr std::string_view draftStart = ".murvane-of-";
-
-/// What stands behind the number of the process: a draft may lie on a disk that machines share, and
-/// the number means something on its own alone.
-std::string markBehind(std::string_view start) {
-    constexpr std::size_t longest = 256;
-    char host[longest] = {};
-    if (start == privateStart || ::gethostname(host, longest - 1) != 0) return "-";
-    return fmt::format("@{}-", host);
-}
-
 /// Whether a folder's name says that it belongs to a process which has ended.
 bool isOrphan(const std::string& name) {
-    const std::string_view start = name.starts_with('.') ? draftStart : privateStart;
-    if (!name.starts_with(start)) return false;
+    std::string_view rest = name;
+    if (rest.starts_with('.')) rest.remove_prefix(1);
+    if (!rest.starts_with(office::processFolderPrefix)) return false;
+    rest.remove_prefix(office::processFolderPrefix.size());
     int owner = 0;
-    const char* const last = name.data() + name.size();
-    const auto [end, error] = std::from_chars(name.data() + start.size(), last, owner);
+    const char* const last = rest.data() + rest.size();
+    const auto [end, error] = std::from_chars(rest.data(), last, owner);
     if (error != std::errc{} || owner <= 0) return false;
-    if (!std::string_view(end, last).starts_with(markBehind(start))) return false;
+    if (!std::string_view(end, last).starts_with(office::hostMark())) return false;
     return ::kill(owner, 0) != 0 && errno == ESRCH;
 }
 
@@ -57,8 +48,8 @@ void sweep(const std::string& parent) {
     for (const fs::path& orphan : orphans) fs::remove_all(orphan, error);
 }
 
-std::string makeOne(const std::string& parent, std::string_view start) {
-    std::string path = fmt::format("{}/{}{}{}XXXXXX", parent, start, ::getpid(), markBehind(start));
+std::string makeOne(const std::string& parent, const char* before) {
+    std::string path = fmt::format("{}/{}{}", parent, before, office::processFolderPattern());
     if (::mkdtemp(path.data()) == nullptr) return {};
     sweep(parent);
     return path;
@@ -67,7 +58,7 @@ std::string makeOne(const std::string& parent, std::string_view start) {
 }  // namespace
 
 std::string makePrivateFolder(const std::string& parent) {
-    std::string path = makeOne(parent, privateStart);
+    std::string path = makeOne(parent, "");
     if (path.empty()) return {};
     // The work with an office suite has folders of the same names: where the environment says or,
     // if none can be made there, in the system's own place.
@@ -80,7 +71,7 @@ std::string makePrivateFolder(const std::string& parent) {
 }
 
 std::string makeDraftFolder(const std::string& parent) {
-    return makeOne(parent, draftStart);
+    return makeOne(parent, ".");
 }
 
 void sweepDraftFolders(const std::string& parent) {

@@ -12,6 +12,7 @@
 #include "apps/claim.h"
 #include "apps/posix_host.h"
 #include "office/failure.h"
+#include "office/process_folder_name.h"
 #include "scripted_console.h"
 #include "support/automation.h"
 #include "support/temporary_folder.h"
@@ -61,13 +62,18 @@ TEST_F(PosixHostTest, FoldersOfProcessesThatAreNoMoreAreSweptAndNothingElse) {
     const pid_t ended = ::fork();
     if (ended == 0) ::_exit(0);
     ::waitpid(ended, nullptr, 0);
-    const std::string orphan = fmt::format("murvane-of-{}-abc", ended);
-    const std::set<std::string> others = {fmt::format("murvane-of-{}-abc", ::getppid()),
-                                          "murvane-of-", "murvane-of-12x", "murvane-of--1-a",
+    const std::string mark = office::hostMark();
+    const std::string orphan = fmt::format("murvane-of-{}{}abc", ended, mark);
+    const std::set<std::string> others = {fmt::format("murvane-of-{}{}abc", ::getppid(), mark),
+                                          fmt::format("murvane-of-{}@elsewhere-abc", ended),
+                                          "murvane-of-",
+                                          "murvane-of-12x",
+                                          "murvane-of--1-a",
                                           fmt::format("murvane-{}-abc", ended)};
     std::filesystem::create_directories(folder.path() / orphan / "inner");
     for (const std::string& name : others) std::filesystem::create_directory(folder.path() / name);
-    std::filesystem::create_symlink("/", folder.path() / fmt::format("murvane-of-{}-link", ended));
+    std::filesystem::create_symlink(
+        "/", folder.path() / fmt::format("murvane-of-{}{}link", ended, mark));
     // Of a suite: where the environment says, and where they go if none can be made there.
     const support::TemporaryFolder named;
     ::setenv("TMPDIR", named.path().c_str(), 1);

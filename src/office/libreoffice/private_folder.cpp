@@ -1,12 +1,10 @@
 #include "office/libreoffice/private_folder.h"
 
-#include <fmt/format.h>
-#include <unistd.h>
-
 #include <cstdlib>
 #include <system_error>
 
 #include "office/failure.h"
+#include "office/process_folder_name.h"
 
 namespace libreoffice {
 
@@ -16,7 +14,7 @@ namespace {
 
 /// Empty if none can be made there.
 std::string folderIn(const fs::path& parent) {
-    std::string path = (parent / fmt::format("murvane-of-{}-XXXXXX", getpid())).string();
+    std::string path = (parent / office::processFolderPattern()).string();
     return mkdtemp(path.data()) == nullptr ? std::string() : path;
 }
 
