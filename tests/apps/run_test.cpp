@@ -1,3 +1,6 @@
+#include <fcntl.h>
+#include <unistd.h>
+
 #include "office/file_address.h"
 #include "office/package/document/file_documents.h"
 #include "run_stage.h"
@@ -130,6 +133,19 @@ TEST_F(RunTest, AWorkbookBearsTheNameOfTheLinkThatItIsNamedBy) {
     EXPECT_NE(console.out.find(link), std::string::npos) << console.out << console.error;
     EXPECT_EQ(run({link, "--output", folder.file("Out.pptx"), "--overwrite"}), 0);
     EXPECT_EQ(office::fileAddress(link, folder.path() / "deep/inner"), "../this%20month.xlsx");
+}
+
+TEST_F(RunTest, AWorkbookThatAShellHandsOnIsOpenedByItsName) {
+    const int handed = ::open(bookFile.c_str(), O_RDONLY);
+    const std::string number = std::to_string(handed);
+    for (const char* place : {"/dev/fd/", "/proc/self/fd/"}) {
+        EXPECT_EQ(run({place + number, "--list", "--json"}), 0);
+        EXPECT_NE(console.out.find(bookFile), std::string::npos) << console.out << console.error;
+    }
+    std::filesystem::remove(bookFile);
+    EXPECT_EQ(run({"/dev/fd/" + number, "--list"}), 1);
+    EXPECT_TRUE(console.errorHas("has lost its name")) << console.error;
+    ::close(handed);
 }
 
 TEST_F(RunTest, AFileThatTheSuiteCannotOpenIsNamed) {

@@ -28,6 +28,7 @@ Object applicationOf(office::Suite& suite, std::string_view className) {
 
 /// With the links of the file system that it leads through: what is linked to a workbook goes on
 /// following them. ".." behind one leads to where that points, as it does for the system.
+/// `RunError` where nobody else could open the file.
 std::string absolutePath(const fs::path& file) {
     std::error_code ignored;
     fs::path path;
@@ -37,6 +38,16 @@ std::string absolutePath(const fs::path& file) {
             path = path.parent_path();
         } else if (name != ".") {
             path /= name;
+        }
+    }
+    // There the names are a process's own, and the suite is another one.
+    const fs::path place = path.relative_path();
+    if (!place.empty() && (*place.begin() == "dev" || *place.begin() == "proc")) {
+        std::error_code error;
+        path = fs::canonical(path, error);
+        if (error) {
+            throw RunError(fmt::format("{} can't be opened: the file behind it has lost its name.",
+                                       apps::utf8Of(file)));
         }
     }
     return apps::utf8Of(path);
