@@ -83,7 +83,12 @@ TEST_F(RunFailuresTest, AnOutputThatCannotTakeItsPlaceTakesTheOthersAlong) {
         if (suite->log().count("Chart.CopyPicture") > 0) folder.write("Out.docx", "theirs");
         return false;
     };
-    EXPECT_EQ(exportWith({"--output", document}), 1);
+    suite->failures().fail("Chart.Export", 2);
+    EXPECT_EQ(exportWith({"--output", document, "--keep-going"}), 1);
+    EXPECT_TRUE(console.errorHas("Of 5 items for " + folder.file("Out.pptx") +
+                                 " 1 could not be exported:\n  \"Chart 2\" on sheet "))
+        << console.error;
+    EXPECT_FALSE(console.errorHas("incomplete")) << console.error;
     EXPECT_TRUE(console.errorHas("somebody else meanwhile and was left alone.\nNo other output"))
         << console.error;
     EXPECT_FALSE(hasOutput());

@@ -157,7 +157,7 @@ private:
     [[nodiscard]] catalogue::ReviewResult review();
     void runJob(std::size_t place);
     void letUserSee();
-    void tellOfIncomplete();
+    void tellOfMissing(std::size_t place, bool isMade);
     int commit();
     void stopIfInterrupted() {
         if (surroundings_.isInterrupted()) throw Interrupted(whatIsThere());
@@ -379,26 +379,26 @@ void Run::letUserSee() {
     if (options_.attach) catalogue::RestoreScreenUpdating(session_);
 }
 
-void Run::tellOfIncomplete() {
-    for (std::size_t place = 0; place < jobs_.size(); ++place) {
-        const Outcome& outcome = outcomes_[place];
-        if (outcome.missing.empty()) continue;
-        std::string text =
-            fmt::format("{} is incomplete: of {} items {} could not be exported{}\n",
-                        apps::utf8Of(order_.outputs[place]->file()), outcome.taken,
-                        outcome.missing.size(), outcome.failures.empty() ? "; see above." : ":");
-        for (const std::string& line : outcome.failures) text += "  " + line + "\n";
-        tell(surroundings_.console, text);
-    }
+/// The items that an output lacks, or would lack if it were made.
+void Run::tellOfMissing(std::size_t place, bool isMade) {
+    const Outcome& outcome = outcomes_[place];
+    if (outcome.missing.empty()) return;
+    const std::string file = apps::utf8Of(order_.outputs[place]->file());
+    std::string text = isMade ? fmt::format("{} is incomplete: of {} items ", file, outcome.taken)
+                              : fmt::format("Of {} items for {} ", outcome.taken, file);
+    text += fmt::format("{} could not be exported{}\n", outcome.missing.size(),
+                        outcome.failures.empty() ? "; see above." : ":");
+    for (const std::string& line : outcome.failures) text += "  " + line + "\n";
+    tell(surroundings_.console, text);
 }
 
 /// All outputs get their names, once each of them is complete and can have it, and the user is
 /// told.
 int Run::commit() {
-    tellOfIncomplete();
     try {
         for (const auto& output : order_.outputs) output->requireCanCommit();
     } catch (const RunError& error) {
+        for (std::size_t place = 0; place < jobs_.size(); ++place) tellOfMissing(place, false);
         const bool isAlone = order_.outputs.size() == 1;
         throw RunError(std::string(error.what()) + (isAlone ? "" : "\nNo other output was made.") +
                        thereIfAnything());
@@ -410,10 +410,12 @@ int Run::commit() {
         try {
             order_.outputs[place]->commit();
         } catch (const RunError& error) {
+            tellOfMissing(place, false);
             tell(surroundings_.console, fmt::format("murvane-export: {}\n", error.what()));
             exitCode = exit_code::failed;
             continue;
         }
+        tellOfMissing(place, true);
         if (outcome.missing.empty() && !options_.quiet) {
             surroundings_.console.writeError(fmt::format(
                 "Exported {} item{} to {}\n", outcome.taken, outcome.taken == 1 ? "" : "s",
