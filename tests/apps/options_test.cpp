@@ -22,12 +22,12 @@ Options parsed(const Words& words) {
 }
 
 TEST(Options, EverythingThatCanBeSaidIsHeard) {
-    const Options options = parsed(
-        {"book.xlsx", "--to",     "slides",      "--into",   "deck.pptx", "--output", "out.pptx",
-         "--items",   "A,B@S",    "--items",     "C",        "--order",   "C",        "--captions",
-         "c.csv",     "--slides", "predefined",  "--titles", "--source",  "--shadow", "--style",
-         "rounded",   "--top",    "0.25",        "--width",  "default",   "--left",   "0",
-         "--yes",     "--quiet",  "--overwrite", "--format", "editable"});
+    const Options options =
+        parsed({"book.xlsx", "--to",       "slides",  "--into",   "deck.pptx",  "--output",
+                "out.pptx",  "--items",    "A,B@S",   "--items",  "C",          "--order",
+                "C",         "--captions", "c.csv",   "--slides", "predefined", "--titles",
+                "--source",  "--style",    "rounded", "--top",    "0.25",       "--width",
+                "default",   "--left",     "0",       "--yes",    "--quiet",    "--overwrite"});
     EXPECT_EQ(options.task, Task::Export);
     EXPECT_EQ(options.book, "book.xlsx");
     EXPECT_EQ(options.targets, (Targets{{Destination::PowerPoint, "out.pptx"}}));
@@ -35,12 +35,14 @@ TEST(Options, EverythingThatCanBeSaidIsHeard) {
     EXPECT_EQ(options.items, (Words{"A,B@S", "C"}));
     EXPECT_EQ(options.order, Words{"C"});
     EXPECT_EQ(options.captionsFile, "c.csv");
-    EXPECT_TRUE(options.predefinedSlides && *options.titles && options.source && options.shadow);
+    EXPECT_TRUE(options.predefinedSlides && *options.titles && options.source);
     EXPECT_EQ(options.pictureStyle, 3);
     EXPECT_EQ(options.top->share, 0.25);
     EXPECT_EQ(options.width->share, std::nullopt);
     EXPECT_EQ(options.left->share, 0.0);
     EXPECT_TRUE(options.yes && options.quiet && options.overwrite);
+    const Options shadows = parsed({"b.xlsx", "--list", "--shadow", "--format", "editable"});
+    EXPECT_TRUE(shadows.shadow && shadows.format == catalogue::ExportFormat::Editable);
 }
 
 TEST(Options, OutputsTellTheirDestinationWhereNothingElseDoes) {
@@ -128,6 +130,9 @@ TEST(Options, WrongUsageEndsWithTwoAndSaysWhy) {
          "--shadow and --format embedded"},
         {"two looks",
          {"b.xlsx", "--output", "o.pptx", "--style", "rounded", "--shadow"},
+         "--style and --shadow"},
+        {"two looks of what can be edited",
+         {"b.xlsx", "--list", "--style", "rounded", "--shadow", "--format", "editable"},
          "--style and --shadow"},
         {"the source of pages", {"b.xlsx", "--output", "o.docx", "--source"}, "--to slides or pdf"},
         {"titles of a document",

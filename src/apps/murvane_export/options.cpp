@@ -413,11 +413,8 @@ void requireTask(const CLI::App& app, const Options& options) {
     const bool makesPdf = options.targetOf(catalogue::Destination::Pdf) != nullptr;
     if (app.count("--size") > 0 && !makesPdf && !options.sameWidth)
         throw UsageError("--size goes with --to pdf, or with --to html and --same-width.");
-    // The form offers both for editable items alone.
     const bool makesSlides = options.targetOf(catalogue::Destination::PowerPoint) != nullptr;
-    const bool isEditable = options.format == catalogue::ExportFormat::Editable;
-    if (makesSlides && !isEditable && options.shadow &&
-        options.pictureStyle != powerpoint::style::none)
+    if (makesSlides && options.shadow && options.pictureStyle != powerpoint::style::none)
         throw UsageError(
             "--style and --shadow don't go together: from the second item on, the shadow would "
             "take the place of the style. Choose a style that has a shadow, such as "
