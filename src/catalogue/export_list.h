@@ -18,6 +18,9 @@ struct ExportChoices {
     Destination destination = Destination::PowerPoint;
     ExportFormat format = ExportFormat::Pictures;
     bool predefinedSlides = false;  ///< `OptionPredefSlides`; otherwise new slides at the end
+    /// The review asks whether the presentation may be changed. A dialog asks that itself, where
+    /// another one can be opened yet.
+    bool refusesReadOnly = false;
 };
 
 }  // namespace catalogue

@@ -160,6 +160,15 @@ void reviewPowerPoint(session::OfficeSession& session, const ExportList& list,
             "again.");
         return;
     }
+    const auto isReadOnly = [&] {
+        return session.PowerPointApp.get("ActivePresentation").get("ReadOnly").toBool();
+    };
+    if (choices.refusesReadOnly && office::orElse(isReadOnly, false)) {
+        blockers.emplace_back(
+            "The presentation is opened for reading only. Open it for editing or save it under "
+            "another name, then try again.");
+        return;
+    }
     if (choices.predefinedSlides) reviewSlideNumbers(session, list, blockers);
 }
 

@@ -29,6 +29,13 @@ TEST_F(RunAttachedTest, UsesWhatIsActiveStartsNothingAndClosesNothing) {
     EXPECT_EQ(slidesIn("Out.pptx"), 6);
 }
 
+TEST_F(RunAttachedTest, ADeckThatIsOpenedForReadingOnlyIsFoundByTheReview) {
+    openUsersDocuments();
+    deck->readOnly = true;
+    EXPECT_EQ(attach({"--check"}), 3);
+    EXPECT_TRUE(console.errorHas("The presentation is opened for reading only")) << console.error;
+}
+
 TEST_F(RunAttachedTest, LeavesThePlacementInTheUsersWorkbookAsItWasAlsoAfterAFailure) {
     openUsersDocuments();
     ASSERT_EQ(attach(), 0) << console.error;

@@ -200,6 +200,7 @@ catalogue::ExportChoices choicesFor(Destination destination, const Options& opti
     catalogue::ExportChoices choices;
     choices.destination = destination;
     choices.predefinedSlides = isSlides && options.predefinedSlides;
+    choices.refusesReadOnly = isSlides && options.attach;
     if (isSlides || destination == Destination::Word) choices.format = options.format;
     return choices;
 }
