@@ -8,6 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
@@ -56,9 +57,22 @@ private:
     int file_;
 };
 
+/// As the system takes it.
+std::vector<char*> environmentWithout(const std::vector<std::string>& names) {
+    std::vector<char*> entries;
+    for (char** entry = environ; *entry != nullptr; ++entry) {
+        const std::string_view text = *entry;
+        const std::string name(text.substr(0, text.find('=')));
+        if (std::find(names.begin(), names.end(), name) == names.end()) entries.push_back(*entry);
+    }
+    entries.push_back(nullptr);
+    return entries;
+}
+
 /// Starts the desktop's own program that finds the right one for a file or an address, without a
 /// shell. It says nothing on the terminal, and what it starts outlives this process.
-std::optional<pid_t> startOpener(std::string target) {
+std::optional<pid_t> startOpener(std::string target, const std::vector<std::string>& ownVariables) {
+    const std::vector<char*> environment = environmentWithout(ownVariables);
     std::string command = "xdg-open";
     char* const arguments[] = {command.data(), target.data(), nullptr};
     posix_spawn_file_actions_t files;
@@ -73,8 +87,8 @@ std::optional<pid_t> startOpener(std::string target) {
     ::posix_spawnattr_setsigmask(&attributes, &none);
     ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK);
     pid_t process = 0;
-    const bool isStarted =
-        ::posix_spawnp(&process, command.c_str(), &files, &attributes, arguments, environ) == 0;
+    const bool isStarted = ::posix_spawnp(&process, command.c_str(), &files, &attributes, arguments,
+                                          environment.data()) == 0;
     ::posix_spawnattr_destroy(&attributes);
     ::posix_spawn_file_actions_destroy(&files);
     return isStarted ? std::optional(process) : std::nullopt;
@@ -264,12 +278,12 @@ void PosixHost::writeImage(std::string_view png, session::ImageFormat format,
 
 void PosixHost::openLink(std::string_view address) {
     // The browser goes on for itself; whether it came up is nobody's concern.
-    if (const auto opener = startOpener(std::string(address))) letGo(*opener);
+    if (const auto opener = startOpener(std::string(address), ownVariables())) letGo(*opener);
 }
 
 bool PosixHost::openFile(std::string_view path) {
     if (!pathExists(path)) return false;
-    const auto opener = startOpener(fs::absolute(fs::path(path)).string());
+    const auto opener = startOpener(fs::absolute(fs::path(path)).string(), ownVariables());
     return opener && endsWell(*opener, *this);
 }
 

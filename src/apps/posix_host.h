@@ -59,6 +59,11 @@ public:
     }
     void messageBox(std::string_view text, std::string_view title) override;
 
+protected:
+    /// Variables of the environment that this process has set for itself: what it opens goes
+    /// without them.
+    [[nodiscard]] virtual std::vector<std::string> ownVariables() const { return {}; }
+
 private:
     [[nodiscard]] const std::string& privateFolder();
 

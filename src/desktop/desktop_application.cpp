@@ -24,8 +24,15 @@ namespace desktop {
 
 namespace {
 
+std::vector<std::string>& variablesSet() {
+    static std::vector<std::string> names;
+    return names;
+}
+
 void setUnlessSet(const char* name, const QByteArray& value) {
-    if (!qEnvironmentVariableIsSet(name)) qputenv(name, value);
+    if (qEnvironmentVariableIsSet(name)) return;
+    qputenv(name, value);
+    variablesSet().emplace_back(name);
 }
 
 QtMessageHandler usualMessages = nullptr;
@@ -200,5 +207,9 @@ DesktopApplication::DesktopApplication(int argumentCount, char** arguments) {
 }
 
 DesktopApplication::~DesktopApplication() = default;
+
+const std::vector<std::string>& variablesForToolkit() {
+    return variablesSet();
+}
 
 }  // namespace desktop

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace desktop {
 
@@ -16,5 +18,9 @@ private:
     struct Toolkit;
     std::unique_ptr<Toolkit> toolkit_;
 };
+
+/// The variables of the environment that a `DesktopApplication` has set for its toolkit, which are
+/// nothing to any other program.
+[[nodiscard]] const std::vector<std::string>& variablesForToolkit();
 
 }  // namespace desktop

@@ -179,19 +179,23 @@ TEST_F(PosixHostTest, AFileThatCantBeWrittenLeavesTheEarlierOneAndNothingBesideI
 TEST_F(PosixHostTest, WhatOpensAFileSaysWhetherItDid) {
     const std::string file = folder.write("a page; touch gone.html", "x");
     folder.write("xdg-open",
-                 "#!/bin/sh\nprintf %s \"$1\" > \"$0.told\"\nsleep 0.3\nexit \"$TOLD_STATUS\"\n");
+                 "#!/bin/sh\nprintf %s \"$1\" > \"$0.told\"\nsleep 0.3\n"
+                 "[ -z \"$TOLD_OWN\" ] && exit \"$TOLD_STATUS\"\n");
     std::filesystem::permissions(folder.file("xdg-open"), std::filesystem::perms::owner_all);
     const std::string before = ::getenv("PATH");
     ::setenv("PATH", (folder.path().string() + ":" + before).c_str(), 1);
     struct WithEvents : apps::PosixHost {
         using PosixHost::PosixHost;
         void letEventsRun() override { ++events; }
+        std::vector<std::string> ownVariables() const override { return {"TOLD_OWN"}; }
         int events = 0;
     } windows(console);
+    ::setenv("TOLD_OWN", "ours", 1);
     for (const auto& [status, isOpened] : {std::pair("0", true), std::pair("3", false)}) {
         ::setenv("TOLD_STATUS", status, 1);
         EXPECT_EQ(windows.openFile(file), isOpened) << status;
     }
+    ::unsetenv("TOLD_OWN");
     EXPECT_GT(windows.events, 5);
     EXPECT_EQ(folder.read("xdg-open.told"), file);
     host->openLink("https://example.org");

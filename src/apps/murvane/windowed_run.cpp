@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "apps/claim.h"
 #include "apps/interruption.h"
@@ -13,6 +14,7 @@
 #include "apps/version.h"
 #include "catalogue/inventory.h"
 #include "catalogue/userform_obj.h"
+#include "desktop/desktop_application.h"
 #include "desktop/forms_runner.h"
 #include "destinations/html_dialog.h"
 #include "destinations/image_dialog.h"
@@ -47,6 +49,11 @@ public:
     [[nodiscard]] std::optional<std::string> chooseFolder(std::string_view title,
                                                           std::string_view start) override {
         return desktop_().chooseFolder(title, start);
+    }
+
+protected:
+    [[nodiscard]] std::vector<std::string> ownVariables() const override {
+        return desktop::variablesForToolkit();
     }
 
 private:
