@@ -11,7 +11,9 @@ using office::arg;
 using session::OfficeSession;
 
 PreviewCopy copyForPreview(OfficeSession& session, const ExportItem& row) {
-    if (!row.isRange()) {
+    if (row.isEmbeddedChart()) {
+        chartObjectOf(session, row).call("Copy");
+    } else if (row.isChartSheet()) {
         CopyRow(session, row);
     } else {
         const office::Object range = rangeOf(session, row);
@@ -22,7 +24,9 @@ PreviewCopy copyForPreview(OfficeSession& session, const ExportItem& row) {
 }
 
 void copyForFirstPreview(OfficeSession& session, const ExportItem& row) {
-    if (!row.isRange()) {
+    if (row.isEmbeddedChart()) {
+        chartObjectOf(session, row).call("Copy");
+    } else if (row.isChartSheet()) {
         CopyRow(session, row);
     } else {
         rangeOf(session, row)
