@@ -26,7 +26,15 @@ struct Topic {
     std::string_view file;
 };
 
-constexpr std::array<Topic, 17> controlTopics{{
+/// The names that the form had in its first design stand first.
+constexpr std::array<Topic, 24> controlTopics{{
+    {"lstItems", itemsHelp},
+    {"chkSelectAll", itemsHelp},
+    {"cmdExport", optionsHelp},
+    {"optPowerPoint", optionsHelp},
+    {"optExcel", optionsHelp},
+    {"txtCaption", captionsHelp},
+    {"txtSlideNumber", captionsHelp},
     {"listCharts", itemsHelp},
     {"Check1", itemsHelp},
     {"imgChart", itemsHelp},

@@ -157,6 +157,9 @@ TEST_F(HelpTest, OpensThePageThatBelongsToAControlOrAForm) {
         std::string form, control, file;
     };
     for (const Case& it : {
+             Case{"UserformObj", "lstItems", "help_items_table.html"},
+             Case{"UserformObj", "cmdExport", "help_export_options.html"},
+             Case{"UserformObj", "txtSlideNumber", "help_captions.html"},
              Case{"UserformObj", "LISTCHARTS", "help_items_table.html"},
              Case{"UserformObj", "SlideTitle", "help_captions.html"},
              Case{"UserformObj", "Option1", "help_export_options.html"},
