@@ -38,8 +38,8 @@ private:
     [[nodiscard]] Object showSlideOf(const TakenRow& taken);
     [[nodiscard]] bool insert(const ExportItem& row, const Object& slide);
     void finishItem(const ExportItem& row, const Object& slide, bool isThere);
-    void putTitle(const Object& shapes, const std::string& caption);
-    void styleLastShape(const Object& shapes);
+    void putTitle(const Object& shapes, const std::string& caption) const;
+    void styleLastShape(const Object& shapes) const;
     void removeSlidesLeft();
     void tidyUp();
     /// Returns what a picture says that has failed late.
@@ -155,7 +155,7 @@ void BatchFrame::exportRow(const TakenRow& taken) {
 
 Object BatchFrame::showSlideOf(const TakenRow& taken) {
     if (batch_.choices.predefinedSlides) {
-        const Object slide = slides_.get("Item", taken.slide).toObject();
+        Object slide = slides_.get("Item", taken.slide).toObject();
         slide.call("Select");
         return slide;
     }
@@ -196,7 +196,7 @@ void BatchFrame::finishItem(const ExportItem& row, const Object& slide, bool isT
 }
 
 /// A slide that was there before has a title of its own, or no place for one.
-void BatchFrame::putTitle(const Object& shapes, const std::string& caption) {
+void BatchFrame::putTitle(const Object& shapes, const std::string& caption) const {
     const auto put = [&] {
         shapes.get("Title").get("TextFrame").get("TextRange").put("Text", caption);
     };
@@ -207,7 +207,7 @@ void BatchFrame::putTitle(const Object& shapes, const std::string& caption) {
     }
 }
 
-void BatchFrame::styleLastShape(const Object& shapes) {
+void BatchFrame::styleLastShape(const Object& shapes) const {
     if (pictureStyle_ == style::none) return;
     const auto apply = [&] {
         ApplyPictureStyle(pictureStyle_,

@@ -182,7 +182,8 @@ TEST_F(PosixHostTest, WhatOpensAFileSaysWhetherItDid) {
                  "#!/bin/sh\nprintf %s \"$1\" > \"$0.told\"\nsleep 0.3\n"
                  "[ -z \"$TOLD_OWN\" ] && exit \"$TOLD_STATUS\"\n");
     std::filesystem::permissions(folder.file("xdg-open"), std::filesystem::perms::owner_all);
-    const std::string before = ::getenv("PATH");
+    const char* const path = ::getenv("PATH");
+    const std::string before = path != nullptr ? path : "";
     ::setenv("PATH", (folder.path().string() + ":" + before).c_str(), 1);
     struct WithEvents : apps::PosixHost {
         using PosixHost::PosixHost;

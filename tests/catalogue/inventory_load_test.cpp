@@ -117,7 +117,7 @@ TEST_F(Inventory, LeavesAChartSheetForTheFirstVisibleWorksheetBehindTheFirstShee
         test.attach();
         session::EnsureStoreSheet(test.session);
         book.activateSheet(before);
-        LoadedList{test};
+        static_cast<void>(LoadedList{test});
         EXPECT_EQ(book.activeTab()->name(), after);
     }
 }

@@ -204,8 +204,7 @@ std::string addressOf(const CellBlock& block) {
     if (block.spansAllColumns()) {
         return fmt::format("${}:${}", block.firstRow + 1, block.lastRow + 1);
     }
-    const std::string first =
-        fmt::format("${}${}", columnText(block.firstColumn), block.firstRow + 1);
+    std::string first = fmt::format("${}${}", columnText(block.firstColumn), block.firstRow + 1);
     if (block.columns() == 1 && block.rows() == 1) return first;
     return fmt::format("{}:${}${}", first, columnText(block.lastColumn), block.lastRow + 1);
 }

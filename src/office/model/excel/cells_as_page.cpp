@@ -130,7 +130,7 @@ std::string cellStyle(const CellLook& cell, const CommonFont& common) {
 }
 
 std::string cellText(const CellLook& cell, double heightPt) {
-    const std::string text = escapeMarkup(cell.text);
+    std::string text = escapeMarkup(cell.text);
     if (cell.rotation == 0 || cell.text.empty()) return text;
     return fmt::format("<div{} style=\"max-height:{}\">{}</div>",
                        cell.rotation == 90 ? " class=\"upwards\"" : "", pixels(heightPt), text);

@@ -152,8 +152,8 @@ InDeck Application::active(const std::string& source) const {
 
 }  // namespace
 
-Object applicationObject(GuardPtr guard, DecksPtr decks) {
-    return makeObject<Application>(std::move(guard), std::move(decks));
+Object applicationObject(const GuardPtr& guard, DecksPtr decks) {
+    return makeObject<Application>(guard, std::move(decks));
 }
 
 }  // namespace office::model::powerpoint

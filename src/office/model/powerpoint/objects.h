@@ -31,7 +31,7 @@ public:
 /// Beyond this PowerPoint takes no place, no length and no other measure of a shape.
 inline constexpr double furthestPt = 169056;
 
-[[nodiscard]] Object applicationObject(GuardPtr guard, DecksPtr decks);
+[[nodiscard]] Object applicationObject(const GuardPtr& guard, DecksPtr decks);
 [[nodiscard]] Object presentationObject(const InDeck& home);
 [[nodiscard]] Object windowObject(const InDeck& home);
 /// The windows of presentations, one each.

@@ -110,7 +110,7 @@ std::string DocumentStyles::idOf(std::int32_t number) {
             return std::string(wordValue(style, "styleId"));
     }
     const std::string plain = plainId();
-    const std::string id = freeId(std::string(known->id));
+    std::string id = freeId(std::string(known->id));
     const auto made = insertMarkup(
         root(), fmt::format(R"(<w:style w:type="paragraph" w:styleId="{}"><w:name w:val="{}"/>)"
                             R"(<w:basedOn/><w:next/>{}</w:style>)",

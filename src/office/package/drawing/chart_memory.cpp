@@ -154,6 +154,7 @@ public:
 private:
     static std::vector<CellsOfSheet> wanted(const std::vector<Reference>& references) {
         std::vector<CellsOfSheet> cells;
+        cells.reserve(references.size());
         for (const Reference& one : references) cells.push_back(one.cells);
         return cells;
     }

@@ -116,7 +116,7 @@ std::string ChartParts::add(SourceChart chart, const Copied& copied, const std::
     rememberCells(*chart.xml, copied);
     writeDates(root);
     // From here on nothing can be missing any more.
-    const std::string part = package_.freeName(folder_ + "/charts/chart", ".xml");
+    std::string part = package_.freeName(folder_ + "/charts/chart", ".xml");
     package_.add(part, chartType, {});
     unpack(std::move(luggage), origin, part, *chart.xml);
     overrideTheme(origin, part, *chart.xml);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <ranges>
 #include <set>
 
 #include "office/model/powerpoint/objects.h"
@@ -167,9 +168,9 @@ void FileDeck::noteUse(const FileSlidePtr& slide) {
 
 /// The layout whose master's layouts new slides get: that of the last slide which has one.
 std::string FileDeck::neighbourLayout() {
-    for (auto slide = slides_.rbegin(); slide != slides_.rend(); ++slide) {
-        if (package_.relationshipsOf((*slide)->part()).ofType("slideLayout") != nullptr)
-            return (*slide)->layoutPart();
+    for (const auto& slide : std::views::reverse(slides_)) {
+        if (package_.relationshipsOf(slide->part()).ofType("slideLayout") != nullptr)
+            return slide->layoutPart();
     }
     const auto masters = childNamed(presentation_.root(), ns::presentation, "sldMasterIdLst");
     const auto first = childNamed(masters, ns::presentation, "sldMasterId");

@@ -15,7 +15,8 @@ FileShapePtr pasteObject(FileSlide& slide, const Copied& copied, PasteAs as) {
     FileDeck& deck = slide.deck();
     requireNoObstacle(as, source, deck.rules(), "Shapes.PasteSpecial");
     PictureFile picture = pictureOf(copied);
-    const model::PastePlace place = model::pastePlaceFor(picture.size, deck, slide);
+    const auto size = picture.size;
+    const model::PastePlace place = model::pastePlaceFor(size, deck, slide);
     Package& package = deck.package();
     const bool isLink = as == PasteAs::Linked;
     const ObjectSource behind =
@@ -32,8 +33,8 @@ FileShapePtr pasteObject(FileSlide& slide, const Copied& copied, PasteAs as) {
             R"(<a:blip r:embed="{}"/><a:stretch><a:fillRect/></a:stretch></p:blipFill><p:spPr>)"
             R"(<a:xfrm>{}</a:xfrm><a:prstGeom prst="rect"><a:avLst/></a:prstGeom></p:spPr></p:pic>)"
             R"(</p:oleObj>)",
-            behind.relationship, emuOf(picture.size.width), emuOf(picture.size.height),
-            behind.programId, isLink ? R"(<p:link updateAutomatic="1"/>)" : "<p:embed/>", preview,
+            behind.relationship, emuOf(size.width), emuOf(size.height), behind.programId,
+            isLink ? R"(<p:link updateAutomatic="1"/>)" : "<p:embed/>", preview,
             boxMarkup(place.corner, place.size)));
     shape->setName(shape->name());
     return shape;

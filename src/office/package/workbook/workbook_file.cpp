@@ -170,6 +170,7 @@ std::vector<WorkbookChart> WorkbookFile::readCharts(const WorkbookSheet& sheet) 
         if (auto chart = chartIn(package_, drawing, frame)) charts.push_back(*std::move(chart));
     }
     std::vector<std::string> names;
+    names.reserve(charts.size());
     for (const WorkbookChart& chart : charts) names.push_back(chart.name);
     names = distinctNames(std::move(names));
     for (std::size_t i = 0; i < charts.size(); ++i) charts[i].name = std::move(names[i]);
