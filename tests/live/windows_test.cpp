@@ -13,7 +13,9 @@
 #include <com/sun/star/sheet/XSpreadsheetView.hpp>
 #include <com/sun/star/sheet/XViewFreezable.hpp>
 #include <com/sun/star/sheet/XViewPane.hpp>
+#include <com/sun/star/text/XTextRange.hpp>
 #include <com/sun/star/util/XMergeable.hpp>
+#include <com/sun/star/util/XSearchable.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 #include <fmt/format.h>
 #include <gtest/gtest.h>
@@ -263,7 +265,7 @@ TEST_F(WorkbookInAWindow, LooksTheSameAfterACopyOfCells) {
     cells("Two", "A1")->getCellByPosition(0, 0)->setFormula("of Two");
     for (std::size_t division = 0; division < std::size(divisions); ++division) {
         divisions[division]();
-        for (const char* selected : {"B5", "A5:B9"}) {
+        for (const char* selected : {"B5", "A5:B9", "A5:XFD5"}) {
             select(cells("Two", selected));
             scroll();
             book->setModified(false);
@@ -282,19 +284,52 @@ TEST_F(WorkbookInAWindow, KeepsInItsCellWhatIsBeingTyped) {
     const auto press = [](const char* key) {
         Process::start({"/usr/bin/xdotool", "key", key}, true).waitFor(10s);
     };
-    view->setActiveSheet(sheet("Sheet1"));
-    select(cells("Sheet1", "D5"));
-    goTo(model);
-    as<css::frame::XController2>(model->getCurrentController())->getComponentWindow()->setFocus();
-    press("7");
-    std::this_thread::sleep_for(500ms);
-    static_cast<void>(book->findSheet("Two")->cells({0, 0, 1, 2})->copy({}));
-    press("Return");
     const auto typed = [&](const char* name) {
-        return fromUno(cells(name, "D5")->getCellByPosition(0, 0)->getFormula());
+        const auto search = as<css::util::XSearchable>(sheet(name));
+        const auto what = search->createSearchDescriptor();
+        what->setSearchString("x");
+        return tryAs<css::text::XTextRange>(search->findFirst(what));
     };
-    EXPECT_TRUE(becomesTrue([&] { return typed("Sheet1") + typed("Two") == "7"; }, 3s));
-    EXPECT_EQ(typed("Two"), "");
+    using Kind = office::CopySource::Kind;
+    struct Case {
+        const char* selected;
+        const char* copiedFrom;
+        Kind kind;
+    };
+    as<css::util::XMergeable>(cells("Sheet1", "F2:H4"))->merge(true);
+    for (const auto& [selected, copiedFrom, kind] :
+         {Case{"D5", "Two", Kind::Picture}, Case{"D5", "Sheet1", Kind::Picture},
+          Case{"D5", "Sheet1", Kind::Cells}, Case{"F2", "Two", Kind::Picture},
+          Case{"E5,D5:D7", "Two", Kind::Picture}, Case{"5:5", "Two", Kind::Picture},
+          Case{"1:1048576", "Two", Kind::Picture}}) {
+        SCOPED_TRACE(fmt::format("{} {}", selected, copiedFrom));
+        view->setActiveSheet(sheet("Sheet1"));
+        book->findSheet("Sheet1")->select(*office::model::excel::blocksOf(selected));
+        goTo(model);
+        as<css::frame::XController2>(model->getCurrentController())
+            ->getComponentWindow()
+            ->setFocus();
+        const std::string before = selection();
+        press("x");
+        std::this_thread::sleep_for(500ms);
+        office::CopySource source;
+        source.kind = kind;
+        try {
+            const auto copy = book->findSheet(copiedFrom)->cells({3, 4, 3, 4})->copy(source);
+            if (kind == Kind::Cells) {
+                EXPECT_EQ(copy->table().at(0, 0).text, "x");
+            }
+        } catch (const uno::Exception& failure) {
+            ADD_FAILURE() << fromUno(failure.Message);
+        }
+        EXPECT_EQ(selection(), before);
+        press("Return");
+        EXPECT_TRUE(becomesTrue([&] { return typed("Sheet1").is(); }, 3s));
+        EXPECT_FALSE(typed("Two").is());
+        for (const char* name : {"Sheet1", "Two"}) {
+            if (const auto cell = typed(name); cell.is()) cell->setString("");
+        }
+    }
 }
 
 TEST_F(WorkbookInAWindow, IsThereInItsPrintPreviewToo) {

@@ -1,6 +1,7 @@
 #include "office/libreoffice/excel/selected_cells.h"
 
 #include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/datatransfer/UnsupportedFlavorException.hpp>
 #include <com/sun/star/datatransfer/XTransferableSupplier.hpp>
 #include <com/sun/star/frame/XDispatchHelper.hpp>
 #include <com/sun/star/frame/XDispatchProvider.hpp>
@@ -105,26 +106,34 @@ SelectedCells::SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCel
       cellsBefore_(cellsOf(before_)),
       wasSelected_(cellsBefore_ == cellsOf(uno::Any(cells_))) {
     if (wasSelected_) return;
-    if (!sheet.book().desk().opensHidden()) {
-        view_ = window_->getViewData();
-        finishTyping();
-    }
+    if (!sheet.book().desk().opensHidden()) finishTyping();
     if (areOfSeveralSheets(cellsBefore_)) selectOneSheetAlone(sheet.book().connection(), window_);
     shown_.emplace(sheet);
 }
 
 /// What is being typed would be written to the same place of the sheet that comes to the top. It is
 /// entered where it belongs as soon as another cell is selected.
-void SelectedCells::finishTyping() const {
+void SelectedCells::finishTyping() {
+    view_ = window_->getViewData();
     if (cellsBefore_.empty()) return;
-    const css::table::CellRangeAddress& typed = cellsBefore_.front();
     CalcDocument& book = sheet_.book();
     const auto onTop = areOfSeveralSheets(cellsBefore_)
                            ? std::dynamic_pointer_cast<SheetRecord>(book.activeSheet())
-                           : book.sheetList().at(typed.Sheet);
-    if (!onTop || typed.EndColumn == model::CellBlock::lastColumnOfSheet) return;
-    selection_->select(
-        uno::Any(onTop->range(model::CellBlock::cell(typed.StartRow, typed.EndColumn + 1))));
+                           : book.sheetList().at(cellsBefore_.front().Sheet);
+    if (!onTop) return;
+    using Block = model::CellBlock;
+    const auto goToCell = [&](std::int32_t row, std::int32_t column) {
+        selection_->select(uno::Any(onTop->range(Block::cell(row, column))));
+    };
+    // The suite names a merged cell by its first one alone.
+    const Block typed = blockOf(onTop->wholeCells(blockOf(cellsBefore_.front())));
+    if (cellsBefore_.size() == 1 && typed.lastColumn < Block::lastColumnOfSheet) {
+        goToCell(typed.firstRow, typed.lastColumn + 1);
+    } else {
+        // Whichever cell of these is typed in, one of the two is another.
+        goToCell(0, 0);
+        goToCell(Block::lastRowOfSheet, 0);
+    }
 }
 
 SelectedCells::~SelectedCells() {
@@ -179,14 +188,25 @@ uno::Reference<css::datatransfer::XTransferable> SelectedCells::copy() const {
 
 /// Asked for by its name alone: the list of all offers, and the answer of one that is not offered,
 /// cost more than the copy.
-uno::Sequence<sal_Int8> SelectedCells::copyAs(const char* mimeType) const {
-    const auto copy = this->copy();
-    if (!copy.is()) office::refuse("Range.Copy", "These cells can't be copied");
+uno::Sequence<sal_Int8> SelectedCells::copyAs(const char* mimeType) {
     const css::datatransfer::DataFlavor flavour(rtl::OUString::createFromAscii(mimeType), "",
                                                 cppu::UnoType<uno::Sequence<sal_Int8>>::get());
-    uno::Sequence<sal_Int8> bytes;
-    copy->getTransferData(flavour) >>= bytes;
-    return bytes;
+    const auto copied = [&] {
+        const auto copy = this->copy();
+        if (!copy.is()) office::refuse("Range.Copy", "These cells can't be copied");
+        uno::Sequence<sal_Int8> bytes;
+        copy->getTransferData(flavour) >>= bytes;
+        return bytes;
+    };
+    try {
+        return copied();
+    } catch (const css::datatransfer::UnsupportedFlavorException&) {
+        if (!wasSelected_ || sheet_.book().desk().opensHidden()) throw;
+    }
+    // While somebody types into the selected cell, the copy is of the text there.
+    wasSelected_ = false;
+    finishTyping();
+    return copied();
 }
 
 }  // namespace libreoffice::excel

@@ -41,13 +41,13 @@ public:
     ~SelectedCells();
 
     /// A copy of the cells, as they are now, in one of the forms that the suite offers.
-    [[nodiscard]] uno::Sequence<sal_Int8> copyAs(const char* mimeType) const;
+    [[nodiscard]] uno::Sequence<sal_Int8> copyAs(const char* mimeType);
 
 private:
     [[nodiscard]] uno::Reference<css::datatransfer::XTransferable> copy() const;
     [[nodiscard]] uno::Reference<css::datatransfer::XTransferable> copyOf(
         const uno::Reference<css::table::XCellRange>& wanted, bool isSelected) const;
-    void finishTyping() const;
+    void finishTyping();
     void putBack() const;
 
     SheetRecord& sheet_;
