@@ -97,14 +97,19 @@ ShownForNow::~ShownForNow() {
     if (sheet_ != nullptr) asFarAsPossible([&] { sheet_->show(false); });
 }
 
-SelectedCells::SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells)
+SelectedCells::SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells,
+                             uno::Reference<css::frame::XController> window)
     : sheet_(sheet),
       cells_(std::move(cells)),
-      window_(windowOf(sheet.book())),
+      window_(std::move(window)),
       selection_(as<css::view::XSelectionSupplier>(window_)),
       before_(selection_->getSelection()),
       cellsBefore_(cellsOf(before_)),
-      wasSelected_(cellsBefore_ == cellsOf(uno::Any(cells_))) {
+      wasSelected_(cellsBefore_ == cellsOf(uno::Any(cells_))) {}
+
+SelectedCells::SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells)
+    : SelectedCells(sheet, std::move(cells), windowOf(sheet.book())) {
+    // From here on the destructor undoes what was done, also when this fails.
     if (wasSelected_) return;
     if (!sheet.book().desk().opensHidden()) finishTyping();
     if (areOfSeveralSheets(cellsBefore_)) selectOneSheetAlone(sheet.book().connection(), window_);

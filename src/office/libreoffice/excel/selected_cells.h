@@ -44,6 +44,8 @@ public:
     [[nodiscard]] uno::Sequence<sal_Int8> copyAs(const char* mimeType);
 
 private:
+    SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells,
+                  uno::Reference<css::frame::XController> window);
     [[nodiscard]] uno::Reference<css::datatransfer::XTransferable> copy() const;
     [[nodiscard]] uno::Reference<css::datatransfer::XTransferable> copyOf(
         const uno::Reference<css::table::XCellRange>& wanted, bool isSelected) const;

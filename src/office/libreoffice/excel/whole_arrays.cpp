@@ -61,8 +61,8 @@ model::CellBlock withWholeArrays(const SheetRecord& sheet, const model::CellBloc
 
 HiddenAround::HiddenAround(SheetRecord& sheet, const model::CellBlock& inner,
                            const model::CellBlock& outer)
-    : sheet_(sheet),
-      flag_(sheet.book()) {
+    : HiddenAround(sheet) {
+    // From here on the destructor undoes what was done, also when this fails.
     const auto& [left, top, right, bottom] = inner;
     if (outer.firstColumn < left) hide({outer.firstColumn, top, left - 1, bottom}, true);
     if (right < outer.lastColumn) hide({right + 1, top, outer.lastColumn, bottom}, true);

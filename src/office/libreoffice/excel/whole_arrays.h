@@ -24,6 +24,7 @@ public:
     [[nodiscard]] bool isHidden() const { return isHidden_; }
 
 private:
+    explicit HiddenAround(SheetRecord& sheet) : sheet_(sheet), flag_(sheet.book()) {}
     void hide(const model::CellBlock& strip, bool asColumns);
 
     SheetRecord& sheet_;
