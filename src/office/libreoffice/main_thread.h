@@ -15,7 +15,8 @@ namespace libreoffice {
 /// first, which stops a suite for good that lays its text out.
 ///
 /// What the task refers to has to last as long as the task itself: after a lost connection that is
-/// longer than the call.
+/// longer than the call. So has what the suite hands out to it: the suite's bridge would let go of
+/// that, and wait for the lock that the main thread holds, while this waits for the bridge.
 void onMainThread(const Connection& connection, std::function<void()> task);
 
 }  // namespace libreoffice

@@ -163,17 +163,24 @@ void SelectedCells::putBack() const {
 /// has one, is open.
 uno::Reference<css::datatransfer::XTransferable> SelectedCells::copyOf(
     const uno::Reference<css::table::XCellRange>& wanted, bool isSelected) const {
-    const auto copy = std::make_shared<uno::Reference<css::datatransfer::XTransferable>>();
+    struct Taken {
+        uno::Reference<uno::XInterface> selected;
+        uno::Reference<css::datatransfer::XTransferable> copy;
+    };
+    const auto taken = std::make_shared<Taken>();
     const auto copier = as<css::datatransfer::XTransferableSupplier>(window_);
     onMainThread(sheet_.book().connection(), [=, cells = uno::Any(wanted), selection = selection_] {
-        const bool isOpen =
-            isSelected
-                ? uno::Reference<uno::XInterface>(selection->getSelection(), uno::UNO_QUERY).is()
-                : selection->select(cells);
+        bool isOpen = false;
+        if (isSelected) {
+            taken->selected.set(selection->getSelection(), uno::UNO_QUERY);
+            isOpen = taken->selected.is();
+        } else {
+            isOpen = selection->select(cells);
+        }
         if (!isOpen) throw css::lang::DisposedException("The workbook has been closed", {});
-        *copy = copier->getTransferable();
+        taken->copy = copier->getTransferable();
     });
-    return *copy;
+    return taken->copy;
 }
 
 uno::Reference<css::datatransfer::XTransferable> SelectedCells::copy() const {
