@@ -53,11 +53,16 @@ double SameFonts::suiteWidth(const NamedFont& font, const std::string& line) {
     wanted.Weight =
         font.weight >= boldFrom ? css::awt::FontWeight::BOLD : css::awt::FontWeight::NORMAL;
     wanted.Slant = font.isItalic ? css::awt::FontSlant_ITALIC : css::awt::FontSlant_NONE;
-    const auto width = std::make_shared<sal_Int32>(0);
-    onMainThread(*connection_, [device = device_, wanted, characters = toUno(line), width] {
-        *width = device->getFont(wanted)->getStringWidth(characters);
+    struct Measured {
+        uno::Reference<css::awt::XFont> font;
+        sal_Int32 width = 0;
+    };
+    const auto measured = std::make_shared<Measured>();
+    onMainThread(*connection_, [device = device_, wanted, characters = toUno(line), measured] {
+        measured->font = device->getFont(wanted);
+        measured->width = measured->font->getStringWidth(characters);
     });
-    return *width / double{comparedSize};
+    return measured->width / double{comparedSize};
 }
 
 bool SameFonts::isSame(const NamedFont& font, const std::string& line) {

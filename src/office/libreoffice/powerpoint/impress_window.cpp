@@ -210,21 +210,27 @@ void ImpressWindow::pasteOnto(ImpressSlide& slide, sal_uInt32 format) {
     static_cast<void>(settledController());
     // What is pasted is selected, and the main thread would put up its toolbars and panels, only to
     // take them down again: a sixth of the time of a table. While it waits it doesn't.
-    onMainThread(deck_.connection(), [commands = commands(), view = view_, selection = selection_,
-                                      page = slide.page(), format] {
-        const auto before = view->getCurrentPage();
-        const uno::Any selected = selection->getSelection();
-        const AtEnd pageBack([&] {
-            selection->select(uno::Any());
-            if (before != page) view->setCurrentPage(before);
-            if (selected.hasValue()) selection->select(selected);
-        });
-        if (before != page) view->setCurrentPage(page);
-        // What is selected would take the contents in.
-        selection->select(uno::Any());
-        commands.run(".uno:ClipboardFormatItems",
-                     propertyValues({{"SelectedFormat", uno::Any(format)}}));
-    });
+    struct Before {
+        uno::Reference<css::drawing::XDrawPage> page;
+        uno::Any selected;
+    };
+    onMainThread(deck_.connection(),
+                 [commands = commands(), view = view_, selection = selection_, page = slide.page(),
+                  format, kept = std::make_shared<Before>()] {
+                     kept->page = view->getCurrentPage();
+                     kept->selected = selection->getSelection();
+                     const auto& [before, selected] = *kept;
+                     const AtEnd pageBack([&] {
+                         selection->select(uno::Any());
+                         if (before != page) view->setCurrentPage(before);
+                         if (selected.hasValue()) selection->select(selected);
+                     });
+                     if (before != page) view->setCurrentPage(page);
+                     // What is selected would take the contents in.
+                     selection->select(uno::Any());
+                     commands.run(".uno:ClipboardFormatItems",
+                                  propertyValues({{"SelectedFormat", uno::Any(format)}}));
+                 });
 }
 
 ImpressWindow::Commands ImpressWindow::commands() {
