@@ -2,19 +2,19 @@
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
 #include <algorithm>
 #include <array>
 #include <map>
+#include <set>
 #include <sstream>
-#include <tuple>
 
 #include "apps/murvane_export/errors.h"
+#include "apps/murvane_export/option_rules.h"
+#include "apps/murvane_export/option_words.h"
 #include "apps/version.h"
 #include "destinations/html_page.h"
 #include "office/text.h"
-#include "powerpoint/picture_styles.h"
 
 namespace unattended {
 
@@ -40,49 +40,6 @@ Examples:
                  --captions captions.csv
 
 Exit codes: 0 done, 1 failed or incomplete, 2 wrong usage, 3 blocked by the review.)";
-
-const std::map<std::string, std::int16_t>& stylesByName() {
-    namespace style = powerpoint::style;
-    static const std::map<std::string, std::int16_t> styles = {
-        {"none", style::none},
-        {"shadow-around", style::shadowAllAround},
-        {"shadow", style::shadow},
-        {"rounded", style::roundedCorners},
-        {"reflection", style::reflection},
-        {"reflection-rounded", style::reflectionRounded},
-    };
-    return styles;
-}
-
-const std::map<std::string, catalogue::Destination>& destinationsByName() {
-    using catalogue::Destination;
-    static const std::map<std::string, Destination> destinations = {
-        {"slides", Destination::PowerPoint}, {"word", Destination::Word},
-        {"pdf", Destination::Pdf},           {"html", Destination::Html},
-        {"images", Destination::ImageFiles},
-    };
-    return destinations;
-}
-
-const std::map<std::string, session::ImageFormat>& imageFormatsByName() {
-    using session::ImageFormat;
-    static const std::map<std::string, ImageFormat> formats = {
-        {"png", ImageFormat::Png}, {"gif", ImageFormat::Gif},   {"jpeg", ImageFormat::Jpeg},
-        {"bmp", ImageFormat::Bmp}, {"tiff", ImageFormat::Tiff},
-    };
-    return formats;
-}
-
-const std::map<std::string, catalogue::ExportFormat>& formatsByName() {
-    using catalogue::ExportFormat;
-    static const std::map<std::string, ExportFormat> formats = {
-        {"pictures", ExportFormat::Pictures},
-        {"editable", ExportFormat::Editable},
-        {"embedded", ExportFormat::Embedded},
-        {"linked", ExportFormat::Linked},
-    };
-    return formats;
-}
 
 template <class Meaning>
 std::vector<std::string> namesOf(const std::map<std::string, Meaning>& known) {
@@ -287,7 +244,6 @@ void pairTargets(Options& options, const RawTexts& raw) {
 }
 
 std::optional<bool> titlesOf(const RawTexts& raw) {
-    if (raw.titles && raw.noTitles) throw UsageError("--titles and --no-titles don't go together.");
     if (!raw.titles && !raw.noTitles) return std::nullopt;
     return raw.titles;
 }
@@ -312,7 +268,6 @@ void requireValues(const CLI::App& app, const std::vector<std::string>& argument
 
 /// What no single option can know.
 void finish(Options& options, const RawTexts& raw) {
-    if (raw.list && raw.check) throw UsageError("--list and --check don't go together.");
     options.task = raw.list ? Task::List : raw.check ? Task::Check : Task::Export;
     options.titles = titlesOf(raw);
     options.coverText = office::replaceAll(options.coverText, "\\n", "\n");
@@ -327,98 +282,18 @@ void finish(Options& options, const RawTexts& raw) {
     options.width = placementOf("--width", raw.width);
     options.left = placementOf("--left", raw.left);
 
-    if (options.book.empty() && !options.attach) {
+    if (options.book.empty() && !options.attach)
         throw UsageError("Name the workbook to export from, or use --attach.");
-    }
     pairTargets(options, raw);
-    const auto requireFormat = [&](bool isGiven, const char* option, const char* format) {
-        if (isGiven && raw.format != format)
-            throw UsageError(fmt::format("{} goes with --format {}.", option, format));
-    };
-    requireFormat(options.embedsSheetAlone, "--embed-only-sheet", "embedded");
-    requireFormat(!raw.links.empty(), "--links", "linked");
-    requireFormat(!raw.pictures.empty(), "--pictures", "pictures");
-    if (options.json && options.task != Task::List) throw UsageError("--json goes with --list.");
-    if (options.allItems && !options.items.empty()) {
-        throw UsageError("--all and --items don't go together.");
-    }
-    if (options.attach && !raw.into.empty()) {
-        throw UsageError(
-            "--into and --attach don't go together: --attach uses what is active in the running "
-            "suite.");
-    }
-    if (options.predefinedSlides && options.deck.empty() && !options.attach &&
-        options.task != Task::List) {
-        throw UsageError(
-            "--slides predefined needs a presentation that has slides: name it with "
-            "--into DECK.");
-    }
 }
 
-/// An option that nothing of the run would heed is a slip of the caller's.
-void requireDestinations(const CLI::App& app, const Options& options) {
-    const std::vector<std::pair<const char*, std::vector<const char*>>> known = {
-        {"--cover", {"pdf"}},
-        {"--captions-below", {"word"}},
-        {"--blank-lines", {"html"}},
-        {"--image-format", {"images"}},
-        {"--file-names", {"images"}},
-        {"--slides", {"slides"}},
-        {"--style", {"slides"}},
-        {"--top", {"slides"}},
-        {"--width", {"slides"}},
-        {"--left", {"slides"}},
-        {"--format", {"slides", "word"}},
-        {"--pictures", {"slides", "word"}},
-        {"--shadow", {"slides", "word"}},
-        {"--same-width", {"word", "html"}},
-        {"--size", {"pdf", "html"}},
-        {"--source", {"slides", "pdf"}},
-        {"--titles", {"slides", "pdf", "html"}},
-        {"--no-titles", {"slides", "pdf", "html"}},
-    };
-    for (const auto& [option, names] : known) {
-        const bool isHeeded = std::any_of(names.begin(), names.end(), [&](const char* name) {
-            return options.targetOf(destinationsByName().at(name)) != nullptr;
-        });
-        if (app.count(option) > 0 && !isHeeded)
-            throw UsageError(
-                fmt::format("{} goes with --to {}.", option, fmt::join(names, " or ")));
-    }
-}
-
-/// In a document what is embedded or linked is as wide as the text, and takes nothing else.
-void requireLooksInWord(const CLI::App& app, const Options& options, const std::string& format) {
-    using catalogue::Destination;
-    if (format != "embedded" && format != "linked") return;
-    if (options.targetOf(Destination::Word) == nullptr) return;
-    const std::tuple<const char*, std::optional<Destination>> all[] = {
-        {"--captions-below", std::nullopt},
-        {"--same-width", Destination::Html},
-        {"--shadow", Destination::PowerPoint}};
-    for (const auto& [option, other] : all) {
-        const bool isHeeded = other && options.targetOf(*other) != nullptr;
-        if (app.count(option) > 0 && !isHeeded)
-            throw UsageError(
-                fmt::format("{} and --format {} don't go together in Word.", option, format));
-    }
-}
-
-/// What goes with the task, and with other options.
-void requireTask(const CLI::App& app, const Options& options) {
-    for (const char* option : {"--to", "--output", "--into", "--overwrite"}) {
-        if (options.task == Task::List && app.count(option) > 0)
-            throw UsageError(fmt::format("{} and --list don't go together.", option));
-    }
-    const bool makesPdf = options.targetOf(catalogue::Destination::Pdf) != nullptr;
-    if (app.count("--size") > 0 && !makesPdf && !options.sameWidth)
-        throw UsageError("--size goes with --to pdf, or with --to html and --same-width.");
-    const bool makesSlides = options.targetOf(catalogue::Destination::PowerPoint) != nullptr;
-    if (makesSlides && options.shadow && options.pictureStyle != powerpoint::style::none)
-        throw UsageError(
-            "--style and --shadow don't go together: from the second item on, the shadow would "
-            "take the place of the style. Choose a style that has a shadow, such as "
-            "shadow-around.");
+/// The names of the options that the caller has given.
+std::set<std::string> givenOptions(const CLI::App& app) {
+    std::set<std::string> given;
+    for (const CLI::Option* option :
+         app.get_options([](const CLI::Option* one) { return one->count() > 0; }))
+        given.insert(option->get_name());
+    return given;
 }
 
 }  // namespace
@@ -442,9 +317,7 @@ std::variant<Options, ParseEnd> parseOptions(const std::vector<std::string>& arg
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
         requireValues(app, arguments);
         finish(options, raw);
-        requireDestinations(app, options);
-        requireLooksInWord(app, options, raw.format);
-        requireTask(app, options);
+        requireFitting(options, givenOptions(app));
     } catch (const CLI::ParseError& end) {
         std::ostringstream out;
         std::ostringstream error;

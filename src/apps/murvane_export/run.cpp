@@ -2,27 +2,22 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <fstream>
 #include <memory>
 #include <optional>
-#include <set>
-#include <sstream>
 #include <stdexcept>
 #include <utility>
 #include <vector>
 
-#include "apps/murvane_export/captions_csv.h"
 #include "apps/murvane_export/documents.h"
 #include "apps/murvane_export/errors.h"
-#include "apps/murvane_export/file_route.h"
 #include "apps/murvane_export/file_suite.h"
 #include "apps/murvane_export/item_listing.h"
 #include "apps/murvane_export/item_selection.h"
 #include "apps/murvane_export/job.h"
-#include "apps/murvane_export/outputs.h"
+#include "apps/murvane_export/order.h"
+#include "apps/murvane_export/outcome.h"
 #include "apps/terminal.h"
 #include "apps/utf8.h"
 #include "catalogue/export_run.h"
@@ -52,13 +47,6 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-std::string readFile(const std::string& path) {
-    const std::ifstream file(apps::pathOf(path), std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
-
 apps::Answering answeringFor(const Options& options, const apps::Console& console) {
     if (options.yes) return apps::Answering::Accepts;
     if (!console.canAsk()) return apps::Answering::Refuses;
@@ -69,56 +57,6 @@ apps::Answering answeringFor(const Options& options, const apps::Console& consol
 /// What is told of names in documents must not drive the terminal.
 void tell(apps::Console& console, const std::string& text) {
     console.writeError(apps::printable(text, "\n"));
-}
-
-std::string reportOf(const office::Failure& failure) {
-    if (dynamic_cast<const office::SuiteLost*>(&failure) != nullptr) {
-        return fmt::format("The office suite has gone ({}). Nothing was written; try again.",
-                           failure.description());
-    }
-    return fmt::format("{} ({}, number {}).", failure.description(), failure.source(),
-                       failure.number());
-}
-
-/// What the command line asks for, checked before a suite is started for it.
-struct Order {
-    std::vector<CaptionLine> captions;
-    /// In the order of the options' targets.
-    std::vector<std::unique_ptr<Output>> outputs;
-    FileRoute decks;
-    FileRoute documents;
-};
-
-Order checkOrder(const Options& options) {
-    Order order;
-    const auto inputs = {std::pair(options.book, "workbook"),
-                         std::pair(options.deck, "presentation"),
-                         std::pair(options.document, "document")};
-    for (const auto& [file, what] : inputs) {
-        if (!file.empty()) requireFile(apps::pathOf(file), what);
-    }
-    if (!options.captionsFile.empty()) {
-        requireReadable(apps::pathOf(options.captionsFile), "captions file");
-        order.captions = readCaptions(readFile(options.captionsFile), options.captionsFile);
-    }
-    if (options.task == Task::Export) {
-        for (const Target& target : options.targets) {
-            order.outputs.push_back(outputFor(target, options.overwrite));
-            for (const auto& [file, what] : inputs) {
-                if (!file.empty()) order.outputs.back()->requireOtherThan(apps::pathOf(file));
-            }
-        }
-    }
-    if (options.task != Task::List) {
-        order.decks = deckRouteFor(options);
-        order.documents = documentRouteFor(options);
-    }
-    return order;
-}
-
-std::string describe(const ExportItem& row, const office::Failure& failure) {
-    return fmt::format("\"{}\" on sheet \"{}\": {} ({}).", itemName(row), row.sheet,
-                       failure.description(), failure.source());
 }
 
 /// One run, from the open documents to the output.
@@ -163,9 +101,7 @@ private:
         if (surroundings_.isInterrupted()) throw Interrupted(whatIsThere());
     }
     [[nodiscard]] std::string whatIsThere();
-    [[nodiscard]] std::string inOpenDocuments();
     [[nodiscard]] std::string thereIfAnything();
-    [[nodiscard]] std::int32_t turnsAhead(std::size_t place);
     [[noreturn]] void complainAbout(std::size_t place, const office::Failure& failure);
 
     const Options& options_;
@@ -181,14 +117,6 @@ private:
     catalogue::ExportList list_;
     std::vector<std::unique_ptr<Job>> jobs_;
     /// What became of each job.
-    struct Outcome {
-        /// Items that have had their turn.
-        std::int32_t taken = 0;
-        /// Of them those that failed or were turned away with a notice, by their rows.
-        std::set<std::ptrdiff_t> missing;
-        /// A line for each item that failed.
-        std::vector<std::string> failures;
-    };
     std::vector<Outcome> outcomes_;
     /// The job at hand; none ahead of the first one.
     std::size_t place_ = std::string::npos;
@@ -321,7 +249,9 @@ void Run::runJob(std::size_t place) {
 
 void Run::complainAbout(std::size_t place, const office::Failure& failure) {
     const bool isOfItem = list_.selected >= 0;
-    outcomes_[place].taken = isOfItem ? turnsAhead(place) : jobs_[place]->done();
+    outcomes_[place].taken = isOfItem
+                                 ? turnsAhead(session_, list_, options_, options_.targets[place])
+                                 : jobs_[place]->done();
     const std::string there = thereIfAnything();
     // A disk that is full is no fault of the item at hand.
     if (!isOfItem || failure.is(office::FailureNumber::PathFileAccess))
@@ -336,42 +266,15 @@ void Run::complainAbout(std::size_t place, const office::Failure& failure) {
 
 /// A line behind the words about a failure.
 std::string Run::thereIfAnything() {
-    const std::string there = office::orElse([this] { return inOpenDocuments(); }, std::string());
+    const std::string there = office::orElse(
+        [this] { return inOpenDocuments(session_, list_, options_, outcomes_); }, std::string());
     return there.empty() ? there : fmt::format("\n{}; no file was written.", there);
 }
 
-/// Of the items of a job that has failed at the list's selected one.
-std::int32_t Run::turnsAhead(std::size_t place) {
-    const auto choices = choicesFor(options_.targets[place].destination, options_);
-    const auto rows = office::orElse([&] { return takeRows(session_, list_, choices); },
-                                     std::vector<catalogue::TakenRow>());
-    const auto selected = static_cast<std::size_t>(list_.selected);
-    const auto at = std::find_if(rows.begin(), rows.end(),
-                                 [&](const auto& row) { return row.index == selected; });
-    return static_cast<std::int32_t>(at - rows.begin());
-}
-
 std::string Run::whatIsThere() {
-    const std::string text = inOpenDocuments();
+    const std::string text = inOpenDocuments(session_, list_, options_, outcomes_);
     if (text.empty()) return interruptedText;
     return fmt::format("Interrupted: {}; no file was written.", text);
-}
-
-/// The user's own documents keep the items that they have got. Empty if there are none.
-std::string Run::inOpenDocuments() {
-    std::string text;
-    for (std::size_t place = 0; place < outcomes_.size(); ++place) {
-        const Outcome& outcome = outcomes_[place];
-        const catalogue::Destination destination = options_.targets[place].destination;
-        const bool isSlides = destination == catalogue::Destination::PowerPoint;
-        const auto there = outcome.taken - static_cast<std::int32_t>(outcome.missing.size());
-        if (!options_.attach || there <= 0) continue;
-        if (!isSlides && destination != catalogue::Destination::Word) continue;
-        const auto all = takeRows(session_, list_, choicesFor(destination, options_)).size();
-        text += fmt::format("{}{} of {} items are in the open {}", text.empty() ? "" : ", ", there,
-                            all, isSlides ? "presentation" : "document");
-    }
-    return text;
 }
 
 /// A batch may leave Excel without drawing; the user's own goes on without us.
@@ -379,17 +282,10 @@ void Run::letUserSee() {
     if (options_.attach) catalogue::RestoreScreenUpdating(session_);
 }
 
-/// The items that an output lacks, or would lack if it were made.
 void Run::tellOfMissing(std::size_t place, bool isMade) {
-    const Outcome& outcome = outcomes_[place];
-    if (outcome.missing.empty()) return;
+    if (outcomes_[place].missing.empty()) return;
     const std::string file = apps::utf8Of(order_.outputs[place]->file());
-    std::string text = isMade ? fmt::format("{} is incomplete: of {} items ", file, outcome.taken)
-                              : fmt::format("Of {} items for {} ", outcome.taken, file);
-    text += fmt::format("{} could not be exported{}\n", outcome.missing.size(),
-                        outcome.failures.empty() ? "; see above." : ":");
-    for (const std::string& line : outcome.failures) text += "  " + line + "\n";
-    tell(surroundings_.console, text);
+    tell(surroundings_.console, linesOfMissing(outcomes_[place], file, isMade));
 }
 
 /// All outputs get their names, once each of them is complete and can have it, and the user is

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+
+#include "catalogue/export_list.h"
+#include "session/host.h"
+
+namespace unattended {
+
+/// The words that options take, and what they mean.
+[[nodiscard]] const std::map<std::string, catalogue::Destination>& destinationsByName();
+[[nodiscard]] const std::map<std::string, catalogue::ExportFormat>& formatsByName();
+[[nodiscard]] const std::map<std::string, session::ImageFormat>& imageFormatsByName();
+/// Looks of pictures, as the slide dialog numbers them.
+[[nodiscard]] const std::map<std::string, std::int16_t>& stylesByName();
+
+}  // namespace unattended
