@@ -1,10 +1,12 @@
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/chart2/XChartDocument.hpp>
 #include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/container/XNameAccess.hpp>
 #include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
 #include <com/sun/star/text/XTextEmbeddedObjectsSupplier.hpp>
 #include <com/sun/star/text/XTextFrame.hpp>
 #include <com/sun/star/text/XTextTable.hpp>
@@ -236,6 +238,28 @@ TEST_F(WordLive, PastesWhereTheCaretIs) {
     }
     EXPECT_EQ(text().substr(0, 9), "oneXX\nthr") << "the text went, and the X came behind pictures";
     EXPECT_EQ(fromUno(cell("B2")->getString()), "10.5X");
+}
+
+TEST_F(WordLive, IsEmptyWithALetterheadAndNotWithAFrameOrAShape) {
+    for (const char* service : {"com.sun.star.text.TextFrame", "com.sun.star.drawing.LineShape",
+                                "com.sun.star.text.TextGraphicObject"}) {
+        for (const bool isInHeader : {true, false}) {
+            SCOPED_TRACE(std::string(service) + (isInHeader ? " in the header" : ""));
+            document = app.get("Documents").call("Add").toObject();
+            const uno::Reference<css::container::XNameAccess> pages(
+                as<css::style::XStyleFamiliesSupplier>(model())->getStyleFamilies()->getByName(
+                    "PageStyles"),
+                uno::UNO_QUERY_THROW);
+            const uno::Reference<uno::XInterface> page(pages->getByName("Standard"),
+                                                       uno::UNO_QUERY_THROW);
+            setProperty(page, "HeaderIsOn", true);
+            const auto into = isInHeader ? property<TextRef>(page, "HeaderText") : body();
+            const auto made = as<css::text::XTextContent>(
+                desk->active<word::WriterDocument>()->createInstance(service));
+            into->insertTextContent(into->getEnd(), made, false);
+            EXPECT_EQ(document.get("Range").get("StoryLength").toLong() > 1, !isInHeader);
+        }
+    }
 }
 
 TEST_F(WordLive, RefusesWhereNobodyMayWriteAndLeavesAllAsItWas) {

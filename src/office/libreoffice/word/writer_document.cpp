@@ -70,7 +70,7 @@ void WriterDocument::setTitle(const std::string& title) {
 
 /// LibreOffice's text leaves out the objects and the tables in it.
 std::int32_t WriterDocument::length() {
-    return body_->getString().getLength() + objects().count() + tableCount() + 1;
+    return body_->getString().getLength() + objects().countWithFramesAndShapes() + tableCount() + 1;
 }
 
 void WriterDocument::stayUnseen() {

@@ -1,6 +1,7 @@
 #include "office/libreoffice/word/writer_objects.h"
 
 #include <com/sun/star/container/XNamed.hpp>
+#include <com/sun/star/drawing/XDrawPageSupplier.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/text/XTextEmbeddedObjectsSupplier.hpp>
 #include <com/sun/star/text/XTextGraphicObjectsSupplier.hpp>
@@ -12,11 +13,26 @@
 
 namespace libreoffice::word {
 
+namespace {
+
+// Marked as deprecated, yet the only way from a document to its frames and shapes at once.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+uno::Reference<css::container::XIndexAccess> drawnOn(
+    const uno::Reference<css::frame::XModel>& document) {
+    return as<css::container::XIndexAccess>(
+        as<css::drawing::XDrawPageSupplier>(document)->getDrawPage());
+}
+#pragma GCC diagnostic pop
+
+}  // namespace
+
 WriterObjects::WriterObjects(WriterDocument& document, bool areAllKnown)
     : document_(document),
       areAllKnown_(areAllKnown),
       text_(document.body()),
       places_(as<css::text::XTextRangeCompare>(text_)),
+      drawn_(drawnOn(document.model())),
       pictures_(as<css::container::XIndexAccess>(
           as<css::text::XTextGraphicObjectsSupplier>(document.model())->getGraphicObjects())),
       embedded_(as<css::container::XIndexAccess>(
@@ -53,12 +69,17 @@ void WriterObjects::refresh() {
     for (const auto& object : all) insert(object);
 }
 
+/// What stands outside of the text lies before its beginning.
+bool WriterObjects::isElsewhere(const uno::Reference<css::text::XTextRange>& place) const {
+    return places_->compareRegionStarts(place, text_->getStart()) > 0;
+}
+
 /// A macro that replaces all text and the table at its end leaves objects behind whose place
 /// LibreOffice can't compare with any other.
-bool WriterObjects::hasLostItsPlace(const WriterObjectPtr& object) const {
+bool WriterObjects::hasLostItsPlace(const ContentRef& content) const {
     try {
-        const auto place = object->content()->getAnchor();
-        if (place.is()) places_->compareRegionStarts(place, text_->getStart());
+        const auto place = content->getAnchor();
+        if (place.is()) static_cast<void>(isElsewhere(place));
         return false;
     } catch (const css::lang::DisposedException&) {
         throw;
@@ -73,12 +94,12 @@ void WriterObjects::insert(const WriterObjectPtr& object) {
     } catch (const css::lang::DisposedException&) {
         throw;
     } catch (const uno::RuntimeException&) {
-        const auto lost =
-            std::stable_partition(inOrder_.begin(), inOrder_.end(),
-                                  [this](const auto& other) { return !hasLostItsPlace(other); });
+        const auto lost = std::stable_partition(
+            inOrder_.begin(), inOrder_.end(),
+            [this](const auto& other) { return !hasLostItsPlace(other->content()); });
         elsewhere_.insert(elsewhere_.end(), lost, inOrder_.end());
         inOrder_.erase(lost, inOrder_.end());
-        if (hasLostItsPlace(object))
+        if (hasLostItsPlace(object->content()))
             elsewhere_.push_back(object);
         else
             insertInOrder(object);
@@ -95,9 +116,8 @@ void WriterObjects::insertInOrder(const WriterObjectPtr& object) {
         inOrder_.push_back(object);
         return;
     }
-    // What stands outside of the text lies before its beginning; what is tied to a page has no
-    // place in it.
-    if (!place.is() || places_->compareRegionStarts(place, text_->getStart()) > 0) {
+    // What is tied to a page has no place in the text.
+    if (!place.is() || isElsewhere(place)) {
         elsewhere_.push_back(object);
         return;
     }
@@ -111,6 +131,18 @@ void WriterObjects::add(const WriterObjectPtr& made) {
 std::int32_t WriterObjects::count() {
     refresh();
     return static_cast<std::int32_t>(inOrder_.size());
+}
+
+std::int32_t WriterObjects::countWithFramesAndShapes() {
+    std::int32_t found = 0;
+    const sal_Int32 all = drawn_->getCount();
+    for (sal_Int32 i = 0; i < all; ++i) {
+        const ContentRef content(drawn_->getByIndex(i), uno::UNO_QUERY);
+        if (!content.is()) continue;
+        const auto place = content->getAnchor();
+        if (!place.is() || (!hasLostItsPlace(content) && !isElsewhere(place))) ++found;
+    }
+    return found;
 }
 
 std::int32_t WriterObjects::count(model::Anchoring anchoring) {

@@ -22,6 +22,8 @@ public:
     WriterObjects(WriterDocument& document, bool areAllKnown);
 
     [[nodiscard]] std::int32_t count();
+    /// Of these, and of the frames and shapes there or tied to a page.
+    [[nodiscard]] std::int32_t countWithFramesAndShapes();
     [[nodiscard]] std::int32_t count(model::Anchoring anchoring);
     /// Null if there is none at this place, counted from 1.
     [[nodiscard]] WriterObjectPtr at(model::Anchoring anchoring, std::int32_t place);
@@ -36,7 +38,9 @@ private:
     /// Whether there are that many in the document.
     [[nodiscard]] bool areThere(std::size_t count);
     void refresh();
-    [[nodiscard]] bool hasLostItsPlace(const WriterObjectPtr& object) const;
+    /// In a header, a footer or a frame.
+    [[nodiscard]] bool isElsewhere(const uno::Reference<css::text::XTextRange>& place) const;
+    [[nodiscard]] bool hasLostItsPlace(const ContentRef& content) const;
     void insert(const WriterObjectPtr& object);
     void insertInOrder(const WriterObjectPtr& object);
     [[nodiscard]] WriterObjectPtr known(const rtl::OUString& name) const;
@@ -45,6 +49,7 @@ private:
     bool areAllKnown_;
     uno::Reference<css::text::XText> text_;
     uno::Reference<css::text::XTextRangeCompare> places_;
+    uno::Reference<css::container::XIndexAccess> drawn_;
     uno::Reference<css::container::XIndexAccess> pictures_;
     uno::Reference<css::container::XIndexAccess> embedded_;
     std::vector<WriterObjectPtr> inOrder_;
