@@ -52,7 +52,7 @@ public:
         for (int number = 2; isUsed(path); ++number)
             path = pathOf(fmt::format("{} ({})", name, number));
         // Not every folder tells names apart that differ in case alone.
-        used_.insert(office::lowerCase(path));
+        used_.insert(office::folded(path));
         return path;
     }
 
@@ -61,7 +61,7 @@ private:
         return fmt::format("{}/{}{}", options_.folder, name, extensionOf(options_.format));
     }
     [[nodiscard]] bool isUsed(const std::string& path) const {
-        return used_.contains(office::lowerCase(path)) || isTaken(path);
+        return used_.contains(office::folded(path)) || isTaken(path);
     }
     /// A folder never gives way to a picture.
     [[nodiscard]] bool isTaken(const std::string& path) const {

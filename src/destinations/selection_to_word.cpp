@@ -219,10 +219,8 @@ void SelectionPaste::setSize(SourceKind kind) {
         kind == SourceKind::Range ? command_.rangeShapes : command_.chartShapes;
     if (collection.empty()) return;
     const Object shape = pastedShape(collection);
-    const double pageText = textWidthOf(selection_.get("PageSetup"));
-    const double ratio = shape.get("Height").toDouble() / shape.get("Width").toDouble();
-    shape.put("Width", pageText);
-    shape.put("Height", ratio * pageText);
+    const TextArea area = textAreaOf(selection_.get("PageSetup"));
+    fit(shape, sizeOf(shape), area.width, area);
     if (mode_ == WordPaste::FloatingLinked && kind == SourceKind::ChartSheet)
         selection_.get("ShapeRange").put("Left", Value());
 }

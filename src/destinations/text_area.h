@@ -10,10 +10,25 @@ struct TextArea {
     double height = 0;
     /// From the left margin to the right edge of the paper.
     double toEdge = 0;
+
+    /// The height that is there for a shape: the rest is for the empty lines on the page and for a
+    /// caption. What is higher would go on to the next page, and leave this one empty.
+    [[nodiscard]] double room() const { return height * 0.85; }
 };
 
 /// By its PageSetup.
 [[nodiscard]] TextArea textAreaOf(const office::Value& page);
-[[nodiscard]] double textWidthOf(const office::Value& page);
+
+/// In points.
+struct Size {
+    double width = 0;
+    double height = 0;
+};
+
+[[nodiscard]] Size sizeOf(const office::Object& shape);
+
+/// Makes a shape of that natural size as large as a width and the area's room allow, in its
+/// proportions.
+void fit(const office::Object& shape, const Size& natural, double width, const TextArea& area);
 
 }  // namespace destinations

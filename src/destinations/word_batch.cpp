@@ -24,26 +24,6 @@ using office::arg;
 using office::Object;
 using session::OfficeSession;
 
-/// Of the text area's height: the rest is for the empty lines on the page and for a caption. What
-/// is higher would go on to the next page, and leave this one empty.
-constexpr double highestShare = 0.85;
-
-struct Size {
-    double width = 0;
-    double height = 0;
-};
-
-Size sizeOf(const Object& shape) {
-    return {shape.get("Width").toDouble(), shape.get("Height").toDouble()};
-}
-
-/// Makes it as large as a width and a height allow, in its proportions.
-void fit(const Object& shape, const Size& natural, double width, double height) {
-    const double scale = std::min(width / natural.width, height / natural.height);
-    shape.put("Width", natural.width * scale);
-    shape.put("Height", natural.height * scale);
-}
-
 /// One run: what every row needs is looked up once and held.
 class WordBatch {
 public:
@@ -186,10 +166,11 @@ void WordBatch::InsertPageBreakBlock() {
         end().call("Select");
     };
     end().call("Select");
-    if (!hasText()) return;
-    appendParagraph();
-    // What came before may be a caption or the item of a list.
+    const bool isEmpty = !hasText();
+    if (!isEmpty) appendParagraph();
+    // What is there may be a caption, a title or the item of a list.
     selection_.put("Style", number::normal);
+    if (isEmpty) return;
     end().get("ParagraphFormat").put("PageBreakBefore", true);
     appendParagraph();
     end().get("ParagraphFormat").put("PageBreakBefore", false);
@@ -255,16 +236,15 @@ void WordBatch::FinishWordItem(const ExportItem& row, const Object& shape) {
 void WordBatch::FitOnPage(const Object& shape) {
     const TextArea& area = textArea();
     const Size natural = sizeOf(shape);
-    const double room = area.height * highestShare;
-    if (natural.width > area.toEdge || natural.height > room)
-        fit(shape, natural, std::min(natural.width, area.width), room);
+    if (natural.width > area.toEdge || natural.height > area.room())
+        fit(shape, natural, std::min(natural.width, area.width), area);
 }
 
 /// As wide as the text, but no higher than its page has room for.
 void WordBatch::SetLastShapeWidth(const Object& shape) {
     shape.call("Select");
     const TextArea& area = textArea();
-    fit(shape, sizeOf(shape), area.width, area.height * highestShare);
+    fit(shape, sizeOf(shape), area.width, area);
 }
 
 }  // namespace

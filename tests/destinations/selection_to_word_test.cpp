@@ -4,6 +4,7 @@
 
 namespace {
 
+using office::Value;
 using office::model::word::Anchoring;
 using session::WordPaste;
 using Texts = std::vector<std::string>;
@@ -17,10 +18,10 @@ protected:
         for (const auto& message : test.host.messages) texts.push_back(message.text);
         return texts;
     }
-    void selectChart() const {
+    void selectChart(const Value& which = 1) const {
         session.ActiveBook.get("Sheets")
             .get("Item", "Sales")
-            .call("ChartObjects", 1)
+            .call("ChartObjects", which)
             .call("Select");
     }
     [[nodiscard]] double textWidth() {
@@ -46,6 +47,16 @@ TEST_F(SelectionToWordTest, AChartSpansTheTextAndCellsKeepTheirSize) {
     EXPECT_LT(narrowest, textWidth() / 2);
     EXPECT_TRUE(boxes().empty());
     EXPECT_TRUE(session.ExcelApp.get("DisplayAlerts").toBool());
+}
+
+TEST_F(SelectionToWordTest, AHighChartStaysOnItsPageInItsProportions) {
+    book.sheet("Sales").chart("Tower", {0, 0, 100, 1200});
+    selectChart("Tower");
+    paste(WordPaste::Picture);
+    const auto size = document.objectAt(Anchoring::Inline, 1)->size();
+    const auto page = document.page();
+    EXPECT_LT(size.height, page.height - page.topMargin - page.bottomMargin);
+    EXPECT_NEAR(size.height / size.width, 12, 0.1);
 }
 
 TEST_F(SelectionToWordTest, WhatWasPastedIsFoundAheadOfOtherPictures) {
