@@ -27,13 +27,6 @@ icu::UnicodeString unicode(std::string_view text) {
     return icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())});
 }
 
-/// Alike for texts that are the same but for their case.
-std::string folded(std::string_view text) {
-    std::string key;
-    unicode(text).foldCase().toUTF8String(key);
-    return key;
-}
-
 /// By the user's language. A program that is started without one sorts as most languages do.
 std::unique_ptr<icu::Collator> makeCollator() {
     const icu::Locale& users = icu::Locale::getDefault();
@@ -58,6 +51,12 @@ std::string lowerCase(std::string_view text) {
     std::string lowered(text);
     std::transform(lowered.begin(), lowered.end(), lowered.begin(), lower);
     return lowered;
+}
+
+std::string folded(std::string_view text) {
+    std::string key;
+    unicode(text).foldCase().toUTF8String(key);
+    return key;
 }
 
 bool sameIgnoringCase(std::string_view left, std::string_view right) {

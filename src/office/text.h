@@ -20,6 +20,9 @@ namespace office {
 /// charts and members are compared.
 [[nodiscard]] bool sameIgnoringCase(std::string_view left, std::string_view right);
 
+/// Alike for texts that are the same but for the case of their letters, of any script.
+[[nodiscard]] std::string folded(std::string_view text);
+
 /// Bytes that compare as the user's eye sorts the texts that they are made from: by the rules of
 /// the user's language, accents after plain letters, case aside.
 [[nodiscard]] std::string sortKey(std::string_view text);

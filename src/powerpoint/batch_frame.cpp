@@ -209,16 +209,7 @@ void BatchFrame::putTitle(const Object& shapes, const std::string& caption) cons
 
 void BatchFrame::styleLastShape(const Object& shapes) const {
     if (pictureStyle_ == style::none) return;
-    const auto apply = [&] {
-        ApplyPictureStyle(pictureStyle_,
-                          shapes.get("Item", shapes.get("Count").toLong()).toObject());
-    };
-    // A picture takes every style; charts, tables and objects take what they can.
-    if (batch_.choices.format == catalogue::ExportFormat::Pictures) {
-        apply();
-    } else {
-        office::ContinueOnFailure().attempt(apply);
-    }
+    ApplyPictureStyle(pictureStyle_, shapes.get("Item", shapes.get("Count").toLong()).toObject());
 }
 
 /// The new slides of a batch that ends early which no item has come to. Some may have gone already,

@@ -40,8 +40,11 @@ public:
         std::vector<CsvRecord> records;
         while (at_ < text_.size()) {
             CsvRecord record = readRecord();
-            const bool isEmptyLine = record.fields.size() == 1 && record.fields.front().empty();
-            if (!isEmptyLine) records.push_back(std::move(record));
+            // A spreadsheet writes separators alone for a row that has been emptied.
+            const bool isEmpty =
+                std::all_of(record.fields.begin(), record.fields.end(),
+                            [](const auto& field) { return office::trim(field).empty(); });
+            if (!isEmpty) records.push_back(std::move(record));
         }
         return records;
     }
