@@ -3,12 +3,9 @@
 #include <fcntl.h>
 #include <fmt/format.h>
 #include <pwd.h>
-#include <spawn.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
@@ -18,9 +15,9 @@
 #include <iterator>
 #include <system_error>
 #include <thread>
-#include <vector>
 
 #include "apps/image_file.h"
+#include "apps/opener.h"
 #include "apps/process_folder.h"
 #include "apps/whole_file.h"
 #include "office/failure.h"
@@ -56,64 +53,6 @@ public:
 private:
     int file_;
 };
-
-/// As the system takes it.
-std::vector<char*> environmentWithout(const std::vector<std::string>& names) {
-    std::vector<char*> entries;
-    for (char** entry = environ; *entry != nullptr; ++entry) {
-        const std::string_view text = *entry;
-        const std::string name(text.substr(0, text.find('=')));
-        if (std::find(names.begin(), names.end(), name) == names.end()) entries.push_back(*entry);
-    }
-    entries.push_back(nullptr);
-    return entries;
-}
-
-/// Starts the desktop's own program that finds the right one for a file or an address, without a
-/// shell. It says nothing on the terminal, and what it starts outlives this process.
-std::optional<pid_t> startOpener(std::string target, const std::vector<std::string>& ownVariables) {
-    const std::vector<char*> environment = environmentWithout(ownVariables);
-    std::string command = "xdg-open";
-    char* const arguments[] = {command.data(), target.data(), nullptr};
-    posix_spawn_file_actions_t files;
-    posix_spawnattr_t attributes;
-    ::posix_spawn_file_actions_init(&files);
-    ::posix_spawnattr_init(&attributes);
-    for (const int output : {STDOUT_FILENO, STDERR_FILENO})
-        ::posix_spawn_file_actions_addopen(&files, output, "/dev/null", O_WRONLY, 0);
-    // The signals that this process keeps for itself are to reach the other one.
-    sigset_t none;
-    ::sigemptyset(&none);
-    ::posix_spawnattr_setsigmask(&attributes, &none);
-    ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK);
-    pid_t process = 0;
-    const bool isStarted = ::posix_spawnp(&process, command.c_str(), &files, &attributes, arguments,
-                                          environment.data()) == 0;
-    ::posix_spawnattr_destroy(&attributes);
-    ::posix_spawn_file_actions_destroy(&files);
-    return isStarted ? std::optional(process) : std::nullopt;
-}
-
-/// A process that has ended is gone only once its parent has asked what became of it.
-void letGo(pid_t opener) {
-    std::thread([opener] { ::waitpid(opener, nullptr, 0); }).detach();
-}
-
-/// Some openers end when they have handed over, others with the program that they have started; one
-/// that is still running after a while has found a program.
-bool endsWell(pid_t opener, session::Host& host) {
-    constexpr std::uint32_t stepMs = 20;
-    constexpr int steps = 150;
-    int status = 0;
-    for (int i = 0; i < steps; ++i) {
-        if (::waitpid(opener, &status, WNOHANG) == opener)
-            return WIFEXITED(status) && WEXITSTATUS(status) == 0;
-        host.letEventsRun();
-        host.sleep(stepMs);
-    }
-    letGo(opener);
-    return true;
-}
 
 }  // namespace
 
@@ -277,14 +216,15 @@ void PosixHost::writeImage(std::string_view png, session::ImageFormat format,
 }
 
 void PosixHost::openLink(std::string_view address) {
-    // The browser goes on for itself; whether it came up is nobody's concern.
-    if (const auto opener = startOpener(std::string(address), ownVariables())) letGo(*opener);
+    startOpener(std::string(address), ownVariables());
 }
 
 bool PosixHost::openFile(std::string_view path) {
-    if (!pathExists(path)) return false;
-    const auto opener = startOpener(fs::absolute(fs::path(path)).string(), ownVariables());
-    return opener && endsWell(*opener, *this);
+    const auto pause = [this](std::uint32_t ms) {
+        letEventsRun();
+        sleep(ms);
+    };
+    return pathExists(path) && opens(fs::absolute(fs::path(path)).string(), ownVariables(), pause);
 }
 
 void PosixHost::messageBox(std::string_view text, std::string_view title) {

@@ -1,50 +1,10 @@
 #include <fmt/format.h>
 
-#include <utility>
-
 #include "office/model/word/objects.h"
 
 namespace office::model::word {
 
 namespace {
-
-/// The whole text, or its end once it has collapsed to it.
-class Range : public DocumentObject<Range> {
-public:
-    using DocumentObject::DocumentObject;
-
-    static const MemberTable<Range>& members() {
-        using Self = Range;
-        static const auto table =
-            MemberTable<Self>("Range")
-                .property("ParagraphFormat", {},
-                          [](Self& self, const CallArguments& arguments) {
-                              self.requireEnd(arguments.source());
-                              return paragraphFormatObject(self.home(),
-                                                           &TextDocument::changeLastParagraph);
-                          })
-                .property("StoryLength", [](Self& self) { return self.document().length(); })
-                .method("Collapse", {"Direction"},
-                        [](Self& self, const CallArguments& arguments) {
-                            requireCollapseToEnd(arguments);
-                            self.isAtEnd_ = true;
-                        })
-                .method("InsertParagraphAfter", {},
-                        [](Self& self) { self.document().appendParagraph(); })
-                .method("Select", {}, [](Self& self, const CallArguments& arguments) {
-                    self.requireEnd(arguments.source());
-                    self.document().selectEnd();
-                });
-        return table;
-    }
-
-private:
-    void requireEnd(const std::string& source) const {
-        if (!isAtEnd_) refuseCall(source, "This works on the end of the text here");
-    }
-
-    bool isAtEnd_ = false;
-};
 
 /// Of the properties of a document, its title.
 class DocumentProperty : public DocumentObject<DocumentProperty> {
@@ -94,7 +54,7 @@ const MemberTable<Document>& Document::members() {
             .property("Name", [](Self& self) { return self.document().name(); })
             .property("FullName", [](Self& self) { return self.document().fullName(); })
             .property("ReadOnly", [](Self& self) { return self.document().isReadOnly(); })
-            .property("Range", [](Self& self) { return makeObject<Range>(self.home()); })
+            .property("Range", [](Self& self) { return rangeObject(self.home()); })
             .property("ActiveWindow", [](Self& self) { return makeObject<Window>(self.home()); })
             .property("InlineShapes", [](Self& self) { return inlineShapesObject(self.home()); })
             .property("Shapes", [](Self& self) { return shapesObject(self.home()); })

@@ -59,11 +59,19 @@ inline constexpr double furthestPt = 1584;
 
 [[nodiscard]] Object applicationObject(const GuardPtr& guard, TextDocumentsPtr documents);
 [[nodiscard]] Object documentObject(const InDocument& home);
+/// All text of a document.
+[[nodiscard]] Object rangeObject(const InDocument& home);
 /// What is selected in a document, or its caret.
 [[nodiscard]] Object selectionObject(const InDocument& home);
 /// How paragraphs look, by what changes them.
 using ChangeParagraph = void (TextDocument::*)(const ParagraphChange&);
 [[nodiscard]] Object paragraphFormatObject(const InDocument& home, ChangeParagraph change);
+/// What has been set in a format of no paragraph. `Failure` 13 for what is no format.
+[[nodiscard]] ParagraphChange collectedIn(const Value& format, const std::string& source);
+/// A style that is known here, by its number. `Failure` 5 for another one.
+[[nodiscard]] std::int32_t styleOf(const Value& number, const std::string& source);
+/// The page that the caret stands on.
+[[nodiscard]] Object pageSetupObject(const InDocument& home);
 [[nodiscard]] Object inlineShapesObject(const InDocument& home);
 [[nodiscard]] Object shapesObject(const InDocument& home);
 /// The one object over the text that is selected, or that a paste has just made. `Failure` 1004 if

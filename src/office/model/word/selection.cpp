@@ -1,131 +1,10 @@
 #include <fmt/format.h>
 
-#include <algorithm>
-#include <array>
-#include <optional>
-#include <utility>
-
 #include "office/model/word/objects.h"
 
 namespace office::model::word {
 
 namespace {
-
-std::int32_t styleOf(const Value& number, const std::string& source) {
-    constexpr std::array known = {style::normal, style::heading1, style::caption, style::title};
-    const std::int32_t wanted = number.toLong();
-    if (std::find(known.begin(), known.end(), wanted) == known.end())
-        refuseCall(source, fmt::format("There is no style {} here", wanted));
-    return wanted;
-}
-
-/// How paragraphs look. What is set is not read back.
-class ParagraphFormat : public DocumentObject<ParagraphFormat> {
-public:
-    /// None: a format of no paragraph, which only collects what is set.
-    ParagraphFormat(const InDocument& home, std::optional<ChangeParagraph> change)
-        : DocumentObject(home),
-          change_(change) {}
-
-    static const MemberTable<ParagraphFormat>& members();
-
-    [[nodiscard]] const ParagraphChange& collected() const { return collected_; }
-
-private:
-    template <class Type>
-    void set(std::optional<Type> ParagraphChange::*part, Type value) {
-        collected_.*part = value;
-        if (change_) (document().**change_)(std::exchange(collected_, {}));
-    }
-
-    std::optional<ChangeParagraph> change_;
-    ParagraphChange collected_;
-};
-
-const MemberTable<ParagraphFormat>& ParagraphFormat::members() {
-    using Self = ParagraphFormat;
-    static const auto table = [] {
-        MemberTable<Self> made("ParagraphFormat");
-        made.property("Duplicate",
-                      [](Self& self) { return makeObject<Self>(self.home(), std::nullopt); });
-        made.property("Style", {}, unread<Self>,
-                      [](Self& self, const CallArguments& arguments, const Value& number) {
-                          self.set(&ParagraphChange::style, styleOf(number, arguments.source()));
-                      });
-        made.property("PageBreakBefore", {}, unread<Self>,
-                      [](Self& self, const CallArguments&, const Value& on) {
-                          self.set(&ParagraphChange::breaksPageBefore, on.toBool());
-                      });
-        // An unset value is 0, as everywhere in automation: to the left.
-        made.property(
-            "Alignment", {}, unread<Self>,
-            [](Self& self, const CallArguments& arguments, const Value& number) {
-                self.set(&ParagraphChange::alignment,
-                         static_cast<Alignment>(static_cast<std::int32_t>(numberWithin(
-                             0, 3, number.isEmpty() ? Value(0) : number, arguments.source()))));
-            });
-        const auto space = [&](const char* name, std::optional<double> ParagraphChange::*part) {
-            made.property(name, {}, unread<Self>,
-                          [part](Self& self, const CallArguments& arguments, const Value& points) {
-                              self.set(part,
-                                       numberWithin(0, furthestPt, points, arguments.source()));
-                          });
-        };
-        space("SpaceBefore", &ParagraphChange::spaceBefore);
-        space("SpaceAfter", &ParagraphChange::spaceAfter);
-        return made;
-    }();
-    return table;
-}
-
-class PageSetup : public DocumentObject<PageSetup> {
-public:
-    using DocumentObject::DocumentObject;
-    static const MemberTable<PageSetup>& members();
-
-private:
-    void turn(const Value& orientation);
-};
-
-const MemberTable<PageSetup>& PageSetup::members() {
-    using Self = PageSetup;
-    static const auto table = [] {
-        MemberTable<Self> made("PageSetup");
-        const auto length = [&](const char* name, double Page::*side) {
-            made.property(
-                name, [side](Self& self) { return self.document().page().*side; },
-                [side, source = fmt::format("PageSetup.{}", name)](Self& self,
-                                                                   const Value& points) {
-                    Page page = self.document().page();
-                    page.*side = numberWithin(0, furthestPt, points, source);
-                    self.document().setPage(page);
-                });
-        };
-        length("PageWidth", &Page::width);
-        length("PageHeight", &Page::height);
-        length("LeftMargin", &Page::leftMargin);
-        length("RightMargin", &Page::rightMargin);
-        length("TopMargin", &Page::topMargin);
-        length("BottomMargin", &Page::bottomMargin);
-        made.property(
-            "Orientation",
-            [](Self& self) {
-                const Page page = self.document().page();
-                return page.width > page.height ? 1 : 0;
-            },
-            &Self::turn);
-        return made;
-    }();
-    return table;
-}
-
-void PageSetup::turn(const Value& orientation) {
-    Page page = document().page();
-    const bool isLandscape = page.width > page.height;
-    if (isLandscape == (numberWithin(0, 1, orientation, "PageSetup.Orientation") == 1)) return;
-    std::swap(page.width, page.height);
-    document().setPage(page);
-}
 
 /// What is selected, or the caret.
 class Selection : public DocumentObject<Selection> {
@@ -157,7 +36,7 @@ const MemberTable<Selection>& Selection::members() {
     static const auto table =
         MemberTable<Self>("Selection")
             .property("Text", [](Self& self) { return self.document().selectedText(); })
-            .property("PageSetup", [](Self& self) { return makeObject<PageSetup>(self.home()); })
+            .property("PageSetup", [](Self& self) { return pageSetupObject(self.home()); })
             .property(
                 "ParagraphFormat", {},
                 [](Self& self, const CallArguments&) {
@@ -268,11 +147,7 @@ void Selection::insertCaption(const CallArguments& arguments) {
 
 /// All that is set in a duplicate, in one step.
 void Selection::setFormat(const CallArguments& arguments, const Value& value) {
-    const auto format = objectOf<ParagraphFormat>(value);
-    if (!format)
-        throw Failure(FailureNumber::TypeMismatch, arguments.source(),
-                      arguments.source() + " takes the format of a paragraph");
-    document().changeParagraph(format->collected());
+    document().changeParagraph(collectedIn(value, arguments.source()));
 }
 
 void Selection::setStyle(const CallArguments& arguments, const Value& number) {
@@ -282,17 +157,6 @@ void Selection::setStyle(const CallArguments& arguments, const Value& number) {
 }
 
 }  // namespace
-
-void requireCollapseToEnd(const CallArguments& arguments) {
-    constexpr std::int32_t toEnd = 0;
-    constexpr std::int32_t toStart = 1;
-    if (arguments.at(0, toStart).toLong() != toEnd)
-        refuseCall(arguments.source(), "It collapses to its end here");
-}
-
-Object paragraphFormatObject(const InDocument& home, ChangeParagraph change) {
-    return makeObject<ParagraphFormat>(home, change);
-}
 
 Object selectionObject(const InDocument& home) {
     return makeObject<Selection>(home);
