@@ -168,6 +168,7 @@ TEST(Options, TaskAndWorkbookAreToldFromTheRest) {
 
 TEST(Options, HelpAndVersionEndTheProgramWell) {
     for (const auto& [option, text] : {std::pair("--help", "3 blocked by the review"),
+                                       std::pair("--help", "1,000 pixels (default: 70)"),
                                        std::pair("--version", "murvane-export ")}) {
         const auto result = unattended::parseOptions({option});
         const auto& end = std::get<ParseEnd>(result);

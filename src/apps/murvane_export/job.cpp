@@ -147,7 +147,7 @@ public:
     using Job::Job;
 
     void exportTo(const std::string& neighbour) override {
-        // Of a page's width in pixels, a hundredth.
+        // 100 is 1,000 pixels, as in the dialog.
         constexpr double percentPx = 10;
         const Options& options = scene_.options;
         destinations::RowBatch batch{scene_.session, scene_.list, scene_.onFailedItem};

@@ -28,7 +28,7 @@ constexpr const char* description =
 
 constexpr const char* examples =
     R"(NAME[@SHEET] names an item as --list shows it; @SHEET tells items of the same name apart, and a
-name that holds a comma stands in double quotes.
+name that holds a comma stands in double quotes. F is a number from 0 to 1.
 
 Examples:
   murvane-export sales.xlsx --list
@@ -52,6 +52,12 @@ std::vector<std::string> namesOf(const std::map<std::string, Meaning>& known) {
 /// Says nothing in the help, where the words stand already.
 CLI::Validator oneOf(std::vector<std::string> words) {
     return CLI::Validator(CLI::IsMember(std::move(words))).description("");
+}
+
+/// A description that says what holds where the option is left out.
+template <class Value>
+std::string withDefault(std::string_view text, const Value& value) {
+    return fmt::format("{} (default: {})", text, value);
 }
 
 /// The texts of options that become something else than a text.
@@ -132,14 +138,17 @@ void declareItems(CLI::App& app, Options& options, RawTexts& raw) {
 
 void declareLooks(CLI::App& app, Options& options, RawTexts& raw) {
     app.add_option("--format", raw.format,
-                   "What items become on slides and in Word: pictures; charts and tables that can\n"
-                   "be edited there; embedded workbooks; objects linked to the workbook's file")
+                   withDefault("What items become on slides and in Word: pictures; charts and\n"
+                               "tables that can be edited there; embedded workbooks; objects\n"
+                               "linked to the workbook's file",
+                               raw.format))
         ->check(oneOf(namesOf(formatsByName())))
         ->type_name("pictures|editable|embedded|linked");
     app.add_option(
            "--pictures", raw.pictures,
-           "Slides and Word: what pictures are made of. png: dots, three times as dense as a\n"
-           "screen; svg: vectors, crisp at any size and with text that is text, and a PNG\n"
+           "Slides and Word: what pictures are made of. png (default): dots, three times as\n"
+           "dense as a screen; svg: vectors, crisp at any size and with text that is text, and a "
+           "PNG\n"
            "for programs that read none; emf: the vectors of Windows")
         ->check(oneOf({"png", "svg", "emf"}))
         ->type_name("png|svg|emf");
@@ -147,11 +156,12 @@ void declareLooks(CLI::App& app, Options& options, RawTexts& raw) {
                  "With --format embedded: hand on the item's sheet alone, with values in place of\n"
                  "references to the rest of the workbook");
     app.add_option("--links", raw.links,
-                   "With --format linked: name the workbook by its full path, or by its way from\n"
-                   "what is written")
+                   "With --format linked: name the workbook by its full path (default), or by its\n"
+                   "way from what is written")
         ->check(oneOf({"absolute", "relative"}))
         ->type_name("absolute|relative");
-    app.add_option("--slides", raw.slides, "New slides at the end, or those that the items name")
+    app.add_option("--slides", raw.slides,
+                   withDefault("New slides at the end, or those that the items name", raw.slides))
         ->check(oneOf({"new", "predefined"}))
         ->type_name("new|predefined");
     app.add_flag("--titles", raw.titles,
@@ -167,33 +177,39 @@ void declareLooks(CLI::App& app, Options& options, RawTexts& raw) {
                    "PDF: a cover page with this text; \\n begins a new line")
         ->type_name("TEXT");
     app.add_option("--size", options.sizePercent,
-                   "PDF: size in per cent of the room on the page; HTML with --same-width: of the\n"
-                   "page's width")
+                   withDefault("PDF: size in per cent of the room on the page; HTML with\n"
+                               "--same-width: width in per cent of 1,000 pixels",
+                               options.sizePercent))
         ->check(CLI::Range(1.0, 100.0).description(""))
         ->type_name("1-100");
-    app.add_option("--blank-lines", options.blankLines, "HTML: lines between items")
+    app.add_option("--blank-lines", options.blankLines,
+                   withDefault("HTML: lines between items", options.blankLines))
         ->check(CLI::Range(0, destinations::mostBlankLines).description(""))
         ->type_name("0-100");
-    app.add_option("--image-format", raw.imageFormat, "Images: the kind of files")
+    app.add_option("--image-format", raw.imageFormat,
+                   withDefault("Images: the kind of files", raw.imageFormat))
         ->check(oneOf(namesOf(imageFormatsByName())))
         ->type_name("png|gif|jpeg|bmp|tiff");
     app.add_option("--file-names", raw.fileNames,
-                   "Images: files named by item and sheet, or numbered")
+                   withDefault("Images: files named by item and sheet, or numbered", raw.fileNames))
         ->check(oneOf({"name", "number"}))
         ->type_name("name|number");
     app.add_option(
            "--style", raw.style,
-           "Look of the pictures on slides: none, shadow-around, shadow, rounded, reflection or\n"
-           "reflection-rounded")
+           withDefault("Look of the pictures on slides: none, shadow-around, shadow, rounded,\n"
+                       "reflection or reflection-rounded",
+                       raw.style))
         ->check(oneOf(namesOf(stylesByName())))
         ->type_name("NAME");
     app.add_flag("--shadow", options.shadow,
                  "A shadow for what was added last to each slide, and for pictures in Word");
-    app.add_option("--top", raw.top, "Top edge, as a share of the slide's height")
+    app.add_option("--top", raw.top,
+                   "Top edge on the slide: F of its height; default: below the title. With one of\n"
+                   "--top, --width and --left the others are what the workbook has, or default")
         ->type_name("F|default");
-    app.add_option("--width", raw.width, "Width, as a share of the slide's width")
+    app.add_option("--width", raw.width, "Width: F of the slide's; default: 0.9")
         ->type_name("F|default");
-    app.add_option("--left", raw.left, "Left edge, as a share of the slide's width")
+    app.add_option("--left", raw.left, "Left edge: F of the slide's width; default: in the middle")
         ->type_name("F|default");
 }
 
