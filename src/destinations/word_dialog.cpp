@@ -128,21 +128,23 @@ void DialogWord::ContinueOk_Click() {
 
 void DialogWord::runBatch() {
     constexpr std::uint32_t settledMs = 100;
-    catalogue::exportAndTellOfFailed(session(), [this](catalogue::FailedItems& failed) {
+    WalkResult result;
+    catalogue::exportAndTellOfFailed(session(), [&](catalogue::FailedItems& failed) {
         RowBatch batch{session(), list_, [&](const auto& row, const auto& failure) {
                            // Without its document no other item would go better.
                            if (!documentIsThere()) throw office::Failure(failure);
                            failed.add(row, failure);
                        }};
-        const WalkResult result = ExportRowsToWord(batch, choices_.format,
-                                                   {.sameWidth = SameWidth.isChecked(),
-                                                    .caption = AddCaption.isChecked(),
-                                                    .shadow = CheckShadow.isChecked()});
+        result = ExportRowsToWord(batch, choices_.format,
+                                  {.sameWidth = SameWidth.isChecked(),
+                                   .caption = AddCaption.isChecked(),
+                                   .shadow = CheckShadow.isChecked()});
         session::SleepMilliseconds(session(), settledMs);
         session().progress.unload();
         tellIfCancelled(session(), result);
     });
-    if (pdfIsWanted_ && documentIsThere()) ExportActiveDocumentToPdf(session());
+    if (pdfIsWanted_ && !result.wasCancelled() && documentIsThere())
+        ExportActiveDocumentToPdf(session());
     office::ContinueOnFailure().attempt([&] { session().SessionDocument.call("Activate"); });
 }
 

@@ -67,6 +67,17 @@ TEST_F(WordDialogTest, APdfOnceAskedForIsMadeAndOpened) {
     EXPECT_EQ(test.host.openedFiles, Texts{document.pdfs[0].path});
 }
 
+TEST_F(WordDialogTest, CancelMakesNoPdfEither) {
+    test.host.onEvents = [this] {
+        desktop.letEventsRun();
+        test.progress.isCancelled = true;
+    };
+    answer("DialogWord", {"toggle/pdfOutput"});
+    startWord();
+    EXPECT_EQ(document.objectCount(office::model::word::Anchoring::Inline), 1);
+    EXPECT_TRUE(document.pdfs.empty());
+}
+
 TEST_F(WordDialogTest, ObjectsTakeNoneOfThePictureOptions) {
     answer("DialogWord", {"toggle/addCaption"});
     startWord(ExportFormat::Linked);
