@@ -134,8 +134,8 @@ std::vector<forms::OptionButton*> groupOf(const forms::OptionButton& option) {
     return group;
 }
 
-/// One of several choices: a dot in a ring, or a button that stays down. Tab comes to the chosen
-/// one of a group, the arrow keys go from one to the next.
+/// One of several choices: a dot in a ring. Tab comes to the chosen one of a group, the arrow keys
+/// go from one to the next.
 class OptionView final : public QRadioButton, public ControlView {
 public:
     OptionView(forms::OptionButton& option, QWidget& parent, ViewHost& host)
@@ -150,11 +150,27 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        if (graphical_) {
-            paintAsButton(painter);
-        } else {
-            paintAsDot(painter);
+        paintBack(painter);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const QColor& ground = look().ground;
+        const QRectF ring(1.5, (height() - markSize) / 2 + 0.5, markSize - 1, markSize - 1);
+        const QColor accent = isEnabled() ? strongAccent : blend(ground, textColourOn(ground), 0.3);
+        QColor line = blend(ground, textColourOn(ground), isEnabled() ? 0.45 : 0.25);
+        if (isEnabled() && underMouse()) line = accentOn(ground);
+        painter.setPen(QPen(isChecked() ? accent : line, 1));
+        painter.setBrush(isChecked() ? accent : hollowOn(ground));
+        painter.drawEllipse(ring);
+        if (isChecked()) {
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(isEnabled() ? QColor(Qt::white) : textColour());
+            painter.drawEllipse(ring.center(), 2.75, 2.75);
         }
+        if (marksFocus()) {
+            drawFocusRing(painter, ring.adjusted(-2, -2, 2, 2), markSize / 2 + 1.5, ground);
+        }
+        painter.setPen(textColour());
+        drawFittedText(painter, QRectF(rect()).adjusted(markSize + 7, 0, 0, 0),
+                       Qt::AlignLeft | Qt::AlignVCenter, caption().trimmed());
     }
     void keyPressEvent(QKeyEvent* event) override {
         switch (event->key()) {
@@ -183,8 +199,7 @@ private:
                                              [](const auto* other) { return other->value(); });
         const bool chosen = option_.value();
         setFocusPolicy(chosen || noneChosen ? Qt::StrongFocus : Qt::ClickFocus);
-        const bool styleDiffers = std::exchange(graphical_, option_.graphical) != option_.graphical;
-        if (isChecked() == chosen) return styleDiffers;
+        if (isChecked() == chosen) return false;
         setChecked(chosen);
         return true;
     }
@@ -208,44 +223,7 @@ private:
         });
     }
 
-    void paintAsButton(QPainter& painter) {
-        const QColor own = look().back.value_or(plainFace);
-        const QColor face =
-            buttonFace(isChecked() ? blend(own, strongAccent, isDark(own) ? 0.55 : 0.25) : own,
-                       isEnabled(), underMouse(), isDown());
-        drawPlate(painter, rect(), cornerRadius, face,
-                  isChecked() ? accentOn(own) : blend(face, textColourOn(face), 0.2));
-        if (marksFocus()) drawFocusRing(painter, rect(), cornerRadius, own);
-        painter.setPen(textColour());
-        drawFittedText(painter, QRectF(rect()).adjusted(4, 2, -4, -2), Qt::AlignCenter,
-                       caption().trimmed());
-    }
-    void paintAsDot(QPainter& painter) {
-        paintBack(painter);
-        painter.setRenderHint(QPainter::Antialiasing);
-        const QColor& ground = look().ground;
-        const QRectF ring(1.5, (height() - markSize) / 2 + 0.5, markSize - 1, markSize - 1);
-        const QColor accent = isEnabled() ? strongAccent : blend(ground, textColourOn(ground), 0.3);
-        QColor line = blend(ground, textColourOn(ground), isEnabled() ? 0.45 : 0.25);
-        if (isEnabled() && underMouse()) line = accentOn(ground);
-        painter.setPen(QPen(isChecked() ? accent : line, 1));
-        painter.setBrush(isChecked() ? accent : hollowOn(ground));
-        painter.drawEllipse(ring);
-        if (isChecked()) {
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(isEnabled() ? QColor(Qt::white) : textColour());
-            painter.drawEllipse(ring.center(), 2.75, 2.75);
-        }
-        if (marksFocus()) {
-            drawFocusRing(painter, ring.adjusted(-2, -2, 2, 2), markSize / 2 + 1.5, ground);
-        }
-        painter.setPen(textColour());
-        drawFittedText(painter, QRectF(rect()).adjusted(markSize + 7, 0, 0, 0),
-                       Qt::AlignLeft | Qt::AlignVCenter, caption().trimmed());
-    }
-
     forms::OptionButton& option_;
-    bool graphical_ = false;
 };
 
 }  // namespace

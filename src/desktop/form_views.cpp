@@ -12,31 +12,20 @@ namespace desktop {
 
 namespace {
 
-/// Appends the controls in one container as Tab visits them: by tab index, or by the order of
-/// making where they have none, what stands in a frame at the frame's turn, the title bar last.
+/// Appends the controls in one container as Tab visits them: by the order of making, what stands in
+/// a frame at the frame's turn, the title bar last.
 void visit(const forms::Form& form, const forms::Control* container,
            std::vector<const forms::Control*>& visited) {
-    struct Sibling {
-        bool isTitleBar;
-        int turn;
-        const forms::Control* control;
-    };
-    std::vector<Sibling> siblings;
-    int made = 0;
+    std::vector<const forms::Control*> siblings;
     for (const forms::Control* control : form.controls()) {
-        ++made;
-        if (control->container() != container) continue;
-        siblings.push_back({control->controlClass() == forms::ControlClass::TitleBar,
-                            control->tabIndex >= 0 ? control->tabIndex : made, control});
+        if (control->container() == container) siblings.push_back(control);
     }
-    std::stable_sort(siblings.begin(), siblings.end(), [](const Sibling& a, const Sibling& b) {
-        return std::tuple(a.isTitleBar, a.turn) < std::tuple(b.isTitleBar, b.turn);
+    std::stable_partition(siblings.begin(), siblings.end(), [](const forms::Control* sibling) {
+        return sibling->controlClass() != forms::ControlClass::TitleBar;
     });
-    for (const Sibling& sibling : siblings) {
-        visited.push_back(sibling.control);
-        if (sibling.control->controlClass() == forms::ControlClass::Frame) {
-            visit(form, sibling.control, visited);
-        }
+    for (const forms::Control* sibling : siblings) {
+        visited.push_back(sibling);
+        if (sibling->controlClass() == forms::ControlClass::Frame) visit(form, sibling, visited);
     }
 }
 

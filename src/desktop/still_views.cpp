@@ -128,23 +128,6 @@ private:
     bool rounded_ = false;
 };
 
-/// A plain area in its own colour.
-class PictureBoxView final : public QFrame, public ControlView {
-public:
-    PictureBoxView(forms::Control& box, QWidget& parent, ViewHost& host)
-        : QFrame(&parent),
-          ControlView(box, *this, host) {}
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        paintBack(painter);
-    }
-
-private:
-    bool syncOwn() override { return false; }
-};
-
 /// A picture from a file's bytes or one of the program's own drawings.
 class ImageView final : public QLabel, public ControlView {
 public:
@@ -337,10 +320,8 @@ ControlView* makeStillView(forms::Control& control, QWidget& parent, ViewHost& h
             return makeView<ImageView, forms::Image>(control, parent, host);
         case forms::ControlClass::Shape:
             return makeView<ShapeView, forms::Shape>(control, parent, host);
-        case forms::ControlClass::ProgressBar:
-            return makeView<ProgressView, furniture::ProgressBar>(control, parent, host);
         default:
-            return new PictureBoxView(control, parent, host);
+            return makeView<ProgressView, furniture::ProgressBar>(control, parent, host);
     }
 }
 

@@ -21,7 +21,6 @@ enum class ControlClass {
     ListView,
     Slider,
     Image,
-    PictureBox,
     Shape,
     WebBrowser,
     ProgressBar,
@@ -34,7 +33,7 @@ enum class ZOrder { Front, Back };
 /// drawing follows by itself: whoever draws compares with what it drew last.
 ///
 /// A control belongs to its form for life and says so at its construction; the order of
-/// construction is the tab order unless `tabIndex` says otherwise.
+/// construction is the tab order.
 class Control {
 public:
     Control(Form& form, ControlClass controlClass, std::string name, Place place,
@@ -68,7 +67,6 @@ public:
     std::optional<Colour> foreColour;
     /// `BackStyle` 0: what lies below shows through.
     bool transparent = false;
-    int tabIndex = -1;
 
 private:
     Form& form_;

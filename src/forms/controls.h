@@ -78,8 +78,6 @@ public:
     void setValue(bool value);
     void startWith(bool value) { value_ = value; }
 
-    /// `Style` 1: drawn as a button that stays down.
-    bool graphical = false;
     Event onClick;
     /// The option is chosen already.
     Event onClickAgain;

@@ -41,7 +41,6 @@ public:
     Place place;
     std::string caption;
     Colour backColour = Colour::rgb(0xF0F0F0);
-    Colour foreColour;
     WindowState windowState = WindowState::Normal;
     /// Above all windows of all programs.
     bool topmost = false;

@@ -62,10 +62,6 @@ void paintText(forms::TextBox& text) {
     text.hasBorder = true;
 }
 
-void paintOption(forms::OptionButton& option) {
-    paint(option, option.graphical ? palette::ThemeField : palette::ThemeSurface);
-}
-
 void ThemeControl(forms::Control& control) {
     if (sameFormName(control.name(), "imgChart") || beginsWith(control.name(), "titelbar")) return;
     switch (control.controlClass()) {
@@ -80,10 +76,8 @@ void ThemeControl(forms::Control& control) {
             }
             break;
         case ControlClass::CheckBox:
-            paint(control, palette::ThemeSurface);
-            break;
         case ControlClass::OptionButton:
-            paintOption(dynamic_cast<forms::OptionButton&>(control));
+            paint(control, palette::ThemeSurface);
             break;
         case ControlClass::TextBox:
             paintText(dynamic_cast<forms::TextBox&>(control));
@@ -147,7 +141,6 @@ void ThemeSlidePanel(forms::Form& form) {
 
 void ApplyTheme(forms::Form& form) {
     form.backColour = palette::ThemeGround;
-    form.foreColour = palette::ThemeText;
     ThemeControlsIn(form, nullptr);
     ThemeTitleBars(form);
     ThemeSlidePanel(form);

@@ -147,13 +147,12 @@ TEST_F(Controls, ArrowKeysChooseTheNextUsableOptionOfTheFrameAndMoveTheSlider) {
     EXPECT_EQ(times("WidthSlider=66") + times("WidthSlider=56"), 2);
 }
 
-TEST_F(Controls, TabGoesFrameByFrameByTabIndexAndComesToTheTitleBarLast) {
-    form.ContinueOk.tabIndex = 0;
+TEST_F(Controls, TabGoesFrameByFrameAndComesToTheTitleBarLast) {
     form.focus = &form.SlideTitle;
     // Of the options of a frame only the chosen one is a stop.
     const forms::Control* expected[] = {&form.OptionPpt, &form.Picture,   &form.WidthSlider,
-                                        &form.wbStatus,  &form.btnCancel, &form.TitelBar1,
-                                        &form.ContinueOk};
+                                        &form.wbStatus,  &form.btnCancel, &form.ContinueOk,
+                                        &form.TitelBar1};
     for (const forms::Control* control : expected) {
         key(Qt::Key_Tab);
         EXPECT_EQ(form.focus, control)

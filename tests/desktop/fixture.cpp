@@ -28,7 +28,6 @@ SampleForm::SampleForm(forms::Desktop& desktop, std::size_t rowCount)
     OptionPpt.caption = "PPT";
     OptionPpt.startWith(true);
     DestinationFile.caption = "Active presentation: Board deck.pptx";
-    Picture.graphical = true;
     Picture.startWith(true);
     WidthSlider.setValue(65);
     prbHorizontal.caption = "42%";

@@ -34,8 +34,7 @@ std::string particulars(const forms::Control& control) {
     if (const auto* box = dynamic_cast<const forms::CheckBox*>(&control))
         return fmt::format("state {}", static_cast<int>(box->value()));
     if (const auto* option = dynamic_cast<const forms::OptionButton*>(&control))
-        return fmt::format("{}{}", option->value() ? "chosen " : "",
-                           option->graphical ? "graphical" : "");
+        return option->value() ? "chosen" : "";
     if (const auto* text = dynamic_cast<const forms::TextBox*>(&control))
         return fmt::format("'{}'{}", text->text(), text->readOnly ? " read only" : "");
     if (const auto* slider = dynamic_cast<const forms::Slider*>(&control))
@@ -64,12 +63,12 @@ std::string described(const forms::Form& form) {
     for (const forms::Control* control : form.controls()) {
         const forms::Control& it = *control;
         std::string line = fmt::format(
-            "  {}{} [{}]{}{} '{}' {} {}{} {}{} tab {} layer {} '{}' '{}' {}", it.name(),
+            "  {}{} [{}]{}{} '{}' {} {}{} {}{} layer {} '{}' '{}' {}", it.name(),
             it.container() != nullptr ? " in " + it.container()->name() : "", described(it.place),
             it.visible ? "" : " hidden", it.enabled ? "" : " disabled", it.caption, it.font.name,
             it.font.sizePt, it.font.bold ? " bold" : "",
             described(it.backColour) + " " + described(it.foreColour),
-            it.transparent ? " clear" : "", it.tabIndex, it.layer(), it.toolTip, it.accessibleName,
+            it.transparent ? " clear" : "", it.layer(), it.toolTip, it.accessibleName,
             particulars(it));
         line.erase(line.find_last_not_of(' ') + 1);
         all += line + "\n";
