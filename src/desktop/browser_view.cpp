@@ -40,6 +40,11 @@ BrowserView::BrowserView(forms::WebBrowser& browser, QWidget& parent, ViewHost& 
 
 void BrowserView::detach(bool controlIsThere) {
     if (controlIsThere && browser_.view == this) browser_.view = nullptr;
+    // What is on its way arrives before the window goes, and the control may be gone by then.
+    if (page_ != nullptr) disconnect(page_, nullptr, this, nullptr);
+    wanted_.clear();
+    loading_.clear();
+    revivalsLeft_ = 0;
 }
 
 void BrowserView::navigate(std::string_view url) {

@@ -1,4 +1,5 @@
 #include <QtCore/QDir>
+#include <QtCore/QPointer>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTemporaryFile>
 #include <QtGui/QImage>
@@ -282,6 +283,21 @@ TEST_F(Browser, TheStripIsDarkFromTheFirstToTheLast) {
     EXPECT_FALSE(waitUntil(isBright, 200ms));
     form.wbStatus.navigate("file:///nowhere/at/all.html");
     EXPECT_FALSE(waitUntil(isBright, 500ms));
+}
+
+TEST_F(Browser, AFormThatGoesWhileItsPageIsOnItsWayIsNotAskedAgain) {
+    const PageFile file("<p>late</p>");
+    QPointer<desktop::BrowserView> strip;
+    {
+        sample::SampleForm brief(desk);
+        desk.show(brief, forms::ShowMode::Modeless);
+        strip = &widgetOf<desktop::BrowserView>(brief.wbStatus);
+        brief.wbStatus.navigate(file.url());
+    }
+    // Events alone: the desktop takes the window down only after them.
+    QTest::qWait(100);
+    ASSERT_NE(strip, nullptr);
+    EXPECT_EQ(strip->engineView(), nullptr);
 }
 
 TEST_F(Browser, AFormMayBeUnloadedFromWithinALink) {
