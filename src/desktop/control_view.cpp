@@ -32,6 +32,7 @@ ControlView::Look ControlView::currentLook() const {
             control_.caption,
             control_.toolTip,
             control_.accessibleName.empty() ? control_.caption : control_.accessibleName,
+            control_.accessibleDescription,
             control_.font,
             groundOf(control_),
             maybeColour(control_.backColour),
@@ -58,6 +59,9 @@ void ControlView::applyLook(const Look& before) {
     if (first || look_.toolTip != before.toolTip) shown.setToolTip(textOf(look_.toolTip));
     if (first || look_.accessibleName != before.accessibleName) {
         shown.setAccessibleName(textOf(look_.accessibleName));
+    }
+    if (first || look_.accessibleDescription != before.accessibleDescription) {
+        shown.setAccessibleDescription(textOf(look_.accessibleDescription));
     }
     if (first) shown.setObjectName(textOf(control_.name()));
     if (first || look_.font != before.font) shown.setFont(fontOf(look_.font));

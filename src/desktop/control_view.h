@@ -69,6 +69,7 @@ protected:
         std::string caption;
         std::string toolTip;
         std::string accessibleName;
+        std::string accessibleDescription;
         forms::Font font;
         QColor ground;  ///< what is seen behind the text, the control's own colour or one below
         std::optional<QColor> back;  ///< of its own

@@ -61,6 +61,8 @@ public:
     std::string toolTip;
     /// What a screen reader calls the control; empty: its caption.
     std::string accessibleName;
+    /// What it says behind that, such as the message that a button answers.
+    std::string accessibleDescription;
     Font font;
     /// Nothing: the platform's own.
     std::optional<Colour> backColour;

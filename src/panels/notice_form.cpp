@@ -59,7 +59,6 @@ MurvaneNotice::MurvaneNotice(forms::Desktop& theDesktop, session::Host& host, Pe
       tmrFit(*this, "tmrFit", milliseconds(80)),
       host_(host),
       pending_(std::move(pending)) {
-    caption = "Murvane";
     placesItself = true;
     // Not the button that says no: a notice that was closed has an answer of its own.
     escapeCloses = true;
@@ -74,10 +73,11 @@ void MurvaneNotice::Form_Load() {
     shadow_.emplace().Shadow(*this);
     pageIsRequested_ = false;
     Result = has(pending_.Buttons, withCancel) ? session::answer::cancel : session::answer::ok;
-    const std::string title = pending_.Title.empty() ? "Murvane" : pending_.Title;
-    TitelBar1.caption = " " + title;
-    wbNotice.accessibleName =
-        pending_.Message.empty() ? title : title + ": " + onOneLine(pending_.Message);
+    caption = pending_.Title.empty() ? "Murvane" : pending_.Title;
+    TitelBar1.caption = " " + caption;
+    wbNotice.accessibleName = caption;
+    // A screen reader reads what has the keyboard, which the page has not.
+    btnOK.accessibleDescription = onOneLine(pending_.Message);
     showButtons();
     PlaceNoticeBrowser();
     FitNoticeToBody(minimumBody);

@@ -37,12 +37,14 @@ TEST_F(Controls, AValueThatTheFormSetsIsShownAndRaisesItsEventOnlyOnce) {
     form.OptionHtml.setValue(true);
     form.SlideTitle.setText("Costs");
     form.WidthSlider.setValue(20);
+    form.Up.accessibleDescription = "Moves the row";
 
     EXPECT_EQ(widgetOf<QCheckBox>(form.Check1).checkState(), Qt::Checked);
     EXPECT_FALSE(widgetOf<QAbstractButton>(form.OptionPpt).isChecked());
     EXPECT_TRUE(widgetOf<QAbstractButton>(form.OptionHtml).isChecked());
     EXPECT_EQ(widgetOf<QLineEdit>(form.SlideTitle).text(), QStringLiteral("Costs"));
     EXPECT_EQ(widgetOf<QSlider>(form.WidthSlider).value(), 20);
+    EXPECT_EQ(widgetOf<QWidget>(form.Up).accessibleDescription(), QStringLiteral("Moves the row"));
     for (const char* event : {"Check1", "OptionHtml", "SlideTitle=Costs", "WidthSlider=20"}) {
         EXPECT_EQ(times(event), 1) << event;
     }
