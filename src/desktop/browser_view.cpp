@@ -115,12 +115,31 @@ void BrowserView::showPage() {
 bool BrowserView::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
     const auto& key = dynamic_cast<const QKeyEvent&>(*event);
+    if (!key.isAutoRepeat()) addToKey(key.key(), *watched);
     // The engine keeps every key for itself, also one that no page makes anything of.
     const bool isTheForms =
         key.key() == Qt::Key_Escape || key.key() == Qt::Key_F4 || key.key() == Qt::Key_F1;
     if (!isTheForms) return false;
     QCoreApplication::sendEvent(this, event);
     return true;
+}
+
+void BrowserView::addToKey(int key, QObject& canvas) {
+    const bool isSpace = key == Qt::Key_Space;
+    if (!isSpace && key != Qt::Key_Return && key != Qt::Key_Enter) return;
+    // The form's own links are drawn as check boxes and buttons; on others Space scrolls.
+    const QString script = isSpace ? QStringLiteral("document.activeElement?.protocol==='murvane:'")
+                                   : QStringLiteral("document.activeElement?.tagName==='INPUT'");
+    QObject* receiver = isSpace ? &canvas : this;
+    page_->runJavaScript(
+        script, QWebEngineScript::ApplicationWorld, [at = QPointer(receiver)](const QVariant& is) {
+            if (!is.toBool() || at == nullptr) return;
+            // Posted: what the form does may ask the page, which from within its answer it can't.
+            for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+                QCoreApplication::postEvent(
+                    at, new QKeyEvent(type, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r")));
+            }
+        });
 }
 
 void BrowserView::loadEnded(bool succeeded) {

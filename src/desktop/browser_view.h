@@ -47,6 +47,9 @@ private:
     void showPage();
     void loadEnded(bool succeeded);
     void follow(const QString& url);
+    /// What the engine makes nothing of: Space on a link of the form follows it, and Enter in a
+    /// field is the form's.
+    void addToKey(int key, QObject& canvas);
     void refusalEnded();
     void tryAgain();
     /// `elements` as a script lists them.

@@ -29,10 +29,6 @@ void StyleNeutralButton(forms::CommandButton& button, std::string_view caption, 
     style(button, caption, palette::ThemeNeutralButton, sizePt);
 }
 
-void StyleFlatButton(forms::CommandButton& button) {
-    button.backColour = palette::ThemeAccentButton;
-}
-
 namespace {
 
 /// Close, cancel and help.

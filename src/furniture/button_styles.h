@@ -12,8 +12,6 @@ namespace furniture {
 /// The button that leads on.
 void StyleAccentButton(forms::CommandButton& button, std::string_view caption, double sizePt);
 void StyleNeutralButton(forms::CommandButton& button, std::string_view caption, double sizePt);
-/// The accent ground alone; caption and font stay.
-void StyleFlatButton(forms::CommandButton& button);
 /// All push buttons of a form, those in frames too, by their names.
 void ThemeButtonsIn(forms::Form& form);
 

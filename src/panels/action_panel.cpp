@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "furniture/button_styles.h"
 #include "furniture/palette.h"
 #include "furniture/theme.h"
 #include "office/text.h"
@@ -73,10 +72,7 @@ void LayoutActionBrowser(const forms::Form& form, forms::WebBrowser& browser,
 
 void PlaceContinueButton(forms::CommandButton& button, const forms::Place& place) {
     button.place = place;
-    button.caption = "Continue  >";
     button.isDefault = true;
-    button.font = {.name = "Tahoma", .sizePt = 10.5, .bold = true};
-    furniture::StyleFlatButton(button);
     button.setZOrder(ZOrder::Back);
 }
 

@@ -42,6 +42,7 @@ void LayoutActionBar(const forms::Form& form, const ActionBar& parts);
 void LayoutActionBrowser(const forms::Form& form, forms::WebBrowser& browser,
                          const forms::Label& bar, forms::Twips top, forms::Twips gap);
 
+/// Its caption and its looks are the theme's.
 void PlaceContinueButton(forms::CommandButton& button, const forms::Place& place);
 
 /// The stacking after each render: the browser on top of everything.

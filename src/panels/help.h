@@ -19,7 +19,7 @@ public:
 
     /// Shows a page of the help folder; a plain message box where there is no such file.
     void ShowHelp(std::string_view file);
-    /// Shows the file as a page of help, whatever it is.
+    /// Shows a file from anywhere as a page of help; one that can't be read is told on the page.
     void ShowHelpPopup(std::string title, std::string filePath);
     /// Shows the page that belongs to a control of the main form, or else the general one.
     void ShowContextHelp(const forms::Control& control);

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "furniture/button_styles.h"
 #include "panels/panel_page.h"
 
 namespace panels {
@@ -31,7 +30,6 @@ OptionsForm::OptionsForm(forms::Desktop& theDesktop, session::OfficeSession& ses
     escapeCloses = true;
     TitelBar1.caption = " Murvane";
     Image1.setPicture({.bytes = {}, .drawing = std::move(drawing)});
-    ContinueOk.caption = "Continue  >";
     wbStatus.accessibleName = "Export options";
     ContinueOk.onClick = [this] {
         // Notices let events run, and the second click of a double click among them.
@@ -51,7 +49,8 @@ void OptionsForm::beginForm() {
 void OptionsForm::showPanel() {
     SetupActionPanel(*this, wbStatus, actionBar());
     if (!message_.empty()) RenderPanel();
-    furniture::StyleAccentButton(ContinueOk, "Continue  >", 10.5);
+    // Not the page, which comes first: its engine keeps Enter from the button.
+    if (ContinueOk.enabled) focus = &ContinueOk;
 }
 
 ActionBar OptionsForm::actionBar() {

@@ -96,15 +96,18 @@ TEST_F(Browser, ALinkThatTheFormLetsPassIsFollowed) {
     EXPECT_EQ(page().fieldValue("f"), "there");
 }
 
-TEST_F(Browser, TheKeyboardReachesALinkAndFollowsIt) {
-    const PageFile file(linkTo("murvane://action/style"));
-    open(file.url());
+TEST_F(Browser, TheKeyboardReachesALinkAndFollowsItByEnterAndSpace) {
+    const PageFile file(linkTo("murvane://one") + linkTo("murvane://two"));
     form.focus = &form.wbStatus;
-    letPass(100ms);
-    QTest::keyClick(engine().focusProxy(), Qt::Key_Tab);
-    letPass(100ms);
-    QTest::keyClick(engine().focusProxy(), Qt::Key_Return);
-    EXPECT_TRUE(waitFor("murvane://action/style"));
+    for (const auto& [key, link] :
+         {std::pair(Qt::Key_Return, "murvane://one"), std::pair(Qt::Key_Space, "murvane://two")}) {
+        open(file.url());
+        letPass(100ms);
+        QTest::keyClick(engine().focusProxy(), Qt::Key_Tab);
+        letPass(100ms);
+        QTest::keyClick(engine().focusProxy(), key);
+        EXPECT_TRUE(waitFor(link, 1, 3s));
+    }
     EXPECT_EQ(times("Continue"), 0) << "the key was the link's, not the default button's";
 }
 
@@ -167,7 +170,7 @@ TEST_F(Browser, AMissingPageOrADeadEngineLeavesTheFormAliveAndTheNextPageComes) 
     }
 }
 
-TEST_F(Browser, ATypedValueIsRead) {
+TEST_F(Browser, ATypedValueIsReadAndEnteredByTheDefaultButton) {
     const PageFile file("<input id='f' value='' style='display:block;height:40px'>");
     open(file.url());
     EXPECT_TRUE(waitUntil([&] {
@@ -175,6 +178,8 @@ TEST_F(Browser, ATypedValueIsRead) {
         QTest::keyClick(engine().focusProxy(), Qt::Key_4);
         return page().fieldValue("f").value_or("").starts_with("4");
     }));
+    QTest::keyClick(engine().focusProxy(), Qt::Key_Return);
+    EXPECT_TRUE(waitFor("Continue", 1, 3s)) << "the default button, as from a box of the form";
 }
 
 TEST_F(Browser, APageAnswersAboutItselfAndItsOwnScriptsDoNotRun) {

@@ -56,10 +56,11 @@ std::string particulars(const forms::Control& control) {
 
 std::string described(const forms::Form& form) {
     std::string all =
-        fmt::format("\n{} '{}' {}x{} {}{}{}{}shadow {} {}\n", form.name(), form.caption,
+        fmt::format("\n{} '{}' {}x{} {}{}{}{}shadow {} {}{}\n", form.name(), form.caption,
                     form.place.width, form.place.height, described(form.backColour),
                     form.resizable ? " resizable " : " ", form.escapeCloses ? "escape closes " : "",
-                    form.topmost ? "topmost " : "", form.shadowDepthPx, form.shadowOpacity);
+                    form.topmost ? "topmost " : "", form.shadowDepthPx, form.shadowOpacity,
+                    form.focus != nullptr ? " focus " + form.focus->name() : "");
     for (const forms::Control* control : form.controls()) {
         const forms::Control& it = *control;
         std::string line = fmt::format(
