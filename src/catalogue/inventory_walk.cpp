@@ -16,10 +16,16 @@ namespace {
 using office::Object;
 using office::Value;
 
-/// A sheet-level name without its sheet; any other as it stands.
-std::string shortName(const std::string& nameText) {
-    const std::size_t mark = nameText.rfind('!');
-    return mark == std::string::npos ? nameText : nameText.substr(mark + 1);
+/// Whether a sheet-level name belongs to this sheet.
+bool belongsTo(std::string_view nameText, const std::string& sheet) {
+    const std::string_view owner = nameText.substr(0, nameText.rfind('!'));
+    return owner == sheet || owner == "'" + office::replaceAll(sheet, "'", "''") + "'";
+}
+
+/// What an item of a name is called: a name of the workbook or of the sheet that it leads to goes
+/// without a sheet. That of another sheet keeps it, since nothing else tells it from a namesake.
+std::string itemNameOf(const std::string& nameText, const std::string& sheet) {
+    return belongsTo(nameText, sheet) ? std::string(session::nameWithoutSheet(nameText)) : nameText;
 }
 
 class Walk {
@@ -141,20 +147,16 @@ void Walk::takeName(const Value& name) {
     if (sheet.get("Parent").get("Name").toText() != bookName_) return;
     if (!name.get("Visible").toBool()) return;
 
-    item.name = shortName(nameText);
+    item.name = itemNameOf(nameText, item.sheet);
     item.order = std::to_string(place->second);
     item.kind = ItemKind::Range;
     noteAreas(nameText, item, range);
     append(std::move(item));
 }
 
-/// A name is found from the sheet of its range if it belongs to the workbook or to that sheet; the
-/// sheet's own wins.
+/// Of a sheet's own name and the workbook's, the sheet's own is found.
 void Walk::noteAreas(const std::string& nameText, const ExportItem& item, const Value& range) {
     const bool isSheetLevel = nameText.find('!') != std::string::npos;
-    const bool isOwnSheets =
-        nameText == item.sheet + "!" + item.name || nameText == "'" + item.sheet + "'!" + item.name;
-    if (isSheetLevel && !isOwnSheets) return;
     const session::ItemIdentity key = item.identity();
     if (!isSheetLevel && found_.hasSeveralAreas.contains(key)) return;
     // The address joins its areas by commas and holds no sheet name that could bring in another
@@ -187,7 +189,7 @@ void Walk::advanceLoadBar() {
 
 bool isOfExcelItself(const std::string& nameText) {
     constexpr std::array<std::string_view, 2> own = {"Print_Titles", "_FilterDatabase"};
-    const std::string name = shortName(nameText);
+    const std::string_view name = session::nameWithoutSheet(nameText);
     return std::any_of(own.begin(), own.end(),
                        [&](std::string_view each) { return office::sameIgnoringCase(each, name); });
 }

@@ -9,7 +9,7 @@
 
 namespace catalogue {
 
-/// Whether the range of an item has several areas, as far as its name is found from its own sheet.
+/// Whether the range of an item has several areas.
 using KnownAreas = std::map<session::ItemIdentity, bool>;
 
 /// What a walk through a workbook finds.

@@ -7,6 +7,28 @@
 
 namespace catalogue {
 
+namespace {
+
+/// The range of a row whose sheet is known, which may be nothing.
+office::Object rangeFrom(const office::Object& sheet, const session::OfficeSession& session,
+                         const ExportItem& row) {
+    office::ContinueOnFailure scope;
+    office::Object range;
+    // A namesake may lead to another sheet, one of the row's own sheet too.
+    const auto takeIfThere = [&](const office::Value& found) {
+        const std::string where = found.get("Worksheet").get("Name").toText();
+        if (office::sameIgnoringCase(where, row.sheet)) range = found.toObject();
+    };
+    scope.attempt([&] { takeIfThere(sheet.get("Range", row.name)); });
+    if (range) return range;
+    scope.attempt([&] {
+        takeIfThere(session.ActiveBook.get("Names").get("Item", row.name).get("RefersToRange"));
+    });
+    return range;
+}
+
+}  // namespace
+
 const RowObjects::Sheet& RowObjects::sheetOf(const ExportItem& row) {
     const std::string_view trimmed = office::trim(row.sheet);
     const auto [place, isNew] =
@@ -39,12 +61,8 @@ bool RowObjects::isSheetGone(const ExportItem& row) {
 
 bool RowObjects::isMultipleAreaRow(const ExportItem& row) {
     if (!row.isRange()) return false;
-    office::ContinueOnFailure scope;
-    office::Object range;
-    const bool isOnSheet =
-        scope.attempt([&] { range = sheetOf(row).object.get("Range", row.name).toObject(); });
-    if (!isOnSheet) range = rangeOf(session_, row);
-    return scope.read([&] { return range.get("Areas").get("Count").toLong() > 1; }, false);
+    const office::Object range = rangeFrom(sheetOf(row).object, session_, row);
+    return office::orElse([&] { return range.get("Areas").get("Count").toLong() > 1; }, false);
 }
 
 office::Object chartObjectOf(const session::OfficeSession& session, const ExportItem& row) {
@@ -77,24 +95,11 @@ office::Object chartOf(const session::OfficeSession& session, const ExportItem& 
 }
 
 office::Object rangeOf(session::OfficeSession& session, const ExportItem& row) {
-    // A store may hold a sheet-level name with its sheet, without the quote that opens that.
-    const std::string name = row.name.find('!') == std::string::npos ? row.name : "'" + row.name;
     office::ContinueOnFailure scope;
-    office::Object range;
-    const bool isOnSheet = scope.attempt([&] {
-        range =
-            session.ActiveBook.get("Sheets").get("Item", row.sheet).get("Range", name).toObject();
-    });
-    if (isOnSheet && range) return range;
-    // The workbook may hold a namesake that lies on another sheet.
-    scope.attempt([&] {
-        const office::Value named =
-            session.ActiveBook.get("Names").get("Item", row.name).get("RefersToRange");
-        if (named.get("Worksheet").get("Name").toText() == row.sheet) {
-            range = named.toObject();
-        }
-    });
-    return range;
+    office::Object sheet;
+    scope.attempt(
+        [&] { sheet = session.ActiveBook.get("Sheets").get("Item", row.sheet).toObject(); });
+    return rangeFrom(sheet, session, row);
 }
 
 office::Object requiredRange(session::OfficeSession& session, const ExportItem& row) {

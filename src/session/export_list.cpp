@@ -13,4 +13,9 @@ std::string_view kindText(ItemKind kind) {
     }
 }
 
+std::string_view nameWithoutSheet(std::string_view name) {
+    const std::size_t mark = name.rfind('!');
+    return mark == std::string_view::npos ? name : name.substr(mark + 1);
+}
+
 }  // namespace session

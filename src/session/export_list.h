@@ -60,6 +60,10 @@ struct ExportItem {
 /// "Embedded", "Chart" or "Range", as the store spells the kinds.
 [[nodiscard]] std::string_view kindText(ItemKind kind);
 
+/// A sheet-level name, "Sales!Total" or "'Net sales'!Total", without its sheet; any other as it
+/// stands.
+[[nodiscard]] std::string_view nameWithoutSheet(std::string_view name);
+
 /// The items in display order, which is the order of export and of the store.
 struct ExportList {
     std::vector<ExportItem> rows;

@@ -58,10 +58,16 @@ ItemKind kindOf(const std::string& name, const std::string& text) {
     return text == kindText(ItemKind::Chart) ? ItemKind::Chart : ItemKind::Range;
 }
 
+/// Excel takes the quote that begins "'Net sales'!Total" for the mark of a text, and drops it.
+std::string withOpeningQuote(const std::string& name) {
+    const bool isOpen = name.find("'!") != std::string::npos && !name.starts_with('\'');
+    return isOpen ? "'" + name : name;
+}
+
 ExportItem itemIn(const Table& block, std::size_t row) {
     const auto text = [&](std::size_t column) { return block.at(row, column).toText(); };
     ExportItem item;
-    item.name = text(nameColumn);
+    item.name = withOpeningQuote(text(nameColumn));
     item.sheet = text(sheetColumn);
     item.slideNumber = text(slideNumberColumn);
     item.order = text(orderColumn);
@@ -128,10 +134,29 @@ std::unordered_set<std::string> chartSheetsLostIn(const Stored& stored,
     return sheets;
 }
 
+/// Names of other sheets used to be stored without their sheets: the row goes on standing for the
+/// name, with all that was decided about it.
+void nameTheirSheets(std::vector<ExportItem>& stored, const std::vector<ExportItem>& found) {
+    std::map<ItemIdentity, int> open;
+    for (const ExportItem& item : stored) ++open[item.identity()];
+    for (const ExportItem& item : found) --open[item.identity()];
+    for (const ExportItem& item : found) {
+        ExportItem former = item;
+        former.name = nameWithoutSheet(item.name);
+        if (!item.isRange() || former.name == item.name || open[item.identity()] >= 0) continue;
+        const auto row = std::ranges::find(stored, former.identity(),
+                                           [](const auto& each) { return each.identity(); });
+        if (row == stored.end() || open[former.identity()] <= 0) continue;
+        --open[former.identity()];
+        row->name = item.name;
+    }
+}
+
 /// The stored items and those of the found ones that are new, which all get the same number. Items
 /// of a new store stand in the order of the sheets.
-StoredItems merged(const Stored& stored, std::vector<ExportItem> found) {
+StoredItems merged(Stored stored, std::vector<ExportItem> found) {
     const bool wereUnknown = stored.items.empty();
+    nameTheirSheets(stored.items, found);
     StoredItems all{stored.items, wereUnknown};
     const std::string laterRow = std::to_string(stored.lastRow + 1);
     if (wereUnknown) {

@@ -43,6 +43,16 @@ TEST(ItemSelection, TheExactNameGoesBeforeOneOfOtherCase) {
     EXPECT_THROW(unattended::findItems(list, {"total"}), unattended::UsageError);
 }
 
+TEST(ItemSelection, ASheetsOwnNameMayGoWithoutItsSheetWhereNothingElseIsCalledSo) {
+    catalogue::ExportList list;
+    list.rows.push_back(rowOf("Jan!Total", "Data", ItemKind::Range));
+    list.rows.push_back(rowOf("Jan!Rate", "Data", ItemKind::Range));
+    list.rows.push_back(rowOf("Rate", "Data", ItemKind::Range));
+    for (const auto& [text, row] : {std::pair("Jan!Total", 0U), std::pair("Total@Data", 0U),
+                                    std::pair("total", 0U), std::pair("Rate", 2U)})
+        EXPECT_EQ(unattended::findItems(list, {text}), Indices{row}) << text;
+}
+
 TEST(ItemSelection, AnUnknownItemIsToldWithNamesThatAreNear) {
     const std::pair<const char*, const char*> unknown[] = {
         {"Overveiw", "The workbook has no item \"Overveiw\". Did you mean \"Overview\"?"},

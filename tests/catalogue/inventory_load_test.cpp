@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/row_objects.h"
 #include "loaded_list.h"
 #include "session/workbook_store.h"
 
@@ -75,6 +76,25 @@ TEST_F(Inventory, ListsASheetLevelNameByThePartBehindTheMark) {
     book.define("Local", "='My Sales'!$C$3");
     const LoadedList loaded = load();
     EXPECT_EQ(loaded.names(), (Words{"Local@My Sales", "Local@My Sales"}));
+}
+
+TEST_F(Inventory, KeepsTheSheetOfANameThatLeadsToAnotherOneAndFindsItsCells) {
+    for (const char* sheet : {"Bob's", "Jan", "Feb 1", "Data"}) book.sheet(sheet);
+    test.attach();
+    for (const auto& [name, cells] :
+         {std::pair("'Bob''s'!Total", "='Bob''s'!$A$1"), std::pair("Jan!Total", "=Data!$A$1:$B$9"),
+          std::pair("'Feb 1'!Total", "=Data!$D$1:$E$9"), std::pair("Total", "=Data!$G$1"),
+          std::pair("Data!Other", "=Jan!$H$1")})
+        test.session.ActiveBook.get("Names").call("Add", name, cells);
+    const LoadedList loaded = load();
+    EXPECT_EQ(loaded.names(), (Words{"Total@Bob's", "Data!Other@Jan", "Jan!Total@Data",
+                                     "'Feb 1'!Total@Data", "Total@Data"}));
+    Words cells;
+    for (const ExportItem& row : loaded.list.rows)
+        cells.push_back(catalogue::requiredRange(test.session, row).get("Address").toText());
+    EXPECT_EQ(cells, (Words{"$A$1", "$H$1", "$A$1:$B$9", "$D$1:$E$9", "$G$1"}));
+    const ExportItem other = catalogue_tests::row("Other", "Data", ItemKind::Range);
+    EXPECT_FALSE(catalogue::rangeOf(test.session, other)) << "it lies on another sheet";
 }
 
 TEST_F(Inventory, UnchecksAndReddensARangeOfSeveralAreas) {

@@ -122,6 +122,24 @@ TEST_F(StoreMerge, KnowsAChartSheetAgainThatHasBecomeAWorksheet) {
     EXPECT_EQ(catalogue::CountExportableRows(test.session, loaded.list), 4);
 }
 
+TEST_F(StoreMerge, KnowsANameAgainThatWasStoredWithoutItsSheetOrTheQuoteAheadOfThat) {
+    const auto names = test.session.ActiveBook.get("Names");
+    book.sheet("Jan 1");
+    names.call("Add", "'Jan 1'!Total", "=Sales!$A$1");
+    for (const auto& [stored, listed] :
+         {std::pair("Total", "'Jan 1'!Total@Sales"),
+          std::pair("Jan 1'!Total", "'Jan 1'!Total@Sales"), std::pair("Totals", "Totals@Sales")}) {
+        run([&](catalogue::ExportList& list) {
+            list.rows = {catalogue_tests::row(stored, "Sales", session::ItemKind::Range)};
+            list.rows[0].caption = "Kept";
+        });
+        const LoadedList loaded(test);
+        EXPECT_EQ(loaded.names()[0], listed);
+        EXPECT_EQ(loaded.list.rows[0].caption, "Kept");
+        EXPECT_EQ(loaded.list.rows.size(), stored == std::string("Totals") ? 4U : 3U);
+    }
+}
+
 TEST_F(StoreMerge, IsListedWithoutATraceInTheWorkbook) {
     run([](catalogue::ExportList& list) {
         std::swap(list.rows.at(0), list.rows.at(1));

@@ -99,6 +99,11 @@ std::optional<std::size_t> tryFind(const ExportList& list, std::string_view name
                                    std::string_view sheet) {
     std::vector<std::size_t> found = matches(list, name, sheet, std::equal_to<>());
     if (found.empty()) found = matches(list, name, sheet, office::sameIgnoringCase);
+    if (found.empty()) {
+        found = matches(list, name, sheet, [](std::string_view known, std::string_view wanted) {
+            return office::sameIgnoringCase(session::nameWithoutSheet(known), wanted);
+        });
+    }
     if (found.empty()) return std::nullopt;
     if (found.size() > 1) {
         std::vector<std::string> candidates;
