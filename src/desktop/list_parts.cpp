@@ -185,8 +185,12 @@ QRect RowPainter::checkBoxIn(const QRect& cell) {
     return {cell.left() + gap, cell.center().y() - boxSize / 2 + 1, boxSize, boxSize};
 }
 
-QSize RowPainter::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
-    return {40, std::max(option.fontMetrics.height() + 8, iconSize + 6)};
+QSize RowPainter::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    constexpr int anyWidth = 100;
+    const int besideText = anyWidth - textBoxIn({0, 0, anyWidth, 1}, index).width();
+    const QString text = index.data(Qt::DisplayRole).toString();
+    return {option.fontMetrics.horizontalAdvance(text) + besideText,
+            std::max(option.fontMetrics.height() + 8, iconSize + 6)};
 }
 
 void RowPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,

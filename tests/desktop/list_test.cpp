@@ -51,6 +51,21 @@ TEST_F(Lists, AClickChecksOnTheBoxSelectsOnTheTextAndNamesTheColumnOfAHeader) {
     EXPECT_EQ(times("column 3"), 1);
 }
 
+TEST_F(Lists, ADoubleClickOnTheEdgeOfAColumnMakesItAsWideAsItsTexts) {
+    form.rows.rows[2].cells[0] = "Revenue of all regions without the last quarter";
+    form.listCharts.rowsChanged();
+    desk.letEventsRun();
+    QHeaderView& header = *view().header();
+    const QPoint edge(header.sectionViewportPosition(0) + header.sectionSize(0) - 1, 8);
+    QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, edge);
+    QTest::mouseDClick(header.viewport(), Qt::LeftButton, {}, edge);
+    desk.letEventsRun();
+    const int text =
+        view().fontMetrics().horizontalAdvance("Revenue of all regions without the last quarter");
+    EXPECT_GT(header.sectionSize(0), text + view().checkBoxOf(2).width());
+    EXPECT_LT(header.sectionSize(0), text + 80);
+}
+
 TEST_F(Lists, ArrowKeysSelectAndSpaceChecksButTheFocusAloneSelectsNothing) {
     form.rows.selectedRow = -1;
     form.listCharts.rowsChanged();
