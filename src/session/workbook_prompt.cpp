@@ -17,13 +17,18 @@ void OpenWorkbookPrompt(OfficeSession& session) {
                       office::arg("Title", "Please choose a file to open"))
                 .toText();
     });
+    const bool isChosen = !name.empty() && name != "False";
     if (name == "False") {
         scope.attempt([&] { ShowWarningNotice(session.notices, "No file selected."); });
         scope.attempt([&] { name = excel.get("ActiveWorkbook").get("Name").toText(); });
     } else if (IsFileOpen(session, name)) {
         scope.attempt([&] { ShowWarningNotice(session.notices, "File already open"); });
     }
-    scope.attempt([&] { excel.get("Workbooks").call("Open", office::arg("FileName", name)); });
+    const bool isOpen =
+        scope.attempt([&] { excel.get("Workbooks").call("Open", office::arg("FileName", name)); });
+    if (!isChosen || isOpen) return;
+    const std::string why = scope.lastFailure()->description();
+    scope.attempt([&] { ShowWarningNotice(session.notices, why); });
 }
 
 bool IsFileOpen(OfficeSession& session, std::string_view fileName) {

@@ -7,7 +7,8 @@
 namespace session {
 
 /// Asks for a workbook file and opens it. The notices for a cancelled choice and for a file that is
-/// in use don't keep the opening from being tried. Failures are passed over.
+/// in use don't keep the opening from being tried. A file that can't be opened is told; other
+/// failures are passed over.
 void OpenWorkbookPrompt(OfficeSession& session);
 
 /// Whether the file is there and another process holds it.

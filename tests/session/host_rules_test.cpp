@@ -40,6 +40,15 @@ TEST(WorkbookPrompt, OpensAFileThatIsInUseAfterSayingSo) {
     EXPECT_NE(test.suite.excel().findOpen("Budget.xlsx"), nullptr);
 }
 
+TEST(WorkbookPrompt, SaysWhyAFileThatWasChosenCouldNotBeOpened) {
+    TestSession test;
+    test.suite.excel().answerOpenPrompt(file);
+    test.attach();
+    session::OpenWorkbookPrompt(test.session);
+    ASSERT_EQ(test.notices.shown.size(), 1U);
+    EXPECT_NE(test.notices.shown[0].message.find("Budget.xlsx"), std::string::npos);
+}
+
 TEST(FileInUse, IsNoneThatIsNotThere) {
     const std::pair<const char*, bool> cases[] = {
         {"", false}, {"/none", false}, {"/free", false}, {"/held", true}};

@@ -110,8 +110,10 @@ office::Value CalcBooks::askForFile(const std::string& filter, const std::string
     if (!title.empty()) picker->setTitle(toUno(title));
     if (!filter.empty()) {
         const std::string words = filter.substr(0, filter.rfind(','));
-        as<css::ui::dialogs::XFilterManager>(picker)->appendFilter(toUno(words),
-                                                                   toUno(patternOf(filter)));
+        const auto filters = as<css::ui::dialogs::XFilterManager>(picker);
+        filters->appendFilter(toUno(words), toUno(patternOf(filter)));
+        // Those of LibreOffice's own format too.
+        filters->appendFilter("All files (*.*)", "*.*");
     }
     if (picker->execute() != css::ui::dialogs::ExecutableDialogResults::OK) return false;
     const auto files = picker->getSelectedFiles();
