@@ -46,6 +46,12 @@ void reviewItems(session::OfficeSession& session, const ExportList& list, Review
         if (objects.isSheetGone(row)) ++gone;
     }
     const std::int32_t hidden = checked - exportable - gone;
+    const auto tellSkipped = [&](std::int32_t count, const char* where) {
+        if (count == 0) return;
+        AddReviewItem(
+            texts.ReviewItems,
+            fmt::format("{} checked item(s) are on {} and will be skipped.", count, where));
+    };
     if (exportable == 0 && !isOpen(session.ActiveBook)) {
         texts.Blockers.emplace_back(
             "The workbook is no longer open. Open it again and start anew.");
@@ -53,18 +59,14 @@ void reviewItems(session::OfficeSession& session, const ExportList& list, Review
         texts.Blockers.emplace_back(
             "The sheets of all checked items are no longer in the workbook. They may have "
             "been renamed: check the items under the new names.");
-    } else if (exportable == 0) {
-        texts.Blockers.emplace_back(
-            "All checked items are on hidden worksheets and cannot be exported. Show those "
-            "sheets or uncheck them.");
     } else {
-        const auto tellSkipped = [&](std::int32_t count, const char* where) {
-            if (count == 0) return;
-            AddReviewItem(
-                texts.ReviewItems,
-                fmt::format("{} checked item(s) are on {} and will be skipped.", count, where));
-        };
-        tellSkipped(hidden, "hidden worksheets");
+        if (exportable > 0) {
+            tellSkipped(hidden, "hidden worksheets");
+        } else {
+            texts.Blockers.emplace_back(
+                "All checked items are on hidden worksheets and cannot be exported. Show those "
+                "sheets or uncheck them.");
+        }
         tellSkipped(gone, "sheets that are no longer in the workbook");
     }
     for (const ExportItem& row : list.rows) {

@@ -66,6 +66,11 @@ TEST_F(Review, CollectsTheBlockersOfItemsAndDestination) {
     EXPECT_EQ(blockers(),
               Words{"The sheets of all checked items are no longer in the workbook. They may have "
                     "been renamed: check the items under the new names."});
+    list.rows.push_back(row("Chart 2", "Hidden", session::ItemKind::Chart));
+    const auto texts = catalogue::reviewExport(test.session, list, {choices});
+    EXPECT_TRUE(texts.Blockers[0].starts_with("All checked items are on hidden worksheets"));
+    EXPECT_EQ(texts.ReviewItems, Words{"1 checked item(s) are on sheets that are no longer in the "
+                                       "workbook and will be skipped."});
     const auto book = test.session.ActiveBook;
     test.session.ActiveBook.release();
     EXPECT_EQ(blockers(), Words{"The workbook is no longer open. Open it again and start anew."});
