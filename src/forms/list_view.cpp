@@ -16,6 +16,7 @@ void ListView::click(std::size_t row, Pick pick) {
     if (pick == Pick::Through) {
         markThrough(row);
     } else {
+        if (pick == Pick::Toggle) markTheOneShown(row);
         const bool marked = pick == Pick::Only || !rows->isMarked(row);
         for (std::size_t i = 0; pick == Pick::Only && i < rows->count(); ++i) {
             rows->setMarked(i, false);
@@ -26,6 +27,16 @@ void ListView::click(std::size_t row, Pick pick) {
     rows->select(static_cast<std::ptrdiff_t>(row));
     rowsChanged();
     if (onItemClick) onItemClick(row);
+}
+
+/// With none marked, the selected row is shown as the chosen one.
+void ListView::markTheOneShown(std::size_t besides) {
+    for (std::size_t i = 0; i < rows->count(); ++i) {
+        if (rows->isMarked(i)) return;
+    }
+    const std::ptrdiff_t shown = rows->selected();
+    if (shown < 0 || static_cast<std::size_t>(shown) == besides) return;
+    rows->setMarked(static_cast<std::size_t>(shown), true);
 }
 
 void ListView::markThrough(std::size_t row) {

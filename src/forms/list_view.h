@@ -29,12 +29,9 @@ public:
     /// The selected row, or -1.
     [[nodiscard]] virtual std::ptrdiff_t selected() const = 0;
     virtual void select(std::ptrdiff_t row) = 0;
-    /// Whether a row is one of those chosen for a common deed. Rows that know of one at a time only
-    /// have the selected one.
-    [[nodiscard]] virtual bool isMarked(std::size_t row) const {
-        return static_cast<std::ptrdiff_t>(row) == selected();
-    }
-    virtual void setMarked(std::size_t /*row*/, bool /*marked*/) {}
+    /// Whether a row is one of those chosen for a common deed.
+    [[nodiscard]] virtual bool isMarked(std::size_t row) const = 0;
+    virtual void setMarked(std::size_t row, bool marked) = 0;
 };
 
 /// A list in report view with check boxes: rows are seen through `ListRows`, columns are its own.
@@ -87,6 +84,7 @@ public:
     std::function<void()> onRowInsert;
 
 private:
+    void markTheOneShown(std::size_t besides);
     void markThrough(std::size_t row);
 
     std::size_t anchor_ = 0;

@@ -103,8 +103,11 @@ struct TwoRows : forms::ListRows {
     [[nodiscard]] std::string_view icon(std::size_t) const override { return {}; }
     [[nodiscard]] std::ptrdiff_t selected() const override { return chosen; }
     void select(std::ptrdiff_t row) override { chosen = row; }
+    [[nodiscard]] bool isMarked(std::size_t row) const override { return marked[row]; }
+    void setMarked(std::size_t row, bool value) override { marked[row] = value; }
 
     std::vector<bool> checked = {false, false};
+    std::vector<bool> marked = {false, false};
     std::ptrdiff_t chosen = -1;
 };
 
@@ -122,6 +125,18 @@ TEST_F(Controls, AListChangesTheRowBeforeItTells) {
     list.check(1, false);
     EXPECT_EQ(taken(), (Strings{"on", "1", "off"}));
     EXPECT_EQ(list.version(), 3);
+}
+
+TEST_F(Controls, TheRowThatIsShownAsChosenStaysSoWhenAnotherIsAddedToIt) {
+    TwoRows rows;
+    rows.chosen = 0;
+    forms::ListView list(sheet, "listCharts", {});
+    list.rows = &rows;
+    using Marks = std::vector<bool>;
+    list.click(1, forms::ListView::Pick::Toggle);
+    EXPECT_EQ(rows.marked, (Marks{true, true}));
+    list.click(0, forms::ListView::Pick::Toggle);
+    EXPECT_EQ(rows.marked, (Marks{false, true}));
 }
 
 }  // namespace
