@@ -97,10 +97,7 @@ void UserformObj::loadForm() {
     renumberRows();
     ShowPowerPointTarget();
     TitlesFrame.visible = false;
-    if (session_.ActiveBook) {
-        ActiveWbk.setText(
-            fmt::format("Active Workbook:{} ", session_.ActiveBook.get("Name").toText()));
-    }
+    if (workbook_) nameWorkbook();
     furniture::ApplyTheme(*this);
     resizeColumns();
     recolourRows();
@@ -147,7 +144,13 @@ void UserformObj::Form_Unload() {
 }
 
 void UserformObj::Form_Entered() {
-    if (takesInput) nameTarget();
+    if (!takesInput) return;
+    nameTarget();
+    office::ContinueOnFailure().attempt([this] { nameWorkbook(); });
+}
+
+void UserformObj::nameWorkbook() {
+    ActiveWbk.setText(fmt::format("Active Workbook:{} ", workbook_.get("Name").toText()));
 }
 
 void UserformObj::Form_Left() {

@@ -45,7 +45,7 @@ public:
 
     void Form_Load() override;
     void Form_Unload() override;
-    /// Another presentation may be the active one by now.
+    /// Another presentation may be the active one by now, and the workbook have another name.
     void Form_Entered() override;
     /// What was changed is written into the workbook, which the user may be about to save.
     void Form_Left() override;
@@ -146,6 +146,7 @@ private:
     void ShowImageTarget();
     void showTarget(const Target& target);
     /// Only says anew where things go; what is chosen stays as it is.
+    void nameWorkbook();
     void nameTarget();
     bool namePresentation();
     bool nameDocument();

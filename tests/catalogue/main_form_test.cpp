@@ -413,6 +413,17 @@ TEST_F(TheMainForm, followsTheActivePresentationWithoutLeavingTheSlidesThatAreCh
     EXPECT_TRUE(form.OptionPredefSlides.value());
 }
 
+TEST_F(TheMainForm, followsTheNameOfItsWorkbook) {
+    UserformObj& form = open();
+    test.suite.excel().findOpen("Book1.xlsx")->saveAs("March.xlsx");
+    test.suite.excel().addWorkbook("Other.xlsx");
+    form.Form_Entered();
+    EXPECT_EQ(form.ActiveWbk.text(), "Active Workbook:March.xlsx ");
+    test.session.ActiveBook.call("Close", false);
+    form.Form_Entered();
+    EXPECT_EQ(form.ActiveWbk.text(), "Active Workbook:March.xlsx ");
+}
+
 TEST_F(TheMainForm, keepsItsListInItsWorkbookWhicheverTheUserLooksAt) {
     UserformObj& form = open();
     form.listCharts.check(0, false);

@@ -28,6 +28,7 @@ public:
     /// "=SUM(Sales!A1:A3)", "=#REF!$A$1", "=[Other.xlsx]Sheet1!$A$1".
     Workbook& define(const std::string& name, const std::string& formula);
     Workbook& defineHidden(const std::string& name, const std::string& formula);
+    void saveAs(std::string name) { name_ = std::move(name); }
     void undefine(const std::string& name) { names_.remove(name); }
     Workbook& protectStructure(bool on = true);
     Workbook& readOnly();
