@@ -94,8 +94,8 @@ private:
     std::int32_t calculation_;
 };
 
-/// Looking names up needs a worksheet on top, and so does whoever works on after this. Hidden ones
-/// can't be selected. The first sheet is never tried.
+/// Whoever works on after this needs a worksheet on top. Hidden ones can't be selected, and none
+/// can in a window that shows how the workbook prints. The first sheet is never tried.
 void leaveChartSheet(const office::Object& book) {
     constexpr std::int32_t worksheetType = -4167;
     if (book.get("ActiveSheet").get("Type").toLong() == worksheetType) return;
@@ -105,7 +105,7 @@ void leaveChartSheet(const office::Object& book) {
         const office::Value sheet = sheets.get("Item", i);
         if (sheet.get("Type").toLong() != worksheetType) continue;
         if (sheet.get("Visible").toLong() != visibleSheet) continue;
-        sheet.call("Select");
+        office::ContinueOnFailure().attempt([&] { sheet.call("Select"); });
         return;
     }
 }

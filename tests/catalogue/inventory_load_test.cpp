@@ -142,6 +142,14 @@ TEST_F(Inventory, LeavesAChartSheetForTheFirstVisibleWorksheetBehindTheFirstShee
     }
 }
 
+TEST_F(Inventory, ComesUpAlsoWhereNoSheetCanBeBroughtUp) {
+    book.chartSheet("Overview");
+    book.sheet("Sales").chart("Chart 1");
+    book.activateSheet("Overview");
+    test.suite.failures().failAlways("Worksheet.Select");
+    EXPECT_EQ(load().names(), (Words{"{Chart Sheet}@Overview", "Chart 1@Sales"}));
+}
+
 TEST_F(Inventory, MovesTheLoadingBarByTheQuickCount) {
     book.sheet("Sales").chart("Chart 1").chart("Chart 2");
     book.sheet("Hidden").chart("Chart 3").chart("Chart 4").hide();
