@@ -4,6 +4,7 @@
 
 #include "catalogue/inventory.h"
 #include "office_double/suite.h"
+#include "session/store_sheet.h"
 #include "session/workbook_store.h"
 #include "session_doubles/recording_notices.h"
 #include "session_doubles/recording_progress.h"

@@ -9,6 +9,7 @@
 #include "catalogue/list_rows.h"
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
+#include "session/store_sheet.h"
 #include "session/workbook_store.h"
 
 namespace catalogue {

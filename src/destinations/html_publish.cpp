@@ -7,7 +7,7 @@
 #include "catalogue/row_objects.h"
 #include "destinations/html_export.h"
 #include "office/failure_patterns.h"
-#include "session/workbook_store.h"
+#include "session/store_sheet.h"
 
 namespace destinations {
 

@@ -10,6 +10,7 @@
 #include "forms/desktop.h"
 #include "furniture/theme.h"
 #include "office/failure_patterns.h"
+#include "session/store_sheet.h"
 #include "session/workbook_store.h"
 
 namespace powerpoint {

@@ -6,6 +6,7 @@
 
 #include "office/failure_patterns.h"
 #include "session/powerpoint_session.h"
+#include "session/store_sheet.h"
 #include "session/workbook_store.h"
 
 namespace powerpoint {

@@ -9,9 +9,9 @@
 
 #include "office/failure_patterns.h"
 #include "office/text.h"
+#include "session/store_sheet.h"
 #include "session/web_pages.h"
 #include "session/workbook_prompt.h"
-#include "session/workbook_store.h"
 
 namespace session {
 

@@ -9,6 +9,7 @@
 
 #include "office/failure_patterns.h"
 #include "office/text.h"
+#include "session/store_sheet.h"
 
 namespace session {
 
@@ -29,9 +30,6 @@ constexpr std::size_t laterRowColumn = 7;
 constexpr std::size_t keyColumn = 8;
 /// The caption stands apart, behind the cells of the placement.
 constexpr std::size_t captionColumn = 20;
-
-constexpr int veryHidden = 2;
-constexpr const char* textFormat = "@";
 
 constexpr const char* placementCells = "O1:R1";
 constexpr const char* defaultWord = "Default";
@@ -215,7 +213,7 @@ void writeCaptions(const Object& sheet, const std::vector<ExportItem>& rows) {
     for (std::size_t i = 0; i < rows.size(); ++i) block.at(i + 1, 1) = rows[i].caption;
     const Value captions = cells(sheet, "T:T", 1, rows.size());
     // A store of an earlier version lacks the format.
-    captions.put("NumberFormat", textFormat);
+    captions.put("NumberFormat", store::textFormat);
     captions.put("Value", block);
 }
 
@@ -232,80 +230,6 @@ Value cellOf(const std::optional<double>& share) {
 }
 
 }  // namespace
-
-bool CanKeepStore(OfficeSession& session) {
-    if (office::orElse([&] { return session.ActiveBook.get("ReadOnly").toBool(); }, false)) {
-        ShowWarningNotice(session.notices,
-                          "The workbook is read-only, and Murvane keeps its list in the workbook.\r"
-                          "Open it for editing or save it under another name,\r"
-                          "then reopen Murvane.");
-        return false;
-    }
-    // A workbook that has the sheet already takes no new one, so its protection is no hindrance.
-    if (!SheetExists(session, store::sheetName) &&
-        session.ActiveBook.get("ProtectStructure").toBool()) {
-        ShowWarningNotice(session.notices,
-                          "              The workbook looks protected\r\r"
-                          "Please remove the protection and reopen Murvane\r"
-                          "After that you may reprotect the workbook.\r"
-                          "The message will not longer appear");
-        return false;
-    }
-    return true;
-}
-
-bool SheetExists(OfficeSession& session, std::string_view name) {
-    return office::orElse(
-        [&] {
-            const Value sheet = session.ActiveBook.get("Worksheets").get("Item", name);
-            return !sheet.get("Name").isBlank();
-        },
-        false);
-}
-
-Object AddSheetAtEnd(const Object& book) {
-    const Object sheets = book.get("Sheets").toObject();
-    const Value last = sheets.get("Item", sheets.get("Count"));
-    const std::string onTop = book.get("ActiveSheet").get("Name").toText();
-    // Without a count there would be as many as are selected.
-    Object sheet = book.get("Worksheets")
-                       .call("Add", office::arg("After", last), office::arg("Count", 1))
-                       .toObject();
-    // An Excel brings the new one up. What is on top is not brought up again: that takes time.
-    office::ContinueOnFailure().attempt([&] {
-        if (book.get("ActiveSheet").get("Name").toText() != onTop)
-            sheets.get("Item", onTop).call("Activate");
-    });
-    return sheet;
-}
-
-void EnsureStoreSheet(OfficeSession& session) {
-    if (session.ActiveBook.isNothing() || SheetExists(session, store::sheetName)) return;
-
-    office::ContinueOnFailure scope;
-    const Object& book = session.ActiveBook;
-    Object sheet;
-    // Behind the others: one in front of them would move what all charts refer to, and a suite then
-    // draws each of them anew.
-    const bool isThere = scope.attempt([&] { sheet = AddSheetAtEnd(book); });
-    // Names that lead to no sheet would be all that is left of it.
-    if (!isThere) return;
-    scope.attempt([&] { sheet.put("Name", store::sheetName); });
-    scope.attempt([&] {
-        book.get("Names").call("Add", office::arg("Name", store::itemsName),
-                               office::arg("RefersToR1C1", "=kukukukuZichron!C1:C8"));
-    });
-    // Text keeps a slide number, a name or a caption such as "007" as it was typed; the running
-    // order and the check mark are numbers.
-    scope.attempt([&] { sheet.get("Range", store::itemsName).put("NumberFormat", textFormat); });
-    scope.attempt([&] { sheet.get("Columns", "D:E").put("NumberFormat", "0"); });
-    scope.attempt([&] { sheet.get("Columns", "T:T").put("NumberFormat", textFormat); });
-    scope.attempt([&] {
-        book.get("Names").call("Add", office::arg("Name", store::reservedName),
-                               office::arg("RefersToR1C1", "=kukukukuZichron!R23C15:R30C22"));
-    });
-    scope.attempt([&] { sheet.put("Visible", veryHidden); });
-}
 
 StoredItems MergeWithStore(OfficeSession& session, std::vector<ExportItem> found) {
     if (!SheetExists(session, store::sheetName)) return {std::move(found), true};

@@ -1,5 +1,5 @@
 #include "run_stage.h"
-#include "session/workbook_store.h"
+#include "session/store_sheet.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include "catalogue/row_objects.h"
 #include "loaded_list.h"
-#include "session/workbook_store.h"
+#include "session/store_sheet.h"
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "loaded_list.h"
+#include "session/store_sheet.h"
 #include "session/workbook_store.h"
 
 namespace {

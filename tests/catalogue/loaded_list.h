@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "catalogue/inventory.h"
-#include "session/workbook_store.h"
 #include "session_doubles/item.h"
 #include "session_doubles/test_session.h"
 

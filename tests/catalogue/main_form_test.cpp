@@ -9,7 +9,7 @@
 #include "forms_double/user.h"
 #include "forms_double/windowless_desktop.h"
 #include "office/failure.h"
-#include "session/workbook_store.h"
+#include "session/store_sheet.h"
 #include "session_doubles/test_session.h"
 
 namespace {

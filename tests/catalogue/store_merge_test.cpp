@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "loaded_list.h"
+#include "session/store_sheet.h"
 #include "session/workbook_store.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include "office/failure.h"
 #include "powerpoint/layout_form.h"
 #include "powerpoint/picture_styles_form.h"
-#include "session/workbook_store.h"
+#include "session/store_sheet.h"
 #include "session_doubles/test_session.h"
 
 namespace {

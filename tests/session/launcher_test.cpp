@@ -6,7 +6,7 @@
 
 #include "office/failure.h"
 #include "session/launcher.h"
-#include "session/workbook_store.h"
+#include "session/store_sheet.h"
 #include "session_doubles/test_session.h"
 #include "support/automation.h"
 

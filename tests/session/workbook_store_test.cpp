@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "session/store_sheet.h"
 #include "session/workbook_store.h"
 #include "session_doubles/test_session.h"
 #include "support/automation.h"
