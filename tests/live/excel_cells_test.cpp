@@ -1,3 +1,5 @@
+#include <com/sun/star/sheet/XNamedRanges.hpp>
+
 #include <utility>
 
 #include "live/live_suite.h"
@@ -117,6 +119,18 @@ TEST_F(ExcelCells, ListsNamesAsExcelDoes) {
     EXPECT_EQ(addressOf("Wide!Print_Titles"), "$1:$2");
     EXPECT_EQ(failureOf([&] { addressOf("OffSheet"); }), refused);
     EXPECT_EQ(failureOf([&] { book.get("Names").call("Add", "loc1", "=Data!$A$1"); }), refused);
+}
+
+TEST_F(ExcelCells, LooksForANameOnceAndFindsWhatBearsItNow) {
+    const Object name = book.get("Names").call("Add", "Moves", "=Data!$A$1").toObject();
+    const auto address = [&] { return name.get("RefersToRange").get("Address").toText(); };
+    EXPECT_EQ(address(), "$A$1");
+    EXPECT_LE(callsOf([&] { name.get("RefersToRange"); }), 2U) << "its contents, its sheet";
+    const auto names = property<uno::Reference<css::sheet::XNamedRanges>>(model(), "NamedRanges");
+    names->removeByName("Moves");
+    EXPECT_NE(failureOf([&] { name.get("RefersToRange"); }), 0);
+    names->addNewByName("Moves", "$Data.$B$2", {}, 0);
+    EXPECT_EQ(address(), "$B$2");
 }
 
 }  // namespace

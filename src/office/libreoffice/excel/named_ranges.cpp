@@ -91,19 +91,30 @@ std::optional<rtl::OUString> NamedRanges::storedName(std::string_view name) cons
     return ranges_->hasByName(prefixed) ? std::optional(prefixed) : std::nullopt;
 }
 
-uno::Reference<css::sheet::XNamedRange> NamedRanges::fetch(const std::string& name) const {
+/// LibreOffice's object of a name stands for whatever bears that name now; it has no contents when
+/// nothing does.
+uno::Reference<css::sheet::XNamedRange> NamedRanges::fetch(const std::string& name) {
+    if (const auto known = fetched_.find(name); known != fetched_.end()) return known->second;
+    uno::Reference<css::sheet::XNamedRange> range;
     try {
-        return {ranges_->getByName(toUno(name)), uno::UNO_QUERY_THROW};
+        range.set(ranges_->getByName(toUno(name)), uno::UNO_QUERY_THROW);
     } catch (const css::container::NoSuchElementException&) {
         const auto stored = storedName(name);
         if (!stored) throw;
-        return {ranges_->getByName(*stored), uno::UNO_QUERY_THROW};
+        range.set(ranges_->getByName(*stored), uno::UNO_QUERY_THROW);
     }
+    fetched_[name] = range;
+    return range;
 }
 
 std::optional<model::NamedCells> NamedRanges::cells(const std::string& name) {
-    const auto range = fetch(name);
-    const std::string contents = fromUno(range->getContent());
+    auto range = fetch(name);
+    std::string contents = fromUno(range->getContent());
+    if (contents.empty()) {
+        fetched_.erase(name);
+        range = fetch(name);
+        contents = fromUno(range->getContent());
+    }
     if (const auto cells = cellsOfContents(contents)) {
         const model::SheetPtr sheet = book_.findSheet(cells->sheet);
         if (!sheet) return std::nullopt;

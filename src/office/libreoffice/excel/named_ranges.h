@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "office/libreoffice/uno_values.h"
@@ -32,12 +33,14 @@ public:
 
 private:
     [[nodiscard]] std::optional<rtl::OUString> storedName(std::string_view name) const;
-    [[nodiscard]] uno::Reference<css::sheet::XNamedRange> fetch(const std::string& name) const;
+    [[nodiscard]] uno::Reference<css::sheet::XNamedRange> fetch(const std::string& name);
     [[nodiscard]] std::optional<office::model::excel::NamedCells> referred(
         const uno::Reference<css::sheet::XNamedRange>& range) const;
 
     CalcDocument& book_;
     uno::Reference<css::sheet::XNamedRanges> ranges_;
+    /// Asked for once each: a workbook may have thousands, and each is looked at several times.
+    std::unordered_map<std::string, uno::Reference<css::sheet::XNamedRange>> fetched_;
 };
 
 }  // namespace libreoffice::excel
