@@ -5,6 +5,7 @@
 namespace contract {
 
 std::unique_ptr<Environment> ContractTest::environment_;
+Object ContractTest::source_;
 Object ExcelContract::kept_;
 
 void ContractTest::SetUpTestSuite() {
@@ -12,7 +13,27 @@ void ContractTest::SetUpTestSuite() {
 }
 
 void ContractTest::TearDownTestSuite() {
+    if (!source_.isNothing()) failureOf([] { source_.call("Close", false); });
+    source_ = {};
     environment_.reset();
+}
+
+Object ContractTest::source() {
+    if (source_.isNothing())
+        source_ = suite()
+                      .attach("Excel.Application")
+                      .get("Workbooks")
+                      .call("Open", environment().document("contract-book.xlsx"))
+                      .toObject();
+    return source_;
+}
+
+void ContractTest::copyItem(std::string_view what) {
+    const Value sheet = source().get("Sheets").get("Item", "Sales");
+    const Value chart = sheet.get("ChartObjects").get("Item", "Trend");
+    if (what == "chart") chart.call("Copy");
+    if (what == "cells") sheet.get("Range", "A1:C4").call("Copy");
+    if (what == "picture") chart.call("CopyPicture");
 }
 
 void ExcelContract::SetUp() {
@@ -76,21 +97,6 @@ void WordContract::SetUp() {
 
 void WordContract::TearDown() {
     failureOf([&] { document.call("Close", false); });
-    if (!book_.isNothing()) failureOf([&] { book_.call("Close", false); });
-}
-
-void WordContract::copy(std::string_view what) {
-    if (book_.isNothing())
-        book_ = suite()
-                    .attach("Excel.Application")
-                    .get("Workbooks")
-                    .call("Open", environment().document("contract-book.xlsx"))
-                    .toObject();
-    const Value sheet = book_.get("Sheets").get("Item", "Sales");
-    const Value chart = sheet.get("ChartObjects").get("Item", "Trend");
-    if (what == "chart") chart.call("Copy");
-    if (what == "cells") sheet.get("Range", "A1:C4").call("Copy");
-    if (what == "picture") chart.call("CopyPicture");
 }
 
 void WordContract::goToNewPage() const {

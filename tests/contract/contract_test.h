@@ -38,8 +38,15 @@ protected:
     static Environment& environment() { return *environment_; }
     static office::Suite& suite() { return environment_->suite(); }
 
+    /// Copies the chart "Trend", cells or a picture of contract-book.xlsx, which then stays open
+    /// for the tests that follow.
+    static void copyItem(std::string_view what);
+
 private:
+    static Object source();
+
     static std::unique_ptr<Environment> environment_;
+    static Object source_;
 };
 
 /// With contract-book.xlsx open, its first sheet active. To load it costs more than most tests: one
@@ -101,8 +108,6 @@ protected:
     [[nodiscard]] Object shapes(const char* collection) const {
         return document.get(collection).toObject();
     }
-    /// Copies the chart "Trend", cells or a picture of a workbook that is open then.
-    void copy(std::string_view what);
     /// Puts the caret behind all text, on a page of its own, as every export does.
     void goToNewPage() const;
     /// A copy of the document as it is now.
@@ -110,9 +115,6 @@ protected:
 
     Object word;
     Object document;
-
-private:
-    Object book_;
 };
 
 }  // namespace contract

@@ -6,32 +6,12 @@ namespace contract {
 
 namespace {
 
-/// With contract-book.xlsx open beside the presentation.
 class PasteContract : public PowerPointContract {
 protected:
     void SetUp() override {
         PowerPointContract::SetUp();
         suite().clearClipboard();
-        book = suite()
-                   .attach("Excel.Application")
-                   .get("Workbooks")
-                   .call("Open", environment().document("contract-book.xlsx"))
-                   .toObject();
     }
-    void TearDown() override {
-        failureOf([&] { book.call("Close", false); });
-        PowerPointContract::TearDown();
-    }
-
-    void copy(std::string_view what) const {
-        const Value sheet = book.get("Sheets").get("Item", "Sales");
-        const Value chart = sheet.get("ChartObjects").get("Item", "Trend");
-        if (what == "chart") chart.call("Copy");
-        if (what == "cells") sheet.get("Range", "A1:C4").call("Copy");
-        if (what == "picture") chart.call("CopyPicture");
-    }
-
-    Object book;
 };
 
 /// What a suite can't make it says, and then nothing is on the slide.
@@ -48,7 +28,7 @@ TEST_F(PasteContract, PutsWhatWasCopiedOnTheSlideInEachForm) {
              {std::pair(0, false), {png, false}, {embedded, false}, {0, true}}) {
             SCOPED_TRACE(std::string(what) + " " + std::to_string(type) + (link ? " linked" : ""));
             const std::int32_t before = shapes.get("Count").toLong();
-            copy(what);
+            copyItem(what);
             const std::int32_t failure =
                 failureOf([&, &type = type, &link = link] { paste(type, link); });
             const bool isPlain = type == png || (*what == 'p' && type == 0 && !link);
@@ -75,7 +55,7 @@ TEST_F(PasteContract, PutsWhatWasCopiedOnTheSlideInEachForm) {
 TEST_F(PasteContract, RefusesToPasteNothingAndWhatIsNotKnown) {
     const Value shapes = slide(3).get("Shapes");
     EXPECT_EQ(failureOf([&] { shapes.call("PasteSpecial", 0); }), refused);
-    copy("chart");
+    copyItem("chart");
     EXPECT_EQ(failureOf([&] { shapes.call("PasteSpecial", 99); }), 5);
 }
 

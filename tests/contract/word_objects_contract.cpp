@@ -8,7 +8,7 @@ namespace {
 
 /// What a suite can't make it says, and then nothing is put there.
 TEST_F(WordContract, IsNotEmptyWithATableAlone) {
-    copy("cells");
+    copyItem("cells");
     selection().call("PasteSpecial");
     EXPECT_GT(document.get("Range").get("StoryLength").toLong(), 1);
 }
@@ -32,7 +32,7 @@ TEST_F(WordContract, PutsWhatWasCopiedAtTheCaretInEachForm) {
             const std::int32_t before = all.get("Count").toLong();
             goToNewPage();
             const std::int32_t length = document.get("Range").get("StoryLength").toLong();
-            copy(what);
+            copyItem(what);
             const std::int32_t failure = failureOf([&] {
                 if (form.isObject)
                     selection().call("PasteSpecial", arg("Link", form.isLink), arg("DataType", 0),
@@ -76,7 +76,7 @@ TEST_F(WordContract, TakesThePictureOfAFileInItsOwnSize) {
 }
 
 TEST_F(WordContract, PutsAPictureOverTheText) {
-    copy("picture");
+    copyItem("picture");
     selection().call("PasteSpecial", arg("Placement", 1));
     ASSERT_EQ(shapes("Shapes").get("Count").toLong(), 1);
     EXPECT_EQ(shapes("InlineShapes").get("Count").toLong(), 0);
@@ -86,12 +86,12 @@ TEST_F(WordContract, PutsAPictureOverTheText) {
 TEST_F(WordContract, CountsObjectsInTheOrderOfReading) {
     const Value all = shapes("InlineShapes");
     EXPECT_EQ(failureOf([&] { static_cast<void>(all.get("Item", 1)); }), subscriptOutOfRange);
-    copy("picture");
+    copyItem("picture");
     selection().call("Paste");
     all.get("Item", 1).put("Width", 50);
     // Ahead of the one that is there.
     selection().call("HomeKey");
-    copy("picture");
+    copyItem("picture");
     selection().call("Paste");
     ASSERT_EQ(all.get("Count").toLong(), 2);
     EXPECT_NEAR(all.get("Item", 2).get("Width").toDouble(), 50, 0.5);
@@ -100,7 +100,7 @@ TEST_F(WordContract, CountsObjectsInTheOrderOfReading) {
 }
 
 TEST_F(WordContract, GivesAPictureAShadow) {
-    copy("picture");
+    copyItem("picture");
     selection().call("Paste");
     const Value shadow = shapes("InlineShapes").get("Item", 1).get("Shadow");
     EXPECT_EQ(shadow.get("Visible").toLong(), 0);

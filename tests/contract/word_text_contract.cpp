@@ -52,7 +52,7 @@ TEST_F(WordContract, AppendsPagesBehindAllText) {
     selection().call("TypeText", "as it was");
     for (int i = 0; i < 2; ++i) {
         goToNewPage();
-        copy("picture");
+        copyItem("picture");
         selection().call("TypeParagraph");
         selection().call("Paste");
     }

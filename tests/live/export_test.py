@@ -1,8 +1,12 @@
-"""The sample workbook, from the command line to the slides of the presentation that comes out."""
+"""The sample workbook, from the command line to all that can be made of it."""
 
 import json
+import pathlib
+import re
 import subprocess
+import tempfile
 import unittest
+from xml.etree import ElementTree
 
 import xlsxwriter
 from program import SAMPLES, Package, ProgramTest, png_lines, png_size, slides_of
@@ -12,6 +16,20 @@ BOOK = SAMPLES / "Harbour Logistics 2026.xlsx"
 DECK = SAMPLES / "Board deck.pptx"
 SLIDES_OF_DECK = 3
 WIDTH, HEIGHT = 960.0, 540.0
+ITEMS, CHARTS, RANGES = 24, 14, 10
+W = "{http://schemas.openxmlformats.org/wordprocessingml/2006/main}"
+
+
+def said_by(*command):
+    return subprocess.run(command, capture_output=True, text=True, check=True).stdout
+
+
+def body_of(document):
+    return ElementTree.fromstring(Package(document).read("word/document.xml"))
+
+
+def named(item):
+    return f'{item["name"]}@{item["sheet"]}'
 
 
 class TheSampleWorkbook(ProgramTest):
@@ -27,9 +45,6 @@ class TheSampleWorkbook(ProgramTest):
             TheSampleWorkbook.listed = json.loads(output)["items"]
         return TheSampleWorkbook.listed
 
-    def charts(self):
-        return [item for item in self.items() if item["kind"] == "Embedded" and item["checked"]]
-
     def export(self, *arguments):
         output = self.folder / "Result.pptx"
         code, _, errors = self.run_program(BOOK, "--into", DECK, "--output", output, *arguments)
@@ -38,9 +53,14 @@ class TheSampleWorkbook(ProgramTest):
         return slides_of(output)
 
     def whole(self):
-        """The slides of all items that are checked."""
+        """The slides of all items that are checked, and the folder of all else that came out of the same run."""
         if TheSampleWorkbook.exported is None:
-            TheSampleWorkbook.exported = self.export("--titles", "--source")[SLIDES_OF_DECK:]
+            place = pathlib.Path(tempfile.mkdtemp(dir=self.cache))
+            outputs = [part for name in ("r.docx", "r.pdf", "page", "images") for part in ("--output", place / name)]
+            slides = self.export("--to", "slides", "--to", "word", "--to", "pdf", "--to", "html", "--to", "images", *outputs,
+                                 "--titles", "--source", "--cover", r"Harbour Logistics\nin 2026", "--image-format", "jpeg",
+                                 "--captions-below", "--same-width")
+            TheSampleWorkbook.exported = slides[SLIDES_OF_DECK:], place
         return TheSampleWorkbook.exported
 
     def test_is_listed_with_its_stored_choice_and_without_what_is_hidden(self):
@@ -52,7 +72,7 @@ class TheSampleWorkbook(ProgramTest):
     def test_arrives_whole_in_list_order_with_titles_and_source_and_is_never_written_over(self):
         checked = [item for item in self.items() if item["checked"]]
         before = BOOK.read_bytes(), DECK.read_bytes()
-        slides = self.whole()
+        slides, _ = self.whole()
         self.assertGreaterEqual(len(checked), 12)
         self.assertEqual(len(slides), len(checked))
         for item, slide in zip(checked, slides):
@@ -83,29 +103,90 @@ class TheSampleWorkbook(ProgramTest):
         self.assertGreater(pixels_wide / (picture["width"] / 72), 287)
         self.assertGreater(pixels_high / (picture["height"] / 72), 287)
 
+    def test_goes_to_the_other_destinations_in_the_same_run(self):
+        _, place = self.whole()
+        document, pdf, page, images = (place / name for name in ("r.docx", "r.pdf", "page", "images"))
+        self.assertEqual(faults(document), [])
+        body = body_of(document)
+        self.assertEqual(len(list(body.iter(W + "drawing"))), ITEMS)
+        self.assertEqual(len(list(body.iter(W + "pageBreakBefore"))), ITEMS - 1)
+
+        lines = (line.partition(":") for line in said_by("pdfinfo", pdf).splitlines())
+        said = {name: value.strip() for name, _, value in lines}
+        self.assertEqual((said["Pages"], said["Tagged"], said["Title"]), (str(ITEMS + 1), "yes", BOOK.name))
+        pages = said_by("pdftotext", "-layout", pdf, "-").split("\f")
+        self.assertIn("in 2026", pages[0])
+        self.assertTrue(all(str(BOOK) in page for page in pages[1:ITEMS + 1]), "each page names its source")
+        self.assertIn("Westkai", "".join(pages), "cells are text")
+
+        (html,) = page.glob("*.html")
+        pictures = re.findall(r'src=["\']?([^"\'> ]+)', html.read_text())
+        self.assertEqual(len(pictures), ITEMS)
+        self.assertTrue(all((page / picture).is_file() for picture in pictures), pictures)
+        self.assertEqual(len(list(images.glob("*.jpg"))), ITEMS)
+        self.assertTrue(all(file.read_bytes()[:3] == b"\xff\xd8\xff" for file in images.iterdir()))
+
+    def test_becomes_charts_and_tables_that_can_be_edited(self):
+        document, page = self.folder / "r.docx", self.folder / "page"
+        code, _, errors = self.run_program(BOOK, "--format", "editable", "--yes", "--to", "word", "--output", document,
+                                           "--to", "html", "--output", page)
+        self.assertEqual(code, 0, errors)
+        self.assertEqual(faults(document), [])
+        charts = [name for name in Package(document).names if re.fullmatch(r"word/charts/chart[^/]+\.xml", name)]
+        self.assertEqual((len(charts), len(list(body_of(document).iter(W + "tbl")))), (CHARTS, RANGES))
+        (html,) = page.glob("*.html")
+        self.assertEqual(said_by("tidy", "-e", "-q", "-utf8", html), "")
+        self.assertGreaterEqual(html.read_text().count("<table"), RANGES)
+        self.assertIn("Westkai", html.read_text())
+
+    def one_of_each_kind(self):
+        kinds = {item["kind"]: item for item in self.items() if item["checked"]}
+        self.assertEqual(len(kinds), 3, "a chart, a chart sheet and a range")
+        return list(kinds.values())
+
+    def in_vectors(self, kind, sign, items, *arguments):
+        """The new slides of a presentation; it and a document beside it hold a vector for each item."""
+        document = self.folder / "Result.docx"
+        chosen = [part for item in items for part in ("--items", named(item))]
+        slides = self.export(*chosen, "--pictures", kind, "--to", "slides", "--to", "word", "--output", document,
+                             *arguments)[SLIDES_OF_DECK:]
+        self.assertEqual(faults(document), [])
+        for package in (Package(self.folder / "Result.pptx"), Package(document)):
+            vectors = [package.file.read(name) for name in package.file.namelist() if name.endswith("." + kind)]
+            self.assertEqual(len(vectors), len(items))
+            for one in vectors:
+                self.assertIn(sign, one[:200])
+                self.assertNotIn(b"DOCTYPE", one)
+        return slides
+
+    def test_goes_in_vectors_to_where_its_pictures_stand(self):
+        items = self.one_of_each_kind()
+        plain = dict(zip(map(named, filter(lambda item: item["checked"], self.items())), self.whole()[0], strict=True))
+        order = [part for item in items for part in ("--order", named(item))]
+        for item, slide in zip(items, self.in_vectors("emf", b" EMF", items, *order), strict=True):
+            (picture,), (was,) = slide.pictures, plain[named(item)].pictures
+            for side in ("left", "top", "width", "height"):
+                self.assertAlmostEqual(picture[side], was[side], delta=0.6)
+
     def test_takes_items_captions_order_placement_and_style_and_the_suite_draws_what_comes_out(self):
-        charts = self.charts()[:3]
+        items = self.one_of_each_kind()
         captions = self.folder / "captions.csv"
         captions.write_text("item,sheet,caption,slide\n" + "".join(
-            f'"{c["name"]}","{c["sheet"]}","Caption, {n} <&> ""quoted"" é",\n' for n, c in enumerate(charts)),
+            f'"{item["name"]}","{item["sheet"]}","Caption, {n} <&> ""quoted"" é",\n' for n, item in enumerate(items)),
             encoding="utf-8")
-        names = [f'{c["name"]}@{c["sheet"]}' for c in charts]
-        slides = self.export("--titles", "--captions", captions, "--style", "rounded",
-                             "--width", "0.5", "--left", "0.25", "--top", "0.3",
-                             *[part for name in names for part in ("--items", name)],
-                             *[part for name in reversed(names) for part in ("--order", name)])
-        self.assertEqual([slide.title for slide in slides[SLIDES_OF_DECK:]],
-                         [f'Caption, {n} <&> "quoted" é' for n in (2, 1, 0)])
-        for slide in slides[SLIDES_OF_DECK:]:
+        slides = self.in_vectors("svg", b"<svg", items, "--titles", "--captions", captions, "--style", "rounded",
+                                 "--width", "0.5", "--left", "0.25", "--top", "0.3",
+                                 *[part for item in reversed(items) for part in ("--order", named(item))])
+        self.assertEqual([slide.title for slide in slides], [f'Caption, {n} <&> "quoted" é' for n in (2, 1, 0)])
+        for slide in slides:
             (picture,) = slide.pictures
             self.assertAlmostEqual(picture["left"], WIDTH * 0.25, delta=0.1)
             self.assertAlmostEqual(picture["top"], HEIGHT * 0.3, delta=0.1)
             self.assertLessEqual(picture["width"], WIDTH * 0.5 + 0.1)
 
         self.as_pdf(self.folder / "Result.pptx")
-        text = subprocess.run(["pdftotext", str(self.folder / "Result.pdf"), "-"], check=True, capture_output=True,
-                              text=True).stdout
-        self.assertEqual(text.count("\f"), len(slides))
+        text = said_by("pdftotext", self.folder / "Result.pdf", "-")
+        self.assertEqual(text.count("\f"), SLIDES_OF_DECK + len(slides))
 
     def test_says_what_tables_lose_before_it_writes_any(self):
         path, output = self.folder / "losses.xlsx", self.folder / "losses.pptx"
@@ -130,29 +211,6 @@ class TheSampleWorkbook(ProgramTest):
                             ("drawings", '"All_of_it" and "Covered"'), ("5,000", '"Big"')):
             self.assertRegex(errors, f"(?m)^  - [^\"]*{names} .*{loss}")
         self.assertNotRegex(errors, "Plain|Whole")
-
-    def test_goes_in_vectors_to_where_its_pictures_stand(self):
-        checked = [item for item in self.items() if item["checked"]]
-        kinds = {item["kind"]: f'{item["name"]}@{item["sheet"]}' for item in checked}
-        self.assertEqual(len(kinds), 3, "a chart, a chart sheet and a range")
-        chosen = [part for name in kinds.values() for part in ("--items", name)]
-        plain = [slide for item, slide in zip(checked, self.whole(), strict=True)
-                 if f'{item["name"]}@{item["sheet"]}' in kinds.values()]
-        for kind, sign in (("svg", b"<svg"), ("emf", b" EMF")):
-            document = self.folder / "Result.docx"
-            slides = self.export(*chosen, "--overwrite", "--pictures", kind, "--to", "slides", "--to", "word",
-                                 "--output", document)[SLIDES_OF_DECK:]
-            for slide, before in zip(slides, plain, strict=True):
-                (picture,), (was,) = slide.pictures, before.pictures
-                for side in ("left", "top", "width", "height"):
-                    self.assertAlmostEqual(picture[side], was[side], delta=0.6)
-            self.assertEqual(faults(document), [])
-            for package in (Package(self.folder / "Result.pptx"), Package(document)):
-                vectors = [package.file.read(name) for name in package.file.namelist() if name.endswith("." + kind)]
-                self.assertEqual(len(vectors), len(kinds))
-                for one in vectors:
-                    self.assertIn(sign, one[:200])
-                    self.assertNotIn(b"DOCTYPE", one)
 
 
 if __name__ == "__main__":

@@ -1,4 +1,4 @@
-"""Embedded workbooks and links in presentations as files: valid, on their sheet, and nothing handed on that must stay."""
+"""Embedded workbooks and links in presentations and documents as files: valid, on their sheet, and nothing handed on that must stay."""
 
 import io
 import re
@@ -12,6 +12,7 @@ from validator import faults
 SECRET = "Zebra"
 SHOWN = rb'(?<=activeTab=")\d+|(?<=oleSize ref=")[A-Z0-9:]+'
 ITEMS = ("Own", "Total", "Whole", "Chart 1", "{Chart Sheet}@Plot")
+CHARTS = 2
 
 
 def write_book(path):
@@ -60,9 +61,11 @@ class AnObject(ProgramTest):
         output.parent.mkdir(exist_ok=True)
         write_book(book)
         items = [word for item in ITEMS for word in ("--items", item)]
-        code, _, errors = self.run_program(book, *items, "--yes", "--format", form, "--output", output, *arguments)
+        code, _, errors = self.run_program(book, *items, "--yes", "--format", form, "--output", output, *arguments,
+                                           "--output", output.with_suffix(".docx"))
         self.assertEqual(code, 0, errors)
         slides_of(output)
+        self.assertEqual(faults(output.with_suffix(".docx")), [])
         package = Package(output)
         books = sorted(name for name in package.names if "/embeddings/" in name)
         books = [zipfile.ZipFile(io.BytesIO(package.read(name))) for name in books]
@@ -74,8 +77,15 @@ class AnObject(ProgramTest):
             self.assertEqual(faults(self.folder / "part.xlsx"), [])
         return package, books
 
+    def parts_of_document(self, form, pattern):
+        """How many parts of its name the document has, and how many tables."""
+        document = Package(self.folder / "decks" / f"{form}.docx")
+        return (len([name for name in document.names if re.fullmatch(pattern, name)]),
+                document.read("word/document.xml").count(b"<w:tbl>"))
+
     def test_holds_a_workbook_each(self):
         _, books = self.export("embedded")
+        self.assertEqual(self.parts_of_document("embedded0", r"word/embeddings/[^/]+\.xlsx"), (len(ITEMS), 0))
         mains = [book.read("xl/workbook.xml").decode() for book in books]
         for shown in ('activeTab="1"', 'activeTab="2"', '<oleSize ref="B2:D6"/>', '<oleSize ref="C6"/>'):
             self.assertTrue(any(shown in main for main in mains), shown)
@@ -102,6 +112,7 @@ class AnObject(ProgramTest):
         (self.folder / "decks" / "linked2.pptx").symlink_to("../elsewhere/now/deck.pptx")
         package, books = self.export("linked", "--links", "relative")
         self.assertEqual(books, [])
+        self.assertEqual(self.parts_of_document("linked2", r"word/charts/chart[^/]+\.xml"), (CHARTS, 0))
         related = "".join(package.read(name).decode() for name in package.names if "/slides/_rels/" in name)
         for cells in ("R2C2:R6C4", "C2:C4"):
             self.assertIn(f'Target="../../Gr%C3%B6%C3%9Fe%20%26%20co.xlsx!Own%20data!{cells}" TargetMode="External"', related)

@@ -1,5 +1,6 @@
 """Runs murvane-export as a user's script does, in a home of its own, and looks for what it left behind."""
 
+import atexit
 import glob
 import os
 import pathlib
@@ -162,16 +163,9 @@ def png_lines(data):
 class ProgramTest(unittest.TestCase):
     """A folder of its own for each test; at its end nothing may be left of the program."""
 
-    cache = None
-
-    @classmethod
-    def setUpClass(cls):
-        # One profile for all tests of a class: only the first start of the suite is a cold one.
-        cls.cache = tempfile.mkdtemp(prefix="murvane-test-cache-")
-
-    @classmethod
-    def tearDownClass(cls):
-        shutil.rmtree(cls.cache, ignore_errors=True)
+    # One profile for all tests of a program: only the first start of the suite is a cold one.
+    cache = tempfile.mkdtemp(prefix="murvane-test-cache-")
+    atexit.register(shutil.rmtree, cache, ignore_errors=True)
 
     def setUp(self):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="murvane-test-"))

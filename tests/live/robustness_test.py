@@ -90,19 +90,19 @@ class AnEndedRun(ProgramTest):
     def test_ends_with_a_report_when_the_suite_is_killed(self):
         def kill_suite(process, suite):
             os.kill(suite, signal.SIGKILL)
-        self.strike_at_many_points(kill_suite, points=8)
+        self.strike_at_many_points(kill_suite, points=6)
         for self.form in PASTED:
-            self.strike_at_many_points(kill_suite, points=3)
+            self.strike_at_many_points(kill_suite, points=2)
 
     def test_ends_with_a_report_on_ctrl_c(self):
-        self.strike_at_many_points(lambda process, suite: process.send_signal(signal.SIGINT), points=4)
+        self.strike_at_many_points(lambda process, suite: process.send_signal(signal.SIGINT), points=3)
 
     def test_ends_with_a_report_when_it_is_told_to_terminate(self):
-        self.strike_at_many_points(lambda process, suite: process.send_signal(signal.SIGTERM), points=2)
+        self.strike_at_many_points(lambda process, suite: process.send_signal(signal.SIGTERM), points=1)
 
     def test_takes_the_suite_with_it_when_it_is_killed_itself_and_leaves_nothing_that_looks_finished(self):
         self.whole_run_seconds()
-        for share in (0.0, 0.3, 0.6):
+        for share in (0.1, 0.6):
             self.until_struck(lambda: self.killed_at(share))
         # What was begun goes with the next run beside it.
         outputs = self.folder / "out"
