@@ -13,8 +13,8 @@ namespace unattended {
 /// The items as JSON, for programs:
 ///
 ///     {"workbook": "/path/book.xlsx", "items": [{"name": "Chart 1", "sheet": "Sales",
-///       "kind": "Embedded", "checked": true, "missing": false, "severalAreas": false, "slide": "3",
-///       "caption": ""}]}
+///       "kind": "Embedded", "checked": true, "missing": false, "severalAreas": false, "slide":
+///       "3", "caption": ""}]}
 ///
 /// The kinds are "Embedded", "Chart" (a chart sheet, named "{Chart Sheet}") and "Range". A range of
 /// several areas can't be exported, nor what is hidden or no longer there, "missing".
