@@ -10,5 +10,8 @@ namespace office {
 /// ("file:///home/ann/Sales%202026.xlsx").
 [[nodiscard]] std::string fileAddress(const std::filesystem::path& file,
                                       const std::filesystem::path& base = {});
+/// The same as a link in an Office document leads there, its names spelled by `linkWord`.
+[[nodiscard]] std::string linkAddress(const std::filesystem::path& file,
+                                      const std::filesystem::path& base = {});
 
 }  // namespace office

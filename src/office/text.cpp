@@ -165,6 +165,21 @@ std::string addressWord(std::string_view text) {
     return word;
 }
 
+std::string linkWord(std::string_view text) {
+    constexpr char32_t firstOfNone = 0xFFFE;
+    std::string word;
+    for (std::size_t i = 0; i < text.size();) {
+        const std::size_t length = characterLength(text, i);
+        const std::string_view character = text.substr(i, std::max<std::size_t>(length, 1));
+        // Markup holds neither single bytes nor the two that stand for no character.
+        const char32_t code = characterAt(text, i);
+        const bool stays = length > 1 && code != firstOfNone && code != firstOfNone + 1;
+        word += stays ? std::string(character) : addressWord(character);
+        i += character.size();
+    }
+    return word;
+}
+
 std::optional<double> numberOf(std::string_view text) {
     std::string_view digits = trim(text);
     if (digits.starts_with('+')) digits.remove_prefix(1);

@@ -36,6 +36,9 @@ namespace office {
 
 /// A text as it stands in an address: everything escaped but letters, digits and -._~
 [[nodiscard]] std::string addressWord(std::string_view text);
+/// The same for the address that a link in an Office document leads to: letters beyond ASCII stay,
+/// as Office writes them. What is escaped there Windows reads by its code page.
+[[nodiscard]] std::string linkWord(std::string_view text);
 
 /// With the five characters that mean something in markup replaced.
 [[nodiscard]] std::string escapeMarkup(std::string_view text);

@@ -115,7 +115,7 @@ class AnObject(ProgramTest):
         self.assertEqual(self.parts_of_document("linked2", r"word/charts/chart[^/]+\.xml"), (CHARTS, 0))
         related = "".join(package.read(name).decode() for name in package.names if "/slides/_rels/" in name)
         for cells in ("R2C2:R6C4", "C2:C4"):
-            self.assertIn(f'Target="../../Gr%C3%B6%C3%9Fe%20%26%20co.xlsx!Own%20data!{cells}" TargetMode="External"', related)
+            self.assertIn(f'Target="../../Größe%20%26%20co.xlsx!Own%20data!{cells}" TargetMode="External"', related)
 
 
 if __name__ == "__main__":

@@ -40,6 +40,10 @@ TEST(Text, TellsNamesakesApart) {
               (Names{"Sales", "sales (2)", "SALES (3)", "", "Sales (4)", "", "Ü", "ü (2)"}));
 }
 
+TEST(Text, KeepsTheLettersOfEveryScriptInALink) {
+    EXPECT_EQ(office::linkWord("a ü/売上\xFF\xEF\xBF\xBE%"), "a%20ü%2F売上%FF%EF%BF%BE%25");
+}
+
 TEST(Text, SortsAsTheEyeDoes) {
     const std::vector<std::string> sorted = {"", "10", "9", "Apfel", "ärger", "Zebra", "日本"};
     for (std::size_t i = 1; i < sorted.size(); ++i) {

@@ -126,9 +126,9 @@ TEST_F(ObjectOnASlide, LinksToTheCellsByTheirNumbers) {
     const std::string book = writeBook("Größe 1.xlsx");
     const std::string here = folder.path().string();
     const std::pair<std::string, std::string> rows[] = {
-        {"", fmt::format("file://{}/Gr%C3%B6%C3%9Fe%201.xlsx!Other%20%27x%27!R5C2:R8C7", here)},
-        {here, "./Gr%C3%B6%C3%9Fe%201.xlsx!Other%20%27x%27!R5C2:R8C7"},
-        {here + "/decks", "../Gr%C3%B6%C3%9Fe%201.xlsx!Other%20%27x%27!R5C2:R8C7"},
+        {"", fmt::format("file://{}/Größe%201.xlsx!Other%20%27x%27!R5C2:R8C7", here)},
+        {here, "./Größe%201.xlsx!Other%20%27x%27!R5C2:R8C7"},
+        {here + "/decks", "../Größe%201.xlsx!Other%20%27x%27!R5C2:R8C7"},
     };
     for (const auto& [base, address] : rows) {
         const Object deck = openDeck(false, base);

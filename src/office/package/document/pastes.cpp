@@ -51,7 +51,7 @@ bool pasteChart(FileDocument& document, const Copied& copied, PasteAs as,
         refuse(pasteSpecial, "The chart can't be linked to: " + chart.obstacle);
     }
     const std::string link =
-        as == PasteAs::Linked ? fileAddress(chart.book->path(), document.rules().linkBase) : "";
+        as == PasteAs::Linked ? linkAddress(chart.book->path(), document.rules().linkBase) : "";
     const std::string part = document.charts().add(std::move(chart), copied, link);
     const std::string relationship =
         document.package().relationshipsOf(document.mainPart()).add("chart", part);

@@ -253,7 +253,7 @@ FileShapePtr FileSlide::pasteChart(const Copied& copied, PasteAs as) {
         refuse("Shapes.PasteSpecial", "The chart can't be linked to: " + chart.obstacle);
     }
     const std::string link =
-        as == PasteAs::Linked ? fileAddress(chart.book->path(), deck_.rules().linkBase) : "";
+        as == PasteAs::Linked ? linkAddress(chart.book->path(), deck_.rules().linkBase) : "";
     const std::string part = deck_.charts().add(std::move(chart), copied, link);
     const std::string id = deck_.package().relationshipsOf(part_).add("chart", part);
     const model::PastePlace place =

@@ -28,7 +28,7 @@ std::string addressByNumbers(const CellBlock& cells) {
 std::string addressOfCells(const FileRules& rules, const CopySource& source) {
     const std::filesystem::path path(std::u8string(source.file.begin(), source.file.end()));
     const std::string address =
-        fmt::format("{}!{}!{}", fileAddress(path, rules.linkBase), addressWord(source.sheet),
+        fmt::format("{}!{}!{}", linkAddress(path, rules.linkBase), linkWord(source.sheet),
                     addressByNumbers(blockOf(source.address).value_or(CellBlock())));
     // The colon between two cells must not stand in the first name of a relative address.
     const bool isPlainName = address.find('/') == std::string::npos;
