@@ -184,6 +184,65 @@ TEST_F(DocumentPaste, TakesManyObjectsOfOneWorkbook) {
               2);
 }
 
+/// By how its lines are reckoned where it says so itself, in its style, in what that is based on,
+/// or in what all styles have in common.
+TEST_F(DocumentPaste, IsNoLineHighWhereLinesHaveAnExactHeight) {
+    const auto lines = [](const std::string& rule) {
+        return R"(<w:spacing w:after="60" w:line="280")" +
+               (rule.empty() ? "" : " w:lineRule=\"" + rule + "\"") + "/>";
+    };
+    const std::string exact = lines("exact");
+    struct {
+        std::string own, style, base, common;
+        Anchoring anchoring;
+        bool grows;
+    } const rows[] = {
+        {exact, "", "", "", Anchoring::Inline, true},
+        {"", exact, "", "", Anchoring::Inline, true},
+        {"", "", exact, "", Anchoring::Inline, true},
+        {"", "", "", exact, Anchoring::Inline, true},
+        {lines("atLeast"), exact, "", "", Anchoring::Inline, false},
+        {"", lines(""), exact, "", Anchoring::Inline, false},
+        {"", "<w:keepNext/>", lines("auto"), exact, Anchoring::Inline, false},
+        {exact, "", "", "", Anchoring::Floating, false},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.own + "|" + row.style + "|" + row.base + "|" + row.common);
+        const auto properties = [](const std::string& more) {
+            return "<w:pPr>" + more + "</w:pPr>";
+        };
+        Package package = support::emptyDocument();
+        support::edit(
+            package, textPart, "<w:p/>",
+            "<w:p>" +
+                properties(R"(<w:pStyle w:val="Letter"/>)" + row.own + R"(<w:jc w:val="left"/>)") +
+                "</w:p>");
+        std::string styles = package.read("/word/styles.xml");
+        const auto start = styles.find("<w:pPrDefault>");
+        ASSERT_NE(start, std::string::npos);
+        const std::string end = "</w:pPrDefault>";
+        styles.replace(start, styles.find(end) - start, "<w:pPrDefault>" + properties(row.common));
+        const auto style = [&](const std::string& id, const std::string& base,
+                               const std::string& looks) {
+            return fmt::format(
+                R"(<w:style w:type="paragraph" w:styleId="{0}"><w:name w:val="{0}"/>)"
+                R"(<w:basedOn w:val="{1}"/>{2}</w:style>)",
+                id, base, properties(looks));
+        };
+        package.replace("/word/styles.xml",
+                        office::replaceAll(styles, "</w:styles>",
+                                           style("Letter", "Base", row.style) +
+                                               style("Base", "Base", row.base) + "</w:styles>"));
+        const auto document = documents->add(std::move(package), "", "Document");
+        document->paste(CopiedDouble({Kind::Picture, "", "", "", ""}, 240, 150), PasteAs::Default,
+                        row.anchoring);
+        const auto again = saved(*document);
+        const auto spacing = again->body().child("w:p").child("w:pPr").child("w:spacing");
+        EXPECT_EQ(spacing.attribute("w:line").value() == std::string("240"), row.grows);
+        EXPECT_EQ(spacing.attribute("w:lineRule").value() == std::string("auto"), row.grows);
+    }
+}
+
 TEST_F(DocumentPaste, GivesPicturesAndChartsAShadow) {
     const std::string book = writeBook();
     for (const Kind kind : {Kind::Picture, Kind::Chart}) {

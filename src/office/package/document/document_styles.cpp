@@ -54,6 +54,14 @@ std::string nameIn(pugi::xml_node style) {
 
 }  // namespace
 
+std::string lineRuleIn(pugi::xml_node properties) {
+    const auto spacing = childNamed(properties, ns::word, "spacing");
+    const std::string_view rule = wordValue(spacing, "lineRule");
+    // A height without a rule is one in lines.
+    if (rule.empty() && !wordValue(spacing, "line").empty()) return "auto";
+    return std::string(rule);
+}
+
 pugi::xml_node DocumentStyles::root() {
     if (xml_) return xml_->root();
     Relationships& relationships = package_.relationshipsOf(document_);
@@ -132,6 +140,20 @@ std::string DocumentStyles::nextOf(const std::string& id) {
     const std::string next(wordValue(childNamed(style, ns::word, "next")));
     if (next.empty()) return id;
     return next == plain ? std::string() : next;
+}
+
+std::string DocumentStyles::lineRuleOf(const std::string& id) {
+    // Styles of a damaged document may be based on each other.
+    constexpr int longestChain = 50;
+    auto style = byId(id.empty() ? plainId() : id);
+    for (int i = 0; style && i < longestChain; ++i) {
+        std::string rule = lineRuleIn(childNamed(style, ns::word, "pPr"));
+        if (!rule.empty()) return rule;
+        const std::string_view base = wordValue(childNamed(style, ns::word, "basedOn"));
+        style = base.empty() ? pugi::xml_node() : byId(std::string(base));
+    }
+    const auto defaults = childNamed(root(), ns::word, "docDefaults");
+    return lineRuleIn(childNamed(childNamed(defaults, ns::word, "pPrDefault"), ns::word, "pPr"));
 }
 
 void DocumentStyles::write() {

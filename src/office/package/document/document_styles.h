@@ -9,6 +9,10 @@
 
 namespace office::package {
 
+/// How the height of lines is reckoned by the properties of a paragraph or a style: "exact",
+/// "atLeast", "auto"; empty if they don't say.
+[[nodiscard]] std::string lineRuleIn(pugi::xml_node properties);
+
 /// The styles of a document. Those that every document has are written into it once they are used.
 class DocumentStyles {
 public:
@@ -22,6 +26,9 @@ public:
     [[nodiscard]] std::string idOf(std::int32_t number);
     /// What the paragraph behind one of this style has; `id` is empty as above. `PackageError`.
     [[nodiscard]] std::string nextOf(const std::string& id);
+    /// How the lines of a style are reckoned, by itself, by what it is based on, or by what all
+    /// have in common; `id` is empty as above. `PackageError`.
+    [[nodiscard]] std::string lineRuleOf(const std::string& id);
     /// Hands changed styles to the package.
     void write();
 

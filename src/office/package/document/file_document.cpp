@@ -291,6 +291,9 @@ void FileDocument::insertObject(const std::string& run) {
             });
         return !isObject;
     });
+    const auto object = pasted_.lock();
+    if (object && object->anchoring() == word::Anchoring::Inline)
+        letLinesGrow(caret_.paragraph, styles_);
 }
 
 word::TextObjectPtr FileDocument::pasted() {

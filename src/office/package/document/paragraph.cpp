@@ -154,6 +154,14 @@ void keepWithNext(pugi::xml_node paragraph) {
     setOn(paragraph, "keepNext");
 }
 
+void letLinesGrow(pugi::xml_node paragraph, DocumentStyles& styles) {
+    const std::string own = lineRuleIn(propertiesOf(paragraph));
+    if ((own.empty() ? styles.lineRuleOf(styleOf(paragraph)) : own) != "exact") return;
+    const auto spacing = made(paragraph, "spacing");
+    setWordValue(spacing, "line", "240");
+    setWordValue(spacing, "lineRule", "auto");
+}
+
 pugi::xml_node contentOf(pugi::xml_node paragraph) {
     return paragraph.find_child([](const pugi::xml_node& child) {
         return child.type() == pugi::node_element && !isNamed(child, ns::word, "pPr");
