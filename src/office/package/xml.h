@@ -13,6 +13,8 @@ namespace ns {
 inline constexpr std::string_view presentation =
     "http://schemas.openxmlformats.org/presentationml/2006/main";
 inline constexpr std::string_view drawing = "http://schemas.openxmlformats.org/drawingml/2006/main";
+inline constexpr std::string_view drawing2010 =
+    "http://schemas.microsoft.com/office/drawing/2010/main";
 inline constexpr std::string_view relationships =
     "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
 inline constexpr std::string_view presentation2010 =

@@ -78,7 +78,14 @@ std::string chart() {
     return "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\" "
            "xmlns:c15=\"http://schemas.microsoft.com/office/drawing/2012/chart\">"
            "<c:pivotSource><c:name>Zebra</c:name></c:pivotSource>" +
-           series("Data") + series("Zebra") + hidden + "</c:chartSpace>";
+           series("Data") + series("Zebra") + hidden +
+           "<c:spPr><a:blip "
+           "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\"><a:extLst>"
+           "<a:ext><a14:imgProps "
+           "xmlns:a14=\"http://schemas.microsoft.com/office/drawing/2010/main\"><a14:imgLayer "
+           "xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\" "
+           "r:embed=\"rId1\"/></a14:imgProps></a:ext></a:extLst></a:blip></c:spPr>"
+           "</c:chartSpace>";
 }
 
 TEST(ASheetAlone, IsRefusedWithoutTheValuesThatItWouldHaveToKeep) {
@@ -241,6 +248,8 @@ TEST(ASheetAlone, HandsOnNothingOfTheOthers) {
                                 "</t></is></c></row></sheetData>")},
         {"xl/_rels/drawing1.xml.rels", relationshipsTo({{"chart", "chart1.xml"}})},
         {"xl/chart1.xml", chart()},
+        {"xl/_rels/chart1.xml.rels", relationshipsTo({{"hdphoto", "layer.wdp"}})},
+        {"xl/layer.wdp", "Zebra"},
     };
     const std::string text = folder.write("Book.xlsx", small_workbook::bytes(parts));
     WorkbookFile workbook{std::filesystem::path(text)};
@@ -275,6 +284,7 @@ TEST(ASheetAlone, HandsOnNothingOfTheOthers) {
                           "<c:pt idx=\"0\"><c:v>7</c:v></c:pt></c:numLit></c:val>"),
               std::string::npos)
         << values;
+    EXPECT_NE(values.find("<a:extLst/>"), std::string::npos) << values;
     EXPECT_FALSE(copy.has("/docProps/core.xml"));
 }
 

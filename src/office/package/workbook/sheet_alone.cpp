@@ -55,6 +55,14 @@ void dropDependent(const Xml& xml, const std::set<std::string>& gone) {
             break;
         }
     });
+    // The effects of a picture need the layer that they are laid upon.
+    const auto bare = elementsBelow(xml.root(), [](pugi::xml_node node) {
+        return isNamed(node, ns::drawing2010, "imgProps") && !firstElement(node);
+    });
+    for (pugi::xml_node properties : bare) {
+        pugi::xml_node extension = properties.parent();
+        extension.parent().remove_child(extension);
+    }
 }
 
 class SheetAlone {
