@@ -1,6 +1,7 @@
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <vector>
 
 #include "office/failure.h"
@@ -149,6 +150,41 @@ TEST_F(PresentationFile, DressesATitleAsTheLayoutShowsItWhereNoStyleSaysIt) {
         const Object deck = open(std::move(package));
         addSlide(deck, 1, "Revenue");
         EXPECT_EQ(titleOf(deck, 1).get("Font").get("Size").toDouble(), hasStyle ? 30 : 23);
+    }
+}
+
+TEST_F(PresentationFile, ShrinksATitleThatIsHigherThanItsFrame) {
+    const std::string shrinks = "<a:normAutofit/>";
+    const std::string lines = "90000";
+    struct {
+        std::string title, fit, spacing, expected;
+    } const rows[] = {
+        {"short", shrinks, lines, "<a:bodyPr/>"},
+        {std::string(60, 'x'), shrinks, lines, R"(<a:normAutofit fontScale="90000"/>)"},
+        {std::string(60, 'x'), "<a:noAutofit/>", lines, "<a:bodyPr/>"},
+        {std::string(60, 'x'), "", lines, "<a:bodyPr/>"},
+        {std::string(30, 'x'), shrinks, "200000", R"(<a:normAutofit fontScale="70000"/>)"},
+        {std::string(900, 'x'), shrinks, lines, R"(<a:normAutofit fontScale="30000"/>)"},
+    };
+    app = powerPointOfFiles(
+        {[](const std::string& words, const model::Font& font, auto width) {
+             const double length = static_cast<double>(words.size()) * font.sizePt / 2;
+             return model::Size{length, std::ceil(length / *width) * font.sizePt * 1.25};
+         },
+         {}});
+    for (const auto& row : rows) {
+        Package package = support::emptyDeck();
+        const std::string master = "/ppt/slideMasters/slideMaster1.xml";
+        edit(package, master, shrinks, row.fit);
+        edit(package, master, R"(<a:spcPct val="90000")", "<a:spcPct val=\"" + row.spacing + "\"");
+        const Object deck = open(std::move(package));
+        addSlide(deck, 1, row.title);
+        const std::string slide = saved(deck).read(firstSlide);
+        EXPECT_NE(slide.find(row.expected), std::string::npos) << row.title << row.fit << slide;
+        // What is short again stands as the master says.
+        titleOf(deck, 1).put("Text", "short");
+        EXPECT_EQ(saved(deck).read(firstSlide).find("fontScale") == std::string::npos,
+                  row.spacing == lines);
     }
 }
 

@@ -86,8 +86,19 @@ private:
     [[nodiscard]] pugi::xml_node textBody() const;
     /// The properties of its characters, its own and those that it inherits, the nearest first.
     [[nodiscard]] std::vector<pugi::xml_node> characterProperties();
+    /// What goes by this name in its text and in the texts that it inherits from, the nearest
+    /// first. Some may be null; the first one is its own.
+    [[nodiscard]] std::vector<pugi::xml_node> inherited(std::string_view name);
+    /// The same of the properties of its first level, the master's last.
+    [[nodiscard]] std::vector<pugi::xml_node> levelProperties();
+    /// Of its words, in characters of so many times their size.
+    [[nodiscard]] model::Size measured(double scale, std::optional<double> widthPt);
+    /// After its text or its font has changed.
+    void fitText();
     /// Fits a box to its text that is made to grow with it. Its upper left corner stays.
     void growWithText();
+    /// Fits a placeholder's text to its frame that is made to shrink.
+    void shrinkText();
     /// The node, which is about to be changed.
     pugi::xml_node changed();
 

@@ -23,8 +23,6 @@ const std::vector<std::string_view> runOrder = {"rPr", "pPr", "t"};
 /// The sizes of characters are hundredths of a point.
 constexpr double perPoint = 100;
 constexpr double plainSizePt = 18;
-constexpr double plainSideMarginPt = 7.2;
-constexpr double plainUpperMarginPt = 3.6;
 
 constexpr char lineBreak = '\v';
 
@@ -109,7 +107,7 @@ void FileShape::setWords(const std::string& words) {
         start = end + 1;
     }
     for (const auto& paragraph : before) body.remove_child(paragraph);
-    growWithText();
+    fitText();
 }
 
 bool FileShape::wraps() {
@@ -121,30 +119,37 @@ void FileShape::setWraps(bool wraps) {
     changed();
     attributeFor(childNamed(textBody(), ns::drawing, "bodyPr"), "wrap")
         .set_value(wraps ? "square" : "none");
-    growWithText();
+    fitText();
+}
+
+std::vector<pugi::xml_node> FileShape::inherited(std::string_view name) {
+    std::vector<pugi::xml_node> found = {childNamed(textBody(), ns::drawing, name)};
+    if (const auto own = placeholder()) {
+        for (const auto& shape : slide_.deck().layouts().ancestorsOf(*own, slide_.layoutPart()))
+            found.push_back(
+                childNamed(childNamed(shape, ns::presentation, "txBody"), ns::drawing, name));
+    }
+    return found;
+}
+
+std::vector<pugi::xml_node> FileShape::levelProperties() {
+    std::vector<pugi::xml_node> found;
+    for (const pugi::xml_node levels : inherited("lstStyle"))
+        found.push_back(childNamed(levels, ns::drawing, "lvl1pPr"));
+    const auto own = placeholder();
+    found.push_back(
+        slide_.deck().layouts().masterTextOf(own ? &*own : nullptr, slide_.layoutPart()));
+    return found;
 }
 
 std::vector<pugi::xml_node> FileShape::characterProperties() {
-    std::vector<pugi::xml_node> found;
-    const auto add = [&](pugi::xml_node node) {
-        if (node) found.push_back(node);
-    };
-    const auto addLevel = [&](pugi::xml_node body) {
-        const auto levels = childNamed(body, ns::drawing, "lstStyle");
-        add(childNamed(childNamed(levels, ns::drawing, "lvl1pPr"), ns::drawing, "defRPr"));
-    };
     const auto paragraph = childNamed(textBody(), ns::drawing, "p");
-    add(childNamed(paragraph.find_child(isRun), ns::drawing, "rPr"));
-    add(childNamed(paragraph, ns::drawing, "endParaRPr"));
-    addLevel(textBody());
-    const auto own = placeholder();
-    DeckLayouts& layouts = slide_.deck().layouts();
-    const std::string layout = slide_.layoutPart();
-    if (own) {
-        for (const auto& shape : layouts.ancestorsOf(*own, layout))
-            addLevel(childNamed(shape, ns::presentation, "txBody"));
-    }
-    add(childNamed(layouts.masterTextOf(own ? &*own : nullptr, layout), ns::drawing, "defRPr"));
+    std::vector<pugi::xml_node> found = {
+        childNamed(paragraph.find_child(isRun), ns::drawing, "rPr"),
+        childNamed(paragraph, ns::drawing, "endParaRPr")};
+    for (const pugi::xml_node level : levelProperties())
+        found.push_back(childNamed(level, ns::drawing, "defRPr"));
+    std::erase_if(found, [](pugi::xml_node node) { return !node; });
     return found;
 }
 
@@ -195,26 +200,7 @@ void FileShape::setFont(const model::FontChange& change) {
         if (wordsOf(paragraph).empty() || childNamed(paragraph, ns::drawing, "endParaRPr"))
             apply(childInOrder(paragraph, ns::drawing, "endParaRPr", paragraphOrder));
     }
-    growWithText();
-}
-
-void FileShape::growWithText() {
-    const auto body = childNamed(textBody(), ns::drawing, "bodyPr");
-    if (!childNamed(body, ns::drawing, "spAutoFit") || placeholder()) return;
-    const auto margin = [&](const char* name, double plain) {
-        return body.attribute(name).as_double(plain * emuPerPoint) / emuPerPoint;
-    };
-    const double sidesPt = margin("lIns", plainSideMarginPt) + margin("rIns", plainSideMarginPt);
-    const double heightsPt =
-        margin("tIns", plainUpperMarginPt) + margin("bIns", plainUpperMarginPt);
-    Frame place = frame();
-    const auto width =
-        wraps() ? std::optional(std::max(place.size.width - sidesPt, 1.0)) : std::nullopt;
-    const model::Size text = slide_.deck().measure()(
-        replaceAll(replaceAll(words(), "\v", "\n"), "\r", "\n"), font(), width);
-    if (!width) place.size.width = text.width + sidesPt;
-    place.size.height = text.height + heightsPt;
-    setFrame(place);
+    fitText();
 }
 
 }  // namespace office::package
