@@ -171,7 +171,7 @@ class Charts(ProgramTest):
                     self.assertLess(difference, 0.06)
 
     def check_data(self, package, kind, book, count):
-        """The data of each chart is in a workbook that has the sheets of its formulas, one for all of them."""
+        """The data of each chart is in a workbook that has the sheets of its formulas, of which each has a copy."""
         charts = [name for name in package.names if re.fullmatch(r"ppt/charts/chart\d+\.xml", name)]
         self.assertEqual(len(charts), count)
         sources = set()
@@ -187,8 +187,9 @@ class Charts(ProgramTest):
             rels = package.read(re.sub(r"charts/(.*)", r"charts/_rels/\1.rels", chart)).decode()
             sources.add(re.search(rf'Id="{where}"[^>]*Target="([^"]*)"', rels).group(1))
         if kind == "editable":
-            (copy,) = sources
-            self.assertEqual(package.read(copy.replace("../", "ppt/")), book.read_bytes())
+            self.assertEqual(len(sources), count)
+            for copy in sources:
+                self.assertEqual(package.read(copy.replace("../", "ppt/")), book.read_bytes())
         elif kind == "linked":
             (link,) = sources
             self.assertEqual(urllib.parse.unquote(link), f"file://{book}")

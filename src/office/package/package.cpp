@@ -28,8 +28,8 @@ struct Part {
     std::string name;
     /// Of the archive; none for a new one.
     std::optional<std::uint64_t> index;
-    /// None while it is as it was read.
-    std::optional<std::string> bytes;
+    /// Null while it is as it was read. Copies of a part share them.
+    std::shared_ptr<const std::string> bytes;
     Storage storage = Storage::Deflated;
     bool isRemoved = false;
     bool wasRead = false;
@@ -40,16 +40,17 @@ struct Part {
 
     /// Waits for them.
     void settle() {
-        if (late.valid()) bytes = std::exchange(late, {}).get();
+        if (late.valid()) setBytes(std::exchange(late, {}).get());
     }
     /// The content, unless it is as it was read or has been put aside; what is on its way is
     /// waited for, not copied.
     [[nodiscard]] std::optional<std::string_view> changed() const {
         if (late.valid()) return late.get();
-        return bytes;
+        return bytes ? std::optional<std::string_view>(*bytes) : std::nullopt;
     }
+    void setBytes(std::string to) { bytes = std::make_shared<const std::string>(std::move(to)); }
     void change(std::string to) {
-        bytes = std::move(to);
+        setBytes(std::move(to));
         aside.reset();
     }
     void drop() {
@@ -102,7 +103,7 @@ public:
 
     /// Whether these are the new bytes of a part.
     [[nodiscard]] bool holds(const Part& part, const std::string& bytes) {
-        if (!part.aside) return part.bytes == bytes;
+        if (!part.aside) return part.bytes && *part.bytes == bytes;
         return part.aside->bytes == bytes.size() && aside.read(*part.aside) == bytes;
     }
 
@@ -121,7 +122,14 @@ public:
         Part& part = place(name, storage);
         part.drop();
         part.aside = aside.put(bytes);
-        if (!part.aside) part.bytes = std::move(bytes);
+        if (!part.aside) part.setBytes(std::move(bytes));
+    }
+
+    void putCopy(std::string_view name, std::string_view of) {
+        const Part original = at(of);
+        Part& part = place(name, original.storage);
+        part.bytes = original.bytes;
+        part.aside = original.aside;
     }
 
     void putLate(std::string_view name, std::shared_future<std::string> bytes) {
@@ -290,6 +298,11 @@ void Package::add(std::string_view part, std::string_view contentType, std::stri
                   Storage storage) {
     content_->contentTypes().set(part, contentType);
     content_->putAside(part, std::move(bytes), storage);
+}
+
+void Package::addCopy(std::string_view part, std::string_view of) {
+    content_->contentTypes().set(part, contentTypeOf(of));
+    content_->putCopy(part, of);
 }
 
 void Package::remove(std::string_view part) {

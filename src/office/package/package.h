@@ -88,6 +88,9 @@ public:
     /// The name is free.
     void add(std::string_view part, std::string_view contentType, std::string bytes,
              Storage storage = Storage::Deflated);
+    /// The same with the type and the bytes of another part that has been added, which both share
+    /// in memory.
+    void addCopy(std::string_view part, std::string_view of);
     /// Takes the part out with its relationships. Those that lead to it are the caller's.
     void remove(std::string_view part);
     /// Takes the part out with those that it leads to, as far as they are there. `PackageError`.

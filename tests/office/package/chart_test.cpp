@@ -132,7 +132,7 @@ protected:
         std::vector<zip_bytes::Item> items;
         for (const auto& [name, bytes] : parts) items.push_back({name, bytes});
         const std::string zip = zip_bytes::zipOf(items);
-        const std::string file = folder.file(fmt::format("Book's {}.xlsx", ++count_));
+        const std::string file = folder.file(fmt::format("Bücher's {}.xlsx", ++count_));
         support::writeBytes(file, {zip.begin(), zip.end()});
         return {CopySource::Kind::Chart, file, sheet, chart, {}};
     }
@@ -182,12 +182,14 @@ TEST_F(Chart, TakesAlongWhatItNeedsOutsideOfItsWorkbook) {
     EXPECT_NE(package.read(targetOf(first, "themeOverride")).find(R"(clrScheme name="own")"),
               std::string::npos);
     EXPECT_TRUE(package.has("/ppt/charts/style1.xml"));
-    EXPECT_EQ(targetOf(first, "package"), targetOf("/ppt/charts/chart2.xml", "package"))
-        << "one workbook for all";
-    EXPECT_TRUE(
-        Package::fromBytes(package.read(targetOf(first, "package"))).has("/xl/workbook.xml"));
+    const std::string data = targetOf(first, "package");
+    const std::string second = targetOf("/ppt/charts/chart2.xml", "package");
+    EXPECT_NE(data, second) << "a workbook for each";
+    EXPECT_EQ(package.read(data), package.read(second));
+    EXPECT_EQ(package.contentTypeOf(data), package.contentTypeOf(second));
+    EXPECT_TRUE(Package::fromBytes(package.read(data)).has("/xl/workbook.xml"));
     const std::string link = targetOf("/ppt/charts/chart3.xml", "oleObject");
-    EXPECT_TRUE(link.starts_with("file:///") && link.ends_with("/Book%27s%202.xlsx")) << link;
+    EXPECT_TRUE(link.starts_with("file:///") && link.ends_with("/Bücher%27s%202.xlsx")) << link;
     for (const char* part : {"/ppt/charts/chart1.xml", "/ppt/charts/chart3.xml", shapes.c_str()}) {
         const Xml xml(package.read(part), part);
         for (const auto& id : relationshipIdsIn(xml))
@@ -261,6 +263,8 @@ TEST_F(Chart, GoesAsAPictureWhereItCantBeOneAndSaysWhy) {
         {"its data is a pivot table", chart.c_str(), "<c:chart>", "<c:pivotSource/><c:chart>"},
         {"its data is in another workbook", chart.c_str(), "Data!$B", "'[1]Data'!$B"},
         {"", chart.c_str(), "Data!$B$2:$B$3", "[0]!Sales"},
+        {"", chart.c_str(), "<c:printSettings/>",
+         R"(<c:printSettings><c:legacyDrawingHF r:id="rId5"/></c:printSettings>)"},
         {"its values are not stored in the workbook's file", chart.c_str(), "numCache", "other"},
         {"it holds something that can't leave its workbook", "xl/charts/_rels/chart1.xml.rels",
          "/image\"", "/printer\""},

@@ -171,6 +171,8 @@ TEST_F(RoundTrip, KeepsLargePartsWhereverThereIsRoomForThem) {
         const auto addAll = [&] {
             opened.add("/b.xml", "b", picture('b'));
             opened.add("/c.xml", "c", picture('c'));
+            opened.addCopy("/copy.xml", "/c.xml");
+            opened.addCopy("/other.xml", "/b.xml");
             opened.replace("/c.xml", "<c/>");
             for (const char bytes : {'1', '2', '1'})
                 opened.addMedia("/m/image", ".png", "image/png", picture(bytes));
@@ -195,6 +197,9 @@ TEST_F(RoundTrip, KeepsLargePartsWhereverThereIsRoomForThem) {
         EXPECT_FALSE(again.has("/m/image5.png"));
         EXPECT_EQ(again.read("/b.xml"), picture('b'));
         EXPECT_EQ(again.read("/c.xml"), "<c/>");
+        EXPECT_EQ(again.read("/copy.xml"), picture('c'));
+        EXPECT_EQ(again.read("/other.xml"), picture('b'));
+        EXPECT_EQ(again.contentTypeOf("/copy.xml"), "c");
     }
 }
 

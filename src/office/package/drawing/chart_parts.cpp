@@ -110,7 +110,6 @@ std::string ChartParts::add(SourceChart chart, const Copied& copied, const std::
     const bool needsCopy = link.empty() && origin.copy.empty();
     std::string copy = needsCopy ? book.bytes() : std::string();
     auto root = chart.xml->root();
-    root.remove_child(childNamed(root, ns::chart, "printSettings"));
     writeFlags(root, origin.defaults);
     writeLooks(root, origin.thinLine);
     rememberCells(*chart.xml, copied);
@@ -120,10 +119,10 @@ std::string ChartParts::add(SourceChart chart, const Copied& copied, const std::
     package_.add(part, chartType, {});
     unpack(std::move(luggage), origin, part, *chart.xml);
     overrideTheme(origin, part, *chart.xml);
-    if (needsCopy) addCopy(book, std::move(copy), origin);
     Relationships& relationships = package_.relationshipsOf(part);
-    connect(root, link.empty() ? relationships.add("package", origin.copy)
-                               : relationships.addExternal("oleObject", link));
+    connect(root, link.empty()
+                      ? relationships.add("package", addCopy(book, std::move(copy), origin))
+                      : relationships.addExternal("oleObject", link));
     package_.replace(part, chart.xml->bytes());
     return part;
 }
@@ -199,13 +198,20 @@ void ChartParts::overrideTheme(const Origin& origin, const std::string& part, co
     for (const auto& [name, value] : plainColours) colours.append_attribute(name).set_value(value);
 }
 
-/// One copy for all charts of a workbook, however many there are.
-void ChartParts::addCopy(const WorkbookFile& book, std::string bytes, Origin& origin) {
+/// PowerPoint takes no presentation in which two charts lead to one part.
+std::string ChartParts::addCopy(const WorkbookFile& book, std::string bytes, Origin& origin) {
     const char* const stem = book.hasMacros()
                                  ? "/embeddings/Microsoft_Excel_Macro-Enabled_Worksheet"
                                  : "/embeddings/Microsoft_Excel_Worksheet";
     const WorkbookFormat& format = workbookFormat(book.hasMacros());
-    origin.copy = package_.addMedia(folder_ + stem, format.ending, format.type, std::move(bytes));
+    std::string part = package_.freeName(folder_ + stem, format.ending);
+    if (origin.copy.empty()) {
+        package_.add(part, format.type, std::move(bytes), Storage::Stored);
+        origin.copy = part;
+    } else {
+        package_.addCopy(part, origin.copy);
+    }
+    return part;
 }
 
 }  // namespace office::package

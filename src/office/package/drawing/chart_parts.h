@@ -30,7 +30,7 @@ private:
         /// Its theme as one that overrides another; empty if it has none.
         std::string theme;
         int thinLine = 0;
-        /// The copy of the workbook; empty while no chart has needed one.
+        /// The first copy of the workbook; empty while no chart has needed one.
         std::string copy;
         /// Which of its pictures have become which.
         std::map<std::string, std::string> pictures;
@@ -54,7 +54,8 @@ private:
                 const Xml& xml);
     [[nodiscard]] std::string add(Luggage one, Origin& origin);
     void overrideTheme(const Origin& origin, const std::string& part, const Xml& xml);
-    void addCopy(const WorkbookFile& book, std::string bytes, Origin& origin);
+    /// A copy of the workbook for one chart alone. `bytes` are needed for the first one.
+    [[nodiscard]] std::string addCopy(const WorkbookFile& book, std::string bytes, Origin& origin);
 
     Package& package_;
     std::string folder_;

@@ -114,6 +114,9 @@ std::string obstacleOf(SourceChart& chart, const CopySource& source, WorkbookFil
     if (found->part.empty()) return "it is missing in the workbook's file";
     chart.part = found->part;
     chart.xml = std::make_unique<Xml>(chart.book->package().read(chart.part), chart.part);
+    // How its own page is printed, with what pictures above and below, stays with the workbook.
+    auto root = chart.xml->root();
+    root.remove_child(childNamed(root, ns::chart, "printSettings"));
     std::string obstacle = obstacleIn(*chart.xml);
     if (obstacle.empty() && !canLeave(chart.book->package(), chart.part, *chart.xml, Holder::Chart))
         return "it holds something that can't leave its workbook";
