@@ -19,6 +19,19 @@ excel::CellBlocks requiredBlocks(std::string_view address) {
     return *blocks;
 }
 
+class Grid : public excel::CellMap {
+public:
+    excel::CellBlock cellAt(double left, double top) override {
+        return excel::CellBlock::cell(
+            static_cast<std::int32_t>(std::floor(top / Worksheet::rowHeight)),
+            static_cast<std::int32_t>(std::floor(left / Worksheet::columnWidth)));
+    }
+    excel::Box placeOf(const excel::CellBlock& block) override {
+        return {block.firstColumn * Worksheet::columnWidth, block.firstRow * Worksheet::rowHeight,
+                block.columns() * Worksheet::columnWidth, block.rows() * Worksheet::rowHeight};
+    }
+};
+
 /// One block of cells of a worksheet.
 class StoredCells : public excel::Cells {
 public:
@@ -39,10 +52,7 @@ public:
     void setNumberFormat(const std::string& code) override {
         sheet_.store().setFormat(block_, code);
     }
-    excel::Box place() override {
-        return {block_.firstColumn * Worksheet::columnWidth, block_.firstRow * Worksheet::rowHeight,
-                block_.columns() * Worksheet::columnWidth, block_.rows() * Worksheet::rowHeight};
-    }
+    excel::Box place() override { return Grid().placeOf(block_); }
     bool areBlank() override {
         const office::Table values = read();
         for (std::size_t row = 1; row <= values.rows(); ++row) {
@@ -219,9 +229,8 @@ excel::CellsPtr Worksheet::cells(const excel::CellBlock& block) {
     return std::make_shared<StoredCells>(*this, block);
 }
 
-excel::CellBlock Worksheet::cellAt(double left, double top) {
-    return excel::CellBlock::cell(static_cast<std::int32_t>(std::floor(top / rowHeight)),
-                                  static_cast<std::int32_t>(std::floor(left / columnWidth)));
+std::unique_ptr<excel::CellMap> Worksheet::cellMap() {
+    return std::make_unique<Grid>();
 }
 
 void Worksheet::select(const excel::CellBlocks& blocks) {

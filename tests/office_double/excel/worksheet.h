@@ -122,7 +122,7 @@ public:
     bool isProtected() override { return protected_; }
     excel::CellsPtr cells(const excel::CellBlock& block) override;
     excel::CellBlock used() override { return store_.used(); }
-    excel::CellBlock cellAt(double left, double top) override;
+    std::unique_ptr<excel::CellMap> cellMap() override;
     void select(const excel::CellBlocks& blocks) override;
     std::vector<excel::SheetChartPtr> charts() override { return charts_; }
     excel::SheetChartPtr findChart(std::string_view name) override;
@@ -146,7 +146,7 @@ public:
     bool isProtected() override { return false; }
     excel::CellsPtr cells(const excel::CellBlock&) override { return nullptr; }
     excel::CellBlock used() override { return {}; }
-    excel::CellBlock cellAt(double, double) override { return {}; }
+    std::unique_ptr<excel::CellMap> cellMap() override { return nullptr; }
     void select(const excel::CellBlocks&) override {}
     std::vector<excel::SheetChartPtr> charts() override { return {}; }
     excel::SheetChartPtr findChart(std::string_view) override { return nullptr; }

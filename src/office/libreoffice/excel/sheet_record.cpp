@@ -11,73 +11,16 @@
 #include <com/sun/star/util/XProtectable.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
-#include <algorithm>
-#include <cmath>
-
 #include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/cell_range.h"
 #include "office/libreoffice/excel/recovered_chart.h"
+#include "office/libreoffice/excel/sheet_map.h"
 #include "office/libreoffice/excel/unrecorded.h"
 #include "office/libreoffice/units.h"
 #include "office/model/excel/objects.h"
 
 namespace libreoffice::excel {
-
-namespace {
-
-/// Looks for the column, or the row, at a point.
-class Search {
-public:
-    Search(SeenLine& seen, std::int32_t point, std::int32_t last)
-        : seen_(seen),
-          point_(point),
-          end_(last + 1) {}
-
-    [[nodiscard]] bool isDone() const { return end_ - found_ == 1; }
-    /// The line before the end, if the search is done.
-    [[nodiscard]] std::int32_t found() const { return found_; }
-
-    /// Most lines are as wide as their neighbours, so that the one seen last tells nearly always
-    /// where to look.
-    [[nodiscard]] std::int32_t next() {
-        constexpr int guesses = 8;
-        if (isDone()) return found_;
-        const std::int32_t guess =
-            ++tries_ > guesses ? found_ + (end_ - found_) / 2 : seen_.place + linesOn();
-        return std::clamp(guess, found_ + 1, end_ - 1);
-    }
-    void learn(std::int32_t place, std::int32_t start, std::int32_t length) {
-        // Lines that are hidden have next to no length, which says nothing of others.
-        constexpr std::int32_t thinnest = 10;
-        seen_ = {place, start, length > thinnest ? length : seen_.length};
-        if (isDone()) return;
-        if (start > point_) {
-            end_ = place;
-        } else {
-            found_ = place;
-            // The next line may begin one unit sooner: both are rounded.
-            if (point_ < start + length - 1) end_ = place + 1;
-        }
-    }
-
-private:
-    /// How many lines lie between the one seen last and the point. Charts often begin where a line
-    /// does, and each line on the way may be half a unit longer than it says.
-    [[nodiscard]] std::int32_t linesOn() const {
-        const double lines = static_cast<double>(point_ - seen_.start) / seen_.length;
-        const double slack = 1 + std::abs(lines) / 2;
-        return static_cast<std::int32_t>(std::floor(lines + slack / seen_.length));
-    }
-
-    SeenLine& seen_;
-    std::int32_t point_;
-    std::int32_t found_ = 0;
-    std::int32_t end_;
-    int tries_ = 0;
-};
-
-}  // namespace
 
 SheetRecord::SheetRecord(CalcDocument& book, uno::Reference<css::sheet::XSpreadsheet> sheet,
                          std::string name)
@@ -174,21 +117,8 @@ model::CellBlock SheetRecord::used() {
     return blockOf(as<css::sheet::XCellRangeAddressable>(cursor)->getRangeAddress());
 }
 
-model::CellBlock SheetRecord::cellAt(double left, double top) {
-    // On a sheet that is read from right to left all places are negative: there a line ends where
-    // it is said to lie, and a point at the edge of two belongs to the first.
-    const std::int32_t x = hundredthMmOf(left);
-    Search column(seenColumn_, x < 0 ? -x - 1 : x, model::CellBlock::lastColumnOfSheet);
-    Search row(seenRow_, hundredthMmOf(top), model::CellBlock::lastRowOfSheet);
-    // A cell tells of its column and of its row.
-    while (!column.isDone() || !row.isDone()) {
-        const std::int32_t atColumn = column.next();
-        const std::int32_t atRow = row.next();
-        const auto [corner, size] = placeOf(range(model::CellBlock::cell(atRow, atColumn)));
-        column.learn(atColumn, corner.X < 0 ? 1 - corner.X - size.Width : corner.X, size.Width);
-        row.learn(atRow, corner.Y, size.Height);
-    }
-    return model::CellBlock::cell(row.found(), column.found());
+std::unique_ptr<model::CellMap> SheetRecord::cellMap() {
+    return std::make_unique<SheetMap>(shared_from_this());
 }
 
 void SheetRecord::select(const model::CellBlocks& blocks) {

@@ -42,7 +42,7 @@ constexpr auto contentsOfCells =
 [[nodiscard]] uno::Sequence<css::table::CellRangeAddress> filledParts(
     const uno::Reference<css::table::XCellRange>& cells);
 
-/// A column or a row, in 1/100 mm. As long as none was seen: one that a new sheet has.
+/// A column or a row, in 1/100 mm.
 struct SeenLine {
     std::int32_t place;
     std::int32_t start;
@@ -64,6 +64,9 @@ public:
     [[nodiscard]] uno::Reference<css::table::XCellRange> wholeCells(
         const model::CellBlock& block) const;
     [[nodiscard]] ChartShapes& chartShapes() { return charts_; }
+    /// Those that were seen last, which tell where to look for others.
+    [[nodiscard]] SeenLine& seenColumn() { return seenColumn_; }
+    [[nodiscard]] SeenLine& seenRow() { return seenRow_; }
     void noteName(std::string name) { name_ = std::move(name); }
     [[nodiscard]] bool isShown();
     void show(bool shown);
@@ -93,7 +96,7 @@ public:
 
     model::CellsPtr cells(const model::CellBlock& block) override;
     model::CellBlock used() override;
-    model::CellBlock cellAt(double left, double top) override;
+    std::unique_ptr<model::CellMap> cellMap() override;
     void select(const model::CellBlocks& blocks) override;
 
     std::vector<model::SheetChartPtr> charts() override;
@@ -112,6 +115,7 @@ private:
     uno::Reference<css::sheet::XCellRangeAddressable> addressable_;
     std::string name_;
     ChartShapes charts_;
+    /// As long as none was seen: those of a new sheet.
     SeenLine seenColumn_{0, 0, 2258};
     SeenLine seenRow_{0, 0, 452};
     std::optional<NamedRanges> names_;

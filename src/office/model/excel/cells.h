@@ -49,6 +49,19 @@ public:
 
 using CellsPtr = std::shared_ptr<Cells>;
 
+/// Where the cells of a sheet lie. Each column and row counts as it was when it was met first, so a
+/// map is for questions that belong together.
+class CellMap {
+public:
+    CellMap() = default;
+    CellMap(const CellMap&) = delete;
+    CellMap& operator=(const CellMap&) = delete;
+    virtual ~CellMap() = default;
+
+    virtual CellBlock cellAt(double left, double top) = 0;
+    virtual Box placeOf(const CellBlock& block) = 0;
+};
+
 /// What a cell holds when a value has been typed in: a text that is a number becomes one, unless
 /// the cell's format is for text ("@"), where everything stays text. A formula is never made.
 [[nodiscard]] Value typedIn(const Value& value, bool textCell);

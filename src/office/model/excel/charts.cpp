@@ -81,20 +81,9 @@ public:
                 .property("Name", [](Self& self) { return self.chart().name(); })
                 .property("Chart",
                           [](Self& self) { return chartObject(self.home(), self.chartPtr()); })
-                .property("TopLeftCell",
-                          [](Self& self) {
-                              const Box box = self.chart().box();
-                              return self.cellAt(box.left, box.top);
-                          })
+                .property("TopLeftCell", [](Self& self) { return self.cellUnder(Corner::TopLeft); })
                 .property("BottomRightCell",
-                          [](Self& self) {
-                              // The last point inside: a chart that ends with a cell does not reach
-                              // into the next one.
-                              constexpr double inside = 0.02;
-                              const Box box = self.chart().box();
-                              return self.cellAt(box.left + box.width - inside,
-                                                 box.top + box.height - inside);
-                          })
+                          [](Self& self) { return self.cellUnder(Corner::BottomRight); })
                 .method("Activate", {}, &Self::select)
                 .method("Select", {"Replace"}, &Self::select)
                 .method("Copy", {}, &Self::copy)
@@ -107,8 +96,25 @@ public:
     }
 
 private:
-    [[nodiscard]] Object cellAt(double left, double top) const {
-        return rangeObject(home(), {sheet().cellAt(left, top)});
+    enum class Corner { TopLeft, BottomRight };
+
+    [[nodiscard]] Object cellUnder(Corner corner) const {
+        // What is published by its cells asks for them just before.
+        Publications& publications = book().publications();
+        if (!publications.records.empty()) {
+            const PlacedCharts& placed = publications.placedCharts(sheet());
+            if (const auto* known = placed.of(chart()))
+                return cellUnder(corner, known->box, *placed.cells);
+        }
+        return cellUnder(corner, chart().box(), *sheet().cellMap());
+    }
+    [[nodiscard]] Object cellUnder(Corner corner, const Box& box, CellMap& cells) const {
+        // The last point inside: a chart that ends with a cell does not reach into the next one.
+        constexpr double inside = 0.02;
+        const bool isFirst = corner == Corner::TopLeft;
+        return rangeObject(home(),
+                           {cells.cellAt(isFirst ? box.left : box.left + box.width - inside,
+                                         isFirst ? box.top : box.top + box.height - inside)});
     }
 };
 

@@ -33,7 +33,7 @@ struct Publication {
 
 using PublicationPtr = std::shared_ptr<Publication>;
 
-/// The charts of a sheet, and where they lie.
+/// The charts of a sheet, and where they and the cells under them lie.
 struct PlacedCharts {
     struct One {
         SheetChartPtr chart;
@@ -41,6 +41,9 @@ struct PlacedCharts {
         Box box;
     };
     std::vector<One> charts;
+    std::unique_ptr<CellMap> cells;
+    /// Null for one that has come to the sheet since.
+    [[nodiscard]] const One* of(const SheetChart& chart) const;
     /// The cells under several of them and between them, if nothing is seen of any.
     std::optional<CellBlock> blankCells;
 };
@@ -54,7 +57,7 @@ struct Publications {
     int lastPicture = 0;
     /// As they were seen first since there was no record: to ask for all of them for each record
     /// would take ever longer.
-    std::map<const Sheet*, PlacedCharts> placedCharts;
+    const PlacedCharts& placedCharts(Sheet& sheet);
     /// Places that showed nothing when they were published first since then: most are there to keep
     /// items apart, and are asked for again and again.
     std::map<std::pair<const Sheet*, std::string>, TableLook> gaps;
@@ -63,9 +66,12 @@ struct Publications {
     void remove(const PublicationPtr& record) {
         std::erase(records, record);
         if (!records.empty()) return;
-        placedCharts.clear();
+        placedCharts_.clear();
         gaps.clear();
     }
+
+private:
+    std::map<const Sheet*, PlacedCharts> placedCharts_;
 };
 
 }  // namespace office::model::excel

@@ -87,7 +87,7 @@ private:
         if (found->blocks.size() > 1) refuse(source_, "Several areas can't be published");
         const auto block = drawnPart(found->blocks.front(), *found->home.sheet);
         if (!block) refuse(source_, "There is nothing in these rows or columns");
-        const PlacedCharts& placed = placedCharts(*found->home.sheet);
+        const PlacedCharts& placed = home_.book->publications().placedCharts(*found->home.sheet);
         TableLook look = lookOf(found->home, *block, placed);
         look.leaveTextsToBars();
         const std::vector<PagePicture> charts = chartsOn(found->home, placed, look);
@@ -104,15 +104,14 @@ private:
                                           const PlacedCharts& placed) {
         // Thinner ones are hidden, which a copy refuses.
         constexpr double thinnestPt = 0.1;
-        const CellsPtr cells = place.sheet->cells(block);
         if (placed.blankCells && intersection(block, *placed.blankCells) == block) {
-            const Box at = cells->place();
+            const Box at = placed.cells->placeOf(block);
             if (at.width > thinnestPt && at.height > thinnestPt)
                 return {{at.width}, {at.height}, {CellLook{}}, at.left, at.top};
         }
         CopySource from = sourceOn(place, CopySource::Kind::Cells);
         from.address = addressOf(block);
-        return cells->copy(from)->tableOfPage();
+        return place.sheet->cells(block)->copy(from)->tableOfPage();
     }
 
     /// The charts that lie on the cells, or stick out of them.
@@ -129,34 +128,6 @@ private:
             if (lies) pictures.push_back(pictureOf(place, *chart, name, box));
         }
         return pictures;
-    }
-
-    [[nodiscard]] const PlacedCharts& placedCharts(Sheet& sheet) {
-        auto& all = home_.book->publications().placedCharts;
-        if (const auto known = all.find(&sheet); known != all.end()) return known->second;
-        PlacedCharts placed;
-        for (const SheetChartPtr& chart : sheet.charts())
-            placed.charts.push_back({chart, chart->name(), chart->box()});
-        // One alone is as soon looked at when its turn comes.
-        if (placed.charts.size() > 1) {
-            const CellBlock block = cellsUnder(sheet, placed.charts);
-            if (sheet.cells(block)->areBlank()) placed.blankCells = block;
-        }
-        return all.emplace(&sheet, std::move(placed)).first->second;
-    }
-
-    [[nodiscard]] static CellBlock cellsUnder(Sheet& sheet,
-                                              const std::vector<PlacedCharts::One>& charts) {
-        Box all = charts.front().box;
-        double right = 0;
-        double bottom = 0;
-        for (const auto& [chart, name, box] : charts) {
-            all.left = std::min(all.left, box.left);
-            all.top = std::min(all.top, box.top);
-            right = std::max(right, box.left + box.width);
-            bottom = std::max(bottom, box.top + box.height);
-        }
-        return around(sheet.cellAt(all.left, all.top), sheet.cellAt(right, bottom));
     }
 
     const InBook& home_;
