@@ -228,7 +228,8 @@ TEST_F(ExcelPictures, AsksNothingThatCrashesTheSuiteOfAWorkbookThatIsClosedMeanw
     static_cast<void>(open("cells.xlsx"));
     const auto book = desk->active<excel::CalcDocument>();
     const auto data = book->sheetList().find("Data");
-    excel::SelectedCells cells(*data, data->range(excel::model::CellBlock::cell(0, 0)));
+    const auto first = excel::model::CellBlock::cell(0, 0);
+    excel::SelectedCells cells(*data, data->range(first), first);
     static_cast<void>(data->cellAt(100, 100));
     book->close();
     EXPECT_THROW(static_cast<void>(cells.copyAs("text/html")), css::lang::DisposedException);

@@ -89,6 +89,13 @@ const uno::Reference<css::graphic::XGraphicProvider>& Connection::graphics() con
     return graphics_;
 }
 
+const uno::Reference<css::awt::XRequestCallback>& Connection::mainThread() const {
+    std::call_once(firstMainThread_, [this] {
+        mainThread_ = as<css::awt::XRequestCallback>(create("com.sun.star.awt.AsyncCallback"));
+    });
+    return mainThread_;
+}
+
 bool Connection::isLost() const {
     return stream_->isBroken();
 }

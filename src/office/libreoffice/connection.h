@@ -1,5 +1,6 @@
 #pragma once
 
+#include <com/sun/star/awt/XRequestCallback.hpp>
 #include <com/sun/star/frame/XDesktop2.hpp>
 #include <com/sun/star/graphic/XGraphicProvider.hpp>
 #include <com/sun/star/lang/XMultiComponentFactory.hpp>
@@ -40,6 +41,8 @@ public:
         const char* service, const std::vector<uno::Any>& arguments) const;
     /// The one that reads and writes pictures, for any thread.
     [[nodiscard]] const uno::Reference<css::graphic::XGraphicProvider>& graphics() const;
+    /// What calls back on the suite's main thread (`onMainThread`), for any thread.
+    [[nodiscard]] const uno::Reference<css::awt::XRequestCallback>& mainThread() const;
 
     /// Whether the suite has gone or the connection was broken.
     [[nodiscard]] bool isLost() const;
@@ -60,6 +63,8 @@ private:
     uno::Reference<css::frame::XDesktop2> desktop_;
     mutable std::once_flag firstGraphics_;
     mutable uno::Reference<css::graphic::XGraphicProvider> graphics_;
+    mutable std::once_flag firstMainThread_;
+    mutable uno::Reference<css::awt::XRequestCallback> mainThread_;
 };
 
 /// This process's own UNO environment; set up on the first call.

@@ -1,7 +1,6 @@
 #include "office/libreoffice/main_thread.h"
 
 #include <com/sun/star/awt/XCallback.hpp>
-#include <com/sun/star/awt/XRequestCallback.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <cppuhelper/implbase1.hxx>
 #include <rtl/ref.hxx>
@@ -44,9 +43,7 @@ void onMainThread(const Connection& connection, std::function<void()> task) {
     constexpr std::chrono::milliseconds step{100};
     const rtl::Reference<Task> called(new Task(std::move(task)));
     std::future<void> done = called->done();
-    const uno::Reference<css::awt::XRequestCallback> mainThread(
-        connection.create("com.sun.star.awt.AsyncCallback"), uno::UNO_QUERY_THROW);
-    mainThread->addCallback(called.get(), uno::Any());
+    connection.mainThread()->addCallback(called.get(), uno::Any());
     while (done.wait_for(step) != std::future_status::ready) {
         if (connection.isLost()) throw css::lang::DisposedException();
     }

@@ -43,7 +43,7 @@ uno::Sequence<sal_Int8> takePictureOfCells(SheetRecord& sheet,
                                            const uno::Reference<css::table::XCellRange>& cells,
                                            const model::CellBlock& block,
                                            const css::awt::Size& size) {
-    SelectedCells selected(sheet, cells);
+    SelectedCells selected(sheet, cells, block);
     uno::Sequence<sal_Int8> metafile = selected.copyAs(metafileType);
     if (differs(office::drawing::sizeOfMetafile(bytesOf(metafile)), size)) {
         allocateColumns(sheet, block);

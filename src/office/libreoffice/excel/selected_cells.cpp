@@ -98,22 +98,30 @@ ShownForNow::~ShownForNow() {
 }
 
 SelectedCells::SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells,
+                             const model::CellBlock& block,
                              uno::Reference<css::frame::XController> window)
     : sheet_(sheet),
       cells_(std::move(cells)),
+      block_(block),
       window_(std::move(window)),
       selection_(as<css::view::XSelectionSupplier>(window_)),
       before_(selection_->getSelection()),
       cellsBefore_(cellsOf(before_)),
-      wasSelected_(cellsBefore_ == cellsOf(uno::Any(cells_))) {}
+      wasSelected_(areSelectedAlone()) {}
 
-SelectedCells::SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells)
-    : SelectedCells(sheet, std::move(cells), windowOf(sheet.book())) {
+SelectedCells::SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells,
+                             const model::CellBlock& block)
+    : SelectedCells(sheet, std::move(cells), block, windowOf(sheet.book())) {
     // From here on the destructor undoes what was done, also when this fails.
     if (wasSelected_) return;
     if (!sheet.book().desk().opensHidden()) finishTyping();
     if (areOfSeveralSheets(cellsBefore_)) selectOneSheetAlone(sheet.book().connection(), window_);
     shown_.emplace(sheet);
+}
+
+bool SelectedCells::areSelectedAlone() const {
+    return cellsBefore_.size() == 1 && blockOf(cellsBefore_.front()) == block_ &&
+           cellsBefore_.front().Sheet == sheet_.place();
 }
 
 /// What is being typed would be written to the same place of the sheet that comes to the top. It is
@@ -185,9 +193,8 @@ uno::Reference<css::datatransfer::XTransferable> SelectedCells::copyOf(
 
 uno::Reference<css::datatransfer::XTransferable> SelectedCells::copy() const {
     if (auto copy = copyOf(cells_, wasSelected_); copy.is()) return copy;
-    const model::CellBlock block = blockOf(cells_);
-    const model::CellBlock whole = withWholeArrays(sheet_, block);
-    const HiddenAround rest(sheet_, block, whole);
+    const model::CellBlock whole = withWholeArrays(sheet_, block_);
+    const HiddenAround rest(sheet_, block_, whole);
     if (!rest.isHidden())
         office::refuse("Range.Copy", "LibreOffice copies no part of an array formula");
     const Scrolled scrolled(window_);

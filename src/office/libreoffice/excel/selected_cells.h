@@ -35,7 +35,8 @@ private:
 class SelectedCells {
 public:
     /// `office::Failure` 1004 for a workbook without a window, or one in print preview.
-    SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells);
+    SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells,
+                  const model::CellBlock& block);
     SelectedCells(const SelectedCells&) = delete;
     SelectedCells& operator=(const SelectedCells&) = delete;
     ~SelectedCells();
@@ -45,7 +46,8 @@ public:
 
 private:
     SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells,
-                  uno::Reference<css::frame::XController> window);
+                  const model::CellBlock& block, uno::Reference<css::frame::XController> window);
+    [[nodiscard]] bool areSelectedAlone() const;
     [[nodiscard]] uno::Reference<css::datatransfer::XTransferable> copy() const;
     [[nodiscard]] uno::Reference<css::datatransfer::XTransferable> copyOf(
         const uno::Reference<css::table::XCellRange>& wanted, bool isSelected) const;
@@ -54,6 +56,7 @@ private:
 
     SheetRecord& sheet_;
     uno::Reference<css::table::XCellRange> cells_;
+    model::CellBlock block_;
     uno::Reference<css::frame::XController> window_;
     uno::Reference<css::view::XSelectionSupplier> selection_;
     uno::Any before_;

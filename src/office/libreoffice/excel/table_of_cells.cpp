@@ -367,7 +367,7 @@ TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block, std::s
     const model::CellBlock whole = blockOf(cells);
     const ShownLines shown = shownLinesOf(cells, mostCells);
     const CellFormats formats = readCellFormats(cells, shown);
-    const uno::Sequence<sal_Int8> copy = SelectedCells(sheet, cells).copyAs("text/html");
+    const uno::Sequence<sal_Int8> copy = SelectedCells(sheet, cells, whole).copyAs("text/html");
     const CellsAsHtml html = readCellsAsHtml({reinterpret_cast<const char*>(copy.getConstArray()),
                                               static_cast<std::size_t>(copy.getLength())});
 
