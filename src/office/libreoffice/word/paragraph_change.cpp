@@ -65,17 +65,19 @@ rtl::OUString nameOfStyle(std::int32_t number) {
     return rtl::OUString::createFromAscii(known->second);
 }
 
-void forgetOwnLooks(const uno::Reference<css::text::XTextCursor>& paragraph) {
-    const auto ends = as<css::text::XParagraphCursor>(paragraph);
-    ends->gotoStartOfParagraph(false);
-    ends->gotoEndOfParagraph(true);
+void forgetOwnLooks(const uno::Reference<css::text::XTextCursor>& paragraph, Letters letters) {
+    if (letters == Letters::MayBeDressed) {
+        const auto ends = as<css::text::XParagraphCursor>(paragraph);
+        ends->gotoStartOfParagraph(false);
+        ends->gotoEndOfParagraph(true);
+    }
     as<css::beans::XMultiPropertyStates>(paragraph)->setAllPropertiesToDefault();
 }
 
 }  // namespace
 
 void changeParagraph(const uno::Reference<css::text::XTextCursor>& paragraph,
-                     const model::ParagraphChange& change) {
+                     const model::ParagraphChange& change, Letters letters) {
     Properties properties;
     if (change.breaksPageBefore || change.style)
         properties.add("BreakType", change.breaksPageBefore.value_or(false)
@@ -88,7 +90,7 @@ void changeParagraph(const uno::Reference<css::text::XTextCursor>& paragraph,
     if (change.spaceAfter) properties.add("ParaBottomMargin", hundredthMmOf(*change.spaceAfter));
     if (change.style) {
         properties.add("ParaStyleName", nameOfStyle(*change.style));
-        forgetOwnLooks(paragraph);
+        forgetOwnLooks(paragraph, letters);
     }
     if (change.spaceBefore) properties.add("ParaTopMargin", hundredthMmOf(*change.spaceBefore));
     properties.set(paragraph);

@@ -137,7 +137,8 @@ void WriterDocument::changeParagraph(const CursorRef& paragraph,
                                      const model::ParagraphChange& change) {
     // Whatever else is changed, is changed in one step.
     const UndoGroup group(change.style ? steps_ : nullptr, "Paragraph");
-    word::changeParagraph(paragraph, change);
+    // What nobody sees has been typed here.
+    word::changeParagraph(paragraph, change, isUnseen_ ? Letters::ArePlain : Letters::MayBeDressed);
 }
 
 std::string WriterDocument::selectedText() {
