@@ -131,7 +131,9 @@ void WriterDocument::insertGraphic(const TextPlace& place,
     NewContent made(*this, "com.sun.star.text.TextGraphicObject", size, anchoring);
     made.set("Graphic", graphic);
     made.insertAt(place);
-    insertObject(place, made.object(*this));
+    const WriterObjectPtr object = made.object(*this);
+    if (isUnseen_) object->noteSize(size);
+    insertObject(place, object);
     made.keep();
 }
 

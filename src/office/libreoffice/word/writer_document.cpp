@@ -84,6 +84,7 @@ void WriterDocument::stayUnseen() {
 }
 
 void WriterDocument::layOut() {
+    if (objects_) objects_->finishResizing();
     if (!std::exchange(isLaidOut_, true)) model()->unlockControllers();
 }
 

@@ -1,12 +1,12 @@
 #include "office/libreoffice/word/writer_object.h"
 
-#include <com/sun/star/awt/Size.hpp>
 #include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/table/ShadowFormat.hpp>
 #include <com/sun/star/text/HoriOrientation.hpp>
 #include <com/sun/star/text/RelOrientation.hpp>
 #include <com/sun/star/text/TextContentAnchorType.hpp>
 
+#include <cmath>
 #include <utility>
 
 #include "office/failure.h"
@@ -30,6 +30,13 @@ ShadowFormat fallingShadow() {
     shadow.ShadowWidth = width;
     shadow.Color = lightGrey;
     return shadow;
+}
+
+/// A length as a text keeps it.
+std::int32_t inWholeTwips(std::int32_t hundredthMm) {
+    constexpr double hundredthMmPerTwip = 2540.0 / 1440.0;
+    return static_cast<std::int32_t>(
+        std::lround(std::round(hundredthMm / hundredthMmPerTwip) * hundredthMmPerTwip));
 }
 
 }  // namespace
@@ -60,6 +67,10 @@ bool WriterObject::isGone() const {
     return document_.isClosed();
 }
 
+void WriterObject::noteSize(const css::awt::Size& size) {
+    size_ = {pointsOf(inWholeTwips(size.Width)), pointsOf(inWholeTwips(size.Height))};
+}
+
 model::ObjectSize WriterObject::size() {
     if (size_) return *size_;
     const auto shown = property<css::awt::Size>(properties_, "Size");
@@ -68,10 +79,19 @@ model::ObjectSize WriterObject::size() {
     return size;
 }
 
-void WriterObject::resize(const model::ObjectSize& size) {
+void WriterObject::setSize(const model::ObjectSize& size) {
     setProperty(properties_, "Size",
                 css::awt::Size(hundredthMmOf(size.width), hundredthMmOf(size.height)));
-    if (document_.isUnseen()) size_ = size;
+}
+
+void WriterObject::resize(const model::ObjectSize& size) {
+    if (!document_.isUnseen()) return setSize(size);
+    size_ = size;
+    isResized_ = true;
+}
+
+void WriterObject::finishResizing() {
+    if (std::exchange(isResized_, false)) setSize(*size_);
 }
 
 std::string WriterObject::alternativeText() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <com/sun/star/awt/Size.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/text/XTextContent.hpp>
 
@@ -30,6 +31,11 @@ public:
     /// What tells it from the others: the same object comes as another reference now and then.
     [[nodiscard]] const rtl::OUString& name();
     [[nodiscard]] model::Anchoring anchoring() const override { return anchoring_; }
+    /// The size that it was made with.
+    void noteSize(const css::awt::Size& size);
+    /// In a document that nobody sees, a size is set when the text is laid out: mostly both sides
+    /// change, one after the other.
+    void finishResizing();
 
     [[nodiscard]] bool isGone() const override;
     model::ObjectSize size() override;
@@ -43,14 +49,19 @@ public:
     void select() override;
 
 private:
+    void setSize(const model::ObjectSize& size);
+
     ContentRef content_;
     rtl::OUString name_;
     uno::Reference<css::beans::XPropertySet> properties_;
     WriterDocument& document_;
     model::Anchoring anchoring_;
     model::ObjectShadow shadow_;
-    /// As it was asked for or set last, in a document that nobody sees and nobody else changes.
+    /// As it was made, asked for or set last, in a document that nobody sees and nobody else
+    /// changes.
     std::optional<model::ObjectSize> size_;
+    /// Whether that is still to be set there.
+    bool isResized_ = false;
 };
 
 using WriterObjectPtr = std::shared_ptr<WriterObject>;

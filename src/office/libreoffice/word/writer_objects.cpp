@@ -128,6 +128,12 @@ void WriterObjects::add(const WriterObjectPtr& made) {
     if (areThere(inOrder_.size() + elsewhere_.size() + 1)) insert(made);
 }
 
+void WriterObjects::finishResizing() {
+    for (const auto* list : {&inOrder_, &elsewhere_}) {
+        for (const auto& object : *list) object->finishResizing();
+    }
+}
+
 std::int32_t WriterObjects::count() {
     refresh();
     return static_cast<std::int32_t>(inOrder_.size());

@@ -21,6 +21,8 @@ public:
     /// `areAllKnown`: nobody but `add` puts any in or takes any out.
     WriterObjects(WriterDocument& document, bool areAllKnown);
 
+    /// What `WriterObject::finishResizing` says, for each of them.
+    void finishResizing();
     [[nodiscard]] std::int32_t count();
     /// Of these, and of the frames and shapes there or tied to a page.
     [[nodiscard]] std::int32_t countWithFramesAndShapes();
