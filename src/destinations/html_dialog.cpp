@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "catalogue/failed_items.h"
 #include "catalogue/number_entry.h"
 #include "destinations/html_export.h"
 #include "destinations/output_folder.h"
+#include "destinations/row_walk.h"
 #include "destinations/size_factor.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
@@ -123,13 +123,10 @@ void DialogHTML::ContinueOk_Click() {
 
 void DialogHTML::runBatch(const HtmlOptions& wanted, bool asImages) {
     HtmlResult result;
-    catalogue::exportAndTellOfFailed(session(), [&](catalogue::FailedItems& failed) {
-        RowBatch batch{session(), list_,
-                       [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
+    walkAndTell(session(), list_, [&](RowBatch& batch) {
         result =
             asImages ? ExportRowsToHtmlAsImages(batch, wanted) : PublishRowsToHtml(batch, wanted);
-        session().progress.unload();
-        tellIfCancelled(session(), result.walk);
+        return result.walk;
     });
     if (!result.file.empty()) openOrName(session(), result.file);
 }

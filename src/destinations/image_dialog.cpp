@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include "catalogue/failed_items.h"
 #include "destinations/output_folder.h"
+#include "destinations/row_walk.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
 #include "panels/dialogs.h"
@@ -163,13 +163,8 @@ void DialogImageFiles::ContinueOk_Click() {
 }
 
 void DialogImageFiles::runBatch(const ImageFileOptions& wanted) {
-    catalogue::exportAndTellOfFailed(session(), [&](catalogue::FailedItems& failed) {
-        RowBatch batch{session(), list_,
-                       [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
-        const WalkResult result = ExportRowsToImageFiles(batch, wanted);
-        session().progress.unload();
-        tellIfCancelled(session(), result);
-    });
+    walkAndTell(session(), list_,
+                [&](RowBatch& batch) { return ExportRowsToImageFiles(batch, wanted); });
     if (Check2.isChecked()) openOrName(session(), wanted.folder);
 }
 

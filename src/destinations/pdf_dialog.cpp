@@ -5,8 +5,8 @@
 #include <array>
 #include <utility>
 
-#include "catalogue/failed_items.h"
 #include "destinations/pdf_file.h"
+#include "destinations/row_walk.h"
 #include "destinations/size_factor.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
@@ -123,12 +123,9 @@ void DialogPDF::MakeBlankDoc_Paste_ExportPdf_AndClose() {
     office::ContinueOnFailure scope;
     PdfResult result;
     const bool went = scope.attempt([&] {
-        catalogue::exportAndTellOfFailed(session(), [&](catalogue::FailedItems& failed) {
-            RowBatch batch{session(), list_,
-                           [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
+        walkAndTell(session(), list_, [&](RowBatch& batch) {
             result = ExportRowsToPdf(batch, wanted, path);
-            session().progress.unload();
-            tellIfCancelled(session(), result.walk);
+            return result.walk;
         });
     });
     if (!went) {

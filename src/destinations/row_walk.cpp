@@ -72,9 +72,18 @@ WalkResult walkRowsAhead(
     return result;
 }
 
-void tellIfCancelled(session::OfficeSession& session, const WalkResult& result) {
-    if (result.wasCancelled())
-        catalogue::TellCancelled(session, result.done - result.failed, result.total);
+WalkResult walkAndTell(session::OfficeSession& session, catalogue::ExportList& list,
+                       const std::function<WalkResult(RowBatch& batch)>& exportRows) {
+    WalkResult result;
+    catalogue::exportAndTellOfFailed(session, [&](catalogue::FailedItems& failed) {
+        RowBatch batch{session, list,
+                       [&](const auto& row, const auto& failure) { failed.add(row, failure); }};
+        result = exportRows(batch);
+        session.progress.unload();
+        if (result.wasCancelled())
+            catalogue::TellCancelled(session, result.done - result.failed, result.total);
+    });
+    return result;
 }
 
 }  // namespace destinations

@@ -50,7 +50,9 @@ WalkResult walkRowsAhead(
     const std::function<std::function<void()>(const catalogue::TakenRow& taken,
                                               const catalogue::ExportItem& row)>& begin);
 
-/// The notice after a walk that the user has cancelled; none otherwise.
-void tellIfCancelled(session::OfficeSession& session, const WalkResult& result);
+/// Lets an export of a dialog's walk, takes its progress away, and tells of a cancel and of the
+/// items that failed.
+WalkResult walkAndTell(session::OfficeSession& session, catalogue::ExportList& list,
+                       const std::function<WalkResult(RowBatch& batch)>& exportRows);
 
 }  // namespace destinations

@@ -5,8 +5,8 @@
 #include <array>
 #include <utility>
 
-#include "catalogue/failed_items.h"
 #include "destinations/pdf_file.h"
+#include "destinations/row_walk.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
 #include "panels/dialogs.h"
@@ -128,20 +128,19 @@ void DialogWord::ContinueOk_Click() {
 
 void DialogWord::runBatch() {
     constexpr std::uint32_t settledMs = 100;
-    WalkResult result;
-    catalogue::exportAndTellOfFailed(session(), [&](catalogue::FailedItems& failed) {
-        RowBatch batch{session(), list_, [&](const auto& row, const auto& failure) {
-                           // Without its document no other item would go better.
-                           if (!documentIsThere()) throw office::Failure(failure);
-                           failed.add(row, failure);
-                       }};
-        result = ExportRowsToWord(batch, choices_.format,
-                                  {.sameWidth = SameWidth.isChecked(),
-                                   .caption = AddCaption.isChecked(),
-                                   .shadow = CheckShadow.isChecked()});
+    const WalkResult result = walkAndTell(session(), list_, [&](RowBatch& batch) {
+        const auto tell = std::exchange(batch.onFailedItem, nullptr);
+        batch.onFailedItem = [&](const auto& row, const auto& failure) {
+            // Without its document no other item would go better.
+            if (!documentIsThere()) throw office::Failure(failure);
+            tell(row, failure);
+        };
+        const WalkResult walk = ExportRowsToWord(batch, choices_.format,
+                                                 {.sameWidth = SameWidth.isChecked(),
+                                                  .caption = AddCaption.isChecked(),
+                                                  .shadow = CheckShadow.isChecked()});
         session::SleepMilliseconds(session(), settledMs);
-        session().progress.unload();
-        tellIfCancelled(session(), result);
+        return walk;
     });
     if (pdfIsWanted_ && !result.wasCancelled() && documentIsThere())
         ExportActiveDocumentToPdf(session());
