@@ -145,8 +145,8 @@ private:
     void ShowHtmlTarget();
     void ShowImageTarget();
     void showTarget(const Target& target);
-    /// Only says anew where things go; what is chosen stays as it is.
     void nameWorkbook();
+    /// Only says anew where things go; what is chosen stays as it is.
     void nameTarget();
     bool namePresentation();
     bool nameDocument();
