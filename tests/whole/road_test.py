@@ -15,7 +15,8 @@ def shown_name(row):
 
 class TheRoad(AtTheScreen):
     def choose(self, hand):
-        """Two rows out, one moved down, one captioned; the rows as they then stand."""
+        """Two rows and all behind the tenth out, one moved down, one captioned; the rows as they then stand."""
+        self.check_only(hand, *range(10))
         before = hand.rows()
         hand.do("check-row", FORM, LIST, row=1)
         hand.do("check-row", FORM, LIST, row=4)
