@@ -48,9 +48,9 @@ void reviewItems(session::OfficeSession& session, const ExportList& list, Review
     const std::int32_t hidden = checked - exportable - gone;
     const auto tellSkipped = [&](std::int32_t count, const char* where) {
         if (count == 0) return;
-        AddReviewItem(
-            texts.ReviewItems,
-            fmt::format("{} checked item(s) are on {} and will be skipped.", count, where));
+        AddReviewItem(texts.ReviewItems,
+                      fmt::format("{} checked item(s) are on {}{}.", count, where,
+                                  exportable > 0 ? " and will be skipped" : ""));
     };
     if (exportable == 0 && !isOpen(session.ActiveBook)) {
         texts.Blockers.emplace_back(

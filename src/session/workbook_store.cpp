@@ -57,21 +57,22 @@ ItemKind kindOf(const std::string& name, const std::string& text) {
 }
 
 /// Excel takes the quote that begins "'Net sales'!Total" for the mark of a text, and drops it.
-std::string withOpeningQuote(const std::string& name) {
-    const bool isOpen = name.find("'!") != std::string::npos && !name.starts_with('\'');
-    return isOpen ? "'" + name : name;
+bool lacksOpeningQuote(const ExportItem& item) {
+    return item.isRange() && item.name.find("'!") != std::string::npos &&
+           !item.name.starts_with('\'');
 }
 
 ExportItem itemIn(const Table& block, std::size_t row) {
     const auto text = [&](std::size_t column) { return block.at(row, column).toText(); };
     ExportItem item;
-    item.name = withOpeningQuote(text(nameColumn));
+    item.name = text(nameColumn);
     item.sheet = text(sheetColumn);
     item.slideNumber = text(slideNumberColumn);
     item.order = text(orderColumn);
     item.caption = text(captionColumn);
     item.laterRow = text(laterRowColumn);
     item.kind = kindOf(item.name, text(kindColumn));
+    if (lacksOpeningQuote(item)) item.name.insert(0, "'");
     // A cell that somebody has written to may say neither; the rest of the list is as good as ever.
     item.checked = office::orElse([&] { return block.at(row, checkedColumn).toBool(); }, true);
     return item;

@@ -51,6 +51,8 @@ TEST(ItemSelection, ASheetsOwnNameMayGoWithoutItsSheetWhereNothingElseIsCalledSo
     for (const auto& [text, row] : {std::pair("Jan!Total", 0U), std::pair("Total@Data", 0U),
                                     std::pair("total", 0U), std::pair("Rate", 2U)})
         EXPECT_EQ(unattended::findItems(list, {text}), Indices{row}) << text;
+    list.rows.push_back(rowOf("Net!Share", "Data", ItemKind::Chart));
+    EXPECT_THROW(unattended::findItems(list, {"Share"}), unattended::UsageError);
 }
 
 TEST(ItemSelection, AnUnknownItemIsToldWithNamesThatAreNear) {

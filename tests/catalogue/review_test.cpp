@@ -70,7 +70,7 @@ TEST_F(Review, CollectsTheBlockersOfItemsAndDestination) {
     const auto texts = catalogue::reviewExport(test.session, list, {choices});
     EXPECT_TRUE(texts.Blockers[0].starts_with("All checked items are on hidden worksheets"));
     EXPECT_EQ(texts.ReviewItems, Words{"1 checked item(s) are on sheets that are no longer in the "
-                                       "workbook and will be skipped."});
+                                       "workbook."});
     const auto book = test.session.ActiveBook;
     test.session.ActiveBook.release();
     EXPECT_EQ(blockers(), Words{"The workbook is no longer open. Open it again and start anew."});

@@ -139,6 +139,11 @@ TEST_F(StoreMerge, KnowsANameAgainThatWasStoredWithoutItsSheetOrTheQuoteAheadOfT
         EXPECT_EQ(loaded.list.rows[0].caption, "Kept");
         EXPECT_EQ(loaded.list.rows.size(), stored == std::string("Totals") ? 4U : 3U);
     }
+    book.sheet("Sales").chart("Plan '24'! net");
+    run([](catalogue::ExportList& list) {
+        list.rows = {catalogue_tests::row("Plan '24'! net", "Sales", session::ItemKind::Chart)};
+    });
+    EXPECT_EQ(LoadedList(test).names()[0], "Plan '24'! net@Sales");
 }
 
 TEST_F(StoreMerge, IsListedWithoutATraceInTheWorkbook) {

@@ -76,6 +76,19 @@ std::vector<std::size_t> matches(const ExportList& list, std::string_view name,
     return found;
 }
 
+/// Of the sheets' own names that lead to another sheet, those that are called so.
+std::vector<std::size_t> namedWithTheirSheets(const ExportList& list, std::string_view name,
+                                              std::string_view sheet) {
+    std::vector<std::size_t> found;
+    for (std::size_t i = 0; i < list.rows.size(); ++i) {
+        const ExportItem& row = list.rows[i];
+        if (row.isRange() && office::sameIgnoringCase(session::nameWithoutSheet(row.name), name) &&
+            (sheet.empty() || office::sameIgnoringCase(row.sheet, sheet)))
+            found.push_back(i);
+    }
+    return found;
+}
+
 std::string quoted(const std::vector<std::string>& names) {
     std::string text;
     for (const std::string& name : names) {
@@ -100,9 +113,7 @@ std::optional<std::size_t> tryFind(const ExportList& list, std::string_view name
     std::vector<std::size_t> found = matches(list, name, sheet, std::equal_to<>());
     if (found.empty()) found = matches(list, name, sheet, office::sameIgnoringCase);
     if (found.empty()) {
-        found = matches(list, name, sheet, [](std::string_view known, std::string_view wanted) {
-            return office::sameIgnoringCase(session::nameWithoutSheet(known), wanted);
-        });
+        found = namedWithTheirSheets(list, name, sheet);
     }
     if (found.empty()) return std::nullopt;
     if (found.size() > 1) {
