@@ -16,7 +16,6 @@ from kit import deck  # noqa: E402
 from kit.deck import HEAD, OFFICE, PML, box, emu  # noqa: E402
 
 MICROSOFT = "http://schemas.microsoft.com/office"
-DRAWING = "application/vnd.openxmlformats-officedocument.drawingml"
 SPACES = deck.SPACES
 PRESENTATION = "ppt/presentation.xml"
 GUID = "{{6C2E0E1A-6B1B-4E0A-9B57-2D5B7D7C{:04X}}}"
@@ -87,12 +86,6 @@ class Deck:
         return path
 
 
-def frame(number, name, uri, inner):
-    return (f'<p:graphicFrame><p:nvGraphicFramePr><p:cNvPr id="{number}" name="{name}"/><p:cNvGraphicFramePr/><p:nvPr/>'
-            f'</p:nvGraphicFramePr>{box(100, 200, 300, 200).replace("a:xfrm", "p:xfrm")}<a:graphic>'
-            f'<a:graphicData uri="{uri}">{inner}</a:graphicData></a:graphic></p:graphicFrame>')
-
-
 def picture(number, name, embed, media=""):
     return (f'<p:pic><p:nvPicPr><p:cNvPr id="{number}" name="{name}"/><p:cNvPicPr/><p:nvPr>{media}</p:nvPr></p:nvPicPr>'
             f'<p:blipFill><a:blip r:embed="{embed}"/><a:stretch><a:fillRect/></a:stretch></p:blipFill><p:spPr>'
@@ -119,39 +112,6 @@ def animations(d):
                                    f"</p:transition></mc:Fallback></mc:AlternateContent>{timing}</p:sld>"))
 
 
-def smart_art(d):
-    slide, dgm = d.slides()[1], 'xmlns:dgm="http://schemas.openxmlformats.org/drawingml/2006/diagram" ' + SPACES
-    named = 'uniqueId="urn:tests/{}"><dgm:title val=""/><dgm:desc val=""/>'
-    plain = ('<dgm:scene3d><a:camera prst="orthographicFront"/><a:lightRig rig="threePt" dir="t"/></dgm:scene3d>'
-             "<dgm:sp3d/><dgm:txPr/><dgm:style>"
-             + "".join(f'<a:{kind}Ref idx="{n}"><a:scrgbClr r="0" g="0" b="0"/></a:{kind}Ref>'
-                       for kind, n in (("ln", 2), ("fill", 1), ("effect", 0)))
-             + '<a:fontRef idx="minor"/></dgm:style>')
-    dsp = f'{MICROSOFT}/drawing/2008/diagram'
-    drawn = d.add(slide, f"{MICROSOFT}/2007/relationships/diagramDrawing",
-                  "ppt/diagrams/drawing1.xml",
-                  f'{HEAD}<dsp:drawing xmlns:dsp="{dsp}" {SPACES}><dsp:spTree><dsp:nvGrpSpPr>'
-                  '<dsp:cNvPr id="0" name=""/><dsp:cNvGrpSpPr/></dsp:nvGrpSpPr><dsp:grpSpPr/></dsp:spTree></dsp:drawing>',
-                  "application/vnd.ms-office.drawingml.diagramDrawing+xml")
-    parts = {
-        "Data": '<dgm:dataModel {}><dgm:ptLst><dgm:pt modelId="1" type="doc"><dgm:prSet loTypeId="urn:tests/layout"/>'
-                "<dgm:spPr/></dgm:pt></dgm:ptLst><dgm:cxnLst/><dgm:bg/><dgm:whole/><dgm:extLst>"
-                '<a:ext uri="http://schemas.microsoft.com/office/drawing/2008/diagram"><dsp:dataModelExt '
-                f'xmlns:dsp="{dsp}" relId="{drawn}" minVer="http://schemas.openxmlformats.org/drawingml/2006/diagram"/>'
-                "</a:ext></dgm:extLst></dgm:dataModel>",
-        "Layout": f'<dgm:layoutDef {{}} {named.format("layout")}<dgm:catLst/><dgm:layoutNode/></dgm:layoutDef>',
-        "QuickStyle": f'<dgm:styleDef {{}} {named.format("style")}<dgm:styleLbl name="node0">{plain}</dgm:styleLbl>'
-                      "</dgm:styleDef>",
-        "Colors": f'<dgm:colorsDef {{}} {named.format("colors")}<dgm:catLst/><dgm:styleLbl name="node0"/>'
-                  "</dgm:colorsDef>",
-    }
-    ids = [d.add(slide, f"diagram{kind}", f"ppt/diagrams/{kind.lower()}1.xml", HEAD + xml.format(dgm),
-                 f"{DRAWING}.diagram{kind.replace('Quick', '')}+xml") for kind, xml in parts.items()]
-    relations = "".join(f' r:{short}="{i}"' for short, i in zip(("dm", "lo", "qs", "cs"), ids))
-    d.in_tree(slide, frame(40, "Diagram", "http://schemas.openxmlformats.org/drawingml/2006/diagram",
-                           f"<dgm:relIds {dgm}{relations}/>"))
-
-
 def sections(d):
     ids = re.findall(r'<p:sldId id="(\d+)"', d.parts[PRESENTATION])
     rows = "".join(f'<p14:section name="Part {n}" id="{GUID.format(n)}"><p14:sldIdLst>'
@@ -159,61 +119,6 @@ def sections(d):
                    for n, part in enumerate((ids[:1], ids[1:]), start=1))
     d.extend("{521415D9-36F7-43E2-AB2F-B90AF26B5E84}",
              f'<p14:sectionLst xmlns:p14="{MICROSOFT}/powerpoint/2010/main">{rows}</p14:sectionLst>')
-
-
-def comments(d):
-    first, second = d.slides()[:2]
-    d.add(PRESENTATION, "commentAuthors", "ppt/commentAuthors.xml",
-          f'{HEAD}<p:cmAuthorLst {SPACES}><p:cmAuthor id="0" name="A" initials="A" lastIdx="1" clrIdx="0"/>'
-          "</p:cmAuthorLst>",
-          f"{PML}.commentAuthors+xml")
-    d.add(first, "comments", "ppt/comments/comment1.xml",
-          f'{HEAD}<p:cmLst {SPACES}><p:cm authorId="0" dt="2027-01-11T09:00:00.000" idx="1"><p:pos x="10" y="10"/>'
-          "<p:text>Really?</p:text></p:cm></p:cmLst>", f"{PML}.comments+xml")
-    p188 = f'xmlns:p188="{MICROSOFT}/powerpoint/2018/8/main" {SPACES}'
-    relation, kind = f"{MICROSOFT}/2018/10/relationships/", "application/vnd.ms-powerpoint.{}+xml"
-    d.add(PRESENTATION, relation + "authors", "ppt/authors.xml",
-          f'{HEAD}<p188:authorLst {p188}><p188:author id="{GUID.format(10)}" name="B" initials="B" userId="b" '
-          'providerId="None"/></p188:authorLst>', kind.format("authors"))
-    d.add(second, relation + "comments", "ppt/comments/modernComment_101_0.xml",
-          f'{HEAD}<p188:cmLst {p188}><p188:cm id="{GUID.format(11)}" authorId="{GUID.format(10)}" '
-          f'created="2027-01-11T09:00:00.000"><pc:sldMkLst xmlns:pc="{MICROSOFT}/powerpoint/2013/main/command">'
-          '<pc:docMk/><pc:sldMk cId="1" sldId="257"/></pc:sldMkLst><p188:txBody><a:bodyPr/><a:lstStyle/><a:p><a:r>'
-          "<a:rPr lang=\"en-US\"/><a:t>Indeed</a:t></a:r></a:p></p188:txBody></p188:cm></p188:cmLst>",
-          kind.format("comments"))
-
-
-def second_master(d, kind, after):
-    """A master of notes or of handouts with a theme of its own."""
-    name, tree = f"ppt/{kind}s/{kind}1.xml", deck.Shapes().tree()
-    colors = re.search("<p:clrMap .*?/>", d.parts["ppt/slideMasters/slideMaster1.xml"])[0]
-    identity = d.add(PRESENTATION, kind, name, f"{HEAD}<p:{kind} {SPACES}><p:cSld>{tree}</p:cSld>{colors}</p:{kind}>",
-                     f"{PML}.{kind}+xml")
-    d.add(name, "theme", f"ppt/theme/theme{kind}.xml", d.parts["ppt/theme/theme1.xml"],
-          "application/vnd.openxmlformats-officedocument.theme+xml")
-    d.edit(PRESENTATION, (after, f'{after}<p:{kind}IdLst><p:{kind}Id r:id="{identity}"/></p:{kind}IdLst>'))
-    return name
-
-
-def notes(d):
-    master = second_master(d, "notesMaster", "</p:sldMasterIdLst>")
-    slide, name = d.slides()[0], "ppt/notesSlides/notesSlide1.xml"
-    text = deck.Shapes()
-    text.holder("Notes", "body", None, [deck.paragraph("Say hello first")], index=1)
-    d.add(slide, "notesSlide", name, f"{HEAD}<p:notes {SPACES}><p:cSld>{text.tree()}</p:cSld><p:clrMapOvr>"
-          "<a:masterClrMapping/></p:clrMapOvr></p:notes>", f"{PML}.notesSlide+xml")
-    d.relate(name, "notesMaster", master)
-    d.relate(name, "slide", slide)
-
-
-def handout(d):
-    second_master(d, "handoutMaster", "</p:notesMasterIdLst>")
-
-
-def font(d):
-    identity = d.add(PRESENTATION, "font", "ppt/fonts/font1.fntdata", b"not a font" * 99, "application/x-fontdata")
-    d.in_presentation("<p:defaultTextStyle>", '<p:embeddedFontLst><p:embeddedFont><p:font typeface="Dock"/>'
-                                              f'<p:regular r:id="{identity}"/></p:embeddedFont></p:embeddedFontLst>')
 
 
 def film_and_sound(d):
@@ -349,8 +254,7 @@ MACROS = "application/vnd.ms-powerpoint.{}.macroEnabled.main+xml"
 
 # The name of the file, how many slides it has, and its features in their order; one layout is enough for many masters.
 DECKS = {
-    "rich.pptx": (3, [animations, smart_art, sections, comments, notes, handout, font, film_and_sound, custom_parts,
-                      designs(2)]),
+    "rich.pptx": (3, [animations, sections, film_and_sound, custom_parts, designs(2)]),
     "signed.pptm": (3, [main_type(MACROS.format("presentation")), macros, signature, film_and_sound, four_to_three,
                         default_namespace, odd_names, in_utf_16]),
     "bare.potx": (0, [main_type(f"{PML}.template.main+xml")]),
