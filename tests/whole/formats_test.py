@@ -27,9 +27,8 @@ deck.CurrentController.setCurrentPage(deck.DrawPages.insertNewByIndex(deck.DrawP
 """
 LINK = "link to One%20of%20each.xlsx"
 
-# What a double click makes of a chart and of a range, by format.
-ONE_ITEM = [("GraphicObjectShape", "GraphicObjectShape"), ("chart", "TableShape"), ("workbook", "workbook"),
-            (LINK, LINK)]
+# What a double click makes of a chart, of a chart sheet's and of a range, by format.
+ONE_ITEM = [("GraphicObjectShape",) * 3, ("chart", "chart", "TableShape"), ("workbook",) * 3, (LINK,) * 3]
 
 # The sheet, what is selected there, and what the commands for editable, embedded and linked make of it.
 SELECTIONS = [
@@ -73,7 +72,7 @@ class TheFormats(AtTheScreen):
         hand = self.open_main_form()
         for number, arrives in enumerate(ONE_ITEM):
             hand.do("click", FORM, f"OptionFormat({number})")
-            for kind, arrived in zip(("chart", "range"), arrives):
+            for kind, arrived in zip(("chart", "chart-sheet", "range"), arrives):
                 with self.subTest(format=number, kind=kind):
                     self.in_the_suite(FRESH_SLIDE)
                     row = next(n for n, each in enumerate(hand.rows()) if each["icon"] == f"icon:{kind}")

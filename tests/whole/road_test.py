@@ -2,7 +2,7 @@
 
 import subprocess
 
-from at_the_screen import DECK, DIALOG, FORM, LIST, ONE_OF_EACH, PAGE, SMALL_BOOK, AtTheScreen, png_lines, unittest, wait_until
+from at_the_screen import DECK, DIALOG, FORM, LIST, PAGE, SMALL_BOOK, AtTheScreen, png_lines, unittest, wait_until
 
 SLIDES_OF_DECK = 3
 SHEET, ORDER, CAPTION = 1, 3, 4
@@ -100,23 +100,6 @@ print(book.Sheets.getByName("kukukukuZichron").getCellRangeByName("T1").String, 
         second.do("key", "MurvaneNotice", key="Escape")
         self.assertEqual(second.ended(), 0, second.said())
         self.in_the_suite('close(document("Workbook"))')
-        hand.do("key", FORM, key="Alt+F4")
-        self.assertEqual(hand.ended(), 0, hand.said())
-
-    def test_shows_what_is_clicked_and_puts_it_on_the_slide_in_view(self):
-        self.open_sample(DECK, ONE_OF_EACH)
-        hand = self.open_main_form()
-        for kind in ("chart", "chart-sheet", "range"):
-            with self.subTest(kind=kind):
-                row = next(n for n, each in enumerate(hand.rows()) if each["icon"] == f"icon:{kind}")
-                pictures = hand.value(FORM, "imgChart")
-                hand.do("click-row", FORM, LIST, row=row)
-                # The first change takes the old picture away.
-                wait_until(lambda: hand.value(FORM, "imgChart") >= pictures + 2, what="the preview")
-        before = self.pictures_on_slides()
-        hand.do("double-click", FORM, "imgChart")
-        wait_until(lambda: hand.do("boxes") == ["Done!"], what="the message")
-        self.assertEqual(sum(self.pictures_on_slides()), sum(before) + 1)
         hand.do("key", FORM, key="Alt+F4")
         self.assertEqual(hand.ended(), 0, hand.said())
 
