@@ -75,6 +75,9 @@ std::string chart() {
                "</c:numCache>" +
                laterMarks + "</c:numRef></c:val></c:ser>";
     };
+    // No program writes several into one element, or one elsewhere.
+    const std::string bare =
+        "<a14:imgProps xmlns:a14=\"http://schemas.microsoft.com/office/drawing/2010/main\"/>";
     return "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\" "
            "xmlns:c15=\"http://schemas.microsoft.com/office/drawing/2012/chart\">"
            "<c:pivotSource><c:name>Zebra</c:name></c:pivotSource>" +
@@ -84,7 +87,8 @@ std::string chart() {
            "<a:ext><a14:imgProps "
            "xmlns:a14=\"http://schemas.microsoft.com/office/drawing/2010/main\"><a14:imgLayer "
            "xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\" "
-           "r:embed=\"rId1\"/></a14:imgProps></a:ext></a:extLst></a:blip></c:spPr>"
+           "r:embed=\"rId1\"/></a14:imgProps><a:ext>" +
+           bare + "</a:ext>" + bare + "</a:ext></a:extLst></a:blip></c:spPr>" + bare +
            "</c:chartSpace>";
 }
 

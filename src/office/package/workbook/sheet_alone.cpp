@@ -57,12 +57,14 @@ void dropDependent(const Xml& xml, const std::set<std::string>& gone) {
     });
     // The effects of a picture need the layer that they are laid upon.
     const auto bare = elementsBelow(xml.root(), [](pugi::xml_node node) {
-        return isNamed(node, ns::drawing2010, "imgProps") && !firstElement(node);
+        return isNamed(node, ns::drawing, "ext") &&
+               std::any_of(node.begin(), node.end(), [](pugi::xml_node child) {
+                   return isNamed(child, ns::drawing2010, "imgProps") && !firstElement(child);
+               });
     });
-    for (pugi::xml_node properties : bare) {
-        pugi::xml_node extension = properties.parent();
-        extension.parent().remove_child(extension);
-    }
+    // Inner ones first: they would go with an outer one.
+    std::for_each(bare.rbegin(), bare.rend(),
+                  [](pugi::xml_node extension) { extension.parent().remove_child(extension); });
 }
 
 class SheetAlone {
