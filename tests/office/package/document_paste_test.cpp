@@ -243,6 +243,18 @@ TEST_F(DocumentPaste, IsNoLineHighWhereLinesHaveAnExactHeight) {
     }
 }
 
+TEST_F(DocumentPaste, LeavesNothingWhereTheStylesCantBeRead) {
+    Package package = support::emptyDocument();
+    package.replace("/word/styles.xml", "<w:styles");
+    const auto parts = package.parts();
+    const auto document = documents->add(std::move(package), "", "Document");
+    EXPECT_THROW(document->paste(CopiedDouble({Kind::Picture, "", "", "", ""}, 240, 150),
+                                 PasteAs::Default, Anchoring::Inline),
+                 PackageError);
+    EXPECT_EQ(document->objectCount(Anchoring::Inline), 0);
+    EXPECT_EQ(document->package().parts(), parts);
+}
+
 TEST_F(DocumentPaste, GivesPicturesAndChartsAShadow) {
     const std::string book = writeBook();
     for (const Kind kind : {Kind::Picture, Kind::Chart}) {

@@ -291,9 +291,6 @@ void FileDocument::insertObject(const std::string& run) {
             });
         return !isObject;
     });
-    const auto object = pasted_.lock();
-    if (object && object->anchoring() == word::Anchoring::Inline)
-        letLinesGrow(caret_.paragraph, styles_);
 }
 
 word::TextObjectPtr FileDocument::pasted() {
@@ -316,16 +313,23 @@ void FileDocument::insertTable(const std::string& table) {
     insertMarkup(caret_.paragraph.parent(), table, caret_.paragraph);
 }
 
-void FileDocument::paste(const Copied& copied, PasteAs as, word::Anchoring anchoring) {
+template <class Put>
+void FileDocument::putAtCaret(word::Anchoring anchoring, const Put& put) {
     selected_.reset();
     pasted_.reset();
-    pasteInto(*this, copied, as, anchoring);
+    // Asked ahead: where the list of styles can't be read, nothing comes into the file.
+    const bool isExact =
+        anchoring == word::Anchoring::Inline && hasExactLines(caret_.paragraph, styles_);
+    put();
+    if (isExact && !pasted_.expired()) letLinesGrow(caret_.paragraph);
+}
+
+void FileDocument::paste(const Copied& copied, PasteAs as, word::Anchoring anchoring) {
+    putAtCaret(anchoring, [&] { pasteInto(*this, copied, as, anchoring); });
 }
 
 void FileDocument::addPicture(const std::string& file) {
-    selected_.reset();
-    pasted_.reset();
-    addPictureTo(*this, file);
+    putAtCaret(word::Anchoring::Inline, [&] { addPictureTo(*this, file); });
 }
 
 void FileDocument::insertCaption(const word::Caption& caption) {

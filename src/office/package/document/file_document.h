@@ -90,6 +90,9 @@ private:
     [[nodiscard]] bool isCaretAtEnd();
     /// Puts the caret at the end of a paragraph.
     void placeCaret(pugi::xml_node paragraph);
+    /// Calls what puts an object or a table in.
+    template <class Put>
+    void putAtCaret(word::Anchoring anchoring, const Put& put);
     [[nodiscard]] pugi::xml_node sectionAtCaret() const;
     [[nodiscard]] std::vector<FileObjectPtr>& objects();
     void readObjects();

@@ -154,9 +154,12 @@ void keepWithNext(pugi::xml_node paragraph) {
     setOn(paragraph, "keepNext");
 }
 
-void letLinesGrow(pugi::xml_node paragraph, DocumentStyles& styles) {
+bool hasExactLines(pugi::xml_node paragraph, DocumentStyles& styles) {
     const std::string own = lineRuleIn(propertiesOf(paragraph));
-    if ((own.empty() ? styles.lineRuleOf(styleOf(paragraph)) : own) != "exact") return;
+    return (own.empty() ? styles.lineRuleOf(styleOf(paragraph)) : own) == "exact";
+}
+
+void letLinesGrow(pugi::xml_node paragraph) {
     const auto spacing = made(paragraph, "spacing");
     setWordValue(spacing, "line", "240");
     setWordValue(spacing, "lineRule", "auto");

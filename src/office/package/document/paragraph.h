@@ -27,9 +27,10 @@ void setStyle(pugi::xml_node paragraph, const std::string& style);
 void changeLook(pugi::xml_node paragraph, const word::ParagraphChange& change,
                 DocumentStyles& styles);
 [[nodiscard]] bool breaksPage(pugi::xml_node paragraph);
-/// Lets the lines grow with what stands in them, where their height is exact: Word would show no
-/// more of an object than is as high as a line.
-void letLinesGrow(pugi::xml_node paragraph, DocumentStyles& styles);
+/// Whether the lines have an exact height: Word shows no more of an object than is as high as one.
+[[nodiscard]] bool hasExactLines(pugi::xml_node paragraph, DocumentStyles& styles);
+/// Lets the lines grow with what stands in them.
+void letLinesGrow(pugi::xml_node paragraph);
 /// Keeps it on one page with the paragraph behind it.
 void keepWithNext(pugi::xml_node paragraph);
 
