@@ -76,15 +76,15 @@ bool WriterObjects::isElsewhere(const uno::Reference<css::text::XTextRange>& pla
 
 /// A macro that replaces all text and the table at its end leaves objects behind whose place
 /// LibreOffice can't compare with any other.
-bool WriterObjects::hasLostItsPlace(const ContentRef& content) const {
+WriterObjects::Standing WriterObjects::standingOf(const ContentRef& content) const {
     try {
         const auto place = content->getAnchor();
-        if (place.is()) static_cast<void>(isElsewhere(place));
-        return false;
+        if (!place.is()) return Standing::OnPage;
+        return isElsewhere(place) ? Standing::Elsewhere : Standing::InText;
     } catch (const css::lang::DisposedException&) {
         throw;
     } catch (const uno::RuntimeException&) {
-        return true;
+        return Standing::Lost;
     }
 }
 
@@ -96,10 +96,10 @@ void WriterObjects::insert(const WriterObjectPtr& object) {
     } catch (const uno::RuntimeException&) {
         const auto lost = std::stable_partition(
             inOrder_.begin(), inOrder_.end(),
-            [this](const auto& other) { return !hasLostItsPlace(other->content()); });
+            [this](const auto& other) { return standingOf(other->content()) != Standing::Lost; });
         elsewhere_.insert(elsewhere_.end(), lost, inOrder_.end());
         inOrder_.erase(lost, inOrder_.end());
-        if (hasLostItsPlace(object->content()))
+        if (standingOf(object->content()) == Standing::Lost)
             elsewhere_.push_back(object);
         else
             insertInOrder(object);
@@ -134,21 +134,15 @@ void WriterObjects::finishResizing() {
     }
 }
 
-std::int32_t WriterObjects::count() {
-    refresh();
-    return static_cast<std::int32_t>(inOrder_.size());
-}
-
-std::int32_t WriterObjects::countWithFramesAndShapes() {
-    std::int32_t found = 0;
-    const sal_Int32 all = drawn_->getCount();
-    for (sal_Int32 i = 0; i < all; ++i) {
+bool WriterObjects::isAnyDrawn() const {
+    const sal_Int32 count = drawn_->getCount();
+    for (sal_Int32 i = 0; i < count; ++i) {
         const ContentRef content(drawn_->getByIndex(i), uno::UNO_QUERY);
         if (!content.is()) continue;
-        const auto place = content->getAnchor();
-        if (!place.is() || (!hasLostItsPlace(content) && !isElsewhere(place))) ++found;
+        const Standing standing = standingOf(content);
+        if (standing == Standing::InText || standing == Standing::OnPage) return true;
     }
-    return found;
+    return false;
 }
 
 std::int32_t WriterObjects::count(model::Anchoring anchoring) {

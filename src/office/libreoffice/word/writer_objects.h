@@ -23,9 +23,8 @@ public:
 
     /// What `WriterObject::finishResizing` says, for each of them.
     void finishResizing();
-    [[nodiscard]] std::int32_t count();
-    /// Of these, and of the frames and shapes there or tied to a page.
-    [[nodiscard]] std::int32_t countWithFramesAndShapes();
+    /// Whether there is one of these, or a frame or a shape, there or tied to a page.
+    [[nodiscard]] bool isAnyDrawn() const;
     [[nodiscard]] std::int32_t count(model::Anchoring anchoring);
     /// Null if there is none at this place, counted from 1.
     [[nodiscard]] WriterObjectPtr at(model::Anchoring anchoring, std::int32_t place);
@@ -40,9 +39,10 @@ private:
     /// Whether there are that many in the document.
     [[nodiscard]] bool areThere(std::size_t count);
     void refresh();
+    enum class Standing { InText, OnPage, Elsewhere, Lost };
+    [[nodiscard]] Standing standingOf(const ContentRef& content) const;
     /// In a header, a footer or a frame.
     [[nodiscard]] bool isElsewhere(const uno::Reference<css::text::XTextRange>& place) const;
-    [[nodiscard]] bool hasLostItsPlace(const ContentRef& content) const;
     void insert(const WriterObjectPtr& object);
     void insertInOrder(const WriterObjectPtr& object);
     [[nodiscard]] WriterObjectPtr known(const rtl::OUString& name) const;
