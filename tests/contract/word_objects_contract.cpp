@@ -1,4 +1,5 @@
 #include "contract/contract_test.h"
+#include "support/package_edit.h"
 #include "support/png_file.h"
 #include "support/vector_file.h"
 
@@ -81,6 +82,25 @@ TEST_F(WordContract, PutsAPictureOverTheText) {
     ASSERT_EQ(shapes("Shapes").get("Count").toLong(), 1);
     EXPECT_EQ(shapes("InlineShapes").get("Count").toLong(), 0);
     shapes("Shapes").get("Item", 1).put("Left", Value());
+}
+
+/// Word shows no more of a picture than is as high as such a line.
+TEST_F(WordContract, LetsLinesOfAnExactHeightGrowWithWhatStandsInThem) {
+    for (const std::int32_t placement : {0, 1}) {
+        office::package::Package letter = support::emptyDocument();
+        support::edit(letter, "/word/document.xml", "<w:p/>",
+                      "<w:p><w:pPr><w:spacing w:line=\"280\" w:lineRule=\"exact\"/></w:pPr></w:p>");
+        const std::string file =
+            environment().temporaryFile("letter" + std::to_string(placement) + ".docx");
+        letter.save(file);
+        document.call("Close", false);
+        document = word.get("Documents").call("Open", file).toObject();
+        copyItem("picture");
+        selection().call("PasteSpecial", arg("Placement", placement));
+        const std::string text =
+            office::package::Package::open(saved("grown.docx")).read("/word/document.xml");
+        EXPECT_EQ(text.find("\"exact\"") == std::string::npos, placement == 0) << text;
+    }
 }
 
 TEST_F(WordContract, CountsObjectsInTheOrderOfReading) {

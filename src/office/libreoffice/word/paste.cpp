@@ -3,6 +3,8 @@
 #include <com/sun/star/embed/XEmbedPersist.hpp>
 #include <com/sun/star/embed/XEmbeddedObject.hpp>
 #include <com/sun/star/graphic/XGraphicProvider.hpp>
+#include <com/sun/star/style/LineSpacing.hpp>
+#include <com/sun/star/style/LineSpacingMode.hpp>
 #include <com/sun/star/text/HoriOrientation.hpp>
 #include <com/sun/star/text/RelOrientation.hpp>
 #include <com/sun/star/text/TextContentAnchorType.hpp>
@@ -108,12 +110,22 @@ void putToRest(const Connection& connection,
     });
 }
 
+/// Word shows no more of an object than is as high as a line, where lines have an exact height.
+void letLinesGrow(const RangeRef& place) {
+    using css::style::LineSpacing;
+    constexpr const char* name = "ParaLineSpacing";
+    if (property<LineSpacing>(place, name).Mode == css::style::LineSpacingMode::FIX)
+        setProperty(place, name, LineSpacing(css::style::LineSpacingMode::PROP, 100));
+}
+
 }  // namespace
 
 /// The new thing goes in front of what is selected, which is taken out only then: if the one can't
 /// be had, the other stays.
 void WriterDocument::insertObject(const TextPlace& place, const WriterObjectPtr& object) {
     removeSelected(place);
+    // What nobody sees was made here, with lines as they come.
+    if (object->anchoring() == model::Anchoring::Inline && !isUnseen_) letLinesGrow(place.range);
     if (caret_.isAtEnd())
         objects().addLast(object);
     else
