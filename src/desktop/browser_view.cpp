@@ -116,7 +116,7 @@ bool BrowserView::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
     const auto& key = dynamic_cast<const QKeyEvent&>(*event);
     if (!key.isAutoRepeat()) addToKey(key.key(), *watched);
-    // The engine keeps every key for itself, also one that no page makes anything of.
+    // The engine keeps these keys for itself, also where no page makes anything of them.
     const bool isTheForms =
         key.key() == Qt::Key_Escape || key.key() == Qt::Key_F4 || key.key() == Qt::Key_F1;
     if (!isTheForms) return false;
@@ -127,7 +127,8 @@ bool BrowserView::eventFilter(QObject* watched, QEvent* event) {
 void BrowserView::addToKey(int key, QObject& canvas) {
     const bool isSpace = key == Qt::Key_Space;
     if (!isSpace && key != Qt::Key_Return && key != Qt::Key_Enter) return;
-    // The form's own links are drawn as check boxes and buttons; on others Space scrolls.
+    // The form's own links are drawn as check boxes and buttons; on others Space scrolls. Enter in
+    // a field is kept by the engine; where nothing takes it, it comes back to the form by itself.
     const QString script = isSpace ? QStringLiteral("document.activeElement?.protocol==='murvane:'")
                                    : QStringLiteral("document.activeElement?.tagName==='INPUT'");
     QObject* receiver = isSpace ? &canvas : this;

@@ -1,6 +1,7 @@
 #include "panels/markup.h"
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include "office/text.h"
 
@@ -22,6 +23,12 @@ std::vector<std::string> trimmedLines(std::string_view text) {
         if (end == std::string::npos) return lines;
         start = end + 1;
     }
+}
+
+std::string onOneLine(std::string_view text) {
+    std::vector<std::string> lines = trimmedLines(text);
+    std::erase(lines, "");
+    return fmt::format("{}", fmt::join(lines, " "));
 }
 
 std::string TextToParagraphs(std::string_view text) {

@@ -22,6 +22,9 @@ namespace panels {
 /// text is one empty line.
 [[nodiscard]] std::vector<std::string> trimmedLines(std::string_view text);
 
+/// Those lines that aren't blank, one behind the other: for a screen reader.
+[[nodiscard]] std::string onOneLine(std::string_view text);
+
 /// ` name="value"`, the value escaped.
 [[nodiscard]] std::string attribute(std::string_view name, std::string_view value);
 

@@ -2,14 +2,13 @@
 
 #include <algorithm>
 #include <string>
-#include <string_view>
 #include <utility>
 
 #include "forms/desktop.h"
 #include "furniture/button_styles.h"
 #include "furniture/palette.h"
 #include "furniture/theme.h"
-#include "office/text.h"
+#include "panels/markup.h"
 #include "panels/page_file.h"
 #include "session/notices.h"
 
@@ -39,11 +38,6 @@ constexpr int mostTries = 13;
 
 bool has(int buttons, int flag) {
     return (buttons & flag) != 0;
-}
-
-std::string onOneLine(std::string_view text) {
-    return office::replaceAll(office::replaceAll(office::replaceAll(text, "\r\n", " "), "\r", " "),
-                              "\n", " ");
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "panels/markup.h"
 #include "panels/panel_page.h"
 
 namespace panels {
@@ -59,6 +60,8 @@ ActionBar OptionsForm::actionBar() {
 
 void OptionsForm::SetPanelMessage(std::string message, std::string kind) {
     message_ = std::move(message);
+    // A screen reader reads what has the keyboard, and that is the button.
+    ContinueOk.accessibleDescription = onOneLine(message_);
     kind_ = std::move(kind);
     RenderPanel();
 }

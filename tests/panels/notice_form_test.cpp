@@ -80,7 +80,7 @@ TEST_F(NoticeTest, ComesUpFirstAndShowsItsPageAfterwards) {
         EXPECT_EQ(form.focus, form.find("btnOK"));
         EXPECT_EQ(form.find("TitelBar1")->caption, " Murvane <now>");
         EXPECT_EQ(form.caption, "Murvane <now>");
-        EXPECT_EQ(form.focus->accessibleDescription, "Two charts  were exported.");
+        EXPECT_EQ(form.focus->accessibleDescription, "Two charts were exported.");
         desktop.advance(49ms);
         EXPECT_TRUE(desktop.browser(form)->navigations.empty());
         desktop.advance(2ms);

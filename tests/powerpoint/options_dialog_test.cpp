@@ -86,6 +86,8 @@ TEST_F(PowerPointDialog, TellsHowManyObjectsGoWhereAndOffersWhatTheirFormatHas) 
                   "<div class=\"format-tag\">" + std::string(it.name) + "</div>"}) {
                 EXPECT_TRUE(shows(dialog, text)) << text;
             }
+            const std::string& said = dialog.ContinueOk.accessibleDescription;
+            EXPECT_TRUE(said.starts_with("2 object(s) will be pasted to Deck.pptx as ")) << said;
             const auto* browser = desktop.browser(dialog);
             EXPECT_EQ(browser->hasLink("murvane://action/style"), it.hasTools) << it.name;
             EXPECT_EQ(browser->hasLink("murvane://action/layout"), it.hasTools) << it.name;
