@@ -180,6 +180,10 @@ TEST_F(Browser, ATypedValueIsReadAndEnteredByTheDefaultButton) {
     }));
     QTest::keyClick(engine().focusProxy(), Qt::Key_Return);
     EXPECT_TRUE(waitFor("Continue", 1, 3s)) << "the default button, as from a box of the form";
+    engine().page()->runJavaScript(QStringLiteral("document.activeElement.blur()"),
+                                   QWebEngineScript::ApplicationWorld);
+    QTest::keyClick(engine().focusProxy(), Qt::Key_Return);
+    EXPECT_TRUE(waitFor("Continue", 2, 3s)) << "also when nothing on the page has the keyboard";
 }
 
 TEST_F(Browser, APageAnswersAboutItselfAndItsOwnScriptsDoNotRun) {
