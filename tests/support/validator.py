@@ -32,9 +32,16 @@ def faults(path):
     """The faults of a package, each with the part that has it; the same one as often as it is there."""
     path = pathlib.Path(path).resolve()
     with TAKING_TURNS:
-        print(path, file=validator().stdin, flush=True)
-        if not select.select([validator().stdout], [], [], 120)[0] or not (said := validator().stdout.readline()):
-            raise RuntimeError(f"the validator says nothing of {path}")
+        process = validator()
+        try:
+            print(path, file=process.stdin, flush=True)
+            if not select.select([process.stdout], [], [], 120)[0] or not (said := process.stdout.readline()):
+                raise RuntimeError(f"the validator says nothing of {path}")
+        except (BrokenPipeError, RuntimeError):
+            # What it says later would be taken for the answer to the next.
+            process.kill()
+            validator.cache_clear()
+            raise
     report = json.loads(said)
     found = [f"{error['path']}: {error['description']}" for error in report["errors"]]
     if report["file"] != str(path) or report["ok"] == bool(found):
