@@ -116,7 +116,7 @@ class AtTheScreen(unittest.TestCase):
         """Until the first items are on their way."""
         hand.do("click", self.open_dialog(hand, destination), "ContinueOk")
         hand.wait_for("Progress")
-        wait_until(lambda: hand.caption("Progress", "lblStatus") >= "2", what="the second item")
+        wait_until(lambda: int("0" + hand.caption("Progress", "lblStatus").partition(" ")[0]) >= 2, what="the second item")
 
     def note_what_is_opened(self):
         """The file in which the path stands that the program has opened."""

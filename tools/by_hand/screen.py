@@ -182,7 +182,7 @@ class Screen:
         return found.stdout.split()
 
     def spread(self, text, width, height):
-        """Makes the windows of that name as large; without a window manager they come up small."""
+        """Makes the windows of that name as large: the suite brings them up small."""
         for window in self.window_named(text):
             subprocess.run(["xdotool", "windowmove", window, "0", "0", "windowsize", window, str(width), str(height)],
                            env=self.environment, check=True)
@@ -341,7 +341,9 @@ class Hand:
 
     def ended(self, patience=60.0):
         """Waits for the program to end by itself; its exit code."""
-        self.process.stdin.close()
+        # An order that never reached a program that has ended is still to be written.
+        with contextlib.suppress(BrokenPipeError):
+            self.process.stdin.close()
         deadline = time.monotonic() + patience
         while self.process.poll() is None and time.monotonic() < deadline:
             time.sleep(0.02)
