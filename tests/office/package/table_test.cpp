@@ -135,7 +135,7 @@ TEST_F(Table, LooksAsItsCellsDo) {
 
     const std::vector<std::string> expected = {
         " rowSpan=2 gridSpan=2 |<a> & b algn=l marL=12700 anchor=b"
-        " lnL=9525 sng solid lnT=9525 sng solid fill=EE0000",
+        " lnL=9525 sng solid lnR=9525 sng solid lnT=9525 sng solid lnB=9525 sng solid fill=EE0000",
         " rowSpan=2 hMerge=1 | marL=12700 anchor=b lnR=9525 sng solid lnT=9525 sng solid "
         "fill=EE0000",
         " |one algn=r | algn=r |two algn=r marL=0 anchor=b lnB=19050 dbl solid",

@@ -81,13 +81,16 @@ private:
         setRounded(properties, "marT", fit.topPt * scale_ * emuPerPoint);
         setRounded(properties, "marB", fit.bottomPt * scale_ * emuPerPoint);
         writeDirection(properties, cell);
+        // Of merged cells some programs draw the lines that the first one names, others those of
+        // the cells at their edges.
         const bool isLastColumn =
             column + 1 == origin.column + static_cast<std::size_t>(cell.columns);
         const bool isLastRow = row + 1 == origin.row + static_cast<std::size_t>(cell.rows);
+        const bool isFirst = !isRight && !isBelow;
         writeLine(properties, "a:lnL", isRight ? CellLine() : cell.left);
-        writeLine(properties, "a:lnR", isLastColumn ? cell.right : CellLine());
+        writeLine(properties, "a:lnR", isFirst || isLastColumn ? cell.right : CellLine());
         writeLine(properties, "a:lnT", isBelow ? CellLine() : cell.top);
-        writeLine(properties, "a:lnB", isLastRow ? cell.bottom : CellLine());
+        writeLine(properties, "a:lnB", isFirst || isLastRow ? cell.bottom : CellLine());
         writeFill(properties, cell);
     }
 
