@@ -311,7 +311,7 @@ TEST_F(DocumentPaste, MakesTablesThatLookAsTheirCellsDo) {
     look.cells[0].rows = 2;
     for (const std::size_t covered : {1U, 3U, 4U}) look.cells[covered].isCovered = true;
     look.cells[0].fill = 0x336699;
-    look.cells[0].bottom = {1, 0x0000FF, CellLine::Style::Double};
+    look.cells[0].bottom = {1.5, 0x0000FF, CellLine::Style::Double};
     look.cells[2].across = CellLook::Across::Right;
     look.cells[2].top = {0.5, 0, CellLine::Style::Dotted};
     look.cells[6].rotation = 90;
@@ -326,7 +326,7 @@ TEST_F(DocumentPaste, MakesTablesThatLookAsTheirCellsDo) {
     const auto table = again->body().child("w:tbl");
     EXPECT_EQ(described(table),
               "[a 2 restart bottom fill=996633 left 11][c bottom top=dotted 4 000000 right 11]\n"
-              "[ 2 continue bottom bottom=double 8 FF0000 fill=996633 left 11][f bottom left 11]\n"
+              "[ 2 continue bottom bottom=double 4 FF0000 fill=996633 left 11][f bottom left 11]\n"
               "[g btLr top center 11][h\ni bottom left 11][j top left 11]\n");
     long long width = 0;
     for (const pugi::xml_node column : table.child("w:tblGrid").children())

@@ -164,8 +164,10 @@ private:
             return;
         }
         auto made = addValue(borders, side, nameOf(line.style));
+        // A double line is as wide as the two and what is between them; Word counts one of these.
+        const double share = line.style == CellLine::Style::Double ? 1.0 / 3 : 1;
         made.append_attribute("w:sz").set_value(
-            std::llround(std::clamp(line.widthPt * eighths, thinnestLine, thickestLine)));
+            std::llround(std::clamp(line.widthPt * share * eighths, thinnestLine, thickestLine)));
         made.append_attribute("w:space").set_value("0");
         made.append_attribute("w:color").set_value(hexColour(line.colour).c_str());
     }
