@@ -40,7 +40,9 @@ public:
         if (cell.wraps && !value.number) return;
         const double room = roomIn(row, column);
         const double wide = widthOf(cell);
-        if (wide <= room + tolerancePt) return;
+        if (value.number && !isGeneral(value) ? wide * onScreen(cell) <= room
+                                              : wide <= room + tolerancePt)
+            return;
         if (value.shrinksToFit) {
             cell.fontSizePt *= std::max(room, 1.0) / wide;
         } else if (value.number) {
@@ -76,19 +78,32 @@ private:
         return widest;
     }
 
+    [[nodiscard]] bool isGeneral(const CellValue& value) {
+        return formats_.codeOf(value.numberFormat) == "General";
+    }
+
+    /// Numbers that don't go as they are have to fit on a screen, in letters of whole pixels: how
+    /// much wider they are there.
+    [[nodiscard]] static double onScreen(const CellLook& cell) {
+        constexpr double pixelsPerPoint = 96.0 / 72;
+        const double pixels = cell.fontSizePt * pixelsPerPoint;
+        return std::max(std::round(pixels), 1.0) / pixels;
+    }
+
     void fitNumber(CellLook& cell, const CellValue& value, double room) {
-        if (formats_.codeOf(value.numberFormat) == "General" &&
-            (roundToFit(cell, value, room) || writeShort(cell, value, room)))
+        if (isGeneral(value) && (roundToFit(cell, value, room) || writeShort(cell, value, room)))
             return;
         const double one = widths_.of("#", cell);
         cell.text.assign(static_cast<std::size_t>(std::max(room / one, 1.0)), '#');
     }
 
-    /// With as many decimals as there is room for.
+    /// With as many decimals as there is room for. Of a small number they would be noughts.
     bool roundToFit(CellLook& cell, const CellValue& value, double room) {
+        constexpr double smallest = 1e-4;
+        if (std::abs(*value.number) < smallest) return false;
         const auto [mark, decimals] = decimalsOf(cell.text);
         for (std::size_t i = decimals; i-- > 0;) {
-            if (take(cell, withMark(fmt::format("{:.{}f}", *value.number, i), mark), room))
+            if (take(cell, shortened(fmt::format("{:.{}f}", *value.number, i), mark), room))
                 return true;
         }
         return false;
@@ -96,19 +111,19 @@ private:
 
     /// As a number of few digits with a power of ten.
     bool writeShort(CellLook& cell, const CellValue& value, double room) {
-        constexpr int mostDecimals = 5;
+        constexpr int mostDecimals = 14;
         // A short number has too few characters to save any.
-        if (std::abs(*value.number) < 1e5 && std::abs(*value.number) > 1e-5) return false;
+        if (std::abs(*value.number) < 1e5 && std::abs(*value.number) > 1e-4) return false;
         const auto [mark, decimals] = decimalsOf(cell.text);
         for (int i = mostDecimals; i >= 0; --i) {
-            if (take(cell, withMark(fmt::format("{:.{}E}", *value.number, i), mark), room))
+            if (take(cell, shortened(fmt::format("{:.{}E}", *value.number, i), mark), room))
                 return true;
         }
         return false;
     }
 
     bool take(CellLook& cell, const std::string& text, double room) {
-        if (widths_.of(text, cell) > room) return false;
+        if (widths_.of(text, cell) * onScreen(cell) > room) return false;
         cell.text = text;
         return true;
     }
@@ -123,9 +138,14 @@ private:
         if (after == end) return {".", 0};
         return {number.substr(mark, after - mark), end - after};
     }
-    static std::string withMark(std::string number, const std::string& mark) {
+    /// Without decimals at the end that are noughts, and with its own decimal mark.
+    static std::string shortened(std::string number, const std::string& mark) {
         const std::size_t point = number.find('.');
-        return point == std::string::npos ? number : number.replace(point, 1, mark);
+        if (point == std::string::npos) return number;
+        const std::size_t end = std::min(number.find('E'), number.size());
+        const std::size_t last = number.find_last_not_of('0', end - 1);
+        number.erase(last + 1, end - last - 1);
+        return last == point ? number.erase(point, 1) : number.replace(point, 1, mark);
     }
 
     void fitText(std::size_t row, std::size_t column, double wide) {
