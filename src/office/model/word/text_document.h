@@ -109,8 +109,8 @@ public:
     virtual std::string title() = 0;
     virtual void setTitle(const std::string& title) = 0;
 
-    /// Characters of the text itself, paragraph ends and objects counted as one each: 1 for an
-    /// empty document.
+    /// Characters of the text itself, paragraph ends and objects included: 1 for an empty document,
+    /// and more for any other. Objects alone may count together.
     virtual std::int32_t length() = 0;
 
     // The end of the text.
