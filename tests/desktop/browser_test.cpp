@@ -180,8 +180,11 @@ TEST_F(Browser, ATypedValueIsReadAndEnteredByTheDefaultButton) {
     }));
     QTest::keyClick(engine().focusProxy(), Qt::Key_Return);
     EXPECT_TRUE(waitFor("Continue", 1, 3s)) << "the default button, as from a box of the form";
+    bool isLeft = false;
     engine().page()->runJavaScript(QStringLiteral("document.activeElement.blur()"),
-                                   QWebEngineScript::ApplicationWorld);
+                                   QWebEngineScript::ApplicationWorld,
+                                   [&](const QVariant&) { isLeft = true; });
+    ASSERT_TRUE(waitUntil([&] { return isLeft; }));
     QTest::keyClick(engine().focusProxy(), Qt::Key_Return);
     EXPECT_TRUE(waitFor("Continue", 2, 3s)) << "also when nothing on the page has the keyboard";
 }
