@@ -1,10 +1,13 @@
+#include <com/sun/star/awt/FontUnderline.hpp>
 #include <com/sun/star/awt/Size.hpp>
+#include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XChild.hpp>
 #include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/drawing/XShapeGrouper.hpp>
 #include <com/sun/star/drawing/XShapes.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
+#include <com/sun/star/text/WritingMode2.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
 #include <cmath>
@@ -119,6 +122,70 @@ TEST_F(ExcelPictures, LooksInTheDrawingRoomAsTheSuiteDrawsIt) {
     const auto ours =
         maker.chart(plain->shape(), plain->shape()->getSize(), office::Sharpness::Crisp);
     EXPECT_LT(meanDifference(ours.png.get(), bytesOf(own)), 1);
+}
+
+/// How dark the columns of pixels from one to another are in all.
+double inkOf(const support::PngPixels& picture, std::uint32_t from, std::uint32_t to) {
+    double ink = 0;
+    for (std::uint32_t y = 0; y < picture.height; ++y)
+        for (std::uint32_t x = from; x < to; ++x)
+            ink += 255 - picture.rgba[std::size_t{4} * (y * picture.width + x)];
+    return ink;
+}
+
+/// Of cells, by the suite itself.
+double inkDrawnBySuite(excel::PictureMaker& maker, const office::CopiedPtr& cells,
+                       const std::string& path) {
+    const auto& copied = dynamic_cast<const excel::CopiedPicture&>(*cells);
+    maker.suite().writeMetafile(copied.metafile(), copied.size(), path);
+    const support::PngPixels picture = support::pixelsOf(bytesOf(path));
+    return inkOf(picture, 0, picture.width);
+}
+
+TEST_F(ExcelPictures, ShowsLinesAlongTextsWhereTheSuiteDrawsThemToo) {
+    const Object book = open("cells.xlsx");
+    const Value text = sheet(book, "Data").get("Range", "A1");
+    const auto cells = desk->active<excel::CalcDocument>()->sheetList().find("Data")->range(
+        excel::model::CellBlock::cell(0, 0));
+    const auto ink = [&](const char* property, std::int16_t line) {
+        const auto values = as<css::beans::XPropertySet>(cells);
+        values->setPropertyValue(toUno(property), uno::Any(line));
+        text.call("CopyPicture", 1, -4147);
+        values->setPropertyValue(toUno(property), uno::Any(std::int16_t{0}));
+        return inkDrawnBySuite(excel::pictureMaker(*desk), desk->clipboard().copied,
+                               file("lines.png"));
+    };
+    const double plain = ink("CharUnderline", 0);
+    EXPECT_GT(ink("CharUnderline", css::awt::FontUnderline::SINGLE), 1.1 * plain);
+    EXPECT_GT(ink("CharOverline", css::awt::FontUnderline::SINGLE), 1.1 * plain);
+}
+
+TEST_F(ExcelPictures, ShowsBothOuterBordersOfCellsFromRightToLeft) {
+    const Object book = open("tables.xlsx");
+    const auto looks = desk->active<excel::CalcDocument>()->sheetList().find("Looks");
+    setProperty(looks->sheet(), "TableLayout", sal_Int16{css::text::WritingMode2::RL_TB});
+    sheet(book, "Looks").get("Range", "D3").put("Value", std::string(40, 'm'));
+    for (const char* bordered : {"A2:B3", "D2:F3"}) {
+        sheet(book, "Looks").get("Range", bordered).call("CopyPicture", 1, -4147);
+        const support::PngPixels picture = support::pixelsOf(
+            desk->clipboard().copied->picture(office::Sharpness::Crisp).png.get());
+        const double line = 60.0 * picture.height;
+        constexpr std::uint32_t edge = 4;
+        EXPECT_GT(inkOf(picture, 0, edge), line) << bordered;
+        EXPECT_GT(inkOf(picture, picture.width - edge, picture.width), line) << bordered;
+    }
+}
+
+TEST_F(ExcelPictures, ShowsMergedCellsWhole) {
+    const Object looks = sheet(open("tables.xlsx"), "Looks");
+    const Value whole = looks.get("Range", "A2:B3");
+    for (const char* part : {"A2", "B3"}) {
+        looks.get("Range", part).call("Copy");
+        EXPECT_EQ(desk->clipboard().copied->source().address, "$A$2:$B$3") << part;
+        const support::PngSize size = support::pngSizeOf(pictureOf(looks.get("Range", part)));
+        EXPECT_NEAR(size.widthPoints(), whole.get("Width").toDouble(), 0.5) << part;
+        EXPECT_NEAR(size.heightPoints(), whole.get("Height").toDouble(), 0.5) << part;
+    }
 }
 
 TEST_F(ExcelPictures, ShowsTheDataOfTheMoment) {

@@ -49,12 +49,16 @@ void GlyphPainter::setFont(const Metafile::Font& font) {
     pango_layout_set_font_description(layout_->layout.get(), wanted.get());
 }
 
+void GlyphPainter::setSource(const Metafile::Colour& colour) {
+    cairo_set_source_rgb(context_, colour.red, colour.green, colour.blue);
+}
+
 void GlyphPainter::paint(const Metafile::Text& text, const Metafile::Font& font) {
     // Too small to be seen.
     if (std::round(font.height * down_) < 1) return;
     setFont(font);
     cairo_save(context_);
-    cairo_set_source_rgb(context_, text.colour.red, text.colour.green, text.colour.blue);
+    setSource(text.colour);
     cairo_translate(context_, std::round(text.start.x * across_), std::round(text.start.y * down_));
     if (font.angle != 0) cairo_rotate(context_, -font.angle * std::numbers::pi / 180);
     paintGlyphs(text);
@@ -116,6 +120,7 @@ void GlyphPainter::paintLines(const Metafile::Text& text, const Metafile::Font& 
     };
     const double single = std::max(1.0, std::floor((descent * 25 + 50) / 100));
     const double half = std::max(1.0, std::floor(single / 2));
+    setSource(text.lineColour);
     if (font.underlines == 1) line(std::floor(descent * 7 / 10) - half, single);
     if (font.underlines == 2) {
         const double weight = std::max(1.0, std::floor((descent * 16 + 50) / 100));
@@ -123,6 +128,7 @@ void GlyphPainter::paintLines(const Metafile::Text& text, const Metafile::Font& 
         line(first, weight);
         line(first + 2 * weight, weight);
     }
+    setSource(text.colour);
     if (font.isStruckOut) line(-std::floor((ascent - descent) / 3) - half, single);
 }
 

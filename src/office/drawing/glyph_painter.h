@@ -25,6 +25,7 @@ private:
     struct Layout;
 
     void setFont(const Metafile::Font& font);
+    void setSource(const Metafile::Colour& colour);
     void paintGlyphs(const Metafile::Text& text);
     void paintLines(const Metafile::Text& text, const Metafile::Font& font);
 

@@ -85,6 +85,8 @@ struct Metafile {
         /// Among the fonts.
         std::size_t font = 0;
         Colour colour;
+        /// Of the line beneath.
+        Colour lineColour;
     };
 
     /// What follows up to the end of it shines through as one.

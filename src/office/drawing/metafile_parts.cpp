@@ -8,8 +8,27 @@ namespace office::drawing {
 namespace {
 
 constexpr std::uint16_t wideCharset = 0xFFFF;
+constexpr std::size_t compressionSize = 4;
 
 }  // namespace
+
+Values sizeInMetafile(Values& values) {
+    if (values.take(magicOfMetafile.size()) != magicOfMetafile) throw Unknown("damage");
+    Values head = values.part();
+    head.take(compressionSize);
+    const Mapping whole = readMapping(head.part(), {});
+    if (whole.scaleX != 1 || whole.scaleY != 1) throw Unknown("unit");
+    return head;
+}
+
+MetafileHead readMetafileHead(Values& values) {
+    Values head = sizeInMetafile(values);
+    MetafileHead read;
+    read.width = head.number();
+    read.height = head.number();
+    read.actions = head.next<std::uint32_t>();
+    return read;
+}
 
 Mapping readMapping(Values values, const Mapping& outer) {
     constexpr std::uint16_t hundredthMm = 0;
@@ -42,6 +61,12 @@ std::optional<Metafile::Colour> readOptionalColour(Values& values) {
     const Metafile::Colour read = readColour(values);
     if (!values.flag()) return std::nullopt;
     return read;
+}
+
+std::optional<Metafile::Colour> readTextLineColour(Values& values) {
+    Values number = values;
+    if (number.next<std::uint32_t>() == colourOfText) return std::nullopt;
+    return readOptionalColour(values);
 }
 
 Metafile::Gradient readGradient(Values values) {

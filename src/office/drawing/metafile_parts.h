@@ -7,6 +7,11 @@
 
 namespace office::drawing {
 
+inline constexpr std::string_view magicOfMetafile = "VCLMTF";
+
+/// Written as the colour of a line along a text that has the text's own.
+inline constexpr std::uint32_t colourOfText = 0xFFFFFFFF;
+
 /// How coordinates become those of the picture.
 struct Mapping {
     double originX = 0;
@@ -19,6 +24,13 @@ struct Mapping {
     }
 };
 
+/// What a metafile begins with.
+struct MetafileHead {
+    double width = 0;
+    double height = 0;
+    std::uint32_t actions = 0;
+};
+
 /// A font, and whether the texts in it are written in units of two bytes.
 struct ReadFont {
     Metafile::Font font;
@@ -27,10 +39,15 @@ struct ReadFont {
 
 /// The parts of a metafile's actions that depend on little else. Each throws `Unknown` for what
 /// can't be drawn.
+/// Its width, height and number of actions. The actions are what is left then.
+[[nodiscard]] Values sizeInMetafile(Values& values);
+[[nodiscard]] MetafileHead readMetafileHead(Values& values);
 [[nodiscard]] Mapping readMapping(Values values, const Mapping& outer);
 [[nodiscard]] Metafile::Colour readColour(Values& values);
 /// None where nothing is drawn.
 [[nodiscard]] std::optional<Metafile::Colour> readOptionalColour(Values& values);
+/// None where it is the colour of the text.
+[[nodiscard]] std::optional<Metafile::Colour> readTextLineColour(Values& values);
 [[nodiscard]] Metafile::Gradient readGradient(Values values);
 [[nodiscard]] Metafile::Pen readPen(Values values, const Metafile::Colour& colour, double scale);
 [[nodiscard]] ReadFont readFont(Values values, double scale);

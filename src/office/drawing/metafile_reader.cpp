@@ -6,57 +6,25 @@
 #include <cstdint>
 #include <utility>
 
+#include "office/drawing/metafile_action.h"
 #include "office/drawing/metafile_parts.h"
 
 namespace office::drawing {
 
 namespace {
 
-constexpr std::string_view magic = "VCLMTF";
-constexpr std::size_t compressionSize = 4;
-
 /// What later operations depend on.
 struct State {
     std::optional<Metafile::Colour> line;
     std::optional<Metafile::Colour> fill;
     Metafile::Colour text;
+    /// None where it is the text's.
+    std::optional<Metafile::Colour> textLine;
     std::size_t font = 0;
     bool hasWideCharacters = false;
     bool isOnBaseLine = false;
     Mapping mapping;
     std::size_t clip = 0;
-};
-
-enum class Action : std::uint16_t {
-    None = 0,
-    Line = 102,
-    Rectangle = 103,
-    PolyLine = 109,
-    Polygon = 110,
-    PolyPolygon = 111,
-    TextArray = 113,
-    Gradient = 125,
-    ClipRegion = 128,
-    IntersectRectangle = 129,
-    IntersectRegion = 130,
-    LineColour = 132,
-    FillColour = 133,
-    TextColour = 134,
-    TextFillColour = 135,
-    TextAlign = 136,
-    MapMode = 137,
-    Font = 138,
-    Push = 139,
-    Pop = 140,
-    Transparent = 142,
-    ReferencePoint = 144,
-    TextLineColour = 145,
-    FloatTransparent = 147,
-    GradientOfOutline = 148,
-    LayoutMode = 149,
-    TextLanguage = 150,
-    OverlineColour = 151,
-    Comment = 512
 };
 
 constexpr std::uint16_t pushesAll = 0xFFFF;
@@ -66,6 +34,7 @@ constexpr std::uint16_t pushesFont = 0x0004;
 constexpr std::uint16_t pushesTextColour = 0x0008;
 constexpr std::uint16_t pushesMapMode = 0x0010;
 constexpr std::uint16_t pushesClip = 0x0020;
+constexpr std::uint16_t pushesTextLine = 0x0400;
 
 constexpr gunichar firstBeyondUnits = 0x10000;
 
@@ -86,29 +55,10 @@ public:
 
     void read(std::string_view bytes) {
         Values values(bytes);
-        const Extent extent = readHead(values);
-        picture_.width = extent.width;
-        picture_.height = extent.height;
-        readActions(values, extent.actions);
-    }
-
-    struct Extent {
-        double width = 0;
-        double height = 0;
-        std::uint32_t actions = 0;
-    };
-
-    static Extent readHead(Values& values) {
-        if (values.take(magic.size()) != magic) throw Unknown("damage");
-        Values head = values.part();
-        head.take(compressionSize);
-        const Mapping whole = readMapping(head.part(), {});
-        if (whole.scaleX != 1 || whole.scaleY != 1) throw Unknown("unit");
-        Extent extent;
-        extent.width = head.number();
-        extent.height = head.number();
-        extent.actions = head.next<std::uint32_t>();
-        return extent;
+        const MetafileHead head = readMetafileHead(values);
+        picture_.width = head.width;
+        picture_.height = head.height;
+        readActions(values, head.actions);
     }
 
 private:
@@ -237,7 +187,6 @@ void Reader::readAction(Action action, Values values, std::uint16_t version) {
         case Action::None:
         case Action::TextFillColour:
         case Action::ReferencePoint:
-        case Action::TextLineColour:
         case Action::LayoutMode:
         case Action::TextLanguage:
         case Action::OverlineColour:
@@ -285,6 +234,9 @@ void Reader::readAction(Action action, Values values, std::uint16_t version) {
             return;
         case Action::TextColour:
             state_.text = readColour(values);
+            return;
+        case Action::TextLineColour:
+            state_.textLine = readTextLineColour(values);
             return;
         case Action::TextAlign:
             state_.isOnBaseLine = values.word() == 1;
@@ -335,6 +287,7 @@ void Reader::pop() {
     if ((what & pushesTextColour) != 0) state_.text = before.text;
     if ((what & pushesMapMode) != 0) state_.mapping = before.mapping;
     if ((what & pushesClip) != 0) state_.clip = before.clip;
+    if ((what & pushesTextLine) != 0) state_.textLine = before.textLine;
 }
 
 std::optional<Metafile::Outline> Reader::region(Values values) const {
@@ -369,6 +322,7 @@ void Reader::readText(Values values) {
     text.start = point(values);
     text.font = state_.font;
     text.colour = state_.text;
+    text.lineColour = state_.textLine.value_or(state_.text);
     // Once in the characters of a code page, and behind the places again in those of all.
     values.take(state_.hasWideCharacters ? sizeof(char16_t) * values.next<std::uint32_t>()
                                          : std::size_t{values.word()});
@@ -398,14 +352,14 @@ void Reader::readText(Values values) {
 
 void Reader::readVeil(Values values) {
     // A picture of its own, whose coordinates are those of this one, wherever it is said to lie.
-    const Extent extent = readHead(values);
+    const MetafileHead head = readMetafileHead(values);
     const std::size_t opening = picture_.operations.size();
     add(Metafile::Veil{});
     const State outside = state_;
     state_ = {};
     state_.mapping = outside.mapping;
     state_.clip = outside.clip;
-    readActions(values, extent.actions);
+    readActions(values, head.actions);
     state_ = outside;
     add(Metafile::EndOfVeil{});
     constexpr std::size_t place = 4 * sizeof(std::int32_t);
@@ -424,14 +378,14 @@ void Reader::readComment(Values values) {
 }  // namespace
 
 bool isMetafile(std::string_view bytes) {
-    return bytes.starts_with(magic);
+    return bytes.starts_with(magicOfMetafile);
 }
 
 MetafileSize sizeOfMetafile(std::string_view bytes) {
     try {
         Values values(bytes);
-        const auto [width, height, actions] = Reader::readHead(values);
-        return {width, height};
+        const MetafileHead head = readMetafileHead(values);
+        return {head.width, head.height};
     } catch (const Unknown&) {
         return {};
     }

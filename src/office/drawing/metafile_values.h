@@ -44,6 +44,8 @@ public:
     }
     /// Of the part that was taken last.
     [[nodiscard]] std::uint16_t version() const { return version_; }
+    /// How many bytes are still to be taken.
+    [[nodiscard]] std::size_t left() const { return bytes_.size(); }
     [[nodiscard]] bool isEmpty() const { return bytes_.empty(); }
 
 private:

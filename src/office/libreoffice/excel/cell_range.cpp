@@ -54,14 +54,17 @@ bool CellRange::areBlank() {
 office::CopiedPtr CellRange::copy(office::CopySource source) {
     // LibreOffice gives hidden rows and columns the size of one of its units.
     constexpr std::int32_t thinnest = 3;
-    const css::awt::Size size = placeOf(range()).size;
+    // A name that was given to a merged cell names its first one alone.
+    const auto cells = sheet_->wholeCells(block_);
+    const model::CellBlock block = blockOf(cells);
+    if (!(block == block_)) source.address = model::addressOf(block);
+    const css::awt::Size size = placeOf(cells).size;
     if (size.Width <= thinnest || size.Height <= thinnest)
         office::refuse("Range.Copy", "There is nothing to copy: these rows or columns are hidden");
     if (source.kind == office::CopySource::Kind::Cells)
-        return std::make_shared<CopiedCells>(sheet_, std::move(source), range(), block_, size);
+        return std::make_shared<CopiedCells>(sheet_, std::move(source), cells, block, size);
     return std::make_shared<CopiedPicture>(sheet_->book().desk(), std::move(source),
-                                           takePictureOfCells(*sheet_, range(), block_, size),
-                                           size);
+                                           takePictureOfCells(*sheet_, cells, block, size), size);
 }
 
 }  // namespace libreoffice::excel

@@ -6,6 +6,7 @@
 
 #include <cmath>
 
+#include "office/drawing/mended_metafile.h"
 #include "office/drawing/metafile.h"
 #include "office/failure.h"
 #include "office/libreoffice/excel/calc_document.h"
@@ -52,6 +53,8 @@ uno::Sequence<sal_Int8> takePictureOfCells(SheetRecord& sheet,
     if (!metafile.hasElements() || size.Width <= 0 || size.Height <= 0) {
         office::refuse("Range.CopyPicture", "There is nothing to take a picture of");
     }
+    office::drawing::mendMetafileOfCells(
+        {reinterpret_cast<char*>(metafile.getArray()), bytesOf(metafile).size()}, size.Width);
     return metafile;
 }
 

@@ -1,0 +1,87 @@
+#include "office/drawing/mended_metafile.h"
+
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+#include "office/drawing/metafile_action.h"
+#include "office/drawing/metafile_parts.h"
+
+namespace office::drawing {
+
+namespace {
+
+/// Of the two pixels of the screen by which LibreOffice draws cells from right to left too far to
+/// the left, in hundredths of a millimetre: both outer borders are in the picture then.
+constexpr std::int32_t aside = 40;
+
+/// Widths that differ by less are the same but for rounding.
+constexpr std::int32_t closeEnough = 100;
+
+class Mender {
+public:
+    Mender(std::span<char> bytes, std::int32_t width) : bytes_(bytes), width_(width) {}
+
+    void mend() {
+        Values values(std::string_view(bytes_.data(), bytes_.size()));
+        const Values size = sizeInMetafile(values);
+        const std::size_t behindSize = values.left();
+        Values head = size;
+        const std::int32_t width = head.number();
+        head.number();
+        bool isAtBeginning = true;
+        for (auto left = head.next<std::uint32_t>(); left > 0; --left) {
+            const auto action = static_cast<Action>(values.word());
+            const Values content = values.part();
+            if (action == Action::TextLineColour || action == Action::OverlineColour)
+                mendLineColour(content, values.left());
+            if (action == Action::MapMode && isAtBeginning &&
+                mendOrigin(content, values.left(), width))
+                write(size, behindSize, width - widthOfOthers(width));
+            isAtBeginning = isAtBeginning && action == Action::Push;
+        }
+    }
+
+private:
+    /// Only the flag behind it says that it is no colour of the line's own.
+    void mendLineColour(Values colour, std::size_t behind) {
+        if (colour.next<std::uint32_t>() == colourOfText) write(colour, behind, std::uint8_t{0});
+    }
+
+    /// Cells from right to left lie left of an origin that is moved there first, and those that a
+    /// text runs out to, which aren't shown, lie left of them.
+    bool mendOrigin(Values mapping, std::size_t behind, std::int32_t width) {
+        Values content = mapping.part();
+        content.word();
+        const Values place = content;
+        const std::int32_t origin = content.number();
+        if (origin < width - 1) return false;
+        write(place, mapping.left() + behind, origin - widthOfOthers(width) + aside);
+        return true;
+    }
+
+    [[nodiscard]] std::int32_t widthOfOthers(std::int32_t width) const {
+        return width - width_ > closeEnough ? width - width_ : 0;
+    }
+
+    /// In the place of the next of some values; `behind` is what follows them.
+    template <class Number>
+    void write(const Values& place, std::size_t behind, Number number) {
+        std::memcpy(bytes_.last(place.left() + behind).data(), &number, sizeof number);
+    }
+
+    std::span<char> bytes_;
+    std::int32_t width_;
+};
+
+}  // namespace
+
+void mendMetafileOfCells(std::span<char> bytes, std::int32_t width) {
+    try {
+        Mender(bytes, width).mend();
+    } catch (const Unknown&) {
+        return;
+    }
+}
+
+}  // namespace office::drawing
