@@ -6,6 +6,7 @@ namespace live {
 namespace {
 
 using libreoffice::excel::SameFonts;
+using office::drawing::FontKind;
 
 class SameFontsLive : public LiveSuite {};
 
@@ -19,6 +20,9 @@ TEST_F(SameFontsLive, AreFoundOutByTheirWidths) {
     for (const auto& [font, characters, isSame] : {
              Case{{"Liberation Sans"}, "", true},
              Case{{"Liberation Serif", 700}, "ä€", true},
+             Case{{"Impact", 400, false, FontKind::Swiss}, "", true},
+             Case{{"Consolas", 700, false, FontKind::Swiss}, "", true},
+             Case{{"Book Antiqua", 400, false, FontKind::Roman}, "", true},
              Case{{"DejaVu Sans Mono", 400, true}, "", true},
              // Carlito stands in for it, for both.
              Case{{"Calibri"}, "–", true},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -7,15 +8,19 @@
 
 namespace office::drawing {
 
+/// What stands in for a font that isn't there, by LibreOffice's numbers of what it calls families.
+enum class FontKind : std::uint16_t { Any = 0, Roman = 3, Swiss = 5 };
+
 /// A font by its name.
 struct NamedFont {
     std::string family;
     int weight = 400;
     bool isItalic = false;
+    FontKind kind = FontKind::Any;
 
     bool operator<(const NamedFont& other) const {
-        return std::tie(family, weight, isItalic) <
-               std::tie(other.family, other.weight, other.isItalic);
+        return std::tie(family, weight, isItalic, kind) <
+               std::tie(other.family, other.weight, other.isItalic, other.kind);
     }
 };
 

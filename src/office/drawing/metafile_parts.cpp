@@ -129,7 +129,8 @@ ReadFont readFont(Values values, double scale) {
     const std::int32_t width = values.number();
     font.height = values.number() * scale;
     read.hasWideCharacters = values.word() == wideCharset;
-    values.word();
+    const auto kind = static_cast<FontKind>(values.word());
+    if (kind == FontKind::Roman || kind == FontKind::Swiss) font.name.kind = kind;
     values.word();
     constexpr std::array<int, 11> weights = {400, 100, 200, 300, 350, 400, 500, 600, 700, 800, 900};
     font.name.weight = weights.at(std::min<std::size_t>(values.word(), weights.size() - 1));

@@ -49,6 +49,7 @@ double SameFonts::suiteWidth(const NamedFont& font, const std::string& line) {
     }
     css::awt::FontDescriptor wanted;
     wanted.Name = toUno(font.family);
+    wanted.Family = static_cast<sal_Int16>(font.kind);
     wanted.Height = comparedSize;
     wanted.Weight =
         font.weight >= boldFrom ? css::awt::FontWeight::BOLD : css::awt::FontWeight::NORMAL;
