@@ -167,6 +167,7 @@ TEST_F(ExcelTables, DoWithWideTextsWhatASheetDoes) {
         // Only in letters of whole pixels wider than its cell.
         "########## right",
         "2.5 right",
+        "turne right turned=90",
     };
     const TableLook table = tableOf("Wide", "A1:D12");
     std::vector<std::string> found;

@@ -36,8 +36,9 @@ public:
 
     void fit(std::size_t row, std::size_t column, const CellValue& value) {
         CellLook& cell = at(row, column);
-        if (cell.isCovered || cell.text.empty() || cell.rotation != 0) return;
+        if (cell.isCovered || cell.text.empty()) return;
         if (cell.wraps && !value.number) return;
+        if (cell.rotation != 0) return fitTurned(row, column);
         const double room = roomIn(row, column);
         const double wide = widthOf(cell);
         if (value.number && !isGeneral(value) ? wide * onScreen(cell) <= room
@@ -148,6 +149,23 @@ private:
         return last == point ? number.erase(point, 1) : number.replace(point, 1, mark);
     }
 
+    /// What is turned is cut off above or below. Rows that were made as high as it are measured
+    /// with characters that come closer to one another.
+    void fitTurned(std::size_t row, std::size_t column) {
+        constexpr double closeness = 1.05;
+        CellLook& cell = at(row, column);
+        double room = 0;
+        for (std::size_t i = 0; i < static_cast<std::size_t>(cell.rows); ++i)
+            room += table_.rowHeightsPt[row + i];
+        if (widthOf(cell) <= room * closeness + tolerancePt) return;
+        CellLook::Across along = CellLook::Across::Centre;
+        if (cell.down != CellLook::Down::Middle) {
+            const bool beginsThere = (cell.down == CellLook::Down::Bottom) == (cell.rotation == 90);
+            along = beginsThere ? CellLook::Across::Left : CellLook::Across::Right;
+        }
+        cut(cell, room, along);
+    }
+
     void fitText(std::size_t row, std::size_t column, double wide) {
         const CellLook::Across across = at(row, column).across;
         const bool isSingle = at(row, column).columns == 1 && at(row, column).rows == 1;
@@ -161,7 +179,7 @@ private:
             }
         }
         if (widthOf(at(row, column)) > roomIn(row, column) + tolerancePt)
-            cut(at(row, column), roomIn(row, column));
+            cut(at(row, column), roomIn(row, column), across);
     }
 
     /// Whether this text can run over into the cell at this place of its row. The cell would lose a
@@ -198,7 +216,7 @@ private:
 
     /// Leaves what is seen of a text: its beginning, its end if it stands on the right, or its
     /// middle.
-    void cut(CellLook& cell, double room) {
+    void cut(CellLook& cell, double room, CellLook::Across along) {
         struct Character {
             std::string_view bytes;
             double width;
@@ -215,10 +233,10 @@ private:
             i += length;
         }
         auto first = characters.begin(), last = characters.end();
-        bool fromFront = cell.across == CellLook::Across::Right;
+        bool fromFront = along == CellLook::Across::Right;
         while (last - first > 1 && wide > room) {
             wide -= fromFront ? first++->width : (--last)->width;
-            if (cell.across == CellLook::Across::Centre) fromFront = !fromFront;
+            if (along == CellLook::Across::Centre) fromFront = !fromFront;
         }
         std::string seen;
         for (auto each = first; each != last; ++each) seen += each->bytes;
