@@ -186,6 +186,8 @@ TEST_F(ExcelPictures, ShowsMergedCellsWhole) {
         EXPECT_NEAR(size.widthPoints(), whole.get("Width").toDouble(), 0.5) << part;
         EXPECT_NEAR(size.heightPoints(), whole.get("Height").toDouble(), 0.5) << part;
     }
+    looks.get("Range", "B:B").call("Copy");
+    EXPECT_EQ(desk->clipboard().copied->source().address, "$A:$B");
 }
 
 TEST_F(ExcelPictures, ShowsTheDataOfTheMoment) {

@@ -45,7 +45,8 @@ public:
 private:
     /// Only the flag behind it says that it is no colour of the line's own.
     void mendLineColour(Values colour, std::size_t behind) {
-        if (colour.next<std::uint32_t>() == colourOfText) write(colour, behind, std::uint8_t{0});
+        if (colour.next<std::uint32_t>() == colourOfText && !colour.isEmpty())
+            write(colour, behind, std::uint8_t{0});
     }
 
     /// Cells from right to left lie left of an origin that is moved there first, and those that a

@@ -57,7 +57,10 @@ office::CopiedPtr CellRange::copy(office::CopySource source) {
     // A name that was given to a merged cell names its first one alone.
     const auto cells = sheet_->wholeCells(block_);
     const model::CellBlock block = blockOf(cells);
-    if (!(block == block_)) source.address = model::addressOf(block);
+    // What is bound to whole rows or columns stays bound to them.
+    if (!(block == block_))
+        source.address =
+            model::addressOf(model::around(model::blockOf(source.address).value_or(block), block));
     const css::awt::Size size = placeOf(cells).size;
     if (size.Width <= thinnest || size.Height <= thinnest)
         office::refuse("Range.Copy", "There is nothing to copy: these rows or columns are hidden");

@@ -41,11 +41,14 @@ public:
         if (cell.rotation != 0) return fitTurned(row, column);
         const double room = roomIn(row, column);
         const double wide = widthOf(cell);
-        if (value.number && !isGeneral(value) ? wide * onScreen(cell) <= room
-                                              : wide <= room + tolerancePt)
+        const bool isFormatted = value.number && !isGeneral(value);
+        if (isFormatted ? wide * onScreen(cell) <= room : wide <= room + tolerancePt) {
+            // Its letters are narrower on a screen; a table would break it.
+            cell.fontSizePt *= std::min(1.0, (room + tolerancePt) / wide);
             return;
+        }
         if (value.shrinksToFit) {
-            cell.fontSizePt *= std::max(room, 1.0) / wide;
+            cell.fontSizePt *= std::min(1.0, std::max(room, 1.0) / wide);
         } else if (value.number) {
             fitNumber(cell, value, room);
         } else {
