@@ -28,14 +28,14 @@ std::vector<TakenRow> takeRows(session::OfficeSession& session, const ExportList
     for (std::size_t i = 0; i < list.rows.size(); ++i) {
         const ExportItem& row = list.rows[i];
         if (!row.checked) continue;
-        if (!objects.isOnVisibleSheet(row)) {
+        if (!objects.isExportable(row)) {
             isAnyPassedOver = true;
             continue;
         }
         const std::int32_t slide = choices.predefinedSlides ? slideNumberOf(row.slideNumber) : 0;
         if (!choices.predefinedSlides || slide >= 1) taken.push_back({i, slide});
     }
-    // A sheet that has gone is passed over; a workbook that has gone ends the export here.
+    // What has gone is passed over; a workbook that has gone ends the export here.
     if (isAnyPassedOver) static_cast<void>(session.ActiveBook.get("Name"));
     return taken;
 }

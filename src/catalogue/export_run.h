@@ -24,7 +24,7 @@ struct TakenRow {
 /// neighbour. Below 1 for a text that names none.
 [[nodiscard]] std::int32_t slideNumberOf(std::string_view text);
 
-/// The rows that an export takes, in display order: those checked and on a visible sheet and, where
+/// The rows that an export takes, in display order: those that can be exported and, where
 /// slides are predefined, with a slide number. A failure if the workbook has gone.
 [[nodiscard]] std::vector<TakenRow> takeRows(session::OfficeSession& session,
                                              const ExportList& list, const ExportChoices& choices);

@@ -85,7 +85,7 @@ std::int32_t CountExportableRows(session::OfficeSession& session, const ExportLi
     RowObjects objects(session);
     return static_cast<std::int32_t>(
         std::count_if(list.rows.begin(), list.rows.end(),
-                      [&](const ExportItem& row) { return objects.isOnVisibleSheet(row); }));
+                      [&](const ExportItem& row) { return objects.isExportable(row); }));
 }
 
 std::vector<std::size_t> ChosenRows(const ExportList& list) {

@@ -39,35 +39,41 @@ void reviewItems(session::OfficeSession& session, const ExportList& list, Review
     }
     RowObjects objects(session);
     std::int32_t exportable = 0;
+    std::int32_t sheetsGone = 0;
     std::int32_t gone = 0;
     for (const ExportItem& row : list.rows) {
         if (!row.checked) continue;
-        if (objects.isOnVisibleSheet(row)) ++exportable;
-        if (objects.isSheetGone(row)) ++gone;
+        if (objects.isExportable(row)) ++exportable;
+        if (objects.isSheetGone(row)) ++sheetsGone;
+        if (objects.isItemGone(row)) ++gone;
     }
-    const std::int32_t hidden = checked - exportable - gone;
-    const auto tellSkipped = [&](std::int32_t count, const char* where) {
+    const std::int32_t hidden = checked - exportable - sheetsGone - gone;
+    const auto tellSkipped = [&](std::int32_t count, const char* why) {
         if (count == 0) return;
-        AddReviewItem(texts.ReviewItems,
-                      fmt::format("{} checked item(s) are on {}{}.", count, where,
-                                  exportable > 0 ? " and will be skipped" : ""));
+        AddReviewItem(texts.ReviewItems, fmt::format("{} checked item(s) are {}{}.", count, why,
+                                                     exportable > 0 ? " and will be skipped" : ""));
     };
     if (exportable == 0 && !isOpen(session.ActiveBook)) {
         texts.Blockers.emplace_back(
             "The workbook is no longer open. Open it again and start anew.");
-    } else if (gone == checked) {
+    } else if (sheetsGone == checked) {
         texts.Blockers.emplace_back(
             "The sheets of all checked items are no longer in the workbook. They may have "
             "been renamed: check the items under the new names.");
+    } else if (gone + sheetsGone == checked) {
+        texts.Blockers.emplace_back(
+            "The checked items are no longer in the workbook. They may have been renamed: check "
+            "the items under the new names.");
     } else {
         if (exportable > 0) {
-            tellSkipped(hidden, "hidden worksheets");
+            tellSkipped(hidden, "on hidden worksheets");
         } else {
             texts.Blockers.emplace_back(
                 "All checked items are on hidden worksheets and cannot be exported. Show those "
                 "sheets or uncheck them.");
         }
-        tellSkipped(gone, "sheets that are no longer in the workbook");
+        tellSkipped(sheetsGone, "on sheets that are no longer in the workbook");
+        tellSkipped(gone, "no longer in the workbook");
     }
     for (const ExportItem& row : list.rows) {
         if (!row.checked || !objects.isMultipleAreaRow(row)) continue;
@@ -127,7 +133,7 @@ void reviewSlideNumbers(session::OfficeSession& session, const ExportList& list,
     RowObjects objects(session);
     bool anyValid = false;
     for (const ExportItem& row : list.rows) {
-        if (!objects.isOnVisibleSheet(row)) continue;
+        if (!objects.isExportable(row)) continue;
         if (reviewSlideNumber(row, *slides, blockers)) anyValid = true;
     }
     if (blockers.empty() && !anyValid) {
@@ -189,7 +195,7 @@ void reviewFormat(session::OfficeSession& session, const ExportList& list, Expor
     RowObjects objects(session);
     std::vector<office::PasteItem> items;
     for (const ExportItem& row : list.rows) {
-        if (!objects.isOnVisibleSheet(row)) continue;
+        if (!objects.isExportable(row)) continue;
         items.push_back(
             {.name = row.shownName(),
              .source = {.kind = row.isRange() ? CopySource::Kind::Cells : CopySource::Kind::Chart,

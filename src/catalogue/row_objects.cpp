@@ -59,6 +59,16 @@ bool RowObjects::isSheetGone(const ExportItem& row) {
     return sheetOf(row).object.isNothing();
 }
 
+bool RowObjects::isItemGone(const ExportItem& row) {
+    if (!row.isMissing || isSheetGone(row)) return false;
+    if (row.isRange()) return rangeFrom(sheetOf(row).object, session_, row).isNothing();
+    return office::orElse([&] { return chartOf(session_, row).isNothing(); }, true);
+}
+
+bool RowObjects::isExportable(const ExportItem& row) {
+    return isOnVisibleSheet(row) && !isItemGone(row);
+}
+
 bool RowObjects::isMultipleAreaRow(const ExportItem& row) {
     if (!row.isRange()) return false;
     const office::Object range = rangeFrom(sheetOf(row).object, session_, row);

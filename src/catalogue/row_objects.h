@@ -25,6 +25,13 @@ public:
     /// Whether the workbook has no sheet of the row's any more.
     [[nodiscard]] bool isSheetGone(const ExportItem& row);
 
+    /// Whether the sheet is there and what the row stands for isn't: it was deleted or renamed
+    /// since the list was kept. Only rows that the load has missed are looked up.
+    [[nodiscard]] bool isItemGone(const ExportItem& row);
+
+    /// Whether an export takes the row: checked, on a visible sheet, and not known to be gone.
+    [[nodiscard]] bool isExportable(const ExportItem& row);
+
     /// Whether the row is a range of several areas, which can't be exported. False if that can't be
     /// told.
     [[nodiscard]] bool isMultipleAreaRow(const ExportItem& row);

@@ -108,7 +108,7 @@ void UserformObj::ShowImageTarget() {
 }
 
 void UserformObj::showTarget(const Target& target) {
-    // A format that is no longer offered stays the chosen one; only PowerPoint asks for it.
+    // A format that is no longer offered stays the chosen one; PowerPoint and Word ask for it.
     for (std::size_t i = 0; i < OptionFormat.size(); ++i) {
         OptionFormat.at(i).enabled = i == 0 || target.allFormats;
     }

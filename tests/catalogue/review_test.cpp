@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/export_run.h"
 #include "catalogue/review.h"
 #include "loaded_list.h"
 
@@ -66,7 +67,12 @@ TEST_F(Review, CollectsTheBlockersOfItemsAndDestination) {
     EXPECT_EQ(blockers(),
               Words{"The sheets of all checked items are no longer in the workbook. They may have "
                     "been renamed: check the items under the new names."});
-    list.rows.push_back(row("Chart 2", "Hidden", session::ItemKind::Chart));
+    list.rows.push_back(row("Chart 9", "Sales", session::ItemKind::Chart));
+    list.rows.back().isMissing = true;
+    EXPECT_EQ(blockers(),
+              Words{"The checked items are no longer in the workbook. They may have been "
+                    "renamed: check the items under the new names."});
+    list.rows.back() = row("Chart 2", "Hidden", session::ItemKind::Chart);
     const auto texts = catalogue::reviewExport(test.session, list, {choices});
     EXPECT_TRUE(texts.Blockers[0].starts_with("All checked items are on hidden worksheets"));
     EXPECT_EQ(texts.ReviewItems, Words{"1 checked item(s) are on sheets that are no longer in the "
@@ -114,6 +120,9 @@ TEST_F(Review, ShowsTheBlockersTogetherWithWhatToReview) {
 TEST_F(Review, AsksWhetherToGoOnWithoutTheHiddenItems) {
     list.rows.push_back(row("Chart 2", "Hidden", ItemKind::Chart));
     list.rows.push_back(row("Chart 3", "Renamed", ItemKind::Chart));
+    list.rows.push_back(row("Chart 9", "Sales", ItemKind::Chart));
+    list.rows.back().isMissing = true;
+    EXPECT_EQ(catalogue::takeRows(test.session, list, {}).size(), list.rows.size() - 3);
     openDeck(1);
     test.notices.answers = {session::answer::ok, session::answer::cancel};
     EXPECT_EQ(catalogue::PreExportReview(test.session, list, {choices}), ReviewResult::Go);
@@ -123,7 +132,9 @@ TEST_F(Review, AsksWhetherToGoOnWithoutTheHiddenItems) {
     EXPECT_EQ(test.notices.shown.front().message,
               "- 1 checked item(s) are on hidden worksheets and will be skipped.\r\n"
               "- 1 checked item(s) are on sheets that are no longer in the workbook and will be "
-              "skipped.\r\n\r\n\r\nContinue anyway?");
+              "skipped.\r\n"
+              "- 1 checked item(s) are no longer in the workbook and will be skipped."
+              "\r\n\r\n\r\nContinue anyway?");
 }
 
 TEST_F(Review, AttachesAgainWhereTheFirstReferenceDoesNotAnswer) {
