@@ -130,9 +130,9 @@ void FormWindow::open(forms::ShowMode mode, QWindow* parent) {
 }
 
 void FormWindow::centre() {
-    const QSize room = QGuiApplication::primaryScreen()->geometry().size();
-    form_->place.left = std::max(0, (twipsOf(room.width()) - form_->place.width) / 2);
-    form_->place.top = std::max(0, (twipsOf(room.height()) - form_->place.height) / 2);
+    const forms::Screen screen = form_->desktop().screen();
+    form_->place.left = screen.middleAcross(form_->place.width);
+    form_->place.top = screen.middleDown(form_->place.height);
 }
 
 void FormWindow::detach() {

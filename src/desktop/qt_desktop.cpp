@@ -2,6 +2,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QTimer>
+#include <QtGui/QCursor>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QIcon>
 #include <QtGui/QKeyEvent>
@@ -186,8 +187,16 @@ void QtDesktop::throwFailure() {
 }
 
 forms::Screen QtDesktop::screen() const {
-    const QSize size = QGuiApplication::primaryScreen()->geometry().size();
-    return {twipsOf(size.width()), twipsOf(size.height())};
+    // That of the form opened last; the first one comes up where the pointer is.
+    const QScreen* first = QGuiApplication::primaryScreen();
+    const QScreen* used = QGuiApplication::screenAt(QCursor::pos());
+    for (const auto& host : forms_) {
+        if (host->window() != nullptr && host->window()->isVisible())
+            used = host->window()->screen();
+    }
+    const QRect all = (used != nullptr ? used : first)->geometry();
+    const QPoint corner = all.topLeft() - first->geometry().topLeft();
+    return {twipsOf(all.width()), twipsOf(all.height()), twipsOf(corner.x()), twipsOf(corner.y())};
 }
 
 std::optional<bool> QtDesktop::showBox(std::string_view text, std::string_view title, bool asks) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <optional>
@@ -13,10 +14,22 @@ namespace forms {
 
 enum class ShowMode { Modeless, Modal };
 
-/// The screen's size.
+/// The screen that the user works on.
 struct Screen {
     Twips width = 0;
     Twips height = 0;
+    /// Of its corner, as forms are placed: from that of the first screen. Negative on one that
+    /// stands left of it or above.
+    Twips left = 0;
+    Twips top = 0;
+
+    /// Where something lies in its middle, or as near as its corner lets it.
+    [[nodiscard]] Twips middleAcross(Twips extent) const {
+        return left + std::max((width - extent) / 2, 0);
+    }
+    [[nodiscard]] Twips middleDown(Twips extent) const {
+        return top + std::max((height - extent) / 2, 0);
+    }
 };
 
 /// The windows of the program, and the forms collection behind them. One implementation draws, one

@@ -118,8 +118,8 @@ void HepPopup::layOut() {
 
 void HepPopup::CenterHelpOnScreen() {
     const forms::Screen screen = desktop().screen();
-    place.left = std::max((screen.width - place.width) / 2, 0);
-    place.top = std::max((screen.height - place.height) / 2, 0);
+    place.left = screen.middleAcross(place.width);
+    place.top = screen.middleDown(place.height);
 }
 
 void HepPopup::loadHelpFile() {

@@ -188,8 +188,8 @@ void MurvaneNotice::placeButtons() {
 
 void MurvaneNotice::CenterNotice() {
     const forms::Screen screen = desktop().screen();
-    place.left = std::max((screen.width - place.width) / 2, 0);
-    place.top = std::max((screen.height - place.height) / 2, 0);
+    place.left = screen.middleAcross(place.width);
+    place.top = screen.middleDown(place.height);
 }
 
 void MurvaneNotice::PlaceNoticeBrowser() {
