@@ -13,6 +13,7 @@
 
 #include "desktop/browser_page.h"
 #include "desktop/looks.h"
+#include "desktop/page_roles.h"
 #include "forms/form.h"
 
 namespace desktop {
@@ -156,6 +157,7 @@ void BrowserView::loadEnded(bool succeeded) {
     loading_.clear();
     if (!wanted_.isEmpty()) return;
     complete_ = true;
+    tellRoles(*page_);
     showPage();
     if (const QString link = std::exchange(followed_, QString()); !link.isEmpty()) {
         tellPage(*page_, QStringLiteral("(function(u){var a=Array.from(document.links).find("

@@ -93,7 +93,7 @@ void LayoutForm::setCaptions() {
     OptionWidth[1].caption = "% of slide width";
     OptionAlign[0].caption = "Center in slide";
     OptionAlign[1].caption = "Relative to slide left edge";
-    TopSlider.accessibleName = "Distance from the slide's top edge";
+    TopSlider.accessibleName = "Height on the slide";
     WidthSlider.accessibleName = "Width as a share of the slide's";
     AlignSlider.accessibleName = "Distance from the slide's left edge";
     for (forms::Label* label : {&Label1, &Label2, &Label3}) {
@@ -152,6 +152,10 @@ void LayoutForm::showValues() {
     Label1.caption = fmt::format("{}% from the top", 100 - TopSlider.value());
     Label2.caption = fmt::format("{}% of the width", WidthSlider.value());
     Label3.caption = fmt::format("{}% from the left", AlignSlider.value());
+    // The number of the vertical one counts from below.
+    TopSlider.accessibleDescription = Label1.caption;
+    WidthSlider.accessibleDescription = Label2.caption;
+    AlignSlider.accessibleDescription = Label3.caption;
 }
 
 void LayoutForm::CloseLayout_Click() {

@@ -208,6 +208,24 @@ TEST_F(Browser, APageAnswersAboutItselfAndItsOwnScriptsDoNotRun) {
     EXPECT_GE(page().contentHeight("missing"), 932) << "by the name in scripts, in any case";
 }
 
+TEST_F(Browser, TellsScreenReadersWhatIsChosenAndWhatAFieldIsFor) {
+    const PageFile file(
+        "<a class='opt-row checked'>&#10003; <span class='opt-label'>Titles</span></a>"
+        "<div class='choice-group'><div class='choice-title'>Export as</div>"
+        "<a class='choice-chip'>Png</a><a class='choice-chip selected'>Gif</a></div>"
+        "<div class='field-row'><span class='field-label'>Width</span><input></div>");
+    open(file.url());
+    QString told;
+    engine().page()->runJavaScript(
+        "Array.from(document.querySelectorAll('[role],input')).map("
+        "e=>['role','aria-label','aria-checked'].map(n=>e.getAttribute(n)).join(' ')).join(',')",
+        QWebEngineScript::ApplicationWorld,
+        [&](const QVariant& answer) { told = answer.toString(); });
+    EXPECT_TRUE(waitUntil([&] { return !told.isEmpty(); }));
+    EXPECT_EQ(told.toStdString(),
+              "checkbox Titles true,radiogroup Export as ,radio  false,radio  true, Width ");
+}
+
 TEST_F(Browser, ShowsThePicturesAndStylesOfTheFolderThatTheFormNamesAndNoOthers) {
     const QTemporaryDir home;
     std::string body;
