@@ -144,6 +144,8 @@ TEST(Options, WrongUsageEndsWithTwoAndSaysWhy) {
         {"no name", {"b.xlsx", "--to", "html", "--output", ""}, "--output has"},
         {"no cover", {"b.xlsx", "--output", "o.pdf", "--cover=", "--source"}, "--cover has"},
         {"no workbook, or the active one", {"", "--attach", "--output", "o.pptx"}, "BOOK has"},
+        {"a page for a folder", {"b.xlsx", "--output", "Page.HTML"}, "--to html"},
+        {"a picture for one", {"b.xlsx", "--to", "images", "--output", "x.png"}, "folder"},
         {"share beyond one", {"b.xlsx", "--list", "--top", "1.5"}, "--top"},
         {"share below nothing", {"b.xlsx", "--list", "--left", "-0.1"}, "--left"},
         {"too wide", {"b.xlsx", "--list", "--width", "1.2"}, "--width"},

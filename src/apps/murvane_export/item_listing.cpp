@@ -68,7 +68,7 @@ std::string listAsJson(const catalogue::ExportList& list, std::string_view workb
     for (const ExportItem& row : list.rows) {
         items.push_back({{"name", row.name},
                          {"sheet", row.sheet},
-                         {"kind", session::kindText(row.kind)},
+                         {"kind", kindOf(row)},
                          {"checked", row.checked},
                          {"severalAreas", row.hasSeveralAreas},
                          {"missing", row.isMissing},

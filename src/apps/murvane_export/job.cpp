@@ -42,7 +42,7 @@ public:
           before_(session::readStoredPlacement(session)) {
         session::Placement placement = before_;
         const auto take = [](const auto& wanted, std::optional<double>& held) {
-            if (wanted) held = wanted->share;
+            if (wanted && !wanted->isWorkbooks) held = wanted->share;
         };
         take(options.top, placement.top);
         take(options.width, placement.width);

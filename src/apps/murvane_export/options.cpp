@@ -84,11 +84,13 @@ struct RawTexts {
 std::optional<PlacementValue> placementOf(const std::string& option, const std::string& text) {
     if (text.empty()) return std::nullopt;
     if (office::sameIgnoringCase(text, "default")) return PlacementValue{};
+    if (office::sameIgnoringCase(text, "workbook")) return PlacementValue{{}, true};
     const auto share = office::numberOf(text);
     if (!share || *share < 0 || *share > 1) {
-        throw UsageError(option +
-                         " takes a share of the slide from 0 to 1, or \"default\", not \"" + text +
-                         "\".");
+        throw UsageError(
+            option +
+            " takes a share of the slide from 0 to 1, \"default\" or \"workbook\", not \"" + text +
+            "\".");
     }
     return PlacementValue{share};
 }
@@ -131,8 +133,10 @@ void declareItems(CLI::App& app, Options& options, RawTexts& raw) {
     app.add_option("--order", options.order, "These items first, in this order")
         ->allow_extra_args(false)
         ->type_name("NAME[@SHEET],...");
-    app.add_option("--captions", options.captionsFile,
-                   "Captions and slide numbers: UTF-8, columns item,sheet,caption,slide")
+    app.add_option(
+           "--captions", options.captionsFile,
+           "Captions and slide numbers: UTF-8, columns item,sheet,caption,slide; what is empty\n"
+           "there stays as it is")
         ->type_name("FILE.csv");
 }
 
@@ -203,14 +207,16 @@ void declareLooks(CLI::App& app, Options& options, RawTexts& raw) {
         ->type_name("NAME");
     app.add_flag("--shadow", options.shadow,
                  "A shadow for what was added last to each slide, and for pictures in Word");
-    app.add_option("--top", raw.top,
-                   "Top edge on the slide: F of its height; default: below the title. With one of\n"
-                   "--top, --width and --left the others are what the workbook has, or default")
-        ->type_name("F|default");
+    app.add_option(
+           "--top", raw.top,
+           "Top edge on the slide: F of its height; default: below the title; workbook: what\n"
+           "it has by murvane /006. With one of --top, --width and --left the others are\n"
+           "what the workbook has, or default")
+        ->type_name("F|default|workbook");
     app.add_option("--width", raw.width, "Width: F of the slide's; default: 0.9")
-        ->type_name("F|default");
+        ->type_name("F|default|workbook");
     app.add_option("--left", raw.left, "Left edge: F of the slide's width; default: in the middle")
-        ->type_name("F|default");
+        ->type_name("F|default|workbook");
 }
 
 bool isDocument(const std::string& file) {
@@ -218,6 +224,19 @@ bool isDocument(const std::string& file) {
     constexpr std::array endings = {".docx", ".docm", ".dotx", ".dotm", ".doc", ".odt", ".rtf"};
     return std::any_of(endings.begin(), endings.end(),
                        [&](const char* ending) { return lower.ends_with(ending); });
+}
+
+/// A page or a picture is a file to those who name one.
+void requireFolder(const std::string& output) {
+    const std::string lower = office::lowerCase(output);
+    constexpr std::array endings = {".html", ".htm",  ".png", ".gif", ".jpg",
+                                    ".jpeg", ".tiff", ".tif", ".bmp"};
+    if (std::any_of(endings.begin(), endings.end(),
+                    [&](const char* ending) { return lower.ends_with(ending); }))
+        throw UsageError(fmt::format(
+            "Pages and pictures are written into a folder, which {} is no name for: name the "
+            "folder, with --to html or --to images.",
+            output));
 }
 
 catalogue::Destination destinationByName(const std::string& output) {
@@ -237,6 +256,7 @@ void pairTargets(Options& options, const RawTexts& raw) {
     for (std::size_t i = 0; i < std::max<std::size_t>(count, 1); ++i) {
         Target target;
         if (i < raw.outputs.size()) target.output = raw.outputs[i];
+        requireFolder(target.output);
         target.destination = i < raw.destinations.size()
                                  ? destinationsByName().at(raw.destinations[i])
                                  : destinationByName(target.output);

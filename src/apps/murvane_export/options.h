@@ -14,10 +14,11 @@ namespace unattended {
 
 enum class Task { Export, List, Check };
 
-/// One of the three values of a placement: a share of the slide's height or width, or the program's
-/// own choice.
+/// One of the three values of a placement: a share of the slide's height or width, the program's
+/// own choice, or what the workbook has.
 struct PlacementValue {
-    std::optional<double> share;  ///< none: "default"
+    std::optional<double> share;  ///< none: "default", or "workbook"
+    bool isWorkbooks = false;
 
     bool operator==(const PlacementValue&) const = default;
 };

@@ -127,11 +127,15 @@ int Run::perform() {
     stopIfInterrupted();
     bookName_ = session_.ActiveBook.get("FullName").toText();
     if (options_.task == Task::List) return printItems();
-    // The road to the main form, with the run in the form's place: it counts the items and refuses
-    // a workbook that has none or that can't take the store.
+    // The road to the main form, with the run in the form's place: it refuses a workbook that can't
+    // take the store, and one without items in words that speak of the form.
     std::optional<int> result;
     session::CommandHandlers handlers;
-    handlers.CountWorkbookItems = [&] { catalogue::CountWorkbookItems(session_); };
+    handlers.CountWorkbookItems = [&] {
+        catalogue::CountWorkbookItems(session_);
+        if (session_.ItemCount == 0)
+            throw RunError(bookName_ + " has no chart and no named range that could be exported.");
+    };
     handlers.ShowMainForm = [&] { result = workOnItems(); };
     session::Main(session_, mainFormCode, handlers);
     return result.value_or(exit_code::blocked);
