@@ -2,6 +2,7 @@
 
 #include <exception>
 #include <string>
+#include <string_view>
 
 #include "apps/end_of_process.h"
 #include "apps/selection_commands.h"
@@ -19,6 +20,27 @@
 #endif
 
 namespace {
+
+constexpr std::string_view help =
+    R"(Murvane takes the charts and named ranges of the workbook that is open in your LibreOffice
+to slides, documents, pages and pictures.
+
+  murvane /112    opens the main form
+  murvane /212    puts what is selected on the slide on show, as a picture
+  murvane /312    as a chart or a table
+  murvane /3122   as an embedded workbook
+  murvane /412    as a link to the workbook's file
+  murvane /512    puts it into the open document, as a picture
+  murvane /612    as an embedded workbook
+  murvane /712    as a link to the workbook's file
+  murvane /812    cells as a table
+  murvane /111    saves it as a picture
+  murvane /006    keeps in the workbook where pictures are to stand on slides
+  murvane /001    opens the documentation
+  murvane /004    tells the version
+
+murvane-export does the same work unattended: see murvane-export --help.
+)";
 
 /// The command line as one text, as the launcher reads it.
 std::string commandLineOf(int count, char** words) {
@@ -61,10 +83,11 @@ constexpr int unhandled = 1;
 int runOrReport(int count, char** words) {
     apps::MachineConsole console([] { return false; });
     const std::string commandLine = commandLineOf(count, words);
-    if (commandLine == "--version") {
-        const bool isTold = console.writeOut(fmt::format("murvane {}\n", apps::version));
-        return isTold ? session::commandDone : unhandled;
-    }
+    const auto tell = [&](std::string_view text) {
+        return console.writeOut(text) ? session::commandDone : unhandled;
+    };
+    if (commandLine == "--version") return tell(fmt::format("murvane {}\n", apps::version));
+    if (commandLine == "--help" || commandLine == "-h") return tell(help);
     // Nothing to do, so nothing to attach to either.
     if (office::trim(commandLine).empty()) return session::commandDone;
     try {
