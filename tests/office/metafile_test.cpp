@@ -255,6 +255,12 @@ TEST(Metafile, SaysWhatItDoesNotKnow) {
         EXPECT_EQ(readMetafile(metafile({action})).unknown, unknown);
         EXPECT_EQ(support::failureOf([&, &one = action] { drawn({one}); }), 1004);
     }
+    // Within each other without end they would fill the memory and the stack.
+    const std::vector<std::string> clips(60, action(129, numbers({0, 0, 9, 9})));
+    EXPECT_EQ(readMetafile(metafile(clips)).unknown, "clips");
+    std::string veils = metafile({});
+    for (int i = 0; i < 60; ++i) veils = metafile({action(147, veils)});
+    EXPECT_EQ(readMetafile(veils).unknown, "veils");
 }
 
 }  // namespace

@@ -155,7 +155,10 @@ private:
     }
     void intersect(std::optional<Metafile::Outline> outline) {
         if (!outline) return;
+        // Each has a copy of all around it.
+        constexpr std::size_t mostWithin = 50;
         auto clip = picture_.clips[state_.clip];
+        if (clip.size() >= mostWithin) throw Unknown("clips");
         clip.push_back(std::move(*outline));
         setClip(std::move(clip));
     }
@@ -178,6 +181,7 @@ private:
     State state_;
     std::vector<std::pair<std::uint16_t, State>> pushed_;
     bool isInGradient_ = false;
+    int veils_ = 0;
 };
 
 void Reader::readAction(Action action, Values values, std::uint16_t version) {
@@ -351,6 +355,8 @@ void Reader::readText(Values values) {
 }
 
 void Reader::readVeil(Values values) {
+    constexpr int deepest = 50;
+    if (veils_ >= deepest) throw Unknown("veils");
     // A picture of its own, whose coordinates are those of this one, wherever it is said to lie.
     const MetafileHead head = readMetafileHead(values);
     const std::size_t opening = picture_.operations.size();
@@ -359,7 +365,9 @@ void Reader::readVeil(Values values) {
     state_ = {};
     state_.mapping = outside.mapping;
     state_.clip = outside.clip;
+    ++veils_;
     readActions(values, head.actions);
+    --veils_;
     state_ = outside;
     add(Metafile::EndOfVeil{});
     constexpr std::size_t place = 4 * sizeof(std::int32_t);

@@ -66,6 +66,7 @@ public:
     [[nodiscard]] static Package open(const std::filesystem::path& file, const Limits& limits = {});
     /// The same from a file in memory, which has to outlive the package.
     [[nodiscard]] static Package fromBytes(std::string_view file, const Limits& limits = {});
+    static Package fromBytes(std::string&& file, const Limits& limits = {}) = delete;
     Package(const Package&) = delete;
     Package& operator=(const Package&) = delete;
     Package(Package&&) noexcept;

@@ -111,15 +111,17 @@ std::string Relationships::append(Relationship added) {
     return all_.back().id;
 }
 
-void Relationships::remove(std::string id) {
-    const auto gone = [&](const Relationship& one) { return one.id == id; };
-    const auto count = std::erase_if(all_, gone);
+void Relationships::removeAll(const std::set<std::string>& ids) {
+    const auto count =
+        std::erase_if(all_, [&](const Relationship& one) { return ids.contains(one.id); });
     if (count == 0) return;
     places_.clear();
     for (std::size_t place = 0; place < all_.size(); ++place)
         places_.try_emplace(all_[place].id, place);
-    if (added_.erase(std::string(id)) == 0) removed_.emplace(id);
-    std::erase_if(byDestination_, [&](const auto& one) { return one.second == id; });
+    for (const std::string& id : ids) {
+        if (added_.erase(id) == 0) removed_.insert(id);
+    }
+    std::erase_if(byDestination_, [&](const auto& one) { return ids.contains(one.second); });
     for (const Relationship& one : all_) byDestination_.try_emplace(destinationOf(one), one.id);
 }
 

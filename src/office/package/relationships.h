@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstddef>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace office::package {
@@ -40,7 +42,9 @@ public:
     std::string add(std::string_view type, std::string_view part);
     /// The id of a new relationship to something outside of the package, by its address.
     std::string addExternal(std::string_view type, const std::string& address);
-    void remove(std::string id);
+    void remove(std::string id) { removeAll({std::move(id)}); }
+    /// Takes hardly longer than for one.
+    void removeAll(const std::set<std::string>& ids);
 
     [[nodiscard]] const std::string& source() const { return source_; }
     [[nodiscard]] bool isChanged() const { return !added_.empty() || !removed_.empty(); }

@@ -114,6 +114,13 @@ TEST(ASheetAlone, IsRefusedWithoutTheValuesThatItWouldHaveToKeep) {
                  std::string(reference) + "</c:val></c:chartSpace>"},
             isFine};
     };
+    // Joined into one, their texts would take 30 MB.
+    std::string manyLevels = "<c:multiLvlStrRef><c:f>Plot!A1</c:f><c:multiLvlStrCache><c:lvl>";
+    for (int i = 0; i < 3000; ++i)
+        manyLevels += "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>x</c:v></c:pt>";
+    for (int i = 0; i < 100; ++i)
+        manyLevels += "</c:lvl><c:lvl><c:pt idx=\"0\"><c:v>x</c:v></c:pt>";
+    manyLevels += "</c:lvl></c:multiLvlStrCache></c:multiLvlStrRef>";
     const Stored contents[] = {
         cell("<c r=\"A1\"><f>Plot!A1</f><v/></c>", false),
         cell("<c r=\"A1\"><f>Plot!A1</f></c>", false),
@@ -132,7 +139,8 @@ TEST(ASheetAlone, IsRefusedWithoutTheValuesThatItWouldHaveToKeep) {
                true),
         values("<c:numRef><c:f>Plot!A1</c:f><c:numCache><c:ptCount val=\"1\"/></c:numCache>"
                "</c:numRef>",
-               true)};
+               true),
+        values(manyLevels.c_str(), false)};
     for (const Stored& one : contents) {
         const std::string file = folder.write(
             "Book.xlsx", small_workbook::bytes({one.part,
@@ -172,9 +180,9 @@ TEST(ASheetAlone, HandsOnNoConversations) {
                         "comments")},
                  {"xl/notes.vml", "<xml>" + noteBox("1") + noteBox("2") + "<br></xml>"}}));
         WorkbookFile workbook{std::filesystem::path(file)};
-        const Package copy = Package::fromBytes(
-            embeddedWorkbook(workbook, {CopySource::Kind::Cells, file, "Data", "", "$A$1"}, true)
-                .bytes);
+        const EmbeddedWorkbook made =
+            embeddedWorkbook(workbook, {CopySource::Kind::Cells, file, "Data", "", "$A$1"}, true);
+        const Package copy = Package::fromBytes(made.bytes);
         EXPECT_EQ(copy.has("/xl/comments1.xml") && copy.has("/xl/notes.vml"), hasNote);
         EXPECT_EQ(copy.read("/xl/sheet1.xml").find("legacyDrawing") != std::string::npos, hasNote);
         if (!hasNote) continue;

@@ -167,6 +167,14 @@ bool hasAnyFlag(pugi::xml_node labels) {
                        [&](const char* name) { return childOf(labels, name); });
 }
 
+/// The flags of all labels of a series, which have been written out by now, stand behind those of
+/// single points, which may be many.
+pugi::xml_node lastOf(pugi::xml_node parent, std::string_view name) {
+    auto child = parent.last_child();
+    while (child && localName(child) != name) child = child.previous_sibling();
+    return child;
+}
+
 /// A label of one point that says nothing shows what those of its series show.
 void writeLabelFlags(pugi::xml_node labels, FlagDefaults defaults) {
     if (childOf(labels, "delete")) return;
@@ -174,7 +182,7 @@ void writeLabelFlags(pugi::xml_node labels, FlagDefaults defaults) {
                               !hasAnyFlag(labels) && !childOf(labels, "dLblPos") &&
                               !childOf(labels, "separator");
     for (const char* const name : labelFlags) {
-        const auto common = isLikeOthers ? childOf(labels.parent(), name) : pugi::xml_node();
+        const auto common = isLikeOthers ? lastOf(labels.parent(), name) : pugi::xml_node();
         const char* const plain = defaults == FlagDefaults::Excel2007 ? off : on;
         write(labels, name, common ? common.attribute("val").as_string(on) : plain);
     }

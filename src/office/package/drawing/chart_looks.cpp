@@ -121,10 +121,14 @@ void writeLooks(pugi::xml_node chartSpace, int thinLine) {
 
 void writeDates(pugi::xml_node chartSpace) {
     constexpr std::string_view plain = "General";
+    // Far more than any chart has: for each of them all series are looked through.
+    constexpr int mostAxes = 50;
     const auto area = childNamed(childNamed(chartSpace, ns::chart, "chart"), ns::chart, "plotArea");
+    int axes = 0;
     for (const pugi::xml_node axis : area.children()) {
         const bool isOfDates = isNamed(axis, ns::chart, "dateAx");
         if (!isOfDates && !isNamed(axis, ns::chart, "catAx")) continue;
+        if (++axes > mostAxes) return;
         const std::string id = childNamed(axis, ns::chart, "axId").attribute("val").value();
         const auto wanted = childNamed(axis, ns::chart, "numFmt").attribute("formatCode");
         const bool isPlain = !wanted || wanted.value() == plain;

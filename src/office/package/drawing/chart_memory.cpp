@@ -45,6 +45,12 @@ bool isLine(const CellBlock& block) {
     return block.columns() == 1 || block.rows() == 1;
 }
 
+/// None is drawn with more, and all cells of a sheet would be many thousands.
+bool hasFewLevels(const CellBlock& block) {
+    constexpr std::int32_t most = 100;
+    return std::min(block.columns(), block.rows()) <= most;
+}
+
 std::optional<Reference> referenceOf(pugi::xml_node node) {
     using Memory = Reference::Memory;
     struct Type {
@@ -64,7 +70,7 @@ std::optional<Reference> referenceOf(pugi::xml_node node) {
         if (!cache || !cells) return {};
         const auto& blocks = cells->blocks;
         const bool isPlain = type.memory == Memory::Levels
-                                 ? blocks.size() == 1
+                                 ? blocks.size() == 1 && hasFewLevels(blocks.front())
                                  : std::all_of(blocks.begin(), blocks.end(), isLine);
         if (!isPlain) return {};
         const std::string_view holder = localName(node.parent());

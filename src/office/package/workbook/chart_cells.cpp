@@ -28,6 +28,8 @@ ChartCells::ChartCells(const Copied& copied, const std::vector<CellsOfSheet>& wa
 void ChartCells::readSheet(const std::string& sheet, const std::vector<CellsOfSheet>& wanted) {
     constexpr double fewCells = 1000;
     constexpr double mostSpare = 4;
+    // Each is a question of its own, and each is looked through for the next.
+    constexpr std::size_t mostAreas = 2000;
     std::vector<CellBlock> blocks;
     for (const CellsOfSheet& one : wanted) {
         if (one.sheet == sheet) blocks.insert(blocks.end(), one.blocks.begin(), one.blocks.end());
@@ -40,7 +42,7 @@ void ChartCells::readSheet(const std::string& sheet, const std::vector<CellsOfSh
     }
     if (all.cells() <= fewCells + mostSpare * needed) return read(sheet, all);
     for (const CellBlock& block : blocks) {
-        if (areaWith(sheet, block) == nullptr) read(sheet, block);
+        if (areas_.size() < mostAreas && areaWith(sheet, block) == nullptr) read(sheet, block);
     }
 }
 

@@ -24,8 +24,11 @@ pugi::xml_node childOf(pugi::xml_node parent, std::string_view name) {
     return childNamed(parent, ns::chart, name);
 }
 
-/// The remembered points of all levels, the outer one first, as one text each.
+/// The remembered points of all levels, the outer one first, as one text each. `PackageError` where
+/// repeating the outer ones would make much of little.
 std::map<unsigned, std::string> joinedPoints(pugi::xml_node levels) {
+    constexpr std::size_t mostBytes = 16 << 20;
+    std::size_t bytes = 0;
     std::map<unsigned, std::string> texts;
     for (const pugi::xml_node level : childrenNamed(levels, ns::chart, "lvl")) {
         std::map<unsigned, std::string> own;
@@ -38,7 +41,12 @@ std::map<unsigned, std::string> joinedPoints(pugi::xml_node levels) {
         // Of an outer level each point holds until the next one.
         for (auto& [index, text] : texts) {
             const auto next = own.upper_bound(index);
-            if (next != own.begin()) text.insert(0, fmt::format("{} ", std::prev(next)->second));
+            if (next == own.begin()) continue;
+            const std::string& outer = std::prev(next)->second;
+            bytes += text.size() + outer.size();
+            if (bytes > mostBytes)
+                throw PackageError(Fault::TooLarge, "the categories of a chart are too long");
+            text.insert(0, fmt::format("{} ", outer));
         }
     }
     return texts;

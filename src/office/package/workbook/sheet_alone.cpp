@@ -205,7 +205,7 @@ private:
                                 workbook_.has(relationships.partOf(one));
             if (!(isExternalLink || isPart) || !isKept(one)) gone.insert(one.id);
         }
-        for (const std::string& id : gone) relationships.remove(id);
+        relationships.removeAll(gone);
         return gone;
     }
 

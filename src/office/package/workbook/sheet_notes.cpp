@@ -79,17 +79,17 @@ bool holdsNotesAlone(const std::string& drawing) {
 std::string withoutBoxesOf(const NotedCells& cells, const std::string& drawing) {
     constexpr std::string_view begin = "<v:shape ";
     constexpr std::string_view end = "</v:shape>";
-    std::string left = drawing;
-    for (auto at = left.find(begin); at != std::string::npos; at = left.find(begin, at)) {
-        const auto last = left.find(end, at);
+    std::string left;
+    std::size_t taken = 0;
+    for (auto at = drawing.find(begin); at != std::string::npos; at = drawing.find(begin, taken)) {
+        const auto last = drawing.find(end, at);
         if (last == std::string::npos) break;
-        const std::size_t length = last + end.size() - at;
-        const std::string_view shape = std::string_view(left).substr(at, length);
-        if (cells.contains({numberIn(shape, "Column"), numberIn(shape, "Row")}))
-            left.erase(at, length);
-        else
-            at += length;
+        left.append(drawing, taken, at - taken);
+        taken = last + end.size();
+        const std::string_view shape = std::string_view(drawing).substr(at, taken - at);
+        if (!cells.contains({numberIn(shape, "Column"), numberIn(shape, "Row")})) left += shape;
     }
+    left.append(drawing, taken);
     return left;
 }
 
