@@ -1,7 +1,5 @@
 #include "office/libreoffice/excel/changed_copy.h"
 
-#include <sstream>
-
 #include "office/package/package.h"
 #include "office/package/xml.h"
 
@@ -16,13 +14,9 @@ bool writeChangedCopy(const std::string& original, const std::string& copy, std:
     const auto* const found = relationships.ofType(relationshipType);
     if (found == nullptr) return false;
     const std::string part = relationships.partOf(*found);
-    const std::string bytes = package.read(part);
-    pugi::xml_document document;
-    if (!document.load_buffer(bytes.data(), bytes.size(), pugi::parse_full)) return false;
-    if (!change(document.document_element())) return false;
-    std::ostringstream text;
-    document.save(text, "", pugi::format_raw);
-    package.replace(part, text.str());
+    const office::package::Xml xml(package.read(part), part);
+    if (!change(xml.root())) return false;
+    package.replace(part, xml.bytes());
     package.save(copy);
     return true;
 }

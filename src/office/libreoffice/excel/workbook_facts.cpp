@@ -30,12 +30,9 @@ WorkbookFacts factsOf(office::package::Package package) {
     WorkbookFacts facts;
     const std::string part = package.partOfType("/", "officeDocument");
     if (part.empty()) return facts;
-    const std::string text = package.read(part);
-    pugi::xml_document document;
-    if (!document.load_buffer(text.data(), text.size())) return facts;
-
+    const office::package::Xml document(package.read(part), part);
     const auto& relationships = package.relationshipsOf(part);
-    const pugi::xml_node workbook = document.document_element();
+    const pugi::xml_node workbook = document.root();
     for (const pugi::xml_node node : childNamed(workbook, "sheets").children()) {
         const auto* const found = relationships.withId(attributeEndingIn(node, ":id"));
         const bool isThere = found != nullptr && !found->isExternal;
