@@ -1,5 +1,7 @@
 #include "office/libreoffice/excel/picture_maker.h"
 
+#include <algorithm>
+#include <cmath>
 #include <fstream>
 #include <iterator>
 #include <utility>
@@ -17,12 +19,40 @@ namespace {
 
 using office::PictureKind;
 using office::Sharpness;
+using office::drawing::Metafile;
 using office::drawing::VectorPicture;
 
 std::string onWhite(std::string svg) {
     const std::size_t content = svg.find('>', svg.find("<svg"));
     if (content == std::string::npos) return {};
     return svg.insert(content + 1, R"(<rect width="100%" height="100%" fill="white"/>)");
+}
+
+/// Whether an outline holds all of a picture.
+bool isWhole(const Metafile::Outline& outline, const Metafile& picture) {
+    if (outline.size() != 1 || !outline.front().isControl.empty()) return false;
+    const auto& points = outline.front().points;
+    double twiceTheArea = 0;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const auto& [x, y] = points[i];
+        if (x < 0 || y < 0 || x > picture.width || y > picture.height) return false;
+        const auto& next = points[(i + 1) % points.size()];
+        twiceTheArea += x * next.y - next.x * y;
+    }
+    return std::abs(twiceTheArea) == 2 * picture.width * picture.height;
+}
+
+/// Whether it is seen of a picture that nothing shines through, as of nearly all charts: to ask for
+/// the looks of the chart takes calls.
+bool beginsWithGround(const Metafile& picture) {
+    if (picture.operations.empty()) return false;
+    const Metafile::Operation& first = picture.operations.front();
+    const auto* shape = std::get_if<Metafile::Shape>(&first.what);
+    const auto& clips = picture.clips[first.clip];
+    return shape != nullptr && std::holds_alternative<Metafile::Colour>(shape->fill) &&
+           isWhole(shape->outline, picture) &&
+           std::all_of(clips.begin(), clips.end(),
+                       [&](const auto& clip) { return isWhole(clip, picture); });
 }
 
 /// The suite writes pictures to files only: one in a folder that only this user can read, and gone
@@ -46,10 +76,13 @@ PictureMaker::PictureMaker(std::shared_ptr<Connection> connection,
       room_(std::move(room)) {}
 
 std::string PictureMaker::drawnOtherwise(const uno::Sequence<sal_Int8>& metafile) {
-    const office::drawing::Metafile read = office::drawing::readMetafile(bytesOf(metafile));
+    return drawnOtherwise(office::drawing::readMetafile(bytesOf(metafile)));
+}
+
+std::string PictureMaker::drawnOtherwise(const Metafile& read) {
     if (!read.unknown.empty()) return read.unknown;
     for (const auto& operation : read.operations) {
-        const auto* text = std::get_if<office::drawing::Metafile::Text>(&operation.what);
+        const auto* text = std::get_if<Metafile::Text>(&operation.what);
         if (text != nullptr && isIntricate(text->characters)) return "script";
     }
     const std::string font = fonts_.firstOther(read);
@@ -57,22 +90,24 @@ std::string PictureMaker::drawnOtherwise(const uno::Sequence<sal_Int8>& metafile
 }
 
 PictureMaker::Vectors PictureMaker::drawable(const uno::Sequence<sal_Int8>& metafile,
-                                             const css::awt::Size& size, bool isTranslucent,
-                                             Sharpness sharpness) {
-    if (!drawnOtherwise(metafile).empty()) return std::nullopt;
+                                             const css::awt::Size& size, Sharpness sharpness,
+                                             const std::function<bool()>& isOpaque) {
+    const Metafile read = office::drawing::readMetafile(bytesOf(metafile));
+    if (!drawnOtherwise(read).empty()) return std::nullopt;
     const css::awt::Size pixels = pixelsOf(size, sharpness);
     return VectorPicture{.vectors = std::string(bytesOf(metafile)),
                          .width = pixels.Width,
                          .height = pixels.Height,
                          .widthPt = pointsOf(size.Width),
                          .heightPt = pointsOf(size.Height),
-                         .isTranslucent = isTranslucent};
+                         .isTranslucent = isOpaque && !beginsWithGround(read) && !isOpaque()};
 }
 
 PictureMaker::Vectors PictureMaker::vectorsOf(const uno::Reference<css::drawing::XShape>& chart,
                                               const css::awt::Size& size, Sharpness sharpness) {
     const ChartLook look = lookOf(chart);
-    return drawable(suite_.metafileOf(look.graphic), size, !isOpaque(look), sharpness);
+    return drawable(suite_.metafileOf(look.graphic), size, sharpness,
+                    [&] { return isOpaque(look); });
 }
 
 office::Picture PictureMaker::chart(const uno::Reference<css::drawing::XShape>& chart,
@@ -93,8 +128,7 @@ void PictureMaker::writeChart(const uno::Reference<css::drawing::XShape>& chart,
 
 office::Picture PictureMaker::metafile(const uno::Sequence<sal_Int8>& metafile,
                                        const css::awt::Size& size, Sharpness sharpness) {
-    if (auto vectors = drawable(metafile, size, false, sharpness))
-        return room_->draw(std::move(*vectors));
+    if (auto vectors = drawable(metafile, size, sharpness)) return room_->draw(std::move(*vectors));
     return drawnBySuite(
         size, [&](const std::string& file) { suite_.writeMetafile(metafile, size, file); });
 }
@@ -106,7 +140,7 @@ void PictureMaker::writeMetafile(const uno::Sequence<sal_Int8>& metafile,
         return writePictureFile(path, onWhite(suite_.svgOfMetafile(metafile, size)));
     if (kind == PictureKind::Emf)
         return writePictureFile(path, suite_.emfOfMetafile(metafile, size));
-    auto vectors = drawable(metafile, size, false, Sharpness::Crisp);
+    auto vectors = drawable(metafile, size, Sharpness::Crisp);
     if (!vectors) return suite_.writeMetafile(metafile, size, path);
     makeWayFor(path);
     room_->drawFile(std::move(*vectors), path);

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 
 #include "office/drawing/drawing_room.h"
+#include "office/drawing/metafile.h"
 #include "office/libreoffice/excel/same_fonts.h"
 #include "office/libreoffice/excel/suite_pictures.h"
 
@@ -50,10 +52,12 @@ public:
 private:
     using Vectors = std::optional<office::drawing::VectorPicture>;
 
-    /// None if the suite has to draw it.
+    [[nodiscard]] std::string drawnOtherwise(const office::drawing::Metafile& read);
+    /// None if the suite has to draw it. `isOpaque` is asked where the picture doesn't tell;
+    /// without it the picture is one on white.
     [[nodiscard]] Vectors drawable(const uno::Sequence<sal_Int8>& metafile,
-                                   const css::awt::Size& size, bool isTranslucent,
-                                   office::Sharpness sharpness);
+                                   const css::awt::Size& size, office::Sharpness sharpness,
+                                   const std::function<bool()>& isOpaque = {});
     [[nodiscard]] Vectors vectorsOf(const uno::Reference<css::drawing::XShape>& chart,
                                     const css::awt::Size& size, office::Sharpness sharpness);
 
