@@ -277,6 +277,8 @@ TEST_F(ExcelPictures, TurnsARangeIntoAnOpaquePictureAndLeavesTheWorkbookAlone) {
     EXPECT_NEAR(support::pngSizeOf(path).widthPoints(), range.get("Width").toDouble(), 0.5);
     EXPECT_NEAR(support::pngSizeOf(path).heightPoints(), range.get("Height").toDouble(), 0.5);
     EXPECT_FALSE(isTranslucent(path));
+    static_cast<void>(pictureOf(sheet(book, "Data").get("Range", "A1:B2")));
+    static_cast<void>(pictureOf(range));
     expectMembers(app, {{"ActiveSheet.Name", "Data"},
                         {"Selection.Address", "$B$3:$C$4"},
                         {"ActiveWorkbook.Saved", true}});

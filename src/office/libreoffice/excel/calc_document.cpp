@@ -151,8 +151,39 @@ const uno::Reference<css::document::XUndoManager>& CalcDocument::undoSteps() {
     return undoSteps_;
 }
 
-uno::Reference<css::sheet::XSpreadsheetView> CalcDocument::view() const {
-    return tryAs<css::sheet::XSpreadsheetView>(controller());
+void CalcDocument::selectAgainLater(const uno::Any& selected) {
+    if (!selectedBefore_.hasValue()) selectedBefore_ = selected;
+}
+
+uno::Reference<css::frame::XController> CalcDocument::window() {
+    auto window = controller();
+    if (selectedBefore_.hasValue()) {
+        asFarAsPossible(
+            [&] { as<css::view::XSelectionSupplier>(window)->select(selectedBefore_); });
+        selectedBefore_.clear();
+    }
+    return window;
+}
+
+CopyingWindow CalcDocument::copyingWindow() {
+    if (unseenWindow_) return *unseenWindow_;
+    CopyingWindow found{.window = controller(), .selection = {}, .copier = {}};
+    if (!found.window.is()) office::refuse("Range.Copy", "The workbook has no window to copy from");
+    found.selection = tryAs<css::view::XSelectionSupplier>(found.window);
+    if (!found.selection.is())
+        office::refuse("Range.Copy", "The workbook is shown in print preview");
+    found.copier = as<css::datatransfer::XTransferableSupplier>(found.window);
+    if (desk_.opensHidden()) unseenWindow_ = found;
+    return found;
+}
+
+uno::Reference<css::sheet::XSpreadsheetView> CalcDocument::view() {
+    return tryAs<css::sheet::XSpreadsheetView>(window());
+}
+
+void CalcDocument::removeSheet(const model::SheetPtr& sheet) {
+    static_cast<void>(window());
+    sheetList().remove(sheet);
 }
 
 model::SheetPtr CalcDocument::activeSheet() {
@@ -161,8 +192,7 @@ model::SheetPtr CalcDocument::activeSheet() {
         return sheetList().find(fromUno(active->getName()));
     }
     // A print preview of some sheets.
-    if (const auto preview = tryAs<css::sheet::XSelectedSheetsSupplier>(controller());
-        preview.is()) {
+    if (const auto preview = tryAs<css::sheet::XSelectedSheetsSupplier>(window()); preview.is()) {
         const auto shown = preview->getSelectedSheets();
         if (shown.hasElements()) return sheetList().at(shown[0]);
     }
@@ -173,6 +203,7 @@ model::SheetPtr CalcDocument::activeSheet() {
 }
 
 model::Selection CalcDocument::selection() {
+    static_cast<void>(window());
     const uno::Reference<uno::XInterface> selected = model()->getCurrentSelection();
     if (const auto range = tryAs<css::sheet::XCellRangeAddressable>(selected); range.is()) {
         const auto address = range->getRangeAddress();

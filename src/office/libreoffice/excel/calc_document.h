@@ -1,8 +1,10 @@
 #pragma once
 
+#include <com/sun/star/datatransfer/XTransferableSupplier.hpp>
 #include <com/sun/star/document/XUndoManager.hpp>
 #include <com/sun/star/sheet/XNamedRanges.hpp>
 #include <com/sun/star/sheet/XSpreadsheetView.hpp>
+#include <com/sun/star/view/XSelectionSupplier.hpp>
 
 #include <memory>
 #include <optional>
@@ -20,6 +22,13 @@ namespace libreoffice::excel {
 
 namespace model = office::model::excel;
 
+/// A window of a workbook that cells can be copied from.
+struct CopyingWindow {
+    uno::Reference<css::frame::XController> window;
+    uno::Reference<css::view::XSelectionSupplier> selection;
+    uno::Reference<css::datatransfer::XTransferableSupplier> copier;
+};
+
 /// An open workbook, and what automation remembers about it: the sheets that were met, the shapes
 /// of their charts, and what its file says that LibreOffice does not keep.
 class CalcDocument : public Document,
@@ -32,7 +41,17 @@ public:
     [[nodiscard]] const Connection& connection() const { return desk_.connection(); }
     [[nodiscard]] SheetList& sheetList();
     [[nodiscard]] NumberFormats& formats() { return formats_; }
-    [[nodiscard]] uno::Reference<css::sheet::XSpreadsheetView> view() const;
+    [[nodiscard]] uno::Reference<css::sheet::XSpreadsheetView> view();
+    /// The window as it is without what is copied here; nothing for a workbook that has none.
+    [[nodiscard]] uno::Reference<css::frame::XController> window();
+    /// What is selected comes back before anybody asks for the window. Between the copies of an
+    /// export nobody does, and each way there and back may bring a sheet to the top.
+    void selectAgainLater(const uno::Any& selected);
+    /// Nothing if it is selected still.
+    [[nodiscard]] const uno::Any& selectedBefore() const { return selectedBefore_; }
+    /// `office::Failure` 1004 for a workbook without a window, or one in print preview. One that
+    /// nobody sees stays as it is, and is asked for once.
+    [[nodiscard]] CopyingWindow copyingWindow();
     /// What the user can take back.
     [[nodiscard]] const uno::Reference<css::document::XUndoManager>& undoSteps();
     /// The workbook as `NamedCells` give it.
@@ -60,7 +79,7 @@ public:
     model::SheetPtr addSheet(const std::string& name, std::int32_t place) override {
         return sheetList().add(name, place);
     }
-    void removeSheet(const model::SheetPtr& sheet) override { sheetList().remove(sheet); }
+    void removeSheet(const model::SheetPtr& sheet) override;
     model::Selection selection() override;
     NamedRanges& names() override;
 
@@ -73,6 +92,8 @@ private:
     std::optional<SheetList> sheets_;
     std::optional<NamedRanges> names_;
     uno::Reference<css::document::XUndoManager> undoSteps_;
+    uno::Any selectedBefore_;
+    std::optional<CopyingWindow> unseenWindow_;
     NumberFormats formats_;
 };
 

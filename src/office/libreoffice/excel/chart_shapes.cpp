@@ -94,7 +94,7 @@ void ChartShape::paste(const office::CopiedPtr&) {
 }
 
 void ChartShape::select() {
-    as<css::view::XSelectionSupplier>(book_.controller())->select(uno::Any(shape_));
+    as<css::view::XSelectionSupplier>(book_.window())->select(uno::Any(shape_));
 }
 
 void ChartShape::remove() {

@@ -23,14 +23,6 @@ namespace libreoffice::excel {
 
 namespace {
 
-uno::Reference<css::frame::XController> windowOf(const CalcDocument& book) {
-    auto window = book.controller();
-    if (!window.is()) office::refuse("Range.Copy", "The workbook has no window to copy from");
-    if (!tryAs<css::view::XSelectionSupplier>(window).is())
-        office::refuse("Range.Copy", "The workbook is shown in print preview");
-    return window;
-}
-
 std::vector<css::table::CellRangeAddress> cellsOf(const uno::Any& selected) {
     const uno::Reference<uno::XInterface> what(selected, uno::UNO_QUERY);
     if (const auto one = tryAs<css::sheet::XCellRangeAddressable>(what); one.is())
@@ -98,25 +90,31 @@ ShownForNow::~ShownForNow() {
 }
 
 SelectedCells::SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells,
-                             const model::CellBlock& block,
-                             uno::Reference<css::frame::XController> window)
+                             const model::CellBlock& block, CopyingWindow window)
     : sheet_(sheet),
+      isUnseen_(sheet.book().desk().opensHidden()),
       cells_(std::move(cells)),
       block_(block),
-      window_(std::move(window)),
-      selection_(as<css::view::XSelectionSupplier>(window_)),
-      before_(selection_->getSelection()),
+      window_(std::move(window.window)),
+      selection_(std::move(window.selection)),
+      copier_(std::move(window.copier)),
+      before_(selectionBefore()),
       cellsBefore_(cellsOf(before_)),
       wasSelected_(areSelectedAlone()) {}
 
 SelectedCells::SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells,
                              const model::CellBlock& block)
-    : SelectedCells(sheet, std::move(cells), block, windowOf(sheet.book())) {
+    : SelectedCells(sheet, std::move(cells), block, sheet.book().copyingWindow()) {
     // From here on the destructor undoes what was done, also when this fails.
     if (wasSelected_) return;
-    if (!sheet.book().desk().opensHidden()) finishTyping();
+    if (!isUnseen_) finishTyping();
     if (areOfSeveralSheets(cellsBefore_)) selectOneSheetAlone(sheet.book().connection(), window_);
     shown_.emplace(sheet);
+}
+
+/// Cells whose selection is to come back later are what was copied last.
+uno::Any SelectedCells::selectionBefore() const {
+    return sheet_.book().selectedBefore().hasValue() ? uno::Any() : selection_->getSelection();
 }
 
 bool SelectedCells::areSelectedAlone() const {
@@ -154,6 +152,12 @@ SelectedCells::~SelectedCells() {
 }
 
 void SelectedCells::putBack() const {
+    if (isUnseen_) {
+        sheet_.book().selectAgainLater(before_);
+        // A sheet that is shown for the copy alone must not stay on top.
+        if (!shown_ || shown_->isHidden()) static_cast<void>(sheet_.book().window());
+        return;
+    }
     if (!view_.hasValue()) {
         selection_->select(before_);
         return;
@@ -168,7 +172,7 @@ void SelectedCells::putBack() const {
 
 /// LibreOffice crashes when it asks a closed window for a copy, and the user may close it at any
 /// time. The main thread closes windows: while that waits, one that takes the selection, or still
-/// has one, is open.
+/// has one, is open. Nobody closes one that nobody sees.
 uno::Reference<css::datatransfer::XTransferable> SelectedCells::copyOf(
     const uno::Reference<css::table::XCellRange>& wanted, bool isSelected) const {
     struct Taken {
@@ -176,8 +180,7 @@ uno::Reference<css::datatransfer::XTransferable> SelectedCells::copyOf(
         uno::Reference<css::datatransfer::XTransferable> copy;
     };
     const auto taken = std::make_shared<Taken>();
-    const auto copier = as<css::datatransfer::XTransferableSupplier>(window_);
-    onMainThread(sheet_.book().connection(), [=, cells = uno::Any(wanted), selection = selection_] {
+    const auto take = [=, cells = uno::Any(wanted), selection = selection_, copier = copier_] {
         bool isOpen = false;
         if (isSelected) {
             taken->selected.set(selection->getSelection(), uno::UNO_QUERY);
@@ -187,7 +190,11 @@ uno::Reference<css::datatransfer::XTransferable> SelectedCells::copyOf(
         }
         if (!isOpen) throw css::lang::DisposedException("The workbook has been closed", {});
         taken->copy = copier->getTransferable();
-    });
+    };
+    if (isUnseen_)
+        take();
+    else
+        onMainThread(sheet_.book().connection(), take);
     return taken->copy;
 }
 
@@ -220,7 +227,7 @@ uno::Sequence<sal_Int8> SelectedCells::copyAs(const char* mimeType) {
     try {
         return copied();
     } catch (const css::datatransfer::UnsupportedFlavorException&) {
-        if (!wasSelected_ || sheet_.book().desk().opensHidden()) throw;
+        if (!wasSelected_ || isUnseen_) throw;
     }
     // While somebody types into the selected cell, the copy is of the text there.
     wasSelected_ = false;

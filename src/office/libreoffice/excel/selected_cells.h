@@ -23,6 +23,9 @@ public:
     ShownForNow& operator=(const ShownForNow&) = delete;
     ~ShownForNow();
 
+    /// Whether the sheet is hidden otherwise.
+    [[nodiscard]] bool isHidden() const { return sheet_ != nullptr; }
+
 private:
     std::optional<KeptModifiedFlag> flag_;
     SheetRecord* sheet_;
@@ -31,7 +34,8 @@ private:
 /// Cells that are copied by way of a selection: the suite copies nothing else. Unless they are
 /// selected anyway, that brings their sheet to the top, and runs what is to run when somebody goes
 /// there. Afterwards the window is as it was: the sheet on top, what is selected, where each sheet
-/// is scrolled to. What was being typed into a cell has been entered. The user's clipboard stays.
+/// is scrolled to; one that nobody sees, as soon as it is asked for. What was being typed into a
+/// cell has been entered. The user's clipboard stays.
 class SelectedCells {
 public:
     /// `office::Failure` 1004 for a workbook without a window, or one in print preview.
@@ -46,7 +50,8 @@ public:
 
 private:
     SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells,
-                  const model::CellBlock& block, uno::Reference<css::frame::XController> window);
+                  const model::CellBlock& block, CopyingWindow window);
+    [[nodiscard]] uno::Any selectionBefore() const;
     [[nodiscard]] bool areSelectedAlone() const;
     [[nodiscard]] uno::Reference<css::datatransfer::XTransferable> copy() const;
     [[nodiscard]] uno::Reference<css::datatransfer::XTransferable> copyOf(
@@ -55,10 +60,13 @@ private:
     void putBack() const;
 
     SheetRecord& sheet_;
+    /// Nobody types, looks or closes there.
+    bool isUnseen_;
     uno::Reference<css::table::XCellRange> cells_;
     model::CellBlock block_;
     uno::Reference<css::frame::XController> window_;
     uno::Reference<css::view::XSelectionSupplier> selection_;
+    uno::Reference<css::datatransfer::XTransferableSupplier> copier_;
     uno::Any before_;
     /// What of `before_` is cells.
     std::vector<css::table::CellRangeAddress> cellsBefore_;

@@ -136,7 +136,7 @@ void SheetRecord::select(const model::CellBlocks& blocks) {
         }
         cells <<= ranges;
     }
-    as<css::view::XSelectionSupplier>(book_.controller())->select(cells);
+    as<css::view::XSelectionSupplier>(book_.window())->select(cells);
 }
 
 std::vector<model::SheetChartPtr> SheetRecord::charts() {
