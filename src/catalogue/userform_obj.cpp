@@ -165,7 +165,7 @@ void UserformObj::ShowSmartHelp() const {
                                                : "help_items_table.html");
 }
 
-void UserformObj::Form_Help() const {
+bool UserformObj::Form_Help() {
     const bool isAtTheList = focus == &listCharts || focus == &Check1;
     if (isAtTheList && list_.rows.empty() && hooks_.ShowHelp) {
         hooks_.ShowHelp("help_no_items.html");
@@ -175,6 +175,7 @@ void UserformObj::Form_Help() const {
     } else {
         ShowSmartHelp();
     }
+    return true;
 }
 
 void UserformObj::OptionFormat_Click(int index) {

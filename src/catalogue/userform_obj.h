@@ -51,6 +51,7 @@ public:
     void Form_Left() override;
     /// The list and the preview share what the form has gained.
     void Form_Resize() override;
+    bool Form_Help() override;
 
     // Events.
     void Option1_Click(int index);
@@ -75,8 +76,6 @@ public:
     void PasteIT_Click();
     /// Opens the page of help that fits what is chosen.
     void ShowSmartHelp() const;
-    /// The user asks for help by the key for it.
-    void Form_Help() const;
 
     // The controls, from the top of the form to its foot.
     furniture::TitleBar TitelBar1;

@@ -68,6 +68,8 @@ public:
     virtual void Form_Left() {}
     virtual void Form_Unload() {}
     virtual void Form_Resize() {}
+    /// The user asks for help. False if the form shows none of its own.
+    virtual bool Form_Help() { return false; }
 
     /// The size that the form is made with.
     [[nodiscard]] Twips naturalWidth() const { return naturalWidth_; }

@@ -84,7 +84,7 @@ std::string_view helpFileOf(std::string_view controlName) {
 }
 
 Help::Help(forms::Desktop& desktop, session::Host& host) : desktop_(desktop), host_(host) {
-    desktop_.onHelp = [this](const forms::Form& form) { ShowHelpFor(form); };
+    desktop_.onHelp = [this](forms::Form& form) { ShowHelpFor(form); };
 }
 
 std::string Help::pathOf(std::string_view file) {
@@ -117,7 +117,8 @@ void Help::ShowContextHelp(const forms::Control& control) {
     ShowHelp(file.empty() ? generalHelp : file);
 }
 
-void Help::ShowHelpFor(const forms::Form& form) {
+void Help::ShowHelpFor(forms::Form& form) {
+    if (form.Form_Help()) return;
     if (const Topic* topic = topicOf(formTopics, form.name())) {
         if (!topic->file.empty()) ShowHelp(topic->file);
     } else if (form.focus != nullptr) {

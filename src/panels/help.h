@@ -23,9 +23,10 @@ public:
     void ShowHelpPopup(std::string title, std::string filePath);
     /// Shows the page that belongs to a control of the main form, or else the general one.
     void ShowContextHelp(const forms::Control& control);
-    /// Shows the page that belongs to a form and to the control that has the focus there. Nothing
-    /// happens in the reader itself and in the forms that show how far something has come.
-    void ShowHelpFor(const forms::Form& form);
+    /// Shows the help that a form shows itself, or else the page that belongs to it and to the
+    /// control that has the focus there. Nothing happens in the reader itself and in the forms that
+    /// show how far something has come.
+    void ShowHelpFor(forms::Form& form);
 
     [[nodiscard]] bool HelpFileExists(std::string_view file);
 

@@ -173,6 +173,12 @@ TEST_F(HelpTest, OpensThePageThatBelongsToAControlOrAForm) {
         form.focus = &control;
         EXPECT_EQ(titleOf([&] { desktop.onHelp(form); }), " The " + it.file) << it.control;
     }
+    struct WithHelpOfItsOwn : forms::Form {
+        using Form::Form;
+        bool Form_Help() override { return true; }
+    };
+    WithHelpOfItsOwn own(desktop, "UserformObj", 100, 100);
+    desktop.onHelp(own);
     forms::Form progress(desktop, "Progress", 100, 100);
     desktop.onHelp(progress);
     EXPECT_TRUE(desktop.loadedForms().empty()) << "it would hold up the export";

@@ -98,16 +98,13 @@ public:
     Windows(forms::Desktop& desktop, session::OfficeSession& session)
         : desktop_(desktop),
           session_(session),
-          help_(desktop, session.host) {
-        desktop_.onHelp = [this](forms::Form& form) { showHelpIn(form); };
-    }
+          help_(desktop, session.host) {}
 
     /// What the commands run that opens windows.
     [[nodiscard]] session::CommandHandlers handlers();
 
 private:
     void showMainForm();
-    void showHelpIn(const forms::Form& form);
 
     forms::Desktop& desktop_;
     session::OfficeSession& session_;
@@ -123,14 +120,6 @@ session::CommandHandlers Windows::handlers() {
     handlers.ShowMainForm = [this] { showMainForm(); };
     handlers.UnloadAllForms = [this] { desktop_.unloadAll(); };
     return handlers;
-}
-
-void Windows::showHelpIn(const forms::Form& form) {
-    if (&form == mainForm_.get()) {
-        mainForm_->Form_Help();
-    } else {
-        help_.ShowHelpFor(form);
-    }
 }
 
 void Windows::showMainForm() {

@@ -120,17 +120,18 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
                                                      const std::vector<office::PasteItem>& items) {
     std::vector<std::string> remarks;
     if (!desk_) return remarks;
+    const bool isForWord = office::sameIgnoringCase(className, "Word.Application");
     if (as == office::PasteAs::Default)
         return translated(*connection_, "Suite.remarksOn", [&] {
             const auto book = desk_->active<excel::CalcDocument>();
-            return book ? excel::lossesOfTables(*book, items, className != "Word.Application")
+            return book ? excel::lossesOfTables(*book, items, !isForWord)
                         : remarks;
         });
     const bool isUnsaved = std::any_of(items.begin(), items.end(),
                                        [](const auto& item) { return item.source.file.empty(); });
     if (as == office::PasteAs::Linked && isUnsaved)
         remarks.emplace_back("The workbook has to be saved before anything can be linked to it.");
-    if (office::sameIgnoringCase(className, "Word.Application")) {
+    if (isForWord) {
         if (as == office::PasteAs::Linked)
             remarks.push_back(fmt::format(
                 "LibreOffice links no text document to a workbook: the items will be left out. "

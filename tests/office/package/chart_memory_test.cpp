@@ -133,6 +133,7 @@ TEST(AChartsMemory, IsThatOfItsCells) {
          {},
          numbersOf(places, "1.5|-|0|#N/A")},
         {"none", name, names, numbersOf(places, "-"), {}, {}, numbersOf(places, "1.5|-|0|#N/A")},
+        {"what is no number", name, names, numbersOf(places, "inf|-|0|#N/A"), {}, {}, values},
         {"a rest", name, names, numbersOf(places, "1.5|0|0|#N/A"), {}, {}, values},
         {"places too many", name, names, numbersOf(places, "1.5|-|0|#N/A|0"), {}, {}, values},
         {"empty texts",

@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <map>
 #include <optional>
@@ -92,17 +91,9 @@ std::vector<Reference> referencesIn(const Xml& chart) {
     return references;
 }
 
-std::optional<double> numberIn(std::string_view text) {
-    text = trim(text);
-    double number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (text.empty() || error != std::errc{} || end != text.data() + text.size()) return {};
-    return number;
-}
-
 bool isSameNumber(std::string_view text, double number) {
     constexpr double noise = 1e-12;
-    const auto known = numberIn(text);
+    const auto known = numberOf(text);
     return known &&
            std::abs(*known - number) <= noise * std::max(std::abs(*known), std::abs(number));
 }
