@@ -124,8 +124,7 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
     if (as == office::PasteAs::Default)
         return translated(*connection_, "Suite.remarksOn", [&] {
             const auto book = desk_->active<excel::CalcDocument>();
-            return book ? excel::lossesOfTables(*book, items, !isForWord)
-                        : remarks;
+            return book ? excel::lossesOfTables(*book, items, !isForWord) : remarks;
         });
     const bool isUnsaved = std::any_of(items.begin(), items.end(),
                                        [](const auto& item) { return item.source.file.empty(); });

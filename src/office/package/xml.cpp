@@ -127,6 +127,16 @@ std::string nameAt(pugi::xml_node at, std::string_view space, std::string_view n
     return fmt::format("{}:{}", split(own->first).second, name);
 }
 
+/// Where a name begins in a text that parts names by blanks; its end for one that isn't there.
+std::size_t placeIn(std::string_view names, std::string_view name) {
+    for (std::size_t at = 0; at < names.size();) {
+        const auto end = std::min(names.find(' ', at), names.size());
+        if (names.substr(at, end - at) == name) return at;
+        at = end + 1;
+    }
+    return names.size();
+}
+
 }  // namespace
 
 Xml::Xml(std::string_view bytes, std::string_view part) {
@@ -219,15 +229,17 @@ void setWordValue(pugi::xml_node node, std::string_view name, const std::string&
     attribute.set_value(value.c_str());
 }
 
+bool isListed(std::string_view names, std::string_view name) {
+    return placeIn(names, name) < names.size();
+}
+
 pugi::xml_node childInOrder(pugi::xml_node parent, std::string_view space, std::string_view name,
-                            const std::vector<std::string_view>& order) {
+                            std::string_view order) {
     if (const auto found = childNamed(parent, space, name)) return found;
     const std::string qualified = nameAt(parent, space, name);
-    auto later = std::find(order.begin(), order.end(), name);
-    const pugi::xml_node follower = parent.find_child([&](const pugi::xml_node& child) {
-        return std::any_of(later, order.end(),
-                           [&](std::string_view one) { return isNamed(child, space, one); });
-    });
+    const std::string_view later = order.substr(placeIn(order, name));
+    const pugi::xml_node follower = parent.find_child(
+        [&](const pugi::xml_node& child) { return isListed(later, localName(child)); });
     pugi::xml_node made = follower ? parent.insert_child_before(qualified.c_str(), follower)
                                    : parent.append_child(qualified.c_str());
     if (!isNamed(made, space, name)) declarePrefixes(made);

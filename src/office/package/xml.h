@@ -80,10 +80,12 @@ private:
 /// Writes such an attribute, under the prefix that the document has for it.
 void setWordValue(pugi::xml_node node, std::string_view name, const std::string& value);
 
+/// Whether a name is one of those that a text parts by blanks.
+[[nodiscard]] bool isListed(std::string_view names, std::string_view name);
 /// The child of that name, made where the schema wants it if it isn't there: `order` is the
-/// schema's sequence of children, all of the namespace of the new one.
+/// schema's sequence of children, parted by blanks.
 pugi::xml_node childInOrder(pugi::xml_node parent, std::string_view space, std::string_view name,
-                            const std::vector<std::string_view>& order);
+                            std::string_view order);
 /// Puts markup in as the last child ahead of `before`, or as the last of all. The markup is one
 /// element, written with the usual prefixes of the namespaces above; those that it uses are
 /// declared on it where the document has others.

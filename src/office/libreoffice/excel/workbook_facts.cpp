@@ -21,11 +21,6 @@ std::string attributeEndingIn(const pugi::xml_node& node, std::string_view end) 
     return {};
 }
 
-pugi::xml_node childNamed(const pugi::xml_node& parent, std::string_view name) {
-    return parent.find_child(
-        [&](const pugi::xml_node& node) { return office::package::localName(node) == name; });
-}
-
 WorkbookFacts factsOf(office::package::Package package) {
     WorkbookFacts facts;
     const std::string part = package.partOfType("/", "officeDocument");
@@ -33,7 +28,7 @@ WorkbookFacts factsOf(office::package::Package package) {
     const office::package::Xml document(package.read(part), part);
     const auto& relationships = package.relationshipsOf(part);
     const pugi::xml_node workbook = document.root();
-    for (const pugi::xml_node node : childNamed(workbook, "sheets").children()) {
+    for (const pugi::xml_node node : office::package::childCalled(workbook, "sheets").children()) {
         const auto* const found = relationships.withId(attributeEndingIn(node, ":id"));
         const bool isThere = found != nullptr && !found->isExternal;
         facts.sheets.push_back({node.attribute("name").value(),
@@ -41,9 +36,11 @@ WorkbookFacts factsOf(office::package::Package package) {
                                 isThere && found->type.ends_with("/chartsheet"),
                                 std::string_view(node.attribute("state").value()) == "veryHidden"});
     }
-    facts.structureIsLocked =
-        childNamed(workbook, "workbookProtection").attribute("lockStructure").as_bool();
-    facts.calculatesOnLoad = childNamed(workbook, "calcPr").attribute("fullCalcOnLoad").as_bool();
+    facts.structureIsLocked = office::package::childCalled(workbook, "workbookProtection")
+                                  .attribute("lockStructure")
+                                  .as_bool();
+    facts.calculatesOnLoad =
+        office::package::childCalled(workbook, "calcPr").attribute("fullCalcOnLoad").as_bool();
     facts.known = !facts.sheets.empty();
     return facts;
 }

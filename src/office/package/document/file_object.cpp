@@ -11,7 +11,7 @@
 #include "office/failure.h"
 #include "office/package/document/file_document.h"
 #include "office/package/document/vml_shape.h"
-#include "office/package/drawing/chart_flags.h"
+#include "office/package/drawing/chart_order.h"
 #include "office/package/drawing/drawing.h"
 
 namespace office::package {
@@ -132,7 +132,7 @@ word::ObjectShadow FileObject::shadow() {
 void FileObject::setShadow(const word::ObjectShadow& shadow) {
     if (const std::string part = chartPart(); !part.empty()) {
         const Xml chart(document_.package().read(part), part);
-        setShadowIn(chartChild(chart.root(), "spPr", chartSpaceOrder), shadow);
+        setShadowIn(chartChild(chart.root(), "spPr"), shadow);
         document_.package().replace(part, chart.bytes());
     } else {
         const auto looks = looksIn(element_);

@@ -12,11 +12,10 @@ namespace office::package {
 
 namespace {
 
-const std::vector<std::string_view> sectionOrder = {
-    "headerReference", "footerReference", "footnotePr",      "endnotePr",   "type",          "pgSz",
-    "pgMar",           "paperSrc",        "pgBorders",       "lnNumType",   "pgNumType",     "cols",
-    "formProt",        "vAlign",          "noEndnote",       "titlePg",     "textDirection", "bidi",
-    "rtlGutter",       "docGrid",         "printerSettings", "sectPrChange"};
+constexpr std::string_view sectionOrder =
+    "headerReference footerReference footnotePr endnotePr type pgSz pgMar paperSrc pgBorders "
+    "lnNumType pgNumType cols formProt vAlign noEndnote titlePg textDirection bidi rtlGutter "
+    "docGrid printerSettings sectPrChange";
 
 /// What a section has that says nothing of its page.
 constexpr double plainWidth = 612;

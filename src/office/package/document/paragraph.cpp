@@ -2,48 +2,17 @@
 
 #include <array>
 #include <cmath>
-#include <vector>
 
 namespace office::package {
 
 namespace {
 
-const std::vector<std::string_view> paragraphOrder = {"pStyle",
-                                                      "keepNext",
-                                                      "keepLines",
-                                                      "pageBreakBefore",
-                                                      "framePr",
-                                                      "widowControl",
-                                                      "numPr",
-                                                      "suppressLineNumbers",
-                                                      "pBdr",
-                                                      "shd",
-                                                      "tabs",
-                                                      "suppressAutoHyphens",
-                                                      "kinsoku",
-                                                      "wordWrap",
-                                                      "overflowPunct",
-                                                      "topLinePunct",
-                                                      "autoSpaceDE",
-                                                      "autoSpaceDN",
-                                                      "bidi",
-                                                      "adjustRightInd",
-                                                      "snapToGrid",
-                                                      "spacing",
-                                                      "ind",
-                                                      "contextualSpacing",
-                                                      "mirrorIndents",
-                                                      "suppressOverlap",
-                                                      "jc",
-                                                      "textDirection",
-                                                      "textAlignment",
-                                                      "textboxTightWrap",
-                                                      "outlineLvl",
-                                                      "divId",
-                                                      "cnfStyle",
-                                                      "rPr",
-                                                      "sectPr",
-                                                      "pPrChange"};
+constexpr std::string_view paragraphOrder =
+    "pStyle keepNext keepLines pageBreakBefore framePr widowControl numPr suppressLineNumbers "
+    "pBdr shd tabs suppressAutoHyphens kinsoku wordWrap overflowPunct topLinePunct autoSpaceDE "
+    "autoSpaceDN bidi adjustRightInd snapToGrid spacing ind contextualSpacing mirrorIndents "
+    "suppressOverlap jc textDirection textAlignment textboxTightWrap outlineLvl divId cnfStyle "
+    "rPr sectPr pPrChange";
 
 /// What belongs to one paragraph alone: a frame, the end of a section, changes that somebody
 /// recorded.
@@ -128,9 +97,9 @@ std::string styleOf(pugi::xml_node paragraph) {
 
 void setStyle(pugi::xml_node paragraph, const std::string& style) {
     auto properties = propertiesOf(paragraph);
-    for (const std::string_view name : paragraphOrder) {
-        if (name != "sectPr") drop(properties, name);
-    }
+    keepChildren(properties, [](pugi::xml_node child) {
+        return isNamed(child, ns::word, "sectPr") || !isListed(paragraphOrder, localName(child));
+    });
     if (!style.empty()) setWordValue(made(paragraph, "pStyle"), "val", style);
 }
 

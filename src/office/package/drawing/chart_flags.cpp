@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <string>
 #include <vector>
 
+#include "office/package/drawing/chart_order.h"
 #include "office/package/xml.h"
 
 namespace office::package {
@@ -19,50 +19,6 @@ struct Flag {
     const char* standard;
     const char* excel2007;
 };
-
-/// The schema's sequences of what stands ahead of a flag, or in between flags.
-constexpr std::string_view chartOrder =
-    "title autoTitleDeleted pivotFmts view3D floor sideWall backWall plotArea legend plotVisOnly "
-    "dispBlanksAs showDLblsOverMax";
-constexpr std::string_view groupOrder =
-    "barDir grouping ofPieType radarStyle scatterStyle wireframe varyColors ser dLbls dropLines "
-    "hiLowLines upDownBars marker smooth bubble3D bubbleScale showNegBubbles";
-constexpr std::string_view seriesOrder =
-    "idx order tx spPr invertIfNegative pictureOptions marker explosion dPt dLbls trendline "
-    "errBars cat val xVal yVal bubbleSize smooth shape bubble3D";
-constexpr std::string_view pointOrder = "idx invertIfNegative";
-constexpr std::string_view labelOrder =
-    "idx dLbl delete layout tx numFmt spPr txPr dLblPos showLegendKey showVal showCatName "
-    "showSerName showPercent showBubbleSize separator showLeaderLines";
-constexpr std::string_view textOrder = "legendPos legendEntry tx layout overlay";
-constexpr std::string_view trendOrder =
-    "name spPr trendlineType order period forward backward intercept dispRSqr dispEq";
-constexpr std::string_view errorOrder = "errDir errBarType errValType noEndCap";
-constexpr std::string_view viewOrder = "rotX hPercent rotY depthPercent rAngAx";
-constexpr std::string_view pictureOrder = "applyToFront applyToSides applyToEnd";
-
-struct Sequence {
-    std::string_view parent;
-    std::string_view order;
-};
-constexpr std::array<Sequence, 16> sequences = {{
-    {"chartSpace", chartSpaceOrder},
-    {"chart", chartOrder},
-    {"catAx", axisOrder},
-    {"dateAx", axisOrder},
-    {"valAx", axisOrder},
-    {"serAx", axisOrder},
-    {"ser", seriesOrder},
-    {"dPt", pointOrder},
-    {"dLbls", labelOrder},
-    {"dLbl", labelOrder},
-    {"title", textOrder},
-    {"legend", textOrder},
-    {"trendline", trendOrder},
-    {"errBars", errorOrder},
-    {"view3D", viewOrder},
-    {"pictureOptions", pictureOrder},
-}};
 
 constexpr const char* on = "1";
 constexpr const char* off = "0";
@@ -134,37 +90,14 @@ constexpr auto flags = std::to_array<Flag>({
 constexpr std::array<const char*, 6> labelFlags = {
     "showLegendKey", "showVal", "showCatName", "showSerName", "showPercent", "showBubbleSize"};
 
-std::string_view orderIn(pugi::xml_node parent) {
-    const auto* const found =
-        std::find_if(sequences.begin(), sequences.end(),
-                     [&](const Sequence& one) { return one.parent == localName(parent); });
-    return found == sequences.end() ? groupOrder : found->order;
-}
-
-pugi::xml_node childOf(pugi::xml_node parent, std::string_view name) {
-    return parent.find_child([&](const pugi::xml_node& child) {
-        return child.type() == pugi::node_element && localName(child) == name;
-    });
-}
-
-/// The place of a name in a sequence; behind all for one that isn't in it.
-std::size_t placeIn(std::string_view order, std::string_view name) {
-    for (std::size_t at = 0; at < order.size();) {
-        const auto end = std::min(order.find(' ', at), order.size());
-        if (order.substr(at, end - at) == name) return at;
-        at = end + 1;
-    }
-    return order.size();
-}
-
 void write(pugi::xml_node parent, std::string_view name, const char* value) {
-    if (childOf(parent, name)) return;
-    chartChild(parent, name, orderIn(parent)).append_attribute("val").set_value(value);
+    if (childCalled(parent, name)) return;
+    chartChild(parent, name).append_attribute("val").set_value(value);
 }
 
 bool hasAnyFlag(pugi::xml_node labels) {
     return std::any_of(labelFlags.begin(), labelFlags.end(),
-                       [&](const char* name) { return childOf(labels, name); });
+                       [&](const char* name) { return childCalled(labels, name); });
 }
 
 /// The flags of all labels of a series, which have been written out by now, stand behind those of
@@ -177,10 +110,10 @@ pugi::xml_node lastOf(pugi::xml_node parent, std::string_view name) {
 
 /// A label of one point that says nothing shows what those of its series show.
 void writeLabelFlags(pugi::xml_node labels, FlagDefaults defaults) {
-    if (childOf(labels, "delete")) return;
+    if (childCalled(labels, "delete")) return;
     const bool isLikeOthers = defaults == FlagDefaults::Excel2007 && localName(labels) == "dLbl" &&
-                              !hasAnyFlag(labels) && !childOf(labels, "dLblPos") &&
-                              !childOf(labels, "separator");
+                              !hasAnyFlag(labels) && !childCalled(labels, "dLblPos") &&
+                              !childCalled(labels, "separator");
     for (const char* const name : labelFlags) {
         const auto common = isLikeOthers ? lastOf(labels.parent(), name) : pugi::xml_node();
         const char* const plain = defaults == FlagDefaults::Excel2007 ? off : on;
@@ -190,9 +123,7 @@ void writeLabelFlags(pugi::xml_node labels, FlagDefaults defaults) {
 
 /// Elements that hold no flags, and much else.
 bool isPassedOver(std::string_view name) {
-    constexpr std::array<std::string_view, 7> names = {
-        "numCache", "strCache", "multiLvlStrCache", "spPr", "txPr", "rich", "extLst"};
-    return std::find(names.begin(), names.end(), name) != names.end();
+    return isListed("numCache strCache multiLvlStrCache spPr txPr rich extLst", name);
 }
 
 /// A chart in depth is seen from somewhere, also one that doesn't say from where.
@@ -201,14 +132,14 @@ void writeView(pugi::xml_node chart) {
         const std::string_view name = localName(group);
         return name.ends_with("3DChart") || name == "surfaceChart";
     };
-    if (childOf(chart, "plotArea").find_child(isDeep)) chartChild(chart, "view3D", chartOrder);
+    if (childCalled(chart, "plotArea").find_child(isDeep)) chartChild(chart, "view3D");
 }
 
 void writeOwnFlags(pugi::xml_node node, FlagDefaults defaults) {
     const std::string_view name = localName(node);
     if (name == "chart") writeView(node);
     if (name == "dLbls" || name == "dLbl") writeLabelFlags(node, defaults);
-    if (name == "dLbls" && childOf(node, "delete")) return;
+    if (name == "dLbls" && childCalled(node, "delete")) return;
     for (const Flag& flag : flags) {
         if (flag.parent != name) continue;
         if (!flag.around.empty() && flag.around != localName(node.parent())) continue;
@@ -218,20 +149,6 @@ void writeOwnFlags(pugi::xml_node node, FlagDefaults defaults) {
 }
 
 }  // namespace
-
-pugi::xml_node chartChild(pugi::xml_node parent, std::string_view name, std::string_view order) {
-    if (const auto found = childOf(parent, name)) return found;
-    const std::size_t place = placeIn(order, name);
-    pugi::xml_node ahead;
-    for (const pugi::xml_node child : parent.children()) {
-        if (placeIn(order, localName(child)) < place) ahead = child;
-    }
-    // In the prefix of its parent.
-    std::string qualified = parent.name();
-    qualified.replace(qualified.size() - localName(parent).size(), std::string::npos, name);
-    return ahead ? parent.insert_child_after(qualified.c_str(), ahead)
-                 : parent.prepend_child(qualified.c_str());
-}
 
 void writeFlags(pugi::xml_node chartSpace, FlagDefaults defaults) {
     std::vector<pugi::xml_node> open = {chartSpace};

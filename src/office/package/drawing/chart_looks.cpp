@@ -1,49 +1,28 @@
 #include "office/package/drawing/chart_looks.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-#include "office/package/drawing/chart_flags.h"
+#include "office/package/drawing/chart_order.h"
 #include "office/package/drawing/drawing.h"
 
 namespace office::package {
 
 namespace {
 
-/// An element whose line is drawn whether or not it says how.
-struct Lined {
-    std::string_view name;
-    /// The schema's order of its children at least up to their looks.
-    std::string_view order;
-};
-constexpr std::string_view alone = "spPr";
-constexpr std::array<Lined, 12> lined = {{
-    {"catAx", axisOrder},
-    {"dateAx", axisOrder},
-    {"valAx", axisOrder},
-    {"serAx", axisOrder},
-    {"majorGridlines", alone},
-    {"minorGridlines", alone},
-    {"dropLines", alone},
-    {"hiLowLines", alone},
-    {"serLines", alone},
-    {"leaderLines", alone},
-    {"errBars", "errDir errBarType errValType noEndCap plus minus val spPr"},
-    {"trendline", "name spPr"},
-}};
+/// Elements whose line is drawn whether or not they say how.
+constexpr std::string_view lined =
+    "catAx dateAx valAx serAx majorGridlines minorGridlines dropLines hiLowLines serLines "
+    "leaderLines errBars trendline";
 /// The groups whose series are lines.
-constexpr std::array<std::string_view, 3> lineGroups = {"lineChart", "scatterChart", "radarChart"};
-constexpr std::array<std::string_view, 6> fills = {"noFill",   "solidFill", "gradFill",
-                                                   "blipFill", "pattFill",  "grpFill"};
+constexpr std::string_view lineGroups = "lineChart scatterChart radarChart";
+constexpr std::string_view fills = "noFill solidFill gradFill blipFill pattFill grpFill";
 
-template <class Names>
-bool isOneOf(pugi::xml_node node, std::string_view space, const Names& names) {
-    return std::any_of(names.begin(), names.end(),
-                       [&](std::string_view name) { return isNamed(node, space, name); });
+bool isOneOf(pugi::xml_node node, std::string_view space, std::string_view names) {
+    return isListed(names, localName(node)) && isNamed(node, space, localName(node));
 }
 
 /// The number of the chart's style, by which programs dress what it leaves out.
@@ -63,8 +42,8 @@ int seriesFactor(int style) {
     return style >= 25 && style <= 32 ? 7 : 5;
 }
 
-void writeWidth(pugi::xml_node element, std::string_view order, int width) {
-    const auto looks = chartChild(element, "spPr", order);
+void writeWidth(pugi::xml_node element, int width) {
+    const auto looks = chartChild(element, "spPr");
     auto line = childInOrder(looks, ns::drawing, "ln", looksOrder);
     if (!line.attribute("w") && !childNamed(line, ns::drawing, "noFill"))
         line.append_attribute("w").set_value(width);
@@ -72,24 +51,24 @@ void writeWidth(pugi::xml_node element, std::string_view order, int width) {
 
 /// Of the styles with a light ground; the others are seldom and dressed by the program.
 void writeFrame(pugi::xml_node chartSpace, int thinLine) {
-    auto looks = chartChild(chartSpace, "spPr", chartSpaceOrder);
-    const auto has = [&](const auto& names) {
+    auto looks = chartChild(chartSpace, "spPr");
+    const auto has = [&](std::string_view names) {
         return looks.find_child(
             [&](const pugi::xml_node& child) { return isOneOf(child, ns::drawing, names); });
     };
     const auto light = [](pugi::xml_node holder, const char* name) {
         auto colour = childInOrder(childInOrder(holder, ns::drawing, "solidFill", looksOrder),
-                                   ns::drawing, "schemeClr", {"schemeClr"});
+                                   ns::drawing, "schemeClr", "schemeClr");
         colour.append_attribute("val").set_value(name);
         return colour;
     };
     if (!has(fills)) light(looks, "bg1");
-    if (has(std::array<std::string_view, 1>{"ln"})) return;
+    if (has("ln")) return;
     auto line = childInOrder(looks, ns::drawing, "ln", looksOrder);
     if (thinLine > 0) line.append_attribute("w").set_value(thinLine);
     auto grey = light(line, "tx1");
     for (const auto& [name, value] : {std::pair{"lumMod", 15'000}, {"lumOff", 85'000}})
-        childInOrder(grey, ns::drawing, name, {name}).append_attribute("val").set_value(value);
+        childInOrder(grey, ns::drawing, name, name).append_attribute("val").set_value(value);
 }
 
 }  // namespace
@@ -107,10 +86,8 @@ void writeLooks(pugi::xml_node chartSpace, int thinLine) {
         for (const pugi::xml_node child : node.children()) {
             if (child.type() != pugi::node_element) continue;
             if (isNamed(child, ns::chart, "ser") && isOneOf(node, ns::chart, lineGroups))
-                writeWidth(child, "idx order tx spPr", thinLine * seriesFactor(style));
-            for (const Lined& one : lined) {
-                if (isNamed(child, ns::chart, one.name)) writeWidth(child, one.order, thinLine);
-            }
+                writeWidth(child, thinLine * seriesFactor(style));
+            if (isOneOf(child, ns::chart, lined)) writeWidth(child, thinLine);
             // Deeper there are values and texts.
             if (isNamed(node, ns::chart, "plotArea") || isNamed(child, ns::chart, "ser") ||
                 isNamed(child, ns::chart, "dLbls"))
@@ -143,7 +120,7 @@ void writeDates(pugi::xml_node chartSpace) {
                     childNamed(childNamed(series, ns::chart, "cat"), ns::chart, "numRef");
                 const auto cache = childNamed(reference, ns::chart, "numCache");
                 if (!cache) continue;
-                auto format = chartChild(cache, "formatCode", "formatCode");
+                auto format = chartChild(cache, "formatCode");
                 if (format.text().get() == plain || format.text().empty())
                     format.text().set(isPlain ? "yyyy\\-mm\\-dd" : wanted.value());
             }

@@ -7,6 +7,7 @@
 
 #include "office/package/drawing/chart_looks.h"
 #include "office/package/drawing/chart_memory.h"
+#include "office/package/drawing/chart_order.h"
 #include "office/package/part_name.h"
 #include "office/text.h"
 
@@ -83,10 +84,10 @@ std::string stemOf(const std::string& part) {
 
 /// Says by a relationship where the data is.
 void connect(pugi::xml_node chartSpace, const std::string& relationship) {
-    auto external = chartChild(chartSpace, "externalData", chartSpaceOrder);
+    auto external = chartChild(chartSpace, "externalData");
     external.append_attribute("xmlns:r").set_value(ns::relationships.data());
     external.append_attribute("r:id").set_value(relationship.c_str());
-    chartChild(external, "autoUpdate", "autoUpdate").append_attribute("val").set_value("0");
+    chartChild(external, "autoUpdate").append_attribute("val").set_value("0");
 }
 
 }  // namespace
@@ -194,7 +195,7 @@ void ChartParts::overrideTheme(const Origin& origin, const std::string& part, co
         relationships.add("themeOverride", theme);
     }
     if (childNamed(xml.root(), ns::chart, "clrMapOvr")) return;
-    auto colours = chartChild(xml.root(), "clrMapOvr", chartSpaceOrder);
+    auto colours = chartChild(xml.root(), "clrMapOvr");
     for (const auto& [name, value] : plainColours) colours.append_attribute(name).set_value(value);
 }
 

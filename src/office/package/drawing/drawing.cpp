@@ -22,15 +22,9 @@ long long emuOf(double points) {
     return std::llround(points * emuPerPoint);
 }
 
-const std::vector<std::string_view> looksOrder = {"xfrm",      "custGeom", "prstGeom",  "noFill",
-                                                  "solidFill", "gradFill", "blipFill",  "pattFill",
-                                                  "grpFill",   "ln",       "effectLst", "effectDag",
-                                                  "scene3d",   "sp3d",     "extLst"};
-
 pugi::xml_node effectFor(pugi::xml_node looks, std::string_view name) {
-    static const std::vector<std::string_view> order = {"blur",       "fillOverlay", "glow",
-                                                        "innerShdw",  "outerShdw",   "prstShdw",
-                                                        "reflection", "softEdge"};
+    constexpr std::string_view order =
+        "blur fillOverlay glow innerShdw outerShdw prstShdw reflection softEdge";
     looks.remove_child(childNamed(looks, ns::drawing, "effectDag"));
     return childInOrder(childInOrder(looks, ns::drawing, "effectLst", looksOrder), ns::drawing,
                         name, order);

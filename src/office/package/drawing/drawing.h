@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 /// The markup of shapes, pictures and charts, which all kinds of files have in common.
 namespace office::package {
@@ -14,7 +13,9 @@ namespace office::package {
 inline constexpr double emuPerPoint = 12700;
 [[nodiscard]] long long emuOf(double points);
 /// The schema's order of what says how a shape looks.
-extern const std::vector<std::string_view> looksOrder;
+inline constexpr std::string_view looksOrder =
+    "xfrm custGeom prstGeom noFill solidFill gradFill blipFill pattFill grpFill ln effectLst "
+    "effectDag scene3d sp3d extLst";
 /// An effect of what looks as `looks` say, made in its place. Effects in the order of a graph are
 /// left to their maker: a list takes their place.
 [[nodiscard]] pugi::xml_node effectFor(pugi::xml_node looks, std::string_view name);

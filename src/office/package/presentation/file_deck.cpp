@@ -33,10 +33,10 @@ constexpr std::array<std::string_view, 6> mainTypes = {
     "application/vnd.openxmlformats-officedocument.presentationml.slideshow.main+xml",
     "application/vnd.ms-powerpoint.slideshow.macroEnabled.main+xml"};
 
-const std::vector<std::string_view> presentationOrder = {
-    "sldMasterIdLst", "notesMasterIdLst", "handoutMasterIdLst", "sldIdLst",       "sldSz",
-    "notesSz",        "smartTags",        "embeddedFontLst",    "custShowLst",    "photoAlbum",
-    "custDataLst",    "kinsoku",          "defaultTextStyle",   "modifyVerifier", "extLst"};
+constexpr std::string_view presentationOrder =
+    "sldMasterIdLst notesMasterIdLst handoutMasterIdLst sldIdLst sldSz notesSz smartTags "
+    "embeddedFontLst custShowLst photoAlbum custDataLst kinsoku defaultTextStyle modifyVerifier "
+    "extLst";
 
 constexpr const char* emptySlide =
     R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"

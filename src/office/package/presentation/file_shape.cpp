@@ -12,7 +12,10 @@ namespace office::package {
 
 namespace {
 
-const std::vector<std::string_view> transformOrder = {"off", "ext", "chOff", "chExt"};
+constexpr std::string_view transformOrder = "off ext chOff chExt";
+
+constexpr std::string_view locksOrder =
+    "picLocks spLocks cxnSpLocks graphicFrameLocks grpSpLocks stCxn endCxn extLst";
 
 /// The element that says what is locked of a shape, by the shape's own name.
 struct Locks {
@@ -166,7 +169,7 @@ pugi::xml_node FileShape::locks(bool made) {
     for (const Locks& one : lockNames) {
         if (!isNamed(node_, ns::presentation, one.shape)) continue;
         const auto holder = properties(one.holder);
-        return made ? childInOrder(holder, ns::drawing, one.name, {one.name, "stCxn", "extLst"})
+        return made ? childInOrder(holder, ns::drawing, one.name, locksOrder)
                     : childNamed(holder, ns::drawing, one.name);
     }
     return {};

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "office/package/drawing/chart_flags.h"
+#include "office/package/drawing/chart_order.h"
 #include "office/package/presentation/file_deck.h"
 #include "office/package/presentation/file_shape.h"
 #include "office/package/presentation/file_slide.h"
@@ -68,7 +68,7 @@ void FileShape::setOutline(model::Outline wanted) {
         if (one.outline == wanted) attributeFor(geometry, "prst").set_value(one.name);
     }
     geometry.remove_child(childNamed(geometry, ns::drawing, "avLst"));
-    childInOrder(geometry, ns::drawing, "avLst", {"avLst"});
+    childInOrder(geometry, ns::drawing, "avLst", "avLst");
 }
 
 /// The number that forms an outline, at a place from 1; null where none is said.
@@ -94,8 +94,8 @@ bool FileShape::setAdjustment(std::int32_t place, double value) {
     auto found = guide(place);
     if (!found) {
         const auto geometry = childNamed(drawnProperties(), ns::drawing, "prstGeom");
-        found = childInOrder(childInOrder(geometry, ns::drawing, "avLst", {"avLst"}), ns::drawing,
-                             "gd", {"gd"});
+        found = childInOrder(childInOrder(geometry, ns::drawing, "avLst", "avLst"), ns::drawing,
+                             "gd", "gd");
         attributeFor(found, "name").set_value("adj");
     }
     attributeFor(found, "fmla")
@@ -117,7 +117,7 @@ pugi::xml_node FileShape::effectsHolder() {
         chartPart_ = relationships.partOf(*found);
         chart_ = std::make_unique<Xml>(package.read(chartPart_), chartPart_);
     }
-    return chart_ ? chartChild(chart_->root(), "spPr", chartSpaceOrder) : pugi::xml_node();
+    return chart_ ? chartChild(chart_->root(), "spPr") : pugi::xml_node();
 }
 
 void FileShape::write() {

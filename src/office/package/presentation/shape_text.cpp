@@ -12,13 +12,11 @@ namespace office::package {
 
 namespace {
 
-const std::vector<std::string_view> characterOrder = {
-    "ln",         "noFill",         "solidFill", "gradFill",  "blipFill", "pattFill",
-    "grpFill",    "effectLst",      "effectDag", "highlight", "uLnTx",    "uLn",
-    "uFillTx",    "uFill",          "latin",     "ea",        "cs",       "sym",
-    "hlinkClick", "hlinkMouseOver", "rtl",       "extLst"};
-const std::vector<std::string_view> paragraphOrder = {"pPr", "br", "r", "fld", "endParaRPr"};
-const std::vector<std::string_view> runOrder = {"rPr", "pPr", "t"};
+constexpr std::string_view characterOrder =
+    "ln noFill solidFill gradFill blipFill pattFill grpFill effectLst effectDag highlight uLnTx "
+    "uLn uFillTx uFill latin ea cs sym hlinkClick hlinkMouseOver rtl extLst";
+constexpr std::string_view paragraphOrder = "pPr br r fld endParaRPr";
+constexpr std::string_view runOrder = "rPr pPr t";
 
 /// The sizes of characters are hundredths of a point.
 constexpr double perPoint = 100;
@@ -85,7 +83,7 @@ void FileShape::setWords(const std::string& words) {
     changed();
     auto body = textBody();
     if (!body) {
-        body = childInOrder(node_, ns::presentation, "txBody", {"txBody", "extLst"});
+        body = childInOrder(node_, ns::presentation, "txBody", "txBody extLst");
         insertMarkup(body, "<a:bodyPr/>");
     }
     const auto first = childNamed(body, ns::drawing, "p");

@@ -11,8 +11,8 @@ namespace office::package {
 
 namespace {
 
-const std::vector<std::string_view> bodyOrder = {
-    "prstTxWarp", "noAutofit", "normAutofit", "spAutoFit", "scene3d", "sp3d", "flatTx", "extLst"};
+constexpr std::string_view bodyOrder =
+    "prstTxWarp noAutofit normAutofit spAutoFit scene3d sp3d flatTx extLst";
 
 constexpr double plainSideMarginPt = 7.2;
 constexpr double plainUpperMarginPt = 3.6;

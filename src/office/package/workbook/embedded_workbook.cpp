@@ -18,16 +18,10 @@ namespace office::package {
 namespace {
 
 /// The schema's order in a workbook, as far as something is put in.
-const std::vector<std::string_view> workbookOrder = {"fileVersion",    "fileSharing",
-                                                     "workbookPr",     "workbookProtection",
-                                                     "bookViews",      "sheets",
-                                                     "functionGroups", "externalReferences",
-                                                     "definedNames",   "calcPr",
-                                                     "oleSize",        "customWorkbookViews",
-                                                     "pivotCaches",    "smartTagPr",
-                                                     "smartTagTypes",  "webPublishing",
-                                                     "fileRecoveryPr", "webPublishObjects",
-                                                     "extLst"};
+constexpr std::string_view workbookOrder =
+    "fileVersion fileSharing workbookPr workbookProtection bookViews sheets functionGroups "
+    "externalReferences definedNames calcPr oleSize customWorkbookViews pivotCaches smartTagPr "
+    "smartTagTypes webPublishing fileRecoveryPr webPublishObjects extLst";
 
 /// For sheets of which the cells are bytes.
 Limits carried() {
@@ -101,7 +95,7 @@ void show(Package& workbook, const std::string& main, const WorkbookSheet& sheet
         entry.remove_attribute("state");
     }
     auto views = childInOrder(root, ns::spreadsheet, "bookViews", workbookOrder);
-    static_cast<void>(childInOrder(views, ns::spreadsheet, "workbookView", {"workbookView"}));
+    static_cast<void>(childInOrder(views, ns::spreadsheet, "workbookView", "workbookView"));
     for (pugi::xml_node view : childrenNamed(views, ns::spreadsheet, "workbookView")) {
         attributeFor(view, "activeTab").set_value(place);
         view.remove_attribute("firstSheet");

@@ -27,8 +27,8 @@ const std::set<std::string_view> keptRelationships = {
 const std::set<std::string_view> impliedRelationships = {
     "comments", "chartStyle", "chartColorStyle", "themeOverride", "diagramDrawing"};
 
-const std::set<std::string_view> keptInWorkbook = {"fileVersion", "workbookPr",   "bookViews",
-                                                   "sheets",      "definedNames", "calcPr"};
+constexpr std::string_view keptInWorkbook =
+    "fileVersion workbookPr bookViews sheets definedNames calcPr";
 
 std::string_view kindOf(const Relationship& relationship) {
     const std::string_view type = relationship.type;
@@ -179,7 +179,7 @@ private:
 
     void reduceWorkbook(pugi::xml_node root) {
         keepChildren(root, [](pugi::xml_node child) {
-            return keptInWorkbook.contains(localName(child)) &&
+            return isListed(keptInWorkbook, localName(child)) &&
                    isNamed(child, ns::spreadsheet, localName(child));
         });
         auto sheets = childNamed(root, ns::spreadsheet, "sheets");

@@ -11,34 +11,11 @@ namespace office::package {
 
 namespace {
 
-const std::set<std::string_view> keptInSheet = {"sheetPr",
-                                                "dimension",
-                                                "sheetViews",
-                                                "sheetFormatPr",
-                                                "cols",
-                                                "sheetData",
-                                                "sheetCalcPr",
-                                                "sheetProtection",
-                                                "protectedRanges",
-                                                "autoFilter",
-                                                "sortState",
-                                                "mergeCells",
-                                                "phoneticPr",
-                                                "conditionalFormatting",
-                                                "dataValidations",
-                                                "hyperlinks",
-                                                "printOptions",
-                                                "pageMargins",
-                                                "pageSetup",
-                                                "headerFooter",
-                                                "rowBreaks",
-                                                "colBreaks",
-                                                "ignoredErrors",
-                                                "drawing",
-                                                "legacyDrawing",
-                                                "picture",
-                                                "tableParts",
-                                                "extLst"};
+constexpr std::string_view keptInSheet =
+    "sheetPr dimension sheetViews sheetFormatPr cols sheetData sheetCalcPr sheetProtection "
+    "protectedRanges autoFilter sortState mergeCells phoneticPr conditionalFormatting "
+    "dataValidations hyperlinks printOptions pageMargins pageSetup headerFooter rowBreaks "
+    "colBreaks ignoredErrors drawing legacyDrawing picture tableParts extLst";
 
 /// Extensions of a sheet: conditional formats, validation, sparklines, errors that aren't shown.
 const std::set<std::string_view> keptExtensions = {
@@ -46,16 +23,10 @@ const std::set<std::string_view> keptExtensions = {
     "{05C60535-1F16-4fd2-B633-F4F36F0B64E0}", "{01252117-D84E-4E92-8308-4BE1C098FCBB}"};
 
 /// What goes as a whole with one of its formulas, and what goes with the last of those.
-const std::set<std::string_view> rules = {"cfRule", "dataValidation", "sparkline",
-                                          "sparklineGroup"};
-const std::set<std::string_view> ruleHolders = {"conditionalFormatting",
-                                                "conditionalFormattings",
-                                                "dataValidations",
-                                                "sparklines",
-                                                "sparklineGroup",
-                                                "sparklineGroups",
-                                                "ext",
-                                                "extLst"};
+constexpr std::string_view rules = "cfRule dataValidation sparkline sparklineGroup";
+constexpr std::string_view ruleHolders =
+    "conditionalFormatting conditionalFormattings dataValidations sparklines sparklineGroup "
+    "sparklineGroups ext extLst";
 
 const std::set<std::string_view> keptGraphics = {
     "http://schemas.openxmlformats.org/drawingml/2006/chart",
@@ -80,7 +51,7 @@ bool isBare(pugi::xml_node holder) {
         return child.type() == pugi::node_element && localName(child) != "sqref" &&
                child.first_child();
     }) && !holder.find_child([](const pugi::xml_node& child) {
-        return rules.contains(localName(child));
+        return isListed(rules, localName(child));
     });
 }
 
@@ -97,18 +68,18 @@ void reduceRules(pugi::xml_node root, const FormulaReach& reach) {
         const pugi::xml_attribute value = formula.attribute("val");
         if (!reach.leavesSheet(value ? value.value() : formula.text().get())) continue;
         pugi::xml_node rule = formula;
-        while (rule && !rules.contains(localName(rule))) rule = rule.parent();
+        while (rule && !isListed(rules, localName(rule))) rule = rule.parent();
         if (rule) gone.insert(rule);
     }
     if (gone.empty()) return;
     // From the innermost, since what stands in another element goes with that.
     const auto all =
-        elementsBelow(root, [](pugi::xml_node node) { return rules.contains(localName(node)); });
+        elementsBelow(root, [](pugi::xml_node node) { return isListed(rules, localName(node)); });
     std::for_each(all.rbegin(), all.rend(), [&](pugi::xml_node rule) {
         if (gone.contains(rule)) dropRule(rule);
     });
     const auto holders = elementsBelow(
-        root, [](pugi::xml_node node) { return ruleHolders.contains(localName(node)); });
+        root, [](pugi::xml_node node) { return isListed(ruleHolders, localName(node)); });
     std::for_each(holders.rbegin(), holders.rend(), [](pugi::xml_node holder) {
         if (isBare(holder)) holder.parent().remove_child(holder);
     });
@@ -186,7 +157,7 @@ void reduceSheet(const Xml& sheet, const FormulaReach& reach) {
     pugi::xml_node root = sheet.root();
     keepChildren(root, [](pugi::xml_node child) {
         return isNamed(child, ns::spreadsheet, localName(child)) &&
-               keptInSheet.contains(localName(child));
+               isListed(keptInSheet, localName(child));
     });
     sheetChild(root, "sheetPr").remove_attribute("codeName");
     for (pugi::xml_node view : sheetChild(root, "sheetViews").children())
