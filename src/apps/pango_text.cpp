@@ -24,8 +24,8 @@ TextMeasure::TextMeasure() : fonts_(owned(pango_ft2_font_map_new())) {
     context_ = owned(context);
 }
 
-session::TextSize TextMeasure::sizeOf(std::string_view text, const session::TextFont& font,
-                                      std::optional<double> widthPt) const {
+office::Size TextMeasure::sizeOf(std::string_view text, const office::Font& font,
+                                 std::optional<double> widthPt) const {
     const auto inPangoUnits = [](double points) {
         return static_cast<int>(std::lround(points * PANGO_SCALE));
     };

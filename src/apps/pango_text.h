@@ -15,8 +15,8 @@ class TextMeasure {
 public:
     TextMeasure();
 
-    [[nodiscard]] session::TextSize sizeOf(std::string_view text, const session::TextFont& font,
-                                           std::optional<double> widthPt) const;
+    [[nodiscard]] office::Size sizeOf(std::string_view text, const office::Font& font,
+                                      std::optional<double> widthPt) const;
 
 private:
     std::shared_ptr<void> fonts_;

@@ -43,8 +43,8 @@ public:
     void writeFile(std::string_view path, std::string_view text) override;
     void writeImage(std::string_view png, session::ImageFormat format,
                     std::string_view path) override;
-    [[nodiscard]] session::TextSize textSize(std::string_view text, const session::TextFont& font,
-                                             std::optional<double> widthPt) override {
+    [[nodiscard]] office::Size textSize(std::string_view text, const office::Font& font,
+                                        std::optional<double> widthPt) override {
         if (!texts_) texts_.emplace();
         return texts_->sizeOf(text, font, widthPt);
     }

@@ -163,7 +163,7 @@ void PdfPages::addCover() {
 double PdfPages::headingHeight(const std::string& caption) const {
     constexpr double fontPt = 20;
     constexpr double spacePt = 18;
-    return session_.host.textSize(caption, {"Arial", fontPt}, width_).heightPt + spacePt;
+    return session_.host.textSize(caption, {"Arial", fontPt}, width_).height + spacePt;
 }
 
 /// The paragraph goes again if nothing comes to it: it would take a page of its own.

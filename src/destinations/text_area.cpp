@@ -14,11 +14,12 @@ TextArea textAreaOf(const office::Value& page) {
             toEdge};
 }
 
-Size sizeOf(const office::Object& shape) {
+office::Size sizeOf(const office::Object& shape) {
     return {shape.get("Width").toDouble(), shape.get("Height").toDouble()};
 }
 
-void fit(const office::Object& shape, const Size& natural, double width, const TextArea& area) {
+void fit(const office::Object& shape, const office::Size& natural, double width,
+         const TextArea& area) {
     const double scale = std::min(width / natural.width, area.room() / natural.height);
     shape.put("Width", natural.width * scale);
     shape.put("Height", natural.height * scale);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "office/size.h"
 #include "office/value.h"
 
 namespace destinations {
@@ -19,16 +20,11 @@ struct TextArea {
 /// By its PageSetup.
 [[nodiscard]] TextArea textAreaOf(const office::Value& page);
 
-/// In points.
-struct Size {
-    double width = 0;
-    double height = 0;
-};
-
-[[nodiscard]] Size sizeOf(const office::Object& shape);
+[[nodiscard]] office::Size sizeOf(const office::Object& shape);
 
 /// Makes a shape of that natural size as large as a width and the area's room allow, in its
 /// proportions.
-void fit(const office::Object& shape, const Size& natural, double width, const TextArea& area);
+void fit(const office::Object& shape, const office::Size& natural, double width,
+         const TextArea& area);
 
 }  // namespace destinations

@@ -207,7 +207,7 @@ void WordBatch::FinishWordItem(const ExportItem& row, const Object& shape) {
         /// Of the text area: what is higher loses its proportions.
         constexpr double highest = 0.5;
         const TextArea& area = textArea();
-        const Size natural = sizeOf(shape);
+        const office::Size natural = sizeOf(shape);
         shape.put("Width", area.width);
         shape.put("Height",
                   std::min(natural.height / natural.width * area.width, area.height * highest));
@@ -235,7 +235,7 @@ void WordBatch::FinishWordItem(const ExportItem& row, const Object& shape) {
 /// size, over the right margin, too.
 void WordBatch::FitOnPage(const Object& shape) {
     const TextArea& area = textArea();
-    const Size natural = sizeOf(shape);
+    const office::Size natural = sizeOf(shape);
     if (natural.width > area.toEdge || natural.height > area.room())
         fit(shape, natural, std::min(natural.width, area.width), area);
 }

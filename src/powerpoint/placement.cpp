@@ -26,12 +26,7 @@ constexpr double smallestShare = 0.05;
 constexpr double titleClearance = 1.05;
 constexpr std::int32_t paleGrey = 178 | (178 << 8) | (178 << 16);
 
-struct SlideSize {
-    double widthPt;
-    double heightPt;
-};
-
-SlideSize slideSizeOf(const Object& presentation) {
+office::Size slideSizeOf(const Object& presentation) {
     const Object setup = presentation.get("PageSetup").toObject();
     return {setup.get("SlideWidth").toDouble(), setup.get("SlideHeight").toDouble()};
 }
@@ -49,19 +44,20 @@ double halfInWholePoints(double lengthPt) {
     return std::trunc(std::nearbyint(lengthPt) / 2);
 }
 
-double topOf(const session::Placement& placement, const TitlePlace& title, const SlideSize& slide) {
-    const double topPt = placement.top ? *placement.top * slide.heightPt
+double topOf(const session::Placement& placement, const TitlePlace& title,
+             const office::Size& slide) {
+    const double topPt = placement.top ? *placement.top * slide.height
                                        : (title.topPt + title.heightPt) * titleClearance;
-    return std::clamp(topPt, 0.0, slide.heightPt * (bottomShare - smallestShare));
+    return std::clamp(topPt, 0.0, slide.height * (bottomShare - smallestShare));
 }
 
-double leftOf(const session::Placement& placement, const SlideSize& slide, double shapeWidthPt) {
-    if (!placement.left) return halfInWholePoints(slide.widthPt - shapeWidthPt);
-    return slide.widthPt * std::clamp(*placement.left, 0.0, 1 - smallestShare);
+double leftOf(const session::Placement& placement, const office::Size& slide, double shapeWidthPt) {
+    if (!placement.left) return halfInWholePoints(slide.width - shapeWidthPt);
+    return slide.width * std::clamp(*placement.left, 0.0, 1 - smallestShare);
 }
 
-double widthOf(const session::Placement& placement, const SlideSize& slide) {
-    return slide.widthPt * std::clamp(placement.width.value_or(defaultShare), smallestShare, 1.0);
+double widthOf(const session::Placement& placement, const office::Size& slide) {
+    return slide.width * std::clamp(placement.width.value_or(defaultShare), smallestShare, 1.0);
 }
 
 /// What can't be read is left to the program's choice.
@@ -74,14 +70,14 @@ session::Placement placementOf(OfficeSession& session) {
 /// `shape` keeps its proportions while it is moved: each change of a width or a height changes the
 /// other one too, so both are read back after it.
 void moveShape(const Object& shape, double topPt, const session::Placement& placement,
-               const SlideSize& slide) {
+               const office::Size& slide) {
     shape.put("LockAspectRatio", true);
     shape.put("Top", topPt);
     shape.put("Width", widthOf(placement, slide));
     double widthPt = shape.get("Width").toDouble();
 
     const double placedTopPt = shape.get("Top").toDouble();
-    const double bottomPt = slide.heightPt * bottomShare;
+    const double bottomPt = slide.height * bottomShare;
     if (placedTopPt + shape.get("Height").toDouble() > bottomPt) {
         shape.put("Height", bottomPt - placedTopPt);
         widthPt = shape.get("Width").toDouble();
@@ -91,8 +87,8 @@ void moveShape(const Object& shape, double topPt, const session::Placement& plac
     const double leftPt = leftOf(placement, slide, widthPt);
     shape.put("Left", leftPt);
     const double placedLeftPt = shape.get("Left").toDouble();
-    if (placedLeftPt + shape.get("Width").toDouble() > slide.widthPt) {
-        shape.put("Width", slide.widthPt - placedLeftPt);
+    if (placedLeftPt + shape.get("Width").toDouble() > slide.width) {
+        shape.put("Width", slide.width - placedLeftPt);
         shape.put("Left", leftPt);
     }
 }
@@ -101,10 +97,10 @@ void moveShape(const Object& shape, double topPt, const session::Placement& plac
 
 void FitPictureToSlide(const Object& picture, const Object& presentation) {
     picture.put("LockAspectRatio", false);
-    const SlideSize slide = slideSizeOf(presentation);
+    const office::Size slide = slideSizeOf(presentation);
     // Compared in single precision, so that a picture exactly as wide as the limit is left alone.
-    const auto maxWidth = static_cast<float>(slide.widthPt * defaultShare);
-    const auto maxHeight = static_cast<float>(slide.heightPt * defaultShare);
+    const auto maxWidth = static_cast<float>(slide.width * defaultShare);
+    const auto maxHeight = static_cast<float>(slide.height * defaultShare);
 
     double widthPt = picture.get("Width").toDouble();
     if (static_cast<float>(widthPt) > maxWidth) {
@@ -116,15 +112,15 @@ void FitPictureToSlide(const Object& picture, const Object& presentation) {
         picture.put("Height", static_cast<double>(maxHeight));
         heightPt = picture.get("Height").toDouble();
     }
-    picture.put("Left", (slide.widthPt - widthPt) / 2);
-    picture.put("Top", (slide.heightPt - heightPt) / 2);
+    picture.put("Left", (slide.width - widthPt) / 2);
+    picture.put("Top", (slide.height - heightPt) / 2);
 }
 
 void PlaceLastShape(OfficeSession& session, const Object& shapes, TitlePlace& title) {
     if (!session::SheetExists(session, session::store::sheetName)) return;
     {
         const session::PowerPointWindowLockScope lock(session);
-        const SlideSize slide = slideSizeOf(session.SessionPresentation);
+        const office::Size slide = slideSizeOf(session.SessionPresentation);
         const session::Placement placement = placementOf(session);
         office::ContinueOnFailure().attempt([&] { readTitle(shapes, title); });
         moveShape(shapes.get("Item", shapes.get("Count").toLong()).toObject(),
@@ -136,13 +132,13 @@ void PlaceLastShape(OfficeSession& session, const Object& shapes, TitlePlace& ti
 std::optional<office::RoomForTable> RoomForLastShape(OfficeSession& session, const Object& shapes,
                                                      TitlePlace title) {
     if (!session::SheetExists(session, session::store::sheetName)) return std::nullopt;
-    const SlideSize slide = slideSizeOf(session.SessionPresentation);
+    const office::Size slide = slideSizeOf(session.SessionPresentation);
     const session::Placement placement = placementOf(session);
     office::ContinueOnFailure().attempt([&] { readTitle(shapes, title); });
     const double widthPt = widthOf(placement, slide);
     const double leftPt = leftOf(placement, slide, widthPt);
-    return office::RoomForTable{std::min(widthPt, slide.widthPt - leftPt),
-                                slide.heightPt * bottomShare - topOf(placement, title, slide)};
+    return office::RoomForTable{std::min(widthPt, slide.width - leftPt),
+                                slide.height * bottomShare - topOf(placement, title, slide)};
 }
 
 void AddSourceLine(OfficeSession& session, const Object& shapes) {
@@ -151,7 +147,7 @@ void AddSourceLine(OfficeSession& session, const Object& shapes) {
     constexpr double lowestPt = 518;
     constexpr double lineHeightPt = 22;
     const double topPt =
-        std::min(lowestPt, slideSizeOf(session.SessionPresentation).heightPt - lineHeightPt);
+        std::min(lowestPt, slideSizeOf(session.SessionPresentation).height - lineHeightPt);
     const Object frame =
         shapes.call("AddLabel", 1, 20.25, topPt, 8.5, 28.875).get("TextFrame").toObject();
     // Without wrapping the label grows from its narrow start to the length of the path.

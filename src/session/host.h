@@ -6,17 +6,9 @@
 #include <string_view>
 #include <vector>
 
+#include "office/size.h"
+
 namespace session {
-
-struct TextSize {
-    double widthPt = 0;
-    double heightPt = 0;
-};
-
-struct TextFont {
-    std::string name;
-    double sizePt = 0;
-};
 
 /// The clock on the wall, in the user's time zone. Months and days count from 1.
 struct LocalTime {
@@ -112,8 +104,8 @@ public:
 
     /// How much room a text takes in the fonts of this machine, or in what stands in for the one
     /// that isn't there. Lines end at line feeds, and at the width if there is one.
-    [[nodiscard]] virtual TextSize textSize(std::string_view text, const TextFont& font,
-                                            std::optional<double> widthPt) = 0;
+    [[nodiscard]] virtual office::Size textSize(std::string_view text, const office::Font& font,
+                                                std::optional<double> widthPt) = 0;
 
     /// Opens an address of the web or of a file with the user's browser. Failures are silent.
     virtual void openLink(std::string_view address) = 0;

@@ -30,9 +30,8 @@ public:
 };
 
 /// The size of a text: characters half as wide as they are high, in one line.
-inline office::model::powerpoint::Size measureOfDouble(const std::string& words,
-                                                       const office::model::powerpoint::Font& font,
-                                                       std::optional<double>) {
+inline office::Size measureOfDouble(const std::string& words, const office::Font& font,
+                                    std::optional<double>) {
     return {static_cast<double>(words.size()) * font.sizePt / 2, font.sizePt};
 }
 

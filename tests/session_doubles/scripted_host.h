@@ -179,8 +179,8 @@ public:
     }
 
     /// Letters as wide as half their height.
-    [[nodiscard]] session::TextSize textSize(std::string_view text, const session::TextFont& font,
-                                             std::optional<double> widthPt) override {
+    [[nodiscard]] office::Size textSize(std::string_view text, const office::Font& font,
+                                        std::optional<double> widthPt) override {
         const double inOneLine = static_cast<double>(text.size()) * font.sizePt * 0.5;
         return {widthPt.value_or(inOneLine), font.sizePt * 1.2};
     }

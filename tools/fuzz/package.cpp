@@ -121,8 +121,8 @@ void change(const std::string& file) {
 void addToDeck(const std::string& file) {
     static_cast<void>(factsOf(file));
     const auto powerPoint =
-        powerPointOfFiles({[](const std::string&, const model::Font&, std::optional<double>) {
-                               return model::Size{100, 20};
+        powerPointOfFiles({[](const std::string&, const office::Font&, std::optional<double>) {
+                               return office::Size{100, 20};
                            },
                            {}});
     const auto deck = powerPoint.get("Presentations").call("Open", file).toObject();

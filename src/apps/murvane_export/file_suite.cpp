@@ -20,11 +20,8 @@ constexpr std::string_view powerPoint = "PowerPoint.Application";
 constexpr std::string_view word = "Word.Application";
 
 package::MeasureText measureWith(session::Host& host) {
-    return [&host](const std::string& words, const package::model::Font& font,
-                   std::optional<double> widthPt) -> package::model::Size {
-        const session::TextSize size = host.textSize(words, {font.name, font.sizePt}, widthPt);
-        return {size.widthPt, size.heightPt};
-    };
+    return [&host](const std::string& words, const office::Font& font,
+                   std::optional<double> widthPt) { return host.textSize(words, font, widthPt); };
 }
 
 package::FileRules rulesOf(office::Suite& below, session::Host& host, const Options& options,

@@ -7,17 +7,16 @@
 #include <string>
 
 #include "office/copied.h"
-#include "office/model/powerpoint/deck.h"
 #include "office/package/workbook/workbook_file.h"
 #include "office/picture.h"
+#include "office/size.h"
 
 namespace office::package {
 
 /// The size of a text as it is drawn in one line after another, lines broken at the width if there
 /// is one. In points.
-using MeasureText = std::function<office::model::powerpoint::Size(
-    const std::string& words, const office::model::powerpoint::Font& font,
-    std::optional<double> widthPt)>;
+using MeasureText =
+    std::function<Size(const std::string& words, const Font& font, std::optional<double> widthPt)>;
 
 /// What a PowerPoint or a Word of files works with.
 struct FileRules {

@@ -152,7 +152,7 @@ protected:
     office::ClipboardPtr clipboard = std::make_shared<office::Clipboard>();
     Object app = powerPointOfFiles({.measure = {}, .clipboard = clipboard});
     Object deck = app.get("Presentations").call("Add").toObject();
-    Object slide = deck.get("Slides").call("Add", 1, model::layout::titleOnly).toObject();
+    Object slide = deck.get("Slides").call("Add", 1, powerpoint::layout::titleOnly).toObject();
 
 private:
     int count_ = 0;

@@ -80,8 +80,7 @@ protected:
     support::TemporaryFolder folder;
     std::shared_ptr<FileDocuments> documents =
         std::make_shared<FileDocuments>(std::make_shared<FileRules>(FileRules{
-            .measure = [](const std::string& words, const auto& font,
-                          auto) -> office::model::powerpoint::Size {
+            .measure = [](const std::string& words, const auto& font, auto) -> office::Size {
                 return {static_cast<double>(words.size()) * font.sizePt / 2, font.sizePt * 1.25};
             },
             .clipboard = nullptr}));

@@ -33,8 +33,8 @@ protected:
 
     Object openDeck(bool sheetAlone = false, const std::string& linkBase = {}) {
         app = powerPointOfFiles({.measure =
-                                     [](const std::string&, const model::Font&, auto) {
-                                         return model::Size{100, 20};
+                                     [](const std::string&, const office::Font&, auto) {
+                                         return office::Size{100, 20};
                                      },
                                  .clipboard = clipboard,
                                  .embedsSheetAlone = sheetAlone,
@@ -42,7 +42,7 @@ protected:
         const std::string file = folder.file(std::to_string(++files_) + ".pptx");
         support::emptyDeck().save(file);
         Object deck = app.get("Presentations").call("Open", file).toObject();
-        deck.get("Slides").call("Add", 1, model::layout::titleOnly);
+        deck.get("Slides").call("Add", 1, powerpoint::layout::titleOnly);
         return deck;
     }
     Object paste(const Object& deck, const CopySource& source, bool isLink = false) {

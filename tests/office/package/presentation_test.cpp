@@ -62,7 +62,7 @@ protected:
         return saved(deck);
     }
     static void addSlide(const Object& deck, int place, const std::string& title) {
-        deck.get("Slides").call("Add", place, model::layout::titleOnly);
+        deck.get("Slides").call("Add", place, powerpoint::layout::titleOnly);
         titleOf(deck, place).put("Text", title);
     }
     Object addPicture(const Object& deck, int slide) {
@@ -78,8 +78,8 @@ protected:
     }
 
     support::TemporaryFolder folder;
-    Object app = powerPointOfFiles({[](const std::string&, const model::Font&, auto) {
-                                        return model::Size{100, 20};
+    Object app = powerPointOfFiles({[](const std::string&, const office::Font&, auto) {
+                                        return office::Size{100, 20};
                                     },
                                     {}});
 
@@ -167,9 +167,9 @@ TEST_F(PresentationFile, ShrinksATitleThatIsHigherThanItsFrame) {
         {std::string(900, 'x'), shrinks, lines, R"(<a:normAutofit fontScale="30000"/>)"},
     };
     app = powerPointOfFiles(
-        {[](const std::string& words, const model::Font& font, auto width) {
+        {[](const std::string& words, const office::Font& font, auto width) {
              const double length = static_cast<double>(words.size()) * font.sizePt / 2;
-             return model::Size{length, std::ceil(length / *width) * font.sizePt * 1.25};
+             return office::Size{length, std::ceil(length / *width) * font.sizePt * 1.25};
          },
          {}});
     for (const auto& row : rows) {
@@ -209,8 +209,8 @@ TEST_F(PresentationFile, ChangesTheLayoutOfASlideThatHasMoreThanThat) {
     const Object deck = open(deckOf(1));
     addPicture(deck, 1);
     const Value slide = deck.get("Slides").get("Item", 1);
-    slide.put("Layout", model::layout::blank);
-    EXPECT_EQ(slide.get("Layout").toLong(), model::layout::blank);
+    slide.put("Layout", powerpoint::layout::blank);
+    EXPECT_EQ(slide.get("Layout").toLong(), powerpoint::layout::blank);
     Package package = saved(deck);
     EXPECT_EQ(package.relationshipsOf(firstSlide).all().size(), 2U);
     EXPECT_NE(package.relationshipsOf(firstSlide).ofType("image"), nullptr);

@@ -86,8 +86,8 @@ protected:
     office::ClipboardPtr clipboard = std::make_shared<office::Clipboard>();
     /// Each character is half as wide as its font is high, each line a quarter higher.
     Object app = powerPointOfFiles(
-        {.measure = [](const std::string& words, const model::Font& font,
-                       std::optional<double> widthPt) -> model::Size {
+        {.measure = [](const std::string& words, const office::Font& font,
+                       std::optional<double> widthPt) -> office::Size {
              const double wide = static_cast<double>(words.size()) * font.sizePt / 2;
              const double lines = (widthPt ? std::ceil(wide / *widthPt) : 1) +
                                   static_cast<double>(std::count(words.begin(), words.end(), '\n'));
@@ -95,7 +95,7 @@ protected:
          },
          .clipboard = clipboard});
     Object deck = app.get("Presentations").call("Add").toObject();
-    Object slide = deck.get("Slides").call("Add", 1, model::layout::titleOnly).toObject();
+    Object slide = deck.get("Slides").call("Add", 1, powerpoint::layout::titleOnly).toObject();
     pugi::xml_node frame;
 
 private:

@@ -114,7 +114,7 @@ void ImpressDeck::requireWritable(const char* member) {
         office::refuse(member, fmt::format("\"{}\" is opened for reading only", name()));
 }
 
-model::Size ImpressDeck::slideSize() {
+office::Size ImpressDeck::slideSize() {
     const css::awt::Size size = sizeOf(pageAt(1)->properties());
     return {pointsOf(size.Width), pointsOf(size.Height)};
 }

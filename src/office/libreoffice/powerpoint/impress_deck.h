@@ -57,7 +57,7 @@ public:
     std::string fullName() override { return Document::fullName(); }
     bool isReadOnly() override;
     /// All slides have the size of the first one.
-    model::Size slideSize() override;
+    office::Size slideSize() override;
     std::int32_t slideCount() override;
     model::DeckSlidePtr slideAt(std::int32_t place) override;
     model::DeckSlidePtr addSlide(std::int32_t place, std::int32_t layout) override;

@@ -115,12 +115,12 @@ void ImpressShape::moveTo(const model::Point& corner) {
     shape_->setPosition({hundredthMmOf(corner.left), hundredthMmOf(corner.top)});
 }
 
-model::Size ImpressShape::size() {
+office::Size ImpressShape::size() {
     const css::awt::Size size = shape_->getSize();
     return {pointsOf(size.Width), pointsOf(size.Height)};
 }
 
-void ImpressShape::resize(const model::Size& size) {
+void ImpressShape::resize(const office::Size& size) {
     shape_->setSize({hundredthMmOf(size.width), hundredthMmOf(size.height)});
 }
 
@@ -156,7 +156,7 @@ void ImpressShape::setWraps(bool wraps) {
     });
 }
 
-model::Font ImpressShape::font() {
+office::Font ImpressShape::font() {
     const auto values = get({"CharColor", "CharFontName", "CharHeight"});
     sal_Int32 colour = 0;
     rtl::OUString name;

@@ -52,8 +52,8 @@ public:
     void setAlternativeText(const std::string& text) override;
     model::Point corner() override;
     void moveTo(const model::Point& corner) override;
-    model::Size size() override;
-    void resize(const model::Size& size) override;
+    office::Size size() override;
+    void resize(const office::Size& size) override;
     bool keepsProportions() override;
     /// Kept here: nothing in LibreOffice answers to it.
     void setKeepsProportions(bool keeps) override { keepsProportions_ = keeps; }
@@ -72,7 +72,7 @@ private:
     void setWords(const std::string& words) override;
     bool wraps() override;
     void setWraps(bool wraps) override;
-    model::Font font() override;
+    office::Font font() override;
     void setFont(const model::FontChange& change) override;
 
     [[nodiscard]] const uno::Reference<css::beans::XPropertySet>& properties();

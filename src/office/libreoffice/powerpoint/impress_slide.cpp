@@ -128,7 +128,7 @@ model::DeckShapePtr ImpressSlide::addPicture(const std::string& file, const mode
     return shape;
 }
 
-ImpressShapePtr ImpressSlide::addPicture(const office::Picture& picture, const model::Size& size,
+ImpressShapePtr ImpressSlide::addPicture(const office::Picture& picture, const office::Size& size,
                                          const model::Point& corner) {
     const std::string name = freshName("Picture");
     auto shape = add("com.sun.star.drawing.GraphicObjectShape");
@@ -140,7 +140,7 @@ ImpressShapePtr ImpressSlide::addPicture(const office::Picture& picture, const m
     return shape;
 }
 
-model::DeckShapePtr ImpressSlide::addLabel(const model::Point& corner, const model::Size& size) {
+model::DeckShapePtr ImpressSlide::addLabel(const model::Point& corner, const office::Size& size) {
     const std::string name = freshName("TextBox");
     auto shape = add("com.sun.star.drawing.TextShape");
     shape->set({{"Name", uno::Any(toUno(name))},

@@ -46,7 +46,7 @@ public:
     model::DeckShapePtr shapeAt(std::int32_t place) override { return at(place); }
     model::DeckShapePtr titleShape() override { return title(); }
     model::DeckShapePtr addPicture(const std::string& file, const model::Point& corner) override;
-    model::DeckShapePtr addLabel(const model::Point& corner, const model::Size& size) override;
+    model::DeckShapePtr addLabel(const model::Point& corner, const office::Size& size) override;
     model::DeckShapePtr paste(const office::Copied& copied, office::PasteAs as) override;
     void remove() override;
 
@@ -54,7 +54,7 @@ private:
     [[nodiscard]] ImpressShapePtr at(std::int32_t place);
     [[nodiscard]] ImpressShapePtr add(const char* service);
     [[nodiscard]] ImpressShapePtr addPicture(const office::Picture& picture,
-                                             const model::Size& size, const model::Point& corner);
+                                             const office::Size& size, const model::Point& corner);
     /// Names and places what was put on the slide.
     [[nodiscard]] ImpressShapePtr pasted(const uno::Reference<css::drawing::XShape>& reference,
                                          std::string_view kind, const model::Point& corner);

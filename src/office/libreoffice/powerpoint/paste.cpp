@@ -19,7 +19,7 @@ namespace {
 using office::CopySource;
 using office::PasteAs;
 
-css::awt::Size onPaper(const model::Size& size) {
+css::awt::Size onPaper(const office::Size& size) {
     return {hundredthMmOf(size.width), hundredthMmOf(size.height)};
 }
 

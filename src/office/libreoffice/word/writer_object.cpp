@@ -71,20 +71,20 @@ void WriterObject::noteSize(const css::awt::Size& size) {
     size_ = {pointsOf(inWholeTwips(size.Width)), pointsOf(inWholeTwips(size.Height))};
 }
 
-model::ObjectSize WriterObject::size() {
+office::Size WriterObject::size() {
     if (size_) return *size_;
     const auto shown = property<css::awt::Size>(properties_, "Size");
-    const model::ObjectSize size{pointsOf(shown.Width), pointsOf(shown.Height)};
+    const office::Size size{pointsOf(shown.Width), pointsOf(shown.Height)};
     if (document_.isUnseen()) size_ = size;
     return size;
 }
 
-void WriterObject::setSize(const model::ObjectSize& size) {
+void WriterObject::setSize(const office::Size& size) {
     setProperty(properties_, "Size",
                 css::awt::Size(hundredthMmOf(size.width), hundredthMmOf(size.height)));
 }
 
-void WriterObject::resize(const model::ObjectSize& size) {
+void WriterObject::resize(const office::Size& size) {
     if (!document_.isUnseen()) return setSize(size);
     size_ = size;
     isResized_ = true;

@@ -38,8 +38,8 @@ public:
     void finishResizing();
 
     [[nodiscard]] bool isGone() const override;
-    model::ObjectSize size() override;
-    void resize(const model::ObjectSize& size) override;
+    office::Size size() override;
+    void resize(const office::Size& size) override;
     std::string alternativeText() override;
     void setAlternativeText(const std::string& text) override;
     /// Its size and its blur are kept here: LibreOffice has neither of them.
@@ -49,7 +49,7 @@ public:
     void select() override;
 
 private:
-    void setSize(const model::ObjectSize& size);
+    void setSize(const office::Size& size);
 
     ContentRef content_;
     rtl::OUString name_;
@@ -59,7 +59,7 @@ private:
     model::ObjectShadow shadow_;
     /// As it was made, asked for or set last, in a document that nobody sees and nobody else
     /// changes.
-    std::optional<model::ObjectSize> size_;
+    std::optional<office::Size> size_;
     /// Whether that is still to be set there.
     bool isResized_ = false;
 };

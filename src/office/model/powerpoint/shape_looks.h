@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "office/size.h"
+
 /// What the shapes of a slide look like. Colours are 0xBBGGRR, as the object models write them.
 namespace office::model::powerpoint {
 
@@ -11,12 +13,6 @@ namespace office::model::powerpoint {
 struct Point {
     double left = 0;
     double top = 0;
-};
-
-/// In points.
-struct Size {
-    double width = 0;
-    double height = 0;
 };
 
 /// The outlines that matter here, by PowerPoint's numbers.
@@ -37,12 +33,6 @@ struct Reflection {
     double offsetPt = 0;
     /// How much of the shape is mirrored; 0 is no reflection.
     double sizePercent = 0;
-};
-
-struct Font {
-    std::string name;
-    double sizePt = 0;
-    std::int32_t colour = 0;
 };
 
 /// What changes of a font; the rest stays.

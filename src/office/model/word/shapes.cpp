@@ -94,18 +94,18 @@ public:
 
     static MemberTable<Self> table(const char* className) {
         MemberTable<Self> made(className);
-        const auto side = [&](const char* name, double ObjectSize::*which) {
+        const auto side = [&](const char* name, double Size::*which) {
             made.property(
                 name, [which](Self& self) { return self.object().size().*which; },
                 [which, source = fmt::format("{}.{}", className, name)](Self& self,
                                                                         const Value& points) {
-                    ObjectSize size = self.object().size();
+                    Size size = self.object().size();
                     size.*which = lengthPt(points, source);
                     self.object().resize(size);
                 });
         };
-        side("Width", &ObjectSize::width);
-        side("Height", &ObjectSize::height);
+        side("Width", &Size::width);
+        side("Height", &Size::height);
         made.property(
             "AlternativeText", [](Self& self) { return self.object().alternativeText(); },
             [](Self& self, const Value& text) { self.object().setAlternativeText(text.toText()); });

@@ -8,6 +8,7 @@
 
 #include "office/copied.h"
 #include "office/model/part.h"
+#include "office/size.h"
 
 /// What the object model of Word asks of what lies below: a suite, or a file. Places count from 1,
 /// lengths are points.
@@ -48,11 +49,6 @@ struct ParagraphChange {
 /// How an object stands in a document: in a line like a letter, or over the text.
 enum class Anchoring { Inline, Floating };
 
-struct ObjectSize {
-    double width = 0;
-    double height = 0;
-};
-
 /// A shadow that falls down and to the right.
 struct ObjectShadow {
     bool isShown = false;
@@ -68,9 +64,9 @@ struct ObjectShadow {
 class TextObject : public Part {
 public:
     [[nodiscard]] virtual Anchoring anchoring() const = 0;
-    virtual ObjectSize size() = 0;
+    virtual Size size() = 0;
     /// Both sides are above 0. Proportions are the caller's concern.
-    virtual void resize(const ObjectSize& size) = 0;
+    virtual void resize(const Size& size) = 0;
     virtual std::string alternativeText() = 0;
     virtual void setAlternativeText(const std::string& text) = 0;
     virtual ObjectShadow shadow() = 0;

@@ -28,7 +28,7 @@ constexpr const char* pictureShapeType =
 }  // namespace
 
 std::string drawingRun(word::Anchoring anchoring, unsigned id, std::string_view name,
-                       const word::ObjectSize& size, const std::string& graphic) {
+                       const Size& size, const std::string& graphic) {
     const std::string content =
         fmt::format(R"(<wp:docPr id="{}" name="{}"/><wp:cNvGraphicFramePr><a:graphicFrameLocks )"
                     R"(noChangeAspect="1"/></wp:cNvGraphicFramePr>{})",
@@ -50,7 +50,7 @@ std::string drawingRun(word::Anchoring anchoring, unsigned id, std::string_view 
         gap, id, sides, content);
 }
 
-std::string pictureGraphic(unsigned id, std::string_view name, const word::ObjectSize& size,
+std::string pictureGraphic(unsigned id, std::string_view name, const Size& size,
                            const std::string& blip) {
     return fmt::format(
         R"(<a:graphic><a:graphicData uri="{}"><pic:pic><pic:nvPicPr><pic:cNvPr id="{}" name="{}"/>)"

@@ -9,12 +9,10 @@ namespace office::package {
 
 /// A run (w:r) with a drawing around `graphic`, which is a:graphic. `id` is unique in the document.
 [[nodiscard]] std::string drawingRun(office::model::word::Anchoring anchoring, unsigned id,
-                                     std::string_view name,
-                                     const office::model::word::ObjectSize& size,
+                                     std::string_view name, const Size& size,
                                      const std::string& graphic);
 /// The graphic of a picture. `blip` is a:blip, which leads to its part.
-[[nodiscard]] std::string pictureGraphic(unsigned id, std::string_view name,
-                                         const office::model::word::ObjectSize& size,
+[[nodiscard]] std::string pictureGraphic(unsigned id, std::string_view name, const Size& size,
                                          const std::string& blip);
 
 /// The graphic of a chart in a part of its own.
@@ -24,7 +22,7 @@ namespace office::package {
 struct ObjectMarkup {
     /// Unique among drawings and objects of the document.
     unsigned id = 0;
-    office::model::word::ObjectSize size;
+    Size size;
     /// The relationships of its picture and of its workbook.
     std::string preview;
     std::string workbook;

@@ -38,7 +38,7 @@ pugi::xml_node looksIn(pugi::xml_node drawing) {
     });
 }
 
-void setSides(pugi::xml_node extent, const word::ObjectSize& size) {
+void setSides(pugi::xml_node extent, const Size& size) {
     attributeFor(extent, "cx").set_value(emuOf(size.width));
     attributeFor(extent, "cy").set_value(emuOf(size.height));
 }
@@ -77,14 +77,14 @@ FileObject::FileObject(FileDocument& document, pugi::xml_node element)
                      ? word::Anchoring::Floating
                      : word::Anchoring::Inline) {}
 
-word::ObjectSize FileObject::size() {
+Size FileObject::size() {
     if (const auto shape = vmlShapeIn(element_)) return sizeOf(shape);
     const auto extent = childNamed(element_, ns::wordDrawing, "extent");
     return {extent.attribute("cx").as_double() / emuPerPoint,
             extent.attribute("cy").as_double() / emuPerPoint};
 }
 
-void FileObject::resize(const word::ObjectSize& size) {
+void FileObject::resize(const Size& size) {
     document_.touch();
     if (const auto shape = vmlShapeIn(element_)) return package::resize(shape, size);
     const auto extent = childNamed(element_, ns::wordDrawing, "extent");

@@ -24,8 +24,8 @@ public:
     void markGone() { isGone_ = true; }
 
     [[nodiscard]] bool isGone() const override { return isGone_; }
-    word::ObjectSize size() override;
-    void resize(const word::ObjectSize& size) override;
+    Size size() override;
+    void resize(const Size& size) override;
     std::string alternativeText() override;
     void setAlternativeText(const std::string& text) override;
     word::ObjectShadow shadow() override;

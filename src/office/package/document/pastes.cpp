@@ -20,12 +20,12 @@ constexpr const char* pasteSpecial = "Selection.PasteSpecial";
 
 struct Media {
     std::string relationship;
-    word::ObjectSize size;
+    Size size;
 };
 
 /// A picture as a part of the document.
 Media addMedia(FileDocument& document, PictureFile picture) {
-    const word::ObjectSize size{picture.size.width, picture.size.height};
+    const Size size = picture.size;
     Package& package = document.package();
     const std::string part =
         addPicturePart(package, document.stem("media/image"), std::move(picture));
@@ -33,7 +33,7 @@ Media addMedia(FileDocument& document, PictureFile picture) {
 }
 
 void insertPicture(FileDocument& document, PictureFile picture, word::Anchoring anchoring) {
-    const word::ObjectSize size{picture.size.width, picture.size.height};
+    const Size size = picture.size;
     const std::string blip = addBlip(document.package(), document.mainPart(),
                                      document.stem("media/image"), std::move(picture));
     const unsigned id = document.freeDrawingId();

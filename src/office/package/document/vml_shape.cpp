@@ -87,13 +87,13 @@ bool floats(pugi::xml_node vmlShape) {
     return vmlShape.attribute("style") && VmlStyle(vmlShape).at("position") == "absolute";
 }
 
-office::model::word::ObjectSize sizeOf(pugi::xml_node vmlShape) {
+Size sizeOf(pugi::xml_node vmlShape) {
     if (!vmlShape.attribute("style")) return {};
     const VmlStyle style(vmlShape);
     return {pointsIn(style.at("width")), pointsIn(style.at("height"))};
 }
 
-void resize(pugi::xml_node vmlShape, const office::model::word::ObjectSize& size) {
+void resize(pugi::xml_node vmlShape, const Size& size) {
     VmlStyle style(vmlShape);
     style.set("width", inPoints(size.width));
     style.set("height", inPoints(size.height));

@@ -12,8 +12,8 @@ namespace office::package {
 /// The shape in a w:object or a w:pict; null if there is none.
 [[nodiscard]] pugi::xml_node vmlShapeIn(pugi::xml_node holder);
 [[nodiscard]] bool floats(pugi::xml_node vmlShape);
-[[nodiscard]] office::model::word::ObjectSize sizeOf(pugi::xml_node vmlShape);
-void resize(pugi::xml_node vmlShape, const office::model::word::ObjectSize& size);
+[[nodiscard]] Size sizeOf(pugi::xml_node vmlShape);
+void resize(pugi::xml_node vmlShape, const Size& size);
 /// Of one over the text: from the left edge of the text area, in points.
 void setLeft(pugi::xml_node vmlShape, double left);
 

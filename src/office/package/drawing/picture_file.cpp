@@ -42,7 +42,7 @@ double inPoints(std::uint32_t pixels, double pixelsPerInch) {
 }
 
 /// A file of chunks: length, name, content, checksum. The first one says the size in pixels.
-office::model::powerpoint::Size sizeOfPng(std::string_view bytes) {
+Size sizeOfPng(std::string_view bytes) {
     constexpr std::size_t firstChunk = 8;
     constexpr std::size_t chunkFrame = 12;
     double horizontal = plainPixelsPerInch;
@@ -61,18 +61,18 @@ office::model::powerpoint::Size sizeOfPng(std::string_view bytes) {
             inPoints(numberAt(bytes, firstChunk + 12), vertical)};
 }
 
-PictureFile pngFile(Picture picture, const office::model::powerpoint::Size& size) {
+PictureFile pngFile(Picture picture, const Size& size) {
     return {std::move(picture.png), {}, std::move(picture.look), ".png", "image/png", size};
 }
 
 PictureFile pngFile(Picture picture) {
-    const office::model::powerpoint::Size size{rounded(picture.widthPt), rounded(picture.heightPt)};
+    const Size size{rounded(picture.widthPt), rounded(picture.heightPt)};
     return pngFile(std::move(picture), size);
 }
 
 /// An EMF as it is; an SVG with a picture for programs that don't read it.
 PictureFile vectorPicture(VectorFile vectors, PictureFiles* pictures) {
-    const office::model::powerpoint::Size size{vectors.widthPt, vectors.heightPt};
+    const Size size{vectors.widthPt, vectors.heightPt};
     if (vectors.kind == PictureKind::Emf) {
         Picture emf = finishedPicture(size.width, size.height, std::move(vectors.bytes));
         return {std::move(emf.png), {}, {}, ".emf", "image/x-emf", size};
@@ -96,7 +96,7 @@ PictureFile readPicture(const std::string& file, PictureFiles* pictures) {
     if (looksLikeVectors(bytes))
         return vectorPicture(vectorFileOf(std::move(bytes), file), pictures);
     constexpr std::size_t headSize = 33;
-    office::model::powerpoint::Size size;
+    Size size;
     if (bytes.size() >= headSize && bytes.starts_with(signature)) size = sizeOfPng(bytes);
     if (!(size.width > 0 && size.height > 0)) refuse(source, file + " holds no PNG picture");
     return pngFile(finishedPicture(size.width, size.height, std::move(bytes)), size);

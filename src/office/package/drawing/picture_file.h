@@ -5,9 +5,9 @@
 #include <string_view>
 
 #include "office/copied.h"
-#include "office/model/powerpoint/shape_looks.h"
 #include "office/package/package.h"
 #include "office/picture.h"
+#include "office/size.h"
 
 namespace office::package {
 
@@ -21,7 +21,7 @@ struct PictureFile {
     std::string ending;
     std::string contentType;
     /// In points, as the file's density says; 96 pixels to the inch where it says none.
-    office::model::powerpoint::Size size;
+    Size size;
 };
 
 /// The file itself, or the picture that is on its way to it. `Failure` 53 if there is neither, 1004

@@ -20,16 +20,16 @@ FileFacts factsOf(const std::filesystem::path& file) {
     // What is wrong with its slides, layouts and masters shows in a deck that is then dropped.
     const auto deck =
         std::make_shared<FileDeck>(std::move(package), "", "", std::make_shared<FileRules>());
-    static_cast<void>(deck->addSlide(1, model::layout::titleOnly));
+    static_cast<void>(deck->addSlide(1, powerpoint::layout::titleOnly));
     return facts;
 }
 
-model::DeckPtr FileDecks::create(bool /*withWindow*/) {
+powerpoint::DeckPtr FileDecks::create(bool /*withWindow*/) {
     return addNew(emptyDeck(), "Presentation");
 }
 
 Object powerPointOfFiles(FileRules rules) {
-    return model::applicationObject(
+    return powerpoint::applicationObject(
         std::make_shared<PackageGuard>(),
         std::make_shared<FileDecks>(std::make_shared<const FileRules>(std::move(rules))));
 }

@@ -12,7 +12,7 @@
 /// all else is written again as it was.
 namespace office::package {
 
-namespace model = office::model::powerpoint;
+namespace powerpoint = model::powerpoint;
 
 /// `PackageError`: NotAPackage too for a package that is no presentation.
 [[nodiscard]] FileFacts factsOf(const std::filesystem::path& file);

@@ -21,9 +21,9 @@ struct LayoutKind {
 
 /// The first three are given to slides, the others only read.
 constexpr std::array<LayoutKind, 6> kinds = {{
-    {model::layout::title, "title", "Title Slide"},
-    {model::layout::titleOnly, "titleOnly", "Title Only"},
-    {model::layout::blank, "blank", "Blank"},
+    {powerpoint::layout::title, "title", "Title Slide"},
+    {powerpoint::layout::titleOnly, "titleOnly", "Title Only"},
+    {powerpoint::layout::blank, "blank", "Blank"},
     {2, "tx", ""},
     {16, "obj", ""},
     {29, "twoObj", ""},
@@ -47,11 +47,12 @@ std::size_t titlesIn(const std::vector<Placeholder>& content) {
 std::size_t misfit(std::int32_t number, const std::vector<Placeholder>& content) {
     const std::size_t titles = titlesIn(content);
     const std::size_t others = content.size() - titles;
-    if (number == model::layout::blank) return content.size();
+    if (number == powerpoint::layout::blank) return content.size();
     const bool isTitleSlide =
         titles > 0 &&
         std::any_of(content.begin(), content.end(), [](auto& p) { return p.type == "ctrTitle"; });
-    if (number == model::layout::title) return isTitleSlide ? 0 : 1 + (titles == 0 ? 100 : others);
+    if (number == powerpoint::layout::title)
+        return isTitleSlide ? 0 : 1 + (titles == 0 ? 100 : others);
     return (titles == 0 ? 100 : 0) + others;
 }
 
@@ -124,7 +125,7 @@ std::string DeckLayouts::find(std::int32_t number, const std::string& neighbour)
     };
     // What is a title layout by its kind may have lost its title.
     const auto suits = [&](const std::string& layout) {
-        return number == model::layout::blank || titlesIn(contentOf(layout)) > 0;
+        return number == powerpoint::layout::blank || titlesIn(contentOf(layout)) > 0;
     };
     auto chosen = where([&](const std::string& layout) {
         return page(layout).root().attribute("type").value() == std::string_view(kind.type) &&
@@ -154,10 +155,10 @@ std::int32_t DeckLayouts::numberOf(const std::string& layout) {
 std::vector<Placeholder> DeckLayouts::placeholdersFor(std::int32_t number,
                                                       const std::string& layout) {
     std::vector<Placeholder> wanted;
-    if (number == model::layout::blank) return wanted;
+    if (number == powerpoint::layout::blank) return wanted;
     for (const Placeholder& placeholder : contentOf(layout)) {
         const bool isSubtitle = placeholder.type == "subTitle";
-        if (placeholder.isTitle() || (number == model::layout::title && isSubtitle))
+        if (placeholder.isTitle() || (number == powerpoint::layout::title && isSubtitle))
             wanted.push_back(placeholder);
     }
     if (titlesIn(wanted) == 0) wanted.push_back({"title", "0"});

@@ -13,7 +13,7 @@
 
 namespace office::package {
 
-namespace model = office::model::powerpoint;
+namespace powerpoint = model::powerpoint;
 
 /// A placeholder as its shape names it: what it is for, and which of several.
 struct Placeholder {

@@ -138,7 +138,7 @@ std::string FileDeck::embeddingStem() const {
     return folderOf(main_) + "/embeddings/Microsoft_Excel_Worksheet";
 }
 
-model::Size FileDeck::slideSize() {
+Size FileDeck::slideSize() {
     constexpr double plainWidth = 9144000;
     constexpr double plainHeight = 6858000;
     const auto size = childNamed(presentation_.root(), ns::presentation, "sldSz");
@@ -149,7 +149,7 @@ model::Size FileDeck::slideSize() {
     return {side("cx", plainWidth), side("cy", plainHeight)};
 }
 
-model::DeckSlidePtr FileDeck::slideAt(std::int32_t place) {
+powerpoint::DeckSlidePtr FileDeck::slideAt(std::int32_t place) {
     const auto index = static_cast<std::size_t>(place) - 1;
     if (index >= slides_.size()) return nullptr;
     noteUse(slides_[index]);
@@ -181,7 +181,7 @@ std::string FileDeck::neighbourLayout() {
     return layouts_.firstOf(relationships.partOf(*found));
 }
 
-model::DeckSlidePtr FileDeck::addSlide(std::int32_t place, std::int32_t layout) {
+powerpoint::DeckSlidePtr FileDeck::addSlide(std::int32_t place, std::int32_t layout) {
     if (place < 1 || place > slideCount() + 1) return nullptr;
     const FileSlidePtr neighbour = slides_.empty() ? nullptr : slides_.back();
     const std::string layoutPart = layouts_.find(layout, neighbourLayout());
@@ -292,16 +292,16 @@ void FileDeck::setViewType(std::int32_t viewType) {
     viewType_ = viewType;
 }
 
-model::DeckSlidePtr FileDeck::slideInView() {
+powerpoint::DeckSlidePtr FileDeck::slideInView() {
     if (const auto shown = inView_.lock(); shown && !shown->isGone()) return shown;
     return slideAt(1);
 }
 
-void FileDeck::show(const model::DeckSlidePtr& slide) {
+void FileDeck::show(const powerpoint::DeckSlidePtr& slide) {
     inView_ = std::dynamic_pointer_cast<FileSlide>(slide);
 }
 
-void FileDeck::select(const model::DeckShapePtr& shape) {
+void FileDeck::select(const powerpoint::DeckShapePtr& shape) {
     show(std::dynamic_pointer_cast<FileShape>(shape)->slide().shared_from_this());
 }
 

@@ -17,7 +17,7 @@
 namespace office::package {
 
 /// A presentation in a package. Its window remembers what it shows.
-class FileDeck : public OpenFile<model::Deck, FileDeck>, private model::DeckWindow {
+class FileDeck : public OpenFile<powerpoint::Deck, FileDeck>, private powerpoint::DeckWindow {
 public:
     /// `path` is empty for a deck that has no file yet. `PackageError` if the package is damaged or
     /// no presentation.
@@ -35,11 +35,11 @@ public:
     void markGone();
 
     bool isReadOnly() override { return false; }
-    model::Size slideSize() override;
+    Size slideSize() override;
     std::int32_t slideCount() override { return static_cast<std::int32_t>(slides_.size()); }
-    model::DeckSlidePtr slideAt(std::int32_t place) override;
-    model::DeckSlidePtr addSlide(std::int32_t place, std::int32_t layout) override;
-    model::DeckWindow& window() override { return *this; }
+    powerpoint::DeckSlidePtr slideAt(std::int32_t place) override;
+    powerpoint::DeckSlidePtr addSlide(std::int32_t place, std::int32_t layout) override;
+    powerpoint::DeckWindow& window() override { return *this; }
     bool showsSlides() override { return false; }
     void endSlideShow() override {}
     /// Also with the ending .pptm. A deck with macros leaves them out of a .pptx.
@@ -48,9 +48,9 @@ public:
 private:
     std::int32_t viewType() override { return viewType_; }
     void setViewType(std::int32_t viewType) override;
-    model::DeckSlidePtr slideInView() override;
-    void show(const model::DeckSlidePtr& slide) override;
-    void select(const model::DeckShapePtr& shape) override;
+    powerpoint::DeckSlidePtr slideInView() override;
+    void show(const powerpoint::DeckSlidePtr& slide) override;
+    void select(const powerpoint::DeckShapePtr& shape) override;
     void unselect() override {}
 
     void readSlides();

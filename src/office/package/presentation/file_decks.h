@@ -6,11 +6,11 @@
 
 namespace office::package {
 
-class FileDecks : public OpenFiles<model::Decks, model::Deck, FileDeck> {
+class FileDecks : public OpenFiles<powerpoint::Decks, powerpoint::Deck, FileDeck> {
 public:
     using OpenFiles::OpenFiles;
     std::string version() override { return "16.0"; }
-    model::DeckPtr create(bool withWindow) override;
+    powerpoint::DeckPtr create(bool withWindow) override;
 };
 
 }  // namespace office::package

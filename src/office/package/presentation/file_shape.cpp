@@ -146,19 +146,19 @@ void FileShape::write(pugi::xml_node transform, const Frame& frame) {
     setEmu(size, "cy", frame.size.height);
 }
 
-model::Point FileShape::corner() {
+powerpoint::Point FileShape::corner() {
     return frame().corner;
 }
 
-void FileShape::moveTo(const model::Point& corner) {
+void FileShape::moveTo(const powerpoint::Point& corner) {
     setFrame({corner, frame().size});
 }
 
-model::Size FileShape::size() {
+Size FileShape::size() {
     return frame().size;
 }
 
-void FileShape::resize(const model::Size& size) {
+void FileShape::resize(const Size& size) {
     const Frame before = frame();
     if (const auto table = tableIn(node_); table && before.size.width > 0 && before.size.height > 0)
         stretchTable(table, size.width / before.size.width, size.height / before.size.height);

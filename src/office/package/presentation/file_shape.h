@@ -18,8 +18,8 @@ namespace office::package {
 class FileSlide;
 
 /// A shape of a slide in a package.
-class FileShape : public model::DeckShape,
-                  private model::ShapeText,
+class FileShape : public powerpoint::DeckShape,
+                  private powerpoint::ShapeText,
                   public std::enable_shared_from_this<FileShape> {
 public:
     /// `element` is the shape, or what holds the alternatives of one.
@@ -39,34 +39,34 @@ public:
     void setName(const std::string& name) override;
     std::string alternativeText() override;
     void setAlternativeText(const std::string& text) override;
-    model::Point corner() override;
-    void moveTo(const model::Point& corner) override;
-    model::Size size() override;
-    void resize(const model::Size& size) override;
+    powerpoint::Point corner() override;
+    void moveTo(const powerpoint::Point& corner) override;
+    Size size() override;
+    void resize(const Size& size) override;
     bool keepsProportions() override;
     void setKeepsProportions(bool keeps) override;
-    model::Outline outline() override;
-    void setOutline(model::Outline wanted) override;
+    powerpoint::Outline outline() override;
+    void setOutline(powerpoint::Outline wanted) override;
     std::optional<double> adjustment(std::int32_t place) override;
     bool setAdjustment(std::int32_t place, double value) override;
-    model::Shadow shadow() override;
-    void setShadow(const model::Shadow& shadow) override;
-    model::Reflection reflection() override;
-    void setReflection(const model::Reflection& reflection) override;
-    model::ShapeText* textFrame() override;
+    powerpoint::Shadow shadow() override;
+    void setShadow(const powerpoint::Shadow& shadow) override;
+    powerpoint::Reflection reflection() override;
+    void setReflection(const powerpoint::Reflection& reflection) override;
+    powerpoint::ShapeText* textFrame() override;
 
 private:
     std::string words() override;
     void setWords(const std::string& words) override;
     bool wraps() override;
     void setWraps(bool wraps) override;
-    model::Font font() override;
-    void setFont(const model::FontChange& change) override;
+    Font font() override;
+    void setFont(const powerpoint::FontChange& change) override;
 
     void describe(const char* attribute, const std::string& text);
     struct Frame {
-        model::Point corner;
-        model::Size size;
+        powerpoint::Point corner;
+        Size size;
     };
     [[nodiscard]] Frame frame();
     void setFrame(const Frame& frame);
@@ -92,7 +92,7 @@ private:
     /// The same of the properties of its first level, the master's last.
     [[nodiscard]] std::vector<pugi::xml_node> levelProperties();
     /// Of its words, in characters of so many times their size.
-    [[nodiscard]] model::Size measured(double scale, std::optional<double> widthPt);
+    [[nodiscard]] Size measured(double scale, std::optional<double> widthPt);
     /// After its text or its font has changed.
     void fitText();
     /// Fits a box to its text that is made to grow with it. Its upper left corner stays.

@@ -51,7 +51,7 @@ void takeLook(pugi::xml_node paragraph, pugi::xml_node shown) {
 
 }  // namespace
 
-std::string boxMarkup(const model::Point& corner, const model::Size& size) {
+std::string boxMarkup(const powerpoint::Point& corner, const Size& size) {
     return fmt::format(R"(<a:off x="{}" y="{}"/><a:ext cx="{}" cy="{}"/>)", emuOf(corner.left),
                        emuOf(corner.top), emuOf(size.width), emuOf(size.height));
 }
@@ -68,12 +68,12 @@ pugi::xml_node FileSlide::tree() {
 /// edge: nothing is inherited from beyond the layout.
 void FileSlide::placeForItself(FileShape& title) {
     constexpr double plainSizePt = 28;
-    model::DeckShape& shape = title;
-    model::Size size = shape.size();
+    powerpoint::DeckShape& shape = title;
+    Size size = shape.size();
     if (size.width > 0) {
         shape.moveTo(shape.corner());
     } else {
-        const model::Size slide = deck_.slideSize();
+        const Size slide = deck_.slideSize();
         size = {slide.width * 0.9, slide.height * 0.12};
         shape.moveTo({slide.width * 0.05, slide.height * 0.04});
         shape.textFrame()->setFont({.name = {}, .sizePt = plainSizePt, .colour = {}});
@@ -142,12 +142,12 @@ void FileSlide::makePlaceholders(std::int32_t layout) {
     }
 }
 
-model::DeckShapePtr FileSlide::shapeAt(std::int32_t place) {
+powerpoint::DeckShapePtr FileSlide::shapeAt(std::int32_t place) {
     const auto index = static_cast<std::size_t>(place) - 1;
     return index < shapes().size() ? shapes()[index] : nullptr;
 }
 
-model::DeckShapePtr FileSlide::titleShape() {
+powerpoint::DeckShapePtr FileSlide::titleShape() {
     const auto found = std::find_if(shapes().begin(), shapes().end(), [](const auto& shape) {
         const auto kind = shape->placeholder();
         return kind && kind->isTitle();
@@ -178,7 +178,7 @@ FileShapePtr FileSlide::addShape(std::string_view kind, const std::string& marku
 
 /// Takes a new element in as the topmost shape, named by its kind and its number.
 FileShapePtr FileSlide::addFrame(std::string_view kind, std::string_view lock,
-                                 const model::PastePlace& place, std::string_view space,
+                                 const powerpoint::PastePlace& place, std::string_view space,
                                  const std::string& content) {
     return addShape(
         kind, fmt::format(R"(<p:graphicFrame><p:nvGraphicFramePr><p:cNvPr/><p:cNvGraphicFramePr>)"
@@ -217,12 +217,13 @@ void FileSlide::takeFurnitureOf(FileSlide& other) {
     }
 }
 
-model::DeckShapePtr FileSlide::addPicture(const std::string& file, const model::Point& corner) {
+powerpoint::DeckShapePtr FileSlide::addPicture(const std::string& file,
+                                               const powerpoint::Point& corner) {
     return addPicture(readPicture(file, deck_.rules().pictures.get()), corner);
 }
 
-FileShapePtr FileSlide::addPicture(PictureFile picture, const model::Point& corner) {
-    const model::Size size = picture.size;
+FileShapePtr FileSlide::addPicture(PictureFile picture, const powerpoint::Point& corner) {
+    const Size size = picture.size;
     const std::string blip = addBlip(deck_.package(), part_, deck_.mediaStem(), std::move(picture));
     return addShape(
         "Picture",
@@ -234,7 +235,7 @@ FileShapePtr FileSlide::addPicture(PictureFile picture, const model::Point& corn
             blip, boxMarkup(corner, size)));
 }
 
-model::DeckShapePtr FileSlide::addLabel(const model::Point& corner, const model::Size& size) {
+powerpoint::DeckShapePtr FileSlide::addLabel(const powerpoint::Point& corner, const Size& size) {
     return addShape(
         "TextBox",
         fmt::format(
@@ -256,13 +257,13 @@ FileShapePtr FileSlide::pasteChart(const Copied& copied, PasteAs as) {
         as == PasteAs::Linked ? linkAddress(chart.book->path(), deck_.rules().linkBase) : "";
     const std::string part = deck_.charts().add(std::move(chart), copied, link);
     const std::string id = deck_.package().relationshipsOf(part_).add("chart", part);
-    const model::PastePlace place =
-        model::pastePlaceFor({copied.widthPt(), copied.heightPt()}, deck_, *this);
+    const powerpoint::PastePlace place =
+        powerpoint::pastePlaceFor({copied.widthPt(), copied.heightPt()}, deck_, *this);
     return addFrame("Chart", "noChangeAspect", place, ns::chart,
                     fmt::format(R"(<c:chart xmlns:c="{}" r:id="{}"/>)", ns::chart, id));
 }
 
-model::DeckShapePtr FileSlide::paste(const Copied& copied, PasteAs as) {
+powerpoint::DeckShapePtr FileSlide::paste(const Copied& copied, PasteAs as) {
     const CopySource::Kind kind = copied.source().kind;
     if (as == PasteAs::Embedded || (as == PasteAs::Linked && kind == CopySource::Kind::Cells))
         return pasteObject(*this, copied, as);
@@ -275,7 +276,7 @@ model::DeckShapePtr FileSlide::paste(const Copied& copied, PasteAs as) {
         refuse("Shapes.PasteSpecial", "It can't be pasted in this form");
     }
     PictureFile picture = pictureOf(copied);
-    const model::PastePlace place = model::pastePlaceFor(picture.size, deck_, *this);
+    const powerpoint::PastePlace place = powerpoint::pastePlaceFor(picture.size, deck_, *this);
     picture.size = place.size;
     return addPicture(std::move(picture), place.corner);
 }

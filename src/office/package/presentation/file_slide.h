@@ -16,7 +16,7 @@ namespace office::package {
 class FileDeck;
 
 /// A slide in a package; its part is read once somebody asks for what it holds.
-class FileSlide : public model::DeckSlide, public std::enable_shared_from_this<FileSlide> {
+class FileSlide : public powerpoint::DeckSlide, public std::enable_shared_from_this<FileSlide> {
 public:
     FileSlide(FileDeck& deck, std::string part, std::string relationshipId, std::string id)
         : deck_(deck),
@@ -48,11 +48,12 @@ public:
     std::int32_t layout() override;
     void setLayout(std::int32_t layout) override;
     std::int32_t shapeCount() override { return static_cast<std::int32_t>(shapes().size()); }
-    model::DeckShapePtr shapeAt(std::int32_t place) override;
-    model::DeckShapePtr titleShape() override;
-    model::DeckShapePtr addPicture(const std::string& file, const model::Point& corner) override;
-    model::DeckShapePtr addLabel(const model::Point& corner, const model::Size& size) override;
-    model::DeckShapePtr paste(const Copied& copied, PasteAs as) override;
+    powerpoint::DeckShapePtr shapeAt(std::int32_t place) override;
+    powerpoint::DeckShapePtr titleShape() override;
+    powerpoint::DeckShapePtr addPicture(const std::string& file,
+                                        const powerpoint::Point& corner) override;
+    powerpoint::DeckShapePtr addLabel(const powerpoint::Point& corner, const Size& size) override;
+    powerpoint::DeckShapePtr paste(const Copied& copied, PasteAs as) override;
     void remove() override;
 
     /// Puts a shape on top of the others, and names it by its kind and its number.
@@ -60,13 +61,13 @@ public:
     /// The same for what stands in a frame: a chart, a table, an object. `lock` is what the user
     /// can't do with the frame, `space` the namespace of what it holds.
     FileShapePtr addFrame(std::string_view kind, std::string_view lock,
-                          const model::PastePlace& place, std::string_view space,
+                          const powerpoint::PastePlace& place, std::string_view space,
                           const std::string& content);
 
 private:
     [[nodiscard]] std::vector<FileShapePtr>& shapes();
     [[nodiscard]] pugi::xml_node tree();
-    FileShapePtr addPicture(PictureFile picture, const model::Point& corner);
+    FileShapePtr addPicture(PictureFile picture, const powerpoint::Point& corner);
     [[nodiscard]] FileShapePtr pasteChart(const Copied& copied, PasteAs as);
     void placeForItself(FileShape& title);
     FileShapePtr nameShape(std::string_view kind, pugi::xml_node element);
@@ -85,6 +86,6 @@ private:
 using FileSlidePtr = std::shared_ptr<FileSlide>;
 
 /// A place and a size, as a transformation holds them.
-[[nodiscard]] std::string boxMarkup(const model::Point& corner, const model::Size& size);
+[[nodiscard]] std::string boxMarkup(const powerpoint::Point& corner, const Size& size);
 
 }  // namespace office::package

@@ -16,7 +16,7 @@ FileShapePtr pasteObject(FileSlide& slide, const Copied& copied, PasteAs as) {
     requireNoObstacle(as, source, deck.rules(), "Shapes.PasteSpecial");
     PictureFile picture = pictureOf(copied);
     const auto size = picture.size;
-    const model::PastePlace place = model::pastePlaceFor(size, deck, slide);
+    const powerpoint::PastePlace place = powerpoint::pastePlaceFor(size, deck, slide);
     Package& package = deck.package();
     const bool isLink = as == PasteAs::Linked;
     const ObjectSource behind =

@@ -17,12 +17,12 @@ namespace office::package {
 namespace {
 
 struct OutlineName {
-    model::Outline outline;
+    powerpoint::Outline outline;
     const char* name;
 };
 constexpr std::array<OutlineName, 2> outlines = {{
-    {model::Outline::Rectangle, "rect"},
-    {model::Outline::RoundedRectangle, "roundRect"},
+    {powerpoint::Outline::Rectangle, "rect"},
+    {powerpoint::Outline::RoundedRectangle, "roundRect"},
 }};
 
 /// Shares are of 100000, angles of 60000 to the degree.
@@ -46,19 +46,19 @@ double directionOf(double x, double y) {
 
 }  // namespace
 
-model::Outline FileShape::outline() {
+powerpoint::Outline FileShape::outline() {
     const auto drawn = drawnProperties();
-    if (childNamed(drawn, ns::drawing, "custGeom")) return model::Outline::Other;
+    if (childNamed(drawn, ns::drawing, "custGeom")) return powerpoint::Outline::Other;
     const auto geometry = childNamed(drawn, ns::drawing, "prstGeom");
-    if (!geometry) return model::Outline::Rectangle;
+    if (!geometry) return powerpoint::Outline::Rectangle;
     const std::string_view name = geometry.attribute("prst").value();
     for (const OutlineName& one : outlines) {
         if (name == one.name) return one.outline;
     }
-    return model::Outline::Other;
+    return powerpoint::Outline::Other;
 }
 
-void FileShape::setOutline(model::Outline wanted) {
+void FileShape::setOutline(powerpoint::Outline wanted) {
     if (outline() == wanted) return;
     auto drawn = looks("AutoShapeType");
     changed();
@@ -84,7 +84,7 @@ std::optional<double> FileShape::adjustment(std::int32_t place) {
     const auto found = guide(place);
     const std::string formula = found.attribute("fmla").value();
     if (formula.starts_with("val ")) return leadingNumber(formula.substr(4)) / emuShare;
-    const bool isRound = outline() == model::Outline::RoundedRectangle;
+    const bool isRound = outline() == powerpoint::Outline::RoundedRectangle;
     return isRound && place == 1 && !found ? std::optional(plainRadius) : std::nullopt;
 }
 
@@ -147,7 +147,7 @@ void FileShape::dropEffect(std::string_view name) {
     found.parent().remove_child(found);
 }
 
-model::Shadow FileShape::shadow() {
+powerpoint::Shadow FileShape::shadow() {
     const auto found = effect("outerShdw");
     if (!found) return {};
     const double distance = found.attribute("dist").as_double() / emuPerPoint;
@@ -160,7 +160,7 @@ model::Shadow FileShape::shadow() {
             .colour = colourIn(found)};
 }
 
-void FileShape::setShadow(const model::Shadow& shadow) {
+void FileShape::setShadow(const powerpoint::Shadow& shadow) {
     if (!shadow.isVisible) return dropEffect("outerShdw");
     auto made = madeEffect("Shadow", "outerShdw");
     setNumber(made, "blurRad", shadow.blurPt * emuPerPoint);
@@ -178,7 +178,7 @@ void FileShape::setShadow(const model::Shadow& shadow) {
     }
 }
 
-model::Reflection FileShape::reflection() {
+powerpoint::Reflection FileShape::reflection() {
     const auto found = effect("reflection");
     if (!found) return {};
     return {.offsetPt = found.attribute("dist").as_double() / emuPerPoint,
@@ -186,7 +186,7 @@ model::Reflection FileShape::reflection() {
 }
 
 /// Blur and transparency stay those of the reflection before.
-void FileShape::setReflection(const model::Reflection& reflection) {
+void FileShape::setReflection(const powerpoint::Reflection& reflection) {
     if (reflection.sizePercent <= 0) return dropEffect("reflection");
     constexpr double halfSeen = emuShare / 2;
     constexpr double fadedOut = 300;

@@ -61,7 +61,7 @@ void writeWords(pugi::xml_node paragraph, std::string_view words, pugi::xml_node
 
 }  // namespace
 
-model::ShapeText* FileShape::textFrame() {
+powerpoint::ShapeText* FileShape::textFrame() {
     return isNamed(node_, ns::presentation, "sp") ? this : nullptr;
 }
 
@@ -151,8 +151,8 @@ std::vector<pugi::xml_node> FileShape::characterProperties() {
     return found;
 }
 
-model::Font FileShape::font() {
-    model::Font font{.name = "Calibri", .sizePt = plainSizePt, .colour = 0};
+Font FileShape::font() {
+    Font font{.name = "Calibri", .sizePt = plainSizePt, .colour = 0};
     const auto properties = characterProperties();
     const auto nearest = [&](const auto& says) {
         const auto found = std::find_if(properties.begin(), properties.end(), says);
@@ -173,7 +173,7 @@ model::Font FileShape::font() {
     return font;
 }
 
-void FileShape::setFont(const model::FontChange& change) {
+void FileShape::setFont(const powerpoint::FontChange& change) {
     changed();
     const auto apply = [&](pugi::xml_node properties) {
         if (change.sizePt)

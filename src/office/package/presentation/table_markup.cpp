@@ -260,8 +260,8 @@ std::string tableMarkup(const TableLook& look, double scale, const MeasureText& 
 FileShapePtr pasteTable(FileSlide& slide, const Copied& copied) {
     TableLook look = copied.table();
     look.leaveTextsToBars();
-    const model::PastePlace place =
-        model::pastePlaceFor({look.widthPt(), look.heightPt()}, slide.deck(), slide);
+    const powerpoint::PastePlace place =
+        powerpoint::pastePlaceFor({look.widthPt(), look.heightPt()}, slide.deck(), slide);
     return slide.addFrame("Table", "noGrp", place, tableSpace,
                           tableMarkup(look, place.scale, slide.deck().measure()));
 }

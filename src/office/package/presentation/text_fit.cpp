@@ -26,7 +26,7 @@ pugi::xml_attribute nearest(const std::vector<pugi::xml_node>& properties, const
 }
 
 /// What the margins of a text take of its frame, both of each direction.
-model::Size marginsIn(const std::vector<pugi::xml_node>& properties) {
+Size marginsIn(const std::vector<pugi::xml_node>& properties) {
     const auto margin = [&](const char* name, double plainPt) {
         return nearest(properties, name).as_double(plainPt * emuPerPoint) / emuPerPoint;
     };
@@ -60,8 +60,8 @@ double lineSpacingIn(const std::vector<pugi::xml_node>& paragraphs) {
 
 }  // namespace
 
-model::Size FileShape::measured(double scale, std::optional<double> widthPt) {
-    model::Font drawn = font();
+Size FileShape::measured(double scale, std::optional<double> widthPt) {
+    Font drawn = font();
     drawn.sizePt *= scale;
     return slide_.deck().measure()(replaceAll(replaceAll(words(), "\v", "\n"), "\r", "\n"), drawn,
                                    widthPt);
@@ -77,11 +77,11 @@ void FileShape::fitText() {
 void FileShape::growWithText() {
     const auto body = childNamed(textBody(), ns::drawing, "bodyPr");
     if (!childNamed(body, ns::drawing, "spAutoFit")) return;
-    const model::Size margins = marginsIn({body});
+    const Size margins = marginsIn({body});
     Frame place = frame();
     const auto width =
         wraps() ? std::optional(std::max(place.size.width - margins.width, 1.0)) : std::nullopt;
-    const model::Size text = measured(1, width);
+    const Size text = measured(1, width);
     if (!width) place.size.width = text.width + margins.width;
     place.size.height = text.height + margins.height;
     setFrame(place);
@@ -93,9 +93,9 @@ void FileShape::shrinkText() {
     const auto bodies = inherited("bodyPr");
     const pugi::xml_node own = bodies.front();
     if (!own || !shrinks(bodies)) return;
-    const model::Size margins = marginsIn(bodies);
-    const model::Size whole = frame().size;
-    const model::Size room = {whole.width - margins.width, whole.height - margins.height};
+    const Size margins = marginsIn(bodies);
+    const Size whole = frame().size;
+    const Size room = {whole.width - margins.width, whole.height - margins.height};
     if (room.width <= 0 || room.height <= 0) return;
     auto paragraphs = levelProperties();
     const auto first = childNamed(textBody(), ns::drawing, "p");
