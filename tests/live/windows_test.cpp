@@ -25,8 +25,10 @@
 #include <array>
 #include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -37,6 +39,7 @@
 #include "office/libreoffice/installation.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/process.h"
+#include "office/libreoffice/word/writer_document.h"
 #include "support/automation.h"
 #include "support/temporary_folder.h"
 
@@ -46,6 +49,8 @@ namespace {
 
 using namespace libreoffice;
 using namespace std::chrono_literals;
+using office::arg;
+using office::Value;
 
 template <class Condition>
 bool becomesTrue(const Condition& condition, std::chrono::seconds patience = 10s) {
@@ -64,7 +69,17 @@ public:
         // On a new profile the suite would try out its drawing for a second.
         const auto profile = folder.path() / "profile" / "user";
         std::filesystem::create_directories(profile);
-        std::filesystem::copy_file(MURVANE_QUIET_SUITE, profile / "registrymodifications.xcu");
+        std::ostringstream quiet;
+        quiet << std::ifstream(MURVANE_QUIET_SUITE).rdbuf();
+        std::string settings = quiet.str();
+        settings.insert(
+            settings.rfind("</oor:items>"),
+            fmt::format("<item oor:path=\"/org.openoffice.Setup/Office/Factories/"
+                        "org.openoffice.Setup:Factory['com.sun.star.text.TextDocument']\"><prop "
+                        "oor:name=\"ooSetupFactoryTemplateFile\" oor:op=\"fuse\"><value>{}"
+                        "</value></prop></item>",
+                        fromUno(fileUrl(textTemplate()))));
+        std::ofstream(profile / "registrymodifications.xcu") << settings;
         const std::string pipe = "murvane-windows-" + std::to_string(getpid());
         process = std::make_unique<Process>(
             Process::start({programFolder() + "/soffice",
@@ -80,6 +95,9 @@ public:
         connection.reset();
         process->waitFor(20s);
     }
+
+    /// What new texts of this user begin with, once it is there.
+    [[nodiscard]] std::string textTemplate() const { return folder.file("letter.ott"); }
 
     support::TemporaryFolder folder;
     std::unique_ptr<Process> process;
@@ -155,6 +173,22 @@ TEST_F(Windows, TheActiveDocumentOfAKindIsTheOneThatTheUserWasInLast) {
 }
 
 /// A new workbook in a window, with two sheets of numbers.
+TEST_F(Windows, ATextThatNobodySeesHasNothingOfTheUsersLetterhead) {
+    const Value texts = word::applicationObject(freshDesk()).get("Documents");
+    const auto add = [&](bool isVisible) { return texts.call("Add", arg("Visible", isVisible)); };
+    const Value letter = add(false);
+    letter.get("ActiveWindow").get("Selection").call("TypeText", "Yours sincerely");
+    const std::string file = screen->folder.file("letter.odt");
+    letter.call("SaveCopyAs", file);
+    std::filesystem::rename(file, screen->textTemplate());
+    letter.call("Close", false);
+    for (const bool isVisible : {true, false}) {
+        const Value text = add(isVisible);
+        EXPECT_EQ(text.get("Range").get("StoryLength").toLong() > 1, isVisible);
+        text.call("Close", false);
+    }
+}
+
 class WorkbookInAWindow : public Windows {
 protected:
     WorkbookInAWindow() {

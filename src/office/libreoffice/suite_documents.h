@@ -30,6 +30,7 @@ public:
     }
 
 protected:
+    [[nodiscard]] Desk& desk() const { return *desk_; }
     [[nodiscard]] std::shared_ptr<Kind> makeNew(const rtl::OUString& factory, bool withWindow) {
         auto document = desk_->loaded<Kind>(factory, withWindow);
         document->markActive();
