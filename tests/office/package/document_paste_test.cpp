@@ -324,6 +324,11 @@ TEST_F(DocumentPaste, MakesTablesThatLookAsTheirCellsDo) {
                     Anchoring::Inline);
     const auto again = saved(*document);
     const auto table = again->body().child("w:tbl");
+    const auto paragraph = table.child("w:tr").child("w:tc").child("w:p").child("w:pPr");
+    EXPECT_STREQ(paragraph.first_child().name(), "w:bidi") << "whatever the plain style says";
+    for (const char* const ahead : {"beforeAutospacing", "afterLines"})
+        EXPECT_TRUE(paragraph.child("w:spacing").attribute(fmt::format("w:{}", ahead).c_str()));
+    EXPECT_TRUE(paragraph.child("w:ind").attribute("w:firstLineChars"));
     EXPECT_EQ(described(table),
               "[a 2 restart bottom fill=996633 left 11][c bottom top=dotted 4 000000 right 11]\n"
               "[ 2 continue bottom bottom=double 4 FF0000 fill=996633 left 11][f bottom left 11]\n"

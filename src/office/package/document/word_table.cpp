@@ -116,14 +116,20 @@ private:
     void writeText(pugi::xml_node paragraph, const std::string& text, const CellLook& cell,
                    const TextFit& fit) const {
         auto properties = add(paragraph, "w:pPr");
+        // The plain style may say each of these, and say some of it in ways that go ahead of twips.
+        addValue(properties, "w:bidi", "0");
         auto spacing = add(properties, "w:spacing");
-        spacing.append_attribute("w:before").set_value("0");
-        spacing.append_attribute("w:after").set_value("0");
+        for (const std::string side : {"w:before", "w:after"}) {
+            for (const char* const way : {"", "Lines", "Autospacing"})
+                spacing.append_attribute((side + way).c_str()).set_value("0");
+        }
         spacing.append_attribute("w:line").set_value(std::llround(perLine * fit.spacing));
         spacing.append_attribute("w:lineRule").set_value("auto");
         auto indent = add(properties, "w:ind");
-        for (const char* const side : {"w:left", "w:right", "w:firstLine"})
-            indent.append_attribute(side).set_value("0");
+        for (const std::string side : {"w:left", "w:right", "w:firstLine"}) {
+            for (const char* const way : {"", "Chars"})
+                indent.append_attribute((side + way).c_str()).set_value("0");
+        }
         addValue(properties, "w:jc", alignmentOf(cell));
         writeCharacters(add(properties, "w:rPr"), cell, fit);
         if (text.empty()) return;
