@@ -56,6 +56,8 @@ private:
     void FitOnPage(const Object& shape);
     void SetLastShapeWidth(const Object& shape);
     [[nodiscard]] bool hasText();
+    [[nodiscard]] bool isLastPageFree();
+    void beginAtMargins();
     /// Of the last page, which all items go behind.
     [[nodiscard]] const TextArea& textArea();
 
@@ -69,6 +71,7 @@ private:
     /// The picture of the row at hand.
     std::string file_;
     bool hasText_ = false;
+    bool mayBeFree_ = true;
     /// What has been written for the row at hand ahead of its paste.
     int newParagraphs_ = 0;
 };
@@ -77,6 +80,7 @@ void WordBatch::exportRow(const ExportItem& row) {
     const Object shapes = document_.get(floats() ? "Shapes" : "InlineShapes").toObject();
     const std::int32_t before = shapes.get("Count").toLong();
     if (!bring(row)) return;
+    mayBeFree_ = false;
     session_.host.letEventsRun();
     // What has come may be a table, which is no shape.
     const std::int32_t count = shapes.get("Count").toLong();
@@ -152,8 +156,8 @@ void WordBatch::TypeParagraph() {
     ++newParagraphs_;
 }
 
-/// The paragraph that is left behind the break does not break the page once more. An empty document
-/// needs none: its first page would stay empty.
+/// The paragraph that is left behind the break does not break the page once more. Where nothing
+/// stands on the last page, none is needed: that page would stay empty.
 void WordBatch::InsertPageBreakBlock() {
     const auto end = [&] {
         Object range = document_.get("Range").toObject();
@@ -166,14 +170,29 @@ void WordBatch::InsertPageBreakBlock() {
         end().call("Select");
     };
     end().call("Select");
-    const bool isEmpty = !hasText();
-    if (!isEmpty) appendParagraph();
-    // What is there may be a caption, a title or the item of a list.
-    selection_.put("Style", number::normal);
-    if (isEmpty) return;
+    const bool isBehindText = hasText();
+    const bool isOnFreePage = !isBehindText || isLastPageFree();
+    if (isBehindText) appendParagraph();
+    beginAtMargins();
+    if (isOnFreePage) return;
     end().get("ParagraphFormat").put("PageBreakBefore", true);
     appendParagraph();
     end().get("ParagraphFormat").put("PageBreakBefore", false);
+}
+
+/// What is there may be a caption, a title or the item of a list, and even the plain style may have
+/// indents, beside which an item as wide as the text would stand over the margin.
+void WordBatch::beginAtMargins() {
+    const Object format = selection_.get("ParagraphFormat").get("Duplicate").toObject();
+    format.put("Style", number::normal);
+    for (const char* const indent : {"LeftIndent", "RightIndent", "FirstLineIndent"})
+        format.put(indent, 0);
+    selection_.put("ParagraphFormat", format);
+}
+
+/// In a template that ends with a cover and a break, until the first item has come.
+bool WordBatch::isLastPageFree() {
+    return mayBeFree_ && document_.get("Bookmarks", "\\page").get("Empty").toBool();
 }
 
 bool WordBatch::hasText() {

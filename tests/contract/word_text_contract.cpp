@@ -59,6 +59,25 @@ TEST_F(WordContract, AppendsPagesBehindAllText) {
     EXPECT_EQ(paragraphsOf(saved("pages.docx")), (Lines{"as it was", "|", "", "*", "|", "", "*"}));
 }
 
+TEST_F(WordContract, KnowsWhetherTheLastPageIsEmpty) {
+    const auto isFree = [&] { return document.get("Bookmarks", "\\page").get("Empty").toBool(); };
+    EXPECT_TRUE(isFree());
+    for (const char* const item : {"text", "picture", "cells"}) {
+        SCOPED_TRACE(item);
+        if (std::string_view(item) == "text") {
+            selection().call("TypeText", "as it was");
+        } else {
+            copyItem(item);
+            selection().call("PasteSpecial");
+        }
+        EXPECT_FALSE(isFree());
+        selection().call("TypeParagraph");
+        EXPECT_FALSE(isFree());
+        goToNewPage();
+        EXPECT_TRUE(isFree());
+    }
+}
+
 TEST_F(WordContract, TakesEmptyParagraphsOutAgain) {
     const Object caret = selection();
     caret.call("TypeText", "as it was");

@@ -1,4 +1,5 @@
 #include "destinations/word_batch.h"
+#include "office/package/document/reading_order.h"
 #include "word_stage.h"
 
 namespace {
@@ -6,6 +7,7 @@ namespace {
 using catalogue::ExportFormat;
 using destinations::RowBatch;
 using office::model::word::Anchoring;
+namespace word = office::model::word;
 using Texts = std::vector<std::string>;
 
 class WordBatchTest : public stage::WordStage {
@@ -64,6 +66,27 @@ TEST_F(WordBatchTest, ANewDocumentBeginsWithTheFirstItem) {
     for (const auto& paragraph : fresh.paragraphs()) breaks += paragraph.breaksPageBefore ? 1 : 0;
     EXPECT_EQ(breaks, 2);
     EXPECT_EQ(document.objectCount(Anchoring::Inline), 0);
+}
+
+TEST_F(WordBatchTest, TheFirstItemTakesTheEmptyPageThatATemplateEndsWith) {
+    document.typeParagraph();
+    word::ParagraphChange breaks;
+    breaks.breaksPageBefore = true;
+    document.changeParagraph(breaks);
+    addOfEachKind();
+    exportRows(ExportFormat::Pictures);
+    EXPECT_EQ(breaksAndEmptyPages(), std::pair(3, 0));
+}
+
+TEST_F(WordBatchTest, ItemsStandAtTheMarginsWhateverThePlainStyleSays) {
+    addOfEachKind();
+    exportRows(ExportFormat::Pictures);
+    for (const auto& paragraph : office::package::paragraphsIn(document.body())) {
+        if (!paragraph.find_child([](auto child) { return child.child("w:drawing"); })) continue;
+        const auto indent = paragraph.child("w:pPr").child("w:ind");
+        for (const char* const side : {"w:left", "w:right", "w:firstLine", "w:firstLineChars"})
+            EXPECT_STREQ(indent.attribute(side).value(), "0") << side;
+    }
 }
 
 TEST_F(WordBatchTest, CaptionsCountByTheirTextAndPicturesTakeWidthAndShadow) {

@@ -11,6 +11,48 @@ using namespace document_files;
 
 using Lines = std::vector<std::string>;
 
+TEST_F(DocumentFile, KnowsWhetherItsLastPageIsEmpty) {
+    const std::string empty = "<w:p/>";
+    const std::string cover = "<w:p><w:r><w:t>Cover</w:t></w:r></w:p>";
+    const std::string breaking = R"(<w:p><w:r><w:br w:type="page"/></w:r></w:p>)";
+    const auto section = [](const char* type) {
+        return fmt::format(R"(<w:p><w:pPr><w:sectPr><w:type w:val="{}"/></w:sectPr></w:pPr></w:p>)",
+                           type);
+    };
+    const std::string ahead = "<w:p><w:pPr><w:pageBreakBefore/></w:pPr></w:p>";
+    const std::string drawing =
+        R"(<w:p><w:r><w:pict><v:shape xmlns:v="urn:schemas-microsoft-com:vml"/></w:pict></w:r></w:p>)";
+    const std::string table = "<w:tbl><w:tr><w:tc>" + breaking + "</w:tc></w:tr></w:tbl>";
+    const auto inBlock = [](const std::string& text) {
+        return "<w:sdt><w:sdtContent>" + text + "</w:sdtContent></w:sdt>";
+    };
+    const struct {
+        std::string body;
+        bool isEmpty;
+    } rows[] = {
+        {empty, true},
+        {empty + empty, true},
+        {cover, false},
+        {cover + empty, false},
+        {cover + breaking, true},
+        {cover + breaking + empty, true},
+        {inBlock(cover + breaking) + empty, true},
+        {R"(<w:p><w:r><w:t>Cover</w:t><w:br w:type="page"/></w:r></w:p>)", true},
+        {R"(<w:p><w:r><w:br w:type="page"/><w:t>Cover</w:t></w:r></w:p>)", false},
+        {cover + ahead, true},
+        {cover + section("nextPage") + empty, true},
+        {cover + section("nextPage") + drawing, false},
+        // The kind of a section is how that one begins.
+        {cover + section("continuous") + empty, true},
+        {cover + section("nextPage") + section("continuous"), false},
+        {cover + section("nextPage") + empty + section("continuous"), false},
+        {table + empty, false},
+        {cover + breaking + "<w:altChunk/>", false},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(open(row.body)->isLastPageEmpty(), row.isEmpty) << row.body;
+}
+
 /// Whatever a document ends with, the export goes behind it, each picture on a page of its own.
 TEST_F(DocumentFile, TakesPicturesWithNumberedCaptions) {
     const std::string sequence =

@@ -88,6 +88,12 @@ void changeParagraph(const uno::Reference<css::text::XTextCursor>& paragraph,
                        static_cast<sal_Int16>(
                            adjustments.at(static_cast<std::size_t>(*change.alignment)).second));
     if (change.spaceAfter) properties.add("ParaBottomMargin", hundredthMmOf(*change.spaceAfter));
+    if (change.firstLineIndent) {
+        properties.add("ParaFirstLineIndent", hundredthMmOf(*change.firstLineIndent));
+        properties.add("ParaIsAutoFirstLineIndent", false);
+    }
+    if (change.leftIndent) properties.add("ParaLeftMargin", hundredthMmOf(*change.leftIndent));
+    if (change.rightIndent) properties.add("ParaRightMargin", hundredthMmOf(*change.rightIndent));
     if (change.style) {
         properties.add("ParaStyleName", nameOfStyle(*change.style));
         forgetOwnLooks(paragraph, letters);

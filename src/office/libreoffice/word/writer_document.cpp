@@ -1,12 +1,15 @@
 #include "office/libreoffice/word/writer_document.h"
 
+#include <com/sun/star/container/XEnumerationAccess.hpp>
 #include <com/sun/star/document/XDocumentPropertiesSupplier.hpp>
 #include <com/sun/star/document/XUndoManagerSupplier.hpp>
+#include <com/sun/star/style/BreakType.hpp>
 #include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
 #include <com/sun/star/text/ControlCharacter.hpp>
 #include <com/sun/star/text/XParagraphCursor.hpp>
 #include <com/sun/star/text/XTextDocument.hpp>
 #include <com/sun/star/text/XTextFieldsSupplier.hpp>
+#include <com/sun/star/text/XTextTable.hpp>
 #include <com/sun/star/text/XTextTablesSupplier.hpp>
 #include <com/sun/star/util/XRefreshable.hpp>
 #include <fmt/format.h>
@@ -72,7 +75,31 @@ void WriterDocument::setTitle(const std::string& title) {
 /// nothing else is there: each takes calls.
 std::int32_t WriterDocument::length() {
     const std::int32_t length = body_->getString().getLength() + tableCount() + 1;
-    return length > 1 || !objects().isAnyDrawn() ? length : 2;
+    return length > 1 || !objects().isAnyDrawnBehind(body_->getStart()) ? length : 2;
+}
+
+/// Goes back over empty paragraphs to a break ahead of one; a cursor passes over tables unseen. What
+/// is drawn takes calls, and comes last.
+bool WriterDocument::isLastPageEmpty() {
+    using css::style::BreakType;
+    static const auto names = namesOf({"BreakType", "PageDescName"});
+    const auto cursor = body_->createTextCursorByRange(body_->getEnd());
+    const auto paragraph = as<css::text::XParagraphCursor>(cursor);
+    while (true) {
+        if (!paragraph->isStartOfParagraph() || !paragraph->isEndOfParagraph()) return false;
+        const auto values = as<css::beans::XMultiPropertySet>(cursor)->getPropertyValues(names);
+        if (values[0].get<BreakType>() == BreakType::BreakType_PAGE_BEFORE ||
+            values[1].hasValue() || !cursor->goLeft(1, false))
+            break;
+    }
+    const RangeRef start = cursor->getStart();
+    cursor->gotoEnd(true);
+    const auto parts = as<css::container::XEnumerationAccess>(cursor)->createEnumeration();
+    while (parts->hasMoreElements()) {
+        if (uno::Reference<css::text::XTextTable>(parts->nextElement(), uno::UNO_QUERY).is())
+            return false;
+    }
+    return !objects().isAnyDrawnBehind(start);
 }
 
 void WriterDocument::stayUnseen() {

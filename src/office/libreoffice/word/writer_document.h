@@ -54,6 +54,7 @@ public:
     std::string title() override;
     void setTitle(const std::string& title) override;
     std::int32_t length() override;
+    bool isLastPageEmpty() override;
 
     void appendParagraph() override;
     void changeLastParagraph(const model::ParagraphChange& change) override;

@@ -27,7 +27,8 @@ private:
     /// The factory would begin with what the user has chosen for new texts, a letterhead for one.
     [[nodiscard]] uno::Reference<css::frame::XModel> newWithoutTemplate() const {
         const Connection& connection = desk().connection();
-        const auto made = as<css::frame::XModel>(connection.create("com.sun.star.text.TextDocument"));
+        const auto made =
+            as<css::frame::XModel>(connection.create("com.sun.star.text.TextDocument"));
         as<css::frame::XLoadable>(made)->initNew();
         connection.desktop()->loadComponentFromURL(
             "private:object", "_blank", 0,

@@ -134,13 +134,17 @@ void WriterObjects::finishResizing() {
     }
 }
 
-bool WriterObjects::isAnyDrawn() const {
+bool WriterObjects::isAnyDrawnBehind(const RangeRef& place) const {
+    const bool isWholeText = places_->compareRegionStarts(place, text_->getStart()) == 0;
     const sal_Int32 count = drawn_->getCount();
     for (sal_Int32 i = 0; i < count; ++i) {
         const ContentRef content(drawn_->getByIndex(i), uno::UNO_QUERY);
         if (!content.is()) continue;
         const Standing standing = standingOf(content);
-        if (standing == Standing::InText || standing == Standing::OnPage) return true;
+        if (standing == Standing::OnPage && isWholeText) return true;
+        if (standing == Standing::InText &&
+            places_->compareRegionStarts(place, content->getAnchor()) >= 0)
+            return true;
     }
     return false;
 }

@@ -23,8 +23,9 @@ public:
 
     /// What `WriterObject::finishResizing` says, for each of them.
     void finishResizing();
-    /// Whether there is one of these, or a frame or a shape, there or tied to a page.
-    [[nodiscard]] bool isAnyDrawn() const;
+    /// Whether there is one of these, or a frame or a shape, at a place of the text or behind it;
+    /// of the whole text, those tied to a page count too.
+    [[nodiscard]] bool isAnyDrawnBehind(const RangeRef& place) const;
     [[nodiscard]] std::int32_t count(model::Anchoring anchoring);
     /// Null if there is none at this place, counted from 1.
     [[nodiscard]] WriterObjectPtr at(model::Anchoring anchoring, std::int32_t place);

@@ -24,6 +24,20 @@ public:
     }
 };
 
+/// Of those that Word keeps itself, the page with the caret: here the one that the text ends on.
+class PageBookmark : public DocumentObject<PageBookmark> {
+public:
+    using DocumentObject::DocumentObject;
+
+    static const MemberTable<PageBookmark>& members() {
+        using Self = PageBookmark;
+        static const auto table = MemberTable<Self>("Bookmark").property("Empty", [](Self& self) {
+            return self.document().isLastPageEmpty();
+        });
+        return table;
+    }
+};
+
 class Window : public DocumentObject<Window> {
 public:
     using DocumentObject::DocumentObject;
@@ -43,6 +57,7 @@ public:
 
 private:
     Object property(const CallArguments& arguments);
+    Object bookmark(const CallArguments& arguments);
     void exportAsFixedFormat(const CallArguments& arguments);
     void close(const CallArguments& arguments);
 };
@@ -59,6 +74,7 @@ const MemberTable<Document>& Document::members() {
             .property("InlineShapes", [](Self& self) { return inlineShapesObject(self.home()); })
             .property("Shapes", [](Self& self) { return shapesObject(self.home()); })
             .property("BuiltInDocumentProperties", {"Index"}, &Self::property)
+            .property("Bookmarks", {"Index"}, &Self::bookmark)
             .method("Activate", {}, [](Self& self) { self.document().activate(); })
             .method("SaveCopyAs", {"FileName"},
                     [](Self& self, const CallArguments& arguments) {
@@ -78,6 +94,13 @@ Object Document::property(const CallArguments& arguments) {
         refuseCall(arguments.source(),
                    fmt::format("There is no property \"{}\" here", arguments.at(0).toText()));
     return makeObject<DocumentProperty>(home());
+}
+
+Object Document::bookmark(const CallArguments& arguments) {
+    if (!sameIgnoringCase(arguments.at(0).toText(), "\\page"))
+        refuseCall(arguments.source(),
+                   fmt::format("There is no bookmark \"{}\" here", arguments.at(0).toText()));
+    return makeObject<PageBookmark>(home());
 }
 
 void Document::exportAsFixedFormat(const CallArguments& arguments) {

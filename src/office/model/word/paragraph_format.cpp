@@ -56,15 +56,19 @@ const MemberTable<ParagraphFormat>& ParagraphFormat::members() {
                          static_cast<Alignment>(static_cast<std::int32_t>(numberWithin(
                              0, 3, number.isEmpty() ? Value(0) : number, arguments.source()))));
             });
-        const auto space = [&](const char* name, std::optional<double> ParagraphChange::*part) {
+        const auto length = [&](const char* name, double least,
+                                std::optional<double> ParagraphChange::*part) {
             made.property(name, {}, unread<Self>,
-                          [part](Self& self, const CallArguments& arguments, const Value& points) {
+                          [=](Self& self, const CallArguments& arguments, const Value& points) {
                               self.set(part,
-                                       numberWithin(0, furthestPt, points, arguments.source()));
+                                       numberWithin(least, furthestPt, points, arguments.source()));
                           });
         };
-        space("SpaceBefore", &ParagraphChange::spaceBefore);
-        space("SpaceAfter", &ParagraphChange::spaceAfter);
+        length("SpaceBefore", 0, &ParagraphChange::spaceBefore);
+        length("SpaceAfter", 0, &ParagraphChange::spaceAfter);
+        length("LeftIndent", -furthestPt, &ParagraphChange::leftIndent);
+        length("RightIndent", -furthestPt, &ParagraphChange::rightIndent);
+        length("FirstLineIndent", 0, &ParagraphChange::firstLineIndent);
         return made;
     }();
     return table;

@@ -44,6 +44,10 @@ struct ParagraphChange {
     std::optional<Alignment> alignment;
     std::optional<double> spaceBefore;
     std::optional<double> spaceAfter;
+    std::optional<double> leftIndent;
+    std::optional<double> rightIndent;
+    /// From the left indent.
+    std::optional<double> firstLineIndent;
 };
 
 /// How an object stands in a document: in a line like a letter, or over the text.
@@ -108,6 +112,9 @@ public:
     /// Characters of the text itself, paragraph ends and objects included: 1 for an empty document,
     /// and more for any other. Objects alone may count together.
     virtual std::int32_t length() = 0;
+    /// Whether nothing shows on the page that the text ends on: only empty paragraphs behind a
+    /// break. Where that takes a style or the lines to know, it is false.
+    virtual bool isLastPageEmpty() = 0;
 
     // The end of the text.
     /// A new empty paragraph, which looks as the last one does.

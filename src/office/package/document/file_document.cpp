@@ -89,6 +89,25 @@ std::int32_t FileDocument::length() {
     return static_cast<std::int32_t>(count);
 }
 
+/// Read from the beginning. A section breaks the page behind the paragraph that it ends with.
+bool FileDocument::isLastPageEmpty() {
+    bool isEmpty = true;
+    bool endsSection = false;
+    visitInOrder(body_, [&](pugi::xml_node element) {
+        const bool isParagraph = isNamed(element, ns::word, "p");
+        const bool isShown = isNamed(element, ns::word, "tbl") ||
+                             isNamed(element, ns::word, "altChunk") || showsInLine(element);
+        if (isParagraph || isShown) {
+            const bool beginsSection = std::exchange(endsSection, !!sectionEndIn(element));
+            isEmpty = isEmpty || breaksPage(element) ||
+                      (beginsSection && beginsOnNewPage(sectionOf(element)));
+        }
+        isEmpty = (isEmpty && !isShown) || isPageBreak(element);
+        return !isShown && !isNamed(element, ns::word, "pPr");
+    });
+    return isEmpty;
+}
+
 /// What has to stay behind all text: the properties of the last section. Null if there are none.
 pugi::xml_node FileDocument::endOfText() const {
     for (auto last = body_.last_child(); last; last = last.previous_sibling()) {
@@ -204,10 +223,9 @@ void FileDocument::changeParagraph(const word::ParagraphChange& change) {
     changeLook(caret_.paragraph, change, styles_);
 }
 
-/// The properties of the section that the caret is in: those that come next. Null if there are
+/// The properties of the section that something is in: those that come next. Null if there are
 /// none.
-pugi::xml_node FileDocument::sectionAtCaret() const {
-    pugi::xml_node block = caret_.paragraph;
+pugi::xml_node FileDocument::sectionOf(pugi::xml_node block) const {
     while (block.parent() && block.parent() != body_) block = block.parent();
     for (; block; block = block.next_sibling()) {
         if (isNamed(block, ns::word, "sectPr")) return block;
@@ -217,12 +235,12 @@ pugi::xml_node FileDocument::sectionAtCaret() const {
 }
 
 word::Page FileDocument::page() {
-    return pageOf(sectionAtCaret());
+    return pageOf(sectionOf(caret_.paragraph));
 }
 
 void FileDocument::setPage(const word::Page& page) {
     touch();
-    auto section = sectionAtCaret();
+    auto section = sectionOf(caret_.paragraph);
     if (!section) section = insertMarkup(body_, "<w:sectPr/>");
     setPageOf(section, page);
 }

@@ -52,6 +52,7 @@ public:
     std::string title() override;
     void setTitle(const std::string& title) override;
     std::int32_t length() override;
+    bool isLastPageEmpty() override;
     void appendParagraph() override;
     void changeLastParagraph(const word::ParagraphChange& change) override;
     void selectEnd() override;
@@ -93,7 +94,7 @@ private:
     /// Calls what puts an object or a table in.
     template <class Put>
     void putAtCaret(word::Anchoring anchoring, const Put& put);
-    [[nodiscard]] pugi::xml_node sectionAtCaret() const;
+    [[nodiscard]] pugi::xml_node sectionOf(pugi::xml_node block) const;
     [[nodiscard]] std::vector<FileObjectPtr>& objects();
     void readObjects();
     void readDrawingIds();

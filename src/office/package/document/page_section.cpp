@@ -33,6 +33,11 @@ double lengthIn(pugi::xml_node node, const char* name, double plain) {
 
 }  // namespace
 
+bool beginsOnNewPage(pugi::xml_node section) {
+    const std::string_view type = wordValue(childNamed(section, ns::word, "type"));
+    return type != "continuous" && type != "nextColumn";
+}
+
 word::Page pageOf(pugi::xml_node section) {
     const auto size = childNamed(section, ns::word, "pgSz");
     const auto margins = childNamed(section, ns::word, "pgMar");

@@ -6,7 +6,9 @@
 
 namespace office::package {
 
-/// The page of a section, by its properties (w:sectPr), which may be null.
+/// Whether a section, by its properties (w:sectPr), which may be null, begins with a page.
+[[nodiscard]] bool beginsOnNewPage(pugi::xml_node section);
+/// Its page.
 [[nodiscard]] office::model::word::Page pageOf(pugi::xml_node section);
 void setPageOf(pugi::xml_node section, const office::model::word::Page& page);
 

@@ -70,6 +70,13 @@ void setSpace(pugi::xml_node paragraph, const char* side, double points) {
         spacing.remove_attribute(attributeNamed(spacing, ns::word, std::string(side) + other));
 }
 
+void setIndent(pugi::xml_node paragraph, const std::string& side, double points) {
+    auto indent = made(paragraph, "ind");
+    setWordValue(indent, side, twipsOf(points));
+    // Measured by letters it would be taken in its place, also where the style does that.
+    setWordValue(indent, side + "Chars", "0");
+}
+
 }  // namespace
 
 std::string twipsOf(double points) {
@@ -111,6 +118,9 @@ void changeLook(pugi::xml_node paragraph, const word::ParagraphChange& change,
         setWordValue(made(paragraph, "jc"), "val", nameOfAlignment(*change.alignment));
     if (change.spaceBefore) setSpace(paragraph, "before", *change.spaceBefore);
     if (change.spaceAfter) setSpace(paragraph, "after", *change.spaceAfter);
+    if (change.leftIndent) setIndent(paragraph, "left", *change.leftIndent);
+    if (change.rightIndent) setIndent(paragraph, "right", *change.rightIndent);
+    if (change.firstLineIndent) setIndent(paragraph, "firstLine", *change.firstLineIndent);
 }
 
 bool breaksPage(pugi::xml_node paragraph) {

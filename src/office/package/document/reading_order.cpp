@@ -22,6 +22,14 @@ bool isPageBreak(pugi::xml_node element) {
     return isNamed(element, ns::word, "br") && wordValue(element, "type") == "page";
 }
 
+bool showsInLine(pugi::xml_node element) {
+    if (localName(element) == "oMath") return true;
+    if (!isNamed(element.parent(), ns::word, "r") || isPageBreak(element)) return false;
+    const std::string_view name = localName(element);
+    return name != "rPr" && name != "lastRenderedPageBreak" && name != "fldChar" &&
+           name != "instrText";
+}
+
 std::vector<pugi::xml_node> paragraphsIn(pugi::xml_node parent) {
     std::vector<pugi::xml_node> found;
     visitInOrder(parent, [&](pugi::xml_node element) {

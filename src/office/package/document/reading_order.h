@@ -19,6 +19,9 @@ void visitInOrder(pugi::xml_node parent, const std::function<bool(pugi::xml_node
 /// Whether an element breaks the page in the midst of a paragraph.
 [[nodiscard]] bool isPageBreak(pugi::xml_node element);
 
+/// Whether an element is something in a line that a reader sees, or may see.
+[[nodiscard]] bool showsInLine(pugi::xml_node element);
+
 /// The paragraphs below an element, those of tables included, those of text boxes not.
 [[nodiscard]] std::vector<pugi::xml_node> paragraphsIn(pugi::xml_node parent);
 
