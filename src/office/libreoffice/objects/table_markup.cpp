@@ -277,7 +277,7 @@ std::vector<TableDocument::StylePart> TableDocument::writtenCell(const CellLook&
 
 std::string TableDocument::paragraphStyle(const CellLook& cell) {
     constexpr std::array<const char*, 4> sides = {"start", "center", "end", "justify"};
-    const Attributes paragraph = {
+    Attributes paragraph = {
         {"fo:text-align", sides.at(static_cast<std::size_t>(cell.across))},
         {"fo:margin-left", "0pt"},
         {"fo:margin-right", "0pt"},
@@ -286,6 +286,10 @@ std::string TableDocument::paragraphStyle(const CellLook& cell) {
         {"fo:line-height", "100%"},
         // A sheet puts no space between a number and the ideograph behind it.
         {"style:text-autospace", "none"}};
+    // What a text's plain style may say.
+    if (kind_ == Kind::Text)
+        paragraph.insert(paragraph.end(),
+                         {{"fo:text-indent", "0pt"}, {"style:writing-mode", "lr-tb"}});
     Attributes letters;
     for (const auto& [script, ownFont] : {std::pair("", &cell.fontName),
                                           {"-asian", &cell.asianFontName},

@@ -78,8 +78,8 @@ std::int32_t WriterDocument::length() {
     return length > 1 || !objects().isAnyDrawnBehind(body_->getStart()) ? length : 2;
 }
 
-/// Goes back over empty paragraphs to a break ahead of one; a cursor passes over tables unseen. What
-/// is drawn takes calls, and comes last.
+/// Goes back over empty paragraphs to a break ahead of one; a cursor passes over tables unseen.
+/// What is drawn takes calls, and comes last.
 bool WriterDocument::isLastPageEmpty() {
     using css::style::BreakType;
     static const auto names = namesOf({"BreakType", "PageDescName"});
