@@ -1,5 +1,6 @@
 #include "destinations/html_export.h"
 #include "files_stage.h"
+#include "office/model/excel/cells_as_page.h"
 
 namespace {
 
@@ -92,7 +93,7 @@ TEST_F(Html, ThatIsPublishedKeepsTablesAndEscapesAllThatComesFromTheWorkbook) {
     sheet.chart("on <cells>", {0, 0, 96, 30});
     add(ItemKind::Chart, "on <cells>", "S");
     book.chartSheet("Trend").size(360, 240);
-    add(ItemKind::ChartSheet, "", "Trend");
+    add(ItemKind::ChartSheet, "", "Trend", "All of it");
     add(ItemKind::Range, "Gone", "S");
     add(ItemKind::Chart, "Gone", "S");
     book.setModified(false);
@@ -107,6 +108,7 @@ TEST_F(Html, ThatIsPublishedKeepsTablesAndEscapesAllThatComesFromTheWorkbook) {
     EXPECT_EQ(count(text, "<table"), 2U);
     EXPECT_EQ(count(text, "<img"), 3U);
     EXPECT_EQ(count(text, "alt=\"on &lt;cells&gt;\""), 2U);
+    EXPECT_EQ(count(text, "alt=\"All of it\""), 1U);
     EXPECT_EQ(count(text, "src=\"MurvaneHTML101_files/image001.png\""), 1U);
     EXPECT_EQ(count(text, "style=\"width:480px;height:320px\""), 1U) << "its true size";
     EXPECT_TRUE(text.ends_with("</body>\n</html>\n"));
@@ -115,6 +117,14 @@ TEST_F(Html, ThatIsPublishedKeepsTablesAndEscapesAllThatComesFromTheWorkbook) {
     EXPECT_EQ(book.sheetNames(), (Names{"S", "Trend"}));
     EXPECT_FALSE(book.isModified());
     EXPECT_TRUE(session.ExcelApp.get("DisplayAlerts").toBool());
+}
+
+TEST(Cells, LetNoFontsNameOutOfItsStyle) {
+    office::CellLook cell;
+    cell.text = "x";
+    cell.fontName = "A&#39;;B'\"";
+    const std::string markup = office::model::excel::cellsAsPage({{50}, {15}, {cell}}, {});
+    EXPECT_NE(markup.find("font-family:'A&amp;#39B',sans-serif;"), std::string::npos) << markup;
 }
 
 TEST_F(Html, ThatIsPublishedNeedsNoSheetForBlankLinesAndNoBlankLines) {

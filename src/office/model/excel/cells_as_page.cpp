@@ -22,12 +22,16 @@ std::string pixels(double points) {
     return text + "px";
 }
 
-/// The name of a font comes from the workbook, and may hold what ends a text in a style.
+/// The name of a font comes from the workbook, and may hold what ends a text in a style, or what
+/// stands for that in an attribute.
 std::string fontFamily(const std::string& name) {
     std::string plain;
     for (const char sign : name) {
         const auto code = static_cast<unsigned char>(sign);
-        if (code >= 0x20 && std::string_view("'\"\\;{}<>").find(sign) == std::string_view::npos)
+        if (sign == '&')
+            plain += "&amp;";
+        else if (code >= 0x20 &&
+                 std::string_view("'\"\\;{}<>").find(sign) == std::string_view::npos)
             plain += sign;
     }
     return plain.empty() ? "sans-serif" : "'" + plain + "',sans-serif";

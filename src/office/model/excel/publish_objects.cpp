@@ -72,9 +72,10 @@ private:
                                         ? place.sheet->ownChart()
                                         : place.sheet->findChart(what_.place);
         if (!chart) refuse(source_, fmt::format("There is no chart \"{}\"", what_.place));
-        const PagePicture picture =
+        PagePicture picture =
             pictureOf(place, *chart,
                       place.sheet->isChartSheet() ? place.sheet->knownName() : chart->name(), {});
+        describe(picture);
         return pageItem(what_.divId, what_.title, picture.box.width, pictureAsPage(picture));
     }
 
@@ -90,9 +91,17 @@ private:
         const PlacedCharts& placed = home_.book->publications().placedCharts(*found->home.sheet);
         TableLook look = lookOf(found->home, *block, placed);
         look.leaveTextsToBars();
-        const std::vector<PagePicture> charts = chartsOn(found->home, placed, look);
-        if (charts.empty() && !showsCells(look)) gaps.emplace(asked, look);
+        std::vector<PagePicture> charts = chartsOn(found->home, placed, look);
+        if (!showsCells(look)) {
+            if (charts.empty()) gaps.emplace(asked, look);
+            if (charts.size() == 1) describe(charts.front());
+        }
         return itemOf(look, charts);
+    }
+
+    /// Of a picture that is all there is, the title tells more than its name does.
+    void describe(PagePicture& picture) const {
+        if (!what_.title.empty()) picture.name = what_.title;
     }
 
     [[nodiscard]] std::string itemOf(const TableLook& look,

@@ -26,7 +26,8 @@ body { margin: 24px; background: #fff; color: #000; font-family: sans-serif;
 h2 { margin: 12px 0; font-size: 20px; text-align: center; }
 .item { position: relative; margin: 0 auto; break-inside: avoid; }
 .item table { border-collapse: collapse; table-layout: fixed; }
-.item td { padding: 0 1px; vertical-align: bottom; line-height: 1.2; white-space: pre; }
+.item td { padding: 0 1px; vertical-align: bottom; line-height: 1.2; white-space: pre; text-align: left; }
+.item td, .item td div { unicode-bidi: plaintext; }
 .item td.wraps { white-space: pre-wrap; overflow-wrap: break-word; }
 .item td div { display: inline-block; vertical-align: bottom; overflow: hidden; writing-mode: vertical-rl; }
 .item td div.upwards { transform: rotate(180deg); }
