@@ -54,6 +54,14 @@ FileRoute routeOf(const Kind& kind, const FileFacts& facts, const std::string& i
     if (facts.isSigned)
         route.remarks.push_back(
             fmt::format("{} is signed. Its signature will not hold for {}.", input, output));
+    if (facts.isProtected)
+        route.remarks.push_back(
+            fmt::format("{} is protected against changes, and {} will be, too. What is added to it "
+                        "is there all the same.",
+                        input, output));
+    if (facts.recordsChanges)
+        route.remarks.push_back(fmt::format(
+            "{} records changes. What is added to {} will not be marked as one.", input, output));
     if (facts.hasMacros && !keepsMacros(kind, output))
         route.remarks.push_back(
             fmt::format("{} has macros, and {} will be without. A name that ends in {} keeps "

@@ -22,6 +22,10 @@ struct FileFacts {
     /// A signature stands for its content and holds for no other.
     bool isSigned = false;
     bool hasMacros = false;
+    /// Of a document: Word lets nobody change it, or only some of it.
+    bool isProtected = false;
+    /// Of a document: Word marks what is changed as a change.
+    bool recordsChanges = false;
 };
 /// Of a package that is about the part `main`, whose root has the name `root` in the strict
 /// namespace `strict`. `PackageError`.

@@ -190,6 +190,32 @@ TEST_F(DocumentFile, RefusesOrBearsHostileDocuments) {
     std::filesystem::remove(folder.file("hostile.docx"));
 }
 
+TEST_F(DocumentFile, TellsWhetherItIsProtectedAndRecordsChanges) {
+    const struct {
+        const char* settings;
+        bool isProtected, recordsChanges;
+    } rows[] = {{"", false, false},
+                {R"(<w:documentProtection w:edit="readOnly"/>)", false, false},
+                {R"(<w:documentProtection w:edit="forms" w:enforcement="1"/>)", true, false},
+                {"<w:trackRevisions/>", false, true},
+                {R"(<w:trackRevisions w:val="0"/>)", false, false}};
+    for (const auto& row : rows) {
+        Package package = support::emptyDocument();
+        const std::string part = package.partOfType(textPart, "settings");
+        const std::string settings = package.read(part);
+        const auto start = settings.find('>', settings.find("<w:settings")) + 1;
+        package.replace(part, std::string(settings).insert(start, row.settings));
+        const std::string file = folder.file("settings.docx");
+        std::filesystem::remove(file);
+        package.save(file);
+        const FileFacts facts = documentFactsOf(file);
+        EXPECT_EQ(facts.isProtected, row.isProtected) << row.settings;
+        EXPECT_EQ(facts.recordsChanges, row.recordsChanges) << row.settings;
+    }
+    // The order of settings is another matter.
+    std::filesystem::remove(folder.file("settings.docx"));
+}
+
 /// Whatever else a package holds is written as it was, and what it is changes with its name.
 TEST_F(DocumentFile, KeepsTheRestAndDropsMacrosWhereTheNameSays) {
     Package package = support::emptyDocument();
