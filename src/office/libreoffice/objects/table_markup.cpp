@@ -149,6 +149,7 @@ pugi::xml_node TableDocument::text(const TableLook& table) {
     const std::string style = styled("table", {{"style:table-properties",
                                                 {{"style:width", points(table.widthPt() * scale_)},
                                                  {"table:align", "left"},
+                                                 {"style:writing-mode", "lr-tb"},
                                                  {"fo:margin-left", "0pt"},
                                                  {"fo:margin-top", "0pt"},
                                                  {"fo:margin-bottom", "0pt"}}}});
@@ -277,15 +278,14 @@ std::vector<TableDocument::StylePart> TableDocument::writtenCell(const CellLook&
 
 std::string TableDocument::paragraphStyle(const CellLook& cell) {
     constexpr std::array<const char*, 4> sides = {"start", "center", "end", "justify"};
-    Attributes paragraph = {
-        {"fo:text-align", sides.at(static_cast<std::size_t>(cell.across))},
-        {"fo:margin-left", "0pt"},
-        {"fo:margin-right", "0pt"},
-        {"fo:margin-top", "0pt"},
-        {"fo:margin-bottom", "0pt"},
-        {"fo:line-height", "100%"},
-        // A sheet puts no space between a number and the ideograph behind it.
-        {"style:text-autospace", "none"}};
+    Attributes paragraph = {{"fo:text-align", sides.at(static_cast<std::size_t>(cell.across))},
+                            {"fo:margin-left", "0pt"},
+                            {"fo:margin-right", "0pt"},
+                            {"fo:margin-top", "0pt"},
+                            {"fo:margin-bottom", "0pt"},
+                            {"fo:line-height", "100%"},
+                            // A sheet puts no space between a number and the ideograph behind it.
+                            {"style:text-autospace", "none"}};
     // What a text's plain style may say.
     if (kind_ == Kind::Text)
         paragraph.insert(paragraph.end(),
