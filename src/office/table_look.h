@@ -15,8 +15,6 @@ struct CellLine {
     double widthPt = 0;
     std::int32_t colour = 0;
     Style style = Style::Solid;
-
-    bool operator==(const CellLine&) const = default;
 };
 
 /// A bar behind the text of a cell, which shows how large its number is.
@@ -29,8 +27,6 @@ struct CellBar {
     std::int32_t rightColour = 0;
     /// Whether it stands for the text.
     bool isAlone = false;
-
-    bool operator==(const CellBar&) const = default;
 };
 
 /// One cell as it is seen: conditional formats are applied, and the text is the number as shown.

@@ -1,7 +1,9 @@
 #include <com/sun/star/lang/Locale.hpp>
 #include <com/sun/star/sheet/XArrayFormulaRange.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/table/CellVertJustify2.hpp>
 #include <com/sun/star/text/WritingMode2.hpp>
+#include <com/sun/star/text/XTextRange.hpp>
 #include <com/sun/star/util/XNumberFormatTypes.hpp>
 #include <com/sun/star/util/XNumberFormatsSupplier.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
@@ -174,6 +176,42 @@ TEST_F(ExcelTables, DoWithWideTextsWhatASheetDoes) {
     for (const CellLook& look : table.cells) {
         if (!look.isCovered && !look.text.empty()) found.push_back(described(look));
     }
+    EXPECT_EQ(found, expected);
+}
+
+TEST_F(ExcelTables, ShowWhatACopyLeavesUnsaid) {
+    const std::vector<std::string> expected = {
+        "on dark ink=FFFFFF fill=64381F",
+        "on light fill=00EEFF",
+        "black fill=64381F",
+        "darkened ink=FFFFFF fill=64381F",
+        "by black fill=64381F",
+        "below",
+        "",
+        "## right",
+        "1 right fill=6B69F8",
+        "2 right fill=77AAFB",
+        "3 right fill=84EBFF",
+        "4 bold right fill=7BBE63",
+        "4 bold right fill=7BBE63",
+        "",
+        "",
+        "",
+        // A sheet without noughts.
+        " right",
+        "1 right",
+        " right",
+    };
+    std::vector<std::string> found;
+    const uno::Reference<css::sheet::XSpreadsheet> unsaid(
+        as<css::sheet::XSpreadsheetDocument>(model())->getSheets()->getByName("Unsaid"),
+        uno::UNO_QUERY_THROW);
+    const auto standard = unsaid->getCellByPosition(5, 0);
+    libreoffice::setProperty(standard, "VertJustify", css::table::CellVertJustify2::STANDARD);
+    as<css::text::XTextRange>(standard)->setString("below");
+    for (const CellLook& look : tableOf("Unsaid", "A1:H2").cells) found.push_back(described(look));
+    libreoffice::setProperty(model()->getCurrentController(), "ShowZeroValues", false);
+    for (const CellLook& look : tableOf("Zeros", "A1:C1").cells) found.push_back(described(look));
     EXPECT_EQ(found, expected);
 }
 

@@ -13,6 +13,7 @@
 #include <com/sun/star/table/CellVertJustify2.hpp>
 
 #include <algorithm>
+#include <cmath>
 
 #include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/units.h"
@@ -63,13 +64,14 @@ public:
         look.fontName = fromUno(value<rtl::OUString>("CharFontName"));
         takeOtherFonts(look);
         look.fontSizePt = value<float>("CharHeight");
-        look.fontColour = swapRedAndBlue(std::max(value<std::int32_t>("CharColor"), 0));
         look.isBold = value<float>("CharWeight") > css::awt::FontWeight::NORMAL;
         look.isItalic = value<css::awt::FontSlant>("CharPosture") != css::awt::FontSlant_NONE;
         look.isUnderlined = value<std::int16_t>("CharUnderline") != 0;
         look.isStruckOut = value<std::int16_t>("CharStrikeout") != 0;
         if (const auto fill = value<std::int32_t>("CellBackColor"); fill >= 0)
             look.fill = swapRedAndBlue(fill);
+        const auto colour = value<std::int32_t>("CharColor");
+        look.fontColour = colour >= 0 ? swapRedAndBlue(colour) : automaticColourOn(look.fill);
         look.across = across();
         look.down = down();
         // A text that stands where its kind stands by itself has none.
@@ -155,6 +157,12 @@ private:
     uno::Sequence<uno::Any> values_;
 };
 
+/// A part of a colour, from 0 to 255, by the light that it gives.
+double linear(std::int32_t part) {
+    const double share = part / 255.0;
+    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+}
+
 /// The places in `shown` of what stands from one place on the sheet to another.
 std::pair<std::size_t, std::size_t> shownBetween(const std::vector<std::int32_t>& shown,
                                                  std::int32_t first, std::int32_t last) {
@@ -165,6 +173,17 @@ std::pair<std::size_t, std::size_t> shownBetween(const std::vector<std::int32_t>
 }
 
 }  // namespace
+
+std::int32_t automaticColourOn(const std::optional<std::int32_t>& fill) {
+    constexpr std::int32_t black = 0, white = 0xFFFFFF;
+    // Found by trying: the ground of LibreOffice's shapes is none of the dark ones for it.
+    constexpr double lightest = 0.345;
+    constexpr std::int32_t groundOfShapes = 0xCF9F72;
+    if (!fill || *fill == groundOfShapes) return black;
+    const double luminance = 0.2126 * linear(*fill & 0xFF) + 0.7152 * linear(*fill >> 8 & 0xFF) +
+                             0.0722 * linear(*fill >> 16 & 0xFF);
+    return luminance < lightest ? white : black;
+}
 
 CellFormats readCellFormats(const uno::Reference<css::table::XCellRange>& cells,
                             const ShownLines& shown) {

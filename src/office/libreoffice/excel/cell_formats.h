@@ -3,6 +3,7 @@
 #include <com/sun/star/table/XCellRange.hpp>
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "office/libreoffice/uno_values.h"
@@ -31,6 +32,9 @@ struct CellFormats {
     /// The place in `formats` of each shown cell, row by row.
     std::vector<std::size_t> ofCells;
 };
+
+/// The colour of letters for which none is set, on a ground: 0xBBGGRR both.
+[[nodiscard]] std::int32_t automaticColourOn(const std::optional<std::int32_t>& fill);
 
 [[nodiscard]] CellFormats readCellFormats(const uno::Reference<css::table::XCellRange>& cells,
                                           const ShownLines& shown);

@@ -61,7 +61,8 @@ bool isLayout(std::string_view text) {
 }
 
 /// The text of a cell and how all of it is written, which stands in elements around it.
-void readText(const xmlNode& parent, CellLook& look) {
+void readText(const xmlNode& parent, HtmlCell& cell) {
+    CellLook& look = cell.look;
     for (const xmlNode* node = parent.children; node != nullptr; node = node->next) {
         if (node->type == XML_TEXT_NODE && !isLayout(textOf(node->content)))
             look.text += textOf(node->content);
@@ -73,8 +74,8 @@ void readText(const xmlNode& parent, CellLook& look) {
         if (textOf(node->name) == "u") look.isUnderlined = true;
         if (textOf(node->name) == "s") look.isStruckOut = true;
         if (textOf(node->name) == "font")
-            look.fontColour = colourOf(*node, "color").value_or(look.fontColour);
-        readText(*node, look);
+            if (const auto colour = colourOf(*node, "color")) cell.fontColour = colour;
+        readText(*node, cell);
     }
 }
 
@@ -85,23 +86,24 @@ CellLook::Across acrossOf(const std::string& name) {
     return CellLook::Across::Left;
 }
 
-CellLook::Down downOf(const std::string& name) {
+std::optional<CellLook::Down> downOf(const std::string& name) {
     if (name == "middle") return CellLook::Down::Middle;
     if (name == "bottom") return CellLook::Down::Bottom;
-    return CellLook::Down::Top;
+    if (name == "top") return CellLook::Down::Top;
+    return std::nullopt;
 }
 
 HtmlCell readCell(const xmlNode& node) {
     HtmlCell cell;
     CellLook& look = cell.look;
-    readText(node, look);
+    readText(node, cell);
     // A cell has no stops that a tabulator could lead to.
     std::replace(look.text.begin(), look.text.end(), '\t', ' ');
     // An empty line stands in an empty cell.
     if (look.text == "\n") look.text.clear();
     look.fill = colourOf(node, "bgcolor");
     look.across = acrossOf(attributeOf(node, "align").value_or(""));
-    look.down = downOf(attributeOf(node, "valign").value_or(""));
+    cell.down = downOf(attributeOf(node, "valign").value_or(""));
     look.columns = countOf(node, "colspan");
     look.rows = countOf(node, "rowspan");
     cell.number = numberOf(node, "sdval");

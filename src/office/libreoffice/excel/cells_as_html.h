@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -9,11 +10,15 @@
 namespace libreoffice::excel {
 
 /// A cell as the suite writes it as HTML, where conditional formats are applied and numbers are
-/// texts. Not in it: the font's name and size, whether the text wraps or is turned, the lines.
-/// Merged cells count the hidden columns and rows too.
+/// texts. Not in it: the font's name and size, whether the text wraps or is turned, the lines, the
+/// number formats of conditions. Merged cells count the hidden columns and rows too.
 struct HtmlCell {
     office::CellLook look;
-    /// The value of a number or of a formula's result that is one.
+    /// Nothing for letters of the automatic colour, and for a text that stands where it stands by
+    /// itself.
+    std::optional<std::int32_t> fontColour;
+    std::optional<office::CellLook::Down> down;
+    /// The value of a number or of a formula's result that is one; 0 for one that is an error.
     std::optional<double> number;
 };
 

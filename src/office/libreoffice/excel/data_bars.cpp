@@ -3,7 +3,6 @@
 #include <com/sun/star/sheet/ConditionEntryType.hpp>
 #include <com/sun/star/sheet/DataBarAxis.hpp>
 #include <com/sun/star/sheet/DataBarEntryType.hpp>
-#include <com/sun/star/sheet/XCellRangeData.hpp>
 #include <com/sun/star/sheet/XConditionEntry.hpp>
 #include <com/sun/star/sheet/XConditionalFormat.hpp>
 #include <com/sun/star/sheet/XConditionalFormats.hpp>
@@ -14,6 +13,7 @@
 #include <cmath>
 
 #include "office/libreoffice/excel/answered.h"
+#include "office/libreoffice/excel/numbers_in_cells.h"
 #include "office/text.h"
 
 namespace libreoffice::excel {
@@ -21,32 +21,6 @@ namespace libreoffice::excel {
 namespace {
 
 namespace EntryType = css::sheet::DataBarEntryType;
-
-/// All numbers in the blocks, the least first.
-std::vector<double> sortedNumbers(SheetRecord& sheet, const std::vector<model::CellBlock>& blocks) {
-    std::vector<double> numbers;
-    const model::CellBlock used = sheet.used();
-    for (const model::CellBlock& block : blocks) {
-        const auto filled = intersection(block, used);
-        if (!filled) continue;
-        for (const auto& row :
-             as<css::sheet::XCellRangeData>(sheet.range(*filled))->getDataArray()) {
-            for (const uno::Any& value : row) {
-                if (double number = 0; value >>= number) numbers.push_back(number);
-            }
-        }
-    }
-    std::sort(numbers.begin(), numbers.end());
-    return numbers;
-}
-
-/// The number below which this share of all numbers is.
-double percentile(const std::vector<double>& sorted, double share) {
-    const double place = std::clamp(share, 0.0, 1.0) * static_cast<double>(sorted.size() - 1);
-    const auto below = static_cast<std::size_t>(place);
-    const std::size_t above = std::min(below + 1, sorted.size() - 1);
-    return std::lerp(sorted[below], sorted[above], place - static_cast<double>(below));
-}
 
 /// One end of the scale; nothing if it is a formula's result. The suite gives the automatic end and
 /// the least number the same name.

@@ -37,7 +37,7 @@ public:
     void fit(std::size_t row, std::size_t column, const CellValue& value) {
         CellLook& cell = at(row, column);
         if (cell.isCovered || cell.text.empty()) return;
-        if (cell.wraps && !value.number) return;
+        if (cell.wraps && !value.number && !value.isError) return;
         if (cell.rotation != 0) return fitTurned(row, column);
         const double room = roomIn(row, column);
         const double wide = widthOf(cell);
@@ -49,7 +49,7 @@ public:
         }
         if (value.shrinksToFit) {
             cell.fontSizePt *= std::min(1.0, std::max(room, 1.0) / wide);
-        } else if (value.number) {
+        } else if (value.number || value.isError) {
             fitNumber(cell, value, room);
         } else {
             fitText(row, column, wide);
@@ -95,7 +95,8 @@ private:
     }
 
     void fitNumber(CellLook& cell, const CellValue& value, double room) {
-        if (isGeneral(value) && (roundToFit(cell, value, room) || writeShort(cell, value, room)))
+        if (value.number && isGeneral(value) &&
+            (roundToFit(cell, value, room) || writeShort(cell, value, room)))
             return;
         const double one = widths_.of("#", cell);
         cell.text.assign(static_cast<std::size_t>(std::max(room / one, 1.0)), '#');
@@ -117,7 +118,8 @@ private:
     bool writeShort(CellLook& cell, const CellValue& value, double room) {
         constexpr int mostDecimals = 14;
         // A short number has too few characters to save any.
-        if (std::abs(*value.number) < 1e5 && std::abs(*value.number) > 1e-4) return false;
+        const double size = std::abs(*value.number);
+        if (size == 0 || (size < 1e5 && size > 1e-4)) return false;
         const auto [mark, decimals] = decimalsOf(cell.text);
         for (int i = mostDecimals; i >= 0; --i) {
             if (take(cell, shortened(fmt::format("{:.{}E}", *value.number, i), mark), room))

@@ -15,6 +15,7 @@ struct CellValue {
     std::optional<double> number;
     std::int32_t numberFormat = 0;
     bool shrinksToFit = false;
+    bool isError = false;
 };
 
 /// Does with texts that are wider than their cells what a sheet does, so that no row of the table

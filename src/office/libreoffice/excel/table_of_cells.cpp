@@ -1,5 +1,6 @@
 #include "office/libreoffice/excel/table_of_cells.h"
 
+#include <com/sun/star/sheet/FormulaResult.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XConditionalFormats.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
@@ -15,6 +16,7 @@
 #include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/excel/cell_formats.h"
 #include "office/libreoffice/excel/cells_as_html.h"
+#include "office/libreoffice/excel/colour_scales.h"
 #include "office/libreoffice/excel/data_bars.h"
 #include "office/libreoffice/excel/fitted_texts.h"
 #include "office/libreoffice/excel/selected_cells.h"
@@ -91,6 +93,10 @@ public:
                const CellFormats& formats)
         : sheet_(sheet),
           bars_(sheet, block),
+          scales_(sheet, block),
+          showsZeros_(
+              property<bool>(sheet.book().model()->getCurrentController(), "ShowZeroValues", true)),
+          errors_(errorsIn(sheet.range(block))),
           shown_(shown),
           formats_(formats),
           values_(formats.ofCells.size()),
@@ -112,15 +118,21 @@ public:
         for (const HtmlCell& cell : html.cells) {
             column = freeFrom(row, column);
             if (column == width()) return;
-            put(dressed(cell.look, row, column), {shown_.columns[column], shown_.rows[row]});
+            const Place place = {shown_.columns[column], shown_.rows[row]};
+            put(dressed(cell, row, column), place);
             const CellFormat& own = formatAt(row, column);
-            if (cell.number) {
-                at(row, column).bar =
-                    bars_.barOf(shown_.columns[column], shown_.rows[row], *cell.number);
-                at(row, column).fontColour = sheet_.book().formats().colourOf(
-                    *cell.number, own.numberFormat, cell.look.fontColour);
+            CellValue value = {cell.number, own.numberFormat, own.shrinksToFit,
+                               cell.number == 0.0 && isError(place)};
+            if (value.isError) value.number.reset();
+            if (value.number) {
+                CellLook& look = at(row, column);
+                look.bar = bars_.barOf(place.column, place.row, *value.number);
+                takeScale(look, cell, place, own.look);
+                look.fontColour = sheet_.book().formats().colourOf(*value.number, own.numberFormat,
+                                                                   look.fontColour);
+                if (*value.number == 0 && !showsZeros_) look.text.clear();
             }
-            values_[row * width() + column] = {cell.number, own.numberFormat, own.shrinksToFit};
+            values_[row * width() + column] = value;
         }
     }
 
@@ -213,13 +225,41 @@ private:
                 static_cast<std::size_t>(to - from)};
     }
 
-    [[nodiscard]] CellLook dressed(CellLook look, std::size_t row, std::size_t column) const {
+    static std::vector<model::CellBlock> errorsIn(
+        const uno::Reference<css::table::XCellRange>& cells) {
+        std::vector<model::CellBlock> errors;
+        const auto found = answered(as<css::sheet::XCellRangesQuery>(cells)->queryFormulaCells(
+            css::sheet::FormulaResult::ERROR));
+        for (const auto& part : found->getRangeAddresses()) errors.push_back(blockOf(part));
+        return errors;
+    }
+    [[nodiscard]] bool isError(const Place& place) const {
+        const auto cell = model::CellBlock::cell(place.row, place.column);
+        return std::any_of(errors_.begin(), errors_.end(), [&](const model::CellBlock& part) {
+            return intersection(part, cell).has_value();
+        });
+    }
+
+    [[nodiscard]] CellLook dressed(const HtmlCell& html, std::size_t row,
+                                   std::size_t column) const {
+        CellLook look = html.look;
         const CellLook& own = format(row, column);
         takeFonts(look, own);
         look.indentPt = own.indentPt;
         look.wraps = own.wraps;
         look.rotation = own.rotation;
+        look.down = html.down.value_or(own.down);
+        look.fontColour = html.fontColour.value_or(automaticColourOn(look.fill));
         return look;
+    }
+
+    /// The suite sees no ground for letters in a scale's colour.
+    void takeScale(CellLook& look, const HtmlCell& html, const Place& place,
+                   const CellLook& own) const {
+        const auto fill = scales_.colourOf(place.column, place.row, html.number.value_or(0));
+        if (!fill) return;
+        look.fill = fill;
+        if (!html.fontColour) look.fontColour = automaticColourOn(own.fill);
     }
 
     /// Two cells share a line: the heavier of theirs is drawn.
@@ -253,6 +293,9 @@ private:
 
     const SheetRecord& sheet_;
     DataBars bars_;
+    ColourScales scales_;
+    bool showsZeros_;
+    std::vector<model::CellBlock> errors_;
     const ShownLines& shown_;
     const CellFormats& formats_;
     std::vector<CellLook> cells_;

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "office/libreoffice/excel/sheet_record.h"
+
+namespace libreoffice::excel {
+
+/// The conditional formats of a block of cells that colour each by its number. The suite's HTML has
+/// such a colour only where no other condition is on the cell.
+class ColourScales {
+public:
+    ColourScales(SheetRecord& sheet, const model::CellBlock& block);
+
+    /// The ground of a cell with this number, by its place on the sheet, 0xBBGGRR.
+    [[nodiscard]] std::optional<std::int32_t> colourOf(std::int32_t column, std::int32_t row,
+                                                       double number) const;
+
+private:
+    struct Scale {
+        std::vector<model::CellBlock> blocks;
+        /// Numbers and their colours.
+        std::vector<std::pair<double, std::int32_t>> steps;
+    };
+
+    std::vector<Scale> all_;
+};
+
+}  // namespace libreoffice::excel
