@@ -8,6 +8,7 @@
 #include "catalogue/list_columns.h"
 #include "catalogue/list_rows.h"
 #include "catalogue/row_objects.h"
+#include "office/at_end.h"
 #include "office/failure_patterns.h"
 #include "session/store_sheet.h"
 #include "session/workbook_store.h"
@@ -73,15 +74,12 @@ public:
     }
 
     ~ExcelPause() {
-        try {
+        office::asFarAsPossible([this] {
             office::ContinueOnFailure scope;
             scope.attempt([&] { excel_.put("ScreenUpdating", true); });
             scope.attempt([&] { excel_.put("EnableEvents", true); });
             scope.attempt([&] { excel_.put("Calculation", calculation_); });
-        } catch (const office::SuiteLost&) {
-            // Excel has gone; the call that follows says so.
-            excel_.release();
-        }
+        });
     }
     ExcelPause(const ExcelPause&) = delete;
     ExcelPause& operator=(const ExcelPause&) = delete;

@@ -6,7 +6,9 @@
 
 #include "catalogue/row_objects.h"
 #include "destinations/html_export.h"
+#include "office/at_end.h"
 #include "office/failure_patterns.h"
+#include "session/alerts_off.h"
 #include "session/store_sheet.h"
 
 namespace destinations {
@@ -28,12 +30,7 @@ public:
     KeptMark(const KeptMark&) = delete;
     KeptMark& operator=(const KeptMark&) = delete;
     ~KeptMark() {
-        try {
-            if (wasSaved_) book_.put("Saved", true);
-        } catch (const office::Failure&) {
-            // The workbook has gone.
-            return;
-        }
+        if (wasSaved_) office::asFarAsPossible([this] { book_.put("Saved", true); });
     }
 
 private:
@@ -59,12 +56,7 @@ public:
         });
     }
     ~BlankSheet() {
-        try {
-            remove();
-        } catch (const office::Failure&) {
-            // The workbook has gone, or its suite: so has the sheet.
-            return;
-        }
+        if (sheet_) office::asFarAsPossible([this] { remove(); });
     }
     BlankSheet(const BlankSheet&) = delete;
     BlankSheet& operator=(const BlankSheet&) = delete;
@@ -77,14 +69,9 @@ private:
     [[nodiscard]] const Object& book() const { return session_.ActiveBook; }
 
     void remove() {
-        if (sheet_) {
-            const KeptMark mark(book());
-            const bool alerts = session_.ExcelApp.get("DisplayAlerts").toBool();
-            session_.ExcelApp.put("DisplayAlerts", false);
-            office::ContinueOnFailure scope;
-            scope.attempt([this] { sheet_.call("Delete"); });
-            session_.ExcelApp.put("DisplayAlerts", alerts);
-        }
+        const KeptMark mark(book());
+        const session::AlertsOff quiet(session_.ExcelApp);
+        sheet_.call("Delete");
     }
 
     OfficeSession& session_;
@@ -98,12 +85,10 @@ class OwnRecords {
 public:
     explicit OwnRecords(const Object& book) : all_(book.get("PublishObjects").toObject()) {}
     ~OwnRecords() {
-        try {
+        office::asFarAsPossible([this] {
             office::ContinueOnFailure scope;
             for (const Object& record : own_) scope.attempt([&] { record.call("Delete"); });
-        } catch (const office::SuiteLost&) {
-            return;
-        }
+        });
     }
     OwnRecords(const OwnRecords&) = delete;
     OwnRecords& operator=(const OwnRecords&) = delete;

@@ -7,6 +7,7 @@
 
 #include "catalogue/row_copies.h"
 #include "destinations/word_numbers.h"
+#include "office/at_end.h"
 #include "office/failure_patterns.h"
 #include "session/waits.h"
 
@@ -32,7 +33,7 @@ public:
     TemporaryDocument& operator=(const TemporaryDocument&) = delete;
     /// A lost application has closed everything itself.
     ~TemporaryDocument() {
-        try {
+        office::asFarAsPossible([this] {
             office::ContinueOnFailure scope;
             if (document_)
                 scope.attempt([&] { document_.call("Close", arg("SaveChanges", false)); });
@@ -42,9 +43,7 @@ public:
                 if (word_.get("Documents").get("Count").toLong() == own)
                     word_.call("Quit", arg("SaveChanges", false));
             });
-        } catch (const office::SuiteLost&) {
-            return;
-        }
+        });
     }
 
     [[nodiscard]] const Object& document() const { return document_; }
@@ -54,9 +53,7 @@ private:
         if (word_) return;
         createdWord_ = office::ContinueOnFailure().attempt(
             [&] { word_ = session.suite.start("Word.Application"); });
-        if (!createdWord_)
-            throw office::Failure(office::FailureNumber::ApplicationDefined, "Word.Application",
-                                  "Microsoft Word is not available.");
+        if (!createdWord_) office::refuse("Word.Application", "Microsoft Word is not available.");
     }
 
     Object word_;

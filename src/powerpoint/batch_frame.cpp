@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "catalogue/export_run.h"
+#include "office/at_end.h"
 #include "office/failure_patterns.h"
 #include "powerpoint/numbers.h"
 #include "powerpoint/placement.h"
@@ -169,12 +170,10 @@ bool BatchFrame::insert(const ExportItem& row, const Object& slide) {
     const bool isTable =
         batch_.choices.format == catalogue::ExportFormat::Editable && row.isRange();
     if (!isTable || !batch_.options.placesShapes) return route_.insertItem(session_, row, slide);
-    struct Room {
-        office::ClipboardPtr clipboard;
-        ~Room() { clipboard->room.reset(); }
-    } const room{session_.suite.clipboard()};
+    const office::ClipboardPtr clipboard = session_.suite.clipboard();
+    const office::AtEnd roomGone([&] { clipboard->room.reset(); });
     office::ContinueOnFailure().attempt([&] {
-        room.clipboard->room = RoomForLastShape(session_, slide.get("Shapes").toObject(), title_);
+        clipboard->room = RoomForLastShape(session_, slide.get("Shapes").toObject(), title_);
     });
     return route_.insertItem(session_, row, slide);
 }

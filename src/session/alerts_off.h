@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "office/at_end.h"
 #include "office/failure_patterns.h"
 #include "office/value.h"
 
@@ -17,13 +18,8 @@ public:
     }
     AlertsOff(const AlertsOff&) = delete;
     AlertsOff& operator=(const AlertsOff&) = delete;
-    /// An application that has gone has nothing left to put back.
     ~AlertsOff() {
-        try {
-            excel_.put("DisplayAlerts", before_);
-        } catch (const office::Failure&) {
-            return;
-        }
+        office::asFarAsPossible([this] { excel_.put("DisplayAlerts", before_); });
     }
 
 private:

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "office/at_end.h"
 #include "office/failure_patterns.h"
 
 namespace session {
@@ -122,11 +123,8 @@ std::optional<office::Failure> PowerPointWindowLock(OfficeSession& session, bool
 }
 
 PowerPointWindowLockScope::~PowerPointWindowLockScope() {
-    try {
-        PowerPointWindowLock(session_, true);
-    } catch (const office::SuiteLost&) {
-        session_.PowerPointFrameHandle = 0;
-    }
+    office::asFarAsPossible([this] { PowerPointWindowLock(session_, true); });
+    session_.PowerPointFrameHandle = 0;
 }
 
 }  // namespace session

@@ -20,6 +20,7 @@
 #include "destinations/image_dialog.h"
 #include "destinations/pdf_dialog.h"
 #include "destinations/word_dialog.h"
+#include "office/at_end.h"
 #include "panels/about_form.h"
 #include "panels/form_progress.h"
 #include "panels/help.h"
@@ -190,11 +191,8 @@ int runWithForms(forms::Desktop& desktop, const std::string& commandLine, Consol
     try {
         return session::Main(session, commandLine, windows.handlers());
     } catch (const std::exception& failure) {
-        try {
-            desktop.unloadAll();
-        } catch (const office::SuiteLost&) {
-            // The workbook that the main form keeps its list in has gone too.
-        }
+        // The workbook that the main form keeps its list in may have gone too.
+        office::asFarAsPossible([&] { desktop.unloadAll(); });
         // Whoever starts the program with a click sees no terminal.
         desktop.messageBox(unhandledFailureReport(failure), "Murvane");
         throw;

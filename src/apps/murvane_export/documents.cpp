@@ -7,6 +7,7 @@
 
 #include "apps/murvane_export/errors.h"
 #include "apps/utf8.h"
+#include "office/at_end.h"
 #include "office/failure_patterns.h"
 
 namespace unattended {
@@ -84,14 +85,12 @@ Object activeObject(const Object& application, std::string_view member) {
 
 OpenedDocuments::~OpenedDocuments() {
     // The suite that holds them goes next, and may have gone already.
-    try {
+    office::asFarAsPossible([this] {
         office::ContinueOnFailure scope;
         if (presentation_) scope.attempt([&] { presentation_.call("Close"); });
         if (document_) scope.attempt([&] { document_.call("Close", arg("SaveChanges", false)); });
         if (workbook_) scope.attempt([&] { workbook_.call("Close", arg("SaveChanges", false)); });
-    } catch (const office::SuiteLost&) {
-        return;
-    }
+    });
 }
 
 void OpenedDocuments::openWorkbook(const fs::path& file) {

@@ -6,6 +6,7 @@
 #include "destinations/image_files.h"
 #include "destinations/pdf_run.h"
 #include "destinations/word_batch.h"
+#include "office/at_end.h"
 #include "powerpoint/formats.h"
 #include "session/alerts_off.h"
 #include "session/powerpoint_session.h"
@@ -50,11 +51,7 @@ public:
         session::writeStoredPlacement(session, placement);
     }
     ~PlacementForARun() {
-        try {
-            session::writeStoredPlacement(session_, before_);
-        } catch (const office::Failure&) {
-            // The suite has gone, and the workbook with it.
-        }
+        office::asFarAsPossible([this] { session::writeStoredPlacement(session_, before_); });
     }
     PlacementForARun(const PlacementForARun&) = delete;
     PlacementForARun& operator=(const PlacementForARun&) = delete;

@@ -1,36 +1,26 @@
 #pragma once
 
-#include <utility>
-
-#include "office/failure.h"
+#include "office/at_end.h"
 #include "office/libreoffice/uno_values.h"
 
 namespace libreoffice {
 
-/// Puts something back or takes it away, unless the document or the suite has gone and it with
-/// them.
+/// As `office::asFarAsPossible`, for what UNO throws too.
 template <class Deed>
-void asFarAsPossible(Deed deed) {
-    try {
-        deed();
-    } catch (const uno::Exception&) {
-        // There is nothing left to be done.
-    } catch (const office::Failure&) {
-        // It stays as it is.
-    }
+void asFarAsPossible(const Deed& deed) {
+    office::asFarAsPossible([&] {
+        try {
+            deed();
+        } catch (const uno::Exception&) {
+            // There is nothing left to be done.
+        }
+    });
 }
 
-/// Does the same when it goes.
+/// Does that when it goes.
 template <class Deed>
-class AtEnd {
-public:
-    explicit AtEnd(Deed deed) : deed_(std::move(deed)) {}
-    AtEnd(const AtEnd&) = delete;
-    AtEnd& operator=(const AtEnd&) = delete;
-    ~AtEnd() { asFarAsPossible(deed_); }
-
-private:
-    Deed deed_;
-};
+[[nodiscard]] auto atEnd(Deed deed) {
+    return office::AtEnd([deed] { asFarAsPossible(deed); });
+}
 
 }  // namespace libreoffice

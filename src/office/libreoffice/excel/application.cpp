@@ -41,7 +41,7 @@ std::shared_ptr<CalcDocument> loadedAndCalculated(Desk& desk, const rtl::OUStrin
         as<css::util::XChangesBatch>(settings)->commitChanges();
     };
     recalculate(always);
-    const AtEnd back([&] { recalculate(never); });
+    const auto back = atEnd([&] { recalculate(never); });
     return desk.loaded<CalcDocument>(url, true, password);
 }
 

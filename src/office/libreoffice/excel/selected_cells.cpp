@@ -205,7 +205,7 @@ uno::Reference<css::datatransfer::XTransferable> SelectedCells::copy() const {
     if (!rest.isHidden())
         office::refuse("Range.Copy", "LibreOffice copies no part of an array formula");
     const Scrolled scrolled(window_);
-    const AtEnd selectAgain([&] {
+    const auto selectAgain = atEnd([&] {
         selection_->select(uno::Any(cells_));
         scrolled.putBack();
     });

@@ -302,7 +302,7 @@ std::string SuitePictures::emfOfMetafile(const uno::Sequence<sal_Int8>& metafile
     shape->setPropertyValue("FillColor", uno::Any(white));
     shape->setPropertyValue("FillStyle", uno::Any(css::drawing::FillStyle_SOLID));
     // Charts may let things shine through.
-    const AtEnd empty(
+    const auto empty = atEnd(
         [&] { shape->setPropertyValue("FillStyle", uno::Any(css::drawing::FillStyle_NONE)); });
     return written(exporterOf(page().shape), "image/x-emf");
 }

@@ -203,7 +203,7 @@ bool ImpressWindow::moveToFront(const model::DeckSlidePtr& slide) {
 void ImpressWindow::pasteOnto(ImpressSlide& slide, sal_uInt32 format) {
     // Other views paste elsewhere, or nothing.
     const std::int32_t view = viewType();
-    const AtEnd viewBack([&] {
+    const auto viewBack = atEnd([&] {
         if (view != normalView) changeView(view);
     });
     if (view != normalView) changeView(normalView);
@@ -220,7 +220,7 @@ void ImpressWindow::pasteOnto(ImpressSlide& slide, sal_uInt32 format) {
                      kept->page = view->getCurrentPage();
                      kept->selected = selection->getSelection();
                      const auto& [before, selected] = *kept;
-                     const AtEnd pageBack([&] {
+                     const auto pageBack = atEnd([&] {
                          selection->select(uno::Any());
                          if (before != page) view->setCurrentPage(before);
                          if (selected.hasValue()) selection->select(selected);
