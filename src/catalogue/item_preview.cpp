@@ -1,13 +1,11 @@
 #include "catalogue/item_preview.h"
 
-#include "catalogue/numbers.h"
 #include "catalogue/row_copies.h"
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
 
 namespace catalogue {
 
-using office::arg;
 using session::OfficeSession;
 
 PreviewCopy copyForPreview(OfficeSession& session, const ExportItem& row) {
@@ -29,9 +27,7 @@ void copyForFirstPreview(OfficeSession& session, const ExportItem& row) {
     } else if (row.isChartSheet()) {
         CopyRow(session, row);
     } else {
-        rangeOf(session, row)
-            .call("CopyPicture", arg("Appearance", number::asOnScreen),
-                  arg("Format", number::bitmapFormat));
+        CopyCellsAsPicture(rangeOf(session, row), CopyFormat::Pixels);
     }
 }
 

@@ -2,7 +2,6 @@
 
 #include <fmt/format.h>
 
-#include "catalogue/numbers.h"
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
 #include "session/waits.h"
@@ -13,6 +12,8 @@ using office::arg;
 using session::OfficeSession;
 
 namespace {
+
+constexpr std::int32_t asOnScreen = 1;
 
 office::Object copiedObject(OfficeSession& session, const ExportItem& row) {
     if (row.isRange()) return requiredRange(session, row);
@@ -27,14 +28,20 @@ void CopyRow(OfficeSession& session, const ExportItem& row) {
 
 void CopyRowAsPicture(OfficeSession& session, const ExportItem& row) {
     if (row.isRange()) {
-        requiredRange(session, row)
-            .call("CopyPicture", arg("Appearance", number::asOnScreen),
-                  arg("Format", number::pictureFormat));
+        CopyCellsAsPicture(requiredRange(session, row), CopyFormat::Vectors);
     } else {
-        chartOf(session, row)
-            .call("CopyPicture", arg("Appearance", number::asOnScreen),
-                  arg("Size", number::asOnScreen), arg("Format", number::pictureFormat));
+        CopyChartAsPicture(chartOf(session, row));
     }
+}
+
+void CopyCellsAsPicture(const office::Object& cells, CopyFormat format) {
+    cells.call("CopyPicture", arg("Appearance", asOnScreen),
+               arg("Format", static_cast<std::int32_t>(format)));
+}
+
+void CopyChartAsPicture(const office::Object& chart) {
+    chart.call("CopyPicture", arg("Appearance", asOnScreen), arg("Size", asOnScreen),
+               arg("Format", static_cast<std::int32_t>(CopyFormat::Vectors)));
 }
 
 std::string TryCopyRow(OfficeSession& session, const ExportItem& row, CopyPause pause,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,13 @@ enum class CopyPause { None, UntilRendered };
 /// fails goes to the caller.
 void CopyRow(session::OfficeSession& session, const ExportItem& row);
 void CopyRowAsPicture(session::OfficeSession& session, const ExportItem& row);
+
+/// How a picture is copied; the numbers are Excel's.
+enum class CopyFormat : std::int32_t { Vectors = -4147, Pixels = 2 };
+
+/// Copies cells or a chart as they are on the screen.
+void CopyCellsAsPicture(const office::Object& cells, CopyFormat format);
+void CopyChartAsPicture(const office::Object& chart);
 
 /// Empty once the row's object is copied, otherwise what a notice has to say: `notFound` where
 /// there is no such object, and the reason where there is one.

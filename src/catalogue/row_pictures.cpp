@@ -2,9 +2,9 @@
 
 #include <fmt/format.h>
 
-#include "catalogue/numbers.h"
+#include "catalogue/row_copies.h"
 #include "catalogue/row_objects.h"
-#include "office/failure_patterns.h"
+#include "office/at_end.h"
 #include "session/file_names.h"
 
 namespace catalogue {
@@ -30,26 +30,16 @@ const char* filterOf(office::PictureKind kind) {
 /// happens.
 void exportRange(const Object& range, const std::string& file, const char* filter) {
     const Object sheet = range.get("Worksheet").toObject();
-    range.call("CopyPicture", arg("Appearance", number::asOnScreen),
-               arg("Format", number::pictureFormat));
+    CopyCellsAsPicture(range, CopyFormat::Vectors);
     const Object holder =
         sheet.call("ChartObjects")
             .call("Add", 0, 0, range.get("Width").toDouble(), range.get("Height").toDouble())
             .toObject();
-    office::ContinueOnFailure scope;
-    const bool isMade = scope.attempt([&] {
-        holder.call("Activate");
-        const Object chart = holder.get("Chart").toObject();
-        chart.call("Paste");
-        chart.call("Export", file, filter);
-    });
-    if (isMade) {
-        holder.call("Delete");
-        return;
-    }
-    const office::Failure failure = *scope.lastFailure();
-    scope.attempt([&] { holder.call("Delete"); });
-    throw office::Failure(failure);
+    const office::AtEnd gone([&] { holder.call("Delete"); });
+    holder.call("Activate");
+    const Object chart = holder.get("Chart").toObject();
+    chart.call("Paste");
+    chart.call("Export", file, filter);
 }
 
 }  // namespace

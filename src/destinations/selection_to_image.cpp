@@ -2,7 +2,8 @@
 
 #include <string>
 
-#include "catalogue/numbers.h"
+#include "catalogue/row_copies.h"
+#include "catalogue/selection.h"
 #include "destinations/image_files.h"
 #include "destinations/row_picture.h"
 
@@ -10,24 +11,21 @@ namespace destinations {
 
 namespace {
 
-using office::arg;
+using catalogue::Selected;
 using office::Object;
 using session::OfficeSession;
 
 /// Copies the selection if it is something that a picture can be taken of.
 bool copySelection(OfficeSession& session) {
-    const Object& book = session.ActiveBook;
-    const bool isChartSheet = book.get("ActiveSheet").toObject().typeName() == "Chart";
-    const office::Value selected = session.ExcelApp.get("Selection");
-    const Object selection = selected.isObject() ? selected.toObject() : Object();
-    const std::string type = selection ? selection.typeName() : std::string();
-    if (isChartSheet || type == "ChartArea") {
-        book.get("ActiveChart").get("ChartArea").call("Copy");
+    const Selected selected = catalogue::whatIsSelected(session);
+    if (selected == Selected::ChartSheet || selected == Selected::Chart) {
+        session.ActiveBook.get("ActiveChart").get("ChartArea").call("Copy");
         return true;
     }
-    if (type != "Range" || selection.get("Areas").get("Count").toLong() != 1) return false;
-    selection.call("CopyPicture", arg("Appearance", catalogue::number::asOnScreen),
-                   arg("Format", catalogue::number::bitmapFormat));
+    if (selected == Selected::None) return false;
+    const Object cells = session.ExcelApp.get("Selection").toObject();
+    if (cells.get("Areas").get("Count").toLong() != 1) return false;
+    catalogue::CopyCellsAsPicture(cells, catalogue::CopyFormat::Pixels);
     return true;
 }
 

@@ -4,7 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/numbers.h"
+#include "catalogue/row_copies.h"
+#include "catalogue/selection.h"
 #include "destinations/text_area.h"
 #include "destinations/word_numbers.h"
 #include "office/failure_patterns.h"
@@ -17,6 +18,7 @@ namespace destinations {
 
 namespace {
 
+using catalogue::Selected;
 using office::arg;
 using office::Object;
 using office::Value;
@@ -24,8 +26,6 @@ using session::OfficeSession;
 using session::WordPaste;
 
 constexpr std::string_view title = "Murvane";
-
-enum class SourceKind { None, ChartSheet, Chart, Range };
 
 /// What a command does where the others do something else.
 struct Command {
@@ -71,14 +71,13 @@ public:
 
 private:
     [[nodiscard]] bool RequireWordDocument();
-    [[nodiscard]] SourceKind findSource() const;
     [[nodiscard]] bool mayReplaceText();
     void moveDown();
-    void copyAndPaste(SourceKind kind);
-    void copy(SourceKind kind);
-    void paste(SourceKind kind);
+    void copyAndPaste(Selected kind);
+    void copy(Selected kind);
+    void paste(Selected kind);
     [[nodiscard]] Object pastedShape(std::string_view collection);
-    void setSize(SourceKind kind);
+    void setSize(Selected kind);
     void say(std::string_view text) { session_.host.messageBox(text, title); }
 
     OfficeSession& session_;
@@ -91,13 +90,13 @@ private:
 void SelectionPaste::run() {
     if (!RequireWordDocument() || session::refusesAsReadOnly(session_, document_, "document"))
         return;
-    const SourceKind kind = findSource();
-    if (kind == SourceKind::None) {
+    const Selected kind = catalogue::whatIsSelected(session_);
+    if (kind == Selected::None) {
         say("Nothing to paste, try again");
         return;
     }
     if (!mayReplaceText()) return;
-    if (mode_ == WordPaste::Table && kind != SourceKind::Range) {
+    if (mode_ == WordPaste::Table && kind != Selected::Cells) {
         say("This icon refers to tables only");
         return;
     }
@@ -125,16 +124,6 @@ bool SelectionPaste::RequireWordDocument() {
     return true;
 }
 
-SourceKind SelectionPaste::findSource() const {
-    const Value sheet = session_.ActiveBook.get("ActiveSheet");
-    const std::string sheetType = sheet.isObject() ? sheet.toObject().typeName() : std::string();
-    if (sheetType == "Chart") return SourceKind::ChartSheet;
-    const Value selected = session_.ExcelApp.get("Selection");
-    const std::string type = selected.isObject() ? selected.toObject().typeName() : std::string();
-    if (type == "Range") return SourceKind::Range;
-    return type == "ChartArea" ? SourceKind::Chart : SourceKind::None;
-}
-
 /// A caret counts as one letter.
 bool SelectionPaste::mayReplaceText() {
     const std::string text = selection_.get("Text").toText();
@@ -147,7 +136,7 @@ void SelectionPaste::moveDown() {
     office::ContinueOnFailure().attempt([&] { selection_.call("MoveDown", arg("Count", 1)); });
 }
 
-void SelectionPaste::copyAndPaste(SourceKind kind) {
+void SelectionPaste::copyAndPaste(Selected kind) {
     constexpr std::uint32_t arrivedMs = 300;
     moveDown();
     copy(kind);
@@ -158,13 +147,12 @@ void SelectionPaste::copyAndPaste(SourceKind kind) {
     session_.WordApp.call("Activate");
 }
 
-void SelectionPaste::copy(SourceKind kind) {
+void SelectionPaste::copy(Selected kind) {
     const bool isPicture = mode_ == WordPaste::Picture;
-    if (kind == SourceKind::Range) {
+    if (kind == Selected::Cells) {
         const Object cells = session_.ExcelApp.get("Selection").toObject();
         if (isPicture) {
-            cells.call("CopyPicture", arg("Appearance", catalogue::number::asOnScreen),
-                       arg("Format", catalogue::number::pictureFormat));
+            catalogue::CopyCellsAsPicture(cells, catalogue::CopyFormat::Vectors);
         } else {
             cells.call("Copy");
         }
@@ -172,19 +160,17 @@ void SelectionPaste::copy(SourceKind kind) {
     }
     const Object chart = session_.ActiveBook.get("ActiveChart").toObject();
     if (isPicture) {
-        chart.call("CopyPicture", arg("Appearance", catalogue::number::asOnScreen),
-                   arg("Size", catalogue::number::asOnScreen),
-                   arg("Format", catalogue::number::pictureFormat));
+        catalogue::CopyChartAsPicture(chart);
     } else {
         chart.get("ChartArea").call("Copy");
     }
 }
 
-void SelectionPaste::paste(SourceKind kind) {
+void SelectionPaste::paste(Selected kind) {
     switch (mode_) {
         case WordPaste::Picture:
             selection_.call("Paste");
-            if (kind == SourceKind::Range)
+            if (kind == Selected::Cells)
                 selection_.get("ParagraphFormat").put("Alignment", Value());
             break;
         case WordPaste::Table:
@@ -193,7 +179,7 @@ void SelectionPaste::paste(SourceKind kind) {
         default: {
             // Where a shape over the text is looked for afterwards, it has to become one.
             const std::string_view shapes =
-                kind == SourceKind::Range ? command_.rangeShapes : command_.chartShapes;
+                kind == Selected::Cells ? command_.rangeShapes : command_.chartShapes;
             selection_.call(
                 "PasteSpecial", arg("Link", mode_ == WordPaste::FloatingLinked),
                 arg("DataType", number::oleObject),
@@ -214,14 +200,14 @@ Object SelectionPaste::pastedShape(std::string_view collection) {
     return shape;
 }
 
-void SelectionPaste::setSize(SourceKind kind) {
+void SelectionPaste::setSize(Selected kind) {
     const std::string_view collection =
-        kind == SourceKind::Range ? command_.rangeShapes : command_.chartShapes;
+        kind == Selected::Cells ? command_.rangeShapes : command_.chartShapes;
     if (collection.empty()) return;
     const Object shape = pastedShape(collection);
     const TextArea area = textAreaOf(selection_.get("PageSetup"));
     fit(shape, sizeOf(shape), area.width, area);
-    if (mode_ == WordPaste::FloatingLinked && kind == SourceKind::ChartSheet)
+    if (mode_ == WordPaste::FloatingLinked && kind == Selected::ChartSheet)
         selection_.get("ShapeRange").put("Left", Value());
 }
 

@@ -8,7 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/numbers.h"
+#include "catalogue/row_copies.h"
+#include "catalogue/selection.h"
 #include "office/failure_patterns.h"
 #include "office/text.h"
 #include "powerpoint/excel_objects.h"
@@ -21,6 +22,7 @@ namespace powerpoint {
 
 namespace {
 
+using catalogue::Selected;
 using office::arg;
 using office::Object;
 using session::OfficeSession;
@@ -146,24 +148,22 @@ bool SelectionPaste::copyAndPaste() {
         pasteNamed(SourceKind::Chart, [&] { return nameOf(chart); });
         return true;
     };
-    if (book.get("ActiveSheet").toObject().typeName() == "Chart")
+    const Selected selected = catalogue::whatIsSelected(session_);
+    if (selected == Selected::ChartSheet)
         return pasteChart(chartSheetMs,
                           [](const Object& chart) { return chart.get("Name").toText(); });
-    const office::Value selected = session_.ExcelApp.get("Selection");
-    const std::string type = selected.isObject() ? selected.toObject().typeName() : std::string();
-    if (type == "ChartArea")
+    if (selected == Selected::Chart)
         return pasteChart(embeddedChartMs, [](const Object& chart) {
             return chart.get("Parent").get("Name").toText();
         });
-    if (type != "Range") return true;
-    const Object cells = selected.toObject();
+    if (selected == Selected::None) return true;
+    const Object cells = session_.ExcelApp.get("Selection").toObject();
     if (cells.get("Areas").get("Count").toLong() > 1) {
         session::ShowWarningNotice(session_.notices, "Murvane does not support multiple selection");
         return false;
     }
     if (mode_ == SlidePaste::Pictures) {
-        cells.call("CopyPicture", arg("Appearance", catalogue::number::asOnScreen),
-                   arg("Format", catalogue::number::pictureFormat));
+        catalogue::CopyCellsAsPicture(cells, catalogue::CopyFormat::Vectors);
         session::SleepMilliseconds(session_, cellsMs);
     } else {
         cells.call("Copy");
