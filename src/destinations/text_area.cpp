@@ -8,7 +8,8 @@ namespace destinations {
 
 TextArea textAreaOf(const office::Value& page) {
     const double toEdge = page.get("PageWidth").toDouble() - page.get("LeftMargin").toDouble();
-    return {toEdge - page.get("RightMargin").toDouble(),
+    return {std::min(toEdge - page.get("RightMargin").toDouble(),
+                     page.get("TextColumns").get("Width").toDouble()),
             page.get("PageHeight").toDouble() - page.get("TopMargin").toDouble() -
                 page.get("BottomMargin").toDouble(),
             toEdge};

@@ -5,7 +5,7 @@
 
 namespace destinations {
 
-/// What the margins of a page leave, in points.
+/// What the margins of a page leave, and the column, the cell or the frame there, in points.
 struct TextArea {
     double width = 0;
     double height = 0;

@@ -1,4 +1,5 @@
 #include <com/sun/star/document/XUndoManagerSupplier.hpp>
+#include <com/sun/star/text/XTextColumns.hpp>
 #include <com/sun/star/text/XTextFrame.hpp>
 
 #include <functional>
@@ -53,6 +54,36 @@ TEST_F(WordLive, PastesWhereTheCaretIs) {
     }
     EXPECT_EQ(text().substr(0, 9), "oneXX\nthr") << "the text went, and the X came behind pictures";
     EXPECT_EQ(fromUno(cell("B2")->getString()), "10.5X");
+}
+
+TEST_F(WordLive, KnowsHowLongLinesAreWhereTheCaretIs) {
+    const auto width = [&] {
+        return selection().get("PageSetup").get("TextColumns").get("Width").toDouble();
+    };
+    const double ofPage = width();
+    EXPECT_NEAR(ofPage, 482, 1);
+    const auto frame = as<css::text::XTextFrame>(put("com.sun.star.text.TextFrame"));
+    setProperty(frame, "Width", sal_Int32{5000});
+    select(uno::Any(frame->getText()->getEnd()));
+    EXPECT_NEAR(width(), 5000 * 72 / 2540.0, 10);
+    select(uno::Any(body()->getEnd()));
+    const auto grid = as<css::text::XTextTable>(
+        desk->active<word::WriterDocument>()->createInstance("com.sun.star.text.TextTable"));
+    grid->initialize(2, 4);
+    body()->insertTextContent(body()->getEnd(), as<css::text::XTextContent>(grid), false);
+    select(uno::Any(cell("C2")->getEnd()));
+    EXPECT_NEAR(width(), ofPage / 4, 10);
+    copyCells();
+    selection().call("PasteSpecial");
+    EXPECT_LT(property<sal_Int32>(table(1), "Width"), 17000 / 4);
+    select(uno::Any(body()->getEnd()));
+    EXPECT_NEAR(width(), ofPage, 1);
+    const auto columns = as<css::text::XTextColumns>(
+        desk->active<word::WriterDocument>()->createInstance("com.sun.star.text.TextColumns"));
+    columns->setColumnCount(2);
+    setProperty(put("com.sun.star.text.TextSection", true), "TextColumns", columns);
+    select(uno::Any(body()->getStart()));
+    EXPECT_NEAR(width(), ofPage / 2, 10);
 }
 
 TEST_F(WordLive, RefusesWhereNobodyMayWriteAndLeavesAllAsItWas) {

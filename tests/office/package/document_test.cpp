@@ -190,6 +190,25 @@ TEST_F(DocumentFile, RefusesOrBearsHostileDocuments) {
     std::filesystem::remove(folder.file("hostile.docx"));
 }
 
+TEST_F(DocumentFile, KnowsHowWideItsColumnsAre) {
+    const struct {
+        const char* columns;
+        double width;
+    } rows[] = {
+        {"", 451.3},
+        {R"(<w:cols w:num="1" w:space="720"/>)", 451.3},
+        {R"(<w:cols w:num="2" w:space="720"/>)", 207.65},
+        {R"(<w:cols w:num="2"/>)", 207.65},
+        {R"(<w:cols w:num="2" w:equalWidth="0"><w:col w:w="6000"/><w:col w:w="2000"/></w:cols>)",
+         100}};
+    for (const auto& row : rows) {
+        const auto document =
+            open(std::string("<w:p><w:pPr><w:sectPr>") + R"(<w:pgSz w:w="11906" w:h="16838"/>)" +
+                 row.columns + "</w:sectPr></w:pPr></w:p><w:p/>");
+        EXPECT_NEAR(document->lineWidth(), row.width, 0.1) << row.columns;
+    }
+}
+
 TEST_F(DocumentFile, TellsWhetherItIsProtectedAndRecordsChanges) {
     const struct {
         const char* settings;

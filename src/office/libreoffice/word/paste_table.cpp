@@ -70,7 +70,7 @@ void removeEmptyParagraphAhead(const uno::Reference<css::text::XTextCursor>& tab
 
 /// What is built by calls takes seconds; what is read like a file, some milliseconds.
 void WriterDocument::insertTable(const TextPlace& place, const office::TableLook& table) {
-    const double scale = std::min(1.0, page().textWidth() / table.widthPt());
+    const double scale = std::min(1.0, lineWidth() / table.widthPt());
     const auto package = packageOf(desk_.connection(), objects::tableText(table, scale));
     const std::int32_t before = tableCount();
     const auto inserted = place.text->createTextCursorByRange(place.start());

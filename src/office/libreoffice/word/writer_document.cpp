@@ -21,6 +21,7 @@
 
 #include "office/failure.h"
 #include "office/libreoffice/units.h"
+#include "office/libreoffice/word/line_width.h"
 #include "office/libreoffice/word/paragraph_change.h"
 #include "office/libreoffice/word/undo_group.h"
 
@@ -237,6 +238,12 @@ model::Page WriterDocument::page() {
             .rightMargin = length(3),
             .topMargin = length(4, bands.header),
             .bottomMargin = length(0, bands.footer)};
+}
+
+double WriterDocument::lineWidth() {
+    const double ofPage = page().textWidth();
+    if (isUnseen_) return ofPage;
+    return lineWidthAt(as<css::beans::XMultiPropertySet>(caret_.copy()), pageStyle(), ofPage);
 }
 
 void WriterDocument::setPage(const model::Page& page) {

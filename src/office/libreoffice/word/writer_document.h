@@ -68,6 +68,7 @@ public:
     void typeBackspace() override;
     void changeParagraph(const model::ParagraphChange& change) override;
     model::Page page() override;
+    double lineWidth() override;
     void setPage(const model::Page& page) override;
     void paste(const office::Copied& copied, office::PasteAs as,
                model::Anchoring anchoring) override;

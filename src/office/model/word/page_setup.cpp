@@ -8,6 +8,21 @@ namespace office::model::word {
 
 namespace {
 
+/// The columns of the text, here the one with the caret: a cell and a frame count as one.
+class TextColumns : public DocumentObject<TextColumns> {
+public:
+    using DocumentObject::DocumentObject;
+
+    static const MemberTable<TextColumns>& members() {
+        using Self = TextColumns;
+        static const auto table =
+            MemberTable<Self>("TextColumns").property("Width", [](Self& self) {
+                return self.document().lineWidth();
+            });
+        return table;
+    }
+};
+
 class PageSetup : public DocumentObject<PageSetup> {
 public:
     using DocumentObject::DocumentObject;
@@ -37,6 +52,8 @@ const MemberTable<PageSetup>& PageSetup::members() {
         length("RightMargin", &Page::rightMargin);
         length("TopMargin", &Page::topMargin);
         length("BottomMargin", &Page::bottomMargin);
+        made.property("TextColumns",
+                      [](Self& self) { return makeObject<TextColumns>(self.home()); });
         made.property(
             "Orientation",
             [](Self& self) {

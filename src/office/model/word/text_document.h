@@ -135,6 +135,9 @@ public:
     virtual void typeBackspace() = 0;
     virtual void changeParagraph(const ParagraphChange& change) = 0;
     virtual Page page() = 0;
+    /// How long lines are there: as wide as the page's text, or as a column of it, a cell or a
+    /// frame.
+    virtual double lineWidth() = 0;
     /// For the whole section. Sides longer than wide make it portrait, the others landscape.
     virtual void setPage(const Page& page) = 0;
     /// Takes the place of what is selected, and leaves the caret behind itself. `PasteAs::Default`

@@ -238,6 +238,11 @@ word::Page FileDocument::page() {
     return pageOf(sectionOf(caret_.paragraph));
 }
 
+double FileDocument::lineWidth() {
+    const auto section = sectionOf(caret_.paragraph);
+    return columnWidthOf(section, pageOf(section).textWidth());
+}
+
 void FileDocument::setPage(const word::Page& page) {
     touch();
     auto section = sectionOf(caret_.paragraph);

@@ -66,6 +66,8 @@ public:
     void typeBackspace() override;
     void changeParagraph(const word::ParagraphChange& change) override;
     word::Page page() override;
+    /// Nothing puts the caret into a cell or a frame.
+    double lineWidth() override;
     void setPage(const word::Page& page) override;
     void paste(const Copied& copied, PasteAs as, word::Anchoring anchoring) override;
     void addPicture(const std::string& file) override;

@@ -58,6 +58,21 @@ word::Page pageOf(pugi::xml_node section) {
     return page;
 }
 
+double columnWidthOf(pugi::xml_node section, double width) {
+    constexpr double plainGap = 36;
+    // Word has no more.
+    constexpr double most = 45;
+    const auto columns = childNamed(section, ns::word, "cols");
+    double narrowest = width;
+    for (const pugi::xml_node column : columns.children()) {
+        if (isNamed(column, ns::word, "col"))
+            narrowest = std::min(narrowest, lengthIn(column, "w", width));
+    }
+    if (narrowest < width) return std::max(narrowest, 0.0);
+    const double count = std::clamp(numberOf(wordValue(columns, "num")).value_or(1), 1.0, most);
+    return std::max((width - (count - 1) * lengthIn(columns, "space", plainGap)) / count, 0.0);
+}
+
 void setPageOf(pugi::xml_node section, const word::Page& page) {
     const bool isLandscape = page.width > page.height;
     const auto size = childInOrder(section, ns::word, "pgSz", sectionOrder);

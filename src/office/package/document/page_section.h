@@ -10,6 +10,8 @@ namespace office::package {
 [[nodiscard]] bool beginsOnNewPage(pugi::xml_node section);
 /// Its page.
 [[nodiscard]] office::model::word::Page pageOf(pugi::xml_node section);
+/// The narrowest of the columns that it divides a width into.
+[[nodiscard]] double columnWidthOf(pugi::xml_node section, double width);
 void setPageOf(pugi::xml_node section, const office::model::word::Page& page);
 
 }  // namespace office::package

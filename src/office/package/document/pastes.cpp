@@ -99,7 +99,7 @@ void pasteInto(FileDocument& document, const Copied& copied, PasteAs as,
         const TableLook look = copied.table();
         if (look.columnWidthsPt.size() <= mostTableColumns)
             return document.insertTable(
-                wordTable(look, document.page().textWidth(), document.rules().measure));
+                wordTable(look, document.lineWidth(), document.rules().measure));
     } else if (isChart && (as == PasteAs::Default || as == PasteAs::Linked)) {
         if (pasteChart(document, copied, as, anchoring)) return;
     } else if (as == PasteAs::Linked) {
