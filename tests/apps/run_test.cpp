@@ -101,6 +101,7 @@ TEST_F(RunTest, WhatIsWrongWithTheFilesIsFoundOutBeforeASuiteStarts) {
         {{bookFile, "--output", folder.file("missing/Out.pptx")},
          "missing/Out.pptx can't be written"},
         {{bookFile, "--output", folder.file("Out.odp")}, "Out.odp"},
+        {{bookFile, "--output", folder.file("Out.odt")}, "only a copy of a document of that kind"},
         {{folder.file("None.xlsx"), "--output", out}, "None.xlsx can't be read"},
         {{bookFile, "--into", folder.file("None.pptx"), "--output", out}, "None.pptx"},
         {{bookFile, "--into", deckFile, "--output", deckFile, "--overwrite"}, "never written over"},

@@ -38,6 +38,22 @@ std::string outputOf(const Kind& kind, const Options& options) {
     return target == nullptr ? std::string() : target->output;
 }
 
+bool endsAs(const Kind& kind, const std::string& file) {
+    const std::string lower = office::lowerCase(file);
+    return lower.ends_with(kind.ending) || lower.ends_with(kind.macroEnding);
+}
+
+/// A suite writes its own formats, for those who keep a document in one of them.
+void requireSameFormat(const std::string& input, const std::string& output) {
+    const auto ending = [](const std::string& file) {
+        return office::lowerCase(apps::utf8Of(apps::pathOf(file).extension()));
+    };
+    if (ending(input) != ending(output))
+        throw UsageError(fmt::format(
+            "{} can't be written: only a copy of a document of that kind is one. Choose .docx.",
+            output));
+}
+
 bool keepsMacros(const Kind& kind, const std::string& file) {
     return office::lowerCase(file).ends_with(kind.macroEnding);
 }
@@ -86,6 +102,7 @@ FileRoute routeFor(const Kind& kind, const Options& options, const std::string& 
     if (options.targetOf(kind.destination) == nullptr) return {.isFile = true, .remarks = {}};
     FileRoute route = lookUp(kind, options, input);
     const std::string output = outputOf(kind, options);
+    if (!output.empty() && !endsAs(kind, output)) requireSameFormat(input, output);
     if (!route.isFile && keepsMacros(kind, output))
         throw UsageError(fmt::format("{} can't be written: the suite writes no {}. Choose {}.",
                                      output, kind.macroEnding, kind.ending));

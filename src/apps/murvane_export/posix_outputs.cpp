@@ -342,7 +342,7 @@ std::unique_ptr<Output> outputFor(const Target& target, bool overwrites) {
         case Destination::PowerPoint:
             return file({".pptx", ".pptm"});
         case Destination::Word:
-            return file({".docx", ".docm"});
+            return file({".docx", ".docm", ".odt", ".doc"});
         case Destination::Pdf:
             return file({".pdf"});
         default:
