@@ -45,13 +45,6 @@ const MemberTable<ShadowFormat>& ShadowFormat::members() {
     static const auto table = [] {
         MemberTable<Self> made("ShadowFormat");
         made.property(
-            "Visible", [](Self& self) { return triState(self.object().shadow().isShown); },
-            [](Self& self, const Value& on) {
-                ObjectShadow shadow = self.object().shadow();
-                shadow.isShown = on.toBool();
-                self.object().setShadow(shadow);
-            });
-        made.property(
             "Type", {}, unread<Self>,
             [](Self& self, const CallArguments&, const Value& number) { self.setType(number); });
         const auto number = [&](const char* name, double ObjectShadow::*part) {
