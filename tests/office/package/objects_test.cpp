@@ -85,6 +85,11 @@ TEST_F(ObjectOnASlide, ShowsTheSheetAndTheCellsOfWhatWasCopied) {
          {"sign", ""},
          {"_rels/sign.rels",
           small_workbook::relationshipsTo({{"signature", "sign"}, {"signature", "sign"}})}});
+    const std::string bare = writeBook(
+        "Bare.xlsx",
+        {{"xl/sheet2.xml",
+          small_workbook::sheet("<dimension ref=\"A1\"/><sheetData><row r=\"2\"><c r=\"B2\"/></row>"
+                                "<row r=\"7\"><c r=\"C7\"/></row></sheetData>")}});
     struct {
         CopySource source;
         std::string tab, cells, selected, ending;
@@ -94,6 +99,7 @@ TEST_F(ObjectOnASlide, ShowsTheSheetAndTheCellsOfWhatWasCopied) {
         {{Kind::Cells, book, "Data", "", "$B:$B"}, "0", "B1:B20", "1", ".xlsx"},
         {{Kind::Chart, book, "Data", "Sales", ""}, "0", "F2:M16", "1", ".xlsx"},
         {{Kind::Chart, book, "Plot", "", ""}, "2", "", "3", ".xlsx"},
+        {{Kind::Cells, bare, "other 'x'", "", "$B:$B"}, "1", "B2:B7", "", ".xlsx"},
         {{Kind::Cells, macros, "data", "", "$A$1"}, "0", "A1", "1", ".xlsm"},
     };
     const Object deck = openDeck();

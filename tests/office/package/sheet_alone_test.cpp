@@ -39,6 +39,7 @@ TEST(AFormula, LeavesItsSheetForOtherSheetsNamesTablesAndTexts) {
         {"INDIRECT(A1)", true},
         {"RATES(1)+_xlfn._xlws.SORT(A1:A3)", false},
         {"DOUBLE(1)", true},
+        {"SUM(_xlfn.ANCHORARRAY(A1))", true},
         {"netOf(A1)", true},
         {"getpivotdata(\"x\",A1)", true},
         {"CUBEKPIMEMBER(\"x\",\"y\",1)", true},

@@ -107,6 +107,13 @@ SheetList& CalcDocument::sheetList() {
     return *sheets_;
 }
 
+model::CellBlocks CalcDocument::styledTablesOn(std::string_view sheet) {
+    const auto& all = facts().sheets;
+    const auto found =
+        std::find_if(all.begin(), all.end(), [&](const auto& each) { return each.name == sheet; });
+    return found != all.end() ? readStyledTables(url(), found->part) : model::CellBlocks();
+}
+
 const WorkbookFacts& CalcDocument::facts() {
     if (!facts_) facts_ = readWorkbookFacts(url());
     return *facts_;

@@ -82,6 +82,8 @@ public:
     void removeSheet(const model::SheetPtr& sheet) override;
     model::Selection selection() override;
     NamedRanges& names() override;
+    /// The cells of a sheet that its file gives a style of tables.
+    [[nodiscard]] model::CellBlocks styledTablesOn(std::string_view sheet);
 
 private:
     [[nodiscard]] const WorkbookFacts& facts();

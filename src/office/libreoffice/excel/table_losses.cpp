@@ -4,8 +4,12 @@
 #include <com/sun/star/lang/XServiceInfo.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/ConditionEntryType.hpp>
+#include <com/sun/star/sheet/ConditionFormatOperator.hpp>
+#include <com/sun/star/sheet/DataBarEntryType.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
+#include <com/sun/star/sheet/XDataBarEntry.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
+#include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
 #include <com/sun/star/text/XText.hpp>
 
 #include <algorithm>
@@ -21,6 +25,7 @@ namespace libreoffice::excel {
 
 namespace {
 
+namespace Kind = css::sheet::ConditionEntryType;
 using model::CellBlock;
 using office::ItemRemarks;
 
@@ -35,6 +40,17 @@ const ItemRemarks::Text icons = {"The table of {} will be without the icons in i
                                  "The tables of {} will be without the icons in their cells."};
 const ItemRemarks::Text bars = {"The table of {} will be without the bars in its cells.",
                                 "The tables of {} will be without the bars in their cells."};
+const ItemRemarks::Text tableStyles = {
+    "{} will be without the colours of its table style: LibreOffice draws none.",
+    "{} will be without the colours of their table styles: LibreOffice draws none."};
+const ItemRemarks::Text conditions = {
+    "In the table of {} conditional formats may be missing that go by a formula or by cells "
+    "outside.",
+    "In the tables of {} conditional formats may be missing that go by a formula or by cells "
+    "outside."};
+const ItemRemarks::Text numberFormats = {
+    "In the table of {} conditional formats will not change how numbers are written.",
+    "In the tables of {} conditional formats will not change how numbers are written."};
 const ItemRemarks::Text severalLooks = {
     "In the table of {} the text of each cell will have one look alone, where it has several now.",
     "In the tables of {} the text of each cell will have one look alone, where it has several "
@@ -74,17 +90,74 @@ std::vector<Frame> framesOn(const SheetRecord& sheet) {
     return frames;
 }
 
-/// The cells whose conditional formats draw icons, or bars.
-std::vector<CellBlock> blocksWith(sal_Int32 kind, const SheetRecord& sheet) {
+/// All conditions of a kind on a sheet.
+std::vector<CellCondition> conditionsOf(sal_Int32 kind, const SheetRecord& sheet) {
+    return conditionsOn(sheet, CellBlock::wholeSheet(), kind);
+}
+
+/// The cells of those conditions that are meant.
+template <class Test>
+std::vector<CellBlock> blocksOf(const std::vector<CellCondition>& all, Test isMeant) {
     std::vector<CellBlock> found;
-    for (const auto& [blocks, entry] : conditionsOn(sheet, CellBlock::wholeSheet(), kind))
-        found.insert(found.end(), blocks.begin(), blocks.end());
+    for (const CellCondition& condition : all) {
+        if (isMeant(condition))
+            found.insert(found.end(), condition.blocks.begin(), condition.blocks.end());
+    }
     return found;
+}
+
+bool isAny(const CellCondition& /*condition*/) {
+    return true;
+}
+
+/// A copy of cells calculates no formula of a condition but what is a number or a text.
+bool hasFormula(const CellCondition& condition) {
+    for (const char* name : {"Formula1", "Formula2"}) {
+        const auto formula = fromUno(property<rtl::OUString>(condition.entry, name));
+        if (!formula.starts_with('"') &&
+            formula.find_first_not_of("+-.,0123456789Ee%") != std::string::npos)
+            return true;
+    }
+    return false;
+}
+
+bool endsInFormula(const CellCondition& condition) {
+    using Ends = uno::Sequence<uno::Reference<css::sheet::XDataBarEntry>>;
+    const auto ends = property<Ends>(condition.entry, "DataBarEntries");
+    return std::any_of(ends.begin(), ends.end(), [](const auto& end) {
+        return end->getType() == css::sheet::DataBarEntryType::DATABAR_FORMULA;
+    });
+}
+
+bool hasNumberFormat(const CellCondition& condition, CalcDocument& book) {
+    const auto families = as<css::style::XStyleFamiliesSupplier>(book.model())->getStyleFamilies();
+    const uno::Reference<css::container::XNameAccess> styles(families->getByName("CellStyles"),
+                                                             uno::UNO_QUERY_THROW);
+    const auto name = property<rtl::OUString>(condition.entry, "StyleName");
+    if (!styles->hasByName(name)) return false;
+    const uno::Reference<css::beans::XPropertyState> style(styles->getByName(name),
+                                                           uno::UNO_QUERY_THROW);
+    return style->getPropertyState("NumberFormat") == css::beans::PropertyState_DIRECT_VALUE;
+}
+
+/// Whether it compares each cell with all others of its block.
+bool comparesCells(const CellCondition& condition) {
+    using namespace css::sheet::ConditionFormatOperator;
+    const auto kind = property<sal_Int32>(condition.entry, "Operator");
+    return kind >= DUPLICATE && kind <= BELOW_EQUAL_AVERAGE;
 }
 
 bool meetAny(const std::vector<CellBlock>& blocks, const CellBlock& cells) {
     return std::any_of(blocks.begin(), blocks.end(), [&](const CellBlock& each) {
         return intersection(each, cells).has_value();
+    });
+}
+
+/// Whether one of them lies partly in the cells and partly outside.
+bool reachBeyond(const std::vector<CellBlock>& blocks, const CellBlock& cells) {
+    return std::any_of(blocks.begin(), blocks.end(), [&](const CellBlock& each) {
+        const auto common = intersection(each, cells);
+        return common && *common != each;
     });
 }
 
@@ -121,10 +194,18 @@ class LossesOfSheet {
 public:
     LossesOfSheet(std::shared_ptr<SheetRecord> sheet, bool drawsBars)
         : sheet_(std::move(sheet)),
-          icons_(blocksWith(css::sheet::ConditionEntryType::ICONSET, *sheet_)),
-          lostBars_(drawsBars ? std::vector<CellBlock>()
-                              : blocksWith(css::sheet::ConditionEntryType::DATABAR, *sheet_)),
-          frames_(framesOn(*sheet_)) {}
+          icons_(blocksOf(conditionsOf(Kind::ICONSET, *sheet_), isAny)),
+          lostBars_(
+              blocksOf(conditionsOf(Kind::DATABAR, *sheet_), drawsBars ? endsInFormula : isAny)),
+          styledTables_(sheet_->book().styledTablesOn(sheet_->name())),
+          frames_(framesOn(*sheet_)) {
+        const auto all = conditionsOf(Kind::CONDITION, *sheet_);
+        byFormula_ = blocksOf(all, hasFormula);
+        amongCells_ = blocksOf(all, comparesCells);
+        withNumberFormat_ = blocksOf(all, [&](const CellCondition& condition) {
+            return hasNumberFormat(condition, sheet_->book());
+        });
+    }
 
     [[nodiscard]] std::optional<CellBlock> drawnPartOf(const CellBlock& block) const {
         return model::drawnPart(block, *sheet_);
@@ -142,6 +223,10 @@ public:
         }
         if (meetAny(icons_, block)) remarks.add(icons, item);
         if (meetAny(lostBars_, block)) remarks.add(bars, item);
+        if (meetAny(byFormula_, block) || reachBeyond(amongCells_, block))
+            remarks.add(conditions, item);
+        if (meetAny(withNumberFormat_, block)) remarks.add(numberFormats, item);
+        if (meetAny(styledTables_, block)) remarks.add(tableStyles, item);
         if (hasCellOfSeveralLooks(*sheet_, block)) remarks.add(severalLooks, item);
         if (frames_.empty()) return;
         const PlaceOfCells place = excel::placeOf(sheet_->range(block));
@@ -158,6 +243,10 @@ private:
     std::shared_ptr<SheetRecord> sheet_;
     std::vector<CellBlock> icons_;
     std::vector<CellBlock> lostBars_;
+    std::vector<CellBlock> byFormula_;
+    std::vector<CellBlock> amongCells_;
+    std::vector<CellBlock> withNumberFormat_;
+    std::vector<CellBlock> styledTables_;
     std::vector<Frame> frames_;
 };
 

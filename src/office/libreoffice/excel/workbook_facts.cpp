@@ -45,7 +45,40 @@ WorkbookFacts factsOf(office::package::Package package) {
     return facts;
 }
 
+office::model::excel::CellBlocks styledTablesIn(office::package::Package package,
+                                                const std::string& sheetPart) {
+    office::model::excel::CellBlocks blocks;
+    if (!package.has(sheetPart)) return blocks;
+    const auto& relationships = package.relationshipsOf(sheetPart);
+    for (const office::package::Relationship& one : relationships.all()) {
+        const bool isPivot = one.type.ends_with("/pivotTable");
+        if (one.isExternal || (!isPivot && !one.type.ends_with("/table"))) continue;
+        const std::string part = relationships.partOf(one);
+        if (!package.has(part)) continue;
+        const office::package::Xml table(package.read(part), part);
+        const auto child = [&](const char* name) {
+            return office::package::childCalled(table.root(), name);
+        };
+        const auto style = child(isPivot ? "pivotTableStyleInfo" : "tableStyleInfo");
+        const auto place = isPivot ? child("location") : table.root();
+        const auto cells = office::model::excel::blockOf(place.attribute("ref").value());
+        if (cells && !std::string_view(style.attribute("name").value()).empty())
+            blocks.push_back(*cells);
+    }
+    return blocks;
+}
+
 }  // namespace
+
+office::model::excel::CellBlocks readStyledTables(const rtl::OUString& url,
+                                                  const std::string& sheetPart) {
+    if (!url.startsWith("file:")) return {};
+    try {
+        return styledTablesIn(office::package::Package::open(pathOfUrl(url)), sheetPart);
+    } catch (const office::package::PackageError&) {
+        return {};
+    }
+}
 
 WorkbookFacts readWorkbookFacts(const rtl::OUString& url) {
     if (!url.startsWith("file:")) return {};

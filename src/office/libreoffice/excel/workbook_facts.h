@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "office/libreoffice/uno_values.h"
+#include "office/model/excel/cell_block.h"
 
 namespace libreoffice::excel {
 
@@ -28,5 +29,10 @@ struct WorkbookFacts {
 
 /// Read from the file itself, which is let go of again at once.
 [[nodiscard]] WorkbookFacts readWorkbookFacts(const rtl::OUString& url);
+
+/// The cells of a sheet's tables and pivot tables that a style of tables colours, by the part that
+/// holds the sheet. LibreOffice draws no such style.
+[[nodiscard]] office::model::excel::CellBlocks readStyledTables(const rtl::OUString& url,
+                                                                const std::string& sheetPart);
 
 }  // namespace libreoffice::excel

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "office/package/office_file.h"
@@ -52,11 +53,29 @@ void selectSheet(Package& workbook, const std::string& sheet, bool isSelected) {
     if (isChanged) workbook.replace(sheet, head.bytes());
 }
 
-/// The cells that the sheet says are in use.
+/// From the first cell that a sheet's markup holds to the last.
+CellBlock cellsIn(std::string_view sheet) {
+    constexpr std::string_view mark = "c r=\"";
+    std::optional<CellBlock> all;
+    for (auto at = sheet.find(mark); at != std::string_view::npos; at = sheet.find(mark, at)) {
+        at += mark.size();
+        const auto cell = blockOf(sheet.substr(at, sheet.find('"', at) - at));
+        if (!cell) continue;
+        if (!all) all = cell;
+        all = {std::min(all->firstColumn, cell->firstColumn),
+               std::min(all->firstRow, cell->firstRow), std::max(all->lastColumn, cell->lastColumn),
+               std::max(all->lastRow, cell->lastRow)};
+    }
+    return all.value_or(CellBlock());
+}
+
+/// The cells that the sheet says are in use. Some programs say "A1" of every sheet, or nothing.
 CellBlock usedCells(const Package& workbook, const std::string& sheet) {
-    const SheetHead head(workbook.read(sheet), sheet);
-    const auto used = childNamed(head.root(), ns::spreadsheet, "dimension");
-    return blockOf(used.attribute("ref").value()).value_or(CellBlock());
+    const std::string bytes = workbook.read(sheet);
+    const SheetHead head(bytes, sheet);
+    const auto dimension = childNamed(head.root(), ns::spreadsheet, "dimension");
+    const auto used = blockOf(dimension.attribute("ref").value());
+    return used && used->cells() > 1 ? *used : cellsIn(bytes);
 }
 
 /// Nothing for a sheet that is a chart. Of whole columns or rows, those that are in use.

@@ -10,10 +10,12 @@ namespace office::package {
 
 namespace {
 
-/// Functions whose cells don't stand in the formula, or not on the sheet.
-constexpr std::array<std::string_view, 10> farFunctions = {
-    "indirect", "getpivotdata",     "rtd",          "cubemember",         "cubevalue",
-    "cubeset",  "cuberankedmember", "cubesetcount", "cubememberproperty", "cubekpimember"};
+/// Functions whose cells don't stand in the formula, or not on the sheet. The last one takes what
+/// another formula spills, and only with what a copy of a sheet goes without.
+constexpr std::array<std::string_view, 11> farFunctions = {
+    "indirect",         "getpivotdata",     "rtd",          "cubemember",         "cubevalue",
+    "cubeset",          "cuberankedmember", "cubesetcount", "cubememberproperty", "cubekpimember",
+    "_xlfn.anchorarray"};
 
 bool isOfWord(char c) {
     const auto code = static_cast<unsigned char>(c);
