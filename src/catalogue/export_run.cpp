@@ -46,10 +46,9 @@ void ProgressStep(session::OfficeSession& session, std::int32_t item, std::int32
 }
 
 void TellCancelled(session::OfficeSession& session, std::int32_t exported, std::int32_t total) {
-    session::ShowNotice(
+    session::ShowInfoNotice(
         session.notices,
-        fmt::format("The export was cancelled: {} of {} items were exported.", exported, total),
-        "Murvane", "info", session::buttons::okOnly);
+        fmt::format("The export was cancelled: {} of {} items were exported.", exported, total));
 }
 
 void RestoreScreenUpdating(session::OfficeSession& session) {

@@ -14,6 +14,7 @@
 #include "office/text.h"
 #include "panels/notices.h"
 #include "session/powerpoint_session.h"
+#include "session/read_only.h"
 
 namespace catalogue {
 
@@ -231,7 +232,7 @@ void reviewWord(session::OfficeSession& session, Lines& blockers) {
     scope.attempt([&] { document = word.get("ActiveDocument").toObject(); });
     if (document.isNothing()) {
         blockers.emplace_back("No active Word document is open. Open a document, then try again.");
-    } else if (scope.read([&] { return document.get("ReadOnly").toBool(); }, false)) {
+    } else if (session::isReadOnly(document)) {
         blockers.emplace_back(
             "The Word document is opened for reading only. Open it for editing or save it "
             "under another name, then try again.");

@@ -133,10 +133,10 @@ private:
 
     // Destinations (userform_obj_targets.cpp).
     struct Target {
-        bool allFormats;
-        bool predefinedSlides;
         std::string_view newSlidesCaption;
-        bool pasteExpress;
+        bool allFormats = false;
+        bool predefinedSlides = false;
+        bool pasteExpress = false;
     };
     void ShowPowerPointTarget();
     void ShowWordTarget();

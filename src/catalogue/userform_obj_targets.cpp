@@ -84,27 +84,32 @@ bool UserformObj::nameDocument() {
 
 void UserformObj::ShowPowerPointTarget() {
     if (!namePresentation()) return;
-    showTarget({true, true, "Paste to new created slides", true});
+    showTarget({.newSlidesCaption = "Paste to new created slides",
+                .allFormats = true,
+                .predefinedSlides = true,
+                .pasteExpress = true});
     PasteExpress.caption = "*DoubleClick to paste displayed item only";
 }
 
 void UserformObj::ShowWordTarget() {
     if (!nameDocument()) return;
-    showTarget({true, false, "Paste to new created pages", true});
+    showTarget({.newSlidesCaption = "Paste to new created pages",
+                .allFormats = true,
+                .pasteExpress = true});
 }
 
 void UserformObj::ShowPdfTarget() {
-    showTarget({false, false, "To new PDF file", false});
+    showTarget({.newSlidesCaption = "To new PDF file"});
 }
 
 void UserformObj::ShowHtmlTarget() {
     DestinationFile.caption = "To a new HTML file ";
-    showTarget({false, false, "Paste to new created pages", false});
+    showTarget({.newSlidesCaption = "Paste to new created pages"});
 }
 
 void UserformObj::ShowImageTarget() {
     DestinationFile.caption = "Image files";
-    showTarget({false, false, "Paste to image files", false});
+    showTarget({.newSlidesCaption = "Paste to image files"});
 }
 
 void UserformObj::showTarget(const Target& target) {

@@ -21,9 +21,8 @@ std::string cantWriteTo(const std::string& folder) {
 
 void openOrName(session::OfficeSession& session, const std::string& path) {
     if (session.host.openFile(path)) return;
-    session::ShowNotice(session.notices,
-                        fmt::format("There is no program to open it with. It is here:\r{}", path),
-                        "Murvane", "info", session::buttons::okOnly);
+    session::ShowInfoNotice(
+        session.notices, fmt::format("There is no program to open it with. It is here:\r{}", path));
 }
 
 }  // namespace destinations

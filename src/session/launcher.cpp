@@ -119,10 +119,10 @@ std::optional<int> runFreeCommand(OfficeSession& session, std::string_view comma
 }
 
 void offerToOpenWorkbook(OfficeSession& session) {
-    const int reply = ShowNotice(session.notices,
-                                 "Murvane didn't found an open Excel file \r\r"
-                                 "Would you want to open one?",
-                                 "Murvane", "info", buttons::question);
+    const int reply = ShowConfirmNotice(session.notices,
+                                        "Murvane didn't found an open Excel file \r\r"
+                                        "Would you want to open one?",
+                                        "Murvane");
     if (reply != answer::ok) return;
     OpenWorkbookPrompt(session);
     session.ActiveBook = session.ExcelApp.get("ActiveWorkbook").toObject();
@@ -136,12 +136,11 @@ int runMainForm(OfficeSession& session, const CommandHandlers& handlers) {
         session.host.letEventsRun();
         return OpenMainForm(session, handlers);
     } else {
-        ShowNotice(
+        ShowInfoNotice(
             session.notices,
             "Murvane didn't find any chart ot named range to paste from the current "
             "workbook!\r\rPlease open another workbook or create at least one chart or named "
-            "range in the current one in order to open Murvane main form in batch mode",
-            "Murvane", "info", buttons::okOnly);
+            "range in the current one in order to open Murvane main form in batch mode");
     }
     return commandDone;
 }

@@ -8,6 +8,10 @@ int ShowNotice(NoticePresenter& presenter, std::string_view message, std::string
         {std::string(message), std::string(title), std::string(kind), buttons, {}});
 }
 
+int ShowInfoNotice(NoticePresenter& presenter, std::string_view message, std::string_view title) {
+    return ShowNotice(presenter, message, title, "info", buttons::okOnly);
+}
+
 int ShowWarningNotice(NoticePresenter& presenter, std::string_view message,
                       std::string_view title) {
     return ShowNotice(presenter, message, title, "warning", buttons::okOnly);

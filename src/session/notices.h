@@ -45,6 +45,8 @@ public:
 /// The calls that all parts of the program use: message first, title second.
 int ShowNotice(NoticePresenter& presenter, std::string_view message, std::string_view title,
                std::string_view kind, int buttons);
+int ShowInfoNotice(NoticePresenter& presenter, std::string_view message,
+                   std::string_view title = "Murvane");
 int ShowWarningNotice(NoticePresenter& presenter, std::string_view message,
                       std::string_view title = "Murvane");
 int ShowErrorNotice(NoticePresenter& presenter, std::string_view message,

@@ -1,6 +1,7 @@
 #include "session/store_sheet.h"
 
 #include "office/failure_patterns.h"
+#include "session/read_only.h"
 
 namespace session {
 
@@ -11,7 +12,7 @@ constexpr int veryHidden = 2;
 }  // namespace
 
 bool CanKeepStore(OfficeSession& session) {
-    if (office::orElse([&] { return session.ActiveBook.get("ReadOnly").toBool(); }, false)) {
+    if (isReadOnly(session.ActiveBook)) {
         ShowWarningNotice(session.notices,
                           "The workbook is read-only, and Murvane keeps its list in the workbook.\r"
                           "Open it for editing or save it under another name,\r"
