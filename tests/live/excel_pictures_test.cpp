@@ -10,6 +10,7 @@
 #include <com/sun/star/text/WritingMode2.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
+#include <algorithm>
 #include <cmath>
 #include <fstream>
 #include <iterator>
@@ -284,6 +285,19 @@ TEST_F(ExcelPictures, TurnsARangeIntoAnOpaquePictureAndLeavesTheWorkbookAlone) {
                         {"ActiveWorkbook.Saved", true}});
     EXPECT_EQ(sheet(book, "Wide").get("ChartObjects").get("Count").toLong(), 0);
     EXPECT_EQ(openDocuments().size(), 1U);
+}
+
+TEST_F(ExcelPictures, HasLettersOfTheAutomaticColourWhiteOnADarkGround) {
+    const Object book = open("tables.xlsx");
+    const support::PngPixels picture =
+        support::pixelsOf(bytesOf(pictureOf(sheet(book, "Unsaid").get("Range", "A1"))));
+    int lightest = 0;
+    // The white ground of the picture may be seen beyond its right and lower edges.
+    for (std::uint32_t y = 0; y < picture.height * 3 / 4; ++y)
+        for (std::uint32_t x = 0; x < picture.width / 2; ++x)
+            lightest =
+                std::max<int>(lightest, picture.rgba[std::size_t{4} * (y * picture.width + x)]);
+    EXPECT_GT(lightest, 200);
 }
 
 TEST_F(ExcelPictures, ShowsAHiddenSheetOnlyForTheMomentOfTheCopy) {

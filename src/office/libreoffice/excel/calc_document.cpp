@@ -1,5 +1,6 @@
 #include "office/libreoffice/excel/calc_document.h"
 
+#include <com/sun/star/awt/XWindow.hpp>
 #include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/drawing/XShapes.hpp>
@@ -180,7 +181,12 @@ CopyingWindow CalcDocument::copyingWindow() {
     if (!found.selection.is())
         office::refuse("Range.Copy", "The workbook is shown in print preview");
     found.copier = as<css::datatransfer::XTransferableSupplier>(found.window);
-    if (desk_.opensHidden()) unseenWindow_ = found;
+    if (desk_.opensHidden()) {
+        // Copies from a hidden window have letters of the automatic colour black on dark grounds
+        // too. The suite that opens it has no screen.
+        found.window->getFrame()->getContainerWindow()->setVisible(true);
+        unseenWindow_ = found;
+    }
     return found;
 }
 
