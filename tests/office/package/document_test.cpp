@@ -42,6 +42,7 @@ TEST_F(DocumentFile, KnowsWhetherItsLastPageIsEmpty) {
         {cover + ahead, true},
         {cover + section("nextPage") + empty, true},
         {cover + section("nextPage") + drawing, false},
+        {"<w:p><w:pPr><w:sectPr/></w:pPr><w:r><w:t>Cover</w:t></w:r></w:p>" + empty, true},
         // The kind of a section is how that one begins.
         {cover + section("continuous") + empty, true},
         {cover + section("nextPage") + section("continuous"), false},

@@ -79,20 +79,23 @@ std::int32_t WriterDocument::length() {
     return length > 1 || !objects().isAnyDrawnBehind(body_->getStart()) ? length : 2;
 }
 
-/// Goes back over empty paragraphs to a break ahead of one; a cursor passes over tables unseen.
+/// Goes back over empty paragraphs to a break ahead of one; a cursor passes over tables unseen, and
+/// stops behind one that the text begins with.
 /// What is drawn takes calls, and comes last.
 bool WriterDocument::isLastPageEmpty() {
     using css::style::BreakType;
     static const auto names = namesOf({"BreakType", "PageDescName"});
     const auto cursor = body_->createTextCursorByRange(body_->getEnd());
     const auto paragraph = as<css::text::XParagraphCursor>(cursor);
-    while (true) {
+    bool isAtBreak = false;
+    while (!isAtBreak) {
         if (!paragraph->isStartOfParagraph() || !paragraph->isEndOfParagraph()) return false;
         const auto values = as<css::beans::XMultiPropertySet>(cursor)->getPropertyValues(names);
-        if (values[0].get<BreakType>() == BreakType::BreakType_PAGE_BEFORE ||
-            values[1].hasValue() || !cursor->goLeft(1, false))
-            break;
+        isAtBreak =
+            values[0].get<BreakType>() == BreakType::BreakType_PAGE_BEFORE || values[1].hasValue();
+        if (!isAtBreak && !cursor->goLeft(1, false)) break;
     }
+    if (!isAtBreak && tableCount() > 0) return false;
     const RangeRef start = cursor->getStart();
     cursor->gotoEnd(true);
     const auto parts = as<css::container::XEnumerationAccess>(cursor)->createEnumeration();

@@ -94,10 +94,10 @@ bool FileDocument::isLastPageEmpty() {
     bool isEmpty = true;
     bool endsSection = false;
     visitInOrder(body_, [&](pugi::xml_node element) {
-        const bool isParagraph = isNamed(element, ns::word, "p");
-        const bool isShown = isNamed(element, ns::word, "tbl") ||
-                             isNamed(element, ns::word, "altChunk") || showsInLine(element);
-        if (isParagraph || isShown) {
+        const bool isWhole =
+            isNamed(element, ns::word, "tbl") || isNamed(element, ns::word, "altChunk");
+        const bool isShown = isWhole || showsInLine(element);
+        if (isWhole || isNamed(element, ns::word, "p")) {
             const bool beginsSection = std::exchange(endsSection, !!sectionEndIn(element));
             isEmpty = isEmpty || breaksPage(element) ||
                       (beginsSection && beginsOnNewPage(sectionOf(element)));
