@@ -44,11 +44,11 @@ bool endsAs(const Kind& kind, const std::string& file) {
 }
 
 /// A suite writes its own formats, for those who keep a document in one of them.
-void requireSameFormat(const std::string& input, const std::string& output) {
+void requireWritable(const FileRoute& route, const std::string& input, const std::string& output) {
     const auto ending = [](const std::string& file) {
         return office::lowerCase(apps::utf8Of(apps::pathOf(file).extension()));
     };
-    if (ending(input) != ending(output))
+    if (route.isFile || ending(input) != ending(output))
         throw UsageError(fmt::format(
             "{} can't be written: only a copy of a document of that kind is one. Choose .docx.",
             output));
@@ -102,7 +102,9 @@ FileRoute routeFor(const Kind& kind, const Options& options, const std::string& 
     if (options.targetOf(kind.destination) == nullptr) return {.isFile = true, .remarks = {}};
     FileRoute route = lookUp(kind, options, input);
     const std::string output = outputOf(kind, options);
-    if (!output.empty() && !endsAs(kind, output)) requireSameFormat(input, output);
+    const bool isCopyOfOpen = options.attach || kind.destination != Destination::Word;
+    if (!isCopyOfOpen && !output.empty() && !endsAs(kind, output))
+        requireWritable(route, input, output);
     if (!route.isFile && keepsMacros(kind, output))
         throw UsageError(fmt::format("{} can't be written: the suite writes no {}. Choose {}.",
                                      output, kind.macroEnding, kind.ending));

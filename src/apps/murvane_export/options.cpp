@@ -105,7 +105,8 @@ void declareFiles(CLI::App& app, Options& options, RawTexts& raw) {
         ->type_name("slides|word|pdf|html|images");
     app.add_option(
            "--output", raw.outputs,
-           "File to write: .pptx, .pptm, .docx, .docm or .pdf; a folder for html and images")
+           "File to write: .pptx, .pptm, .docx, .docm or .pdf, .odt or .doc where --into is\n"
+           "one; a folder for html and images")
         ->allow_extra_args(false)
         ->type_name("OUT");
     app.add_option("--into", raw.into,
