@@ -177,7 +177,7 @@ std::pair<std::size_t, std::size_t> shownBetween(const std::vector<std::int32_t>
 std::int32_t automaticColourOn(const std::optional<std::int32_t>& fill) {
     constexpr std::int32_t black = 0, white = 0xFFFFFF;
     // Found by trying: the ground of LibreOffice's shapes is none of the dark ones for it.
-    constexpr double lightest = 0.345;
+    constexpr double lightest = 88.0 / 255;
     constexpr std::int32_t groundOfShapes = 0xCF9F72;
     if (!fill || *fill == groundOfShapes) return black;
     const double luminance = 0.2126 * linear(*fill & 0xFF) + 0.7152 * linear(*fill >> 8 & 0xFF) +

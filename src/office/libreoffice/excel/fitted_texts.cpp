@@ -29,8 +29,10 @@ std::int32_t groundOf(const CellLook& cell) {
 
 class TextFitter {
 public:
-    TextFitter(TableLook& table, TextWidths& widths, NumberFormats& formats)
+    TextFitter(TableLook& table, const std::vector<CellValue>& values, TextWidths& widths,
+               NumberFormats& formats)
         : table_(table),
+          values_(values),
           widths_(widths),
           formats_(formats) {}
 
@@ -188,12 +190,14 @@ private:
     }
 
     /// Whether this text can run over into the cell at this place of its row. The cell would lose a
-    /// ground of its own.
+    /// ground of its own; a number stops texts though nothing of it is shown.
     [[nodiscard]] bool isFree(const CellLook& text, std::size_t row, std::size_t column) {
         if (column >= table_.columnWidthsPt.size()) return false;
         const CellLook& cell = at(row, column);
-        return !cell.isCovered && cell.text.empty() && cell.columns == 1 && cell.rows == 1 &&
-               groundOf(cell) == groundOf(text) && !cell.bar;
+        const bool hasNumber =
+            values_[row * table_.columnWidthsPt.size() + column].number.has_value();
+        return !hasNumber && !cell.isCovered && cell.text.empty() && cell.columns == 1 &&
+               cell.rows == 1 && groundOf(cell) == groundOf(text) && !cell.bar;
     }
 
     bool spanNext(std::size_t row, std::size_t column) {
@@ -249,6 +253,7 @@ private:
     }
 
     TableLook& table_;
+    const std::vector<CellValue>& values_;
     TextWidths& widths_;
     NumberFormats& formats_;
 };
@@ -257,7 +262,7 @@ private:
 
 void fitTexts(TableLook& table, const std::vector<CellValue>& values, TextWidths& widths,
               NumberFormats& formats) {
-    TextFitter fitter(table, widths, formats);
+    TextFitter fitter(table, values, widths, formats);
     const std::size_t columns = table.columnWidthsPt.size();
     for (std::size_t place = 0; place < table.cells.size(); ++place)
         fitter.fit(place / columns, place % columns, values[place]);

@@ -3,10 +3,12 @@
 #include <com/sun/star/beans/XPropertyState.hpp>
 #include <com/sun/star/lang/XServiceInfo.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
+#include <com/sun/star/sheet/ColorScaleEntryType.hpp>
 #include <com/sun/star/sheet/ConditionEntryType.hpp>
 #include <com/sun/star/sheet/ConditionFormatOperator.hpp>
 #include <com/sun/star/sheet/DataBarEntryType.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
+#include <com/sun/star/sheet/XColorScaleEntry.hpp>
 #include <com/sun/star/sheet/XDataBarEntry.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
 #include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
@@ -20,6 +22,7 @@
 #include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/excel/data_bars.h"
 #include "office/libreoffice/excel/table_of_cells.h"
+#include "office/text.h"
 
 namespace libreoffice::excel {
 
@@ -113,20 +116,31 @@ bool isAny(const CellCondition& /*condition*/) {
 /// A copy of cells calculates no formula of a condition but what is a number or a text.
 bool hasFormula(const CellCondition& condition) {
     for (const char* name : {"Formula1", "Formula2"}) {
-        const auto formula = fromUno(property<rtl::OUString>(condition.entry, name));
-        if (!formula.starts_with('"') &&
-            formula.find_first_not_of("+-.,0123456789Ee%") != std::string::npos)
+        auto formula = fromUno(property<rtl::OUString>(condition.entry, name));
+        if (formula.ends_with('%')) formula.pop_back();
+        if (!formula.empty() && !formula.starts_with('"') && !office::numberOf(formula))
             return true;
     }
     return false;
 }
 
-bool endsInFormula(const CellCondition& condition) {
-    using Ends = uno::Sequence<uno::Reference<css::sheet::XDataBarEntry>>;
-    const auto ends = property<Ends>(condition.entry, "DataBarEntries");
-    return std::any_of(ends.begin(), ends.end(), [](const auto& end) {
-        return end->getType() == css::sheet::DataBarEntryType::DATABAR_FORMULA;
-    });
+/// Whether an end of a data bar or of a colour scale is one.
+template <class Entry>
+bool endsInFormula(const CellCondition& condition, const char* entries, sal_Int32 formula) {
+    using Ends = uno::Sequence<uno::Reference<Entry>>;
+    const auto ends = property<Ends>(condition.entry, entries);
+    return std::any_of(ends.begin(), ends.end(),
+                       [&](const auto& end) { return end->getType() == formula; });
+}
+
+bool barEndsInFormula(const CellCondition& condition) {
+    return endsInFormula<css::sheet::XDataBarEntry>(condition, "DataBarEntries",
+                                                    css::sheet::DataBarEntryType::DATABAR_FORMULA);
+}
+
+bool scaleEndsInFormula(const CellCondition& condition) {
+    return endsInFormula<css::sheet::XColorScaleEntry>(
+        condition, "ColorScaleEntries", css::sheet::ColorScaleEntryType::COLORSCALE_FORMULA);
 }
 
 bool hasNumberFormat(const CellCondition& condition, CalcDocument& book) {
@@ -196,11 +210,13 @@ public:
         : sheet_(std::move(sheet)),
           icons_(blocksOf(conditionsOf(Kind::ICONSET, *sheet_), isAny)),
           lostBars_(
-              blocksOf(conditionsOf(Kind::DATABAR, *sheet_), drawsBars ? endsInFormula : isAny)),
+              blocksOf(conditionsOf(Kind::DATABAR, *sheet_), drawsBars ? barEndsInFormula : isAny)),
           styledTables_(sheet_->book().styledTablesOn(sheet_->name())),
           frames_(framesOn(*sheet_)) {
         const auto all = conditionsOf(Kind::CONDITION, *sheet_);
         byFormula_ = blocksOf(all, hasFormula);
+        const auto scales = blocksOf(conditionsOf(Kind::COLORSCALE, *sheet_), scaleEndsInFormula);
+        byFormula_.insert(byFormula_.end(), scales.begin(), scales.end());
         amongCells_ = blocksOf(all, comparesCells);
         withNumberFormat_ = blocksOf(all, [&](const CellCondition& condition) {
             return hasNumberFormat(condition, sheet_->book());
