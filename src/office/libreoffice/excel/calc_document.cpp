@@ -1,5 +1,6 @@
 #include "office/libreoffice/excel/calc_document.h"
 
+#include <com/sun/star/awt/PosSize.hpp>
 #include <com/sun/star/awt/XWindow.hpp>
 #include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/document/XUndoManagerSupplier.hpp>
@@ -163,14 +164,16 @@ void CalcDocument::selectAgainLater(const uno::Any& selected) {
     if (!selectedBefore_.hasValue()) selectedBefore_ = selected;
 }
 
+void CalcDocument::selectAgain() {
+    if (!selectedBefore_.hasValue()) return;
+    asFarAsPossible(
+        [&] { as<css::view::XSelectionSupplier>(controller())->select(selectedBefore_); });
+    selectedBefore_.clear();
+}
+
 uno::Reference<css::frame::XController> CalcDocument::window() {
-    auto window = controller();
-    if (selectedBefore_.hasValue()) {
-        asFarAsPossible(
-            [&] { as<css::view::XSelectionSupplier>(window)->select(selectedBefore_); });
-        selectedBefore_.clear();
-    }
-    return window;
+    selectAgain();
+    return controller();
 }
 
 CopyingWindow CalcDocument::copyingWindow() {
@@ -184,7 +187,9 @@ CopyingWindow CalcDocument::copyingWindow() {
     if (desk_.opensHidden()) {
         // Copies from a hidden window have letters of the automatic colour black on dark grounds
         // too. The suite that opens it has no screen.
-        found.window->getFrame()->getContainerWindow()->setVisible(true);
+        const auto shown = found.window->getFrame()->getContainerWindow();
+        shown->setPosSize(0, 0, 1, 1, css::awt::PosSize::POSSIZE);
+        shown->setVisible(true);
         unseenWindow_ = found;
     }
     return found;
@@ -195,7 +200,7 @@ uno::Reference<css::sheet::XSpreadsheetView> CalcDocument::view() {
 }
 
 void CalcDocument::removeSheet(const model::SheetPtr& sheet) {
-    static_cast<void>(window());
+    selectAgain();
     sheetList().remove(sheet);
 }
 
@@ -216,7 +221,7 @@ model::SheetPtr CalcDocument::activeSheet() {
 }
 
 model::Selection CalcDocument::selection() {
-    static_cast<void>(window());
+    selectAgain();
     const uno::Reference<uno::XInterface> selected = model()->getCurrentSelection();
     if (const auto range = tryAs<css::sheet::XCellRangeAddressable>(selected); range.is()) {
         const auto address = range->getRangeAddress();

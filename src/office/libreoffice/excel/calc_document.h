@@ -87,6 +87,7 @@ public:
 
 private:
     [[nodiscard]] const WorkbookFacts& facts();
+    void selectAgain();
 
     Desk& desk_;
     bool leavesFileAlone_ = false;
