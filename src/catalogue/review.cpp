@@ -68,6 +68,9 @@ void reviewItems(session::OfficeSession& session, const ExportList& list, Review
     } else {
         if (exportable > 0) {
             tellSkipped(hidden, "on hidden worksheets");
+        } else if (gone > 0) {
+            texts.Blockers.emplace_back("None of the checked items can be exported.");
+            tellSkipped(hidden, "on hidden worksheets");
         } else {
             texts.Blockers.emplace_back(
                 "All checked items are on hidden worksheets and cannot be exported. Show those "

@@ -27,7 +27,7 @@ const char* filterOf(office::PictureKind kind) {
 }
 
 /// By way of a chart on the sheet: a range has no export of its own. The chart goes again, whatever
-/// happens.
+/// happens; that it can't be deleted is told unless something else has failed before.
 void exportRange(const Object& range, const std::string& file, const char* filter) {
     const Object sheet = range.get("Worksheet").toObject();
     CopyCellsAsPicture(range, CopyFormat::Vectors);
@@ -35,11 +35,16 @@ void exportRange(const Object& range, const std::string& file, const char* filte
         sheet.call("ChartObjects")
             .call("Add", 0, 0, range.get("Width").toDouble(), range.get("Height").toDouble())
             .toObject();
-    const office::AtEnd gone([&] { holder.call("Delete"); });
-    holder.call("Activate");
-    const Object chart = holder.get("Chart").toObject();
-    chart.call("Paste");
-    chart.call("Export", file, filter);
+    try {
+        holder.call("Activate");
+        const Object chart = holder.get("Chart").toObject();
+        chart.call("Paste");
+        chart.call("Export", file, filter);
+    } catch (const office::Failure&) {
+        office::asFarAsPossible([&] { holder.call("Delete"); });
+        throw;
+    }
+    holder.call("Delete");
 }
 
 }  // namespace
