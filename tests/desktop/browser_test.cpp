@@ -185,8 +185,12 @@ TEST_F(Browser, ATypedValueIsReadAndEnteredByTheDefaultButton) {
                                    QWebEngineScript::ApplicationWorld,
                                    [&](const QVariant&) { isLeft = true; });
     ASSERT_TRUE(waitUntil([&] { return isLeft; }));
-    QTest::keyClick(engine().focusProxy(), Qt::Key_Return);
-    EXPECT_TRUE(waitFor("Continue", 2, 3s)) << "also when nothing on the page has the keyboard";
+    // The engine tells its own process of the loss later than it tells the page, and a key that
+    // comes between the two finds nobody.
+    EXPECT_TRUE(waitUntil([&] {
+        QTest::keyClick(engine().focusProxy(), Qt::Key_Return);
+        return waitFor("Continue", 2, 1s);
+    })) << "also when nothing on the page has the keyboard";
 }
 
 TEST_F(Browser, APageAnswersAboutItselfAndItsOwnScriptsDoNotRun) {

@@ -172,7 +172,6 @@ TEST_F(Windows, TheActiveDocumentOfAKindIsTheOneThatTheUserWasInLast) {
     } while (std::next_permutation(order.begin(), order.end()));
 }
 
-/// A new workbook in a window, with two sheets of numbers.
 TEST_F(Windows, ATextThatNobodySeesHasNothingOfTheUsersLetterhead) {
     const Value texts = word::applicationObject(freshDesk()).get("Documents");
     const auto add = [&](bool isVisible) { return texts.call("Add", arg("Visible", isVisible)); };
@@ -189,6 +188,7 @@ TEST_F(Windows, ATextThatNobodySeesHasNothingOfTheUsersLetterhead) {
     }
 }
 
+/// A new workbook in a window, with two sheets of numbers.
 class WorkbookInAWindow : public Windows {
 protected:
     WorkbookInAWindow() {
