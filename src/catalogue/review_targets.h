@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/export_list.h"
+#include "catalogue/review.h"
+#include "session/office_session.h"
+
+/// What a review finds in the applications that the items go to.
+namespace catalogue {
+
+/// Each line once.
+void AddReviewItem(std::vector<std::string>& reviewItems, std::string line);
+
+/// What keeps an export to slides from running: PowerPoint, its presentation and, where slides are
+/// predefined, the slide numbers of the rows on visible sheets.
+void reviewPowerPoint(session::OfficeSession& session, const ExportList& list,
+                      const ExportChoices& choices, std::vector<std::string>& blockers);
+
+/// What keeps an export to Word from running: Word and its document.
+void reviewWord(session::OfficeSession& session, std::vector<std::string>& blockers);
+
+/// What the chosen format can't do for the items that it will be asked for.
+void reviewFormat(session::OfficeSession& session, const ExportList& list, ExportFormat format,
+                  std::string_view application, ReviewTexts& texts);
+
+}  // namespace catalogue
