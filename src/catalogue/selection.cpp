@@ -12,11 +12,12 @@ std::string typeOf(const office::Value& value) {
 
 }  // namespace
 
-Selected whatIsSelected(const session::OfficeSession& session) {
-    if (typeOf(session.ActiveBook.get("ActiveSheet")) == "Chart") return Selected::ChartSheet;
-    const std::string type = typeOf(session.ExcelApp.get("Selection"));
-    if (type == "Range") return Selected::Cells;
-    return type == "ChartArea" ? Selected::Chart : Selected::None;
+Selection whatIsSelected(const session::OfficeSession& session) {
+    if (typeOf(session.ActiveBook.get("ActiveSheet")) == "Chart") return {Selected::ChartSheet, {}};
+    const office::Value selected = session.ExcelApp.get("Selection");
+    const std::string type = typeOf(selected);
+    if (type == "Range") return {Selected::Cells, selected.toObject()};
+    return {type == "ChartArea" ? Selected::Chart : Selected::None, {}};
 }
 
 }  // namespace catalogue

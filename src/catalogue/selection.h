@@ -7,6 +7,11 @@ namespace catalogue {
 /// What is selected in Excel, as far as it can be exported.
 enum class Selected { None, ChartSheet, Chart, Cells };
 
-[[nodiscard]] Selected whatIsSelected(const session::OfficeSession& session);
+struct Selection {
+    Selected kind = Selected::None;
+    office::Object cells;  ///< nothing if it is something else
+};
+
+[[nodiscard]] Selection whatIsSelected(const session::OfficeSession& session);
 
 }  // namespace catalogue

@@ -17,13 +17,14 @@ using session::OfficeSession;
 
 /// Copies the selection if it is something that a picture can be taken of.
 bool copySelection(OfficeSession& session) {
-    const Selected selected = catalogue::whatIsSelected(session);
+    const catalogue::Selection selection = catalogue::whatIsSelected(session);
+    const Selected selected = selection.kind;
     if (selected == Selected::ChartSheet || selected == Selected::Chart) {
         session.ActiveBook.get("ActiveChart").get("ChartArea").call("Copy");
         return true;
     }
     if (selected == Selected::None) return false;
-    const Object cells = session.ExcelApp.get("Selection").toObject();
+    const Object& cells = selection.cells;
     if (cells.get("Areas").get("Count").toLong() != 1) return false;
     catalogue::CopyCellsAsPicture(cells, catalogue::CopyFormat::Pixels);
     return true;

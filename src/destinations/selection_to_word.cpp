@@ -90,7 +90,7 @@ private:
 void SelectionPaste::run() {
     if (!RequireWordDocument() || session::refusesAsReadOnly(session_, document_, "document"))
         return;
-    const Selected kind = catalogue::whatIsSelected(session_);
+    const Selected kind = catalogue::whatIsSelected(session_).kind;
     if (kind == Selected::None) {
         say("Nothing to paste, try again");
         return;

@@ -148,7 +148,8 @@ bool SelectionPaste::copyAndPaste() {
         pasteNamed(SourceKind::Chart, [&] { return nameOf(chart); });
         return true;
     };
-    const Selected selected = catalogue::whatIsSelected(session_);
+    const catalogue::Selection selection = catalogue::whatIsSelected(session_);
+    const Selected selected = selection.kind;
     if (selected == Selected::ChartSheet)
         return pasteChart(chartSheetMs,
                           [](const Object& chart) { return chart.get("Name").toText(); });
@@ -157,7 +158,7 @@ bool SelectionPaste::copyAndPaste() {
             return chart.get("Parent").get("Name").toText();
         });
     if (selected == Selected::None) return true;
-    const Object cells = session_.ExcelApp.get("Selection").toObject();
+    const Object& cells = selection.cells;
     if (cells.get("Areas").get("Count").toLong() > 1) {
         session::ShowWarningNotice(session_.notices, "Murvane does not support multiple selection");
         return false;

@@ -102,8 +102,10 @@ FileRoute routeFor(const Kind& kind, const Options& options, const std::string& 
     if (options.targetOf(kind.destination) == nullptr) return {.isFile = true, .remarks = {}};
     FileRoute route = lookUp(kind, options, input);
     const std::string output = outputOf(kind, options);
-    const bool isCopyOfOpen = options.attach || kind.destination != Destination::Word;
-    if (!isCopyOfOpen && !output.empty() && !endsAs(kind, output))
+    // Of presentations the output itself says how its name ends; an open document is copied as it
+    // is.
+    const bool mayBeOther = kind.destination == Destination::Word && !options.attach;
+    if (mayBeOther && !output.empty() && !endsAs(kind, output))
         requireWritable(route, input, output);
     if (!route.isFile && keepsMacros(kind, output))
         throw UsageError(fmt::format("{} can't be written: the suite writes no {}. Choose {}.",
