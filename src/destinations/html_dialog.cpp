@@ -25,15 +25,13 @@ using State = forms::CheckBox::State;
 
 DialogHTML::DialogHTML(forms::Desktop& theDesktop, session::OfficeSession& session,
                        catalogue::ExportList& list, const catalogue::ExportChoices& choices)
-    : OptionsForm(theDesktop, session, "DialogHTML", "HTML", "icon:html"),
+    : ExportDialog(theDesktop, session, list, choices, "DialogHTML", "HTML", "icon:html"),
       Check3(*this, "Check3", {}),
       SameWidthHTNL(*this, "SameWidthHTNL", {}),
       txtAmount(*this, "txtAmount", {}),
       TextBox10(*this, "TextBox10", {}),
       Label2(*this, "Label2", {}),
-      Label5(*this, "Label5", {}),
-      list_(list),
-      choices_(choices) {
+      Label5(*this, "Label5", {}) {
     Check3.caption = "Use captions as titles";
     SameWidthHTNL.caption = "Make all items same optimized width (otherwise keep Excel item size)";
     Label2.caption = "Width size factor (1-100)";
@@ -56,18 +54,15 @@ DialogHTML::DialogHTML(forms::Desktop& theDesktop, session::OfficeSession& sessi
 void DialogHTML::Form_Load() {
     beginForm();
     Label2.enabled = txtAmount.enabled = SameWidthHTNL.isChecked();
-    const std::string folder = defaultHtmlFolder(session());
-    office::ContinueOnFailure scope;
-    scope.attempt([&] { session().host.makeFolder(folder); });
-    taken_ = takenRowsOfFiles(session(), list_, choices_);
-    if (taken_ < 1) {
-        showNothingSelected();
-    } else {
-        SetPanelMessage(
-            fmt::format("{} object(s) will be inserted in {}/MurvaneXXX.Html", taken_, folder),
-            "info");
-    }
+    office::ContinueOnFailure().attempt(
+        [&] { session().host.makeFolder(defaultHtmlFolder(session())); });
+    announce(takenRowsOfFiles(session(), list_, choices_));
     showPanel();
+}
+
+std::string DialogHTML::announcement() {
+    return fmt::format("{} object(s) will be inserted in {}/MurvaneXXX.Html", taken_,
+                       defaultHtmlFolder(session()));
 }
 
 std::string DialogHTML::BuildOptionsMarkup() const {

@@ -3,14 +3,13 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_dialog.h"
 #include "destinations/html_page.h"
-#include "panels/options_form.h"
 
 namespace destinations {
 
 /// The options dialog of the export to HTML.
-class DialogHTML : public panels::OptionsForm {
+class DialogHTML : public catalogue::ExportDialog {
 public:
     DialogHTML(forms::Desktop& desktop, session::OfficeSession& session,
                catalogue::ExportList& list, const catalogue::ExportChoices& choices);
@@ -29,15 +28,12 @@ public:
 
 protected:
     [[nodiscard]] std::string BuildOptionsMarkup() const override;
+    [[nodiscard]] std::string announcement() override;
 
 private:
     void readFields();
     [[nodiscard]] HtmlOptions options();
     void runBatch(const HtmlOptions& wanted, bool asImages);
-
-    catalogue::ExportList& list_;
-    catalogue::ExportChoices choices_;
-    std::int32_t taken_ = 0;
 };
 
 void StartHtmlExport(session::OfficeSession& session, forms::Desktop& desktop,

@@ -39,7 +39,7 @@ constexpr const char* nameGroup = "fileName";
 DialogImageFiles::DialogImageFiles(forms::Desktop& theDesktop, session::OfficeSession& session,
                                    catalogue::ExportList& list,
                                    const catalogue::ExportChoices& choices)
-    : OptionsForm(theDesktop, session, "DialogImageFiles", "Images", "icon:images"),
+    : ExportDialog(theDesktop, session, list, choices, "DialogImageFiles", "Images", "icon:images"),
       Frame1(*this, "Frame1", {}),
       Png(*this, "Png", {}, &Frame1),
       Gif(*this, "Gif", {}, &Frame1),
@@ -50,9 +50,7 @@ DialogImageFiles::DialogImageFiles(forms::Desktop& theDesktop, session::OfficeSe
       Option3(*this, "Option3", {}, &Frame3),
       Option4(*this, "Option4", {}, &Frame3),
       Check2(*this, "Check2", {}),
-      ImageOutputFolder(defaultImageFolder(session)),
-      list_(list),
-      choices_(choices) {
+      ImageOutputFolder(defaultImageFolder(session)) {
     for (const FormatChip& chip : formats) (this->*chip.button).caption = chip.label;
     Option3.caption = "Name+Sheet";
     Option4.caption = "Numerator";
@@ -67,20 +65,13 @@ DialogImageFiles::DialogImageFiles(forms::Desktop& theDesktop, session::OfficeSe
 void DialogImageFiles::Form_Load() {
     beginForm();
     // The dialog for another folder begins there.
-    office::ContinueOnFailure scope;
-    scope.attempt([&] { session().host.makeFolder(ImageOutputFolder); });
-    taken_ = takenRowsOfFiles(session(), list_, choices_);
-    if (taken_ < 1) {
-        showNothingSelected();
-    } else {
-        showFolder();
-    }
+    office::ContinueOnFailure().attempt([&] { session().host.makeFolder(ImageOutputFolder); });
+    announce(takenRowsOfFiles(session(), list_, choices_));
     showPanel();
 }
 
-void DialogImageFiles::showFolder() {
-    SetPanelMessage(fmt::format("{} object(s) will be inserted in {}", taken_, ImageOutputFolder),
-                    "info");
+std::string DialogImageFiles::announcement() {
+    return fmt::format("{} object(s) will be inserted in {}", taken_, ImageOutputFolder);
 }
 
 std::string DialogImageFiles::BuildOptionsMarkup() const {
@@ -123,7 +114,7 @@ void DialogImageFiles::RunPanelAction(std::string_view key) {
     const auto chosen = session().host.chooseFolder("Please choose a folder", ImageOutputFolder);
     if (!chosen || chosen->empty()) return;
     ImageOutputFolder = *chosen;
-    if (taken_ > 0) showFolder();
+    announce(taken_);
 }
 
 ImageFileOptions DialogImageFiles::options() const {

@@ -5,15 +5,14 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_dialog.h"
 #include "destinations/image_files.h"
-#include "panels/options_form.h"
 
 namespace destinations {
 
 /// The options dialog of the export to image files. Format and names are option buttons, each in a
 /// group of its own.
-class DialogImageFiles : public panels::OptionsForm {
+class DialogImageFiles : public catalogue::ExportDialog {
 public:
     DialogImageFiles(forms::Desktop& desktop, session::OfficeSession& session,
                      catalogue::ExportList& list, const catalogue::ExportChoices& choices);
@@ -44,17 +43,13 @@ public:
 protected:
     [[nodiscard]] std::string BuildOptionsMarkup() const override;
     [[nodiscard]] std::string BuildToolsMarkup() const override;
+    [[nodiscard]] std::string announcement() override;
 
 private:
-    void showFolder();
     [[nodiscard]] ImageFileOptions options() const;
     /// Nothing if the user was asked and has not answered.
     [[nodiscard]] std::optional<bool> mayReplace(const ImageFileOptions& wanted);
     void runBatch(const ImageFileOptions& wanted);
-
-    catalogue::ExportList& list_;
-    catalogue::ExportChoices choices_;
-    std::int32_t taken_ = 0;
 };
 
 void StartImageExport(session::OfficeSession& session, forms::Desktop& desktop,

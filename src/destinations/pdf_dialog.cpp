@@ -31,15 +31,13 @@ constexpr std::array<std::pair<const char*, forms::CheckBox DialogPDF::*>, 4> ro
 
 DialogPDF::DialogPDF(forms::Desktop& theDesktop, session::OfficeSession& session,
                      catalogue::ExportList& list, const catalogue::ExportChoices& choices)
-    : OptionsForm(theDesktop, session, "DialogPDF", "PDF", "icon:word"),
+    : ExportDialog(theDesktop, session, list, choices, "DialogPDF", "PDF", "icon:word"),
       Check3(*this, "Check3", {}),
       Check1(*this, "Check1", {}),
       Check2(*this, "Check2", {}),
       CoverT(*this, "CoverT", {}),
       txtAmount(*this, "txtAmount", {}),
-      CoverText(*this, "CoverText", {}),
-      list_(list),
-      choices_(choices) {
+      CoverText(*this, "CoverText", {}) {
     Check3.caption = "Use captions as page titles";
     Check1.caption = "Include path, name and sheet at the bottom of each page";
     Check2.caption = "Open PDF file when done";
@@ -55,17 +53,13 @@ DialogPDF::DialogPDF(forms::Desktop& theDesktop, session::OfficeSession& session
 void DialogPDF::Form_Load() {
     beginForm();
     CoverText.enabled = CoverT.isChecked();
-    taken_ = takenRowsOfFiles(session(), list_, choices_);
-    if (taken_ < 1) {
-        showNothingSelected();
-    } else {
-        SetPanelMessage(
-            fmt::format("{} object(s) will be pasted to\r\r as pictures\r starting at the "
-                        "insertion point",
-                        taken_),
-            "info");
-    }
+    announce(takenRowsOfFiles(session(), list_, choices_));
     showPanel();
+}
+
+std::string DialogPDF::announcement() {
+    return fmt::format(
+        "{} object(s) will be pasted to\r\r as pictures\r starting at the insertion point", taken_);
 }
 
 std::string DialogPDF::BuildOptionsMarkup() const {

@@ -3,14 +3,13 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_dialog.h"
 #include "destinations/pdf_run.h"
-#include "panels/options_form.h"
 
 namespace destinations {
 
 /// The options dialog of the export to PDF. It stays open after a run, for another one.
-class DialogPDF : public panels::OptionsForm {
+class DialogPDF : public catalogue::ExportDialog {
 public:
     DialogPDF(forms::Desktop& desktop, session::OfficeSession& session, catalogue::ExportList& list,
               const catalogue::ExportChoices& choices);
@@ -31,14 +30,11 @@ public:
 
 protected:
     [[nodiscard]] std::string BuildOptionsMarkup() const override;
+    [[nodiscard]] std::string announcement() override;
 
 private:
     void readFields();
     [[nodiscard]] PdfOptions options();
-
-    catalogue::ExportList& list_;
-    catalogue::ExportChoices choices_;
-    std::int32_t taken_ = 0;
 };
 
 void StartPdfExport(session::OfficeSession& session, forms::Desktop& desktop,

@@ -48,13 +48,11 @@ constexpr std::array<std::pair<const char*, forms::CheckBox DialogWord::*>, 4> r
 
 DialogWord::DialogWord(forms::Desktop& theDesktop, session::OfficeSession& session,
                        catalogue::ExportList& list, const catalogue::ExportChoices& choices)
-    : OptionsForm(theDesktop, session, "DialogWord", "Word", "icon:word"),
+    : ExportDialog(theDesktop, session, list, choices, "DialogWord", "Word", "icon:word"),
       SameWidth(*this, "SameWidth", {}),
       AddCaption(*this, "AddCaption", {}),
       CheckShadow(*this, "CheckShadow", {}),
-      PdfOutput(*this, "PdfOutput", {}),
-      list_(list),
-      choices_(choices) {
+      PdfOutput(*this, "PdfOutput", {}) {
     SameWidth.caption = "Make all items same optimized width (otherwise keep Excel item size)";
     AddCaption.caption = "Insert caption below the pasted item";
     CheckShadow.caption = "Add shadow to pasted items";
@@ -74,26 +72,14 @@ void DialogWord::Form_Load() {
         desktop().unload(*this);
         return;
     }
-    nameDocument();
+    announce(takenRows(session(), list_));
     showPanel();
 }
 
-/// Decides which document the export goes to, and tells the user.
-void DialogWord::nameDocument() {
-    office::ContinueOnFailure scope;
-    taken_ = takenRows(session(), list_);
-    if (taken_ < 1) {
-        showNothingSelected();
-        return;
-    }
-    scope.attempt([&] {
-        SetPanelMessage(
-            fmt::format(
-                "{} object(s) will be pasted to\r{}\r as {}\r starting at the insertion point",
-                taken_, session().SessionDocument.get("Name").toText(),
-                formatName(choices_.format)),
-            "info");
-    });
+std::string DialogWord::announcement() {
+    return fmt::format(
+        "{} object(s) will be pasted to\r{}\r as {}\r starting at the insertion point", taken_,
+        session().SessionDocument.get("Name").toText(), formatName(choices_.format));
 }
 
 std::string DialogWord::BuildOptionsMarkup() const {
@@ -117,7 +103,7 @@ void DialogWord::ContinueOk_Click() {
     if (!documentIsThere()) {
         // With another one open the user sees its name ahead of the next click.
         if (AttachWord(session()))
-            nameDocument();
+            announce(takenRows(session(), list_));
         else
             SetPanelMessage(noWord, "warning");
         return;

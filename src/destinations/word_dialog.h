@@ -3,14 +3,13 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_dialog.h"
 #include "destinations/word_batch.h"
-#include "panels/options_form.h"
 
 namespace destinations {
 
 /// The options dialog of the export to Word.
-class DialogWord : public panels::OptionsForm {
+class DialogWord : public catalogue::ExportDialog {
 public:
     DialogWord(forms::Desktop& desktop, session::OfficeSession& session,
                catalogue::ExportList& list, const catalogue::ExportChoices& choices);
@@ -29,15 +28,12 @@ public:
 
 protected:
     [[nodiscard]] std::string BuildOptionsMarkup() const override;
+    [[nodiscard]] std::string announcement() override;
 
 private:
     [[nodiscard]] bool documentIsThere();
-    void nameDocument();
     void runBatch();
 
-    catalogue::ExportList& list_;
-    catalogue::ExportChoices choices_;
-    std::int32_t taken_ = 0;
     /// Once asked for, a PDF is made even if the row is switched off again.
     bool pdfIsWanted_ = false;
 };

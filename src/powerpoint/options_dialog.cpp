@@ -44,13 +44,11 @@ constexpr const char* slideNumberTooHigh =
 
 Dialog::Dialog(forms::Desktop& theDesktop, session::OfficeSession& session,
                catalogue::ExportList& list, const catalogue::ExportChoices& choices)
-    : OptionsForm(theDesktop, session, "Dialog", "PowerPoint", "icon:powerpoint"),
+    : ExportDialog(theDesktop, session, list, choices, "Dialog", "PowerPoint", "icon:powerpoint"),
       Frame3(*this, "Frame3", {180, 1500, 8880, 1740}),
       SlideTitle(*this, "SlideTitle", {180, 300, 8400, 300}, &Frame3),
       SourceInc(*this, "SourceInc", {180, 720, 8400, 300}, &Frame3),
-      CheckShadow(*this, "CheckShadow", {180, 1140, 8400, 300}, &Frame3),
-      list_(list),
-      choices_(choices) {
+      CheckShadow(*this, "CheckShadow", {180, 1140, 8400, 300}, &Frame3) {
     SlideTitle.caption = "Use captions as slide title";
     SourceInc.caption = "Include source file sheet at the bottom of each slide";
     CheckShadow.caption = "Add shadow to pasted items";
@@ -65,8 +63,7 @@ void Dialog::Form_Load() {
     CheckShadow.visible = false;
     if (!findsPresentation()) return;
 
-    office::ContinueOnFailure scope;
-    namePresentation(scope);
+    announcePresentation();
     showPanel();
 }
 
@@ -85,24 +82,17 @@ bool Dialog::findsPresentation() {
     return false;
 }
 
-/// Decides which presentation the export goes to, and tells the user.
-void Dialog::namePresentation(office::ContinueOnFailure& scope) {
-    taken_ = 0;
-    scope.attempt([&] {
-        taken_ = static_cast<std::int32_t>(catalogue::takeRows(session(), list_, choices_).size());
-    });
-    if (taken_ < 1) {
-        showNothingSelected();
-        return;
-    }
-    scope.attempt([&] {
-        session().SessionPresentation =
-            session().PowerPointApp.get("ActivePresentation").toObject();
-        SetPanelMessage(fmt::format("{} object(s) will be pasted to \r{}\ras {}", taken_,
-                                    session().SessionPresentation.get("Name").toText(),
-                                    formatNames.at(static_cast<std::size_t>(choices_.format))),
-                        "info");
-    });
+void Dialog::announcePresentation() {
+    announce(static_cast<std::int32_t>(office::ContinueOnFailure().read(
+        [&] { return catalogue::takeRows(session(), list_, choices_).size(); }, std::size_t{0})));
+}
+
+/// Decides which presentation the export goes to.
+std::string Dialog::announcement() {
+    session().SessionPresentation = session().PowerPointApp.get("ActivePresentation").toObject();
+    return fmt::format("{} object(s) will be pasted to \r{}\ras {}", taken_,
+                       session().SessionPresentation.get("Name").toText(),
+                       formatNames.at(static_cast<std::size_t>(choices_.format)));
 }
 
 std::string Dialog::BuildToolsMarkup() const {
@@ -145,12 +135,11 @@ void Dialog::RunPanelAction(std::string_view key) {
 }
 
 void Dialog::ContinueOk_Click() {
-    office::ContinueOnFailure scope;
-    if (!presentationIsThere(scope)) {
+    if (!presentationIsThere()) {
         // With another one open the user sees its name ahead of the next click.
         session().SessionPresentation.release();
         session::AttachPowerPoint(session());
-        namePresentation(scope);
+        announcePresentation();
         if (!session().SessionPresentation) SetPanelMessage(noPowerPoint, "warning");
         return;
     }
@@ -175,8 +164,7 @@ void Dialog::runBatch(catalogue::FailedItems& failed) {
                 choices_,
                 [&](const auto& row, const auto& failure) {
                     // Without its presentation no other item would go better.
-                    office::ContinueOnFailure asking;
-                    if (!presentationIsThere(asking)) throw office::Failure(failure);
+                    if (!presentationIsThere()) throw office::Failure(failure);
                     failed.add(row, failure);
                 },
                 options_,
@@ -184,8 +172,8 @@ void Dialog::runBatch(catalogue::FailedItems& failed) {
     ExportRows(batch);
 }
 
-bool Dialog::presentationIsThere(office::ContinueOnFailure& scope) {
-    return scope.attempt(
+bool Dialog::presentationIsThere() {
+    return office::ContinueOnFailure().attempt(
         [&] { static_cast<void>(session().SessionPresentation.get("Name").toText()); });
 }
 

@@ -3,10 +3,9 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_dialog.h"
 #include "forms/controls.h"
 #include "office/failure_patterns.h"
-#include "panels/options_form.h"
 #include "powerpoint/batch_frame.h"
 #include "session/office_session.h"
 
@@ -14,7 +13,7 @@ namespace powerpoint {
 
 /// The options dialog of the export to slides. The presentation that it names is the one that the
 /// batch goes to.
-class Dialog : public panels::OptionsForm {
+class Dialog : public catalogue::ExportDialog {
 public:
     Dialog(forms::Desktop& desktop, session::OfficeSession& session, catalogue::ExportList& list,
            const catalogue::ExportChoices& choices);
@@ -36,19 +35,17 @@ public:
 protected:
     [[nodiscard]] std::string BuildOptionsMarkup() const override;
     [[nodiscard]] std::string BuildToolsMarkup() const override;
+    [[nodiscard]] std::string announcement() override;
 
 private:
     bool findsPresentation();
-    void namePresentation(office::ContinueOnFailure& scope);
+    void announcePresentation();
     void runBatch(catalogue::FailedItems& failed);
-    [[nodiscard]] bool presentationIsThere(office::ContinueOnFailure& scope);
+    [[nodiscard]] bool presentationIsThere();
     [[nodiscard]] bool slideNumbersFit();
     [[nodiscard]] forms::CheckBox* optionOf(std::string_view key);
 
-    catalogue::ExportList& list_;
-    catalogue::ExportChoices choices_;
     SlideOptions options_;
-    std::int32_t taken_ = 0;
 };
 
 /// Begins an export to slides: the dialog comes up. Excel asks nothing meanwhile.

@@ -24,7 +24,7 @@ protected:
         desktop.answer(form, [this, links](forms::Form& dialog) {
             for (const char* link : links)
                 static_cast<void>(
-                    dynamic_cast<panels::OptionsForm&>(dialog).wbStatus_BeforeNavigate2(
+                    dynamic_cast<catalogue::ExportDialog&>(dialog).wbStatus_BeforeNavigate2(
                         std::string("murvane://") + link));
             page = test.host.written.begin()->second;
             press(dialog, "ContinueOk");

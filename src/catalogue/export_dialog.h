@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "catalogue/export_list.h"
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "forms/web_browser.h"
@@ -13,12 +14,12 @@
 #include "panels/action_panel.h"
 #include "session/office_session.h"
 
-namespace panels {
+namespace catalogue {
 
 /// What the options dialogs of all destinations have in common: the last stop ahead of an export,
 /// which says what is about to happen, offers the options, and has the button that leads on. The
 /// options live in hidden controls; the page is composed from them after every click.
-class OptionsForm : public forms::Form {
+class ExportDialog : public forms::Form {
 public:
     /// Shows a message in the panel and keeps it for the renders to come.
     void SetPanelMessage(std::string message, std::string kind);
@@ -42,8 +43,9 @@ public:
 
 protected:
     /// `destinationWord` is what the panel calls the destination, `drawing` its picture.
-    OptionsForm(forms::Desktop& desktop, session::OfficeSession& session, std::string name,
-                std::string destinationWord, std::string drawing);
+    ExportDialog(forms::Desktop& desktop, session::OfficeSession& session, ExportList& list,
+                 ExportChoices choices, std::string name, std::string destinationWord,
+                 std::string drawing);
 
     [[nodiscard]] session::OfficeSession& session() { return session_; }
 
@@ -51,19 +53,27 @@ protected:
     [[nodiscard]] virtual std::string BuildOptionsMarkup() const = 0;
     [[nodiscard]] virtual std::string BuildToolsMarkup() const { return {}; }
 
+    /// How many rows are taken, and where they will go. A failure leaves the message as it is.
+    [[nodiscard]] virtual std::string announcement() = 0;
+
     /// The beginning of a `Form_Load`.
     void beginForm();
     /// Its end: the panel is laid out and shown.
     void showPanel();
     void RenderPanel();
-    /// In place of a message: there is nothing to export, and the button leads nowhere.
-    void showNothingSelected();
+    /// Shows the announcement of so many rows. Of none there is nothing to export, and the button
+    /// leads nowhere.
+    void announce(std::int32_t taken);
     /// One of the page's rows, as its hidden box has it.
     [[nodiscard]] static std::string optionRow(std::string_view key, const forms::CheckBox& box);
     static void flip(forms::CheckBox& box);
 
+    ExportList& list_;
+    ExportChoices choices_;
+    std::int32_t taken_ = 0;
+
 private:
-    [[nodiscard]] ActionBar actionBar();
+    [[nodiscard]] panels::ActionBar actionBar();
 
     session::OfficeSession& session_;
     std::string destinationWord_;
@@ -72,4 +82,4 @@ private:
     std::optional<furniture::clsShadow> shadow_;
 };
 
-}  // namespace panels
+}  // namespace catalogue
