@@ -20,15 +20,12 @@ constexpr const char* eraseRest = "\x1b[K";
 constexpr int cancelFlag = 1;
 constexpr int yesNoFlag = 4;
 
-/// The lines of a message, whatever its line breaks are, without empty ones.
-std::vector<std::string> linesOf(std::string_view message) {
+/// The lines of a message without the empty ones.
+std::vector<std::string> printableLines(std::string_view message) {
     std::vector<std::string> lines;
-    while (!message.empty()) {
-        const std::size_t end = message.find_first_of("\r\n");
-        const std::string line(office::trim(message.substr(0, end)));
+    for (const std::string& each : office::linesOf(message)) {
+        const std::string_view line = office::trim(each);
         if (!line.empty()) lines.push_back(printable(line));
-        if (end == std::string_view::npos) break;
-        message.remove_prefix(end + 1);
     }
     return lines;
 }
@@ -54,7 +51,7 @@ void StatusLine::clear() {
 }
 
 void TerminalNotices::print(const session::Notice& notice) {
-    const std::vector<std::string> lines = linesOf(notice.message);
+    const std::vector<std::string> lines = printableLines(notice.message);
     std::string text = labelOf(notice) + ":";
     if (lines.size() == 1) text += " " + lines.front();
     for (std::size_t i = 0; lines.size() > 1 && i < lines.size(); ++i) text += "\n  " + lines[i];

@@ -9,6 +9,7 @@
 #include "destinations/word_numbers.h"
 #include "office/at_end.h"
 #include "office/failure_patterns.h"
+#include "office/text.h"
 #include "session/waits.h"
 
 namespace destinations {
@@ -141,15 +142,11 @@ void PdfPages::dressParagraph(const ParagraphLook& look) {
 void PdfPages::addCover() {
     constexpr double share = 0.3;
     bool isFirst = true;
-    std::string_view rest = options_.coverText;
-    for (bool isMore = true; isMore;) {
-        const std::size_t end = rest.find('\n');
-        isMore = end != std::string_view::npos;
+    for (const std::string& line : office::linesOf(options_.coverText)) {
         beginParagraph({.style = isFirst ? number::title : number::normal,
                         .isCentred = true,
                         .spaceBeforePt = isFirst ? height_ * share : 12});
-        selection_.call("TypeText", std::string(rest.substr(0, end)));
-        rest.remove_prefix(isMore ? end + 1 : rest.size());
+        selection_.call("TypeText", line);
         isFirst = false;
     }
     isFirstPage_ = false;

@@ -92,6 +92,16 @@ std::vector<std::string> distinctNames(std::vector<std::string> names) {
     return names;
 }
 
+std::vector<std::string> linesOf(std::string_view text) {
+    std::vector<std::string> lines;
+    while (true) {
+        const std::size_t end = text.find_first_of("\r\n");
+        lines.emplace_back(text.substr(0, end));
+        if (end == std::string_view::npos) return lines;
+        text.remove_prefix(text.substr(end).starts_with("\r\n") ? end + 2 : end + 1);
+    }
+}
+
 std::string replaceAll(std::string_view text, std::string_view what, std::string_view with) {
     std::string result;
     result.reserve(text.size());

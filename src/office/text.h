@@ -31,6 +31,9 @@ namespace office {
 /// (2)", or by the next number that is free. Empty ones stay.
 [[nodiscard]] std::vector<std::string> distinctNames(std::vector<std::string> names);
 
+/// The lines of a text, whatever its line breaks are; an empty text is one empty line.
+[[nodiscard]] std::vector<std::string> linesOf(std::string_view text);
+
 [[nodiscard]] std::string replaceAll(std::string_view text, std::string_view what,
                                      std::string_view with);
 

@@ -12,17 +12,9 @@ std::string HtmlEscape(std::string_view text) {
 }
 
 std::vector<std::string> trimmedLines(std::string_view text) {
-    const std::string normal =
-        office::replaceAll(office::replaceAll(text, "\r\n", "\n"), "\r", "\n");
-    std::vector<std::string> lines;
-    std::size_t start = 0;
-    while (true) {
-        const std::size_t end = normal.find('\n', start);
-        const auto line = std::string_view(normal).substr(start, end - start);
-        lines.emplace_back(office::trim(line));
-        if (end == std::string::npos) return lines;
-        start = end + 1;
-    }
+    std::vector<std::string> lines = office::linesOf(text);
+    for (std::string& line : lines) line = office::trim(line);
+    return lines;
 }
 
 std::string onOneLine(std::string_view text) {

@@ -34,6 +34,12 @@ TEST(Text, IgnoresTheCaseOfLettersAlone) {
         EXPECT_EQ(office::sameIgnoringCase(left, right), same) << left;
 }
 
+TEST(Text, DividesAtEveryKindOfLineBreak) {
+    using Lines = std::vector<std::string>;
+    EXPECT_EQ(office::linesOf("a\nb\rc\r\nd\n\ne\n"), (Lines{"a", "b", "c", "d", "", "e", ""}));
+    EXPECT_EQ(office::linesOf(""), Lines{""});
+}
+
 TEST(Text, TellsNamesakesApart) {
     using Names = std::vector<std::string>;
     EXPECT_EQ(office::distinctNames({"Sales", "sales (2)", "SALES", "", "Sales", "", "Ü", "ü"}),

@@ -74,13 +74,9 @@ private:
     /// Of the widest line. Blanks at the end take no room.
     [[nodiscard]] double widthOf(const CellLook& cell) {
         double widest = 0;
-        for (std::size_t start = 0; start <= cell.text.size();) {
-            const std::size_t end = std::min(cell.text.find('\n', start), cell.text.size());
-            const std::string line = cell.text.substr(start, end - start);
+        for (const std::string& line : office::linesOf(cell.text))
             widest =
                 std::max(widest, widths_.of(line.substr(0, line.find_last_not_of(' ') + 1), cell));
-            start = end + 1;
-        }
         return widest;
     }
 

@@ -16,7 +16,6 @@
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 #include <utility>
 
 #include "office/failure.h"
@@ -24,6 +23,7 @@
 #include "office/libreoffice/word/line_width.h"
 #include "office/libreoffice/word/paragraph_change.h"
 #include "office/libreoffice/word/undo_group.h"
+#include "office/text.h"
 
 namespace libreoffice::word {
 
@@ -190,13 +190,11 @@ void WriterDocument::typeText(const std::string& text) {
     const UndoGroup group(steps_, "Typing");
     removeSelected(place);
     const auto& range = caret_.sameRange();
-    std::string_view rest = text;
-    while (true) {
-        const std::size_t end = rest.find_first_of("\r\n");
-        place.text->insertString(range, toUno(rest.substr(0, end)), false);
-        if (end == std::string_view::npos) return;
-        place.text->insertControlCharacter(range, PARAGRAPH_BREAK, false);
-        rest.remove_prefix(rest.substr(end).starts_with("\r\n") ? end + 2 : end + 1);
+    bool isFirst = true;
+    for (const std::string& line : office::linesOf(text)) {
+        if (!isFirst) place.text->insertControlCharacter(range, PARAGRAPH_BREAK, false);
+        place.text->insertString(range, toUno(line), false);
+        isFirst = false;
     }
 }
 

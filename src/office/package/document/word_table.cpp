@@ -10,6 +10,7 @@
 #include "office/package/drawing/drawing.h"
 #include "office/package/drawing/table_layout.h"
 #include "office/package/xml.h"
+#include "office/text.h"
 
 namespace office::package {
 
@@ -135,10 +136,10 @@ private:
         if (text.empty()) return;
         auto run = add(paragraph, "w:r");
         writeCharacters(add(run, "w:rPr"), cell, fit);
-        std::istringstream lines(legible(text));
-        std::string line;
-        for (bool isFirst = true; std::getline(lines, line); isFirst = false) {
+        bool isFirst = true;
+        for (const std::string& line : linesOf(legible(text))) {
             if (!isFirst) add(run, "w:br");
+            isFirst = false;
             auto words = add(run, "w:t");
             words.append_attribute("xml:space").set_value("preserve");
             words.text().set(line.c_str());

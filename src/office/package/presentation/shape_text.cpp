@@ -92,17 +92,14 @@ void FileShape::setWords(const std::string& words) {
     const auto ofParagraph = childNamed(first, ns::drawing, "pPr");
     const auto before = childrenNamed(body, ns::drawing, "p");
 
-    const std::string text = replaceAll(replaceAll(words, "\r\n", "\r"), "\n", "\r");
-    for (std::size_t start = 0; start <= text.size();) {
-        const std::size_t end = std::min(text.find('\r', start), text.size());
+    for (const std::string& line : linesOf(words)) {
         const auto paragraph = insertMarkup(body, "<a:p/>");
         if (ofParagraph)
             copyInto(ofParagraph, childInOrder(paragraph, ns::drawing, "pPr", paragraphOrder));
-        writeWords(paragraph, std::string_view(text).substr(start, end - start), properties);
-        if (properties && start == end)
+        writeWords(paragraph, line, properties);
+        if (properties && line.empty())
             copyInto(properties,
                      childInOrder(paragraph, ns::drawing, "endParaRPr", paragraphOrder));
-        start = end + 1;
     }
     for (const auto& paragraph : before) body.remove_child(paragraph);
     fitText();

@@ -11,6 +11,7 @@
 #include "office/package/drawing/table_layout.h"
 #include "office/package/presentation/file_deck.h"
 #include "office/package/xml.h"
+#include "office/text.h"
 
 namespace office::package {
 
@@ -128,11 +129,7 @@ private:
     }
 
     void writeText(pugi::xml_node body, const CellLook& cell, const TextFit& fit) const {
-        std::istringstream lines(legible(cell.text));
-        std::string line;
-        do {
-            line.clear();
-            std::getline(lines, line);
+        for (const std::string& line : linesOf(legible(cell.text))) {
             auto paragraph = body.append_child("a:p");
             writeParagraph(paragraph.append_child("a:pPr"), cell, fit);
             if (line.empty()) {
@@ -142,7 +139,7 @@ private:
             auto run = paragraph.append_child("a:r");
             writeCharacters(run.append_child("a:rPr"), cell, fit);
             run.append_child("a:t").text().set(line.c_str());
-        } while (lines.good());
+        }
     }
 
     static void writeParagraph(pugi::xml_node properties, const CellLook& cell,
