@@ -11,16 +11,16 @@
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 #include <thread>
+#include <utility>
 
 #include "apps/image_file.h"
 #include "apps/opener.h"
 #include "apps/process_folder.h"
 #include "apps/whole_file.h"
 #include "office/failure.h"
+#include "office/files.h"
 #include "session/file_names.h"
 
 namespace apps {
@@ -132,13 +132,12 @@ std::string PosixHost::readFile(std::string_view path) {
         throw Failure(FailureNumber::FileNotFound, "Host.readFile",
                       "File not found: " + std::string(path));
     }
-    std::ifstream file{fs::path(path), std::ios::binary};
-    std::string bytes{std::istreambuf_iterator<char>(file), {}};
-    if (!file) {
+    auto bytes = office::bytesOf(path);
+    if (!bytes) {
         throw Failure(FailureNumber::PathFileAccess, "Host.readFile",
                       "File can't be read: " + std::string(path));
     }
-    return bytes;
+    return std::move(*bytes);
 }
 
 std::string PosixHost::helpFolder() {

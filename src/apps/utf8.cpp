@@ -9,9 +9,6 @@ namespace apps {
 
 namespace {
 
-using office::characterAt;
-using office::characterLength;
-
 struct CharacterRange {
     char32_t first;
     char32_t last;
@@ -43,45 +40,20 @@ std::size_t columnsOf(char32_t character) {
 
 }  // namespace
 
-std::size_t firstBadUtf8(std::string_view text) {
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t length = characterLength(text, at);
-        if (length == 0) return at;
-        at += length;
-    }
-    return std::string_view::npos;
-}
-
 std::size_t columnCount(std::string_view text) {
     std::size_t columns = 0;
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t length = std::max<std::size_t>(1, characterLength(text, at));
-        columns += columnsOf(characterAt(text, at));
-        at += length;
-    }
+    for (const office::Character& each : office::charactersOf(text))
+        columns += columnsOf(each.code);
     return columns;
 }
 
 std::string printable(std::string_view text, std::string_view kept) {
     std::string shown;
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t length = std::max<std::size_t>(1, characterLength(text, at));
-        const std::string_view own = text.substr(at, length);
-        const char32_t character = characterAt(text, at);
-        const bool isControl = character < 0x20 || (character >= 0x7F && character < 0xA0);
-        shown += isControl && kept.find(own) == std::string_view::npos ? " " : own;
-        at += length;
+    for (const auto& [bytes, code] : office::charactersOf(text)) {
+        const bool isControl = code < 0x20 || (code >= 0x7F && code < 0xA0);
+        shown += isControl && kept.find(bytes) == std::string_view::npos ? " " : bytes;
     }
     return shown;
-}
-
-std::filesystem::path pathOf(std::string_view text) {
-    return std::u8string(text.begin(), text.end());
-}
-
-std::string utf8Of(const std::filesystem::path& path) {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
 }
 
 }  // namespace apps

@@ -127,7 +127,7 @@ bool SelectionPaste::RequireWordDocument() {
 /// A caret counts as one letter.
 bool SelectionPaste::mayReplaceText() {
     const std::string text = selection_.get("Text").toText();
-    return text.empty() || text.size() <= office::characterLength(text, 0) ||
+    return office::charactersOf(text).size() <= 1 ||
            session_.host.ask(command_.question, title).value_or(false);
 }
 

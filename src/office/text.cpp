@@ -39,6 +39,32 @@ std::unique_ptr<icu::Collator> makeCollator() {
     return collator;
 }
 
+/// Bytes of the character that begins at a byte of the text; 0 if none does that is well-formed.
+std::size_t characterLength(std::string_view text, std::size_t at) {
+    const auto byteAt = [&](std::size_t place) { return static_cast<unsigned char>(text[place]); };
+    const unsigned char lead = byteAt(at);
+    if (lead < 0x80U) return 1;
+    const std::size_t length = lead >= 0xF0U ? 4 : lead >= 0xE0U ? 3 : 2;
+    if (lead < 0xC2U || lead > 0xF4U || at + length > text.size()) return 0;
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((byteAt(at + i) & 0xC0U) != 0x80U) return 0;
+    }
+    // Overlong forms, surrogates, and what lies beyond the last plane.
+    const unsigned char second = byteAt(at + 1);
+    const bool wrong = (lead == 0xE0U && second < 0xA0U) || (lead == 0xEDU && second > 0x9FU) ||
+                       (lead == 0xF0U && second < 0x90U) || (lead == 0xF4U && second > 0x8FU);
+    return wrong ? 0 : length;
+}
+
+char32_t codeOf(std::string_view bytes) {
+    const auto lead = static_cast<unsigned char>(bytes.front());
+    if (bytes.size() == 1) return lead;
+    char32_t code = lead & (0x7FU >> bytes.size());
+    for (const char byte : bytes.substr(1))
+        code = code << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
+    return code;
+}
+
 }  // namespace
 
 std::string_view trim(std::string_view text) {
@@ -113,30 +139,23 @@ std::string replaceAll(std::string_view text, std::string_view what, std::string
     return result.append(text, from);
 }
 
-std::size_t characterLength(std::string_view text, std::size_t at) {
-    const auto byteAt = [&](std::size_t place) { return static_cast<unsigned char>(text[place]); };
-    const unsigned char lead = byteAt(at);
-    if (lead < 0x80U) return 1;
-    const std::size_t length = lead >= 0xF0U ? 4 : lead >= 0xE0U ? 3 : 2;
-    if (lead < 0xC2U || lead > 0xF4U || at + length > text.size()) return 0;
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byteAt(at + i) & 0xC0U) != 0x80U) return 0;
+std::vector<Character> charactersOf(std::string_view text) {
+    std::vector<Character> characters;
+    characters.reserve(text.size());
+    for (std::size_t at = 0; at < text.size(); at += characters.back().bytes.size()) {
+        const auto bytes = text.substr(at, std::max<std::size_t>(characterLength(text, at), 1));
+        characters.push_back({bytes, codeOf(bytes)});
     }
-    // Overlong forms, surrogates, and what lies beyond the last plane.
-    const unsigned char second = byteAt(at + 1);
-    const bool wrong = (lead == 0xE0U && second < 0xA0U) || (lead == 0xEDU && second > 0x9FU) ||
-                       (lead == 0xF0U && second < 0x90U) || (lead == 0xF4U && second > 0x8FU);
-    return wrong ? 0 : length;
+    return characters;
 }
 
-char32_t characterAt(std::string_view text, std::size_t at) {
-    const std::size_t length = characterLength(text, at);
-    const auto lead = static_cast<unsigned char>(text[at]);
-    if (length < 2) return lead;
-    char32_t character = lead & (0x7FU >> length);
-    for (const char byte : text.substr(at + 1, length - 1))
-        character = character << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
-    return character;
+std::size_t firstBadUtf8(std::string_view text) {
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t length = characterLength(text, at);
+        if (length == 0) return at;
+        at += length;
+    }
+    return std::string_view::npos;
 }
 
 std::string colourText(std::int32_t colour) {
@@ -178,14 +197,10 @@ std::string addressWord(std::string_view text) {
 std::string linkWord(std::string_view text) {
     constexpr char32_t firstOfNone = 0xFFFE;
     std::string word;
-    for (std::size_t i = 0; i < text.size();) {
-        const std::size_t length = characterLength(text, i);
-        const std::string_view character = text.substr(i, std::max<std::size_t>(length, 1));
+    for (const auto& [bytes, code] : charactersOf(text)) {
         // Markup holds neither single bytes nor the two that stand for no character.
-        const char32_t code = characterAt(text, i);
-        const bool stays = length > 1 && code != firstOfNone && code != firstOfNone + 1;
-        word += stays ? std::string(character) : addressWord(character);
-        i += character.size();
+        const bool stays = bytes.size() > 1 && code != firstOfNone && code != firstOfNone + 1;
+        word += stays ? std::string(bytes) : addressWord(bytes);
     }
     return word;
 }

@@ -52,11 +52,17 @@ namespace office {
 /// The user's language as pages name it: "de".
 [[nodiscard]] std::string userLanguage();
 
-/// Bytes of the character that begins at a byte of the text; 0 if none does that is well-formed.
-[[nodiscard]] std::size_t characterLength(std::string_view text, std::size_t at);
+/// A character of a text. A byte that begins none that is well-formed stands for itself.
+struct Character {
+    std::string_view bytes;
+    char32_t code;
+};
 
-/// That character. A byte that begins none stands for itself.
-[[nodiscard]] char32_t characterAt(std::string_view text, std::size_t at);
+/// The characters of a text, whose bytes stay where they are.
+[[nodiscard]] std::vector<Character> charactersOf(std::string_view text);
+
+/// Where the first byte stands that is not part of well-formed UTF-8, or `npos`.
+[[nodiscard]] std::size_t firstBadUtf8(std::string_view text);
 
 /// The number that a text begins with, the way `Val` reads it: blanks skipped, a point as decimal
 /// mark, 0 when there is none. "12 px" is 12, "abc" is 0.

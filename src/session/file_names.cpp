@@ -6,6 +6,8 @@
 
 #include "office/failure.h"
 #include "office/file_address.h"
+#include "office/files.h"
+#include "office/text.h"
 
 namespace session {
 
@@ -34,30 +36,28 @@ void requireFileName(std::string_view name) {
 std::string safeFileName(std::string_view name) {
     constexpr std::size_t longest = 150;
     std::string safe;
-    for (const char sign : name) {
-        const auto code = static_cast<unsigned char>(sign);
-        const bool beginsCharacter = (code & 0xC0U) != 0x80U;
-        if (safe.size() >= longest && beginsCharacter) break;
+    for (const auto& [bytes, code] : office::charactersOf(name)) {
+        if (safe.size() >= longest) break;
+        const char sign = bytes.front();
         if (leadsElsewhere(sign) || isReserved(sign) || sign == '%') {
-            safe += fmt::format("%{:02X}", code);
+            safe += fmt::format("%{:02X}", static_cast<unsigned char>(sign));
         } else {
-            safe += sign;
+            safe += bytes;
         }
     }
     return safe;
 }
 
 std::string fileAddress(std::string_view path) {
-    return office::fileAddress(std::u8string(path.begin(), path.end()));
+    return office::fileAddress(office::pathOf(path));
 }
 
 std::string readableFileName(std::string_view name, std::size_t longest) {
-    std::size_t length = std::min(name.size(), longest);
-    const auto continues = [&](std::size_t at) {
-        return at < name.size() && (static_cast<unsigned char>(name[at]) & 0xC0U) == 0x80U;
-    };
-    while (continues(length)) --length;
-    std::string readable(name.substr(0, length));
+    std::string readable;
+    for (const auto& [bytes, code] : office::charactersOf(name)) {
+        if (readable.size() + bytes.size() > longest) break;
+        readable += bytes;
+    }
     std::replace_if(
         readable.begin(), readable.end(),
         [](char sign) { return leadsElsewhere(sign) || isReserved(sign); }, '_');

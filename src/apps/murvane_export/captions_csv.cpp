@@ -9,7 +9,6 @@
 
 #include "apps/murvane_export/errors.h"
 #include "apps/murvane_export/item_selection.h"
-#include "apps/utf8.h"
 #include "office/text.h"
 
 namespace unattended {
@@ -145,7 +144,7 @@ std::string fieldOf(const CsvRecord& record, const Header& header, Column column
 
 std::vector<CsvRecord> parseCsv(std::string_view text, std::string_view fileName) {
     if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
-    if (const std::size_t bad = apps::firstBadUtf8(text); bad != std::string_view::npos) {
+    if (const std::size_t bad = office::firstBadUtf8(text); bad != std::string_view::npos) {
         throw UsageError(
             fmt::format("{}, line {}: this is not UTF-8. Save the file as \"CSV UTF-8\".", fileName,
                         lineAt(text, bad)));

@@ -6,9 +6,9 @@
 #include <system_error>
 
 #include "apps/murvane_export/errors.h"
-#include "apps/utf8.h"
 #include "office/at_end.h"
 #include "office/failure_patterns.h"
+#include "office/files.h"
 
 namespace unattended {
 
@@ -48,17 +48,18 @@ std::string absolutePath(const fs::path& file) {
         path = fs::canonical(path, error);
         if (error) {
             throw RunError(fmt::format("{} can't be opened: the file behind it has lost its name.",
-                                       apps::utf8Of(file)));
+                                       office::utf8Of(file)));
         }
     }
-    return apps::utf8Of(path);
+    return office::utf8Of(path);
 }
 
 [[noreturn]] void complainUnopened(const fs::path& file, const office::Failure& failure) {
     const std::string reason = failure.description();
-    const bool namesFile = reason.find(apps::utf8Of(file.filename())) != std::string::npos;
-    throw RunError(namesFile ? reason + "."
-                             : fmt::format("{} can't be opened: {}.", apps::utf8Of(file), reason));
+    const bool namesFile = reason.find(office::utf8Of(file.filename())) != std::string::npos;
+    throw RunError(namesFile
+                       ? reason + "."
+                       : fmt::format("{} can't be opened: {}.", office::utf8Of(file), reason));
 }
 
 /// What a member opens. `RunError` where it can't.
@@ -157,7 +158,8 @@ void takeActiveDocuments(OfficeSession& session, const Options& options) {
     }
     session.ActiveSheetName = session.ActiveBook.get("ActiveSheet").get("Name").toText();
     const std::string active = session.ActiveBook.get("FullName").toText();
-    if (!options.book.empty() && !isSameFile(apps::pathOf(options.book), apps::pathOf(active))) {
+    if (!options.book.empty() &&
+        !isSameFile(office::pathOf(options.book), office::pathOf(active))) {
         throw RunError(
             fmt::format("The active workbook is {}, not {}. Bring that one to the front, "
                         "or leave its name out.",

@@ -3,7 +3,7 @@
 #include <fmt/format.h>
 
 #include "apps/murvane_export/errors.h"
-#include "apps/utf8.h"
+#include "office/files.h"
 #include "office/package/document/document_file.h"
 #include "office/package/package.h"
 #include "office/package/presentation/deck_file.h"
@@ -46,7 +46,7 @@ bool endsAs(const Kind& kind, const std::string& file) {
 /// A suite writes its own formats, for those who keep a document in one of them.
 void requireWritable(const FileRoute& route, const std::string& input, const std::string& output) {
     const auto ending = [](const std::string& file) {
-        return office::lowerCase(apps::utf8Of(apps::pathOf(file).extension()));
+        return office::lowerCase(office::utf8Of(office::pathOf(file).extension()));
     };
     if (route.isFile || ending(input) != ending(output))
         throw UsageError(fmt::format(
@@ -90,7 +90,7 @@ FileRoute lookUp(const Kind& kind, const Options& options, const std::string& in
     if (options.attach) return {};
     if (input.empty()) return {.isFile = true, .remarks = {}};
     try {
-        return routeOf(kind, kind.factsOf(apps::pathOf(input)), input, outputOf(kind, options));
+        return routeOf(kind, kind.factsOf(office::pathOf(input)), input, outputOf(kind, options));
     } catch (const PackageError& error) {
         // Of the older formats, or of another office: the suite knows.
         if (error.fault() == Fault::NotAPackage) return {};

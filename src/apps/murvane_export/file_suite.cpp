@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "apps/murvane_export/outputs.h"
-#include "apps/utf8.h"
+#include "office/files.h"
 #include "office/package/document/document_file.h"
 #include "office/package/document/word_table.h"
 #include "office/package/presentation/deck_file.h"
@@ -32,7 +32,7 @@ package::FileRules rulesOf(office::Suite& below, session::Host& host, const Opti
     rules.embedsSheetAlone = options.embedsSheetAlone;
     const Target* target = options.targetOf(destination);
     if (options.linksAreRelative && target != nullptr && !target->output.empty())
-        rules.linkBase = behindLinks(apps::pathOf(target->output)).parent_path();
+        rules.linkBase = behindLinks(office::pathOf(target->output)).parent_path();
     return rules;
 }
 

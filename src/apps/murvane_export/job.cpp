@@ -1,12 +1,12 @@
 #include "apps/murvane_export/job.h"
 
-#include "apps/utf8.h"
 #include "catalogue/row_copies.h"
 #include "destinations/html_export.h"
 #include "destinations/image_files.h"
 #include "destinations/pdf_run.h"
 #include "destinations/word_batch.h"
 #include "office/at_end.h"
+#include "office/files.h"
 #include "powerpoint/formats.h"
 #include "session/alerts_off.h"
 #include "session/powerpoint_session.h"
@@ -27,7 +27,7 @@ public:
         if (scene_.options.deck.empty()) {
             scene_.documents.newPresentation();
         } else {
-            scene_.documents.openPresentation(apps::pathOf(scene_.options.deck));
+            scene_.documents.openPresentation(office::pathOf(scene_.options.deck));
         }
     }
 
@@ -95,7 +95,7 @@ public:
         if (scene_.options.document.empty()) {
             scene_.documents.newDocument();
         } else {
-            scene_.documents.openDocument(apps::pathOf(scene_.options.document));
+            scene_.documents.openDocument(office::pathOf(scene_.options.document));
         }
     }
 

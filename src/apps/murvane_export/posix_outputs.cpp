@@ -15,8 +15,8 @@
 #include "apps/murvane_export/output_mode.h"
 #include "apps/murvane_export/outputs.h"
 #include "apps/process_folder.h"
-#include "apps/utf8.h"
 #include "apps/whole_file.h"
+#include "office/files.h"
 #include "office/text.h"
 
 namespace unattended {
@@ -30,7 +30,7 @@ std::string reason() {
 }
 
 std::string extensionOf(const fs::path& file) {
-    return office::lowerCase(apps::utf8Of(file.extension()));
+    return office::lowerCase(office::utf8Of(file.extension()));
 }
 
 /// One file.
@@ -167,7 +167,7 @@ void OutputFolder::requireRoomFor(const fs::path& path) const {
         throw RunError(fmt::format(
             "{} is a folder where a file is to be written; nothing was replaced. Move it "
             "elsewhere, or choose another output.",
-            apps::utf8Of(to)));
+            office::utf8Of(to)));
 }
 
 /// A folder takes another's place, which comes back if it can't.
@@ -191,12 +191,12 @@ void OutputFolder::takeIn(const fs::path& path) {
 void requireReadable(const fs::path& file, const std::string& what) {
     std::error_code ignored;
     if (fs::is_directory(file, ignored)) {
-        throw UsageError(
-            fmt::format("The {} {} is a folder. Name the file itself.", what, apps::utf8Of(file)));
+        throw UsageError(fmt::format("The {} {} is a folder. Name the file itself.", what,
+                                     office::utf8Of(file)));
     }
     if (::access(file.c_str(), R_OK) == 0) return;
     throw UsageError(fmt::format("The {} {} can't be read: {}. Check its name and its permissions.",
-                                 what, apps::utf8Of(file), reason()));
+                                 what, office::utf8Of(file), reason()));
 }
 
 void requireFile(const fs::path& file, const std::string& what) {
@@ -206,7 +206,7 @@ void requireFile(const fs::path& file, const std::string& what) {
     throw UsageError(fmt::format(
         "The {} {} is a pipe or a device, and is read more than once. Save it to a file and name "
         "that.",
-        what, apps::utf8Of(file)));
+        what, office::utf8Of(file)));
 }
 
 fs::path behindLinks(const fs::path& file) {
@@ -225,7 +225,7 @@ Output::Output(fs::path file, fs::path draftPlace, bool overwrites)
     : file_(std::move(file)),
       draftPlace_(std::move(draftPlace)),
       overwrites_(overwrites) {
-    const std::string folder = apps::utf8Of(draftPlace_);
+    const std::string folder = office::utf8Of(draftPlace_);
     std::error_code ignored;
     if (!fs::is_directory(folder, ignored)) {
         refuse(
@@ -241,16 +241,16 @@ Output::~Output() {
 }
 
 void Output::refuse(const std::string& why) const {
-    throw UsageError(fmt::format("{} can't be written: {}", apps::utf8Of(file_), why));
+    throw UsageError(fmt::format("{} can't be written: {}", office::utf8Of(file_), why));
 }
 
 void Output::failWithoutContent() const {
-    throw RunError(fmt::format("Nothing was written, so {} was not made.", apps::utf8Of(file_)));
+    throw RunError(fmt::format("Nothing was written, so {} was not made.", office::utf8Of(file_)));
 }
 
 void Output::failForAnother(const fs::path& there) {
     throw RunError(fmt::format("{} was made by somebody else meanwhile and was left alone.",
-                               apps::utf8Of(there)));
+                               office::utf8Of(there)));
 }
 
 void Output::requireOtherThan(const fs::path& input) const {
@@ -258,7 +258,7 @@ void Output::requireOtherThan(const fs::path& input) const {
     if (!fs::equivalent(file_, input, ignored)) return;
     throw UsageError(fmt::format(
         "{} is what this run reads; it is never written over. Choose another output file.",
-        apps::utf8Of(input)));
+        office::utf8Of(input)));
 }
 
 const fs::path& Output::neighbour() {
@@ -266,7 +266,7 @@ const fs::path& Output::neighbour() {
     const std::string folder = apps::makeDraftFolder(draftPlace_.string());
     if (folder.empty()) {
         throw RunError(
-            fmt::format("No file can be made in {}: {}.", apps::utf8Of(draftPlace_), reason()));
+            fmt::format("No file can be made in {}: {}.", office::utf8Of(draftPlace_), reason()));
     }
     makeNeighbour(folder);
     return neighbour_;
@@ -285,13 +285,13 @@ void Output::takeName(const fs::path& from, const fs::path& to) const {
     if (error == EEXIST) failForAnother(to);
     if (error != 0) {
         throw RunError(
-            fmt::format("{} can't be written: {}.", apps::utf8Of(to), std::strerror(error)));
+            fmt::format("{} can't be written: {}.", office::utf8Of(to), std::strerror(error)));
     }
 }
 
 std::unique_ptr<Output> outputFor(const Target& target, bool overwrites) {
     using catalogue::Destination;
-    const fs::path name = apps::pathOf(target.output);
+    const fs::path name = office::pathOf(target.output);
     const auto file = [&](const std::vector<std::string>& endings) {
         return std::make_unique<OutputFile>(name, endings, overwrites);
     };

@@ -26,6 +26,7 @@
 #include "catalogue/review.h"
 #include "office/failure.h"
 #include "office/failure_patterns.h"
+#include "office/files.h"
 #include "session/launcher.h"
 
 namespace unattended {
@@ -148,11 +149,11 @@ void Run::openDocuments() {
         takeActiveDocuments(session_, options_);
         for (const auto& output : order_.outputs) {
             for (const auto* open : {&session_.SessionPresentation, &session_.SessionDocument}) {
-                if (*open) output->requireOtherThan(apps::pathOf(open->get("FullName").toText()));
+                if (*open) output->requireOtherThan(office::pathOf(open->get("FullName").toText()));
             }
         }
     } else {
-        documents_.openWorkbook(apps::pathOf(options_.book));
+        documents_.openWorkbook(office::pathOf(options_.book));
     }
     if (options_.task == Task::List) return;
     for (std::size_t place = 0; place < options_.targets.size(); ++place) {
@@ -236,7 +237,7 @@ int Run::exportItems() {
 
 void Run::runJob(std::size_t place) {
     list_.selected = -1;
-    const std::string neighbour = apps::utf8Of(order_.outputs[place]->neighbour());
+    const std::string neighbour = office::utf8Of(order_.outputs[place]->neighbour());
     try {
         jobs_[place]->exportTo(neighbour);
         outcomes_[place].taken = jobs_[place]->done();
@@ -260,7 +261,7 @@ void Run::complainAbout(std::size_t place, const office::Failure& failure) {
     // A disk that is full is no fault of the item at hand.
     if (!isOfItem || failure.is(office::FailureNumber::PathFileAccess))
         throw RunError(fmt::format("{} could not be made: {}{}",
-                                   apps::utf8Of(order_.outputs[place]->file()), reportOf(failure),
+                                   office::utf8Of(order_.outputs[place]->file()), reportOf(failure),
                                    there));
     const ExportItem& row = list_.rows[static_cast<std::size_t>(list_.selected)];
     throw RunError(fmt::format(
@@ -288,7 +289,7 @@ void Run::letUserSee() {
 
 void Run::tellOfMissing(std::size_t place, bool isMade) {
     if (outcomes_[place].missing.empty()) return;
-    const std::string file = apps::utf8Of(order_.outputs[place]->file());
+    const std::string file = office::utf8Of(order_.outputs[place]->file());
     tell(surroundings_.console, linesOfMissing(outcomes_[place], file, isMade));
 }
 
@@ -319,7 +320,7 @@ int Run::commit() {
         if (outcome.missing.empty() && !options_.quiet) {
             surroundings_.console.writeError(fmt::format(
                 "Exported {} item{} to {}\n", outcome.taken, outcome.taken == 1 ? "" : "s",
-                apps::utf8Of(order_.outputs[place]->file())));
+                office::utf8Of(order_.outputs[place]->file())));
         }
     }
     return exitCode;

@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "office/failure.h"
+#include "office/files.h"
 #include "office/package/xml.h"
 #include "office/text.h"
 
@@ -66,7 +67,7 @@ void becomeFileOf(const std::string& path, const FileKind (&kinds)[2], Package& 
 }
 
 void saveOver(Package& package, const std::string& path) {
-    const std::filesystem::path file(std::u8string(path.begin(), path.end()));
+    const std::filesystem::path file = pathOf(path);
     std::filesystem::path fresh = file;
     fresh += ".new";
     package.save(fresh);

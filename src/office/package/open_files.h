@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "office/files.h"
 #include "office/model/guard.h"
 #include "office/package/file_rules.h"
 #include "office/package/package.h"
@@ -109,9 +110,8 @@ public:
             activate(**known);
             return files_.back();
         }
-        const std::filesystem::path path(std::u8string(file.begin(), file.end()));
-        const auto name = path.filename().u8string();
-        return add(Package::open(path), file, {name.begin(), name.end()});
+        const std::filesystem::path path = pathOf(file);
+        return add(Package::open(path), file, utf8Of(path.filename()));
     }
 
 protected:

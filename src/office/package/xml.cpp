@@ -271,15 +271,12 @@ void copyInto(pugi::xml_node from, pugi::xml_node to) {
 
 std::string legible(std::string_view text) {
     std::string out;
-    for (std::size_t i = 0; i < text.size();) {
-        const std::size_t length = characterLength(text, i);
-        const std::string_view character = text.substr(i, length);
-        const auto code = static_cast<unsigned char>(text[i]);
+    for (const auto& [bytes, code] : charactersOf(text)) {
         const bool isControl = code < 0x20 && code != '\t' && code != '\n' && code != '\r';
-        // U+FFFE and U+FFFF, the only ones beside control characters.
-        const bool isNone = character == "\xEF\xBF\xBE" || character == "\xEF\xBF\xBF";
-        if (!isControl && !isNone) out += character;
-        i += std::max<std::size_t>(length, 1);
+        const bool isStray = bytes.size() == 1 && code >= 0x80;
+        // The only ones beside control characters.
+        const bool isNone = code == 0xFFFE || code == 0xFFFF;
+        if (!isControl && !isStray && !isNone) out += bytes;
     }
     return out;
 }

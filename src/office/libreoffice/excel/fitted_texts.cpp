@@ -228,14 +228,10 @@ private:
         };
         std::vector<Character> characters;
         double wide = 0;
-        for (std::size_t i = 0; i < cell.text.size();) {
-            const std::size_t length =
-                std::max<std::size_t>(office::characterLength(cell.text, i), 1);
-            const auto bytes = std::string_view(cell.text).substr(i, length);
-            if (bytes == "\n") return;
+        for (const auto& [bytes, code] : office::charactersOf(cell.text)) {
+            if (code == '\n') return;
             characters.push_back({bytes, widths_.of(std::string(bytes), cell)});
             wide += characters.back().width;
-            i += length;
         }
         auto first = characters.begin(), last = characters.end();
         bool fromFront = along == CellLook::Across::Right;

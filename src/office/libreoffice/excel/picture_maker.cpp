@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
-#include <iterator>
 #include <utility>
 
 #include "office/drawing/metafile.h"
+#include "office/files.h"
 #include "office/libreoffice/desk.h"
 #include "office/libreoffice/excel/png_file.h"
 #include "office/libreoffice/excel/written_scripts.h"
@@ -62,9 +61,8 @@ office::Picture drawnBySuite(const css::awt::Size& size, Write write) {
     const PrivateFolder folder;
     const std::string file = folder.file("copied.png");
     write(file);
-    std::ifstream png(file, std::ios::binary);
     return office::finishedPicture(pointsOf(size.Width), pointsOf(size.Height),
-                                   {std::istreambuf_iterator<char>(png), {}});
+                                   office::bytesOf(file).value_or(""));
 }
 
 }  // namespace

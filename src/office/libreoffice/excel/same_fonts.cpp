@@ -12,6 +12,7 @@
 #include <variant>
 
 #include "office/libreoffice/main_thread.h"
+#include "office/text.h"
 
 namespace libreoffice::excel {
 
@@ -28,15 +29,8 @@ constexpr int boldFrom = 600;
 
 /// Puts each character beyond ASCII of a text among others.
 void addBeyondAscii(std::string_view text, std::set<std::string>& characters) {
-    const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
-    const auto continues = [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-    };
-    for (std::size_t i = 0; i < text.size();) {
-        const std::size_t begin = i++;
-        while (i < text.size() && continues(text[i])) ++i;
-        if (!isAscii(text[begin])) characters.emplace(text.substr(begin, i - begin));
-    }
+    for (const auto& [bytes, code] : office::charactersOf(text))
+        if (code >= 0x80) characters.emplace(bytes);
 }
 
 }  // namespace

@@ -32,15 +32,12 @@ constexpr std::array<Block, 11> intricate = {{
 }  // namespace
 
 bool isIntricate(std::string_view text) {
-    for (std::size_t at = 0; at < text.size();
-         at += std::max<std::size_t>(1, office::characterLength(text, at))) {
-        const char32_t character = office::characterAt(text, at);
-        if (std::any_of(intricate.begin(), intricate.end(), [&](const Block& block) {
-                return character >= block.first && character <= block.last;
-            }))
-            return true;
-    }
-    return false;
+    const auto characters = office::charactersOf(text);
+    return std::any_of(characters.begin(), characters.end(), [](const office::Character& one) {
+        return std::any_of(intricate.begin(), intricate.end(), [&](const Block& block) {
+            return one.code >= block.first && one.code <= block.last;
+        });
+    });
 }
 
 }  // namespace libreoffice::excel

@@ -16,10 +16,7 @@ constexpr std::int32_t chartSheetType = 3;
 /// As many UTF-16 units as a text has, which is how Excel counts.
 std::size_t lengthOf(std::string_view text) {
     std::size_t units = 0;
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if ((byte & 0xC0U) != 0x80U) units += byte >= 0xF0U ? 2 : 1;
-    }
+    for (const Character& each : charactersOf(text)) units += each.code > 0xFFFF ? 2 : 1;
     return units;
 }
 

@@ -41,15 +41,14 @@ std::string plainName(std::string_view label, std::size_t longest) {
     constexpr std::string_view lead = "Label_";
     std::string name;
     std::size_t count = 0;
-    for (std::size_t i = 0; i < label.size() && count < longest; ++count) {
-        const std::size_t length = std::max<std::size_t>(characterLength(label, i), 1);
-        const std::string_view character = label.substr(i, length);
-        if (i == 0 && (!fitsName(character) || character == "_" || isDigit(character))) {
+    for (const auto& [character, code] : charactersOf(label)) {
+        if (count >= longest) break;
+        if (count == 0 && (!fitsName(character) || character == "_" || isDigit(character))) {
             name = lead;
             count = lead.size();
         }
         name += fitsName(character) ? character : "_";
-        i += length;
+        ++count;
     }
     return name.empty() ? std::string(lead) : name;
 }

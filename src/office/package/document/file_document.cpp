@@ -82,9 +82,7 @@ std::int32_t FileDocument::length() {
     });
     for (const pugi::xml_node paragraph : paragraphsIn(body_)) {
         ++count;
-        const std::string text = textOf(paragraph);
-        for (std::size_t i = 0; i < text.size(); ++count)
-            i += std::max<std::size_t>(characterLength(text, i), 1);
+        count += charactersOf(textOf(paragraph)).size();
     }
     return static_cast<std::int32_t>(count);
 }

@@ -109,10 +109,8 @@ bool isSameText(std::string_view one, std::string_view other) {
 std::string withoutMarks(std::string_view text) {
     std::string plain;
     bool isParted = false;
-    for (std::size_t i = 0; i < text.size();
-         i += std::max<std::size_t>(1, characterLength(text, i))) {
+    for (const auto& [bytes, letter] : charactersOf(text)) {
         constexpr std::u32string_view marks = U" .,'/\u00a0\u2019\u202f";
-        const char32_t letter = characterAt(text, i);
         const bool isDigit = letter >= U'0' && letter <= U'9';
         if (marks.find(letter) != std::u32string_view::npos) {
             isParted = true;
@@ -121,7 +119,7 @@ std::string withoutMarks(std::string_view text) {
         const bool followsDigit = !plain.empty() && plain.back() >= '0' && plain.back() <= '9';
         if (isParted && isDigit && followsDigit) plain += '.';
         isParted = false;
-        plain += text.substr(i, std::max<std::size_t>(1, characterLength(text, i)));
+        plain += bytes;
     }
     return plain;
 }

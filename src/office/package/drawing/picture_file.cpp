@@ -4,13 +4,11 @@
 
 #include <cmath>
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string_view>
 #include <utility>
 
 #include "office/failure.h"
+#include "office/files.h"
 
 namespace office::package {
 
@@ -89,17 +87,15 @@ PictureFile readPicture(const std::string& file, PictureFiles* pictures) {
     if (pictures != nullptr) {
         if (auto picture = pictures->take(file)) return pngFile(std::move(*picture));
     }
-    std::ifstream stream(std::filesystem::path(std::u8string(file.begin(), file.end())),
-                         std::ios::binary);
-    if (!stream) throw Failure(FailureNumber::FileNotFound, source, "There is no file " + file);
-    std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-    if (looksLikeVectors(bytes))
-        return vectorPicture(vectorFileOf(std::move(bytes), file), pictures);
+    auto bytes = bytesOf(pathOf(file));
+    if (!bytes) throw Failure(FailureNumber::FileNotFound, source, "There is no file " + file);
+    if (looksLikeVectors(*bytes))
+        return vectorPicture(vectorFileOf(std::move(*bytes), file), pictures);
     constexpr std::size_t headSize = 33;
     Size size;
-    if (bytes.size() >= headSize && bytes.starts_with(signature)) size = sizeOfPng(bytes);
+    if (bytes->size() >= headSize && bytes->starts_with(signature)) size = sizeOfPng(*bytes);
     if (!(size.width > 0 && size.height > 0)) refuse(source, file + " holds no PNG picture");
-    return pngFile(finishedPicture(size.width, size.height, std::move(bytes)), size);
+    return pngFile(finishedPicture(size.width, size.height, std::move(*bytes)), size);
 }
 
 PictureFile pictureOf(const Copied& copied) {

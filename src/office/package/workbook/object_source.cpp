@@ -2,11 +2,11 @@
 
 #include <fmt/format.h>
 
-#include <filesystem>
 #include <utility>
 
 #include "office/failure.h"
 #include "office/file_address.h"
+#include "office/files.h"
 #include "office/package/workbook/embedded_workbook.h"
 #include "office/text.h"
 
@@ -26,10 +26,9 @@ std::string addressByNumbers(const CellBlock& cells) {
 /// "Sales%202026.xlsx!Sheet%201!R5C2:R8C7", as the program that follows the link reads it: sheets
 /// have no apostrophes there, and cells go by their numbers.
 std::string addressOfCells(const FileRules& rules, const CopySource& source) {
-    const std::filesystem::path path(std::u8string(source.file.begin(), source.file.end()));
-    const std::string address =
-        fmt::format("{}!{}!{}", linkAddress(path, rules.linkBase), linkWord(source.sheet),
-                    addressByNumbers(blockOf(source.address).value_or(CellBlock())));
+    const std::string address = fmt::format(
+        "{}!{}!{}", linkAddress(pathOf(source.file), rules.linkBase), linkWord(source.sheet),
+        addressByNumbers(blockOf(source.address).value_or(CellBlock())));
     // The colon between two cells must not stand in the first name of a relative address.
     const bool isPlainName = address.find('/') == std::string::npos;
     return isPlainName ? "./" + address : address;

@@ -10,6 +10,7 @@
 #include <system_error>
 #include <utility>
 
+#include "office/files.h"
 #include "office/package/part_name.h"
 #include "office/package/xml.h"
 #include "office/text.h"
@@ -218,7 +219,7 @@ const std::string& WorkbookFile::rememberedLast(const std::string& purpose,
 }
 
 WorkbookFilePtr WorkbookFiles::at(const std::string& path) {
-    const std::filesystem::path file(std::u8string(path.begin(), path.end()));
+    const std::filesystem::path file = pathOf(path);
     std::error_code problem;
     const auto changed = std::filesystem::last_write_time(file, problem);
     if (problem)
