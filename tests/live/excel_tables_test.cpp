@@ -215,6 +215,38 @@ TEST_F(ExcelTables, ShowWhatACopyLeavesUnsaid) {
     EXPECT_EQ(found, expected);
 }
 
+TEST_F(ExcelTables, ShowConditionsThatACopyDoesNotWorkOut) {
+    const auto looks = [&](const char* name, const char* address) {
+        std::vector<std::string> found;
+        for (const CellLook& look : tableOf(name, address).cells) {
+            if (!look.isCovered) found.push_back(described(look));
+        }
+        return found;
+    };
+    const auto looksOfRow = [&] { return looks("Ruled", "C6:F6"); };
+    std::vector<std::string> expected = {
+        "Hof bold ink=0000C0",
+        "5 bold right ink=0000C0",
+        "begins hid",
+        "Bonn fill=FFEEDD",
+        "6 right fill=FFEEDD",
+        "x fill=FFEEDD",
+        "wide underlined struck centre fill=64381F 2x2",
+        "",
+        "",
+    };
+    EXPECT_EQ(looks("Ruled", "C6:F9"), expected);
+    EXPECT_EQ(looks("Secret", "A1"), std::vector<std::string>{"secret bold"}) << "a hidden sheet";
+    expected.resize(3);
+    std::uint64_t first = 0;
+    first = callsOf([&] { EXPECT_EQ(looksOfRow(), expected); });
+    EXPECT_LT(callsOf([&] { EXPECT_EQ(looksOfRow(), expected); }) + 20, first) << "read once";
+    sheet(book, "Ruled").get("Range", "H6").put("Value", 0);
+    expected[0] = "Hof";
+    expected[1] = "5 right";
+    EXPECT_EQ(looksOfRow(), expected);
+}
+
 TEST(CellsAsHtml, HaveTheirNumbersInTheSuitesLanguage) {
     for (const char* mark : {".", ","}) {
         const std::string cell = fmt::format("<td sdval=\"-1{}25E-05\">x</td>", mark);

@@ -154,6 +154,11 @@ NamedRanges& CalcDocument::names() {
     return *names_;
 }
 
+BookLooks& CalcDocument::looks() {
+    if (!looks_) looks_.emplace(*this);
+    return *looks_;
+}
+
 const uno::Reference<css::document::XUndoManager>& CalcDocument::undoSteps() {
     if (!undoSteps_.is())
         undoSteps_ = as<css::document::XUndoManagerSupplier>(model())->getUndoManager();

@@ -12,6 +12,7 @@
 
 #include "office/libreoffice/desk.h"
 #include "office/libreoffice/document.h"
+#include "office/libreoffice/excel/book_looks.h"
 #include "office/libreoffice/excel/named_ranges.h"
 #include "office/libreoffice/excel/number_formats.h"
 #include "office/libreoffice/excel/sheet_list.h"
@@ -41,6 +42,7 @@ public:
     [[nodiscard]] const Connection& connection() const { return desk_.connection(); }
     [[nodiscard]] SheetList& sheetList();
     [[nodiscard]] NumberFormats& formats() { return formats_; }
+    [[nodiscard]] BookLooks& looks();
     [[nodiscard]] uno::Reference<css::sheet::XSpreadsheetView> view();
     /// The window as it is without what is copied here; nothing for a workbook that has none.
     [[nodiscard]] uno::Reference<css::frame::XController> window();
@@ -94,6 +96,7 @@ private:
     std::optional<WorkbookFacts> facts_;
     std::optional<SheetList> sheets_;
     std::optional<NamedRanges> names_;
+    std::optional<BookLooks> looks_;
     uno::Reference<css::document::XUndoManager> undoSteps_;
     uno::Any selectedBefore_;
     std::optional<CopyingWindow> unseenWindow_;

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "office/libreoffice/excel/data_bars.h"
 #include "office/libreoffice/excel/numbers_in_cells.h"
 #include "office/text.h"
 
@@ -56,9 +55,9 @@ std::int32_t mixed(std::int32_t one, std::int32_t other, double share) {
 
 }  // namespace
 
-ColourScales::ColourScales(SheetRecord& sheet, const model::CellBlock& block) {
-    constexpr sal_Int32 scales = css::sheet::ConditionEntryType::COLORSCALE;
-    for (const auto& [blocks, entry] : conditionsOn(sheet, block, scales)) {
+ColourScales::ColourScales(SheetRecord& sheet, const std::vector<CellCondition>& conditions) {
+    for (const auto& [blocks, entry, kind] : conditions) {
+        if (kind != css::sheet::ConditionEntryType::COLORSCALE) continue;
         const auto steps = property<uno::Sequence<Step>>(entry, "ColorScaleEntries");
         const std::vector<double> numbers = sortedNumbers(sheet, blocks);
         if (!steps.hasElements() || numbers.empty()) continue;

@@ -5,15 +5,16 @@
 #include <utility>
 #include <vector>
 
+#include "office/libreoffice/excel/cell_conditions.h"
 #include "office/libreoffice/excel/sheet_record.h"
 
 namespace libreoffice::excel {
 
-/// The conditional formats of a block of cells that colour each by its number. The suite's HTML has
-/// such a colour only where no other condition is on the cell.
+/// The conditional formats, among some of a sheet's, that colour each cell by its number. The
+/// suite's HTML has such a colour only where no other condition is on the cell.
 class ColourScales {
 public:
-    ColourScales(SheetRecord& sheet, const model::CellBlock& block);
+    ColourScales(SheetRecord& sheet, const std::vector<CellCondition>& conditions);
 
     /// The ground of a cell with this number, by its place on the sheet, 0xBBGGRR.
     [[nodiscard]] std::optional<std::int32_t> colourOf(std::int32_t column, std::int32_t row,

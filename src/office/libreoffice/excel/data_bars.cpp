@@ -3,16 +3,11 @@
 #include <com/sun/star/sheet/ConditionEntryType.hpp>
 #include <com/sun/star/sheet/DataBarAxis.hpp>
 #include <com/sun/star/sheet/DataBarEntryType.hpp>
-#include <com/sun/star/sheet/XConditionEntry.hpp>
-#include <com/sun/star/sheet/XConditionalFormat.hpp>
-#include <com/sun/star/sheet/XConditionalFormats.hpp>
 #include <com/sun/star/sheet/XDataBarEntry.hpp>
-#include <com/sun/star/sheet/XSheetCellRanges.hpp>
 
 #include <algorithm>
 #include <cmath>
 
-#include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/excel/numbers_in_cells.h"
 #include "office/text.h"
 
@@ -58,35 +53,10 @@ std::int32_t faded(std::int32_t colour) {
 
 }  // namespace
 
-std::vector<CellCondition> conditionsOn(const SheetRecord& sheet, const model::CellBlock& block,
-                                        sal_Int32 kind) {
-    std::vector<CellCondition> found;
-    const auto formats = property<uno::Reference<css::sheet::XConditionalFormats>>(
-        sheet.sheet(), "ConditionalFormats");
-    if (!formats.is()) return found;
-    for (const auto& format : formats->getConditionalFormats()) {
-        const auto ranges =
-            answered(property<uno::Reference<css::sheet::XSheetCellRanges>>(format, "Range"));
-        std::vector<model::CellBlock> blocks;
-        for (const auto& address : ranges->getRangeAddresses()) blocks.push_back(blockOf(address));
-        if (std::none_of(blocks.begin(), blocks.end(), [&](const model::CellBlock& each) {
-                return intersection(each, block).has_value();
-            }))
-            continue;
-        const sal_Int32 count = format->getCount();
-        for (sal_Int32 i = 0; i < count; ++i) {
-            const uno::Reference<css::sheet::XConditionEntry> entry(format->getByIndex(i),
-                                                                    uno::UNO_QUERY_THROW);
-            if (entry->getType() == kind) found.push_back({blocks, entry});
-        }
-    }
-    return found;
-}
-
-DataBars::DataBars(SheetRecord& sheet, const model::CellBlock& block) {
-    constexpr sal_Int32 bars = css::sheet::ConditionEntryType::DATABAR;
-    for (const auto& [blocks, entry] : conditionsOn(sheet, block, bars)) {
-        if (auto read = barsOf(sheet, as<css::beans::XPropertySet>(entry), blocks))
+DataBars::DataBars(SheetRecord& sheet, const std::vector<CellCondition>& conditions) {
+    for (const CellCondition& each : conditions) {
+        if (each.kind != css::sheet::ConditionEntryType::DATABAR) continue;
+        if (auto read = barsOf(sheet, as<css::beans::XPropertySet>(each.entry), each.blocks))
             all_.push_back(*std::move(read));
     }
 }

@@ -1,30 +1,19 @@
 #pragma once
 
-#include <com/sun/star/sheet/XConditionEntry.hpp>
-
 #include <cstdint>
 #include <optional>
 #include <vector>
 
+#include "office/libreoffice/excel/cell_conditions.h"
 #include "office/libreoffice/excel/sheet_record.h"
 #include "office/table_look.h"
 
 namespace libreoffice::excel {
 
-/// A condition of a sheet, and the cells that it is for.
-struct CellCondition {
-    std::vector<model::CellBlock> blocks;
-    uno::Reference<css::sheet::XConditionEntry> entry;
-};
-/// Those of a block of cells that are of a kind of `css::sheet::ConditionEntryType`.
-[[nodiscard]] std::vector<CellCondition> conditionsOn(const SheetRecord& sheet,
-                                                      const model::CellBlock& block,
-                                                      sal_Int32 kind);
-
-/// The conditional formats of a block of cells that draw bars.
+/// The conditional formats, among some of a sheet's, that draw bars.
 class DataBars {
 public:
-    DataBars(SheetRecord& sheet, const model::CellBlock& block);
+    DataBars(SheetRecord& sheet, const std::vector<CellCondition>& conditions);
 
     /// The bar of a cell with this number, by its place on the sheet.
     [[nodiscard]] std::optional<office::CellBar> barOf(std::int32_t column, std::int32_t row,

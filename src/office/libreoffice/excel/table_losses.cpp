@@ -3,12 +3,9 @@
 #include <com/sun/star/beans/XPropertyState.hpp>
 #include <com/sun/star/lang/XServiceInfo.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
-#include <com/sun/star/sheet/ColorScaleEntryType.hpp>
 #include <com/sun/star/sheet/ConditionEntryType.hpp>
-#include <com/sun/star/sheet/ConditionFormatOperator.hpp>
 #include <com/sun/star/sheet/DataBarEntryType.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
-#include <com/sun/star/sheet/XColorScaleEntry.hpp>
 #include <com/sun/star/sheet/XDataBarEntry.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
 #include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
@@ -20,9 +17,8 @@
 
 #include "office/item_remarks.h"
 #include "office/libreoffice/excel/answered.h"
-#include "office/libreoffice/excel/data_bars.h"
+#include "office/libreoffice/excel/cell_conditions.h"
 #include "office/libreoffice/excel/table_of_cells.h"
-#include "office/text.h"
 
 namespace libreoffice::excel {
 
@@ -46,7 +42,7 @@ const ItemRemarks::Text bars = {"The table of {} will be without the bars in its
 const ItemRemarks::Text tableStyles = {
     "{} will be without the colours of its table style: LibreOffice draws none.",
     "{} will be without the colours of their table styles: LibreOffice draws none."};
-const ItemRemarks::Text conditions = {
+const ItemRemarks::Text lostConditions = {
     "In the table of {} conditional formats may be missing that go by a formula or by cells "
     "outside.",
     "In the tables of {} conditional formats may be missing that go by a formula or by cells "
@@ -93,17 +89,13 @@ std::vector<Frame> framesOn(const SheetRecord& sheet) {
     return frames;
 }
 
-/// All conditions of a kind on a sheet.
-std::vector<CellCondition> conditionsOf(sal_Int32 kind, const SheetRecord& sheet) {
-    return conditionsOn(sheet, CellBlock::wholeSheet(), kind);
-}
-
-/// The cells of those conditions that are meant.
+/// The cells of those conditions of a kind that are meant.
 template <class Test>
-std::vector<CellBlock> blocksOf(const std::vector<CellCondition>& all, Test isMeant) {
+std::vector<CellBlock> blocksOf(const std::vector<CellCondition>& all, sal_Int32 kind,
+                                Test isMeant) {
     std::vector<CellBlock> found;
     for (const CellCondition& condition : all) {
-        if (isMeant(condition))
+        if (condition.kind == kind && isMeant(condition))
             found.insert(found.end(), condition.blocks.begin(), condition.blocks.end());
     }
     return found;
@@ -113,34 +105,12 @@ bool isAny(const CellCondition& /*condition*/) {
     return true;
 }
 
-/// A copy of cells calculates no formula of a condition but what is a number or a text.
-bool hasFormula(const CellCondition& condition) {
-    for (const char* name : {"Formula1", "Formula2"}) {
-        auto formula = fromUno(property<rtl::OUString>(condition.entry, name));
-        if (formula.ends_with('%')) formula.pop_back();
-        if (!formula.empty() && !formula.starts_with('"') && !office::numberOf(formula))
-            return true;
-    }
-    return false;
-}
-
-/// Whether an end of a data bar or of a colour scale is one.
-template <class Entry>
-bool endsInFormula(const CellCondition& condition, const char* entries, sal_Int32 formula) {
-    using Ends = uno::Sequence<uno::Reference<Entry>>;
-    const auto ends = property<Ends>(condition.entry, entries);
-    return std::any_of(ends.begin(), ends.end(),
-                       [&](const auto& end) { return end->getType() == formula; });
-}
-
 bool barEndsInFormula(const CellCondition& condition) {
-    return endsInFormula<css::sheet::XDataBarEntry>(condition, "DataBarEntries",
-                                                    css::sheet::DataBarEntryType::DATABAR_FORMULA);
-}
-
-bool scaleEndsInFormula(const CellCondition& condition) {
-    return endsInFormula<css::sheet::XColorScaleEntry>(
-        condition, "ColorScaleEntries", css::sheet::ColorScaleEntryType::COLORSCALE_FORMULA);
+    using Ends = uno::Sequence<uno::Reference<css::sheet::XDataBarEntry>>;
+    const auto ends = property<Ends>(condition.entry, "DataBarEntries");
+    return std::any_of(ends.begin(), ends.end(), [](const auto& end) {
+        return end->getType() == css::sheet::DataBarEntryType::DATABAR_FORMULA;
+    });
 }
 
 bool hasNumberFormat(const CellCondition& condition, CalcDocument& book) {
@@ -154,24 +124,9 @@ bool hasNumberFormat(const CellCondition& condition, CalcDocument& book) {
     return style->getPropertyState("NumberFormat") == css::beans::PropertyState_DIRECT_VALUE;
 }
 
-/// Whether it compares each cell with all others of its block.
-bool comparesCells(const CellCondition& condition) {
-    using namespace css::sheet::ConditionFormatOperator;
-    const auto kind = property<sal_Int32>(condition.entry, "Operator");
-    return kind >= DUPLICATE && kind <= BELOW_EQUAL_AVERAGE;
-}
-
 bool meetAny(const std::vector<CellBlock>& blocks, const CellBlock& cells) {
     return std::any_of(blocks.begin(), blocks.end(), [&](const CellBlock& each) {
         return intersection(each, cells).has_value();
-    });
-}
-
-/// Whether one of them lies partly in the cells and partly outside.
-bool reachBeyond(const std::vector<CellBlock>& blocks, const CellBlock& cells) {
-    return std::any_of(blocks.begin(), blocks.end(), [&](const CellBlock& each) {
-        const auto common = intersection(each, cells);
-        return common && *common != each;
     });
 }
 
@@ -206,22 +161,8 @@ bool hasCellOfSeveralLooks(const SheetRecord& sheet, const CellBlock& block) {
 
 class LossesOfSheet {
 public:
-    LossesOfSheet(std::shared_ptr<SheetRecord> sheet, bool drawsBars)
-        : sheet_(std::move(sheet)),
-          icons_(blocksOf(conditionsOf(Kind::ICONSET, *sheet_), isAny)),
-          lostBars_(
-              blocksOf(conditionsOf(Kind::DATABAR, *sheet_), drawsBars ? barEndsInFormula : isAny)),
-          styledTables_(sheet_->book().styledTablesOn(sheet_->name())),
-          frames_(framesOn(*sheet_)) {
-        const auto all = conditionsOf(Kind::CONDITION, *sheet_);
-        byFormula_ = blocksOf(all, hasFormula);
-        const auto scales = blocksOf(conditionsOf(Kind::COLORSCALE, *sheet_), scaleEndsInFormula);
-        byFormula_.insert(byFormula_.end(), scales.begin(), scales.end());
-        amongCells_ = blocksOf(all, comparesCells);
-        withNumberFormat_ = blocksOf(all, [&](const CellCondition& condition) {
-            return hasNumberFormat(condition, sheet_->book());
-        });
-    }
+    LossesOfSheet(const std::shared_ptr<SheetRecord>& sheet, bool drawsBars)
+        : LossesOfSheet(sheet, conditionsOn(*sheet, CellBlock::wholeSheet()), drawsBars) {}
 
     [[nodiscard]] std::optional<CellBlock> drawnPartOf(const CellBlock& block) const {
         return model::drawnPart(block, *sheet_);
@@ -239,8 +180,7 @@ public:
         }
         if (meetAny(icons_, block)) remarks.add(icons, item);
         if (meetAny(lostBars_, block)) remarks.add(bars, item);
-        if (meetAny(byFormula_, block) || reachBeyond(amongCells_, block))
-            remarks.add(conditions, item);
+        if (mayMissConditions(block)) remarks.add(lostConditions, item);
         if (meetAny(withNumberFormat_, block)) remarks.add(numberFormats, item);
         if (meetAny(styledTables_, block)) remarks.add(tableStyles, item);
         if (hasCellOfSeveralLooks(*sheet_, block)) remarks.add(severalLooks, item);
@@ -252,15 +192,38 @@ public:
     }
 
 private:
+    LossesOfSheet(std::shared_ptr<SheetRecord> sheet, const std::vector<CellCondition>& all,
+                  bool drawsBars)
+        : sheet_(std::move(sheet)),
+          icons_(blocksOf(all, Kind::ICONSET, isAny)),
+          lostBars_(drawsBars ? blocksOf(all, Kind::DATABAR, barEndsInFormula)
+                              : blocksOf(all, Kind::DATABAR, isAny)),
+          uncopied_(all),
+          withNumberFormat_(blocksOf(all, Kind::CONDITION,
+                                     [&](const CellCondition& condition) {
+                                         return hasNumberFormat(condition, sheet_->book());
+                                     })),
+          styledTables_(sheet_->book().styledTablesOn(sheet_->name())),
+          frames_(framesOn(*sheet_)) {}
+
     [[nodiscard]] bool isTooWide(const office::PasteItem& item, const CellBlock& block) const {
         return item.mostColumns && isTooWideForTable(*sheet_, block, *item.mostColumns);
+    }
+    /// The suite tells how conditions leave no cell beyond those in use.
+    [[nodiscard]] bool mayMissConditions(const CellBlock& block) const {
+        const auto cells = uncopied_.within(block);
+        if (cells.empty()) return false;
+        const CellBlock used = blockOf(sheet_->wholeCells(sheet_->used()));
+        return std::any_of(
+                   cells.begin(), cells.end(),
+                   [&](const CellBlock& each) { return intersection(each, used) != each; }) ||
+               sheet_->book().looks().isTooLarge();
     }
 
     std::shared_ptr<SheetRecord> sheet_;
     std::vector<CellBlock> icons_;
     std::vector<CellBlock> lostBars_;
-    std::vector<CellBlock> byFormula_;
-    std::vector<CellBlock> amongCells_;
+    UncopiedConditions uncopied_;
     std::vector<CellBlock> withNumberFormat_;
     std::vector<CellBlock> styledTables_;
     std::vector<Frame> frames_;

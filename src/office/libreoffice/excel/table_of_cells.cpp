@@ -14,11 +14,13 @@
 
 #include "office/failure.h"
 #include "office/libreoffice/excel/answered.h"
+#include "office/libreoffice/excel/cell_conditions.h"
 #include "office/libreoffice/excel/cell_formats.h"
 #include "office/libreoffice/excel/cells_as_html.h"
 #include "office/libreoffice/excel/colour_scales.h"
 #include "office/libreoffice/excel/data_bars.h"
 #include "office/libreoffice/excel/fitted_texts.h"
+#include "office/libreoffice/excel/html_places.h"
 #include "office/libreoffice/excel/selected_cells.h"
 #include "office/libreoffice/excel/table_lines.h"
 #include "office/libreoffice/units.h"
@@ -87,21 +89,57 @@ void takeFonts(CellLook& look, const CellLook& own) {
     look.fontSizePt = own.fontSizePt;
 }
 
+void takeDress(HtmlCell& cell, const CellDress& dress) {
+    CellLook& look = cell.look;
+    look.fill = dress.fill;
+    look.isBold = dress.isBold;
+    look.isItalic = dress.isItalic;
+    look.isUnderlined = dress.isUnderlined;
+    look.isStruckOut = dress.isStruckOut;
+    cell.fontColour = dress.fontColour;
+}
+
+/// Some cells of a block as the sheet shows them.
+class DressedCells {
+public:
+    /// The cells whose conditions a copy of the block doesn't work out.
+    DressedCells(SheetRecord& sheet, const model::CellBlock& block,
+                 const std::vector<CellCondition>& conditions)
+        : blocks_(UncopiedConditions(conditions).within(block)),
+          looks_(blocks_.empty() ? nullptr : sheet.book().looks().of(sheet)) {}
+
+    void dress(HtmlCell& html, const model::CellBlock& cell) const {
+        if (looks_ == nullptr) return;
+        const auto holdsCell = [&](const model::CellBlock& block) {
+            return intersection(block, cell).has_value();
+        };
+        if (std::none_of(blocks_.begin(), blocks_.end(), holdsCell)) return;
+        if (const CellDress* const dress = looks_->at(cell.firstColumn, cell.firstRow))
+            takeDress(html, *dress);
+    }
+
+private:
+    std::vector<model::CellBlock> blocks_;
+    const SheetLooks* looks_;
+};
+
 /// Fills a table from what the suite says of its cells.
 class TableMaker {
 public:
     TableMaker(SheetRecord& sheet, const model::CellBlock& block, const ShownLines& shown,
-               const CellFormats& formats)
+               const CellFormats& formats, const std::vector<CellCondition>& conditions,
+               const DressedCells& dressed)
         : sheet_(sheet),
-          bars_(sheet, block),
-          scales_(sheet, block),
+          dressed_(dressed),
+          bars_(sheet, conditions),
+          scales_(sheet, conditions),
           showsZeros_(
               property<bool>(sheet.book().model()->getCurrentController(), "ShowZeroValues", true)),
           errors_(errorsIn(sheet.range(block))),
           shown_(shown),
           formats_(formats),
-          values_(formats.ofCells.size()),
-          isPut_(formats.ofCells.size()) {
+          places_(shown),
+          values_(formats.ofCells.size()) {
         for (const std::size_t format : formats.ofCells) {
             const CellLook& own = formats.formats[format].look;
             CellLook look;
@@ -114,12 +152,14 @@ public:
 
     /// A row of cells as the suite writes it: those that are covered are left out.
     void putRow(const HtmlRow& html, std::size_t row) {
-        if (!fillsRow(html, row)) putHiddenMerged(row);
+        for (const model::CellBlock& merged : places_.leftOutOf(html, row, sheet_))
+            putLeftOut(merged);
         std::size_t column = 0;
-        for (const HtmlCell& cell : html.cells) {
-            column = freeFrom(row, column);
+        for (HtmlCell cell : html.cells) {
+            column = places_.freeFrom(row, column);
             if (column == width()) return;
             const Place place = {shown_.columns[column], shown_.rows[row]};
+            dressed_.dress(cell, model::CellBlock::cell(place.row, place.column));
             put(dressed(cell, row, column), place);
             const CellFormat& own = formatAt(row, column);
             CellValue value = {cell.number, own.numberFormat, own.shrinksToFit,
@@ -166,64 +206,30 @@ private:
         return formatAt(row, column).look;
     }
 
-    /// The first cell of a row, from a column on, that nothing has been put into.
-    [[nodiscard]] std::size_t freeFrom(std::size_t row, std::size_t column) const {
-        while (column < width() && isPut_[row * width() + column]) ++column;
-        return column;
-    }
-
-    /// Whether the cells as the suite writes them are as many as there is room for.
-    [[nodiscard]] bool fillsRow(const HtmlRow& html, std::size_t row) const {
-        std::size_t column = freeFrom(row, 0);
-        for (const HtmlCell& cell : html.cells) {
-            if (column == width()) return true;
-            const auto [first, count] =
-                shownFrom(shown_.columns, shown_.columns[column], cell.look.columns);
-            column = freeFrom(row, first + count);
-        }
-        return column == width();
-    }
-
-    /// The suite leaves out what is covered by merged cells that begin in a hidden column or row,
-    /// and what they hold.
-    void putHiddenMerged(std::size_t row) {
-        for (std::size_t column = freeFrom(row, 0); column < width();
-             column = freeFrom(row, column + 1)) {
-            const model::CellBlock block = blockOf(sheet_.wholeCells(
-                model::CellBlock::cell(shown_.rows[row], shown_.columns[column])));
-            if (block.firstRow == shown_.rows[row] && block.firstColumn == shown_.columns[column])
-                continue;
-            const auto cell = sheet_.sheet()->getCellByPosition(block.firstColumn, block.firstRow);
-            CellLook look = format(row, column);
-            look.text = fromUno(as<css::text::XTextRange>(cell)->getString());
-            look.columns = block.columns();
-            look.rows = block.rows();
-            put(std::move(look), {block.firstColumn, block.firstRow});
-        }
+    /// Merged cells that begin in a hidden column or row: their text is told by no copy.
+    void putLeftOut(const model::CellBlock& merged) {
+        const auto cell = sheet_.sheet()->getCellByPosition(merged.firstColumn, merged.firstRow);
+        const auto span = places_.take(merged);
+        CellLook look = format(span.firstRow, span.firstColumn);
+        look.text = fromUno(as<css::text::XTextRange>(cell)->getString());
+        put(std::move(look), span);
     }
 
     /// Puts a cell over all that it spans.
     void put(CellLook look, const Place& place) {
-        const auto [firstColumn, columns] = shownFrom(shown_.columns, place.column, look.columns);
-        const auto [firstRow, rows] = shownFrom(shown_.rows, place.row, look.rows);
-        for (std::size_t row = firstRow; row < firstRow + rows; ++row) {
-            for (std::size_t column = firstColumn; column < firstColumn + columns; ++column) {
-                at(row, column).isCovered = true;
-                isPut_[row * width() + column] = true;
-            }
-        }
-        look.columns = static_cast<std::int32_t>(columns);
-        look.rows = static_cast<std::int32_t>(rows);
-        at(firstRow, firstColumn) = std::move(look);
+        const auto span = places_.take(
+            {place.column, place.row, place.column + look.columns - 1, place.row + look.rows - 1});
+        put(std::move(look), span);
     }
-
-    /// The place among the shown lines, and how many of a stretch on the sheet are shown.
-    static std::pair<std::size_t, std::size_t> shownFrom(const std::vector<std::int32_t>& shown,
-                                                         std::int32_t first, std::int32_t count) {
-        const auto from = std::lower_bound(shown.begin(), shown.end(), first);
-        const auto to = std::lower_bound(from, shown.end(), first + count);
-        return {static_cast<std::size_t>(from - shown.begin()),
-                static_cast<std::size_t>(to - from)};
+    void put(CellLook look, const HtmlPlaces::Span& span) {
+        for (std::size_t row = span.firstRow; row < span.firstRow + span.rows; ++row) {
+            for (std::size_t column = span.firstColumn; column < span.firstColumn + span.columns;
+                 ++column)
+                at(row, column).isCovered = true;
+        }
+        look.columns = static_cast<std::int32_t>(span.columns);
+        look.rows = static_cast<std::int32_t>(span.rows);
+        at(span.firstRow, span.firstColumn) = std::move(look);
     }
 
     static std::vector<model::CellBlock> errorsIn(
@@ -293,17 +299,31 @@ private:
     }
 
     const SheetRecord& sheet_;
+    const DressedCells& dressed_;
     DataBars bars_;
     ColourScales scales_;
     bool showsZeros_;
     std::vector<model::CellBlock> errors_;
     const ShownLines& shown_;
     const CellFormats& formats_;
+    HtmlPlaces places_;
     std::vector<CellLook> cells_;
     std::vector<CellValue> values_;
-    /// Whether each is finished.
-    std::vector<bool> isPut_;
 };
+
+struct CopyOfCells {
+    CellsAsHtml html;
+    DressedCells dressed;
+};
+CopyOfCells copyOf(SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& cells,
+                   const model::CellBlock& block, const std::vector<CellCondition>& conditions) {
+    SelectedCells selected(sheet, cells, block);
+    const uno::Sequence<sal_Int8> copy = selected.copyAs("text/html");
+    // As long as they are selected a hidden sheet is shown, and has its looks.
+    return {readCellsAsHtml({reinterpret_cast<const char*>(copy.getConstArray()),
+                             static_cast<std::size_t>(copy.getLength())}),
+            DressedCells(sheet, block, conditions)};
+}
 
 }  // namespace
 
@@ -348,9 +368,8 @@ TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block, std::s
     const model::CellBlock whole = blockOf(cells);
     const ShownLines shown = shownLinesOf(cells, mostCells);
     const CellFormats formats = readCellFormats(cells, shown);
-    const uno::Sequence<sal_Int8> copy = SelectedCells(sheet, cells, whole).copyAs("text/html");
-    const CellsAsHtml html = readCellsAsHtml({reinterpret_cast<const char*>(copy.getConstArray()),
-                                              static_cast<std::size_t>(copy.getLength())});
+    const auto conditions = conditionsOn(sheet, whole);
+    const auto [html, dressed] = copyOf(sheet, cells, whole, conditions);
 
     TableLook table;
     const auto [corner, size] = placeOf(cells);
@@ -365,7 +384,7 @@ TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block, std::s
     table.rowHeightsPt = lengthsOf(as<css::container::XIndexAccess>(lines->getRows()), "Height",
                                    shown.rows, rowHeights, pointsOf(size.Height));
 
-    TableMaker maker(sheet, whole, shown, formats);
+    TableMaker maker(sheet, whole, shown, formats, conditions, dressed);
     for (std::size_t row = 0; row < std::min(html.rows.size(), shown.rows.size()); ++row)
         maker.putRow(html.rows[row], row);
     table.cells = maker.takeCells();

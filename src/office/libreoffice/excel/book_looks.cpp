@@ -1,0 +1,203 @@
+#include "office/libreoffice/excel/book_looks.h"
+
+#include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/io/IOException.hpp>
+#include <com/sun/star/io/XSequenceOutputStream.hpp>
+#include <com/sun/star/sheet/XCellRangesQuery.hpp>
+#include <com/sun/star/sheet/XSheetCellRanges.hpp>
+#include <com/sun/star/util/XModifyBroadcaster.hpp>
+#include <com/sun/star/util/XModifyListener.hpp>
+#include <cppuhelper/implbase1.hxx>
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+#include "office/libreoffice/connection.h"
+#include "office/libreoffice/excel/answered.h"
+#include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/html_places.h"
+
+namespace libreoffice::excel {
+
+namespace {
+
+/// Hears of each change, whether a user or a program makes it.
+class ChangeListener : public cppu::WeakImplHelper1<css::util::XModifyListener> {
+public:
+    explicit ChangeListener(std::shared_ptr<std::atomic<bool>> hasChanged)
+        : hasChanged_(std::move(hasChanged)) {}
+    void SAL_CALL modified(const css::lang::EventObject&) override { *hasChanged_ = true; }
+    void SAL_CALL disposing(const css::lang::EventObject&) override { *hasChanged_ = true; }
+
+private:
+    std::shared_ptr<std::atomic<bool>> hasChanged_;
+};
+
+constexpr std::string_view beginOfRow = "<tr>";
+constexpr std::string_view endOfRow = "</tr>";
+
+/// What is written of a sheet, without the texts around it; nothing if it isn't there. The marks of
+/// cells' texts are escaped in the page.
+std::string_view tableOf(SheetRecord& sheet, std::string_view page) {
+    constexpr std::string_view anchors = "<A NAME=\"table";
+    std::size_t begin = page.find(fmt::format("{}{}\">", anchors, sheet.place()));
+    if (begin == std::string_view::npos) {
+        // The only sheet with contents goes without a name.
+        const bool isOnly = page.find(anchors) == std::string_view::npos &&
+                            filledParts(sheet.range(sheet.used())).hasElements();
+        if (!isOnly) return {};
+        begin = 0;
+    }
+    begin = page.find("<table", begin);
+    const std::size_t end = page.find("</table>", begin);
+    if (end == std::string_view::npos) return {};
+    return page.substr(begin, end - begin);
+}
+
+std::size_t rowsIn(std::string_view table) {
+    std::size_t count = 0;
+    for (std::size_t at = table.find(beginOfRow); at != std::string_view::npos;
+         at = table.find(beginOfRow, at + 1))
+        ++count;
+    return count;
+}
+
+/// So many of the columns and rows that are shown, from a cell on.
+ShownLines shownLinesFrom(const SheetRecord& sheet, const model::CellBlock& first,
+                          std::size_t columns, std::size_t rows) {
+    const auto whole = model::CellBlock::wholeSheet();
+    const auto all = as<css::sheet::XCellRangesQuery>(
+        sheet.range({first.firstColumn, first.firstRow, whole.lastColumn, whole.lastRow}));
+    std::set<std::int32_t> shownColumns, shownRows;
+    const auto add = [](std::set<std::int32_t>& lines, sal_Int32 from, sal_Int32 to,
+                        std::size_t most) {
+        for (sal_Int32 line = from; line <= to && line - from < static_cast<sal_Int32>(most);
+             ++line)
+            lines.insert(lines.end(), line);
+    };
+    for (const auto& part : answered(all->queryVisibleCells())->getRangeAddresses()) {
+        add(shownColumns, part.StartColumn, part.EndColumn, columns);
+        add(shownRows, part.StartRow, part.EndRow, rows);
+    }
+    ShownLines shown{{shownColumns.begin(), shownColumns.end()},
+                     {shownRows.begin(), shownRows.end()}};
+    shown.columns.resize(std::min(shown.columns.size(), columns));
+    shown.rows.resize(std::min(shown.rows.size(), rows));
+    return shown;
+}
+
+CellDress dressOf(const HtmlCell& cell) {
+    const office::CellLook& look = cell.look;
+    return {look.fill,     cell.fontColour,   look.isBold,
+            look.isItalic, look.isUnderlined, look.isStruckOut};
+}
+
+/// Calls `take` for each row of a table, with some of them read at a time: what is read takes ten
+/// times the memory.
+template <class Take>
+void forEachRow(std::string_view table, const Take& take) {
+    constexpr std::size_t muchText = 200'000;
+    std::size_t begin = table.find(beginOfRow);
+    while (begin < table.size()) {
+        std::size_t end = table.find(endOfRow, begin + muchText);
+        end = end == std::string_view::npos ? table.size() : end + endOfRow.size();
+        for (const HtmlRow& row : readCellsAsHtml(table.substr(begin, end - begin)).rows) take(row);
+        begin = end;
+    }
+}
+
+}  // namespace
+
+SheetLooks::SheetLooks(SheetRecord& sheet, std::string_view table) {
+    const std::size_t columns =
+        readCellsAsHtml(table.substr(0, table.find(beginOfRow))).columnWidthsPx.size();
+    shown_ = shownLinesFrom(sheet, sheet.used(), columns, rowsIn(table));
+    cells_.resize(shown_.columns.size() * shown_.rows.size());
+    HtmlPlaces places(shown_);
+    std::size_t row = 0;
+    forEachRow(table, [&](const HtmlRow& html) {
+        if (row == shown_.rows.size()) return;
+        for (const auto& merged : places.leftOutOf(html, row, sheet)) places.take(merged);
+        std::size_t column = 0;
+        for (const HtmlCell& cell : html.cells) {
+            column = places.freeFrom(row, column);
+            if (column == shown_.columns.size()) break;
+            const std::int32_t left = shown_.columns[column], top = shown_.rows[row];
+            places.take({left, top, left + cell.look.columns - 1, top + cell.look.rows - 1});
+            cells_[row * shown_.columns.size() + column] = dressOf(cell);
+        }
+        ++row;
+    });
+}
+
+const CellDress* SheetLooks::at(std::int32_t column, std::int32_t row) const {
+    const auto placeIn = [](const std::vector<std::int32_t>& lines, std::int32_t line) {
+        const auto found = std::lower_bound(lines.begin(), lines.end(), line);
+        const bool isThere = found != lines.end() && *found == line;
+        return static_cast<std::size_t>((isThere ? found : lines.end()) - lines.begin());
+    };
+    const std::size_t x = placeIn(shown_.columns, column), y = placeIn(shown_.rows, row);
+    if (x == shown_.columns.size() || y == shown_.rows.size()) return nullptr;
+    return &cells_[y * shown_.columns.size() + x];
+}
+
+BookLooks::BookLooks(CalcDocument& book)
+    : book_(book),
+      hasChanged_(std::make_shared<std::atomic<bool>>(false)) {
+    as<css::util::XModifyBroadcaster>(book.model())
+        ->addModifyListener(new ChangeListener(hasChanged_));
+}
+
+void BookLooks::forgetIfChanged() {
+    if (!hasChanged_->exchange(false)) return;
+    isTooLarge_.reset();
+    page_.reset();
+    sheets_.clear();
+}
+
+bool BookLooks::isTooLarge() {
+    // LibreOffice writes 200,000 in a second.
+    constexpr double mostCells = 500'000;
+    forgetIfChanged();
+    if (!isTooLarge_) {
+        double cells = 0;
+        for (const SheetRecordPtr& sheet : book_.sheetList().all())
+            if (sheet->isShown()) cells += sheet->used().cells();
+        isTooLarge_ = cells > mostCells;
+    }
+    return *isTooLarge_;
+}
+
+const SheetLooks* BookLooks::of(SheetRecord& sheet) {
+    if (isTooLarge()) return nullptr;
+    if (!page_) read();
+    const std::int32_t place = sheet.place();
+    auto found = sheets_.find(place);
+    if (found == sheets_.end()) {
+        const std::string_view page(reinterpret_cast<const char*>(page_->getConstArray()),
+                                    static_cast<std::size_t>(page_->getLength()));
+        found = sheets_.try_emplace(place, sheet, tableOf(sheet, page)).first;
+    }
+    return &found->second;
+}
+
+/// The workbook stays as it is, but comes to the top of the list of those that were used last.
+void BookLooks::read() {
+    const auto written = as<css::io::XSequenceOutputStream>(
+        book_.connection().create("com.sun.star.io.SequenceOutputStream"));
+    try {
+        as<css::frame::XStorable>(book_.model())
+            ->storeToURL("private:stream",
+                         propertyValues({{"FilterName", uno::Any(rtl::OUString("HTML (StarCalc)"))},
+                                         {"FilterOptions", uno::Any(rtl::OUString("SkipImages"))},
+                                         {"OutputStream", uno::Any(written)}}));
+        page_ = written->getWrittenBytes();
+    } catch (const css::io::IOException&) {
+        // The cells then look as in a copy.
+        page_.emplace();
+    }
+}
+
+}  // namespace libreoffice::excel

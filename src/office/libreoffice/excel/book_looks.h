@@ -1,0 +1,69 @@
+#pragma once
+
+#include <com/sun/star/uno/Sequence.hxx>
+
+#include <atomic>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "office/libreoffice/excel/cell_formats.h"
+#include "office/libreoffice/excel/sheet_record.h"
+
+namespace libreoffice::excel {
+
+class CalcDocument;
+
+/// What conditional formats change about a cell: the colours are 0xBBGGRR, nothing is no ground and
+/// the automatic colour of letters.
+struct CellDress {
+    std::optional<std::int32_t> fill;
+    std::optional<std::int32_t> fontColour;
+    bool isBold = false;
+    bool isItalic = false;
+    bool isUnderlined = false;
+    bool isStruckOut = false;
+};
+
+/// The cells of a sheet as they are dressed.
+class SheetLooks {
+public:
+    /// `table`: the sheet's in a page that the suite writes.
+    SheetLooks(SheetRecord& sheet, std::string_view table);
+
+    /// By the place on the sheet, from 0. Nothing for a cell beyond those with contents, lines or
+    /// grounds.
+    [[nodiscard]] const CellDress* at(std::int32_t column, std::int32_t row) const;
+
+private:
+    ShownLines shown_;
+    std::vector<CellDress> cells_;
+};
+
+/// The cells of a workbook with all conditions worked out. The suite does so in nothing but a page
+/// of all sheets that are shown, which is read once, and again when the workbook has been changed.
+class BookLooks {
+public:
+    explicit BookLooks(CalcDocument& book);
+
+    /// Whether that page would take seconds.
+    [[nodiscard]] bool isTooLarge();
+    /// Of a sheet that is shown; nothing if the workbook is too large, or the suite fails.
+    [[nodiscard]] const SheetLooks* of(SheetRecord& sheet);
+
+private:
+    void forgetIfChanged();
+    void read();
+
+    CalcDocument& book_;
+    /// A listener sets it from a thread of the bridge.
+    std::shared_ptr<std::atomic<bool>> hasChanged_;
+    std::optional<bool> isTooLarge_;
+    std::optional<uno::Sequence<sal_Int8>> page_;
+    std::map<std::int32_t, SheetLooks> sheets_;
+};
+
+}  // namespace libreoffice::excel
