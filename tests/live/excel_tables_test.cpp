@@ -1,4 +1,5 @@
 #include <com/sun/star/lang/Locale.hpp>
+#include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/XArrayFormulaRange.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/table/CellVertJustify2.hpp>
@@ -14,6 +15,7 @@
 #include "live/live_suite.h"
 #include "office/copied.h"
 #include "office/libreoffice/excel/cells_as_html.h"
+#include "office/libreoffice/excel/chart_shapes.h"
 
 namespace live {
 
@@ -245,6 +247,17 @@ TEST_F(ExcelTables, ShowConditionsThatACopyDoesNotWorkOut) {
     expected[0] = "Hof";
     expected[1] = "5 right";
     EXPECT_EQ(looksOfRow(), expected);
+    // LibreOffice would write all cells down to it.
+    const auto factory = as<css::lang::XMultiServiceFactory>(model());
+    const auto shape =
+        as<css::drawing::XShape>(factory->createInstance("com.sun.star.drawing.RectangleShape"));
+    const uno::Reference<css::sheet::XSpreadsheet> ruled(
+        as<css::sheet::XSpreadsheetDocument>(model())->getSheets()->getByName("Ruled"),
+        uno::UNO_QUERY_THROW);
+    libreoffice::excel::drawPageOf(ruled)->add(shape);
+    shape->setPosition({0, 300'000'000});
+    sheet(book, "Ruled").get("Range", "H6").put("Value", 1);
+    EXPECT_EQ(looks("Ruled", "C7"), std::vector<std::string>{"Bonn"}) << "as in a copy";
 }
 
 TEST(CellsAsHtml, HaveTheirNumbersInTheSuitesLanguage) {

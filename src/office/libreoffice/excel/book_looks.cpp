@@ -1,5 +1,6 @@
 #include "office/libreoffice/excel/book_looks.h"
 
+#include <com/sun/star/drawing/XShape.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/io/IOException.hpp>
 #include <com/sun/star/io/XSequenceOutputStream.hpp>
@@ -11,6 +12,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 #include <set>
 #include <utility>
 
@@ -86,6 +88,26 @@ ShownLines shownLinesFrom(const SheetRecord& sheet, const model::CellBlock& firs
     shown.columns.resize(std::min(shown.columns.size(), columns));
     shown.rows.resize(std::min(shown.rows.size(), rows));
     return shown;
+}
+
+/// As many as the page has of a sheet. It goes on to the end of what is drawn there, be it in the
+/// last row of all, which is reckoned in lines of the usual size.
+double cellsOnPage(SheetRecord& sheet) {
+    constexpr double usualWidth = 2258, usualHeight = 452;
+    double right = 0, bottom = 0;
+    const auto drawn = drawPageOf(sheet.sheet());
+    const sal_Int32 count = drawn->getCount();
+    for (sal_Int32 i = 0; i < count; ++i) {
+        const uno::Reference<css::drawing::XShape> shape(drawn->getByIndex(i), uno::UNO_QUERY);
+        if (!shape.is()) continue;
+        const auto corner = shape->getPosition();
+        const auto size = shape->getSize();
+        right = std::max(right, std::abs(corner.X) + double(size.Width));
+        bottom = std::max(bottom, corner.Y + double(size.Height));
+    }
+    const model::CellBlock used = sheet.used();
+    return std::max(double(used.columns()), right / usualWidth) *
+           std::max(double(used.rows()), bottom / usualHeight);
 }
 
 CellDress dressOf(const HtmlCell& cell) {
@@ -164,7 +186,7 @@ bool BookLooks::isTooLarge() {
     if (!isTooLarge_) {
         double cells = 0;
         for (const SheetRecordPtr& sheet : book_.sheetList().all())
-            if (sheet->isShown()) cells += sheet->used().cells();
+            if (sheet->isShown()) cells += cellsOnPage(*sheet);
         isTooLarge_ = cells > mostCells;
     }
     return *isTooLarge_;
