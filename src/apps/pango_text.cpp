@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+#include "office/units.h"
+
 namespace apps {
 
 namespace {
@@ -16,9 +18,8 @@ std::shared_ptr<void> owned(void* object) {
 
 TextMeasure::TextMeasure() : fonts_(owned(pango_ft2_font_map_new())) {
     // With as many dots as points to the inch, lengths come out in points.
-    constexpr double pointsPerInch = 72;
-    pango_ft2_font_map_set_resolution(static_cast<PangoFT2FontMap*>(fonts_.get()), pointsPerInch,
-                                      pointsPerInch);
+    pango_ft2_font_map_set_resolution(static_cast<PangoFT2FontMap*>(fonts_.get()),
+                                      office::pointsPerInch, office::pointsPerInch);
     auto* const context = pango_font_map_create_context(static_cast<PangoFontMap*>(fonts_.get()));
     pango_context_set_round_glyph_positions(context, FALSE);
     context_ = owned(context);

@@ -158,12 +158,6 @@ std::size_t firstBadUtf8(std::string_view text) {
     return std::string_view::npos;
 }
 
-std::string colourText(std::int32_t colour) {
-    const auto bits = static_cast<std::uint32_t>(colour);
-    return fmt::format("#{:02x}{:02x}{:02x}", bits & 0xFFU, bits >> 8U & 0xFFU,
-                       bits >> 16U & 0xFFU);
-}
-
 double leadingNumber(std::string_view text) {
     std::string digits;
     for (const char c : text) {

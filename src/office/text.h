@@ -46,9 +46,6 @@ namespace office {
 /// With the five characters that mean something in markup replaced.
 [[nodiscard]] std::string escapeMarkup(std::string_view text);
 
-/// A colour as style sheets have it, "#rrggbb"; red is its lowest byte.
-[[nodiscard]] std::string colourText(std::int32_t colour);
-
 /// The user's language as pages name it: "de".
 [[nodiscard]] std::string userLanguage();
 

@@ -13,14 +13,11 @@
 
 #include "office/failure.h"
 #include "office/text.h"
+#include "office/units.h"
 
 namespace office {
 
 namespace {
-
-constexpr double pointsPerInch = 72;
-constexpr double mmPerInch = 25.4;
-constexpr double pixelsPerInch = 96;
 
 [[noreturn]] void fail(const std::string& what, std::string_view why) {
     refuse("AddPicture", fmt::format("{} can't be used as a picture: {}", what, why));
@@ -118,16 +115,8 @@ std::optional<double> lengthPt(const std::string& text) {
     const auto number = numberOf(trimmed.substr(0, end));
     if (!number) return std::nullopt;
     const std::string unit = end == std::string::npos ? "px" : trimmed.substr(end);
-    constexpr std::array<std::pair<std::string_view, double>, 6> inches = {{{"px", pixelsPerInch},
-                                                                            {"pt", pointsPerInch},
-                                                                            {"pc", 6},
-                                                                            {"mm", mmPerInch},
-                                                                            {"cm", mmPerInch / 10},
-                                                                            {"in", 1}}};
-    for (const auto& [known, perInch] : inches) {
-        if (unit == known) return *number / perInch * pointsPerInch;
-    }
-    return std::nullopt;
+    const double points = pointsPer(unit);
+    return points > 0 ? std::optional(*number * points) : std::nullopt;
 }
 
 /// The size that the root says; in pixels that of its view box where it says none.

@@ -11,6 +11,7 @@
 
 #include "office/drawing/painting.h"
 #include "office/failure.h"
+#include "office/units.h"
 
 namespace office::drawing {
 
@@ -68,15 +69,14 @@ Picture DrawingRoom::draw(VectorPicture picture) {
 }
 
 Picture DrawingRoom::draw(const VectorFile& svg) {
-    constexpr double pointsPerInch = 72;
-    constexpr double dotsPerInch = 96;
     constexpr double mostPixels = 20e6;
     // What the surface that it is painted on takes.
     constexpr double longestSide = 32700;
-    const double dots = dotsPerInch / pointsPerInch;
-    const double tooMany = svg.widthPt * dots * svg.heightPt * dots / mostPixels;
-    const double perPoint = std::min(tooMany > 1 ? dots / std::sqrt(tooMany) : dots,
-                                     longestSide / std::max(svg.widthPt, svg.heightPt));
+    const double tooMany =
+        svg.widthPt * pixelsPerPoint * svg.heightPt * pixelsPerPoint / mostPixels;
+    const double perPoint =
+        std::min(tooMany > 1 ? pixelsPerPoint / std::sqrt(tooMany) : pixelsPerPoint,
+                 longestSide / std::max(svg.widthPt, svg.heightPt));
     const auto pixels = [&](double points) {
         return std::max(1, static_cast<std::int32_t>(std::lround(points * perPoint)));
     };

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "office/drawing/released_by.h"
+#include "office/units.h"
 
 namespace office::drawing {
 
@@ -24,8 +25,7 @@ Drawing read(const std::string& svg) {
     Drawing drawing(
         rsvg_handle_new_from_data(reinterpret_cast<const guint8*>(svg.data()), svg.size(), &error));
     if (!drawing) fail(error);
-    constexpr double screenDpi = 96;
-    rsvg_handle_set_dpi(drawing.get(), screenDpi);
+    rsvg_handle_set_dpi(drawing.get(), pixelsPerInch);
     return drawing;
 }
 

@@ -14,6 +14,7 @@
 #include "office/drawing/png_writer.h"
 #include "office/drawing/released_by.h"
 #include "office/drawing/svg_painter.h"
+#include "office/units.h"
 
 namespace office::drawing {
 
@@ -21,8 +22,6 @@ namespace {
 
 /// As many pixels are in the works at a time.
 constexpr std::int32_t pixelsOfStrip = 6'000'000;
-constexpr double inchesPerMetre = 1 / 0.0254;
-constexpr double pointsPerInch = 72;
 
 using Surface = std::unique_ptr<cairo_surface_t, ReleasedBy<&cairo_surface_destroy>>;
 using Context = std::unique_ptr<cairo_t, ReleasedBy<&cairo_destroy>>;

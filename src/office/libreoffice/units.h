@@ -3,15 +3,20 @@
 #include <cmath>
 #include <cstdint>
 
+#include "office/units.h"
+
 /// LibreOffice measures in hundredths of a millimetre, the object models in points.
 namespace libreoffice {
 
+inline constexpr double hundredthMmPerInch = office::mmPerInch * 100;
+
 [[nodiscard]] inline double pointsOf(std::int32_t hundredthMm) {
-    return hundredthMm * 72.0 / 2540.0;
+    return hundredthMm * office::pointsPerInch / hundredthMmPerInch;
 }
 
 [[nodiscard]] inline std::int32_t hundredthMmOf(double points) {
-    return static_cast<std::int32_t>(std::lround(points * 2540.0 / 72.0));
+    return static_cast<std::int32_t>(
+        std::lround(points * hundredthMmPerInch / office::pointsPerInch));
 }
 
 }  // namespace libreoffice

@@ -14,6 +14,8 @@
 #include <utility>
 #include <vector>
 
+#include "office/colour.h"
+
 namespace libreoffice {
 
 namespace css = com::sun::star;
@@ -28,10 +30,7 @@ namespace uno = com::sun::star::uno;
 [[nodiscard]] rtl::OUString fileUrl(std::string_view path);
 [[nodiscard]] std::string pathOfUrl(const rtl::OUString& url);
 
-/// The object models write a colour as 0xBBGGRR, LibreOffice as 0xRRGGBB: each way the same swap.
-[[nodiscard]] constexpr std::int32_t swapRedAndBlue(std::int32_t colour) {
-    return ((colour & 0xFF) << 16) | (colour & 0xFF00) | ((colour >> 16) & 0xFF);
-}
+using office::swapRedAndBlue;
 
 /// The names of properties as calls for several of them take them, which is in order.
 [[nodiscard]] uno::Sequence<rtl::OUString> namesOf(const std::vector<std::string_view>& sorted);

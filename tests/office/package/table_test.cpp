@@ -10,6 +10,7 @@
 #include "office/package/presentation/deck_file.h"
 #include "office/package/presentation/table_markup.h"
 #include "office/package/xml.h"
+#include "office/units.h"
 #include "support/automation.h"
 #include "support/copied_double.h"
 #include "support/temporary_folder.h"
@@ -208,9 +209,9 @@ TEST_F(Table, FitsItsSlideAndIsStretchedWithItsFrame) {
         const auto table = saved();
         double width = 0, height = 0;
         for (const auto column : table.child("a:tblGrid").children("a:gridCol"))
-            width += column.attribute("w").as_double() / emuPerPoint;
+            width += column.attribute("w").as_double() / office::emuPerPoint;
         for (const auto row : table.children("a:tr"))
-            height += row.attribute("h").as_double() / emuPerPoint;
+            height += row.attribute("h").as_double() / office::emuPerPoint;
         EXPECT_NEAR(width, widthPt, 0.001);
         EXPECT_NEAR(height, heightPt, 0.001);
         EXPECT_NEAR(shape.get("Width").toDouble(), widthPt, 0.001);

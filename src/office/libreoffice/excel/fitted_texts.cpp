@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "office/text.h"
+#include "office/units.h"
 
 namespace libreoffice::excel {
 
@@ -87,8 +88,7 @@ private:
     /// Numbers that don't go as they are have to fit on a screen, in letters of whole pixels: how
     /// much wider they are there.
     [[nodiscard]] static double onScreen(const CellLook& cell) {
-        constexpr double pixelsPerPoint = 96.0 / 72;
-        const double pixels = cell.fontSizePt * pixelsPerPoint;
+        const double pixels = cell.fontSizePt * office::pixelsPerPoint;
         return std::max(std::round(pixels), 1.0) / pixels;
     }
 

@@ -33,7 +33,7 @@ std::optional<office::VectorFile> vectorsIn(const std::string& file) {
 }
 
 css::awt::Size naturalSize(const uno::Reference<css::graphic::XGraphic>& picture) {
-    constexpr double hundredthMmPerPixel = 2540.0 / 96.0;
+    constexpr double hundredthMmPerPixel = hundredthMmPerInch / office::pixelsPerInch;
     auto size = property<css::awt::Size>(picture, "Size100thMM");
     if (size.Width > 0 && size.Height > 0) return size;
     const auto pixels = property<css::awt::Size>(picture, "SizePixel");

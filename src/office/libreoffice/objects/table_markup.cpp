@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "office/colour.h"
 #include "office/text.h"
 
 namespace libreoffice::objects {

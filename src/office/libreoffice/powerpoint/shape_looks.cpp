@@ -50,8 +50,8 @@ constexpr const char* reflectionEntry = "reflection";
 constexpr const char* shadowEntry = "outerShdw";
 constexpr const char* attributesEntry = "Attribs";
 
-/// Lengths in the files are English metric units, 12700 to the point; shares are of 100000.
-constexpr double emuPerPoint = 12700;
+using office::emuPerPoint;
+/// Shares in the files are of 100000.
 constexpr double emuShare = 100000;
 constexpr double emuPerPercent = emuShare / 100;
 

@@ -34,7 +34,7 @@ ShadowFormat fallingShadow() {
 
 /// A length as a text keeps it.
 std::int32_t inWholeTwips(std::int32_t hundredthMm) {
-    constexpr double hundredthMmPerTwip = 2540.0 / 1440.0;
+    constexpr double hundredthMmPerTwip = hundredthMmPerInch / 1440;
     return static_cast<std::int32_t>(
         std::lround(std::round(hundredthMm / hundredthMmPerTwip) * hundredthMmPerTwip));
 }

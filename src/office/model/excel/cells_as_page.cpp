@@ -6,7 +6,9 @@
 #include <map>
 #include <tuple>
 
+#include "office/colour.h"
 #include "office/text.h"
+#include "office/units.h"
 
 namespace office::model::excel {
 
@@ -15,7 +17,6 @@ namespace {
 /// A length as style sheets have it, in pixels of an inch's 96th: as many as are needed, and no
 /// trailing noughts.
 std::string pixels(double points) {
-    constexpr double pixelsPerPoint = 96.0 / 72.0;
     std::string text = fmt::format("{:.2f}", points * pixelsPerPoint);
     text.erase(text.find_last_not_of('0') + 1);
     if (text.back() == '.') text.pop_back();

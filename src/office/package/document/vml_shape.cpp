@@ -3,13 +3,13 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "office/package/xml.h"
 #include "office/text.h"
+#include "office/units.h"
 
 namespace office::package {
 
@@ -60,14 +60,9 @@ private:
 
 /// A length that names no unit counts pixels.
 double pointsIn(const std::string& length) {
-    constexpr double perPixel = 0.75;
-    constexpr std::array<std::pair<std::string_view, double>, 6> units = {
-        {{"pt", 1}, {"in", 72}, {"cm", 72 / 2.54}, {"mm", 7.2 / 2.54}, {"pc", 12}, {"px", 0.75}}};
-    const double number = leadingNumber(length);
-    for (const auto& [name, points] : units) {
-        if (length.ends_with(name)) return number * points;
-    }
-    return number * perPixel;
+    const double points =
+        pointsPer(length.substr(length.size() - std::min<std::size_t>(length.size(), 2)));
+    return leadingNumber(length) * (points > 0 ? points : pointsPer("px"));
 }
 
 std::string inPoints(double length) {

@@ -6,11 +6,12 @@
 #include <string>
 #include <string_view>
 
+#include "office/colour.h"
+#include "office/units.h"
+
 /// The markup of shapes, pictures and charts, which all kinds of files have in common.
 namespace office::package {
 
-/// Lengths in drawings are English metric units.
-inline constexpr double emuPerPoint = 12700;
 [[nodiscard]] long long emuOf(double points);
 /// The schema's order of what says how a shape looks.
 inline constexpr std::string_view looksOrder =
@@ -19,8 +20,6 @@ inline constexpr std::string_view looksOrder =
 /// An effect of what looks as `looks` say, made in its place. Effects in the order of a graph are
 /// left to their maker: a list takes their place.
 [[nodiscard]] pugi::xml_node effectFor(pugi::xml_node looks, std::string_view name);
-/// A colour (0xBBGGRR) as the files write it: "RRGGBB".
-[[nodiscard]] std::string hexColour(std::int32_t colour);
 /// The plain colour that an element holds, and its markup; 0xBBGGRR.
 [[nodiscard]] std::int32_t colourIn(pugi::xml_node holder);
 [[nodiscard]] std::string colourMarkup(std::int32_t colour);

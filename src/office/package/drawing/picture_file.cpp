@@ -9,6 +9,7 @@
 
 #include "office/failure.h"
 #include "office/files.h"
+#include "office/units.h"
 
 namespace office::package {
 
@@ -18,9 +19,6 @@ using namespace std::string_view_literals;
 
 constexpr std::string_view signature = "\x89PNG\r\n\x1a\n"sv;
 constexpr const char* source = "Shapes.AddPicture";
-constexpr double pointsPerInch = 72;
-constexpr double plainPixelsPerInch = 96;
-constexpr double inchesPerMetre = 1 / 0.0254;
 
 std::uint32_t numberAt(std::string_view bytes, std::size_t at) {
     std::uint32_t number = 0;
@@ -35,16 +33,16 @@ double rounded(double points) {
 
 /// A PNG keeps its density in whole pixels a metre; without rounding, 240 points would come back
 /// as 239.991.
-double inPoints(std::uint32_t pixels, double pixelsPerInch) {
-    return rounded(pixels / pixelsPerInch * pointsPerInch);
+double inPoints(std::uint32_t pixels, double perInch) {
+    return rounded(pixels / perInch * pointsPerInch);
 }
 
 /// A file of chunks: length, name, content, checksum. The first one says the size in pixels.
 Size sizeOfPng(std::string_view bytes) {
     constexpr std::size_t firstChunk = 8;
     constexpr std::size_t chunkFrame = 12;
-    double horizontal = plainPixelsPerInch;
-    double vertical = plainPixelsPerInch;
+    double horizontal = pixelsPerInch;
+    double vertical = pixelsPerInch;
     for (std::size_t at = firstChunk; at + chunkFrame < bytes.size();
          at += numberAt(bytes, at) + chunkFrame) {
         const std::string_view content = bytes.substr(at + 8);
