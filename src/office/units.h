@@ -13,6 +13,10 @@ inline constexpr double mmPerInch = 25.4;
 inline constexpr double inchesPerMetre = 1000 / mmPerInch;
 /// English metric units, in which drawings are measured.
 inline constexpr double emuPerPoint = 12700;
+/// Shares in drawings are of so many, angles of so many to the degree.
+inline constexpr double wholeShare = 100000;
+inline constexpr double sharePerPercent = wholeShare / 100;
+inline constexpr double anglePerDegree = 60000;
 
 /// The points of a unit that markup may name behind a length, such as "cm"; 0 of any other.
 [[nodiscard]] constexpr double pointsPer(std::string_view unit) {

@@ -51,9 +51,8 @@ constexpr const char* shadowEntry = "outerShdw";
 constexpr const char* attributesEntry = "Attribs";
 
 using office::emuPerPoint;
-/// Shares in the files are of 100000.
-constexpr double emuShare = 100000;
-constexpr double emuPerPercent = emuShare / 100;
+using office::sharePerPercent;
+using office::wholeShare;
 
 template <class Type>
 Type entryOf(const Properties& entries, const char* name, Type otherwise = Type()) {
@@ -84,7 +83,7 @@ std::string typeOf(const Properties& geometry) {
 /// What stands for 1 in an adjustment.
 double wholeOf(const Properties& geometry) {
     constexpr double ownWhole = 21600;
-    return typeOf(geometry).starts_with(loadedPrefix) ? emuShare : ownWhole;
+    return typeOf(geometry).starts_with(loadedPrefix) ? wholeShare : ownWhole;
 }
 
 Adjustments adjustmentsOf(const Properties& geometry) {
@@ -136,17 +135,17 @@ Properties reflectionForFile(const model::Reflection& reflection, const Properti
     const auto number = [](double value) {
         return uno::Any(static_cast<sal_Int32>(std::lround(value)));
     };
-    constexpr double halfSeen = emuShare / 2;
+    constexpr double halfSeen = wholeShare / 2;
     constexpr double fadedOut = 0.003;
-    constexpr double downwards = 90 * 60000;
+    constexpr double downwards = 90 * office::anglePerDegree;
     const Properties attributes =
         propertyValues({{"blurRad", number(numberIn(before, "blurRad", 0))},
                         {"stA", number(numberIn(before, "stA", halfSeen))},
-                        {"endA", number(fadedOut * emuShare)},
-                        {"endPos", number(reflection.sizePercent * emuPerPercent)},
+                        {"endA", number(fadedOut * wholeShare)},
+                        {"endPos", number(reflection.sizePercent * sharePerPercent)},
                         {"dist", number(reflection.offsetPt * emuPerPoint)},
                         {"dir", number(downwards)},
-                        {"sy", number(-emuShare)},
+                        {"sy", number(-wholeShare)},
                         {"algn", uno::Any(rtl::OUString("bl"))},
                         {"rotWithShape", number(0)}});
     return propertyValues(
@@ -295,7 +294,7 @@ model::Reflection ImpressShape::reflection() {
         reflectionAttributes(entryOf<Properties>(get<Properties>(bagProperty), effectsEntry));
     if (!attributes.hasElements()) return {};
     return {.offsetPt = numberIn(attributes, "dist", 0) / emuPerPoint,
-            .sizePercent = numberIn(attributes, "endPos", emuShare) / emuPerPercent};
+            .sizePercent = numberIn(attributes, "endPos", wholeShare) / sharePerPercent};
 }
 
 void ImpressShape::setReflection(const model::Reflection& reflection) {

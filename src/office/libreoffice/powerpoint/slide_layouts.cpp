@@ -17,23 +17,19 @@ namespace {
 
 namespace drawing = css::drawing;
 
-/// PowerPoint's number, LibreOffice's own, and the name of the layout in PowerPoint's templates.
+/// PowerPoint's number and LibreOffice's own.
 struct Layout {
     std::int32_t number;
     std::int16_t ofLibreOffice;
-    std::string_view name;
 };
 
-constexpr std::int32_t otherLayout = 32;
-
-/// The first three are given to slides, the others only read: text, object, two objects.
 constexpr std::array<Layout, 6> layouts = {{
-    {model::layout::title, 0, "Title Slide"},
-    {model::layout::titleOnly, 19, "Title Only"},
-    {model::layout::blank, 20, "Blank"},
-    {2, 1, ""},
-    {16, 11, ""},
-    {29, 3, ""},
+    {model::layout::title, 0},
+    {model::layout::titleOnly, 19},
+    {model::layout::blank, 20},
+    {model::layout::text, 1},
+    {model::layout::object, 11},
+    {model::layout::twoObjects, 3},
 }};
 
 const Layout& layoutNumbered(std::int32_t number) {
@@ -59,7 +55,7 @@ std::int32_t SlideLayouts::layoutOf(ImpressSlide& slide) {
     const auto* found = std::find_if(layouts.begin(), layouts.end(), [&](const Layout& layout) {
         return layout.ofLibreOffice == own;
     });
-    return found != layouts.end() ? found->number : otherLayout;
+    return found != layouts.end() ? found->number : model::layout::other;
 }
 
 void SlideLayouts::apply(ImpressSlide& slide, std::int32_t number) {
@@ -119,7 +115,7 @@ SlideLayouts::PageRef SlideLayouts::findMaster(std::int32_t layout, const std::s
     for (Master& master : masters_) {
         if (master.design == design) candidates.push_back(&master);
     }
-    const std::string_view name = layoutNumbered(layout).name;
+    const std::string_view name = model::layout::nameOf(layout);
     for (const Master* master : candidates) {
         if (master->name == name) return master->page;
     }

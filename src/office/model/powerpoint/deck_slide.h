@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "office/copied.h"
@@ -10,11 +11,26 @@
 
 namespace office::model::powerpoint {
 
-/// The layouts that slides are given, by PowerPoint's numbers.
+/// Layouts by PowerPoint's numbers.
 namespace layout {
+
+/// The three that slides are given.
 inline constexpr std::int32_t title = 1;
 inline constexpr std::int32_t titleOnly = 11;
 inline constexpr std::int32_t blank = 12;
+
+/// Slides that stand in the file may have these, or any other.
+inline constexpr std::int32_t text = 2;
+inline constexpr std::int32_t object = 16;
+inline constexpr std::int32_t twoObjects = 29;
+inline constexpr std::int32_t other = 32;
+
+/// What PowerPoint's English templates call one of the three.
+[[nodiscard]] constexpr std::string_view nameOf(std::int32_t layout) {
+    if (layout == title) return "Title Slide";
+    return layout == titleOnly ? "Title Only" : "Blank";
+}
+
 }  // namespace layout
 
 /// A slide with its shapes, placeholders among them, from the lowest to the topmost. Places count

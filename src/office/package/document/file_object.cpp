@@ -18,9 +18,6 @@ namespace office::package {
 
 namespace {
 
-/// Shares are of 100000, angles of 60000 to the degree.
-constexpr double perPercentOfSize = 1000;
-constexpr double perDegreeOfFall = 60000;
 /// Down and to the right, as far as Word's own shadows fall.
 constexpr double fallDegrees = 45;
 constexpr double fallPt = 3;
@@ -47,23 +44,22 @@ word::ObjectShadow shadowIn(pugi::xml_node looks) {
     const auto found =
         childNamed(childNamed(looks, ns::drawing, "effectLst"), ns::drawing, "outerShdw");
     if (!found) return {};
-    constexpr double whole = 100 * perPercentOfSize;
     return {.isShown = true,
-            .size = found.attribute("sx").as_double(whole) / perPercentOfSize,
+            .size = found.attribute("sx").as_double(wholeShare) / sharePerPercent,
             .blur = found.attribute("blurRad").as_double() / emuPerPoint};
 }
 
 void setShadowIn(pugi::xml_node looks, const word::ObjectShadow& shadow) {
     const auto before = effectFor(looks, "outerShdw");
     auto effects = before.parent();
-    const long long share = std::llround(shadow.size * perPercentOfSize);
+    const long long share = std::llround(shadow.size * sharePerPercent);
     if (shadow.isShown)
         insertMarkup(
             effects,
             fmt::format(R"(<a:outerShdw blurRad="{}" dist="{}" dir="{}" sx="{}" sy="{}" )"
                         R"(algn="tl" rotWithShape="0">{}</a:outerShdw>)",
                         emuOf(shadow.blur), emuOf(fallPt),
-                        std::llround(fallDegrees * perDegreeOfFall), share, share, shadowColour),
+                        std::llround(fallDegrees * anglePerDegree), share, share, shadowColour),
             before);
     effects.remove_child(before);
 }
@@ -114,10 +110,8 @@ void FileObject::setAlternativeText(const std::string& text) {
 std::string FileObject::chartPart() {
     const auto chart = graphicOf(element_);
     if (!isNamed(chart, ns::chart, "chart")) return {};
-    const Relationships& relationships = document_.package().relationshipsOf(document_.mainPart());
-    const Relationship* const found =
-        relationships.withId(attributeNamed(chart, ns::relationships, "id").value());
-    return found != nullptr ? relationships.partOf(*found) : std::string();
+    return document_.package().partOfId(document_.mainPart(),
+                                        attributeNamed(chart, ns::relationships, "id").value());
 }
 
 word::ObjectShadow FileObject::shadow() {

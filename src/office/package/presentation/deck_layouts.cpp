@@ -10,28 +10,27 @@ namespace office::package {
 
 namespace {
 
-constexpr std::int32_t otherLayout = 32;
-
+/// A layout's number and its kind as its part says it.
 struct LayoutKind {
     std::int32_t number;
-    /// As a layout's part says it, and as PowerPoint's English templates name it.
-    const char* type;
-    const char* name;
+    std::string_view type;
 };
 
-/// The first three are given to slides, the others only read.
 constexpr std::array<LayoutKind, 6> kinds = {{
-    {powerpoint::layout::title, "title", "Title Slide"},
-    {powerpoint::layout::titleOnly, "titleOnly", "Title Only"},
-    {powerpoint::layout::blank, "blank", "Blank"},
-    {2, "tx", ""},
-    {16, "obj", ""},
-    {29, "twoObj", ""},
+    {powerpoint::layout::title, "title"},
+    {powerpoint::layout::titleOnly, "titleOnly"},
+    {powerpoint::layout::blank, "blank"},
+    {powerpoint::layout::text, "tx"},
+    {powerpoint::layout::object, "obj"},
+    {powerpoint::layout::twoObjects, "twoObj"},
 }};
 
-const LayoutKind& kindOf(std::int32_t number) {
-    return *std::find_if(kinds.begin(), kinds.end(),
-                         [&](const LayoutKind& kind) { return kind.number == number; });
+/// By its kind alone.
+std::int32_t kindNumberOf(const Xml& layout) {
+    const std::string_view type = layout.root().attribute("type").value();
+    const auto* const found = std::find_if(
+        kinds.begin(), kinds.end(), [&](const LayoutKind& kind) { return kind.type == type; });
+    return found != kinds.end() ? found->number : powerpoint::layout::other;
 }
 
 std::string layoutName(const Xml& layout) {
@@ -78,11 +77,10 @@ const Xml& DeckLayouts::page(const std::string& part) {
 }
 
 std::string DeckLayouts::masterOf(const std::string& layout) {
-    const Relationships& relationships = package_.relationshipsOf(layout);
-    const Relationship* const found = relationships.ofType("slideMaster");
-    if (found == nullptr)
+    const std::string master = package_.partOfType(layout, "slideMaster");
+    if (master.empty())
         throw PackageError(Fault::Damaged, "its layout " + shown(layout) + " has no master");
-    return relationships.partOf(*found);
+    return master;
 }
 
 std::vector<std::string> DeckLayouts::layoutsOf(const std::string& master) {
@@ -119,7 +117,6 @@ std::string DeckLayouts::find(std::int32_t number, const std::string& neighbour)
     auto layouts = layoutsOf(master);
     // A master that lists none still has the one that is in use.
     if (layouts.empty()) layouts.push_back(neighbour);
-    const LayoutKind& kind = kindOf(number);
     const auto where = [&](const auto& fits) {
         return std::find_if(layouts.begin(), layouts.end(), fits);
     };
@@ -128,12 +125,12 @@ std::string DeckLayouts::find(std::int32_t number, const std::string& neighbour)
         return number == powerpoint::layout::blank || titlesIn(contentOf(layout)) > 0;
     };
     auto chosen = where([&](const std::string& layout) {
-        return page(layout).root().attribute("type").value() == std::string_view(kind.type) &&
-               suits(layout);
+        return kindNumberOf(page(layout)) == number && suits(layout);
     });
     if (chosen == layouts.end())
         chosen = where([&](const std::string& layout) {
-            return sameIgnoringCase(layoutName(page(layout)), kind.name) && suits(layout);
+            return sameIgnoringCase(layoutName(page(layout)), powerpoint::layout::nameOf(number)) &&
+                   suits(layout);
         });
     if (chosen == layouts.end())
         chosen = std::min_element(layouts.begin(), layouts.end(), [&](auto& left, auto& right) {
@@ -143,13 +140,14 @@ std::string DeckLayouts::find(std::int32_t number, const std::string& neighbour)
 }
 
 std::int32_t DeckLayouts::numberOf(const std::string& layout) {
-    const std::string_view type = page(layout).root().attribute("type").value();
-    const std::string name = layoutName(page(layout));
-    for (const LayoutKind& kind : kinds) {
-        if (type == kind.type || (type.empty() && sameIgnoringCase(name, kind.name)))
-            return kind.number;
+    const Xml& xml = page(layout);
+    if (xml.root().attribute("type")) return kindNumberOf(xml);
+    const std::string name = layoutName(xml);
+    for (const std::int32_t given :
+         {powerpoint::layout::title, powerpoint::layout::titleOnly, powerpoint::layout::blank}) {
+        if (sameIgnoringCase(name, powerpoint::layout::nameOf(given))) return given;
     }
-    return otherLayout;
+    return powerpoint::layout::other;
 }
 
 std::vector<Placeholder> DeckLayouts::placeholdersFor(std::int32_t number,

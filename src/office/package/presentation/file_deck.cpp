@@ -174,11 +174,10 @@ std::string FileDeck::neighbourLayout() {
     }
     const auto masters = childNamed(presentation_.root(), ns::presentation, "sldMasterIdLst");
     const auto first = childNamed(masters, ns::presentation, "sldMasterId");
-    const Relationships& relationships = package_.relationshipsOf(main_);
-    const Relationship* const found =
-        relationships.withId(attributeNamed(first, ns::relationships, "id").value());
-    if (found == nullptr) throw PackageError(Fault::Damaged, "it has no slide master");
-    return layouts_.firstOf(relationships.partOf(*found));
+    const std::string master =
+        package_.partOfId(main_, attributeNamed(first, ns::relationships, "id").value());
+    if (master.empty()) throw PackageError(Fault::Damaged, "it has no slide master");
+    return layouts_.firstOf(master);
 }
 
 powerpoint::DeckSlidePtr FileDeck::addSlide(std::int32_t place, std::int32_t layout) {

@@ -91,11 +91,10 @@ std::vector<FileShapePtr>& FileSlide::shapes() {
 }
 
 std::string FileSlide::layoutPart() {
-    const Relationships& relationships = deck_.package().relationshipsOf(part_);
-    const Relationship* const found = relationships.ofType("slideLayout");
-    if (found == nullptr)
+    const std::string layout = deck_.package().partOfType(part_, "slideLayout");
+    if (layout.empty())
         throw PackageError(Fault::Damaged, "its slide " + shown(part_) + " has no layout");
-    return relationships.partOf(*found);
+    return layout;
 }
 
 std::int32_t FileSlide::place() {

@@ -25,12 +25,8 @@ constexpr std::array<OutlineName, 2> outlines = {{
     {powerpoint::Outline::RoundedRectangle, "roundRect"},
 }};
 
-/// Shares are of 100000, angles of 60000 to the degree.
-constexpr double emuShare = 100000;
-constexpr double perPercent = emuShare / 100;
-constexpr double perDegree = 60000;
 /// The radius of a rounded rectangle that says none.
-constexpr double plainRadius = 16667 / emuShare;
+constexpr double plainRadius = 16667 / wholeShare;
 
 void setNumber(pugi::xml_node node, const char* name, double value) {
     attributeFor(node, name).set_value(std::llround(value));
@@ -40,8 +36,8 @@ constexpr double radiansPerDegree = std::numbers::pi / 180;
 
 /// The direction of an offset, as the files count angles: below a full turn.
 double directionOf(double x, double y) {
-    const double direction = std::round(std::atan2(y, x) / radiansPerDegree * perDegree);
-    return direction < 0 ? direction + 360 * perDegree : direction;
+    const double direction = std::round(std::atan2(y, x) / radiansPerDegree * anglePerDegree);
+    return direction < 0 ? direction + 360 * anglePerDegree : direction;
 }
 
 }  // namespace
@@ -83,7 +79,7 @@ pugi::xml_node FileShape::guide(std::int32_t place) {
 std::optional<double> FileShape::adjustment(std::int32_t place) {
     const auto found = guide(place);
     const std::string formula = found.attribute("fmla").value();
-    if (formula.starts_with("val ")) return leadingNumber(formula.substr(4)) / emuShare;
+    if (formula.starts_with("val ")) return leadingNumber(formula.substr(4)) / wholeShare;
     const bool isRound = outline() == powerpoint::Outline::RoundedRectangle;
     return isRound && place == 1 && !found ? std::optional(plainRadius) : std::nullopt;
 }
@@ -99,7 +95,7 @@ bool FileShape::setAdjustment(std::int32_t place, double value) {
         attributeFor(found, "name").set_value("adj");
     }
     attributeFor(found, "fmla")
-        .set_value(fmt::format("val {}", std::llround(value * emuShare)).c_str());
+        .set_value(fmt::format("val {}", std::llround(value * wholeShare)).c_str());
     return true;
 }
 
@@ -111,10 +107,8 @@ pugi::xml_node FileShape::effectsHolder() {
         attributeNamed(childNamed(graphic, ns::chart, "chart"), ns::relationships, "id");
     if (!chart_ && id) {
         Package& package = slide_.deck().package();
-        const Relationships& relationships = package.relationshipsOf(slide_.part());
-        const Relationship* const found = relationships.withId(id.value());
-        if (found == nullptr) return {};
-        chartPart_ = relationships.partOf(*found);
+        chartPart_ = package.partOfId(slide_.part(), id.value());
+        if (chartPart_.empty()) return {};
         chart_ = std::make_unique<Xml>(package.read(chartPart_), chartPart_);
     }
     return chart_ ? chartChild(chart_->root(), "spPr") : pugi::xml_node();
@@ -151,10 +145,10 @@ powerpoint::Shadow FileShape::shadow() {
     const auto found = effect("outerShdw");
     if (!found) return {};
     const double distance = found.attribute("dist").as_double() / emuPerPoint;
-    const double angle = found.attribute("dir").as_double() / perDegree * radiansPerDegree;
+    const double angle = found.attribute("dir").as_double() / anglePerDegree * radiansPerDegree;
     return {.isVisible = true,
             .blurPt = found.attribute("blurRad").as_double() / emuPerPoint,
-            .sizePercent = found.attribute("sx").as_double(emuShare) / perPercent,
+            .sizePercent = found.attribute("sx").as_double(wholeShare) / sharePerPercent,
             .offsetXPt = distance * std::cos(angle),
             .offsetYPt = distance * std::sin(angle),
             .colour = colourIn(found)};
@@ -166,8 +160,8 @@ void FileShape::setShadow(const powerpoint::Shadow& shadow) {
     setNumber(made, "blurRad", shadow.blurPt * emuPerPoint);
     setNumber(made, "dist", std::hypot(shadow.offsetXPt, shadow.offsetYPt) * emuPerPoint);
     setNumber(made, "dir", directionOf(shadow.offsetXPt, shadow.offsetYPt));
-    setNumber(made, "sx", shadow.sizePercent * perPercent);
-    setNumber(made, "sy", shadow.sizePercent * perPercent);
+    setNumber(made, "sx", shadow.sizePercent * sharePerPercent);
+    setNumber(made, "sy", shadow.sizePercent * sharePerPercent);
     attributeFor(made, "algn").set_value("ctr");
     attributeFor(made, "rotWithShape").set_value("0");
     if (const auto before = childNamed(made, ns::drawing, "srgbClr")) {
@@ -182,22 +176,22 @@ powerpoint::Reflection FileShape::reflection() {
     const auto found = effect("reflection");
     if (!found) return {};
     return {.offsetPt = found.attribute("dist").as_double() / emuPerPoint,
-            .sizePercent = found.attribute("endPos").as_double(emuShare) / perPercent};
+            .sizePercent = found.attribute("endPos").as_double(wholeShare) / sharePerPercent};
 }
 
 /// Blur and transparency stay those of the reflection before.
 void FileShape::setReflection(const powerpoint::Reflection& reflection) {
     if (reflection.sizePercent <= 0) return dropEffect("reflection");
-    constexpr double halfSeen = emuShare / 2;
+    constexpr double halfSeen = wholeShare / 2;
     constexpr double fadedOut = 300;
     auto made = madeEffect("Reflection", "reflection");
     setNumber(made, "blurRad", made.attribute("blurRad").as_double());
     setNumber(made, "stA", made.attribute("stA").as_double(halfSeen));
     setNumber(made, "endA", fadedOut);
-    setNumber(made, "endPos", reflection.sizePercent * perPercent);
+    setNumber(made, "endPos", reflection.sizePercent * sharePerPercent);
     setNumber(made, "dist", reflection.offsetPt * emuPerPoint);
-    setNumber(made, "dir", 90 * perDegree);
-    setNumber(made, "sy", -emuShare);
+    setNumber(made, "dir", 90 * anglePerDegree);
+    setNumber(made, "sy", -wholeShare);
     attributeFor(made, "algn").set_value("bl");
     attributeFor(made, "rotWithShape").set_value("0");
 }

@@ -20,9 +20,8 @@ namespace {
 constexpr const char* tableSpace = "http://schemas.openxmlformats.org/drawingml/2006/table";
 /// The style that adds neither lines nor fills.
 constexpr const char* plainStyle = "{2D5ABB26-0587-4C30-8999-92F81FD0307C}";
-/// Sizes of characters are hundredths of a point, shares of 100000.
+/// Sizes of characters are hundredths of a point.
 constexpr double perPoint = 100;
-constexpr double wholeShare = 100000;
 /// The thinnest line that is drawn at all.
 constexpr double thinnestPt = 0.25;
 

@@ -47,13 +47,12 @@ bool shrinks(const std::vector<pugi::xml_node>& properties) {
 
 /// The distance of lines in shares of the usual one. One in points counts as usual.
 double lineSpacingIn(const std::vector<pugi::xml_node>& paragraphs) {
-    constexpr double perWhole = 100'000;
     for (const pugi::xml_node one : paragraphs) {
         const auto spacing = childNamed(one, ns::drawing, "lnSpc");
         if (!spacing) continue;
         const auto said = childNamed(spacing, ns::drawing, "spcPct").attribute("val");
         const bool isPercent = std::string_view(said.value()).ends_with('%');
-        return said ? said.as_double() / (isPercent ? 100 : perWhole) : 1;
+        return said ? said.as_double() / (isPercent ? 100 : wholeShare) : 1;
     }
     return 1;
 }
