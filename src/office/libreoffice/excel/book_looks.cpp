@@ -38,7 +38,6 @@ private:
 };
 
 constexpr std::string_view beginOfRow = "<tr>";
-constexpr std::string_view endOfRow = "</tr>";
 
 /// What is written of a sheet, without the texts around it; nothing if it isn't there. The marks of
 /// cells' texts are escaped in the page.
@@ -58,12 +57,15 @@ std::string_view tableOf(SheetRecord& sheet, std::string_view page) {
     return page.substr(begin, end - begin);
 }
 
-std::size_t rowsIn(std::string_view table) {
-    std::size_t count = 0;
-    for (std::size_t at = table.find(beginOfRow); at != std::string_view::npos;
-         at = table.find(beginOfRow, at + 1))
-        ++count;
-    return count;
+std::vector<std::string_view> rowsOf(std::string_view table) {
+    std::vector<std::string_view> rows;
+    std::size_t begin = table.find(beginOfRow);
+    while (begin < table.size()) {
+        const std::size_t next = table.find(beginOfRow, begin + 1);
+        rows.push_back(table.substr(begin, next - begin));
+        begin = next;
+    }
+    return rows;
 }
 
 /// So many of the columns and rows that are shown, from a cell on.
@@ -116,45 +118,40 @@ CellDress dressOf(const HtmlCell& cell) {
             look.isItalic, look.isUnderlined, look.isStruckOut};
 }
 
-/// Calls `take` for each row of a table, with some of them read at a time: what is read takes ten
-/// times the memory.
-template <class Take>
-void forEachRow(std::string_view table, const Take& take) {
-    constexpr std::size_t muchText = 200'000;
-    std::size_t begin = table.find(beginOfRow);
-    while (begin < table.size()) {
-        std::size_t end = table.find(endOfRow, begin + muchText);
-        end = end == std::string_view::npos ? table.size() : end + endOfRow.size();
-        for (const HtmlRow& row : readCellsAsHtml(table.substr(begin, end - begin)).rows) take(row);
-        begin = end;
+}  // namespace
+
+SheetLooks::SheetLooks(SheetRecord& sheet, std::string_view table)
+    : sheet_(sheet),
+      rows_(rowsOf(table)),
+      shown_(shownLinesFrom(
+          sheet, sheet.used(),
+          readCellsAsHtml(table.substr(0, table.find(beginOfRow))).columnWidthsPx.size(),
+          rows_.size())),
+      cells_(shown_.columns.size() * shown_.rows.size()),
+      places_(shown_) {
+    // Where the cells of a row stand goes by those above that reach into it.
+    for (std::size_t row = 0; row < shown_.rows.size(); ++row)
+        if (rows_[row].find("rowspan=") != std::string_view::npos) readRow(row);
+}
+
+void SheetLooks::readRow(std::size_t row) {
+    const std::string_view text = std::exchange(rows_[row], {});
+    if (text.empty()) return;
+    const std::size_t width = shown_.columns.size();
+    for (const HtmlRow& html : readCellsAsHtml(text).rows) {
+        for (const auto& merged : places_.leftOutOf(html, row, sheet_)) places_.take(merged);
+        std::size_t column = 0;
+        for (const HtmlCell& cell : html.cells) {
+            column = places_.freeFrom(row, column);
+            if (column == width) break;
+            const std::int32_t left = shown_.columns[column], top = shown_.rows[row];
+            places_.take({left, top, left + cell.look.columns - 1, top + cell.look.rows - 1});
+            cells_[row * width + column] = dressOf(cell);
+        }
     }
 }
 
-}  // namespace
-
-SheetLooks::SheetLooks(SheetRecord& sheet, std::string_view table) {
-    const std::size_t columns =
-        readCellsAsHtml(table.substr(0, table.find(beginOfRow))).columnWidthsPx.size();
-    shown_ = shownLinesFrom(sheet, sheet.used(), columns, rowsIn(table));
-    cells_.resize(shown_.columns.size() * shown_.rows.size());
-    HtmlPlaces places(shown_);
-    std::size_t row = 0;
-    forEachRow(table, [&](const HtmlRow& html) {
-        if (row == shown_.rows.size()) return;
-        for (const auto& merged : places.leftOutOf(html, row, sheet)) places.take(merged);
-        std::size_t column = 0;
-        for (const HtmlCell& cell : html.cells) {
-            column = places.freeFrom(row, column);
-            if (column == shown_.columns.size()) break;
-            const std::int32_t left = shown_.columns[column], top = shown_.rows[row];
-            places.take({left, top, left + cell.look.columns - 1, top + cell.look.rows - 1});
-            cells_[row * shown_.columns.size() + column] = dressOf(cell);
-        }
-        ++row;
-    });
-}
-
-const CellDress* SheetLooks::at(std::int32_t column, std::int32_t row) const {
+const CellDress* SheetLooks::at(std::int32_t column, std::int32_t row) {
     const auto placeIn = [](const std::vector<std::int32_t>& lines, std::int32_t line) {
         const auto found = std::lower_bound(lines.begin(), lines.end(), line);
         const bool isThere = found != lines.end() && *found == line;
@@ -162,6 +159,7 @@ const CellDress* SheetLooks::at(std::int32_t column, std::int32_t row) const {
     };
     const std::size_t x = placeIn(shown_.columns, column), y = placeIn(shown_.rows, row);
     if (x == shown_.columns.size() || y == shown_.rows.size()) return nullptr;
+    readRow(y);
     return &cells_[y * shown_.columns.size() + x];
 }
 
@@ -192,7 +190,7 @@ bool BookLooks::isTooLarge() {
     return *isTooLarge_;
 }
 
-const SheetLooks* BookLooks::of(SheetRecord& sheet) {
+SheetLooks* BookLooks::of(SheetRecord& sheet) {
     if (isTooLarge()) return nullptr;
     if (!page_) read();
     const std::int32_t place = sheet.place();

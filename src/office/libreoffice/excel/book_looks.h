@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "office/libreoffice/excel/cell_formats.h"
+#include "office/libreoffice/excel/html_places.h"
 #include "office/libreoffice/excel/sheet_record.h"
 
 namespace libreoffice::excel {
@@ -31,16 +32,25 @@ struct CellDress {
 /// The cells of a sheet as they are dressed.
 class SheetLooks {
 public:
-    /// `table`: the sheet's in a page that the suite writes.
+    /// `table`: the sheet's in a page that the suite writes, which has to last; its rows are read
+    /// when they are asked for.
     SheetLooks(SheetRecord& sheet, std::string_view table);
+    SheetLooks(const SheetLooks&) = delete;
+    SheetLooks& operator=(const SheetLooks&) = delete;
 
     /// By the place on the sheet, from 0. Nothing for a cell beyond those with contents, lines or
     /// grounds.
-    [[nodiscard]] const CellDress* at(std::int32_t column, std::int32_t row) const;
+    [[nodiscard]] const CellDress* at(std::int32_t column, std::int32_t row);
 
 private:
+    void readRow(std::size_t row);
+
+    SheetRecord& sheet_;
+    /// Those that have been read are empty.
+    std::vector<std::string_view> rows_;
     ShownLines shown_;
     std::vector<CellDress> cells_;
+    HtmlPlaces places_;
 };
 
 /// The cells of a workbook with all conditions worked out. The suite does so in nothing but a page
@@ -52,7 +62,7 @@ public:
     /// Whether that page would take seconds.
     [[nodiscard]] bool isTooLarge();
     /// Of a sheet that is shown; nothing if the workbook is too large, or the suite fails.
-    [[nodiscard]] const SheetLooks* of(SheetRecord& sheet);
+    [[nodiscard]] SheetLooks* of(SheetRecord& sheet);
 
 private:
     void forgetIfChanged();

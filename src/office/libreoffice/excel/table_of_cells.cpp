@@ -120,7 +120,7 @@ public:
 
 private:
     std::vector<model::CellBlock> blocks_;
-    const SheetLooks* looks_;
+    SheetLooks* looks_;
 };
 
 /// Fills a table from what the suite says of its cells.
