@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "catalogue/list_rows.h"
 #include "catalogue/review_targets.h"
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
@@ -19,46 +18,54 @@ bool isOpen(const office::Object& book) {
     return office::orElse([&] { return !book.get("Name").isBlank(); }, false);
 }
 
-void reviewItems(session::OfficeSession& session, const ExportList& list, ReviewTexts& texts) {
-    const std::int32_t checked = CountCheckedRows(list);
-    if (checked == 0) {
-        texts.Blockers.emplace_back(
-            "No items are checked. Select at least one chart, range, or object to export.");
-        return;
-    }
-    RowObjects objects(session);
+/// What becomes of the rows that are checked.
+struct CheckedRows {
+    std::int32_t all = 0;
     std::int32_t exportable = 0;
     std::int32_t sheetsGone = 0;
     std::int32_t gone = 0;
+
+    [[nodiscard]] std::int32_t hidden() const { return all - exportable - sheetsGone - gone; }
+};
+
+CheckedRows countChecked(const ExportList& list, RowObjects& objects) {
+    CheckedRows checked;
     for (const ExportItem& row : list.rows) {
         if (!row.checked) continue;
-        if (objects.isExportable(row)) ++exportable;
-        if (objects.isSheetGone(row)) ++sheetsGone;
-        if (objects.isItemGone(row)) ++gone;
+        ++checked.all;
+        if (objects.isExportable(row)) ++checked.exportable;
+        if (objects.isSheetGone(row)) ++checked.sheetsGone;
+        if (objects.isItemGone(row)) ++checked.gone;
     }
-    const std::int32_t hidden = checked - exportable - sheetsGone - gone;
+    return checked;
+}
+
+void reviewSkipped(session::OfficeSession& session, const CheckedRows& checked,
+                   ReviewTexts& texts) {
+    const auto& [all, exportable, sheetsGone, gone] = checked;
     const auto tellSkipped = [&](std::int32_t count, const char* why) {
         if (count == 0) return;
-        AddReviewItem(texts.ReviewItems, fmt::format("{} checked item(s) are {}{}.", count, why,
-                                                     exportable > 0 ? " and will be skipped" : ""));
+        AddReviewItem(texts.ReviewItems,
+                      fmt::format("{} checked item(s) are {}{}.", count, why,
+                                  checked.exportable > 0 ? " and will be skipped" : ""));
     };
     if (exportable == 0 && !isOpen(session.ActiveBook)) {
         texts.Blockers.emplace_back(
             "The workbook is no longer open. Open it again and start anew.");
-    } else if (sheetsGone == checked) {
+    } else if (sheetsGone == all) {
         texts.Blockers.emplace_back(
             "The sheets of all checked items are no longer in the workbook. They may have "
             "been renamed: check the items under the new names.");
-    } else if (gone + sheetsGone == checked) {
+    } else if (gone + sheetsGone == all) {
         texts.Blockers.emplace_back(
             "The checked items are no longer in the workbook. They may have been renamed: check "
             "the items under the new names.");
     } else {
         if (exportable > 0) {
-            tellSkipped(hidden, "on hidden worksheets");
+            tellSkipped(checked.hidden(), "on hidden worksheets");
         } else if (gone > 0) {
             texts.Blockers.emplace_back("None of the checked items can be exported.");
-            tellSkipped(hidden, "on hidden worksheets");
+            tellSkipped(checked.hidden(), "on hidden worksheets");
         } else {
             texts.Blockers.emplace_back(
                 "All checked items are on hidden worksheets and cannot be exported. Show those "
@@ -67,6 +74,17 @@ void reviewItems(session::OfficeSession& session, const ExportList& list, Review
         tellSkipped(sheetsGone, "on sheets that are no longer in the workbook");
         tellSkipped(gone, "no longer in the workbook");
     }
+}
+
+void reviewItems(session::OfficeSession& session, const ExportList& list, ReviewTexts& texts) {
+    RowObjects objects(session);
+    const CheckedRows checked = countChecked(list, objects);
+    if (checked.all == 0) {
+        texts.Blockers.emplace_back(
+            "No items are checked. Select at least one chart, range, or object to export.");
+        return;
+    }
+    reviewSkipped(session, checked, texts);
     for (const ExportItem& row : list.rows) {
         if (!row.checked || !objects.isMultipleAreaRow(row)) continue;
         texts.Blockers.emplace_back(

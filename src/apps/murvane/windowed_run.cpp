@@ -106,6 +106,7 @@ public:
 
 private:
     void showMainForm();
+    void startExport(catalogue::ExportList& list, const catalogue::ExportChoices& choices);
 
     forms::Desktop& desktop_;
     session::OfficeSession& session_;
@@ -123,6 +124,21 @@ session::CommandHandlers Windows::handlers() {
     return handlers;
 }
 
+void Windows::startExport(catalogue::ExportList& list, const catalogue::ExportChoices& choices) {
+    switch (choices.destination) {
+        case catalogue::Destination::PowerPoint:
+            return powerpoint::StartPowerPointExport(session_, desktop_, list, choices);
+        case catalogue::Destination::Word:
+            return destinations::StartWordExport(session_, desktop_, list, choices);
+        case catalogue::Destination::Pdf:
+            return destinations::StartPdfExport(session_, desktop_, list, choices);
+        case catalogue::Destination::Html:
+            return destinations::StartHtmlExport(session_, desktop_, list, choices);
+        case catalogue::Destination::ImageFiles:
+            return destinations::StartImageExport(session_, desktop_, list, choices);
+    }
+}
+
 void Windows::showMainForm() {
     if (!claim(session_.ActiveBook.get("Identity").toText())) {
         session::ShowWarningNotice(session_.notices,
@@ -131,26 +147,7 @@ void Windows::showMainForm() {
         return;
     }
     catalogue::MainFormHooks hooks;
-    hooks.StartExport = [this](catalogue::ExportList& list,
-                               const catalogue::ExportChoices& choices) {
-        switch (choices.destination) {
-            case catalogue::Destination::PowerPoint:
-                powerpoint::StartPowerPointExport(session_, desktop_, list, choices);
-                break;
-            case catalogue::Destination::Word:
-                destinations::StartWordExport(session_, desktop_, list, choices);
-                break;
-            case catalogue::Destination::Pdf:
-                destinations::StartPdfExport(session_, desktop_, list, choices);
-                break;
-            case catalogue::Destination::Html:
-                destinations::StartHtmlExport(session_, desktop_, list, choices);
-                break;
-            case catalogue::Destination::ImageFiles:
-                destinations::StartImageExport(session_, desktop_, list, choices);
-                break;
-        }
-    };
+    hooks.StartExport = [this](auto& list, const auto& choices) { startExport(list, choices); };
     hooks.InsertOneItem = [this](const catalogue::ExportItem& row,
                                  const catalogue::ExportChoices& choices) {
         return powerpoint::InsertOneItem(session_, row, choices);

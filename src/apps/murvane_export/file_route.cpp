@@ -29,7 +29,7 @@ struct Kind {
 };
 
 constexpr Kind decks{Destination::PowerPoint, "presentation", ".pptx", ".pptm",
-                     office::package::factsOf};
+                     office::package::deckFactsOf};
 constexpr Kind documents{Destination::Word, "document", ".docx", ".docm",
                          office::package::documentFactsOf};
 

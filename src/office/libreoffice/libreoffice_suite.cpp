@@ -138,22 +138,25 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
                 desk_->opensHidden() ? "append to a .docx" : "use murvane-export"));
         return remarks;
     }
-    if (as != office::PasteAs::Embedded) return remarks;
-    translated(*connection_, "Suite.remarksOn", [&] {
-        // All workbooks in one .pptx become one part of it. A private suite writes nothing else.
-        const auto deck = desk_->active<powerpoint::ImpressDeck>();
-        if (!desk_->opensHidden() && deck && office::lowerCase(deck->fullName()).ends_with(".odp"))
-            return;
-        constexpr std::int32_t several = 2;
-        const std::int32_t missing = several - static_cast<std::int32_t>(items.size());
-        if (missing > 0 && !(deck && deck->holdsWorkbooks(missing))) return;
+    if (as == office::PasteAs::Embedded && damagesWorkbooks(items.size()))
         remarks.push_back(fmt::format(
             "LibreOffice damages a .pptx that holds several embedded workbooks: save the "
             "presentation as {}.",
             desk_->opensHidden() ? "an ordinary .pptx first, and add to that one"
                                  : ".odp, or use murvane-export"));
-    });
     return remarks;
+}
+
+/// All workbooks in one .pptx become one part of it. A private suite writes nothing else.
+bool LibreOfficeSuite::damagesWorkbooks(std::size_t more) {
+    return translated(*connection_, "Suite.remarksOn", [&] {
+        const auto deck = desk_->active<powerpoint::ImpressDeck>();
+        if (!desk_->opensHidden() && deck && office::lowerCase(deck->fullName()).ends_with(".odp"))
+            return false;
+        constexpr std::int32_t several = 2;
+        const std::int32_t missing = several - static_cast<std::int32_t>(more);
+        return missing <= 0 || (deck && deck->holdsWorkbooks(missing));
+    });
 }
 
 office::WindowHandle LibreOfficeSuite::findWindow(std::string_view className,

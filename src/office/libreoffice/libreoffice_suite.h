@@ -77,6 +77,7 @@ private:
                      std::shared_ptr<Connection> connection);
 
     void connect(std::shared_ptr<Connection> connection);
+    [[nodiscard]] bool damagesWorkbooks(std::size_t more);
 
     /// Window handles are positions in `windows_`, counted from 1: a presentation's window stands
     /// for the presentation.

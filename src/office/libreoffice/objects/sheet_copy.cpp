@@ -126,6 +126,28 @@ void importSheet(const ModelRef& from, const rtl::OUString& name, const ModelRef
     sheetsOf(into)->importSheet(as<css::sheet::XSpreadsheetDocument>(from), name, place);
 }
 
+/// Brings the sheets whose cells a sheet's charts show into a workbook, with a filler between them
+/// where one of the others was: a copied chart finds other sheets by their places, so each takes
+/// the place that it has in the source. A workbook without drawings takes sheets over without their
+/// charts.
+void importBehind(const Connection& connection, const ModelRef& from,
+                  const std::set<sal_Int32>& behind, const ModelRef& into,
+                  const std::string& filler) {
+    const auto names = sheetsOf(from)->getElementNames();
+    const Scratch cells(connection, filler);
+    for (sal_Int32 place = 0; place <= *behind.rbegin(); ++place) {
+        if (!behind.contains(place)) {
+            sheetsOf(into)->insertNewByName(toUno(fmt::format("{} {}", filler, place)),
+                                            static_cast<sal_Int16>(place));
+            continue;
+        }
+        importSheet(from, names[place], cells.book(), 0);
+        if (refersElsewhere(cells.book()))
+            settleFormulas(sheetOf(from, names[place]), cells.book(), names[place]);
+        importSheet(cells.book(), names[place], into, place);
+    }
+}
+
 /// Names of series that stand in no cell are left behind when a chart is copied with its sheet.
 void copySeriesNames(const std::vector<ChartRef>& from, const std::vector<ChartRef>& copies) {
     for (std::size_t i = 0; i < from.size() && i < copies.size(); ++i) {
@@ -158,24 +180,9 @@ void copySheet(const Connection& connection, const ModelRef& from, const std::st
     const auto behind = sheetsBehind(charts, name, names);
     const std::string filler = nameOfFillers(names);
     nameFirstSheet(into, filler);
+    if (!behind.empty()) importBehind(connection, from, behind, into, filler);
     std::set<rtl::OUString> wanted{name};
-    if (!behind.empty()) {
-        // A copied chart finds other sheets by their places, so each takes the place that it has in
-        // the source. A workbook without drawings takes sheets over without their charts.
-        const Scratch cells(connection, filler);
-        for (sal_Int32 place = 0; place <= *behind.rbegin(); ++place) {
-            if (!behind.contains(place)) {
-                sheets->insertNewByName(toUno(fmt::format("{} {}", filler, place)),
-                                        static_cast<sal_Int16>(place));
-                continue;
-            }
-            importSheet(from, names[place], cells.book(), 0);
-            if (refersElsewhere(cells.book()))
-                settleFormulas(sheetOf(from, names[place]), cells.book(), names[place]);
-            importSheet(cells.book(), names[place], into, place);
-            wanted.insert(names[place]);
-        }
-    }
+    for (const sal_Int32 place : behind) wanted.insert(names[place]);
     importSheet(from, name, into, sheets->getElementNames().getLength());
     const auto copy = sheetOf(into, name);
     setProperty(copy, "IsVisible", true);

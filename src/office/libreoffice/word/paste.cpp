@@ -160,7 +160,6 @@ void WriterDocument::addPicture(const std::string& file) {
 
 void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anchoring anchoring) {
     const TextPlace place = writablePlace(member);
-    const bool isPicture = copied.source().kind == CopySource::Kind::Picture;
     if (as == PasteAs::Linked) {
         office::refuse(
             member, desk_.opensHidden()
@@ -168,17 +167,22 @@ void WriterDocument::paste(const office::Copied& copied, PasteAs as, model::Anch
                         : "LibreOffice can't link a text document to a workbook. Paste a picture "
                           "or an embedded workbook instead, or use murvane-export.");
     }
-    const Connection& connection = desk_.connection();
     pasted_.clear();
     const UndoGroup group(steps_, "Paste");
-    if (isPicture && as == PasteAs::Default) {
-        insertGraphic(place, pictureOf(copied, connection), sizeOf(copied), anchoring);
-        return;
-    }
-    if (as == PasteAs::Default && copied.source().kind == CopySource::Kind::Cells) {
+    const auto kind = copied.source().kind;
+    if (as == PasteAs::Default && kind == CopySource::Kind::Picture) {
+        insertGraphic(place, pictureOf(copied, desk_.connection()), sizeOf(copied), anchoring);
+    } else if (as == PasteAs::Default && kind == CopySource::Kind::Cells) {
         insertTable(place, copied.table());
-        return;
+    } else {
+        pasteObject(place, copied, as, anchoring);
     }
+}
+
+/// A chart as what it is, or a workbook.
+void WriterDocument::pasteObject(const TextPlace& place, const office::Copied& copied, PasteAs as,
+                                 model::Anchoring anchoring) {
+    const Connection& connection = desk_.connection();
     const excel::CopiedHere& here = objects::copiedHere(copied, member);
     objects::NewObject object(model());
     const auto picture = as == PasteAs::Embedded ? here.graphic() : nullptr;

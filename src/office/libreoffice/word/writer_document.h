@@ -100,6 +100,8 @@ private:
     /// Takes out what is selected of the text, and leaves the caret there.
     void removeSelected(const TextPlace& place);
     void changeParagraph(const CursorRef& paragraph, const model::ParagraphChange& change);
+    void pasteObject(const TextPlace& place, const office::Copied& copied, office::PasteAs as,
+                     model::Anchoring anchoring);
     void insertTable(const TextPlace& place, const office::TableLook& table);
     void insertObject(const TextPlace& place, const WriterObjectPtr& object);
     void insertGraphic(const TextPlace& place,

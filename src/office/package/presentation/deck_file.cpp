@@ -12,7 +12,7 @@ namespace office::package {
 
 constexpr std::string_view strictPresentation = "http://purl.oclc.org/ooxml/presentationml/main";
 
-FileFacts factsOf(const std::filesystem::path& file) {
+FileFacts deckFactsOf(const std::filesystem::path& file) {
     Package package = Package::open(file);
     const std::string main = presentationPartOf(package);
     const FileFacts facts = factsOf(package, main, strictPresentation, "presentation");

@@ -15,7 +15,7 @@ namespace office::package {
 namespace powerpoint = model::powerpoint;
 
 /// `PackageError`: NotAPackage too for a package that is no presentation.
-[[nodiscard]] FileFacts factsOf(const std::filesystem::path& file);
+[[nodiscard]] FileFacts deckFactsOf(const std::filesystem::path& file);
 
 /// A running PowerPoint that opens files and shows nothing.
 [[nodiscard]] Object powerPointOfFiles(FileRules rules);

@@ -121,13 +121,38 @@ void reduceCells(pugi::xml_node data, const FormulaReach& reach) {
     }
 }
 
-/// The formats of conditions and filters that a sheet has, by their places.
-std::set<unsigned> usedDifferences(pugi::xml_node sheet) {
+/// The formats that a sheet has, by their places.
+std::set<unsigned> formatsOn(pugi::xml_node sheet) {
+    std::set<unsigned> used = {0};
+    for (const pugi::xml_node column : sheetChild(sheet, "cols").children())
+        used.insert(column.attribute("style").as_uint());
+    for (const pugi::xml_node row : sheetChild(sheet, "sheetData").children()) {
+        used.insert(row.attribute("s").as_uint());
+        for (const pugi::xml_node cell : row.children()) used.insert(cell.attribute("s").as_uint());
+    }
+    return used;
+}
+
+/// The formats of conditions and filters keep their numbers where a sheet has them.
+void reduceDifferences(pugi::xml_node root, pugi::xml_node sheet) {
     std::set<unsigned> used;
     for (const pugi::xml_node node :
          elementsBelow(sheet, [](pugi::xml_node one) { return bool(one.attribute("dxfId")); }))
         used.insert(node.attribute("dxfId").as_uint());
-    return used;
+    unsigned place = 0;
+    for (pugi::xml_node difference :
+         childrenNamed(sheetChild(root, "dxfs"), ns::spreadsheet, "dxf")) {
+        if (!used.contains(place++)) difference.remove_child(sheetChild(difference, "numFmt"));
+    }
+}
+
+/// A list says how many it has left; an empty one goes.
+void recount(pugi::xml_node list, const char* ofName) {
+    const std::size_t left = childrenNamed(list, ns::spreadsheet, ofName).size();
+    if (left == 0)
+        list.parent().remove_child(list);
+    else
+        attributeFor(list, "count").set_value(left);
 }
 
 /// Those styles stay by name that every workbook has, and those of cells.
@@ -144,11 +169,7 @@ void reduceStyles(pugi::xml_node root, const std::set<unsigned>& used) {
     keepChildren(styles, [&](pugi::xml_node style) {
         return style.attribute("builtinId") || used.contains(style.attribute("xfId").as_uint());
     });
-    const std::size_t left = childrenNamed(styles, ns::spreadsheet, "cellStyle").size();
-    if (left == 0)
-        root.remove_child(styles);
-    else
-        attributeFor(styles, "count").set_value(left);
+    recount(styles, "cellStyle");
 }
 
 }  // namespace
@@ -240,14 +261,8 @@ void reduceStrings(const Xml& strings, const Xml& sheet) {
 }
 
 void reduceFormats(const Xml& styles, const Xml& sheet) {
-    std::set<unsigned> used = {0};
-    for (const pugi::xml_node column : sheetChild(sheet.root(), "cols").children())
-        used.insert(column.attribute("style").as_uint());
-    for (const pugi::xml_node row : sheetChild(sheet.root(), "sheetData").children()) {
-        used.insert(row.attribute("s").as_uint());
-        for (const pugi::xml_node cell : row.children()) used.insert(cell.attribute("s").as_uint());
-    }
-    std::set<std::string_view> formats;
+    const std::set<unsigned> used = formatsOn(sheet.root());
+    std::set<std::string_view> numbers;
     std::set<unsigned> usedStyles = {0};
     unsigned place = 0;
     for (pugi::xml_node format :
@@ -256,27 +271,17 @@ void reduceFormats(const Xml& styles, const Xml& sheet) {
             usedStyles.insert(format.attribute("xfId").as_uint());
         else
             attributeFor(format, "numFmtId").set_value("0");
-        formats.insert(format.attribute("numFmtId").value());
+        numbers.insert(format.attribute("numFmtId").value());
     }
     reduceStyles(styles.root(), usedStyles);
-    place = 0;
-    const std::set<unsigned> usedByRules = usedDifferences(sheet.root());
-    for (pugi::xml_node difference :
-         childrenNamed(sheetChild(styles.root(), "dxfs"), ns::spreadsheet, "dxf")) {
-        if (!usedByRules.contains(place++))
-            difference.remove_child(sheetChild(difference, "numFmt"));
-    }
+    reduceDifferences(styles.root(), sheet.root());
     for (pugi::xml_node format : sheetChild(styles.root(), "cellStyleXfs").children())
-        formats.insert(format.attribute("numFmtId").value());
+        numbers.insert(format.attribute("numFmtId").value());
     auto all = sheetChild(styles.root(), "numFmts");
     keepChildren(all, [&](pugi::xml_node format) {
-        return formats.contains(format.attribute("numFmtId").value());
+        return numbers.contains(format.attribute("numFmtId").value());
     });
-    const std::size_t left = childrenNamed(all, ns::spreadsheet, "numFmt").size();
-    if (left == 0)
-        styles.root().remove_child(all);
-    else
-        attributeFor(all, "count").set_value(left);
+    recount(all, "numFmt");
 }
 
 }  // namespace office::package
