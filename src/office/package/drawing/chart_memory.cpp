@@ -5,12 +5,11 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "office/package/workbook/chart_cells.h"
+#include "office/package/drawing/chart_references.h"
 #include "office/text.h"
 
 namespace office::package {
@@ -18,78 +17,6 @@ namespace office::package {
 namespace {
 
 using Content = CellContent::Kind;
-
-/// An element with a formula and what the chart remembers of its cells.
-struct Reference {
-    enum class Memory { Numbers, Texts, Levels };
-
-    pugi::xml_node node;
-    pugi::xml_node cache;
-    Memory memory = Memory::Numbers;
-    CellsOfSheet cells;
-    /// Of categories, which may be numbers or texts.
-    bool isHeading = false;
-    /// Names, titles and single labels are drawn even if their cells are hidden.
-    bool isName = false;
-};
-
-std::optional<CellsOfSheet> cellsOf(std::string_view formula) {
-    formula = trim(formula);
-    if (formula.starts_with('(') && formula.ends_with(')'))
-        formula = formula.substr(1, formula.size() - 2);
-    return cellsOfFormula(formula, office::model::excel::Notation::A1);
-}
-
-bool isLine(const CellBlock& block) {
-    return block.columns() == 1 || block.rows() == 1;
-}
-
-/// None is drawn with more, and all cells of a sheet would be many thousands.
-bool hasFewLevels(const CellBlock& block) {
-    constexpr std::int32_t most = 100;
-    return std::min(block.columns(), block.rows()) <= most;
-}
-
-std::optional<Reference> referenceOf(pugi::xml_node node) {
-    using Memory = Reference::Memory;
-    struct Type {
-        std::string_view name;
-        std::string_view cache;
-        Memory memory;
-    };
-    static constexpr Type types[] = {{"numRef", "numCache", Memory::Numbers},
-                                     {"strRef", "strCache", Memory::Texts},
-                                     {"multiLvlStrRef", "multiLvlStrCache", Memory::Levels},
-                                     {"datalabelsRange", "dlblRangeCache", Memory::Texts},
-                                     {"dlblFTEntry", "dlblFieldTableCache", Memory::Texts}};
-    for (const Type& type : types) {
-        if (localName(node) != type.name) continue;
-        const auto cache = childCalled(node, type.cache);
-        auto cells = cellsOf(childCalled(node, "f").text().get());
-        if (!cache || !cells) return {};
-        const auto& blocks = cells->blocks;
-        const bool isPlain = type.memory == Memory::Levels
-                                 ? blocks.size() == 1 && hasFewLevels(blocks.front())
-                                 : std::all_of(blocks.begin(), blocks.end(), isLine);
-        if (!isPlain) return {};
-        const std::string_view holder = localName(node.parent());
-        return Reference{node,
-                         cache,
-                         type.memory,
-                         *std::move(cells),
-                         holder == "cat" || holder == "xVal",
-                         holder == "tx" || type.name == "dlblFTEntry"};
-    }
-    return {};
-}
-
-std::vector<Reference> referencesIn(const Xml& chart) {
-    std::vector<Reference> references;
-    visitBelow(chart.root(), [&](pugi::xml_node node) {
-        if (auto found = referenceOf(node)) references.push_back(*std::move(found));
-    });
-    return references;
-}
 
 bool isSameNumber(std::string_view text, double number) {
     constexpr double noise = 1e-12;
@@ -130,59 +57,33 @@ bool isSameShown(std::string_view known, const std::string& shown) {
 
 class Memories {
 public:
-    Memories(const Copied& copied, std::vector<Reference> references, std::string element,
+    Memories(const Copied& copied, std::vector<ChartReference> references, std::string element,
              bool drawsHidden)
         : references_(std::move(references)),
           cells_(copied, wanted(references_)),
           element_(std::move(element)),
           drawsHidden_(drawsHidden) {
-        std::erase_if(references_, [&](const Reference& one) { return !cells_.know(one.cells); });
+        std::erase_if(references_,
+                      [&](const ChartReference& one) { return !cells_.know(one.cells); });
     }
 
     /// What is hidden leaves no gap, unless the chart draws it.
     void refresh() {
-        for (const Reference& one : references_) {
+        for (const ChartReference& one : references_) {
             if (const auto lines = linesOf(one); !isRemembered(one, lines)) write(one, lines);
         }
     }
 
 private:
-    static std::vector<CellsOfSheet> wanted(const std::vector<Reference>& references) {
+    static std::vector<CellsOfSheet> wanted(const std::vector<ChartReference>& references) {
         std::vector<CellsOfSheet> cells;
         cells.reserve(references.size());
-        for (const Reference& one : references) cells.push_back(one.cells);
+        for (const ChartReference& one : references) cells.push_back(one.cells);
         return cells;
     }
 
-    /// Whether the categories stand one below the other.
-    [[nodiscard]] static bool areInRows(const Reference& levels) {
-        const auto values =
-            childCalled(childCalled(levels.node.parent().parent(), "val"), "numRef");
-        const auto cells = cellsOf(childCalled(values, "f").text().get());
-        const CellBlock& block = levels.cells.blocks.front();
-        if (cells && cells->blocks.front().cells() > 1) return cells->blocks.front().columns() == 1;
-        return block.rows() >= block.columns();
-    }
-
-    /// Each level of categories as cells of its own, the innermost first.
-    [[nodiscard]] static std::vector<CellsOfSheet> levelsOf(const Reference& one) {
-        if (one.memory != Reference::Memory::Levels) return {one.cells};
-        std::vector<CellsOfSheet> levels;
-        const CellBlock& block = one.cells.blocks.front();
-        const bool inRows = areInRows(one);
-        for (std::int32_t i = 0; i < (inRows ? block.columns() : block.rows()); ++i) {
-            CellBlock level = block;
-            if (inRows)
-                level.firstColumn = level.lastColumn = block.lastColumn - i;
-            else
-                level.firstRow = level.lastRow = block.lastRow - i;
-            levels.push_back({one.cells.sheet, {level}});
-        }
-        return levels;
-    }
-
     /// A level that is hidden as a whole doesn't count, as long as another does.
-    [[nodiscard]] std::vector<ChartLine> linesOf(const Reference& one) const {
+    [[nodiscard]] std::vector<ChartLine> linesOf(const ChartReference& one) const {
         const bool all = drawsHidden_ || one.isName;
         std::vector<CellsOfSheet> levels = levelsOf(one);
         const auto isHidden = [&](const CellsOfSheet& level) {
@@ -198,9 +99,10 @@ private:
         return lines;
     }
 
-    [[nodiscard]] bool isRemembered(const Reference& one,
+    [[nodiscard]] bool isRemembered(const ChartReference& one,
                                     const std::vector<ChartLine>& lines) const {
-        if (one.memory != Reference::Memory::Levels) return agrees(one, one.cache, lines.front());
+        if (one.memory != ChartReference::Memory::Levels)
+            return agrees(one, one.cache, lines.front());
         std::size_t level = 0;
         for (const pugi::xml_node child : one.cache.children()) {
             if (localName(child) != "lvl") continue;
@@ -210,7 +112,7 @@ private:
         return level == lines.size();
     }
 
-    [[nodiscard]] bool agrees(const Reference& one, pugi::xml_node holder,
+    [[nodiscard]] bool agrees(const ChartReference& one, pugi::xml_node holder,
                               const ChartLine& line) const {
         std::map<unsigned, const char*> known;
         for (const pugi::xml_node point : holder.children()) {
@@ -227,30 +129,30 @@ private:
         });
     }
 
-    [[nodiscard]] bool agrees(const Reference& one, const char* known,
+    [[nodiscard]] bool agrees(const ChartReference& one, const char* known,
                               const ChartPoint& point) const {
         const CellContent& content = *point.content;
         if (content.kind == Content::Error) return known == nullptr || *known == '#';
         const bool isText = content.kind == Content::Text;
         // A text in a line of numbers is drawn as 0.
-        if (one.memory == Reference::Memory::Numbers && isText)
+        if (one.memory == ChartReference::Memory::Numbers && isText)
             return !isTextHeading(one, point) && (known == nullptr || isSameNumber(known, 0));
         const std::string_view text = known == nullptr ? "" : known;
         if (isText) return isSameText(text, content.text);
         return isSameNumber(text, content.number) ||
-               (one.memory != Reference::Memory::Numbers &&
+               (one.memory != ChartReference::Memory::Numbers &&
                 isSameShown(text, cells_.textOf(one.cells.sheet, point)));
     }
 
     /// An empty text leaves the others of its line the numbers that they are.
-    [[nodiscard]] static bool isTextHeading(const Reference& one, const ChartPoint& point) {
+    [[nodiscard]] static bool isTextHeading(const ChartReference& one, const ChartPoint& point) {
         return one.isHeading && point.content->kind == Content::Text &&
                !point.content->text.empty();
     }
 
-    [[nodiscard]] std::string textOf(const Reference& one, const ChartPoint& point) const {
+    [[nodiscard]] std::string textOf(const ChartReference& one, const ChartPoint& point) const {
         const CellContent& content = *point.content;
-        const bool isNumber = one.memory == Reference::Memory::Numbers;
+        const bool isNumber = one.memory == ChartReference::Memory::Numbers;
         if (content.kind == Content::Error) return "#N/A";
         if (content.kind == Content::Text) return isNumber ? "0" : legible(content.text);
         return isNumber ? fmt::format("{}", content.number)
@@ -259,13 +161,13 @@ private:
 
     [[nodiscard]] std::string named(const char* name) const { return element_ + name; }
 
-    void write(Reference one, const std::vector<ChartLine>& lines) const {
+    void write(ChartReference one, const std::vector<ChartLine>& lines) const {
         const auto& points = lines.front().points;
         const bool hasText = std::any_of(points.begin(), points.end(), [&](const auto& point) {
             return isTextHeading(one, point);
         });
-        if (one.memory == Reference::Memory::Numbers && hasText) makeTexts(one);
-        const bool hasLevels = one.memory == Reference::Memory::Levels;
+        if (one.memory == ChartReference::Memory::Numbers && hasText) makeTexts(one);
+        const bool hasLevels = one.memory == ChartReference::Memory::Levels;
         const auto formats = formatsOf(one.cache, lines.front().count);
         keepChildren(one.cache, [](pugi::xml_node child) {
             return localName(child) == "formatCode" || localName(child) == "extLst";
@@ -279,7 +181,7 @@ private:
         for (const ChartLine& line : lines) {
             auto level = hasLevels ? add("lvl") : pugi::xml_node();
             for (const ChartPoint& point : line.points) {
-                if (one.isHeading && one.memory == Reference::Memory::Numbers &&
+                if (one.isHeading && one.memory == ChartReference::Memory::Numbers &&
                     point.content->kind == Content::Text)
                     continue;
                 auto made = hasLevels ? level.append_child(named("pt").c_str()) : add("pt");
@@ -302,15 +204,15 @@ private:
         return formats;
     }
 
-    void makeTexts(Reference& one) const {
-        one.memory = Reference::Memory::Texts;
+    void makeTexts(ChartReference& one) const {
+        one.memory = ChartReference::Memory::Texts;
         one.node.set_name(named("strRef").c_str());
         one.cache.set_name(named("strCache").c_str());
         one.cache.remove_child(childCalled(one.cache, "formatCode"));
         for (pugi::xml_node point : one.cache.children()) point.remove_attribute("formatCode");
     }
 
-    std::vector<Reference> references_;
+    std::vector<ChartReference> references_;
     ChartCells cells_;
     /// The prefix of the chart's elements, with its colon.
     std::string element_;
@@ -320,7 +222,7 @@ private:
 }  // namespace
 
 void rememberCells(const Xml& chart, const Copied& copied) {
-    std::vector<Reference> references = referencesIn(chart);
+    std::vector<ChartReference> references = referencesIn(chart);
     if (references.empty()) return;
     const std::string_view root = chart.root().name();
     const auto shownOnly =

@@ -91,15 +91,7 @@ public:
         keepMaker();
         dropRelationships(main_, [&](const Relationship& one) { return isOfWorkbook(one); });
         keepFrom(main_);
-        std::set<std::string> left = {partKey(relationshipsPartOf("/"))};
-        for (const std::string& part : kept_) {
-            left.insert(part);
-            left.insert(partKey(relationshipsPartOf(part)));
-        }
-        for (const std::string& part : workbook_.parts()) {
-            // Relationships go with their part, if that is there.
-            if (!left.contains(partKey(part)) && workbook_.has(part)) workbook_.remove(part);
-        }
+        dropOthers();
     }
 
 private:
@@ -125,23 +117,27 @@ private:
         kept_.insert(partKey(part));
     }
 
-    void knowTables() {
+    /// Those that the sheet itself leads to.
+    std::vector<std::string> partsOfSheet(std::string_view kind) {
         const Relationships& relationships = workbook_.relationshipsOf(sheet_.part);
+        std::vector<std::string> parts;
         for (const Relationship& one : relationships.all()) {
-            if (one.isExternal || kindOf(one) != "table") continue;
-            const std::string part = relationships.partOf(one);
-            if (!workbook_.has(part)) continue;
+            if (one.isExternal || kindOf(one) != kind) continue;
+            if (std::string part = relationships.partOf(one); workbook_.has(part))
+                parts.push_back(std::move(part));
+        }
+        return parts;
+    }
+
+    void knowTables() {
+        for (const std::string& part : partsOfSheet("table")) {
             const Xml table(workbook_.read(part), part);
             reach_.add(table.root().attribute("displayName").value());
         }
     }
 
     void knowConversations() {
-        const Relationships& relationships = workbook_.relationshipsOf(sheet_.part);
-        for (const Relationship& one : relationships.all()) {
-            if (one.isExternal || kindOf(one) != "comments") continue;
-            const std::string part = relationships.partOf(one);
-            if (!workbook_.has(part)) continue;
+        for (const std::string& part : partsOfSheet("comments")) {
             const Xml notes(workbook_.read(part), part);
             conversations_ = conversationsIn(notes);
             hasNotes_ = dropConversations(notes);
@@ -284,6 +280,18 @@ private:
             else
                 reduceStrings(xml, sheet);
             workbook_.replace(part, xml.bytes());
+        }
+    }
+
+    void dropOthers() {
+        std::set<std::string> left = {partKey(relationshipsPartOf("/"))};
+        for (const std::string& part : kept_) {
+            left.insert(part);
+            left.insert(partKey(relationshipsPartOf(part)));
+        }
+        for (const std::string& part : workbook_.parts()) {
+            // Relationships go with their part, if that is there.
+            if (!left.contains(partKey(part)) && workbook_.has(part)) workbook_.remove(part);
         }
     }
 
