@@ -141,7 +141,7 @@ void declareItems(CLI::App& app, Options& options, RawTexts& raw) {
         ->type_name("FILE.csv");
 }
 
-void declareLooks(CLI::App& app, Options& options, RawTexts& raw) {
+void declareForms(CLI::App& app, Options& options, RawTexts& raw) {
     app.add_option("--format", raw.format,
                    withDefault("What items become on slides and in Word: pictures; charts and\n"
                                "tables that can be edited there; embedded workbooks; objects\n"
@@ -199,6 +199,9 @@ void declareLooks(CLI::App& app, Options& options, RawTexts& raw) {
                    withDefault("Images: files named by item and sheet, or numbered", raw.fileNames))
         ->check(oneOf({"name", "number"}))
         ->type_name("name|number");
+}
+
+void declareLooks(CLI::App& app, Options& options, RawTexts& raw) {
     app.add_option(
            "--style", raw.style,
            withDefault("Look of the pictures on slides: none, shadow-around, shadow, rounded,\n"
@@ -343,6 +346,7 @@ std::variant<Options, ParseEnd> parseOptions(const std::vector<std::string>& arg
     app.set_version_flag("--version", std::string("murvane-export ") + apps::version);
     declareFiles(app, options, raw);
     declareItems(app, options, raw);
+    declareForms(app, options, raw);
     declareLooks(app, options, raw);
     app.add_flag(
         "--keep-going", options.keepGoing,

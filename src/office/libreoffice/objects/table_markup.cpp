@@ -61,9 +61,11 @@ private:
     [[nodiscard]] std::vector<StylePart> drawnCell(const CellLook& cell, Attributes area,
                                                    const Attributes& lines);
     [[nodiscard]] Attributes fillOf(const CellLook& cell);
+    [[nodiscard]] Attributes gradientOf(const CellLook& cell);
     [[nodiscard]] static std::vector<StylePart> writtenCell(const CellLook& cell, Attributes area,
                                                             const Attributes& lines);
     [[nodiscard]] std::string paragraphStyle(const CellLook& cell);
+    [[nodiscard]] Attributes lettersOf(const CellLook& cell) const;
     /// LibreOffice writes a .docx that is not valid if the end of a paragraph says anything of
     /// this.
     [[nodiscard]] bool italicIsApart() const { return kind_ == Kind::Text; }
@@ -211,13 +213,15 @@ std::string TableDocument::cellStyle(const CellLook& cell) {
 
 constexpr std::array<const char*, 3> heightsInCell = {"top", "middle", "bottom"};
 
+TableDocument::Attributes TableDocument::fillOf(const CellLook& cell) {
+    if (cell.bar && cell.bar->from < cell.bar->to) return gradientOf(cell);
+    if (!cell.fill) return {{"draw:fill", "none"}};
+    return {{"draw:fill", "solid"}, {"draw:fill-color", office::colourText(*cell.fill)}};
+}
+
 /// A bar is a gradient from the left to the right that changes its colour at one place. It stands
 /// beside the styles: LibreOffice crashes on pasted drawings that have styles with names for users.
-TableDocument::Attributes TableDocument::fillOf(const CellLook& cell) {
-    if (!cell.bar || cell.bar->from >= cell.bar->to) {
-        if (!cell.fill) return {{"draw:fill", "none"}};
-        return {{"draw:fill", "solid"}, {"draw:fill-color", office::colourText(*cell.fill)}};
-    }
+TableDocument::Attributes TableDocument::gradientOf(const CellLook& cell) {
     const std::string name = fmt::format("bar{}", namesOfStyles_.size());
     const auto& [from, to, left, right, isAlone] = *cell.bar;
     const auto addGradient = [&](const char* element) {
@@ -291,6 +295,11 @@ std::string TableDocument::paragraphStyle(const CellLook& cell) {
     if (kind_ == Kind::Text)
         paragraph.insert(paragraph.end(),
                          {{"fo:text-indent", "0pt"}, {"style:writing-mode", "lr-tb"}});
+    return styled("paragraph", {{"style:paragraph-properties", paragraph},
+                                {"style:text-properties", lettersOf(cell)}});
+}
+
+TableDocument::Attributes TableDocument::lettersOf(const CellLook& cell) const {
     Attributes letters;
     for (const auto& [script, ownFont] : {std::pair("", &cell.fontName),
                                           {"-asian", &cell.asianFontName},
@@ -310,8 +319,7 @@ std::string TableDocument::paragraphStyle(const CellLook& cell) {
     letters.emplace_back("fo:color", office::colourText(cell.fontColour));
     letters.emplace_back("style:text-underline-style", cell.isUnderlined ? "solid" : "none");
     letters.emplace_back("style:text-line-through-style", cell.isStruckOut ? "solid" : "none");
-    return styled("paragraph",
-                  {{"style:paragraph-properties", paragraph}, {"style:text-properties", letters}});
+    return letters;
 }
 
 void TableDocument::addCell(pugi::xml_node row, const CellLook& cell) {
