@@ -26,7 +26,7 @@ bool isOneOf(pugi::xml_node node, std::string_view space, std::string_view names
 }
 
 /// The number of the chart's style, by which programs dress what it leaves out.
-int styleOf(pugi::xml_node chartSpace) {
+int styleNumberOf(pugi::xml_node chartSpace) {
     constexpr int plainStyle = 2;
     auto style = childNamed(chartSpace, ns::chart, "style");
     if (!style) {
@@ -75,7 +75,7 @@ void writeFrame(pugi::xml_node chartSpace, int thinLine) {
 
 void writeLooks(pugi::xml_node chartSpace, int thinLine) {
     constexpr int lastLightStyle = 32;
-    const int style = styleOf(chartSpace);
+    const int style = styleNumberOf(chartSpace);
     if (style <= lastLightStyle) writeFrame(chartSpace, thinLine);
     if (thinLine <= 0) return;
     std::vector<pugi::xml_node> open = {
