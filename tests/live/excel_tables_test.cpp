@@ -168,12 +168,16 @@ TEST_F(ExcelTables, DoWithWideTextsWhatASheetDoes) {
         "cut at a colo",
         "on over its colour fill=00FF00 2x1",
         "on over no colour fill=FFFFFF 2x1",
+        "(7) שלום right",
+        "سلام",
+        "Ulm שלום",
+        "٧ سلام right",
         // Only in letters of whole pixels wider than its cell.
         "########## right",
         "2.5 right",
         "turne right turned=90",
     };
-    const TableLook table = tableOf("Wide", "A1:D12");
+    const TableLook table = tableOf("Wide", "A1:D13");
     std::vector<std::string> found;
     for (const CellLook& look : table.cells) {
         if (!look.isCovered && !look.text.empty()) found.push_back(described(look));

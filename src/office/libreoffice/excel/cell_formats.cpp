@@ -74,10 +74,10 @@ public:
         look.fontColour = colour >= 0 ? swapRedAndBlue(colour) : automaticColourOn(look.fill);
         look.across = across();
         look.down = down();
+        format.isAligned = value<css::table::CellHoriJustify>("HoriJustify") !=
+                           css::table::CellHoriJustify_STANDARD;
         // A text that stands where its kind stands by itself has none.
-        if (value<css::table::CellHoriJustify>("HoriJustify") !=
-            css::table::CellHoriJustify_STANDARD)
-            look.indentPt = pointsOf(value<std::int16_t>("ParaIndent"));
+        if (format.isAligned) look.indentPt = pointsOf(value<std::int16_t>("ParaIndent"));
         look.wraps = value<bool>("IsTextWrapped") || look.across == CellLook::Across::Justified;
         const auto orientation = value<css::table::CellOrientation>("Orientation");
         look.rotation = orientation == css::table::CellOrientation_STACKED

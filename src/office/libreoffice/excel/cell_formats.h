@@ -22,6 +22,8 @@ struct CellFormat {
     /// No text, and not what merged cells span. The lines are its own: its neighbour's may be in
     /// their place.
     office::CellLook look;
+    /// Where its text stands goes by the text otherwise.
+    bool isAligned = false;
     bool shrinksToFit = false;
     std::int32_t numberFormat = 0;
 };

@@ -23,6 +23,7 @@
 #include "office/libreoffice/excel/html_places.h"
 #include "office/libreoffice/excel/selected_cells.h"
 #include "office/libreoffice/excel/table_lines.h"
+#include "office/libreoffice/excel/written_scripts.h"
 #include "office/libreoffice/units.h"
 
 namespace libreoffice::excel {
@@ -252,6 +253,8 @@ private:
         CellLook look = html.look;
         const CellLook& own = format(row, column);
         takeFonts(look, own);
+        if (!formatAt(row, column).isAligned && !html.number && isReadFromRight(look.text))
+            look.across = CellLook::Across::Right;
         look.indentPt = own.indentPt;
         look.wraps = own.wraps;
         look.rotation = own.rotation;
