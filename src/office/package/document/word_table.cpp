@@ -154,8 +154,8 @@ private:
         const auto flag = [&](const char* name, bool isOn) {
             addValue(properties, name, isOn ? "1" : "0");
         };
-        flag("w:b", cell.isBold);
-        flag("w:i", cell.isItalic);
+        for (const char* const script : {"w:b", "w:bCs"}) flag(script, cell.isBold);
+        for (const char* const script : {"w:i", "w:iCs"}) flag(script, cell.isItalic);
         flag("w:strike", cell.isStruckOut);
         addValue(properties, "w:color", hexColour(cell.fontColour));
         const std::string size = std::to_string(
