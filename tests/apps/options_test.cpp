@@ -49,7 +49,7 @@ TEST(Options, OutputsTellTheirDestinationWhereNothingElseDoes) {
     const std::tuple<Words, Targets> all[] = {
         {{"--output", "a.PDF"}, {{Destination::Pdf, "a.PDF"}}},
         {{"--output", "a.docm"}, {{Destination::Word, "a.docm"}}},
-        {{"--output", "a.txt"}, {{Destination::PowerPoint, "a.txt"}}},
+        {{"--output", "a.ODP"}, {{Destination::PowerPoint, "a.ODP"}}},
         {{"--to", "html", "--output", "page", "--output", "x.pptx", "--to", "slides"},
          {{Destination::Html, "page"}, {Destination::PowerPoint, "x.pptx"}}},
         {{"--check", "--to", "images"}, {{Destination::ImageFiles, ""}}},
@@ -74,6 +74,7 @@ TEST(Options, WrongUsageEndsWithTwoAndSaysWhy) {
     const std::tuple<const char*, Words, const char*> all[] = {
         {"nothing at all", {}, "workbook"},
         {"no output", {"b.xlsx"}, "--output"},
+        {"an output of no kind", {"b.xlsx", "--output", "o.xyz"}, "--to"},
         {"unknown option", {"b.xlsx", "--frobnicate"}, "--frobnicate"},
         {"two books", {"b.xlsx", "c.xlsx", "--list"}, "c.xlsx"},
         {"list and check", {"b.xlsx", "--list", "--check"}, "--check"},

@@ -230,6 +230,12 @@ bool isDocument(const std::string& file) {
                        [&](const char* ending) { return lower.ends_with(ending); });
 }
 
+bool isPresentation(const std::string& lower) {
+    constexpr std::array endings = {".pptx", ".pptm", ".ppt", ".potx", ".ppsx", ".odp"};
+    return std::any_of(endings.begin(), endings.end(),
+                       [&](const char* ending) { return lower.ends_with(ending); });
+}
+
 /// A page or a picture is a file to those who name one.
 void requireFolder(const std::string& output) {
     const std::string lower = office::lowerCase(output);
@@ -246,7 +252,10 @@ void requireFolder(const std::string& output) {
 catalogue::Destination destinationByName(const std::string& output) {
     const std::string lower = office::lowerCase(output);
     if (lower.ends_with(".pdf")) return catalogue::Destination::Pdf;
-    return isDocument(output) ? catalogue::Destination::Word : catalogue::Destination::PowerPoint;
+    if (isDocument(output)) return catalogue::Destination::Word;
+    if (output.empty() || isPresentation(lower)) return catalogue::Destination::PowerPoint;
+    throw UsageError(fmt::format(
+        "Say with --to what {} is to become, or end its name in .pptx, .docx or .pdf.", output));
 }
 
 /// Brings destinations and outputs together, in their order.
@@ -256,7 +265,9 @@ void pairTargets(Options& options, const RawTexts& raw) {
     if (needsOutputs && raw.outputs.empty())
         throw UsageError("Name what to write with --output OUT.");
     if (needsOutputs && !raw.destinations.empty() && raw.destinations.size() != raw.outputs.size())
-        throw UsageError("Each --to goes with an --output of its own.");
+        throw UsageError(
+            "Give each --output a --to of its own, in the same order, or no --to where the names "
+            "tell.");
     for (std::size_t i = 0; i < std::max<std::size_t>(count, 1); ++i) {
         Target target;
         if (i < raw.outputs.size()) target.output = raw.outputs[i];
