@@ -108,15 +108,20 @@ TEST_F(ExcelCells, MovesABlockInAsManyCallsAsItHasColumnsAtMost) {
 }
 
 TEST_F(ExcelCells, ListsNamesAsExcelDoes) {
+    // As LibreOffice calls Excel's own in older files.
+    const auto names = property<uno::Reference<css::sheet::XNamedRanges>>(model(), "NamedRanges");
+    for (const char* const name : {"Excel_BuiltIn__FilterDatabase", "_xlnm__FilterDatabase"})
+        names->addNewByName(rtl::OUString::createFromAscii(name), "$Data.$B$3", {}, 0);
     EXPECT_EQ(namesIn(book.get("Names")),
-              (Names{"Columns", "OffSheet", "Data!Own", "Wide!Print_Area", "Wide!Print_Titles",
-                     "Relative", "Total"}));
+              (Names{"_FilterDatabase", "Columns", "OffSheet", "Data!Own", "Wide!Print_Area",
+                     "Wide!Print_Titles", "Relative", "Total"}));
     const auto addressOf = [&](const char* name) {
         return book.get("Names").get("Item", name).get("RefersToRange").get("Address").toText();
     };
     EXPECT_EQ(addressOf("Columns"), "$A:$B");
     EXPECT_EQ(addressOf("Relative"), "$B$2");
     EXPECT_EQ(addressOf("Wide!Print_Titles"), "$1:$2");
+    EXPECT_EQ(addressOf("_FilterDatabase"), "$B$3");
     EXPECT_EQ(failureOf([&] { addressOf("OffSheet"); }), refused);
     EXPECT_EQ(failureOf([&] { book.get("Names").call("Add", "loc1", "=Data!$A$1"); }), refused);
 }

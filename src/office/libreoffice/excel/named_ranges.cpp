@@ -5,6 +5,7 @@
 #include <com/sun/star/sheet/XCellRangeReferrer.hpp>
 
 #include <algorithm>
+#include <array>
 
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/unrecorded.h"
@@ -14,7 +15,9 @@ namespace libreoffice::excel {
 
 namespace {
 
-constexpr std::string_view builtIn = "_xlnm.";
+/// What the names that Excel itself gives begin with: in its packages, and as LibreOffice calls
+/// them in its older files, whoever wrote these.
+constexpr std::array<std::string_view, 3> builtIn = {"_xlnm.", "_xlnm_", "Excel_BuiltIn_"};
 
 /// The flag of a hidden name; the headers of older LibreOffice versions don't know it.
 constexpr sal_Int32 hiddenNameFlag = 16;
@@ -77,8 +80,12 @@ std::vector<std::string> NamedRanges::all() {
     const auto stored = ranges_->getElementNames();
     for (const rtl::OUString& each : stored) {
         std::string name = fromUno(each);
-        if (name.starts_with(builtIn)) name.erase(0, builtIn.size());
-        names.push_back(std::move(name));
+        for (const std::string_view prefix : builtIn) {
+            if (name.starts_with(prefix)) name.erase(0, prefix.size());
+        }
+        // An older file may have the same under two of them.
+        if (std::find(names.begin(), names.end(), name) == names.end())
+            names.push_back(std::move(name));
     }
     return names;
 }
@@ -87,8 +94,11 @@ std::optional<rtl::OUString> NamedRanges::storedName(std::string_view name) cons
     if (const rtl::OUString plain = toUno(name); ranges_->hasByName(plain)) return plain;
     const std::string lower = office::lowerCase(name);
     if (!lower.starts_with("print_") && !lower.starts_with("_filter")) return std::nullopt;
-    const rtl::OUString prefixed = toUno(std::string(builtIn) + std::string(name));
-    return ranges_->hasByName(prefixed) ? std::optional(prefixed) : std::nullopt;
+    for (const std::string_view prefix : builtIn) {
+        const rtl::OUString prefixed = toUno(std::string(prefix) + std::string(name));
+        if (ranges_->hasByName(prefixed)) return prefixed;
+    }
+    return std::nullopt;
 }
 
 /// LibreOffice's object of a name stands for whatever bears that name now; it has no contents when

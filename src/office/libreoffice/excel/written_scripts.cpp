@@ -58,9 +58,8 @@ bool isLetter(char32_t code) {
 
 bool isIntricate(std::string_view text) {
     const auto characters = office::charactersOf(text);
-    return std::any_of(characters.begin(), characters.end(), [](const office::Character& one) {
-        return isIn(intricate, one.code);
-    });
+    return std::any_of(characters.begin(), characters.end(),
+                       [](const office::Character& one) { return isIn(intricate, one.code); });
 }
 
 bool isReadFromRight(std::string_view text) {
