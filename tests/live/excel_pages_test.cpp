@@ -59,6 +59,8 @@ TEST_F(ExcelPages, ShowBarsAndTheChartsThatLieOnTheCells) {
         charts, "Data", corner + ":" + second.get("BottomRightCell").get("Address").toText());
     const std::size_t image = page.find("<img src=\"page%20with%20blanks_files/image00");
     ASSERT_NE(image, std::string::npos);
+    EXPECT_EQ(page.find("<img", image + 1), std::string::npos)
+        << "the neighbours stick into its cells";
     double left = -1, top = -1;
     ASSERT_EQ(
         std::sscanf(page.c_str() + page.find("left:", image), "left:%lfpx;top:%lfpx", &left, &top),

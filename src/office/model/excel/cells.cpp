@@ -4,6 +4,13 @@
 
 namespace office::model::excel {
 
+CellBlock cellsUnder(const Box& box, CellMap& cells) {
+    // The last point inside: what ends with a cell does not reach into the next one.
+    constexpr double inside = 0.02;
+    return around(cells.cellAt(box.left, box.top),
+                  cells.cellAt(box.left + box.width - inside, box.top + box.height - inside));
+}
+
 Value typedIn(const Value& value, bool textCell) {
     if (value.isObject()) return typedIn(value.get("Value"), textCell);
     if (value.isBlank() || value.isMissing()) return {};

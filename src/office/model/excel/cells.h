@@ -62,6 +62,9 @@ public:
     virtual Box placeOf(const CellBlock& block) = 0;
 };
 
+/// The cells that something on a sheet lies on.
+[[nodiscard]] CellBlock cellsUnder(const Box& box, CellMap& cells);
+
 /// What a cell holds when a value has been typed in: a text that is a number becomes one, unless
 /// the cell's format is for text ("@"), where everything stays text. A formula is never made.
 [[nodiscard]] Value typedIn(const Value& value, bool textCell);

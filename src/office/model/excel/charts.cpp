@@ -99,22 +99,19 @@ private:
     enum class Corner { TopLeft, BottomRight };
 
     [[nodiscard]] Object cellUnder(Corner corner) const {
+        const CellBlock cells = cellsUnderChart();
+        return rangeObject(
+            home(), {corner == Corner::TopLeft ? CellBlock::cell(cells.firstRow, cells.firstColumn)
+                                               : CellBlock::cell(cells.lastRow, cells.lastColumn)});
+    }
+    [[nodiscard]] CellBlock cellsUnderChart() const {
         // What is published by its cells asks for them just before.
         Publications& publications = book().publications();
         if (!publications.records.empty()) {
-            const PlacedCharts& placed = publications.placedCharts(sheet());
-            if (const auto* known = placed.of(chart()))
-                return cellUnder(corner, known->box, *placed.cells);
+            if (const auto* known = publications.placedCharts(sheet()).of(chart()))
+                return known->cells;
         }
-        return cellUnder(corner, chart().box(), *sheet().cellMap());
-    }
-    [[nodiscard]] Object cellUnder(Corner corner, const Box& box, CellMap& cells) const {
-        // The last point inside: a chart that ends with a cell does not reach into the next one.
-        constexpr double inside = 0.02;
-        const bool isFirst = corner == Corner::TopLeft;
-        return rangeObject(home(),
-                           {cells.cellAt(isFirst ? box.left : box.left + box.width - inside,
-                                         isFirst ? box.top : box.top + box.height - inside)});
+        return cellsUnder(chart().box(), *sheet().cellMap());
     }
 };
 

@@ -39,9 +39,11 @@ struct PlacedCharts {
         SheetChartPtr chart;
         std::string name;
         Box box;
+        /// Those under it.
+        CellBlock cells;
     };
     std::vector<One> charts;
-    std::unique_ptr<CellMap> cells;
+    std::unique_ptr<CellMap> map;
     /// Null for one that has come to the sheet since.
     [[nodiscard]] const One* of(const SheetChart& chart) const;
     /// The cells under several of them and between them, if nothing is seen of any.

@@ -91,7 +91,7 @@ private:
         const PlacedCharts& placed = home_.book->publications().placedCharts(*found->home.sheet);
         TableLook look = lookOf(found->home, *block, placed);
         look.leaveTextsToBars();
-        std::vector<PagePicture> charts = chartsOn(found->home, placed, look);
+        std::vector<PagePicture> charts = chartsOn(found->home, placed, *block, look);
         if (!showsCells(look)) {
             if (charts.empty()) gaps.emplace(asked, look);
             if (charts.size() == 1) describe(charts.front());
@@ -114,7 +114,7 @@ private:
         // Thinner ones are hidden, which a copy refuses.
         constexpr double thinnestPt = 0.1;
         if (placed.blankCells && intersection(block, *placed.blankCells) == block) {
-            const Box at = placed.cells->placeOf(block);
+            const Box at = placed.map->placeOf(block);
             if (at.width > thinnestPt && at.height > thinnestPt)
                 return {{at.width}, {at.height}, {CellLook{}}, at.left, at.top};
         }
@@ -123,13 +123,18 @@ private:
         return place.sheet->cells(block)->copy(from)->tableOfPage();
     }
 
-    /// The charts that lie on the cells, or stick out of them.
+    /// The charts that lie on the cells, or stick out of them. The cells under a chart stand for it
+    /// alone: its neighbours stick into them on most sheets.
     [[nodiscard]] std::vector<PagePicture> chartsOn(const InSheet& place,
                                                     const PlacedCharts& placed,
-                                                    const TableLook& look) {
+                                                    const CellBlock& block, const TableLook& look) {
         constexpr double touchingPt = 0.5;
+        const bool isOfChart =
+            std::any_of(placed.charts.begin(), placed.charts.end(),
+                        [&](const PlacedCharts::One& one) { return one.cells == block; });
         std::vector<PagePicture> pictures;
-        for (const auto& [chart, name, box] : placed.charts) {
+        for (const auto& [chart, name, box, cells] : placed.charts) {
+            if (isOfChart && cells != block) continue;
             const bool lies = box.left + touchingPt < look.leftPt + look.widthPt() &&
                               box.left + box.width > look.leftPt + touchingPt &&
                               box.top + touchingPt < look.topPt + look.heightPt() &&
