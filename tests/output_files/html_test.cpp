@@ -119,12 +119,17 @@ TEST_F(Html, ThatIsPublishedKeepsTablesAndEscapesAllThatComesFromTheWorkbook) {
     EXPECT_TRUE(session.ExcelApp.get("DisplayAlerts").toBool());
 }
 
-TEST(Cells, LetNoFontsNameOutOfItsStyle) {
-    office::CellLook cell;
-    cell.text = "x";
-    cell.fontName = "A&#39;;B'\"";
-    const std::string markup = office::model::excel::cellsAsPage({{50}, {15}, {cell}}, {});
-    EXPECT_NE(markup.find("font-family:'A&amp;#39B',sans-serif;"), std::string::npos) << markup;
+TEST(Cells, NameTheirFontAndItsKindAndLetNoNameOutOfItsStyle) {
+    for (const auto& [font, family] : {std::pair("A&#39;;B'\"", "'A&amp;#39B',sans-serif"),
+                                       {"Courier New", "'Courier New',monospace"},
+                                       {"Century", "'Century',serif"},
+                                       {"Century Gothic", "'Century Gothic',sans-serif"}}) {
+        office::CellLook cell;
+        cell.text = "x";
+        cell.fontName = font;
+        const std::string markup = office::model::excel::cellsAsPage({{50}, {15}, {cell}}, {});
+        EXPECT_NE(markup.find(fmt::format("font-family:{};", family)), std::string::npos) << markup;
+    }
 }
 
 TEST_F(Html, ThatIsPublishedNeedsNoSheetForBlankLinesAndNoBlankLines) {

@@ -3,7 +3,9 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <array>
 #include <map>
+#include <string_view>
 #include <tuple>
 
 #include "office/colour.h"
@@ -23,6 +25,19 @@ std::string pixels(double points) {
     return text + "px";
 }
 
+/// What a reader without a font is to see in its place.
+const char* kindOfFont(std::string_view name) {
+    constexpr std::array serifs = {"Times", "Georgia", "Cambria",  "Garamond",        "Constantia",
+                                   "Book",  "Century", "Palatino", "Liberation Serif"};
+    constexpr std::array fixed = {"Courier", "Consolas", "Lucida Console", "Liberation Mono"};
+    const auto isOneOf = [&](const auto& names) {
+        return std::any_of(names.begin(), names.end(),
+                           [&](const char* begin) { return name.starts_with(begin); });
+    };
+    if (isOneOf(fixed)) return "monospace";
+    return isOneOf(serifs) && name != "Century Gothic" ? "serif" : "sans-serif";
+}
+
 /// The name of a font comes from the workbook, and may hold what ends a text in a style, or what
 /// stands for that in an attribute.
 std::string fontFamily(const std::string& name) {
@@ -35,7 +50,7 @@ std::string fontFamily(const std::string& name) {
                  std::string_view("'\"\\;{}<>").find(sign) == std::string_view::npos)
             plain += sign;
     }
-    return plain.empty() ? "sans-serif" : "'" + plain + "',sans-serif";
+    return plain.empty() ? "sans-serif" : fmt::format("'{}',{}", plain, kindOfFont(plain));
 }
 
 /// What all cells of a table have alike unless they say otherwise.
