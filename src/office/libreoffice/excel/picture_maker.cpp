@@ -27,18 +27,18 @@ std::string onWhite(std::string svg) {
     return svg.insert(content + 1, R"(<rect width="100%" height="100%" fill="white"/>)");
 }
 
-/// Whether an outline holds all of a picture.
-bool isWhole(const Metafile::Outline& outline, const Metafile& picture) {
+/// Whether an outline holds all of a picture of this size.
+bool isWhole(const Metafile::Outline& outline, double width, double height) {
     if (outline.size() != 1 || !outline.front().isControl.empty()) return false;
     const auto& points = outline.front().points;
     double twiceTheArea = 0;
     for (std::size_t i = 0; i < points.size(); ++i) {
         const auto& [x, y] = points[i];
-        if (x < 0 || y < 0 || x > picture.width || y > picture.height) return false;
+        if (x < 0 || y < 0 || x > width || y > height) return false;
         const auto& next = points[(i + 1) % points.size()];
         twiceTheArea += x * next.y - next.x * y;
     }
-    return std::abs(twiceTheArea) == 2 * picture.width * picture.height;
+    return std::abs(twiceTheArea) == 2 * width * height;
 }
 
 /// Whether it is seen of a picture that nothing shines through, as of nearly all charts: to ask for
@@ -48,10 +48,15 @@ bool beginsWithGround(const Metafile& picture) {
     const Metafile::Operation& first = picture.operations.front();
     const auto* shape = std::get_if<Metafile::Shape>(&first.what);
     const auto& clips = picture.clips[first.clip];
+    const double width = picture.width;
+    const double height = picture.height;
+    // The suite names the last unit inside.
+    const auto isWholeClip = [&](const Metafile::Outline& clip) {
+        return isWhole(clip, width, height) || isWhole(clip, width - 1, height - 1);
+    };
     return shape != nullptr && std::holds_alternative<Metafile::Colour>(shape->fill) &&
-           isWhole(shape->outline, picture) &&
-           std::all_of(clips.begin(), clips.end(),
-                       [&](const auto& clip) { return isWhole(clip, picture); });
+           isWhole(shape->outline, width, height) &&
+           std::all_of(clips.begin(), clips.end(), isWholeClip);
 }
 
 /// The suite writes pictures to files only: one in a folder that only this user can read, and gone

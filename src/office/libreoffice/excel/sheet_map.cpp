@@ -1,9 +1,13 @@
 #include "office/libreoffice/excel/sheet_map.h"
 
+#include <com/sun/star/sheet/XSheetCellCursor.hpp>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
+#include "office/libreoffice/excel/answered.h"
+#include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/units.h"
 
 namespace libreoffice::excel {
@@ -90,9 +94,29 @@ SeenLine KnownLines::nearest(std::int32_t point) const {
             found->length > thinnestLine ? found->length : seen_.length};
 }
 
+/// A cursor that is moved takes fewer calls than a range for each cell, once it is there.
+PlaceOfCells SheetMap::placeOfCell(std::int32_t row, std::int32_t column) {
+    constexpr int looksOfOneChart = 2;
+    const CalcDocument& book = sheet_->book();
+    // Moving the cursor of a closed workbook crashes LibreOffice, and users may close theirs any
+    // time.
+    if (++looks_ <= looksOfOneChart || !book.desk().opensHidden() || book.isGone())
+        return libreoffice::excel::placeOf(sheet_->range(model::CellBlock::cell(row, column)));
+    auto& [cursor, properties, atRow, atColumn] = moving_;
+    if (!cursor.is()) {
+        const auto first = answered(sheet_->sheet()->createCursor());
+        first->collapseToSize(1, 1);
+        properties = as<css::beans::XMultiPropertySet>(first);
+        cursor = as<css::table::XCellCursor>(first);
+    }
+    cursor->gotoOffset(column - atColumn, row - atRow);
+    atRow = row;
+    atColumn = column;
+    return libreoffice::excel::placeOf(properties);
+}
+
 void SheetMap::lookAt(std::int32_t row, std::int32_t column) {
-    const auto [corner, size] =
-        libreoffice::excel::placeOf(sheet_->range(model::CellBlock::cell(row, column)));
+    const auto [corner, size] = placeOfCell(row, column);
     // On a sheet that is read from right to left all places are negative: there a line ends where
     // it is said to lie.
     isReadFromRight_ = corner.X < 0;

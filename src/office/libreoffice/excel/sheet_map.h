@@ -1,5 +1,8 @@
 #pragma once
 
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
+#include <com/sun/star/table/XCellCursor.hpp>
+
 #include <cstdint>
 #include <utility>
 #include <vector>
@@ -38,12 +41,23 @@ public:
     model::Box placeOf(const model::CellBlock& block) override;
 
 private:
+    /// A cell that is moved to others.
+    struct MovingCell {
+        uno::Reference<css::table::XCellCursor> cursor;
+        uno::Reference<css::beans::XMultiPropertySet> properties;
+        std::int32_t row = 0;
+        std::int32_t column = 0;
+    };
+
     void lookAt(std::int32_t row, std::int32_t column);
+    [[nodiscard]] PlaceOfCells placeOfCell(std::int32_t row, std::int32_t column);
 
     SheetRecordPtr sheet_;
     KnownLines columns_;
     KnownLines rows_;
     bool isReadFromRight_ = false;
+    int looks_ = 0;
+    MovingCell moving_;
 };
 
 }  // namespace libreoffice::excel

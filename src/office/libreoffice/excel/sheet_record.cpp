@@ -158,8 +158,12 @@ model::CellBlock blockOf(const uno::Reference<css::table::XCellRange>& cells) {
 }
 
 PlaceOfCells placeOf(const uno::Reference<css::table::XCellRange>& cells) {
-    const auto values =
-        as<css::beans::XMultiPropertySet>(cells)->getPropertyValues(namesOf({"Position", "Size"}));
+    return placeOf(as<css::beans::XMultiPropertySet>(cells));
+}
+
+PlaceOfCells placeOf(const uno::Reference<css::beans::XMultiPropertySet>& cells) {
+    static const auto names = namesOf({"Position", "Size"});
+    const auto values = cells->getPropertyValues(names);
     PlaceOfCells place;
     values[0] >>= place.corner;
     values[1] >>= place.size;

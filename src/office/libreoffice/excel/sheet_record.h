@@ -2,6 +2,7 @@
 
 #include <com/sun/star/awt/Point.hpp>
 #include <com/sun/star/awt/Size.hpp>
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
@@ -32,6 +33,7 @@ struct PlaceOfCells {
 };
 
 [[nodiscard]] model::CellBlock blockOf(const uno::Reference<css::table::XCellRange>& cells);
+[[nodiscard]] PlaceOfCells placeOf(const uno::Reference<css::beans::XMultiPropertySet>& cells);
 [[nodiscard]] PlaceOfCells placeOf(const uno::Reference<css::table::XCellRange>& cells);
 
 /// What is written into cells.

@@ -57,9 +57,8 @@ const RangeRef& WriterCaret::range() {
 }
 
 uno::Reference<css::text::XTextCursor> WriterCaret::copy() {
-    if (!isAtEnd()) return text()->createTextCursorByRange(range_);
-    cursorAtEnd_.cursor->gotoRange(range_, false);
-    return cursorAtEnd_.cursor;
+    // What is written at the end moves all cursors there on.
+    return isAtEnd() ? cursorAtEnd_.cursor : text()->createTextCursorByRange(range_);
 }
 
 void WriterCaret::leaveObject() {
