@@ -3,12 +3,16 @@
 
 #include <algorithm>
 #include <optional>
+#include <regex>
 #include <string>
 #include <vector>
 
 #include "office/package/drawing/chart_memory.h"
+#include "office/package/small_workbook.h"
+#include "office/package/workbook/cell_formats.h"
 #include "office/package/workbook/chart_cells.h"
 #include "support/copied_double.h"
+#include "support/temporary_folder.h"
 
 namespace {
 
@@ -201,7 +205,7 @@ TEST(AChartsMemory, IsThatOfItsCells) {
     const auto expect = [&](const char* about, const std::string& before,
                             const std::string& after) {
         const Xml xml(before, "chart");
-        rememberCells(xml, copied);
+        rememberCells(xml, copied, {});
         EXPECT_EQ(Xml(xml.bytes(), "chart").bytes(), Xml(after, "chart").bytes()) << about;
     };
     const auto either = [](const std::string& after, const std::string& before) {
@@ -226,6 +230,63 @@ TEST(AChartsMemory, IsThatOfItsCells) {
     copied.hiddenColumn = 99;
     expect("a hidden name", chartOf(textsOf("Data!$C$1", "Old"), names, values),
            chartOf(name, names, values));
+}
+
+TEST(AChartsMemory, SaysTheFormatsOfItsCells) {
+    struct Case {
+        const char* about;
+        std::string before, after;
+    };
+    const auto numbers = [](const std::string& format, const std::string& middle) {
+        return R"(<c:numCache><c:formatCode>)" + format +
+               R"(</c:formatCode><c:ptCount val="3"/><c:pt idx="0"><c:v>1</c:v></c:pt><c:pt idx="1")" +
+               middle + R"(><c:v>2</c:v></c:pt><c:pt idx="2"><c:v>3</c:v></c:pt></c:numCache>)";
+    };
+    const std::string percent = R"( formatCode="0 %")";
+    const Case cases[] = {
+        {"General", numbers("General", ""), numbers("mmm-yy", percent)},
+        {"nothing",
+         std::regex_replace(numbers("", ""), std::regex("<c:formatCode>.*formatCode>"), ""),
+         numbers("mmm-yy", percent)},
+        {"changed", std::regex_replace(numbers("General", ""), std::regex("<c:pt .*/c:pt>"), ""),
+         numbers("mmm-yy", percent)},
+        {"one of its own", numbers("0.0", ""), numbers("0.0", "")},
+        {"a point's own", numbers("General", R"( formatCode="@")"),
+         numbers("General", R"( formatCode="@")")},
+    };
+    // What Excel doesn't write out, what is the workbook's own, and a style without a place.
+    const auto styles = small_workbook::sheet(
+        R"(<numFmts><numFmt numFmtId="164" formatCode="0 %"/></numFmts><cellXfs>)"
+        R"(<xf numFmtId="0"/><xf numFmtId="17"/><xf numFmtId="164"/></cellXfs>)",
+        "styleSheet");
+    const auto cells = small_workbook::sheet(
+        R"(<sheetData><row r="2"><c r="B2" s="1"/><c s="7"/></row><row><c r="B3" s='2'/></row>)"
+        R"(<row r="4"><c r="B4" s="1"><v>3</v></c></row></sheetData>)");
+    const support::TemporaryFolder folder;
+    const std::string zip =
+        small_workbook::bytes({{"xl/sheet1.xml", cells},
+                               {"xl/styles.xml", styles},
+                               {"xl/_rels/workbook.xml.rels",
+                                small_workbook::relationshipsTo(
+                                    {{"worksheet", "sheet1.xml"}, {"styles", "styles.xml"}})}});
+    support::writeBytes(folder.file("book.xlsx"), {zip.begin(), zip.end()});
+    WorkbookFile book(folder.file("book.xlsx"));
+    CellFormats formats(book);
+    const auto formatOf = [&](const auto& sheet, auto row, auto column) {
+        return formats.codeAt(sheet, row, column);
+    };
+    for (const auto& [row, column] : {std::pair(0, 1), {1, 0}, {1, 2}, {1, 9}})
+        EXPECT_EQ(formatOf("Data", row, column), "General") << row << " " << column;
+    CopyOfCells copied;
+    copied.rows = {{}, {{}, holding(1)}, {{}, holding(2)}, {{}, holding(3)}};
+    for (const Case& one : cases) {
+        const auto chart = [](const std::string& cache) {
+            return chartOf("", "", "<c:numRef><c:f>Data!$B$2:$B$4</c:f>" + cache + "</c:numRef>");
+        };
+        const Xml xml(chart(one.before), "chart");
+        rememberCells(xml, copied, formatOf);
+        EXPECT_EQ(xml.bytes(), Xml(chart(one.after), "chart").bytes()) << one.about;
+    }
 }
 
 }  // namespace

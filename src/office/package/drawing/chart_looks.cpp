@@ -71,6 +71,61 @@ void writeFrame(pugi::xml_node chartSpace, int thinLine) {
         childInOrder(grey, ns::drawing, name, name).append_attribute("val").set_value(value);
 }
 
+constexpr std::string_view plainFormat = "General";
+
+std::vector<pugi::xml_node> groupsAlong(pugi::xml_node axis) {
+    const std::string id = childNamed(axis, ns::chart, "axId").attribute("val").value();
+    std::vector<pugi::xml_node> groups;
+    for (const pugi::xml_node group : axis.parent().children()) {
+        const auto ids = childrenNamed(group, ns::chart, "axId");
+        if (std::any_of(ids.begin(), ids.end(),
+                        [&](const auto& one) { return one.attribute("val").value() == id; }))
+            groups.push_back(group);
+    }
+    return groups;
+}
+
+pugi::xml_node numbersOf(pugi::xml_node series, const char* role) {
+    const auto reference = childNamed(childNamed(series, ns::chart, role), ns::chart, "numRef");
+    return childNamed(reference, ns::chart, "numCache");
+}
+
+/// Days that are stored as plain numbers are shown as the axis says.
+void writeDates(pugi::xml_node axis, const std::vector<pugi::xml_node>& groups) {
+    const auto wanted = childNamed(axis, ns::chart, "numFmt").attribute("formatCode");
+    const bool isPlain = !wanted || wanted.value() == plainFormat;
+    if (isPlain && !isNamed(axis, ns::chart, "dateAx")) return;
+    for (const pugi::xml_node group : groups) {
+        for (const pugi::xml_node series : childrenNamed(group, ns::chart, "ser")) {
+            const auto cache = numbersOf(series, "cat");
+            if (!cache) continue;
+            auto format = chartChild(cache, "formatCode");
+            if (format.text().get() == plainFormat || format.text().empty())
+                format.text().set(isPlain ? "yyyy\\-mm\\-dd" : wanted.value());
+        }
+    }
+}
+
+/// What an axis takes from the cells of its first series. LibreOffice goes by what stands there.
+void linkFormat(pugi::xml_node axis, pugi::xml_node group) {
+    auto format = childNamed(axis, ns::chart, "numFmt");
+    if (!format.attribute("sourceLinked").as_bool()) return;
+    const bool isOfValues = isNamed(axis, ns::chart, "valAx");
+    // Shares are shown as such, whatever they are of.
+    const auto grouping = childNamed(group, ns::chart, "grouping").attribute("val");
+    if (isOfValues && grouping.value() == std::string_view("percentStacked")) return;
+    const char* role = isOfValues ? "val" : "cat";
+    if (isOneOf(group, ns::chart, "scatterChart bubbleChart")) {
+        const std::string first = childNamed(group, ns::chart, "axId").attribute("val").value();
+        const bool isFirst = childNamed(axis, ns::chart, "axId").attribute("val").value() == first;
+        role = isFirst ? "xVal" : "yVal";
+    }
+    const auto series = childNamed(group, ns::chart, "ser");
+    const char* const code =
+        childNamed(numbersOf(series, role), ns::chart, "formatCode").text().get();
+    if (*code != '\0' && code != plainFormat) attributeFor(format, "formatCode").set_value(code);
+}
+
 }  // namespace
 
 void writeLooks(pugi::xml_node chartSpace, int thinLine) {
@@ -96,35 +151,17 @@ void writeLooks(pugi::xml_node chartSpace, int thinLine) {
     }
 }
 
-void writeDates(pugi::xml_node chartSpace) {
-    constexpr std::string_view plain = "General";
+void writeAxisFormats(pugi::xml_node chartSpace) {
     // Far more than any chart has: for each of them all series are looked through.
     constexpr int mostAxes = 50;
     const auto area = childNamed(childNamed(chartSpace, ns::chart, "chart"), ns::chart, "plotArea");
     int axes = 0;
     for (const pugi::xml_node axis : area.children()) {
-        const bool isOfDates = isNamed(axis, ns::chart, "dateAx");
-        if (!isOfDates && !isNamed(axis, ns::chart, "catAx")) continue;
+        if (!isOneOf(axis, ns::chart, "catAx dateAx valAx")) continue;
         if (++axes > mostAxes) return;
-        const std::string id = childNamed(axis, ns::chart, "axId").attribute("val").value();
-        const auto wanted = childNamed(axis, ns::chart, "numFmt").attribute("formatCode");
-        const bool isPlain = !wanted || wanted.value() == plain;
-        if (isPlain && !isOfDates) continue;
-        for (const pugi::xml_node group : area.children()) {
-            const auto ids = childrenNamed(group, ns::chart, "axId");
-            if (std::none_of(ids.begin(), ids.end(),
-                             [&](const auto& one) { return one.attribute("val").value() == id; }))
-                continue;
-            for (const pugi::xml_node series : childrenNamed(group, ns::chart, "ser")) {
-                const auto reference =
-                    childNamed(childNamed(series, ns::chart, "cat"), ns::chart, "numRef");
-                const auto cache = childNamed(reference, ns::chart, "numCache");
-                if (!cache) continue;
-                auto format = chartChild(cache, "formatCode");
-                if (format.text().get() == plain || format.text().empty())
-                    format.text().set(isPlain ? "yyyy\\-mm\\-dd" : wanted.value());
-            }
-        }
+        const auto groups = groupsAlong(axis);
+        if (!isNamed(axis, ns::chart, "valAx")) writeDates(axis, groups);
+        if (!groups.empty()) linkFormat(axis, groups.front());
     }
 }
 

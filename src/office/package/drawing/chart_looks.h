@@ -12,8 +12,9 @@ namespace office::package {
 void writeLooks(pugi::xml_node chartSpace, int thinLine);
 
 /// Says how the categories along an axis are shown that is of dates or has a format of its own,
-/// where they are stored as plain numbers: in a presentation there are no cells to tell.
-void writeDates(pugi::xml_node chartSpace);
+/// where they are stored as plain numbers: in a presentation there are no cells to tell. An axis
+/// that follows its cells gets the format that is stored for them.
+void writeAxisFormats(pugi::xml_node chartSpace);
 
 /// The width of the finest line of a theme; 0 for one that says none.
 [[nodiscard]] int thinLineOf(const Xml& theme);

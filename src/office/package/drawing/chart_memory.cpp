@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "office/package/drawing/chart_order.h"
 #include "office/package/drawing/chart_references.h"
 #include "office/text.h"
 
@@ -57,10 +58,11 @@ bool isSameShown(std::string_view known, const std::string& shown) {
 
 class Memories {
 public:
-    Memories(const Copied& copied, std::vector<ChartReference> references, std::string element,
-             bool drawsHidden)
+    Memories(const Copied& copied, const FormatOfCell& formatOf,
+             std::vector<ChartReference> references, std::string element, bool drawsHidden)
         : references_(std::move(references)),
           cells_(copied, wanted(references_)),
+          formatOf_(formatOf),
           element_(std::move(element)),
           drawsHidden_(drawsHidden) {
         std::erase_if(references_,
@@ -70,7 +72,10 @@ public:
     /// What is hidden leaves no gap, unless the chart draws it.
     void refresh() {
         for (const ChartReference& one : references_) {
-            if (const auto lines = linesOf(one); !isRemembered(one, lines)) write(one, lines);
+            const auto lines = linesOf(one);
+            if (!isRemembered(one, lines)) write(one, lines);
+            if (localName(one.cache) == "numCache")
+                writeFormats(one.cache, one.cells.sheet, lines.front());
         }
     }
 
@@ -204,6 +209,30 @@ private:
         return formats;
     }
 
+    /// Some programs always remember "General", since a workbook's chart asks its cells.
+    void writeFormats(pugi::xml_node cache, const std::string& sheet, const ChartLine& line) const {
+        const std::string general = "General";
+        const std::string known = childCalled(cache, "formatCode").text().get();
+        const bool isKnown = (!known.empty() && known != general) ||
+                             cache.find_child([](const pugi::xml_node& point) {
+                                 return !point.attribute("formatCode").empty();
+                             });
+        if (isKnown) return;
+        std::map<unsigned, std::string> codes;
+        for (const ChartPoint& point : line.points) {
+            if (point.content->kind == Content::Number)
+                codes[point.index] = formatOf_(sheet, point.row, point.column);
+        }
+        if (codes.empty()) return;
+        const std::string common = codes.begin()->second;
+        if (common != general) chartChild(cache, "formatCode").text().set(common.c_str());
+        for (pugi::xml_node point : cache.children()) {
+            const auto found = codes.find(point.attribute("idx").as_uint());
+            if (localName(point) == "pt" && found != codes.end() && found->second != common)
+                point.append_attribute("formatCode").set_value(found->second.c_str());
+        }
+    }
+
     void makeTexts(ChartReference& one) const {
         one.memory = ChartReference::Memory::Texts;
         one.node.set_name(named("strRef").c_str());
@@ -214,6 +243,7 @@ private:
 
     std::vector<ChartReference> references_;
     ChartCells cells_;
+    const FormatOfCell& formatOf_;
     /// The prefix of the chart's elements, with its colon.
     std::string element_;
     bool drawsHidden_;
@@ -221,13 +251,14 @@ private:
 
 }  // namespace
 
-void rememberCells(const Xml& chart, const Copied& copied) {
+void rememberCells(const Xml& chart, const Copied& copied, const FormatOfCell& formatOf) {
     std::vector<ChartReference> references = referencesIn(chart);
     if (references.empty()) return;
     const std::string_view root = chart.root().name();
     const auto shownOnly =
         childNamed(childNamed(chart.root(), ns::chart, "chart"), ns::chart, "plotVisOnly");
-    Memories(copied, std::move(references), std::string(root.substr(0, root.find(':') + 1)),
+    Memories(copied, formatOf, std::move(references),
+             std::string(root.substr(0, root.find(':') + 1)),
              shownOnly && !shownOnly.attribute("val").as_bool(true))
         .refresh();
 }

@@ -94,7 +94,7 @@ void connect(pugi::xml_node chartSpace, const std::string& relationship) {
 
 ChartParts::Origin& ChartParts::originOf(const WorkbookFilePtr& book) {
     if (const auto known = origins_.find(book); known != origins_.end()) return known->second;
-    Origin origin;
+    Origin origin(*book);
     origin.defaults = defaultsOf(book->package());
     if (const std::string& bytes = themeOf(*book); !bytes.empty()) {
         const Xml theme(bytes, "theme");
@@ -113,8 +113,10 @@ std::string ChartParts::add(SourceChart chart, const Copied& copied, const std::
     auto root = chart.xml->root();
     writeFlags(root, origin.defaults);
     writeLooks(root, origin.thinLine);
-    rememberCells(*chart.xml, copied);
-    writeDates(root);
+    rememberCells(*chart.xml, copied, [&](const auto& sheet, auto row, auto column) {
+        return origin.formats.codeAt(sheet, row, column);
+    });
+    writeAxisFormats(root);
     // From here on nothing can be missing any more.
     std::string part = package_.freeName(folder_ + "/charts/chart", ".xml");
     package_.add(part, chartType, {});

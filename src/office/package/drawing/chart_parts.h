@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "office/package/drawing/chart_flags.h"
+#include "office/package/workbook/cell_formats.h"
 #include "office/package/workbook/source_chart.h"
 
 namespace office::package {
@@ -26,6 +27,9 @@ public:
 private:
     /// What the charts of one workbook have in common.
     struct Origin {
+        explicit Origin(WorkbookFile& book) : formats(book) {}
+
+        CellFormats formats;
         FlagDefaults defaults = FlagDefaults::Standard;
         /// Its theme as one that overrides another; empty if it has none.
         std::string theme;
