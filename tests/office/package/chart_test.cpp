@@ -321,6 +321,19 @@ TEST_F(Chart, GoesAsAPictureWhereItCantBeOneAndSaysWhy) {
             EXPECT_THROW(paste(source, true), office::Failure) << one.reason;
         }
     }
+    const CopySource zip = sourceIn({{"content.xml", "<office/>"}});
+    const std::string renamed = folder.file("Book.ods");
+    std::filesystem::copy_file(zip.file, renamed);
+    for (const auto& [file, reason] :
+         {std::pair(zip.file,
+                    "its workbook's file can't be used (it is a ZIP file without content "
+                    "types)"),
+          {renamed, "its workbook is no .xlsx or .xlsm file"}}) {
+        WorkbookFiles others;
+        EXPECT_EQ(
+            findChart({CopySource::Kind::Chart, file, "Data", "Chart 1", {}}, others).obstacle,
+            reason);
+    }
     // Nothing is opened again for being damaged, but for having changed.
     WorkbookParts damaged = chartWorkbook();
     damaged["xl/workbook.xml"] += "<";

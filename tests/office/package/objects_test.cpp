@@ -175,9 +175,7 @@ TEST_F(ObjectOnASlide, IsRefusedWithAReasonWhereTheFileHoldsNoSuchSheet) {
         std::string said;
     } const rows[] = {
         {{Kind::Cells, "", "Data", "", "$A$1"}, false, "not been saved"},
-        {{Kind::Cells, old, "Data", "", "$A$1"},
-         false,
-         "no .xlsx or .xlsm file (it is a file of the older"},
+        {{Kind::Cells, old, "Data", "", "$A$1"}, false, "its workbook is no .xlsx or .xlsm file"},
         {{Kind::Cells, open, "Data", "", "$A$1"}, true, "It can't be linked"},
         {{Kind::Cells, book, "New", "", "$A$1"}, true, "does not hold its sheet"},
         {{Kind::Cells, book + "x", "Data", "", "$A$1"}, false, "can't be read"},

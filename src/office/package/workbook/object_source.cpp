@@ -47,10 +47,7 @@ std::string objectObstacle(PasteAs as, const CopySource& source, WorkbookFiles& 
         if (as == PasteAs::Embedded && sheetAlone) prepareSheetAlone(*workbook, *sheet);
         return {};
     } catch (const PackageError& error) {
-        const char* const text = error.fault() == Fault::NotAPackage
-                                     ? "its workbook is no .xlsx or .xlsm file ({})"
-                                     : "its workbook's file can't be used ({})";
-        return fmt::format(fmt::runtime(text), std::string(error.what()));
+        return workbookObstacle(error, source.file);
     }
 }
 

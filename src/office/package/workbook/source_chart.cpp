@@ -131,8 +131,7 @@ SourceChart findChart(const CopySource& source, WorkbookFiles& workbooks) {
     try {
         chart.obstacle = obstacleOf(chart, source, workbooks);
     } catch (const PackageError& error) {
-        chart.obstacle =
-            fmt::format("its workbook's file can't be used ({})", std::string(error.what()));
+        chart.obstacle = workbookObstacle(error, source.file);
     }
     return chart;
 }

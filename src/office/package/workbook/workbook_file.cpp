@@ -218,6 +218,15 @@ const std::string& WorkbookFile::rememberedLast(const std::string& purpose,
     return last_.get();
 }
 
+std::string workbookObstacle(const PackageError& error, std::string_view file) {
+    const std::string name = lowerCase(file);
+    const bool isOther = !name.ends_with(plainFormat.ending) && !name.ends_with(macroFormat.ending);
+    // What its bytes are instead says nothing to a user who knows that it is another format.
+    if (error.fault() == Fault::NotAPackage && isOther)
+        return "its workbook is no .xlsx or .xlsm file";
+    return fmt::format("its workbook's file can't be used ({})", std::string(error.what()));
+}
+
 WorkbookFilePtr WorkbookFiles::at(const std::string& path) {
     const std::filesystem::path file = pathOf(path);
     std::error_code problem;

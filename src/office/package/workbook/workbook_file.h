@@ -100,6 +100,10 @@ private:
     std::shared_future<std::string> last_;
 };
 
+/// Why nothing but pictures can be taken from a workbook, as a clause about an item of it. `file`
+/// is its path in UTF-8.
+[[nodiscard]] std::string workbookObstacle(const PackageError& error, std::string_view file);
+
 using WorkbookFilePtr = std::shared_ptr<WorkbookFile>;
 
 /// The workbooks that things are pasted of, each opened once as long as its file stays the same.
