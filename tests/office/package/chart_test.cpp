@@ -122,7 +122,8 @@ WorkbookParts chartWorkbook() {
          relsOf({{"rId1", "image", "../media/image1.png"},
                  {"rId2", "hyperlink", "https://example.org"}})},
         {"xl/theme/theme1.xml",
-         R"(<t:theme xmlns:t="http://schemas.openxmlformats.org/drawingml/2006/main"><t:themeElements><t:clrScheme name="own"/></t:themeElements></t:theme>)"},
+         R"(<t:theme xmlns:t="http://schemas.openxmlformats.org/drawingml/2006/main"><t:themeElements><t:clrScheme name="own"/><t:fmtScheme><t:lnStyleLst>)"
+         R"(<t:ln w="9525"><t:solidFill><t:schemeClr val="phClr"><t:shade val="95000"/></t:schemeClr></t:solidFill></t:ln></t:lnStyleLst></t:fmtScheme></t:themeElements></t:theme>)"},
     };
 }
 
@@ -208,6 +209,8 @@ TEST_F(Chart, WritesOutWhatItsWorkbooksReaderTakesForGranted) {
         R"(</c:val><c:smooth val="{0}"/></c:ser>)",
         R"(</c:ser><c:marker val="{0}"/><c:axId)",
         R"(<c:numFmt formatCode="0.0" sourceLinked="1"/>)",
+        R"(<a:ln w="28575"><a:solidFill><a:schemeClr val="accent1"><a:shade val="95000"/></a:schemeClr>)"
+        R"(</a:solidFill></a:ln></c:spPr>)",
         R"(<c:lang val="en"/><c:roundedCorners val="{0}"/><c:clrMapOvr)",
         R"(<c:chart><c:autoTitleDeleted val="{0}"/><c:plotArea>)",
         R"(<c:scaling/><c:delete val="0"/><c:axPos val="b"/>)",

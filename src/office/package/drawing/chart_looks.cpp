@@ -1,5 +1,7 @@
 #include "office/package/drawing/chart_looks.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <string>
 #include <string_view>
@@ -47,6 +49,41 @@ void writeWidth(pugi::xml_node element, int width) {
     auto line = childInOrder(looks, ns::drawing, "ln", looksOrder);
     if (!line.attribute("w") && !childNamed(line, ns::drawing, "noFill"))
         line.append_attribute("w").set_value(width);
+}
+
+/// Whether the series have the theme's accents as they are, one each: more than those are told
+/// apart by shades.
+bool cyclesAccents(pugi::xml_node area, int style) {
+    constexpr int lastOfThem = 26;
+    constexpr unsigned accents = 6;
+    if (style % 8 != 2 || style > lastOfThem) return false;
+    for (const pugi::xml_node group : area.children()) {
+        for (const pugi::xml_node series : childrenNamed(group, ns::chart, "ser")) {
+            const auto place = childNamed(series, ns::chart, "idx").attribute("val");
+            if (place.as_uint(accents) >= accents) return false;
+        }
+    }
+    return true;
+}
+
+/// LibreOffice takes the colours of a chart's own theme, but the lines of the presentation's, which
+/// may have none.
+void writeAccent(pugi::xml_node series, const ThinLine& thinLine) {
+    const auto varies = childNamed(series.parent(), ns::chart, "varyColors");
+    if (!thinLine.changes || varies.attribute("val").as_bool()) return;
+    auto line = childNamed(childNamed(series, ns::chart, "spPr"), ns::drawing, "ln");
+    if (line.find_child([](const auto& child) { return isOneOf(child, ns::drawing, fills); }))
+        return;
+    auto fill =
+        childInOrder(line, ns::drawing, "solidFill",
+                     "solidFill prstDash custDash round bevel miter headEnd tailEnd extLst");
+    auto colour = childInOrder(fill, ns::drawing, "schemeClr", "schemeClr");
+    const unsigned place = childNamed(series, ns::chart, "idx").attribute("val").as_uint();
+    colour.append_attribute("val").set_value(fmt::format("accent{}", place + 1).c_str());
+    for (const auto& [name, value] : *thinLine.changes)
+        childInOrder(colour, ns::drawing, name, name)
+            .append_attribute("val")
+            .set_value(value.c_str());
 }
 
 /// Of the styles with a light ground; the others are seldom and dressed by the program.
@@ -128,21 +165,24 @@ void linkFormat(pugi::xml_node axis, pugi::xml_node group) {
 
 }  // namespace
 
-void writeLooks(pugi::xml_node chartSpace, int thinLine) {
+void writeLooks(pugi::xml_node chartSpace, const ThinLine& thinLine) {
     constexpr int lastLightStyle = 32;
     const int style = styleNumberOf(chartSpace);
-    if (style <= lastLightStyle) writeFrame(chartSpace, thinLine);
-    if (thinLine <= 0) return;
-    std::vector<pugi::xml_node> open = {
-        childNamed(childNamed(chartSpace, ns::chart, "chart"), ns::chart, "plotArea")};
+    if (style <= lastLightStyle) writeFrame(chartSpace, thinLine.width);
+    if (thinLine.width <= 0) return;
+    const auto area = childNamed(childNamed(chartSpace, ns::chart, "chart"), ns::chart, "plotArea");
+    const bool hasAccents = cyclesAccents(area, style);
+    std::vector<pugi::xml_node> open = {area};
     while (!open.empty()) {
         const pugi::xml_node node = open.back();
         open.pop_back();
         for (const pugi::xml_node child : node.children()) {
             if (child.type() != pugi::node_element) continue;
-            if (isNamed(child, ns::chart, "ser") && isOneOf(node, ns::chart, lineGroups))
-                writeWidth(child, thinLine * seriesFactor(style));
-            if (isOneOf(child, ns::chart, lined)) writeWidth(child, thinLine);
+            if (isNamed(child, ns::chart, "ser") && isOneOf(node, ns::chart, lineGroups)) {
+                writeWidth(child, thinLine.width * seriesFactor(style));
+                if (hasAccents) writeAccent(child, thinLine);
+            }
+            if (isOneOf(child, ns::chart, lined)) writeWidth(child, thinLine.width);
             // Deeper there are values and texts.
             if (isNamed(node, ns::chart, "plotArea") || isNamed(child, ns::chart, "ser") ||
                 isNamed(child, ns::chart, "dLbls"))
@@ -165,11 +205,27 @@ void writeAxisFormats(pugi::xml_node chartSpace) {
     }
 }
 
-int thinLineOf(const Xml& theme) {
+ThinLine thinLineOf(const Xml& theme) {
     const auto elements = childNamed(theme.root(), ns::drawing, "themeElements");
     const auto formats = childNamed(elements, ns::drawing, "fmtScheme");
     const auto lines = childNamed(formats, ns::drawing, "lnStyleLst");
-    return std::max(childNamed(lines, ns::drawing, "ln").attribute("w").as_int(), 0);
+    const auto line = childNamed(lines, ns::drawing, "ln");
+    ThinLine thin{.width = std::max(line.attribute("w").as_int(), 0)};
+    const auto colour =
+        childNamed(childNamed(line, ns::drawing, "solidFill"), ns::drawing, "schemeClr");
+    if (colour.attribute("val").value() != std::string_view("phClr")) return thin;
+    std::vector<std::pair<std::string, std::string>> changes;
+    for (const pugi::xml_node change : colour.children()) {
+        if (change.type() != pugi::node_element) continue;
+        const std::string name(localName(change));
+        const auto isSame = [&](const auto& known) { return known.first == name; };
+        if (!isListed("tint shade satMod satOff lumMod lumOff", name) || !change.attribute("val") ||
+            std::any_of(changes.begin(), changes.end(), isSame))
+            return thin;
+        changes.emplace_back(name, change.attribute("val").value());
+    }
+    thin.changes = std::move(changes);
+    return thin;
 }
 
 }  // namespace office::package

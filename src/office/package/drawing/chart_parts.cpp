@@ -5,7 +5,6 @@
 #include <array>
 #include <utility>
 
-#include "office/package/drawing/chart_looks.h"
 #include "office/package/drawing/chart_memory.h"
 #include "office/package/drawing/chart_order.h"
 #include "office/package/part_name.h"

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "office/package/drawing/chart_flags.h"
+#include "office/package/drawing/chart_looks.h"
 #include "office/package/workbook/cell_formats.h"
 #include "office/package/workbook/source_chart.h"
 
@@ -33,7 +34,7 @@ private:
         FlagDefaults defaults = FlagDefaults::Standard;
         /// Its theme as one that overrides another; empty if it has none.
         std::string theme;
-        int thinLine = 0;
+        ThinLine thinLine;
         /// The first copy of the workbook; empty while no chart has needed one.
         std::string copy;
         /// Which of its pictures have become which.
