@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "office/package/xml.h"
-#include "office/text.h"
 
 namespace office::package {
 
@@ -46,12 +45,16 @@ constexpr std::pair<int, const char*> builtIn[] = {
     {49, "@"},
 };
 
+std::string_view withoutBlanksAhead(std::string_view text) {
+    return text.substr(std::min(text.find_first_not_of(blanks), text.size()));
+}
+
 std::string_view attributeIn(std::string_view tag, std::string_view name) {
     for (auto at = tag.find(name); at != std::string_view::npos; at = tag.find(name, at + 1)) {
         if (at == 0 || blanks.find(tag[at - 1]) == std::string_view::npos) continue;
-        std::string_view rest = trim(tag.substr(at + name.size()));
+        std::string_view rest = withoutBlanksAhead(tag.substr(at + name.size()));
         if (!rest.starts_with('=')) continue;
-        rest = trim(rest.substr(1));
+        rest = withoutBlanksAhead(rest.substr(1));
         if (rest.empty()) return {};
         return rest.substr(1, rest.find(rest.front(), 1) - 1);
     }
@@ -95,8 +98,11 @@ CellFormats::Styles CellFormats::readSheet(const std::string& sheet) {
         const std::string_view xml = bytes;
         std::int32_t row = -1;
         std::int32_t column = -1;
-        for (auto at = xml.find('<'); at != std::string_view::npos; at = xml.find('<', at + 1)) {
-            const std::string_view tag = xml.substr(at + 1, xml.find('>', at) - at - 1);
+        for (auto at = xml.find('<'); at != std::string_view::npos;) {
+            const auto next = xml.find('<', at + 1);
+            std::string_view tag = xml.substr(at + 1, next - at - 1);
+            tag = tag.substr(0, tag.find('>'));
+            at = next;
             std::string_view name = tag.substr(0, tag.find_first_of(" \t\r\n/"));
             name = name.substr(name.find(':') + 1);
             if (name == "row") {
@@ -106,6 +112,7 @@ CellFormats::Styles CellFormats::readSheet(const std::string& sheet) {
                 const std::string_view place = attributeIn(tag, "r");
                 const auto letters = place.substr(0, place.find_first_of("0123456789"));
                 column = office::model::excel::columnOf(letters).value_or(column + 1);
+                if (column > CellBlock::lastColumnOfSheet) continue;
                 const auto style = wholeNumber<std::size_t>(attributeIn(tag, "s")).value_or(0);
                 auto& ofColumn = styles[column];
                 if (ofColumn.empty() || ofColumn.back().second != style)
