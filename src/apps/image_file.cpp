@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "office/failure.h"
+#include "office/units.h"
 
 namespace apps {
 
@@ -48,9 +49,8 @@ Magick::Image onWhite(const Magick::Image& picture) {
 
 /// To the inch, in whole dots: JPEG knows no others, and those to the centimetre would be coarse.
 void setDensity(Magick::Image& image, const Magick::Image& picture) {
-    constexpr double cmPerInch = 2.54;
     const bool isMetric = picture.resolutionUnits() == Magick::PixelsPerCentimeterResolution;
-    const double dots = picture.xResolution() * (isMetric ? cmPerInch : 1);
+    const double dots = picture.xResolution() * (isMetric ? office::mmPerInch / 10 : 1);
     if (!(dots >= 1)) return;
     const auto rounded = static_cast<unsigned>(std::lround(dots));
     image.resolutionUnits(Magick::PixelsPerInchResolution);

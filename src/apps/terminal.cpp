@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "apps/utf8.h"
+#include "apps/terminal_text.h"
 #include "office/text.h"
 
 namespace apps {

@@ -40,6 +40,12 @@ std::vector<TakenRow> takeRows(session::OfficeSession& session, const ExportList
     return taken;
 }
 
+std::int32_t CountTakenRows(session::OfficeSession& session, const ExportList& list,
+                            const ExportChoices& choices) {
+    return office::orElse(
+        [&] { return static_cast<std::int32_t>(takeRows(session, list, choices).size()); }, 0);
+}
+
 void ProgressStep(session::OfficeSession& session, std::int32_t item, std::int32_t total) {
     session.progress.showItem(item, total);
     session.host.letEventsRun();

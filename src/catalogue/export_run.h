@@ -28,6 +28,9 @@ struct TakenRow {
 /// slides are predefined, with a slide number. A failure if the workbook has gone.
 [[nodiscard]] std::vector<TakenRow> takeRows(session::OfficeSession& session,
                                              const ExportList& list, const ExportChoices& choices);
+/// How many they are; none if the workbook has gone.
+[[nodiscard]] std::int32_t CountTakenRows(session::OfficeSession& session, const ExportList& list,
+                                          const ExportChoices& choices);
 
 /// Shows that the export is at its item `item` of `total`, and lets events run.
 void ProgressStep(session::OfficeSession& session, std::int32_t item, std::int32_t total);

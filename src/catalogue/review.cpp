@@ -19,7 +19,7 @@ bool isOpen(const office::Object& book) {
 }
 
 /// What becomes of the rows that are checked.
-struct CheckedRows {
+struct CheckedCounts {
     std::int32_t all = 0;
     std::int32_t exportable = 0;
     std::int32_t sheetsGone = 0;
@@ -28,8 +28,8 @@ struct CheckedRows {
     [[nodiscard]] std::int32_t hidden() const { return all - exportable - sheetsGone - gone; }
 };
 
-CheckedRows countChecked(const ExportList& list, RowObjects& objects) {
-    CheckedRows checked;
+CheckedCounts countChecked(const ExportList& list, RowObjects& objects) {
+    CheckedCounts checked;
     for (const ExportItem& row : list.rows) {
         if (!row.checked) continue;
         ++checked.all;
@@ -40,7 +40,7 @@ CheckedRows countChecked(const ExportList& list, RowObjects& objects) {
     return checked;
 }
 
-void reviewSkipped(session::OfficeSession& session, const CheckedRows& checked,
+void reviewChecked(session::OfficeSession& session, const CheckedCounts& checked,
                    ReviewTexts& texts) {
     const auto& [all, exportable, sheetsGone, gone] = checked;
     const auto tellSkipped = [&](std::int32_t count, const char* why) {
@@ -78,13 +78,13 @@ void reviewSkipped(session::OfficeSession& session, const CheckedRows& checked,
 
 void reviewItems(session::OfficeSession& session, const ExportList& list, ReviewTexts& texts) {
     RowObjects objects(session);
-    const CheckedRows checked = countChecked(list, objects);
+    const CheckedCounts checked = countChecked(list, objects);
     if (checked.all == 0) {
         texts.Blockers.emplace_back(
             "No items are checked. Select at least one chart, range, or object to export.");
         return;
     }
-    reviewSkipped(session, checked, texts);
+    reviewChecked(session, checked, texts);
     for (const ExportItem& row : list.rows) {
         if (!row.checked || !objects.isMultipleAreaRow(row)) continue;
         texts.Blockers.emplace_back(

@@ -3,19 +3,11 @@
 #include <deque>
 #include <utility>
 
-#include "office/failure_patterns.h"
-
 namespace destinations {
-
-std::int32_t takenRows(session::OfficeSession& session, const catalogue::ExportList& list) {
-    return office::orElse(
-        [&] { return static_cast<std::int32_t>(catalogue::takeRows(session, list, {}).size()); },
-        0);
-}
 
 std::int32_t takenRowsOfFiles(session::OfficeSession& session, const catalogue::ExportList& list,
                               const catalogue::ExportChoices& choices) {
-    return choices.predefinedSlides ? 0 : takenRows(session, list);
+    return choices.predefinedSlides ? 0 : catalogue::CountTakenRows(session, list, {});
 }
 
 WalkResult walkRows(RowBatch& batch,

@@ -27,11 +27,8 @@ struct WalkResult {
     [[nodiscard]] bool wasCancelled() const { return done < total; }
 };
 
-/// How many rows a walk would take, for a dialog to say; failures are passed over.
-[[nodiscard]] std::int32_t takenRows(session::OfficeSession& session,
-                                     const catalogue::ExportList& list);
-/// The same for files and pages: none where slides that exist were chosen, since those have no such
-/// thing.
+/// How many rows files and pages would take, for a dialog to say: none where slides that exist were
+/// chosen, since those have no such thing.
 [[nodiscard]] std::int32_t takenRowsOfFiles(session::OfficeSession& session,
                                             const catalogue::ExportList& list,
                                             const catalogue::ExportChoices& choices);

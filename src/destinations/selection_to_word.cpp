@@ -126,8 +126,10 @@ bool SelectionPaste::RequireWordDocument() {
 
 /// A caret counts as one letter.
 bool SelectionPaste::mayReplaceText() {
+    constexpr std::size_t longestCharacter = 4;
     const std::string text = selection_.get("Text").toText();
-    return office::charactersOf(text).size() <= 1 ||
+    // Of all that may be selected its beginning tells.
+    return office::charactersOf(text.substr(0, longestCharacter + 1)).size() <= 1 ||
            session_.host.ask(command_.question, title).value_or(false);
 }
 

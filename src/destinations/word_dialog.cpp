@@ -72,7 +72,7 @@ void DialogWord::Form_Load() {
         desktop().unload(*this);
         return;
     }
-    announce(takenRows(session(), list_));
+    announce(catalogue::CountTakenRows(session(), list_, {}));
     showPanel();
 }
 
@@ -103,7 +103,7 @@ void DialogWord::ContinueOk_Click() {
     if (!documentIsThere()) {
         // With another one open the user sees its name ahead of the next click.
         if (AttachWord(session()))
-            announce(takenRows(session(), list_));
+            announce(catalogue::CountTakenRows(session(), list_, {}));
         else
             SetPanelMessage(noWord, "warning");
         return;

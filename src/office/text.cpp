@@ -1,6 +1,5 @@
 #include "office/text.h"
 
-#include <fmt/format.h>
 #include <unicode/coll.h>
 #include <unicode/unistr.h>
 

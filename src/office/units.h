@@ -9,6 +9,7 @@ inline constexpr double pointsPerInch = 72;
 /// Of a screen, and of what counts in pixels and says nothing else.
 inline constexpr double pixelsPerInch = 96;
 inline constexpr double pixelsPerPoint = pixelsPerInch / pointsPerInch;
+inline constexpr double pointsPerPixel = pointsPerInch / pixelsPerInch;
 inline constexpr double mmPerInch = 25.4;
 inline constexpr double inchesPerMetre = 1000 / mmPerInch;
 /// English metric units, in which drawings are measured.
@@ -20,7 +21,7 @@ inline constexpr double anglePerDegree = 60000;
 
 /// The points of a unit that markup may name behind a length, such as "cm"; 0 of any other.
 [[nodiscard]] constexpr double pointsPer(std::string_view unit) {
-    if (unit == "px") return pointsPerInch / pixelsPerInch;
+    if (unit == "px") return pointsPerPixel;
     if (unit == "pt") return 1;
     if (unit == "pc") return 12;
     if (unit == "mm") return pointsPerInch / mmPerInch;

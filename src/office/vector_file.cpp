@@ -127,7 +127,6 @@ void takeSvgSize(VectorFile& file, const pugi::xml_node& root) {
     double height = 0;
     std::istringstream(replaceAll(root.attribute("viewBox").value(), ",", " ")) >> left >> top >>
         width >> height;
-    constexpr double pointsPerPixel = pointsPerInch / pixelsPerInch;
     const auto across = lengthPt(root.attribute("width").value());
     const auto down = lengthPt(root.attribute("height").value());
     file.widthPt = across.value_or(width * pointsPerPixel);

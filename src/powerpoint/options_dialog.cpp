@@ -11,6 +11,7 @@
 #include "catalogue/export_run.h"
 #include "catalogue/failed_items.h"
 #include "forms/desktop.h"
+#include "office/failure_patterns.h"
 #include "office/text.h"
 #include "panels/dialogs.h"
 #include "panels/panel_page.h"
@@ -82,14 +83,17 @@ bool Dialog::findsPresentation() {
     return false;
 }
 
+/// Decides which presentation the export goes to, and tells the user.
 void Dialog::announcePresentation() {
-    announce(static_cast<std::int32_t>(office::ContinueOnFailure().read(
-        [&] { return catalogue::takeRows(session(), list_, choices_).size(); }, std::size_t{0})));
+    session().SessionPresentation.release();
+    office::ContinueOnFailure().attempt([&] {
+        session().SessionPresentation =
+            session().PowerPointApp.get("ActivePresentation").toObject();
+    });
+    announce(catalogue::CountTakenRows(session(), list_, choices_));
 }
 
-/// Decides which presentation the export goes to.
 std::string Dialog::announcement() {
-    session().SessionPresentation = session().PowerPointApp.get("ActivePresentation").toObject();
     return fmt::format("{} object(s) will be pasted to \r{}\ras {}", taken_,
                        session().SessionPresentation.get("Name").toText(),
                        formatNames.at(static_cast<std::size_t>(choices_.format)));
@@ -137,7 +141,6 @@ void Dialog::RunPanelAction(std::string_view key) {
 void Dialog::ContinueOk_Click() {
     if (!presentationIsThere()) {
         // With another one open the user sees its name ahead of the next click.
-        session().SessionPresentation.release();
         session::AttachPowerPoint(session());
         announcePresentation();
         if (!session().SessionPresentation) SetPanelMessage(noPowerPoint, "warning");

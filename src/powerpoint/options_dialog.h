@@ -5,7 +5,6 @@
 
 #include "catalogue/export_dialog.h"
 #include "forms/controls.h"
-#include "office/failure_patterns.h"
 #include "powerpoint/batch_frame.h"
 #include "session/office_session.h"
 

@@ -6,7 +6,7 @@
 #include <array>
 #include <vector>
 
-#include "apps/utf8.h"
+#include "apps/terminal_text.h"
 
 namespace unattended {
 

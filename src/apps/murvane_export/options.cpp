@@ -141,7 +141,7 @@ void declareItems(CLI::App& app, Options& options, RawTexts& raw) {
         ->type_name("FILE.csv");
 }
 
-void declareForms(CLI::App& app, Options& options, RawTexts& raw) {
+void declareFormats(CLI::App& app, Options& options, RawTexts& raw) {
     app.add_option("--format", raw.format,
                    withDefault("What items become on slides and in Word: pictures; charts and\n"
                                "tables that can be edited there; embedded workbooks; objects\n"
@@ -165,6 +165,10 @@ void declareForms(CLI::App& app, Options& options, RawTexts& raw) {
                    "way from what is written")
         ->check(oneOf({"absolute", "relative"}))
         ->type_name("absolute|relative");
+}
+
+/// What single destinations have of their own.
+void declareDestinations(CLI::App& app, Options& options, RawTexts& raw) {
     app.add_option("--slides", raw.slides,
                    withDefault("New slides at the end, or those that the items name", raw.slides))
         ->check(oneOf({"new", "predefined"}))
@@ -357,7 +361,8 @@ std::variant<Options, ParseEnd> parseOptions(const std::vector<std::string>& arg
     app.set_version_flag("--version", std::string("murvane-export ") + apps::version);
     declareFiles(app, options, raw);
     declareItems(app, options, raw);
-    declareForms(app, options, raw);
+    declareFormats(app, options, raw);
+    declareDestinations(app, options, raw);
     declareLooks(app, options, raw);
     app.add_flag(
         "--keep-going", options.keepGoing,

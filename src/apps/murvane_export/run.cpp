@@ -19,7 +19,7 @@
 #include "apps/murvane_export/order.h"
 #include "apps/murvane_export/outcome.h"
 #include "apps/terminal.h"
-#include "apps/utf8.h"
+#include "apps/terminal_text.h"
 #include "catalogue/export_run.h"
 #include "catalogue/inventory.h"
 #include "catalogue/list_rows.h"

@@ -3,10 +3,10 @@
 #include <libxml/HTMLparser.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <memory>
 #include <string>
 
+#include "office/colour.h"
 #include "office/libreoffice/uno_values.h"
 #include "office/text.h"
 
@@ -52,7 +52,7 @@ std::int32_t countOf(const xmlNode& node, std::string_view name) {
 std::optional<std::int32_t> colourOf(const xmlNode& node, std::string_view name) {
     const auto text = attributeOf(node, name);
     if (!text || !text->starts_with('#')) return std::nullopt;
-    return swapRedAndBlue(static_cast<std::int32_t>(std::strtol(text->c_str() + 1, nullptr, 16)));
+    return office::colourOfHex(text->c_str() + 1);
 }
 
 /// The line breaks of the page itself, with the blanks after them.

@@ -10,10 +10,8 @@ bool writeChangedCopy(const std::string& original, const std::string& copy, std:
                       const std::function<bool(pugi::xml_node root)>& change) {
     using office::package::Package;
     Package package = Package::open(original);
-    const auto& relationships = package.relationshipsOf(owner);
-    const auto* const found = relationships.ofType(relationshipType);
-    if (found == nullptr) return false;
-    const std::string part = relationships.partOf(*found);
+    const std::string part = package.partOfType(owner, relationshipType);
+    if (part.empty()) return false;
     const office::package::Xml xml(package.read(part), part);
     if (!change(xml.root())) return false;
     package.replace(part, xml.bytes());

@@ -14,22 +14,21 @@
 #include <array>
 #include <cmath>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 #include <utility>
 
 #include "office/failure.h"
+#include "office/files.h"
 #include "office/libreoffice/at_end.h"
 #include "office/libreoffice/excel/png_file.h"
 #include "office/libreoffice/excel/suite_svg.h"
+#include "office/libreoffice/units.h"
+#include "office/units.h"
 
 namespace libreoffice::excel {
 
 namespace {
 
-constexpr double screenDpi = 96;
-constexpr double hundredthMmPerInch = 2540;
 constexpr auto crisp = static_cast<std::int32_t>(office::Sharpness::Crisp);
 /// A picture with more pixels is made with fewer to the inch: a range of thousands of rows must not
 /// exhaust the memory.
@@ -50,8 +49,8 @@ struct ScreenSize {
     std::int32_t height;
 
     explicit ScreenSize(const css::awt::Size& size) {
-        const double wide = size.Width * screenDpi / hundredthMmPerInch;
-        const double high = size.Height * screenDpi / hundredthMmPerInch;
+        const double wide = size.Width * office::pixelsPerInch / hundredthMmPerInch;
+        const double high = size.Height * office::pixelsPerInch / hundredthMmPerInch;
         const double pixels = wide * high * crisp * crisp;
         const double scale = std::min({1.0, std::sqrt(mostPixels / std::max(1.0, pixels)),
                                        longestSide / std::max(wide, high)});
@@ -61,7 +60,8 @@ struct ScreenSize {
 
     [[nodiscard]] css::awt::Size onPaper() const {
         const auto hundredthMm = [](std::int32_t pixels) {
-            return static_cast<std::int32_t>(std::lround(pixels * hundredthMmPerInch / screenDpi));
+            return static_cast<std::int32_t>(
+                std::lround(pixels * hundredthMmPerInch / office::pixelsPerInch));
         };
         return {hundredthMm(width), hundredthMm(height)};
     }
@@ -265,7 +265,7 @@ std::string SuitePictures::svgOfPage(const uno::Reference<css::graphic::XGraphic
                    .pageHeight = paper.Height,
                    .widthMm = size.Width / hundredthsPerMm,
                    .heightMm = size.Height / hundredthsPerMm,
-                   .hairline = hundredthMmPerInch / screenDpi / crisp});
+                   .hairline = hundredthMmPerInch / office::pixelsPerInch / crisp});
 }
 
 std::string SuitePictures::written(const uno::Reference<css::document::XExporter>& exporter,
@@ -285,8 +285,7 @@ std::string SuitePictures::writtenBy(const std::function<void(const std::string&
     std::error_code isNotThere;
     std::filesystem::remove(file, isNotThere);
     write(file);
-    std::ifstream vectors(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(vectors), {}};
+    return office::bytesOf(file).value_or("");
 }
 
 std::string SuitePictures::emfOfChart(const uno::Reference<css::drawing::XShape>& chart) {

@@ -25,6 +25,7 @@
 #include "office/libreoffice/excel/table_lines.h"
 #include "office/libreoffice/excel/written_scripts.h"
 #include "office/libreoffice/units.h"
+#include "office/units.h"
 
 namespace libreoffice::excel {
 
@@ -63,7 +64,6 @@ ShownLines shownLinesOf(const uno::Reference<css::table::XCellRange>& cells,
 std::vector<double> lengthsOf(const uno::Reference<css::container::XIndexAccess>& lines,
                               const char* property, const std::vector<std::int32_t>& shown,
                               const std::vector<std::optional<double>>& pixels, double wholePt) {
-    constexpr double pointsPerPixel = 0.75;
     const auto ask = [&](std::int32_t line) {
         const uno::Reference<uno::XInterface> one(lines->getByIndex(line), uno::UNO_QUERY_THROW);
         return pointsOf(libreoffice::property<std::int32_t>(one, property));
@@ -71,10 +71,10 @@ std::vector<double> lengthsOf(const uno::Reference<css::container::XIndexAccess>
     std::vector<double> lengths;
     for (std::size_t i = 0; i < shown.size(); ++i) {
         const auto known = i < pixels.size() ? pixels[i] : std::nullopt;
-        lengths.push_back(known ? *known * pointsPerPixel : ask(shown[i]));
+        lengths.push_back(known ? *known * office::pointsPerPixel : ask(shown[i]));
     }
     const double sum = std::accumulate(lengths.begin(), lengths.end(), 0.0);
-    const double rounding = static_cast<double>(shown.size()) * pointsPerPixel;
+    const double rounding = static_cast<double>(shown.size()) * office::pointsPerPixel;
     if (std::abs(sum - wholePt) > rounding) {
         std::transform(shown.begin(), shown.end(), lengths.begin(), ask);
     } else {

@@ -131,14 +131,14 @@ void importSheet(const ModelRef& from, const rtl::OUString& name, const ModelRef
 /// the place that it has in the source. A workbook without drawings takes sheets over without their
 /// charts.
 void importBehind(const Connection& connection, const ModelRef& from,
-                  const std::set<sal_Int32>& behind, const ModelRef& into,
-                  const std::string& filler) {
-    const auto names = sheetsOf(from)->getElementNames();
+                  const uno::Sequence<rtl::OUString>& names, const std::set<sal_Int32>& behind,
+                  const ModelRef& into, const std::string& filler) {
+    const auto sheets = sheetsOf(into);
     const Scratch cells(connection, filler);
     for (sal_Int32 place = 0; place <= *behind.rbegin(); ++place) {
         if (!behind.contains(place)) {
-            sheetsOf(into)->insertNewByName(toUno(fmt::format("{} {}", filler, place)),
-                                            static_cast<sal_Int16>(place));
+            sheets->insertNewByName(toUno(fmt::format("{} {}", filler, place)),
+                                    static_cast<sal_Int16>(place));
             continue;
         }
         importSheet(from, names[place], cells.book(), 0);
@@ -180,7 +180,7 @@ void copySheet(const Connection& connection, const ModelRef& from, const std::st
     const auto behind = sheetsBehind(charts, name, names);
     const std::string filler = nameOfFillers(names);
     nameFirstSheet(into, filler);
-    if (!behind.empty()) importBehind(connection, from, behind, into, filler);
+    if (!behind.empty()) importBehind(connection, from, names, behind, into, filler);
     std::set<rtl::OUString> wanted{name};
     for (const sal_Int32 place : behind) wanted.insert(names[place]);
     importSheet(from, name, into, sheets->getElementNames().getLength());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -18,6 +19,7 @@ namespace layout {
 inline constexpr std::int32_t title = 1;
 inline constexpr std::int32_t titleOnly = 11;
 inline constexpr std::int32_t blank = 12;
+inline constexpr std::array given = {title, titleOnly, blank};
 
 /// Slides that stand in the file may have these, or any other.
 inline constexpr std::int32_t text = 2;

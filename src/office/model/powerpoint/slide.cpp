@@ -12,9 +12,8 @@ namespace office::model::powerpoint {
 namespace {
 
 std::int32_t knownLayout(const Value& number, const std::string& source) {
-    constexpr std::array known = {layout::title, layout::titleOnly, layout::blank};
     const std::int32_t wanted = number.toLong();
-    if (std::find(known.begin(), known.end(), wanted) == known.end())
+    if (std::find(layout::given.begin(), layout::given.end(), wanted) == layout::given.end())
         refuseCall(source, fmt::format("There is no slide layout {} here", wanted));
     return wanted;
 }

@@ -23,7 +23,7 @@ struct ChartReference {
     bool isName = false;
 };
 
-/// Those to fixed cells.
+/// The references of a chart that are to fixed cells.
 [[nodiscard]] std::vector<ChartReference> referencesIn(const Xml& chart);
 
 /// Each level of categories as cells of its own, the innermost first; of anything else its cells.

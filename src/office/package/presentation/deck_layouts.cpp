@@ -143,8 +143,7 @@ std::int32_t DeckLayouts::numberOf(const std::string& layout) {
     const Xml& xml = page(layout);
     if (xml.root().attribute("type")) return kindNumberOf(xml);
     const std::string name = layoutName(xml);
-    for (const std::int32_t given :
-         {powerpoint::layout::title, powerpoint::layout::titleOnly, powerpoint::layout::blank}) {
+    for (const std::int32_t given : powerpoint::layout::given) {
         if (sameIgnoringCase(name, powerpoint::layout::nameOf(given))) return given;
     }
     return powerpoint::layout::other;

@@ -169,8 +169,8 @@ void FileDeck::noteUse(const FileSlidePtr& slide) {
 /// The layout whose master's layouts new slides get: that of the last slide which has one.
 std::string FileDeck::neighbourLayout() {
     for (const auto& slide : std::views::reverse(slides_)) {
-        if (package_.relationshipsOf(slide->part()).ofType("slideLayout") != nullptr)
-            return slide->layoutPart();
+        if (std::string part = package_.partOfType(slide->part(), "slideLayout"); !part.empty())
+            return part;
     }
     const auto masters = childNamed(presentation_.root(), ns::presentation, "sldMasterIdLst");
     const auto first = childNamed(masters, ns::presentation, "sldMasterId");

@@ -1,4 +1,4 @@
-#include "apps/utf8.h"
+#include "apps/terminal_text.h"
 
 #include <algorithm>
 #include <array>
