@@ -168,10 +168,10 @@ TEST_F(ExcelTables, DoWithWideTextsWhatASheetDoes) {
         "cut at a colo",
         "on over its colour fill=00FF00 2x1",
         "on over no colour fill=FFFFFF 2x1",
-        "(7) שלום right",
+        "שלום (7) right",
         "سلام",
         "Ulm שלום",
-        "٧ سلام right",
+        "٧ سلام",
         // Only in letters of whole pixels wider than its cell.
         "########## right",
         "2.5 right",

@@ -1,3 +1,5 @@
+#include <fmt/format.h>
+
 #include "destinations/html_export.h"
 #include "files_stage.h"
 #include "office/model/excel/cells_as_page.h"
@@ -123,6 +125,8 @@ TEST(Cells, NameTheirFontAndItsKindAndLetNoNameOutOfItsStyle) {
     for (const auto& [font, family] : {std::pair("A&#39;;B'\"", "'A&amp;#39B',sans-serif"),
                                        {"Courier New", "'Courier New',monospace"},
                                        {"Century", "'Century',serif"},
+                                       {"DejaVu Serif", "'DejaVu Serif',serif"},
+                                       {"Noto Sans Mono", "'Noto Sans Mono',monospace"},
                                        {"Century Gothic", "'Century Gothic',sans-serif"}}) {
         office::CellLook cell;
         cell.text = "x";

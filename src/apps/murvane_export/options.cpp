@@ -4,7 +4,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <array>
+#include <initializer_list>
 #include <map>
 #include <set>
 #include <sstream>
@@ -227,26 +227,26 @@ void declareLooks(CLI::App& app, Options& options, RawTexts& raw) {
         ->type_name("F|default|workbook");
 }
 
-bool isDocument(const std::string& file) {
-    const std::string lower = office::lowerCase(file);
-    constexpr std::array endings = {".docx", ".docm", ".dotx", ".dotm", ".doc", ".odt", ".rtf"};
+bool endsInOneOf(const std::string& name, std::initializer_list<const char*> endings) {
+    const std::string lower = office::lowerCase(name);
     return std::any_of(endings.begin(), endings.end(),
                        [&](const char* ending) { return lower.ends_with(ending); });
 }
 
-bool isPresentation(const std::string& lower) {
-    constexpr std::array endings = {".pptx", ".pptm", ".ppt", ".potx", ".ppsx", ".odp"};
-    return std::any_of(endings.begin(), endings.end(),
-                       [&](const char* ending) { return lower.ends_with(ending); });
+bool isDocument(const std::string& file) {
+    return endsInOneOf(file, {".docx", ".docm", ".dotx", ".dotm", ".doc", ".odt", ".rtf"});
+}
+
+/// Also by those endings that can't be written: what can is said then.
+bool isPresentation(const std::string& file) {
+    return endsInOneOf(file,
+                       {".pptx", ".pptm", ".ppt", ".potx", ".potm", ".ppsx", ".ppsm", ".odp"});
 }
 
 /// A page or a picture is a file to those who name one.
 void requireFolder(const std::string& output) {
-    const std::string lower = office::lowerCase(output);
-    constexpr std::array endings = {".html", ".htm",  ".png", ".gif", ".jpg",
-                                    ".jpeg", ".tiff", ".tif", ".bmp"};
-    if (std::any_of(endings.begin(), endings.end(),
-                    [&](const char* ending) { return lower.ends_with(ending); }))
+    if (endsInOneOf(output,
+                    {".html", ".htm", ".png", ".gif", ".jpg", ".jpeg", ".tiff", ".tif", ".bmp"}))
         throw UsageError(fmt::format(
             "Pages and pictures are written into a folder, which {} is no name for: name the "
             "folder, with --to html or --to images.",
@@ -254,10 +254,9 @@ void requireFolder(const std::string& output) {
 }
 
 catalogue::Destination destinationByName(const std::string& output) {
-    const std::string lower = office::lowerCase(output);
-    if (lower.ends_with(".pdf")) return catalogue::Destination::Pdf;
+    if (endsInOneOf(output, {".pdf"})) return catalogue::Destination::Pdf;
     if (isDocument(output)) return catalogue::Destination::Word;
-    if (output.empty() || isPresentation(lower)) return catalogue::Destination::PowerPoint;
+    if (output.empty() || isPresentation(output)) return catalogue::Destination::PowerPoint;
     throw UsageError(fmt::format(
         "Say with --to what {} is to become, or end its name in .pptx, .docx or .pdf.", output));
 }

@@ -15,9 +15,25 @@ namespace libreoffice::excel {
 
 namespace {
 
-/// What the names that Excel itself gives begin with: in its packages, and as LibreOffice calls
-/// them in its older files, whoever wrote these.
+/// What LibreOffice puts ahead of names that Excel itself gives: in packages, and in older files,
+/// whoever wrote these.
 constexpr std::array<std::string_view, 3> builtIn = {"_xlnm.", "_xlnm_", "Excel_BuiltIn_"};
+constexpr std::array<std::string_view, 5> givenByExcel = {"Print_Area", "Print_Titles",
+                                                          "_FilterDatabase", "Criteria", "Extract"};
+
+bool isGivenByExcel(std::string_view name) {
+    return std::any_of(givenByExcel.begin(), givenByExcel.end(),
+                       [&](std::string_view each) { return office::sameIgnoringCase(each, name); });
+}
+
+/// Without what is put ahead of it; nothing if that is none of Excel's.
+std::optional<std::string> nameInExcel(std::string_view stored) {
+    for (const std::string_view prefix : builtIn) {
+        if (stored.starts_with(prefix) && isGivenByExcel(stored.substr(prefix.size())))
+            return std::string(stored.substr(prefix.size()));
+    }
+    return std::nullopt;
+}
 
 /// The flag of a hidden name; the headers of older LibreOffice versions don't know it.
 constexpr sal_Int32 hiddenNameFlag = 16;
@@ -80,20 +96,19 @@ std::vector<std::string> NamedRanges::all() {
     const auto stored = ranges_->getElementNames();
     for (const rtl::OUString& each : stored) {
         std::string name = fromUno(each);
-        for (const std::string_view prefix : builtIn) {
-            if (name.starts_with(prefix)) name.erase(0, prefix.size());
+        if (auto own = nameInExcel(name)) {
+            // An older file may have the same behind two of them.
+            if (std::find(names.begin(), names.end(), *own) != names.end()) continue;
+            name = *std::move(own);
         }
-        // An older file may have the same under two of them.
-        if (std::find(names.begin(), names.end(), name) == names.end())
-            names.push_back(std::move(name));
+        names.push_back(std::move(name));
     }
     return names;
 }
 
 std::optional<rtl::OUString> NamedRanges::storedName(std::string_view name) const {
     if (const rtl::OUString plain = toUno(name); ranges_->hasByName(plain)) return plain;
-    const std::string lower = office::lowerCase(name);
-    if (!lower.starts_with("print_") && !lower.starts_with("_filter")) return std::nullopt;
+    if (!isGivenByExcel(name)) return std::nullopt;
     for (const std::string_view prefix : builtIn) {
         const rtl::OUString prefixed = toUno(std::string(prefix) + std::string(name));
         if (ranges_->hasByName(prefixed)) return prefixed;

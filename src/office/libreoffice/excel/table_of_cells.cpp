@@ -253,7 +253,7 @@ private:
         CellLook look = html.look;
         const CellLook& own = format(row, column);
         takeFonts(look, own);
-        if (!formatAt(row, column).isAligned && !html.number && isReadFromRight(look.text))
+        if (!formatAt(row, column).isAligned && !html.number && beginsFromRight(look.text))
             look.across = CellLook::Across::Right;
         look.indentPt = own.indentPt;
         look.wraps = own.wraps;

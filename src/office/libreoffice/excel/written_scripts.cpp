@@ -29,29 +29,22 @@ constexpr std::array<Block, 11> intricate = {{
     {0x10000, 0x10FFFF},  // emoji, and scripts of the past
 }};
 
-constexpr std::array<Block, 5> fromRight = {{
-    {0x0590, 0x08FF},    // Hebrew to Arabic's extensions
+constexpr std::array<Block, 8> fromRight = {{
+    {0x0590, 0x065F},    // Hebrew, Arabic as far as its digits
+    {0x066A, 0x06EF},    // Arabic as far as Persian digits
+    {0x06FA, 0x08FF},    // Arabic's extensions, Syriac, Thaana
+    {0x200F, 0x200F},    // the mark of that direction
     {0xFB1D, 0xFDFF},    // Hebrew and Arabic forms
     {0xFE70, 0xFEFC},    // further Arabic forms
     {0x10800, 0x10FFF},  // scripts of the past
     {0x1E800, 0x1EFFF},  // scripts of Africa, Arabic letters of mathematics
 }};
-/// Among those blocks, but written from the left and no letters: they tell no direction.
-constexpr std::array<Block, 2> arabicDigits = {{{0x0660, 0x0669}, {0x06F0, 0x06F9}}};
-/// From the first letter behind the marks of the plain alphabets.
-constexpr char32_t firstAccented = 0xC0;
 
 template <std::size_t count>
 bool isIn(const std::array<Block, count>& blocks, char32_t code) {
     return std::any_of(blocks.begin(), blocks.end(), [&](const Block& block) {
         return code >= block.first && code <= block.last;
     });
-}
-
-bool isLetter(char32_t code) {
-    const bool isPlain = (code >= U'A' && code <= U'Z') || (code >= U'a' && code <= U'z');
-    const bool isMark = code >= 0x2000 && code <= 0x2BFF;
-    return isPlain || (code >= firstAccented && !isMark && !isIn(arabicDigits, code));
 }
 
 }  // namespace
@@ -62,12 +55,10 @@ bool isIntricate(std::string_view text) {
                        [](const office::Character& one) { return isIn(intricate, one.code); });
 }
 
-bool isReadFromRight(std::string_view text) {
-    const auto characters = office::charactersOf(text);
-    const auto first =
-        std::find_if(characters.begin(), characters.end(),
-                     [](const office::Character& one) { return isLetter(one.code); });
-    return first != characters.end() && isIn(fromRight, first->code);
+bool beginsFromRight(std::string_view text) {
+    constexpr std::size_t longestCharacter = 4;
+    const auto begin = office::charactersOf(text.substr(0, longestCharacter));
+    return !begin.empty() && isIn(fromRight, begin.front().code);
 }
 
 }  // namespace libreoffice::excel

@@ -27,15 +27,17 @@ std::string pixels(double points) {
 
 /// What a reader without a font is to see in its place.
 const char* kindOfFont(std::string_view name) {
-    constexpr std::array serifs = {"Times", "Georgia", "Cambria",  "Garamond",        "Constantia",
-                                   "Book",  "Century", "Palatino", "Liberation Serif"};
-    constexpr std::array fixed = {"Courier", "Consolas", "Lucida Console", "Liberation Mono"};
-    const auto isOneOf = [&](const auto& names) {
-        return std::any_of(names.begin(), names.end(),
-                           [&](const char* begin) { return name.starts_with(begin); });
+    constexpr std::array fixed = {"Courier", "Consolas", "Lucida Console", " Mono"};
+    constexpr std::array serifs = {"Times", "Georgia",  "Cambria",   "Garamond",    "Constantia",
+                                   "Book",  "Palatino", "Century S", "Baskerville", " Serif"};
+    const auto holdsOneOf = [&](const auto& words) {
+        return std::any_of(words.begin(), words.end(), [&](const char* word) {
+            return name.find(word) != std::string_view::npos;
+        });
     };
-    if (isOneOf(fixed)) return "monospace";
-    return isOneOf(serifs) && name != "Century Gothic" ? "serif" : "sans-serif";
+    if (holdsOneOf(fixed)) return "monospace";
+    const bool hasSerifs = holdsOneOf(serifs) || name == "Century";
+    return hasSerifs && name.find("Sans Serif") == std::string_view::npos ? "serif" : "sans-serif";
 }
 
 /// The name of a font comes from the workbook, and may hold what ends a text in a style, or what

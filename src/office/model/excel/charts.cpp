@@ -108,8 +108,8 @@ private:
         // What is published by its cells asks for them just before.
         Publications& publications = book().publications();
         if (!publications.records.empty()) {
-            if (const auto* known = publications.placedCharts(sheet()).of(chart()))
-                return known->cells;
+            const PlacedCharts& placed = publications.placedCharts(sheet());
+            if (const auto* known = placed.of(chart())) return cellsUnder(known->box, *placed.map);
         }
         return cellsUnder(chart().box(), *sheet().cellMap());
     }

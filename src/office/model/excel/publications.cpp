@@ -6,10 +6,17 @@ namespace office::model::excel {
 
 namespace {
 
-CellBlock cellsAround(const std::vector<PlacedCharts::One>& charts) {
-    CellBlock all = charts.front().cells;
-    for (const PlacedCharts::One& one : charts) all = around(all, one.cells);
-    return all;
+Box around(const std::vector<PlacedCharts::One>& charts) {
+    Box all = charts.front().box;
+    double right = 0;
+    double bottom = 0;
+    for (const auto& [chart, name, box] : charts) {
+        all.left = std::min(all.left, box.left);
+        all.top = std::min(all.top, box.top);
+        right = std::max(right, box.left + box.width);
+        bottom = std::max(bottom, box.top + box.height);
+    }
+    return {all.left, all.top, right - all.left, bottom - all.top};
 }
 
 }  // namespace
@@ -24,14 +31,12 @@ const PlacedCharts& Publications::placedCharts(Sheet& sheet) {
     if (const auto known = placedCharts_.find(&sheet); known != placedCharts_.end())
         return known->second;
     PlacedCharts placed;
+    for (const SheetChartPtr& chart : sheet.charts())
+        placed.charts.push_back({chart, chart->name(), chart->box()});
     placed.map = sheet.cellMap();
-    for (const SheetChartPtr& chart : sheet.charts()) {
-        const Box box = chart->box();
-        placed.charts.push_back({chart, chart->name(), box, cellsUnder(box, *placed.map)});
-    }
     // One alone is as soon looked at when its turn comes.
     if (placed.charts.size() > 1) {
-        const CellBlock block = cellsAround(placed.charts);
+        const CellBlock block = cellsUnder(around(placed.charts), *placed.map);
         if (sheet.cells(block)->areBlank()) placed.blankCells = block;
     }
     return placedCharts_.emplace(&sheet, std::move(placed)).first->second;

@@ -39,8 +39,6 @@ struct PlacedCharts {
         SheetChartPtr chart;
         std::string name;
         Box box;
-        /// Those under it.
-        CellBlock cells;
     };
     std::vector<One> charts;
     std::unique_ptr<CellMap> map;

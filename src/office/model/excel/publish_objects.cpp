@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <utility>
 
 #include "office/failure_patterns.h"
@@ -129,18 +130,22 @@ private:
                                                     const PlacedCharts& placed,
                                                     const CellBlock& block, const TableLook& look) {
         constexpr double touchingPt = 0.5;
-        const bool isOfChart =
-            std::any_of(placed.charts.begin(), placed.charts.end(),
-                        [&](const PlacedCharts::One& one) { return one.cells == block; });
-        std::vector<PagePicture> pictures;
-        for (const auto& [chart, name, box, cells] : placed.charts) {
-            if (isOfChart && cells != block) continue;
+        std::vector<const PlacedCharts::One*> there;
+        for (const PlacedCharts::One& one : placed.charts) {
+            const Box& box = one.box;
             const bool lies = box.left + touchingPt < look.leftPt + look.widthPt() &&
                               box.left + box.width > look.leftPt + touchingPt &&
                               box.top + touchingPt < look.topPt + look.heightPt() &&
                               box.top + box.height > look.topPt + touchingPt;
-            if (lies) pictures.push_back(pictureOf(place, *chart, name, box));
+            if (lies) there.push_back(&one);
         }
+        std::vector<const PlacedCharts::One*> exactly;
+        std::copy_if(there.begin(), there.end(), std::back_inserter(exactly),
+                     [&](const auto* one) { return cellsUnder(one->box, *placed.map) == block; });
+        if (!exactly.empty()) there = exactly;
+        std::vector<PagePicture> pictures;
+        for (const auto* one : there)
+            pictures.push_back(pictureOf(place, *one->chart, one->name, one->box));
         return pictures;
     }
 
