@@ -94,22 +94,44 @@ ShownLines shownLinesFrom(const SheetRecord& sheet, const model::CellBlock& firs
 
 /// As many as the page has of a sheet. It goes on to the end of what is drawn there, be it in the
 /// last row of all, which is reckoned in lines of the usual size.
-double cellsOnPage(SheetRecord& sheet) {
+double cellsOnPage(const model::CellBlock& used, css::container::XIndexAccess& drawn,
+                   sal_Int32 count) {
     constexpr double usualWidth = 2258, usualHeight = 452;
     double right = 0, bottom = 0;
-    const auto drawn = drawPageOf(sheet.sheet());
-    const sal_Int32 count = drawn->getCount();
     for (sal_Int32 i = 0; i < count; ++i) {
-        const uno::Reference<css::drawing::XShape> shape(drawn->getByIndex(i), uno::UNO_QUERY);
+        const uno::Reference<css::drawing::XShape> shape(drawn.getByIndex(i), uno::UNO_QUERY);
         if (!shape.is()) continue;
         const auto corner = shape->getPosition();
         const auto size = shape->getSize();
         right = std::max(right, std::abs(corner.X) + double(size.Width));
         bottom = std::max(bottom, corner.Y + double(size.Height));
     }
-    const model::CellBlock used = sheet.used();
     return std::max(double(used.columns()), right / usualWidth) *
            std::max(double(used.rows()), bottom / usualHeight);
+}
+
+/// Whether the page of these sheets would take seconds, or telling that would.
+bool takeSeconds(const std::vector<SheetRecordPtr>& sheets) {
+    // LibreOffice writes 200,000 in a second.
+    constexpr double mostCells = 500'000;
+    constexpr sal_Int32 mostShapes = 2000;
+    double cells = 0;
+    std::vector<model::CellBlock> used;
+    for (const SheetRecordPtr& sheet : sheets) {
+        used.push_back(sheet->used());
+        cells += used.back().cells();
+        if (cells > mostCells) return true;
+    }
+    sal_Int32 shapes = 0;
+    for (std::size_t i = 0; i < sheets.size(); ++i) {
+        const auto drawn = drawPageOf(sheets[i]->sheet());
+        const sal_Int32 count = drawn->getCount();
+        shapes += count;
+        if (shapes > mostShapes) return true;
+        cells += cellsOnPage(used[i], *drawn, count) - used[i].cells();
+        if (cells > mostCells) return true;
+    }
+    return false;
 }
 
 CellDress dressOf(const HtmlCell& cell) {
@@ -178,14 +200,11 @@ void BookLooks::forgetIfChanged() {
 }
 
 bool BookLooks::isTooLarge() {
-    // LibreOffice writes 200,000 in a second.
-    constexpr double mostCells = 500'000;
     forgetIfChanged();
     if (!isTooLarge_) {
-        double cells = 0;
-        for (const SheetRecordPtr& sheet : book_.sheetList().all())
-            if (sheet->isShown()) cells += cellsOnPage(*sheet);
-        isTooLarge_ = cells > mostCells;
+        std::vector<SheetRecordPtr> shown = book_.sheetList().all();
+        std::erase_if(shown, [](const SheetRecordPtr& sheet) { return !sheet->isShown(); });
+        isTooLarge_ = takeSeconds(shown);
     }
     return *isTooLarge_;
 }

@@ -59,7 +59,7 @@ class BookLooks {
 public:
     explicit BookLooks(CalcDocument& book);
 
-    /// Whether that page would take seconds.
+    /// Whether that page would take seconds, as it is taken to where thousands of shapes are.
     [[nodiscard]] bool isTooLarge();
     /// Of a sheet that is shown; nothing if the workbook is too large, or the suite fails.
     [[nodiscard]] SheetLooks* of(SheetRecord& sheet);
