@@ -203,6 +203,10 @@ TEST_F(ExcelTables, ShowWhatACopyLeavesUnsaid) {
         "",
         "",
         "",
+        // A scale from the result of a formula on, and where another condition holds.
+        "1 right fill=64381F",
+        "2 right fill=32938F",
+        "3 bold right",
         // A sheet without noughts.
         " right",
         "1 right",
@@ -215,7 +219,9 @@ TEST_F(ExcelTables, ShowWhatACopyLeavesUnsaid) {
     const auto standard = unsaid->getCellByPosition(5, 0);
     libreoffice::setProperty(standard, "VertJustify", css::table::CellVertJustify2::STANDARD);
     as<css::text::XTextRange>(standard)->setString("below");
-    for (const CellLook& look : tableOf("Unsaid", "A1:H2").cells) found.push_back(described(look));
+    for (const char* address : {"A1:H2", "A3:C3"})
+        for (const CellLook& look : tableOf("Unsaid", address).cells)
+            found.push_back(described(look));
     libreoffice::setProperty(model()->getCurrentController(), "ShowZeroValues", false);
     for (const CellLook& look : tableOf("Zeros", "A1:C1").cells) found.push_back(described(look));
     EXPECT_EQ(found, expected);
@@ -239,9 +245,11 @@ TEST_F(ExcelTables, ShowConditionsThatACopyDoesNotWorkOut) {
         "x fill=FFEEDD",
         "wide underlined struck centre fill=64381F 2x2",
         "",
-        "",
+        " fill=FFEEDD",
     };
     EXPECT_EQ(looks("Ruled", "C6:F9"), expected);
+    EXPECT_EQ(looks("Ruled", "C11:G11"),
+              (std::vector<std::string>{"across fill=FFEEDD", "begins hid", "after"}));
     EXPECT_EQ(looks("Secret", "A1"), std::vector<std::string>{"secret bold"}) << "a hidden sheet";
     expected.resize(3);
     std::uint64_t first = 0;

@@ -210,6 +210,8 @@ class TheSampleWorkbook(ProgramTest):
         sheet.write("K1", "a whole column")
         sheet.conditional_format("H1:H4", {"type": "cell", "criteria": ">", "value": "=E1", "format": bold})
         sheet.conditional_format("O1:O4", {"type": "2_color_scale", "max_type": "formula", "max_value": "=$B$1"})
+        sheet.conditional_format("G1:G2", {"type": "2_color_scale", "max_type": "formula", "max_value": "=$B$1"})
+        sheet.conditional_format("G1", {"type": "cell", "criteria": ">", "value": 3, "format": bold})
         sheet.conditional_format("H5:H6", {"type": "duplicate", "format": bold})
         sheet.conditional_format("I1:I4", {"type": "cell", "criteria": ">", "value": 2,
                                            "format": book.add_format({"num_format": "0.00"})})
@@ -221,6 +223,7 @@ class TheSampleWorkbook(ProgramTest):
         sheet.add_table("L1:M4")
         for name, cells in (("Formulas", "$H$1:$H$2"), ("Twins", "$H$5"), ("Numbers", "$I$1:$I$2"),
                             ("Bars", "$J$1:$J$2"), ("Scales", "$O$1:$O$2"), ("Coloured", "$L$2:$M$9"), ("Plainly", "$N$1:$N$6"),
+                            ("Plain scale", "$G$2"), ("Pale", "$G$1"),
                             ("Big", "$CA$1:$FV$51"), ("Signs", "$B$2:$C$9"), ("Words", "$A$1:$A$3"),
                             ("Covered", "$D$4:$F$9"), ("All of it", "$A$1:$F$9"), ("Plain", "$A$2:$A$9"),
                             ("Whole", "$K:$K")):
@@ -230,7 +233,7 @@ class TheSampleWorkbook(ProgramTest):
         self.assertEqual(code, 3, errors)
         self.assertFalse(output.exists())
         for loss, names in (("icons", '"All_of_it" and "Signs"'), ("look", '"All_of_it" and "Words"'),
-                            ("drawings", '"All_of_it" and "Covered"'), ("5,000", '"Big"'), ("formula", '"Scales".*"Twins"'),
+                            ("drawings", '"All_of_it" and "Covered"'), ("5,000", '"Big"'), ("formula", '"Pale".*"Scales".*"Twins"'),
                             ("numbers are", '"Numbers"'), ("bars", '"Bars"'), ("table style", '"Coloured"')):
             self.assertRegex(errors, f"(?m)^  - [^\"]*{names} .*{loss}")
         self.assertNotRegex(errors, "Plain|Whole|Formulas")

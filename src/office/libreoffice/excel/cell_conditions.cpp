@@ -48,6 +48,12 @@ bool comparesCells(const CellCondition& condition) {
 
 }  // namespace
 
+bool meetsAny(const std::vector<CellBlock>& blocks, const CellBlock& cells) {
+    return std::any_of(blocks.begin(), blocks.end(), [&](const CellBlock& each) {
+        return intersection(each, cells).has_value();
+    });
+}
+
 std::vector<CellCondition> conditionsOn(const SheetRecord& sheet, const CellBlock& block) {
     std::vector<CellCondition> found;
     const auto formats = property<uno::Reference<css::sheet::XConditionalFormats>>(
@@ -58,10 +64,7 @@ std::vector<CellCondition> conditionsOn(const SheetRecord& sheet, const CellBloc
             answered(property<uno::Reference<css::sheet::XSheetCellRanges>>(format, "Range"));
         std::vector<CellBlock> blocks;
         for (const auto& address : ranges->getRangeAddresses()) blocks.push_back(blockOf(address));
-        if (std::none_of(blocks.begin(), blocks.end(), [&](const CellBlock& each) {
-                return intersection(each, block).has_value();
-            }))
-            continue;
+        if (!meetsAny(blocks, block)) continue;
         const sal_Int32 count = format->getCount();
         for (sal_Int32 i = 0; i < count; ++i) {
             const uno::Reference<css::sheet::XConditionEntry> entry(format->getByIndex(i),
@@ -72,12 +75,29 @@ std::vector<CellCondition> conditionsOn(const SheetRecord& sheet, const CellBloc
     return found;
 }
 
+std::vector<CellBlock> dressedByOthers(const CellCondition& scale,
+                                       const std::vector<CellCondition>& all) {
+    std::vector<CellBlock> dressed;
+    for (const CellCondition& other : all) {
+        if (other.kind != ConditionType::CONDITION && other.kind != ConditionType::DATE) continue;
+        for (const CellBlock& block : other.blocks) {
+            for (const CellBlock& each : scale.blocks)
+                if (const auto common = intersection(each, block)) dressed.push_back(*common);
+        }
+    }
+    return dressed;
+}
+
 UncopiedConditions::UncopiedConditions(const std::vector<CellCondition>& all) {
     for (const CellCondition& condition : all) {
-        if (isByFormula(condition))
+        if (isByFormula(condition)) {
             byFormula_.push_back(condition.blocks);
-        else if (comparesCells(condition))
+            if (condition.kind != ConditionType::COLORSCALE) continue;
+            const auto dressed = dressedByOthers(condition, all);
+            colourless_.insert(colourless_.end(), dressed.begin(), dressed.end());
+        } else if (comparesCells(condition)) {
             amongCells_.push_back(condition.blocks);
+        }
     }
 }
 

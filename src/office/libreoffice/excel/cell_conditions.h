@@ -15,9 +15,18 @@ struct CellCondition {
     /// Of `css::sheet::ConditionEntryType`.
     sal_Int32 kind;
 };
+/// Whether one of some blocks has cells of another.
+[[nodiscard]] bool meetsAny(const std::vector<model::CellBlock>& blocks,
+                            const model::CellBlock& cells);
+
 /// Those that touch a block of cells.
 [[nodiscard]] std::vector<CellCondition> conditionsOn(const SheetRecord& sheet,
                                                       const model::CellBlock& block);
+
+/// The cells of a colour scale that others of these conditions may dress. Where one does, the
+/// suite's HTML is without the scale's colour.
+[[nodiscard]] std::vector<model::CellBlock> dressedByOthers(const CellCondition& scale,
+                                                            const std::vector<CellCondition>& all);
 
 /// The conditions that a copy of cells doesn't work out: it calculates no formula of a condition
 /// but what is a number or a text, and compares cells with none but those that are copied too.
@@ -27,10 +36,16 @@ public:
 
     /// The cells of a block that stand in a copy of it without their conditional formats.
     [[nodiscard]] std::vector<model::CellBlock> within(const model::CellBlock& block) const;
+    /// Whether a block has cells whose colour no HTML of the suite may have: of scales that go by a
+    /// formula, beneath other conditions.
+    [[nodiscard]] bool lackColourIn(const model::CellBlock& block) const {
+        return meetsAny(colourless_, block);
+    }
 
 private:
     std::vector<std::vector<model::CellBlock>> byFormula_;
     std::vector<std::vector<model::CellBlock>> amongCells_;
+    std::vector<model::CellBlock> colourless_;
 };
 
 }  // namespace libreoffice::excel

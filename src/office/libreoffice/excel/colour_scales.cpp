@@ -56,7 +56,8 @@ std::int32_t mixed(std::int32_t one, std::int32_t other, double share) {
 }  // namespace
 
 ColourScales::ColourScales(SheetRecord& sheet, const std::vector<CellCondition>& conditions) {
-    for (const auto& [blocks, entry, kind] : conditions) {
+    for (const CellCondition& condition : conditions) {
+        const auto& [blocks, entry, kind] = condition;
         if (kind != css::sheet::ConditionEntryType::COLORSCALE) continue;
         const auto steps = property<uno::Sequence<Step>>(entry, "ColorScaleEntries");
         const std::vector<double> numbers = sortedNumbers(sheet, blocks);
@@ -70,17 +71,26 @@ ColourScales::ColourScales(SheetRecord& sheet, const std::vector<CellCondition>&
             scale.steps.emplace_back(*number, swapRedAndBlue(step->getColor()));
         }
         const bool isWhole = scale.steps.size() == static_cast<std::size_t>(steps.getLength());
-        if (isWhole && least < most) all_.push_back(std::move(scale));
+        if (!isWhole) {
+            const auto dressed = dressedByOthers(condition, conditions);
+            byFormula_.insert(byFormula_.end(), blocks.begin(), blocks.end());
+            dressed_.insert(dressed_.end(), dressed.begin(), dressed.end());
+        } else if (least < most) {
+            all_.push_back(std::move(scale));
+        }
     }
+}
+
+bool ColourScales::isByFormula(std::int32_t column, std::int32_t row) const {
+    const auto cell = model::CellBlock::cell(row, column);
+    return meetsAny(byFormula_, cell) && !meetsAny(dressed_, cell);
 }
 
 std::optional<std::int32_t> ColourScales::colourOf(std::int32_t column, std::int32_t row,
                                                    double number) const {
-    const auto found = std::find_if(all_.begin(), all_.end(), [&](const Scale& scale) {
-        return std::any_of(scale.blocks.begin(), scale.blocks.end(), [&](const auto& block) {
-            return intersection(block, model::CellBlock::cell(row, column)).has_value();
-        });
-    });
+    const auto cell = model::CellBlock::cell(row, column);
+    const auto found = std::find_if(
+        all_.begin(), all_.end(), [&](const Scale& scale) { return meetsAny(scale.blocks, cell); });
     if (found == all_.end()) return std::nullopt;
     const auto& steps = found->steps;
     const auto above = std::find_if(steps.begin(), steps.end(),

@@ -11,7 +11,7 @@
 namespace libreoffice::excel {
 
 /// The conditional formats, among some of a sheet's, that colour each cell by its number. The
-/// suite's HTML has such a colour only where no other condition is on the cell.
+/// suite's HTML has such a colour only where no other condition dresses the cell.
 class ColourScales {
 public:
     ColourScales(SheetRecord& sheet, const std::vector<CellCondition>& conditions);
@@ -19,6 +19,9 @@ public:
     /// The ground of a cell with this number, by its place on the sheet, 0xBBGGRR.
     [[nodiscard]] std::optional<std::int32_t> colourOf(std::int32_t column, std::int32_t row,
                                                        double number) const;
+    /// Whether a cell's colour goes by a formula's result, and no other condition may dress it: the
+    /// colour is then in the HTML of the whole workbook, and nowhere else.
+    [[nodiscard]] bool isByFormula(std::int32_t column, std::int32_t row) const;
 
 private:
     struct Scale {
@@ -28,6 +31,8 @@ private:
     };
 
     std::vector<Scale> all_;
+    std::vector<model::CellBlock> byFormula_;
+    std::vector<model::CellBlock> dressed_;
 };
 
 }  // namespace libreoffice::excel

@@ -51,13 +51,14 @@ std::vector<model::CellBlock> HtmlPlaces::leftOutOf(const HtmlRow& html, std::si
                                                     const SheetRecord& sheet) const {
     std::vector<model::CellBlock> found;
     if (fills(html, row)) return found;
-    for (std::size_t column = freeFrom(row, 0); column < shown_.columns.size();
-         column = freeFrom(row, column + 1)) {
+    std::size_t column = freeFrom(row, 0);
+    while (column < shown_.columns.size()) {
         const auto cell = model::CellBlock::cell(shown_.rows[row], shown_.columns[column]);
-        if (!found.empty() && intersection(found.back(), cell)) continue;
         const model::CellBlock whole = blockOf(sheet.wholeCells(cell));
         if (whole.firstRow != cell.firstRow || whole.firstColumn != cell.firstColumn)
             found.push_back(whole);
+        const auto [place, count] = shownFrom(shown_.columns, whole.firstColumn, whole.lastColumn);
+        column = freeFrom(row, place + count);
     }
     return found;
 }

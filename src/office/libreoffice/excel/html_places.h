@@ -11,7 +11,7 @@
 namespace libreoffice::excel {
 
 /// Where the cells of rows of HTML stand among the lines that are shown: rows leave out what merged
-/// cells of other rows cover. To be asked row by row.
+/// cells of other rows cover. A row is right once those above that reach into it have been taken.
 class HtmlPlaces {
 public:
     /// Cells among the shown lines, by their places there.

@@ -124,12 +124,6 @@ bool hasNumberFormat(const CellCondition& condition, CalcDocument& book) {
     return style->getPropertyState("NumberFormat") == css::beans::PropertyState_DIRECT_VALUE;
 }
 
-bool meetAny(const std::vector<CellBlock>& blocks, const CellBlock& cells) {
-    return std::any_of(blocks.begin(), blocks.end(), [&](const CellBlock& each) {
-        return intersection(each, cells).has_value();
-    });
-}
-
 /// Whether parts of a cell's text look different. The suite calls a look ambiguous then, whichever
 /// it is asked for.
 bool hasSeveralLooks(const uno::Reference<css::table::XCell>& cell) {
@@ -168,7 +162,7 @@ public:
         return model::drawnPart(block, *sheet_);
     }
 
-    void tell(const office::PasteItem& item, const CellBlock& block, ItemRemarks& remarks) const {
+    void tell(const office::PasteItem& item, const CellBlock& block, ItemRemarks& remarks) {
         if (block.cells() > static_cast<double>(mostCellsOfTable) &&
             isTooLargeForTable(*sheet_, block, mostCellsOfTable)) {
             remarks.add(tooLarge, item);
@@ -178,11 +172,11 @@ public:
             remarks.add(tooWide, item);
             return;
         }
-        if (meetAny(icons_, block)) remarks.add(icons, item);
-        if (meetAny(lostBars_, block)) remarks.add(bars, item);
+        if (meetsAny(icons_, block)) remarks.add(icons, item);
+        if (meetsAny(lostBars_, block)) remarks.add(bars, item);
         if (mayMissConditions(block)) remarks.add(lostConditions, item);
-        if (meetAny(withNumberFormat_, block)) remarks.add(numberFormats, item);
-        if (meetAny(styledTables_, block)) remarks.add(tableStyles, item);
+        if (meetsAny(withNumberFormat_, block)) remarks.add(numberFormats, item);
+        if (meetsAny(styledTables_, block)) remarks.add(tableStyles, item);
         if (hasCellOfSeveralLooks(*sheet_, block)) remarks.add(severalLooks, item);
         if (frames_.empty()) return;
         const PlaceOfCells place = excel::placeOf(sheet_->range(block));
@@ -210,13 +204,14 @@ private:
         return item.mostColumns && isTooWideForTable(*sheet_, block, *item.mostColumns);
     }
     /// The suite tells how conditions leave no cell beyond those in use.
-    [[nodiscard]] bool mayMissConditions(const CellBlock& block) const {
+    [[nodiscard]] bool mayMissConditions(const CellBlock& block) {
+        if (uncopied_.lackColourIn(block)) return true;
         const auto cells = uncopied_.within(block);
         if (cells.empty()) return false;
-        const CellBlock used = blockOf(sheet_->wholeCells(sheet_->used()));
+        if (!used_) used_ = blockOf(sheet_->wholeCells(sheet_->used()));
         return std::any_of(
                    cells.begin(), cells.end(),
-                   [&](const CellBlock& each) { return intersection(each, used) != each; }) ||
+                   [&](const CellBlock& each) { return intersection(each, *used_) != each; }) ||
                sheet_->book().looks().isTooLarge();
     }
 
@@ -224,6 +219,8 @@ private:
     std::vector<CellBlock> icons_;
     std::vector<CellBlock> lostBars_;
     UncopiedConditions uncopied_;
+    /// Once it was asked for.
+    std::optional<CellBlock> used_;
     std::vector<CellBlock> withNumberFormat_;
     std::vector<CellBlock> styledTables_;
     std::vector<Frame> frames_;
@@ -234,7 +231,7 @@ private:
 std::vector<std::string> lossesOfTables(CalcDocument& book,
                                         const std::vector<office::PasteItem>& items,
                                         bool drawsBars) {
-    std::map<std::string, std::unique_ptr<const LossesOfSheet>> sheets;
+    std::map<std::string, std::unique_ptr<LossesOfSheet>> sheets;
     ItemRemarks remarks;
     for (const office::PasteItem& item : items) {
         const auto block = model::blockOf(item.source.address);
@@ -243,7 +240,7 @@ std::vector<std::string> lossesOfTables(CalcDocument& book,
         if (!losses) {
             auto sheet = std::dynamic_pointer_cast<SheetRecord>(book.findSheet(item.source.sheet));
             if (!sheet) continue;
-            losses = std::make_unique<const LossesOfSheet>(std::move(sheet), drawsBars);
+            losses = std::make_unique<LossesOfSheet>(std::move(sheet), drawsBars);
         }
         if (const auto drawn = losses->drawnPartOf(*block)) losses->tell(item, *drawn, remarks);
     }

@@ -107,19 +107,21 @@ public:
     DressedCells(SheetRecord& sheet, const model::CellBlock& block,
                  const std::vector<CellCondition>& conditions)
         : blocks_(UncopiedConditions(conditions).within(block)),
-          looks_(blocks_.empty() ? nullptr : sheet.book().looks().of(sheet)) {}
+          looks_(blocks_.empty() ? nullptr : looksOf(sheet)) {}
 
-    void dress(HtmlCell& html, const model::CellBlock& cell) const {
-        if (looks_ == nullptr) return;
-        const auto holdsCell = [&](const model::CellBlock& block) {
-            return intersection(block, cell).has_value();
-        };
-        if (std::none_of(blocks_.begin(), blocks_.end(), holdsCell)) return;
-        if (const CellDress* const dress = looks_->at(cell.firstColumn, cell.firstRow))
-            takeDress(html, *dress);
+    /// Nothing for a cell that the copy shows rightly, or nobody knows better.
+    [[nodiscard]] const CellDress* at(const model::CellBlock& cell) const {
+        if (looks_ == nullptr || !meetsAny(blocks_, cell)) return nullptr;
+        return looks_->at(cell.firstColumn, cell.firstRow);
     }
 
 private:
+    /// The page holds no hidden sheet.
+    static SheetLooks* looksOf(SheetRecord& sheet) {
+        const ShownForNow shown(sheet);
+        return sheet.book().looks().of(sheet);
+    }
+
     std::vector<model::CellBlock> blocks_;
     SheetLooks* looks_;
 };
@@ -156,25 +158,17 @@ public:
         for (const model::CellBlock& merged : places_.leftOutOf(html, row, sheet_))
             putLeftOut(merged);
         std::size_t column = 0;
-        for (HtmlCell cell : html.cells) {
+        for (const HtmlCell& cell : html.cells) {
             column = places_.freeFrom(row, column);
             if (column == width()) return;
-            const Place place = {shown_.columns[column], shown_.rows[row]};
-            dressed_.dress(cell, model::CellBlock::cell(place.row, place.column));
-            put(dressed(cell, row, column), place);
-            const CellFormat& own = formatAt(row, column);
-            CellValue value = {cell.number, own.numberFormat, own.shrinksToFit,
-                               cell.number == 0.0 && isError(place)};
-            if (value.isError) value.number.reset();
-            if (value.number) {
-                CellLook& look = at(row, column);
-                look.bar = bars_.barOf(place.column, place.row, *value.number);
-                takeScale(look, cell, place, own.look);
-                look.fontColour = sheet_.book().formats().colourOf(*value.number, own.numberFormat,
-                                                                   look.fontColour);
-                if (*value.number == 0 && !showsZeros_) look.text.clear();
+            const auto block = model::CellBlock::cell(shown_.rows[row], shown_.columns[column]);
+            if (const CellDress* const dress = dressed_.at(block)) {
+                HtmlCell dressed = cell;
+                takeDress(dressed, *dress);
+                putCell(dressed, row, column);
+            } else {
+                putCell(cell, row, column);
             }
-            values_[row * width() + column] = value;
         }
     }
 
@@ -216,6 +210,24 @@ private:
         put(std::move(look), span);
     }
 
+    void putCell(const HtmlCell& cell, std::size_t row, std::size_t column) {
+        const Place place = {shown_.columns[column], shown_.rows[row]};
+        put(lookOf(cell, row, column), place);
+        const CellFormat& own = formatAt(row, column);
+        CellValue value = {cell.number, own.numberFormat, own.shrinksToFit,
+                           cell.number == 0.0 && isError(place)};
+        if (value.isError) value.number.reset();
+        if (value.number) {
+            CellLook& look = at(row, column);
+            look.bar = bars_.barOf(place.column, place.row, *value.number);
+            takeScale(look, cell, place, own.look);
+            look.fontColour =
+                sheet_.book().formats().colourOf(*value.number, own.numberFormat, look.fontColour);
+            if (*value.number == 0 && !showsZeros_) look.text.clear();
+        }
+        values_[row * width() + column] = value;
+    }
+
     /// Puts a cell over all that it spans.
     void put(CellLook look, const Place& place) {
         const auto span = places_.take(
@@ -242,14 +254,10 @@ private:
         return errors;
     }
     [[nodiscard]] bool isError(const Place& place) const {
-        const auto cell = model::CellBlock::cell(place.row, place.column);
-        return std::any_of(errors_.begin(), errors_.end(), [&](const model::CellBlock& part) {
-            return intersection(part, cell).has_value();
-        });
+        return meetsAny(errors_, model::CellBlock::cell(place.row, place.column));
     }
 
-    [[nodiscard]] CellLook dressed(const HtmlCell& html, std::size_t row,
-                                   std::size_t column) const {
+    [[nodiscard]] CellLook lookOf(const HtmlCell& html, std::size_t row, std::size_t column) const {
         CellLook look = html.look;
         const CellLook& own = format(row, column);
         takeFonts(look, own);
@@ -267,9 +275,9 @@ private:
     void takeScale(CellLook& look, const HtmlCell& html, const Place& place,
                    const CellLook& own) const {
         const auto fill = scales_.colourOf(place.column, place.row, html.number.value_or(0));
-        if (!fill) return;
-        look.fill = fill;
-        if (!html.fontColour) look.fontColour = automaticColourOn(own.fill);
+        if (fill) look.fill = fill;
+        if (!html.fontColour && (fill || scales_.isByFormula(place.column, place.row)))
+            look.fontColour = automaticColourOn(own.fill);
     }
 
     /// Two cells share a line: the heavier of theirs is drawn.
@@ -314,18 +322,11 @@ private:
     std::vector<CellValue> values_;
 };
 
-struct CopyOfCells {
-    CellsAsHtml html;
-    DressedCells dressed;
-};
-CopyOfCells copyOf(SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& cells,
-                   const model::CellBlock& block, const std::vector<CellCondition>& conditions) {
-    SelectedCells selected(sheet, cells, block);
-    const uno::Sequence<sal_Int8> copy = selected.copyAs("text/html");
-    // As long as they are selected a hidden sheet is shown, and has its looks.
-    return {readCellsAsHtml({reinterpret_cast<const char*>(copy.getConstArray()),
-                             static_cast<std::size_t>(copy.getLength())}),
-            DressedCells(sheet, block, conditions)};
+/// The window shows them selected no longer than it takes to copy them.
+uno::Sequence<sal_Int8> htmlOf(SheetRecord& sheet,
+                               const uno::Reference<css::table::XCellRange>& cells,
+                               const model::CellBlock& block) {
+    return SelectedCells(sheet, cells, block).copyAs("text/html");
 }
 
 }  // namespace
@@ -372,7 +373,11 @@ TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block, std::s
     const ShownLines shown = shownLinesOf(cells, mostCells);
     const CellFormats formats = readCellFormats(cells, shown);
     const auto conditions = conditionsOn(sheet, whole);
-    const auto [html, dressed] = copyOf(sheet, cells, whole, conditions);
+    // What may take its time goes before the cells are selected, where a user may be typing.
+    const DressedCells dressed(sheet, whole, conditions);
+    const uno::Sequence<sal_Int8> copy = htmlOf(sheet, cells, whole);
+    const CellsAsHtml html = readCellsAsHtml({reinterpret_cast<const char*>(copy.getConstArray()),
+                                              static_cast<std::size_t>(copy.getLength())});
 
     TableLook table;
     const auto [corner, size] = placeOf(cells);
