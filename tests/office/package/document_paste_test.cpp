@@ -306,7 +306,7 @@ std::string described(pugi::xml_node table) {
 TEST_F(DocumentPaste, MakesTablesThatLookAsTheirCellsDo) {
     // Twice as wide as the page has room.
     TableLook look =
-        tableOf({500, 200, 202.6}, {15, 15, 60}, {"a", "", "c", "d", "", "f", "g", "h\ni", "j"});
+        tableOf({500, 200, 202.6}, {15, 15, 60}, {"a", "", "c", "d", "", "f", "g", "h\ni", "j\n"});
     look.cells[0].columns = 2;
     look.cells[0].rows = 2;
     for (const std::size_t covered : {1U, 3U, 4U}) look.cells[covered].isCovered = true;
@@ -332,7 +332,7 @@ TEST_F(DocumentPaste, MakesTablesThatLookAsTheirCellsDo) {
     EXPECT_EQ(described(table),
               "[a 2 restart bottom fill=996633 left 11][c bottom top=dotted 4 000000 right 11]\n"
               "[ 2 continue bottom bottom=double 4 FF0000 fill=996633 left 11][f bottom left 11]\n"
-              "[g btLr top center 11][h\ni bottom left 11][j top left 11]\n");
+              "[g btLr top center 11][h\ni bottom left 11][j\n top left 11]\n");
     long long width = 0;
     for (const pugi::xml_node column : table.child("w:tblGrid").children())
         width += column.attribute("w:w").as_llong();

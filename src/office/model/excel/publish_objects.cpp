@@ -144,6 +144,7 @@ private:
                      [&](const auto* one) { return cellsUnder(one->box, *placed.map) == block; });
         if (!exactly.empty()) there = exactly;
         std::vector<PagePicture> pictures;
+        pictures.reserve(there.size());
         for (const auto* one : there)
             pictures.push_back(pictureOf(place, *one->chart, one->name, one->box));
         return pictures;
