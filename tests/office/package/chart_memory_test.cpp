@@ -9,7 +9,7 @@
 
 #include "office/package/drawing/chart_memory.h"
 #include "office/package/small_workbook.h"
-#include "office/package/workbook/cell_formats.h"
+#include "office/package/workbook/cell_number_formats.h"
 #include "office/package/workbook/chart_cells.h"
 #include "support/copied_double.h"
 #include "support/temporary_folder.h"
@@ -271,7 +271,7 @@ TEST(AChartsMemory, SaysTheFormatsOfItsCells) {
                                     {{"worksheet", "sheet1.xml"}, {"styles", "styles.xml"}})}});
     support::writeBytes(folder.file("book.xlsx"), {zip.begin(), zip.end()});
     WorkbookFile book(folder.file("book.xlsx"));
-    CellFormats formats(book);
+    CellNumberFormats formats(book);
     const auto formatOf = [&](const auto& sheet, auto row, auto column) {
         return formats.codeAt(sheet, row, column);
     };

@@ -6,7 +6,7 @@
 
 #include "office/package/drawing/chart_flags.h"
 #include "office/package/drawing/chart_looks.h"
-#include "office/package/workbook/cell_formats.h"
+#include "office/package/workbook/cell_number_formats.h"
 #include "office/package/workbook/source_chart.h"
 
 namespace office::package {
@@ -30,7 +30,7 @@ private:
     struct Origin {
         explicit Origin(WorkbookFile& book) : formats(book) {}
 
-        CellFormats formats;
+        CellNumberFormats formats;
         FlagDefaults defaults = FlagDefaults::Standard;
         /// Its theme as one that overrides another; empty if it has none.
         std::string theme;

@@ -13,13 +13,13 @@ namespace office::package {
 
 /// The number formats of cells, as the workbook's file has them: codes that hold in every language,
 /// where a suite would tell those of its own.
-class CellFormats {
+class CellNumberFormats {
 public:
     /// The code of cells that say nothing.
     static constexpr const char* general = "General";
 
     /// The workbook has to outlive it. A sheet is read when a cell of it is first asked for.
-    explicit CellFormats(WorkbookFile& book) : book_(&book) {}
+    explicit CellNumberFormats(WorkbookFile& book) : book_(&book) {}
 
     /// Of a cell that has something in it, its place from 0. `general` where the file doesn't tell.
     [[nodiscard]] std::string codeAt(const std::string& sheet, std::int32_t row,

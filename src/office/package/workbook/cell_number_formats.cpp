@@ -1,4 +1,4 @@
-#include "office/package/workbook/cell_formats.h"
+#include "office/package/workbook/cell_number_formats.h"
 
 #include <algorithm>
 #include <charconv>
@@ -71,7 +71,8 @@ std::optional<Number> wholeNumber(std::string_view text) {
 
 }  // namespace
 
-std::string CellFormats::codeAt(const std::string& sheet, std::int32_t row, std::int32_t column) {
+std::string CellNumberFormats::codeAt(const std::string& sheet, std::int32_t row,
+                                      std::int32_t column) {
     auto known = sheets_.find(sheet);
     if (known == sheets_.end()) known = sheets_.emplace(sheet, readSheet(sheet)).first;
     const auto found = known->second.find(column);
@@ -85,7 +86,7 @@ std::string CellFormats::codeAt(const std::string& sheet, std::int32_t row, std:
 }
 
 /// As bytes: there may be more cells than any markup has that is read.
-CellFormats::Styles CellFormats::readSheet(const std::string& sheet) {
+CellNumberFormats::Styles CellNumberFormats::readSheet(const std::string& sheet) {
     // Far below what a package reads in all, which charts and pictures need too.
     constexpr std::size_t mostBytes = 128 << 20;
     Styles styles;
@@ -126,7 +127,7 @@ CellFormats::Styles CellFormats::readSheet(const std::string& sheet) {
     return styles;
 }
 
-void CellFormats::readCodes() {
+void CellNumberFormats::readCodes() {
     const std::string part = book_->package().partOfType(book_->mainPart(), "styles");
     if (part.empty()) return;
     const Xml xml(book_->package().read(part), part);
