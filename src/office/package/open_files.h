@@ -87,7 +87,7 @@ public:
 
     /// Opens what is in a package as the active one. `path` is empty for one that has no file yet.
     std::shared_ptr<File> add(Package package, const std::string& path, const std::string& name) {
-        const std::shared_ptr<File> file = make(std::move(package), path, name, rules_);
+        std::shared_ptr<File> file = make(std::move(package), path, name, rules_);
         file->onActivated([self = this->weak_from_this()](File& active) {
             if (const auto all = self.lock()) all->activate(active);
         });

@@ -77,7 +77,7 @@ const Xml& DeckLayouts::page(const std::string& part) {
 }
 
 std::string DeckLayouts::masterOf(const std::string& layout) {
-    const std::string master = package_.partOfType(layout, "slideMaster");
+    std::string master = package_.partOfType(layout, "slideMaster");
     if (master.empty())
         throw PackageError(Fault::Damaged, "its layout " + shown(layout) + " has no master");
     return master;

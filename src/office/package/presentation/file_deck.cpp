@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <ranges>
 #include <set>
 
 #include "office/model/powerpoint/objects.h"
@@ -168,8 +167,8 @@ void FileDeck::noteUse(const FileSlidePtr& slide) {
 
 /// The layout whose master's layouts new slides get: that of the last slide which has one.
 std::string FileDeck::neighbourLayout() {
-    for (const auto& slide : std::views::reverse(slides_)) {
-        if (std::string part = package_.partOfType(slide->part(), "slideLayout"); !part.empty())
+    for (auto slide = slides_.rbegin(); slide != slides_.rend(); ++slide) {
+        if (std::string part = package_.partOfType((*slide)->part(), "slideLayout"); !part.empty())
             return part;
     }
     const auto masters = childNamed(presentation_.root(), ns::presentation, "sldMasterIdLst");

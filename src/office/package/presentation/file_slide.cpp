@@ -91,7 +91,7 @@ std::vector<FileShapePtr>& FileSlide::shapes() {
 }
 
 std::string FileSlide::layoutPart() {
-    const std::string layout = deck_.package().partOfType(part_, "slideLayout");
+    std::string layout = deck_.package().partOfType(part_, "slideLayout");
     if (layout.empty())
         throw PackageError(Fault::Damaged, "its slide " + shown(part_) + " has no layout");
     return layout;
