@@ -167,10 +167,10 @@ void FileDeck::noteUse(const FileSlidePtr& slide) {
 
 /// The layout whose master's layouts new slides get: that of the last slide which has one.
 std::string FileDeck::neighbourLayout() {
-    for (auto slide = slides_.rbegin(); slide != slides_.rend(); ++slide) {
-        if (std::string part = package_.partOfType((*slide)->part(), "slideLayout"); !part.empty())
-            return part;
-    }
+    const auto last = std::find_if(slides_.rbegin(), slides_.rend(), [&](const auto& slide) {
+        return !package_.partOfType(slide->part(), "slideLayout").empty();
+    });
+    if (last != slides_.rend()) return (*last)->layoutPart();
     const auto masters = childNamed(presentation_.root(), ns::presentation, "sldMasterIdLst");
     const auto first = childNamed(masters, ns::presentation, "sldMasterId");
     const std::string master =
