@@ -62,6 +62,14 @@ private:
     bool createdWord_ = false;
 };
 
+/// How often a text takes a backspace until it has gone.
+std::size_t backspacesOver(const std::string& text) {
+    const auto lines = office::linesOf(text);
+    std::size_t count = lines.size() - 1;
+    for (const std::string& line : lines) count += office::charactersOf(line).size();
+    return count;
+}
+
 /// Lays the pages out: a heading, the item below it, the source line at the foot.
 class PdfPages {
 public:
@@ -81,7 +89,7 @@ private:
         double spaceAfterPt = 0;
     };
     void beginParagraph();
-    void pasteInParagraph();
+    void pasteBelow(const std::string& heading);
     void beginParagraph(const ParagraphLook& look);
     void dressParagraph(const ParagraphLook& look);
 
@@ -160,16 +168,23 @@ double PdfPages::headingHeight(const std::string& caption) const {
     return session_.host.textSize(caption, {"Arial", fontPt}, width_).height + spacePt;
 }
 
-/// The paragraph goes again if nothing comes to it: it would take a page of its own.
-void PdfPages::pasteInParagraph() {
+/// Heading and paragraph go again if nothing comes below: they would take a page of their own.
+void PdfPages::pasteBelow(const std::string& heading) {
     const bool isFirst = isFirstParagraph_;
+    std::size_t typed = isFirst ? 0 : 1;
+    if (!heading.empty()) {
+        beginParagraph({.style = number::heading1, .beginsPage = !isFirstPage_, .spaceAfterPt = 6});
+        selection_.call("TypeText", heading);
+        typed += backspacesOver(heading) + 1;
+    }
     beginParagraph();
     try {
         selection_.call("Paste");
     } catch (const office::Failure&) {
         isFirstParagraph_ = isFirst;
-        if (!isFirst)
-            office::ContinueOnFailure().attempt([this] { selection_.call("TypeBackspace"); });
+        office::ContinueOnFailure().attempt([&] {
+            for (; typed > 0; --typed) selection_.call("TypeBackspace");
+        });
         throw;
     }
 }
@@ -184,13 +199,8 @@ void PdfPages::addItem(const ExportItem& row) {
     session::SleepMilliseconds(session_, arrivedMs);
     double room = height_ - slackPt - (options_.includePath ? sourceLinePt : 0);
     const bool hasHeading = options_.pageTitles && !row.caption.empty();
-    if (hasHeading) {
-        room -= headingHeight(row.caption);
-        beginParagraph({.style = number::heading1, .beginsPage = !isFirstPage_, .spaceAfterPt = 6});
-        selection_.call("TypeText", row.caption);
-        isFirstPage_ = false;
-    }
-    pasteInParagraph();
+    if (hasHeading) room -= headingHeight(row.caption);
+    pasteBelow(hasHeading ? row.caption : std::string());
     const Object shapes = document_.get("InlineShapes").toObject();
     const Object shape = shapes.get("Item", shapes.get("Count").toLong()).toObject();
     const double width = shape.get("Width").toDouble();

@@ -78,17 +78,20 @@ TEST_F(WordContract, KnowsWhetherTheLastPageIsEmpty) {
     }
 }
 
-TEST_F(WordContract, TakesEmptyParagraphsOutAgain) {
+TEST_F(WordContract, TakesEmptyParagraphsAndLettersOutAgain) {
     const Object caret = selection();
     caret.call("TypeText", "as it was");
     caret.put("Style", -63);
-    EXPECT_EQ(failureOf([&] { caret.call("TypeBackspace"); }), refused);
     goToNewPage();
     caret.put("Style", -1);
-    for (int i = 0; i < 2; ++i) caret.call("TypeBackspace");
+    caret.call("TypeText", "ä言😀");
+    for (int i = 0; i < 5; ++i) caret.call("TypeBackspace");
+    copyItem("picture");
+    caret.call("PasteSpecial");
+    EXPECT_EQ(failureOf([&] { caret.call("TypeBackspace"); }), refused);
     caret.call("TypeText", "!");
     const std::string file = saved("as it was.docx");
-    EXPECT_EQ(paragraphsOf(file), Lines{"as it was!"});
+    EXPECT_EQ(paragraphsOf(file), Lines{"*as it was!"});
     const std::string part = "/word/document.xml";
     EXPECT_NE(office::package::Package::open(file).read(part).find("\"Title\""), std::string::npos);
 }

@@ -47,6 +47,26 @@ TEST_F(PdfRunTest, LeavesAWordThatRunsAndPutsTheTitleIntoTheFile) {
               std::string::npos);
 }
 
+TEST_F(PdfRunTest, LeavesNoHeadingOfAPictureThatDidNotCome) {
+    list.rows.front().caption = "Häuser\r\n2026 😀";
+    add("Chart 2", "Sales", "Rents");
+    add("Chart 1", "Sales", "");
+    std::vector<std::string> texts;
+    test.host.onEvents = [&] {
+        texts.clear();
+        const auto pdf = test.suite.word().active();
+        for (const auto& each : dynamic_cast<office_double::Document&>(*pdf).paragraphs())
+            texts.push_back(each.text);
+    };
+    using Texts = std::vector<std::string>;
+    for (const auto& [failing, left] :
+         {std::pair(1, Texts{"Rents", ""}), std::pair(2, Texts{"Häuser\n2026 😀", ""})}) {
+        test.suite.failures().fail("Selection.Paste", failing);
+        exportPdf();
+        EXPECT_EQ(texts, left);
+    }
+}
+
 TEST_F(PdfRunTest, TakesOutTheParagraphOfAPictureThatDidNotCome) {
     list.rows.front().caption.clear();
     add("Chart 2", "Sales", "");

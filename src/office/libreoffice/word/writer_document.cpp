@@ -13,6 +13,7 @@
 #include <com/sun/star/text/XTextTablesSupplier.hpp>
 #include <com/sun/star/util/XRefreshable.hpp>
 #include <fmt/format.h>
+#include <rtl/character.hxx>
 
 #include <algorithm>
 #include <array>
@@ -207,11 +208,20 @@ void WriterDocument::typeParagraph() {
 
 void WriterDocument::typeBackspace() {
     constexpr const char* member = "Selection.TypeBackspace";
+    constexpr const char* nothingToTakeOut = "A letter or an empty paragraph can be taken out here";
     const auto place = writableCursor(member);
     const auto ends = as<css::text::XParagraphCursor>(place);
-    if (!place->isCollapsed() || !ends->isStartOfParagraph() || !ends->isEndOfParagraph() ||
+    const bool isAtStart = ends->isStartOfParagraph();
+    if (!place->isCollapsed() || (isAtStart && !ends->isEndOfParagraph()) ||
         !place->goLeft(1, true))
-        office::refuse(member, "An empty paragraph alone can be taken out here");
+        office::refuse(member, nothingToTakeOut);
+    const rtl::OUString taken = place->getString();
+    if (!isAtStart && taken.isEmpty()) {
+        place->collapseToEnd();
+        office::refuse(member, nothingToTakeOut);
+    }
+    // LibreOffice goes by halves of the letters that take two.
+    if (!isAtStart && rtl::isLowSurrogate(taken[0])) place->goLeft(1, true);
     const UndoGroup group(steps_, "Typing");
     place->setString(rtl::OUString());
 }

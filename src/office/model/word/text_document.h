@@ -130,8 +130,8 @@ public:
     virtual void moveToLineStart() = 0;
     virtual void typeText(const std::string& text) = 0;
     virtual void typeParagraph() = 0;
-    /// Takes out the empty paragraph with the caret, which goes to the end of the one ahead of it.
-    /// `Failure` 1004 if the caret stands anywhere else.
+    /// Takes out the letter ahead of the caret, or the empty paragraph with it: then the caret goes
+    /// to the end of the one ahead. `Failure` 1004 if the caret stands anywhere else.
     virtual void typeBackspace() = 0;
     virtual void changeParagraph(const ParagraphChange& change) = 0;
     virtual Page page() = 0;

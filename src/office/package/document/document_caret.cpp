@@ -6,8 +6,34 @@
 #include "office/package/document/file_document.h"
 #include "office/package/document/paragraph.h"
 #include "office/package/document/reading_order.h"
+#include "office/text.h"
 
 namespace office::package {
+
+namespace {
+
+/// What a paragraph ends with, if that is something typed.
+pugi::xml_node lastTypedIn(pugi::xml_node paragraph) {
+    const pugi::xml_node last = paragraph.last_child().last_child();
+    const bool isTyped = isNamed(last, ns::word, "t") || isNamed(last, ns::word, "tab") ||
+                         isNamed(last, ns::word, "br");
+    return isTyped ? last : pugi::xml_node();
+}
+
+/// Nothing is left of a run that held no more.
+void takeOutLastLetter(pugi::xml_node typed) {
+    const std::string all = typed.text().get();
+    const std::size_t last = all.empty() ? 0 : charactersOf(all).back().bytes.size();
+    if (last < all.size()) {
+        typed.text().set(all.substr(0, all.size() - last).c_str());
+        return;
+    }
+    pugi::xml_node run = typed.parent();
+    run.remove_child(typed);
+    if (!run.first_child()) run.parent().remove_child(run);
+}
+
+}  // namespace
 
 void FileDocument::selectEnd() {
     selected_.reset();
@@ -78,15 +104,22 @@ void FileDocument::typeParagraph() {
     moveToLineStart();
 }
 
+/// Letters go at the end of a paragraph alone.
 void FileDocument::typeBackspace() {
-    const pugi::xml_node empty = caret_.paragraph;
-    const pugi::xml_node ahead = empty.previous_sibling();
-    if (contentOf(empty) || sectionEndIn(empty) || !isNamed(ahead, ns::word, "p"))
-        refuse("Selection.TypeBackspace", "An empty paragraph alone can be taken out here");
+    const pugi::xml_node paragraph = caret_.paragraph;
+    const pugi::xml_node ahead = paragraph.previous_sibling();
+    const bool isEmpty = !contentOf(paragraph);
+    if (isEmpty ? sectionEndIn(paragraph) || !isNamed(ahead, ns::word, "p")
+                : caret_.before || !lastTypedIn(paragraph))
+        refuse("Selection.TypeBackspace", "A letter or an empty paragraph can be taken out here");
     touch();
     selected_.reset();
-    empty.parent().remove_child(empty);
-    placeCaret(ahead);
+    if (isEmpty) {
+        paragraph.parent().remove_child(paragraph);
+        placeCaret(ahead);
+    } else {
+        takeOutLastLetter(lastTypedIn(paragraph));
+    }
 }
 
 void FileDocument::changeParagraph(const word::ParagraphChange& change) {
