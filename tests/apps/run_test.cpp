@@ -103,6 +103,7 @@ TEST_F(RunTest, WhatIsWrongWithTheFilesIsFoundOutBeforeASuiteStarts) {
         {{bookFile, "--output", folder.file("Out.odp")}, "Out.odp"},
         {{bookFile, "--output", folder.file("Out.odt")}, "only a copy of a document of that kind"},
         {{folder.file("None.xlsx"), "--output", out}, "None.xlsx can't be read"},
+        {{folder.write("List.CSV", "1;2"), "--list"}, "List.CSV is a table as text"},
         {{bookFile, "--into", folder.file("None.pptx"), "--output", out}, "None.pptx"},
         {{bookFile, "--into", deckFile, "--output", deckFile, "--overwrite"}, "never written over"},
         {{bookFile, "--output", out, "--captions", folder.write("c.csv", "name\n")},

@@ -1,10 +1,28 @@
 #include "apps/murvane_export/order.h"
 
+#include <fmt/format.h>
+
 #include <utility>
 
+#include "apps/murvane_export/errors.h"
 #include "office/files.h"
+#include "office/text.h"
 
 namespace unattended {
+
+namespace {
+
+/// LibreOffice asks somebody how to read such a file, and calls it damaged where nobody answers.
+void requireNoTableOfText(const std::string& book) {
+    const std::string ending = office::lowerCase(office::utf8Of(office::pathOf(book).extension()));
+    if (ending == ".csv" || ending == ".tsv")
+        throw UsageError(fmt::format(
+            "{} is a table as text, which has no charts and no names. Save it as a workbook, add "
+            "them there, and name that.",
+            book));
+}
+
+}  // namespace
 
 Order checkOrder(const Options& options) {
     Order order;
@@ -14,6 +32,7 @@ Order checkOrder(const Options& options) {
     for (const auto& [file, what] : inputs) {
         if (!file.empty()) requireFile(office::pathOf(file), what);
     }
+    requireNoTableOfText(options.book);
     if (!options.captionsFile.empty()) {
         const auto file = office::pathOf(options.captionsFile);
         requireReadable(file, "captions file");
