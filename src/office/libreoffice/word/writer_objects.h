@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "office/libreoffice/word/writer_caret.h"
 #include "office/libreoffice/word/writer_object.h"
 
 namespace libreoffice::word {
