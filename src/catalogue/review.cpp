@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "catalogue/review_looks.h"
 #include "catalogue/review_targets.h"
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
@@ -76,8 +77,8 @@ void reviewChecked(session::OfficeSession& session, const CheckedCounts& checked
     }
 }
 
-void reviewItems(session::OfficeSession& session, const ExportList& list, ReviewTexts& texts) {
-    RowObjects objects(session);
+void reviewItems(session::OfficeSession& session, const ExportList& list, RowObjects& objects,
+                 ReviewTexts& texts) {
     const CheckedCounts checked = countChecked(list, objects);
     if (checked.all == 0) {
         texts.Blockers.emplace_back(
@@ -92,23 +93,51 @@ void reviewItems(session::OfficeSession& session, const ExportList& list, Review
     }
 }
 
+/// The rows that an export takes, as they are pasted.
+std::vector<office::PasteItem> takenItems(const session::OfficeSession& session,
+                                          const ExportList& list, RowObjects& objects) {
+    using office::CopySource;
+    std::string file;
+    office::ContinueOnFailure().attempt([&] {
+        file = session.ActiveBook.get("FullName").toText();
+        // A workbook that was never saved has a name and no path.
+        if (file == session.ActiveBook.get("Name").toText()) file.clear();
+    });
+    std::vector<office::PasteItem> items;
+    for (const ExportItem& row : list.rows) {
+        if (!objects.isExportable(row)) continue;
+        items.push_back(
+            {.name = row.shownName(),
+             .source = {.kind = row.isRange() ? CopySource::Kind::Cells : CopySource::Kind::Chart,
+                        .file = file,
+                        .sheet = row.sheet,
+                        .chart = row.isEmbeddedChart() ? row.name : "",
+                        .address = objects.addressOf(row)}});
+    }
+    return items;
+}
+
 }  // namespace
 
 ReviewTexts reviewExport(session::OfficeSession& session, const ExportList& list,
                          const std::vector<ExportChoices>& exports) {
     ReviewTexts texts;
-    reviewItems(session, list, texts);
+    RowObjects objects(session);
+    reviewItems(session, list, objects, texts);
     for (const ExportChoices& choices : exports) {
-        if (choices.destination == Destination::PowerPoint) {
+        if (choices.destination == Destination::PowerPoint)
             reviewPowerPoint(session, list, choices, texts.Blockers);
-            if (texts.Blockers.empty())
-                reviewFormat(session, list, choices.format, "PowerPoint.Application", texts);
-        } else if (choices.destination == Destination::Word) {
+        else if (choices.destination == Destination::Word)
             reviewWord(session, texts.Blockers);
-            if (texts.Blockers.empty())
-                reviewFormat(session, list, choices.format, "Word.Application", texts);
-        }
     }
+    if (!texts.Blockers.empty()) return texts;
+    const auto items = takenItems(session, list, objects);
+    for (const ExportChoices& choices : exports) {
+        if (choices.destination == Destination::PowerPoint ||
+            choices.destination == Destination::Word)
+            reviewFormat(session, items, choices, texts);
+    }
+    reviewLooks(session, items, exports, texts);
     return texts;
 }
 

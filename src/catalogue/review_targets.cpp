@@ -121,37 +121,17 @@ void reviewPowerPoint(session::OfficeSession& session, const ExportList& list,
     if (choices.predefinedSlides) reviewSlideNumbers(session, list, blockers);
 }
 
-void reviewFormat(session::OfficeSession& session, const ExportList& list, ExportFormat format,
-                  std::string_view application, ReviewTexts& texts) {
-    using office::CopySource;
+void reviewFormat(session::OfficeSession& session, const std::vector<office::PasteItem>& items,
+                  const ExportChoices& choices, ReviewTexts& texts) {
+    const ExportFormat format = choices.format;
     if (format == ExportFormat::Pictures) return;
-    office::ContinueOnFailure scope;
-    std::string file;
-    scope.attempt([&] {
-        file = session.ActiveBook.get("FullName").toText();
-        // A workbook that was never saved has a name and no path.
-        if (file == session.ActiveBook.get("Name").toText()) file.clear();
-    });
-    RowObjects objects(session);
-    std::vector<office::PasteItem> items;
-    for (const ExportItem& row : list.rows) {
-        if (!objects.isExportable(row)) continue;
-        items.push_back(
-            {.name = row.shownName(),
-             .source = {.kind = row.isRange() ? CopySource::Kind::Cells : CopySource::Kind::Chart,
-                        .file = file,
-                        .sheet = row.sheet,
-                        .chart = row.isEmbeddedChart() ? row.name : "",
-                        .address = {}}});
-        // What a table would lose is found by its cells.
-        if (row.isRange() && format == ExportFormat::Editable)
-            items.back().source.address = scope.read(
-                [&] { return rangeOf(session, row).get("Address").toText(); }, std::string());
-    }
+    const char* const application = choices.destination == Destination::PowerPoint
+                                        ? "PowerPoint.Application"
+                                        : "Word.Application";
     const auto as = format == ExportFormat::Editable   ? office::PasteAs::Default
                     : format == ExportFormat::Embedded ? office::PasteAs::Embedded
                                                        : office::PasteAs::Linked;
-    scope.attempt([&] {
+    office::ContinueOnFailure().attempt([&] {
         for (const std::string& line : session.suite.remarksOn(application, as, items))
             AddReviewItem(texts.ReviewItems, line);
     });

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "catalogue/export_list.h"
@@ -23,7 +22,7 @@ void reviewPowerPoint(session::OfficeSession& session, const ExportList& list,
 void reviewWord(session::OfficeSession& session, std::vector<std::string>& blockers);
 
 /// What the chosen format can't do for the items that it will be asked for.
-void reviewFormat(session::OfficeSession& session, const ExportList& list, ExportFormat format,
-                  std::string_view application, ReviewTexts& texts);
+void reviewFormat(session::OfficeSession& session, const std::vector<office::PasteItem>& items,
+                  const ExportChoices& choices, ReviewTexts& texts);
 
 }  // namespace catalogue

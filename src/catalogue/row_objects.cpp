@@ -69,10 +69,18 @@ bool RowObjects::isExportable(const ExportItem& row) {
     return isOnVisibleSheet(row) && !isItemGone(row);
 }
 
+const std::string& RowObjects::addressOf(const ExportItem& row) {
+    const auto [place, isNew] = addresses_.try_emplace(row.identity());
+    if (isNew && row.isRange()) {
+        const office::Object range = rangeFrom(sheetOf(row).object, session_, row);
+        place->second =
+            office::orElse([&] { return range.get("Address").toText(); }, std::string());
+    }
+    return place->second;
+}
+
 bool RowObjects::isMultipleAreaRow(const ExportItem& row) {
-    if (!row.isRange()) return false;
-    const office::Object range = rangeFrom(sheetOf(row).object, session_, row);
-    return office::orElse([&] { return range.get("Areas").get("Count").toLong() > 1; }, false);
+    return addressOf(row).find(',') != std::string::npos;
 }
 
 office::Object chartObjectOf(const session::OfficeSession& session, const ExportItem& row) {

@@ -32,6 +32,10 @@ public:
     /// Whether an export takes the row: checked, on a visible sheet, and not known to be gone.
     [[nodiscard]] bool isExportable(const ExportItem& row);
 
+    /// The cells of a row that is a range: "$B$4:$H$20", several areas with commas between them.
+    /// Empty for any other row, and if that can't be told.
+    [[nodiscard]] const std::string& addressOf(const ExportItem& row);
+
     /// Whether the row is a range of several areas, which can't be exported. False if that can't be
     /// told.
     [[nodiscard]] bool isMultipleAreaRow(const ExportItem& row);
@@ -47,6 +51,7 @@ private:
     session::OfficeSession& session_;
     /// By collection and name.
     std::map<std::string, Sheet> sheets_;
+    std::map<session::ItemIdentity, std::string> addresses_;
 };
 
 /// What holds the chart of a row on its sheet. `Failure` with the words of `chartNotFound` if the

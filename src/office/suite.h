@@ -9,6 +9,7 @@
 
 #include "office/copied.h"
 #include "office/picture.h"
+#include "office/size.h"
 #include "office/value.h"
 
 namespace office {
@@ -23,10 +24,18 @@ enum class Pacing { FinishedOnReturn, Asynchronous };
 /// Something that is to be pasted, under the name that the user knows it by.
 struct PasteItem {
     std::string name;
-    /// As far as it is known before the copy. Cells have an address if they are to be a table.
+    /// As far as it is known before the copy.
     CopySource source;
     /// Of a table where it is to go; none: any number.
     std::optional<std::size_t> mostColumns = {};
+};
+
+/// What decides whether cells that are shown somewhere else can be read there.
+struct ShownCells {
+    /// None of few cells, which are small.
+    Size size;
+    double lettersPt = 0;
+    bool haveSparklines = false;
 };
 
 /// The office applications of this machine, apart from their object models: which of them run,
@@ -59,6 +68,9 @@ public:
                                                const std::vector<PasteItem>&) {
         return {};
     }
+    /// Of each item, nothing of those that are no cells of the active workbook; empty where that
+    /// can't be told.
+    virtual std::vector<ShownCells> shownCells(const std::vector<PasteItem>&) { return {}; }
 
     /// The top window with this class and caption; an empty one of the two means any. 0 if there is
     /// none.

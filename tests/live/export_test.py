@@ -221,12 +221,13 @@ class TheSampleWorkbook(ProgramTest):
         sheet.conditional_format("N1:N4", {"type": "text", "criteria": "containing", "value": "n", "format": bold})
         sheet.conditional_format("N5:N6", {"type": "duplicate", "format": bold})
         sheet.add_table("L1:M4")
+        sheet.add_sparkline("C3", {"range": "Data!B1:B4"})
         for name, cells in (("Formulas", "$H$1:$H$2"), ("Twins", "$H$5"), ("Numbers", "$I$1:$I$2"),
                             ("Bars", "$J$1:$J$2"), ("Scales", "$O$1:$O$2"), ("Coloured", "$L$2:$M$9"), ("Plainly", "$N$1:$N$6"),
                             ("Plain scale", "$G$2"), ("Pale", "$G$1"),
                             ("Big", "$CA$1:$FV$51"), ("Signs", "$B$2:$C$9"), ("Words", "$A$1:$A$3"),
                             ("Covered", "$D$4:$F$9"), ("All of it", "$A$1:$F$9"), ("Plain", "$A$2:$A$9"),
-                            ("Whole", "$K:$K")):
+                            ("Whole", "$K:$K"), ("Lines", "$C$2:$C$4"), ("Plain_beside", "$D$1:$D$3"), ("Log", "$Q$1:$Q$400")):
             book.define_name(name.replace(" ", "_"), f"=Data!{cells}")
         book.close()
         code, _, errors = self.run_program(path, "--all", "--check", "--format", "editable", "--output", output)
@@ -234,7 +235,8 @@ class TheSampleWorkbook(ProgramTest):
         self.assertFalse(output.exists())
         for loss, names in (("icons", '"All_of_it" and "Signs"'), ("look", '"All_of_it" and "Words"'),
                             ("drawings", '"All_of_it" and "Covered"'), ("5,000", '"Big"'), ("formula", '"Pale".*"Scales".*"Twins"'),
-                            ("numbers are", '"Numbers"'), ("bars", '"Bars"'), ("table style", '"Coloured"')):
+                            ("numbers are", '"Numbers"'), ("bars", '"Bars"'), ("table style", '"Coloured"'),
+                            ("sparklines", '"All_of_it", "Lines" and "Signs"'), ("too small to read", '"Big" and "Log"')):
             self.assertRegex(errors, f"(?m)^  - [^\"]*{names} .*{loss}")
         self.assertNotRegex(errors, "Plain|Whole|Formulas")
 

@@ -55,6 +55,10 @@ public:
     void clearClipboard() override;
     std::vector<std::uint8_t> clipboardPicture(office::Sharpness sharpness) override;
     office::ClipboardPtr clipboard() override { return state_->clipboard; }
+    std::vector<office::ShownCells> shownCells(
+        const std::vector<office::PasteItem>& items) override;
+    /// What it says of the cells of an item.
+    void show(const std::string& item, office::ShownCells cells) { shownCells_[item] = cells; }
     std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;
     /// What the suite says of each item that is to be pasted in this form.
@@ -80,6 +84,7 @@ private:
     office::WindowHandle raised_ = 0;
     office::WindowHandle locked_ = 0;
     std::map<office::PasteAs, std::string> remarks_;
+    std::map<std::string, office::ShownCells> shownCells_;
 };
 
 }  // namespace office_double

@@ -30,6 +30,10 @@ public:
     }
     office::ClipboardPtr clipboard() override { return below_.clipboard(); }
     office::PictureFilesPtr pictureFiles() override { return below_.pictureFiles(); }
+    std::vector<office::ShownCells> shownCells(
+        const std::vector<office::PasteItem>& items) override {
+        return below_.shownCells(items);
+    }
     std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;

@@ -12,6 +12,7 @@
 #include "office/libreoffice/excel/application.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/copied.h"
+#include "office/libreoffice/excel/shown_cells.h"
 #include "office/libreoffice/excel/table_losses.h"
 #include "office/libreoffice/guard.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
@@ -145,6 +146,15 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
             desk_->opensHidden() ? "an ordinary .pptx first, and add to that one"
                                  : ".odp, or use murvane-export"));
     return remarks;
+}
+
+std::vector<office::ShownCells> LibreOfficeSuite::shownCells(
+    const std::vector<office::PasteItem>& items) {
+    if (!desk_) return {};
+    return translated(*connection_, "Suite.shownCells", [&] {
+        const auto book = desk_->active<excel::CalcDocument>();
+        return book ? excel::shownCells(*book, items) : std::vector<office::ShownCells>();
+    });
 }
 
 /// All workbooks in one .pptx become one part of it. A private suite writes nothing else.

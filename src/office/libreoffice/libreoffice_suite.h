@@ -59,6 +59,8 @@ public:
     std::vector<std::uint8_t> clipboardPicture(office::Sharpness sharpness) override;
     office::ClipboardPtr clipboard() override { return clipboard_; }
     office::PictureFilesPtr pictureFiles() override;
+    std::vector<office::ShownCells> shownCells(
+        const std::vector<office::PasteItem>& items) override;
     std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;

@@ -68,25 +68,67 @@ office::model::excel::CellBlocks styledTablesIn(office::package::Package package
     return blocks;
 }
 
-}  // namespace
+/// They stand behind all cells, which nobody has to read for them.
+std::string_view sparklineMarkupIn(std::string_view sheet) {
+    constexpr std::string_view name = "sparklineGroups";
+    const std::size_t close = sheet.rfind(name);
+    if (close == std::string_view::npos || close == 0) return {};
+    const std::size_t open = sheet.rfind(name, close - 1);
+    if (open == std::string_view::npos) return {};
+    const std::size_t begin = sheet.rfind('<', open);
+    const std::size_t end = sheet.find('>', close);
+    if (begin == std::string_view::npos || end == std::string_view::npos) return {};
+    return sheet.substr(begin, end + 1 - begin);
+}
 
-office::model::excel::CellBlocks readStyledTables(const rtl::OUString& url,
-                                                  const std::string& sheetPart) {
+office::model::excel::CellBlocks sparklinesIn(const office::package::Package& package,
+                                              const std::string& sheetPart) {
+    using office::package::childCalled;
+    office::model::excel::CellBlocks blocks;
+    const std::string sheet = package.read(sheetPart);
+    const std::string_view markup = sparklineMarkupIn(sheet);
+    if (markup.empty()) return blocks;
+    const office::package::Xml groups(markup, sheetPart);
+    for (const pugi::xml_node group : groups.root().children()) {
+        for (const pugi::xml_node one : childCalled(group, "sparklines").children()) {
+            const auto cells =
+                office::model::excel::blockOf(childCalled(one, "sqref").text().get());
+            if (cells) blocks.push_back(*cells);
+        }
+    }
+    return blocks;
+}
+
+/// What is read of the file of a workbook; nothing of one that is no package.
+template <class Read>
+auto readFrom(const rtl::OUString& url, Read read)
+    -> decltype(read(office::package::Package::open(""))) {
     if (!url.startsWith("file:")) return {};
     try {
-        return styledTablesIn(office::package::Package::open(pathOfUrl(url)), sheetPart);
+        return read(office::package::Package::open(pathOfUrl(url)));
     } catch (const office::package::PackageError&) {
         return {};
     }
 }
 
+}  // namespace
+
+office::model::excel::CellBlocks readStyledTables(const rtl::OUString& url,
+                                                  const std::string& sheetPart) {
+    return readFrom(url, [&](office::package::Package package) {
+        return styledTablesIn(std::move(package), sheetPart);
+    });
+}
+
+office::model::excel::CellBlocks readSparklines(const rtl::OUString& url,
+                                                const std::string& sheetPart) {
+    return readFrom(url, [&](const office::package::Package& package) {
+        return sparklinesIn(package, sheetPart);
+    });
+}
+
 WorkbookFacts readWorkbookFacts(const rtl::OUString& url) {
-    if (!url.startsWith("file:")) return {};
-    try {
-        return factsOf(office::package::Package::open(pathOfUrl(url)));
-    } catch (const office::package::PackageError&) {
-        return {};
-    }
+    return readFrom(url, factsOf);
 }
 
 }  // namespace libreoffice::excel

@@ -35,4 +35,8 @@ struct WorkbookFacts {
 [[nodiscard]] office::model::excel::CellBlocks readStyledTables(const rtl::OUString& url,
                                                                 const std::string& sheetPart);
 
+/// The cells of a sheet with sparklines, of which LibreOffice tells nothing.
+[[nodiscard]] office::model::excel::CellBlocks readSparklines(const rtl::OUString& url,
+                                                              const std::string& sheetPart);
+
 }  // namespace libreoffice::excel
