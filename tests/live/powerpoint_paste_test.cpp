@@ -276,6 +276,9 @@ TEST_F(PasteLive, BindsALinkToTheFileAndNeedsOne) {
     shapes.call("PasteSpecial", arg("Link", true));
     EXPECT_EQ(property<rtl::OUString>(lastShape(), "LinkURL"), fileUrl(file("sheets.xlsx")));
     expectSaved(deck, 3, {"<p:link"});
+    const auto opened = as<css::sheet::XSpreadsheetDocument>(
+        property<uno::Reference<css::frame::XModel>>(lastShape(), "Model"));
+    EXPECT_TRUE(opened->getSheets()->hasByName("Data"));
     desk->record<excel::CalcDocument>(desk->load("private:factory/scalc", true))->markActive();
     excelApp.get("ActiveSheet").get("Range", "A1:B3").call("Copy");
     const std::int32_t before = shapes.get("Count").toLong();

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <com/sun/star/drawing/XShape.hpp>
+#include <com/sun/star/graphic/XGraphic.hpp>
 
+#include <string>
 #include <utility>
 
 #include "office/libreoffice/powerpoint/impress_slide.h"
@@ -33,5 +35,11 @@ private:
 /// back, what comes from elsewhere is lost. `office::Failure` 1004 if it can't be made; then
 /// nothing is put there.
 [[nodiscard]] ShapeRef addTable(ImpressSlide& slide, const office::TableLook& table, double scale);
+
+/// Puts an object on top of a slide's other shapes that leads to a workbook's file, and shows the
+/// picture until somebody opens or updates it; the file isn't loaded.
+[[nodiscard]] ShapeRef addLink(ImpressSlide& slide, const std::string& file,
+                               const uno::Reference<css::graphic::XGraphic>& picture,
+                               const css::awt::Size& size);
 
 }  // namespace libreoffice::powerpoint
