@@ -300,6 +300,19 @@ TEST_F(ExcelPictures, HasLettersOfTheAutomaticColourWhiteOnADarkGround) {
     EXPECT_GT(lightest, 200);
 }
 
+TEST_F(ExcelPictures, ShowsConditionalFormatsAsTheSheetDoes) {
+    const Object book = open("tables.xlsx");
+    const Object twins = sheet(book, "Twins");
+    const auto bytes = [&](const char* cells) {
+        return bytesOf(pictureOf(twins.get("Range", cells)));
+    };
+    EXPECT_LT(meanDifference(bytes("A1:C4"), bytes("E1:G4")), 1);
+    EXPECT_LT(meanDifference(bytes("K2:K3"), bytes("M2:M3")), 1) << "a part of a scale";
+    EXPECT_GT(meanDifference(bytes("K2:K3"), bytes("M1:M2")), 1);
+    expectMembers(book, {{"Saved", true}});
+    EXPECT_EQ(openDocuments().size(), 1U);
+}
+
 TEST_F(ExcelPictures, ShowsAHiddenSheetOnlyForTheMomentOfTheCopy) {
     const Object book = open("sheets.xlsx");
     const Object hidden = sheet(book, "Hidden");

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <set>
 #include <utility>
 
@@ -20,6 +21,7 @@
 #include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/html_places.h"
+#include "office/libreoffice/excel/selected_cells.h"
 
 namespace libreoffice::excel {
 
@@ -196,7 +198,23 @@ void BookLooks::forgetIfChanged() {
     if (!hasChanged_->exchange(false)) return;
     isTooLarge_.reset();
     page_.reset();
+    conditions_.clear();
     sheets_.clear();
+}
+
+std::vector<CellCondition> BookLooks::conditionsOn(SheetRecord& sheet,
+                                                   const model::CellBlock& block) {
+    forgetIfChanged();
+    const std::int32_t place = sheet.place();
+    auto all = conditions_.find(place);
+    if (all == conditions_.end()) {
+        const auto whole = model::CellBlock::wholeSheet();
+        all = conditions_.emplace(place, excel::conditionsOn(sheet, whole)).first;
+    }
+    std::vector<CellCondition> found;
+    std::copy_if(all->second.begin(), all->second.end(), std::back_inserter(found),
+                 [&](const CellCondition& each) { return meetsAny(each.blocks, block); });
+    return found;
 }
 
 bool BookLooks::isTooLarge() {
@@ -210,6 +228,7 @@ bool BookLooks::isTooLarge() {
 }
 
 SheetLooks* BookLooks::of(SheetRecord& sheet) {
+    const ShownForNow shown(sheet);
     if (isTooLarge()) return nullptr;
     if (!page_) read();
     const std::int32_t place = sheet.place();

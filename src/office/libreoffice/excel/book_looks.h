@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "office/libreoffice/excel/cell_conditions.h"
 #include "office/libreoffice/excel/cell_formats.h"
 #include "office/libreoffice/excel/html_places.h"
 #include "office/libreoffice/excel/sheet_record.h"
@@ -59,9 +60,13 @@ class BookLooks {
 public:
     explicit BookLooks(CalcDocument& book);
 
+    /// As `excel::conditionsOn`, which is asked once for a sheet.
+    [[nodiscard]] std::vector<CellCondition> conditionsOn(SheetRecord& sheet,
+                                                          const model::CellBlock& block);
     /// Whether that page would take seconds, as it is taken to where thousands of shapes are.
     [[nodiscard]] bool isTooLarge();
-    /// Of a sheet that is shown; nothing if the workbook is too large, or the suite fails.
+    /// Nothing if the workbook is too large, or the suite fails. The page holds no hidden sheet:
+    /// one is shown for the moment.
     [[nodiscard]] SheetLooks* of(SheetRecord& sheet);
 
 private:
@@ -73,6 +78,7 @@ private:
     std::shared_ptr<std::atomic<bool>> hasChanged_;
     std::optional<bool> isTooLarge_;
     std::optional<uno::Sequence<sal_Int8>> page_;
+    std::map<std::int32_t, std::vector<CellCondition>> conditions_;
     std::map<std::int32_t, SheetLooks> sheets_;
 };
 

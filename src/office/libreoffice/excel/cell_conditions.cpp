@@ -7,6 +7,7 @@
 #include <com/sun/star/sheet/XConditionalFormat.hpp>
 #include <com/sun/star/sheet/XConditionalFormats.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
+#include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
 
 #include <algorithm>
 
@@ -46,12 +47,48 @@ bool comparesCells(const CellCondition& condition) {
     return kind >= DUPLICATE && kind <= BELOW_EQUAL_AVERAGE;
 }
 
+std::vector<CellBlock> blocksOf(const uno::Reference<css::sheet::XConditionalFormat>& format) {
+    const auto ranges =
+        answered(property<uno::Reference<css::sheet::XSheetCellRanges>>(format, "Range"));
+    std::vector<CellBlock> blocks;
+    for (const auto& address : ranges->getRangeAddresses()) blocks.push_back(blockOf(address));
+    return blocks;
+}
+
 }  // namespace
+
+rtl::OUString styleNameOf(const CellCondition& condition) {
+    if (condition.kind != ConditionType::CONDITION && condition.kind != ConditionType::DATE)
+        return {};
+    return property<rtl::OUString>(condition.entry, "StyleName");
+}
+
+uno::Reference<css::beans::XMultiPropertyStates> cellStyle(
+    const uno::Reference<css::frame::XModel>& book, const rtl::OUString& name) {
+    const auto families = as<css::style::XStyleFamiliesSupplier>(book)->getStyleFamilies();
+    const uno::Reference<css::container::XNameAccess> styles(families->getByName("CellStyles"),
+                                                             uno::UNO_QUERY_THROW);
+    if (!styles->hasByName(name)) return {};
+    return {styles->getByName(name), uno::UNO_QUERY_THROW};
+}
 
 bool meetsAny(const std::vector<CellBlock>& blocks, const CellBlock& cells) {
     return std::any_of(blocks.begin(), blocks.end(), [&](const CellBlock& each) {
         return intersection(each, cells).has_value();
     });
+}
+
+std::vector<CellCondition> conditionsOf(
+    const uno::Reference<css::sheet::XConditionalFormat>& format) {
+    const std::vector<CellBlock> blocks = blocksOf(format);
+    std::vector<CellCondition> all;
+    const sal_Int32 count = format->getCount();
+    for (sal_Int32 i = 0; i < count; ++i) {
+        const uno::Reference<css::sheet::XConditionEntry> entry(format->getByIndex(i),
+                                                                uno::UNO_QUERY_THROW);
+        all.push_back({blocks, entry, entry->getType()});
+    }
+    return all;
 }
 
 std::vector<CellCondition> conditionsOn(const SheetRecord& sheet, const CellBlock& block) {
@@ -60,17 +97,9 @@ std::vector<CellCondition> conditionsOn(const SheetRecord& sheet, const CellBloc
         sheet.sheet(), "ConditionalFormats");
     if (!formats.is()) return found;
     for (const auto& format : formats->getConditionalFormats()) {
-        const auto ranges =
-            answered(property<uno::Reference<css::sheet::XSheetCellRanges>>(format, "Range"));
-        std::vector<CellBlock> blocks;
-        for (const auto& address : ranges->getRangeAddresses()) blocks.push_back(blockOf(address));
-        if (!meetsAny(blocks, block)) continue;
-        const sal_Int32 count = format->getCount();
-        for (sal_Int32 i = 0; i < count; ++i) {
-            const uno::Reference<css::sheet::XConditionEntry> entry(format->getByIndex(i),
-                                                                    uno::UNO_QUERY_THROW);
-            found.push_back({blocks, entry, entry->getType()});
-        }
+        if (!meetsAny(blocksOf(format), block)) continue;
+        const auto conditions = conditionsOf(format);
+        found.insert(found.end(), conditions.begin(), conditions.end());
     }
     return found;
 }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <com/sun/star/beans/XMultiPropertyStates.hpp>
+#include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/sheet/XConditionEntry.hpp>
+#include <com/sun/star/sheet/XConditionalFormat.hpp>
 
 #include <vector>
 
@@ -15,10 +18,18 @@ struct CellCondition {
     /// Of `css::sheet::ConditionEntryType`.
     sal_Int32 kind;
 };
+/// The name of the style that a condition gives its cells; empty for icons, bars and scales.
+[[nodiscard]] rtl::OUString styleNameOf(const CellCondition& condition);
+/// Null if the workbook has no such style.
+[[nodiscard]] uno::Reference<css::beans::XMultiPropertyStates> cellStyle(
+    const uno::Reference<css::frame::XModel>& book, const rtl::OUString& name);
 /// Whether one of some blocks has cells of another.
 [[nodiscard]] bool meetsAny(const std::vector<model::CellBlock>& blocks,
                             const model::CellBlock& cells);
 
+/// All of one format.
+[[nodiscard]] std::vector<CellCondition> conditionsOf(
+    const uno::Reference<css::sheet::XConditionalFormat>& format);
 /// Those that touch a block of cells.
 [[nodiscard]] std::vector<CellCondition> conditionsOn(const SheetRecord& sheet,
                                                       const model::CellBlock& block);

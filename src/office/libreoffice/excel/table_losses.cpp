@@ -8,7 +8,6 @@
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XDataBarEntry.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
-#include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
 #include <com/sun/star/text/XText.hpp>
 
 #include <algorithm>
@@ -114,14 +113,10 @@ bool barEndsInFormula(const CellCondition& condition) {
 }
 
 bool hasNumberFormat(const CellCondition& condition, CalcDocument& book) {
-    const auto families = as<css::style::XStyleFamiliesSupplier>(book.model())->getStyleFamilies();
-    const uno::Reference<css::container::XNameAccess> styles(families->getByName("CellStyles"),
-                                                             uno::UNO_QUERY_THROW);
-    const auto name = property<rtl::OUString>(condition.entry, "StyleName");
-    if (!styles->hasByName(name)) return false;
-    const uno::Reference<css::beans::XPropertyState> style(styles->getByName(name),
-                                                           uno::UNO_QUERY_THROW);
-    return style->getPropertyState("NumberFormat") == css::beans::PropertyState_DIRECT_VALUE;
+    const auto style = cellStyle(book.model(), styleNameOf(condition));
+    if (!style.is()) return false;
+    return as<css::beans::XPropertyState>(style)->getPropertyState("NumberFormat") ==
+           css::beans::PropertyState_DIRECT_VALUE;
 }
 
 /// Whether parts of a cell's text look different. The suite calls a look ambiguous then, whichever

@@ -107,7 +107,7 @@ public:
     DressedCells(SheetRecord& sheet, const model::CellBlock& block,
                  const std::vector<CellCondition>& conditions)
         : blocks_(UncopiedConditions(conditions).within(block)),
-          looks_(blocks_.empty() ? nullptr : looksOf(sheet)) {}
+          looks_(blocks_.empty() ? nullptr : sheet.book().looks().of(sheet)) {}
 
     /// Nothing for a cell that the copy shows rightly, or nobody knows better.
     [[nodiscard]] const CellDress* at(const model::CellBlock& cell) const {
@@ -116,12 +116,6 @@ public:
     }
 
 private:
-    /// The page holds no hidden sheet.
-    static SheetLooks* looksOf(SheetRecord& sheet) {
-        const ShownForNow shown(sheet);
-        return sheet.book().looks().of(sheet);
-    }
-
     std::vector<model::CellBlock> blocks_;
     SheetLooks* looks_;
 };

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <rtl/ustring.hxx>
+
+#include <vector>
+
+#include "office/libreoffice/excel/cell_conditions.h"
+#include "office/libreoffice/excel/sheet_record.h"
+
+namespace libreoffice::excel {
+
+/// A style of conditional formats, and where among some cells their conditions hold.
+struct HeldStyle {
+    rtl::OUString name;
+    std::vector<model::CellBlock> cells;
+};
+
+/// The styles of those of the conditions on a block that a picture of its copy shows otherwise
+/// than the sheet does: it sees the cells around the block empty, and where a condition holds it
+/// takes what the style leaves to the cell from the style of all cells. Nothing where the picture
+/// is right, and none of a style of which the page of the workbook doesn't tell where it is.
+[[nodiscard]] std::vector<HeldStyle> heldStylesOn(SheetRecord& sheet, const model::CellBlock& block,
+                                                  const std::vector<CellCondition>& conditions);
+
+}  // namespace libreoffice::excel
