@@ -54,6 +54,36 @@ TEST_F(ExcelSheets, KeepsItsKnowledgeOfSheetsThatTheUserRenamesMovesAndDeletes) 
     EXPECT_EQ(namesIn(book.get("Sheets")), (Names{"Mine", "Data", "Alike", "Buried"}));
 }
 
+TEST_F(ExcelSheets, AsksAgainAfterItsOwnChangesAloneWhereNobodyElseMakesAny) {
+    desk->isUndisturbed = true;
+    const Object book = open("sheets.xlsx");
+    const Object data = sheet(book, "Data");
+    const auto named = [&] {
+        const Value cells = book.get("Names").get("Item", "Moves").get("RefersToRange");
+        return cells.get("Worksheet").get("Name").toText() + cells.get("Address").toText();
+    };
+    EXPECT_NE(failureOf(named), 0) << "no such name yet";
+    for (const char* cell : {"$A$1", "$B$2"}) {
+        book.get("Names").call("Add", "Moves", std::string("=Data!") + cell);
+        EXPECT_EQ(named(), std::string("Data") + cell);
+    }
+    data.put("Name", "Numbers");
+    EXPECT_EQ(named(), "Numbers$B$2");
+    userRenames("Numbers", "Theirs");
+    EXPECT_EQ(callsOf([&] { EXPECT_EQ(data.get("Name").toText(), "Numbers"); }), 0);
+
+    const Object hidden = sheet(book, "Hidden");
+    for (const std::int32_t shown : {-1, 0}) {
+        hidden.put("Visible", shown);
+        EXPECT_EQ(hidden.get("Visible").toLong(), shown);
+    }
+    const Object charts = sheet(book, "Alike").call("ChartObjects").toObject();
+    charts.call("Item", 1).call("Delete");
+    EXPECT_EQ(charts.get("Count").toLong(), 0);
+    hidden.call("Delete");
+    EXPECT_EQ(namesIn(book.get("Worksheets")), (Names{"Theirs", "Alike", "Buried"}));
+}
+
 TEST_F(ExcelSheets, SaysSoWhenLibreOfficeKeepsTheLastSheetVisible) {
     const Object book = open("lost.xlsx");
     book.get("Charts").get("Item", 1).put("Visible", false);

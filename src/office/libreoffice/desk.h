@@ -74,6 +74,9 @@ public:
     /// Measures texts; null until the first one is measured.
     std::shared_ptr<excel::TextWidths> textWidths;
 
+    /// Whether nobody else, be it a user or a program, reaches what is open in the suite.
+    bool isUndisturbed = false;
+
     /// Nothing in the suite answers to these.
     office::model::excel::Settings excelSettings;
 

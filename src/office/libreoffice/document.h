@@ -38,7 +38,7 @@ public:
     [[nodiscard]] std::string identity() const;
     /// The file's address; empty for a document never saved.
     [[nodiscard]] rtl::OUString url() const { return file_.isEmpty() ? model_->getURL() : file_; }
-    /// Names the file of a document that was loaded apart from it.
+    /// Names the file of a document that was loaded apart from it, or that keeps the one it has.
     void standFor(const rtl::OUString& file) { file_ = file; }
     [[nodiscard]] uno::Reference<css::frame::XController> controller() const {
         return model_->getCurrentController();

@@ -41,7 +41,9 @@ std::unique_ptr<LibreOfficeSuite> LibreOfficeSuite::attachToRunning() {
 
 std::unique_ptr<LibreOfficeSuite> LibreOfficeSuite::startPrivate(
     std::chrono::milliseconds patience, const std::function<bool()>& isUnwanted) {
-    return on(PrivateInstance::start(patience, isUnwanted));
+    auto suite = on(PrivateInstance::start(patience, isUnwanted));
+    suite->desk_->isUndisturbed = true;
+    return suite;
 }
 
 std::unique_ptr<LibreOfficeSuite> LibreOfficeSuite::on(std::unique_ptr<PrivateInstance> instance) {

@@ -40,7 +40,7 @@ public:
         std::chrono::milliseconds patience = std::chrono::seconds(60),
         const std::function<bool()>& isUnwanted = {});
 
-    /// The same over an instance that has been started.
+    /// The same over an instance that has been started, and that others may have a way to.
     static std::unique_ptr<LibreOfficeSuite> on(std::unique_ptr<PrivateInstance> instance);
 
     ~LibreOfficeSuite() override;

@@ -97,7 +97,9 @@ model::CellBlocks selectedBlocks(CalcDocument& book,
 CalcDocument::CalcDocument(Desk& desk, uno::Reference<css::frame::XModel> calc)
     : Document(std::move(calc)),
       desk_(desk),
-      formats_(desk.connection(), this->model()) {}
+      formats_(desk.connection(), this->model()) {
+    if (isUndisturbed()) standFor(url());
+}
 
 SheetList& CalcDocument::sheetList() {
     if (!sheets_) {

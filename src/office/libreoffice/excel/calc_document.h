@@ -6,6 +6,7 @@
 #include <com/sun/star/sheet/XSpreadsheetView.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -40,6 +41,12 @@ public:
 
     [[nodiscard]] Desk& desk() const { return desk_; }
     [[nodiscard]] const Connection& connection() const { return desk_.connection(); }
+    /// Whether nobody but this program changes the workbook.
+    [[nodiscard]] bool isUndisturbed() const { return desk_.isUndisturbed; }
+    /// How many times this program has changed names, sheets or charts of it; what it writes into
+    /// cells doesn't count.
+    [[nodiscard]] std::uint64_t ownChanges() const { return ownChanges_; }
+    void noteOwnChange() { ++ownChanges_; }
     [[nodiscard]] SheetList& sheetList();
     [[nodiscard]] NumberFormats& formats() { return formats_; }
     [[nodiscard]] BookLooks& looks();
@@ -93,6 +100,7 @@ private:
 
     Desk& desk_;
     bool leavesFileAlone_ = false;
+    std::uint64_t ownChanges_ = 0;
     std::optional<WorkbookFacts> facts_;
     std::optional<SheetList> sheets_;
     std::optional<NamedRanges> names_;

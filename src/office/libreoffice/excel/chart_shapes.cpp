@@ -63,7 +63,7 @@ ChartShape::ChartShape(CalcDocument& book, uno::Reference<css::drawing::XShape> 
       hasName_(hasName) {}
 
 std::string ChartShape::name() {
-    if (!hasName_) return name_;
+    if (!hasName_ || book_.isUndisturbed()) return name_;
     static const auto names = namesOf({"Name"});
     std::string now = textOf(properties_->getPropertyValues(names)[0]);
     return now == ownName_ ? name_ : now;
@@ -100,6 +100,7 @@ void ChartShape::select() {
 void ChartShape::remove() {
     const auto page = as<css::container::XChild>(shape_)->getParent();
     as<css::drawing::XShapes>(page)->remove(shape_);
+    book_.noteOwnChange();
 }
 
 ChartShapes::ChartShapes(CalcDocument& book, uno::Reference<css::sheet::XSpreadsheet> sheet)
@@ -107,6 +108,7 @@ ChartShapes::ChartShapes(CalcDocument& book, uno::Reference<css::sheet::XSpreads
       sheet_(std::move(sheet)) {}
 
 const std::vector<ChartShapePtr>& ChartShapes::all() {
+    if (look_.holds(book_)) return charts_;
     // Asked of the sheet anew each time: the collection keeps the place that the sheet had when it
     // was made, and reads another sheet's charts once one has been inserted in front.
     if (!supplier_.is()) supplier_ = as<css::table::XTableChartsSupplier>(sheet_);
@@ -115,6 +117,7 @@ const std::vector<ChartShapePtr>& ChartShapes::all() {
                                                           uno::UNO_SET_THROW);
     const auto keys = charts->getElementNames();
     if (keys != seenKeys_) refresh(keys);
+    look_.note(book_);
     return charts_;
 }
 

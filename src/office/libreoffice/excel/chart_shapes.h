@@ -14,6 +14,7 @@
 #include <utility>
 #include <vector>
 
+#include "office/libreoffice/excel/last_look.h"
 #include "office/libreoffice/uno_values.h"
 #include "office/model/excel/sheet.h"
 
@@ -102,6 +103,7 @@ private:
     uno::Reference<css::sheet::XSpreadsheet> sheet_;
     uno::Reference<css::table::XTableChartsSupplier> supplier_;
     uno::Sequence<rtl::OUString> seenKeys_;
+    LastLook look_;
     std::vector<ChartShapePtr> charts_;
 };
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 
+#include "office/libreoffice/at_end.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/unrecorded.h"
 #include "office/text.h"
@@ -74,7 +75,7 @@ std::optional<model::CellsOfSheet> cellsOfContents(std::string_view contents) {
     return cells;
 }
 
-std::string contentsOf(const model::CellsOfSheet& cells) {
+std::string contentsFor(const model::CellsOfSheet& cells) {
     std::string contents;
     for (const model::CellBlock& block : cells.blocks) {
         if (!contents.empty()) contents += '~';
@@ -106,6 +107,19 @@ std::vector<std::string> NamedRanges::all() {
     return names;
 }
 
+NamedRanges::Seen& NamedRanges::seen() {
+    if (!look_.holds(book_)) seen_ = {};
+    look_.note(book_);
+    return seen_;
+}
+
+bool NamedRanges::has(std::string_view name) {
+    auto& known = seen().isThere;
+    const std::string wanted(name);
+    if (const auto found = known.find(wanted); found != known.end()) return found->second;
+    return known[wanted] = storedName(name).has_value();
+}
+
 std::optional<rtl::OUString> NamedRanges::storedName(std::string_view name) const {
     if (const rtl::OUString plain = toUno(name); ranges_->hasByName(plain)) return plain;
     if (!isGivenByExcel(name)) return std::nullopt;
@@ -132,20 +146,25 @@ uno::Reference<css::sheet::XNamedRange> NamedRanges::fetch(const std::string& na
     return range;
 }
 
-std::optional<model::NamedCells> NamedRanges::cells(const std::string& name) {
-    auto range = fetch(name);
-    std::string contents = fromUno(range->getContent());
+std::string NamedRanges::contentsOf(const std::string& name) {
+    if (const auto known = seen().contents.find(name); known != seen_.contents.end())
+        return known->second;
+    std::string contents = fromUno(fetch(name)->getContent());
     if (contents.empty()) {
         fetched_.erase(name);
-        range = fetch(name);
-        contents = fromUno(range->getContent());
+        contents = fromUno(fetch(name)->getContent());
     }
+    return seen_.contents[name] = contents;
+}
+
+std::optional<model::NamedCells> NamedRanges::cells(const std::string& name) {
+    const std::string contents = contentsOf(name);
     if (const auto cells = cellsOfContents(contents)) {
         const model::SheetPtr sheet = book_.findSheet(cells->sheet);
         if (!sheet) return std::nullopt;
         return model::NamedCells{book_.self(), sheet, cells->blocks};
     }
-    return couldBeRelative(contents) ? referred(range) : std::nullopt;
+    return couldBeRelative(contents) ? referred(fetch(name)) : std::nullopt;
 }
 
 /// Cells that are no fixed ones ("$Sales.A1") are where LibreOffice finds them from the name's own
@@ -165,9 +184,10 @@ bool NamedRanges::isVisible(const std::string& name) {
 }
 
 void NamedRanges::define(const std::string& name, const model::CellsOfSheet& cells, bool visible) {
-    const rtl::OUString contents = toUno(contentsOf(cells));
+    const rtl::OUString contents = toUno(contentsFor(cells));
     const sal_Int32 type = visible ? 0 : hiddenNameFlag;
     const Unrecorded quiet(book_);
+    const auto whenDone = atEnd([this] { book_.noteOwnChange(); });
     if (has(name)) {
         const auto known = fetch(name);
         known->setContent(contents);

@@ -86,12 +86,14 @@ bool SheetList::isThere(SheetRecord& sheet) {
 SheetRecordPtr SheetList::add(const std::string& name, std::int32_t place) {
     const Unrecorded quiet(book_);
     sheets_->insertNewByName(toUno(name), static_cast<sal_Int16>(place));
+    book_.noteOwnChange();
     return recordFor(name);
 }
 
 void SheetList::remove(const model::SheetPtr& sheet) {
     const Unrecorded quiet(book_);
     sheets_->removeByName(toUno(sheet->name()));
+    book_.noteOwnChange();
     const auto record = std::dynamic_pointer_cast<SheetRecord>(sheet);
     record->foundDeleted = true;
     std::erase(records_, record);

@@ -57,13 +57,14 @@ bool SheetRecord::isThere() {
 }
 
 std::string SheetRecord::name() {
-    return fromUno(named()->getName());
+    return book_.isUndisturbed() ? name_ : fromUno(named()->getName());
 }
 
 void SheetRecord::rename(const std::string& name) {
     const Unrecorded quiet(book_);
     named()->setName(toUno(name));
-    name_ = this->name();
+    book_.noteOwnChange();
+    name_ = fromUno(named()->getName());
 }
 
 std::int32_t SheetRecord::place() {
@@ -72,14 +73,16 @@ std::int32_t SheetRecord::place() {
 }
 
 bool SheetRecord::isShown() {
-    bool shown = true;
-    properties()->getPropertyValue("IsVisible") >>= shown;
-    return shown;
+    if (lookAtShown_.holds(book_)) return isShown_;
+    properties()->getPropertyValue("IsVisible") >>= isShown_;
+    lookAtShown_.note(book_);
+    return isShown_;
 }
 
 void SheetRecord::show(bool shown) {
     const Unrecorded quiet(book_);
     properties()->setPropertyValue("IsVisible", uno::Any(shown));
+    book_.noteOwnChange();
 }
 
 model::Visibility SheetRecord::visibility() {

@@ -116,6 +116,8 @@ private:
     uno::Reference<css::container::XNamed> named_;
     uno::Reference<css::sheet::XCellRangeAddressable> addressable_;
     std::string name_;
+    LastLook lookAtShown_;
+    bool isShown_ = true;
     ChartShapes charts_;
     /// As long as none was seen: those of a new sheet.
     SeenLine seenColumn_{0, 0, 2258};
