@@ -1,3 +1,4 @@
+#include <com/sun/star/document/XDocumentEventBroadcaster.hpp>
 #include <com/sun/star/lang/Locale.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/XArrayFormulaRange.hpp>
@@ -8,6 +9,8 @@
 #include <com/sun/star/util/XNumberFormatTypes.hpp>
 #include <com/sun/star/util/XNumberFormatsSupplier.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
+#include <com/sun/star/view/XSelectionSupplier.hpp>
+#include <cppuhelper/implbase1.hxx>
 #include <fmt/format.h>
 
 #include <utility>
@@ -63,6 +66,23 @@ std::string described(const CellLook& look) {
     if (look.columns * look.rows > 1) all += fmt::format(" {}x{}", look.columns, look.rows);
     return all;
 }
+
+/// Notes what is selected when the suite writes a copy of the workbook.
+class SelectionAtCopy : public cppu::WeakImplHelper1<css::document::XDocumentEventListener> {
+public:
+    explicit SelectionAtCopy(std::vector<std::string>& seen) : seen_(seen) {}
+    void SAL_CALL documentEventOccured(const css::document::DocumentEvent& event) override {
+        if (event.EventName != "OnCopyTo") return;
+        const auto window = as<css::frame::XModel>(event.Source)->getCurrentController();
+        const uno::Reference<css::table::XCellRange> cells(
+            as<css::view::XSelectionSupplier>(window)->getSelection(), uno::UNO_QUERY);
+        seen_.push_back(addressOf(libreoffice::excel::blockOf(cells)));
+    }
+    void SAL_CALL disposing(const css::lang::EventObject& /*source*/) override {}
+
+private:
+    std::vector<std::string>& seen_;
+};
 
 class ExcelTables : public ExcelLive {
 protected:
@@ -255,10 +275,15 @@ TEST_F(ExcelTables, ShowConditionsThatACopyDoesNotWorkOut) {
     std::uint64_t first = 0;
     first = callsOf([&] { EXPECT_EQ(looksOfRow(), expected); });
     EXPECT_LT(callsOf([&] { EXPECT_EQ(looksOfRow(), expected); }) + 20, first) << "read once";
+    EXPECT_EQ(looks("Ruled", "C7"), std::vector<std::string>{"Bonn fill=FFEEDD"});
     sheet(book, "Ruled").get("Range", "H6").put("Value", 0);
     expected[0] = "Hof";
     expected[1] = "5 right";
+    std::vector<std::string> selected;
+    as<css::document::XDocumentEventBroadcaster>(model())->addDocumentEventListener(
+        new SelectionAtCopy(selected));
     EXPECT_EQ(looksOfRow(), expected);
+    EXPECT_EQ(selected, std::vector<std::string>{"$C$7"}) << "not yet the cells, which take keys";
     // LibreOffice would write all cells down to it.
     const auto factory = as<css::lang::XMultiServiceFactory>(model());
     const auto shape =

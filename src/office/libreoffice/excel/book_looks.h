@@ -56,6 +56,8 @@ private:
 
 /// The cells of a workbook with all conditions worked out. The suite does so in nothing but a page
 /// of all sheets that are shown, which is read once, and again when the workbook has been changed.
+/// Shapes come and go unheard: they change no cell, and at most the page is larger once than it
+/// should be.
 class BookLooks {
 public:
     explicit BookLooks(CalcDocument& book);
