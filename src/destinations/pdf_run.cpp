@@ -62,12 +62,12 @@ private:
     bool createdWord_ = false;
 };
 
-/// How often a text takes a backspace until it has gone.
-std::size_t backspacesOver(const std::string& text) {
-    const auto lines = office::linesOf(text);
-    std::size_t count = lines.size() - 1;
-    for (const std::string& line : lines) count += office::charactersOf(line).size();
-    return count;
+/// The lines of a caption as those of one heading, which is one bookmark.
+std::string headingOf(const std::string& caption) {
+    std::string heading;
+    for (const std::string& line : office::linesOf(caption))
+        heading += (heading.empty() ? "" : "\v") + line;
+    return heading;
 }
 
 /// Lays the pages out: a heading, the item below it, the source line at the foot.
@@ -175,7 +175,7 @@ void PdfPages::pasteBelow(const std::string& heading) {
     if (!heading.empty()) {
         beginParagraph({.style = number::heading1, .beginsPage = !isFirstPage_, .spaceAfterPt = 6});
         selection_.call("TypeText", heading);
-        typed += backspacesOver(heading) + 1;
+        typed += office::charactersOf(heading).size() + 1;
     }
     beginParagraph();
     try {
@@ -198,9 +198,10 @@ void PdfPages::addItem(const ExportItem& row) {
     catalogue::CopyRowAsPicture(session_, row);
     session::SleepMilliseconds(session_, arrivedMs);
     double room = height_ - slackPt - (options_.includePath ? sourceLinePt : 0);
-    const bool hasHeading = options_.pageTitles && !row.caption.empty();
+    const std::string heading = options_.pageTitles ? headingOf(row.caption) : std::string();
+    const bool hasHeading = !heading.empty();
     if (hasHeading) room -= headingHeight(row.caption);
-    pasteBelow(hasHeading ? row.caption : std::string());
+    pasteBelow(heading);
     const Object shapes = document_.get("InlineShapes").toObject();
     const Object shape = shapes.get("Item", shapes.get("Count").toLong()).toObject();
     const double width = shape.get("Width").toDouble();

@@ -44,8 +44,9 @@ TEST_F(WordContract, TypesAtTheCaretAndMovesByLines) {
     caret.call("TypeText", "the ");
     caret.call("TypeParagraph");
     caret.call("MoveDown", arg("Count", 3));
-    caret.call("TypeText", ".");
-    EXPECT_EQ(paragraphsOf(saved("typed.docx")), (Lines{"first", "the ", "second ä."}));
+    caret.call("TypeText", ".\r\nthird\vand more");
+    EXPECT_EQ(paragraphsOf(saved("typed.docx")),
+              (Lines{"first", "the ", "second ä.", "third\nand more"}));
 }
 
 TEST_F(WordContract, AppendsPagesBehindAllText) {
@@ -84,8 +85,8 @@ TEST_F(WordContract, TakesEmptyParagraphsAndLettersOutAgain) {
     caret.put("Style", -63);
     goToNewPage();
     caret.put("Style", -1);
-    caret.call("TypeText", "ä言😀");
-    for (int i = 0; i < 5; ++i) caret.call("TypeBackspace");
+    caret.call("TypeText", "ä\v言😀");
+    for (int i = 0; i < 6; ++i) caret.call("TypeBackspace");
     copyItem("picture");
     caret.call("PasteSpecial");
     EXPECT_EQ(failureOf([&] { caret.call("TypeBackspace"); }), refused);
@@ -99,18 +100,20 @@ TEST_F(WordContract, TakesEmptyParagraphsAndLettersOutAgain) {
 /// Each label counts for itself, over what stood in the file before, too.
 TEST_F(WordContract, NumbersCaptionsByTheirLabels) {
     const Value labels = word.get("CaptionLabels");
-    labels.call("Add", "North & South");
-    EXPECT_EQ(failureOf([&] { labels.call("Add", "North & South"); }), refused);
+    // Shown in one line.
+    const char* const regions = "North\n&\tSouth";
+    labels.call("Add", regions);
+    EXPECT_EQ(failureOf([&] { labels.call("Add", regions); }), refused);
     const auto caption = [&](const char* label) {
         goToNewPage();
         selection().call("InsertCaption", arg("Label", label), arg("Title", ""));
     };
     EXPECT_EQ(failureOf([&] { caption("Unheard of"); }), refused);
-    for (const char* const label : {"Figure", "North & South", "Figure"}) caption(label);
+    for (const char* const label : {"Figure", regions, "Figure"}) caption(label);
     const std::string file = saved("captions.docx");
     document.call("Close", false);
     document = word.get("Documents").call("Open", file).toObject();
-    for (const char* const label : {"North & South", "Figure"}) caption(label);
+    for (const char* const label : {regions, "Figure"}) caption(label);
     Lines captions = paragraphsOf(saved("more captions.docx"));
     std::erase_if(captions, [](const std::string& line) { return line.size() < 2; });
     EXPECT_EQ(captions,

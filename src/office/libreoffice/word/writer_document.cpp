@@ -185,7 +185,6 @@ void WriterDocument::removeSelected(const TextPlace& place) {
     if (place.isSelection) caret_.sameRange()->setString(rtl::OUString());
 }
 
-/// Line ends become paragraphs.
 void WriterDocument::typeText(const std::string& text) {
     const TextPlace place = writablePlace("Selection.TypeText");
     const UndoGroup group(steps_, "Typing");
@@ -194,7 +193,8 @@ void WriterDocument::typeText(const std::string& text) {
     bool isFirst = true;
     for (const std::string& line : office::linesOf(text)) {
         if (!isFirst) place.text->insertControlCharacter(range, PARAGRAPH_BREAK, false);
-        place.text->insertString(range, toUno(line), false);
+        // LibreOffice takes these line ends for such lines.
+        place.text->insertString(range, toUno(office::replaceAll(line, "\v", "\n")), false);
         isFirst = false;
     }
 }

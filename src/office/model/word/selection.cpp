@@ -1,6 +1,7 @@
 #include <fmt/format.h>
 
 #include "office/model/word/objects.h"
+#include "office/text.h"
 
 namespace office::model::word {
 
@@ -22,6 +23,13 @@ private:
     void setFormat(const CallArguments& arguments, const Value& value);
     void setStyle(const CallArguments& arguments, const Value& number);
 };
+
+std::string inOneLine(const std::string& text) {
+    std::string all;
+    for (const std::string& line : linesOf(replaceAll(text, "\t", " ")))
+        all += (all.empty() ? "" : " ") + line;
+    return all;
+}
 
 /// Lines, the only unit of a move here, and what an unset one means.
 void requireLines(const CallArguments& arguments) {
@@ -142,7 +150,7 @@ void Selection::insertCaption(const CallArguments& arguments) {
     const std::string label = arguments.at(0).toText();
     if (!home().labels->has(label))
         refuse(arguments.source(), fmt::format("There is no label \"{}\"", label));
-    document().insertCaption({label, arguments.at(1, "").toText()});
+    document().insertCaption({inOneLine(label), inOneLine(arguments.at(1, "").toText())});
 }
 
 /// All that is set in a duplicate, in one step.

@@ -82,8 +82,8 @@ public:
 
 using TextObjectPtr = std::shared_ptr<TextObject>;
 
-/// A caption beneath an object: "Label 1" and a title behind it. The number is a field that counts
-/// the captions of this label from the beginning of the document.
+/// A caption beneath an object, which is one line: "Label 1" and a title behind it. The number is a
+/// field that counts the captions of this label from the beginning of the document.
 struct Caption {
     std::string label;
     std::string title;
@@ -128,6 +128,7 @@ public:
     /// One line or more; to the end of the text where there are not so many.
     virtual void moveDown(std::int32_t lines) = 0;
     virtual void moveToLineStart() = 0;
+    /// Line ends begin a new paragraph, and "\v" a new line of the same one.
     virtual void typeText(const std::string& text) = 0;
     virtual void typeParagraph() = 0;
     /// Takes out the letter ahead of the caret, or the empty paragraph with it: then the caret goes

@@ -15,12 +15,6 @@ namespace word = office::model::word;
 
 namespace {
 
-std::string oneLine(const std::string& text) {
-    std::string line = legible(text);
-    for (const char c : {'\n', '\r', '\t'}) std::replace(line.begin(), line.end(), c, ' ');
-    return line;
-}
-
 std::string withoutEndBlanks(std::string text) {
     const auto last = text.find_last_not_of(" \t\n\xC2\xA0");
     text.erase(last == std::string::npos ? 0 : last + 1);
@@ -68,7 +62,7 @@ std::string Captions::nameFor(const std::string& label) {
 }
 
 void Captions::write(pugi::xml_node paragraph, const word::Caption& caption, bool isLast) {
-    const std::string label = oneLine(caption.label);
+    const std::string label = legible(caption.label);
     const std::string name = nameFor(label);
     Counted& counted = known()[lowerCase(name)];
     addRun(paragraph, label + " ");
@@ -77,7 +71,7 @@ void Captions::write(pugi::xml_node paragraph, const word::Caption& caption, boo
         R"(<w:fldSimple w:instr=""><w:r><w:rPr><w:noProof/></w:rPr><w:t/></w:r></w:fldSimple>)");
     setWordValue(field, "instr", fmt::format(R"( SEQ {} \* ARABIC )", name));
     field.first_child().last_child().text().set(++counted.last);
-    if (const std::string title = oneLine(caption.title); !title.empty()) addRun(paragraph, title);
+    if (const std::string title = legible(caption.title); !title.empty()) addRun(paragraph, title);
     counted.labels.insert(keyOf(label));
     if (!isLast) renumber(lowerCase(name));
 }

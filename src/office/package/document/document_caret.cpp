@@ -64,6 +64,15 @@ void FileDocument::moveToLineStart() {
 }
 
 void FileDocument::typeText(const std::string& text) {
+    bool isFirst = true;
+    for (const std::string& line : linesOf(text)) {
+        if (!isFirst) typeParagraph();
+        typeInParagraph(line);
+        isFirst = false;
+    }
+}
+
+void FileDocument::typeInParagraph(const std::string& text) {
     touch();
     selected_.reset();
     const auto run = insertMarkup(caret_.paragraph, "<w:r/>", caret_.before);
@@ -73,13 +82,13 @@ void FileDocument::typeText(const std::string& text) {
         insertMarkup(run, R"(<w:t xml:space="preserve"/>)").text().set(line.c_str());
         line.clear();
     };
-    for (const char c : legible(text)) {
-        if (c != '\t' && c != '\n' && c != '\r') {
+    for (const char c : legible(replaceAll(text, "\v", "\n"))) {
+        if (c != '\t' && c != '\n') {
             line += c;
             continue;
         }
         flush();
-        if (c != '\r') insertMarkup(run, c == '\t' ? "<w:tab/>" : "<w:br/>");
+        insertMarkup(run, c == '\t' ? "<w:tab/>" : "<w:br/>");
     }
     flush();
 }

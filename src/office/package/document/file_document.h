@@ -91,6 +91,7 @@ private:
     [[nodiscard]] pugi::xml_node lastParagraph();
     [[nodiscard]] pugi::xml_node endOfText() const;
     [[nodiscard]] bool isCaretAtEnd();
+    void typeInParagraph(const std::string& text);
     /// Puts the caret at the end of a paragraph.
     void placeCaret(pugi::xml_node paragraph);
     /// Calls what puts an object or a table in.
