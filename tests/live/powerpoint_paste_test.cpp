@@ -156,6 +156,10 @@ TEST_F(PasteLive, MakesATableInTheSizeOfItsRoom) {
         const auto text = kept(as<css::text::XText>(table->getCellByPosition(0, 0)));
         EXPECT_NEAR(property<float>(kept(text->createTextCursor()), "CharHeight"), 10 * scale, 0.1);
     }
+    const office::TableLook empty{{90, 90}, {14, 14}, std::vector<office::CellLook>(4)};
+    desk->clipboard().room = office::RoomForTable{480, 28};
+    const auto shape = place->paste(support::CopiedDouble(empty), office::PasteAs::Default);
+    EXPECT_NEAR(shape->size().height, 28, 0.5) << "empty cells don't grow";
 }
 
 TEST_F(PasteLive, MakesChartsAndWorkbooksThatHoldTheirData) {

@@ -265,6 +265,7 @@ std::vector<TableDocument::StylePart> TableDocument::drawnCell(const CellLook& c
         parts.push_back({"style:table-cell-properties",
                          {{"style:rotation-angle", fmt::format("{}", cell.rotation)}}});
     parts.push_back({"style:paragraph-properties", lines});
+    if (cell.text.empty()) parts.push_back({"style:text-properties", lettersOf(cell)});
     return parts;
 }
 
@@ -338,6 +339,9 @@ void TableDocument::addCell(pugi::xml_node row, const CellLook& cell) {
 
 /// Spaces count here only if they are elements beside the first of several.
 void TableDocument::addText(pugi::xml_node cell, const CellLook& look) {
+    // LibreOffice gives a paragraph without letters those of the presentation, 18 points, and the
+    // row grows by them. A cell without one has the letters of its own style.
+    if (kind_ == Kind::Drawing && look.text.empty()) return;
     pugi::xml_node paragraph = cell.append_child("text:p");
     setAttributes(paragraph, {{"text:style-name", paragraphStyle(look)}});
     if (look.isItalic && italicIsApart()) {
