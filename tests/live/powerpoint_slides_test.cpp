@@ -108,6 +108,22 @@ TEST_F(PowerPointLive, BeginsAPresentationOfItsOwnWithoutSlides) {
     EXPECT_EQ(slideCount(openFile(file("new.pptx"))), 2) << "without the page of LibreOffice's own";
 }
 
+TEST_F(PowerPointLive, NumbersNewSlidesWhereTheLastOneIsNumbered) {
+    const Object deck = open("english.pptx");
+    const auto pages =
+        as<css::drawing::XDrawPagesSupplier>(desk->active<powerpoint::ImpressDeck>()->model())
+            ->getDrawPages();
+    const auto page = [&](std::int32_t place) {
+        return uno::Reference<css::drawing::XDrawPage>(pages->getByIndex(place - 1),
+                                                       uno::UNO_QUERY_THROW);
+    };
+    const std::int32_t last = slideCount(deck);
+    setProperty(page(last), "IsPageNumberVisible", uno::Any(true));
+    for (int i = 0; i < 2; ++i) deck.get("Slides").call("Add", last + 1, titleOnly);
+    for (const std::int32_t added : {last + 1, last + 2})
+        EXPECT_TRUE(property<bool>(page(added), "IsPageNumberVisible")) << added;
+}
+
 TEST_F(PowerPointLive, AddsASlideForTheSameCostHoweverManyThereAre) {
     const Object deck = open("english.pptx");
     const auto addOne = [&] { deck.get("Slides").call("Add", 3, titleOnly); };

@@ -148,12 +148,16 @@ model::DeckSlidePtr ImpressDeck::addSlide(std::int32_t place, std::int32_t layou
     if (wouldComeBeforeNewSlides(place, layout)) {
         // LibreOffice counts from 0 and inserts after the page that it is given.
         const auto last = pages_->insertNewByIndex(place + newSlides_.count - 2);
-        layouts_.apply(*held(last), layout);
+        dress(*held(last), layout);
         ++newSlides_.count;
     } else {
         if (place < 1 || place > slideCount() + 1) return nullptr;
+        if (!footOfNewSlides_) {
+            const ImpressSlidePtr last = pageAt(slideCount());
+            footOfNewSlides_ = last ? SlideFoot(last->page()) : SlideFoot();
+        }
         newSlides_ = {.first = insertPage(place), .count = 1, .layout = layout, .callsBefore = 0};
-        layouts_.apply(*newSlides_.first, layout);
+        dress(*newSlides_.first, layout);
     }
     newSlides_.callsBefore = connection().remoteCalls();
     return newSlides_.first;
@@ -167,6 +171,11 @@ bool ImpressDeck::wouldComeBeforeNewSlides(std::int32_t place, std::int32_t layo
     return newSlides_.first && newSlides_.layout == layout &&
            connection().remoteCalls() == newSlides_.callsBefore &&
            newSlides_.first.use_count() == ownHolders && newSlides_.first->place() == place;
+}
+
+void ImpressDeck::dress(ImpressSlide& added, std::int32_t layout) {
+    layouts_.apply(added, layout);
+    if (footOfNewSlides_) footOfNewSlides_->applyTo(added.page());
 }
 
 ImpressSlidePtr ImpressDeck::insertPage(std::int32_t place) {

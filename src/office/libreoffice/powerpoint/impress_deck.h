@@ -6,6 +6,7 @@
 #include <com/sun/star/presentation/XPresentation2.hpp>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,6 +16,7 @@
 #include "office/libreoffice/powerpoint/impress_slide.h"
 #include "office/libreoffice/powerpoint/impress_window.h"
 #include "office/libreoffice/powerpoint/late_pictures.h"
+#include "office/libreoffice/powerpoint/slide_foot.h"
 #include "office/libreoffice/powerpoint/slide_layouts.h"
 #include "office/model/powerpoint/deck.h"
 #include "office/value.h"
@@ -86,6 +88,7 @@ private:
     [[nodiscard]] ImpressSlidePtr pageAt(std::int32_t place);
     [[nodiscard]] ImpressSlidePtr held(const uno::Reference<css::drawing::XDrawPage>& page);
     [[nodiscard]] ImpressSlidePtr insertPage(std::int32_t place);
+    void dress(ImpressSlide& added, std::int32_t layout);
 
     Desk& desk_;
     uno::Reference<css::drawing::XDrawPages> pages_;
@@ -98,6 +101,8 @@ private:
     std::vector<ImpressSlidePtr> slides_;
     std::vector<uno::Reference<css::drawing::XShape>> shapes_;
     NewSlides newSlides_;
+    /// That of the slide which is the last when the first new one is added.
+    std::optional<SlideFoot> footOfNewSlides_;
     /// LibreOffice can't have a presentation without slides: the one that it begins with counts
     /// from the first slide on that is added, and is that slide.
     bool beginsWithoutSlides_ = false;
