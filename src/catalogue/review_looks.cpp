@@ -17,6 +17,9 @@ using office::ItemRemarks;
 const ItemRemarks::Text withoutSparklines = {
     "{} will be shown without the sparklines in its cells.",
     "{} will be shown without the sparklines in their cells."};
+const ItemRemarks::Text misdrawn = {
+    "The picture of {} may have conditional formats wrong that go by cells outside.",
+    "The pictures of {} may have conditional formats wrong that go by cells outside."};
 const ItemRemarks::Text tooLargeForSlide = {
     "{} is too large for a slide: its text will be too small to read.",
     "{} are too large for a slide: their text will be too small to read."};
@@ -43,6 +46,14 @@ std::optional<office::Size> roomFor(session::OfficeSession& session, const Expor
     return std::nullopt;
 }
 
+/// Pages show tables, and what is embedded or linked is the cells themselves.
+bool showsPictures(const ExportChoices& choices) {
+    if (choices.destination == Destination::Html) return false;
+    const bool hasFormats =
+        choices.destination == Destination::PowerPoint || choices.destination == Destination::Word;
+    return !hasFormats || choices.format == ExportFormat::Pictures;
+}
+
 bool canBeRead(const office::ShownCells& cells, const office::Size& room) {
     constexpr double smallestPt = 4;
     const double scale = std::min(room.width / std::max(room.width, cells.size.width),
@@ -58,8 +69,10 @@ void reviewLooks(session::OfficeSession& session, const std::vector<office::Past
     std::vector<office::ShownCells> shown;
     scope.attempt([&] { shown = session.suite.shownCells(items); });
     ItemRemarks remarks;
+    const bool arePictures = std::any_of(exports.begin(), exports.end(), showsPictures);
     for (std::size_t i = 0; i < shown.size(); ++i) {
         if (shown[i].haveSparklines) remarks.add(withoutSparklines, items[i]);
+        if (arePictures && shown[i].mayBeMisdrawn) remarks.add(misdrawn, items[i]);
     }
     for (const ExportChoices& choices : exports) {
         const auto room =

@@ -8,7 +8,8 @@
 namespace catalogue {
 
 /// What cannot be seen of the cells of items wherever they go: sparklines, and letters that are too
-/// small once a range has come down to the size of its slide or page.
+/// small once a range has come down to the size of its slide or page. And what pictures of them may
+/// have wrong.
 void reviewLooks(session::OfficeSession& session, const std::vector<office::PasteItem>& items,
                  const std::vector<ExportChoices>& exports, ReviewTexts& texts);
 

@@ -36,6 +36,8 @@ struct ShownCells {
     Size size;
     double lettersPt = 0;
     bool haveSparklines = false;
+    /// Whether pictures of them may have conditional formats wrong.
+    bool mayBeMisdrawn = false;
 };
 
 /// The office applications of this machine, apart from their object models: which of them run,

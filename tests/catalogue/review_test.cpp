@@ -214,25 +214,27 @@ TEST_F(Review, AsksOverWhatNobodyWillSeeOfCells) {
                  row("Lines", "Sales", ItemKind::Range)};
     // A slide is 540 points high, pages are 842 and 595.
     test.suite.show("Whole", {.size = {600, 1600}, .lettersPt = 10});
-    test.suite.show("Other", {.size = {100, 2700}, .lettersPt = 21});
+    test.suite.show("Other", {.size = {100, 2700}, .lettersPt = 21, .mayBeMisdrawn = true});
     test.suite.show("Lines", {.size = {600, 5000}, .lettersPt = 40, .haveSparklines = true});
     const std::string lines = "\"Lines\" will be shown without the sparklines in its cells.";
     const std::string slide =
         "\"Whole\" is too large for a slide: its text will be too small to read.";
     const std::string page =
         "\"Whole\" is too large for a page: its text will be too small to read.";
+    const std::string wrong =
+        "The picture of \"Other\" may have conditional formats wrong that go by cells outside.";
     using catalogue::ExportFormat;
     const struct {
         Destination destination;
         ExportFormat format;
         Words lines;
-    } cases[] = {{Destination::PowerPoint, ExportFormat::Pictures, {lines, slide}},
+    } cases[] = {{Destination::PowerPoint, ExportFormat::Pictures, {wrong, lines, slide}},
                  {Destination::PowerPoint, ExportFormat::Editable, {lines, slide}},
-                 {Destination::Pdf, ExportFormat::Pictures, {lines, page}},
-                 {Destination::Word, ExportFormat::Pictures, {lines}},
+                 {Destination::Pdf, ExportFormat::Pictures, {wrong, lines, page}},
+                 {Destination::Word, ExportFormat::Pictures, {wrong, lines}},
                  {Destination::Word, ExportFormat::Editable, {lines}},
                  {Destination::Html, ExportFormat::Pictures, {lines}},
-                 {Destination::ImageFiles, ExportFormat::Pictures, {lines}}};
+                 {Destination::ImageFiles, ExportFormat::Pictures, {wrong, lines}}};
     for (const auto& each : cases) {
         choices.destination = each.destination;
         choices.format = each.format;
@@ -242,7 +244,7 @@ TEST_F(Review, AsksOverWhatNobodyWillSeeOfCells) {
     test.suite.show("Whole", {.size = {600, 3000}, .lettersPt = 10});
     choices = {.destination = Destination::Word};
     EXPECT_EQ(catalogue::reviewExport(test.session, list, {choices}).ReviewItems,
-              (Words{lines, page}));
+              (Words{wrong, lines, page}));
 }
 
 }  // namespace

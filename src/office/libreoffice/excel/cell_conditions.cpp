@@ -39,14 +39,6 @@ bool isByFormula(const CellCondition& condition) {
     return false;
 }
 
-/// Whether it compares each of its cells with all others.
-bool comparesCells(const CellCondition& condition) {
-    using namespace css::sheet::ConditionFormatOperator;
-    if (condition.kind != ConditionType::CONDITION) return false;
-    const auto kind = property<sal_Int32>(condition.entry, "Operator");
-    return kind >= DUPLICATE && kind <= BELOW_EQUAL_AVERAGE;
-}
-
 std::vector<CellBlock> blocksOf(const uno::Reference<css::sheet::XConditionalFormat>& format) {
     const auto ranges =
         answered(property<uno::Reference<css::sheet::XSheetCellRanges>>(format, "Range"));
@@ -56,6 +48,13 @@ std::vector<CellBlock> blocksOf(const uno::Reference<css::sheet::XConditionalFor
 }
 
 }  // namespace
+
+bool comparesCells(const CellCondition& condition) {
+    using namespace css::sheet::ConditionFormatOperator;
+    if (condition.kind != ConditionType::CONDITION) return false;
+    const auto kind = property<sal_Int32>(condition.entry, "Operator");
+    return kind >= DUPLICATE && kind <= BELOW_EQUAL_AVERAGE;
+}
 
 rtl::OUString styleNameOf(const CellCondition& condition) {
     if (condition.kind != ConditionType::CONDITION && condition.kind != ConditionType::DATE)

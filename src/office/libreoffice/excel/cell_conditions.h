@@ -23,6 +23,8 @@ struct CellCondition {
 /// Null if the workbook has no such style.
 [[nodiscard]] uno::Reference<css::beans::XMultiPropertyStates> cellStyle(
     const uno::Reference<css::frame::XModel>& book, const rtl::OUString& name);
+/// Whether it compares each of its cells with all others.
+[[nodiscard]] bool comparesCells(const CellCondition& condition);
 /// Whether one of some blocks has cells of another.
 [[nodiscard]] bool meetsAny(const std::vector<model::CellBlock>& blocks,
                             const model::CellBlock& cells);

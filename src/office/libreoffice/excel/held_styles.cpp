@@ -10,6 +10,7 @@
 
 #include "office/libreoffice/excel/book_looks.h"
 #include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/formula_reach.h"
 
 namespace libreoffice::excel {
 
@@ -96,6 +97,11 @@ public:
         return std::any_of(styles_.begin(), styles_.end(),
                            [](const SeenStyle& each) { return each.isTold; });
     }
+    [[nodiscard]] bool isTold(const rtl::OUString& name) const {
+        return std::any_of(styles_.begin(), styles_.end(), [&](const SeenStyle& each) {
+            return each.isTold && each.style.name == name;
+        });
+    }
     /// Of several conditions on a cell the first one counts.
     void find(SheetLooks& looks) {
         for (const auto& [style, cells] : inOrder_) {
@@ -175,6 +181,24 @@ std::vector<HeldStyle> heldStylesOn(SheetRecord& sheet, const CellBlock& block,
                                        [](const HeldStyle& each) { return !each.cells.empty(); });
     if (!isAnyHeld && UncopiedConditions(conditions).within(block).empty()) return {};
     return told;
+}
+
+bool mayBeMisdrawn(SheetRecord& sheet, const CellBlock& block) {
+    BookLooks& book = sheet.book().looks();
+    auto conditions = book.conditionsOn(sheet, block);
+    if (conditions.empty()) return false;
+    const auto drawn = model::drawnPart(block, sheet);
+    if (!drawn) return false;
+    std::erase_if(conditions, [&](const CellCondition& each) {
+        return UncopiedConditions({each}).within(*drawn).empty();
+    });
+    if (conditions.empty()) return false;
+    const StylesOnBlock styles(sheet, *drawn, conditions);
+    return std::any_of(conditions.begin(), conditions.end(), [&](const CellCondition& each) {
+        const auto name = styleNameOf(each);
+        if (name.isEmpty() || (styles.isTold(name) && !book.isTooLarge())) return false;
+        return comparesCells(each) || readsAround(sheet, *drawn, each);
+    });
 }
 
 }  // namespace libreoffice::excel

@@ -22,4 +22,8 @@ struct HeldStyle {
 [[nodiscard]] std::vector<HeldStyle> heldStylesOn(SheetRecord& sheet, const model::CellBlock& block,
                                                   const std::vector<CellCondition>& conditions);
 
+/// Whether a picture of a block may show conditional formats wrongly: they go by cells around it,
+/// and `heldStylesOn` finds none of their styles.
+[[nodiscard]] bool mayBeMisdrawn(SheetRecord& sheet, const model::CellBlock& block);
+
 }  // namespace libreoffice::excel

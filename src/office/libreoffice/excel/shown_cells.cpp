@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 
+#include "office/libreoffice/excel/held_styles.h"
 #include "office/libreoffice/units.h"
 
 namespace libreoffice::excel {
@@ -35,6 +36,7 @@ office::ShownCells shownIn(const SheetOfItems& sheet, const model::CellBlock& bl
     shown.haveSparklines = std::any_of(
         sheet.sparklines.begin(), sheet.sparklines.end(),
         [&](const model::CellBlock& each) { return intersection(each, block).has_value(); });
+    shown.mayBeMisdrawn = mayBeMisdrawn(*sheet.record, block);
     const auto drawn = isSmall(block) ? std::nullopt : model::drawnPart(block, *sheet.record);
     if (!drawn || isSmall(*drawn)) return shown;
     const auto cells = sheet.record->range(*drawn);

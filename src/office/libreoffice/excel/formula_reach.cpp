@@ -1,0 +1,79 @@
+#include "office/libreoffice/excel/formula_reach.h"
+
+#include <com/sun/star/lang/XMultiServiceFactory.hpp>
+#include <com/sun/star/sheet/ComplexReference.hpp>
+#include <com/sun/star/sheet/ReferenceFlags.hpp>
+#include <com/sun/star/sheet/SingleReference.hpp>
+#include <com/sun/star/sheet/XFormulaParser.hpp>
+
+#include <algorithm>
+#include <optional>
+
+#include "office/libreoffice/excel/calc_document.h"
+
+namespace libreoffice::excel {
+
+namespace {
+
+namespace Flags = css::sheet::ReferenceFlags;
+using css::sheet::SingleReference;
+using model::CellBlock;
+
+/// What a reference that is written for one cell means for all cells of a block.
+CellBlock reachOf(const SingleReference& reference, const CellBlock& cells) {
+    const auto from = [](bool isRelative, sal_Int32 offset, sal_Int32 place, std::int32_t cell) {
+        return isRelative ? cell + offset : place;
+    };
+    const bool goesAlong = (reference.Flags & Flags::COLUMN_RELATIVE) != 0;
+    const bool goesDown = (reference.Flags & Flags::ROW_RELATIVE) != 0;
+    return {from(goesAlong, reference.RelativeColumn, reference.Column, cells.firstColumn),
+            from(goesDown, reference.RelativeRow, reference.Row, cells.firstRow),
+            from(goesAlong, reference.RelativeColumn, reference.Column, cells.lastColumn),
+            from(goesDown, reference.RelativeRow, reference.Row, cells.lastRow)};
+}
+
+bool leadsOut(const SingleReference& reference, sal_Int32 sheet, const CellBlock& cells,
+              const CellBlock& block) {
+    const bool isElsewhere = (reference.Flags & Flags::SHEET_RELATIVE) != 0
+                                 ? reference.RelativeSheet != 0
+                                 : reference.Sheet != sheet;
+    const CellBlock reach = reachOf(reference, cells);
+    return isElsewhere || intersection(reach, block) != reach;
+}
+
+/// A name stands for cells that it doesn't tell.
+bool leadsOut(const uno::Any& token, sal_Int32 sheet, const CellBlock& cells,
+              const CellBlock& block) {
+    if (SingleReference one; token >>= one) return leadsOut(one, sheet, cells, block);
+    if (css::sheet::ComplexReference range; token >>= range)
+        return leadsOut(range.Reference1, sheet, cells, block) ||
+               leadsOut(range.Reference2, sheet, cells, block);
+    return false;
+}
+
+}  // namespace
+
+bool readsAround(SheetRecord& sheet, const CellBlock& block, const CellCondition& condition) {
+    CellBlock all = condition.blocks.front();
+    for (const CellBlock& each : condition.blocks) all = around(all, each);
+    const auto place = static_cast<sal_Int16>(sheet.place());
+    const auto parser =
+        as<css::sheet::XFormulaParser>(as<css::lang::XMultiServiceFactory>(sheet.book().model())
+                                           ->createInstance("com.sun.star.sheet.FormulaParser"));
+    std::vector<uno::Any> read;
+    for (const char* name : {"Formula1", "Formula2"}) {
+        const auto formula = property<rtl::OUString>(condition.entry, name);
+        // As the suite tells it: for the first of all cells.
+        const auto tokens = parser->parseFormula(formula, {place, all.firstColumn, all.firstRow});
+        for (const css::sheet::FormulaToken& token : tokens) read.push_back(token.Data);
+    }
+    return std::any_of(
+        condition.blocks.begin(), condition.blocks.end(), [&](const CellBlock& each) {
+            const auto cells = intersection(each, block);
+            return cells && std::any_of(read.begin(), read.end(), [&](const uno::Any& token) {
+                       return leadsOut(token, place, *cells, block);
+                   });
+        });
+}
+
+}  // namespace libreoffice::excel
