@@ -7,6 +7,7 @@
 #include <com/sun/star/drawing/XShapes.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
+#include <com/sun/star/style/XStyle.hpp>
 #include <com/sun/star/text/WritingMode2.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
@@ -19,6 +20,7 @@
 #include "office/drawing/metafile.h"
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/cell_styles.h"
 #include "office/libreoffice/excel/copied.h"
 #include "office/libreoffice/excel/picture_maker.h"
 #include "office/libreoffice/excel/selected_cells.h"
@@ -311,6 +313,14 @@ TEST_F(ExcelPictures, ShowsConditionalFormatsAsTheSheetDoes) {
     EXPECT_GT(meanDifference(bytes("K2:K3"), bytes("M1:M2")), 1);
     expectMembers(book, {{"Saved", true}});
     EXPECT_EQ(openDocuments().size(), 1U);
+    // In an .ods the style of a condition takes after its parent, on the sheet as well.
+    const auto model = desk->active<excel::CalcDocument>()->model();
+    for (int i = 1;; ++i) {
+        const auto style = excel::cellStyle(model, toUno("ConditionalStyle_" + std::to_string(i)));
+        if (!style.is()) break;
+        as<css::style::XStyle>(style)->setParentStyle("Default");
+    }
+    EXPECT_GT(meanDifference(bytes("A1:C4"), bytes("E1:G4")), 3);
 }
 
 TEST_F(ExcelPictures, ShowsAHiddenSheetOnlyForTheMomentOfTheCopy) {

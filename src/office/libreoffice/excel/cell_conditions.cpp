@@ -7,7 +7,6 @@
 #include <com/sun/star/sheet/XConditionalFormat.hpp>
 #include <com/sun/star/sheet/XConditionalFormats.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
-#include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
 
 #include <algorithm>
 
@@ -60,15 +59,6 @@ rtl::OUString styleNameOf(const CellCondition& condition) {
     if (condition.kind != ConditionType::CONDITION && condition.kind != ConditionType::DATE)
         return {};
     return property<rtl::OUString>(condition.entry, "StyleName");
-}
-
-uno::Reference<css::beans::XMultiPropertyStates> cellStyle(
-    const uno::Reference<css::frame::XModel>& book, const rtl::OUString& name) {
-    const auto families = as<css::style::XStyleFamiliesSupplier>(book)->getStyleFamilies();
-    const uno::Reference<css::container::XNameAccess> styles(families->getByName("CellStyles"),
-                                                             uno::UNO_QUERY_THROW);
-    if (!styles->hasByName(name)) return {};
-    return {styles->getByName(name), uno::UNO_QUERY_THROW};
 }
 
 bool meetsAny(const std::vector<CellBlock>& blocks, const CellBlock& cells) {

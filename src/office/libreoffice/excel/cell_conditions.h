@@ -1,7 +1,5 @@
 #pragma once
 
-#include <com/sun/star/beans/XMultiPropertyStates.hpp>
-#include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/sheet/XConditionEntry.hpp>
 #include <com/sun/star/sheet/XConditionalFormat.hpp>
 
@@ -20,9 +18,6 @@ struct CellCondition {
 };
 /// The name of the style that a condition gives its cells; empty for icons, bars and scales.
 [[nodiscard]] rtl::OUString styleNameOf(const CellCondition& condition);
-/// Null if the workbook has no such style.
-[[nodiscard]] uno::Reference<css::beans::XMultiPropertyStates> cellStyle(
-    const uno::Reference<css::frame::XModel>& book, const rtl::OUString& name);
 /// Whether it compares each of its cells with all others.
 [[nodiscard]] bool comparesCells(const CellCondition& condition);
 /// Whether one of some blocks has cells of another.

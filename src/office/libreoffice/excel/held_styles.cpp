@@ -10,6 +10,7 @@
 
 #include "office/libreoffice/excel/book_looks.h"
 #include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/cell_styles.h"
 #include "office/libreoffice/excel/formula_reach.h"
 
 namespace libreoffice::excel {
@@ -125,7 +126,8 @@ private:
             const auto style = cellStyle(book.model(), name);
             if (!style.is()) return;
             const StyleMarks marks = marksOf(style);
-            found = styles_.insert(found, {{name, {}}, marks, marks.areSeen()});
+            found = styles_.insert(
+                found, {{name, takesAfterParent(book.model(), style), {}}, marks, marks.areSeen()});
         }
         CellsOfStyle cells = {static_cast<std::size_t>(found - styles_.begin()), {}};
         for (const CellBlock& each : blocks) {
@@ -177,9 +179,10 @@ std::vector<HeldStyle> heldStylesOn(SheetRecord& sheet, const CellBlock& block,
     if (looks == nullptr) return {};
     styles.find(*looks);
     auto told = styles.takeTold();
-    const bool isAnyHeld = std::any_of(told.begin(), told.end(),
-                                       [](const HeldStyle& each) { return !each.cells.empty(); });
-    if (!isAnyHeld && UncopiedConditions(conditions).within(block).empty()) return {};
+    const bool isAnyMisdrawn = std::any_of(told.begin(), told.end(), [](const HeldStyle& each) {
+        return !each.takesAfterParent && !each.cells.empty();
+    });
+    if (!isAnyMisdrawn && UncopiedConditions(conditions).within(block).empty()) return {};
     return told;
 }
 

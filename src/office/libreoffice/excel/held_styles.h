@@ -12,6 +12,8 @@ namespace libreoffice::excel {
 /// A style of conditional formats, and where among some cells their conditions hold.
 struct HeldStyle {
     rtl::OUString name;
+    /// A copy makes each style do so.
+    bool takesAfterParent;
     std::vector<model::CellBlock> cells;
 };
 

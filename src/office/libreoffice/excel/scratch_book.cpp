@@ -20,9 +20,12 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <iterator>
+#include <utility>
 
 #include "office/libreoffice/at_end.h"
 #include "office/libreoffice/excel/cell_conditions.h"
+#include "office/libreoffice/excel/cell_styles.h"
 
 namespace libreoffice::excel {
 
@@ -74,26 +77,6 @@ void removeConditions(const uno::Reference<uno::XInterface>& sheet,
     }
 }
 
-/// What a style leaves to none but itself. Themes' colours and the lines within tables are said
-/// once more by other names.
-uno::Sequence<rtl::OUString> ownProperties(
-    const uno::Reference<css::beans::XMultiPropertyStates>& style) {
-    std::vector<rtl::OUString> names;
-    const auto all = as<css::beans::XPropertySet>(style)->getPropertySetInfo()->getProperties();
-    for (const css::beans::Property& each : all) {
-        if (!each.Name.startsWith("TableBorder") && !each.Name.endsWith("ComplexColor") &&
-            each.Name != "DisplayName")
-            names.push_back(each.Name);
-    }
-    std::sort(names.begin(), names.end());
-    const uno::Sequence<rtl::OUString> asked(names.data(), static_cast<sal_Int32>(names.size()));
-    const auto states = style->getPropertyStates(asked);
-    std::vector<rtl::OUString> own;
-    for (sal_Int32 i = 0; i < states.getLength(); ++i)
-        if (states[i] == css::beans::PropertyState_DIRECT_VALUE) own.push_back(asked[i]);
-    return {own.data(), static_cast<sal_Int32>(own.size())};
-}
-
 /// Of the only sheet.
 uno::Reference<css::sheet::XSheetCellRanges> rangesOf(const Model& book,
                                                       const std::vector<model::CellBlock>& cells) {
@@ -112,7 +95,14 @@ void dress(const Model& book, const HeldStyle& style) {
     const auto cells = rangesOf(book, style.cells);
     const auto look = cellStyle(book, style.name);
     if (!look.is()) throw uno::RuntimeException("The copy lacks a style", book);
-    const auto names = ownProperties(look);
+    std::vector<rtl::OUString> own = ownProperties(look);
+    if (const auto parent = parentOf(book, look); style.takesAfterParent && parent.is()) {
+        const auto more = ownProperties(parent);
+        std::vector<rtl::OUString> all;
+        std::set_union(own.begin(), own.end(), more.begin(), more.end(), std::back_inserter(all));
+        own = std::move(all);
+    }
+    const uno::Sequence<rtl::OUString> names(own.data(), static_cast<sal_Int32>(own.size()));
     as<css::beans::XMultiPropertySet>(cells)->setPropertyValues(
         names, as<css::beans::XMultiPropertySet>(look)->getPropertyValues(names));
 }

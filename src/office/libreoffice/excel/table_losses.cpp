@@ -17,6 +17,7 @@
 #include "office/item_remarks.h"
 #include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/excel/cell_conditions.h"
+#include "office/libreoffice/excel/cell_styles.h"
 #include "office/libreoffice/excel/table_of_cells.h"
 
 namespace libreoffice::excel {

@@ -1,0 +1,53 @@
+#include "office/libreoffice/excel/cell_styles.h"
+
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
+#include <com/sun/star/style/XStyle.hpp>
+#include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
+
+#include <algorithm>
+#include <iterator>
+
+namespace libreoffice::excel {
+
+CellStyle cellStyle(const uno::Reference<css::frame::XModel>& book, const rtl::OUString& name) {
+    const auto families = as<css::style::XStyleFamiliesSupplier>(book)->getStyleFamilies();
+    const uno::Reference<css::container::XNameAccess> styles(families->getByName("CellStyles"),
+                                                             uno::UNO_QUERY_THROW);
+    if (!styles->hasByName(name)) return {};
+    return {styles->getByName(name), uno::UNO_QUERY_THROW};
+}
+
+CellStyle parentOf(const uno::Reference<css::frame::XModel>& book, const CellStyle& style) {
+    return cellStyle(book, as<css::style::XStyle>(style)->getParentStyle());
+}
+
+std::vector<rtl::OUString> ownProperties(const CellStyle& style) {
+    std::vector<rtl::OUString> names;
+    const auto all = as<css::beans::XPropertySet>(style)->getPropertySetInfo()->getProperties();
+    for (const css::beans::Property& each : all) {
+        if (!each.Name.startsWith("TableBorder") && !each.Name.endsWith("ComplexColor") &&
+            each.Name != "DisplayName")
+            names.push_back(each.Name);
+    }
+    std::sort(names.begin(), names.end());
+    const uno::Sequence<rtl::OUString> asked(names.data(), static_cast<sal_Int32>(names.size()));
+    const auto states = style->getPropertyStates(asked);
+    std::vector<rtl::OUString> own;
+    for (sal_Int32 i = 0; i < states.getLength(); ++i)
+        if (states[i] == css::beans::PropertyState_DIRECT_VALUE) own.push_back(asked[i]);
+    return own;
+}
+
+bool takesAfterParent(const uno::Reference<css::frame::XModel>& book, const CellStyle& style) {
+    const auto parent = parentOf(book, style);
+    if (!parent.is()) return false;
+    const auto own = ownProperties(style), parents = ownProperties(parent);
+    std::vector<rtl::OUString> open;
+    std::set_difference(parents.begin(), parents.end(), own.begin(), own.end(),
+                        std::back_inserter(open));
+    const uno::Sequence<rtl::OUString> names(open.data(), static_cast<sal_Int32>(open.size()));
+    return as<css::beans::XMultiPropertySet>(style)->getPropertyValues(names) ==
+           as<css::beans::XMultiPropertySet>(parent)->getPropertyValues(names);
+}
+
+}  // namespace libreoffice::excel
