@@ -75,7 +75,18 @@ model::Box ChartShape::box() {
     return {pointsOf(corner.X), pointsOf(corner.Y), pointsOf(size.Width), pointsOf(size.Height)};
 }
 
+bool ChartShape::hasArea() const {
+    const css::awt::Size size = shape_->getSize();
+    return size.Width > 0 && size.Height > 0;
+}
+
+/// Here, while it is known which chart is meant: later it would be a failure of a whole output.
+void ChartShape::requireArea() const {
+    if (!hasArea()) office::refuse("Chart", "The chart has no width or no height");
+}
+
 office::CopiedPtr ChartShape::copy(office::CopySource source) {
+    requireArea();
     if (source.kind == office::CopySource::Kind::Chart) {
         SheetOfChart home = home_.document.is() ? home_ : SheetOfChart{book_.model(), source.sheet};
         return std::make_shared<CopiedChart>(book_, std::move(source), shape_, std::move(home),
@@ -86,6 +97,7 @@ office::CopiedPtr ChartShape::copy(office::CopySource source) {
 }
 
 void ChartShape::writePicture(const std::string& path, office::PictureKind kind) {
+    requireArea();
     pictureMaker(book_.desk()).writeChart(shape_, path, kind);
 }
 

@@ -44,6 +44,7 @@ public:
     [[nodiscard]] const uno::Reference<css::drawing::XShape>& shape() const { return shape_; }
     /// As last seen.
     [[nodiscard]] const std::string& knownName() const { return name_; }
+    [[nodiscard]] bool hasArea() const;
     /// Tells it from its namesakes.
     void callItself(std::string distinct) { name_ = std::move(distinct); }
     /// The shape is that of another document and lasts as long as its owner: what is copied of it
@@ -65,6 +66,8 @@ public:
     void remove() override;
 
 private:
+    void requireArea() const;
+
     CalcDocument& book_;
     uno::Reference<css::drawing::XShape> shape_;
     uno::Reference<css::beans::XMultiPropertySet> properties_;

@@ -15,6 +15,7 @@
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/changed_copy.h"
 #include "office/package/package.h"
+#include "office/package/workbook/chart_sheet_place.h"
 
 namespace libreoffice::excel {
 
@@ -25,26 +26,10 @@ namespace {
                                         sheet.knownName(), why));
 }
 
-/// Moves what begins left of or above the page to its edge. False if nothing does.
-bool mendNegativePlaces(const pugi::xml_node& drawing) {
-    bool mended = false;
-    for (const pugi::xml_node anchor : drawing.children()) {
-        for (pugi::xml_node place : anchor.children()) {
-            if (!std::string_view(place.name()).ends_with("pos")) continue;
-            for (pugi::xml_attribute side : place.attributes()) {
-                if (side.as_llong() >= 0) continue;
-                side.set_value(0);
-                mended = true;
-            }
-        }
-    }
-    return mended;
-}
-
 /// Writes the workbook anew, with the chart where LibreOffice sees it.
 void writeMended(const SheetRecord& sheet, const std::string& original, const std::string& copy) {
     try {
-        if (!writeChangedCopy(original, copy, sheet.part, "drawing", mendNegativePlaces))
+        if (!writeChangedCopy(original, copy, sheet.part, "drawing", office::package::placeOnPage))
             fail(sheet, "it has none");
     } catch (const office::package::PackageError&) {
         fail(sheet, "its file is not at hand");

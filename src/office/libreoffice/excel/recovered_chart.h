@@ -12,9 +12,9 @@
 namespace libreoffice::excel {
 
 /// The chart of a chart sheet that LibreOffice loses while it loads the file, which it does when
-/// the chart begins left of or above the page, as Excel writes it for some page set-ups. It is
-/// taken from a private copy of the file with that mended, opened without a window for as long as
-/// this object lives. So it shows the chart as the file holds it.
+/// the chart begins left of or above the page or has no size there. It is taken from a private copy
+/// of the file with that mended, opened without a window for as long as this object lives. So it
+/// shows the chart as the file holds it.
 class RecoveredChart {
 public:
     /// `office::Failure` 1004 if the chart can't be found that way either.

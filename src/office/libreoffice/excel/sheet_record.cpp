@@ -149,8 +149,9 @@ std::vector<model::SheetChartPtr> SheetRecord::charts() {
 
 model::SheetChartPtr SheetRecord::ownChart() {
     const auto& shapes = charts_.all();
-    if (!shapes.empty()) return shapes.front();
-    // LibreOffice has lost it. The chart lasts as long as what it was recovered from.
+    if (!shapes.empty() && shapes.front()->hasArea()) return shapes.front();
+    // LibreOffice has lost it, or shows nothing of it. The chart lasts as long as what it was
+    // recovered from.
     const auto recovered = std::make_shared<RecoveredChart>(*this);
     recovered->chart()->belongTo(recovered, recovered->home());
     return {recovered, recovered->chart().get()};

@@ -9,6 +9,7 @@
 
 #include "office/package/office_file.h"
 #include "office/package/part_name.h"
+#include "office/package/workbook/chart_sheet_place.h"
 #include "office/package/workbook/sheet_alone.h"
 #include "office/package/workbook/sheet_head.h"
 #include "office/package/xml.h"
@@ -51,6 +52,14 @@ void selectSheet(Package& workbook, const std::string& sheet, bool isSelected) {
             view.remove_attribute("tabSelected");
     }
     if (isChanged) workbook.replace(sheet, head.bytes());
+}
+
+/// For programs that would show nothing of it once the object is opened.
+void placeOwnChart(Package& workbook, const WorkbookSheet& sheet) {
+    const std::string part = workbook.partOfType(sheet.part, "drawing");
+    if (part.empty()) return;
+    const Xml xml(workbook.read(part), part);
+    if (placeOnPage(xml.root())) workbook.replace(part, xml.bytes());
 }
 
 /// From the first cell that a sheet's markup holds to the last.
@@ -155,6 +164,7 @@ std::string copyOnSheet(const WorkbookFile& workbook, const WorkbookSheet& sheet
         const bool isShown = &one == &sheet;
         if (isShown || mayBeSelected(copy, one.part)) selectSheet(copy, one.part, isShown);
     }
+    if (sheet.kind == WorkbookSheet::Kind::ChartSheet) placeOwnChart(copy, sheet);
     copy.setContentType(workbook.mainPart(), formatOfCopy(workbook, sheetAlone).mainType);
     return copy.bytes();
 }
