@@ -196,8 +196,12 @@ TEST_F(ExcelTables, DoWithWideTextsWhatASheetDoes) {
         "########## right",
         "2.5 right",
         "turne right turned=90",
+        // All of what the table can't have askew, in smaller letters.
+        "turned over 5.8pt turned=90",
+        "lies a little askew 8.3pt",
+        "x",
     };
-    const TableLook table = tableOf("Wide", "A1:D13");
+    const TableLook table = tableOf("Wide", "A1:D14");
     std::vector<std::string> found;
     for (const CellLook& look : table.cells) {
         if (!look.isCovered && !look.text.empty()) found.push_back(described(look));

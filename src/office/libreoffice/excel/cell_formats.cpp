@@ -44,6 +44,8 @@ CellLine::Style styleOfLine(std::int16_t style) {
     }
 }
 
+constexpr std::int32_t hundredthsOfDegree = 100;
+
 /// Cells are turned in quarters here: what stands askew lies or stands up, whichever is nearer.
 std::int32_t quarterOf(std::int32_t hundredthDegrees) {
     constexpr std::int32_t eighth = 4500;
@@ -80,9 +82,10 @@ public:
         if (format.isAligned) look.indentPt = pointsOf(value<std::int16_t>("ParaIndent"));
         look.wraps = value<bool>("IsTextWrapped") || look.across == CellLook::Across::Justified;
         const auto orientation = value<css::table::CellOrientation>("Orientation");
-        look.rotation = orientation == css::table::CellOrientation_STACKED
-                            ? 270
-                            : quarterOf(value<std::int32_t>("RotateAngle"));
+        const auto angle = value<std::int32_t>("RotateAngle");
+        const bool isStacked = orientation == css::table::CellOrientation_STACKED;
+        look.rotation = isStacked ? 270 : quarterOf(angle);
+        format.isAskew = !isStacked && angle != look.rotation * hundredthsOfDegree;
         look.left = line("LeftBorder2");
         look.right = line("RightBorder2");
         look.top = line("TopBorder2");

@@ -25,6 +25,8 @@ struct CellFormat {
     /// Where its text stands goes by the text otherwise.
     bool isAligned = false;
     bool shrinksToFit = false;
+    /// Turned, and not by quarters as its look has it.
+    bool isAskew = false;
     std::int32_t numberFormat = 0;
 };
 

@@ -41,7 +41,7 @@ public:
         CellLook& cell = at(row, column);
         if (cell.isCovered || cell.text.empty()) return;
         if (cell.wraps && !value.number && !value.isError) return;
-        if (cell.rotation != 0) return fitTurned(row, column);
+        if (cell.rotation != 0) return fitTurned(row, column, value);
         const double room = roomIn(row, column);
         const double wide = widthOf(cell);
         const bool isFormatted = value.number && !isGeneral(value);
@@ -51,11 +51,11 @@ public:
             return;
         }
         if (value.shrinksToFit) {
-            cell.fontSizePt *= std::min(1.0, std::max(room, 1.0) / wide);
+            shrink(cell, wide, room);
         } else if (value.number || value.isError) {
             fitNumber(cell, value, room);
         } else {
-            fitText(row, column, wide);
+            fitText(row, column, wide, value);
         }
     }
 
@@ -152,15 +152,21 @@ private:
         return last == point ? number.erase(point, 1) : number.replace(point, 1, mark);
     }
 
+    static void shrink(CellLook& cell, double wide, double room) {
+        cell.fontSizePt *= std::min(1.0, std::max(room, 1.0) / wide);
+    }
+
     /// What is turned is cut off above or below. Rows that were made as high as it are measured
     /// with characters that come closer to one another.
-    void fitTurned(std::size_t row, std::size_t column) {
+    void fitTurned(std::size_t row, std::size_t column, const CellValue& value) {
         constexpr double closeness = 1.05;
         CellLook& cell = at(row, column);
         double room = 0;
         for (std::size_t i = 0; i < static_cast<std::size_t>(cell.rows); ++i)
             room += table_.rowHeightsPt[row + i];
-        if (widthOf(cell) <= room * closeness + tolerancePt) return;
+        const double wide = widthOf(cell);
+        if (wide <= room * closeness + tolerancePt) return;
+        if (value.isAskew) return shrink(cell, wide, room);
         CellLook::Across along = CellLook::Across::Centre;
         if (cell.down != CellLook::Down::Middle) {
             const bool beginsThere = (cell.down == CellLook::Down::Bottom) == (cell.rotation == 90);
@@ -169,7 +175,7 @@ private:
         cut(cell, room, along);
     }
 
-    void fitText(std::size_t row, std::size_t column, double wide) {
+    void fitText(std::size_t row, std::size_t column, double wide, const CellValue& value) {
         const CellLook::Across across = at(row, column).across;
         const bool isSingle = at(row, column).columns == 1 && at(row, column).rows == 1;
         bool goesOn = isSingle;
@@ -181,8 +187,11 @@ private:
                 goesOn = true;
             }
         }
-        if (widthOf(at(row, column)) > roomIn(row, column) + tolerancePt)
-            cut(at(row, column), roomIn(row, column), across);
+        CellLook& cell = at(row, column);
+        const double room = roomIn(row, column);
+        if (widthOf(cell) <= room + tolerancePt) return;
+        if (value.isAskew) return shrink(cell, wide, room);
+        cut(cell, room, across);
     }
 
     /// Whether this text can run over into the cell at this place of its row. The cell would lose a
