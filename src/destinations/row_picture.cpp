@@ -12,10 +12,7 @@ office::Picture copiedPicture(OfficeSession& session) {
     constexpr std::uint32_t arrivalMs = 500;
     session::SleepMilliseconds(session, arrivalMs);
     const office::CopiedPtr copied = session.suite.clipboard()->copied;
-    if (!copied) {
-        throw office::Failure(office::FailureNumber::ApplicationDefined, "Clipboard",
-                              "There is no picture of it");
-    }
+    if (!copied) office::refuse("Clipboard", "There is no picture of it");
     return copied->picture(office::Sharpness::Crisp);
 }
 

@@ -16,7 +16,9 @@ SuiteLost::SuiteLost(const std::string& description)
     : Failure(FailureNumber::Disconnected, "Application", description) {}
 
 void refuse(const std::string& source, const std::string& why) {
-    throw Failure(FailureNumber::ApplicationDefined, source, why);
+    Failure refusal(FailureNumber::ApplicationDefined, source, why);
+    refusal.isRefusal_ = true;
+    throw refusal;
 }
 
 void refuseCall(const std::string& source, const std::string& why) {

@@ -26,6 +26,9 @@ enum class FailureNumber : std::int32_t {
     Disconnected = static_cast<std::int32_t>(0x80010108),
 };
 
+/// Something that the application refuses: `Failure` 1004.
+[[noreturn]] void refuse(const std::string& source, const std::string& why);
+
 /// What every failing call into an office application throws. `source` names the class and member
 /// that failed
 /// ("Worksheet.Name"); `what()` is the description alone.
@@ -40,10 +43,15 @@ public:
     }
     [[nodiscard]] const std::string& source() const { return source_; }
     [[nodiscard]] std::string description() const { return what(); }
+    /// Made by `refuse`: the description is a sentence of the program's own that says it all.
+    [[nodiscard]] bool isRefusal() const { return isRefusal_; }
 
 private:
+    friend void refuse(const std::string& source, const std::string& why);
+
     std::int32_t number_;
     std::string source_;
+    bool isRefusal_ = false;
 };
 
 /// Excel has gone, or the one suite that all applications are of: its process died, or the
@@ -53,9 +61,6 @@ class SuiteLost : public Failure {
 public:
     explicit SuiteLost(const std::string& description);
 };
-
-/// Something that the application refuses: `Failure` 1004.
-[[noreturn]] void refuse(const std::string& source, const std::string& why);
 
 /// A call that can't be carried out as it is made: `Failure` 5.
 [[noreturn]] void refuseCall(const std::string& source, const std::string& why);

@@ -90,6 +90,21 @@ struct Awaited {
     std::atomic<int> times = 0;
 };
 
+TEST(UnhandledFailures, AreReportedWithTheirNumbersUnlessTheyAreSentencesOfOurOwn) {
+    const auto reportOf = [](const auto& fail) -> std::string {
+        try {
+            fail();
+        } catch (const std::exception& failure) {
+            return apps::unhandledFailureReport(failure);
+        }
+        return "";
+    };
+    EXPECT_EQ(reportOf([] { office::refuse("Range.Copy", "The sheet is protected"); }),
+              "The sheet is protected.");
+    EXPECT_EQ(reportOf([] { office::refuseCall("Range.Copy", "No such way"); }),
+              "Murvane: unhandled failure 5 from Range.Copy: No such way");
+}
+
 TEST(Interruption, RunsItsActionOnceOnEachSignalThatEndsAProgram) {
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
         apps::Interruption interruption;
