@@ -24,6 +24,8 @@ constexpr std::string_view slidesHelp = "help_predefined_slides.html";
 struct Topic {
     std::string_view name;
     std::string_view file;
+    /// The element of the page that it is about; empty: all of the page.
+    std::string_view section = {};
 };
 
 /// The names that the form had in its first design stand first.
@@ -59,10 +61,10 @@ constexpr std::array<Topic, 10> formTopics{{
     {"Dialog", powerPointHelp},
     {"PredefinedStyles", powerPointHelp},
     {"LayoutForm", powerPointHelp},
-    {"DialogWord", optionsHelp},
-    {"DialogPDF", optionsHelp},
-    {"DialogHTML", optionsHelp},
-    {"DialogImageFiles", optionsHelp},
+    {"DialogWord", optionsHelp, "word"},
+    {"DialogPDF", optionsHelp, "pdf"},
+    {"DialogHTML", optionsHelp, "html"},
+    {"DialogImageFiles", optionsHelp, "images"},
     {"Progress", {}},
     {"MurvaneLoad", {}},
     {"HepPopup", {}},
@@ -95,7 +97,7 @@ bool Help::HelpFileExists(std::string_view file) {
     return host_.fileExists(pathOf(file));
 }
 
-void Help::ShowHelp(std::string_view file) {
+void Help::ShowHelp(std::string_view file, std::string_view section) {
     if (!HelpFileExists(file)) {
         host_.messageBox(fmt::format("Help file not found: {}", file), "Error");
         return;
@@ -103,12 +105,12 @@ void Help::ShowHelp(std::string_view file) {
     office::ContinueOnFailure scope;
     const std::string path = pathOf(file);
     ShowHelpPopup(scope.read([&] { return titleOfPage(host_.readFile(path)); }, std::string()),
-                  path);
+                  path, std::string(section));
 }
 
-void Help::ShowHelpPopup(std::string title, std::string filePath) {
+void Help::ShowHelpPopup(std::string title, std::string filePath, std::string section) {
     HepPopup popup(desktop_, host_);
-    popup.PrepareHelpPopup(std::move(title), std::move(filePath));
+    popup.PrepareHelpPopup(std::move(title), std::move(filePath), std::move(section));
     popup.ShowPreparedHelpPopup();
 }
 
@@ -120,7 +122,7 @@ void Help::ShowContextHelp(const forms::Control& control) {
 void Help::ShowHelpFor(forms::Form& form) {
     if (form.Form_Help()) return;
     if (const Topic* topic = topicOf(formTopics, form.name())) {
-        if (!topic->file.empty()) ShowHelp(topic->file);
+        if (!topic->file.empty()) ShowHelp(topic->file, topic->section);
     } else if (form.focus != nullptr) {
         ShowContextHelp(*form.focus);
     } else {

@@ -17,10 +17,11 @@ public:
     Help& operator=(const Help&) = delete;
     ~Help() { desktop_.onHelp = nullptr; }
 
-    /// Shows a page of the help folder; a plain message box where there is no such file.
-    void ShowHelp(std::string_view file);
+    /// Shows a page of the help folder, from one of its sections on if that is named; a plain
+    /// message box where there is no such file.
+    void ShowHelp(std::string_view file, std::string_view section = {});
     /// Shows a file from anywhere as a page of help; one that can't be read is told on the page.
-    void ShowHelpPopup(std::string title, std::string filePath);
+    void ShowHelpPopup(std::string title, std::string filePath, std::string section = {});
     /// Shows the page that belongs to a control of the main form, or else the general one.
     void ShowContextHelp(const forms::Control& control);
     /// Shows the help that a form shows itself, or else the page that belongs to it and to the

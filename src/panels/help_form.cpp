@@ -73,9 +73,10 @@ HepPopup::HepPopup(forms::Desktop& theDesktop, session::Host& host)
     wbHelp.onBeforeNavigate = [this](std::string_view url) { return wbHelp_BeforeNavigate(url); };
 }
 
-void HepPopup::PrepareHelpPopup(std::string title, std::string filePath) {
+void HepPopup::PrepareHelpPopup(std::string title, std::string filePath, std::string section) {
     title_ = std::move(title);
     filePath_ = std::move(filePath);
+    section_ = std::move(section);
     tries_ = 0;
 }
 
@@ -145,7 +146,7 @@ void HepPopup::loadHelpFile() {
 
 void HepPopup::showPage(const std::string& page, bool isMessage) {
     showsMessage_ = isMessage;
-    navigateToPage(host_, wbHelp, "MurvaneHelp.html", page);
+    navigateToPage(host_, wbHelp, "MurvaneHelp.html", page, section_);
     tmrFit.enabled = true;
 }
 

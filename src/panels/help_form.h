@@ -22,7 +22,7 @@ public:
     HepPopup(forms::Desktop& desktop, session::Host& host);
 
     /// What the next showing is to show.
-    void PrepareHelpPopup(std::string title, std::string filePath);
+    void PrepareHelpPopup(std::string title, std::string filePath, std::string section = {});
     /// Returns when the reader has been closed.
     void ShowPreparedHelpPopup();
 
@@ -52,6 +52,7 @@ private:
     session::Host& host_;
     std::string title_;
     std::string filePath_;
+    std::string section_;
     std::int16_t tries_ = 0;
     bool showsMessage_ = false;
     std::optional<furniture::clsShadow> shadow_;

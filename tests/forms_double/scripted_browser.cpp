@@ -36,7 +36,7 @@ bool ScriptedBrowser::click(std::string_view address) {
 void ScriptedBrowser::navigate(std::string_view url) {
     if (control_.onBeforeNavigate && control_.onBeforeNavigate(url)) return;
     navigations.emplace_back(url);
-    pending_ = url;
+    pending_ = url.substr(0, url.find('#'));
     isLoaded_ = false;
 }
 

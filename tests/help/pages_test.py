@@ -14,12 +14,13 @@ PAGES = sorted(HELP.glob("*.html"))
 class Page(html.parser.HTMLParser):
     def __init__(self, file):
         super().__init__()
-        self.links, self.pictures, self.classes = set(), {}, set()
+        self.links, self.pictures, self.classes, self.sections = set(), {}, set(), set()
         self.feed(file.read_text(encoding="utf-8"))
 
     def handle_starttag(self, tag, attributes):
         values = dict(attributes)
         self.classes.update(values.get("class", "").split())
+        self.sections.add(values.get("id"))
         if tag in ("a", "link"):
             self.links.add(values["href"])
         elif tag == "img":
@@ -69,6 +70,9 @@ class Pages(unittest.TestCase):
         asked = set(re.findall(r'"((?:help_\w+|overview|faq|contact)\.html)"', sources))
         self.assertGreaterEqual(len(asked), 14)
         self.assertLessEqual(asked, set(self.pages))
+        sections = set(re.findall(r'optionsHelp, "(\w+)"', sources))
+        self.assertGreaterEqual(len(sections), 4)
+        self.assertLessEqual(sections, self.pages["help_export_options.html"].sections)
 
     def test_are_valid(self):
         checked = subprocess.run(["tidy", "-q", "-e", "--warn-proprietary-attributes", "no", *PAGES],

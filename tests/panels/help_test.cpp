@@ -173,6 +173,15 @@ TEST_F(HelpTest, OpensThePageThatBelongsToAControlOrAForm) {
         form.focus = &control;
         EXPECT_EQ(titleOf([&] { desktop.onHelp(form); }), " The " + it.file) << it.control;
     }
+    forms::Form images(desktop, "DialogImageFiles", 100, 100);
+    desktop.answer("HepPopup", [&](forms::Form& form) {
+        desktop.advance(1ms);
+        EXPECT_EQ(desktop.browser(form)->navigations,
+                  std::vector<std::string>{"file:///temporary/MurvaneHelp.html#images"});
+        EXPECT_TRUE(desktop.browser(form)->hasLink("file:///program/help/faq.html"));
+        forms_double::close(form);
+    });
+    desktop.onHelp(images);
     struct WithHelpOfItsOwn : forms::Form {
         using Form::Form;
         bool Form_Help() override { return true; }
