@@ -10,9 +10,6 @@
 /// terminal, and what it starts outlives this process.
 namespace apps {
 
-/// It goes on for itself; whether something came up is nobody's concern.
-void startOpener(const std::string& target, const std::vector<std::string>& withoutVariables);
-
 /// Whether a program was found for it. Some seconds go by until that is known; `pause` lets so many
 /// milliseconds pass.
 [[nodiscard]] bool opens(const std::string& target,

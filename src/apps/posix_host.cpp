@@ -214,16 +214,15 @@ void PosixHost::writeImage(std::string_view png, session::ImageFormat format,
     writeWhole(std::string(path), imageFileOf(png, format), Readers::Everybody);
 }
 
-void PosixHost::openLink(std::string_view address) {
-    startOpener(std::string(address), ownVariables());
+bool PosixHost::openLink(std::string_view address) {
+    return opens(std::string(address), ownVariables(), [this](std::uint32_t ms) {
+        letEventsRun();
+        sleep(ms);
+    });
 }
 
 bool PosixHost::openFile(std::string_view path) {
-    const auto pause = [this](std::uint32_t ms) {
-        letEventsRun();
-        sleep(ms);
-    };
-    return pathExists(path) && opens(fs::absolute(fs::path(path)).string(), ownVariables(), pause);
+    return pathExists(path) && openLink(fs::absolute(fs::path(path)).string());
 }
 
 void PosixHost::messageBox(std::string_view text, std::string_view title) {

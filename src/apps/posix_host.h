@@ -48,7 +48,7 @@ public:
         if (!texts_) texts_.emplace();
         return texts_->sizeOf(text, font, widthPt);
     }
-    void openLink(std::string_view address) override;
+    bool openLink(std::string_view address) override;
     bool openFile(std::string_view path) override;
     [[nodiscard]] std::optional<std::string> chooseFolder(std::string_view,
                                                           std::string_view) override {

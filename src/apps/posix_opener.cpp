@@ -57,10 +57,6 @@ void letGo(pid_t opener) {
 
 }  // namespace
 
-void startOpener(const std::string& target, const std::vector<std::string>& withoutVariables) {
-    if (const auto opener = start(target, withoutVariables)) letGo(*opener);
-}
-
 /// Some openers end when they have handed over, others with the program that they have started; one
 /// that is still running after a while has found a program.
 bool opens(const std::string& target, const std::vector<std::string>& withoutVariables,

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "office/failure_patterns.h"
+#include "session/web_pages.h"
 
 namespace destinations {
 
@@ -21,8 +22,7 @@ std::string cantWriteTo(const std::string& folder) {
 
 void openOrName(session::OfficeSession& session, const std::string& path) {
     if (session.host.openFile(path)) return;
-    session::ShowInfoNotice(
-        session.notices, fmt::format("There is no program to open it with. It is here:\r{}", path));
+    session::ShowInfoNotice(session.notices, session::cantOpen(path));
 }
 
 }  // namespace destinations

@@ -14,6 +14,7 @@
 #include "panels/help_page.h"
 #include "panels/page_file.h"
 #include "session/file_names.h"
+#include "session/web_pages.h"
 
 namespace panels {
 
@@ -197,7 +198,8 @@ void HepPopup::tmrFit_Timer() {
 bool HepPopup::wbHelp_BeforeNavigate(std::string_view url) {
     if (url == wbHelp.url()) return false;
     for (const std::string_view scheme : {"http:", "https:", "mailto:"}) {
-        if (url.starts_with(scheme)) host_.openLink(url);
+        if (url.starts_with(scheme) && !host_.openLink(url))
+            host_.messageBox(session::cantOpen(url), "Murvane");
     }
     if (!url.starts_with("file:")) return true;
     const std::string path = fmt::format("{}/{}", wbHelp.resourceFolder, fileNameIn(url));

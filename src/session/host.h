@@ -107,8 +107,8 @@ public:
     [[nodiscard]] virtual office::Size textSize(std::string_view text, const office::Font& font,
                                                 std::optional<double> widthPt) = 0;
 
-    /// Opens an address of the web or of a file with the user's browser. Failures are silent.
-    virtual void openLink(std::string_view address) = 0;
+    /// Opens an address of the web or of a file with the user's browser. False if there is none.
+    virtual bool openLink(std::string_view address) = 0;
 
     /// Opens a file or a folder with the program that the user has for it. False if there is none,
     /// or nothing stands at the path.

@@ -22,7 +22,10 @@ inline constexpr WebPage contactPage = {"MURVANE_CONTACT_URL", "contact.html"};
 
 [[nodiscard]] std::string addressOf(Host& host, const WebPage& page);
 
-/// Whether the browser shows the page is nobody's concern here.
+/// What is said of a file, a folder or an address that no program of the user's opens.
+[[nodiscard]] std::string cantOpen(std::string_view where);
+
+/// They open the page in the user's browser; a notice says where it is if there is none.
 void OpenDocOverview(OfficeSession& session);
 void OpenDocFaq(OfficeSession& session);
 void OpenContactPage(OfficeSession& session);

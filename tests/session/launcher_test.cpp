@@ -97,6 +97,12 @@ TEST_F(Launcher, OpensTheWebPagesWithoutAnyApplication) {
     EXPECT_EQ(test.host.links,
               (Words{"file:///program/help/overview.html", "file:///program/help/faq.html",
                      "https://intranet/who#murvane"}));
+    EXPECT_TRUE(test.notices.shown.empty());
+    test.host.opensFiles = false;
+    run("/003");
+    ASSERT_EQ(test.notices.shown.size(), 1U) << "no browser";
+    EXPECT_NE(test.notices.shown[0].message.find("\rhttps://intranet/who#murvane"),
+              std::string::npos);
 }
 
 TEST_F(Launcher, EndsWithoutAWordWhereExcelIsMissing) {

@@ -185,7 +185,10 @@ public:
         return {widthPt.value_or(inOneLine), font.sizePt * 1.2};
     }
 
-    void openLink(std::string_view address) override { links.emplace_back(address); }
+    bool openLink(std::string_view address) override {
+        links.emplace_back(address);
+        return opensFiles;
+    }
     bool openFile(std::string_view path) override {
         openedFiles.emplace_back(path);
         return opensFiles;
