@@ -80,24 +80,17 @@ bool ChartShape::hasArea() const {
     return size.Width > 0 && size.Height > 0;
 }
 
-/// Here, while it is known which chart is meant: later it would be a failure of a whole output.
-void ChartShape::requireArea() const {
-    if (!hasArea()) office::refuse("Chart", "The chart has no width or no height");
-}
-
 office::CopiedPtr ChartShape::copy(office::CopySource source) {
-    requireArea();
     if (source.kind == office::CopySource::Kind::Chart) {
         SheetOfChart home = home_.document.is() ? home_ : SheetOfChart{book_.model(), source.sheet};
         return std::make_shared<CopiedChart>(book_, std::move(source), shape_, std::move(home),
                                              owner_.lock());
     }
     return std::make_shared<CopiedPicture>(book_.desk(), std::move(source), lookOf(shape_).graphic,
-                                           shape_->getSize());
+                                           areaOf(shape_));
 }
 
 void ChartShape::writePicture(const std::string& path, office::PictureKind kind) {
-    requireArea();
     pictureMaker(book_.desk()).writeChart(shape_, path, kind);
 }
 

@@ -66,8 +66,6 @@ public:
     void remove() override;
 
 private:
-    void requireArea() const;
-
     CalcDocument& book_;
     uno::Reference<css::drawing::XShape> shape_;
     uno::Reference<css::beans::XMultiPropertySet> properties_;

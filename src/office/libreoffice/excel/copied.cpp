@@ -57,7 +57,7 @@ uno::Reference<css::graphic::XGraphic> CopiedPicture::graphic() const {
 CopiedChart::CopiedChart(CalcDocument& book, office::CopySource source,
                          uno::Reference<css::drawing::XShape> shape, SheetOfChart home,
                          std::shared_ptr<const void> owner)
-    : CopiedHere(std::move(source), shape->getSize()),
+    : CopiedHere(std::move(source), areaOf(shape)),
       book_(book.shared_from_this()),
       owner_(std::move(owner)),
       home_(std::move(home)),

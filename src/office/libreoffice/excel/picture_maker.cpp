@@ -123,7 +123,7 @@ void PictureMaker::writeChart(const uno::Reference<css::drawing::XShape>& chart,
                               const std::string& path, office::PictureKind kind) {
     if (kind == PictureKind::Svg) return writePictureFile(path, suite_.svgOfChart(chart));
     if (kind == PictureKind::Emf) return writePictureFile(path, suite_.emfOfChart(chart));
-    auto vectors = vectorsOf(chart, chart->getSize(), Sharpness::Crisp);
+    auto vectors = vectorsOf(chart, areaOf(chart), Sharpness::Crisp);
     if (!vectors) return suite_.writeChart(chart, path);
     makeWayFor(path);
     room_->drawFile(std::move(*vectors), path);

@@ -106,6 +106,13 @@ ChartLook lookOf(const uno::Reference<css::drawing::XShape>& chart) {
     return look;
 }
 
+css::awt::Size areaOf(const uno::Reference<css::drawing::XShape>& chart) {
+    const css::awt::Size size = chart->getSize();
+    if (size.Width <= 0 || size.Height <= 0)
+        office::refuse("Chart", "The chart has no width or no height");
+    return size;
+}
+
 bool isOpaque(const ChartLook& chart) {
     const auto document = tryAs<css::chart::XChartDocument>(chart.model);
     if (!document.is()) return true;
@@ -209,7 +216,7 @@ const uno::Reference<css::document::XExporter>& SuitePictures::exporterOf(
 
 void SuitePictures::writeChart(const uno::Reference<css::drawing::XShape>& chart,
                                const std::string& path) {
-    const css::awt::Size size = chart->getSize();
+    const css::awt::Size size = areaOf(chart);
     const ChartLook look = lookOf(chart);
     if (isOpaque(look)) {
         writePage(look.graphic, size, path);
@@ -247,7 +254,7 @@ uno::Sequence<sal_Int8> SuitePictures::metafileOf(
 std::string SuitePictures::svgOfChart(const uno::Reference<css::drawing::XShape>& chart) {
     // Not the chart's own vectors: the exporter scales all that is drawn, labels that reach out
     // of the chart too, to the size of the shape.
-    return svgOfPage(lookOf(chart).graphic, chart->getSize());
+    return svgOfPage(lookOf(chart).graphic, areaOf(chart));
 }
 
 std::string SuitePictures::svgOfMetafile(const uno::Sequence<sal_Int8>& metafile,

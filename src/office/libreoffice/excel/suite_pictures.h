@@ -92,6 +92,10 @@ struct ChartLook {
 /// `office::Failure` 1004 if a chart shows nothing, such as one that has gone.
 [[nodiscard]] ChartLook lookOf(const uno::Reference<css::drawing::XShape>& chart);
 
+/// The size of a chart. `office::Failure` 1004 for one without width or height: while it is known
+/// which chart is meant, since its picture would fail with a whole output.
+[[nodiscard]] css::awt::Size areaOf(const uno::Reference<css::drawing::XShape>& chart);
+
 /// Whether it covers all of its area.
 [[nodiscard]] bool isOpaque(const ChartLook& chart);
 
