@@ -197,7 +197,7 @@ TEST_F(ExcelTables, DoWithWideTextsWhatASheetDoes) {
         "2.5 right",
         "turne right turned=90",
         // All of what the table can't have askew, in smaller letters.
-        "turned over 5.8pt turned=90",
+        "turned over 5.5pt turned=90",
         "lies a little askew 8.3pt",
         "x",
     };

@@ -166,7 +166,8 @@ private:
             room += table_.rowHeightsPt[row + i];
         const double wide = widthOf(cell);
         if (wide <= room * closeness + tolerancePt) return;
-        if (value.isAskew) return shrink(cell, wide, room);
+        // It would break where characters are a little wider.
+        if (value.isAskew) return shrink(cell, wide * closeness, room);
         CellLook::Across along = CellLook::Across::Centre;
         if (cell.down != CellLook::Down::Middle) {
             const bool beginsThere = (cell.down == CellLook::Down::Bottom) == (cell.rotation == 90);
