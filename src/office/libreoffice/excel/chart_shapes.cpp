@@ -76,8 +76,7 @@ model::Box ChartShape::box() {
 }
 
 bool ChartShape::hasArea() const {
-    const css::awt::Size size = shape_->getSize();
-    return size.Width > 0 && size.Height > 0;
+    return isArea(shape_->getSize());
 }
 
 office::CopiedPtr ChartShape::copy(office::CopySource source) {

@@ -106,10 +106,15 @@ ChartLook lookOf(const uno::Reference<css::drawing::XShape>& chart) {
     return look;
 }
 
+bool isArea(const css::awt::Size& size) {
+    // A size of nothing comes back from a file as one of the smallest unit.
+    constexpr sal_Int32 tenthOfMm = 10;
+    return size.Width >= tenthOfMm && size.Height >= tenthOfMm;
+}
+
 css::awt::Size areaOf(const uno::Reference<css::drawing::XShape>& chart) {
     const css::awt::Size size = chart->getSize();
-    if (size.Width <= 0 || size.Height <= 0)
-        office::refuse("Chart", "The chart has no width or no height");
+    if (!isArea(size)) office::refuse("Chart", "The chart has no width or no height");
     return size;
 }
 

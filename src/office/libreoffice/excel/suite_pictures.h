@@ -92,6 +92,9 @@ struct ChartLook {
 /// `office::Failure` 1004 if a chart shows nothing, such as one that has gone.
 [[nodiscard]] ChartLook lookOf(const uno::Reference<css::drawing::XShape>& chart);
 
+/// Whether something can be seen in a size.
+[[nodiscard]] bool isArea(const css::awt::Size& size);
+
 /// The size of a chart. `office::Failure` 1004 for one without width or height: while it is known
 /// which chart is meant, since its picture would fail with a whole output.
 [[nodiscard]] css::awt::Size areaOf(const uno::Reference<css::drawing::XShape>& chart);
