@@ -148,16 +148,18 @@ model::DeckSlidePtr ImpressDeck::addSlide(std::int32_t place, std::int32_t layou
     if (wouldComeBeforeNewSlides(place, layout)) {
         // LibreOffice counts from 0 and inserts after the page that it is given.
         const auto last = pages_->insertNewByIndex(place + newSlides_.count - 2);
-        dress(*held(last), layout);
+        dressNewSlide(*held(last));
         ++newSlides_.count;
     } else {
-        if (place < 1 || place > slideCount() + 1) return nullptr;
-        if (!footOfNewSlides_) {
-            const ImpressSlidePtr last = pageAt(slideCount());
-            footOfNewSlides_ = last ? SlideFoot(last->page()) : SlideFoot();
-        }
-        newSlides_ = {.first = insertPage(place), .count = 1, .layout = layout, .callsBefore = 0};
-        dress(*newSlides_.first, layout);
+        const std::int32_t count = slideCount();
+        if (place < 1 || place > count + 1) return nullptr;
+        const SlideFoot foot = count > 0 ? SlideFoot(pageAt(count)->page()) : SlideFoot();
+        newSlides_ = {.first = insertPage(place),
+                      .count = 1,
+                      .layout = layout,
+                      .foot = foot,
+                      .callsBefore = 0};
+        dressNewSlide(*newSlides_.first);
     }
     newSlides_.callsBefore = connection().remoteCalls();
     return newSlides_.first;
@@ -173,9 +175,9 @@ bool ImpressDeck::wouldComeBeforeNewSlides(std::int32_t place, std::int32_t layo
            newSlides_.first.use_count() == ownHolders && newSlides_.first->place() == place;
 }
 
-void ImpressDeck::dress(ImpressSlide& added, std::int32_t layout) {
-    layouts_.apply(added, layout);
-    if (footOfNewSlides_) footOfNewSlides_->applyTo(added.page());
+void ImpressDeck::dressNewSlide(ImpressSlide& added) {
+    layouts_.apply(added, newSlides_.layout);
+    newSlides_.foot.applyTo(added.page());
 }
 
 ImpressSlidePtr ImpressDeck::insertPage(std::int32_t place) {

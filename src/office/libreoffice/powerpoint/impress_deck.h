@@ -6,7 +6,6 @@
 #include <com/sun/star/presentation/XPresentation2.hpp>
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -81,6 +80,8 @@ private:
         ImpressSlidePtr first;
         std::int32_t count = 0;
         std::int32_t layout = 0;
+        /// That of the slide which was the last before them.
+        SlideFoot foot;
         std::uint64_t callsBefore = 0;
     };
 
@@ -88,7 +89,7 @@ private:
     [[nodiscard]] ImpressSlidePtr pageAt(std::int32_t place);
     [[nodiscard]] ImpressSlidePtr held(const uno::Reference<css::drawing::XDrawPage>& page);
     [[nodiscard]] ImpressSlidePtr insertPage(std::int32_t place);
-    void dress(ImpressSlide& added, std::int32_t layout);
+    void dressNewSlide(ImpressSlide& added);
 
     Desk& desk_;
     uno::Reference<css::drawing::XDrawPages> pages_;
@@ -101,8 +102,6 @@ private:
     std::vector<ImpressSlidePtr> slides_;
     std::vector<uno::Reference<css::drawing::XShape>> shapes_;
     NewSlides newSlides_;
-    /// That of the slide which is the last when the first new one is added.
-    std::optional<SlideFoot> footOfNewSlides_;
     /// LibreOffice can't have a presentation without slides: the one that it begins with counts
     /// from the first slide on that is added, and is that slide.
     bool beginsWithoutSlides_ = false;
