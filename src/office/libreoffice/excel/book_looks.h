@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "office/libreoffice/excel/cell_conditions.h"
+#include "office/libreoffice/excel/cell_dress.h"
 #include "office/libreoffice/excel/cell_formats.h"
 #include "office/libreoffice/excel/html_places.h"
 #include "office/libreoffice/excel/sheet_record.h"
@@ -18,17 +19,6 @@
 namespace libreoffice::excel {
 
 class CalcDocument;
-
-/// What conditional formats change about a cell: the colours are 0xBBGGRR, nothing is no ground and
-/// the automatic colour of letters.
-struct CellDress {
-    std::optional<std::int32_t> fill;
-    std::optional<std::int32_t> fontColour;
-    bool isBold = false;
-    bool isItalic = false;
-    bool isUnderlined = false;
-    bool isStruckOut = false;
-};
 
 /// The cells of a sheet as they are dressed.
 class SheetLooks {

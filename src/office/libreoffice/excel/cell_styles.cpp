@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace libreoffice::excel {
 
@@ -38,10 +39,23 @@ std::vector<rtl::OUString> ownProperties(const CellStyle& style) {
     return own;
 }
 
+std::vector<rtl::OUString> propertiesAlongParents(const uno::Reference<css::frame::XModel>& book,
+                                                  const CellStyle& style) {
+    // No style is its own forefather: the suite refuses that.
+    std::vector<rtl::OUString> all;
+    for (CellStyle each = style; each.is(); each = parentOf(book, each)) {
+        const auto own = ownProperties(each);
+        const auto before = std::exchange(all, {});
+        std::set_union(before.begin(), before.end(), own.begin(), own.end(),
+                       std::back_inserter(all));
+    }
+    return all;
+}
+
 bool takesAfterParent(const uno::Reference<css::frame::XModel>& book, const CellStyle& style) {
     const auto parent = parentOf(book, style);
     if (!parent.is()) return false;
-    const auto own = ownProperties(style), parents = ownProperties(parent);
+    const auto own = ownProperties(style), parents = propertiesAlongParents(book, parent);
     std::vector<rtl::OUString> open;
     std::set_difference(parents.begin(), parents.end(), own.begin(), own.end(),
                         std::back_inserter(open));

@@ -20,7 +20,10 @@ using CellStyle = uno::Reference<css::beans::XMultiPropertyStates>;
 /// What a style says itself, sorted. Themes' colours and the lines within tables, which are said
 /// once more by other names, are left out.
 [[nodiscard]] std::vector<rtl::OUString> ownProperties(const CellStyle& style);
-/// Whether what a style leaves open is as its parent says. The styles of conditional formats in
+/// Besides what its parents say, theirs, and so on.
+[[nodiscard]] std::vector<rtl::OUString> propertiesAlongParents(
+    const uno::Reference<css::frame::XModel>& book, const CellStyle& style);
+/// Whether what a style leaves open is as its parents say. The styles of conditional formats in
 /// Excel's files name a parent, but leave that to the cell.
 [[nodiscard]] bool takesAfterParent(const uno::Reference<css::frame::XModel>& book,
                                     const CellStyle& style);

@@ -1,7 +1,5 @@
 #include "office/libreoffice/excel/held_styles.h"
 
-#include <com/sun/star/awt/FontSlant.hpp>
-#include <com/sun/star/awt/FontWeight.hpp>
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
 
 #include <algorithm>
@@ -10,6 +8,7 @@
 
 #include "office/libreoffice/excel/book_looks.h"
 #include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/excel/cell_dress.h"
 #include "office/libreoffice/excel/cell_styles.h"
 #include "office/libreoffice/excel/formula_reach.h"
 
@@ -19,61 +18,12 @@ namespace {
 
 using model::CellBlock;
 
-/// What a style says of what the page tells of cells; nothing where it leaves that to the cell.
-struct StyleMarks {
-    /// No colour is none, or the automatic one of letters.
-    using Colour = std::optional<std::int32_t>;
-    std::optional<Colour> fill, fontColour;
-    std::optional<bool> isBold, isItalic, isStruckOut, isUnderlined;
-
-    /// Whether there is anything that a cell could be known by. Which colour the automatic one is,
-    /// is not said here.
-    [[nodiscard]] bool areSeen() const {
-        return fill || (fontColour && *fontColour) || isBold || isItalic || isStruckOut ||
-               isUnderlined;
-    }
-    [[nodiscard]] bool areOn(const CellDress& cell) const {
-        const auto fits = [](const auto& mark, const auto& seen) { return !mark || *mark == seen; };
-        const bool fitsInk = !fontColour || !*fontColour || *fontColour == cell.fontColour;
-        return fits(fill, cell.fill) && fitsInk && fits(isBold, cell.isBold) &&
-               fits(isItalic, cell.isItalic) && fits(isStruckOut, cell.isStruckOut) &&
-               fits(isUnderlined, cell.isUnderlined);
-    }
-};
-
-StyleMarks marksOf(const uno::Reference<css::beans::XMultiPropertyStates>& style) {
-    const auto names = namesOf({"CellBackColor", "CharColor", "CharPosture", "CharStrikeout",
-                                "CharUnderline", "CharWeight"});
-    const auto states = style->getPropertyStates(names);
-    const auto values = as<css::beans::XMultiPropertySet>(style)->getPropertyValues(names);
-    const auto read = [&](sal_Int32 place, auto otherwise, auto convert) {
-        std::optional<decltype(convert(otherwise))> mark;
-        if (states[place] == css::beans::PropertyState_DIRECT_VALUE &&
-            (values[place] >>= otherwise))
-            mark = convert(otherwise);
-        return mark;
-    };
-    const auto colour = [](sal_Int32 value) {
-        return value < 0 ? StyleMarks::Colour() : swapRedAndBlue(value);
-    };
-    const auto isSet = [](sal_Int16 line) { return line != 0; };
-    const auto leans = [](css::awt::FontSlant slant) { return slant != css::awt::FontSlant_NONE; };
-    const auto isHeavy = [](float weight) { return weight > css::awt::FontWeight::NORMAL; };
-    StyleMarks marks;
-    marks.fill = read(0, sal_Int32{}, colour);
-    marks.fontColour = read(1, sal_Int32{}, colour);
-    marks.isItalic = read(2, css::awt::FontSlant_NONE, leans);
-    marks.isStruckOut = read(3, sal_Int16{}, isSet);
-    marks.isUnderlined = read(4, sal_Int16{}, isSet);
-    marks.isBold = read(5, float{}, isHeavy);
-    return marks;
-}
-
 struct SeenStyle {
-    HeldStyle style;
-    StyleMarks marks;
+    rtl::OUString name;
+    StyleFacts facts;
     /// Whether the page shows where it is, on all the cells that it could be on.
-    bool isTold = true;
+    bool isTold;
+    std::vector<CellBlock> cells = {};
 };
 
 /// Where in a block a condition may hold, and the place of its style in a list.
@@ -82,15 +32,24 @@ struct CellsOfStyle {
     std::vector<CellBlock> cells;
 };
 
+bool areAlike(const CellStyle& one, const CellStyle& other) {
+    const auto said = ownProperties(one);
+    if (said != ownProperties(other)) return false;
+    const uno::Sequence<rtl::OUString> names(said.data(), static_cast<sal_Int32>(said.size()));
+    return as<css::beans::XMultiPropertySet>(one)->getPropertyValues(names) ==
+           as<css::beans::XMultiPropertySet>(other)->getPropertyValues(names);
+}
+
 class StylesOnBlock {
 public:
     StylesOnBlock(SheetRecord& sheet, const CellBlock& block,
                   const std::vector<CellCondition>& conditions)
-        : used_(blockOf(sheet.wholeCells(sheet.used()))),
-          isTaken_(static_cast<std::size_t>(used_.cells())) {
+        : sheet_(sheet),
+          used_(blockOf(sheet.wholeCells(sheet.used()))),
+          seen_(intersection(block, used_)) {
         for (const CellCondition& condition : conditions) {
             const auto name = styleNameOf(condition);
-            if (!name.isEmpty()) add(sheet.book(), name, condition.blocks, block);
+            if (!name.isEmpty()) add(name, condition.blocks, block);
         }
     }
 
@@ -99,57 +58,91 @@ public:
                            [](const SeenStyle& each) { return each.isTold; });
     }
     [[nodiscard]] bool isTold(const rtl::OUString& name) const {
-        return std::any_of(styles_.begin(), styles_.end(), [&](const SeenStyle& each) {
-            return each.isTold && each.style.name == name;
-        });
+        return std::any_of(styles_.begin(), styles_.end(),
+                           [&](const SeenStyle& each) { return each.isTold && each.name == name; });
     }
-    /// Of several conditions on a cell the first one counts.
     void find(SheetLooks& looks) {
-        for (const auto& [style, cells] : inOrder_) {
-            if (!styles_[style].isTold) continue;
-            for (const CellBlock& each : cells) findIn(each, styles_[style], looks);
+        if (!seen_) return;
+        const OwnDress own(sheet_, *seen_);
+        std::vector<std::size_t> held(static_cast<std::size_t>(seen_->cells()), noStyle);
+        for (const auto& [style, cells] : inOrder_)
+            for (const CellBlock& each : cells) findIn(each, style, looks, own, held);
+        for (std::size_t i = 0; i < held.size(); ++i) {
+            const auto rows = static_cast<std::size_t>(seen_->rows());
+            const auto column = seen_->firstColumn + static_cast<std::int32_t>(i / rows);
+            const auto row = seen_->firstRow + static_cast<std::int32_t>(i % rows);
+            if (held[i] != noStyle) take(column, row, styles_[held[i]].cells);
         }
     }
     [[nodiscard]] std::vector<HeldStyle> takeTold() {
         std::vector<HeldStyle> told;
         for (SeenStyle& each : styles_)
-            if (each.isTold) told.push_back(std::move(each.style));
+            if (each.isTold)
+                told.push_back({each.name, each.facts.takesAfterParent, std::move(each.cells)});
         return told;
     }
 
 private:
-    void add(CalcDocument& book, const rtl::OUString& name, const std::vector<CellBlock>& blocks,
+    static constexpr auto noStyle = static_cast<std::size_t>(-1);
+
+    void add(const rtl::OUString& name, const std::vector<CellBlock>& blocks,
              const CellBlock& within) {
         auto found = std::find_if(styles_.begin(), styles_.end(),
-                                  [&](const SeenStyle& each) { return each.style.name == name; });
+                                  [&](const SeenStyle& each) { return each.name == name; });
         if (found == styles_.end()) {
-            const auto style = cellStyle(book.model(), name);
+            const auto& book = sheet_.book().model();
+            const auto style = cellStyle(book, name);
             if (!style.is()) return;
-            const StyleMarks marks = marksOf(style);
-            found = styles_.insert(
-                found, {{name, takesAfterParent(book.model(), style), {}}, marks, marks.areSeen()});
+            const StyleFacts facts = styleFactsOf(book, style);
+            found = styles_.insert(found, {name, facts, facts.marks.count() > 0});
         }
         CellsOfStyle cells = {static_cast<std::size_t>(found - styles_.begin()), {}};
         for (const CellBlock& each : blocks) {
             const auto common = intersection(each, within);
             if (!common) continue;
-            if (intersection(*common, used_) != common) found->isTold = false;
-            cells.cells.push_back(*common);
+            if (intersection(*common, used_) != common)
+                found->isTold = false;
+            else
+                cells.cells.push_back(*common);
         }
         inOrder_.push_back(std::move(cells));
     }
-    void findIn(const CellBlock& cells, SeenStyle& seen, SheetLooks& looks) {
+    /// Column by column.
+    void findIn(const CellBlock& cells, std::size_t style, SheetLooks& looks, const OwnDress& own,
+                std::vector<std::size_t>& held) {
         for (std::int32_t column = cells.firstColumn; column <= cells.lastColumn; ++column) {
             for (std::int32_t row = cells.firstRow; row <= cells.lastRow; ++row) {
                 const CellDress* const look = looks.at(column, row);
-                if (look == nullptr || !seen.marks.areOn(*look)) continue;
-                const auto place = static_cast<std::size_t>(row - used_.firstRow) *
-                                       static_cast<std::size_t>(used_.columns()) +
-                                   static_cast<std::size_t>(column - used_.firstColumn);
-                if (!isTaken_[place]) take(column, row, seen.style.cells);
-                isTaken_[place] = true;
+                const StyleFacts& facts = styles_[style].facts;
+                if (look == nullptr || !facts.marks.areOn(*look)) continue;
+                const CellDress& dress = own.at(column, row);
+                // The cell would look so without the condition, too.
+                if (facts.marks.areOn(dress)) {
+                    if (facts.saysMore) styles_[style].isTold = false;
+                    continue;
+                }
+                const auto place = static_cast<std::size_t>(column - seen_->firstColumn) *
+                                       static_cast<std::size_t>(seen_->rows()) +
+                                   static_cast<std::size_t>(row - seen_->firstRow);
+                held[place] =
+                    held[place] == noStyle ? style : likelier(held[place], style, *look, dress);
             }
         }
+    }
+    /// Of two styles that a cell may show the one that makes it look as it does, or the one that
+    /// more of that comes from. None of them is told where both may, and differ in what is not
+    /// seen.
+    std::size_t likelier(std::size_t first, std::size_t second, const CellDress& look,
+                         const CellDress& own) {
+        const StyleFacts& one = styles_[first].facts;
+        const StyleFacts& other = styles_[second].facts;
+        const bool mayOne = one.marks.make(look, own), mayOther = other.marks.make(look, own);
+        if (mayOne != mayOther) return mayOne ? first : second;
+        const bool areEven = mayOne || one.marks.count() == other.marks.count();
+        if (!areEven) return one.marks.count() > other.marks.count() ? first : second;
+        const bool isOpen = (one.saysMore || other.saysMore) && !areAlike(one.style, other.style);
+        if (first != second && isOpen) styles_[first].isTold = styles_[second].isTold = false;
+        return first;
     }
     /// In runs downwards.
     static void take(std::int32_t column, std::int32_t row, std::vector<CellBlock>& held) {
@@ -161,8 +154,10 @@ private:
             held.push_back(CellBlock::cell(row, column));
     }
 
+    SheetRecord& sheet_;
     CellBlock used_;
-    std::vector<bool> isTaken_;
+    /// What the page may hold of the block.
+    std::optional<CellBlock> seen_;
     std::vector<SeenStyle> styles_;
     std::vector<CellsOfStyle> inOrder_;
 };

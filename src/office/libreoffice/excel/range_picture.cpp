@@ -71,7 +71,7 @@ uno::Sequence<sal_Int8> metafileOf(SheetRecord& sheet,
     CopyOfCells copy = copyOf(sheet, cells, block, size, !untold.isNothing());
     if (untold.isNothing()) return std::move(copy.metafile);
     try {
-        auto drawn = drawWith(untold, sheet.book().connection(), copy.object, block, size);
+        auto drawn = drawWith(untold, sheet.book().connection(), copy.object, block);
         if (!differs(drawn, size)) return drawn;
     } catch (const uno::Exception&) {
         // The copy's own picture is better than none.

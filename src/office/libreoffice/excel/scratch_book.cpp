@@ -19,8 +19,6 @@
 #include <com/sun/star/util/XCloseable.hpp>
 
 #include <algorithm>
-#include <cstdlib>
-#include <iterator>
 #include <utility>
 
 #include "office/libreoffice/at_end.h"
@@ -39,6 +37,8 @@ void loadAsObject(const Connection& connection, const Model& book,
                   const uno::Sequence<sal_Int8>& copied) {
     // Heard before the book is loaded alone.
     book->attachResource("", propertyValues({{"SetEmbedded", uno::Any(true)}}));
+    // Rows keep the heights that they have on the sheet, whatever their cells get below.
+    setProperty(book, "IsAdjustHeightEnabled", false);
     const auto stream =
         connection.create("com.sun.star.io.SequenceInputStream", {uno::Any(copied)});
     as<css::frame::XLoadable>(book)->load(
@@ -95,14 +95,9 @@ void dress(const Model& book, const HeldStyle& style) {
     const auto cells = rangesOf(book, style.cells);
     const auto look = cellStyle(book, style.name);
     if (!look.is()) throw uno::RuntimeException("The copy lacks a style", book);
-    std::vector<rtl::OUString> own = ownProperties(look);
-    if (const auto parent = parentOf(book, look); style.takesAfterParent && parent.is()) {
-        const auto more = ownProperties(parent);
-        std::vector<rtl::OUString> all;
-        std::set_union(own.begin(), own.end(), more.begin(), more.end(), std::back_inserter(all));
-        own = std::move(all);
-    }
-    const uno::Sequence<rtl::OUString> names(own.data(), static_cast<sal_Int32>(own.size()));
+    const auto said =
+        style.takesAfterParent ? propertiesAlongParents(book, look) : ownProperties(look);
+    const uno::Sequence<rtl::OUString> names(said.data(), static_cast<sal_Int32>(said.size()));
     as<css::beans::XMultiPropertySet>(cells)->setPropertyValues(
         names, as<css::beans::XMultiPropertySet>(look)->getPropertyValues(names));
 }
@@ -137,20 +132,24 @@ void widen(const Model& book, const uno::Reference<uno::XInterface>& sheet,
 }
 
 /// A copy knows no object that is larger than its page.
-void showAll(const Model& book, const css::awt::Size& wanted) {
-    constexpr int rounding = 100;
+void showAll(const Model& book, const uno::Reference<uno::XInterface>& sheet,
+             const model::CellBlock& block) {
+    const auto cells =
+        placeOf(as<css::table::XCellRange>(sheet)->getCellRangeByPosition(
+                    block.firstColumn, block.firstRow, block.lastColumn, block.lastRow))
+            .size;
     const auto seen = as<css::embed::XVisualObject>(book);
     const auto size = seen->getVisualAreaSize(css::embed::Aspects::MSOLE_CONTENT);
-    if (std::abs(size.Width - wanted.Width) > rounding ||
-        std::abs(size.Height - wanted.Height) > rounding)
-        seen->setVisualAreaSize(css::embed::Aspects::MSOLE_CONTENT, wanted);
+    constexpr int rounding = 100;
+    if (size.Width < cells.Width - rounding || size.Height < cells.Height - rounding)
+        seen->setVisualAreaSize(css::embed::Aspects::MSOLE_CONTENT, cells);
 }
 
 }  // namespace
 
 uno::Sequence<sal_Int8> drawWith(const UntoldByCopy& untold, const Connection& connection,
                                  const uno::Sequence<sal_Int8>& copied,
-                                 const model::CellBlock& block, const css::awt::Size& size) {
+                                 const model::CellBlock& block) {
     const auto book =
         as<css::frame::XModel>(connection.create("com.sun.star.sheet.SpreadsheetDocument"));
     const auto close = atEnd([&] { as<css::util::XCloseable>(book)->close(true); });
@@ -167,7 +166,7 @@ uno::Sequence<sal_Int8> drawWith(const UntoldByCopy& untold, const Connection& c
         column += 2;
         if (column <= model::CellBlock::lastColumnOfSheet) widen(book, sheet, around, column);
     }
-    showAll(book, size);
+    showAll(book, sheet, block);
     uno::Sequence<sal_Int8> metafile;
     as<css::datatransfer::XTransferable>(book)->getTransferData(
         {rtl::OUString::createFromAscii(metafileType), "",

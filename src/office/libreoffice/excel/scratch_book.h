@@ -1,6 +1,5 @@
 #pragma once
 
-#include <com/sun/star/awt/Size.hpp>
 #include <com/sun/star/uno/Sequence.hxx>
 
 #include <vector>
@@ -25,13 +24,12 @@ struct UntoldByCopy {
     [[nodiscard]] bool isNothing() const { return styles.empty() && around.empty(); }
 };
 
-/// The metafile of a block of cells of this size that was copied as `embeddedType`, as the suite
+/// The metafile of a block of cells that was copied as `embeddedType`, as the suite
 /// draws it of a copy, but with what the copy doesn't tell. It is drawn in a workbook that has no
 /// window and is in none of the suite's lists of documents.
 [[nodiscard]] uno::Sequence<sal_Int8> drawWith(const UntoldByCopy& untold,
                                                const Connection& connection,
                                                const uno::Sequence<sal_Int8>& copied,
-                                               const model::CellBlock& block,
-                                               const css::awt::Size& size);
+                                               const model::CellBlock& block);
 
 }  // namespace libreoffice::excel
