@@ -223,6 +223,8 @@ class TheSampleWorkbook(ProgramTest):
         frame = book.add_format({"border": 1})
         sheet.conditional_format("P1:P4", {"type": "formula", "criteria": "=$B$1=1", "format": frame})
         sheet.conditional_format("R1:R4", {"type": "formula", "criteria": "=$R1>R2", "format": frame})
+        for column, criteria in (("S", "=S1>Limit"), ("T", "=INDIRECT(\"B1\")>1")):
+            sheet.conditional_format(f"{column}1:{column}4", {"type": "formula", "criteria": criteria, "format": frame})
         sheet.add_table("L1:M4")
         sheet.add_sparkline("C3", {"range": "Data!B1:B4"})
         for name, cells in (("Formulas", "$H$1:$H$2"), ("Twins", "$H$5"), ("Numbers", "$I$1:$I$2"),
@@ -231,20 +233,22 @@ class TheSampleWorkbook(ProgramTest):
                             ("Big", "$CA$1:$FV$51"), ("Signs", "$B$2:$C$9"), ("Words", "$A$1:$A$3"),
                             ("Covered", "$D$4:$F$9"), ("All of it", "$A$1:$F$9"), ("Plain", "$A$2:$A$9"),
                             ("Whole", "$K:$K"), ("Lines", "$C$2:$C$4"), ("Plain_beside", "$D$1:$D$3"), ("Log", "$Q$1:$Q$400"),
-                            ("Underlined", "$P$1:$P$4"), ("Untouched", "$R$1:$R$5"), ("Upper", "$R$1:$R$3")):
+                            ("Underlined", "$P$1:$P$4"), ("Untouched", "$R$1:$R$5"), ("Upper", "$R$1:$R$3"), ("Vague", "$S$1:$S$4"),
+                            ("Wandering", "$T$1:$T$4")):
             book.define_name(name.replace(" ", "_"), f"=Data!{cells}")
+        book.define_name("Limit", "=2")
         book.close()
         code, _, errors = self.run_program(path, "--all", "--check", "--format", "editable", "--output", output)
         self.assertEqual(code, 3, errors)
         self.assertFalse(output.exists())
         for loss, names in (("icons", '"All_of_it" and "Signs"'), ("look", '"All_of_it" and "Words"'),
-                            ("drawings", '"All_of_it" and "Covered"'), ("5,000", '"Big"'), ("formula", '"Pale".*"Scales".*"Twins".*"Upper"'),
+                            ("drawings", '"All_of_it" and "Covered"'), ("5,000", '"Big"'), ("formula", '"Pale".*"Scales".*"Twins".*"Upper".*"Wandering"'),
                             ("numbers are", '"Numbers"'), ("bars", '"Bars"'), ("table style", '"Coloured"'),
                             ("sparklines", '"All_of_it", "Lines" and "Signs"'), ("too small to read", '"Big" and "Log"')):
             self.assertRegex(errors, f"(?m)^  - [^\"]*{names} .*{loss}")
         self.assertNotRegex(errors, "Plain|Whole|Formulas")
         _, _, errors = self.run_program(path, "--all", "--check", "--to", "images", "--output", self.folder / "losses")
-        self.assertRegex(errors, '(?m)^  - The pictures of "Twins", "Underlined" and "Upper" may have conditional formats wrong')
+        self.assertRegex(errors, '(?m)^  - The pictures of "Twins", "Underlined", "Upper", "Vague" and "Wandering" may have conditional formats wrong')
 
 
 if __name__ == "__main__":

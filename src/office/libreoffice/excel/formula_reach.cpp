@@ -2,8 +2,10 @@
 
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/ComplexReference.hpp>
+#include <com/sun/star/sheet/FormulaLanguage.hpp>
 #include <com/sun/star/sheet/ReferenceFlags.hpp>
 #include <com/sun/star/sheet/SingleReference.hpp>
+#include <com/sun/star/sheet/XFormulaOpCodeMapper.hpp>
 #include <com/sun/star/sheet/XFormulaParser.hpp>
 
 #include <algorithm>
@@ -41,14 +43,26 @@ bool leadsOut(const SingleReference& reference, sal_Int32 sheet, const CellBlock
     return isElsewhere || intersection(reach, block) != reach;
 }
 
-/// A name stands for cells that it doesn't tell.
-bool leadsOut(const uno::Any& token, sal_Int32 sheet, const CellBlock& cells,
-              const CellBlock& block) {
-    if (SingleReference one; token >>= one) return leadsOut(one, sheet, cells, block);
-    if (css::sheet::ComplexReference range; token >>= range)
+/// What a function finds, and what a name or another workbook holds, counts as outside.
+bool leadsOut(const css::sheet::FormulaToken& token, const std::vector<sal_Int32>& finders,
+              sal_Int32 sheet, const CellBlock& cells, const CellBlock& block) {
+    if (SingleReference one; token.Data >>= one) return leadsOut(one, sheet, cells, block);
+    if (css::sheet::ComplexReference range; token.Data >>= range)
         return leadsOut(range.Reference1, sheet, cells, block) ||
                leadsOut(range.Reference2, sheet, cells, block);
-    return false;
+    return token.Data.getValueTypeClass() == uno::TypeClass_STRUCT ||
+           std::find(finders.begin(), finders.end(), token.OpCode) != finders.end();
+}
+
+/// The functions that give other cells than they name.
+std::vector<sal_Int32> codesOfFinders(const uno::Reference<css::lang::XMultiServiceFactory>& book) {
+    const auto mapper = as<css::sheet::XFormulaOpCodeMapper>(
+        book->createInstance("com.sun.star.sheet.FormulaOpCodeMapper"));
+    std::vector<sal_Int32> codes;
+    for (const auto& token :
+         mapper->getMappings(namesOf({"INDIRECT", "OFFSET"}), css::sheet::FormulaLanguage::ENGLISH))
+        codes.push_back(token.OpCode);
+    return codes;
 }
 
 }  // namespace
@@ -57,22 +71,24 @@ bool readsAround(SheetRecord& sheet, const CellBlock& block, const CellCondition
     CellBlock all = condition.blocks.front();
     for (const CellBlock& each : condition.blocks) all = around(all, each);
     const auto place = static_cast<sal_Int16>(sheet.place());
+    const auto book = as<css::lang::XMultiServiceFactory>(sheet.book().model());
     const auto parser =
-        as<css::sheet::XFormulaParser>(as<css::lang::XMultiServiceFactory>(sheet.book().model())
-                                           ->createInstance("com.sun.star.sheet.FormulaParser"));
-    std::vector<uno::Any> read;
+        as<css::sheet::XFormulaParser>(book->createInstance("com.sun.star.sheet.FormulaParser"));
+    const auto finders = codesOfFinders(book);
+    std::vector<css::sheet::FormulaToken> read;
     for (const char* name : {"Formula1", "Formula2"}) {
         const auto formula = property<rtl::OUString>(condition.entry, name);
         // As the suite tells it: for the first of all cells.
         const auto tokens = parser->parseFormula(formula, {place, all.firstColumn, all.firstRow});
-        for (const css::sheet::FormulaToken& token : tokens) read.push_back(token.Data);
+        read.insert(read.end(), tokens.begin(), tokens.end());
     }
     return std::any_of(
         condition.blocks.begin(), condition.blocks.end(), [&](const CellBlock& each) {
             const auto cells = intersection(each, block);
-            return cells && std::any_of(read.begin(), read.end(), [&](const uno::Any& token) {
-                       return leadsOut(token, place, *cells, block);
-                   });
+            return cells && std::any_of(read.begin(), read.end(),
+                                        [&](const css::sheet::FormulaToken& token) {
+                                            return leadsOut(token, finders, place, *cells, block);
+                                        });
         });
 }
 
