@@ -75,7 +75,7 @@ std::optional<model::CellsOfSheet> cellsOfContents(std::string_view contents) {
     return cells;
 }
 
-std::string contentsFor(const model::CellsOfSheet& cells) {
+std::string referenceTo(const model::CellsOfSheet& cells) {
     std::string contents;
     for (const model::CellBlock& block : cells.blocks) {
         if (!contents.empty()) contents += '~';
@@ -184,7 +184,7 @@ bool NamedRanges::isVisible(const std::string& name) {
 }
 
 void NamedRanges::define(const std::string& name, const model::CellsOfSheet& cells, bool visible) {
-    const rtl::OUString contents = toUno(contentsFor(cells));
+    const rtl::OUString contents = toUno(referenceTo(cells));
     const sal_Int32 type = visible ? 0 : hiddenNameFlag;
     const Unrecorded quiet(book_);
     const auto whenDone = atEnd([this] { book_.noteOwnChange(); });
