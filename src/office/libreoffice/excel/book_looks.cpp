@@ -196,10 +196,9 @@ BookLooks::BookLooks(CalcDocument& book)
 
 void BookLooks::forgetIfChanged() {
     if (!hasChanged_->exchange(false)) return;
-    isTooLarge_.reset();
-    page_.reset();
+    pages_.clear();
     conditions_.clear();
-    sheets_.clear();
+    styles_.clear();
 }
 
 std::vector<CellCondition> BookLooks::conditionsOn(SheetRecord& sheet,
@@ -217,45 +216,84 @@ std::vector<CellCondition> BookLooks::conditionsOn(SheetRecord& sheet,
     return found;
 }
 
-bool BookLooks::isTooLarge() {
+std::shared_ptr<const StyleFacts> BookLooks::styleFacts(const rtl::OUString& name) {
     forgetIfChanged();
-    if (!isTooLarge_) {
-        std::vector<SheetRecordPtr> shown = book_.sheetList().all();
-        std::erase_if(shown, [](const SheetRecordPtr& sheet) { return !sheet->isShown(); });
-        isTooLarge_ = takeSeconds(shown);
+    auto known = styles_.find(name);
+    if (known == styles_.end()) {
+        const CellStyle style = cellStyle(book_.model(), name);
+        std::shared_ptr<const StyleFacts> facts;
+        if (style.is())
+            facts = std::make_shared<const StyleFacts>(styleFactsOf(book_.model(), style));
+        known = styles_.emplace(name, std::move(facts)).first;
     }
-    return *isTooLarge_;
+    return known->second;
+}
+
+std::vector<SheetRecordPtr> BookLooks::shownSheets() {
+    std::vector<SheetRecordPtr> shown = book_.sheetList().all();
+    std::erase_if(shown, [](const SheetRecordPtr& sheet) { return !sheet->isShown(); });
+    return shown;
+}
+
+BookLooks::Page& BookLooks::pageOf(const std::vector<SheetRecordPtr>& shown) {
+    forgetIfChanged();
+    std::vector<std::int32_t> places;
+    for (const SheetRecordPtr& sheet : shown) places.push_back(sheet->place());
+    // Each may be large.
+    constexpr std::size_t mostPages = 4;
+    if (pages_.size() >= mostPages && !pages_.contains(places)) pages_.clear();
+    return pages_[places];
+}
+
+bool BookLooks::isTooLarge(Page& page, const std::vector<SheetRecordPtr>& shown) const {
+    if (!page.isTooLarge) page.isTooLarge = takeSeconds(shown);
+    return *page.isTooLarge;
+}
+
+bool BookLooks::isTooLarge() {
+    const auto shown = shownSheets();
+    return isTooLarge(pageOf(shown), shown);
 }
 
 SheetLooks* BookLooks::of(SheetRecord& sheet) {
-    const ShownForNow shown(sheet);
-    if (isTooLarge()) return nullptr;
-    if (!page_) read();
+    const ShownForNow forNow(sheet);
+    const auto shown = shownSheets();
+    Page& page = pageOf(shown);
+    if (isTooLarge(page, shown)) return nullptr;
+    if (!page.text) page.text = written();
     const std::int32_t place = sheet.place();
-    auto found = sheets_.find(place);
-    if (found == sheets_.end()) {
-        const std::string_view page(reinterpret_cast<const char*>(page_->getConstArray()),
-                                    static_cast<std::size_t>(page_->getLength()));
-        found = sheets_.try_emplace(place, sheet, tableOf(sheet, page)).first;
+    auto found = page.sheets.find(place);
+    if (found == page.sheets.end()) {
+        const std::string_view text(reinterpret_cast<const char*>(page.text->getConstArray()),
+                                    static_cast<std::size_t>(page.text->getLength()));
+        found = page.sheets.try_emplace(place, sheet, tableOf(sheet, text)).first;
     }
     return &found->second;
 }
 
 /// The workbook stays as it is, but comes to the top of the list of those that were used last.
-void BookLooks::read() {
-    const auto written = as<css::io::XSequenceOutputStream>(
+uno::Sequence<sal_Int8> BookLooks::written() const {
+    const auto page = as<css::io::XSequenceOutputStream>(
         book_.connection().create("com.sun.star.io.SequenceOutputStream"));
     try {
         as<css::frame::XStorable>(book_.model())
             ->storeToURL("private:stream",
                          propertyValues({{"FilterName", uno::Any(rtl::OUString("HTML (StarCalc)"))},
                                          {"FilterOptions", uno::Any(rtl::OUString("SkipImages"))},
-                                         {"OutputStream", uno::Any(written)}}));
-        page_ = written->getWrittenBytes();
+                                         {"OutputStream", uno::Any(page)}}));
+        return page->getWrittenBytes();
     } catch (const css::io::IOException&) {
         // The cells then look as in a copy.
-        page_.emplace();
+        return {};
     }
+}
+
+UnheardByLooks::UnheardByLooks(CalcDocument& book)
+    : looks_(book.isUndisturbed() ? &book.looks() : nullptr),
+      hadChanged_(looks_ != nullptr && *looks_->hasChanged_) {}
+
+UnheardByLooks::~UnheardByLooks() {
+    if (looks_ != nullptr) *looks_->hasChanged_ = hadChanged_;
 }
 
 }  // namespace libreoffice::excel

@@ -55,6 +55,8 @@ public:
     /// As `excel::conditionsOn`, which is asked once for a sheet.
     [[nodiscard]] std::vector<CellCondition> conditionsOn(SheetRecord& sheet,
                                                           const model::CellBlock& block);
+    /// Null if the workbook has no such style.
+    [[nodiscard]] std::shared_ptr<const StyleFacts> styleFacts(const rtl::OUString& name);
     /// Whether that page would take seconds, as it is taken to where thousands of shapes are.
     [[nodiscard]] bool isTooLarge();
     /// Nothing if the workbook is too large, or the suite fails. The page holds no hidden sheet:
@@ -62,16 +64,43 @@ public:
     [[nodiscard]] SheetLooks* of(SheetRecord& sheet);
 
 private:
+    friend class UnheardByLooks;
+
+    /// What is told while the same sheets are shown.
+    struct Page {
+        std::optional<bool> isTooLarge;
+        std::optional<uno::Sequence<sal_Int8>> text;
+        std::map<std::int32_t, SheetLooks> sheets;
+    };
+
     void forgetIfChanged();
-    void read();
+    [[nodiscard]] std::vector<SheetRecordPtr> shownSheets();
+    [[nodiscard]] Page& pageOf(const std::vector<SheetRecordPtr>& shown);
+    [[nodiscard]] bool isTooLarge(Page& page, const std::vector<SheetRecordPtr>& shown) const;
+    [[nodiscard]] uno::Sequence<sal_Int8> written() const;
 
     CalcDocument& book_;
     /// A listener sets it from a thread of the bridge.
     std::shared_ptr<std::atomic<bool>> hasChanged_;
-    std::optional<bool> isTooLarge_;
-    std::optional<uno::Sequence<sal_Int8>> page_;
+    /// By the places of those sheets.
+    std::map<std::vector<std::int32_t>, Page> pages_;
     std::map<std::int32_t, std::vector<CellCondition>> conditions_;
-    std::map<std::int32_t, SheetLooks> sheets_;
+    std::map<rtl::OUString, std::shared_ptr<const StyleFacts>> styles_;
+};
+
+/// What this program writes during the life of this object changes no look. Where a user may write
+/// too, it counts all the same.
+class UnheardByLooks {
+public:
+    explicit UnheardByLooks(CalcDocument& book);
+    UnheardByLooks(const UnheardByLooks&) = delete;
+    UnheardByLooks& operator=(const UnheardByLooks&) = delete;
+    ~UnheardByLooks();
+
+private:
+    /// Null where all counts.
+    BookLooks* looks_;
+    bool hadChanged_;
 };
 
 }  // namespace libreoffice::excel

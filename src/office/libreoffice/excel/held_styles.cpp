@@ -3,6 +3,7 @@
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
 
 #include <algorithm>
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -20,7 +21,7 @@ using model::CellBlock;
 
 struct SeenStyle {
     rtl::OUString name;
-    StyleFacts facts;
+    std::shared_ptr<const StyleFacts> facts;
     /// Whether the page shows where it is, on all the cells that it could be on.
     bool isTold;
     std::vector<CellBlock> cells = {};
@@ -61,6 +62,10 @@ public:
         return std::any_of(styles_.begin(), styles_.end(),
                            [&](const SeenStyle& each) { return each.isTold && each.name == name; });
     }
+    [[nodiscard]] bool takeAfterParents() const {
+        return std::all_of(styles_.begin(), styles_.end(),
+                           [](const SeenStyle& each) { return each.facts->takesAfterParent; });
+    }
     void find(SheetLooks& looks) {
         if (!seen_) return;
         const OwnDress own(sheet_, *seen_);
@@ -78,7 +83,7 @@ public:
         std::vector<HeldStyle> told;
         for (SeenStyle& each : styles_)
             if (each.isTold)
-                told.push_back({each.name, each.facts.takesAfterParent, std::move(each.cells)});
+                told.push_back({each.name, each.facts->takesAfterParent, std::move(each.cells)});
         return told;
     }
 
@@ -90,11 +95,10 @@ private:
         auto found = std::find_if(styles_.begin(), styles_.end(),
                                   [&](const SeenStyle& each) { return each.name == name; });
         if (found == styles_.end()) {
-            const auto& book = sheet_.book().model();
-            const auto style = cellStyle(book, name);
-            if (!style.is()) return;
-            const StyleFacts facts = styleFactsOf(book, style);
-            found = styles_.insert(found, {name, facts, facts.marks.count() > 0});
+            const auto facts = sheet_.book().looks().styleFacts(name);
+            if (!facts) return;
+            styles_.push_back({name, facts, facts->marks.count() > 0});
+            found = styles_.end() - 1;
         }
         CellsOfStyle cells = {static_cast<std::size_t>(found - styles_.begin()), {}};
         for (const CellBlock& each : blocks) {
@@ -113,7 +117,7 @@ private:
         for (std::int32_t column = cells.firstColumn; column <= cells.lastColumn; ++column) {
             for (std::int32_t row = cells.firstRow; row <= cells.lastRow; ++row) {
                 const CellDress* const look = looks.at(column, row);
-                const StyleFacts& facts = styles_[style].facts;
+                const StyleFacts& facts = *styles_[style].facts;
                 if (look == nullptr || !facts.marks.areOn(*look)) continue;
                 const CellDress& dress = own.at(column, row);
                 // The cell would look so without the condition, too.
@@ -134,8 +138,8 @@ private:
     /// seen.
     std::size_t likelier(std::size_t first, std::size_t second, const CellDress& look,
                          const CellDress& own) {
-        const StyleFacts& one = styles_[first].facts;
-        const StyleFacts& other = styles_[second].facts;
+        const StyleFacts& one = *styles_[first].facts;
+        const StyleFacts& other = *styles_[second].facts;
         const bool mayOne = one.marks.make(look, own), mayOther = other.marks.make(look, own);
         if (mayOne != mayOther) return mayOne ? first : second;
         const bool areEven = mayOne || one.marks.count() == other.marks.count();
@@ -170,6 +174,8 @@ std::vector<HeldStyle> heldStylesOn(SheetRecord& sheet, const CellBlock& block,
     if (conditions.empty() || book.isTooLarge()) return {};
     StylesOnBlock styles(sheet, block, conditions);
     if (!styles.isAnyTold()) return {};
+    const bool isAnyUncopied = !UncopiedConditions(conditions).within(block).empty();
+    if (!isAnyUncopied && styles.takeAfterParents()) return {};
     SheetLooks* const looks = book.of(sheet);
     if (looks == nullptr) return {};
     styles.find(*looks);
@@ -177,7 +183,7 @@ std::vector<HeldStyle> heldStylesOn(SheetRecord& sheet, const CellBlock& block,
     const bool isAnyMisdrawn = std::any_of(told.begin(), told.end(), [](const HeldStyle& each) {
         return !each.takesAfterParent && !each.cells.empty();
     });
-    if (!isAnyMisdrawn && UncopiedConditions(conditions).within(block).empty()) return {};
+    if (!isAnyMisdrawn && !isAnyUncopied) return {};
     return told;
 }
 

@@ -25,6 +25,7 @@ constexpr double closeEnough = 100;
 /// Columns behind the last one that the sheet has memory for are drawn with the default width. An
 /// empty text in the last column of the block makes it have memory for all of them.
 void allocateColumns(const SheetRecord& sheet, const model::CellBlock& block) {
+    const UnheardByLooks unheard(sheet.book());
     const KeptModifiedFlag flag(sheet.book());
     const Unrecorded quiet(sheet.book());
     const auto corner = sheet.sheet()->getCellByPosition(block.lastColumn, block.lastRow);

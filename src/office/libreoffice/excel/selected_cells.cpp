@@ -82,11 +82,17 @@ ShownForNow::ShownForNow(SheetRecord& sheet) : sheet_(&sheet) {
         return;
     }
     flag_.emplace(sheet.book());
+    const UnheardByLooks unheard(sheet.book());
     sheet.show(true);
 }
 
 ShownForNow::~ShownForNow() {
-    if (sheet_ != nullptr) asFarAsPossible([&] { sheet_->show(false); });
+    if (sheet_ == nullptr) return;
+    asFarAsPossible([&] {
+        const UnheardByLooks unheard(sheet_->book());
+        asFarAsPossible([&] { sheet_->show(false); });
+        flag_.reset();
+    });
 }
 
 SelectedCells::SelectedCells(SheetRecord& sheet, uno::Reference<css::table::XCellRange> cells,
