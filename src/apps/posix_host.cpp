@@ -215,14 +215,18 @@ void PosixHost::writeImage(std::string_view png, session::ImageFormat format,
 }
 
 bool PosixHost::openLink(std::string_view address) {
-    return opens(std::string(address), ownVariables(), [this](std::uint32_t ms) {
-        letEventsRun();
-        sleep(ms);
-    });
+    return openWithItsProgram(std::string(address));
 }
 
 bool PosixHost::openFile(std::string_view path) {
-    return pathExists(path) && openLink(fs::absolute(fs::path(path)).string());
+    return pathExists(path) && openWithItsProgram(fs::absolute(fs::path(path)).string());
+}
+
+bool PosixHost::openWithItsProgram(const std::string& target) {
+    return opens(target, ownVariables(), [this](std::uint32_t ms) {
+        letEventsRun();
+        sleep(ms);
+    });
 }
 
 void PosixHost::messageBox(std::string_view text, std::string_view title) {

@@ -66,6 +66,7 @@ protected:
 
 private:
     [[nodiscard]] const std::string& privateFolder();
+    [[nodiscard]] bool openWithItsProgram(const std::string& target);
 
     Console& console_;
     std::optional<std::string> privateFolder_;

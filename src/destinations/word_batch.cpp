@@ -56,6 +56,8 @@ private:
     void FitOnPage(const Object& shape);
     void SetLastShapeWidth(const Object& shape);
     [[nodiscard]] bool hasText();
+    [[nodiscard]] Object end();
+    [[nodiscard]] bool isLastPageEmpty();
     [[nodiscard]] bool isLastPageFree();
     void beginAtMargins();
     /// Of the last page, which all items go behind.
@@ -145,10 +147,13 @@ void WordBatch::putOnNewPage() {
     }
 }
 
+/// The caret is the user's, who may have gone on writing elsewhere or on this very page.
 void WordBatch::takeOutNewPage() {
-    office::ContinueOnFailure scope;
-    for (; newParagraphs_ > 0; --newParagraphs_)
-        scope.attempt([this] { selection_.call("TypeBackspace"); });
+    office::ContinueOnFailure().attempt([this] {
+        end().call("Select");
+        if (!isLastPageEmpty()) return;
+        for (; newParagraphs_ > 0; --newParagraphs_) selection_.call("TypeBackspace");
+    });
 }
 
 void WordBatch::TypeParagraph() {
@@ -156,14 +161,15 @@ void WordBatch::TypeParagraph() {
     ++newParagraphs_;
 }
 
+Object WordBatch::end() {
+    Object range = document_.get("Range").toObject();
+    range.call("Collapse", number::toEnd);
+    return range;
+}
+
 /// The paragraph that is left behind the break does not break the page once more. Where nothing
 /// stands on the last page, none is needed: that page would stay empty.
 void WordBatch::InsertPageBreakBlock() {
-    const auto end = [&] {
-        Object range = document_.get("Range").toObject();
-        range.call("Collapse", number::toEnd);
-        return range;
-    };
     const auto appendParagraph = [&] {
         end().call("InsertParagraphAfter");
         ++newParagraphs_;
@@ -192,7 +198,11 @@ void WordBatch::beginAtMargins() {
 
 /// In a template that ends with a cover and a break, until the first item has come.
 bool WordBatch::isLastPageFree() {
-    return mayBeFree_ && document_.get("Bookmarks", "\\page").get("Empty").toBool();
+    return mayBeFree_ && isLastPageEmpty();
+}
+
+bool WordBatch::isLastPageEmpty() {
+    return document_.get("Bookmarks", "\\page").get("Empty").toBool();
 }
 
 bool WordBatch::hasText() {

@@ -261,14 +261,17 @@ TEST_F(ExcelPictures, KnowsTheChartThatIsSelectedOrOnTop) {
 
 TEST_F(ExcelPictures, ExportsAChartSheetThatLibreOfficeLoses) {
     const Object kept = open("kept.xlsx");
-    const std::string wanted = bytesOf(exported(kept.get("Charts").get("Item", "Gone")));
+    // The same pixels are not packed into the same bytes each time.
+    const auto pixels = [](const std::string& png) { return support::pixelsOf(png).rgba; };
+    const auto wanted = pixels(bytesOf(exported(kept.get("Charts").get("Item", "Gone"))));
     for (const char* name : {"lost.xlsx", "sizeless.xlsx"}) {
         const Object book = open(name);
         const auto before = openDocuments();
         const Value chart = book.get("Charts").get("Item", "Gone");
-        EXPECT_EQ(bytesOf(exported(chart)), wanted) << name;
+        EXPECT_TRUE(pixels(bytesOf(exported(chart))) == wanted) << name;
         chart.get("ChartArea").call("Copy");
-        EXPECT_EQ(desk->clipboard().copied->picture(office::Sharpness::Crisp).png.get(), wanted);
+        const auto copied = desk->clipboard().copied->picture(office::Sharpness::Crisp);
+        EXPECT_TRUE(pixels(copied.png.get()) == wanted) << name;
         desk->clipboard().copied.reset();
         EXPECT_EQ(openDocuments(), before);
         EXPECT_TRUE(book.get("Saved").toBool()) << name;

@@ -32,7 +32,8 @@ Order checkOrder(const Options& options) {
     for (const auto& [file, what] : inputs) {
         if (!file.empty()) requireFile(office::pathOf(file), what);
     }
-    requireNoTableOfText(options.book);
+    // One that is open has what has been added to it there.
+    if (!options.attach) requireNoTableOfText(options.book);
     if (!options.captionsFile.empty()) {
         const auto file = office::pathOf(options.captionsFile);
         requireReadable(file, "captions file");

@@ -3,6 +3,7 @@
 #include <pugixml.hpp>
 
 #include <string_view>
+#include <type_traits>
 #include <utility>
 
 #include "office/package/package.h"
@@ -101,8 +102,7 @@ office::model::excel::CellBlocks sparklinesIn(const office::package::Package& pa
 
 /// What is read of the file of a workbook; nothing of one that is no package.
 template <class Read>
-auto readFrom(const rtl::OUString& url, Read read)
-    -> decltype(read(office::package::Package::open(""))) {
+std::invoke_result_t<Read, office::package::Package> readFrom(const rtl::OUString& url, Read read) {
     if (!url.startsWith("file:")) return {};
     try {
         return read(office::package::Package::open(pathOfUrl(url)));
