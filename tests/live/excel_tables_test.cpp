@@ -200,8 +200,12 @@ TEST_F(ExcelTables, DoWithWideTextsWhatASheetDoes) {
         "turned over 5.5pt turned=90",
         "lies a little askew 8.3pt",
         "x",
+        "stands up in a high row right 7.1pt turned=270",
+        "Tuesday, 9 December 2025 6pt turned=90",
+        "Counterparty A 11pt turned=90",
+        "runs over, though askew 2x1",
     };
-    const TableLook table = tableOf("Wide", "A1:D14");
+    const TableLook table = tableOf("Wide", "A1:D16");
     std::vector<std::string> found;
     for (const CellLook& look : table.cells) {
         if (!look.isCovered && !look.text.empty()) found.push_back(described(look));

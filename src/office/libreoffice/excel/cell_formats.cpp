@@ -85,7 +85,8 @@ public:
         const auto angle = value<std::int32_t>("RotateAngle");
         const bool isStacked = orientation == css::table::CellOrientation_STACKED;
         look.rotation = isStacked ? 270 : quarterOf(angle);
-        format.isAskew = !isStacked && angle != look.rotation * hundredthsOfDegree;
+        if (!isStacked && angle != look.rotation * hundredthsOfDegree)
+            format.uprightTurn = angle < 180 * hundredthsOfDegree ? 90 : 270;
         look.left = line("LeftBorder2");
         look.right = line("RightBorder2");
         look.top = line("TopBorder2");

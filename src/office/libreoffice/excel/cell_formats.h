@@ -25,8 +25,9 @@ struct CellFormat {
     /// Where its text stands goes by the text otherwise.
     bool isAligned = false;
     bool shrinksToFit = false;
-    /// Turned, and not by quarters as its look has it.
-    bool isAskew = false;
+    /// Of what is askew, turned and not by quarters as its look has it: the turn in which it
+    /// stands up, 90 or 270.
+    std::optional<std::int32_t> uprightTurn;
     std::int32_t numberFormat = 0;
 };
 

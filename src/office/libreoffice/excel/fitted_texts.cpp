@@ -21,6 +21,9 @@ using office::TableLook;
 constexpr double sideMarginPt = 1;
 /// Widths are those of single characters: close to one another they take less.
 constexpr double tolerancePt = 1;
+/// Rows that were made as high as a text that stands up are measured with characters that come
+/// closer to one another.
+constexpr double closeness = 1.05;
 
 /// A cell that has none shows the sheet's.
 std::int32_t groundOf(const CellLook& cell) {
@@ -50,12 +53,14 @@ public:
             cell.fontSizePt *= std::min(1.0, (room + tolerancePt) / wide);
             return;
         }
-        if (value.shrinksToFit) {
+        if (value.uprightTurn) {
+            fitAskew(row, column, wide, value);
+        } else if (value.shrinksToFit) {
             shrink(cell, wide, room);
         } else if (value.number || value.isError) {
             fitNumber(cell, value, room);
         } else {
-            fitText(row, column, wide, value);
+            fitText(row, column, wide);
         }
     }
 
@@ -70,6 +75,13 @@ private:
         for (std::size_t i = 0; i < static_cast<std::size_t>(cell.columns); ++i)
             room += table_.columnWidthsPt[column + i];
         return room;
+    }
+
+    [[nodiscard]] double heightAt(std::size_t row, std::size_t column) {
+        const auto rows = static_cast<std::size_t>(at(row, column).rows);
+        double height = 0;
+        for (std::size_t i = 0; i < rows; ++i) height += table_.rowHeightsPt[row + i];
+        return height;
     }
 
     /// Of the widest line. Blanks at the end take no room.
@@ -156,18 +168,14 @@ private:
         cell.fontSizePt *= std::min(1.0, std::max(room, 1.0) / wide);
     }
 
-    /// What is turned is cut off above or below. Rows that were made as high as it are measured
-    /// with characters that come closer to one another.
+    /// What is turned is cut off above or below.
     void fitTurned(std::size_t row, std::size_t column, const CellValue& value) {
-        constexpr double closeness = 1.05;
         CellLook& cell = at(row, column);
-        double room = 0;
-        for (std::size_t i = 0; i < static_cast<std::size_t>(cell.rows); ++i)
-            room += table_.rowHeightsPt[row + i];
+        const double room = heightAt(row, column);
         const double wide = widthOf(cell);
-        if (wide <= room * closeness + tolerancePt) return;
         // It would break where characters are a little wider.
-        if (value.isAskew) return shrink(cell, wide * closeness, room);
+        if (value.uprightTurn) return shrink(cell, wide * closeness, room);
+        if (wide <= room * closeness + tolerancePt) return;
         CellLook::Across along = CellLook::Across::Centre;
         if (cell.down != CellLook::Down::Middle) {
             const bool beginsThere = (cell.down == CellLook::Down::Bottom) == (cell.rotation == 90);
@@ -176,7 +184,21 @@ private:
         cut(cell, room, along);
     }
 
-    void fitText(std::size_t row, std::size_t column, double wide, const CellValue& value) {
+    /// What would lie, but is too wide for it. The sheet hides no number that is askew.
+    void fitAskew(std::size_t row, std::size_t column, double wide, const CellValue& value) {
+        const double height = heightAt(row, column);
+        const bool isText = !value.number && !value.isError;
+        const bool canStand = wide * closeness <= height;
+        if (isText && !canStand) column = runOver(row, column, wide);
+        CellLook& cell = at(row, column);
+        const double room = roomIn(row, column);
+        if (height / closeness <= room) return shrink(cell, wide, room);
+        cell.rotation = *value.uprightTurn;
+        shrink(cell, wide * closeness, height);
+    }
+
+    /// Returns the column in which the text then begins.
+    std::size_t runOver(std::size_t row, std::size_t column, double wide) {
         const CellLook::Across across = at(row, column).across;
         const bool isSingle = at(row, column).columns == 1 && at(row, column).rows == 1;
         bool goesOn = isSingle;
@@ -188,11 +210,15 @@ private:
                 goesOn = true;
             }
         }
+        return column;
+    }
+
+    void fitText(std::size_t row, std::size_t column, double wide) {
+        column = runOver(row, column, wide);
         CellLook& cell = at(row, column);
         const double room = roomIn(row, column);
         if (widthOf(cell) <= room + tolerancePt) return;
-        if (value.isAskew) return shrink(cell, wide, room);
-        cut(cell, room, across);
+        cut(cell, room, cell.across);
     }
 
     /// Whether this text can run over into the cell at this place of its row. The cell would lose a

@@ -16,14 +16,15 @@ struct CellValue {
     std::int32_t numberFormat = 0;
     bool shrinksToFit = false;
     bool isError = false;
-    bool isAskew = false;
+    /// Of what is askew on the sheet: the turn in which it stands up.
+    std::optional<std::int32_t> uprightTurn;
 };
 
 /// Does with texts that are wider than their cells what a sheet does, so that no row of the table
 /// grows because a text breaks that has one line on the sheet. It runs over into empty cells,
 /// which the cell then spans, and what there is no room for isn't seen; numbers are rounded if
-/// their format lets them, and otherwise hidden by #; some texts are written smaller, as are
-/// those askew on the sheet, where they have more room.
+/// their format lets them, and otherwise hidden by #; some texts are written smaller. So is what is
+/// askew on the sheet, where it has more room; it stands up where that leaves it larger.
 void fitTexts(office::TableLook& table, const std::vector<CellValue>& values, TextWidths& widths,
               NumberFormats& formats);
 

@@ -209,7 +209,7 @@ private:
         put(lookOf(cell, row, column), place);
         const CellFormat& own = formatAt(row, column);
         CellValue value = {cell.number, own.numberFormat, own.shrinksToFit,
-                           cell.number == 0.0 && isError(place), own.isAskew};
+                           cell.number == 0.0 && isError(place), own.uprightTurn};
         if (value.isError) value.number.reset();
         if (value.number) {
             CellLook& look = at(row, column);
