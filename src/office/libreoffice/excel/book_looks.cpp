@@ -21,6 +21,7 @@
 #include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/html_places.h"
+#include "office/libreoffice/excel/numbers_in_cells.h"
 #include "office/libreoffice/excel/selected_cells.h"
 
 namespace libreoffice::excel {
@@ -199,6 +200,7 @@ void BookLooks::forgetIfChanged() {
     pages_.clear();
     conditions_.clear();
     styles_.clear();
+    numbers_.clear();
 }
 
 std::vector<CellCondition> BookLooks::conditionsOn(SheetRecord& sheet,
@@ -227,6 +229,18 @@ std::shared_ptr<const StyleFacts> BookLooks::styleFacts(const rtl::OUString& nam
         known = styles_.emplace(name, std::move(facts)).first;
     }
     return known->second;
+}
+
+std::shared_ptr<const std::vector<double>> BookLooks::numbersIn(
+    SheetRecord& sheet, const std::vector<model::CellBlock>& blocks) {
+    forgetIfChanged();
+    const std::int32_t place = sheet.place();
+    const auto known = std::find_if(numbers_.begin(), numbers_.end(), [&](const Numbers& each) {
+        return each.sheet == place && each.blocks == blocks;
+    });
+    if (known != numbers_.end()) return known->sorted;
+    auto sorted = std::make_shared<const std::vector<double>>(sortedNumbers(sheet, blocks));
+    return numbers_.emplace_back(Numbers{place, blocks, std::move(sorted)}).sorted;
 }
 
 std::vector<SheetRecordPtr> BookLooks::shownSheets() {

@@ -57,6 +57,9 @@ public:
                                                           const model::CellBlock& block);
     /// Null if the workbook has no such style.
     [[nodiscard]] std::shared_ptr<const StyleFacts> styleFacts(const rtl::OUString& name);
+    /// As `sortedNumbers`, which is asked once for the same cells.
+    [[nodiscard]] std::shared_ptr<const std::vector<double>> numbersIn(
+        SheetRecord& sheet, const std::vector<model::CellBlock>& blocks);
     /// Whether that page would take seconds, as it is taken to where thousands of shapes are.
     [[nodiscard]] bool isTooLarge();
     /// Nothing if the workbook is too large, or the suite fails. The page holds no hidden sheet:
@@ -73,6 +76,12 @@ private:
         std::map<std::int32_t, SheetLooks> sheets;
     };
 
+    struct Numbers {
+        std::int32_t sheet;
+        std::vector<model::CellBlock> blocks;
+        std::shared_ptr<const std::vector<double>> sorted;
+    };
+
     void forgetIfChanged();
     [[nodiscard]] std::vector<SheetRecordPtr> shownSheets();
     [[nodiscard]] Page& pageOf(const std::vector<SheetRecordPtr>& shown);
@@ -86,6 +95,7 @@ private:
     std::map<std::vector<std::int32_t>, Page> pages_;
     std::map<std::int32_t, std::vector<CellCondition>> conditions_;
     std::map<rtl::OUString, std::shared_ptr<const StyleFacts>> styles_;
+    std::vector<Numbers> numbers_;
 };
 
 /// What this program writes during the life of this object changes no look. Where a user may write

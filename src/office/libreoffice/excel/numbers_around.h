@@ -17,7 +17,8 @@ struct NumbersAround {
     std::vector<double> numbers;
 };
 
-/// For each of these conditions that has numbers there.
+/// For each of these conditions that has numbers there. Of many, as many as make the same ends and
+/// percentiles, but for a hundredth.
 [[nodiscard]] std::vector<NumbersAround> numbersAround(
     SheetRecord& sheet, const model::CellBlock& block,
     const std::vector<CellCondition>& conditions);
