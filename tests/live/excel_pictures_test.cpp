@@ -315,7 +315,8 @@ TEST_F(ExcelPictures, ShowsConditionalFormatsAsTheSheetDoes) {
         return bytesOf(pictureOf(twins.get("Range", cells)));
     };
     for (const auto& [cells, twin, about] :
-         {std::tuple{"A1:C4", "E1:G4", ""}, std::tuple{"D4", "H4", "one that looks so by itself"},
+         {std::tuple{"A1:C4", "E1:G4", ""}, std::tuple{"A1:A14", "E1:E14", "beyond what is used"},
+          std::tuple{"D4", "H4", "one that looks so by itself"},
           std::tuple{"K2:K3", "M2:M3", "a part of a scale"},
           std::tuple{"K5:K12", "M5:M12", "rows without a height of their own"}})
         EXPECT_LT(meanDifference(bytes(cells), bytes(twin)), 1) << about;

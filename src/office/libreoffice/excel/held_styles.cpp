@@ -22,9 +22,11 @@ using model::CellBlock;
 struct SeenStyle {
     rtl::OUString name;
     std::shared_ptr<const StyleFacts> facts;
-    /// Whether the page shows where it is, on all the cells that it could be on.
+    /// Whether the page shows where it is.
     bool isTold;
     std::vector<CellBlock> cells = {};
+    /// Of the cells that it could be on those that the page lacks.
+    std::vector<CellBlock> beyond = {};
 };
 
 /// Where in a block a condition may hold, and the place of its style in a list.
@@ -39,6 +41,19 @@ bool areAlike(const CellStyle& one, const CellStyle& other) {
     const uno::Sequence<rtl::OUString> names(said.data(), static_cast<sal_Int32>(said.size()));
     return as<css::beans::XMultiPropertySet>(one)->getPropertyValues(names) ==
            as<css::beans::XMultiPropertySet>(other)->getPropertyValues(names);
+}
+
+std::vector<CellBlock> partsBeyond(const CellBlock& used, const CellBlock& cells) {
+    const auto [left, top, right, bottom] = cells;
+    const auto seen = intersection(cells, used);
+    if (!seen) return {cells};
+    std::vector<CellBlock> parts = {{left, top, right, seen->firstRow - 1},
+                                    {left, seen->firstRow, seen->firstColumn - 1, seen->lastRow},
+                                    {seen->lastColumn + 1, seen->firstRow, right, seen->lastRow},
+                                    {left, seen->lastRow + 1, right, bottom}};
+    std::erase_if(parts,
+                  [](const CellBlock& each) { return each.columns() < 1 || each.rows() < 1; });
+    return parts;
 }
 
 class StylesOnBlock {
@@ -59,8 +74,9 @@ public:
                            [](const SeenStyle& each) { return each.isTold; });
     }
     [[nodiscard]] bool isTold(const rtl::OUString& name) const {
-        return std::any_of(styles_.begin(), styles_.end(),
-                           [&](const SeenStyle& each) { return each.isTold && each.name == name; });
+        return std::any_of(styles_.begin(), styles_.end(), [&](const SeenStyle& each) {
+            return each.isTold && each.beyond.empty() && each.name == name;
+        });
     }
     [[nodiscard]] bool takeAfterParents() const {
         return std::all_of(styles_.begin(), styles_.end(),
@@ -83,7 +99,8 @@ public:
         std::vector<HeldStyle> told;
         for (SeenStyle& each : styles_)
             if (each.isTold)
-                told.push_back({each.name, each.facts->takesAfterParent, std::move(each.cells)});
+                told.push_back({each.name, each.facts->takesAfterParent, std::move(each.cells),
+                                std::move(each.beyond)});
         return told;
     }
 
@@ -104,10 +121,9 @@ private:
         for (const CellBlock& each : blocks) {
             const auto common = intersection(each, within);
             if (!common) continue;
-            if (intersection(*common, used_) != common)
-                found->isTold = false;
-            else
-                cells.cells.push_back(*common);
+            if (const auto seen = intersection(*common, used_)) cells.cells.push_back(*seen);
+            const auto beyond = partsBeyond(used_, *common);
+            found->beyond.insert(found->beyond.end(), beyond.begin(), beyond.end());
         }
         inOrder_.push_back(std::move(cells));
     }

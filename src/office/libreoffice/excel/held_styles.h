@@ -15,6 +15,8 @@ struct HeldStyle {
     /// A copy makes each style do so.
     bool takesAfterParent;
     std::vector<model::CellBlock> cells;
+    /// Where nothing tells whether they do.
+    std::vector<model::CellBlock> beyond;
 };
 
 /// The styles of those of the conditions on a block that a picture of its copy shows otherwise

@@ -15,6 +15,7 @@
 #include <com/sun/star/sheet/XConditionalFormats.hpp>
 #include <com/sun/star/sheet/XSheetCellRangeContainer.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
+#include <com/sun/star/sheet/XSheetConditionalEntries.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/util/XCloseable.hpp>
 
@@ -56,27 +57,6 @@ void neverHold(const CellCondition& condition) {
     setProperty(condition.entry, "Formula1", rtl::OUString("0"));
 }
 
-void removeConditions(const uno::Reference<uno::XInterface>& sheet,
-                      const std::vector<HeldStyle>& styles) {
-    const auto isMeant = [&](const CellCondition& condition) {
-        const auto name = styleNameOf(condition);
-        return std::any_of(styles.begin(), styles.end(),
-                           [&](const HeldStyle& each) { return each.name == name; });
-    };
-    const auto formats =
-        property<uno::Reference<css::sheet::XConditionalFormats>>(sheet, "ConditionalFormats");
-    if (!formats.is()) return;
-    for (const auto& format : formats->getConditionalFormats()) {
-        std::vector<CellCondition> meant = conditionsOf(format);
-        const std::size_t all = meant.size();
-        std::erase_if(meant, [&](const CellCondition& each) { return !isMeant(each); });
-        if (meant.size() == all)
-            formats->removeByID(property<sal_Int32>(format, "ID"));
-        else
-            std::for_each(meant.begin(), meant.end(), neverHold);
-    }
-}
-
 /// Of the only sheet.
 uno::Reference<css::sheet::XSheetCellRanges> rangesOf(const Model& book,
                                                       const std::vector<model::CellBlock>& cells) {
@@ -90,6 +70,37 @@ uno::Reference<css::sheet::XSheetCellRanges> rangesOf(const Model& book,
     return as<css::sheet::XSheetCellRanges>(ranges);
 }
 
+/// But where nothing tells of them.
+void removeConditions(const Model& book, const uno::Reference<uno::XInterface>& sheet,
+                      const std::vector<HeldStyle>& styles) {
+    const auto meantBy = [&](const CellCondition& condition) {
+        const auto name = styleNameOf(condition);
+        return std::find_if(styles.begin(), styles.end(),
+                            [&](const HeldStyle& each) { return each.name == name; });
+    };
+    const auto formats =
+        property<uno::Reference<css::sheet::XConditionalFormats>>(sheet, "ConditionalFormats");
+    if (!formats.is()) return;
+    for (const auto& format : formats->getConditionalFormats()) {
+        std::vector<CellCondition> meant = conditionsOf(format);
+        const std::size_t all = meant.size();
+        std::vector<model::CellBlock> beyond;
+        std::erase_if(meant, [&](const CellCondition& each) {
+            const auto style = meantBy(each);
+            if (style == styles.end()) return true;
+            const auto here = intersection(style->beyond, each.blocks);
+            beyond.insert(beyond.end(), here.begin(), here.end());
+            return false;
+        });
+        if (meant.size() == all && beyond.empty())
+            formats->removeByID(property<sal_Int32>(format, "ID"));
+        else if (meant.size() == all)
+            setProperty(format, "Range", rangesOf(book, beyond));
+        else if (beyond.empty())
+            std::for_each(meant.begin(), meant.end(), neverHold);
+    }
+}
+
 void dress(const Model& book, const HeldStyle& style) {
     if (style.cells.empty()) return;
     const auto cells = rangesOf(book, style.cells);
@@ -100,6 +111,12 @@ void dress(const Model& book, const HeldStyle& style) {
     const uno::Sequence<rtl::OUString> names(said.data(), static_cast<sal_Int32>(said.size()));
     as<css::beans::XMultiPropertySet>(cells)->setPropertyValues(
         names, as<css::beans::XMultiPropertySet>(look)->getPropertyValues(names));
+    // The suite goes on to draw a format whose range no longer has the cells.
+    if (style.beyond.empty()) return;
+    const auto conditions =
+        property<uno::Reference<css::sheet::XSheetConditionalEntries>>(cells, "ConditionalFormat");
+    conditions->clear();
+    setProperty(cells, "ConditionalFormat", conditions);
 }
 
 /// Puts the numbers into a column, and makes the format one of these cells too.
@@ -158,7 +175,7 @@ uno::Sequence<sal_Int8> drawWith(const UntoldByCopy& untold, const Connection& c
         as<css::container::XIndexAccess>(as<css::sheet::XSpreadsheetDocument>(book)->getSheets())
             ->getByIndex(0),
         uno::UNO_QUERY_THROW);
-    removeConditions(sheet, untold.styles);
+    removeConditions(book, sheet, untold.styles);
     for (const HeldStyle& style : untold.styles) dress(book, style);
     std::int32_t column = block.lastColumn;
     for (const NumbersAround& around : untold.around) {
