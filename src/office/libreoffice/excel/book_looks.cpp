@@ -252,6 +252,7 @@ std::vector<SheetRecordPtr> BookLooks::shownSheets() {
 BookLooks::Page& BookLooks::pageOf(const std::vector<SheetRecordPtr>& shown) {
     forgetIfChanged();
     std::vector<std::int32_t> places;
+    places.reserve(shown.size());
     for (const SheetRecordPtr& sheet : shown) places.push_back(sheet->place());
     // Each may be large.
     constexpr std::size_t mostPages = 4;

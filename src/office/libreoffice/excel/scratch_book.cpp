@@ -61,8 +61,9 @@ void neverHold(const CellCondition& condition) {
 uno::Reference<css::sheet::XSheetCellRanges> rangesOf(const Model& book,
                                                       const std::vector<model::CellBlock>& cells) {
     std::vector<css::table::CellRangeAddress> addresses;
+    addresses.reserve(cells.size());
     for (const model::CellBlock& each : cells)
-        addresses.push_back({0, each.firstColumn, each.firstRow, each.lastColumn, each.lastRow});
+        addresses.emplace_back(0, each.firstColumn, each.firstRow, each.lastColumn, each.lastRow);
     const auto ranges = as<css::sheet::XSheetCellRangeContainer>(
         as<css::lang::XMultiServiceFactory>(book)->createInstance(
             "com.sun.star.sheet.SheetCellRanges"));

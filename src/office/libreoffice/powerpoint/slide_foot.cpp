@@ -2,8 +2,6 @@
 
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
 
-#include "office/libreoffice/uno_values.h"
-
 namespace libreoffice::powerpoint {
 
 namespace {

@@ -2,6 +2,8 @@
 
 #include <com/sun/star/drawing/XDrawPage.hpp>
 
+#include "office/libreoffice/uno_values.h"
+
 namespace libreoffice::powerpoint {
 
 /// What a slide shows of its master page's foot: its number, a footer and a date.
