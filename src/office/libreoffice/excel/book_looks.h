@@ -44,8 +44,10 @@ private:
     HtmlPlaces places_;
 };
 
-/// The cells of a workbook with all conditions worked out. The suite does so in nothing but a page
-/// of all sheets that are shown, which is read once, and again when the workbook has been changed.
+/// What pictures and tables ask of a workbook's conditional formats, each once until the workbook
+/// has been changed: the conditions, what their styles say, the numbers that scales go by, and the
+/// cells with all conditions worked out. Those the suite tells in nothing but a page of all sheets
+/// that are shown.
 /// Shapes come and go unheard: they change no cell, and at most the page is larger once than it
 /// should be.
 class BookLooks {

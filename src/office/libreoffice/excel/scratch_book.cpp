@@ -97,6 +97,7 @@ void removeConditions(const Model& book, const uno::Reference<uno::XInterface>& 
             formats->removeByID(property<sal_Int32>(format, "ID"));
         else if (meant.size() == all)
             setProperty(format, "Range", rangesOf(book, beyond));
+        // With cells beyond, `dress` takes the format from those that it dresses.
         else if (beyond.empty())
             std::for_each(meant.begin(), meant.end(), neverHold);
     }
