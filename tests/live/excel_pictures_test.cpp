@@ -8,6 +8,7 @@
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/style/XStyle.hpp>
+#include <com/sun/star/table/CellHoriJustify.hpp>
 #include <com/sun/star/text/WritingMode2.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
@@ -178,6 +179,43 @@ TEST_F(ExcelPictures, ShowsBothOuterBordersOfCellsFromRightToLeft) {
         EXPECT_GT(inkOf(picture, 0, edge), line) << bordered;
         EXPECT_GT(inkOf(picture, picture.width - edge, picture.width), line) << bordered;
     }
+}
+
+/// Texts that differ in their numbers' formats alone, and such as are wrapped.
+TEST_F(ExcelPictures, KeepsTheIndentOfTextsAtTheRight) {
+    const Object book = open("cells.xlsx");
+    const auto cells =
+        desk->active<excel::CalcDocument>()->sheetList().find("Data")->range({9, 39, 13, 40});
+    const auto set = [](const auto& range, const char* name, auto value) {
+        setProperty(range, name, value);
+    };
+    set(cells, "HoriJustify", css::table::CellHoriJustify_RIGHT);
+    set(cells, "ParaIndent", std::int16_t{300});
+    // The last one has none.
+    constexpr std::int32_t last = 4;
+    set(cells->getCellRangeByPosition(last, 0, last, 1), "ParaIndent", std::int16_t{0});
+    const Object data = sheet(book, "Data");
+    data.get("Range", "J40:N40").put("Value", 7);
+    data.get("Range", "J41:M41").put("Value", "word");
+    data.get("Range", "N41").put("Value", 7);
+    for (std::int32_t i = 1; i < 3; ++i) set(cells->getCellByPosition(i, 0), "NumberFormat", i);
+    set(cells->getCellByPosition(3, 0), "IsTextWrapped", true);
+
+    data.get("Range", "J40:N41").call("CopyPicture", 1, -4147);
+    const auto& copied = dynamic_cast<const excel::CopiedPicture&>(*desk->clipboard().copied);
+    const auto drawn = office::drawing::readMetafile(excel::bytesOf(copied.metafile()));
+    const double column = copied.size().Width / 5.0;
+    int texts = 0;
+    for (const auto& operation : drawn.operations) {
+        const auto* const text = std::get_if<office::drawing::Metafile::Text>(&operation.what);
+        if (text == nullptr) continue;
+        const double end = text->start.x + text->width;
+        const double edge = std::ceil(end / column) * column;
+        EXPECT_NEAR(edge - end, edge > 4.5 * column ? 50 : 350, 60)
+            << text->characters << ' ' << texts;
+        ++texts;
+    }
+    EXPECT_EQ(texts, 10);
 }
 
 TEST_F(ExcelPictures, ShowsMergedCellsWhole) {

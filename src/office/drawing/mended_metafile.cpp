@@ -1,8 +1,11 @@
 #include "office/drawing/mended_metafile.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 #include "office/drawing/metafile_action.h"
 #include "office/drawing/metafile_parts.h"
@@ -20,7 +23,15 @@ constexpr std::int32_t closeEnough = 100;
 
 class Mender {
 public:
-    Mender(std::span<char> bytes, std::int32_t width) : bytes_(bytes), width_(width) {}
+    Mender(std::span<char> bytes, std::int32_t width, std::vector<IndentedCell> indented)
+        : bytes_(bytes),
+          width_(width),
+          indented_(std::move(indented)) {
+        std::sort(indented_.begin(), indented_.end(),
+                  [](const IndentedCell& one, const IndentedCell& other) {
+                      return one.bottom < other.bottom;
+                  });
+    }
 
     void mend() {
         Values values(std::string_view(bytes_.data(), bytes_.size()));
@@ -38,6 +49,7 @@ public:
             if (action == Action::MapMode && isAtBeginning &&
                 mendOrigin(content, values.left(), width))
                 write(size, behindSize, width - widthOfOthers(width));
+            if (!indented_.empty()) mendIndent(action, content, values.left());
             isAtBeginning = isAtBeginning && action == Action::Push;
         }
     }
@@ -61,6 +73,49 @@ private:
         return true;
     }
 
+    void mendIndent(Action action, Values content, std::size_t behind) {
+        switch (action) {
+            case Action::Push:
+                pushed_.emplace_back(content.word(), state_);
+                return;
+            case Action::Pop:
+                return pop();
+            case Action::MapMode:
+                state_.mapping = readMapping(content.part(), state_.mapping);
+                return;
+            case Action::Font:
+                state_.font = readFont(content.part(), 1);
+                return;
+            case Action::TextArray:
+                return indent(content, behind);
+            default:
+                return;
+        }
+    }
+
+    void pop() {
+        if (pushed_.empty()) throw Unknown("damage");
+        const auto [what, before] = std::move(pushed_.back());
+        pushed_.pop_back();
+        if ((what & pushesMapMode) != 0) state_.mapping = before.mapping;
+        if ((what & pushesFont) != 0) state_.font = before.font;
+    }
+
+    void indent(const Values& content, std::size_t behind) {
+        const PlacedText text = readPlacedText(content, state_.font.hasWideCharacters);
+        if (text.units.empty() || state_.font.font.angle != 0) return;
+        const auto end = state_.mapping.point(
+            static_cast<double>(text.x) + text.ends[text.units.size() - 1], text.y);
+        auto cell =
+            std::lower_bound(indented_.begin(), indented_.end(), end.y,
+                             [](const IndentedCell& each, double y) { return each.bottom < y; });
+        for (; cell != indented_.end() && cell->top < end.y; ++cell) {
+            if (std::abs(cell->right - end.x) >= cell->indent / 2) continue;
+            const auto shift = std::lround(cell->indent / state_.mapping.scaleX);
+            return write(content, behind, text.x - static_cast<std::int32_t>(shift));
+        }
+    }
+
     [[nodiscard]] std::int32_t widthOfOthers(std::int32_t width) const {
         return width - width_ > closeEnough ? width - width_ : 0;
     }
@@ -71,15 +126,26 @@ private:
         std::memcpy(bytes_.last(place.left() + behind).data(), &number, sizeof number);
     }
 
+    /// What the places of texts go by.
+    struct State {
+        Mapping mapping;
+        ReadFont font;
+    };
+
     std::span<char> bytes_;
     std::int32_t width_;
+    /// From top to bottom.
+    std::vector<IndentedCell> indented_;
+    State state_;
+    std::vector<std::pair<std::uint16_t, State>> pushed_;
 };
 
 }  // namespace
 
-void mendMetafileOfCells(std::span<char> bytes, std::int32_t width) {
+void mendMetafileOfCells(std::span<char> bytes, std::int32_t width,
+                         std::vector<IndentedCell> indented) {
     try {
-        Mender(bytes, width).mend();
+        Mender(bytes, width, std::move(indented)).mend();
     } catch (const Unknown&) {
         return;
     }

@@ -2,13 +2,25 @@
 
 #include <cstdint>
 #include <span>
+#include <vector>
 
 namespace office::drawing {
 
+/// A cell whose text ends at the right, in from the edge. In hundredths of a millimetre from the
+/// corner of the picture.
+struct IndentedCell {
+    double top = 0;
+    double right = 0;
+    double bottom = 0;
+    double indent = 0;
+};
+
 /// Puts right in a metafile of cells of this width, in hundredths of a millimetre, what LibreOffice
 /// writes otherwise than it reads it: lines along texts come out white there, and cells from right
-/// to left stand aside, without their outer border, and squeezed if a text runs out of them. What
-/// is damaged stays as it is.
-void mendMetafileOfCells(std::span<char> bytes, std::int32_t width);
+/// to left stand aside, without their outer border, and squeezed if a text runs out of them. Texts
+/// without their indent get it: LibreOffice loses it where a cell that it draws just before differs
+/// in nothing but the format of its number, and of wrapped numbers. What is damaged stays as it is.
+void mendMetafileOfCells(std::span<char> bytes, std::int32_t width,
+                         std::vector<IndentedCell> indented);
 
 }  // namespace office::drawing

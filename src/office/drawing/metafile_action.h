@@ -37,4 +37,14 @@ enum class Action : std::uint16_t {
     Comment = 512
 };
 
+/// What a push keeps until the pop that belongs to it.
+constexpr std::uint16_t pushesAll = 0xFFFF;
+constexpr std::uint16_t pushesLine = 0x0001;
+constexpr std::uint16_t pushesFill = 0x0002;
+constexpr std::uint16_t pushesFont = 0x0004;
+constexpr std::uint16_t pushesTextColour = 0x0008;
+constexpr std::uint16_t pushesMapMode = 0x0010;
+constexpr std::uint16_t pushesClip = 0x0020;
+constexpr std::uint16_t pushesTextLine = 0x0400;
+
 }  // namespace office::drawing

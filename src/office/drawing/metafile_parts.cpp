@@ -161,4 +161,22 @@ ReadFont readFont(Values values, double scale) {
     return read;
 }
 
+PlacedText readPlacedText(Values values, bool hasWideCharacters) {
+    PlacedText text;
+    text.x = values.number();
+    text.y = values.number();
+    // Once in the characters of a code page, and behind the places again in those of all.
+    values.take(hasWideCharacters ? sizeof(char16_t) * values.next<std::uint32_t>()
+                                  : std::size_t{values.word()});
+    const std::size_t first = values.word();
+    const std::size_t count = values.word();
+    for (auto left = values.next<std::uint32_t>(); left > 0; --left)
+        text.ends.push_back(values.number());
+    for (int left = values.word(); left > 0; --left) text.units += values.next<char16_t>();
+    if (first > text.units.size()) throw Unknown("damage");
+    text.units = text.units.substr(first, count);
+    if (text.ends.size() < text.units.size()) throw Unknown("text without places");
+    return text;
+}
+
 }  // namespace office::drawing

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "office/drawing/metafile.h"
 #include "office/drawing/metafile_values.h"
@@ -37,6 +40,14 @@ struct ReadFont {
     bool hasWideCharacters = false;
 };
 
+/// A text, and for each of its units how far from the start it ends.
+struct PlacedText {
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+    std::u16string units;
+    std::vector<std::int32_t> ends;
+};
+
 /// The parts of a metafile's actions that depend on little else. Each throws `Unknown` for what
 /// can't be drawn.
 /// Its width, height and number of actions. The actions are what is left then.
@@ -51,5 +62,6 @@ struct ReadFont {
 [[nodiscard]] Metafile::Gradient readGradient(Values values);
 [[nodiscard]] Metafile::Pen readPen(Values values, const Metafile::Colour& colour, double scale);
 [[nodiscard]] ReadFont readFont(Values values, double scale);
+[[nodiscard]] PlacedText readPlacedText(Values values, bool hasWideCharacters);
 
 }  // namespace office::drawing

@@ -27,15 +27,6 @@ struct State {
     std::size_t clip = 0;
 };
 
-constexpr std::uint16_t pushesAll = 0xFFFF;
-constexpr std::uint16_t pushesLine = 0x0001;
-constexpr std::uint16_t pushesFill = 0x0002;
-constexpr std::uint16_t pushesFont = 0x0004;
-constexpr std::uint16_t pushesTextColour = 0x0008;
-constexpr std::uint16_t pushesMapMode = 0x0010;
-constexpr std::uint16_t pushesClip = 0x0020;
-constexpr std::uint16_t pushesTextLine = 0x0400;
-
 constexpr gunichar firstBeyondUnits = 0x10000;
 
 /// One unit, or what a pair of them stands for.
@@ -322,29 +313,18 @@ std::optional<Metafile::Outline> Reader::region(Values values) const {
 
 void Reader::readText(Values values) {
     if (picture_.fonts.empty() || !state_.isOnBaseLine) throw Unknown("text");
+    const PlacedText read = readPlacedText(values, state_.hasWideCharacters);
+    if (read.units.empty()) return;
     Metafile::Text text;
-    text.start = point(values);
+    text.start = mapped(read.x, read.y);
     text.font = state_.font;
     text.colour = state_.text;
     text.lineColour = state_.textLine.value_or(state_.text);
-    // Once in the characters of a code page, and behind the places again in those of all.
-    values.take(state_.hasWideCharacters ? sizeof(char16_t) * values.next<std::uint32_t>()
-                                         : std::size_t{values.word()});
-    const std::size_t first = values.word();
-    const std::size_t count = values.word();
-    std::vector<double> ends;
-    for (auto left = values.next<std::uint32_t>(); left > 0; --left)
-        ends.push_back(values.number() * state_.mapping.scaleX);
-    std::u16string units;
-    for (int left = values.word(); left > 0; --left) units += values.next<char16_t>();
-    if (first > units.size()) throw Unknown("damage");
-    units = units.substr(first, count);
-    if (units.empty()) return;
-    if (ends.size() < units.size()) throw Unknown("text without places");
-    text.width = ends[units.size() - 1];
-    for (std::size_t i = 0; i < units.size(); ++i) {
-        const double place = i == 0 ? 0 : ends[i - 1];
-        const gunichar character = characterAt(units, i);
+    const auto end = [&](std::size_t i) { return read.ends[i] * state_.mapping.scaleX; };
+    text.width = end(read.units.size() - 1);
+    for (std::size_t i = 0; i < read.units.size(); ++i) {
+        const double place = i == 0 ? 0 : end(i - 1);
+        const gunichar character = characterAt(read.units, i);
         if (character >= firstBeyondUnits) ++i;
         std::array<char, 6> bytes{};
         const auto size = static_cast<std::size_t>(g_unichar_to_utf8(character, bytes.data()));

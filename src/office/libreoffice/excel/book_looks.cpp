@@ -22,6 +22,7 @@
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/html_places.h"
 #include "office/libreoffice/excel/numbers_in_cells.h"
+#include "office/libreoffice/excel/right_indents.h"
 #include "office/libreoffice/excel/selected_cells.h"
 
 namespace libreoffice::excel {
@@ -198,9 +199,18 @@ BookLooks::BookLooks(CalcDocument& book)
 void BookLooks::forgetIfChanged() {
     if (!hasChanged_->exchange(false)) return;
     pages_.clear();
+    indents_.clear();
     conditions_.clear();
     styles_.clear();
     numbers_.clear();
+}
+
+bool BookLooks::hasIndents(SheetRecord& sheet) {
+    forgetIfChanged();
+    const std::int32_t place = sheet.place();
+    const auto known = indents_.find(place);
+    if (known != indents_.end()) return known->second;
+    return indents_[place] = excel::hasIndents(sheet);
 }
 
 std::vector<CellCondition> BookLooks::conditionsOn(SheetRecord& sheet,

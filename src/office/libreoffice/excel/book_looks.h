@@ -44,12 +44,11 @@ private:
     HtmlPlaces places_;
 };
 
-/// What pictures and tables ask of a workbook's conditional formats, each once until the workbook
-/// has been changed: the conditions, what their styles say, the numbers that scales go by, and the
-/// cells with all conditions worked out. Those the suite tells in nothing but a page of all sheets
-/// that are shown.
-/// Shapes come and go unheard: they change no cell, and at most the page is larger once than it
-/// should be.
+/// What pictures and tables ask of a workbook's formats, each once until the workbook has been
+/// changed: whether cells have indents, the conditions of conditional formats, what their styles
+/// say, the numbers that scales go by, and the cells with all conditions worked out. Those the
+/// suite tells in nothing but a page of all sheets that are shown. Shapes come and go unheard: they
+/// change no cell, and at most the page is larger once than it should be.
 class BookLooks {
 public:
     explicit BookLooks(CalcDocument& book);
@@ -57,6 +56,8 @@ public:
     /// As `excel::conditionsOn`, which is asked once for a sheet.
     [[nodiscard]] std::vector<CellCondition> conditionsOn(SheetRecord& sheet,
                                                           const model::CellBlock& block);
+    /// As `excel::hasIndents`, which is asked once for a sheet.
+    [[nodiscard]] bool hasIndents(SheetRecord& sheet);
     /// Null if the workbook has no such style.
     [[nodiscard]] std::shared_ptr<const StyleFacts> styleFacts(const rtl::OUString& name);
     /// As `sortedNumbers`, which is asked once for the same cells.
@@ -95,6 +96,7 @@ private:
     std::shared_ptr<std::atomic<bool>> hasChanged_;
     /// By the places of those sheets.
     std::map<std::vector<std::int32_t>, Page> pages_;
+    std::map<std::int32_t, bool> indents_;
     std::map<std::int32_t, std::vector<CellCondition>> conditions_;
     std::map<rtl::OUString, std::shared_ptr<const StyleFacts>> styles_;
     std::vector<Numbers> numbers_;

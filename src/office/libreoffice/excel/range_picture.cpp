@@ -5,12 +5,15 @@
 #include <com/sun/star/text/XTextRange.hpp>
 
 #include <cmath>
+#include <utility>
+#include <vector>
 
 #include "office/drawing/mended_metafile.h"
 #include "office/drawing/metafile.h"
 #include "office/failure.h"
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/held_styles.h"
+#include "office/libreoffice/excel/right_indents.h"
 #include "office/libreoffice/excel/scratch_book.h"
 #include "office/libreoffice/excel/selected_cells.h"
 #include "office/libreoffice/excel/unrecorded.h"
@@ -86,12 +89,15 @@ uno::Sequence<sal_Int8> takePictureOfCells(SheetRecord& sheet,
                                            const uno::Reference<css::table::XCellRange>& cells,
                                            const model::CellBlock& block,
                                            const css::awt::Size& size) {
+    std::vector<office::drawing::IndentedCell> indented;
+    if (sheet.book().looks().hasIndents(sheet)) indented = rightIndentsOn(sheet, block);
     uno::Sequence<sal_Int8> metafile = metafileOf(sheet, cells, block, size);
     if (!metafile.hasElements() || size.Width <= 0 || size.Height <= 0) {
         office::refuse("Range.CopyPicture", "There is nothing to take a picture of");
     }
     office::drawing::mendMetafileOfCells(
-        {reinterpret_cast<char*>(metafile.getArray()), bytesOf(metafile).size()}, size.Width);
+        {reinterpret_cast<char*>(metafile.getArray()), bytesOf(metafile).size()}, size.Width,
+        std::move(indented));
     return metafile;
 }
 

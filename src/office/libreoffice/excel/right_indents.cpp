@@ -1,0 +1,99 @@
+#include "office/libreoffice/excel/right_indents.h"
+
+#include <com/sun/star/beans/PropertyState.hpp>
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
+#include <com/sun/star/beans/XPropertyState.hpp>
+#include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/sheet/XSheetCellRanges.hpp>
+#include <com/sun/star/sheet/XUniqueCellFormatRangesSupplier.hpp>
+#include <com/sun/star/table/CellHoriJustify.hpp>
+
+#include <cstdint>
+#include <map>
+#include <utility>
+
+#include "office/libreoffice/excel/answered.h"
+
+namespace libreoffice::excel {
+
+namespace {
+
+using office::drawing::IndentedCell;
+
+constexpr const char* indentOfCells = "ParaIndent";
+
+/// Where the columns and rows of a block end; each cell that is asked for tells of both.
+class Edges {
+public:
+    Edges(const SheetRecord& sheet, const model::CellBlock& block)
+        : sheet_(sheet),
+          corner_(placeOf(sheet.range(block)).corner) {}
+
+    [[nodiscard]] bool isReadFromRight() const { return corner_.X < 0; }
+
+    [[nodiscard]] IndentedCell cellAt(std::int32_t column, std::int32_t row) {
+        if (!rights_.contains(column) || !rows_.contains(row)) {
+            const auto [corner, size] = placeOf(sheet_.range(model::CellBlock::cell(row, column)));
+            rights_[column] = corner.X + size.Width - corner_.X;
+            rows_[row] = {corner.Y - corner_.Y, corner.Y + size.Height - corner_.Y};
+        }
+        const auto [top, bottom] = rows_[row];
+        return {.top = top, .right = rights_[column], .bottom = bottom, .indent = 0};
+    }
+
+private:
+    const SheetRecord& sheet_;
+    css::awt::Point corner_;
+    std::map<std::int32_t, double> rights_;
+    std::map<std::int32_t, std::pair<double, double>> rows_;
+};
+
+/// In hundredths of a millimetre; 0 where the texts aren't set at the right.
+std::int16_t rightIndentOf(const uno::Reference<uno::XInterface>& cells) {
+    const auto values = as<css::beans::XMultiPropertySet>(cells)->getPropertyValues(
+        namesOf({"HoriJustify", indentOfCells}));
+    auto across = css::table::CellHoriJustify_STANDARD;
+    std::int16_t indent = 0;
+    values[0] >>= across;
+    values[1] >>= indent;
+    return across == css::table::CellHoriJustify_RIGHT ? indent : std::int16_t{0};
+}
+
+}  // namespace
+
+bool hasIndents(const SheetRecord& sheet) {
+    const auto state = as<css::beans::XPropertyState>(sheet.sheet())
+                           ->getPropertyState(rtl::OUString::createFromAscii(indentOfCells));
+    return state == css::beans::PropertyState_AMBIGUOUS_VALUE ||
+           property<std::int16_t>(sheet.sheet(), indentOfCells) > 0;
+}
+
+std::vector<IndentedCell> rightIndentsOn(const SheetRecord& sheet, const model::CellBlock& block) {
+    std::vector<IndentedCell> found;
+    Edges edges(sheet, block);
+    if (edges.isReadFromRight()) return found;
+    const auto formats =
+        answered(as<css::sheet::XUniqueCellFormatRangesSupplier>(sheet.range(block))
+                     ->getUniqueCellFormatRanges());
+    const sal_Int32 count = formats->getCount();
+    for (sal_Int32 i = 0; i < count; ++i) {
+        const uno::Reference<css::sheet::XSheetCellRanges> alike(formats->getByIndex(i),
+                                                                 uno::UNO_QUERY_THROW);
+        const std::int16_t indent = rightIndentOf(alike);
+        if (indent <= 0) continue;
+        for (const auto& address : alike->getRangeAddresses()) {
+            const auto part = intersection(blockOf(address), block);
+            if (!part) continue;
+            for (std::int32_t row = part->firstRow; row <= part->lastRow; ++row) {
+                for (std::int32_t column = part->firstColumn; column <= part->lastColumn;
+                     ++column) {
+                    found.push_back(edges.cellAt(column, row));
+                    found.back().indent = indent;
+                }
+            }
+        }
+    }
+    return found;
+}
+
+}  // namespace libreoffice::excel
