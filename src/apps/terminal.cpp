@@ -97,10 +97,7 @@ void TerminalProgress::showItem(int item, int total) {
 std::string unhandledFailureReport(const std::exception& failure) {
     const auto* office = dynamic_cast<const office::Failure*>(&failure);
     if (office == nullptr) return fmt::format("Murvane: {}", failure.what());
-    if (office->isRefusal()) {
-        const std::string text = office->description();
-        return text + (text.ends_with('.') ? "" : ".");
-    }
+    if (office->isRefusal()) return office->sentence();
     return fmt::format("Murvane: unhandled failure {} from {}: {}", office->number(),
                        office->source(), office->description());
 }

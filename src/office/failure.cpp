@@ -12,6 +12,11 @@ Failure::Failure(std::int32_t number, std::string source, const std::string& des
       number_(number),
       source_(std::move(source)) {}
 
+std::string Failure::sentence() const {
+    const std::string text = description();
+    return text + (text.ends_with('.') ? "" : ".");
+}
+
 SuiteLost::SuiteLost(const std::string& description)
     : Failure(FailureNumber::Disconnected, "Application", description) {}
 

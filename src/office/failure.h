@@ -43,6 +43,8 @@ public:
     }
     [[nodiscard]] const std::string& source() const { return source_; }
     [[nodiscard]] std::string description() const { return what(); }
+    /// The description with a full stop.
+    [[nodiscard]] std::string sentence() const;
     /// Made by `refuse`: the description is a sentence of the program's own that says it all.
     [[nodiscard]] bool isRefusal() const { return isRefusal_; }
 

@@ -11,18 +11,27 @@
 
 namespace unattended {
 
+namespace {
+
+/// Where a failure comes from helps to find its cause, unless it is a sentence of our own.
+std::string withOrigin(const office::Failure& failure, const std::string& origin) {
+    if (failure.isRefusal()) return failure.sentence();
+    return fmt::format("{} ({}).", failure.description(), origin);
+}
+
+}  // namespace
+
 std::string reportOf(const office::Failure& failure) {
     if (dynamic_cast<const office::SuiteLost*>(&failure) != nullptr) {
         return fmt::format("The office suite has gone ({}). Nothing was written; try again.",
                            failure.description());
     }
-    return fmt::format("{} ({}, number {}).", failure.description(), failure.source(),
-                       failure.number());
+    return withOrigin(failure, fmt::format("{}, number {}", failure.source(), failure.number()));
 }
 
 std::string describe(const catalogue::ExportItem& row, const office::Failure& failure) {
-    return fmt::format("\"{}\" on sheet \"{}\": {} ({}).", itemName(row), row.sheet,
-                       failure.description(), failure.source());
+    return fmt::format("\"{}\" on sheet \"{}\": {}", itemName(row), row.sheet,
+                       withOrigin(failure, failure.source()));
 }
 
 std::string linesOfMissing(const Outcome& outcome, const std::string& file, bool isMade) {
