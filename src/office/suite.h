@@ -88,6 +88,9 @@ public:
     virtual void redraw(WindowHandle window) = 0;
 
     [[nodiscard]] virtual Pacing pacing() const = 0;
+
+    /// Says that from here on this thread and the applications mostly wait for each other.
+    virtual void expectTurns() {}
 };
 
 }  // namespace office

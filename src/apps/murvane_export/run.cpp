@@ -154,6 +154,7 @@ void Run::openDocuments() {
         }
     } else {
         documents_.openWorkbook(office::pathOf(options_.book));
+        liveSuite_.expectTurns();
     }
     if (options_.task == Task::List) return;
     for (std::size_t place = 0; place < options_.targets.size(); ++place) {

@@ -106,6 +106,10 @@ office::Object LibreOfficeSuite::start(std::string_view className) {
     office::refuse("Suite.start", fmt::format("\"{}\" can't be started here", className));
 }
 
+void LibreOfficeSuite::expectTurns() {
+    if (instance_) instance_->shareProcessor();
+}
+
 void LibreOfficeSuite::clearClipboard() {
     // Pictures travel by files and by the desk, never over the system's clipboard: the user's own
     // stays as it is.

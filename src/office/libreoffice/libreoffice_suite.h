@@ -73,6 +73,9 @@ public:
     [[nodiscard]] office::Pacing pacing() const override {
         return office::Pacing::FinishedOnReturn;
     }
+    /// Binds a private suite to the processor of this thread: to wake one another across processors
+    /// takes longer than most calls.
+    void expectTurns() override;
 
 private:
     LibreOfficeSuite(std::unique_ptr<PrivateInstance> instance,

@@ -16,6 +16,7 @@
 #include "office/failure.h"
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/installation.h"
+#include "office/libreoffice/shared_processor.h"
 
 namespace libreoffice {
 
@@ -92,6 +93,7 @@ std::unique_ptr<PrivateInstance> PrivateInstance::start(std::chrono::millisecond
     std::unique_ptr<PrivateInstance> instance(
         new PrivateInstance(std::move(profile), std::move(pipeName), std::move(process)));
     instance->waitUntilReady(patience, isUnwanted);
+    instance->callingThreads_ = threadsOfThisProcess();
     return instance;
 }
 
@@ -140,6 +142,10 @@ void PrivateInstance::endPolitely() {
         // It went down while it was asked to; what is left of it is killed.
     }
     process_.waitFor(politePatience);
+}
+
+void PrivateInstance::shareProcessor() {
+    if (!process_.exitCode()) shareThisProcessor(callingThreads_, process_.id());
 }
 
 void PrivateInstance::kill() {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "office/libreoffice/process.h"
 #include "office/libreoffice/profile.h"
@@ -26,6 +27,9 @@ public:
 
     [[nodiscard]] const std::shared_ptr<Connection>& connection() const { return connection_; }
     [[nodiscard]] int processId() const { return process_.id(); }
+    /// Runs it from here on where the calling thread runs, as the threads of ours that carry the
+    /// calls; those that have been started since its own start stay free.
+    void shareProcessor();
     /// Ends it at once. May be called from any thread.
     void kill();
 
@@ -40,6 +44,8 @@ private:
     std::string pipeName_;
     Process process_;
     std::shared_ptr<Connection> connection_;
+    /// Those of this process when it was connected, the connection's own among them.
+    std::vector<pid_t> callingThreads_;
 };
 
 }  // namespace libreoffice
