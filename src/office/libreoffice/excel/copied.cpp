@@ -140,7 +140,7 @@ office::TableLook CopiedCells::tableOfPage() const {
     // A chart lies on blank cells most times, and they cost a fraction of the others.
     SheetRecord& source = sheet();
     auto blank =
-        translated(source.book().desk(), [&] { return tableOfBlankCells(source, block_); });
+        translated(source.book().desk(), [&] { return tableOfBlankCells(source, cells_); });
     // Browsers show more, but slowly.
     return blank ? *std::move(blank) : tableUpTo(100000);
 }
@@ -148,7 +148,7 @@ office::TableLook CopiedCells::tableOfPage() const {
 office::TableLook CopiedCells::tableUpTo(std::size_t mostCells) const {
     SheetRecord& source = sheet();
     return translated(source.book().desk(),
-                      [&] { return tableOfCells(source, block_, mostCells); });
+                      [&] { return tableOfCells(source, cells_, block_, mostCells); });
 }
 
 }  // namespace libreoffice::excel

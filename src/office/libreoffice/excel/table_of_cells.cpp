@@ -123,16 +123,16 @@ private:
 /// Fills a table from what the suite says of its cells.
 class TableMaker {
 public:
-    TableMaker(SheetRecord& sheet, const model::CellBlock& block, const ShownLines& shown,
-               const CellFormats& formats, const std::vector<CellCondition>& conditions,
-               const DressedCells& dressed)
+    TableMaker(SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& cells,
+               const ShownLines& shown, const CellFormats& formats,
+               const std::vector<CellCondition>& conditions, const DressedCells& dressed)
         : sheet_(sheet),
           dressed_(dressed),
           bars_(sheet, conditions),
           scales_(sheet, conditions),
           showsZeros_(
               property<bool>(sheet.book().model()->getCurrentController(), "ShowZeroValues", true)),
-          errors_(errorsIn(sheet.range(block))),
+          errors_(errorsIn(cells)),
           shown_(shown),
           formats_(formats),
           places_(shown),
@@ -350,8 +350,8 @@ bool isTooWideForTable(SheetRecord& sheet, const model::CellBlock& block, std::s
     return shown && shown->columns.size() > mostColumns;
 }
 
-std::optional<TableLook> tableOfBlankCells(SheetRecord& sheet, const model::CellBlock& block) {
-    const auto cells = sheet.wholeCells(block);
+std::optional<TableLook> tableOfBlankCells(SheetRecord& sheet,
+                                           const uno::Reference<css::table::XCellRange>& cells) {
     if (!areBlank(sheet, cells)) return std::nullopt;
     const auto [corner, size] = placeOf(cells);
     return TableLook{{pointsOf(size.Width)},
@@ -361,15 +361,14 @@ std::optional<TableLook> tableOfBlankCells(SheetRecord& sheet, const model::Cell
                      pointsOf(corner.Y)};
 }
 
-TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block, std::size_t mostCells) {
-    const auto cells = sheet.wholeCells(block);
-    const model::CellBlock whole = blockOf(cells);
+TableLook tableOfCells(SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& cells,
+                       const model::CellBlock& block, std::size_t mostCells) {
     const ShownLines shown = shownLinesOf(cells, mostCells);
     const CellFormats formats = readCellFormats(cells, shown);
-    const auto conditions = conditionsOn(sheet, whole);
+    const auto conditions = conditionsOn(sheet, block);
     // What may take its time goes before the cells are selected, where a user may be typing.
-    const DressedCells dressed(sheet, whole, conditions);
-    const uno::Sequence<sal_Int8> copy = htmlOf(sheet, cells, whole);
+    const DressedCells dressed(sheet, block, conditions);
+    const uno::Sequence<sal_Int8> copy = htmlOf(sheet, cells, block);
     const CellsAsHtml html = readCellsAsHtml({reinterpret_cast<const char*>(copy.getConstArray()),
                                               static_cast<std::size_t>(copy.getLength())});
 
@@ -386,7 +385,7 @@ TableLook tableOfCells(SheetRecord& sheet, const model::CellBlock& block, std::s
     table.rowHeightsPt = lengthsOf(as<css::container::XIndexAccess>(lines->getRows()), "Height",
                                    shown.rows, rowHeights, pointsOf(size.Height));
 
-    TableMaker maker(sheet, whole, shown, formats, conditions, dressed);
+    TableMaker maker(sheet, cells, shown, formats, conditions, dressed);
     for (std::size_t row = 0; row < std::min(html.rows.size(), shown.rows.size()); ++row)
         maker.putRow(html.rows[row], row);
     table.cells = maker.takeCells();
