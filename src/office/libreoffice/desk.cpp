@@ -4,6 +4,7 @@
 #include <com/sun/star/container/XEnumerationAccess.hpp>
 #include <com/sun/star/frame/XDispatchHelper.hpp>
 #include <com/sun/star/frame/XDispatchProvider.hpp>
+#include <com/sun/star/frame/XLayoutManager.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/lang/XServiceInfo.hpp>
 #include <com/sun/star/util/XCloseable.hpp>
@@ -62,6 +63,15 @@ uno::Reference<css::frame::XModel> modelOf(uno::Reference<uno::XInterface> compo
         component = child.is() ? child->getParent() : nullptr;
     }
     return tryAs<css::frame::XModel>(component);
+}
+
+/// Nobody sees them, and whatever is selected would bring up others.
+void hideToolbars(const uno::Reference<css::frame::XModel>& model) {
+    const auto window = model->getCurrentController();
+    if (!window.is()) return;
+    const auto toolbars =
+        property<uno::Reference<css::frame::XLayoutManager>>(window->getFrame(), "LayoutManager");
+    if (toolbars.is()) toolbars->setVisible(false);
 }
 
 [[noreturn]] void failToOpen(const rtl::OUString& url, const std::string& why) {
@@ -226,7 +236,11 @@ uno::Reference<css::frame::XModel> Desk::loadOnce(const rtl::OUString& url, bool
         if (connection_->isLost()) throw;
         reason = fromUno(error.Message);
     }
-    if (component.is()) return as<css::frame::XModel>(component);
+    if (component.is()) {
+        const auto model = as<css::frame::XModel>(component);
+        if (hidden_) hideToolbars(model);
+        return model;
+    }
     // A password that is missing or wrong comes as "type detection aborted", or as no document and
     // no exception, like a damaged file and one that another instance holds.
     if (answer->wasAsked())

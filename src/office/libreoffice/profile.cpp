@@ -8,6 +8,7 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <iterator>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -44,29 +45,44 @@ constexpr int mostAtATime = 64;
 
 /// What Murvane's own suite does otherwise than the user's. It writes no lock beside a document: it
 /// never saves over one, so it may read what the user has open, and a killed run leaves nothing.
+/// The panels at the side (10336), which nobody sees, would follow each selection.
 constexpr std::string_view settings = R"(<?xml version="1.0" encoding="UTF-8"?>
 <oor:items xmlns:oor="http://openoffice.org/2001/registry" xmlns:xs="http://www.w3.org/2001/XMLSchema" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">
 <item oor:path="/org.openoffice.Office.Common/Misc"><prop oor:name="UseLocking" oor:op="fuse"><value>false</value></prop></item>
 <item oor:path="/org.openoffice.Office.Common/Misc"><prop oor:name="UseDocumentOOoLockFile" oor:op="fuse"><value>false</value></prop></item>
 <item oor:path="/org.openoffice.Office.Common/Misc"><prop oor:name="UseDocumentSystemFileLocking" oor:op="fuse"><value>false</value></prop></item>
 <item oor:path="/org.openoffice.Office.Common/Misc"><prop oor:name="FirstRun" oor:op="fuse"><value>false</value></prop></item>
+<item oor:path="/org.openoffice.Office.Views/Windows"><node oor:name="scalc/10336" oor:op="replace"><node oor:name="UserData"><prop oor:name="Data" oor:op="fuse" oor:type="xs:string"><value>V2,H,0</value></prop></node></node></item>
+<item oor:path="/org.openoffice.Office.Views/Windows"><node oor:name="simpress/10336" oor:op="replace"><node oor:name="UserData"><prop oor:name="Data" oor:op="fuse" oor:type="xs:string"><value>V2,H,0</value></prop></node></node></item>
+<item oor:path="/org.openoffice.Office.Views/Windows"><node oor:name="swriter/10336" oor:op="replace"><node oor:name="UserData"><prop oor:name="Data" oor:op="fuse" oor:type="xs:string"><value>V2,H,0</value></prop></node></node></item>
 <item oor:path="/org.openoffice.Office.Recovery/AutoSave"><prop oor:name="Enabled" oor:op="fuse"><value>false</value></prop></item>
 </oor:items>
 )";
 
-/// A new folder gets the settings, whole or not at all; the suite keeps them when it writes its own
-/// beside them.
+std::string contentOf(const std::filesystem::path& path) {
+    std::ifstream file(path);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// A folder that is new, or that a version with other settings has left, gets these, whole or not
+/// at all; the suite keeps them when it writes its own beside them.
 bool prepare(const std::filesystem::path& folder) {
     const std::filesystem::path file = folder / "user/registrymodifications.xcu";
+    const std::filesystem::path given = folder / "user/settings.given";
     const std::filesystem::path draft = folder / "user/settings.draft";
     std::error_code error;
-    if (std::filesystem::exists(file, error)) return true;
+    if (std::filesystem::exists(file, error) && contentOf(given) == settings) return true;
     std::filesystem::create_directories(file.parent_path(), error);
-    std::ofstream written(draft);
-    written << settings;
-    written.close();
-    if (written) std::filesystem::rename(draft, file, error);
-    if (written && !error) return true;
+    const auto write = [](const std::filesystem::path& path) {
+        std::ofstream written(path);
+        written << settings;
+        written.close();
+        return static_cast<bool>(written);
+    };
+    if (write(draft)) {
+        std::filesystem::rename(draft, file, error);
+        if (!error) return write(given);
+    }
     std::filesystem::remove(draft, error);
     return false;
 }

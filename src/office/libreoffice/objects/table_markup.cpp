@@ -6,11 +6,13 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <numeric>
 #include <sstream>
 #include <utility>
 #include <vector>
 
 #include "office/colour.h"
+#include "office/libreoffice/units.h"
 #include "office/text.h"
 
 namespace libreoffice::objects {
@@ -51,10 +53,13 @@ private:
         Attributes attributes;
     };
 
+    /// Of columns or rows. Those of a drawing are whole units of LibreOffice and add up: it lays a
+    /// table that doesn't fill its frame out once more with each step of a paste.
+    [[nodiscard]] std::vector<double> scaled(const std::vector<double>& lengthsPt) const;
     /// The name of the style of a family that is made of these parts.
     [[nodiscard]] std::string styled(const char* family, const std::vector<StylePart>& parts);
     /// Where the table goes.
-    [[nodiscard]] pugi::xml_node drawing(const TableLook& table);
+    [[nodiscard]] pugi::xml_node drawing(double widthPt, double heightPt);
     [[nodiscard]] pugi::xml_node text(const TableLook& table);
     void addRoot(const char* name);
     [[nodiscard]] std::string cellStyle(const CellLook& cell);
@@ -95,24 +100,42 @@ constexpr std::pair<const char*, const char*> extensions = {
 TableDocument::TableDocument(const TableLook& table, double scale, Kind kind)
     : scale_(scale),
       kind_(kind) {
-    pugi::xml_node grid = kind == Kind::Drawing ? drawing(table) : text(table);
-    for (const double width : table.columnWidthsPt) {
-        const auto style = styled(
-            "table-column",
-            {{"style:table-column-properties", {{"style:column-width", points(width * scale)}}}});
+    const std::vector<double> widths = scaled(table.columnWidthsPt);
+    const std::vector<double> heights = scaled(table.rowHeightsPt);
+    const auto sum = [](const std::vector<double>& lengths) {
+        return std::accumulate(lengths.begin(), lengths.end(), 0.0);
+    };
+    pugi::xml_node grid = kind == Kind::Drawing ? drawing(sum(widths), sum(heights)) : text(table);
+    for (const double width : widths) {
+        const auto style =
+            styled("table-column",
+                   {{"style:table-column-properties", {{"style:column-width", points(width)}}}});
         setAttributes(grid.append_child("table:table-column"), {{"table:style-name", style}});
     }
     // A text has room for a row that another font makes higher.
     const char* rowHeight = kind == Kind::Drawing ? "style:row-height" : "style:min-row-height";
-    for (std::size_t row = 0; row < table.rowHeightsPt.size(); ++row) {
-        const std::string height = points(table.rowHeightsPt[row] * scale);
+    for (std::size_t row = 0; row < heights.size(); ++row) {
+        const std::string height = points(heights[row]);
         const auto style =
             styled("table-row", {{"style:table-row-properties", {{rowHeight, height}}}});
         pugi::xml_node line = grid.append_child("table:table-row");
         setAttributes(line, {{"table:style-name", style}});
-        for (std::size_t column = 0; column < table.columnWidthsPt.size(); ++column)
+        for (std::size_t column = 0; column < widths.size(); ++column)
             addCell(line, table.at(row, column));
     }
+}
+
+std::vector<double> TableDocument::scaled(const std::vector<double>& lengthsPt) const {
+    std::vector<double> lengths;
+    double end = 0;
+    double before = 0;
+    for (const double length : lengthsPt) {
+        end += length * scale_;
+        const double here = kind_ == Kind::Drawing ? pointsOf(hundredthMmOf(end)) : end;
+        lengths.push_back(here - before);
+        before = here;
+    }
+    return lengths;
 }
 
 void TableDocument::addRoot(const char* name) {
@@ -124,7 +147,7 @@ void TableDocument::addRoot(const char* name) {
     styles_ = root.append_child("office:automatic-styles");
 }
 
-pugi::xml_node TableDocument::drawing(const TableLook& table) {
+pugi::xml_node TableDocument::drawing(double widthPt, double heightPt) {
     addRoot("office:document");
     pugi::xml_node root = document_.document_element();
     setAttributes(root, {{"office:mimetype", "application/vnd.oasis.opendocument.presentation"}});
@@ -135,11 +158,13 @@ pugi::xml_node TableDocument::drawing(const TableLook& table) {
                               .append_child("office:presentation")
                               .append_child("draw:page");
     setAttributes(page, {{"draw:master-page-name", "master"}});
+    // LibreOffice counts the last unit within a frame as one of it.
+    const double lastPt = pointsOf(1);
     pugi::xml_node frame = page.append_child("draw:frame");
     setAttributes(frame, {{"svg:x", "0pt"},
                           {"svg:y", "0pt"},
-                          {"svg:width", points(table.widthPt() * scale_)},
-                          {"svg:height", points(table.heightPt() * scale_)}});
+                          {"svg:width", points(widthPt - lastPt)},
+                          {"svg:height", points(heightPt - lastPt)}});
     return frame.append_child("table:table");
 }
 
@@ -203,10 +228,17 @@ std::string TableDocument::cellStyle(const CellLook& cell) {
     area.emplace_back("fo:padding-right", points((fromRight ? indent : paddingPt) * scale_));
     for (const char* side : {"top", "bottom"})
         area.emplace_back(fmt::format("fo:padding-{}", side), "0pt");
-    const Attributes lines = {{"fo:border-left", line(cell.left)},
-                              {"fo:border-right", line(cell.right)},
-                              {"fo:border-top", line(cell.top)},
-                              {"fo:border-bottom", line(cell.bottom)}};
+    Attributes lines;
+    for (const auto& [side, drawn] : {std::pair("left", cell.left),
+                                      {"right", cell.right},
+                                      {"top", cell.top},
+                                      {"bottom", cell.bottom}}) {
+        if (kind_ == Kind::Text || drawn.widthPt > 0)
+            lines.emplace_back(fmt::format("fo:border-{}", side), line(drawn));
+    }
+    // In a drawing any side says of the others that they have none, and LibreOffice goes through
+    // the table for each thing that a cell says.
+    if (lines.empty()) lines.emplace_back("fo:border-left", "none");
     return styled("table-cell", kind_ == Kind::Drawing ? drawnCell(cell, std::move(area), lines)
                                                        : writtenCell(cell, std::move(area), lines));
 }
