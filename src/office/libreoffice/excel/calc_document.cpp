@@ -7,7 +7,6 @@
 #include <com/sun/star/drawing/XShapes.hpp>
 #include <com/sun/star/frame/XController.hpp>
 #include <com/sun/star/frame/XFrame.hpp>
-#include <com/sun/star/frame/XLayoutManager.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
@@ -195,10 +194,7 @@ CopyingWindow CalcDocument::copyingWindow() {
     if (desk_.opensHidden()) {
         // Copies from a hidden window have letters of the automatic colour black on dark grounds
         // too. The suite that opens it has no screen.
-        const auto frame = found.window->getFrame();
-        property<uno::Reference<css::frame::XLayoutManager>>(frame, "LayoutManager")
-            ->setVisible(false);
-        const auto shown = frame->getContainerWindow();
+        const auto shown = found.window->getFrame()->getContainerWindow();
         shown->setPosSize(0, 0, 1, 1, css::awt::PosSize::POSSIZE);
         shown->setVisible(true);
         unseenWindow_ = found;
