@@ -51,10 +51,19 @@ void ProgressStep(session::OfficeSession& session, std::int32_t item, std::int32
     session.host.letEventsRun();
 }
 
-void TellCancelled(session::OfficeSession& session, std::int32_t exported, std::int32_t total) {
-    session::ShowInfoNotice(
-        session.notices,
-        fmt::format("The export was cancelled: {} of {} items were exported.", exported, total));
+bool isToEnd(const session::OfficeSession& session, const NeededDocuments* needed) {
+    return session.progress.cancelled() || (needed != nullptr && needed->isOneClosed());
+}
+
+void TellEnded(session::OfficeSession& session, NeededDocuments* needed, std::int32_t exported,
+               std::int32_t total) {
+    if (needed != nullptr) needed->letGo();
+    const bool isClosed = needed != nullptr && !needed->closed().empty();
+    const std::string text =
+        fmt::format("{} {} of {} items were exported.",
+                    isClosed ? needed->closed() : "The export was cancelled:", exported, total);
+    if (needed != nullptr && needed->hasLostTarget()) office::refuse("Export", text);
+    session::ShowInfoNotice(session.notices, text);
 }
 
 void RestoreScreenUpdating(session::OfficeSession& session) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "catalogue/export_list.h"
+#include "catalogue/needed_documents.h"
 #include "session/office_session.h"
 
 /// What the batches of all destinations have in common: which rows they take, and what they show
@@ -35,8 +36,13 @@ struct TakenRow {
 /// Shows that the export is at its item `item` of `total`, and lets events run.
 void ProgressStep(session::OfficeSession& session, std::int32_t item, std::int32_t total);
 
-/// Tells how far an export has come that the user has cancelled.
-void TellCancelled(session::OfficeSession& session, std::int32_t exported, std::int32_t total);
+/// Whether an export is to end after its item at hand: the user has cancelled it, or something that
+/// it needs has been closed. `needed` may be null.
+[[nodiscard]] bool isToEnd(const session::OfficeSession& session, const NeededDocuments* needed);
+/// Tells how far an export has come that ended early, and why. What is to be closed is, before. A
+/// failure says so where what it goes to has gone.
+void TellEnded(session::OfficeSession& session, NeededDocuments* needed, std::int32_t exported,
+               std::int32_t total);
 
 /// Lets both applications draw again, failures ignored, and lets events run.
 void RestoreScreenUpdating(session::OfficeSession& session);

@@ -117,8 +117,9 @@ void DialogHTML::ContinueOk_Click() {
 }
 
 void DialogHTML::runBatch(const HtmlOptions& wanted, bool asImages) {
+    catalogue::NeededDocuments needed(session());
     HtmlResult result;
-    walkAndTell(session(), list_, [&](RowBatch& batch) {
+    walkAndTell(session(), list_, needed, [&](RowBatch& batch) {
         result =
             asImages ? ExportRowsToHtmlAsImages(batch, wanted) : PublishRowsToHtml(batch, wanted);
         return result.walk;

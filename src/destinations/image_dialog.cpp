@@ -154,7 +154,8 @@ void DialogImageFiles::ContinueOk_Click() {
 }
 
 void DialogImageFiles::runBatch(const ImageFileOptions& wanted) {
-    walkAndTell(session(), list_,
+    catalogue::NeededDocuments needed(session());
+    walkAndTell(session(), list_, needed,
                 [&](RowBatch& batch) { return ExportRowsToImageFiles(batch, wanted); });
     if (Check2.isChecked()) openOrName(session(), wanted.folder);
 }

@@ -114,10 +114,11 @@ void DialogPDF::MakeBlankDoc_Paste_ExportPdf_AndClose() {
     const PdfOptions wanted = options();
     const std::string path = pdfPath(session(), "TempWord");
     session().progress.showItem(0, taken_);
+    catalogue::NeededDocuments needed(session());
     office::ContinueOnFailure scope;
     PdfResult result;
     const bool went = scope.attempt([&] {
-        walkAndTell(session(), list_, [&](RowBatch& batch) {
+        walkAndTell(session(), list_, needed, [&](RowBatch& batch) {
             result = ExportRowsToPdf(batch, wanted, path);
             return result.walk;
         });

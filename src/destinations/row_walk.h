@@ -15,6 +15,8 @@ struct RowBatch {
     session::OfficeSession& session;
     catalogue::ExportList& list;
     catalogue::OnFailedItem onFailedItem;
+    /// Null where nobody closes anything.
+    catalogue::NeededDocuments* needed = nullptr;
 };
 
 /// What a walk came to.
@@ -24,6 +26,7 @@ struct WalkResult {
     std::int32_t failed = 0;
     std::int32_t total = 0;
 
+    /// By the user, or by something that was closed.
     [[nodiscard]] bool wasCancelled() const { return done < total; }
 };
 
@@ -35,7 +38,8 @@ struct WalkResult {
 
 /// Walks the rows that are checked and on a visible sheet, in display order, and lets each have its
 /// turn by `exportRow`. The row at hand is the list's selected one; at the end it is the one
-/// that was selected before. When the user cancels, the walk ends after the item at hand.
+/// that was selected before. When the user cancels, the walk ends after the item at hand, as it
+/// does when something is closed that it needs; an item that fails by that has had no turn.
 WalkResult walkRows(RowBatch& batch,
                     const std::function<void(const catalogue::TakenRow& taken,
                                              const catalogue::ExportItem& row)>& exportRow);
@@ -47,9 +51,10 @@ WalkResult walkRowsAhead(
     const std::function<std::function<void()>(const catalogue::TakenRow& taken,
                                               const catalogue::ExportItem& row)>& begin);
 
-/// Lets an export of a dialog's walk, takes its progress away, and tells of a cancel and of the
-/// items that failed.
+/// Lets an export of a dialog's walk, takes its progress away, and tells of its early end and of
+/// the items that failed.
 WalkResult walkAndTell(session::OfficeSession& session, catalogue::ExportList& list,
+                       catalogue::NeededDocuments& needed,
                        const std::function<WalkResult(RowBatch& batch)>& exportRows);
 
 }  // namespace destinations

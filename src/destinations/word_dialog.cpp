@@ -114,13 +114,9 @@ void DialogWord::ContinueOk_Click() {
 
 void DialogWord::runBatch() {
     constexpr std::uint32_t settledMs = 100;
-    const WalkResult result = walkAndTell(session(), list_, [&](RowBatch& batch) {
-        const auto tell = std::exchange(batch.onFailedItem, nullptr);
-        batch.onFailedItem = [&](const auto& row, const auto& failure) {
-            // Without its document no other item would go better.
-            if (!documentIsThere()) throw office::Failure(failure);
-            tell(row, failure);
-        };
+    catalogue::NeededDocuments needed(session());
+    needed.addTarget("Word.Application", "document", session().SessionDocument);
+    const WalkResult result = walkAndTell(session(), list_, needed, [&](RowBatch& batch) {
         const WalkResult walk = ExportRowsToWord(batch, choices_.format,
                                                  {.sameWidth = SameWidth.isChecked(),
                                                   .caption = AddCaption.isChecked(),

@@ -2,12 +2,14 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "office/copied.h"
+#include "office/held_document.h"
 #include "office/picture.h"
 #include "office/size.h"
 #include "office/value.h"
@@ -73,6 +75,13 @@ public:
     /// Of each item, nothing of those that are no cells of the active workbook; empty where that
     /// can't be told.
     virtual std::vector<ShownCells> shownCells(const std::vector<PasteItem>&) { return {}; }
+
+    /// Keeps the open document of that full name and of that application open. Null where nobody
+    /// else closes it, or where that can't be kept from happening.
+    virtual std::unique_ptr<HeldDocument> hold(std::string_view /*className*/,
+                                               const std::string& /*fullName*/) {
+        return nullptr;
+    }
 
     /// The top window with this class and caption; an empty one of the two means any. 0 if there is
     /// none.

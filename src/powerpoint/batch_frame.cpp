@@ -35,7 +35,7 @@ private:
     void walk();
     void prepare();
     void addSlides();
-    void exportRow(const TakenRow& taken);
+    [[nodiscard]] bool exportRow(const TakenRow& taken);
     [[nodiscard]] Object showSlideOf(const TakenRow& taken);
     [[nodiscard]] bool insert(const ExportItem& row, const Object& slide);
     void finishItem(const ExportItem& row, const Object& slide, bool isThere);
@@ -81,7 +81,7 @@ std::int32_t BatchFrame::run() {
     if (route_.showsCompletion && done_ == total) catalogue::ProgressStep(session_, total, total);
     const auto lateFailure = putBack();
     if (done_ < total) {
-        catalogue::TellCancelled(session_, exported_, total);
+        catalogue::TellEnded(session_, batch_.needed, exported_, total);
     } else if (exported_ == 0 && !route_.noneArrived.empty()) {
         session::ShowWarningNotice(session_.notices, route_.noneArrived);
     }
@@ -96,8 +96,8 @@ std::int32_t BatchFrame::run() {
 void BatchFrame::walk() {
     prepare();
     for (const TakenRow& taken : rows_) {
-        if (session_.progress.cancelled()) return;
-        exportRow(taken);
+        if (catalogue::isToEnd(session_, batch_.needed)) return;
+        if (!exportRow(taken)) return;
         ++done_;
     }
 }
@@ -132,7 +132,8 @@ void BatchFrame::addSlides() {
     hold();
 }
 
-void BatchFrame::exportRow(const TakenRow& taken) {
+/// False where the row has failed by something that has been closed: so would all others.
+bool BatchFrame::exportRow(const TakenRow& taken) {
     const ExportItem& row = batch_.list.rows[taken.index];
     batch_.list.selected = static_cast<std::ptrdiff_t>(taken.index);
     const auto work = [&] {
@@ -151,7 +152,8 @@ void BatchFrame::exportRow(const TakenRow& taken) {
             unselect();
         }
     };
-    catalogue::letHaveTurn(batch_.onFailedItem, row, work);
+    return catalogue::letHaveTurn(batch_.onFailedItem, row, work) || batch_.needed == nullptr ||
+           batch_.needed->areOpen();
 }
 
 Object BatchFrame::showSlideOf(const TakenRow& taken) {

@@ -6,6 +6,7 @@
 
 #include "catalogue/export_list.h"
 #include "catalogue/failed_items.h"
+#include "catalogue/needed_documents.h"
 #include "office/failure.h"
 #include "powerpoint/picture_styles.h"
 #include "session/office_session.h"
@@ -36,6 +37,8 @@ struct Batch {
     /// A failure that ends the batch leaves no slide without its item, and windows as after a
     /// cancelled one.
     bool tidiesUpAfterFailure = false;
+    /// Null where nobody closes anything.
+    catalogue::NeededDocuments* needed = nullptr;
 };
 
 /// As the formats need it that paste.
@@ -66,7 +69,8 @@ struct BatchRoute {
 /// one. Returns how many have had their turn.
 ///
 /// When the user cancels, the batch ends after the item at hand: what was made stays, new slides
-/// without an item go, and a notice says how far it came.
+/// without an item go, and a notice says how far it came. So it does when something is closed that
+/// it needs; an item that fails by that has had no turn.
 ///
 /// A failure up to the last row goes to the caller, or to `onFailedItem`. Where the batch ends by
 /// it and isn't told to tidy up, nothing is taken back: the slides stay, and Excel's drawing stays

@@ -162,16 +162,19 @@ void Dialog::ContinueOk_Click() {
 }
 
 void Dialog::runBatch(catalogue::FailedItems& failed) {
+    catalogue::NeededDocuments needed(session());
+    needed.addTarget("PowerPoint.Application", "presentation", session().SessionPresentation);
     Batch batch{session(),
                 list_,
                 choices_,
                 [&](const auto& row, const auto& failure) {
-                    // Without its presentation no other item would go better.
-                    if (!presentationIsThere()) throw office::Failure(failure);
-                    failed.add(row, failure);
+                    if (needed.areOpen()) failed.add(row, failure);
                 },
                 options_,
-                [&](const auto& failure) { failed.add(failure); }};
+                [&](const auto& failure) {
+                    if (needed.areOpen()) failed.add(failure);
+                }};
+    batch.needed = &needed;
     ExportRows(batch);
 }
 

@@ -115,6 +115,47 @@ TEST_F(WordDialogTest, ItemsThatFailAreToldTogetherAtTheEnd) {
     EXPECT_EQ(document.objectCount(office::model::word::Anchoring::Inline), 3);
 }
 
+enum class What { HeldDocument, Document, Workbook };
+
+struct Closed {
+    What what;
+    const char* told;
+};
+
+class ClosedMeanwhile : public WordDialogTest, public testing::WithParamInterface<Closed> {
+protected:
+    void close() {
+        if (GetParam().what == What::HeldDocument) test.suite.close(document.fullName());
+        if (GetParam().what == What::Document) document.close();
+        if (GetParam().what == What::Workbook) book.close();
+    }
+};
+
+TEST_P(ClosedMeanwhile, IsToldInOneSentenceWithHowFarTheExportCame) {
+    test.host.onEvents = [this] {
+        desktop.letEventsRun();
+        if (test.progress.calls.back() == "item 2 of 3") close();
+    };
+    answer("DialogWord", {});
+    Texts told;
+    try {
+        startWord();
+    } catch (const office::Failure& failure) {
+        EXPECT_TRUE(GetParam().what == What::Document && failure.isRefusal());
+        told = {failure.description()};
+    }
+    const Texts notices = test.notices.messages();
+    told.insert(told.end(), notices.begin(), notices.end());
+    EXPECT_EQ(told, Texts{GetParam().told});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    WordDialogTest, ClosedMeanwhile,
+    testing::Values(
+        Closed{What::HeldDocument, "The document has been closed. 2 of 3 items were exported."},
+        Closed{What::Document, "The document has been closed. 1 of 3 items were exported."},
+        Closed{What::Workbook, "The workbook has been closed. 1 of 3 items were exported."}));
+
 TEST_F(WordDialogTest, ThePdfFormMakesADocumentOfItsOwnAndStays) {
     struct Seen {
         const char* amount;

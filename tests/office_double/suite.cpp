@@ -82,6 +82,19 @@ std::vector<std::string> DoubleSuite::remarksOn(std::string_view /*className*/, 
     return lines;
 }
 
+std::unique_ptr<office::HeldDocument> DoubleSuite::hold(std::string_view /*className*/,
+                                                        const std::string& fullName) {
+    struct Held : office::HeldDocument {
+        const std::set<std::string>* closing = nullptr;
+        std::string name;
+        [[nodiscard]] bool isToBeClosed() const override { return closing->contains(name); }
+    };
+    auto held = std::make_unique<Held>();
+    held->closing = &closing_;
+    held->name = fullName;
+    return held;
+}
+
 office::WindowHandle DoubleSuite::findWindow(std::string_view className, std::string_view caption) {
     if (!powerPoint_ || (!className.empty() && className != "PPTFrameClass")) return 0;
     for (const auto& open : powerPoint_->open()) {

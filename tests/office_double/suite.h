@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -65,6 +66,10 @@ public:
     void remarkOn(office::PasteAs as, std::string remark) { remarks_[as] = std::move(remark); }
     /// Presentations have windows with captions such as "Deck.pptx - PowerPoint" and the class
     /// "PPTFrameClass".
+    std::unique_ptr<office::HeldDocument> hold(std::string_view className,
+                                               const std::string& fullName) override;
+    /// Somebody closes the documents of that name, and waits.
+    void close(const std::string& fullName) { closing_.insert(fullName); }
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;
     bool raiseWindow(office::WindowHandle window) override;
     bool lockDrawing(office::WindowHandle window) override;
@@ -85,6 +90,7 @@ private:
     office::WindowHandle locked_ = 0;
     std::map<office::PasteAs, std::string> remarks_;
     std::map<std::string, office::ShownCells> shownCells_;
+    std::set<std::string> closing_;
 };
 
 }  // namespace office_double

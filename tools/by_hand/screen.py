@@ -181,6 +181,10 @@ class Screen:
                                env=self.environment, capture_output=True, text=True)
         return found.stdout.split()
 
+    def press(self, text, key):
+        """A key on the window of that name."""
+        subprocess.run(["xdotool", "windowfocus", "--sync", self.window_named(text)[-1], "key", key], env=self.environment, check=True)
+
     def spread(self, text, width, height):
         """Makes the windows of that name as large: the suite brings them up small."""
         for window in self.window_named(text):

@@ -36,6 +36,10 @@ public:
     }
     std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;
+    std::unique_ptr<office::HeldDocument> hold(std::string_view className,
+                                               const std::string& fullName) override {
+        return below_.hold(className, fullName);
+    }
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;
     bool raiseWindow(office::WindowHandle window) override;
     bool lockDrawing(office::WindowHandle window) override;

@@ -15,6 +15,7 @@
 #include "office/libreoffice/excel/shown_cells.h"
 #include "office/libreoffice/excel/table_losses.h"
 #include "office/libreoffice/guard.h"
+#include "office/libreoffice/held_open.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/private_instance.h"
 #include "office/libreoffice/running_instance.h"
@@ -160,6 +161,24 @@ std::vector<office::ShownCells> LibreOfficeSuite::shownCells(
     return translated(*connection_, "Suite.shownCells", [&] {
         const auto book = desk_->active<excel::CalcDocument>();
         return book ? excel::shownCells(*book, items) : std::vector<office::ShownCells>();
+    });
+}
+
+std::unique_ptr<office::HeldDocument> LibreOfficeSuite::hold(std::string_view className,
+                                                             const std::string& fullName) {
+    if (!desk_ || desk_->isUndisturbed) return nullptr;
+    const auto among = [&](const auto& documents) -> std::unique_ptr<office::HeldDocument> {
+        for (const auto& document : documents) {
+            if (document->fullName() == fullName) return heldOpen(connection_, *document);
+        }
+        return nullptr;
+    };
+    return translated(*connection_, "Suite.hold", [&] {
+        if (office::sameIgnoringCase(className, "Excel.Application"))
+            return among(desk_->open<excel::CalcDocument>());
+        if (office::sameIgnoringCase(className, "PowerPoint.Application"))
+            return among(desk_->open<powerpoint::ImpressDeck>());
+        return among(desk_->open<word::WriterDocument>());
     });
 }
 

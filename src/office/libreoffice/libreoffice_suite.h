@@ -63,6 +63,8 @@ public:
         const std::vector<office::PasteItem>& items) override;
     std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;
+    std::unique_ptr<office::HeldDocument> hold(std::string_view className,
+                                               const std::string& fullName) override;
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;
     bool raiseWindow(office::WindowHandle window) override;
     /// Remembered, and nothing is locked: the user would sit in front of a frozen presentation if
