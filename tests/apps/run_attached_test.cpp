@@ -87,6 +87,23 @@ TEST_F(RunAttachedTest, AFailureLeavesNoSlideWithoutItsItemAndSaysWhatIsThere) {
     }
 }
 
+TEST_F(RunAttachedTest, EndsAfterTheItemAtHandWhenItsPresentationOrDocumentIsClosed) {
+    const std::tuple<const char*, const char*, const char*> all[] = {
+        {"Chart.Export", "Talk.pptx", "Out.pptx"}, {"Selection.Paste", "Notes.docx", "Out.docx"}};
+    for (const auto& [member, name, output] : all) {
+        suite = std::make_shared<office_double::DoubleSuite>();
+        openUsersDocuments();
+        suite->word().addDocument("Notes.docx", folder.path().string());
+        isInterrupted = [this, member = member, name = name] {
+            if (suite->log().count(member) >= 2) suite->close(folder.file(name));
+            return false;
+        };
+        EXPECT_EQ(run({"--attach", "--output", folder.file(output)}), 1) << output;
+        EXPECT_TRUE(console.errorHas("has been closed. 2 of 5 items were exported."))
+            << console.error;
+    }
+}
+
 TEST_F(RunAttachedTest, LeavesExcelDrawingAlsoAfterAFailure) {
     openUsersDocuments();
     suite->failures().fail("Chart.Export");

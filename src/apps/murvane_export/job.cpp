@@ -1,5 +1,6 @@
 #include "apps/murvane_export/job.h"
 
+#include "catalogue/needed_documents.h"
 #include "catalogue/row_copies.h"
 #include "destinations/html_export.h"
 #include "destinations/image_files.h"
@@ -17,6 +18,21 @@ namespace unattended {
 namespace {
 
 using catalogue::Destination;
+
+/// What a job can't do without that its user may close meanwhile. Null in a suite of its own.
+std::unique_ptr<catalogue::NeededDocuments> neededBy(const JobScene& scene, const char* application,
+                                                     const char* noun,
+                                                     const office::Object& target) {
+    if (!scene.options.attach) return nullptr;
+    auto needed = std::make_unique<catalogue::NeededDocuments>(scene.session);
+    needed->addTarget(application, noun, target);
+    return needed;
+}
+
+/// An export that ended by it, and has said so, makes no file.
+void requireOpen(const catalogue::NeededDocuments* needed) {
+    if (needed != nullptr && !needed->closed().empty()) office::refuse("Export", needed->closed());
+}
 
 class SlidesJob : public Job {
 public:
@@ -75,6 +91,9 @@ void SlidesJob::exportTo(const std::string& neighbour) {
     std::optional<PlacementForARun> placement;
     if (options.placesShapes()) placement.emplace(scene_.session, options);
     batch.tidiesUpAfterFailure = options.attach;
+    const auto needed = neededBy(scene_, "PowerPoint.Application", "presentation",
+                                 scene_.session.SessionPresentation);
+    batch.needed = needed.get();
     // All slides have got what they get by then, and the presentation may be the user's own.
     std::optional<office::Failure> lateFailure;
     batch.onLateFailure = [&](const office::Failure& failure) { lateFailure = failure; };
@@ -82,6 +101,7 @@ void SlidesJob::exportTo(const std::string& neighbour) {
     placement.reset();
     scene_.list.selected = -1;
     scene_.documents.removeFirstSlides();
+    requireOpen(needed.get());
     if (lateFailure) throw office::Failure(*lateFailure);
     scene_.session.SessionPresentation.call("SaveCopyAs", neighbour);
 }
@@ -101,12 +121,18 @@ public:
 
     void exportTo(const std::string& neighbour) override {
         const Options& options = scene_.options;
-        destinations::RowBatch batch{scene_.session, scene_.list, scene_.onFailedItem};
-        done_ = destinations::ExportRowsToWord(batch, options.format,
-                                               {.sameWidth = options.sameWidth,
-                                                .caption = options.captionsBelow,
-                                                .shadow = options.shadow})
-                    .done;
+        const auto needed =
+            neededBy(scene_, "Word.Application", "document", scene_.session.SessionDocument);
+        destinations::RowBatch batch{scene_.session, scene_.list, scene_.onFailedItem,
+                                     needed.get()};
+        const auto walk = destinations::ExportRowsToWord(batch, options.format,
+                                                         {.sameWidth = options.sameWidth,
+                                                          .caption = options.captionsBelow,
+                                                          .shadow = options.shadow});
+        done_ = walk.done;
+        if (needed && walk.wasCancelled() && needed->isOneClosed())
+            catalogue::TellEnded(scene_.session, needed.get(), walk.done - walk.failed, walk.total);
+        requireOpen(needed.get());
         scene_.session.SessionDocument.call("SaveCopyAs", neighbour);
     }
 };

@@ -65,6 +65,10 @@ std::string inOpenDocuments(session::OfficeSession& session, const catalogue::Ex
         const bool isSlides = destination == Destination::PowerPoint;
         const auto there = outcome.taken - static_cast<std::int32_t>(outcome.missing.size());
         if (there <= 0 || (!isSlides && destination != Destination::Word)) continue;
+        const auto& target = isSlides ? session.SessionPresentation : session.SessionDocument;
+        // Its user may have closed it.
+        if (office::orElse([&] { return target.get("Name").toText(); }, std::string()).empty())
+            continue;
         const auto choices = choicesFor(destination, options);
         text += fmt::format("{}{} of {} items are in the open {}", text.empty() ? "" : ", ", there,
                             catalogue::takeRows(session, list, choices).size(),
