@@ -21,6 +21,11 @@ struct Outcome {
     std::set<std::ptrdiff_t> missing;
     /// A line for each item that failed.
     std::vector<std::string> failures;
+
+    /// All items had their turn in vain.
+    [[nodiscard]] bool isEmpty() const {
+        return taken > 0 && missing.size() >= static_cast<std::size_t>(taken);
+    }
 };
 
 /// A sentence about a failure, and one about the item that it befell.

@@ -37,6 +37,8 @@ public:
     /// may not be, or by what can't be replaced. For all outputs of a run ahead of the first
     /// commit.
     virtual void requireCanCommit() = 0;
+    /// The `RunError` of an output that nothing has come into.
+    [[noreturn]] void failWithoutContent() const;
     /// `RunError` as well if the system refuses; what is there is left alone then.
     virtual void commit() = 0;
 
@@ -46,7 +48,6 @@ protected:
 
     [[nodiscard]] bool overwrites() const { return overwrites_; }
     [[noreturn]] void refuse(const std::string& why) const;
-    [[noreturn]] void failWithoutContent() const;
     /// For a name that was free when the run began.
     [[noreturn]] static void failForAnother(const std::filesystem::path& there);
     virtual void makeNeighbour(const std::filesystem::path& folder) = 0;

@@ -245,7 +245,9 @@ void Output::refuse(const std::string& why) const {
 }
 
 void Output::failWithoutContent() const {
-    throw RunError(fmt::format("Nothing was written, so {} was not made.", office::utf8Of(file_)));
+    std::error_code ignored;
+    throw RunError(fmt::format("Nothing was exported, so {} {}.", office::utf8Of(file_),
+                               fs::exists(file_, ignored) ? "stays as it is" : "was not made"));
 }
 
 void Output::failForAnother(const fs::path& there) {

@@ -298,7 +298,11 @@ void Run::tellOfMissing(std::size_t place, bool isMade) {
 /// told.
 int Run::commit() {
     try {
-        for (const auto& output : order_.outputs) output->requireCanCommit();
+        for (std::size_t place = 0; place < jobs_.size(); ++place) {
+            // Empty slides or a template alone are no reason to replace a file.
+            if (outcomes_[place].isEmpty()) order_.outputs[place]->failWithoutContent();
+            order_.outputs[place]->requireCanCommit();
+        }
     } catch (const RunError& error) {
         for (std::size_t place = 0; place < jobs_.size(); ++place) tellOfMissing(place, false);
         const bool isAlone = order_.outputs.size() == 1;
