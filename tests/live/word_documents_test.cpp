@@ -175,6 +175,19 @@ TEST_F(WordLive, CostsTheSameForEveryItem) {
     EXPECT_LT(third, 200U);
 }
 
+TEST_F(WordLive, TakesANewParagraphOutOfTheListThatTheTextEndsWith) {
+    const auto listAt = [&](const uno::Reference<css::text::XTextRange>& place) {
+        return fromUno(property<rtl::OUString>(place, "NumberingStyleName"));
+    };
+    selection().call("TypeText", "An item");
+    setProperty(body()->getEnd(), "NumberingStyleName", rtl::OUString("List 1"));
+    selection().call("TypeParagraph");
+    ASSERT_EQ(listAt(body()->getEnd()), "List 1");
+    selection().put("Style", -1);
+    EXPECT_EQ(listAt(body()->getEnd()), "");
+    EXPECT_EQ(listAt(body()->getStart()), "List 1");
+}
+
 TEST_F(WordLive, WritesFilesAndStaysWhatItIs) {
     selection().put("Style", -2);
     selection().call("TypeText", "A heading");

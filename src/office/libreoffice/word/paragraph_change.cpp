@@ -74,15 +74,24 @@ void forgetOwnLooks(const uno::Reference<css::text::XTextCursor>& paragraph, Let
     as<css::beans::XMultiPropertyStates>(paragraph)->setAllPropertiesToDefault();
 }
 
+bool isInList(const uno::Reference<css::text::XTextCursor>& paragraph) {
+    return !property<rtl::OUString>(paragraph, "NumberingStyleName").isEmpty();
+}
+
 }  // namespace
 
 void changeParagraph(const uno::Reference<css::text::XTextCursor>& paragraph,
                      const model::ParagraphChange& change, Letters letters) {
+    const rtl::OUString style = change.style ? nameOfStyle(*change.style) : rtl::OUString();
+    if (change.style) forgetOwnLooks(paragraph, letters);
     Properties properties;
     if (change.breaksPageBefore || change.style)
         properties.add("BreakType", change.breaksPageBefore.value_or(false)
                                         ? css::style::BreakType_PAGE_BEFORE
                                         : css::style::BreakType_NONE);
+    // The one look that LibreOffice doesn't forget. Ahead of the style, which may bring its own.
+    if (change.style && letters == Letters::MayBeDressed && isInList(paragraph))
+        properties.add("NumberingStyleName", rtl::OUString());
     if (change.alignment)
         properties.add("ParaAdjust",
                        static_cast<sal_Int16>(
@@ -94,10 +103,7 @@ void changeParagraph(const uno::Reference<css::text::XTextCursor>& paragraph,
     }
     if (change.leftIndent) properties.add("ParaLeftMargin", hundredthMmOf(*change.leftIndent));
     if (change.rightIndent) properties.add("ParaRightMargin", hundredthMmOf(*change.rightIndent));
-    if (change.style) {
-        properties.add("ParaStyleName", nameOfStyle(*change.style));
-        forgetOwnLooks(paragraph, letters);
-    }
+    if (change.style) properties.add("ParaStyleName", style);
     if (change.spaceBefore) properties.add("ParaTopMargin", hundredthMmOf(*change.spaceBefore));
     properties.set(paragraph);
 }
