@@ -13,9 +13,11 @@ namespace unattended {
 
 namespace {
 
-/// Where a failure comes from helps to find its cause, unless it is a sentence of our own.
+/// Where a failure comes from helps to find its cause, unless it is a sentence of our own, as those
+/// about files are.
 std::string withOrigin(const office::Failure& failure, const std::string& origin) {
-    if (failure.isRefusal()) return failure.sentence();
+    if (failure.isRefusal() || failure.is(office::FailureNumber::PathFileAccess))
+        return failure.sentence();
     return fmt::format("{} ({}).", failure.description(), origin);
 }
 

@@ -60,6 +60,15 @@ void tell(apps::Console& console, const std::string& text) {
     console.writeError(apps::printable(text, "\n"));
 }
 
+/// Where in the neighbour something could not be written means nothing to the user.
+std::string reasonFor(const office::Failure& failure, const std::filesystem::path& neighbour) {
+    const std::string text = reportOf(failure);
+    const std::size_t reason = text.rfind(": ");
+    const bool isInside =
+        text.starts_with(office::utf8Of(neighbour)) && reason != std::string::npos;
+    return isInside ? text.substr(reason + 2) : text;
+}
+
 /// One run, from the open documents to the output.
 class Run {
 public:
@@ -262,8 +271,8 @@ void Run::complainAbout(std::size_t place, const office::Failure& failure) {
     // A disk that is full is no fault of the item at hand.
     if (!isOfItem || failure.is(office::FailureNumber::PathFileAccess))
         throw RunError(fmt::format("{} could not be made: {}{}",
-                                   office::utf8Of(order_.outputs[place]->file()), reportOf(failure),
-                                   there));
+                                   office::utf8Of(order_.outputs[place]->file()),
+                                   reasonFor(failure, order_.outputs[place]->neighbour()), there));
     const ExportItem& row = list_.rows[static_cast<std::size_t>(list_.selected)];
     throw RunError(fmt::format(
         "Could not export {}{}\n--keep-going leaves such items out and saves the others.",

@@ -3,6 +3,8 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <system_error>
@@ -38,9 +40,9 @@ h2 { margin: 12px 0; font-size: 20px; text-align: center; }
 
 constexpr std::string_view end = "</body>\n</html>\n";
 
-[[noreturn]] void failToWrite(const fs::path& path) {
+[[noreturn]] void failToWrite(const fs::path& path, int error) {
     throw Failure(FailureNumber::PathFileAccess, std::string(publishing),
-                  fmt::format("{} can't be written", path.string()));
+                  fmt::format("{} can't be written: {}", path.string(), std::strerror(error)));
 }
 
 /// Where the body ends, in bytes from the start of the file.
@@ -65,9 +67,10 @@ void writeNew(const fs::path& path, std::string_view bytes) {
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     file.close();
     if (file) return;
+    const int reason = errno;
     std::error_code ignored;
     if (fs::is_regular_file(path, ignored)) fs::remove(path, ignored);
-    failToWrite(path);
+    failToWrite(path, reason);
 }
 
 }  // namespace
@@ -92,25 +95,26 @@ void PublishedPage::begin(std::string_view title) const {
 
 void PublishedPage::append(std::string_view markup) const {
     std::fstream file(file_, std::ios::binary | std::ios::in | std::ios::out);
-    if (!file) failToWrite(file_);
+    if (!file) failToWrite(file_, errno);
     const std::streamoff place = endOfBody(file, file_);
     file.seekp(place);
     file.write(markup.data(), static_cast<std::streamsize>(markup.size()));
     file.write(end.data(), static_cast<std::streamsize>(end.size()));
     file.close();
     if (file) return;
+    const int reason = errno;
     // What there was no room for goes again, and the end comes back into the room that it had.
     std::error_code ignored;
     fs::resize_file(file_, static_cast<std::uintmax_t>(place), ignored);
     std::ofstream(file_, std::ios::binary | std::ios::app) << end;
-    failToWrite(file_);
+    failToWrite(file_, reason);
 }
 
 fs::path PublishedPage::placeForPicture() {
     const fs::path folder = file_.parent_path() / (file_.stem().string() + "_files");
     std::error_code error;
     fs::create_directory(folder, error);
-    if (error) failToWrite(folder);
+    if (error) failToWrite(folder, error.value());
     fs::path picture;
     do {
         picture = folder / fmt::format("image{:03}.png", ++lastPicture_);
