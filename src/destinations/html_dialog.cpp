@@ -110,7 +110,7 @@ void DialogHTML::ContinueOk_Click() {
     const HtmlOptions wanted = options();
     const bool asImages = SameWidthHTNL.isChecked();
     if (!takesOutput(session(), wanted.folder)) {
-        SetPanelMessage(cantWriteTo(wanted.folder), "warning");
+        SetPanelMessage(cantWriteTo(session(), wanted.folder), "warning");
         return;
     }
     panels::RunExport(session(), *this, taken_, [&] { runBatch(wanted, asImages); });

@@ -144,7 +144,7 @@ std::optional<bool> DialogImageFiles::mayReplace(const ImageFileOptions& wanted)
 void DialogImageFiles::ContinueOk_Click() {
     ImageFileOptions wanted = options();
     if (!takesOutput(session(), wanted.folder)) {
-        SetPanelMessage(cantWriteTo(wanted.folder), "warning");
+        SetPanelMessage(cantWriteTo(session(), wanted.folder), "warning");
         return;
     }
     const auto replaces = mayReplace(wanted);

@@ -13,7 +13,10 @@ bool takesOutput(session::OfficeSession& session, const std::string& folder) {
     return session.host.folderCanBeWrittenTo(folder);
 }
 
-std::string cantWriteTo(const std::string& folder) {
+std::string cantWriteTo(session::OfficeSession& session, const std::string& folder) {
+    if (session.host.fileExists(folder))
+        return fmt::format(
+            "{} is a file where a folder is needed. Move it elsewhere, and try again.", folder);
     return fmt::format(
         "Nothing can be written to the folder\r{}\rFree some room or change its "
         "permissions, and try again.",

@@ -134,6 +134,7 @@ TEST_F(FilesDialogs, AskBeforeFilesAreReplacedAndStayOpenWhereNothingCanBeWritte
         dialog.RunPanelAction("browseFolder");
         dialog.ContinueOk_Click();
         EXPECT_TRUE(desktop.isLoaded(dialog));
+        EXPECT_TRUE(has(dialog.ContinueOk.accessibleDescription, "/file is a file"));
     });
 }
 
