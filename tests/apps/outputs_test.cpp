@@ -253,6 +253,7 @@ TEST_F(OutputsTest, AnInputHasToBeAFileThatCanBeRead) {
     EXPECT_THROW(unattended::requireReadable(folder.path(), "workbook"), UsageError);
     EXPECT_THROW(unattended::requireReadable(folder.file("none.xlsx"), "workbook"), UsageError);
     EXPECT_NO_THROW(unattended::requireFile(folder.file("b.xlsx"), "workbook"));
+    EXPECT_THROW(unattended::requireFile(folder.write("zero.xlsx", ""), "workbook"), UsageError);
     ::mkfifo(folder.file("pipe.xlsx").c_str(), 0600);
     EXPECT_NO_THROW(unattended::requireReadable(folder.file("pipe.xlsx"), "captions file"));
     EXPECT_THROW(unattended::requireFile(folder.file("pipe.xlsx"), "workbook"), UsageError);

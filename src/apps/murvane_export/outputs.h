@@ -11,7 +11,8 @@ namespace unattended {
 
 /// `UsageError` unless the file can be opened for reading. `what` names it in the text: "workbook".
 void requireReadable(const std::filesystem::path& file, const std::string& what);
-/// And unless it is a file that can be read as often as need be, which no pipe can.
+/// And unless it is a file that can be read as often as need be, which no pipe can, and holds
+/// something.
 void requireFile(const std::filesystem::path& file, const std::string& what);
 
 /// What a run writes. It comes into being as a whole or not at all: a neighbour of it is written,

@@ -202,7 +202,11 @@ void requireReadable(const fs::path& file, const std::string& what) {
 void requireFile(const fs::path& file, const std::string& what) {
     requireReadable(file, what);
     std::error_code ignored;
-    if (fs::is_regular_file(file, ignored)) return;
+    if (fs::is_regular_file(file, ignored)) {
+        // LibreOffice opens such a file as a new document.
+        if (fs::file_size(file, ignored) > 0) return;
+        throw UsageError(fmt::format("The {} {} is empty (0 bytes).", what, office::utf8Of(file)));
+    }
     throw UsageError(fmt::format(
         "The {} {} is a pipe or a device, and is read more than once. Save it to a file and name "
         "that.",
