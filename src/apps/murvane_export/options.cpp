@@ -49,9 +49,39 @@ std::vector<std::string> namesOf(const std::map<std::string, Meaning>& known) {
     return names;
 }
 
-/// Says nothing in the help, where the words stand already.
-CLI::Validator oneOf(std::vector<std::string> words) {
-    return CLI::Validator(CLI::IsMember(std::move(words))).description("");
+[[noreturn]] void refuseValue(std::string_view option, std::string_view takes,
+                              std::string_view text) {
+    throw UsageError(fmt::format("{} takes {}, not \"{}\".", option, takes, text));
+}
+
+/// In upper case or lower. Says nothing in the help, where the words stand already.
+CLI::Validator oneOf(const char* option, std::vector<std::string> words) {
+    const auto check = [option, words = std::move(words)](std::string& text) {
+        std::string takes;
+        for (const std::string& word : words) {
+            if (office::sameIgnoringCase(word, text)) {
+                text = word;
+                return std::string();
+            }
+            takes += takes.empty() ? "" : word == words.back() ? " or " : ", ";
+            takes += word;
+        }
+        refuseValue(option, takes, text);
+    };
+    return {check, ""};
+}
+
+/// Digits alone are asked for where the number is a whole one.
+CLI::Validator numberFrom(const char* option, int least, int most, bool isWhole = false) {
+    const auto check = [=](const std::string& text) {
+        const auto number = office::numberOf(text);
+        const bool isOfKind = !isWhole || text.find_first_not_of("0123456789") == std::string::npos;
+        if (number && *number >= least && *number <= most && isOfKind) return std::string();
+        refuseValue(option,
+                    fmt::format("a {}number from {} to {}", isWhole ? "whole " : "", least, most),
+                    text);
+    };
+    return {check, ""};
 }
 
 /// A description that says what holds where the option is left out.
@@ -87,10 +117,7 @@ std::optional<PlacementValue> placementOf(const std::string& option, const std::
     if (office::sameIgnoringCase(text, "workbook")) return PlacementValue{{}, true};
     const auto share = office::numberOf(text);
     if (!share || *share < 0 || *share > 1) {
-        throw UsageError(
-            option +
-            " takes a share of the slide from 0 to 1, \"default\" or \"workbook\", not \"" + text +
-            "\".");
+        refuseValue(option, "a share of the slide from 0 to 1, \"default\" or \"workbook\"", text);
     }
     return PlacementValue{share};
 }
@@ -101,7 +128,7 @@ void declareFiles(CLI::App& app, Options& options, RawTexts& raw) {
                    "What to make, with an --output each; may be left out where the name of the\n"
                    "output tells")
         ->allow_extra_args(false)
-        ->check(oneOf(namesOf(destinationsByName())))
+        ->transform(oneOf("--to", namesOf(destinationsByName())))
         ->type_name("slides|word|pdf|html|images");
     app.add_option(
            "--output", raw.outputs,
@@ -147,7 +174,7 @@ void declareFormats(CLI::App& app, Options& options, RawTexts& raw) {
                                "tables that can be edited there; embedded workbooks; objects\n"
                                "linked to the workbook's file",
                                raw.format))
-        ->check(oneOf(namesOf(formatsByName())))
+        ->transform(oneOf("--format", namesOf(formatsByName())))
         ->type_name("pictures|editable|embedded|linked");
     app.add_option(
            "--pictures", raw.pictures,
@@ -155,7 +182,7 @@ void declareFormats(CLI::App& app, Options& options, RawTexts& raw) {
            "dense as a screen; svg: vectors, crisp at any size and with text that is text, and a "
            "PNG\n"
            "for programs that read none; emf: the vectors of Windows")
-        ->check(oneOf({"png", "svg", "emf"}))
+        ->transform(oneOf("--pictures", {"png", "svg", "emf"}))
         ->type_name("png|svg|emf");
     app.add_flag("--embed-only-sheet", options.embedsSheetAlone,
                  "With --format embedded: hand on the item's sheet alone, with values in place of\n"
@@ -163,7 +190,7 @@ void declareFormats(CLI::App& app, Options& options, RawTexts& raw) {
     app.add_option("--links", raw.links,
                    "With --format linked: name the workbook by its full path (default), or by its\n"
                    "way from what is written")
-        ->check(oneOf({"absolute", "relative"}))
+        ->transform(oneOf("--links", {"absolute", "relative"}))
         ->type_name("absolute|relative");
 }
 
@@ -171,7 +198,7 @@ void declareFormats(CLI::App& app, Options& options, RawTexts& raw) {
 void declareDestinations(CLI::App& app, Options& options, RawTexts& raw) {
     app.add_option("--slides", raw.slides,
                    withDefault("New slides at the end, or those that the items name", raw.slides))
-        ->check(oneOf({"new", "predefined"}))
+        ->transform(oneOf("--slides", {"new", "predefined"}))
         ->type_name("new|predefined");
     app.add_flag("--titles", raw.titles,
                  "Captions become titles of slides, as they do of pages in PDF and HTML");
@@ -189,19 +216,19 @@ void declareDestinations(CLI::App& app, Options& options, RawTexts& raw) {
                    withDefault("PDF: size in per cent of the room on the page; HTML with\n"
                                "--same-width: width in per cent of 1,000 pixels",
                                options.sizePercent))
-        ->check(CLI::Range(1.0, 100.0).description(""))
+        ->check(numberFrom("--size", 1, 100))
         ->type_name("1-100");
     app.add_option("--blank-lines", options.blankLines,
                    withDefault("HTML: lines between items", options.blankLines))
-        ->check(CLI::Range(0, destinations::mostBlankLines).description(""))
+        ->check(numberFrom("--blank-lines", 0, destinations::mostBlankLines, true))
         ->type_name("0-100");
     app.add_option("--image-format", raw.imageFormat,
                    withDefault("Images: the kind of files", raw.imageFormat))
-        ->check(oneOf(namesOf(imageFormatsByName())))
+        ->transform(oneOf("--image-format", namesOf(imageFormatsByName())))
         ->type_name("png|gif|jpeg|bmp|tiff");
     app.add_option("--file-names", raw.fileNames,
                    withDefault("Images: files named by item and sheet, or numbered", raw.fileNames))
-        ->check(oneOf({"name", "number"}))
+        ->transform(oneOf("--file-names", {"name", "number"}))
         ->type_name("name|number");
 }
 
@@ -211,7 +238,7 @@ void declareLooks(CLI::App& app, Options& options, RawTexts& raw) {
            withDefault("Look of the pictures on slides: none, shadow-around, shadow, rounded,\n"
                        "reflection or reflection-rounded",
                        raw.style))
-        ->check(oneOf(namesOf(stylesByName())))
+        ->transform(oneOf("--style", namesOf(stylesByName())))
         ->type_name("NAME");
     app.add_flag("--shadow", options.shadow,
                  "A shadow for what was added last to each slide, and for pictures in Word");
