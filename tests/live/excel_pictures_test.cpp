@@ -9,6 +9,7 @@
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/style/XStyle.hpp>
 #include <com/sun/star/table/CellHoriJustify.hpp>
+#include <com/sun/star/table/XColumnRowRange.hpp>
 #include <com/sun/star/text/WritingMode2.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
@@ -181,41 +182,68 @@ TEST_F(ExcelPictures, ShowsBothOuterBordersOfCellsFromRightToLeft) {
     }
 }
 
-/// Texts that differ in their numbers' formats alone, and such as are wrapped.
+/// The texts of a copied picture, from left to right in each row.
+std::vector<office::drawing::Metafile::Text> textsOf(const office::CopiedPtr& cells) {
+    const auto& copied = dynamic_cast<const excel::CopiedPicture&>(*cells);
+    const auto drawn = office::drawing::readMetafile(excel::bytesOf(copied.metafile()));
+    std::vector<office::drawing::Metafile::Text> texts;
+    for (const auto& operation : drawn.operations) {
+        if (const auto* text = std::get_if<office::drawing::Metafile::Text>(&operation.what))
+            texts.push_back(*text);
+    }
+    return texts;
+}
+
+/// Texts that differ in their numbers' formats alone, and such as are wrapped. Others stay where
+/// they are: a short one behind the edge, one before a hidden column, and one without room.
 TEST_F(ExcelPictures, KeepsTheIndentOfTextsAtTheRight) {
     const Object book = open("cells.xlsx");
-    const auto cells =
-        desk->active<excel::CalcDocument>()->sheetList().find("Data")->range({9, 39, 13, 40});
-    const auto set = [](const auto& range, const char* name, auto value) {
-        setProperty(range, name, value);
-    };
-    set(cells, "HoriJustify", css::table::CellHoriJustify_RIGHT);
-    set(cells, "ParaIndent", std::int16_t{300});
-    // The last one has none.
-    constexpr std::int32_t last = 4;
-    set(cells->getCellRangeByPosition(last, 0, last, 1), "ParaIndent", std::int16_t{0});
     const Object data = sheet(book, "Data");
+    const auto cells =
+        desk->active<excel::CalcDocument>()->sheetList().find("Data")->range({9, 39, 13, 42});
+    const auto at = [&](std::int32_t column, std::int32_t row) {
+        return cells->getCellByPosition(column, row);
+    };
+    setProperty(cells, "HoriJustify", css::table::CellHoriJustify_RIGHT);
+    setProperty(cells, "ParaIndent", std::int16_t{300});
+    for (std::int32_t row = 0; row < 2; ++row)
+        setProperty(at(4, row), "ParaIndent", std::int16_t{0});
     data.get("Range", "J40:N40").put("Value", 7);
     data.get("Range", "J41:M41").put("Value", "word");
     data.get("Range", "N41").put("Value", 7);
-    for (std::int32_t i = 1; i < 3; ++i) set(cells->getCellByPosition(i, 0), "NumberFormat", i);
-    set(cells->getCellByPosition(3, 0), "IsTextWrapped", true);
+    for (std::int32_t i = 1; i < 3; ++i) setProperty(at(i, 0), "NumberFormat", i);
+    setProperty(at(3, 0), "IsTextWrapped", true);
+    data.get("Range", "J42:L42").put("Value", 7);
+    data.get("Range", "N42").put("Value", 7);
+    for (const std::int32_t plain : {1, 2, 4})
+        setProperty(at(plain, 2), "ParaIndent", std::int16_t{0});
+    for (const std::int32_t left : {1, 4})
+        setProperty(at(left, 2), "HoriJustify", css::table::CellHoriJustify_LEFT);
+    setProperty(at(0, 2), "ParaIndent", std::int16_t{600});
+    data.get("Range", "J43:K43").put("Value", 12345.25);
+    setProperty(at(1, 3), "NumberFormat", 4);
 
+    const double column = data.get("Range", "J40").get("Width").toDouble() * 2540 / 72;
+    constexpr double margin = 50, indent = 300, rounding = 60;
     data.get("Range", "J40:N41").call("CopyPicture", 1, -4147);
-    const auto& copied = dynamic_cast<const excel::CopiedPicture&>(*desk->clipboard().copied);
-    const auto drawn = office::drawing::readMetafile(excel::bytesOf(copied.metafile()));
-    const double column = copied.size().Width / 5.0;
-    int texts = 0;
-    for (const auto& operation : drawn.operations) {
-        const auto* const text = std::get_if<office::drawing::Metafile::Text>(&operation.what);
-        if (text == nullptr) continue;
-        const double end = text->start.x + text->width;
-        const double edge = std::ceil(end / column) * column;
-        EXPECT_NEAR(edge - end, edge > 4.5 * column ? 50 : 350, 60)
-            << text->characters << ' ' << texts;
-        ++texts;
+    const auto indented = textsOf(desk->clipboard().copied);
+    ASSERT_EQ(indented.size(), 10U);
+    for (std::size_t i = 0; i < indented.size(); ++i) {
+        const double edge = column * static_cast<double>(i % 5 + 1);
+        EXPECT_NEAR(edge - indented[i].start.x - indented[i].width,
+                    i % 5 == 4 ? margin : margin + indent, rounding)
+            << i;
     }
-    EXPECT_EQ(texts, 10);
+    const auto columns = as<css::table::XColumnRowRange>(cells)->getColumns();
+    const uno::Reference<uno::XInterface> hidden(columns->getByIndex(3), uno::UNO_QUERY_THROW);
+    setProperty(hidden, "IsVisible", false);
+    data.get("Range", "J42:N43").call("CopyPicture", 1, -4147);
+    const auto others = textsOf(desk->clipboard().copied);
+    ASSERT_EQ(others.size(), 6U);
+    EXPECT_NEAR(others[1].start.x, column + margin, rounding);
+    EXPECT_NEAR(others[2].start.x + others[2].width, 3 * column - margin, rounding);
+    EXPECT_NEAR(others[3].start.x, 3 * column + margin, rounding);
+    EXPECT_NEAR(others[5].start.x + others[5].width, 2 * column - margin, rounding);
 }
 
 TEST_F(ExcelPictures, ShowsMergedCellsWhole) {

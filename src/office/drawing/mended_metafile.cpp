@@ -21,6 +21,11 @@ constexpr std::int32_t aside = 40;
 /// Widths that differ by less are the same but for rounding.
 constexpr std::int32_t closeEnough = 100;
 
+/// Between a text and the edge of its cell, and by which one that fits may come out too wide: less
+/// than the least text behind the edge takes.
+constexpr double widestMargin = 80;
+constexpr double rounding = 15;
+
 class Mender {
 public:
     Mender(std::span<char> bytes, std::int32_t width, std::vector<IndentedCell> indented)
@@ -49,7 +54,7 @@ public:
             if (action == Action::MapMode && isAtBeginning &&
                 mendOrigin(content, values.left(), width))
                 write(size, behindSize, width - widthOfOthers(width));
-            if (!indented_.empty()) mendIndent(action, content, values.left());
+            if (!indented_.empty()) mendIndents(action, content, values.left());
             isAtBeginning = isAtBeginning && action == Action::Push;
         }
     }
@@ -73,7 +78,16 @@ private:
         return true;
     }
 
-    void mendIndent(Action action, Values content, std::size_t behind) {
+    /// Where the places of texts can't be known, they stay.
+    void mendIndents(Action action, const Values& content, std::size_t behind) {
+        try {
+            followPlaces(action, content, behind);
+        } catch (const Unknown&) {
+            indented_.clear();
+        }
+    }
+
+    void followPlaces(Action action, Values content, std::size_t behind) {
         switch (action) {
             case Action::Push:
                 pushed_.emplace_back(content.word(), state_);
@@ -104,14 +118,18 @@ private:
     void indent(const Values& content, std::size_t behind) {
         const PlacedText text = readPlacedText(content, state_.font.hasWideCharacters);
         if (text.units.empty() || state_.font.font.angle != 0) return;
-        const auto end = state_.mapping.point(
-            static_cast<double>(text.x) + text.ends[text.units.size() - 1], text.y);
+        const Mapping& mapping = state_.mapping;
+        const auto start = mapping.point(text.x, text.y);
+        const double end = start.x + text.ends[text.units.size() - 1] * mapping.scaleX;
         auto cell =
-            std::lower_bound(indented_.begin(), indented_.end(), end.y,
+            std::lower_bound(indented_.begin(), indented_.end(), start.y,
                              [](const IndentedCell& each, double y) { return each.bottom < y; });
-        for (; cell != indented_.end() && cell->top < end.y; ++cell) {
-            if (std::abs(cell->right - end.x) >= cell->indent / 2) continue;
-            const auto shift = std::lround(cell->indent / state_.mapping.scaleX);
+        for (; cell != indented_.end() && cell->top < start.y; ++cell) {
+            const double gap = cell->right - end;
+            const bool isWithoutIndent =
+                gap >= -rounding && gap < std::min(widestMargin, cell->indent / 2);
+            if (!isWithoutIndent || start.x - cell->indent < cell->left) continue;
+            const auto shift = std::lround(cell->indent / mapping.scaleX);
             return write(content, behind, text.x - static_cast<std::int32_t>(shift));
         }
     }

@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <utility>
 
 #include "office/libreoffice/excel/answered.h"
@@ -22,7 +23,9 @@ using office::drawing::IndentedCell;
 
 constexpr const char* indentOfCells = "ParaIndent";
 
-/// Where the columns and rows of a block end; each cell that is asked for tells of both.
+constexpr std::int64_t mostCellsAskedFor = 5000;
+
+/// Where the columns and rows of a block are; each cell that is asked for tells of both.
 class Edges {
 public:
     Edges(const SheetRecord& sheet, const model::CellBlock& block)
@@ -31,20 +34,26 @@ public:
 
     [[nodiscard]] bool isReadFromRight() const { return corner_.X < 0; }
 
-    [[nodiscard]] IndentedCell cellAt(std::int32_t column, std::int32_t row) {
-        if (!rights_.contains(column) || !rows_.contains(row)) {
+    /// Nothing for a cell that is hidden.
+    [[nodiscard]] std::optional<IndentedCell> cellAt(std::int32_t column, std::int32_t row) {
+        if (!columns_.contains(column) || !rows_.contains(row)) {
             const auto [corner, size] = placeOf(sheet_.range(model::CellBlock::cell(row, column)));
-            rights_[column] = corner.X + size.Width - corner_.X;
+            columns_[column] = {corner.X - corner_.X, corner.X + size.Width - corner_.X};
             rows_[row] = {corner.Y - corner_.Y, corner.Y + size.Height - corner_.Y};
         }
+        // Of what is hidden a trace is left.
+        constexpr double thinnest = 10;
+        const auto [left, right] = columns_[column];
         const auto [top, bottom] = rows_[row];
-        return {.top = top, .right = rights_[column], .bottom = bottom, .indent = 0};
+        if (right - left < thinnest || bottom - top < thinnest) return std::nullopt;
+        return IndentedCell{
+            .left = left, .top = top, .right = right, .bottom = bottom, .indent = 0};
     }
 
 private:
     const SheetRecord& sheet_;
     css::awt::Point corner_;
-    std::map<std::int32_t, double> rights_;
+    std::map<std::int32_t, std::pair<double, double>> columns_;
     std::map<std::int32_t, std::pair<double, double>> rows_;
 };
 
@@ -59,6 +68,18 @@ std::int16_t rightIndentOf(const uno::Reference<uno::XInterface>& cells) {
     return across == css::table::CellHoriJustify_RIGHT ? indent : std::int16_t{0};
 }
 
+void addCells(std::vector<IndentedCell>& found, Edges& edges, const model::CellBlock& cells,
+              double indent) {
+    for (std::int32_t row = cells.firstRow; row <= cells.lastRow; ++row) {
+        for (std::int32_t column = cells.firstColumn; column <= cells.lastColumn; ++column) {
+            if (auto cell = edges.cellAt(column, row)) {
+                cell->indent = indent;
+                found.push_back(*cell);
+            }
+        }
+    }
+}
+
 }  // namespace
 
 bool hasIndents(const SheetRecord& sheet) {
@@ -70,8 +91,10 @@ bool hasIndents(const SheetRecord& sheet) {
 
 std::vector<IndentedCell> rightIndentsOn(const SheetRecord& sheet, const model::CellBlock& block) {
     std::vector<IndentedCell> found;
+    if (block.cells() > mostCellsAskedFor) return found;
     Edges edges(sheet, block);
     if (edges.isReadFromRight()) return found;
+    const auto filled = filledParts(sheet.range(block));
     const auto formats =
         answered(as<css::sheet::XUniqueCellFormatRangesSupplier>(sheet.range(block))
                      ->getUniqueCellFormatRanges());
@@ -82,14 +105,9 @@ std::vector<IndentedCell> rightIndentsOn(const SheetRecord& sheet, const model::
         const std::int16_t indent = rightIndentOf(alike);
         if (indent <= 0) continue;
         for (const auto& address : alike->getRangeAddresses()) {
-            const auto part = intersection(blockOf(address), block);
-            if (!part) continue;
-            for (std::int32_t row = part->firstRow; row <= part->lastRow; ++row) {
-                for (std::int32_t column = part->firstColumn; column <= part->lastColumn;
-                     ++column) {
-                    found.push_back(edges.cellAt(column, row));
-                    found.back().indent = indent;
-                }
+            for (const auto& part : filled) {
+                if (const auto cells = intersection(blockOf(address), blockOf(part)))
+                    addCells(found, edges, *cells, indent);
             }
         }
     }
