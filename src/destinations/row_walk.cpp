@@ -95,6 +95,8 @@ WalkResult walkAndTell(session::OfficeSession& session, catalogue::ExportList& l
                        [&](const auto& row, const auto& failure) { failed.add(row, failure); },
                        &needed};
         result = exportRows(batch);
+        // Ahead of every notice: whoever has closed something may go on writing there meanwhile.
+        needed.letGo();
         session.progress.unload();
         if (result.wasCancelled())
             catalogue::TellEnded(session, &needed, result.done - result.failed, result.total);

@@ -80,6 +80,8 @@ std::int32_t BatchFrame::run() {
     session_.ExcelApp.put("ScreenUpdating", true);
     if (route_.showsCompletion && done_ == total) catalogue::ProgressStep(session_, total, total);
     const auto lateFailure = putBack();
+    // Ahead of every notice: whoever has closed something may go on working there meanwhile.
+    if (batch_.needed != nullptr) batch_.needed->letGo();
     if (done_ < total) {
         catalogue::TellEnded(session_, batch_.needed, exported_, total);
     } else if (exported_ == 0 && !route_.noneArrived.empty()) {

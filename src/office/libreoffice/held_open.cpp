@@ -22,10 +22,14 @@ namespace {
 /// Is asked on a thread of the bridge while the suite's main thread waits, and calls nothing.
 class Veto : public cppu::WeakImplHelper1<css::util::XCloseListener> {
 public:
-    void SAL_CALL queryClosing(const css::lang::EventObject&, sal_Bool) override {
+    /// Whoever keeps the ownership of a document closes it himself, as none has it of a window.
+    enum class Waits { Always, WhoGivesOwnership };
+    explicit Veto(Waits waits) : waits_(waits) {}
+
+    void SAL_CALL queryClosing(const css::lang::EventObject&, sal_Bool getsOwnership) override {
         const std::lock_guard lock(mutex_);
         if (isOver_) return;
-        isAsked_ = true;
+        isAsked_ = isAsked_ || waits_ == Waits::Always || getsOwnership;
         throw css::util::CloseVetoException();
     }
     void SAL_CALL notifyClosing(const css::lang::EventObject&) override {}
@@ -43,6 +47,7 @@ public:
     }
 
 private:
+    Waits waits_;
     mutable std::mutex mutex_;
     bool isOver_ = false;
     bool isAsked_ = false;
@@ -56,7 +61,8 @@ public:
         if (const auto shown = document.controller(); shown.is())
             window_ = as<css::util::XCloseable>(shown->getFrame());
         model_->addCloseListener(ofModel_.get());
-        if (window_.is()) window_->addCloseListener(ofWindow_.get());
+        // A window that has just gone needs none.
+        if (window_.is()) asFarAsPossible([&] { window_->addCloseListener(ofWindow_.get()); });
     }
     ~HeldOpen() override {
         const bool isWindowAsked = ofWindow_->end();
@@ -94,8 +100,8 @@ private:
     std::shared_ptr<Connection> connection_;
     uno::Reference<css::util::XCloseable> model_;
     uno::Reference<css::util::XCloseable> window_;
-    rtl::Reference<Veto> ofModel_{new Veto};
-    rtl::Reference<Veto> ofWindow_{new Veto};
+    rtl::Reference<Veto> ofModel_{new Veto(Veto::Waits::WhoGivesOwnership)};
+    rtl::Reference<Veto> ofWindow_{new Veto(Veto::Waits::Always)};
 };
 
 }  // namespace

@@ -81,7 +81,11 @@ bool prepare(const std::filesystem::path& folder) {
     };
     if (write(draft)) {
         std::filesystem::rename(draft, file, error);
-        if (!error) return write(given);
+        if (!error) {
+            // Without it they are given once more the next time.
+            static_cast<void>(write(given));
+            return true;
+        }
     }
     std::filesystem::remove(draft, error);
     return false;
