@@ -9,7 +9,7 @@
 
 namespace live {
 
-TEST(SharedProcessor, bindsTheOtherProcessAndTheThreadsNamed) {
+TEST(SharedProcessor, BindsTheOtherProcessAndTheThreadsNamed) {
     const auto allowedTo = [](pid_t thread) {
         cpu_set_t allowed;
         CPU_ZERO(&allowed);

@@ -3,14 +3,11 @@
 #include <com/sun/star/awt/FontSlant.hpp>
 #include <com/sun/star/awt/FontWeight.hpp>
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
-#include <com/sun/star/container/XIndexAccess.hpp>
-#include <com/sun/star/sheet/XSheetCellRanges.hpp>
-#include <com/sun/star/sheet/XUniqueCellFormatRangesSupplier.hpp>
 
 #include <algorithm>
 #include <array>
 
-#include "office/libreoffice/excel/answered.h"
+#include "office/libreoffice/excel/cells_alike.h"
 
 namespace libreoffice::excel {
 
@@ -99,12 +96,7 @@ OwnDress::OwnDress(const SheetRecord& sheet, const model::CellBlock& block)
     : block_(block),
       dresses_(1),
       places_(static_cast<std::size_t>(block.cells())) {
-    const auto groups = answered(as<css::sheet::XUniqueCellFormatRangesSupplier>(sheet.range(block))
-                                     ->getUniqueCellFormatRanges());
-    const sal_Int32 count = groups->getCount();
-    for (sal_Int32 i = 0; i < count; ++i) {
-        const uno::Reference<css::sheet::XSheetCellRanges> cells(groups->getByIndex(i),
-                                                                 uno::UNO_QUERY_THROW);
+    for (const auto& cells : cellsAlike(sheet.range(block))) {
         const StyleMarks marks =
             marksIn(as<css::beans::XMultiPropertySet>(cells)->getPropertyValues(namesOfMarks()));
         const auto place = static_cast<std::uint32_t>(dresses_.size());

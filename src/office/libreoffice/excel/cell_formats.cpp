@@ -3,9 +3,6 @@
 #include <com/sun/star/awt/FontSlant.hpp>
 #include <com/sun/star/awt/FontWeight.hpp>
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
-#include <com/sun/star/container/XIndexAccess.hpp>
-#include <com/sun/star/sheet/XSheetCellRanges.hpp>
-#include <com/sun/star/sheet/XUniqueCellFormatRangesSupplier.hpp>
 #include <com/sun/star/table/BorderLine2.hpp>
 #include <com/sun/star/table/BorderLineStyle.hpp>
 #include <com/sun/star/table/CellHoriJustify.hpp>
@@ -15,7 +12,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "office/libreoffice/excel/answered.h"
+#include "office/libreoffice/excel/cells_alike.h"
 #include "office/libreoffice/units.h"
 
 namespace libreoffice::excel {
@@ -193,16 +190,10 @@ CellFormats readCellFormats(const uno::Reference<css::table::XCellRange>& cells,
                             const ShownLines& shown) {
     CellFormats read;
     read.ofCells.resize(shown.rows.size() * shown.columns.size());
-    const auto formats = answered(
-        as<css::sheet::XUniqueCellFormatRangesSupplier>(cells)->getUniqueCellFormatRanges());
-    const sal_Int32 count = formats->getCount();
-    for (sal_Int32 i = 0; i < count; ++i) {
-        const uno::Reference<uno::XInterface> cellsAlike(formats->getByIndex(i),
-                                                         uno::UNO_QUERY_THROW);
+    for (const auto& alike : cellsAlike(cells)) {
         const std::size_t place = read.formats.size();
-        read.formats.push_back(FormatReader(cellsAlike).read());
+        read.formats.push_back(FormatReader(alike).read());
         if (read.ofCells.empty()) continue;
-        const auto alike = as<css::sheet::XSheetCellRanges>(cellsAlike);
         for (const css::table::CellRangeAddress& part : alike->getRangeAddresses()) {
             const auto [firstRow, lastRow] = shownBetween(shown.rows, part.StartRow, part.EndRow);
             const auto [firstColumn, lastColumn] =

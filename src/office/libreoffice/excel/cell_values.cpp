@@ -2,19 +2,16 @@
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/beans/XPropertyState.hpp>
-#include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangeData.hpp>
 #include <com/sun/star/sheet/XCellRangeFormula.hpp>
-#include <com/sun/star/sheet/XSheetCellRanges.hpp>
-#include <com/sun/star/sheet/XUniqueCellFormatRangesSupplier.hpp>
 
 #include <algorithm>
 #include <optional>
 #include <utility>
 #include <vector>
 
-#include "office/libreoffice/excel/answered.h"
+#include "office/libreoffice/excel/cells_alike.h"
 
 namespace libreoffice::excel {
 
@@ -51,12 +48,7 @@ std::vector<Kind> formatKindsOfColumn(NumberFormats& formats,
     std::vector<Kind> kinds(count, Kind::Other);
     const sal_Int32 start =
         as<css::sheet::XCellRangeAddressable>(cells)->getRangeAddress().StartRow;
-    const auto groups = answered(
-        as<css::sheet::XUniqueCellFormatRangesSupplier>(cells)->getUniqueCellFormatRanges());
-    const sal_Int32 end = groups->getCount();
-    for (sal_Int32 i = 0; i < end; ++i) {
-        const uno::Reference<css::sheet::XSheetCellRanges> group(groups->getByIndex(i),
-                                                                 uno::UNO_QUERY_THROW);
+    for (const auto& group : cellsAlike(cells)) {
         const Kind kind = kindOf(formats, group);
         if (kind == Kind::Other) continue;
         const auto addresses = group->getRangeAddresses();

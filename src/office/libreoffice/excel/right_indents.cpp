@@ -3,9 +3,6 @@
 #include <com/sun/star/beans/PropertyState.hpp>
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XPropertyState.hpp>
-#include <com/sun/star/container/XIndexAccess.hpp>
-#include <com/sun/star/sheet/XSheetCellRanges.hpp>
-#include <com/sun/star/sheet/XUniqueCellFormatRangesSupplier.hpp>
 #include <com/sun/star/table/CellHoriJustify.hpp>
 
 #include <cstdint>
@@ -13,7 +10,7 @@
 #include <optional>
 #include <utility>
 
-#include "office/libreoffice/excel/answered.h"
+#include "office/libreoffice/excel/cells_alike.h"
 
 namespace libreoffice::excel {
 
@@ -95,13 +92,7 @@ std::vector<IndentedCell> rightIndentsOn(const SheetRecord& sheet, const model::
     Edges edges(sheet, block);
     if (edges.isReadFromRight()) return found;
     const auto filled = filledParts(sheet.range(block));
-    const auto formats =
-        answered(as<css::sheet::XUniqueCellFormatRangesSupplier>(sheet.range(block))
-                     ->getUniqueCellFormatRanges());
-    const sal_Int32 count = formats->getCount();
-    for (sal_Int32 i = 0; i < count; ++i) {
-        const uno::Reference<css::sheet::XSheetCellRanges> alike(formats->getByIndex(i),
-                                                                 uno::UNO_QUERY_THROW);
+    for (const auto& alike : cellsAlike(sheet.range(block))) {
         const std::int16_t indent = rightIndentOf(alike);
         if (indent <= 0) continue;
         for (const auto& address : alike->getRangeAddresses()) {
