@@ -1,5 +1,6 @@
 #include <com/sun/star/awt/FontUnderline.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/table/BorderLine2.hpp>
 #include <com/sun/star/table/CellHoriJustify.hpp>
 #include <com/sun/star/table/XColumnRowRange.hpp>
 #include <com/sun/star/text/WritingMode2.hpp>
@@ -71,6 +72,37 @@ TEST_F(ExcelCopiedCells, ShowsBothOuterBordersOfCellsFromRightToLeft) {
         EXPECT_GT(inkOf(picture, 0, edge), line) << bordered;
         EXPECT_GT(inkOf(picture, picture.width - edge, picture.width), line) << bordered;
     }
+}
+
+/// Fills cover the outermost pixels, and of borders nothing is cut off.
+TEST_F(ExcelCopiedCells, LeadsFillsAndBordersToTheEdgesOfThePicture) {
+    const Object book = open("cells.xlsx");
+    const Object data = sheet(book, "Data");
+    const auto cells =
+        desk->active<excel::CalcDocument>()->sheetList().find("Data")->range({9, 44, 11, 46});
+    const auto expectDark = [&](std::uint32_t edge) {
+        data.get("Range", "J45:L47").call("CopyPicture", 1, -4147);
+        const support::PngPixels picture = support::pixelsOf(
+            desk->clipboard().copied->picture(office::Sharpness::Crisp).png.get());
+        const double dark = 240.0 * edge;
+        EXPECT_GT(inkOf(picture, 0, edge), dark * picture.height);
+        EXPECT_GT(inkOf(picture, picture.width - edge, picture.width), dark * picture.height);
+        const auto inkOfRows = [&](std::uint32_t from) {
+            const auto first = picture.rgba.begin() + std::ptrdiff_t{4} * picture.width * from;
+            return inkOf({picture.width, edge, {first, picture.rgba.end()}}, 0, picture.width);
+        };
+        EXPECT_GT(inkOfRows(0), dark * picture.width);
+        EXPECT_GT(inkOfRows(picture.height - edge), dark * picture.width);
+    };
+    setProperty(cells, "CellBackColor", std::int32_t{0});
+    expectDark(1);
+    setProperty(cells, "CellBackColor", std::int32_t{-1});
+    css::table::BorderLine2 line;
+    line.LineWidth = 100;
+    line.OuterLineWidth = 100;
+    for (const char* side : {"LeftBorder", "RightBorder", "TopBorder", "BottomBorder"})
+        setProperty(cells, side, line);
+    expectDark(10);
 }
 
 /// The texts of a copied picture, from left to right in each row.

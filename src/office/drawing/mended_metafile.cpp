@@ -4,11 +4,13 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 #include <string_view>
 #include <utility>
 
 #include "office/drawing/metafile_action.h"
 #include "office/drawing/metafile_parts.h"
+#include "office/drawing/outer_edges.h"
 
 namespace office::drawing {
 
@@ -17,6 +19,9 @@ namespace {
 /// Of the two pixels of the screen by which LibreOffice draws cells from right to left too far to
 /// the left, in hundredths of a millimetre: both outer borders are in the picture then.
 constexpr std::int32_t aside = 40;
+
+/// By a pixel of the screen it draws other cells narrower in all.
+constexpr std::int32_t lostAcross = 26;
 
 /// Widths that differ by less are the same but for rounding.
 constexpr std::int32_t closeEnough = 100;
@@ -45,6 +50,7 @@ public:
         Values head = size;
         const std::int32_t width = head.number();
         head.number();
+        std::int32_t newWidth = width - lostAcross;
         bool isAtBeginning = true;
         for (auto left = head.next<std::uint32_t>(); left > 0; --left) {
             const auto action = static_cast<Action>(values.word());
@@ -53,10 +59,15 @@ public:
                 mendLineColour(content, values.left());
             if (action == Action::MapMode && isAtBeginning &&
                 mendOrigin(content, values.left(), width))
-                write(size, behindSize, width - widthOfOthers(width));
-            if (!indented_.empty()) mendIndents(action, content, values.left());
+                newWidth = width - widthOfOthers(width);
             isAtBeginning = isAtBeginning && action == Action::Push;
+            if (!isAtBeginning && !edges_) {
+                write(size, behindSize, newWidth);
+                edges_ = edgesWithin(size);
+            }
+            if (arePlacesKnown_) mendPlaces(action, content, values.left());
         }
+        if (edges_) edges_->mend();
     }
 
 private:
@@ -78,16 +89,24 @@ private:
         return true;
     }
 
+    [[nodiscard]] OuterEdges edgesWithin(Values size) const {
+        const double width = size.number();
+        const double height = size.number();
+        return {bytes_, width, height};
+    }
+
     /// Where the places of texts can't be known, they stay.
-    void mendIndents(Action action, const Values& content, std::size_t behind) {
+    void mendPlaces(Action action, const Values& content, std::size_t behind) {
         try {
-            followPlaces(action, content, behind);
+            followPlaces(action, content);
+            if (action == Action::TextArray && !indented_.empty()) indent(content, behind);
+            if (edges_) edges_->take(action, content, behind, state_.mapping);
         } catch (const Unknown&) {
-            indented_.clear();
+            arePlacesKnown_ = false;
         }
     }
 
-    void followPlaces(Action action, Values content, std::size_t behind) {
+    void followPlaces(Action action, Values content) {
         switch (action) {
             case Action::Push:
                 pushed_.emplace_back(content.word(), state_);
@@ -100,8 +119,6 @@ private:
             case Action::Font:
                 state_.font = readFont(content.part(), 1);
                 return;
-            case Action::TextArray:
-                return indent(content, behind);
             default:
                 return;
         }
@@ -154,8 +171,10 @@ private:
     std::int32_t width_;
     /// From top to bottom.
     std::vector<IndentedCell> indented_;
+    std::optional<OuterEdges> edges_;
     State state_;
     std::vector<std::pair<std::uint16_t, State>> pushed_;
+    bool arePlacesKnown_ = true;
 };
 
 }  // namespace

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <span>
+#include <vector>
+
+#include "office/drawing/metafile_action.h"
+#include "office/drawing/metafile_parts.h"
+
+namespace office::drawing {
+
+/// The outer edges of the fills and borders in a metafile of cells. LibreOffice places them by
+/// whole pixels of the screen: at the left and the top half of a border lies outside of the
+/// picture, at the right and the bottom both end up to three pixels early, fills ahead of borders.
+class OuterEdges {
+public:
+    /// What is to be put right, and the size of the picture in it, in hundredths of a millimetre.
+    OuterEdges(std::span<char> metafile, double width, double height)
+        : metafile_(metafile),
+          axes_{Axis{width, {}, {}}, Axis{height, {}, {}}} {}
+
+    /// Notes a rectangle or a straight line. `behind` is what follows the content.
+    void take(Action action, const Values& content, std::size_t behind, const Mapping& mapping);
+    /// Leads what was noted to the edges of the picture: fills right there, borders beside them.
+    void mend() const;
+
+private:
+    struct Coordinate {
+        /// What follows it.
+        std::size_t behind = 0;
+        double place = 0;
+        double origin = 0;
+        /// Of the border that lies there.
+        double halfWidth = 0;
+    };
+    /// Across and down.
+    using Point = std::array<Coordinate, 2>;
+    struct Edge {
+        std::vector<Coordinate> borders;
+        /// Sides of fills, and where borders along other edges end.
+        std::vector<Coordinate> others;
+    };
+    struct Axis {
+        double end = 0;
+        Edge first;
+        Edge last;
+    };
+
+    static Point nextPoint(Values& values, std::size_t behind, const Mapping& mapping);
+    void takeLine(Values content, std::size_t behind, const Mapping& mapping);
+    static void noteBorder(Axis& axis, const Coordinate& coordinate);
+    static void noteOther(Axis& axis, const Coordinate& coordinate);
+    void write(const Coordinate& coordinate, double place) const;
+
+    std::span<char> metafile_;
+    std::array<Axis, 2> axes_;
+};
+
+}  // namespace office::drawing
