@@ -150,8 +150,10 @@ TEST_F(WordContract, KnowsItsDocuments) {
     opened.call("Close", false);
     EXPECT_EQ(failureOf([&] { static_cast<void>(opened.get("Name")); }),
               static_cast<std::int32_t>(FailureNumber::Disconnected));
-    EXPECT_EQ(failureOf([&] { static_cast<void>(documents.call("Open", "/nowhere.docx")); }),
-              refused);
+    const std::string tooLong = "/" + std::string(300, 'x');
+    for (const std::string& nowhere : {std::string("/nowhere.docx"), tooLong + ".docx"})
+        EXPECT_EQ(failureOf([&] { static_cast<void>(documents.call("Open", nowhere)); }), refused);
+    EXPECT_NE(failureOf([&] { document.call("SaveCopyAs", tooLong + "/copy.docx"); }), 0);
     EXPECT_EQ(failureOf([&] { document.call("SaveCopyAs", "/tmp/no.such"); }), 5);
 }
 

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <system_error>
 #include <utility>
 
 #include "office/failure.h"
@@ -218,8 +219,9 @@ uno::Reference<css::frame::XModel> Desk::load(const rtl::OUString& url, bool hid
 uno::Reference<css::frame::XModel> Desk::loadOnce(const rtl::OUString& url, bool hidden,
                                                   const std::string& password, bool readOnly,
                                                   bool isApart) {
-    if (url.startsWith("file:") && !std::filesystem::exists(pathOfUrl(url)))
-        failToOpen(url, "there is no such file");
+    std::error_code problem;
+    if (url.startsWith("file:") && !std::filesystem::exists(pathOfUrl(url), problem))
+        failToOpen(url, problem ? problem.message() : "there is no such file");
     const rtl::Reference<PasswordAnswer> answer(new PasswordAnswer(toUno(password)));
     uno::Reference<css::lang::XComponent> component;
     std::string reason;

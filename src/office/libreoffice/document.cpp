@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "office/failure.h"
@@ -95,7 +96,8 @@ void Document::writeCopy(std::string_view member, const std::string& path,
         fail(FailureNumber::InvalidProcedureCall, "a copy's name ends in " + endings);
     }
     // LibreOffice would make the folder, also one that is merely mistyped.
-    if (!std::filesystem::is_directory(file.parent_path()))
+    std::error_code problem;
+    if (!std::filesystem::is_directory(file.parent_path(), problem))
         fail(FailureNumber::ApplicationDefined,
              fmt::format("there is no folder \"{}\"", file.parent_path().string()));
     try {
@@ -108,7 +110,6 @@ void Document::writeCopy(std::string_view member, const std::string& path,
         fail(FailureNumber::ApplicationDefined, fromUno(error.Message));
     }
     // A filter that fails does not always say so.
-    std::error_code problem;
     const auto size = std::filesystem::file_size(file, problem);
     if (problem) fail(FailureNumber::ApplicationDefined, problem.message());
     if (size == 0) fail(FailureNumber::ApplicationDefined, "the file is empty");

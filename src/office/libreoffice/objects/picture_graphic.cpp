@@ -7,6 +7,7 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <system_error>
 #include <utility>
 
 #include "office/failure.h"
@@ -57,7 +58,7 @@ uno::Reference<css::graphic::XGraphic> graphicOf(const Connection& connection,
 
 /// LibreOffice makes an SVG larger by a pixel of a screen than it says.
 FilePicture pictureOfFile(const Connection& connection, const std::string& file) {
-    if (!std::filesystem::is_regular_file(file))
+    if (std::error_code problem; !std::filesystem::is_regular_file(file, problem))
         throw office::Failure(office::FailureNumber::FileNotFound, member,
                               fmt::format("There is no file \"{}\"", file));
     const auto vectors = vectorsIn(file);
