@@ -175,7 +175,6 @@ FileShapePtr FileSlide::addShape(std::string_view kind, const std::string& marku
                      insertMarkup(tree(), markup, childNamed(tree(), ns::presentation, "extLst")));
 }
 
-/// Takes a new element in as the topmost shape, named by its kind and its number.
 FileShapePtr FileSlide::addFrame(std::string_view kind, std::string_view lock,
                                  const powerpoint::PastePlace& place, std::string_view space,
                                  const std::string& content) {
@@ -188,6 +187,7 @@ FileShapePtr FileSlide::addFrame(std::string_view kind, std::string_view lock,
                           lock, boxMarkup(place.corner, place.size), space, content));
 }
 
+/// Takes a new element in as the topmost shape, named by its kind and its number.
 FileShapePtr FileSlide::nameShape(std::string_view kind, pugi::xml_node element) {
     const std::int32_t id = freeShapeId();
     auto properties = firstElement(firstElement(element));
@@ -266,13 +266,11 @@ powerpoint::DeckShapePtr FileSlide::paste(const Copied& copied, PasteAs as) {
     const CopySource::Kind kind = copied.source().kind;
     if (as == PasteAs::Embedded || (as == PasteAs::Linked && kind == CopySource::Kind::Cells))
         return pasteObject(*this, copied, as);
-    const bool isChart =
-        kind == CopySource::Kind::Chart && (as == PasteAs::Default || as == PasteAs::Linked);
     if (kind == CopySource::Kind::Cells && as == PasteAs::Default) return pasteTable(*this, copied);
-    if (isChart) {
+    if (kind == CopySource::Kind::Chart && (as == PasteAs::Default || as == PasteAs::Linked)) {
         if (FileShapePtr chart = pasteChart(copied, as)) return chart;
-    } else if (kind != CopySource::Kind::Picture && as != PasteAs::Png && as != PasteAs::Metafile) {
-        refuse("Shapes.PasteSpecial", "It can't be pasted in this form");
+    } else if (as == PasteAs::Linked) {
+        refuse("Shapes.PasteSpecial", "A picture leads to no file that it could be linked to");
     }
     PictureFile picture = pictureOf(copied);
     const powerpoint::PastePlace place = powerpoint::pastePlaceFor(picture.size, deck_, *this);
