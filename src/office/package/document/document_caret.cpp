@@ -44,8 +44,8 @@ void FileDocument::placeCaret(pugi::xml_node paragraph) {
     caret_ = {paragraph, {}};
 }
 
-bool FileDocument::isCaretAtEnd() {
-    return !caret_.before && caret_.paragraph == lastParagraph();
+bool FileDocument::isCaretAtEnd() const {
+    return !caret_.before && caret_.paragraph == closingParagraph();
 }
 
 void FileDocument::moveDown(std::int32_t lines) {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <utility>
 
 #include "office/model/word/text_document.h"
 #include "office/package/part_name.h"
@@ -66,18 +67,20 @@ pugi::xml_node DocumentStyles::root() {
     if (xml_) return xml_->root();
     Relationships& relationships = package_.relationshipsOf(document_);
     const Relationship* const found = relationships.ofType("styles");
-    if (found != nullptr && !found->isExternal) {
-        part_ = relationships.partOf(*found);
-        xml_ = std::make_unique<Xml>(package_.read(part_), part_);
-        if (!isNamed(xml_->root(), ns::word, "styles"))
-            throw PackageError(Fault::Damaged, "its list of styles is none");
-    } else {
-        part_ = package_.freeName(folderOf(document_) + "/styles", ".xml");
-        package_.add(part_, stylesType, emptyStyles);
-        relationships.add("styles", part_);
-        xml_ = std::make_unique<Xml>(emptyStyles, part_);
-    }
+    if (found == nullptr || found->isExternal) return {};
+    part_ = relationships.partOf(*found);
+    auto read = std::make_unique<Xml>(package_.read(part_), part_);
+    if (!isNamed(read->root(), ns::word, "styles"))
+        throw PackageError(Fault::Damaged, "its list of styles is none");
+    xml_ = std::move(read);
     return xml_->root();
+}
+
+void DocumentStyles::addPart() {
+    part_ = package_.freeName(folderOf(document_) + "/styles", ".xml");
+    package_.add(part_, stylesType, emptyStyles);
+    package_.relationshipsOf(document_).add("styles", part_);
+    xml_ = std::make_unique<Xml>(emptyStyles, part_);
 }
 
 pugi::xml_node DocumentStyles::byId(const std::string& id) {
@@ -117,6 +120,7 @@ std::string DocumentStyles::idOf(std::int32_t number) {
         if (nameIn(style) == name && isParagraphStyle(style))
             return std::string(wordValue(style, "styleId"));
     }
+    if (!root()) addPart();
     const std::string plain = plainId();
     std::string id = freeId(std::string(known->id));
     const auto made = insertMarkup(

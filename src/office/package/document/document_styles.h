@@ -33,7 +33,9 @@ public:
     void write();
 
 private:
+    /// Null for a document without styles.
     [[nodiscard]] pugi::xml_node root();
+    void addPart();
     [[nodiscard]] std::string plainId();
     [[nodiscard]] pugi::xml_node byId(const std::string& id);
     [[nodiscard]] std::string freeId(const std::string& wanted);

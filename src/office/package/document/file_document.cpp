@@ -115,13 +115,18 @@ pugi::xml_node FileDocument::endOfText() const {
     return {};
 }
 
-/// Made where a table or a block of controls is the last.
-pugi::xml_node FileDocument::lastParagraph() {
+/// Null where a table or a block of controls is the last.
+pugi::xml_node FileDocument::closingParagraph() const {
     for (auto last = body_.last_child(); last; last = last.previous_sibling()) {
-        if (last.type() != pugi::node_element || !isBlock(last)) continue;
-        if (isNamed(last, ns::word, "p")) return last;
-        break;
+        if (last.type() == pugi::node_element && isBlock(last))
+            return isNamed(last, ns::word, "p") ? last : pugi::xml_node();
     }
+    return {};
+}
+
+/// Made where none closes the text.
+pugi::xml_node FileDocument::lastParagraph() {
+    if (const auto last = closingParagraph()) return last;
     touch();
     return addParagraph(body_, endOfText());
 }
@@ -271,7 +276,7 @@ void FileDocument::addPicture(const std::string& file) {
 void FileDocument::insertCaption(const word::Caption& caption) {
     touch();
     selected_.reset();
-    const bool isLast = caret_.paragraph == lastParagraph();
+    const bool isLast = caret_.paragraph == closingParagraph();
     const auto own = caret_.paragraph;
     if (contentOf(own)) keepWithNext(own);
     const auto added = addParagraph(own.parent(), own.next_sibling());

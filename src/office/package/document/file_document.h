@@ -88,9 +88,10 @@ private:
         pugi::xml_node before;
     };
 
+    [[nodiscard]] pugi::xml_node closingParagraph() const;
     [[nodiscard]] pugi::xml_node lastParagraph();
     [[nodiscard]] pugi::xml_node endOfText() const;
-    [[nodiscard]] bool isCaretAtEnd();
+    [[nodiscard]] bool isCaretAtEnd() const;
     void typeInParagraph(const std::string& text);
     /// Puts the caret at the end of a paragraph.
     void placeCaret(pugi::xml_node paragraph);
