@@ -66,7 +66,7 @@ private:
 
 std::int32_t BatchFrame::run() {
     rows_ = catalogue::takeRows(session_, batch_.list, batch_.choices);
-    if (rows_.empty() && route_.endsWithoutItems) return 0;
+    if (rows_.empty() && route_.pastes) return 0;
     try {
         walk();
     } catch (const office::SuiteLost&) {
@@ -78,14 +78,14 @@ std::int32_t BatchFrame::run() {
     const auto total = static_cast<std::int32_t>(rows_.size());
     if (done_ < total) removeSlidesLeft();
     session_.ExcelApp.put("ScreenUpdating", true);
-    if (route_.showsCompletion && done_ == total) catalogue::ProgressStep(session_, total, total);
+    if (route_.pastes && done_ == total) catalogue::ProgressStep(session_, total, total);
     const auto lateFailure = putBack();
     // Ahead of every notice: whoever has closed something may go on working there meanwhile.
     if (batch_.needed != nullptr) batch_.needed->letGo();
     if (done_ < total) {
         catalogue::TellEnded(session_, batch_.needed, exported_, total);
     } else if (exported_ == 0 && !route_.noneArrived.empty()) {
-        session::ShowWarningNotice(session_.notices, route_.noneArrived);
+        session::ShowWarningNotice(session_.notices, std::string(route_.noneArrived));
     }
     if (lateFailure && !batch_.onLateFailure) {
         batch_.list.selected = -1;
@@ -111,7 +111,11 @@ void BatchFrame::prepare() {
     if (!batch_.choices.predefinedSlides) addSlides();
     session::SetExcelWindow(session_, session::ExcelWindow::Normal);
     session::RaisePresentation(session_);
-    route_.prepareScreen(batch_);
+    if (route_.pastes) {
+        catalogue::RestoreScreenUpdating(session_);
+    } else {
+        session_.ExcelApp.put("ScreenUpdating", false);
+    }
 }
 
 /// None is held before all are there: one that comes ahead of slides that nobody knows can be put
@@ -240,10 +244,6 @@ std::optional<office::Failure> BatchFrame::putBack() {
 }
 
 }  // namespace
-
-void letExcelDraw(Batch& batch) {
-    catalogue::RestoreScreenUpdating(batch.session);
-}
 
 std::int32_t RunBatch(Batch& batch, const BatchRoute& route) {
     return BatchFrame(batch, route).run();

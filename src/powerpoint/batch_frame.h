@@ -2,7 +2,7 @@
 
 #include <cstdint>
 #include <functional>
-#include <string>
+#include <string_view>
 
 #include "catalogue/export_list.h"
 #include "catalogue/failed_items.h"
@@ -41,26 +41,20 @@ struct Batch {
     catalogue::NeededDocuments* needed = nullptr;
 };
 
-/// As the formats need it that paste.
-void letExcelDraw(Batch& batch);
-
 /// What tells the formats of a batch apart; the frame is the same for all.
 struct BatchRoute {
-    /// Takes Excel's drawing to the state that the items need, before the first one.
-    void (*prepareScreen)(Batch& batch) = letExcelDraw;
     /// Puts the row's object on a slide. False if it isn't there and the user knows.
     bool (*insertItem)(session::OfficeSession& session, const catalogue::ExportItem& row,
                        const office::Object& slide);
-    /// Without items nothing is touched.
-    bool endsWithoutItems = false;
-    /// Progress ends with the last item as done.
-    bool showsCompletion = false;
+    /// Items are copied, for which Excel has to draw. Without items nothing is touched, and
+    /// progress ends with the last one as done.
+    bool pastes = false;
     /// A selection that the application doesn't drop is left in peace.
     bool ignoresSelection = false;
     /// Excel's window is made large at the end.
     bool restoresExcel = true;
     /// The warning where no item has arrived; none if empty.
-    std::string noneArrived = {};
+    std::string_view noneArrived = {};
 };
 
 /// Walks the taken rows in display order and brings each one to its slide: to new slides at the

@@ -77,9 +77,4 @@ bool PasteRowEditable(OfficeSession& session, const ExportItem& row, const Objec
     return PasteRangeEditable(session, row, slide);
 }
 
-std::int32_t ExportRowsAsEditable(Batch& batch) {
-    return RunBatch(
-        batch, {.insertItem = PasteRowEditable, .endsWithoutItems = true, .showsCompletion = true});
-}
-
 }  // namespace powerpoint

@@ -57,15 +57,4 @@ std::vector<std::string> remarksOnOneMore(OfficeSession& session) {
     return lines;
 }
 
-std::int32_t ExportRowsAsExcelObjects(Batch& batch) {
-    return RunBatch(
-        batch, {.insertItem = PasteRowAsExcelObject,
-                .endsWithoutItems = true,
-                .showsCompletion = true,
-                .ignoresSelection = true,
-                .noneArrived = "No objects could be pasted as embedded Excel objects.\r\n\r\n"
-                               "Check that the selected sheets are visible and that PowerPoint can "
-                               "accept Excel objects from the clipboard."});
-}
-
 }  // namespace powerpoint

@@ -1,18 +1,14 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
-#include "powerpoint/batch_frame.h"
+#include "catalogue/export_list.h"
+#include "session/office_session.h"
 
 /// The embedded route: an Excel object with a copy of the data, which opens from inside the
 /// presentation.
 namespace powerpoint {
-
-/// Exports the taken rows as embedded objects. Result and failures as with `RunBatch`; a notice
-/// says so where none of them arrived.
-std::int32_t ExportRowsAsExcelObjects(Batch& batch);
 
 /// What the suite says of a presentation with one more embedded workbook and does not say of it as
 /// it is: it is to be told once, by the one that makes the difference.

@@ -19,27 +19,30 @@ namespace {
 
 using session::OfficeSession;
 
-struct Format {
-    std::int32_t (*exportRows)(Batch& batch);
-    /// By the row's kind.
-    bool (*insertRow)(OfficeSession& session, const catalogue::ExportItem& row,
-                      const office::Object& slide);
-};
+constexpr BatchRoute ExportRowsAsPictures{.insertItem = InsertPicture};
+constexpr BatchRoute ExportRowsAsEditable{.insertItem = PasteRowEditable, .pastes = true};
+constexpr BatchRoute ExportRowsAsExcelObjects{
+    .insertItem = PasteRowAsExcelObject,
+    .pastes = true,
+    .ignoresSelection = true,
+    .noneArrived =
+        "No objects could be pasted as embedded Excel objects.\r\n\r\n"
+        "Check that the selected sheets are visible and that PowerPoint can "
+        "accept Excel objects from the clipboard."};
+constexpr BatchRoute ExportRowsAsLinkedObjects{
+    .insertItem = PasteRowAsLink, .pastes = true, .restoresExcel = false};
 
-const Format& formatOf(const catalogue::ExportChoices& choices) {
-    static constexpr std::array<Format, 4> formats = {{
-        {ExportRowsAsPictures, InsertPicture},
-        {ExportRowsAsEditable, PasteRowEditable},
-        {ExportRowsAsExcelObjects, PasteRowAsExcelObject},
-        {ExportRowsAsLinkedObjects, PasteRowAsLink},
-    }};
-    return formats.at(static_cast<std::size_t>(choices.format));
+const BatchRoute& routeOf(const catalogue::ExportChoices& choices) {
+    static constexpr std::array<BatchRoute, 4> routes = {ExportRowsAsPictures, ExportRowsAsEditable,
+                                                         ExportRowsAsExcelObjects,
+                                                         ExportRowsAsLinkedObjects};
+    return routes.at(static_cast<std::size_t>(choices.format));
 }
 
 }  // namespace
 
 std::int32_t ExportRows(Batch& batch) {
-    return formatOf(batch.choices).exportRows(batch);
+    return RunBatch(batch, routeOf(batch.choices));
 }
 
 bool InsertOneItem(OfficeSession& session, const catalogue::ExportItem& row,
@@ -70,7 +73,7 @@ bool InsertOneItem(OfficeSession& session, const catalogue::ExportItem& row,
     std::vector<std::string> remarks;
     if (choices.format == catalogue::ExportFormat::Embedded) remarks = remarksOnOneMore(session);
     bool isThere = false;
-    if (!scope.attempt([&] { isThere = formatOf(choices).insertRow(session, row, slide); })) {
+    if (!scope.attempt([&] { isThere = routeOf(choices).insertItem(session, row, slide); })) {
         session::ShowWarningNotice(session.notices, scope.lastFailure()->description());
     }
     if (isThere) {

@@ -37,11 +37,4 @@ bool PasteRowAsLink(OfficeSession& session, const ExportItem& row, const Object&
     return pasteRowAsObject(session, row, slide, linked);
 }
 
-std::int32_t ExportRowsAsLinkedObjects(Batch& batch) {
-    return RunBatch(batch, {.insertItem = PasteRowAsLink,
-                            .endsWithoutItems = true,
-                            .showsCompletion = true,
-                            .restoresExcel = false});
-}
-
 }  // namespace powerpoint

@@ -35,13 +35,6 @@ void insertPictureFile(OfficeSession& session, const ExportItem& row, const std:
 
 }  // namespace
 
-std::int32_t ExportRowsAsPictures(Batch& batch) {
-    return RunBatch(
-        batch, {.prepareScreen = [](Batch& b) { b.session.ExcelApp.put("ScreenUpdating", false); },
-                .insertItem = InsertPicture,
-                .noneArrived = {}});
-}
-
 bool InsertPicture(OfficeSession& session, const ExportItem& row, const Object& slide) {
     const std::string file = catalogue::TemporaryPictureOf(session, row);
     if (!catalogue::ExportRowPicture(session, row, file)) {

@@ -1,15 +1,11 @@
 #pragma once
 
-#include <cstdint>
-
-#include "powerpoint/batch_frame.h"
+#include "catalogue/export_list.h"
+#include "session/office_session.h"
 
 /// The picture route: each object is exported by Excel to a file in the temporary folder,
 /// inserted into the session's presentation, and the file is deleted.
 namespace powerpoint {
-
-/// Exports the taken rows as pictures. Result and failures as with `RunBatch`.
-std::int32_t ExportRowsAsPictures(Batch& batch);
 
 /// Puts one row's object on a slide of the session's presentation. The picture's alternative text
 /// is the row's caption, or the object's own name where that is empty. False if the row leads to no
