@@ -22,11 +22,12 @@ protected:
     }
 
     std::size_t callsAnItem() {
-        const std::size_t few = callsFor(10);
+        const std::size_t ten = callsFor(10);
+        const std::size_t twenty = callsFor(20);
         const std::size_t many = callsFor(200);
-        EXPECT_EQ((many - few) % 190, 0U);
-        EXPECT_EQ(few % ((many - few) / 190), (many % ((many - few) / 190)));
-        return (many - few) / 190;
+        EXPECT_EQ((twenty - ten) % 10, 0U);
+        EXPECT_EQ(many - twenty, (twenty - ten) * 18);
+        return (twenty - ten) / 10;
     }
 };
 
