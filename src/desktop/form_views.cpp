@@ -43,18 +43,7 @@ std::vector<QWidget*> tabStopsOf(QWidget& view) {
 }  // namespace
 
 void FormViews::sync() {
-    const std::vector<forms::Control*>& controls = form_.controls();
-    for (ControlView* view : std::exchange(views_, {})) {
-        if (std::find(controls.begin(), controls.end(), &view->control()) != controls.end()) {
-            views_.push_back(view);
-            continue;
-        }
-        viewOf_.erase(&view->control());
-        view->detach(false);
-        view->widget().hide();
-        gone_.push_back(view);
-    }
-    for (forms::Control* control : controls) {
+    for (forms::Control* control : form_.controls()) {
         if (viewOf_.contains(control)) continue;
         ControlView* view = makeControlView(*control, parentFor(*control), host_);
         viewOf_.emplace(control, view);
@@ -71,10 +60,6 @@ void FormViews::detach() {
         view->detach(std::find(controls.begin(), controls.end(), &view->control()) !=
                      controls.end());
     }
-}
-
-void FormViews::deleteGone() {
-    for (ControlView* view : std::exchange(gone_, {})) delete &view->widget();
 }
 
 ControlView* FormViews::of(const forms::Control& control) const {

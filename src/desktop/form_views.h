@@ -8,8 +8,7 @@
 
 namespace desktop {
 
-/// The views of a form's controls: made, stacked, put in tab order and destroyed as the controls
-/// come and go.
+/// The views of a form's controls: made, stacked and put in tab order.
 class FormViews {
 public:
     /// The views stand on `plate`, which destroys them.
@@ -22,9 +21,6 @@ public:
     void sync();
     /// The last call before the window goes.
     void detach();
-    /// Destroys the views of controls that have gone. To be called when no event of the form is
-    /// under way: the control may have gone in its own.
-    void deleteGone();
 
     /// Null for a control that has no view yet.
     [[nodiscard]] ControlView* of(const forms::Control& control) const;
@@ -44,7 +40,6 @@ private:
     ViewHost& host_;
     std::vector<ControlView*> views_;
     std::map<const forms::Control*, ControlView*> viewOf_;
-    std::vector<ControlView*> gone_;
     /// As last brought about.
     std::vector<const forms::Control*> stacked_;
     std::vector<const forms::Control*> tabOrder_;

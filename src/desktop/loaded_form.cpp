@@ -1,5 +1,7 @@
 #include "desktop/loaded_form.h"
 
+#include <QtCore/QScopeGuard>
+
 #include <algorithm>
 #include <utility>
 
@@ -15,26 +17,11 @@ bool wantsToRun(const forms::Timer& timer) {
 
 }  // namespace
 
-bool FormTimers::hasTimer(const forms::Timer* timer) const {
-    const std::vector<forms::Timer*>& all = form_.timers();
-    return std::find(all.begin(), all.end(), timer) != all.end();
-}
-
 void FormTimers::stopAll() {
-    for (Running& each : running_) {
-        each.clock->stop();
-        ended_.push_back(std::move(each.clock));
-    }
-    running_.clear();
+    for (const Running& each : running_) each.clock->stop();
 }
 
 void FormTimers::sync() {
-    for (Running& each : running_) {
-        if (hasTimer(each.timer)) continue;
-        each.clock->stop();
-        ended_.push_back(std::move(each.clock));
-    }
-    std::erase_if(running_, [](const Running& each) { return each.clock == nullptr; });
     for (forms::Timer* timer : form_.timers()) {
         auto known = std::find_if(running_.begin(), running_.end(),
                                   [timer](const Running& each) { return each.timer == timer; });
@@ -56,22 +43,18 @@ FormTimers::Running FormTimers::start(forms::Timer& timer) {
                                                                        : Qt::CoarseTimer);
     clock->setInterval(timer.interval);
     QObject::connect(clock.get(), &QTimer::timeout, clock.get(),
-                     [this, which = &timer] { ticked(which); });
+                     [this, which = &timer] { ticked(*which); });
     clock->start();
     return {&timer, std::move(clock)};
 }
 
-void FormTimers::ticked(forms::Timer* timer) {
-    if (std::find(busy_.begin(), busy_.end(), timer) != busy_.end()) return;
-    tick_([this, timer] {
-        if (!hasTimer(timer) || !timer->enabled || !timer->onTimer) return;
-        busy_.push_back(timer);
-        const auto free = [this, timer] { std::erase(busy_, timer); };
-        struct AtEnd {
-            const decltype(free)& act;
-            ~AtEnd() { act(); }
-        } const atEnd{free};
-        timer->onTimer();
+void FormTimers::ticked(forms::Timer& timer) {
+    if (std::find(busy_.begin(), busy_.end(), &timer) != busy_.end()) return;
+    tick_([this, &timer] {
+        if (!timer.enabled || !timer.onTimer) return;
+        busy_.push_back(&timer);
+        const auto freeAtEnd = qScopeGuard([this, &timer] { std::erase(busy_, &timer); });
+        timer.onTimer();
     });
 }
 
@@ -100,10 +83,6 @@ void LoadedForm::sync() {
     if (form_ == nullptr) return;
     timers_.sync();
     if (window_ != nullptr) window_->sync();
-}
-
-void LoadedForm::deleteGone() {
-    if (!isBusy() && window_ != nullptr) window_->views().deleteGone();
 }
 
 void LoadedForm::detach() {

@@ -31,15 +31,12 @@ private:
         std::unique_ptr<QTimer> clock;
     };
 
-    [[nodiscard]] bool hasTimer(const forms::Timer* timer) const;
     [[nodiscard]] Running start(forms::Timer& timer);
-    void ticked(forms::Timer* timer);
+    void ticked(forms::Timer& timer);
 
     forms::Form& form_;
     std::function<void(std::function<void()>)> tick_;
     std::vector<Running> running_;
-    /// Kept to the end: a clock may be in the middle of the tick that does away with it.
-    std::vector<std::unique_ptr<QTimer>> ended_;
     /// Those whose event is under way: a timer does not interrupt itself.
     std::vector<const forms::Timer*> busy_;
 };
@@ -62,8 +59,6 @@ public:
 
     void open(forms::ShowMode mode, QWindow* parent);
     void sync();
-    /// Destroys the views of controls that have gone, unless an event procedure is under way.
-    void deleteGone();
     /// Hides the window and forgets the form.
     void detach();
 

@@ -94,7 +94,6 @@ void QtDesktop::closeWindow(forms::Form& form) {
 }
 
 void QtDesktop::deleteClosed() {
-    for (const auto& host : forms_) host->deleteGone();
     const auto firstFree = std::stable_partition(closed_.begin(), closed_.end(),
                                                  [](const auto& host) { return host->isBusy(); });
     std::vector<std::unique_ptr<LoadedForm>> dead(std::make_move_iterator(firstFree),

@@ -10,7 +10,7 @@ namespace forms {
 class Form;
 
 /// A form's timer. It ticks on the thread of the forms, while events are let run, as long as it is
-/// enabled and its form is loaded.
+/// enabled and its form is loaded. It belongs to its form for life, as a control does.
 class Timer {
 public:
     Timer(Form& form, std::string name, std::chrono::milliseconds interval);

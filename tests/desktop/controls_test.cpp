@@ -176,13 +176,4 @@ TEST_F(Controls, TheLayerDecidesBetweenControlsOfAKind) {
     EXPECT_NE(shown(), QStringLiteral("lblActionBar")) << "a text stays behind all buttons";
 }
 
-TEST_F(Controls, OneThatIsMadeLaterAppearsAndOneThatGoesDisappears) {
-    {
-        const forms::Label late(form, "late", {0, 0, 300, 300});
-        EXPECT_TRUE(widgetOf<QWidget>(late).isVisible());
-    }
-    desk.letEventsRun();
-    EXPECT_EQ(desk.plateOf(form)->findChild<QWidget*>(QStringLiteral("late")), nullptr);
-}
-
 }  // namespace
