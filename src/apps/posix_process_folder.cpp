@@ -38,12 +38,14 @@ bool isOrphan(const std::string& name) {
 void sweep(const std::string& parent) {
     std::error_code error;
     std::vector<fs::path> orphans;
-    for (const auto& entry : fs::directory_iterator(parent, error)) {
+    for (auto each = fs::directory_iterator(parent, error);
+         !error && each != fs::directory_iterator(); each.increment(error)) {
+        const fs::path& path = each->path();
         struct stat status = {};
-        if (!isOrphan(entry.path().filename().string())) continue;
-        const bool isOwn = ::lstat(entry.path().c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
+        if (!isOrphan(path.filename().string())) continue;
+        const bool isOwn = ::lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
                            status.st_uid == ::geteuid();
-        if (isOwn) orphans.push_back(entry.path());
+        if (isOwn) orphans.push_back(path);
     }
     for (const fs::path& orphan : orphans) fs::remove_all(orphan, error);
 }
