@@ -17,31 +17,6 @@ namespace session {
 
 namespace {
 
-constexpr std::string_view mainFormCode = "/112";
-constexpr std::string_view embeddedObjectCode = "/3122";
-constexpr std::string_view imageCode = "/111";
-
-struct ToSlide {
-    std::string_view code;
-    SlidePaste mode;
-};
-constexpr std::array<ToSlide, 3> slideCommands = {{
-    {"/212", SlidePaste::Pictures},
-    {"/312", SlidePaste::SourceFormatting},
-    {"/412", SlidePaste::LinkedObject},
-}};
-
-struct ToWord {
-    std::string_view code;
-    WordPaste mode;
-};
-constexpr std::array<ToWord, 4> wordCommands = {{
-    {"/512", WordPaste::Picture},
-    {"/612", WordPaste::InlineEmbedded},
-    {"/712", WordPaste::FloatingLinked},
-    {"/812", WordPaste::Table},
-}};
-
 /// Nothing running is no failure, and leaves Excel and PowerPoint empty. Returns why a running
 /// Excel or its workbook could not be had, if that is so.
 std::optional<office::Failure> attachApplications(OfficeSession& session) {
@@ -181,16 +156,43 @@ void pasteAsEmbeddedObject(OfficeSession& session, const CommandHandlers& handle
     handlers.PasteSelectionToSlide(SlidePaste::EmbeddedObject);
 }
 
-void runSelectionCommand(OfficeSession& session, std::string_view command,
-                         const CommandHandlers& handlers) {
-    if (command == embeddedObjectCode) pasteAsEmbeddedObject(session, handlers);
-    if (command == imageCode) handlers.SaveSelectionAsImage();
-    for (const ToSlide& known : slideCommands) {
-        if (command == known.code) handlers.PasteSelectionToSlide(known.mode);
-    }
-    for (const ToWord& known : wordCommands) {
-        if (command == known.code) handlers.PasteSelectionToWord(known.mode);
-    }
+struct SelectionCommand {
+    std::string_view code;
+    void (*run)(OfficeSession& session, const CommandHandlers& handlers);
+};
+
+template <SlidePaste mode>
+void pasteToSlide(OfficeSession&, const CommandHandlers& handlers) {
+    handlers.PasteSelectionToSlide(mode);
+}
+
+template <WordPaste mode>
+void pasteToWord(OfficeSession&, const CommandHandlers& handlers) {
+    handlers.PasteSelectionToWord(mode);
+}
+
+void saveAsImage(OfficeSession&, const CommandHandlers& handlers) {
+    handlers.SaveSelectionAsImage();
+}
+
+constexpr std::array<SelectionCommand, 9> selectionCommands = {{
+    {"/111", saveAsImage},
+    {"/212", pasteToSlide<SlidePaste::Pictures>},
+    {"/312", pasteToSlide<SlidePaste::SourceFormatting>},
+    {"/3122", pasteAsEmbeddedObject},
+    {"/412", pasteToSlide<SlidePaste::LinkedObject>},
+    {"/512", pasteToWord<WordPaste::Picture>},
+    {"/612", pasteToWord<WordPaste::InlineEmbedded>},
+    {"/712", pasteToWord<WordPaste::FloatingLinked>},
+    {"/812", pasteToWord<WordPaste::Table>},
+}};
+
+/// Null if the command is none of them.
+const SelectionCommand* selectionCommandOf(std::string_view command) {
+    const auto* const found =
+        std::find_if(selectionCommands.begin(), selectionCommands.end(),
+                     [&](const SelectionCommand& known) { return known.code == command; });
+    return found == selectionCommands.end() ? nullptr : found;
 }
 
 int runCommand(OfficeSession& session, std::string_view command, const CommandHandlers& handlers,
@@ -203,18 +205,15 @@ int runCommand(OfficeSession& session, std::string_view command, const CommandHa
         if (session.ActiveBook) handlers.CountWorkbookItems();
         return runMainForm(session, handlers);
     }
-    if (session.ActiveBook) runSelectionCommand(session, command, handlers);
+    const SelectionCommand* known = selectionCommandOf(command);
+    if (session.ActiveBook && known != nullptr) known->run(session, handlers);
     return commandDone;
 }
 
 }  // namespace
 
 bool worksOnTheSelection(std::string_view commandLine) {
-    const std::string_view command = office::trim(commandLine);
-    const auto isCommand = [&](const auto& known) { return known.code == command; };
-    return command == embeddedObjectCode || command == imageCode ||
-           std::any_of(slideCommands.begin(), slideCommands.end(), isCommand) ||
-           std::any_of(wordCommands.begin(), wordCommands.end(), isCommand);
+    return selectionCommandOf(office::trim(commandLine)) != nullptr;
 }
 
 int Main(OfficeSession& session, std::string_view commandLine, const CommandHandlers& handlers) {
@@ -239,7 +238,7 @@ void CloseSession(OfficeSession& session, const std::function<void()>& unloadAll
 }
 
 int OpenMainForm(OfficeSession& session, const CommandHandlers& handlers) {
-    if (!handlers.ShowMainForm) return reportNoWindows(session, "/112");
+    if (!handlers.ShowMainForm) return reportNoWindows(session, mainFormCode);
     session.ExcelApp.put("ScreenUpdating", true);
     if (!CanKeepStore(session)) return commandDone;
     EnsureStoreSheet(session);

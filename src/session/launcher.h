@@ -27,6 +27,9 @@ struct CommandHandlers {
     std::function<void()> UnloadAllForms;
 };
 
+/// The command that opens the main form.
+inline constexpr std::string_view mainFormCode = "/112";
+
 /// Exit statuses of a command.
 inline constexpr int commandDone = 0;
 inline constexpr int commandFailed = 1;

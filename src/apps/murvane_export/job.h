@@ -1,14 +1,13 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <utility>
 
 #include "apps/murvane_export/documents.h"
 #include "apps/murvane_export/options.h"
 #include "catalogue/export_list.h"
-#include "office/failure.h"
+#include "catalogue/failed_items.h"
 #include "office/suite.h"
 #include "session/office_session.h"
 
@@ -23,8 +22,7 @@ struct JobScene {
     office::Suite& liveSuite;
     catalogue::ExportList& list;
     /// None: a failing item ends the run.
-    std::function<void(const catalogue::ExportItem& row, const office::Failure& failure)>
-        onFailedItem;
+    catalogue::OnFailedItem onFailedItem;
 };
 
 /// What a run does for one destination, between the review and the output.

@@ -36,8 +36,6 @@ namespace {
 using catalogue::ExportItem;
 using session::OfficeSession;
 
-/// The command that opens the main form.
-constexpr const char* mainFormCode = "/112";
 constexpr const char* interruptedText = "Interrupted; nothing was written.";
 constexpr const char* brokenOffText =
     "Broken off; no file was written, and what was half done stays in the open documents.";
@@ -93,10 +91,8 @@ public:
     int perform();
 
 private:
-    using OnFailedItem = decltype(JobScene::onFailedItem);
-
     void openDocuments();
-    [[nodiscard]] OnFailedItem failureHandler(std::size_t place);
+    [[nodiscard]] catalogue::OnFailedItem failureHandler(std::size_t place);
     int workOnItems();
     void arrangeItems();
     int printItems();
@@ -147,7 +143,7 @@ int Run::perform() {
             throw RunError(bookName_ + " has no chart and no named range that could be exported.");
     };
     handlers.ShowMainForm = [&] { result = workOnItems(); };
-    session::Main(session_, mainFormCode, handlers);
+    session::Main(session_, session::mainFormCode, handlers);
     return result.value_or(exit_code::blocked);
 }
 
@@ -180,7 +176,7 @@ void Run::openDocuments() {
 }
 
 /// With --keep-going the lines of a job are kept until its output is told of.
-Run::OnFailedItem Run::failureHandler(std::size_t place) {
+catalogue::OnFailedItem Run::failureHandler(std::size_t place) {
     if (!options_.keepGoing) return nullptr;
     return [this, place](const ExportItem& row, const office::Failure& failure) {
         if (!options_.attach) stopIfInterrupted();
