@@ -107,9 +107,7 @@ void LayoutForm::setCaptions() {
 void LayoutForm::wireEvents() {
     const auto wire = [this](Options& options, Slider& slider, forms::Label& value) {
         for (std::size_t i = 0; i < options.size(); ++i) {
-            options.at(i).onClick = [this, &options, &slider, &value, i] {
-                choose(options, slider, value, i);
-            };
+            options.at(i).onClick = [&slider, &value, i] { choose(slider, value, i); };
         }
         slider.onChange = [this] { showValues(); };
     };
@@ -142,8 +140,7 @@ void LayoutForm::showShare(const std::optional<double>& share, Options& options,
 }
 
 /// The slider and what it says are dim while the choice is the program's.
-void LayoutForm::choose(Options& options, Slider& slider, forms::Label& value, std::size_t index) {
-    for (std::size_t i = 0; i < options.size(); ++i) options.at(i).setValue(i == index);
+void LayoutForm::choose(Slider& slider, forms::Label& value, std::size_t index) {
     slider.enabled = index != 0;
     value.enabled = slider.enabled;
 }

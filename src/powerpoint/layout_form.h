@@ -48,8 +48,7 @@ private:
     void wireEvents();
     static void showShare(const std::optional<double>& share, Options& options,
                           forms::Slider& slider, std::int32_t position);
-    static void choose(Options& options, forms::Slider& slider, forms::Label& value,
-                       std::size_t index);
+    static void choose(forms::Slider& slider, forms::Label& value, std::size_t index);
     void showValues();
 
     session::OfficeSession& session_;
