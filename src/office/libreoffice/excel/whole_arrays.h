@@ -24,10 +24,14 @@ public:
     [[nodiscard]] bool isHidden() const { return isHidden_; }
 
 private:
-    explicit HiddenAround(SheetRecord& sheet) : sheet_(sheet), flag_(sheet.book()) {}
+    explicit HiddenAround(SheetRecord& sheet)
+        : sheet_(sheet),
+          unheard_(sheet.book()),
+          flag_(sheet.book()) {}
     void hide(const model::CellBlock& strip, bool asColumns);
 
     SheetRecord& sheet_;
+    UnheardByLooks unheard_;
     KeptModifiedFlag flag_;
     /// Rows and columns.
     std::vector<uno::Reference<uno::XInterface>> hidden_;
