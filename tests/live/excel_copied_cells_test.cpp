@@ -108,7 +108,7 @@ TEST_F(ExcelCopiedCells, LeadsFillsAndBordersToTheEdgesOfThePicture) {
 /// The texts of a copied picture, from left to right in each row.
 std::vector<office::drawing::Metafile::Text> textsOf(const office::CopiedPtr& cells) {
     const auto& copied = dynamic_cast<const excel::CopiedPicture&>(*cells);
-    const auto drawn = office::drawing::readMetafile(excel::bytesOf(copied.metafile()));
+    const auto drawn = office::drawing::readMetafile(libreoffice::bytesOf(copied.metafile()));
     std::vector<office::drawing::Metafile::Text> texts;
     for (const auto& operation : drawn.operations) {
         if (const auto* text = std::get_if<office::drawing::Metafile::Text>(&operation.what))
@@ -174,7 +174,7 @@ TEST_F(ExcelCopiedCells, DrawsColumnsBehindTheLastFilledOneAsWideAsTheyAre) {
     const Value range = sheet(book, "Wide").get("Range", "A1:BK6");
     range.call("CopyPicture");
     const auto& copied = dynamic_cast<const excel::CopiedPicture&>(*desk->clipboard().copied);
-    const auto drawn = office::drawing::sizeOfMetafile(excel::bytesOf(copied.metafile()));
+    const auto drawn = office::drawing::sizeOfMetafile(libreoffice::bytesOf(copied.metafile()));
     EXPECT_NEAR(drawn.width, copied.size().Width, 100);
     EXPECT_NEAR(copied.widthPt(), range.get("Width").toDouble(), 0.5);
     EXPECT_TRUE(book.get("Saved").toBool());

@@ -20,6 +20,7 @@
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/cell_styles.h"
 #include "office/libreoffice/excel/copied.h"
+#include "office/libreoffice/excel/held_styles.h"
 #include "office/libreoffice/excel/picture_maker.h"
 #include "office/libreoffice/excel/selected_cells.h"
 #include "support/png_file.h"
@@ -276,6 +277,20 @@ TEST_F(ExcelPictures, ShowsConditionalFormatsAsTheSheetDoes) {
         as<css::style::XStyle>(style)->setParentStyle("Default");
     }
     EXPECT_GT(meanDifference(bytes("A1:C4"), bytes("E1:G4")), 3);
+}
+
+TEST_F(ExcelPictures, CostNoMoreCallsForConditionalFormatsWhereThereAreManySheets) {
+    desk->isUndisturbed = true;
+    const Object book = open("tables.xlsx");
+    const auto twins = desk->active<excel::CalcDocument>()->sheetList().find("Twins");
+    const auto callsFor = [&] {
+        const auto look = [&] { EXPECT_FALSE(excel::mayBeMisdrawn(*twins, {0, 0, 2, 3})); };
+        look();
+        return callsOf(look);
+    };
+    const auto few = callsFor();
+    for (int i = 0; i < 20; ++i) book.get("Sheets").call("Add");
+    EXPECT_EQ(callsFor(), few);
 }
 
 TEST_F(ExcelPictures, ShowsAHiddenSheetOnlyForTheMomentOfTheCopy) {

@@ -31,9 +31,9 @@ std::string drawnByRoom(const libreoffice::uno::Sequence<sal_Int8>& metafile,
     office::ContinueOnFailure scope;
     std::string png;
     scope.attempt([&] {
-        png = office::drawing::pngOf({std::string(libreoffice::excel::bytesOf(metafile)),
-                                      pixels.Width, pixels.Height, pointsOf(size.Width),
-                                      pointsOf(size.Height), isTranslucent});
+        png = office::drawing::pngOf({std::string(libreoffice::bytesOf(metafile)), pixels.Width,
+                                      pixels.Height, pointsOf(size.Width), pointsOf(size.Height),
+                                      isTranslucent});
     });
     return png;
 }

@@ -16,6 +16,11 @@ std::string fromUno(const rtl::OUString& text) {
     return {utf8.getStr(), static_cast<std::size_t>(utf8.getLength())};
 }
 
+std::string_view bytesOf(const uno::Sequence<sal_Int8>& bytes) {
+    return {reinterpret_cast<const char*>(bytes.getConstArray()),
+            static_cast<std::size_t>(bytes.getLength())};
+}
+
 rtl::OUString fileUrl(std::string_view path) {
     if (path.find("://") != std::string_view::npos) return toUno(path);
     const std::string absolute = std::filesystem::absolute(path).lexically_normal().string();

@@ -24,6 +24,8 @@ namespace uno = com::sun::star::uno;
 /// Text between UTF-8 and UNO's UTF-16.
 [[nodiscard]] rtl::OUString toUno(std::string_view text);
 [[nodiscard]] std::string fromUno(const rtl::OUString& text);
+/// As long as the sequence lasts unchanged.
+[[nodiscard]] std::string_view bytesOf(const uno::Sequence<sal_Int8>& bytes);
 
 /// A file path as the URL that UNO takes, and back. A path that is already a URL stays. A relative
 /// path is made absolute.

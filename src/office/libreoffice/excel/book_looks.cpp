@@ -199,31 +199,27 @@ BookLooks::BookLooks(CalcDocument& book)
 void BookLooks::forgetIfChanged() {
     if (!hasChanged_->exchange(false)) return;
     pages_.clear();
-    indents_.clear();
-    conditions_.clear();
+    sheets_.clear();
     styles_.clear();
-    numbers_.clear();
+}
+
+BookLooks::OfSheet& BookLooks::knownOf(SheetRecord& sheet) {
+    forgetIfChanged();
+    return sheets_[sheet.shared_from_this()];
 }
 
 bool BookLooks::hasIndents(SheetRecord& sheet) {
-    forgetIfChanged();
-    const std::int32_t place = sheet.place();
-    const auto known = indents_.find(place);
-    if (known != indents_.end()) return known->second;
-    return indents_[place] = excel::hasIndents(sheet);
+    auto& known = knownOf(sheet).hasIndents;
+    if (!known) known = excel::hasIndents(sheet);
+    return *known;
 }
 
 std::vector<CellCondition> BookLooks::conditionsOn(SheetRecord& sheet,
                                                    const model::CellBlock& block) {
-    forgetIfChanged();
-    const std::int32_t place = sheet.place();
-    auto all = conditions_.find(place);
-    if (all == conditions_.end()) {
-        const auto whole = model::CellBlock::wholeSheet();
-        all = conditions_.emplace(place, excel::conditionsOn(sheet, whole)).first;
-    }
+    auto& all = knownOf(sheet).conditions;
+    if (!all) all = excel::conditionsOn(sheet, model::CellBlock::wholeSheet());
     std::vector<CellCondition> found;
-    std::copy_if(all->second.begin(), all->second.end(), std::back_inserter(found),
+    std::copy_if(all->begin(), all->end(), std::back_inserter(found),
                  [&](const CellCondition& each) { return meetsAny(each.blocks, block); });
     return found;
 }
@@ -243,14 +239,12 @@ std::shared_ptr<const StyleFacts> BookLooks::styleFacts(const rtl::OUString& nam
 
 std::shared_ptr<const std::vector<double>> BookLooks::numbersIn(
     SheetRecord& sheet, const std::vector<model::CellBlock>& blocks) {
-    forgetIfChanged();
-    const std::int32_t place = sheet.place();
-    const auto known = std::find_if(numbers_.begin(), numbers_.end(), [&](const Numbers& each) {
-        return each.sheet == place && each.blocks == blocks;
-    });
-    if (known != numbers_.end()) return known->sorted;
+    auto& all = knownOf(sheet).numbers;
+    const auto known = std::find_if(all.begin(), all.end(),
+                                    [&](const Numbers& each) { return each.blocks == blocks; });
+    if (known != all.end()) return known->sorted;
     auto sorted = std::make_shared<const std::vector<double>>(sortedNumbers(sheet, blocks));
-    return numbers_.emplace_back(Numbers{place, blocks, std::move(sorted)}).sorted;
+    return all.emplace_back(Numbers{blocks, std::move(sorted)}).sorted;
 }
 
 std::vector<SheetRecordPtr> BookLooks::shownSheets() {
@@ -261,13 +255,10 @@ std::vector<SheetRecordPtr> BookLooks::shownSheets() {
 
 BookLooks::Page& BookLooks::pageOf(const std::vector<SheetRecordPtr>& shown) {
     forgetIfChanged();
-    std::vector<std::int32_t> places;
-    places.reserve(shown.size());
-    for (const SheetRecordPtr& sheet : shown) places.push_back(sheet->place());
     // Each may be large.
     constexpr std::size_t mostPages = 4;
-    if (pages_.size() >= mostPages && !pages_.contains(places)) pages_.clear();
-    return pages_[places];
+    if (pages_.size() >= mostPages && !pages_.contains(shown)) pages_.clear();
+    return pages_[shown];
 }
 
 bool BookLooks::isTooLarge(Page& page, const std::vector<SheetRecordPtr>& shown) const {
@@ -285,13 +276,13 @@ SheetLooks* BookLooks::of(SheetRecord& sheet) {
     const auto shown = shownSheets();
     Page& page = pageOf(shown);
     if (isTooLarge(page, shown)) return nullptr;
-    if (!page.text) page.text = written();
-    const std::int32_t place = sheet.place();
-    auto found = page.sheets.find(place);
+    if (!page.text.hasElements()) page.text = written();
+    const SheetRecordPtr key = sheet.shared_from_this();
+    auto found = page.sheets.find(key);
     if (found == page.sheets.end()) {
-        const std::string_view text(reinterpret_cast<const char*>(page.text->getConstArray()),
-                                    static_cast<std::size_t>(page.text->getLength()));
-        found = page.sheets.try_emplace(place, sheet, tableOf(sheet, text)).first;
+        const auto table = tableOf(sheet, bytesOf(page.text));
+        if (table.empty()) return nullptr;
+        found = page.sheets.try_emplace(key, sheet, table).first;
     }
     return &found->second;
 }

@@ -75,17 +75,24 @@ private:
     /// What is told while the same sheets are shown.
     struct Page {
         std::optional<bool> isTooLarge;
-        std::optional<uno::Sequence<sal_Int8>> text;
-        std::map<std::int32_t, SheetLooks> sheets;
+        /// Nothing as long as the suite has written none.
+        uno::Sequence<sal_Int8> text;
+        std::map<SheetRecordPtr, SheetLooks> sheets;
     };
 
     struct Numbers {
-        std::int32_t sheet;
         std::vector<model::CellBlock> blocks;
         std::shared_ptr<const std::vector<double>> sorted;
     };
 
+    struct OfSheet {
+        std::optional<bool> hasIndents;
+        std::optional<std::vector<CellCondition>> conditions;
+        std::vector<Numbers> numbers;
+    };
+
     void forgetIfChanged();
+    [[nodiscard]] OfSheet& knownOf(SheetRecord& sheet);
     [[nodiscard]] std::vector<SheetRecordPtr> shownSheets();
     [[nodiscard]] Page& pageOf(const std::vector<SheetRecordPtr>& shown);
     [[nodiscard]] bool isTooLarge(Page& page, const std::vector<SheetRecordPtr>& shown) const;
@@ -94,12 +101,10 @@ private:
     CalcDocument& book_;
     /// A listener sets it from a thread of the bridge.
     std::shared_ptr<std::atomic<bool>> hasChanged_;
-    /// By the places of those sheets.
-    std::map<std::vector<std::int32_t>, Page> pages_;
-    std::map<std::int32_t, bool> indents_;
-    std::map<std::int32_t, std::vector<CellCondition>> conditions_;
+    /// By those sheets. Where a sheet stands costs a call of each.
+    std::map<std::vector<SheetRecordPtr>, Page> pages_;
+    std::map<SheetRecordPtr, OfSheet> sheets_;
     std::map<rtl::OUString, std::shared_ptr<const StyleFacts>> styles_;
-    std::vector<Numbers> numbers_;
 };
 
 /// What this program writes during the life of this object changes no look. Where a user may write

@@ -214,9 +214,10 @@ bool mayBeMisdrawn(SheetRecord& sheet, const CellBlock& block) {
     });
     if (conditions.empty()) return false;
     const StylesOnBlock styles(sheet, *drawn, conditions);
+    const bool isTooLarge = book.isTooLarge();
     return std::any_of(conditions.begin(), conditions.end(), [&](const CellCondition& each) {
         const auto name = styleNameOf(each);
-        if (name.isEmpty() || (styles.isTold(name) && !book.isTooLarge())) return false;
+        if (name.isEmpty() || (styles.isTold(name) && !isTooLarge)) return false;
         return comparesCells(each) || readsAround(sheet, *drawn, each);
     });
 }

@@ -318,9 +318,4 @@ std::string SuitePictures::emfOfMetafile(const uno::Sequence<sal_Int8>& metafile
     return written(exporterOf(page().shape), "image/x-emf");
 }
 
-std::string_view bytesOf(const uno::Sequence<sal_Int8>& metafile) {
-    return {reinterpret_cast<const char*>(metafile.getConstArray()),
-            static_cast<std::size_t>(metafile.getLength())};
-}
-
 }  // namespace libreoffice::excel

@@ -9,7 +9,6 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <string_view>
 
 #include "office/libreoffice/connection.h"
 #include "office/libreoffice/private_folder.h"
@@ -101,7 +100,5 @@ struct ChartLook {
 
 /// Whether it covers all of its area.
 [[nodiscard]] bool isOpaque(const ChartLook& chart);
-
-[[nodiscard]] std::string_view bytesOf(const uno::Sequence<sal_Int8>& metafile);
 
 }  // namespace libreoffice::excel

@@ -369,8 +369,7 @@ TableLook tableOfCells(SheetRecord& sheet, const uno::Reference<css::table::XCel
     // What may take its time goes before the cells are selected, where a user may be typing.
     const DressedCells dressed(sheet, block, conditions);
     const uno::Sequence<sal_Int8> copy = htmlOf(sheet, cells, block);
-    const CellsAsHtml html = readCellsAsHtml({reinterpret_cast<const char*>(copy.getConstArray()),
-                                              static_cast<std::size_t>(copy.getLength())});
+    const CellsAsHtml html = readCellsAsHtml(bytesOf(copy));
 
     TableLook table;
     const auto [corner, size] = placeOf(cells);
