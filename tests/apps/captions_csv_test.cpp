@@ -58,6 +58,8 @@ TEST(Captions, AFileThatDoesNotFitIsRefusedWithItsLine) {
         {"a\n\"b", "c.csv, line 2: a double quote is never closed."},
         {"\"a\"b", "c.csv, line 1: text follows a closing double quote."},
         {"a\nb\nGr\xF6\xDF", "c.csv, line 3: this is not UTF-8."},
+        {"a\rb\r\nGr\xF6\xDF", "c.csv, line 3: this is not UTF-8."},
+        {"item,caption\r\"Over\rview\",\r,B\r", "line 4: the item has no name"},
         {"\xC0\xAF", notUtf8},
         {"\xED\xA0\x80", notUtf8},
         {"\xE2\x82", notUtf8}};

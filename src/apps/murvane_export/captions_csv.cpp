@@ -17,9 +17,17 @@ namespace {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
+/// Whether a line ends at this place: by a line feed, or by a carriage return that none follows.
+bool endsLine(std::string_view text, std::size_t at) {
+    return text[at] == '\n' || (text[at] == '\r' && !text.substr(at + 1).starts_with('\n'));
+}
+
 std::size_t lineAt(std::string_view text, std::size_t position) {
-    return 1 + static_cast<std::size_t>(std::count(
-                   text.begin(), text.begin() + static_cast<std::ptrdiff_t>(position), '\n'));
+    std::size_t line = 1;
+    for (std::size_t at = 0; at < position; ++at) {
+        if (endsLine(text, at)) ++line;
+    }
+    return line;
 }
 
 char separatorOf(std::string_view text) {
@@ -77,7 +85,7 @@ private:
                 ++at_;
                 if (at_ == text_.size() || text_[at_] != '"') break;
             }
-            if (text_[at_] == '\n') ++line_;
+            if (endsLine(text_, at_)) ++line_;
             field += text_[at_];
         }
         if (at_ < text_.size() && !endsField(text_[at_])) {
