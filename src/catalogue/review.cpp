@@ -126,7 +126,7 @@ ReviewTexts reviewExport(session::OfficeSession& session, const ExportList& list
     reviewItems(session, list, objects, texts);
     for (const ExportChoices& choices : exports) {
         if (choices.destination == Destination::PowerPoint)
-            reviewPowerPoint(session, list, choices, texts.Blockers);
+            reviewPowerPoint(session, list, objects, choices, texts.Blockers);
         else if (choices.destination == Destination::Word)
             reviewWord(session, texts.Blockers);
     }

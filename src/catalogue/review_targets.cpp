@@ -60,13 +60,13 @@ bool reviewSlideNumber(const ExportItem& row, std::int32_t slides, Lines& blocke
     return true;
 }
 
-void reviewSlideNumbers(session::OfficeSession& session, const ExportList& list, Lines& blockers) {
+void reviewSlideNumbers(session::OfficeSession& session, const ExportList& list,
+                        RowObjects& objects, Lines& blockers) {
     const Count slides = slideCount(session);
     if (!slides) {
         blockers.emplace_back("Could not read the open PowerPoint presentation.");
         return;
     }
-    RowObjects objects(session);
     bool anyValid = false;
     for (const ExportItem& row : list.rows) {
         if (!objects.isExportable(row)) continue;
@@ -95,7 +95,7 @@ void AddReviewItem(Lines& reviewItems, std::string line) {
         reviewItems.push_back(std::move(line));
 }
 
-void reviewPowerPoint(session::OfficeSession& session, const ExportList& list,
+void reviewPowerPoint(session::OfficeSession& session, const ExportList& list, RowObjects& objects,
                       const ExportChoices& choices, Lines& blockers) {
     const Count presentations = attachAndCount(session);
     if (!presentations) {
@@ -118,7 +118,7 @@ void reviewPowerPoint(session::OfficeSession& session, const ExportList& list,
             "another name, then try again.");
         return;
     }
-    if (choices.predefinedSlides) reviewSlideNumbers(session, list, blockers);
+    if (choices.predefinedSlides) reviewSlideNumbers(session, list, objects, blockers);
 }
 
 void reviewFormat(session::OfficeSession& session, const std::vector<office::PasteItem>& items,

@@ -5,6 +5,7 @@
 
 #include "catalogue/export_list.h"
 #include "catalogue/review.h"
+#include "catalogue/row_objects.h"
 #include "session/office_session.h"
 
 /// What a review finds in the applications that the items go to.
@@ -15,7 +16,7 @@ void AddReviewItem(std::vector<std::string>& reviewItems, std::string line);
 
 /// What keeps an export to slides from running: PowerPoint, its presentation and, where slides are
 /// predefined, the slide numbers of the rows on visible sheets.
-void reviewPowerPoint(session::OfficeSession& session, const ExportList& list,
+void reviewPowerPoint(session::OfficeSession& session, const ExportList& list, RowObjects& objects,
                       const ExportChoices& choices, std::vector<std::string>& blockers);
 
 /// What keeps an export to Word from running: Word and its document.
