@@ -110,7 +110,7 @@ void OpenedDocuments::openPresentation(const fs::path& file) {
         return session_.PowerPointApp.get("Presentations")
             .call("Open", arg("FileName", absolutePath(file)), arg("WithWindow", yes));
     });
-    takePresentation();
+    session_.SessionPresentation = presentation_;
 }
 
 void OpenedDocuments::newPresentation() {
@@ -118,10 +118,6 @@ void OpenedDocuments::newPresentation() {
     presentation_ =
         session_.PowerPointApp.get("Presentations").call("Add", arg("WithWindow", yes)).toObject();
     slidesAtFirst_ = presentation_.get("Slides").get("Count").toLong();
-    takePresentation();
-}
-
-void OpenedDocuments::takePresentation() {
     session_.SessionPresentation = presentation_;
 }
 

@@ -33,7 +33,6 @@ public:
     void removeFirstSlides();
 
 private:
-    void takePresentation();
     [[nodiscard]] office::Object wordDocuments();
 
     session::OfficeSession& session_;
