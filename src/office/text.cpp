@@ -64,6 +64,12 @@ char32_t codeOf(std::string_view bytes) {
     return code;
 }
 
+/// The parser of the library knows no plus.
+std::string_view withoutPlus(std::string_view number) {
+    const bool isPlain = number.starts_with('+') && !number.starts_with("+-");
+    return isPlain ? number.substr(1) : number;
+}
+
 }  // namespace
 
 std::string_view trim(std::string_view text) {
@@ -165,9 +171,9 @@ double leadingNumber(std::string_view text) {
         if (std::string_view("0123456789.eE+-").find(c) == std::string_view::npos) break;
         digits += c;
     }
-    const char* first = digits.data() + (digits.starts_with('+') ? 1 : 0);
+    const std::string_view read = withoutPlus(digits);
     double number = 0;
-    std::from_chars(first, digits.data() + digits.size(), number);
+    std::from_chars(read.data(), read.data() + read.size(), number);
     return number;
 }
 
@@ -199,8 +205,7 @@ std::string linkWord(std::string_view text) {
 }
 
 std::optional<double> numberOf(std::string_view text) {
-    std::string_view digits = trim(text);
-    if (digits.starts_with('+')) digits.remove_prefix(1);
+    const std::string_view digits = withoutPlus(trim(text));
     if (digits.empty() || digits.find_first_not_of("0123456789.eE+-") != std::string_view::npos)
         return std::nullopt;
     double number = 0;

@@ -12,14 +12,14 @@ TEST(Text, ReadsTheNumberThatATextBeginsWith) {
     const std::vector<std::pair<const char*, double>> cases = {
         {"12", 12},    {"12 px", 12},  {" 1 2", 12},  {"0.9", 0.9}, {"-.5x", -0.5},
         {"+3", 3},     {"1,5", 1},     {"abc", 0},    {"", 0},      {"inf", 0},
-        {"1e3", 1000}, {"Default", 0}, {"3 to 4", 3},
+        {"1e3", 1000}, {"Default", 0}, {"3 to 4", 3}, {"+-5", 0},
     };
     for (const auto& [text, number] : cases) EXPECT_EQ(office::leadingNumber(text), number) << text;
 }
 
 TEST(Text, TakesOnlyAWholeTextForANumber) {
     EXPECT_EQ(office::numberOf(" 12.5 "), 12.5);
-    for (const char* text : {"", " ", "12 px", "1,5", "1 2", "0x10", "nan", "--1"}) {
+    for (const char* text : {"", " ", "12 px", "1,5", "1 2", "0x10", "nan", "--1", "+-5"}) {
         EXPECT_FALSE(office::numberOf(text)) << text;
     }
 }

@@ -8,14 +8,14 @@
 
 namespace office::model {
 
-/// What an index of `Item` asks for: a place, counted from 1 by callers and from 0 here, or a name.
+/// What an index of `Item` asks for: a place, counted from 1, or a name.
 class ItemIndex {
 public:
     ItemIndex(const Value& index, std::string source);
 
     [[nodiscard]] bool isName() const { return isName_; }
     [[nodiscard]] const std::string& name() const { return name_; }
-    /// `Failure` 9 if the place is not below the count.
+    /// The same place counted from 0. `Failure` 9 if it is not below the count.
     [[nodiscard]] std::size_t placeBelow(std::size_t count) const;
     /// `Failure` 9: there is no such item.
     [[noreturn]] void fail() const;
