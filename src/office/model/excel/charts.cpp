@@ -108,7 +108,7 @@ private:
         // What is published by its cells asks for them just before.
         Publications& publications = book().publications();
         if (!publications.records.empty()) {
-            const PlacedCharts& placed = publications.placedCharts(sheet());
+            const PlacedCharts& placed = publications.placedCharts(home().sheet);
             if (const auto* known = placed.of(chart())) return cellsUnder(known->box, *placed.map);
         }
         return cellsUnder(chart().box(), *sheet().cellMap());

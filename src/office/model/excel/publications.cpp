@@ -27,19 +27,19 @@ const PlacedCharts::One* PlacedCharts::of(const SheetChart& chart) const {
     return found == charts.end() ? nullptr : &*found;
 }
 
-const PlacedCharts& Publications::placedCharts(Sheet& sheet) {
-    if (const auto known = placedCharts_.find(&sheet); known != placedCharts_.end())
+const PlacedCharts& Publications::placedCharts(const SheetPtr& sheet) {
+    if (const auto known = placedCharts_.find(sheet); known != placedCharts_.end())
         return known->second;
     PlacedCharts placed;
-    for (const SheetChartPtr& chart : sheet.charts())
+    for (const SheetChartPtr& chart : sheet->charts())
         placed.charts.push_back({chart, chart->name(), chart->box()});
-    placed.map = sheet.cellMap();
+    placed.map = sheet->cellMap();
     // One alone is as soon looked at when its turn comes.
     if (placed.charts.size() > 1) {
         const CellBlock block = cellsUnder(around(placed.charts), *placed.map);
-        if (sheet.cells(block)->areBlank()) placed.blankCells = block;
+        if (sheet->cells(block)->areBlank()) placed.blankCells = block;
     }
-    return placedCharts_.emplace(&sheet, std::move(placed)).first->second;
+    return placedCharts_.emplace(sheet, std::move(placed)).first->second;
 }
 
 }  // namespace office::model::excel

@@ -57,10 +57,10 @@ struct Publications {
     int lastPicture = 0;
     /// As they were seen first since there was no record: to ask for all of them for each record
     /// would take ever longer.
-    const PlacedCharts& placedCharts(Sheet& sheet);
+    const PlacedCharts& placedCharts(const SheetPtr& sheet);
     /// Places that showed nothing when they were published first since then: most are there to keep
     /// items apart, and are asked for again and again.
-    std::map<std::pair<const Sheet*, std::string>, TableLook> gaps;
+    std::map<std::pair<SheetPtr, std::string>, TableLook> gaps;
 
     /// What was seen goes with the last record.
     void remove(const PublicationPtr& record) {
@@ -71,7 +71,7 @@ struct Publications {
     }
 
 private:
-    std::map<const Sheet*, PlacedCharts> placedCharts_;
+    std::map<SheetPtr, PlacedCharts> placedCharts_;
 };
 
 }  // namespace office::model::excel

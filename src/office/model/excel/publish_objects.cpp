@@ -82,14 +82,14 @@ private:
 
     [[nodiscard]] std::string cellsMarkup(const InSheet& place) {
         auto& gaps = home_.book->publications().gaps;
-        const std::pair<const Sheet*, std::string> asked(place.sheet.get(), what_.place);
+        const std::pair asked(place.sheet, what_.place);
         if (const auto gap = gaps.find(asked); gap != gaps.end()) return itemOf(gap->second, {});
         const auto found = findCells(place, what_.place);
         if (!found) refuse(source_, fmt::format("There is no range \"{}\"", what_.place));
         if (found->blocks.size() > 1) refuse(source_, "Several areas can't be published");
         const auto block = drawnPart(found->blocks.front(), *found->home.sheet);
         if (!block) refuse(source_, "There is nothing in these rows or columns");
-        const PlacedCharts& placed = home_.book->publications().placedCharts(*found->home.sheet);
+        const PlacedCharts& placed = home_.book->publications().placedCharts(found->home.sheet);
         TableLook look = lookOf(found->home, *block, placed);
         look.leaveTextsToBars();
         std::vector<PagePicture> charts = chartsOn(found->home, placed, *block, look);
