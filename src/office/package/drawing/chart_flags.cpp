@@ -12,9 +12,10 @@ namespace office::package {
 namespace {
 
 struct Flag {
-    /// The element that has it, with the one around it where that matters: "ser" of a "lineChart".
+    /// The elements that have it, with those around them where that matters: "ser" of a
+    /// "lineChart".
     std::string_view around;
-    std::string_view parent;
+    std::string_view parents;
     std::string_view name;
     const char* standard;
     const char* excel2007;
@@ -30,52 +31,26 @@ constexpr auto flags = std::to_array<Flag>({
     {any, "chart", "plotVisOnly", on, off},
     {any, "chart", "dispBlanksAs", "zero", "gap"},
     {any, "chart", "showDLblsOverMax", on, off},
-    {any, "title", "overlay", off, off},
-    {any, "legend", "overlay", off, off},
+    {any, "title legend", "overlay", off, off},
     {any, "view3D", "rAngAx", on, off},
-    {any, "catAx", "delete", off, off},
-    {any, "catAx", "majorTickMark", "cross", "out"},
-    {any, "catAx", "minorTickMark", "cross", "none"},
-    {any, "catAx", "auto", on, off},
+    {any, "catAx dateAx valAx serAx", "delete", off, off},
+    {any, "catAx dateAx valAx serAx", "majorTickMark", "cross", "out"},
+    {any, "catAx dateAx valAx serAx", "minorTickMark", "cross", "none"},
+    {any, "catAx dateAx", "auto", on, off},
     {any, "catAx", "noMultiLvlLbl", on, off},
-    {any, "dateAx", "delete", off, off},
-    {any, "dateAx", "majorTickMark", "cross", "out"},
-    {any, "dateAx", "minorTickMark", "cross", "none"},
-    {any, "dateAx", "auto", on, off},
-    {any, "valAx", "delete", off, off},
-    {any, "valAx", "majorTickMark", "cross", "out"},
-    {any, "valAx", "minorTickMark", "cross", "none"},
-    {any, "serAx", "delete", off, off},
-    {any, "serAx", "majorTickMark", "cross", "out"},
-    {any, "serAx", "minorTickMark", "cross", "none"},
-    {any, "barChart", "grouping", "clustered", "standard"},
-    {any, "barChart", "varyColors", off, off},
-    {any, "bar3DChart", "grouping", "clustered", "standard"},
-    {any, "bar3DChart", "varyColors", off, off},
-    {any, "lineChart", "varyColors", off, off},
+    {any, "barChart bar3DChart", "grouping", "clustered", "standard"},
+    {any,
+     "barChart bar3DChart lineChart line3DChart areaChart area3DChart radarChart scatterChart "
+     "bubbleChart",
+     "varyColors", off, off},
     {any, "lineChart", "marker", on, off},
-    {any, "line3DChart", "varyColors", off, off},
-    {any, "areaChart", "varyColors", off, off},
-    {any, "area3DChart", "varyColors", off, off},
-    {any, "pieChart", "varyColors", on, off},
-    {any, "pie3DChart", "varyColors", on, off},
-    {any, "doughnutChart", "varyColors", on, off},
-    {any, "ofPieChart", "varyColors", on, off},
-    {any, "radarChart", "varyColors", off, off},
-    {any, "scatterChart", "varyColors", off, off},
-    {any, "bubbleChart", "varyColors", off, off},
+    {any, "pieChart pie3DChart doughnutChart ofPieChart", "varyColors", on, off},
     {any, "bubbleChart", "bubble3D", on, off},
     {any, "bubbleChart", "showNegBubbles", on, off},
-    {any, "surfaceChart", "wireframe", on, off},
-    {any, "surface3DChart", "wireframe", on, off},
-    {"barChart", "ser", "invertIfNegative", on, off},
-    {"bar3DChart", "ser", "invertIfNegative", on, off},
-    {"bubbleChart", "ser", "invertIfNegative", on, off},
+    {any, "surfaceChart surface3DChart", "wireframe", on, off},
+    {"barChart bar3DChart bubbleChart", "ser", "invertIfNegative", on, off},
     {"bubbleChart", "ser", "bubble3D", on, off},
-    {"lineChart", "ser", "smooth", on, off},
-    {"line3DChart", "ser", "smooth", on, off},
-    {"stockChart", "ser", "smooth", on, off},
-    {"scatterChart", "ser", "smooth", on, off},
+    {"lineChart line3DChart stockChart scatterChart", "ser", "smooth", on, off},
     {any, "dPt", "invertIfNegative", on, off},
     {any, "errBars", "noEndCap", on, off},
     {any, "trendline", "dispRSqr", on, off},
@@ -141,8 +116,8 @@ void writeOwnFlags(pugi::xml_node node, FlagDefaults defaults) {
     if (name == "dLbls" || name == "dLbl") writeLabelFlags(node, defaults);
     if (name == "dLbls" && childCalled(node, "delete")) return;
     for (const Flag& flag : flags) {
-        if (flag.parent != name) continue;
-        if (!flag.around.empty() && flag.around != localName(node.parent())) continue;
+        if (!isListed(flag.parents, name)) continue;
+        if (!flag.around.empty() && !isListed(flag.around, localName(node.parent()))) continue;
         write(node, flag.name,
               defaults == FlagDefaults::Excel2007 ? flag.excel2007 : flag.standard);
     }
