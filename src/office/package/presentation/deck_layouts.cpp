@@ -98,7 +98,7 @@ std::vector<Placeholder> DeckLayouts::contentOf(const std::string& layout) {
     std::vector<Placeholder> found;
     for (const pugi::xml_node shape : shapeTreeOf(page(layout)).children()) {
         const auto placeholder = placeholderOf(shape);
-        if (placeholder && !placeholder->isFurniture()) found.push_back(*placeholder);
+        if (placeholder && !placeholder->isFoot()) found.push_back(*placeholder);
     }
     return found;
 }

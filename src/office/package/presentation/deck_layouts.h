@@ -22,7 +22,7 @@ struct Placeholder {
 
     [[nodiscard]] bool isTitle() const { return type == "title" || type == "ctrTitle"; }
     /// Date, footer, number: what a new slide does without.
-    [[nodiscard]] bool isFurniture() const {
+    [[nodiscard]] bool isFoot() const {
         return type == "dt" || type == "ftr" || type == "sldNum" || type == "hdr";
     }
 };

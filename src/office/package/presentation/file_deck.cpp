@@ -192,7 +192,7 @@ powerpoint::DeckSlidePtr FileDeck::addSlide(std::int32_t place, std::int32_t lay
     auto slide = std::make_shared<FileSlide>(*this, part, relationship, id);
     slides_.insert(slides_.begin() + (place - 1), slide);
     slide->makePlaceholders(layout);
-    if (neighbour) slide->takeFurnitureOf(*neighbour);
+    if (neighbour) slide->takeFootOf(*neighbour);
     noteUse(slide);
     return slide;
 }

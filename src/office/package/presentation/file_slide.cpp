@@ -198,10 +198,10 @@ FileShapePtr FileSlide::nameShape(std::string_view kind, pugi::xml_node element)
     return shapes_.back();
 }
 
-void FileSlide::takeFurnitureOf(FileSlide& other) {
+void FileSlide::takeFootOf(FileSlide& other) {
     for (const FileShapePtr& shape : other.shapes()) {
         const auto kind = shape->placeholder();
-        if (!kind || !kind->isFurniture() || !isNamed(shape->element(), ns::presentation, "sp"))
+        if (!kind || !kind->isFoot() || !isNamed(shape->element(), ns::presentation, "sp"))
             continue;
         const auto place = deck_.layouts().placeFor(*kind, layoutPart());
         if (!place) continue;

@@ -33,7 +33,7 @@ public:
     void makePlaceholders(std::int32_t layout);
     /// Date, footer and number, as another slide shows them, where the own layout has a place for
     /// them.
-    void takeFurnitureOf(FileSlide& other);
+    void takeFootOf(FileSlide& other);
     void removeShape(FileShape& shape);
     void touch() { isChanged_ = true; }
     void markGone();
