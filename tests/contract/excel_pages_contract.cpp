@@ -1,21 +1,17 @@
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include "contract/contract_test.h"
+#include "support/vector_file.h"
 
 namespace contract {
 
 namespace {
 
+using support::textOf;
+
 constexpr std::int32_t aRange = 4;
 constexpr std::int32_t aChart = 5;
-
-std::string read(const std::string& file) {
-    std::ostringstream text;
-    text << std::ifstream(file, std::ios::binary).rdbuf();
-    return text.str();
-}
 
 TEST_F(ExcelContract, PublishesRangesAndChartsToAPageThatGrowsAtItsEnd) {
     const std::string file = environment().temporaryFile("page.html");
@@ -31,7 +27,7 @@ TEST_F(ExcelContract, PublishesRangesAndChartsToAPageThatGrowsAtItsEnd) {
     first.call("Publish", true);
     second.call("Publish", false);
     second.put("AutoRepublish", false);
-    const std::string page = read(file);
+    const std::string page = textOf(file);
     EXPECT_TRUE(page.starts_with("<!DOCTYPE html>") && page.ends_with("</body>\n</html>\n"));
     const std::size_t title = page.find("<h2>2026 &lt;draft&gt;</h2>");
     EXPECT_LT(title, page.find("Item 2"));
@@ -39,8 +35,8 @@ TEST_F(ExcelContract, PublishesRangesAndChartsToAPageThatGrowsAtItsEnd) {
     EXPECT_TRUE(std::filesystem::exists(std::filesystem::path(file).parent_path() / "page_files" /
                                         "image001.png"));
     third.call("Publish", true);
-    EXPECT_EQ(read(file).find("Item 2"), std::string::npos) << "made anew";
-    EXPECT_NE(read(file).find("image002.png"), std::string::npos) << "the first is still there";
+    EXPECT_EQ(textOf(file).find("Item 2"), std::string::npos) << "made anew";
+    EXPECT_NE(textOf(file).find("image002.png"), std::string::npos) << "the first is still there";
     EXPECT_EQ(book.get("Saved").toBool(), wasSaved);
     first.call("Delete");
     EXPECT_EQ(records.get("Count").toLong(), 2);
@@ -67,7 +63,7 @@ TEST_F(ExcelContract, RefusesToPublishWhatIsNotThere) {
     std::ofstream(other) << "no page";
     const Value record = records.call("Add", aRange, other, "Sales", "A1", 0, "", "");
     EXPECT_EQ(failureOf([&] { record.call("Publish", false); }), refused);
-    EXPECT_EQ(read(other), "no page");
+    EXPECT_EQ(textOf(other), "no page");
     record.call("Delete");
     const Value nowhere =
         records.call("Add", aRange, "/nowhere/at/all.html", "Sales", "A1", 0, "", "");

@@ -64,12 +64,12 @@ public:
                                        const std::vector<office::PasteItem>& items) override;
     /// What the suite says of each item that is to be pasted in this form.
     void remarkOn(office::PasteAs as, std::string remark) { remarks_[as] = std::move(remark); }
-    /// Presentations have windows with captions such as "Deck.pptx - PowerPoint" and the class
-    /// "PPTFrameClass".
     std::unique_ptr<office::HeldDocument> hold(std::string_view className,
                                                const std::string& fullName) override;
     /// Somebody closes the documents of that name, and waits.
     void close(const std::string& fullName) { closing_.insert(fullName); }
+    /// Presentations have windows with captions such as "Deck.pptx - PowerPoint" and the class
+    /// "PPTFrameClass".
     office::WindowHandle findWindow(std::string_view className, std::string_view caption) override;
     bool raiseWindow(office::WindowHandle window) override;
     bool lockDrawing(office::WindowHandle window) override;

@@ -7,7 +7,7 @@
 namespace {
 
 using office::Value;
-using office_double::Box;
+using office::model::excel::Box;
 using office_double::Shape;
 using stage::ExportStage;
 

@@ -6,9 +6,6 @@ namespace office::drawing {
 
 namespace {
 
-template <class Kind>
-using Owned = std::unique_ptr<Kind, ReleasedBy<&g_object_unref>>;
-
 /// Large enough for widths that no hint of a font changes.
 constexpr double measuredSize = 1000;
 

@@ -11,8 +11,6 @@ namespace office::drawing {
 
 namespace {
 
-template <class Kind>
-using Owned = std::unique_ptr<Kind, ReleasedBy<&g_object_unref>>;
 using Metrics = std::unique_ptr<PangoFontMetrics, ReleasedBy<&pango_font_metrics_unref>>;
 using Options = std::unique_ptr<cairo_font_options_t, ReleasedBy<&cairo_font_options_destroy>>;
 

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <glib-object.h>
+
+#include <memory>
+
 namespace office::drawing {
 
 /// What a `std::unique_ptr` lets go of an object with that a C library counts or frees itself.
@@ -10,5 +14,9 @@ struct ReleasedBy {
         release(held);
     }
 };
+
+/// An object of GLib's, held once.
+template <class Kind>
+using Owned = std::unique_ptr<Kind, ReleasedBy<&g_object_unref>>;
 
 }  // namespace office::drawing

@@ -8,12 +8,12 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "office/failure.h"
+#include "office/files.h"
 
 namespace libreoffice {
 
@@ -59,11 +59,6 @@ constexpr std::string_view settings = R"(<?xml version="1.0" encoding="UTF-8"?>
 </oor:items>
 )";
 
-std::string contentOf(const std::filesystem::path& path) {
-    std::ifstream file(path);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 /// A folder that is new, or that a version with other settings has left, gets these, whole or not
 /// at all; the suite keeps them when it writes its own beside them.
 bool prepare(const std::filesystem::path& folder) {
@@ -71,7 +66,7 @@ bool prepare(const std::filesystem::path& folder) {
     const std::filesystem::path given = folder / "user/settings.given";
     const std::filesystem::path draft = folder / "user/settings.draft";
     std::error_code error;
-    if (std::filesystem::exists(file, error) && contentOf(given) == settings) return true;
+    if (std::filesystem::exists(file, error) && office::bytesOf(given) == settings) return true;
     std::filesystem::create_directories(file.parent_path(), error);
     const auto write = [](const std::filesystem::path& path) {
         std::ofstream written(path);
@@ -96,7 +91,8 @@ bool prepare(const std::filesystem::path& folder) {
 std::optional<Profile> Profile::acquireIn(const std::filesystem::path& parent) {
     std::error_code error;
     std::filesystem::create_directories(parent, error);
-    for (int number = 1; isOurs(parent) && number <= mostAtATime; ++number) {
+    if (!isOurs(parent)) return std::nullopt;
+    for (int number = 1; number <= mostAtATime; ++number) {
         const std::string folder = (parent / fmt::format("suite-{}", number)).string();
         const std::string lockFile = folder + ".lock";
         const int lock =

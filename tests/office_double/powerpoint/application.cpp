@@ -7,13 +7,13 @@
 
 namespace office_double {
 
-Box Shape::box() const {
+excel::Box Shape::box() const {
     const auto [left, top] = part->corner();
     const auto [width, height] = part->size();
     return {left, top, width, height};
 }
 
-Shape Slide::addPicture(const Box& box) const {
+Shape Slide::addPicture(const excel::Box& box) const {
     static const support::TemporaryFolder folder;
     const std::string file = folder.file("picture.png");
     support::writeBytes(file, support::pngPictureOfPoints(24, 15));

@@ -8,7 +8,7 @@
 
 #include "office/model/powerpoint/objects.h"
 #include "office/package/presentation/file_decks.h"
-#include "office_double/box.h"
+#include "office_double/excel/picture.h"
 #include "office_double/suite_state.h"
 #include "support/package_edit.h"
 
@@ -23,7 +23,7 @@ struct Shape {
     model::DeckShapePtr part;
 
     [[nodiscard]] office::Object handle() const { return model::shapeObject(home, part); }
-    [[nodiscard]] Box box() const;
+    [[nodiscard]] excel::Box box() const;
     [[nodiscard]] bool isPicture() const { return part->textFrame() == nullptr; }
     [[nodiscard]] std::string text() const { return part->textFrame()->words(); }
     [[nodiscard]] std::string alternativeText() const { return part->alternativeText(); }
@@ -34,7 +34,7 @@ struct Slide {
     model::InDeck home;
     model::DeckSlidePtr part;
 
-    [[nodiscard]] Shape addPicture(const Box& box) const;
+    [[nodiscard]] Shape addPicture(const excel::Box& box) const;
     [[nodiscard]] std::vector<Shape> shapes() const;
     [[nodiscard]] Shape title() const { return {home, part->titleShape()}; }
 };

@@ -96,14 +96,16 @@ const MemberTable<Range>& Range::members() {
             .property(
                 "NumberFormat", [](Self& self) { return self.cells().numberFormat(); },
                 [](Self& self, const Value& code) {
-                    self.change("Range.NumberFormat",
-                                [&](Cells& cells) { cells.setNumberFormat(code.toText()); });
+                    self.change("Range.NumberFormat", [&](Cells& cells, const CellBlock&) {
+                        cells.setNumberFormat(code.toText());
+                    });
                 })
             .property("Width", [](Self& self) { return self.cells().place().width; })
             .property("Height", [](Self& self) { return self.cells().place().height; })
             .method("ClearContents", {},
                     [](Self& self, const CallArguments& arguments) {
-                        self.change(arguments.source(), [](Cells& cells) { cells.clear(); });
+                        self.change(arguments.source(),
+                                    [](Cells& cells, const CellBlock&) { cells.clear(); });
                     })
             .method("Select", {}, &Self::select)
             .method("Copy", {},
@@ -147,15 +149,14 @@ template <class Change>
 void Range::change(const std::string& source, Change change) {
     requireThere(home(), source);
     if (sheet().isProtected()) refuse(source, "The sheet is protected");
-    change(cells());
-    for (std::size_t i = 1; i < blocks_.size(); ++i) change(*sheet().cells(blocks_[i]));
+    change(cells(), first());
+    for (std::size_t i = 1; i < blocks_.size(); ++i) change(*sheet().cells(blocks_[i]), blocks_[i]);
 }
 
 void Range::setValue(const Value& value) {
     for (const CellBlock& block : blocks_) requireMovable(block, "Range.Value");
-    std::size_t place = 0;
-    change("Range.Value", [&](Cells& cells) {
-        const Table table = tableFor(value, blocks_[place++]);
+    change("Range.Value", [&](Cells& cells, const CellBlock& block) {
+        const Table table = tableFor(value, block);
         if (table.rows() > 0 && table.columns() > 0) cells.write(table);
     });
 }

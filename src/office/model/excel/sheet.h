@@ -63,7 +63,6 @@ public:
     /// The block that holds something; the first cell if nothing does.
     virtual CellBlock used() = 0;
     virtual std::unique_ptr<CellMap> cellMap() = 0;
-    [[nodiscard]] CellBlock cellAt(double left, double top) { return cellMap()->cellAt(left, top); }
     virtual void select(const CellBlocks& blocks) = 0;
 
     /// In the order in which they lie upon each other.

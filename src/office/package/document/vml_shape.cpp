@@ -25,8 +25,8 @@ std::string_view withoutBlanks(std::string_view text) {
 /// What a shape says of itself: "width:120pt;height:2in".
 class VmlStyle {
 public:
-    explicit VmlStyle(pugi::xml_node shape) : attribute_(attributeFor(shape, "style")) {
-        std::string_view rest = attribute_.value();
+    explicit VmlStyle(pugi::xml_node shape) : shape_(shape) {
+        std::string_view rest = shape.attribute("style").value();
         while (!rest.empty()) {
             const std::size_t end = std::min(rest.find(';'), rest.size());
             const std::string_view one = rest.substr(0, end);
@@ -50,11 +50,11 @@ public:
         std::string text;
         for (const auto& [key, said] : all_)
             text += fmt::format("{}{}:{}", text.empty() ? "" : ";", key, said);
-        attribute_.set_value(text.c_str());
+        attributeFor(shape_, "style").set_value(text.c_str());
     }
 
 private:
-    pugi::xml_attribute attribute_;
+    pugi::xml_node shape_;
     std::vector<std::pair<std::string, std::string>> all_;
 };
 
@@ -79,11 +79,10 @@ pugi::xml_node vmlShapeIn(pugi::xml_node holder) {
 }
 
 bool floats(pugi::xml_node vmlShape) {
-    return vmlShape.attribute("style") && VmlStyle(vmlShape).at("position") == "absolute";
+    return VmlStyle(vmlShape).at("position") == "absolute";
 }
 
 Size sizeOf(pugi::xml_node vmlShape) {
-    if (!vmlShape.attribute("style")) return {};
     const VmlStyle style(vmlShape);
     return {pointsIn(style.at("width")), pointsIn(style.at("height"))};
 }
