@@ -7,6 +7,7 @@
 
 #include "office/failure.h"
 #include "office/libreoffice/excel/calc_document.h"
+#include "office/libreoffice/objects/drawn_chart.h"
 #include "office/libreoffice/objects/sheet_copy.h"
 
 namespace libreoffice::objects {
@@ -63,9 +64,11 @@ const excel::CopiedHere& copiedHere(const office::Copied& copied, const char* me
 }
 
 void storeChart(NewObject& object, const excel::CopiedChart& chart) {
-    const auto model = property<uno::Reference<uno::XInterface>>(chart.shape(), "Model");
-    as<css::document::XStorageBasedDocument>(model)->storeToStorage(
-        object.folder(), propertyValues({{"FilterName", uno::Any(rtl::OUString("chart8"))}}));
+    const DrawnChart drawn(
+        property<uno::Reference<css::chart2::XChartDocument>>(chart.shape(), "Model"));
+    as<css::document::XStorageBasedDocument>(drawn.model())
+        ->storeToStorage(object.folder(),
+                         propertyValues({{"FilterName", uno::Any(rtl::OUString("chart8"))}}));
     object.close();
 }
 
