@@ -56,8 +56,9 @@ bool localeIsUtf8() {
 
 std::vector<std::string> environmentFor(const Profile& profile) {
     // With a local display, or none, the suite tries out its drawing for a second on a new profile.
+    // What draws on the user's desktop may need one, and end the suite without.
     std::vector<std::string> variables = {"TMPDIR=" + temporaryFolder(profile).string(),
-                                          "DISPLAY=none"};
+                                          "DISPLAY=none", "SAL_USE_VCLPLUGIN=svp"};
     // In another one, as services and cron have it, the suite opens no file with an umlaut.
     if (!localeIsUtf8()) variables.emplace_back("LC_ALL=C.UTF-8");
     return variables;
