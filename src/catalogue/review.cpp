@@ -9,6 +9,7 @@
 #include "catalogue/review_targets.h"
 #include "catalogue/row_objects.h"
 #include "office/failure_patterns.h"
+#include "office/item_remarks.h"
 #include "panels/notices.h"
 
 namespace catalogue {
@@ -19,67 +20,74 @@ bool isOpen(const office::Object& book) {
     return office::orElse([&] { return !book.get("Name").isBlank(); }, false);
 }
 
-/// What becomes of the rows that are checked.
-struct CheckedCounts {
-    std::int32_t all = 0;
-    std::int32_t exportable = 0;
-    std::int32_t sheetsGone = 0;
-    std::int32_t gone = 0;
+using Names = std::vector<std::string>;
 
-    [[nodiscard]] std::int32_t hidden() const { return all - exportable - sheetsGone - gone; }
+/// What becomes of the rows that are checked.
+struct CheckedRows {
+    std::size_t all = 0;
+    std::size_t exportable = 0;
+    Names onGoneSheets;
+    Names gone;
+
+    [[nodiscard]] std::size_t countGone() const { return onGoneSheets.size() + gone.size(); }
+    [[nodiscard]] std::size_t countHidden() const { return all - exportable - countGone(); }
 };
 
-CheckedCounts countChecked(const ExportList& list, RowObjects& objects) {
-    CheckedCounts checked;
+CheckedRows checkedRows(const ExportList& list, RowObjects& objects) {
+    CheckedRows checked;
     for (const ExportItem& row : list.rows) {
         if (!row.checked) continue;
         ++checked.all;
         if (objects.isExportable(row)) ++checked.exportable;
-        if (objects.isSheetGone(row)) ++checked.sheetsGone;
-        if (objects.isItemGone(row)) ++checked.gone;
+        const auto name = [&] {
+            return fmt::format("\"{}\" of sheet \"{}\"", row.shownName(), row.sheet);
+        };
+        if (objects.isSheetGone(row)) checked.onGoneSheets.push_back(name());
+        if (objects.isItemGone(row)) checked.gone.push_back(name());
     }
     return checked;
 }
 
-void reviewChecked(session::OfficeSession& session, const CheckedCounts& checked,
+void reviewChecked(session::OfficeSession& session, const CheckedRows& checked,
                    ReviewTexts& texts) {
-    const auto& [all, exportable, sheetsGone, gone] = checked;
-    const auto tellSkipped = [&](std::int32_t count, const char* why) {
+    const auto tellSkipped = [&](std::size_t count, const char* why, const Names& names = {}) {
         if (count == 0) return;
         AddReviewItem(texts.ReviewItems,
-                      fmt::format("{} checked item(s) are {}{}.", count, why,
-                                  checked.exportable > 0 ? " and will be skipped" : ""));
+                      fmt::format("{} checked item(s) are {}{}{}{}.", count, why,
+                                  checked.exportable > 0 ? " and will be skipped" : "",
+                                  names.empty() ? "" : ": ", office::enumerated(names)));
     };
-    if (exportable == 0 && !isOpen(session.ActiveBook)) {
+    if (checked.exportable == 0 && !isOpen(session.ActiveBook)) {
         texts.Blockers.emplace_back(
             "The workbook is no longer open. Open it again and start anew.");
-    } else if (sheetsGone == all) {
+    } else if (checked.onGoneSheets.size() == checked.all) {
         texts.Blockers.emplace_back(
             "The sheets of all checked items are no longer in the workbook. They may have "
             "been renamed: check the items under the new names.");
-    } else if (gone + sheetsGone == all) {
+    } else if (checked.countGone() == checked.all) {
         texts.Blockers.emplace_back(
             "The checked items are no longer in the workbook. They may have been renamed: check "
             "the items under the new names.");
     } else {
-        if (exportable > 0) {
-            tellSkipped(checked.hidden(), "on hidden worksheets");
-        } else if (gone > 0) {
+        if (checked.exportable > 0) {
+            tellSkipped(checked.countHidden(), "on hidden worksheets");
+        } else if (!checked.gone.empty()) {
             texts.Blockers.emplace_back("None of the checked items can be exported.");
-            tellSkipped(checked.hidden(), "on hidden worksheets");
+            tellSkipped(checked.countHidden(), "on hidden worksheets");
         } else {
             texts.Blockers.emplace_back(
                 "All checked items are on hidden worksheets and cannot be exported. Show those "
                 "sheets or uncheck them.");
         }
-        tellSkipped(sheetsGone, "on sheets that are no longer in the workbook");
-        tellSkipped(gone, "no longer in the workbook");
+        tellSkipped(checked.onGoneSheets.size(), "on sheets that are no longer in the workbook",
+                    checked.onGoneSheets);
+        tellSkipped(checked.gone.size(), "no longer in the workbook", checked.gone);
     }
 }
 
 void reviewItems(session::OfficeSession& session, const ExportList& list, RowObjects& objects,
                  ReviewTexts& texts) {
-    const CheckedCounts checked = countChecked(list, objects);
+    const CheckedRows checked = checkedRows(list, objects);
     if (checked.all == 0) {
         texts.Blockers.emplace_back(
             "No items are checked. Select at least one chart, range, or object to export.");

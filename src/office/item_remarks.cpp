@@ -13,7 +13,8 @@ std::string shownName(const PasteItem& item) {
     return fmt::format("\"{}\" on sheet \"{}\"", item.name, item.source.sheet);
 }
 
-/// The first few of many, which is enough to know which they are.
+}  // namespace
+
 std::string enumerated(const std::vector<std::string>& names) {
     constexpr std::size_t most = 10;
     const std::size_t shown = names.size() > most ? most - 1 : names.size();
@@ -24,8 +25,6 @@ std::string enumerated(const std::vector<std::string>& names) {
     }
     return names.size() > shown ? fmt::format("{} and {} more", text, names.size() - shown) : text;
 }
-
-}  // namespace
 
 void ItemRemarks::add(const Text& text, const PasteItem& item) {
     auto known = std::find_if(names_.begin(), names_.end(),

@@ -9,6 +9,9 @@
 
 namespace office {
 
+/// The first few of many names, which is enough to know which they are.
+[[nodiscard]] std::string enumerated(const std::vector<std::string>& names);
+
 /// What has to be said about items, one line for all of which the same holds.
 class ItemRemarks {
 public:

@@ -75,8 +75,9 @@ TEST_F(Review, CollectsTheBlockersOfItemsAndDestination) {
     list.rows.back() = row("Chart 2", "Hidden", session::ItemKind::Chart);
     const auto texts = catalogue::reviewExport(test.session, list, {choices});
     EXPECT_TRUE(texts.Blockers[0].starts_with("All checked items are on hidden worksheets"));
-    EXPECT_EQ(texts.ReviewItems, Words{"1 checked item(s) are on sheets that are no longer in the "
-                                       "workbook."});
+    EXPECT_EQ(texts.ReviewItems,
+              Words{"1 checked item(s) are on sheets that are no longer in the workbook: "
+                    "\"Chart 2\" of sheet \"Renamed\"."});
     const auto book = test.session.ActiveBook;
     test.session.ActiveBook.release();
     EXPECT_EQ(blockers(), Words{"The workbook is no longer open. Open it again and start anew."});
@@ -132,8 +133,9 @@ TEST_F(Review, AsksWhetherToGoOnWithoutTheHiddenItems) {
     EXPECT_EQ(test.notices.shown.front().message,
               "- 1 checked item(s) are on hidden worksheets and will be skipped.\r\n"
               "- 1 checked item(s) are on sheets that are no longer in the workbook and will be "
-              "skipped.\r\n"
-              "- 1 checked item(s) are no longer in the workbook and will be skipped."
+              "skipped: \"Chart 3\" of sheet \"Renamed\".\r\n"
+              "- 1 checked item(s) are no longer in the workbook and will be skipped: "
+              "\"Chart 9\" of sheet \"Sales\"."
               "\r\n\r\n\r\nContinue anyway?");
 }
 
