@@ -258,18 +258,20 @@ TEST_F(DocumentPaste, LeavesNothingWhereTheStylesCantBeRead) {
 /// Neither a list of styles nor a paragraph behind the table is needed before somebody uses it.
 TEST_F(DocumentPaste, AddsNothingBesideThePicture) {
     Package package = support::emptyDocument();
-    support::edit(package, textPart, "<w:p/>", "<w:p/><w:tbl/>");
+    support::edit(package, textPart, "<w:p/>",
+                  "<w:p/><w:tbl><w:tblPr/><w:tblGrid><w:gridCol w:w=\"900\"/></w:tblGrid>"
+                  "<w:tr><w:tc><w:p/></w:tc></w:tr></w:tbl>");
     Relationships& relationships = package.relationshipsOf(textPart);
     relationships.remove(relationships.ofType("styles")->id);
     package.remove("/word/styles.xml");
     const auto document = documents->add(std::move(package), "", "Document");
     document->paste(CopiedDouble({Kind::Picture, "", "", "", ""}, 240, 150), PasteAs::Default,
                     Anchoring::Inline);
-    EXPECT_EQ(read(*document), std::vector<std::string>{"*"});
+    EXPECT_EQ(read(*document), (std::vector<std::string>{"*", ""}));
     EXPECT_EQ(document->package().partOfType(textPart, "styles"), "");
     document->insertCaption({"Figure", ""});
     EXPECT_NE(document->package().partOfType(textPart, "styles"), "");
-    EXPECT_EQ(read(*saved(*document)), (std::vector<std::string>{"*", "Caption:Figure 1"}));
+    EXPECT_EQ(read(*saved(*document)), (std::vector<std::string>{"*", "Caption:Figure 1", ""}));
 }
 
 TEST_F(DocumentPaste, GivesPicturesAndChartsAShadow) {
