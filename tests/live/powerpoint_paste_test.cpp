@@ -194,23 +194,26 @@ TEST_F(PasteLive, MakesChartsAndWorkbooksThatHoldTheirData) {
 
 /// The middle one of three series stands in a hidden row.
 TEST_F(PasteLive, GivesEachSeriesOfAChartItsOwnValues) {
-    excelApp.get("Workbooks")
-        .call("Open", copyOf(MURVANE_TEST_BOOKS, "hidden_series.xlsx"))
-        .get("Sheets")
-        .get("Item", "Data")
-        .call("ChartObjects", 1)
-        .get("Chart")
-        .get("ChartArea")
-        .call("Copy");
-    slide(deck, 3).get("Shapes").call("PasteSpecial", 0);
-    const auto native = property<uno::Reference<css::chart2::XChartDocument>>(lastShape(), "Model");
-    const auto used = as<css::chart2::data::XDataReceiver>(native)->getUsedData();
-    std::vector<uno::Any> firsts;
-    for (const auto& sequence : used->getDataSequences()) {
-        const auto values = sequence->getValues()->getData();
-        if (values.hasElements() && values[0].has<double>()) firsts.push_back(values[0]);
+    const Value charts = excelApp.get("Workbooks")
+                             .call("Open", copyOf(MURVANE_TEST_BOOKS, "hidden_series.xlsx"))
+                             .get("Sheets")
+                             .get("Item", "Data");
+    for (const std::int32_t place : {1, 2}) {
+        charts.call("ChartObjects", place).get("Chart").get("ChartArea").call("Copy");
+        slide(deck, 3).get("Shapes").call("PasteSpecial", 0);
+        const auto native =
+            property<uno::Reference<css::chart2::XChartDocument>>(lastShape(), "Model");
+        const auto used = as<css::chart2::data::XDataReceiver>(native)->getUsedData();
+        std::vector<double> firsts;
+        for (const auto& sequence : used->getDataSequences()) {
+            const auto values = sequence->getValues()->getData();
+            double first = 0;
+            // Places along the other axis are small.
+            if (values.hasElements() && (values[0] >>= first) && !(first < 100))
+                firsts.push_back(first);
+        }
+        EXPECT_EQ(firsts, (std::vector<double>{100, 300})) << place;
     }
-    EXPECT_EQ(firsts, (std::vector<uno::Any>{uno::Any(100.0), uno::Any(300.0)}));
 }
 
 TEST_F(PasteLive, KnowsWhenAPresentationHoldsSeveralWorkbooks) {

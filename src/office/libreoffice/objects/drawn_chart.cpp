@@ -33,11 +33,17 @@ std::vector<SeriesOfType> seriesByType(const uno::Reference<XChartDocument>& cha
     return types;
 }
 
+/// Neither places along the other axis, nor sizes of bubbles, nor lengths of error bars.
+bool isDrawnAsValues(const uno::Reference<uno::XInterface>& values) {
+    const auto role = property<rtl::OUString>(values, "Role");
+    return role.startsWith("values-") && role != "values-x" && role != "values-size";
+}
+
 bool hasValues(const SeriesRef& series) {
     const auto sequences = as<css::chart2::data::XDataSource>(series)->getDataSequences();
     return std::any_of(sequences.begin(), sequences.end(), [](const auto& sequence) {
         const auto values = tryAs<css::chart2::data::XNumericalDataSequence>(sequence->getValues());
-        return values.is() && values->getNumericalData().hasElements();
+        return values.is() && values->getNumericalData().hasElements() && isDrawnAsValues(values);
     });
 }
 
@@ -48,21 +54,27 @@ bool leavesHiddenCellsOut(const uno::Reference<XChartDocument>& chart) {
 
 }  // namespace
 
-DrawnChart::DrawnChart(uno::Reference<XChartDocument> chart) : chart_(std::move(chart)) {
+DrawnChart::DrawnChart(uno::Reference<XChartDocument> chart, Whole /*unused*/)
+    : chart_(std::move(chart)) {}
+
+DrawnChart::DrawnChart(uno::Reference<XChartDocument> chart)
+    : DrawnChart(std::move(chart), Whole()) {
     if (chart_->hasInternalDataProvider() || !leavesHiddenCellsOut(chart_)) return;
-    const auto types = seriesByType(chart_);
-    const auto hasAll = std::all_of(types.begin(), types.end(), [](const SeriesOfType& type) {
+    std::size_t drawn = 0;
+    std::size_t all = 0;
+    for (const SeriesOfType& type : seriesByType(chart_)) {
         const auto series = type->getDataSeries();
-        return std::all_of(series.begin(), series.end(), hasValues);
-    });
-    if (hasAll) return;
+        all += static_cast<std::size_t>(series.getLength());
+        drawn += static_cast<std::size_t>(std::count_if(series.begin(), series.end(), hasValues));
+    }
+    if (drawn == all || drawn == 0) return;
     copy_ = as<XChartDocument>(as<css::util::XCloneable>(chart_)->createClone());
     for (const SeriesOfType& type : seriesByType(copy_)) {
-        std::vector<SeriesRef> drawn;
+        std::vector<SeriesRef> kept;
         for (const SeriesRef& series : type->getDataSeries()) {
-            if (hasValues(series)) drawn.push_back(series);
+            if (hasValues(series)) kept.push_back(series);
         }
-        type->setDataSeries({drawn.data(), static_cast<sal_Int32>(drawn.size())});
+        type->setDataSeries({kept.data(), static_cast<sal_Int32>(kept.size())});
     }
 }
 

@@ -6,9 +6,9 @@
 
 namespace libreoffice::objects {
 
-/// A chart on a sheet with those of its series alone that have values: all cells of others are
-/// hidden, and the chart draws none of those. LibreOffice would store such a series without values,
-/// and give each one behind it the values of the next.
+/// A chart on a sheet with those of its series alone that have values, if there are any: the cells
+/// of others are hidden, where the chart draws none of those, or have gone. LibreOffice would store
+/// such a series without values, and give each one behind it the values of the next.
 class DrawnChart {
 public:
     explicit DrawnChart(uno::Reference<css::chart2::XChartDocument> chart);
@@ -22,6 +22,10 @@ public:
     }
 
 private:
+    // With an object that is whole, a copy that fails goes again.
+    struct Whole {};
+    DrawnChart(uno::Reference<css::chart2::XChartDocument> chart, Whole);
+
     uno::Reference<css::chart2::XChartDocument> chart_;
     uno::Reference<css::chart2::XChartDocument> copy_;
 };
