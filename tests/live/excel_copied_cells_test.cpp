@@ -105,6 +105,32 @@ TEST_F(ExcelCopiedCells, LeadsFillsAndBordersToTheEdgesOfThePicture) {
     expectDark(10);
 }
 
+/// Below a thin first row that has no border itself.
+TEST_F(ExcelCopiedCells, LeavesBordersFurtherInsideWhereTheyAre) {
+    const Object book = open("cells.xlsx");
+    const auto cells =
+        desk->active<excel::CalcDocument>()->sheetList().find("Data")->range({9, 44, 11, 46});
+    constexpr sal_Int32 thin = 106;
+    const auto rows = as<css::table::XColumnRowRange>(cells)->getRows();
+    const uno::Reference<uno::XInterface> first(rows->getByIndex(0), uno::UNO_QUERY_THROW);
+    setProperty(first, "Height", thin);
+    css::table::BorderLine2 line;
+    line.LineWidth = 26;
+    line.OuterLineWidth = 26;
+    setProperty(cells->getCellRangeByPosition(0, 1, 2, 1), "TopBorder", line);
+    sheet(book, "Data").get("Range", "J45:L47").call("CopyPicture", 1, -4147);
+    const auto& copied = dynamic_cast<const excel::CopiedPicture&>(*desk->clipboard().copied);
+    const auto drawn = office::drawing::readMetafile(libreoffice::bytesOf(copied.metafile()));
+    std::size_t borders = 0;
+    for (const auto& operation : drawn.operations) {
+        const auto* shape = std::get_if<office::drawing::Metafile::Shape>(&operation.what);
+        if (shape == nullptr || !shape->pen) continue;
+        ++borders;
+        EXPECT_NEAR(shape->outline.at(0).points.at(0).y, thin, 40);
+    }
+    EXPECT_GT(borders, 0U);
+}
+
 /// The texts of a copied picture, from left to right in each row.
 std::vector<office::drawing::Metafile::Text> textsOf(const office::CopiedPtr& cells) {
     const auto& copied = dynamic_cast<const excel::CopiedPicture&>(*cells);

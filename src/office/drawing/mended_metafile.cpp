@@ -22,6 +22,7 @@ constexpr std::int32_t aside = 40;
 
 /// By a pixel of the screen it draws other cells narrower in all.
 constexpr std::int32_t lostAcross = 26;
+constexpr std::int32_t leastWidth = 10 * lostAcross;
 
 /// Widths that differ by less are the same but for rounding.
 constexpr std::int32_t closeEnough = 100;
@@ -49,8 +50,8 @@ public:
         const std::size_t behindSize = values.left();
         Values head = size;
         const std::int32_t width = head.number();
-        head.number();
-        std::int32_t newWidth = width - lostAcross;
+        const std::int32_t height = head.number();
+        std::int32_t newWidth = width < leastWidth ? width : width - lostAcross;
         bool isAtBeginning = true;
         for (auto left = head.next<std::uint32_t>(); left > 0; --left) {
             const auto action = static_cast<Action>(values.word());
@@ -58,16 +59,20 @@ public:
             if (action == Action::TextLineColour || action == Action::OverlineColour)
                 mendLineColour(content, values.left());
             if (action == Action::MapMode && isAtBeginning &&
-                mendOrigin(content, values.left(), width))
+                mendOrigin(content, values.left(), width)) {
                 newWidth = width - widthOfOthers(width);
-            isAtBeginning = isAtBeginning && action == Action::Push;
-            if (!isAtBeginning && !edges_) {
                 write(size, behindSize, newWidth);
-                edges_ = edgesWithin(size);
+            }
+            if (isAtBeginning && action != Action::Push) {
+                isAtBeginning = false;
+                edges_.emplace(bytes_, newWidth, height);
             }
             if (arePlacesKnown_) mendPlaces(action, content, values.left());
         }
-        if (edges_) edges_->mend();
+        if (edges_) {
+            write(size, behindSize, newWidth);
+            edges_->mend();
+        }
     }
 
 private:
@@ -89,20 +94,17 @@ private:
         return true;
     }
 
-    [[nodiscard]] OuterEdges edgesWithin(Values size) const {
-        const double width = size.number();
-        const double height = size.number();
-        return {bytes_, width, height};
-    }
-
-    /// Where the places of texts can't be known, they stay.
+    /// Where places can't be known, texts stay, and edges too unless all have been noted: fills and
+    /// borders are ahead of the first text, and what is drawn on the cells is behind.
     void mendPlaces(Action action, const Values& content, std::size_t behind) {
         try {
+            areCellsDrawn_ = areCellsDrawn_ || action == Action::Font;
             followPlaces(action, content);
             if (action == Action::TextArray && !indented_.empty()) indent(content, behind);
-            if (edges_) edges_->take(action, content, behind, state_.mapping);
+            if (edges_ && !areCellsDrawn_) edges_->take(action, content, behind, state_.mapping);
         } catch (const Unknown&) {
             arePlacesKnown_ = false;
+            if (!areCellsDrawn_) edges_.reset();
         }
     }
 
@@ -174,6 +176,7 @@ private:
     std::optional<OuterEdges> edges_;
     State state_;
     std::vector<std::pair<std::uint16_t, State>> pushed_;
+    bool areCellsDrawn_ = false;
     bool arePlacesKnown_ = true;
 };
 

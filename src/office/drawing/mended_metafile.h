@@ -21,8 +21,8 @@ struct IndentedCell {
 /// to left stand aside, without their outer border, and squeezed if a text runs out of them. Texts
 /// without their indent get it: LibreOffice loses it where a cell that it draws just before differs
 /// in nothing but the format of its number, and of wrapped numbers. One without room for it keeps
-/// its place. Fills and borders of the outer cells reach the edges of the picture. What is damaged
-/// stays as it is.
+/// its place. Fills and borders of the outer cells reach the edges of the picture. Behind what is
+/// damaged all stays as it is.
 void mendMetafileOfCells(std::span<char> bytes, std::int32_t width,
                          std::vector<IndentedCell> indented);
 

@@ -9,13 +9,19 @@ namespace office::drawing {
 
 namespace {
 
-// A data bar keeps two pixels from the edges of its cell.
-constexpr double farthestBegin = 40;
-constexpr double farthestEnd = 80;
-/// The inner one of two lines is still part of the border.
-constexpr double farthestBorder = 130;
+constexpr double screenPixel = 26;
+/// A data bar begins two pixels inside of its cell.
+constexpr double farthestBegin = screenPixel;
+/// Less has no room for an edge on each side.
+constexpr double leastSize = 10 * screenPixel;
+/// Sides of fills that differ by less end with the same cell.
+constexpr double closeEnough = 10;
 
 }  // namespace
+
+OuterEdges::OuterEdges(std::span<char> metafile, double width, double height)
+    : metafile_(metafile),
+      axes_{Axis{width, 2 * screenPixel, {}, {}, {}}, Axis{height, 3 * screenPixel, {}, {}, {}}} {}
 
 void OuterEdges::take(Action action, const Values& content, std::size_t behind,
                       const Mapping& mapping) {
@@ -25,7 +31,7 @@ void OuterEdges::take(Action action, const Values& content, std::size_t behind,
         for (int corner = 0; corner < 2; ++corner) {
             const Point point = nextPoint(corners, behind, mapping);
             for (std::size_t axis = 0; axis < axes_.size(); ++axis)
-                noteOther(axes_[axis], point[axis]);
+                axes_[axis].fills.push_back(point[axis]);
         }
     } else if (action == Action::PolyLine) {
         takeLine(content, behind, mapping);
@@ -50,45 +56,70 @@ void OuterEdges::takeLine(Values content, std::size_t behind, const Mapping& map
     const Point end = nextPoint(content, behind, mapping);
     const double halfWidth = readPen(content.part(), {}, 1).width / 2;
     for (std::size_t axis = 0; axis < axes_.size(); ++axis) {
-        const std::size_t other = 1 - axis;
+        const std::size_t along = 1 - axis;
+        // A diagonal line is no border.
+        if (start[axis].place != end[axis].place) continue;
         for (Coordinate each : {start[axis], end[axis]}) {
             each.halfWidth = halfWidth;
-            // A diagonal line is no border.
-            if (start[axis].place == end[axis].place)
-                noteBorder(axes_[axis], each);
-            else if (start[other].place == end[other].place)
-                noteOther(axes_[axis], each);
+            axes_[axis].borders.push_back(each);
         }
+        if (start[along].place < end[along].place)
+            axes_[along].lengths.push_back({start[along], end[along]});
+        else
+            axes_[along].lengths.push_back({end[along], start[along]});
     }
-}
-
-void OuterEdges::noteBorder(Axis& axis, const Coordinate& coordinate) {
-    if (std::abs(coordinate.place) < farthestBorder)
-        axis.first.borders.push_back(coordinate);
-    else if (std::abs(axis.end - coordinate.place) < farthestBorder)
-        axis.last.borders.push_back(coordinate);
-}
-
-void OuterEdges::noteOther(Axis& axis, const Coordinate& coordinate) {
-    if (std::abs(coordinate.place) < farthestBegin)
-        axis.first.others.push_back(coordinate);
-    else if (std::abs(axis.end - coordinate.place) < farthestEnd)
-        axis.last.others.push_back(coordinate);
 }
 
 void OuterEdges::mend() const {
-    for (const auto& [end, first, last] : axes_) {
-        for (const Coordinate& each : first.others) write(each, 0);
-        for (const Coordinate& each : last.others) write(each, end);
-        double begins = end;
-        for (const Coordinate& each : first.borders)
-            begins = std::min(begins, each.place - each.halfWidth);
-        for (const Coordinate& each : first.borders) write(each, each.place - begins);
-        double ends = 0;
-        for (const Coordinate& each : last.borders)
-            ends = std::max(ends, each.place + each.halfWidth);
-        for (const Coordinate& each : last.borders) write(each, each.place + end - ends);
+    for (const Axis& axis : axes_) {
+        if (axis.end < leastSize) continue;
+        mendFills(axis);
+        mendLengths(axis);
+        mendBorders(axis);
     }
+}
+
+void OuterEdges::mendFills(const Axis& axis) const {
+    double last = 0;
+    for (const Coordinate& each : axis.fills) last = std::max(last, each.place);
+    for (const Coordinate& each : axis.fills) {
+        if (std::abs(each.place) <= farthestBegin) write(each, 0);
+        if (axis.end - last <= axis.farthest && last - each.place < closeEnough)
+            write(each, axis.end);
+    }
+}
+
+void OuterEdges::mendLengths(const Axis& axis) const {
+    for (const auto& [start, end] : axis.lengths) {
+        // Dashes lie one behind the other.
+        if (end.place - start.place <= axis.farthest) continue;
+        if (std::abs(start.place) <= farthestBegin) write(start, 0);
+        if (std::abs(axis.end - end.place) <= axis.farthest) write(end, axis.end);
+    }
+}
+
+void OuterEdges::mendBorders(const Axis& axis) const {
+    const auto shift = [&](double edge, double farthest, double inwards) {
+        const auto isOuter = [&](const Coordinate& border) {
+            return std::abs(border.place - edge) <= farthest;
+        };
+        // Inwards from the edge; less than 0 outside of it.
+        double outermost = axis.end;
+        double widest = 0;
+        for (const Coordinate& border : axis.borders) {
+            if (!isOuter(border)) continue;
+            outermost = std::min(outermost, (border.place - edge) * inwards - border.halfWidth);
+            widest = std::max(widest, 2 * border.halfWidth);
+        }
+        // Of a double border the inner line goes along.
+        const double reach = outermost + std::max(widest, screenPixel) * 3;
+        for (const Coordinate& border : axis.borders) {
+            if (outermost < axis.end && (border.place - edge) * inwards < reach)
+                write(border, border.place - outermost * inwards);
+        }
+    };
+    shift(0, farthestBegin + screenPixel / 2, 1);
+    shift(axis.end, axis.farthest, -1);
 }
 
 void OuterEdges::write(const Coordinate& coordinate, double place) const {

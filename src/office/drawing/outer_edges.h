@@ -16,13 +16,12 @@ namespace office::drawing {
 class OuterEdges {
 public:
     /// What is to be put right, and the size of the picture in it, in hundredths of a millimetre.
-    OuterEdges(std::span<char> metafile, double width, double height)
-        : metafile_(metafile),
-          axes_{Axis{width, {}, {}}, Axis{height, {}, {}}} {}
+    OuterEdges(std::span<char> metafile, double width, double height);
 
     /// Notes a rectangle or a straight line. `behind` is what follows the content.
     void take(Action action, const Values& content, std::size_t behind, const Mapping& mapping);
     /// Leads what was noted to the edges of the picture: fills right there, borders beside them.
+    /// What lies further inside stays, as does all of a picture of a few pixels.
     void mend() const;
 
 private:
@@ -36,21 +35,21 @@ private:
     };
     /// Across and down.
     using Point = std::array<Coordinate, 2>;
-    struct Edge {
-        std::vector<Coordinate> borders;
-        /// Sides of fills, and where borders along other edges end.
-        std::vector<Coordinate> others;
-    };
     struct Axis {
         double end = 0;
-        Edge first;
-        Edge last;
+        /// How far from the end what belongs there may lie.
+        double farthest = 0;
+        std::vector<Coordinate> fills;
+        std::vector<Coordinate> borders;
+        /// Both ends of borders along other edges.
+        std::vector<std::array<Coordinate, 2>> lengths;
     };
 
     static Point nextPoint(Values& values, std::size_t behind, const Mapping& mapping);
     void takeLine(Values content, std::size_t behind, const Mapping& mapping);
-    static void noteBorder(Axis& axis, const Coordinate& coordinate);
-    static void noteOther(Axis& axis, const Coordinate& coordinate);
+    void mendFills(const Axis& axis) const;
+    void mendLengths(const Axis& axis) const;
+    void mendBorders(const Axis& axis) const;
     void write(const Coordinate& coordinate, double place) const;
 
     std::span<char> metafile_;
