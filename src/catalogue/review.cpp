@@ -26,11 +26,9 @@ using Names = std::vector<std::string>;
 struct CheckedRows {
     std::size_t all = 0;
     std::size_t exportable = 0;
+    std::size_t hidden = 0;
     Names onGoneSheets;
     Names gone;
-
-    [[nodiscard]] std::size_t countGone() const { return onGoneSheets.size() + gone.size(); }
-    [[nodiscard]] std::size_t countHidden() const { return all - exportable - countGone(); }
 };
 
 CheckedRows checkedRows(const ExportList& list, RowObjects& objects) {
@@ -38,12 +36,17 @@ CheckedRows checkedRows(const ExportList& list, RowObjects& objects) {
     for (const ExportItem& row : list.rows) {
         if (!row.checked) continue;
         ++checked.all;
-        if (objects.isExportable(row)) ++checked.exportable;
         const auto name = [&] {
             return fmt::format("\"{}\" of sheet \"{}\"", row.shownName(), row.sheet);
         };
-        if (objects.isSheetGone(row)) checked.onGoneSheets.push_back(name());
-        if (objects.isItemGone(row)) checked.gone.push_back(name());
+        if (objects.isExportable(row))
+            ++checked.exportable;
+        else if (objects.isSheetGone(row))
+            checked.onGoneSheets.push_back(name());
+        else if (objects.isItemGone(row))
+            checked.gone.push_back(name());
+        else
+            ++checked.hidden;
     }
     return checked;
 }
@@ -64,16 +67,16 @@ void reviewChecked(session::OfficeSession& session, const CheckedRows& checked,
         texts.Blockers.emplace_back(
             "The sheets of all checked items are no longer in the workbook. They may have "
             "been renamed: check the items under the new names.");
-    } else if (checked.countGone() == checked.all) {
+    } else if (checked.onGoneSheets.size() + checked.gone.size() == checked.all) {
         texts.Blockers.emplace_back(
             "The checked items are no longer in the workbook. They may have been renamed: check "
             "the items under the new names.");
     } else {
         if (checked.exportable > 0) {
-            tellSkipped(checked.countHidden(), "on hidden worksheets");
+            tellSkipped(checked.hidden, "on hidden worksheets");
         } else if (!checked.gone.empty()) {
             texts.Blockers.emplace_back("None of the checked items can be exported.");
-            tellSkipped(checked.countHidden(), "on hidden worksheets");
+            tellSkipped(checked.hidden, "on hidden worksheets");
         } else {
             texts.Blockers.emplace_back(
                 "All checked items are on hidden worksheets and cannot be exported. Show those "
