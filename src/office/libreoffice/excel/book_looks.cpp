@@ -276,11 +276,11 @@ SheetLooks* BookLooks::of(SheetRecord& sheet) {
     const auto shown = shownSheets();
     Page& page = pageOf(shown);
     if (isTooLarge(page, shown)) return nullptr;
-    if (!page.text.hasElements()) page.text = written();
+    if (!page.text) page.text = written();
     const SheetRecordPtr key = sheet.shared_from_this();
     auto found = page.sheets.find(key);
     if (found == page.sheets.end()) {
-        const auto table = tableOf(sheet, bytesOf(page.text));
+        const auto table = tableOf(sheet, bytesOf(*page.text));
         if (table.empty()) return nullptr;
         found = page.sheets.try_emplace(key, sheet, table).first;
     }

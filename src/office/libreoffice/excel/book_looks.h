@@ -75,8 +75,8 @@ private:
     /// What is told while the same sheets are shown.
     struct Page {
         std::optional<bool> isTooLarge;
-        /// Nothing as long as the suite has written none.
-        uno::Sequence<sal_Int8> text;
+        /// None before it was asked for, and nothing in it where the suite could write none.
+        std::optional<uno::Sequence<sal_Int8>> text;
         std::map<SheetRecordPtr, SheetLooks> sheets;
     };
 

@@ -214,10 +214,15 @@ bool mayBeMisdrawn(SheetRecord& sheet, const CellBlock& block) {
     });
     if (conditions.empty()) return false;
     const StylesOnBlock styles(sheet, *drawn, conditions);
-    const bool isTooLarge = book.isTooLarge();
+    std::optional<bool> isTooLarge;
+    const auto isToldOf = [&](const rtl::OUString& style) {
+        if (!styles.isTold(style)) return false;
+        if (!isTooLarge) isTooLarge = book.isTooLarge();
+        return !*isTooLarge;
+    };
     return std::any_of(conditions.begin(), conditions.end(), [&](const CellCondition& each) {
         const auto name = styleNameOf(each);
-        if (name.isEmpty() || (styles.isTold(name) && !isTooLarge)) return false;
+        if (name.isEmpty() || isToldOf(name)) return false;
         return comparesCells(each) || readsAround(sheet, *drawn, each);
     });
 }
