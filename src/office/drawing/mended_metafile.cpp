@@ -20,10 +20,6 @@ namespace {
 /// the left, in hundredths of a millimetre: both outer borders are in the picture then.
 constexpr std::int32_t aside = 40;
 
-/// By a pixel of the screen it draws other cells narrower in all.
-constexpr std::int32_t lostAcross = 26;
-constexpr std::int32_t leastWidth = 10 * lostAcross;
-
 /// Widths that differ by less are the same but for rounding.
 constexpr std::int32_t closeEnough = 100;
 
@@ -51,7 +47,8 @@ public:
         Values head = size;
         const std::int32_t width = head.number();
         const std::int32_t height = head.number();
-        std::int32_t newWidth = width < leastWidth ? width : width - lostAcross;
+        // By so much cells are drawn narrower in all, where they aren't read from right to left.
+        std::int32_t newWidth = width < leastSide ? width : width - screenPixel;
         bool isAtBeginning = true;
         for (auto left = head.next<std::uint32_t>(); left > 0; --left) {
             const auto action = static_cast<Action>(values.word());
@@ -59,20 +56,16 @@ public:
             if (action == Action::TextLineColour || action == Action::OverlineColour)
                 mendLineColour(content, values.left());
             if (action == Action::MapMode && isAtBeginning &&
-                mendOrigin(content, values.left(), width)) {
+                mendOrigin(content, values.left(), width))
                 newWidth = width - widthOfOthers(width);
-                write(size, behindSize, newWidth);
-            }
             if (isAtBeginning && action != Action::Push) {
                 isAtBeginning = false;
                 edges_.emplace(bytes_, newWidth, height);
             }
             if (arePlacesKnown_) mendPlaces(action, content, values.left());
         }
-        if (edges_) {
-            write(size, behindSize, newWidth);
-            edges_->mend();
-        }
+        write(size, behindSize, newWidth);
+        if (edges_) edges_->mend();
     }
 
 private:

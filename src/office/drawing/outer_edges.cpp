@@ -9,11 +9,8 @@ namespace office::drawing {
 
 namespace {
 
-constexpr double screenPixel = 26;
 /// A data bar begins two pixels inside of its cell.
 constexpr double farthestBegin = screenPixel;
-/// Less has no room for an edge on each side.
-constexpr double leastSize = 10 * screenPixel;
 /// Sides of fills that differ by less end with the same cell.
 constexpr double closeEnough = 10;
 
@@ -72,7 +69,7 @@ void OuterEdges::takeLine(Values content, std::size_t behind, const Mapping& map
 
 void OuterEdges::mend() const {
     for (const Axis& axis : axes_) {
-        if (axis.end < leastSize) continue;
+        if (axis.end < leastSide) continue;
         mendFills(axis);
         mendLengths(axis);
         mendBorders(axis);
@@ -112,13 +109,13 @@ void OuterEdges::mendBorders(const Axis& axis) const {
             widest = std::max(widest, 2 * border.halfWidth);
         }
         // Of a double border the inner line goes along.
-        const double reach = outermost + std::max(widest, screenPixel) * 3;
+        const double reach = outermost + std::max(widest, farthestBegin) * 3;
         for (const Coordinate& border : axis.borders) {
             if (outermost < axis.end && (border.place - edge) * inwards < reach)
                 write(border, border.place - outermost * inwards);
         }
     };
-    shift(0, farthestBegin + screenPixel / 2, 1);
+    shift(0, farthestBegin + screenPixel / 2.0, 1);
     shift(axis.end, axis.farthest, -1);
 }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -9,6 +10,11 @@
 #include "office/drawing/metafile_parts.h"
 
 namespace office::drawing {
+
+/// In hundredths of a millimetre.
+inline constexpr std::int32_t screenPixel = 26;
+/// What is less wide or high has no room for an edge on each side.
+inline constexpr std::int32_t leastSide = 10 * screenPixel;
 
 /// The outer edges of the fills and borders in a metafile of cells. LibreOffice places them by
 /// whole pixels of the screen: at the left and the top half of a border lies outside of the
