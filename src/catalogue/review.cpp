@@ -37,7 +37,7 @@ CheckedRows checkedRows(const ExportList& list, RowObjects& objects) {
         if (!row.checked) continue;
         ++checked.all;
         const auto name = [&] {
-            return fmt::format("\"{}\" of sheet \"{}\"", row.shownName(), row.sheet);
+            return fmt::format("\"{}\" on sheet \"{}\"", row.shownName(), row.sheet);
         };
         if (objects.isExportable(row))
             ++checked.exportable;

@@ -77,7 +77,7 @@ TEST_F(Review, CollectsTheBlockersOfItemsAndDestination) {
     EXPECT_TRUE(texts.Blockers[0].starts_with("All checked items are on hidden worksheets"));
     EXPECT_EQ(texts.ReviewItems,
               Words{"1 checked item(s) are on sheets that are no longer in the workbook: "
-                    "\"Chart 2\" of sheet \"Renamed\"."});
+                    "\"Chart 2\" on sheet \"Renamed\"."});
     const auto book = test.session.ActiveBook;
     test.session.ActiveBook.release();
     EXPECT_EQ(blockers(), Words{"The workbook is no longer open. Open it again and start anew."});
@@ -133,9 +133,9 @@ TEST_F(Review, AsksWhetherToGoOnWithoutTheHiddenItems) {
     EXPECT_EQ(test.notices.shown.front().message,
               "- 1 checked item(s) are on hidden worksheets and will be skipped.\r\n"
               "- 1 checked item(s) are on sheets that are no longer in the workbook and will be "
-              "skipped: \"Chart 3\" of sheet \"Renamed\".\r\n"
+              "skipped: \"Chart 3\" on sheet \"Renamed\".\r\n"
               "- 1 checked item(s) are no longer in the workbook and will be skipped: "
-              "\"Chart 9\" of sheet \"Sales\"."
+              "\"Chart 9\" on sheet \"Sales\"."
               "\r\n\r\n\r\nContinue anyway?");
 }
 
