@@ -1,8 +1,8 @@
 #include "office/libreoffice/uno_values.h"
 
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <osl/file.hxx>
 
-#include <algorithm>
 #include <filesystem>
 
 namespace libreoffice {
@@ -36,12 +36,6 @@ std::string pathOfUrl(const rtl::OUString& url) {
     return fromUno(path);
 }
 
-uno::Sequence<rtl::OUString> namesOf(const std::vector<std::string_view>& sorted) {
-    uno::Sequence<rtl::OUString> names(static_cast<sal_Int32>(sorted.size()));
-    std::transform(sorted.begin(), sorted.end(), names.getArray(), toUno);
-    return names;
-}
-
 uno::Sequence<css::beans::PropertyValue> propertyValues(
     std::initializer_list<std::pair<const char*, uno::Any>> values) {
     uno::Sequence<css::beans::PropertyValue> sequence(static_cast<sal_Int32>(values.size()));
@@ -63,6 +57,29 @@ void setProperty(const uno::Reference<uno::XInterface>& object, const char* name
                  const uno::Any& value) {
     as<css::beans::XPropertySet>(object)->setPropertyValue(rtl::OUString::createFromAscii(name),
                                                            value);
+}
+
+NamedValues::NamedValues(const uno::Reference<uno::XInterface>& object,
+                         const std::vector<rtl::OUString>& names) {
+    for (const rtl::OUString& name : names) all_[name];
+    std::vector<rtl::OUString> sorted;
+    for (const auto& [name, value] : all_) sorted.push_back(name);
+    const auto values =
+        as<css::beans::XMultiPropertySet>(object)->getPropertyValues(sequenceOf(sorted));
+    const uno::Any* value = values.getConstArray();
+    for (auto& each : all_) each.second = *value++;
+}
+
+void NamedValues::applyTo(const uno::Reference<uno::XInterface>& object) const {
+    if (all_.empty()) return;
+    std::vector<rtl::OUString> names;
+    std::vector<uno::Any> values;
+    for (const auto& [name, value] : all_) {
+        names.push_back(name);
+        values.push_back(value);
+    }
+    as<css::beans::XMultiPropertySet>(object)->setPropertyValues(sequenceOf(names),
+                                                                 sequenceOf(values));
 }
 
 }  // namespace libreoffice

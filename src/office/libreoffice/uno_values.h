@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <map>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -34,8 +35,11 @@ namespace uno = com::sun::star::uno;
 
 using office::swapRedAndBlue;
 
-/// The names of properties as calls for several of them take them, which is in order.
-[[nodiscard]] uno::Sequence<rtl::OUString> namesOf(const std::vector<std::string_view>& sorted);
+/// The elements as a call takes them.
+template <class Type>
+[[nodiscard]] uno::Sequence<Type> sequenceOf(const std::vector<Type>& elements) {
+    return {elements.data(), static_cast<sal_Int32>(elements.size())};
+}
 
 /// {"Hidden", true}, ... as the argument list of a UNO call.
 [[nodiscard]] uno::Sequence<css::beans::PropertyValue> propertyValues(
@@ -68,5 +72,39 @@ void setProperty(const uno::Reference<uno::XInterface>& object, const char* name
                  const Type& value) {
     setProperty(object, name, uno::Any(value));
 }
+
+/// Properties by their names, which may come in any order: calls for several demand them sorted.
+class NamedValues {
+public:
+    NamedValues() = default;
+    NamedValues(std::initializer_list<std::pair<const rtl::OUString, uno::Any>> values)
+        : all_(values) {}
+    /// What an object says of them, in one call. What it doesn't know is void.
+    NamedValues(const uno::Reference<uno::XInterface>& object,
+                const std::vector<rtl::OUString>& names);
+
+    /// `std::out_of_range` for a name that is not among them.
+    [[nodiscard]] const uno::Any& any(const rtl::OUString& name) const { return all_.at(name); }
+    /// A void or differently typed one gives `otherwise`.
+    template <class Type>
+    [[nodiscard]] Type get(const rtl::OUString& name, Type otherwise = Type()) const {
+        any(name) >>= otherwise;
+        return otherwise;
+    }
+    [[nodiscard]] auto begin() const { return all_.begin(); }
+    [[nodiscard]] auto end() const { return all_.end(); }
+
+    template <class Type>
+    void add(const rtl::OUString& name, const Type& value) {
+        all_[name] = uno::Any(value);
+    }
+    /// In one call, which is one step for a user to take back; in none if there is nothing to set.
+    void applyTo(const uno::Reference<uno::XInterface>& object) const;
+
+    friend bool operator==(const NamedValues&, const NamedValues&) = default;
+
+private:
+    std::map<rtl::OUString, uno::Any> all_;
+};
 
 }  // namespace libreoffice

@@ -2,7 +2,6 @@
 
 #include <com/sun/star/awt/FontSlant.hpp>
 #include <com/sun/star/awt/FontWeight.hpp>
-#include <com/sun/star/beans/XMultiPropertySet.hpp>
 
 #include <algorithm>
 #include <array>
@@ -13,16 +12,17 @@ namespace libreoffice::excel {
 
 namespace {
 
-uno::Sequence<rtl::OUString> namesOfMarks() {
-    return namesOf({"CellBackColor", "CharColor", "CharPosture", "CharStrikeout", "CharUnderline",
-                    "CharWeight"});
+const std::vector<rtl::OUString>& namesOfMarks() {
+    static const std::vector<rtl::OUString> names = {"CellBackColor", "CharColor",
+                                                     "CharPosture",   "CharStrikeout",
+                                                     "CharUnderline", "CharWeight"};
+    return names;
 }
 
-/// Of values in the order of those names.
-StyleMarks marksIn(const uno::Sequence<uno::Any>& values) {
-    const auto read = [&](sal_Int32 place, auto otherwise, auto convert) {
+StyleMarks marksIn(const NamedValues& values) {
+    const auto read = [&](const rtl::OUString& name, auto otherwise, auto convert) {
         std::optional<decltype(convert(otherwise))> mark;
-        if (values[place] >>= otherwise) mark = convert(otherwise);
+        if (values.any(name) >>= otherwise) mark = convert(otherwise);
         return mark;
     };
     const auto colour = [](sal_Int32 value) {
@@ -32,22 +32,20 @@ StyleMarks marksIn(const uno::Sequence<uno::Any>& values) {
     const auto leans = [](css::awt::FontSlant slant) { return slant != css::awt::FontSlant_NONE; };
     const auto isHeavy = [](float weight) { return weight > css::awt::FontWeight::NORMAL; };
     StyleMarks marks;
-    marks.fill = read(0, sal_Int32{}, colour);
-    marks.fontColour = read(1, sal_Int32{}, colour);
-    marks.isItalic = read(2, css::awt::FontSlant_NONE, leans);
-    marks.isStruckOut = read(3, sal_Int16{}, isSet);
-    marks.isUnderlined = read(4, sal_Int16{}, isSet);
-    marks.isBold = read(5, float{}, isHeavy);
+    marks.fill = read("CellBackColor", sal_Int32{}, colour);
+    marks.fontColour = read("CharColor", sal_Int32{}, colour);
+    marks.isItalic = read("CharPosture", css::awt::FontSlant_NONE, leans);
+    marks.isStruckOut = read("CharStrikeout", sal_Int16{}, isSet);
+    marks.isUnderlined = read("CharUnderline", sal_Int16{}, isSet);
+    marks.isBold = read("CharWeight", float{}, isHeavy);
     return marks;
 }
 
-StyleMarks marksOf(const CellStyle& style) {
-    const auto names = namesOfMarks();
-    const auto states = style->getPropertyStates(names);
-    auto values = as<css::beans::XMultiPropertySet>(style)->getPropertyValues(names);
-    for (sal_Int32 i = 0; i < names.getLength(); ++i)
-        if (states[i] != css::beans::PropertyState_DIRECT_VALUE) values.getArray()[i].clear();
-    return marksIn(values);
+StyleMarks marksOf(const CellStyle& style, const std::vector<rtl::OUString>& own) {
+    NamedValues said(style, namesOfMarks());
+    for (const rtl::OUString& name : namesOfMarks())
+        if (!std::binary_search(own.begin(), own.end(), name)) said.add(name, uno::Any());
+    return marksIn(said);
 }
 
 bool belongsToMarks(const rtl::OUString& property) {
@@ -60,6 +58,21 @@ bool belongsToMarks(const rtl::OUString& property) {
 }
 
 }  // namespace
+
+CellDress dressIn(const NamedValues& format) {
+    const StyleMarks marks = marksIn(format);
+    return {marks.fill.value_or(std::nullopt),  marks.fontColour.value_or(std::nullopt),
+            marks.isBold.value_or(false),       marks.isItalic.value_or(false),
+            marks.isUnderlined.value_or(false), marks.isStruckOut.value_or(false)};
+}
+
+void takeDress(office::CellLook& look, const CellDress& dress) {
+    look.fill = dress.fill;
+    look.isBold = dress.isBold;
+    look.isItalic = dress.isItalic;
+    look.isUnderlined = dress.isUnderlined;
+    look.isStruckOut = dress.isStruckOut;
+}
 
 int StyleMarks::count() const {
     return int{fill.has_value()} + int{fontColour && *fontColour} + int{isBold.has_value()} +
@@ -86,9 +99,10 @@ bool StyleMarks::make(const CellDress& seen, const CellDress& own) const {
 }
 
 StyleFacts styleFactsOf(const uno::Reference<css::frame::XModel>& book, const CellStyle& style) {
-    const bool isLikeParent = takesAfterParent(book, style);
-    const auto said = isLikeParent ? propertiesAlongParents(book, style) : ownProperties(style);
-    return {style, marksOf(style), isLikeParent,
+    const auto own = ownProperties(style);
+    const bool isLikeParent = takesAfterParent(book, style, own);
+    const auto said = isLikeParent ? propertiesAlongParents(book, style) : own;
+    return {style, marksOf(style, own), isLikeParent,
             !std::all_of(said.begin(), said.end(), belongsToMarks)};
 }
 
@@ -97,13 +111,8 @@ OwnDress::OwnDress(const SheetRecord& sheet, const model::CellBlock& block)
       dresses_(1),
       places_(static_cast<std::size_t>(block.cells())) {
     for (const auto& cells : cellsAlike(sheet.range(block))) {
-        const StyleMarks marks =
-            marksIn(as<css::beans::XMultiPropertySet>(cells)->getPropertyValues(namesOfMarks()));
         const auto place = static_cast<std::uint32_t>(dresses_.size());
-        dresses_.push_back({marks.fill.value_or(std::nullopt),
-                            marks.fontColour.value_or(std::nullopt), marks.isBold.value_or(false),
-                            marks.isItalic.value_or(false), marks.isUnderlined.value_or(false),
-                            marks.isStruckOut.value_or(false)});
+        dresses_.push_back(dressIn(NamedValues(cells, namesOfMarks())));
         for (const auto& address : cells->getRangeAddresses()) {
             const auto common = intersection(blockOf(address), block_);
             if (!common) continue;

@@ -6,6 +6,7 @@
 
 #include "office/libreoffice/excel/cell_styles.h"
 #include "office/libreoffice/excel/sheet_record.h"
+#include "office/table_look.h"
 
 namespace libreoffice::excel {
 
@@ -19,6 +20,12 @@ struct CellDress {
     bool isUnderlined = false;
     bool isStruckOut = false;
 };
+
+/// What a cell's own format says of that.
+[[nodiscard]] CellDress dressIn(const NamedValues& format);
+
+/// All of it but the colour of letters.
+void takeDress(office::CellLook& look, const CellDress& dress);
 
 /// What a style says of that; nothing where it leaves it to the cell.
 struct StyleMarks {

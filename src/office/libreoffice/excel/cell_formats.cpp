@@ -1,8 +1,5 @@
 #include "office/libreoffice/excel/cell_formats.h"
 
-#include <com/sun/star/awt/FontSlant.hpp>
-#include <com/sun/star/awt/FontWeight.hpp>
-#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/table/BorderLine2.hpp>
 #include <com/sun/star/table/BorderLineStyle.hpp>
 #include <com/sun/star/table/CellHoriJustify.hpp>
@@ -12,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "office/libreoffice/excel/cell_dress.h"
 #include "office/libreoffice/excel/cells_alike.h"
 #include "office/libreoffice/units.h"
 
@@ -55,31 +53,33 @@ std::int32_t quarterOf(std::int32_t hundredthDegrees) {
 class FormatReader {
 public:
     explicit FormatReader(const uno::Reference<uno::XInterface>& cells)
-        : values_(as<css::beans::XMultiPropertySet>(cells)->getPropertyValues(names())) {}
+        : values_(cells,
+                  {"BottomBorder2",     "CellBackColor",       "CharColor",    "CharFontName",
+                   "CharFontNameAsian", "CharFontNameComplex", "CharHeight",   "CharPosture",
+                   "CharStrikeout",     "CharUnderline",       "CharWeight",   "HoriJustify",
+                   "IsTextWrapped",     "LeftBorder2",         "NumberFormat", "Orientation",
+                   "ParaIndent",        "RightBorder2",        "RotateAngle",  "ShrinkToFit",
+                   "TopBorder2",        "VertJustify"}) {}
 
     [[nodiscard]] CellFormat read() const {
         CellFormat format;
         CellLook& look = format.look;
-        look.fontName = fromUno(value<rtl::OUString>("CharFontName"));
+        look.fontName = fromUno(values_.get<rtl::OUString>("CharFontName"));
         takeOtherFonts(look);
-        look.fontSizePt = value<float>("CharHeight");
-        look.isBold = value<float>("CharWeight") > css::awt::FontWeight::NORMAL;
-        look.isItalic = value<css::awt::FontSlant>("CharPosture") != css::awt::FontSlant_NONE;
-        look.isUnderlined = value<std::int16_t>("CharUnderline") != 0;
-        look.isStruckOut = value<std::int16_t>("CharStrikeout") != 0;
-        if (const auto fill = value<std::int32_t>("CellBackColor"); fill >= 0)
-            look.fill = swapRedAndBlue(fill);
-        const auto colour = value<std::int32_t>("CharColor");
-        look.fontColour = colour >= 0 ? swapRedAndBlue(colour) : automaticColourOn(look.fill);
+        look.fontSizePt = values_.get<float>("CharHeight");
+        const CellDress dress = dressIn(values_);
+        takeDress(look, dress);
+        look.fontColour = dress.fontColour.value_or(automaticColourOn(look.fill));
         look.across = across();
         look.down = down();
-        format.isAligned = value<css::table::CellHoriJustify>("HoriJustify") !=
+        format.isAligned = values_.get<css::table::CellHoriJustify>("HoriJustify") !=
                            css::table::CellHoriJustify_STANDARD;
         // A text that stands where its kind stands by itself has none.
-        if (format.isAligned) look.indentPt = pointsOf(value<std::int16_t>("ParaIndent"));
-        look.wraps = value<bool>("IsTextWrapped") || look.across == CellLook::Across::Justified;
-        const auto orientation = value<css::table::CellOrientation>("Orientation");
-        const auto angle = value<std::int32_t>("RotateAngle");
+        if (format.isAligned) look.indentPt = pointsOf(values_.get<std::int16_t>("ParaIndent"));
+        look.wraps =
+            values_.get<bool>("IsTextWrapped") || look.across == CellLook::Across::Justified;
+        const auto orientation = values_.get<css::table::CellOrientation>("Orientation");
+        const auto angle = values_.get<std::int32_t>("RotateAngle");
         const bool isStacked = orientation == css::table::CellOrientation_STACKED;
         look.rotation = isStacked ? 270 : quarterOf(angle);
         if (!isStacked && angle != look.rotation * hundredthsOfDegree)
@@ -88,8 +88,8 @@ public:
         look.right = line("RightBorder2");
         look.top = line("TopBorder2");
         look.bottom = line("BottomBorder2");
-        format.shrinksToFit = value<bool>("ShrinkToFit");
-        format.numberFormat = value<std::int32_t>("NumberFormat");
+        format.shrinksToFit = values_.get<bool>("ShrinkToFit");
+        format.numberFormat = values_.get<std::int32_t>("NumberFormat");
         return format;
     }
 
@@ -97,42 +97,19 @@ private:
     /// LibreOffice has other fonts for what it finds no characters for. Of a font that it doesn't
     /// have it only sees the stand-in, which may lack one of both: there the workbook's holds.
     void takeOtherFonts(CellLook& look) const {
-        const auto asian = fromUno(value<rtl::OUString>("CharFontNameAsian"));
-        const auto complex = fromUno(value<rtl::OUString>("CharFontNameComplex"));
+        const auto asian = fromUno(values_.get<rtl::OUString>("CharFontNameAsian"));
+        const auto complex = fromUno(values_.get<rtl::OUString>("CharFontNameComplex"));
         if (asian == look.fontName || complex == look.fontName) return;
         look.asianFontName = asian;
         look.complexFontName = complex;
     }
-    static const std::vector<std::string_view>& sortedNames() {
-        static const std::vector<std::string_view> names = {
-            "BottomBorder2",     "CellBackColor",       "CharColor",    "CharFontName",
-            "CharFontNameAsian", "CharFontNameComplex", "CharHeight",   "CharPosture",
-            "CharStrikeout",     "CharUnderline",       "CharWeight",   "HoriJustify",
-            "IsTextWrapped",     "LeftBorder2",         "NumberFormat", "Orientation",
-            "ParaIndent",        "RightBorder2",        "RotateAngle",  "ShrinkToFit",
-            "TopBorder2",        "VertJustify"};
-        return names;
-    }
-    static const uno::Sequence<rtl::OUString>& names() {
-        static const uno::Sequence<rtl::OUString> names = namesOf(sortedNames());
-        return names;
-    }
-
-    template <class Type>
-    [[nodiscard]] Type value(std::string_view name) const {
-        const auto& all = sortedNames();
-        const auto place = std::lower_bound(all.begin(), all.end(), name) - all.begin();
-        Type found = Type();
-        values_[static_cast<sal_Int32>(place)] >>= found;
-        return found;
-    }
-    [[nodiscard]] CellLine line(std::string_view name) const {
-        const auto border = value<css::table::BorderLine2>(name);
+    [[nodiscard]] CellLine line(const rtl::OUString& name) const {
+        const auto border = values_.get<css::table::BorderLine2>(name);
         return {pointsOf(static_cast<std::int32_t>(border.LineWidth)), swapRedAndBlue(border.Color),
                 styleOfLine(border.LineStyle)};
     }
     [[nodiscard]] CellLook::Across across() const {
-        switch (value<css::table::CellHoriJustify>("HoriJustify")) {
+        switch (values_.get<css::table::CellHoriJustify>("HoriJustify")) {
             case css::table::CellHoriJustify_CENTER:
                 return CellLook::Across::Centre;
             case css::table::CellHoriJustify_RIGHT:
@@ -144,7 +121,7 @@ private:
         }
     }
     [[nodiscard]] CellLook::Down down() const {
-        switch (value<std::int32_t>("VertJustify")) {
+        switch (values_.get<std::int32_t>("VertJustify")) {
             case css::table::CellVertJustify2::TOP:
             case css::table::CellVertJustify2::BLOCK:
                 return CellLook::Down::Top;
@@ -155,7 +132,7 @@ private:
         }
     }
 
-    uno::Sequence<uno::Any> values_;
+    NamedValues values_;
 };
 
 /// A part of a colour, from 0 to 255, by the light that it gives.

@@ -1,6 +1,5 @@
 #include "office/libreoffice/excel/cell_styles.h"
 
-#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/style/XStyle.hpp>
 #include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
 
@@ -31,11 +30,11 @@ std::vector<rtl::OUString> ownProperties(const CellStyle& style) {
             names.push_back(each.Name);
     }
     std::sort(names.begin(), names.end());
-    const uno::Sequence<rtl::OUString> asked(names.data(), static_cast<sal_Int32>(names.size()));
-    const auto states = style->getPropertyStates(asked);
+    const auto states = style->getPropertyStates(sequenceOf(names));
     std::vector<rtl::OUString> own;
     for (sal_Int32 i = 0; i < states.getLength(); ++i)
-        if (states[i] == css::beans::PropertyState_DIRECT_VALUE) own.push_back(asked[i]);
+        if (states[i] == css::beans::PropertyState_DIRECT_VALUE)
+            own.push_back(names[static_cast<std::size_t>(i)]);
     return own;
 }
 
@@ -52,16 +51,15 @@ std::vector<rtl::OUString> propertiesAlongParents(const uno::Reference<css::fram
     return all;
 }
 
-bool takesAfterParent(const uno::Reference<css::frame::XModel>& book, const CellStyle& style) {
+bool takesAfterParent(const uno::Reference<css::frame::XModel>& book, const CellStyle& style,
+                      const std::vector<rtl::OUString>& own) {
     const auto parent = parentOf(book, style);
     if (!parent.is()) return false;
-    const auto own = ownProperties(style), parents = propertiesAlongParents(book, parent);
+    const auto parents = propertiesAlongParents(book, parent);
     std::vector<rtl::OUString> open;
     std::set_difference(parents.begin(), parents.end(), own.begin(), own.end(),
                         std::back_inserter(open));
-    const uno::Sequence<rtl::OUString> names(open.data(), static_cast<sal_Int32>(open.size()));
-    return as<css::beans::XMultiPropertySet>(style)->getPropertyValues(names) ==
-           as<css::beans::XMultiPropertySet>(parent)->getPropertyValues(names);
+    return NamedValues(style, open) == NamedValues(parent, open);
 }
 
 }  // namespace libreoffice::excel

@@ -23,9 +23,9 @@ using CellStyle = uno::Reference<css::beans::XMultiPropertyStates>;
 /// Besides what its parents say, theirs, and so on.
 [[nodiscard]] std::vector<rtl::OUString> propertiesAlongParents(
     const uno::Reference<css::frame::XModel>& book, const CellStyle& style);
-/// Whether what a style leaves open is as its parents say. The styles of conditional formats in
-/// Excel's files name a parent, but leave that to the cell.
+/// Whether what a style leaves open, beside its own properties, is as its parents say. The styles
+/// of conditional formats in Excel's files name a parent, but leave that to the cell.
 [[nodiscard]] bool takesAfterParent(const uno::Reference<css::frame::XModel>& book,
-                                    const CellStyle& style);
+                                    const CellStyle& style, const std::vector<rtl::OUString>& own);
 
 }  // namespace libreoffice::excel

@@ -29,16 +29,12 @@ struct Identity {
     std::string key;
 };
 
-std::string textOf(const uno::Any& value) {
-    rtl::OUString text;
-    value >>= text;
-    return fromUno(text);
-}
-
 Identity identityOf(const uno::Reference<css::beans::XMultiPropertySet>& shape) {
-    static const auto names = namesOf({"CLSID", "Name", "PersistName"});
-    const auto values = shape->getPropertyValues(names);
-    return {office::lowerCase(textOf(values[0])), textOf(values[1]), textOf(values[2])};
+    const NamedValues values(shape, {"CLSID", "Name", "PersistName"});
+    const auto text = [&](const rtl::OUString& name) {
+        return fromUno(values.get<rtl::OUString>(name));
+    };
+    return {office::lowerCase(text("CLSID")), text("Name"), text("PersistName")};
 }
 
 }  // namespace
@@ -64,8 +60,7 @@ ChartShape::ChartShape(CalcDocument& book, uno::Reference<css::drawing::XShape> 
 
 std::string ChartShape::name() {
     if (!hasName_ || book_.isUndisturbed()) return name_;
-    static const auto names = namesOf({"Name"});
-    std::string now = textOf(properties_->getPropertyValues(names)[0]);
+    std::string now = fromUno(NamedValues(properties_, {"Name"}).get<rtl::OUString>("Name"));
     return now == ownName_ ? name_ : now;
 }
 

@@ -59,8 +59,8 @@ std::vector<sal_Int32> codesOfFinders(const uno::Reference<css::lang::XMultiServ
     const auto mapper = as<css::sheet::XFormulaOpCodeMapper>(
         book->createInstance("com.sun.star.sheet.FormulaOpCodeMapper"));
     std::vector<sal_Int32> codes;
-    for (const auto& token :
-         mapper->getMappings(namesOf({"INDIRECT", "OFFSET"}), css::sheet::FormulaLanguage::ENGLISH))
+    const auto names = sequenceOf<rtl::OUString>({"INDIRECT", "OFFSET"});
+    for (const auto& token : mapper->getMappings(names, css::sheet::FormulaLanguage::ENGLISH))
         codes.push_back(token.OpCode);
     return codes;
 }

@@ -1,7 +1,5 @@
 #include "office/libreoffice/excel/held_styles.h"
 
-#include <com/sun/star/beans/XMultiPropertySet.hpp>
-
 #include <algorithm>
 #include <memory>
 #include <optional>
@@ -37,10 +35,7 @@ struct CellsOfStyle {
 
 bool areAlike(const CellStyle& one, const CellStyle& other) {
     const auto said = ownProperties(one);
-    if (said != ownProperties(other)) return false;
-    const uno::Sequence<rtl::OUString> names(said.data(), static_cast<sal_Int32>(said.size()));
-    return as<css::beans::XMultiPropertySet>(one)->getPropertyValues(names) ==
-           as<css::beans::XMultiPropertySet>(other)->getPropertyValues(names);
+    return said == ownProperties(other) && NamedValues(one, said) == NamedValues(other, said);
 }
 
 std::vector<CellBlock> partsBeyond(const CellBlock& used, const CellBlock& cells) {

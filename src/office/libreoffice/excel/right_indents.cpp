@@ -1,7 +1,6 @@
 #include "office/libreoffice/excel/right_indents.h"
 
 #include <com/sun/star/beans/PropertyState.hpp>
-#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XPropertyState.hpp>
 #include <com/sun/star/table/CellHoriJustify.hpp>
 
@@ -18,7 +17,7 @@ namespace {
 
 using office::drawing::IndentedCell;
 
-constexpr const char* indentOfCells = "ParaIndent";
+constexpr char indentOfCells[] = "ParaIndent";
 
 constexpr std::int64_t mostCellsAskedFor = 5000;
 
@@ -56,13 +55,10 @@ private:
 
 /// In hundredths of a millimetre; 0 where the texts aren't set at the right.
 std::int16_t rightIndentOf(const uno::Reference<uno::XInterface>& cells) {
-    const auto values = as<css::beans::XMultiPropertySet>(cells)->getPropertyValues(
-        namesOf({"HoriJustify", indentOfCells}));
-    auto across = css::table::CellHoriJustify_STANDARD;
-    std::int16_t indent = 0;
-    values[0] >>= across;
-    values[1] >>= indent;
-    return across == css::table::CellHoriJustify_RIGHT ? indent : std::int16_t{0};
+    const NamedValues values(cells, {"HoriJustify", indentOfCells});
+    const auto across = values.get<css::table::CellHoriJustify>("HoriJustify");
+    return across == css::table::CellHoriJustify_RIGHT ? values.get<std::int16_t>(indentOfCells)
+                                                       : std::int16_t{0};
 }
 
 void addCells(std::vector<IndentedCell>& found, Edges& edges, const model::CellBlock& cells,
@@ -80,8 +76,8 @@ void addCells(std::vector<IndentedCell>& found, Edges& edges, const model::CellB
 }  // namespace
 
 bool hasIndents(const SheetRecord& sheet) {
-    const auto state = as<css::beans::XPropertyState>(sheet.sheet())
-                           ->getPropertyState(rtl::OUString::createFromAscii(indentOfCells));
+    const auto state =
+        as<css::beans::XPropertyState>(sheet.sheet())->getPropertyState(indentOfCells);
     return state == css::beans::PropertyState_AMBIGUOUS_VALUE ||
            property<std::int16_t>(sheet.sheet(), indentOfCells) > 0;
 }

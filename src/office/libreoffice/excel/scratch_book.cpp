@@ -1,6 +1,5 @@
 #include "office/libreoffice/excel/scratch_book.h"
 
-#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/datatransfer/XTransferable.hpp>
 #include <com/sun/star/embed/Aspects.hpp>
@@ -67,7 +66,7 @@ uno::Reference<css::sheet::XSheetCellRanges> rangesOf(const Model& book,
     const auto ranges = as<css::sheet::XSheetCellRangeContainer>(
         as<css::lang::XMultiServiceFactory>(book)->createInstance(
             "com.sun.star.sheet.SheetCellRanges"));
-    ranges->addRangeAddresses({addresses.data(), static_cast<sal_Int32>(addresses.size())}, false);
+    ranges->addRangeAddresses(sequenceOf(addresses), false);
     return as<css::sheet::XSheetCellRanges>(ranges);
 }
 
@@ -110,9 +109,7 @@ void dress(const Model& book, const HeldStyle& style) {
     if (!look.is()) throw uno::RuntimeException("The copy lacks a style", book);
     const auto said =
         style.takesAfterParent ? propertiesAlongParents(book, look) : ownProperties(look);
-    const uno::Sequence<rtl::OUString> names(said.data(), static_cast<sal_Int32>(said.size()));
-    as<css::beans::XMultiPropertySet>(cells)->setPropertyValues(
-        names, as<css::beans::XMultiPropertySet>(look)->getPropertyValues(names));
+    NamedValues(look, said).applyTo(cells);
     // The suite goes on to draw a format whose range no longer has the cells.
     if (style.beyond.empty()) return;
     const auto conditions =
@@ -142,7 +139,7 @@ void widen(const Model& book, const uno::Reference<uno::XInterface>& sheet,
         if (!isMeant) continue;
         as<css::sheet::XCellRangeData>(as<css::table::XCellRange>(sheet)->getCellRangeByPosition(
                                            column, strip.firstRow, column, strip.lastRow))
-            ->setDataArray({rows.data(), static_cast<sal_Int32>(rows.size())});
+            ->setDataArray(sequenceOf(rows));
         auto cells = conditions.front().blocks;
         cells.push_back(strip);
         setProperty(format, "Range", rangesOf(book, cells));

@@ -1,6 +1,5 @@
 #include "office/libreoffice/excel/sheet_record.h"
 
-#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XSheetCellCursor.hpp>
@@ -161,17 +160,9 @@ model::CellBlock blockOf(const uno::Reference<css::table::XCellRange>& cells) {
     return blockOf(as<css::sheet::XCellRangeAddressable>(cells)->getRangeAddress());
 }
 
-PlaceOfCells placeOf(const uno::Reference<css::table::XCellRange>& cells) {
-    return placeOf(as<css::beans::XMultiPropertySet>(cells));
-}
-
-PlaceOfCells placeOf(const uno::Reference<css::beans::XMultiPropertySet>& cells) {
-    static const auto names = namesOf({"Position", "Size"});
-    const auto values = cells->getPropertyValues(names);
-    PlaceOfCells place;
-    values[0] >>= place.corner;
-    values[1] >>= place.size;
-    return place;
+PlaceOfCells placeOf(const uno::Reference<uno::XInterface>& cells) {
+    const NamedValues place(cells, {"Position", "Size"});
+    return {place.get<css::awt::Point>("Position"), place.get<css::awt::Size>("Size")};
 }
 
 uno::Sequence<css::table::CellRangeAddress> filledParts(

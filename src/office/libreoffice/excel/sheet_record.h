@@ -2,7 +2,6 @@
 
 #include <com/sun/star/awt/Point.hpp>
 #include <com/sun/star/awt/Size.hpp>
-#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
@@ -33,8 +32,7 @@ struct PlaceOfCells {
 };
 
 [[nodiscard]] model::CellBlock blockOf(const uno::Reference<css::table::XCellRange>& cells);
-[[nodiscard]] PlaceOfCells placeOf(const uno::Reference<css::beans::XMultiPropertySet>& cells);
-[[nodiscard]] PlaceOfCells placeOf(const uno::Reference<css::table::XCellRange>& cells);
+[[nodiscard]] PlaceOfCells placeOf(const uno::Reference<uno::XInterface>& cells);
 
 /// What is written into cells.
 constexpr auto contentsOfCells =

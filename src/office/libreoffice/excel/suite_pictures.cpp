@@ -1,6 +1,5 @@
 #include "office/libreoffice/excel/suite_pictures.h"
 
-#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/chart/XChartDocument.hpp>
 #include <com/sun/star/document/XFilter.hpp>
 #include <com/sun/star/drawing/FillStyle.hpp>
@@ -11,7 +10,6 @@
 #include <com/sun/star/util/XCloseable.hpp>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <filesystem>
 #include <system_error>
@@ -97,12 +95,10 @@ css::awt::Size pixelsOf(const css::awt::Size& size, office::Sharpness sharpness)
 }
 
 ChartLook lookOf(const uno::Reference<css::drawing::XShape>& chart) {
-    const auto shown =
-        as<css::beans::XMultiPropertySet>(chart)->getPropertyValues(namesOf({"Graphic", "Model"}));
-    ChartLook look;
-    shown[0] >>= look.graphic;
+    const NamedValues shown(chart, {"Graphic", "Model"});
+    ChartLook look = {shown.get<uno::Reference<css::graphic::XGraphic>>("Graphic"),
+                      shown.get<uno::Reference<uno::XInterface>>("Model")};
     if (!look.graphic.is()) office::refuse("Chart", "LibreOffice shows nothing of the chart");
-    shown[1] >>= look.model;
     return look;
 }
 
@@ -121,22 +117,18 @@ css::awt::Size areaOf(const uno::Reference<css::drawing::XShape>& chart) {
 bool isOpaque(const ChartLook& chart) {
     const auto document = tryAs<css::chart::XChartDocument>(chart.model);
     if (!document.is()) return true;
-    const auto area = as<css::beans::XMultiPropertySet>(document->getArea())
-                          ->getPropertyValues(namesOf(
-                              {"FillStyle", "FillTransparence", "FillTransparenceGradientName"}));
-    css::drawing::FillStyle fill = css::drawing::FillStyle_SOLID;
-    sal_Int16 transparence = 0;
-    rtl::OUString gradient;
-    area[0] >>= fill;
-    area[1] >>= transparence;
-    area[2] >>= gradient;
-    return fill != css::drawing::FillStyle_NONE && transparence == 0 && gradient.isEmpty();
+    using css::drawing::FillStyle;
+    const NamedValues area(document->getArea(),
+                           {"FillStyle", "FillTransparence", "FillTransparenceGradientName"});
+    return area.get("FillStyle", FillStyle::FillStyle_SOLID) != FillStyle::FillStyle_NONE &&
+           area.get<sal_Int16>("FillTransparence") == 0 &&
+           area.get<rtl::OUString>("FillTransparenceGradientName").isEmpty();
 }
 
 /// The drawing that opaque pictures are laid on: one page, one shape as large as the page.
 struct SuitePictures::Page {
     uno::Reference<css::frame::XModel> drawing;
-    uno::Reference<css::beans::XMultiPropertySet> page;
+    uno::Reference<css::drawing::XDrawPage> page;
     uno::Reference<css::drawing::XShape> shape;
     uno::Reference<css::beans::XPropertySet> shapeProperties;
     uno::Reference<css::document::XExporter> exporter;
@@ -149,8 +141,8 @@ struct SuitePictures::Page {
 
 void SuitePictures::Page::resize(const css::awt::Size& wanted) {
     if (wanted.Width == size.Width && wanted.Height == size.Height) return;
-    const std::array values = {uno::Any(wanted.Height), uno::Any(wanted.Width)};
-    page->setPropertyValues(namesOf({"Height", "Width"}), {values.data(), values.size()});
+    NamedValues({{"Height", uno::Any(wanted.Height)}, {"Width", uno::Any(wanted.Width)}})
+        .applyTo(page);
     shape->setSize(wanted);
     size = wanted;
 }
@@ -188,7 +180,7 @@ SuitePictures::Page& SuitePictures::page() {
     page->add(made->shape);
     made->shape->setPosition(css::awt::Point(0, 0));
     made->shapeProperties = as<css::beans::XPropertySet>(made->shape);
-    made->page = as<css::beans::XMultiPropertySet>(page);
+    made->page = page;
     made->exporter = as<css::document::XExporter>(
         connection_->create("com.sun.star.drawing.GraphicExportFilter"));
     made->exporter->setSourceDocument(as<css::lang::XComponent>(page));

@@ -90,16 +90,6 @@ void takeFonts(CellLook& look, const CellLook& own) {
     look.fontSizePt = own.fontSizePt;
 }
 
-void takeDress(HtmlCell& cell, const CellDress& dress) {
-    CellLook& look = cell.look;
-    look.fill = dress.fill;
-    look.isBold = dress.isBold;
-    look.isItalic = dress.isItalic;
-    look.isUnderlined = dress.isUnderlined;
-    look.isStruckOut = dress.isStruckOut;
-    cell.fontColour = dress.fontColour;
-}
-
 /// Some cells of a block as the sheet shows them.
 class DressedCells {
 public:
@@ -158,7 +148,8 @@ public:
             const auto block = model::CellBlock::cell(shown_.rows[row], shown_.columns[column]);
             if (const CellDress* const dress = dressed_.at(block)) {
                 HtmlCell dressed = cell;
-                takeDress(dressed, *dress);
+                takeDress(dressed.look, *dress);
+                dressed.fontColour = dress->fontColour;
                 putCell(dressed, row, column);
             } else {
                 putCell(cell, row, column);

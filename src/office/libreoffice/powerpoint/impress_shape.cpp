@@ -4,7 +4,6 @@
 #include <array>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 #include "office/failure.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
@@ -58,27 +57,11 @@ bool ImpressShape::isTitle() {
 
 rtl::OUString ImpressShape::workbook() {
     if (!service().ends_with(".OLE2Shape") && !service().ends_with(".CalcShape")) return {};
-    const auto values = get({"CLSID", "PersistName"});
-    rtl::OUString kind, name;
-    values[0] >>= kind;
-    values[1] >>= name;
+    const NamedValues values = several({"CLSID", "PersistName"});
+    const auto kind = values.get<rtl::OUString>("CLSID");
     const bool isWorkbook =
         kind.equalsIgnoreAsciiCaseAscii(workbookClass) || kind.equalsAscii(unknownClass);
-    return isWorkbook ? name : rtl::OUString();
-}
-
-void ImpressShape::set(std::initializer_list<std::pair<const char*, uno::Any>> values) {
-    std::vector<std::pair<std::string_view, uno::Any>> sorted(values.begin(), values.end());
-    // The call demands the names in order.
-    std::sort(sorted.begin(), sorted.end(),
-              [](const auto& left, const auto& right) { return left.first < right.first; });
-    std::vector<std::string_view> names;
-    uno::Sequence<uno::Any> anys(static_cast<sal_Int32>(sorted.size()));
-    for (const auto& [name, value] : sorted) {
-        anys.getArray()[names.size()] = value;
-        names.push_back(name);
-    }
-    severalProperties()->setPropertyValues(namesOf(names), anys);
+    return isWorkbook ? values.get<rtl::OUString>("PersistName") : rtl::OUString();
 }
 
 void ImpressShape::wear(std::shared_ptr<const TitleLook> look) {
@@ -157,14 +140,10 @@ void ImpressShape::setWraps(bool wraps) {
 }
 
 office::Font ImpressShape::font() {
-    const auto values = get({"CharColor", "CharFontName", "CharHeight"});
-    sal_Int32 colour = 0;
-    rtl::OUString name;
-    float size = 0;
-    values[0] >>= colour;
-    values[1] >>= name;
-    values[2] >>= size;
-    return {.name = fromUno(name), .sizePt = size, .colour = swapRedAndBlue(colour)};
+    const NamedValues values = several({"CharColor", "CharFontName", "CharHeight"});
+    return {.name = fromUno(values.get<rtl::OUString>("CharFontName")),
+            .sizePt = values.get<float>("CharHeight"),
+            .colour = swapRedAndBlue(values.get<sal_Int32>("CharColor"))};
 }
 
 void ImpressShape::setFont(const model::FontChange& change) {
@@ -183,10 +162,6 @@ const uno::Reference<css::beans::XPropertySet>& ImpressShape::properties() {
 const uno::Reference<css::beans::XMultiPropertySet>& ImpressShape::severalProperties() {
     if (!severalProperties_.is()) severalProperties_ = as<css::beans::XMultiPropertySet>(shape_);
     return severalProperties_;
-}
-
-uno::Sequence<uno::Any> ImpressShape::get(const std::vector<std::string_view>& sortedNames) {
-    return severalProperties()->getPropertyValues(namesOf(sortedNames));
 }
 
 const std::string& ImpressShape::service() {

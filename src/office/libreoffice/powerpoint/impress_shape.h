@@ -9,7 +9,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "office/libreoffice/uno_values.h"
@@ -39,8 +38,8 @@ public:
     /// other shape. An object of which LibreOffice does not know what it holds counts as one.
     [[nodiscard]] rtl::OUString workbook();
 
-    /// Sets several properties in one call; the names in any order.
-    void set(std::initializer_list<std::pair<const char*, uno::Any>> values);
+    /// Sets several properties in one call.
+    void set(const NamedValues& values) { values.applyTo(severalProperties()); }
     /// Sets what a new title lacks of its master page's look: what is set of an empty title gets
     /// lost with its prompt, so the look of the text waits for the first words.
     void wear(std::shared_ptr<const TitleLook> look);
@@ -82,9 +81,9 @@ private:
         properties()->getPropertyValue(rtl::OUString::createFromAscii(name)) >>= otherwise;
         return otherwise;
     }
-    /// The values of several properties in one call; the names sorted. One that the shape hasn't
-    /// got is void.
-    [[nodiscard]] uno::Sequence<uno::Any> get(const std::vector<std::string_view>& sortedNames);
+    [[nodiscard]] NamedValues several(const std::vector<rtl::OUString>& names) {
+        return {severalProperties(), names};
+    }
     template <class Type>
     void set(const char* name, const Type& value) {
         properties()->setPropertyValue(rtl::OUString::createFromAscii(name), uno::Any(value));

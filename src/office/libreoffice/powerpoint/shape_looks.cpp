@@ -100,11 +100,10 @@ Properties geometryOf(model::Outline wanted) {
 /// Takes over what a picture has beside its picture: names, shadow, effects kept for the file.
 void copyLook(const uno::Reference<uno::XInterface>& from,
               const uno::Reference<uno::XInterface>& to) {
-    const auto names = namesOf({"Description", "InteropGrabBag", "Name", "Shadow", "ShadowBlur",
-                                "ShadowColor", "ShadowSizeX", "ShadowSizeY", "ShadowTransparence",
-                                "ShadowXDistance", "ShadowYDistance", "Title"});
-    as<css::beans::XMultiPropertySet>(to)->setPropertyValues(
-        names, as<css::beans::XMultiPropertySet>(from)->getPropertyValues(names));
+    NamedValues(from, {"Description", "InteropGrabBag", "Name", "Shadow", "ShadowBlur",
+                       "ShadowColor", "ShadowSizeX", "ShadowSizeY", "ShadowTransparence",
+                       "ShadowXDistance", "ShadowYDistance", "Title"})
+        .applyTo(to);
 }
 
 /// Stands for the shape's shadow: the numbers and the colour are overwritten by those of the
@@ -243,20 +242,16 @@ bool ImpressShape::setAdjustment(std::int32_t place, double value) {
 constexpr sal_Int32 sizePerPercent = 1000;
 
 model::Shadow ImpressShape::shadow() {
-    const auto values = get({"Shadow", "ShadowBlur", "ShadowColor", "ShadowSizeX",
-                             "ShadowXDistance", "ShadowYDistance"});
-    const auto number = [&](sal_Int32 at, sal_Int32 otherwise) {
-        values[at] >>= otherwise;
-        return otherwise;
-    };
-    hasShadow_ = false;
-    values[0] >>= *hasShadow_;
+    const NamedValues values = several({"Shadow", "ShadowBlur", "ShadowColor", "ShadowSizeX",
+                                        "ShadowXDistance", "ShadowYDistance"});
+    hasShadow_ = values.get<bool>("Shadow");
+    const double size = values.get<sal_Int32>("ShadowSizeX", 100 * sizePerPercent);
     return {.isVisible = *hasShadow_,
-            .blurPt = pointsOf(number(1, 0)),
-            .sizePercent = static_cast<double>(number(3, 100 * sizePerPercent)) / sizePerPercent,
-            .offsetXPt = pointsOf(number(4, 0)),
-            .offsetYPt = pointsOf(number(5, 0)),
-            .colour = swapRedAndBlue(number(2, 0))};
+            .blurPt = pointsOf(values.get<sal_Int32>("ShadowBlur")),
+            .sizePercent = size / sizePerPercent,
+            .offsetXPt = pointsOf(values.get<sal_Int32>("ShadowXDistance")),
+            .offsetYPt = pointsOf(values.get<sal_Int32>("ShadowYDistance")),
+            .colour = swapRedAndBlue(values.get<sal_Int32>("ShadowColor"))};
 }
 
 void ImpressShape::setShadow(const model::Shadow& shadow) {

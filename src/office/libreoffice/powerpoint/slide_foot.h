@@ -16,7 +16,7 @@ public:
     void applyTo(const uno::Reference<css::drawing::XDrawPage>& slide) const;
 
 private:
-    uno::Sequence<uno::Any> values_;
+    NamedValues values_;
 };
 
 }  // namespace libreoffice::powerpoint

@@ -1,6 +1,5 @@
 #include "office/libreoffice/powerpoint/title_look.h"
 
-#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/text/XText.hpp>
 #include <com/sun/star/text/XTextCursor.hpp>
 
@@ -12,17 +11,22 @@ namespace libreoffice::powerpoint {
 
 namespace {
 
-template <class Type>
-uno::Sequence<Type> sequenceOf(const std::vector<Type>& elements) {
-    return {elements.data(), static_cast<sal_Int32>(elements.size())};
-}
-
 uno::Reference<css::text::XTextCursor> firstCharacterOf(
     const uno::Reference<css::drawing::XShape>& shape) {
     const auto cursor = as<css::text::XText>(shape)->createTextCursor();
     cursor->gotoStart(false);
     cursor->goRight(1, true);
     return cursor;
+}
+
+NamedValues differing(const uno::Reference<uno::XInterface>& wanted,
+                      const uno::Reference<uno::XInterface>& present,
+                      const std::vector<rtl::OUString>& names) {
+    const NamedValues before(present, names);
+    NamedValues differing;
+    for (const auto& [name, value] : NamedValues(wanted, names))
+        if (value.hasValue() && value != before.any(name)) differing.add(name, value);
+    return differing;
 }
 
 }  // namespace
@@ -42,28 +46,6 @@ TitleLook::TitleLook(ImpressDeck& deck, const uno::Reference<css::drawing::XDraw
         ofFrame_ = differing(shape, newTitle, {"TextAutoGrowHeight", "TextFitToSize"});
         return;
     }
-}
-
-TitleLook::Settings TitleLook::differing(const uno::Reference<uno::XInterface>& wanted,
-                                         const uno::Reference<uno::XInterface>& present,
-                                         const std::vector<std::string_view>& sortedNames) {
-    const auto names = namesOf(sortedNames);
-    const auto wantedValues = as<css::beans::XMultiPropertySet>(wanted)->getPropertyValues(names);
-    const auto presentValues = as<css::beans::XMultiPropertySet>(present)->getPropertyValues(names);
-    std::vector<rtl::OUString> differentNames;
-    std::vector<uno::Any> values;
-    for (sal_Int32 i = 0; i < names.getLength(); ++i) {
-        if (!wantedValues[i].hasValue() || wantedValues[i] == presentValues[i]) continue;
-        differentNames.push_back(names[i]);
-        values.push_back(wantedValues[i]);
-    }
-    return {sequenceOf(differentNames), sequenceOf(values)};
-}
-
-void TitleLook::apply(const Settings& settings, const ShapeRef& title) {
-    if (settings.names.hasElements())
-        as<css::beans::XMultiPropertySet>(title)->setPropertyValues(settings.names,
-                                                                    settings.values);
 }
 
 }  // namespace libreoffice::powerpoint

@@ -3,9 +3,6 @@
 #include <com/sun/star/drawing/XDrawPage.hpp>
 #include <com/sun/star/drawing/XShape.hpp>
 
-#include <string_view>
-#include <vector>
-
 #include "office/libreoffice/uno_values.h"
 
 namespace libreoffice::powerpoint {
@@ -25,22 +22,13 @@ public:
     TitleLook(ImpressDeck& deck, const uno::Reference<css::drawing::XDrawPage>& masterPage,
               const ShapeRef& newTitle);
 
-    void applyToFrame(const ShapeRef& title) const { apply(ofFrame_, title); }
+    void applyToFrame(const ShapeRef& title) const { ofFrame_.applyTo(title); }
     /// For a title that holds words.
-    void applyToText(const ShapeRef& title) const { apply(ofText_, title); }
+    void applyToText(const ShapeRef& title) const { ofText_.applyTo(title); }
 
 private:
-    struct Settings {
-        uno::Sequence<rtl::OUString> names;
-        uno::Sequence<uno::Any> values;
-    };
-    static void apply(const Settings& settings, const ShapeRef& title);
-    static Settings differing(const uno::Reference<uno::XInterface>& wanted,
-                              const uno::Reference<uno::XInterface>& present,
-                              const std::vector<std::string_view>& sortedNames);
-
-    Settings ofText_;
-    Settings ofFrame_;
+    NamedValues ofText_;
+    NamedValues ofFrame_;
 };
 
 }  // namespace libreoffice::powerpoint

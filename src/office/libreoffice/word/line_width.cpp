@@ -58,16 +58,17 @@ double widthOfColumn(const Thing& divided, double room) {
 
 double lineWidthAt(const uno::Reference<css::beans::XMultiPropertySet>& place,
                    const uno::Reference<css::beans::XMultiPropertySet>& pageStyle, double ofPage) {
-    static const auto names = namesOf({"Cell", "TextFrame", "TextSection", "TextTable"});
-    const auto around = place->getPropertyValues(names);
-    const auto thing = [&](sal_Int32 which) { return Thing(around[which], uno::UNO_QUERY); };
+    const NamedValues around(place, {"Cell", "TextFrame", "TextSection", "TextTable"});
+    const auto thing = [&](const rtl::OUString& name) { return around.get<Thing>(name); };
     double room = ofPage;
-    if (const Thing frame = thing(1); frame.is())
+    if (const Thing frame = thing("TextFrame"); frame.is())
         room = std::min(room, withoutBorders(lengthOf(frame, "Width"), frame));
     else
         room = widthOfColumn(pageStyle, room);
-    if (const Thing section = thing(2); section.is()) room = widthOfColumn(section, room);
-    if (const Thing cell = thing(0); cell.is()) room = widthOfCell(cell, thing(3), room);
+    if (const Thing section = thing("TextSection"); section.is())
+        room = widthOfColumn(section, room);
+    if (const Thing cell = thing("Cell"); cell.is())
+        room = widthOfCell(cell, thing("TextTable"), room);
     return std::max(room, 1.0);
 }
 

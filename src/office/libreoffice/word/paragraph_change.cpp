@@ -1,6 +1,5 @@
 #include "office/libreoffice/word/paragraph_change.h"
 
-#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XMultiPropertyStates.hpp>
 #include <com/sun/star/style/BreakType.hpp>
 #include <com/sun/star/style/ParagraphAdjust.hpp>
@@ -10,7 +9,6 @@
 #include <algorithm>
 #include <array>
 #include <utility>
-#include <vector>
 
 #include "office/failure.h"
 #include "office/libreoffice/units.h"
@@ -35,26 +33,6 @@ constexpr std::array<std::pair<model::Alignment, css::style::ParagraphAdjust>, 4
     {model::Alignment::Right, css::style::ParagraphAdjust_RIGHT},
     {model::Alignment::Justified, css::style::ParagraphAdjust_BLOCK},
 }};
-
-/// What a change comes to, in order of the names.
-class Properties {
-public:
-    template <class Type>
-    void add(const char* name, const Type& value) {
-        names_.push_back(rtl::OUString::createFromAscii(name));
-        values_.emplace_back(value);
-    }
-    /// In one call, which is one step for the user to take back.
-    void set(const uno::Reference<css::text::XTextCursor>& paragraph) const {
-        const auto count = static_cast<sal_Int32>(names_.size());
-        as<css::beans::XMultiPropertySet>(paragraph)->setPropertyValues({names_.data(), count},
-                                                                        {values_.data(), count});
-    }
-
-private:
-    std::vector<rtl::OUString> names_;
-    std::vector<uno::Any> values_;
-};
 
 rtl::OUString nameOfStyle(std::int32_t number) {
     const auto* const known = std::find_if(styles.begin(), styles.end(),
@@ -84,12 +62,13 @@ void changeParagraph(const uno::Reference<css::text::XTextCursor>& paragraph,
                      const model::ParagraphChange& change, Letters letters) {
     const rtl::OUString style = change.style ? nameOfStyle(*change.style) : rtl::OUString();
     if (change.style) forgetOwnLooks(paragraph, letters);
-    Properties properties;
+    NamedValues properties;
     if (change.breaksPageBefore || change.style)
         properties.add("BreakType", change.breaksPageBefore.value_or(false)
                                         ? css::style::BreakType_PAGE_BEFORE
                                         : css::style::BreakType_NONE);
-    // The one look that LibreOffice doesn't forget. Ahead of the style, which may bring its own.
+    // The one look that LibreOffice doesn't forget. Its name comes ahead of that of
+    // the style, which may bring its own.
     if (change.style && letters == Letters::MayBeDressed && isInList(paragraph))
         properties.add("NumberingStyleName", rtl::OUString());
     if (change.alignment)
@@ -105,7 +84,7 @@ void changeParagraph(const uno::Reference<css::text::XTextCursor>& paragraph,
     if (change.rightIndent) properties.add("ParaRightMargin", hundredthMmOf(*change.rightIndent));
     if (change.style) properties.add("ParaStyleName", style);
     if (change.spaceBefore) properties.add("ParaTopMargin", hundredthMmOf(*change.spaceBefore));
-    properties.set(paragraph);
+    properties.applyTo(paragraph);
 }
 
 }  // namespace libreoffice::word

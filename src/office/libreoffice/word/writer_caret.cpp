@@ -116,15 +116,14 @@ uno::Reference<css::text::XTextContent> WriterCaret::selectedContent() {
 void requireWritable(const uno::Reference<css::beans::XMultiPropertySet>& place,
                      const std::string& member) {
     constexpr const char* isProtected = "IsProtected";
-    static const auto names = namesOf({"Cell", "TextFrame", "TextSection"});
-    const auto around = place->getPropertyValues(names);
-    const uno::Reference<uno::XInterface> cell(around[0], uno::UNO_QUERY);
+    const NamedValues around(place, {"Cell", "TextFrame", "TextSection"});
+    const auto cell = around.get<uno::Reference<uno::XInterface>>("Cell");
     if (cell.is() && property<bool>(cell, isProtected))
         refuse(member, "This cell of the table is protected");
-    const uno::Reference<uno::XInterface> frame(around[1], uno::UNO_QUERY);
+    const auto frame = around.get<uno::Reference<uno::XInterface>>("TextFrame");
     if (frame.is() && property<bool>(frame, "ContentProtected"))
         refuse(member, "This frame is protected");
-    uno::Reference<css::text::XTextSection> section(around[2], uno::UNO_QUERY);
+    auto section = around.get<uno::Reference<css::text::XTextSection>>("TextSection");
     for (; section.is(); section = section->getParentSection()) {
         if (property<bool>(section, isProtected))
             refuse(member, "This part of the document is protected");

@@ -16,7 +16,6 @@
 #include <rtl/character.hxx>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "office/failure.h"
@@ -40,12 +39,12 @@ struct Bands {
 };
 
 Bands bandsOf(const uno::Reference<css::beans::XMultiPropertySet>& page) {
-    static const auto names = namesOf({"FooterHeight", "FooterIsOn", "HeaderHeight", "HeaderIsOn"});
-    const auto values = page->getPropertyValues(names);
-    const auto heightIf = [&](sal_Int32 isOn, sal_Int32 height) {
-        return values[isOn].get<bool>() ? values[height].get<sal_Int32>() : 0;
+    const NamedValues values(page, {"FooterHeight", "FooterIsOn", "HeaderHeight", "HeaderIsOn"});
+    const auto heightIf = [&](const rtl::OUString& isOn, const rtl::OUString& height) {
+        return values.get<bool>(isOn) ? values.get<sal_Int32>(height) : 0;
     };
-    return {.header = heightIf(3, 2), .footer = heightIf(1, 0)};
+    return {.header = heightIf("HeaderIsOn", "HeaderHeight"),
+            .footer = heightIf("FooterIsOn", "FooterHeight")};
 }
 
 uno::Reference<css::document::XDocumentProperties> propertiesOf(
@@ -85,15 +84,14 @@ std::int32_t WriterDocument::length() {
 /// What is drawn takes calls, and comes last.
 bool WriterDocument::isLastPageEmpty() {
     using css::style::BreakType;
-    static const auto names = namesOf({"BreakType", "PageDescName"});
     const auto cursor = body_->createTextCursorByRange(body_->getEnd());
     const auto paragraph = as<css::text::XParagraphCursor>(cursor);
     bool isAtBreak = false;
     while (!isAtBreak) {
         if (!paragraph->isStartOfParagraph() || !paragraph->isEndOfParagraph()) return false;
-        const auto values = as<css::beans::XMultiPropertySet>(cursor)->getPropertyValues(names);
-        isAtBreak =
-            values[0].get<BreakType>() == BreakType::BreakType_PAGE_BEFORE || values[1].hasValue();
+        const NamedValues values(cursor, {"BreakType", "PageDescName"});
+        isAtBreak = values.get<BreakType>("BreakType") == BreakType::BreakType_PAGE_BEFORE ||
+                    values.any("PageDescName").hasValue();
         if (!isAtBreak && !cursor->goLeft(1, false)) break;
     }
     if (!isAtBreak && tableCount() > 0) return false;
@@ -235,20 +233,19 @@ uno::Reference<css::beans::XMultiPropertySet> WriterDocument::pageStyle() {
 }
 
 model::Page WriterDocument::page() {
-    static const auto names =
-        namesOf({"BottomMargin", "Height", "LeftMargin", "RightMargin", "TopMargin", "Width"});
     const auto style = pageStyle();
-    const auto values = style->getPropertyValues(names);
-    const auto length = [&](sal_Int32 i, std::int32_t more = 0) {
-        return pointsOf(values[i].get<sal_Int32>() + more);
+    const NamedValues values(
+        style, {"BottomMargin", "Height", "LeftMargin", "RightMargin", "TopMargin", "Width"});
+    const auto length = [&](const rtl::OUString& name, std::int32_t more = 0) {
+        return pointsOf(values.get<sal_Int32>(name) + more);
     };
     const Bands bands = bandsOf(style);
-    return {.width = length(5),
-            .height = length(1),
-            .leftMargin = length(2),
-            .rightMargin = length(3),
-            .topMargin = length(4, bands.header),
-            .bottomMargin = length(0, bands.footer)};
+    return {.width = length("Width"),
+            .height = length("Height"),
+            .leftMargin = length("LeftMargin"),
+            .rightMargin = length("RightMargin"),
+            .topMargin = length("TopMargin", bands.header),
+            .bottomMargin = length("BottomMargin", bands.footer)};
 }
 
 double WriterDocument::lineWidth() {
@@ -259,22 +256,20 @@ double WriterDocument::lineWidth() {
 
 void WriterDocument::setPage(const model::Page& page) {
     static_cast<void>(writablePlace("PageSetup"));
-    static const auto names = namesOf({"BottomMargin", "Height", "IsLandscape", "LeftMargin",
-                                       "RightMargin", "TopMargin", "Width"});
     const auto style = pageStyle();
     const auto length = [](double points, std::int32_t less = 0) {
         return uno::Any(std::max<sal_Int32>(0, hundredthMmOf(points) - less));
     };
     const Bands bands = bandsOf(style);
     const UndoGroup group(steps_, "Page");
-    const std::array<uno::Any, 7> values = {length(page.bottomMargin, bands.footer),
-                                            length(page.height),
-                                            uno::Any(page.width > page.height),
-                                            length(page.leftMargin),
-                                            length(page.rightMargin),
-                                            length(page.topMargin, bands.header),
-                                            length(page.width)};
-    style->setPropertyValues(names, {values.data(), values.size()});
+    NamedValues({{"BottomMargin", length(page.bottomMargin, bands.footer)},
+                 {"Height", length(page.height)},
+                 {"IsLandscape", uno::Any(page.width > page.height)},
+                 {"LeftMargin", length(page.leftMargin)},
+                 {"RightMargin", length(page.rightMargin)},
+                 {"TopMargin", length(page.topMargin, bands.header)},
+                 {"Width", length(page.width)}})
+        .applyTo(style);
 }
 
 void WriterDocument::insertCaption(const model::Caption& caption) {
