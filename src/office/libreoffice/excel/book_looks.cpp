@@ -217,7 +217,7 @@ bool BookLooks::hasIndents(SheetRecord& sheet) {
 std::vector<CellCondition> BookLooks::conditionsOn(SheetRecord& sheet,
                                                    const model::CellBlock& block) {
     auto& all = knownOf(sheet).conditions;
-    if (!all) all = excel::conditionsOn(sheet, model::CellBlock::wholeSheet());
+    if (!all) all = conditionsOf(sheet);
     std::vector<CellCondition> found;
     std::copy_if(all->begin(), all->end(), std::back_inserter(found),
                  [&](const CellCondition& each) { return meetsAny(each.blocks, block); });

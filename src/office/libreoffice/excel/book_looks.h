@@ -53,7 +53,7 @@ class BookLooks {
 public:
     explicit BookLooks(CalcDocument& book);
 
-    /// As `excel::conditionsOn`, which is asked once for a sheet.
+    /// Those of a sheet that touch a block of cells.
     [[nodiscard]] std::vector<CellCondition> conditionsOn(SheetRecord& sheet,
                                                           const model::CellBlock& block);
     /// As `excel::hasIndents`, which is asked once for a sheet.

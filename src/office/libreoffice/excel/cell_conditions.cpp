@@ -80,13 +80,12 @@ std::vector<CellCondition> conditionsOf(
     return all;
 }
 
-std::vector<CellCondition> conditionsOn(const SheetRecord& sheet, const CellBlock& block) {
+std::vector<CellCondition> conditionsOf(const SheetRecord& sheet) {
     std::vector<CellCondition> found;
     const auto formats = property<uno::Reference<css::sheet::XConditionalFormats>>(
         sheet.sheet(), "ConditionalFormats");
     if (!formats.is()) return found;
     for (const auto& format : formats->getConditionalFormats()) {
-        if (!meetsAny(blocksOf(format), block)) continue;
         const auto conditions = conditionsOf(format);
         found.insert(found.end(), conditions.begin(), conditions.end());
     }

@@ -27,9 +27,8 @@ struct CellCondition {
 /// All of one format.
 [[nodiscard]] std::vector<CellCondition> conditionsOf(
     const uno::Reference<css::sheet::XConditionalFormat>& format);
-/// Those that touch a block of cells.
-[[nodiscard]] std::vector<CellCondition> conditionsOn(const SheetRecord& sheet,
-                                                      const model::CellBlock& block);
+/// All of a sheet.
+[[nodiscard]] std::vector<CellCondition> conditionsOf(const SheetRecord& sheet);
 
 /// The cells of a colour scale that others of these conditions may dress. Where one does, the
 /// suite's HTML is without the scale's colour.

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "office/libreoffice/excel/book_looks.h"
+#include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/numbers_in_cells.h"
 #include "office/text.h"
 
@@ -60,7 +62,8 @@ ColourScales::ColourScales(SheetRecord& sheet, const std::vector<CellCondition>&
         const auto& [blocks, entry, kind] = condition;
         if (kind != css::sheet::ConditionEntryType::COLORSCALE) continue;
         const auto steps = property<uno::Sequence<Step>>(entry, "ColorScaleEntries");
-        const std::vector<double> numbers = sortedNumbers(sheet, blocks);
+        const auto sorted = sheet.book().looks().numbersIn(sheet, blocks);
+        const std::vector<double>& numbers = *sorted;
         if (!steps.hasElements() || numbers.empty()) continue;
         const double least = endOfScale(steps[0], numbers.front());
         const double most = endOfScale(steps[steps.getLength() - 1], numbers.back());

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "office/libreoffice/excel/book_looks.h"
+#include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/numbers_in_cells.h"
 #include "office/text.h"
 
@@ -66,7 +68,8 @@ std::optional<DataBars::Bars> DataBars::barsOf(
     const std::vector<model::CellBlock>& blocks) {
     const auto ends =
         property<uno::Sequence<uno::Reference<css::sheet::XDataBarEntry>>>(entry, "DataBarEntries");
-    const std::vector<double> numbers = sortedNumbers(sheet, blocks);
+    const auto sorted = sheet.book().looks().numbersIn(sheet, blocks);
+    const std::vector<double>& numbers = *sorted;
     if (ends.getLength() != 2 || numbers.empty()) return std::nullopt;
     const bool isAutomatic = ends[1]->getType() != EntryType::DATABAR_MAX;
     const auto least = endOf(ends[0], false, isAutomatic, numbers);
@@ -87,11 +90,9 @@ std::optional<DataBars::Bars> DataBars::barsOf(
 
 std::optional<office::CellBar> DataBars::barOf(std::int32_t column, std::int32_t row,
                                                double number) const {
-    const auto found = std::find_if(all_.begin(), all_.end(), [&](const Bars& bars) {
-        return std::any_of(bars.blocks.begin(), bars.blocks.end(), [&](const auto& block) {
-            return intersection(block, model::CellBlock::cell(row, column)).has_value();
-        });
-    });
+    const auto cell = model::CellBlock::cell(row, column);
+    const auto found = std::find_if(all_.begin(), all_.end(),
+                                    [&](const Bars& bars) { return meetsAny(bars.blocks, cell); });
     if (found == all_.end()) return std::nullopt;
     office::CellBar look = lookOf(*found, number);
     look.isAlone = found->isAlone;

@@ -152,7 +152,8 @@ bool hasCellOfSeveralLooks(const SheetRecord& sheet, const CellBlock& block) {
 class LossesOfSheet {
 public:
     LossesOfSheet(const std::shared_ptr<SheetRecord>& sheet, bool drawsBars)
-        : LossesOfSheet(sheet, conditionsOn(*sheet, CellBlock::wholeSheet()), drawsBars) {}
+        : LossesOfSheet(sheet, sheet->book().looks().conditionsOn(*sheet, CellBlock::wholeSheet()),
+                        drawsBars) {}
 
     [[nodiscard]] std::optional<CellBlock> drawnPartOf(const CellBlock& block) const {
         return model::drawnPart(block, *sheet_);

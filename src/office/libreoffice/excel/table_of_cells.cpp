@@ -114,21 +114,21 @@ private:
 class TableMaker {
 public:
     TableMaker(SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& cells,
-               const ShownLines& shown, const CellFormats& formats,
-               const std::vector<CellCondition>& conditions, const DressedCells& dressed)
+               const model::CellBlock& block, std::size_t mostCells)
         : sheet_(sheet),
-          dressed_(dressed),
-          bars_(sheet, conditions),
-          scales_(sheet, conditions),
+          shown_(shownLinesOf(cells, mostCells)),
+          formats_(readCellFormats(cells, shown_)),
+          conditions_(sheet.book().looks().conditionsOn(sheet, block)),
+          bars_(sheet, conditions_),
+          scales_(sheet, conditions_),
+          dressed_(sheet, block, conditions_),
           showsZeros_(
               property<bool>(sheet.book().model()->getCurrentController(), "ShowZeroValues", true)),
           errors_(errorsIn(cells)),
-          shown_(shown),
-          formats_(formats),
-          places_(shown),
-          values_(formats.ofCells.size()) {
-        for (const std::size_t format : formats.ofCells) {
-            const CellLook& own = formats.formats[format].look;
+          places_(shown_),
+          values_(formats_.ofCells.size()) {
+        for (const std::size_t format : formats_.ofCells) {
+            const CellLook& own = formats_.formats[format].look;
             CellLook look;
             // A cell that holds nothing is as high as its characters would be.
             takeFonts(look, own);
@@ -136,6 +136,8 @@ public:
             cells_.push_back(look);
         }
     }
+
+    [[nodiscard]] const ShownLines& shown() const { return shown_; }
 
     /// A row of cells as the suite writes it: those that are covered are left out.
     void putRow(const HtmlRow& html, std::size_t row) {
@@ -295,13 +297,15 @@ private:
     }
 
     const SheetRecord& sheet_;
-    const DressedCells& dressed_;
+    ShownLines shown_;
+    CellFormats formats_;
+    std::vector<CellCondition> conditions_;
     DataBars bars_;
     ColourScales scales_;
+    /// After all else that asks the workbook's looks, which may drop what this points to.
+    DressedCells dressed_;
     bool showsZeros_;
     std::vector<model::CellBlock> errors_;
-    const ShownLines& shown_;
-    const CellFormats& formats_;
     HtmlPlaces places_;
     std::vector<CellLook> cells_;
     std::vector<CellValue> values_;
@@ -354,11 +358,9 @@ std::optional<TableLook> tableOfBlankCells(SheetRecord& sheet,
 
 TableLook tableOfCells(SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& cells,
                        const model::CellBlock& block, std::size_t mostCells) {
-    const ShownLines shown = shownLinesOf(cells, mostCells);
-    const CellFormats formats = readCellFormats(cells, shown);
-    const auto conditions = conditionsOn(sheet, block);
     // What may take its time goes before the cells are selected, where a user may be typing.
-    const DressedCells dressed(sheet, block, conditions);
+    TableMaker maker(sheet, cells, block, mostCells);
+    const ShownLines& shown = maker.shown();
     const uno::Sequence<sal_Int8> copy = htmlOf(sheet, cells, block);
     const CellsAsHtml html = readCellsAsHtml(bytesOf(copy));
 
@@ -375,7 +377,6 @@ TableLook tableOfCells(SheetRecord& sheet, const uno::Reference<css::table::XCel
     table.rowHeightsPt = lengthsOf(as<css::container::XIndexAccess>(lines->getRows()), "Height",
                                    shown.rows, rowHeights, pointsOf(size.Height));
 
-    TableMaker maker(sheet, cells, shown, formats, conditions, dressed);
     for (std::size_t row = 0; row < std::min(html.rows.size(), shown.rows.size()); ++row)
         maker.putRow(html.rows[row], row);
     table.cells = maker.takeCells();
