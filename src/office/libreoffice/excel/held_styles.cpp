@@ -9,7 +9,7 @@
 #include "office/libreoffice/excel/calc_document.h"
 #include "office/libreoffice/excel/cell_dress.h"
 #include "office/libreoffice/excel/cell_styles.h"
-#include "office/libreoffice/excel/formula_reach.h"
+#include "office/libreoffice/excel/condition_reach.h"
 
 namespace libreoffice::excel {
 

@@ -7,7 +7,7 @@
 #include "office/drawing/metafile.h"
 #include "office/files.h"
 #include "office/libreoffice/desk.h"
-#include "office/libreoffice/excel/png_file.h"
+#include "office/libreoffice/excel/picture_file.h"
 #include "office/libreoffice/excel/written_scripts.h"
 #include "office/libreoffice/private_folder.h"
 #include "office/libreoffice/units.h"

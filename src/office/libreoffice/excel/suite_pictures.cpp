@@ -18,7 +18,7 @@
 #include "office/failure.h"
 #include "office/files.h"
 #include "office/libreoffice/at_end.h"
-#include "office/libreoffice/excel/png_file.h"
+#include "office/libreoffice/excel/picture_file.h"
 #include "office/libreoffice/excel/suite_svg.h"
 #include "office/libreoffice/units.h"
 #include "office/units.h"

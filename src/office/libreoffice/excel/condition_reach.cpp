@@ -1,4 +1,4 @@
-#include "office/libreoffice/excel/formula_reach.h"
+#include "office/libreoffice/excel/condition_reach.h"
 
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/ComplexReference.hpp>

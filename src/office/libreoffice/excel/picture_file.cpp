@@ -1,4 +1,4 @@
-#include "office/libreoffice/excel/png_file.h"
+#include "office/libreoffice/excel/picture_file.h"
 
 #include <fmt/format.h>
 
