@@ -178,13 +178,9 @@ void SheetLooks::readRow(std::size_t row) {
 }
 
 const CellDress* SheetLooks::at(std::int32_t column, std::int32_t row) {
-    const auto placeIn = [](const std::vector<std::int32_t>& lines, std::int32_t line) {
-        const auto found = std::lower_bound(lines.begin(), lines.end(), line);
-        const bool isThere = found != lines.end() && *found == line;
-        return static_cast<std::size_t>((isThere ? found : lines.end()) - lines.begin());
-    };
-    const std::size_t x = placeIn(shown_.columns, column), y = placeIn(shown_.rows, row);
-    if (x == shown_.columns.size() || y == shown_.rows.size()) return nullptr;
+    const auto [x, endOfX] = shownBetween(shown_.columns, column, column);
+    const auto [y, endOfY] = shownBetween(shown_.rows, row, row);
+    if (x == endOfX || y == endOfY) return nullptr;
     readRow(y);
     return &cells_[y * shown_.columns.size() + x];
 }

@@ -141,15 +141,6 @@ double linear(std::int32_t part) {
     return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
 }
 
-/// The places in `shown` of what stands from one place on the sheet to another.
-std::pair<std::size_t, std::size_t> shownBetween(const std::vector<std::int32_t>& shown,
-                                                 std::int32_t first, std::int32_t last) {
-    const auto from = std::lower_bound(shown.begin(), shown.end(), first);
-    const auto to = std::upper_bound(from, shown.end(), last);
-    return {static_cast<std::size_t>(from - shown.begin()),
-            static_cast<std::size_t>(to - shown.begin())};
-}
-
 }  // namespace
 
 std::int32_t automaticColourOn(const std::optional<std::int32_t>& fill) {

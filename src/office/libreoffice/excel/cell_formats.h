@@ -6,16 +6,11 @@
 #include <optional>
 #include <vector>
 
+#include "office/libreoffice/excel/shown_lines.h"
 #include "office/libreoffice/uno_values.h"
 #include "office/table_look.h"
 
 namespace libreoffice::excel {
-
-/// The columns and the rows of a block that aren't hidden, by their places on the sheet from 0.
-struct ShownLines {
-    std::vector<std::int32_t> columns;
-    std::vector<std::int32_t> rows;
-};
 
 /// What was set for cells, before conditional formats are applied.
 struct CellFormat {

@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <vector>
 
-#include "office/libreoffice/excel/cell_formats.h"
 #include "office/libreoffice/excel/cells_as_html.h"
 #include "office/libreoffice/excel/sheet_record.h"
+#include "office/libreoffice/excel/shown_lines.h"
 
 namespace libreoffice::excel {
 
