@@ -21,6 +21,8 @@ struct ExportChoices {
     /// The review asks whether the presentation may be changed. A dialog asks that itself, where
     /// another one can be opened yet.
     bool refusesReadOnly = false;
+    /// Of pages: every item is an image, of one width. A dialog asks that itself, later.
+    bool areImages = false;
 };
 
 }  // namespace catalogue

@@ -3,6 +3,8 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <map>
+#include <string>
 #include <vector>
 
 #include "catalogue/review_looks.h"
@@ -125,6 +127,9 @@ std::vector<office::PasteItem> takenItems(const session::OfficeSession& session,
                         .chart = row.isEmbeddedChart() ? row.name : "",
                         .address = objects.addressOf(row)}});
     }
+    std::map<std::string, int> named;
+    for (const office::PasteItem& item : items) ++named[item.name];
+    for (office::PasteItem& item : items) item.sharesName = named[item.name] > 1;
     return items;
 }
 

@@ -20,6 +20,9 @@ const ItemRemarks::Text withoutSparklines = {
 const ItemRemarks::Text misdrawn = {
     "The picture of {} may have conditional formats wrong that go by cells outside.",
     "The pictures of {} may have conditional formats wrong that go by cells outside."};
+const ItemRemarks::Text withoutDrawings = {
+    "A page with tables shows {} without the charts and drawings that lie on it.",
+    "A page with tables shows {} without the charts and drawings that lie on them."};
 const ItemRemarks::Text tooLargeForSlide = {
     "{} is too large for a slide: its text will be too small to read.",
     "{} are too large for a slide: their text will be too small to read."};
@@ -46,9 +49,13 @@ std::optional<office::Size> roomFor(session::OfficeSession& session, const Expor
     return std::nullopt;
 }
 
-/// Pages show tables, and what is embedded or linked is the cells themselves.
+bool makesTables(const ExportChoices& choices) {
+    return choices.destination == Destination::Html && !choices.areImages;
+}
+
+/// What is embedded or linked is the cells themselves.
 bool showsPictures(const ExportChoices& choices) {
-    if (choices.destination == Destination::Html) return false;
+    if (makesTables(choices)) return false;
     const bool hasFormats =
         choices.destination == Destination::PowerPoint || choices.destination == Destination::Word;
     return !hasFormats || choices.format == ExportFormat::Pictures;
@@ -67,10 +74,12 @@ void reviewLooks(session::OfficeSession& session, const std::vector<office::Past
                  const std::vector<ExportChoices>& exports, ReviewTexts& texts) {
     office::ContinueOnFailure scope;
     std::vector<office::ShownCells> shown;
-    scope.attempt([&] { shown = session.suite.shownCells(items); });
-    ItemRemarks remarks;
+    const bool areTables = std::any_of(exports.begin(), exports.end(), makesTables);
     const bool arePictures = std::any_of(exports.begin(), exports.end(), showsPictures);
+    scope.attempt([&] { shown = session.suite.shownCells(items, areTables); });
+    ItemRemarks remarks;
     for (std::size_t i = 0; i < shown.size(); ++i) {
+        if (shown[i].haveDrawings) remarks.add(withoutDrawings, items[i]);
         if (shown[i].haveSparklines) remarks.add(withoutSparklines, items[i]);
         if (arePictures && shown[i].mayBeMisdrawn) remarks.add(misdrawn, items[i]);
     }

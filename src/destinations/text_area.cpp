@@ -7,12 +7,15 @@
 namespace destinations {
 
 TextArea textAreaOf(const office::Value& page) {
-    const double toEdge = page.get("PageWidth").toDouble() - page.get("LeftMargin").toDouble();
-    return {std::min(toEdge - page.get("RightMargin").toDouble(),
-                     page.get("TextColumns").get("Width").toDouble()),
-            page.get("PageHeight").toDouble() - page.get("TopMargin").toDouble() -
-                page.get("BottomMargin").toDouble(),
-            toEdge};
+    const auto length = [&](const char* name) { return page.get(name).toDouble(); };
+    const double toEdge = length("PageWidth") - length("LeftMargin");
+    const double text = toEdge - length("RightMargin");
+    const double column = page.get("TextColumns").get("Width").toDouble();
+    // A column of several cuts off what is wider.
+    const bool isNarrower = column < text - 0.5;
+    return {std::min(text, column),
+            length("PageHeight") - length("TopMargin") - length("BottomMargin"),
+            isNarrower ? column : toEdge};
 }
 
 office::Size sizeOf(const office::Object& shape) {

@@ -9,7 +9,7 @@ namespace office {
 namespace {
 
 std::string shownName(const PasteItem& item) {
-    if (item.source.chart.empty()) return fmt::format("\"{}\"", item.name);
+    if (item.source.chart.empty() && !item.sharesName) return fmt::format("\"{}\"", item.name);
     return fmt::format("\"{}\" on sheet \"{}\"", item.name, item.source.sheet);
 }
 
@@ -30,7 +30,10 @@ void ItemRemarks::add(const Text& text, const PasteItem& item) {
     auto known = std::find_if(names_.begin(), names_.end(),
                               [&](const auto& said) { return said.first.one == text.one; });
     if (known == names_.end()) known = names_.insert(known, {text, {}});
-    known->second.push_back(shownName(item));
+    std::vector<std::string>& names = known->second;
+    std::string name = shownName(item);
+    if (std::find(names.begin(), names.end(), name) == names.end())
+        names.push_back(std::move(name));
 }
 
 std::vector<std::string> ItemRemarks::lines() const {

@@ -21,6 +21,7 @@ public:
         std::string many;
     };
 
+    /// Once for an item, however often it is added.
     void add(const Text& text, const PasteItem& item);
     /// In the order in which they were first added.
     [[nodiscard]] std::vector<std::string> lines() const;

@@ -28,6 +28,8 @@ struct PasteItem {
     std::string name;
     /// As far as it is known before the copy.
     CopySource source;
+    /// Another one, of another sheet, has that name.
+    bool sharesName = false;
     /// Of a table where it is to go; none: any number.
     std::optional<std::size_t> mostColumns = {};
 };
@@ -38,6 +40,8 @@ struct ShownCells {
     Size size;
     double lettersPt = 0;
     bool haveSparklines = false;
+    /// Charts and drawings on them, which no table shows.
+    bool haveDrawings = false;
     /// Whether pictures of them may have conditional formats wrong.
     bool mayBeMisdrawn = false;
 };
@@ -73,8 +77,12 @@ public:
         return {};
     }
     /// Of each item, nothing of those that are no cells of the active workbook; empty where that
-    /// can't be told.
-    virtual std::vector<ShownCells> shownCells(const std::vector<PasteItem>&) { return {}; }
+    /// can't be told. Drawings are looked for if `withDrawings`: that takes a while where there are
+    /// many.
+    virtual std::vector<ShownCells> shownCells(const std::vector<PasteItem>&,
+                                               bool /*withDrawings*/) {
+        return {};
+    }
 
     /// Keeps the open document of that full name and of that application open. Null where nobody
     /// else closes it, or where that can't be kept from happening.

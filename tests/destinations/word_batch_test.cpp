@@ -126,6 +126,19 @@ TEST_F(WordBatchTest, PicturesKeepTheirSizeUnlessThePaperCutsThemOff) {
     }
 }
 
+TEST_F(WordBatchTest, PicturesComeDownToTheWidthOfAColumnThatWouldCutThemOff) {
+    auto section = document.body().child("w:sectPr");
+    if (!section) section = document.body().append_child("w:sectPr");
+    auto columns = section.append_child("w:cols");
+    columns.append_attribute("w:num") = 2;
+    columns.append_attribute("w:space") = 400;
+    const double column = document.lineWidth();
+    book.sheet("Sales").chart("Wide", {0, 0, column + 20, 100});
+    add("Wide", "Sales", "");
+    exportRows(ExportFormat::Pictures);
+    EXPECT_NEAR(document.objectAt(Anchoring::Inline, 1)->size().width, column, 0.2);
+}
+
 TEST_F(WordBatchTest, WhatCannotBeCopiedLeavesNoPageBehindAndIsTold) {
     add("Gone", "Sales", "Turnover", session::ItemKind::Range);
     add("Chart 9", "Sales", "Turnover");

@@ -56,8 +56,8 @@ public:
     void clearClipboard() override;
     std::vector<std::uint8_t> clipboardPicture(office::Sharpness sharpness) override;
     office::ClipboardPtr clipboard() override { return state_->clipboard; }
-    std::vector<office::ShownCells> shownCells(
-        const std::vector<office::PasteItem>& items) override;
+    std::vector<office::ShownCells> shownCells(const std::vector<office::PasteItem>& items,
+                                               bool withDrawings) override;
     /// What it says of the cells of an item.
     void show(const std::string& item, office::ShownCells cells) { shownCells_[item] = cells; }
     std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,

@@ -225,6 +225,7 @@ catalogue::ExportChoices choicesFor(Destination destination, const Options& opti
     choices.predefinedSlides = isSlides && options.predefinedSlides;
     choices.refusesReadOnly = isSlides && options.attach;
     if (isSlides || destination == Destination::Word) choices.format = options.format;
+    choices.areImages = options.sameWidth;
     return choices;
 }
 

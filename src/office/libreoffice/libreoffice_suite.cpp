@@ -144,6 +144,10 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
                 "LibreOffice links no text document to a workbook: the items will be left out. "
                 "Choose another format, or {}.",
                 desk_->opensHidden() ? "append to a .docx" : "use murvane-export"));
+        if (as == office::PasteAs::Embedded && forgetsViews())
+            remarks.emplace_back(
+                "LibreOffice shows the beginning of a sheet in place of each embedded item once "
+                "it opens a .docx again: save the document as .odt.");
         return remarks;
     }
     if (as == office::PasteAs::Embedded && damagesWorkbooks(items.size()))
@@ -156,11 +160,12 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
 }
 
 std::vector<office::ShownCells> LibreOfficeSuite::shownCells(
-    const std::vector<office::PasteItem>& items) {
+    const std::vector<office::PasteItem>& items, bool withDrawings) {
     if (!desk_) return {};
     return translated(*connection_, "Suite.shownCells", [&] {
         const auto book = desk_->active<excel::CalcDocument>();
-        return book ? excel::shownCells(*book, items) : std::vector<office::ShownCells>();
+        return book ? excel::shownCells(*book, items, withDrawings)
+                    : std::vector<office::ShownCells>();
     });
 }
 
@@ -191,6 +196,16 @@ bool LibreOfficeSuite::damagesWorkbooks(std::size_t more) {
         constexpr std::int32_t several = 2;
         const std::int32_t missing = several - static_cast<std::int32_t>(more);
         return missing <= 0 || (deck && deck->holdsWorkbooks(missing));
+    });
+}
+
+/// Which cells an embedded workbook shows stands in no .docx.
+bool LibreOfficeSuite::forgetsViews() {
+    return translated(*connection_, "Suite.remarksOn", [&] {
+        const auto document = desk_->active<word::WriterDocument>();
+        if (!document) return false;
+        const std::string name = office::lowerCase(document->fullName());
+        return !name.ends_with(".odt") && !name.ends_with(".doc");
     });
 }
 

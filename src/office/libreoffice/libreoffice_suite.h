@@ -59,8 +59,8 @@ public:
     std::vector<std::uint8_t> clipboardPicture(office::Sharpness sharpness) override;
     office::ClipboardPtr clipboard() override { return clipboard_; }
     office::PictureFilesPtr pictureFiles() override;
-    std::vector<office::ShownCells> shownCells(
-        const std::vector<office::PasteItem>& items) override;
+    std::vector<office::ShownCells> shownCells(const std::vector<office::PasteItem>& items,
+                                               bool withDrawings) override;
     std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;
     std::unique_ptr<office::HeldDocument> hold(std::string_view className,
@@ -85,6 +85,7 @@ private:
 
     void connect(std::shared_ptr<Connection> connection);
     [[nodiscard]] bool damagesWorkbooks(std::size_t more);
+    [[nodiscard]] bool forgetsViews();
 
     /// Window handles are positions in `windows_`, counted from 1: a presentation's window stands
     /// for the presentation.

@@ -1,7 +1,6 @@
 #include "office/libreoffice/excel/table_losses.h"
 
 #include <com/sun/star/beans/XPropertyState.hpp>
-#include <com/sun/star/lang/XServiceInfo.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/ConditionEntryType.hpp>
 #include <com/sun/star/sheet/DataBarEntryType.hpp>
@@ -18,6 +17,7 @@
 #include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/excel/cell_conditions.h"
 #include "office/libreoffice/excel/cell_styles.h"
+#include "office/libreoffice/excel/sheet_drawings.h"
 #include "office/libreoffice/excel/table_of_cells.h"
 
 namespace libreoffice::excel {
@@ -57,37 +57,6 @@ const ItemRemarks::Text severalLooks = {
 const ItemRemarks::Text drawings = {
     "The table of {} will be without the charts and drawings that lie on it.",
     "The tables of {} will be without the charts and drawings that lie on them."};
-
-struct Frame {
-    css::awt::Point corner;
-    css::awt::Size size;
-
-    [[nodiscard]] bool meets(const PlaceOfCells& cells) const {
-        return corner.X < cells.corner.X + cells.size.Width &&
-               cells.corner.X < corner.X + size.Width &&
-               corner.Y < cells.corner.Y + cells.size.Height &&
-               cells.corner.Y < corner.Y + size.Height;
-    }
-};
-
-/// Whatever lies on a sheet and is part of a picture of its cells.
-std::vector<Frame> framesOn(const SheetRecord& sheet) {
-    // On a sheet of more the first ones tell enough.
-    constexpr sal_Int32 most = 200;
-    const auto page = drawPageOf(sheet.sheet());
-    std::vector<Frame> frames;
-    const sal_Int32 count = std::min(page->getCount(), most);
-    for (sal_Int32 i = 0; i < count; ++i) {
-        const uno::Reference<css::drawing::XShape> shape(page->getByIndex(i), uno::UNO_QUERY);
-        if (!shape.is()) continue;
-        // The frames of notes.
-        if (as<css::lang::XServiceInfo>(shape)->supportsService(
-                "com.sun.star.drawing.CaptionShape"))
-            continue;
-        frames.push_back({shape->getPosition(), shape->getSize()});
-    }
-    return frames;
-}
 
 /// The cells of those conditions of a kind that are meant.
 template <class Test>
@@ -175,11 +144,7 @@ public:
         if (meetsAny(withNumberFormat_, block)) remarks.add(numberFormats, item);
         if (meetsAny(styledTables_, block)) remarks.add(tableStyles, item);
         if (hasCellOfSeveralLooks(*sheet_, block)) remarks.add(severalLooks, item);
-        if (frames_.empty()) return;
-        const PlaceOfCells place = excel::placeOf(sheet_->range(block));
-        if (std::any_of(frames_.begin(), frames_.end(),
-                        [&](const Frame& frame) { return frame.meets(place); }))
-            remarks.add(drawings, item);
+        if (drawings_.lieOn(block)) remarks.add(drawings, item);
     }
 
 private:
@@ -195,7 +160,7 @@ private:
                                          return hasNumberFormat(condition, sheet_->book());
                                      })),
           styledTables_(sheet_->book().styledTablesOn(sheet_->name())),
-          frames_(framesOn(*sheet_)) {}
+          drawings_(*sheet_) {}
 
     [[nodiscard]] bool isTooWide(const office::PasteItem& item, const CellBlock& block) const {
         return item.mostColumns && isTooWideForTable(*sheet_, block, *item.mostColumns);
@@ -220,7 +185,7 @@ private:
     std::optional<CellBlock> used_;
     std::vector<CellBlock> withNumberFormat_;
     std::vector<CellBlock> styledTables_;
-    std::vector<Frame> frames_;
+    SheetDrawings drawings_;
 };
 
 }  // namespace
