@@ -1,6 +1,7 @@
 #include <com/sun/star/awt/Gradient2.hpp>
 #include <com/sun/star/chart2/XChartDocument.hpp>
 #include <com/sun/star/chart2/data/XDataReceiver.hpp>
+#include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/drawing/XDrawPage.hpp>
 #include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
@@ -312,6 +313,33 @@ TEST_F(PasteLive, BindsALinkToTheFileAndNeedsOne) {
     const std::int32_t before = shapes.get("Count").toLong();
     EXPECT_EQ(failureOf([&] { shapes.call("PasteSpecial", arg("Link", true)); }), 1004);
     EXPECT_EQ(shapes.get("Count").toLong(), before);
+}
+
+TEST_F(PasteLive, LeavesTheUsersOwnStepAsTheOneToUndo) {
+    const auto steps =
+        as<css::document::XUndoManagerSupplier>(desk->active<powerpoint::ImpressDeck>()->model())
+            ->getUndoManager();
+    const Value shapes = slide(deck, 3).get("Shapes");
+    const auto stepsAfterAll = [&] {
+        for (const bool isChart : {true, false}) {
+            const Value source =
+                isChart ? sheet("Trend").get("ChartArea") : sheet("Data").get("Range", "A1:B3");
+            source.call("Copy");
+            for (const std::int32_t form : {0, 2, 10}) shapes.call("PasteSpecial", form);
+            shapes.call("PasteSpecial", arg("Link", true));
+        }
+        shapes.call("AddLabel", 1, 0, 0, 100, 20);
+        shapes.call("Item", shapes.get("Count")).put("AlternativeText", "A label");
+        return steps->getAllUndoActionTitles().getLength();
+    };
+    steps->clear();
+    EXPECT_EQ(stepsAfterAll(), 0);
+    const Value label = shapes.call("Item", shapes.get("Count"));
+    const std::string before = label.get("Name").toText();
+    setProperty(lastShape(), "Name", rtl::OUString("the user's"));
+    EXPECT_EQ(stepsAfterAll(), 1);
+    steps->undo();
+    EXPECT_EQ(label.get("Name").toText(), before);
 }
 
 }  // namespace

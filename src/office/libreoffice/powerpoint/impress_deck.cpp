@@ -1,5 +1,6 @@
 #include "office/libreoffice/powerpoint/impress_deck.h"
 
+#include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
 #include <com/sun/star/drawing/XMasterPagesSupplier.hpp>
 #include <com/sun/star/lang/IndexOutOfBoundsException.hpp>
@@ -107,6 +108,12 @@ uno::Reference<css::drawing::XShape> ImpressDeck::createShape(const char* servic
 
 bool ImpressDeck::isReadOnly() {
     return file_->isReadonly();
+}
+
+const uno::Reference<css::document::XUndoManager>& ImpressDeck::undoSteps() {
+    if (!undoSteps_.is() && !desk_.isUndisturbed)
+        undoSteps_ = as<css::document::XUndoManagerSupplier>(model())->getUndoManager();
+    return undoSteps_;
 }
 
 void ImpressDeck::requireWritable(const char* member) {

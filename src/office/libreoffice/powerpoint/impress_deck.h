@@ -1,5 +1,6 @@
 #pragma once
 
+#include <com/sun/star/document/XUndoManager.hpp>
 #include <com/sun/star/drawing/XDrawPages.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
@@ -48,6 +49,8 @@ public:
     /// Keeps a shape until the presentation is closed: LibreOffice crashes on one that is closed
     /// just when a shape of it is let go.
     void hold(uno::Reference<css::drawing::XShape> shape) { shapes_.push_back(std::move(shape)); }
+    /// None where no user takes back anything.
+    [[nodiscard]] const uno::Reference<css::document::XUndoManager>& undoSteps();
     [[nodiscard]] LatePictures& latePictures() { return latePictures_; }
     /// Whether so many workbooks are embedded in it. Objects that came with a .pptx count, whatever
     /// they hold: LibreOffice doesn't know before one of them is opened.
@@ -96,6 +99,7 @@ private:
     uno::Reference<css::lang::XMultiServiceFactory> factory_;
     uno::Reference<css::frame::XStorable> file_;
     uno::Reference<css::presentation::XPresentation2> slideShow_;
+    uno::Reference<css::document::XUndoManager> undoSteps_;
     LatePictures latePictures_;
     ImpressWindow window_;
     SlideLayouts layouts_;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "office/failure.h"
+#include "office/libreoffice/powerpoint/hidden_step.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/powerpoint/impress_slide.h"
 #include "office/libreoffice/powerpoint/title_look.h"
@@ -78,7 +79,13 @@ std::string ImpressShape::name() {
 }
 
 void ImpressShape::setName(const std::string& name) {
-    set("Name", toUno(name));
+    setNamed(name, {});
+}
+
+void ImpressShape::setNamed(const std::string& name, NamedValues values) {
+    const HiddenStep hidden(slide_.deck());
+    values.add("Name", toUno(name));
+    set(values);
 }
 
 std::string ImpressShape::alternativeText() {
@@ -86,6 +93,7 @@ std::string ImpressShape::alternativeText() {
 }
 
 void ImpressShape::setAlternativeText(const std::string& text) {
+    const HiddenStep hidden(slide_.deck());
     set("Description", toUno(text));
 }
 

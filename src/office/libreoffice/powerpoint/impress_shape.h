@@ -40,6 +40,8 @@ public:
 
     /// Sets several properties in one call.
     void set(const NamedValues& values) { values.applyTo(severalProperties()); }
+    /// The name along with others, in one call.
+    void setNamed(const std::string& name, NamedValues values);
     /// Sets what a new title lacks of its master page's look: what is set of an empty title gets
     /// lost with its prompt, so the look of the text waits for the first words.
     void wear(std::shared_ptr<const TitleLook> look);

@@ -121,7 +121,7 @@ model::DeckShapePtr ImpressSlide::addPicture(const std::string& file, const mode
     const FilePicture picture = pictureOfFile(deck_.connection(), file);
     const std::string name = freshName("Picture");
     auto shape = add("com.sun.star.drawing.GraphicObjectShape");
-    shape->set({{"Graphic", uno::Any(picture.graphic)}, {"Name", uno::Any(toUno(name))}});
+    shape->setNamed(name, {{"Graphic", uno::Any(picture.graphic)}});
     shape->reference()->setSize(picture.size);
     shape->moveTo(corner);
     shape->setKeepsProportions(true);
@@ -143,10 +143,9 @@ ImpressShapePtr ImpressSlide::addPicture(const office::Picture& picture, const o
 model::DeckShapePtr ImpressSlide::addLabel(const model::Point& corner, const office::Size& size) {
     const std::string name = freshName("TextBox");
     auto shape = add("com.sun.star.drawing.TextShape");
-    shape->set({{"Name", uno::Any(toUno(name))},
-                {"TextAutoGrowHeight", uno::Any(true)},
-                {"TextAutoGrowWidth", uno::Any(true)},
-                {"TextWordWrap", uno::Any(false)}});
+    shape->setNamed(name, {{"TextAutoGrowHeight", uno::Any(true)},
+                           {"TextAutoGrowWidth", uno::Any(true)},
+                           {"TextWordWrap", uno::Any(false)}});
     shape->resize(size);
     shape->moveTo(corner);
     shape->setKeepsProportions(false);

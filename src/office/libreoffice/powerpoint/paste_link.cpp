@@ -1,4 +1,3 @@
-#include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/drawing/XShapeGrouper.hpp>
 #include <com/sun/star/embed/EmbedStates.hpp>
 #include <com/sun/star/embed/XCommonEmbedPersist.hpp>
@@ -6,7 +5,7 @@
 
 #include <fstream>
 
-#include "office/libreoffice/at_end.h"
+#include "office/libreoffice/powerpoint/hidden_step.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/powerpoint/paste.h"
 #include "office/libreoffice/private_folder.h"
@@ -44,11 +43,8 @@ void linkUnloaded(const ShapeRef& shape, const rtl::OUString& url) {
 
 /// The presentation's list of links names what an object led to when it came to its page; a group
 /// of one, taken apart again, lets it come once more.
-void listLinkAnew(const ImpressSlide& slide, const ShapeRef& shape) {
-    const auto steps =
-        as<css::document::XUndoManagerSupplier>(slide.deck().model())->getUndoManager();
-    steps->lock();
-    const auto unlock = atEnd([&] { steps->unlock(); });
+void listLinkAnew(ImpressSlide& slide, const ShapeRef& shape) {
+    const HiddenStep hidden(slide.deck());
     const auto one = as<css::drawing::XShapes>(
         slide.deck().connection().create("com.sun.star.drawing.ShapeCollection"));
     one->add(shape);

@@ -9,6 +9,7 @@
 #include "office/failure.h"
 #include "office/libreoffice/at_end.h"
 #include "office/libreoffice/objects/table_markup.h"
+#include "office/libreoffice/powerpoint/hidden_step.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/powerpoint/paste.h"
 
@@ -83,6 +84,7 @@ ShapeRef addTable(ImpressSlide& slide, const office::TableLook& table, double sc
     ImpressDeck& deck = slide.deck();
     const sal_Int32 before = slide.page()->getCount();
     {
+        const HiddenStep hidden(deck);
         const LentClipboard clipboard(deck.connection(),
                                       new OfferedDrawing(objects::tableDrawing(table, scale)));
         deck.impressWindow().pasteOnto(slide, drawingFormat);

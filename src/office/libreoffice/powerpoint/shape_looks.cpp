@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "office/failure.h"
+#include "office/libreoffice/powerpoint/hidden_step.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/powerpoint/impress_shape.h"
 #include "office/libreoffice/powerpoint/impress_slide.h"
@@ -192,6 +193,7 @@ void ImpressShape::replacePicture(model::Outline wanted) {
     const auto selected = deck.impressWindow().selection();
     const bool wasSelected = std::find(selected.begin(), selected.end(), shape_) != selected.end();
 
+    const HiddenStep hidden(deck);
     NewShape made(slide_, "com.sun.star.drawing.CustomShape");
     ImpressShape filled(made.shape(), slide_);
     filled.shape_->setPosition(shape_->getPosition());
