@@ -199,13 +199,14 @@ bool LibreOfficeSuite::damagesWorkbooks(std::size_t more) {
     });
 }
 
-/// Which cells an embedded workbook shows stands in no .docx.
+/// Which cells an embedded workbook shows stands in no .docx. A text that was never saved becomes
+/// an .odt unless somebody chooses otherwise.
 bool LibreOfficeSuite::forgetsViews() {
     return translated(*connection_, "Suite.remarksOn", [&] {
         const auto document = desk_->active<word::WriterDocument>();
         if (!document) return false;
         const std::string name = office::lowerCase(document->fullName());
-        return !name.ends_with(".odt") && !name.ends_with(".doc");
+        return name.ends_with(".docx") || name.ends_with(".docm");
     });
 }
 
