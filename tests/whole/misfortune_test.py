@@ -47,6 +47,25 @@ class WithoutTheSuite(AtTheScreen):
                 self.assertIn("LibreOffice has ended", hand.said())
         self.assertEqual(list((self.folder / "MurvaneHTML").iterdir()), [], "half a page")
 
+    def test_a_suite_that_is_ended_during_an_export_ends_with_it(self):
+        self.open_sample(LONG_BOOK)
+        hand = self.open_main_form()
+        self.in_the_suite(NEW_TEXT)
+        self.in_the_suite("document('Workbook').setModified(True)")
+        self.begin_export(hand, WORD)
+        self.screen.press("Untitled", "ctrl+q")
+
+        def is_told():
+            # Each of the two documents is asked about.
+            with contextlib.suppress(IndexError, subprocess.CalledProcessError):
+                self.screen.press("Save Document", "alt+n")
+            return NOTICE in hand.do("forms")
+
+        wait_until(is_told, what="the notice")
+        hand.do("key", NOTICE, key="Return")
+        self.assertEqual(hand.ended(), 0)
+        wait_until(lambda: not self.screen.has_suite(), what="the end of the suite")
+
     def test_commands_without_a_suite_end_in_silence_or_with_their_notice(self):
         hand = self.screen.use("/112")
         self.assertEqual((hand.ended(), hand.said()), (0, ""))

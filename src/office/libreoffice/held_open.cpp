@@ -55,8 +55,10 @@ private:
 
 class HeldOpen : public office::HeldDocument {
 public:
-    HeldOpen(std::shared_ptr<Connection> connection, const Document& document)
+    HeldOpen(std::shared_ptr<Connection> connection, const Document& document,
+             std::shared_ptr<bool> hasClosed)
         : connection_(std::move(connection)),
+          hasClosed_(std::move(hasClosed)),
           model_(as<css::util::XCloseable>(document.model())) {
         if (const auto shown = document.controller(); shown.is())
             window_ = as<css::util::XCloseable>(shown->getFrame());
@@ -69,6 +71,7 @@ public:
         const bool isModelAsked = ofModel_->end();
         asFarAsPossible([&] { model_->removeCloseListener(ofModel_.get()); });
         if (window_.is()) asFarAsPossible([&] { window_->removeCloseListener(ofWindow_.get()); });
+        *hasClosed_ = *hasClosed_ || isWindowAsked || isModelAsked;
         asFarAsPossible([&] {
             if (isModelAsked) closeModel();
             if (isWindowAsked) closeWindow();
@@ -98,6 +101,7 @@ private:
     }
 
     std::shared_ptr<Connection> connection_;
+    std::shared_ptr<bool> hasClosed_;
     uno::Reference<css::util::XCloseable> model_;
     uno::Reference<css::util::XCloseable> window_;
     rtl::Reference<Veto> ofModel_{new Veto(Veto::Waits::WhoGivesOwnership)};
@@ -107,8 +111,9 @@ private:
 }  // namespace
 
 std::unique_ptr<office::HeldDocument> heldOpen(std::shared_ptr<Connection> connection,
-                                               const Document& document) {
-    return std::make_unique<HeldOpen>(std::move(connection), document);
+                                               const Document& document,
+                                               std::shared_ptr<bool> hasClosed) {
+    return std::make_unique<HeldOpen>(std::move(connection), document, std::move(hasClosed));
 }
 
 }  // namespace libreoffice

@@ -1,5 +1,9 @@
 #include "office/libreoffice/libreoffice_suite.h"
 
+#include <com/sun/star/container/XEnumeration.hpp>
+#include <com/sun/star/container/XEnumerationAccess.hpp>
+#include <com/sun/star/frame/XDesktop2.hpp>
+#include <com/sun/star/frame/XFrames.hpp>
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -8,6 +12,7 @@
 #include <vector>
 
 #include "office/failure.h"
+#include "office/libreoffice/at_end.h"
 #include "office/libreoffice/desk.h"
 #include "office/libreoffice/excel/application.h"
 #include "office/libreoffice/excel/calc_document.h"
@@ -31,6 +36,14 @@ constexpr std::string_view captionEnd = " - PowerPoint";
 
 /// The class of PowerPoint's windows in the version that the application object tells.
 constexpr std::string_view frameClass = "PPTFrameClass";
+
+/// A suite that its user ends closes all its windows before it asks anybody; what was held open
+/// has kept it from ending, and nobody could see it any more.
+void endUnseen(css::frame::XDesktop2& desktop) {
+    if (desktop.getFrames()->getCount() > 0) return;
+    if (desktop.getComponents()->createEnumeration()->hasMoreElements()) return;
+    desktop.terminate();
+}
 
 }  // namespace
 
@@ -73,7 +86,10 @@ office::PictureFilesPtr LibreOfficeSuite::pictureFiles() {
     return drawingRoom_;
 }
 
-LibreOfficeSuite::~LibreOfficeSuite() = default;
+LibreOfficeSuite::~LibreOfficeSuite() {
+    if (connection_ && *hasClosedHeld_)
+        asFarAsPossible([&] { endUnseen(*connection_->desktop()); });
+}
 
 void LibreOfficeSuite::interrupt() {
     if (instance_) instance_->kill();
@@ -174,7 +190,8 @@ std::unique_ptr<office::HeldDocument> LibreOfficeSuite::hold(std::string_view cl
     if (!desk_ || desk_->isUndisturbed) return nullptr;
     const auto among = [&](const auto& documents) -> std::unique_ptr<office::HeldDocument> {
         for (const auto& document : documents) {
-            if (document->fullName() == fullName) return heldOpen(connection_, *document);
+            if (document->fullName() == fullName)
+                return heldOpen(connection_, *document, hasClosedHeld_);
         }
         return nullptr;
     };

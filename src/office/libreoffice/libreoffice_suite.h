@@ -104,6 +104,8 @@ private:
     office::ClipboardPtr clipboard_ = std::make_shared<office::Clipboard>();
     std::vector<std::weak_ptr<powerpoint::ImpressDeck>> windows_;
     office::WindowHandle locked_ = 0;
+    /// Whether a document was held open that the user has closed meanwhile.
+    std::shared_ptr<bool> hasClosedHeld_ = std::make_shared<bool>(false);
 };
 
 }  // namespace libreoffice
