@@ -72,7 +72,7 @@ void RenumberIncludedRows(ExportList& list) {
 void ColorListRows(ExportList& list, bool predefinedSlides) {
     for (ExportItem& row : list.rows) {
         const bool lacksNumber = predefinedSlides && office::trim(row.slideNumber).empty();
-        row.isMuted = !row.checked || lacksNumber;
+        row.isMuted = !row.checked || row.isMissing || lacksNumber;
     }
 }
 

@@ -14,8 +14,8 @@ namespace catalogue {
 /// running order of the export.
 void RenumberIncludedRows(ExportList& list);
 
-/// Mutes the rows that are unchecked, or have no slide number where slides are predefined, and no
-/// others.
+/// Mutes the rows that are unchecked, that the workbook had no item for when they were read, or
+/// that have no slide number where slides are predefined, and no others.
 void ColorListRows(ExportList& list, bool predefinedSlides);
 
 [[nodiscard]] std::int32_t CountCheckedRows(const ExportList& list);

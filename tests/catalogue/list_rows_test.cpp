@@ -29,6 +29,9 @@ TEST(ListRows, AreMutedByCheckAndSlideNumber) {
         EXPECT_EQ(list.rows.front().isMuted, isMutedInNewSlides);
         catalogue::ColorListRows(list, true);
         EXPECT_EQ(list.rows.front().isMuted, isMutedInPredefined);
+        list.rows.front().isMissing = true;
+        catalogue::ColorListRows(list, false);
+        EXPECT_TRUE(list.rows.front().isMuted);
     }
 }
 
