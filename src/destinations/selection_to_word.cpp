@@ -27,26 +27,30 @@ using session::WordPaste;
 
 constexpr std::string_view title = "Murvane";
 
+/// Where a thing comes to stand in the text. It then takes the width of the text, but for those
+/// that keep their size.
+enum class Arrival { Unresized, InLine, OverText };
+
 /// What a command does where the others do something else.
 struct Command {
     std::string_view question;
     bool movesDown;
-    /// The collection whose last member is resized, for charts and for cells; none if empty.
-    std::string_view chartShapes;
-    std::string_view rangeShapes;
+    Arrival ofCharts;
+    Arrival ofCells;
 };
 
 const Command& commandOf(WordPaste mode) {
     static constexpr Command picture{
-        "Warning!Inseted object may override the current selected text", true, "InlineShapes", ""};
+        "Warning!Inseted object may override the current selected text", true, Arrival::InLine,
+        Arrival::Unresized};
     static constexpr Command embedded{
-        "Warning!Inseted object may override the current selected text.", true, "InlineShapes",
-        "Shapes"};
+        "Warning!Inseted object may override the current selected text.", true, Arrival::InLine,
+        Arrival::OverText};
     static constexpr Command linked{
-        "Warning!Inseted object will override the current selected text.", false, "Shapes",
-        "Shapes"};
+        "Warning!Inseted object will override the current selected text.", false, Arrival::OverText,
+        Arrival::OverText};
     static constexpr Command table{"Warning!Inseted object may override the current selected text.",
-                                   true, "", ""};
+                                   true, Arrival::Unresized, Arrival::Unresized};
     switch (mode) {
         case WordPaste::InlineEmbedded:
             return embedded;
@@ -76,7 +80,10 @@ private:
     void copyAndPaste(Selected kind);
     void copy(Selected kind);
     void paste(Selected kind);
-    [[nodiscard]] Object pastedShape(std::string_view collection);
+    [[nodiscard]] Arrival arrivalOf(Selected kind) const {
+        return kind == Selected::Cells ? command_.ofCells : command_.ofCharts;
+    }
+    [[nodiscard]] Object pastedShape(Arrival arrival);
     void setSize(Selected kind);
     void say(std::string_view text) { session_.host.messageBox(text, title); }
 
@@ -178,24 +185,22 @@ void SelectionPaste::paste(Selected kind) {
         case WordPaste::Table:
             selection_.call("PasteExcelTable", false, false, false);
             break;
-        default: {
+        default:
             // Where a shape over the text is looked for afterwards, it has to become one.
-            const std::string_view shapes =
-                kind == Selected::Cells ? command_.rangeShapes : command_.chartShapes;
             selection_.call(
                 "PasteSpecial", arg("Link", mode_ == WordPaste::FloatingLinked),
                 arg("DataType", number::oleObject),
-                arg("Placement", shapes == "Shapes" ? number::overTheText : number::inLine),
+                arg("Placement",
+                    arrivalOf(kind) == Arrival::OverText ? number::overTheText : number::inLine),
                 arg("DisplayAsIcon", false));
-        }
     }
 }
 
 /// What has just been pasted: there may be others behind it. One over the text is selected then.
-Object SelectionPaste::pastedShape(std::string_view collection) {
+Object SelectionPaste::pastedShape(Arrival arrival) {
     constexpr std::int32_t character = 1;
     constexpr std::int32_t extend = 1;
-    if (collection == "Shapes") return selection_.get("ShapeRange").toObject();
+    if (arrival == Arrival::OverText) return selection_.get("ShapeRange").toObject();
     selection_.call("MoveLeft", character, 1, extend);
     Object shape = selection_.get("InlineShapes").get("Item", 1).toObject();
     selection_.call("Collapse", number::toEnd);
@@ -203,10 +208,9 @@ Object SelectionPaste::pastedShape(std::string_view collection) {
 }
 
 void SelectionPaste::setSize(Selected kind) {
-    const std::string_view collection =
-        kind == Selected::Cells ? command_.rangeShapes : command_.chartShapes;
-    if (collection.empty()) return;
-    const Object shape = pastedShape(collection);
+    const Arrival arrival = arrivalOf(kind);
+    if (arrival == Arrival::Unresized) return;
+    const Object shape = pastedShape(arrival);
     const TextArea area = textAreaOf(selection_.get("PageSetup"));
     fit(shape, sizeOf(shape), area.width, area);
     if (mode_ == WordPaste::FloatingLinked && kind == Selected::ChartSheet)

@@ -8,6 +8,7 @@
 #include "office/at_end.h"
 #include "office/failure_patterns.h"
 #include "powerpoint/numbers.h"
+#include "powerpoint/picture_styles.h"
 #include "powerpoint/placement.h"
 #include "session/powerpoint_session.h"
 
@@ -19,6 +20,7 @@ using catalogue::ExportItem;
 using catalogue::TakenRow;
 using office::Object;
 using session::OfficeSession;
+using session::PictureLook;
 
 /// One run of the frame. What every row needs is looked up once and held.
 class BatchFrame {
@@ -27,7 +29,7 @@ public:
         : batch_(batch),
           session_(batch.session),
           route_(route),
-          pictureStyle_(batch.options.pictureStyle) {}
+          look_(batch.options.look) {}
 
     std::int32_t run();
 
@@ -56,7 +58,7 @@ private:
     /// In the order of the rows; none where slides are predefined. The user may add, move and
     /// delete slides meanwhile.
     std::vector<Object> newSlides_;
-    std::int16_t pictureStyle_;
+    PictureLook look_;
     TitlePlace title_;
     /// Rows that have had their turn, also those that failed.
     std::int32_t done_ = 0;
@@ -197,7 +199,7 @@ void BatchFrame::finishItem(const ExportItem& row, const Object& slide, bool isT
     if (isThere && options.shadow) {
         // The option has no look of its own: it sets the style for the rest of the batch. Coming
         // after the source line, it gives the shadow to that one where there is one.
-        pictureStyle_ = style::shadow;
+        look_ = PictureLook::Shadow;
         styleLastShape(shapes);
     }
 }
@@ -215,8 +217,8 @@ void BatchFrame::putTitle(const Object& shapes, const std::string& caption) cons
 }
 
 void BatchFrame::styleLastShape(const Object& shapes) const {
-    if (pictureStyle_ == style::none) return;
-    ApplyPictureStyle(pictureStyle_, shapes.get("Item", shapes.get("Count").toLong()).toObject());
+    if (look_ == PictureLook::None) return;
+    ApplyPictureStyle(look_, shapes.get("Item", shapes.get("Count").toLong()).toObject());
 }
 
 /// The new slides of a batch that ends early which no item has come to. Some may have gone already,

@@ -8,7 +8,6 @@
 #include "catalogue/failed_items.h"
 #include "catalogue/needed_documents.h"
 #include "office/failure.h"
-#include "powerpoint/picture_styles.h"
 #include "session/office_session.h"
 
 namespace powerpoint {
@@ -18,7 +17,7 @@ struct SlideOptions {
     bool titles = false;      ///< captions become slide titles
     bool sourceLine = false;  ///< a line with the workbook's path
     bool shadow = false;      ///< for the last shape of each slide
-    std::int16_t pictureStyle = style::none;
+    session::PictureLook look = session::PictureLook::None;
     /// By the placement in the store; otherwise shapes stay as they are inserted.
     bool placesShapes = false;
 };

@@ -155,7 +155,7 @@ void Dialog::ContinueOk_Click() {
     options_.titles = SlideTitle.isChecked();
     options_.sourceLine = SourceInc.isChecked();
     options_.shadow = CheckShadow.isChecked();
-    options_.pictureStyle = session().PictureStyle;
+    options_.look = session().PictureStyle;
     panels::RunExport(session(), *this, taken_, [this] {
         catalogue::exportAndTellOfFailed(session(), [this](auto& failed) { runBatch(failed); });
     });

@@ -1,6 +1,9 @@
 #include "powerpoint/picture_styles.h"
 
+#include <array>
+#include <cstddef>
 #include <map>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -12,6 +15,7 @@ namespace {
 
 using office::Object;
 using office::Value;
+using session::PictureLook;
 
 enum class Part { Itself, Shadow, ShadowColour, Reflection, FirstAdjustment };
 
@@ -25,55 +29,44 @@ using Look = std::vector<Setting>;
 constexpr double shadowOffsetPt = 8.12132;
 constexpr int roundedRectangle = 5;
 
-const Look& lookOf(std::int16_t pictureStyle) {
-    static const Look none;
-    static const Look shadowAllAround = {
-        {Part::Shadow, "Blur", 25},
-        {Part::Shadow, "Size", 100},
-        {Part::ShadowColour, "RGB", 0},
-    };
-    static const Look shadow = {
-        {Part::Shadow, "Visible", 1},
-        {Part::ShadowColour, "RGB", 0},
-        {Part::Shadow, "Size", 100},
-        {Part::Shadow, "OffsetX", shadowOffsetPt},
-        {Part::Shadow, "OffsetY", shadowOffsetPt},
-    };
-    static const Look roundedCorners = {
-        {Part::Itself, "AutoShapeType", roundedRectangle},
-        {Part::FirstAdjustment, "Item", 0.05},
-    };
-    static const Look reflection = {
-        {Part::Reflection, "Offset", 1},
-        {Part::Reflection, "Size", 20},
-        {Part::FirstAdjustment, "Item", 0.03},
-        {Part::Shadow, "Visible", 1},
-    };
-    // A plain picture has no corners to adjust until it has become a rounded rectangle: of the two
-    // adjustments the later one makes the corners.
-    static const Look reflectionRounded = {
-        {Part::Reflection, "Offset", 1},
-        {Part::Reflection, "Size", 20},
-        {Part::FirstAdjustment, "Item", 0.03},
-        {Part::Shadow, "Visible", 1},
-        {Part::Itself, "AutoShapeType", roundedRectangle},
-        {Part::FirstAdjustment, "Item", 0.05},
-    };
-
-    switch (pictureStyle) {
-        case style::shadowAllAround:
-            return shadowAllAround;
-        case style::shadow:
-            return shadow;
-        case style::roundedCorners:
-            return roundedCorners;
-        case style::reflection:
-            return reflection;
-        case style::reflectionRounded:
-            return reflectionRounded;
-        default:
-            return none;
-    }
+const Look& lookOf(PictureLook look) {
+    // By their numbers.
+    static const std::array<Look, 6> looks = {{
+        {},
+        {
+            {Part::Shadow, "Blur", 25},
+            {Part::Shadow, "Size", 100},
+            {Part::ShadowColour, "RGB", 0},
+        },
+        {
+            {Part::Shadow, "Visible", 1},
+            {Part::ShadowColour, "RGB", 0},
+            {Part::Shadow, "Size", 100},
+            {Part::Shadow, "OffsetX", shadowOffsetPt},
+            {Part::Shadow, "OffsetY", shadowOffsetPt},
+        },
+        {
+            {Part::Itself, "AutoShapeType", roundedRectangle},
+            {Part::FirstAdjustment, "Item", 0.05},
+        },
+        {
+            {Part::Reflection, "Offset", 1},
+            {Part::Reflection, "Size", 20},
+            {Part::FirstAdjustment, "Item", 0.03},
+            {Part::Shadow, "Visible", 1},
+        },
+        // A plain picture has no corners to adjust until it has become a rounded rectangle: of the
+        // two adjustments the later one makes the corners.
+        {
+            {Part::Reflection, "Offset", 1},
+            {Part::Reflection, "Size", 20},
+            {Part::FirstAdjustment, "Item", 0.03},
+            {Part::Shadow, "Visible", 1},
+            {Part::Itself, "AutoShapeType", roundedRectangle},
+            {Part::FirstAdjustment, "Item", 0.05},
+        },
+    }};
+    return looks.at(static_cast<std::size_t>(look));
 }
 
 /// A shape and those of its parts that settings have asked for, each looked up once.
@@ -119,10 +112,10 @@ private:
 
 }  // namespace
 
-void ApplyPictureStyle(std::int16_t pictureStyle, const Object& shape) {
+void ApplyPictureStyle(PictureLook look, const Object& shape) {
     office::ContinueOnFailure scope;
     StyledShape styled(shape);
-    for (const Setting& setting : lookOf(pictureStyle)) {
+    for (const Setting& setting : lookOf(look)) {
         scope.attempt([&] { styled.apply(setting); });
     }
 }

@@ -19,17 +19,18 @@ constexpr Twips stylesHeight = 5640;
 constexpr Twips optionWidth = 1800;
 constexpr Twips optionGap = 120;
 
-constexpr std::array<std::string_view, 6> captions = {"None",
-                                                      "Shadow all around",
-                                                      "Shadow ",
-                                                      "Rounded corners",
-                                                      "Reflection not rounded",
-                                                      "Reflection rounded"};
+struct Choice {
+    std::string_view caption;
+    std::string_view sample;
+};
 
-/// A sample of each.
-constexpr std::array<std::string_view, 6> samples = {
-    "icon:picture",         "icon:picture-shadow-around", "icon:picture-shadow",
-    "icon:picture-rounded", "icon:picture-reflection",    "icon:picture-reflection-rounded"};
+constexpr std::array<Choice, 6> choices = {
+    {{"None", "icon:picture"},
+     {"Shadow all around", "icon:picture-shadow-around"},
+     {"Shadow ", "icon:picture-shadow"},
+     {"Rounded corners", "icon:picture-rounded"},
+     {"Reflection not rounded", "icon:picture-reflection"},
+     {"Reflection rounded", "icon:picture-reflection-rounded"}}};
 
 forms::Place placeOf(int index) {
     const Twips left = 240 + (5 - index) * (optionWidth + optionGap);
@@ -46,7 +47,7 @@ std::array<forms::OptionButton, 6> optionsOf(forms::Form& form, forms::Frame& fr
 
 }  // namespace
 
-PredefinedStyles::PredefinedStyles(forms::Desktop& theDesktop, std::int16_t& chosen)
+PredefinedStyles::PredefinedStyles(forms::Desktop& theDesktop, session::PictureLook& chosen)
     : Form(theDesktop, "PredefinedStyles", stylesWidth, stylesHeight),
       TitelBar1(*this, "TitelBar1", {0, 0, stylesWidth, 420}),
       Image1(*this, "Image1", {240, 600, 360, 360}),
@@ -65,7 +66,7 @@ PredefinedStyles::PredefinedStyles(forms::Desktop& theDesktop, std::int16_t& cho
     Label1.transparent = true;
     Frame3.accessibleName = Label1.caption;
     for (std::size_t i = 0; i < OptionStyle.size(); ++i) {
-        OptionStyle.at(i).caption = captions.at(i);
+        OptionStyle.at(i).caption = choices.at(i).caption;
         OptionStyle.at(i).onClick = [this, i] { OptionStyle_Click(static_cast<int>(i)); };
     }
     Styles.caption = "Apply";
@@ -82,8 +83,8 @@ void PredefinedStyles::Form_Load() {
 }
 
 void PredefinedStyles::OptionStyle_Click(int index) {
-    chosen_ = static_cast<std::int16_t>(index);
-    const std::string_view sample = samples.at(static_cast<std::size_t>(index));
+    chosen_ = static_cast<session::PictureLook>(index);
+    const std::string_view sample = choices.at(static_cast<std::size_t>(index)).sample;
     Picture1.setPicture({.bytes = {}, .drawing = std::string(sample)});
     for (std::size_t i = 0; i < OptionStyle.size(); ++i) {
         OptionStyle.at(i).font.bold = static_cast<int>(i) == index;

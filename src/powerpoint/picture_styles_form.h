@@ -7,6 +7,7 @@
 #include "forms/form.h"
 #include "furniture/shadow.h"
 #include "furniture/title_bar.h"
+#include "session/picture_look.h"
 
 namespace powerpoint {
 
@@ -14,8 +15,7 @@ namespace powerpoint {
 /// counts from the click on, and the form begins without a style each time it opens.
 class PredefinedStyles : public forms::Form {
 public:
-    /// `chosen` is one of `style`.
-    PredefinedStyles(forms::Desktop& desktop, std::int16_t& chosen);
+    PredefinedStyles(forms::Desktop& desktop, session::PictureLook& chosen);
 
     void Form_Load() override;
     void OptionStyle_Click(int index);
@@ -26,12 +26,12 @@ public:
     forms::Label Label1;
     forms::Frame Frame3;
     forms::Image Picture1;
-    /// By their numbers in `style`; on the form they stand from right to left.
+    /// By the numbers of the looks; on the form they stand from right to left.
     std::array<forms::OptionButton, 6> OptionStyle;
     forms::CommandButton Styles;
 
 private:
-    std::int16_t& chosen_;
+    session::PictureLook& chosen_;
     std::optional<furniture::clsShadow> shadow_;
 };
 

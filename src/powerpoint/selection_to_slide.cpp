@@ -30,6 +30,11 @@ using session::SlidePaste;
 
 enum class SourceKind { Chart, Range };
 
+void selectLastShape(const Object& slide) {
+    const Object shapes = slide.get("Shapes").toObject();
+    shapes.get("Item", shapes.get("Count").toLong()).call("Select");
+}
+
 /// One run of the command: what was found at its start is held.
 class SelectionPaste {
 public:
@@ -46,7 +51,7 @@ private:
     void pasteNamed(SourceKind kind, const std::function<std::string()>& name);
     void PasteByMode(SourceKind kind);
     void pasteChartAsPicture();
-    void pasteRangeAsPicture();
+    void pasteRangeOrTell();
     [[nodiscard]] bool PasteRangeAsPicture();
     void pasteFormatted(SourceKind kind);
     void PasteWithSourceFormatting();
@@ -57,6 +62,11 @@ private:
     }
     [[nodiscard]] Object slide() const {
         return session_.SessionPresentation.get("Slides").get("Item", slideIndex_).toObject();
+    }
+    /// A slide of the blank layout gets room for a title.
+    void leaveBlankLayout() const {
+        if (slide().get("Layout").toLong() == number::blankLayout)
+            slide().put("Layout", number::titleOnlyLayout);
     }
     void showSlide() const { window().get("View").call("GotoSlide", slideIndex_); }
     void executeSourceFormatting() const {
@@ -106,7 +116,8 @@ bool SelectionPaste::findsPresentation() {
     return true;
 }
 
-/// The slide on show, read before a running show ends; the last one where none is.
+/// The slide on show, read before a running show ends. If it can't be read, or a window does not
+/// come up, the last one is shown and taken.
 void SelectionPaste::findSlide() {
     office::ContinueOnFailure scope;
     const auto readSlide = [&] {
@@ -130,8 +141,7 @@ void SelectionPaste::prepareOldSlide() {
         const Object slides = window().get("Selection").get("SlideRange").toObject();
         if (slides.get("Layout").toLong() == number::blankLayout)
             slides.put("Layout", number::titleLayout);
-        const Object shapes = slides.get("Shapes").toObject();
-        shapes.get("Item", shapes.get("Count").toLong()).call("Select");
+        selectLastShape(slides);
     });
 }
 
@@ -199,7 +209,7 @@ void SelectionPaste::pasteNamed(SourceKind kind, const std::function<std::string
 void SelectionPaste::PasteByMode(SourceKind kind) {
     switch (mode_) {
         case SlidePaste::Pictures:
-            kind == SourceKind::Chart ? pasteChartAsPicture() : pasteRangeAsPicture();
+            kind == SourceKind::Chart ? pasteChartAsPicture() : pasteRangeOrTell();
             break;
         case SlidePaste::SourceFormatting:
             pasteFormatted(kind);
@@ -221,7 +231,7 @@ void SelectionPaste::pasteChartAsPicture() {
     scope.attempt([&] { slide().get("Shapes").call("PasteSpecial", number::enhancedMetafile); });
 }
 
-void SelectionPaste::pasteRangeAsPicture() {
+void SelectionPaste::pasteRangeOrTell() {
     constexpr std::int32_t sheetShownMs = 500;
     if (PasteRangeAsPicture()) return;
     office::ContinueOnFailure scope;
@@ -241,8 +251,7 @@ bool SelectionPaste::PasteRangeAsPicture() {
         showSlide();
         session_.host.letEventsRun();
         session::SleepMilliseconds(session_, slideShownMs);
-        if (slide().get("Layout").toLong() == number::blankLayout)
-            slide().put("Layout", number::titleOnlyLayout);
+        leaveBlankLayout();
     });
     return isReady &&
            (scope.attempt([&] { window().get("View").call("PasteSpecial", number::png); }) ||
@@ -255,10 +264,8 @@ void SelectionPaste::pasteFormatted(SourceKind kind) {
     if (kind == SourceKind::Range) {
         showSlide();
         if (isOld_) {
-            if (slide().get("Layout").toLong() == number::blankLayout)
-                slide().put("Layout", number::titleOnlyLayout);
-            const Object shapes = slide().get("Shapes").toObject();
-            shapes.get("Item", shapes.get("Count").toLong()).call("Select");
+            leaveBlankLayout();
+            selectLastShape(slide());
         }
         PasteWithSourceFormatting();
     } else if (isOld_) {

@@ -7,6 +7,7 @@
 #include "office/suite.h"
 #include "session/host.h"
 #include "session/notices.h"
+#include "session/picture_look.h"
 #include "session/progress_display.h"
 
 namespace session {
@@ -37,7 +38,7 @@ struct OfficeSession {
     /// What items that go as pictures become on slides and in documents.
     office::PictureKind Pictures = office::PictureKind::Png;
     /// The look that the user has chosen for what comes to slides; none at the start.
-    std::int16_t PictureStyle = 0;
+    PictureLook PictureStyle = PictureLook::None;
     bool PowerPointFound = false;
     std::int16_t ItemCount = 0;
     office::WindowHandle PowerPointFrameHandle = 0;

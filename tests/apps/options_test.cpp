@@ -36,7 +36,7 @@ TEST(Options, EverythingThatCanBeSaidIsHeard) {
     EXPECT_EQ(options.order, Words{"C"});
     EXPECT_EQ(options.captionsFile, "c.csv");
     EXPECT_TRUE(options.predefinedSlides && *options.titles && options.source);
-    EXPECT_EQ(options.pictureStyle, 3);
+    EXPECT_EQ(options.look, session::PictureLook::RoundedCorners);
     EXPECT_EQ(options.top->share, 0.25);
     EXPECT_EQ(options.width->share, std::nullopt);
     EXPECT_EQ(options.left->share, 0.0);

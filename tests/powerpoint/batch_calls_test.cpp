@@ -39,7 +39,7 @@ TEST_F(BatchCallsTest, AnItemWithAllOptionsDoesSoToo) {
     options.titles = true;
     options.sourceLine = true;
     options.shadow = true;
-    options.pictureStyle = 1;
+    options.look = session::PictureLook::ShadowAllAround;
     options.placesShapes = true;
     storePlacement(0.3, 0.5, {});
     callsFor(1);  // From now on the shadow is the style.

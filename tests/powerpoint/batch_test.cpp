@@ -2,7 +2,6 @@
 
 #include "export_stage.h"
 #include "powerpoint/batch_frame.h"
-#include "powerpoint/picture_styles.h"
 
 namespace {
 
@@ -60,7 +59,7 @@ TEST_F(BatchTest, RowsThatAreUncheckedOrOnSheetsHiddenOrGoneTakeNoSlide) {
 
 TEST_F(BatchTest, PredefinedSlidesTakeWhatNamesThemAndRowsWithoutANumberAreSkipped) {
     choices.predefinedSlides = true;
-    options.pictureStyle = powerpoint::style::shadow;
+    options.look = session::PictureLook::Shadow;
     add(chartRow("Chart 1", "Sales", "2"));
     for (const char* slide : {"0", "", "abc", "-1", "0.4"})
         add(chartRow("Chart 2", "Sales", slide));
@@ -93,7 +92,7 @@ TEST_F(BatchTest, ASlideBeyondTheEndFailsForTheCallerAndTitlesThatAreThereGiveWa
 TEST_F(BatchTest, AMissingRangeGetsItsNoticeAndItsTitleAndMovesNothingElse) {
     options.titles = true;
     options.placesShapes = true;
-    options.pictureStyle = powerpoint::style::shadow;
+    options.look = session::PictureLook::Shadow;
     options.shadow = true;
     storePlacement(0.5, 0.25, 0.1);
     add(rangeRow("Nowhere", "Sales", "Lost"));
@@ -107,7 +106,7 @@ TEST_F(BatchTest, AMissingRangeGetsItsNoticeAndItsTitleAndMovesNothingElse) {
 }
 
 TEST_F(BatchTest, TheShadowOptionReplacesTheStyleAfterTheFirstItem) {
-    options.pictureStyle = powerpoint::style::roundedCorners;
+    options.look = session::PictureLook::RoundedCorners;
     options.shadow = true;
     add(chartRow("Chart 1", "Sales"));
     add(chartRow("Chart 2", "Sales"));
@@ -132,7 +131,7 @@ TEST_F(BatchTest, WithASourceLineTheShadowOptionMeetsThatOneAndLaterPictures) {
     exportRows();
     EXPECT_EQ(shadowsOn(3) + shadowsOn(4), "..x.xx");
     options.shadow = false;
-    options.pictureStyle = powerpoint::style::shadow;
+    options.look = session::PictureLook::Shadow;
     exportRows();
     EXPECT_EQ(shadowsOn(5), ".x.") << "a style goes to the picture alone";
 }

@@ -106,7 +106,7 @@ TEST_F(Forms, LookAsApproved) {
     advance(main, 40);
     powerpoint::Dialog dialog(desktop, session, main.list(), main.choices());
     powerpoint::LayoutForm layout(desktop, session);
-    std::int16_t style = 0;
+    auto style = session::PictureLook::None;
     powerpoint::PredefinedStyles styles(desktop, style);
     panels::MurvaneAbout about(desktop, session, "1.2.3");
     panels::MurvaneNotice notice(desktop, host, {.Html = "page", .Title = "Title", .Buttons = 33});

@@ -3,7 +3,6 @@
 #include "forms_double/windowless_desktop.h"
 #include "panels/dialogs.h"
 #include "powerpoint/options_dialog.h"
-#include "powerpoint/picture_styles.h"
 #include "session/powerpoint_session.h"
 
 namespace {
@@ -230,7 +229,8 @@ TEST_F(PowerPointDialog, KeepsTheStyleThatWasChosenAnEarlierTimeButNotTheLayout)
     storePlacement(0.5, 0.25, 0.1);
     open([&](powerpoint::Dialog& dialog) {
         desktop.answer("PredefinedStyles", [](forms::Form& form) {
-            forms_double::choose(form, "OptionStyle", powerpoint::style::shadow);
+            forms_double::choose(form, "OptionStyle",
+                                 static_cast<int>(session::PictureLook::Shadow));
             press(form, "Styles");
         });
         desktop.answer("LayoutForm", [](forms::Form& form) { press(form, "CloseLayout"); });
@@ -249,7 +249,8 @@ TEST_F(PowerPointDialog, ExportsToThePresentationThatItNamesWhateverTheUserLooks
     storePlacement(0.5, 0.25, 0.1);
     open([&](powerpoint::Dialog& dialog) {
         desktop.answer("PredefinedStyles", [](forms::Form& form) {
-            forms_double::choose(form, "OptionStyle", powerpoint::style::shadow);
+            forms_double::choose(form, "OptionStyle",
+                                 static_cast<int>(session::PictureLook::Shadow));
             press(form, "Styles");
         });
         desktop.answer("LayoutForm", [](forms::Form& form) { press(form, "CloseLayout"); });

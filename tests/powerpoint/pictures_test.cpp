@@ -144,9 +144,9 @@ protected:
 
 TEST_F(PictureStyle, SetsWhatIsApproved) {
     std::string all;
-    for (std::int16_t look = 0; look <= 7; ++look) {
+    for (std::int16_t look = 0; look <= 5; ++look) {
         suite.log().clear();
-        powerpoint::ApplyPictureStyle(look, newPicture().handle());
+        powerpoint::ApplyPictureStyle(session::PictureLook{look}, newPicture().handle());
         all += fmt::format("style {}\n", look);
         for (const auto& call : suite.log().calls()) {
             if (call.kind == support::CallKind::Put) all += "  " + call.text() + "\n";
@@ -159,7 +159,7 @@ TEST_F(PictureStyle, GoesOnWhereTheShapeRefusesASetting) {
     const auto picture = newPicture();
     suite.failures().failAlways("ColorFormat.RGB");
     suite.failures().fail("ShadowFormat.Size");
-    powerpoint::ApplyPictureStyle(powerpoint::style::shadow, picture.handle());
+    powerpoint::ApplyPictureStyle(session::PictureLook::Shadow, picture.handle());
     EXPECT_TRUE(picture.hasShadow());
     EXPECT_NEAR(picture.handle().get("Shadow").get("OffsetY").toDouble(), 8.12132, 1e-3);
 }

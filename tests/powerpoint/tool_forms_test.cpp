@@ -39,7 +39,7 @@ protected:
     session_doubles::TestSession test;
     forms_double::WindowlessDesktop desktop;
     powerpoint::LayoutForm layout{desktop, test.session};
-    std::int16_t chosenStyle = 0;
+    session::PictureLook chosenStyle = session::PictureLook::None;
     powerpoint::PredefinedStyles styles{desktop, chosenStyle};
 };
 
@@ -146,18 +146,18 @@ std::vector<int> boldOnes(const powerpoint::PredefinedStyles& form) {
 TEST_F(ToolForms, StylesBeginWithNoneEachTimeAndKeepTheLastClick) {
     for (int i = 0; i < 2; ++i) {
         desktop.load(styles);
-        EXPECT_EQ(chosenStyle, 0);
+        EXPECT_EQ(chosenStyle, session::PictureLook::None);
         EXPECT_EQ(boldOnes(styles), std::vector<int>{0});
         choose(styles, "OptionStyle", 4);
         EXPECT_EQ(boldOnes(styles), std::vector<int>{4});
         forms_double::close(styles);
-        EXPECT_EQ(chosenStyle, 4);
+        EXPECT_EQ(chosenStyle, session::PictureLook::Reflection);
     }
     desktop.load(styles);
     choose(styles, "OptionStyle", 2);
     press(styles, "Styles");
     EXPECT_FALSE(desktop.isLoaded(styles));
-    EXPECT_EQ(chosenStyle, 2);
+    EXPECT_EQ(chosenStyle, session::PictureLook::Shadow);
 }
 
 }  // namespace

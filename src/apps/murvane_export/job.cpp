@@ -86,7 +86,7 @@ void SlidesJob::exportTo(const std::string& neighbour) {
     batch.options = {.titles = options.titles.value_or(false),
                      .sourceLine = options.source,
                      .shadow = options.shadow,
-                     .pictureStyle = options.pictureStyle,
+                     .look = options.look,
                      .placesShapes = options.placesShapes()};
     std::optional<PlacementForARun> placement;
     if (options.placesShapes()) placement.emplace(scene_.session, options);

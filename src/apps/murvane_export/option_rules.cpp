@@ -9,7 +9,6 @@
 
 #include "apps/murvane_export/errors.h"
 #include "apps/murvane_export/option_words.h"
-#include "powerpoint/picture_styles.h"
 
 namespace unattended {
 
@@ -105,7 +104,7 @@ void requireSlides(const Options& options) {
             "--slides predefined needs a presentation that has slides: name it with "
             "--into DECK.");
     if (makesAny(options, {"slides"}) && options.shadow &&
-        options.pictureStyle != powerpoint::style::none)
+        options.look != session::PictureLook::None)
         throw UsageError(
             "--style and --shadow don't go together: from the second item on, the shadow would "
             "take the place of the style. Choose a style that has a shadow, such as "

@@ -1,20 +1,18 @@
 #include "apps/murvane_export/option_words.h"
 
-#include "powerpoint/picture_styles.h"
-
 namespace unattended {
 
-const std::map<std::string, std::int16_t>& stylesByName() {
-    namespace style = powerpoint::style;
-    static const std::map<std::string, std::int16_t> styles = {
-        {"none", style::none},
-        {"shadow-around", style::shadowAllAround},
-        {"shadow", style::shadow},
-        {"rounded", style::roundedCorners},
-        {"reflection", style::reflection},
-        {"reflection-rounded", style::reflectionRounded},
+const std::map<std::string, session::PictureLook>& looksByName() {
+    using session::PictureLook;
+    static const std::map<std::string, PictureLook> looks = {
+        {"none", PictureLook::None},
+        {"shadow-around", PictureLook::ShadowAllAround},
+        {"shadow", PictureLook::Shadow},
+        {"rounded", PictureLook::RoundedCorners},
+        {"reflection", PictureLook::Reflection},
+        {"reflection-rounded", PictureLook::ReflectionRounded},
     };
-    return styles;
+    return looks;
 }
 
 const std::map<std::string, catalogue::Destination>& destinationsByName() {

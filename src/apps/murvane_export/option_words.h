@@ -6,6 +6,7 @@
 
 #include "catalogue/export_list.h"
 #include "session/host.h"
+#include "session/picture_look.h"
 
 namespace unattended {
 
@@ -14,6 +15,6 @@ namespace unattended {
 [[nodiscard]] const std::map<std::string, catalogue::ExportFormat>& formatsByName();
 [[nodiscard]] const std::map<std::string, session::ImageFormat>& imageFormatsByName();
 /// Looks of pictures, as the slide dialog numbers them.
-[[nodiscard]] const std::map<std::string, std::int16_t>& stylesByName();
+[[nodiscard]] const std::map<std::string, session::PictureLook>& looksByName();
 
 }  // namespace unattended

@@ -238,7 +238,7 @@ void declareLooks(CLI::App& app, Options& options, RawTexts& raw) {
            withDefault("Look of the pictures on slides: none, shadow-around, shadow, rounded,\n"
                        "reflection or reflection-rounded",
                        raw.style))
-        ->transform(oneOf("--style", namesOf(stylesByName())))
+        ->transform(oneOf("--style", namesOf(looksByName())))
         ->type_name("NAME");
     app.add_flag("--shadow", options.shadow,
                  "A shadow for what was added last to each slide, and for pictures in Word");
@@ -358,7 +358,7 @@ void finish(Options& options, const RawTexts& raw) {
     options.pictures = office::pictureKindCalled(raw.pictures).value_or(office::PictureKind::Png);
     options.linksAreRelative = raw.links == "relative";
     options.predefinedSlides = raw.slides == "predefined";
-    options.pictureStyle = stylesByName().at(raw.style);
+    options.look = looksByName().at(raw.style);
     options.top = placementOf("--top", raw.top);
     options.width = placementOf("--width", raw.width);
     options.left = placementOf("--left", raw.left);

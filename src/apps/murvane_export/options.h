@@ -9,6 +9,7 @@
 #include "catalogue/export_list.h"
 #include "office/picture_kind.h"
 #include "session/host.h"
+#include "session/picture_look.h"
 
 namespace unattended {
 
@@ -69,7 +70,7 @@ struct Options {
     std::int32_t blankLines = 10;
     session::ImageFormat imageFormat = session::ImageFormat::Png;
     bool numbersFiles = false;
-    std::int16_t pictureStyle = 0;
+    session::PictureLook look = session::PictureLook::None;
     std::optional<PlacementValue> top;
     std::optional<PlacementValue> width;
     std::optional<PlacementValue> left;
