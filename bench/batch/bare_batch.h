@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 
 namespace libreoffice {
 class Connection;

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "forms/web_browser.h"

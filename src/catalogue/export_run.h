@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "catalogue/needed_documents.h"
 #include "session/office_session.h"
 

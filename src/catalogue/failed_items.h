@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "office/failure.h"
 #include "session/office_session.h"
 

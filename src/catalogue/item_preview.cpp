@@ -8,27 +8,30 @@ namespace catalogue {
 
 using session::OfficeSession;
 
-PreviewCopy copyForPreview(OfficeSession& session, const ExportItem& row) {
-    if (row.isEmbeddedChart()) {
+namespace {
+
+/// False for a range.
+bool copyChart(OfficeSession& session, const ExportItem& row) {
+    if (row.isRange()) return false;
+    if (row.isEmbeddedChart())
         chartObjectOf(session, row).call("Copy");
-    } else if (row.isChartSheet()) {
+    else
         CopyRow(session, row);
-    } else {
-        const office::Object range = rangeOf(session, row);
-        if (range.get("Areas").get("Count").toLong() > 1) return PreviewCopy::SeveralAreas;
-        range.call("Copy");
-    }
+    return true;
+}
+
+}  // namespace
+
+PreviewCopy copyForPreview(OfficeSession& session, const ExportItem& row) {
+    if (copyChart(session, row)) return PreviewCopy::Copied;
+    const office::Object range = rangeOf(session, row);
+    if (range.get("Areas").get("Count").toLong() > 1) return PreviewCopy::SeveralAreas;
+    range.call("Copy");
     return PreviewCopy::Copied;
 }
 
 void copyForFirstPreview(OfficeSession& session, const ExportItem& row) {
-    if (row.isEmbeddedChart()) {
-        chartObjectOf(session, row).call("Copy");
-    } else if (row.isChartSheet()) {
-        CopyRow(session, row);
-    } else {
-        CopyCellsAsPicture(rangeOf(session, row), CopyFormat::Pixels);
-    }
+    if (!copyChart(session, row)) CopyCellsAsPicture(rangeOf(session, row), CopyFormat::Pixels);
 }
 
 forms::Picture pictureOnClipboard(OfficeSession& session) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "forms/controls.h"
 #include "session/office_session.h"
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "forms/controls.h"
 
 namespace catalogue {

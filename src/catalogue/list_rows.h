@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "session/office_session.h"
 
 /// The small helpers around the rows of the list.

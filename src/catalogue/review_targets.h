@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "catalogue/review.h"
 #include "catalogue/row_objects.h"
 #include "session/office_session.h"

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "session/office_session.h"
 
 /// Putting a row's object on the clipboard, for the formats that paste.

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "session/office_session.h"
 
 /// Picture files of what rows stand for, in the session's kind of pictures.

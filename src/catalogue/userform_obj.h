@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "catalogue/export_list_view.h"
 #include "catalogue/item_preview.h"
 #include "forms/controls.h"

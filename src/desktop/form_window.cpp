@@ -146,13 +146,13 @@ void FormWindow::sync() {
     if (form_ == nullptr || syncing_) return;
     const QScopedValueRollback syncing(syncing_, true);
     syncState();
-    syncEdge();
+    syncLooks();
     syncPlace();
     views_.sync();
     syncFocus();
 }
 
-void FormWindow::syncEdge() {
+void FormWindow::syncLooks() {
     const Shadow edge{form_->shadowDepthPx, form_->shadowOpacity, colourOf(form_->shadowColour)};
     if (!(std::exchange(drawn_.edge, edge) == edge)) {
         drawn_.place = {};

@@ -52,7 +52,7 @@ private:
     /// Whether an event is a click or a key for a widget of this window.
     [[nodiscard]] bool isInputOfMine(const QObject* receiver, const QEvent& event) const;
     void syncFocus();
-    void syncEdge();
+    void syncLooks();
     void syncPlace();
     void syncState();
     /// Makes a form as large as the screen has room for, or as large again as it was.

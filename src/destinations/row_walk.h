@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <functional>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "catalogue/export_run.h"
 #include "catalogue/failed_items.h"
 #include "session/office_session.h"

@@ -7,6 +7,28 @@
 
 namespace forms {
 
+Control::Control(Form& form, ControlClass controlClass, std::string name, Place thePlace,
+                 Frame* container)
+    : place(thePlace),
+      form_(form),
+      class_(controlClass),
+      name_(std::move(name)),
+      container_(container) {
+    form_.controls_.push_back(this);
+}
+
+Control::~Control() {
+    std::erase(form_.controls_, this);
+    if (form_.focus == this) form_.focus = nullptr;
+}
+
+void Control::setZOrder(ZOrder order) {
+    for (const Control* other : form_.controls_) {
+        layer_ = order == ZOrder::Front ? std::max(layer_, other->layer_ + 1)
+                                        : std::min(layer_, other->layer_ - 1);
+    }
+}
+
 void CheckBox::setValue(State value) {
     if (std::exchange(value_, value) != value && onClick) onClick();
 }

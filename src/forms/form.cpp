@@ -33,37 +33,4 @@ Control* Form::find(std::string_view name) const {
     return found == controls_.end() ? nullptr : *found;
 }
 
-Control::Control(Form& form, ControlClass controlClass, std::string name, Place thePlace,
-                 Frame* container)
-    : place(thePlace),
-      form_(form),
-      class_(controlClass),
-      name_(std::move(name)),
-      container_(container) {
-    form_.controls_.push_back(this);
-}
-
-Control::~Control() {
-    std::erase(form_.controls_, this);
-    if (form_.focus == this) form_.focus = nullptr;
-}
-
-void Control::setZOrder(ZOrder order) {
-    for (const Control* other : form_.controls_) {
-        layer_ = order == ZOrder::Front ? std::max(layer_, other->layer_ + 1)
-                                        : std::min(layer_, other->layer_ - 1);
-    }
-}
-
-Timer::Timer(Form& form, std::string name, std::chrono::milliseconds theInterval)
-    : interval(theInterval),
-      form_(form),
-      name_(std::move(name)) {
-    form_.timers_.push_back(this);
-}
-
-Timer::~Timer() {
-    std::erase(form_.timers_, this);
-}
-
 }  // namespace forms

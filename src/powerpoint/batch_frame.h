@@ -4,7 +4,7 @@
 #include <functional>
 #include <string_view>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "catalogue/failed_items.h"
 #include "catalogue/needed_documents.h"
 #include "office/failure.h"

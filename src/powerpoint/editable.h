@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "session/office_session.h"
 
 /// The editable route: PowerPoint's default paste, by which a chart arrives as a chart of its own

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "session/office_session.h"
 
 /// The embedded route: an Excel object with a copy of the data, which opens from inside the

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "session/office_session.h"
 
 /// The linked route: an object that keeps a reference to the workbook's file and can be updated

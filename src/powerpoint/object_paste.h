@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "catalogue/row_copies.h"
 #include "session/office_session.h"
 

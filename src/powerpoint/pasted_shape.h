@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "office/value.h"
 
 /// What the routes do with a slide and with what has arrived on it.

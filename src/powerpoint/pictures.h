@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "session/office_session.h"
 
 /// The picture route: each object is exported by Excel to a file in the temporary folder,

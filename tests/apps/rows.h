@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "session_doubles/item.h"
 
 using catalogue::ItemKind;

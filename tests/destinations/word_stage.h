@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "office_double/suite.h"
 #include "office_double/word/application.h"
 #include "session_doubles/item.h"

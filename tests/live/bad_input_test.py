@@ -104,16 +104,12 @@ class ABadInput(ProgramTest):
         inside = self.folder / "inside"
         inside.mkdir()
         result, _, errors = self.export(BAD / "odd-names.xlsx", "--all", "--keep-going", *every_output(inside))
-        self.assertIn(result, (DONE, FAILED), errors)
+        self.assertEqual(result, DONE, errors)
         self.assertEqual({p.name for p in inside.iterdir()}, EVERY_OUTPUT)
         expected = [item["caption"] or (item["sheet"] if item["name"] == "{Chart Sheet}" else item["name"])
                     for item in items if not item["severalAreas"]]
         arrived = [picture["description"] for slide in slides_of(inside / "x.pptx") for picture in slide.pictures]
-        self.assertLessEqual(set(arrived), set(expected))
-        for line in errors.splitlines():
-            failed = re.search(r"(\S+) is incomplete: of \d+ items (\d+) could not", line)
-            self.assertFalse(failed, line)
-        self.assertEqual(len(arrived), len(expected))
+        self.assertCountEqual(arrived, expected)
         self.assertEqual(faults(inside / "x.docx"), [])
         body = ElementTree.fromstring(Package(inside / "x.docx").read("word/document.xml"))
         self.assertEqual(sorted(each.get("descr") for each in body.iter() if each.tag.endswith("}docPr")),

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "office_double/suite.h"
 #include "powerpoint/formats.h"
 #include "session/office_session.h"

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 
 namespace unattended {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 
 namespace unattended {
 

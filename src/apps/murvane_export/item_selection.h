@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 
 /// Which rows of the list an order to work means. Items are named as `NAME` or `NAME@SHEET`; a
 /// chart sheet has its sheet's name or "{Chart Sheet}". Exact names go before names that differ in

@@ -6,7 +6,7 @@
 
 #include "apps/murvane_export/documents.h"
 #include "apps/murvane_export/options.h"
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "catalogue/failed_items.h"
 #include "office/suite.h"
 #include "session/office_session.h"

@@ -4,7 +4,7 @@
 #include <map>
 #include <string>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "session/host.h"
 #include "session/picture_look.h"
 

@@ -6,7 +6,7 @@
 #include <variant>
 #include <vector>
 
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "office/picture_kind.h"
 #include "session/host.h"
 #include "session/picture_look.h"

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "apps/murvane_export/options.h"
-#include "catalogue/export_list.h"
+#include "catalogue/export_choices.h"
 #include "office/failure.h"
 #include "session/office_session.h"
 
