@@ -9,6 +9,7 @@
 #include <optional>
 #include <unordered_map>
 #include <utility>
+#include <variant>
 
 #include "office/package/compound_file.h"
 #include "office/package/content_types.h"
@@ -23,40 +24,40 @@ constexpr std::string_view contentTypesPart = "/[Content_Types].xml";
 constexpr std::string_view relationshipsType =
     "application/vnd.openxmlformats-package.relationships+xml";
 
+struct AsRead {};
+/// Copies of a part share them.
+using SharedBytes = std::shared_ptr<const std::string>;
+/// On their way.
+using LateBytes = std::shared_future<std::string>;
+
 struct Part {
     /// Empty for what is only carried, such as the entry of a folder.
     std::string name;
     /// Of the archive; none for a new one.
     std::optional<std::uint64_t> index;
-    /// Null while it is as it was read. Copies of a part share them.
-    std::shared_ptr<const std::string> bytes;
     Storage storage = Storage::Deflated;
     bool isRemoved = false;
     bool wasRead = false;
-    /// Of bytes that are on their way.
-    std::shared_future<std::string> late = {};
-    /// Of bytes that have been put aside.
-    std::optional<PartsAside::Place> aside = {};
+    std::variant<AsRead, SharedBytes, LateBytes, PartsAside::Place> content = {};
 
-    /// Waits for them.
+    [[nodiscard]] const std::string* bytes() const {
+        const auto* held = std::get_if<SharedBytes>(&content);
+        return held != nullptr ? held->get() : nullptr;
+    }
+    [[nodiscard]] const LateBytes* late() const { return std::get_if<LateBytes>(&content); }
+    [[nodiscard]] const PartsAside::Place* aside() const {
+        return std::get_if<PartsAside::Place>(&content);
+    }
+    void setBytes(std::string to) { content = std::make_shared<const std::string>(std::move(to)); }
+    /// Waits for what is on its way.
     void settle() {
-        if (late.valid()) setBytes(std::exchange(late, {}).get());
+        if (late() != nullptr) setBytes(late()->get());
     }
     /// The content, unless it is as it was read or has been put aside; what is on its way is
     /// waited for, not copied.
     [[nodiscard]] std::optional<std::string_view> changed() const {
-        if (late.valid()) return late.get();
-        return bytes ? std::optional<std::string_view>(*bytes) : std::nullopt;
-    }
-    void setBytes(std::string to) { bytes = std::make_shared<const std::string>(std::move(to)); }
-    void change(std::string to) {
-        setBytes(std::move(to));
-        aside.reset();
-    }
-    void drop() {
-        bytes.reset();
-        late = {};
-        aside.reset();
+        if (late() != nullptr) return late()->get();
+        return bytes() != nullptr ? std::optional<std::string_view>(*bytes()) : std::nullopt;
     }
 };
 
@@ -88,8 +89,8 @@ public:
 
     std::string read(std::string_view name, std::uint64_t most) {
         Part& part = at(name);
-        if (part.bytes) return *part.bytes;
-        if (part.aside) return aside.read(*part.aside);
+        if (part.bytes() != nullptr) return *part.bytes();
+        if (part.aside() != nullptr) return aside.read(*part.aside());
         const std::uint64_t size = archive.entries()[*part.index].bytes;
         if (size > most)
             throw PackageError(Fault::TooLarge,
@@ -103,38 +104,38 @@ public:
 
     /// Whether these are the new bytes of a part.
     [[nodiscard]] bool holds(const Part& part, const std::string& bytes) {
-        if (!part.aside) return part.bytes && *part.bytes == bytes;
-        return part.aside->bytes == bytes.size() && aside.read(*part.aside) == bytes;
+        if (part.bytes() != nullptr) return *part.bytes() == bytes;
+        const auto* place = part.aside();
+        return place != nullptr && place->bytes == bytes.size() && aside.read(*place) == bytes;
     }
 
     Part& place(std::string_view name, Storage storage) {
         const auto [found, isNew] = byKey.try_emplace(partKey(name), parts.size());
-        if (isNew) parts.push_back({std::string(name), {}, {}, storage});
+        if (isNew) parts.push_back({std::string(name), {}, storage});
         return parts[found->second];
     }
 
     void put(std::string_view name, std::string bytes, Storage storage) {
-        place(name, storage).change(std::move(bytes));
+        place(name, storage).setBytes(std::move(bytes));
     }
 
     /// The same for a part that is rather written than read.
     void putAside(std::string_view name, std::string bytes, Storage storage) {
         Part& part = place(name, storage);
-        part.drop();
-        part.aside = aside.put(bytes);
-        if (!part.aside) part.setBytes(std::move(bytes));
+        if (const auto there = aside.put(bytes))
+            part.content = *there;
+        else
+            part.setBytes(std::move(bytes));
     }
 
     void putCopy(std::string_view name, std::string_view of) {
         const Part original = at(of);
-        Part& part = place(name, original.storage);
-        part.bytes = original.bytes;
-        part.aside = original.aside;
+        place(name, original.storage).content = original.content;
     }
 
     void putLate(std::string_view name, std::shared_future<std::string> bytes) {
         putDrawnAside();
-        place(name, Storage::Stored).late = std::move(bytes);
+        place(name, Storage::Stored).content = std::move(bytes);
         onTheirWay.push_back(partKey(name));
     }
 
@@ -143,7 +144,7 @@ public:
         if (found == byKey.end()) return;
         Part& part = parts[found->second];
         part.isRemoved = true;
-        part.drop();
+        part.content = AsRead();
         byKey.erase(found);
         contentTypes().remove(name);
     }
@@ -179,8 +180,10 @@ public:
         for (const Part& part : parts) {
             if (part.isRemoved && part.index) found.push_back({part.index, {}, {}, {}});
             const std::optional<std::string_view> bytes = part.changed();
-            if (!bytes && !part.aside) continue;
-            found.push_back({part.index, part.name.substr(1), bytes, part.storage, part.aside});
+            const auto* place = part.aside();
+            if (!bytes && place == nullptr) continue;
+            found.push_back({part.index, part.name.substr(1), bytes, part.storage,
+                             place != nullptr ? std::optional(*place) : std::nullopt});
         }
         return found;
     }
@@ -208,12 +211,11 @@ private:
             const auto found = byKey.find(key);
             if (found == byKey.end()) return true;
             Part& part = parts[found->second];
-            if (!part.late.valid()) return true;
-            if (part.late.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
+            if (part.late() == nullptr) return true;
+            if (part.late()->wait_for(std::chrono::seconds(0)) != std::future_status::ready)
                 return false;
             try {
-                part.aside = aside.put(part.late.get());
-                if (part.aside) part.late = {};
+                if (const auto there = aside.put(part.late()->get())) part.content = *there;
             } catch (const std::exception&) {
                 return true;
             }
@@ -229,7 +231,7 @@ private:
     void take(std::uint64_t index) {
         const ZipEntry& entry = archive.entries()[index];
         if (entry.name.empty() || entry.name.ends_with('/') || entry.name.ends_with('\\')) {
-            parts.push_back({{}, index, {}, {}});
+            parts.push_back({{}, index});
             return;
         }
         const std::string name = partOfEntry(entry.name);
@@ -239,7 +241,7 @@ private:
         if (!byKey.try_emplace(partKey(name), parts.size()).second)
             throw PackageError(Fault::Damaged,
                                fmt::format("it holds two parts named {}", shown(name)));
-        parts.push_back({name, index, {}, {}});
+        parts.push_back({name, index});
     }
 
     std::optional<ContentTypes> types;
@@ -284,14 +286,14 @@ std::string Package::read(std::string_view part) const {
 
 std::string Package::head(std::string_view part, std::size_t most) const {
     const auto& found = content_->at(part);
-    if (found.bytes) return found.bytes->substr(0, most);
-    if (found.aside)
-        return content_->aside.read({found.aside->start, std::min(found.aside->bytes, most)});
+    if (found.bytes() != nullptr) return found.bytes()->substr(0, most);
+    if (const auto* place = found.aside())
+        return content_->aside.read({place->start, std::min(place->bytes, most)});
     return content_->archive.read(*found.index, most);
 }
 
 void Package::replace(std::string_view part, std::string bytes) {
-    content_->at(part).change(std::move(bytes));
+    content_->at(part).setBytes(std::move(bytes));
 }
 
 void Package::add(std::string_view part, std::string_view contentType, std::string bytes,
