@@ -65,9 +65,9 @@ private:
 };
 
 /// A home, and what of it an object stands for.
-template <class Home>
+template <class Home, class Kind>
 struct PartOf : Home {
-    std::shared_ptr<Part> part;
+    std::shared_ptr<Kind> part;
 
     [[nodiscard]] bool isGone() const { return part->isGone(); }
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <concepts>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -18,14 +20,17 @@ struct InDeck {
     DeckPtr deck;
 };
 
-/// Base of the classes that stand for something in a presentation.
-template <class Self>
-class DeckObject : public HomedObject<Self, PartOf<InDeck>> {
+/// Base of the classes that stand for a presentation, or for something in it.
+template <class Self, class Kind = Deck>
+class DeckObject : public HomedObject<Self, PartOf<InDeck, Kind>> {
 public:
-    DeckObject(InDeck home, std::shared_ptr<Part> part)
-        : HomedObject<Self, PartOf<InDeck>>({std::move(home), std::move(part)}) {}
+    DeckObject(InDeck home, std::shared_ptr<Kind> part)
+        : HomedObject<Self, PartOf<InDeck, Kind>>({std::move(home), std::move(part)}) {}
+    explicit DeckObject(const InDeck& home) requires std::same_as<Kind, Deck>
+        : DeckObject(home, home.deck) {}
 
     [[nodiscard]] Deck& deck() const { return *this->home().deck; }
+    [[nodiscard]] Kind& part() const { return *this->home().part; }
 };
 
 /// Beyond this PowerPoint takes no place, no length and no other measure of a shape.

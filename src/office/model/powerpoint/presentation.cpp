@@ -36,11 +36,10 @@ public:
     using DeckObject::DeckObject;
 
     static const MemberTable<SlideShowWindow>& members() {
-        static const auto table =
-            MemberTable<SlideShowWindow>("SlideShowWindow")
-                .property("View", [](SlideShowWindow& self) {
-                    return makeObject<SlideShowView>(self.home(), self.home().deck);
-                });
+        static const auto table = MemberTable<SlideShowWindow>("SlideShowWindow")
+                                      .property("View", [](SlideShowWindow& self) {
+                                          return makeObject<SlideShowView>(self.home());
+                                      });
         return table;
     }
 };
@@ -59,9 +58,7 @@ const MemberTable<Presentation>& Presentation::members() {
             .property("FullName", [](Self& self) { return self.deck().fullName(); })
             .property("ReadOnly", [](Self& self) { return self.deck().isReadOnly(); })
             .property("Slides", [](Self& self) { return slidesObject(self.home()); })
-            .property(
-                "PageSetup",
-                [](Self& self) { return makeObject<PageSetup>(self.home(), self.home().deck); })
+            .property("PageSetup", [](Self& self) { return makeObject<PageSetup>(self.home()); })
             .property("Windows",
                       [](Self& self) { return windowsObject(self.guard(), {self.home().deck}); })
             .property("SlideShowWindow", {},
@@ -69,7 +66,7 @@ const MemberTable<Presentation>& Presentation::members() {
                           if (!self.deck().showsSlides())
                               refuse(arguments.source(),
                                      "No slide show of the presentation is running");
-                          return makeObject<SlideShowWindow>(self.home(), self.home().deck);
+                          return makeObject<SlideShowWindow>(self.home());
                       })
             .method("SaveCopyAs", {"FileName"},
                     [](Self& self, const CallArguments& arguments) {
@@ -82,7 +79,7 @@ const MemberTable<Presentation>& Presentation::members() {
 }  // namespace
 
 Object presentationObject(const InDeck& home) {
-    return makeObject<Presentation>(home, home.deck);
+    return makeObject<Presentation>(home);
 }
 
 }  // namespace office::model::powerpoint

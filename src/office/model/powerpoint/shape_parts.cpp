@@ -11,24 +11,18 @@ namespace {
 
 /// Base of the objects that are a part of one shape.
 template <class Self>
-class ShapePart : public DeckObject<Self> {
+class ShapePart : public DeckObject<Self, DeckShape> {
 public:
-    ShapePart(const InDeck& home, DeckShapePtr shape)
-        : DeckObject<Self>(home, shape),
-          shape_(std::move(shape)) {}
+    using DeckObject<Self, DeckShape>::DeckObject;
 
-    [[nodiscard]] DeckShape& shape() const { return *shape_; }
     /// Of a shape that was found to hold text.
-    [[nodiscard]] ShapeText& text() const { return *shape_->textFrame(); }
+    [[nodiscard]] ShapeText& text() const { return *this->part().textFrame(); }
 
     /// A part of the same shape.
     template <class Other>
     [[nodiscard]] Object other() const {
-        return makeObject<Other>(this->home(), shape_);
+        return makeObject<Other>(this->home(), this->home().part);
     }
-
-private:
-    DeckShapePtr shape_;
 };
 
 class FontColor : public ShapePart<FontColor> {
@@ -111,10 +105,10 @@ Shadow plainShadow(double offsetPt) {
 
 /// Whatever is set of a shape that has no shadow gives it one, straight behind the shape at first.
 template <class Type>
-void changeShadow(DeckShape& shape, Type Shadow::*part, Type value) {
+void changeShadow(DeckShape& shape, Type Shadow::*which, Type value) {
     Shadow shadow = shape.shadow();
     if (!shadow.isVisible) shadow = plainShadow(0);
-    shadow.*part = value;
+    shadow.*which = value;
     shape.setShadow(shadow);
 }
 
@@ -127,9 +121,9 @@ public:
         static const auto table =
             MemberTable<Self>("ColorFormat")
                 .property(
-                    "RGB", [](Self& self) { return self.shape().shadow().colour; },
+                    "RGB", [](Self& self) { return self.part().shadow().colour; },
                     [](Self& self, const Value& colour) {
-                        changeShadow(self.shape(), &Shadow::colour, colour.toLong());
+                        changeShadow(self.part(), &Shadow::colour, colour.toLong());
                     });
         return table;
     }
@@ -149,14 +143,14 @@ const MemberTable<ShadowFormat>& ShadowFormat::members() {
     static const auto table = [] {
         MemberTable<Self> made("ShadowFormat");
         made.property(
-                "Visible", [](Self& self) { return triState(self.shape().shadow().isVisible); },
+                "Visible", [](Self& self) { return triState(self.part().shadow().isVisible); },
                 &Self::setVisible)
             .property("ForeColor", [](Self& self) { return self.other<ShadowColor>(); });
-        const auto number = [&](const char* name, double Shadow::*part, double lowest) {
+        const auto number = [&](const char* name, double Shadow::*which, double lowest) {
             made.property(
-                name, [part](Self& self) { return self.shape().shadow().*part; },
-                [part, lowest](Self& self, const Value& value) {
-                    changeShadow(self.shape(), part,
+                name, [which](Self& self) { return self.part().shadow().*which; },
+                [which, lowest](Self& self, const Value& value) {
+                    changeShadow(self.part(), which,
                                  numberWithin(lowest, furthestPt, value, "ShadowFormat"));
                 });
         };
@@ -172,13 +166,13 @@ const MemberTable<ShadowFormat>& ShadowFormat::members() {
 void ShadowFormat::setVisible(const Value& on) {
     /// Where PowerPoint throws a shadow that is merely made visible.
     constexpr double plainOffsetPt = 2;
-    Shadow shadow = shape().shadow();
+    Shadow shadow = part().shadow();
     if (shadow.isVisible == on.toBool()) return;
     if (on.toBool())
         shadow = plainShadow(plainOffsetPt);
     else
         shadow.isVisible = false;
-    shape().setShadow(shadow);
+    part().setShadow(shadow);
 }
 
 class ReflectionFormat : public ShapePart<ReflectionFormat> {
@@ -189,11 +183,11 @@ public:
         using Self = ReflectionFormat;
         static const auto table = [] {
             MemberTable<Self> made("ReflectionFormat");
-            const auto number = [&](const char* name, double Reflection::*part, double highest) {
+            const auto number = [&](const char* name, double Reflection::*which, double highest) {
                 made.property(
-                    name, [part](Self& self) { return self.shape().reflection().*part; },
-                    [part, highest](Self& self, const Value& value) {
-                        self.change(part, numberWithin(0, highest, value, "ReflectionFormat"));
+                    name, [which](Self& self) { return self.part().reflection().*which; },
+                    [which, highest](Self& self, const Value& value) {
+                        self.change(which, numberWithin(0, highest, value, "ReflectionFormat"));
                     });
             };
             number("Offset", &Reflection::offsetPt, furthestPt);
@@ -204,13 +198,13 @@ public:
     }
 
 private:
-    void change(double Reflection::*part, double value) {
+    void change(double Reflection::*which, double value) {
         /// What PowerPoint mirrors of a shape that got a reflection without a size.
         constexpr double plainPercent = 35;
-        Reflection reflection = shape().reflection();
+        Reflection reflection = part().reflection();
         if (reflection.sizePercent == 0) reflection.sizePercent = plainPercent;
-        reflection.*part = value;
-        shape().setReflection(reflection);
+        reflection.*which = value;
+        part().setReflection(reflection);
     }
 };
 
@@ -226,7 +220,7 @@ public:
                     "Item", {"Index"},
                     [](Self& self, const CallArguments& arguments) {
                         const std::int32_t place = arguments.at(0).toLong();
-                        const auto value = self.shape().adjustment(place);
+                        const auto value = self.part().adjustment(place);
                         if (!value) failWithout(place, arguments.source());
                         return *value;
                     },
@@ -234,7 +228,7 @@ public:
                         const std::int32_t place = arguments.at(0).toLong();
                         const double number =
                             numberWithin(-furthestPt, furthestPt, value, arguments.source());
-                        if (!self.shape().setAdjustment(place, number))
+                        if (!self.part().setAdjustment(place, number))
                             failWithout(place, arguments.source());
                     });
         return table;

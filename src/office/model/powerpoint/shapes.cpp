@@ -50,26 +50,24 @@ Outline outlineOf(const Value& number, const std::string& source) {
     return wanted;
 }
 
-class Shape : public DeckObject<Shape> {
+class Shape : public DeckObject<Shape, DeckShape> {
 public:
-    Shape(const InDeck& home, const DeckShapePtr& shape) : DeckObject(home, shape), shape_(shape) {}
+    using DeckObject::DeckObject;
     static const MemberTable<Shape>& members();
 
 private:
     template <class Read>
     static auto reads(Read read) {
-        return [read](Shape& self) { return std::invoke(read, *self.shape_); };
+        return [read](Shape& self) { return std::invoke(read, self.part()); };
     }
     /// `change` takes a shape and the value.
     template <class Change>
     static auto writes(Change change) {
-        return [change](Shape& self, const Value& value) { change(*self.shape_, value); };
+        return [change](Shape& self, const Value& value) { change(self.part(), value); };
     }
-    static auto part(Object (*make)(const InDeck&, const DeckShapePtr&)) {
-        return [make](Shape& self) { return make(self.home(), self.shape_); };
+    static auto gives(Object (*make)(const InDeck&, const DeckShapePtr&)) {
+        return [make](Shape& self) { return make(self.home(), self.home().part); };
     }
-
-    DeckShapePtr shape_;
 };
 
 const MemberTable<Shape>& Shape::members() {
@@ -94,11 +92,12 @@ const MemberTable<Shape>& Shape::members() {
                       writes([](DeckShape& shape, const Value& number) {
                           shape.setOutline(outlineOf(number, "Shape.AutoShapeType"));
                       }))
-            .property("TextFrame", part(textFrameObject))
-            .property("Shadow", part(shadowObject))
-            .property("Reflection", part(reflectionObject))
-            .property("Adjustments", part(adjustmentsObject))
-            .method("Select", {}, [](Shape& self) { self.deck().window().select(self.shape_); });
+            .property("TextFrame", gives(textFrameObject))
+            .property("Shadow", gives(shadowObject))
+            .property("Reflection", gives(reflectionObject))
+            .property("Adjustments", gives(adjustmentsObject))
+            .method("Select", {},
+                    [](Shape& self) { self.deck().window().select(self.home().part); });
         const auto edge = [&](const std::string& name, double Point::*which) {
             table.property(
                 name, reads([which](DeckShape& shape) { return shape.corner().*which; }),
@@ -122,11 +121,9 @@ const MemberTable<Shape>& Shape::members() {
     return all;
 }
 
-class Shapes : public DeckObject<Shapes> {
+class Shapes : public DeckObject<Shapes, DeckSlide> {
 public:
-    Shapes(const InDeck& home, const DeckSlidePtr& slide)
-        : DeckObject(home, slide),
-          slide_(*slide) {}
+    using DeckObject::DeckObject;
     static const MemberTable<Shapes>& members();
 
 private:
@@ -134,15 +131,13 @@ private:
     Object title(const CallArguments& arguments);
     Object addPicture(const CallArguments& arguments);
     Object addLabel(const CallArguments& arguments);
-
-    DeckSlide& slide_;
 };
 
 const MemberTable<Shapes>& Shapes::members() {
     using Self = Shapes;
     static const auto table =
         MemberTable<Self>("Shapes")
-            .property("Count", [](Self& self) { return self.slide_.shapeCount(); })
+            .property("Count", [](Self& self) { return self.part().shapeCount(); })
             .property("Item", {"Index"}, &Self::item)
             .property("Title", {}, &Self::title)
             .method(
@@ -154,20 +149,20 @@ const MemberTable<Shapes>& Shapes::members() {
                     {"DataType", "DisplayAsIcon", "IconFileName", "IconIndex", "IconLabel", "Link"},
                     [](Self& self, const CallArguments& arguments) {
                         return shapeObject(self.home(),
-                                           pasteSpecial(self.deck(), self.slide_, arguments));
+                                           pasteSpecial(self.deck(), self.part(), arguments));
                     });
     return table;
 }
 
 Object Shapes::item(const CallArguments& arguments) {
     const std::int32_t place = arguments.at(0).toLong();
-    const auto shape = slide_.shapeAt(place);
+    const auto shape = part().shapeAt(place);
     if (!shape) ItemIndex(place, arguments.source()).fail();
     return shapeObject(home(), shape);
 }
 
 Object Shapes::title(const CallArguments& arguments) {
-    const auto shape = slide_.titleShape();
+    const auto shape = part().titleShape();
     if (!shape) refuse(arguments.source(), "The slide has no title");
     return shapeObject(home(), shape);
 }
@@ -184,7 +179,7 @@ Object Shapes::addPicture(const CallArguments& arguments) {
     };
     const double width = side(5);
     const double height = side(6);
-    const auto picture = slide_.addPicture(arguments.at(0).toText(), corner);
+    const auto picture = part().addPicture(arguments.at(0).toText(), corner);
     if (width != ownSize && height != ownSize) {
         picture->resize({width, height});
     } else if (width != ownSize) {
@@ -202,7 +197,7 @@ Object Shapes::addLabel(const CallArguments& arguments) {
         refuseCall(source, "Only horizontal text can be added");
     const Point corner{placePt(arguments.at(1), source), placePt(arguments.at(2), source)};
     const Size size{lengthPt(arguments.at(3), source), lengthPt(arguments.at(4), source)};
-    return shapeObject(home(), slide_.addLabel(corner, size));
+    return shapeObject(home(), part().addLabel(corner, size));
 }
 
 }  // namespace

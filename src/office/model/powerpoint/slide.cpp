@@ -52,29 +52,27 @@ Object Slides::add(const CallArguments& arguments) {
     return slideObject(home(), slide);
 }
 
-class Slide : public DeckObject<Slide> {
+class Slide : public DeckObject<Slide, DeckSlide> {
 public:
-    Slide(const InDeck& home, const DeckSlidePtr& slide) : DeckObject(home, slide), slide_(slide) {}
+    using DeckObject::DeckObject;
 
     static const MemberTable<Slide>& members() {
         using Self = Slide;
         static const auto table =
             MemberTable<Self>("Slide")
-                .property("SlideIndex", [](Self& self) { return self.slide_->place(); })
+                .property("SlideIndex", [](Self& self) { return self.part().place(); })
                 .property(
-                    "Layout", [](Self& self) { return self.slide_->layout(); },
+                    "Layout", [](Self& self) { return self.part().layout(); },
                     [](Self& self, const Value& number) {
-                        self.slide_->setLayout(knownLayout(number, "Slide.Layout"));
+                        self.part().setLayout(knownLayout(number, "Slide.Layout"));
                     })
                 .property("Shapes",
-                          [](Self& self) { return shapesObject(self.home(), self.slide_); })
-                .method("Select", {}, [](Self& self) { self.deck().window().show(self.slide_); })
-                .method("Delete", {}, [](Self& self) { self.slide_->remove(); });
+                          [](Self& self) { return shapesObject(self.home(), self.home().part); })
+                .method("Select", {},
+                        [](Self& self) { self.deck().window().show(self.home().part); })
+                .method("Delete", {}, [](Self& self) { self.part().remove(); });
         return table;
     }
-
-private:
-    DeckSlidePtr slide_;
 };
 
 }  // namespace
@@ -86,7 +84,7 @@ DeckSlidePtr requiredSlide(Deck& deck, const Value& place, const std::string& so
 }
 
 Object slidesObject(const InDeck& home) {
-    return makeObject<Slides>(home, home.deck);
+    return makeObject<Slides>(home);
 }
 
 Object slideObject(const InDeck& home, const DeckSlidePtr& slide) {

@@ -75,12 +75,9 @@ public:
                     [](Self& self, const Value& viewType) {
                         self.deck().window().setViewType(viewType.toLong());
                     })
-                .property(
-                    "View",
-                    [](Self& self) { return makeObject<View>(self.home(), self.home().deck); })
-                .property(
-                    "Selection",
-                    [](Self& self) { return makeObject<Selection>(self.home(), self.home().deck); })
+                .property("View", [](Self& self) { return makeObject<View>(self.home()); })
+                .property("Selection",
+                          [](Self& self) { return makeObject<Selection>(self.home()); })
                 .method("Activate", {}, [](Self& self) { self.deck().activate(); });
         return table;
     }
@@ -112,7 +109,7 @@ private:
 }  // namespace
 
 Object windowObject(const InDeck& home) {
-    return makeObject<DocumentWindow>(home, home.deck);
+    return makeObject<DocumentWindow>(home);
 }
 
 Object windowsObject(const GuardPtr& guard, std::vector<DeckPtr> decks) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <memory>
 #include <set>
 #include <string>
@@ -35,14 +36,16 @@ struct InDocument {
 };
 
 /// Base of the classes that stand for something in a document.
-template <class Self>
-class DocumentObject : public HomedObject<Self, PartOf<InDocument>> {
+template <class Self, class Kind = TextDocument>
+class DocumentObject : public HomedObject<Self, PartOf<InDocument, Kind>> {
 public:
-    DocumentObject(InDocument home, std::shared_ptr<Part> part)
-        : HomedObject<Self, PartOf<InDocument>>({std::move(home), std::move(part)}) {}
-    explicit DocumentObject(const InDocument& home) : DocumentObject(home, home.document) {}
+    DocumentObject(InDocument home, std::shared_ptr<Kind> part)
+        : HomedObject<Self, PartOf<InDocument, Kind>>({std::move(home), std::move(part)}) {}
+    explicit DocumentObject(const InDocument& home) requires std::same_as<Kind, TextDocument>
+        : DocumentObject(home, home.document) {}
 
     [[nodiscard]] TextDocument& document() const { return *this->home().document; }
+    [[nodiscard]] Kind& part() const { return *this->home().part; }
 };
 
 /// Reads a property that is written only: nothing needs to know what it was. `Failure` 5.

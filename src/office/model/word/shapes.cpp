@@ -9,34 +9,19 @@ namespace office::model::word {
 
 namespace {
 
-/// Base of what stands for one object of a document.
-template <class Self>
-class OfObject : public DocumentObject<Self> {
+class ShadowFormat : public DocumentObject<ShadowFormat, TextObject> {
 public:
-    OfObject(const InDocument& home, const TextObjectPtr& object)
-        : DocumentObject<Self>(home, object),
-          object_(object) {}
-
-    [[nodiscard]] TextObject& object() const { return *object_; }
-    [[nodiscard]] const TextObjectPtr& objectPtr() const { return object_; }
-
-private:
-    TextObjectPtr object_;
-};
-
-class ShadowFormat : public OfObject<ShadowFormat> {
-public:
-    using OfObject::OfObject;
+    using DocumentObject::DocumentObject;
     static const MemberTable<ShadowFormat>& members();
 
 private:
     void setType(const Value& number);
-    void change(double ObjectShadow::*part, double value) {
-        ObjectShadow shadow = object().shadow();
-        if (shadow.isShown && shadow.*part == value) return;
+    void change(double ObjectShadow::*which, double value) {
+        ObjectShadow shadow = part().shadow();
+        if (shadow.isShown && shadow.*which == value) return;
         shadow.isShown = true;
-        shadow.*part = value;
-        object().setShadow(shadow);
+        shadow.*which = value;
+        part().setShadow(shadow);
     }
 };
 
@@ -47,12 +32,12 @@ const MemberTable<ShadowFormat>& ShadowFormat::members() {
         made.property(
             "Type", {}, unread<Self>,
             [](Self& self, const CallArguments&, const Value& number) { self.setType(number); });
-        const auto number = [&](const char* name, double ObjectShadow::*part) {
+        const auto number = [&](const char* name, double ObjectShadow::*which) {
             made.property(
-                name, [part](Self& self) { return self.object().shadow().*part; },
-                [part, source = fmt::format("ShadowFormat.{}", name)](Self& self,
-                                                                      const Value& value) {
-                    self.change(part, numberWithin(0, furthestPt, value, source));
+                name, [which](Self& self) { return self.part().shadow().*which; },
+                [which, source = fmt::format("ShadowFormat.{}", name)](Self& self,
+                                                                       const Value& value) {
+                    self.change(which, numberWithin(0, furthestPt, value, source));
                 });
         };
         number("Size", &ObjectShadow::size);
@@ -66,9 +51,9 @@ const MemberTable<ShadowFormat>& ShadowFormat::members() {
 void ShadowFormat::setType(const Value& number) {
     constexpr double types = 43;
     static_cast<void>(numberWithin(1, types, number, "ShadowFormat.Type"));
-    ObjectShadow shadow = object().shadow();
+    ObjectShadow shadow = part().shadow();
     shadow.isShown = true;
-    object().setShadow(shadow);
+    part().setShadow(shadow);
 }
 
 double lengthPt(const Value& points, const std::string& source) {
@@ -81,31 +66,31 @@ double lengthPt(const Value& points, const std::string& source) {
 
 /// The members that objects in a line and over the text have in common.
 template <class Self>
-class ShapeMembers : public OfObject<Self> {
+class ShapeMembers : public DocumentObject<Self, TextObject> {
 public:
-    using OfObject<Self>::OfObject;
+    using DocumentObject<Self, TextObject>::DocumentObject;
 
     static MemberTable<Self> table(const char* className) {
         MemberTable<Self> made(className);
         const auto side = [&](const char* name, double Size::*which) {
             made.property(
-                name, [which](Self& self) { return self.object().size().*which; },
+                name, [which](Self& self) { return self.part().size().*which; },
                 [which, source = fmt::format("{}.{}", className, name)](Self& self,
                                                                         const Value& points) {
-                    Size size = self.object().size();
+                    Size size = self.part().size();
                     size.*which = lengthPt(points, source);
-                    self.object().resize(size);
+                    self.part().resize(size);
                 });
         };
         side("Width", &Size::width);
         side("Height", &Size::height);
         made.property(
-            "AlternativeText", [](Self& self) { return self.object().alternativeText(); },
-            [](Self& self, const Value& text) { self.object().setAlternativeText(text.toText()); });
+            "AlternativeText", [](Self& self) { return self.part().alternativeText(); },
+            [](Self& self, const Value& text) { self.part().setAlternativeText(text.toText()); });
         made.property("Shadow", [](Self& self) {
-            return makeObject<ShadowFormat>(self.home(), self.objectPtr());
+            return makeObject<ShadowFormat>(self.home(), self.home().part);
         });
-        made.method("Select", {}, [](Self& self) { self.object().select(); });
+        made.method("Select", {}, [](Self& self) { self.part().select(); });
         return made;
     }
 };
@@ -128,9 +113,9 @@ public:
         static const auto all = table("Shape").property(
             "Left", {}, unread<Shape>,
             [](Shape& self, const CallArguments& arguments, const Value& points) {
-                self.object().setLeft(points.isEmpty() ? 0
-                                                       : numberWithin(-furthestPt, furthestPt,
-                                                                      points, arguments.source()));
+                self.part().setLeft(points.isEmpty() ? 0
+                                                     : numberWithin(-furthestPt, furthestPt, points,
+                                                                    arguments.source()));
             });
         return all;
     }
