@@ -34,39 +34,28 @@ private:
     bool removed_ = false;
 };
 
+struct InChart : InSheet {
+    SheetChartPtr chart;
+
+    [[nodiscard]] bool isGone() const { return InSheet::isGone() || chart->isGone(); }
+};
+
 /// Base of the objects of one chart of a worksheet.
 template <class Self>
-class ObjectOfChart : public ObjectIn<Self, InSheet> {
+class ObjectOfChart : public ObjectIn<Self, InChart> {
 public:
     ObjectOfChart(InSheet home, SheetChartPtr chart)
-        : ObjectIn<Self, InSheet>(std::move(home)),
-          chart_(std::move(chart)) {}
+        : ObjectIn<Self, InChart>({std::move(home), std::move(chart)}) {}
 
-    [[nodiscard]] SheetChart& chart() const { return *chart_; }
-    [[nodiscard]] const SheetChartPtr& chartPtr() const { return chart_; }
+    [[nodiscard]] SheetChart& chart() const { return *this->home().chart; }
 
     /// Selects it, on top of its sheet.
     void select(const CallArguments& arguments) {
-        if (chart_->isOnSheet()) activateSheet(this->home(), arguments.source());
-        chart_->select();
+        if (chart().isOnSheet()) activateSheet(this->home(), arguments.source());
+        chart().select();
     }
-    void copy() { copyAs(CopySource::Kind::Chart); }
-    void copyPicture() { copyAs(CopySource::Kind::Picture); }
-
-protected:
-    void requireAlive(std::string_view member) const override {
-        ObjectIn<Self, InSheet>::requireAlive(member);
-        if (chart_->isGone()) failGone(Self::members().className() + "." + std::string(member));
-    }
-
-private:
-    void copyAs(CopySource::Kind kind) {
-        CopySource source = sourceOf(this->home(), kind);
-        source.chart = chart_->name();
-        this->books().clipboard().copied = chart_->copy(std::move(source));
-    }
-
-    SheetChartPtr chart_;
+    void copy() { copyChart(this->home(), CopySource::Kind::Chart, this->home().chart); }
+    void copyPicture() { copyChart(this->home(), CopySource::Kind::Picture, this->home().chart); }
 };
 
 /// A chart on a worksheet: the frame around it, with a name and a place.
@@ -80,7 +69,7 @@ public:
             MemberTable<Self>("ChartObject")
                 .property("Name", [](Self& self) { return self.chart().name(); })
                 .property("Chart",
-                          [](Self& self) { return chartObject(self.home(), self.chartPtr()); })
+                          [](Self& self) { return chartObject(self.home(), self.home().chart); })
                 .property("TopLeftCell", [](Self& self) { return self.cellUnder(Corner::TopLeft); })
                 .property("BottomRightCell",
                           [](Self& self) { return self.cellUnder(Corner::BottomRight); })
@@ -126,9 +115,10 @@ public:
             MemberTable<Self>("Chart")
                 .property(
                     "Parent",
-                    [](Self& self) { return chartObjectObject(self.home(), self.chartPtr()); })
-                .property("ChartArea",
-                          [](Self& self) { return chartAreaObject(self.home(), self.chartPtr()); })
+                    [](Self& self) { return chartObjectObject(self.home(), self.home().chart); })
+                .property(
+                    "ChartArea",
+                    [](Self& self) { return chartAreaObject(self.home(), self.home().chart); })
                 .method("Export", {"Filename", "FilterName", "Interactive"},
                         [](Self& self, const CallArguments& arguments) {
                             exportPicture(self.chart(), arguments);
@@ -160,12 +150,7 @@ public:
     }
 
 private:
-    void copy() {
-        CopySource source = sourceOf(home(), CopySource::Kind::Chart);
-        if (chart_) source.chart = chart_->name();
-        const SheetChartPtr chart = chart_ ? chart_ : sheet().ownChart();
-        books().clipboard().copied = chart->copy(std::move(source));
-    }
+    void copy() { copyChart(home(), CopySource::Kind::Chart, chart_); }
 
     SheetChartPtr chart_;
 };
@@ -236,6 +221,13 @@ Object chartObject(const InSheet& home, const SheetChartPtr& chart) {
 
 Object chartAreaObject(const InSheet& home, const SheetChartPtr& chart) {
     return makeObject<ChartArea>(home, chart);
+}
+
+void copyChart(const InSheet& home, CopySource::Kind kind, const SheetChartPtr& chart) {
+    CopySource source = sourceOf(home, kind);
+    if (chart) source.chart = chart->name();
+    const SheetChartPtr copied = chart ? chart : home.sheet->ownChart();
+    home.books->clipboard().copied = copied->copy(std::move(source));
 }
 
 CopySource sourceOf(const InSheet& home, CopySource::Kind kind) {

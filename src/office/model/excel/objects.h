@@ -66,6 +66,8 @@ void activateSheet(const InSheet& home, const std::string& source);
 [[nodiscard]] Object chartAreaObject(const InSheet& home, const SheetChartPtr& chart);
 /// Where a sheet's things are copied from, with the chart or the cells left open.
 [[nodiscard]] CopySource sourceOf(const InSheet& home, CopySource::Kind kind);
+/// Copies a chart or, of no chart, that of a chart sheet.
+void copyChart(const InSheet& home, CopySource::Kind kind, const SheetChartPtr& chart);
 /// Has a chart written as an `Export` asks for it: to a file, in the kind that the filter names or,
 /// without one, the end of the file's name. `Failure` 5 for a filter that there isn't.
 void exportPicture(SheetChart& chart, const CallArguments& arguments);

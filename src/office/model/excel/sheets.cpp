@@ -148,8 +148,7 @@ public:
                             exportPicture(*self.sheet().ownChart(), arguments);
                         })
                 .method("CopyPicture", {"Appearance", "Format", "Size"}, [](Self& self) {
-                    self.books().clipboard().copied = self.sheet().ownChart()->copy(
-                        sourceOf(self.home(), CopySource::Kind::Picture));
+                    copyChart(self.home(), CopySource::Kind::Picture, nullptr);
                 });
         return table;
     }
