@@ -21,8 +21,8 @@ const ItemRemarks::Text misdrawn = {
     "The picture of {} may have conditional formats wrong that go by cells outside.",
     "The pictures of {} may have conditional formats wrong that go by cells outside."};
 const ItemRemarks::Text withoutDrawings = {
-    "A page with tables shows {} without the charts and drawings that lie on it.",
-    "A page with tables shows {} without the charts and drawings that lie on them."};
+    "A page with tables shows {} without the drawings that lie on it.",
+    "A page with tables shows {} without the drawings that lie on them."};
 const ItemRemarks::Text tooLargeForSlide = {
     "{} is too large for a slide: its text will be too small to read.",
     "{} are too large for a slide: their text will be too small to read."};

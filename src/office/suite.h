@@ -40,7 +40,7 @@ struct ShownCells {
     Size size;
     double lettersPt = 0;
     bool haveSparklines = false;
-    /// Charts and drawings on them, which no table shows.
+    /// Pictures and shapes on them, which no table shows. A page shows the charts there.
     bool haveDrawings = false;
     /// Whether pictures of them may have conditional formats wrong.
     bool mayBeMisdrawn = false;

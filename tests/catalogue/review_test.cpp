@@ -228,7 +228,7 @@ TEST_F(Review, AsksOverWhatNobodyWillSeeOfCells) {
     const std::string wrong =
         "The picture of \"Other\" may have conditional formats wrong that go by cells outside.";
     const std::string drawings =
-        "A page with tables shows \"Lines\" without the charts and drawings that lie on it.";
+        "A page with tables shows \"Lines\" without the drawings that lie on it.";
     using catalogue::ExportFormat;
     const struct {
         Destination destination;

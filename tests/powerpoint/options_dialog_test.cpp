@@ -271,20 +271,23 @@ TEST_F(PowerPointDialog, ExportsToThePresentationThatItNamesWhateverTheUserLooks
 }
 
 TEST_F(PowerPointDialog, RefusesASlideNumberBeyondTheDeck) {
-    const std::pair<const char*, bool> cases[] = {{"3", true},  {"3.4", true},  {"2 ", true},
-                                                  {"4", false}, {"3.6", false}, {"70000", false}};
+    const struct {
+        const char* number;
+        bool runs;
+    } cases[] = {{"3", true},  {"3.4", true},  {"2 ", true},
+                 {"4", false}, {"3.6", false}, {"70000", false}};
     choices.predefinedSlides = true;
-    for (const auto& [number, runs] : cases) {
+    for (const auto& each : cases) {
         attachAgain();
         notices.shown.clear();
         progress.calls.clear();
-        list.rows[0].slideNumber = number;
+        list.rows[0].slideNumber = each.number;
         open([&](powerpoint::Dialog& dialog) {
             press(dialog, "ContinueOk");
-            EXPECT_EQ(desktop.isLoaded(dialog), !runs) << number;
+            EXPECT_EQ(desktop.isLoaded(dialog), !each.runs) << each.number;
         });
-        EXPECT_EQ(notices.messages(), runs ? Strings{} : Strings{numberTooHigh});
-        EXPECT_EQ(progress.calls.size(), runs ? 5U : 0U) << number;
+        EXPECT_EQ(notices.messages(), each.runs ? Strings{} : Strings{numberTooHigh});
+        EXPECT_EQ(progress.calls.size(), each.runs ? 5U : 0U) << each.number;
     }
 }
 

@@ -39,6 +39,10 @@ Identity identityOf(const uno::Reference<css::beans::XMultiPropertySet>& shape) 
 
 }  // namespace
 
+bool showsChart(const uno::Reference<css::drawing::XShape>& shape) {
+    return identityOf(as<css::beans::XMultiPropertySet>(shape)).classId == chartClass;
+}
+
 uno::Reference<css::drawing::XDrawPage> drawPageOf(
     const uno::Reference<css::sheet::XSpreadsheet>& sheet) {
 // Marked as deprecated, yet the only way from a sheet to its shapes.

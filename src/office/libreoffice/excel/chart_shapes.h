@@ -26,6 +26,9 @@ class CalcDocument;
 [[nodiscard]] uno::Reference<css::drawing::XDrawPage> drawPageOf(
     const uno::Reference<css::sheet::XSpreadsheet>& sheet);
 
+/// Whether a shape on a sheet shows a chart.
+[[nodiscard]] bool showsChart(const uno::Reference<css::drawing::XShape>& shape);
+
 /// Where a chart is to be found: a document, and the sheet's name there.
 struct SheetOfChart {
     uno::Reference<css::frame::XModel> document;

@@ -22,14 +22,15 @@ bool meet(const PlaceOfCells& one, const PlaceOfCells& other) {
 
 }  // namespace
 
-SheetDrawings::SheetDrawings(SheetRecord& sheet) : sheet_(&sheet) {
+SheetDrawings::SheetDrawings(SheetRecord& sheet, Which which) : sheet_(&sheet) {
     // On a sheet of more the first ones tell enough.
     constexpr sal_Int32 most = 200;
     const auto page = drawPageOf(sheet.sheet());
     const sal_Int32 count = std::min(page->getCount(), most);
     for (sal_Int32 i = 0; i < count; ++i) {
         const uno::Reference<css::drawing::XShape> shape(page->getByIndex(i), uno::UNO_QUERY);
-        if (shape.is() && !isNote(shape))
+        if (!shape.is() || isNote(shape)) continue;
+        if (which == Which::All || !showsChart(shape))
             places_.push_back({shape->getPosition(), shape->getSize()});
     }
 }

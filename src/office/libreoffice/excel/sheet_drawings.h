@@ -10,7 +10,9 @@ namespace libreoffice::excel {
 /// table of them. Read when this is made, which takes calls for each of them.
 class SheetDrawings {
 public:
-    explicit SheetDrawings(SheetRecord& sheet);
+    enum class Which { All, AllButCharts };
+
+    explicit SheetDrawings(SheetRecord& sheet, Which which = Which::All);
 
     /// Of cells that are drawn: a whole column is not.
     [[nodiscard]] bool lieOn(const model::CellBlock& cells) const;

@@ -33,7 +33,7 @@ SheetOfItems sheetOfItems(CalcDocument& book, const std::string& name, bool with
     if (!sheet.record) return sheet;
     if (!sheet.record->part.empty())
         sheet.sparklines = readSparklines(book.url(), sheet.record->part);
-    if (withDrawings) sheet.drawings.emplace(*sheet.record);
+    if (withDrawings) sheet.drawings.emplace(*sheet.record, SheetDrawings::Which::AllButCharts);
     return sheet;
 }
 
