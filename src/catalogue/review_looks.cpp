@@ -20,9 +20,6 @@ const ItemRemarks::Text withoutSparklines = {
 const ItemRemarks::Text misdrawn = {
     "The picture of {} may have conditional formats wrong that go by cells outside.",
     "The pictures of {} may have conditional formats wrong that go by cells outside."};
-const ItemRemarks::Text withoutDrawings = {
-    "A page with tables shows {} without the drawings that lie on it.",
-    "A page with tables shows {} without the drawings that lie on them."};
 const ItemRemarks::Text tooLargeForSlide = {
     "{} is too large for a slide: its text will be too small to read.",
     "{} are too large for a slide: their text will be too small to read."};
@@ -76,10 +73,9 @@ void reviewLooks(session::OfficeSession& session, const std::vector<office::Past
     std::vector<office::ShownCells> shown;
     const bool areTables = std::any_of(exports.begin(), exports.end(), makesTables);
     const bool arePictures = std::any_of(exports.begin(), exports.end(), showsPictures);
-    scope.attempt([&] { shown = session.suite.shownCells(items, areTables); });
+    scope.attempt([&] { shown = session.suite.shownCells(items); });
     ItemRemarks remarks;
     for (std::size_t i = 0; i < shown.size(); ++i) {
-        if (shown[i].haveDrawings) remarks.add(withoutDrawings, items[i]);
         if (shown[i].haveSparklines) remarks.add(withoutSparklines, items[i]);
         if (arePictures && shown[i].mayBeMisdrawn) remarks.add(misdrawn, items[i]);
     }
@@ -93,6 +89,11 @@ void reviewLooks(session::OfficeSession& session, const std::vector<office::Past
         }
     }
     for (const std::string& line : remarks.lines()) AddReviewItem(texts.ReviewItems, line);
+    if (!areTables) return;
+    scope.attempt([&] {
+        for (const std::string& line : session.suite.remarksOnPage(items))
+            AddReviewItem(texts.ReviewItems, line);
+    });
 }
 
 }  // namespace catalogue

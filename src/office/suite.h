@@ -40,8 +40,6 @@ struct ShownCells {
     Size size;
     double lettersPt = 0;
     bool haveSparklines = false;
-    /// Pictures and shapes on them, which no table shows. A page shows the charts there.
-    bool haveDrawings = false;
     /// Whether pictures of them may have conditional formats wrong.
     bool mayBeMisdrawn = false;
 };
@@ -77,12 +75,10 @@ public:
         return {};
     }
     /// Of each item, nothing of those that are no cells of the active workbook; empty where that
-    /// can't be told. Drawings are looked for if `withDrawings`: that takes a while where there are
-    /// many.
-    virtual std::vector<ShownCells> shownCells(const std::vector<PasteItem>&,
-                                               bool /*withDrawings*/) {
-        return {};
-    }
+    /// can't be told.
+    virtual std::vector<ShownCells> shownCells(const std::vector<PasteItem>&) { return {}; }
+    /// What the user should know before items are published as tables, a line each.
+    virtual std::vector<std::string> remarksOnPage(const std::vector<PasteItem>&) { return {}; }
 
     /// Keeps the open document of that full name and of that application open. Null where nobody
     /// else closes it, or where that can't be kept from happening.

@@ -217,9 +217,7 @@ TEST_F(Review, AsksOverWhatNobodyWillSeeOfCells) {
     // A slide is 540 points high, pages are 842 and 595.
     test.suite.show("Whole", {.size = {600, 1600}, .lettersPt = 10});
     test.suite.show("Other", {.size = {100, 2700}, .lettersPt = 21, .mayBeMisdrawn = true});
-    test.suite.show(
-        "Lines",
-        {.size = {600, 5000}, .lettersPt = 40, .haveSparklines = true, .haveDrawings = true});
+    test.suite.show("Lines", {.size = {600, 5000}, .lettersPt = 40, .haveSparklines = true});
     const std::string lines = "\"Lines\" will be shown without the sparklines in its cells.";
     const std::string slide =
         "\"Whole\" is too large for a slide: its text will be too small to read.";
@@ -227,8 +225,8 @@ TEST_F(Review, AsksOverWhatNobodyWillSeeOfCells) {
         "\"Whole\" is too large for a page: its text will be too small to read.";
     const std::string wrong =
         "The picture of \"Other\" may have conditional formats wrong that go by cells outside.";
-    const std::string drawings =
-        "A page with tables shows \"Lines\" without the drawings that lie on it.";
+    const std::string table = "The table of \"Lines\" will be without the icons.";
+    test.suite.remarkOnPage(table);
     using catalogue::ExportFormat;
     const struct {
         Destination destination;
@@ -239,7 +237,7 @@ TEST_F(Review, AsksOverWhatNobodyWillSeeOfCells) {
                  {Destination::Pdf, ExportFormat::Pictures, {wrong, lines, page}},
                  {Destination::Word, ExportFormat::Pictures, {wrong, lines}},
                  {Destination::Word, ExportFormat::Editable, {lines}},
-                 {Destination::Html, ExportFormat::Pictures, {drawings, lines}},
+                 {Destination::Html, ExportFormat::Pictures, {lines, table}},
                  {Destination::ImageFiles, ExportFormat::Pictures, {wrong, lines}}};
     for (const auto& each : cases) {
         choices.destination = each.destination;
@@ -251,6 +249,9 @@ TEST_F(Review, AsksOverWhatNobodyWillSeeOfCells) {
     choices = {.destination = Destination::Word};
     EXPECT_EQ(catalogue::reviewExport(test.session, list, {choices}).ReviewItems,
               (Words{wrong, lines, page}));
+    const ExportChoices asImages{.destination = Destination::Html, .areImages = true};
+    EXPECT_EQ(catalogue::reviewExport(test.session, list, {asImages}).ReviewItems,
+              (Words{wrong, lines}));
     // Told once, however many pages it is too large for, and by its sheet where names are equal.
     list.rows.push_back(row("Whole", "Sales", ItemKind::Range));
     const std::string bySheet =

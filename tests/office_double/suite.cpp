@@ -63,13 +63,10 @@ std::vector<std::uint8_t> DoubleSuite::clipboardPicture(office::Sharpness) {
     return {png.begin(), png.end()};
 }
 
-std::vector<office::ShownCells> DoubleSuite::shownCells(const std::vector<office::PasteItem>& items,
-                                                        bool withDrawings) {
+std::vector<office::ShownCells> DoubleSuite::shownCells(
+    const std::vector<office::PasteItem>& items) {
     std::vector<office::ShownCells> all;
-    for (const office::PasteItem& item : items) {
-        all.push_back(shownCells_[item.name]);
-        if (!withDrawings) all.back().haveDrawings = false;
-    }
+    for (const office::PasteItem& item : items) all.push_back(shownCells_[item.name]);
     return all;
 }
 

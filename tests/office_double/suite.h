@@ -56,12 +56,17 @@ public:
     void clearClipboard() override;
     std::vector<std::uint8_t> clipboardPicture(office::Sharpness sharpness) override;
     office::ClipboardPtr clipboard() override { return state_->clipboard; }
-    std::vector<office::ShownCells> shownCells(const std::vector<office::PasteItem>& items,
-                                               bool withDrawings) override;
+    std::vector<office::ShownCells> shownCells(
+        const std::vector<office::PasteItem>& items) override;
     /// What it says of the cells of an item.
     void show(const std::string& item, office::ShownCells cells) { shownCells_[item] = cells; }
     std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;
+    std::vector<std::string> remarksOnPage(const std::vector<office::PasteItem>&) override {
+        return remarksOnPage_;
+    }
+    /// What the suite says of items that become tables of a page.
+    void remarkOnPage(std::string remark) { remarksOnPage_ = {std::move(remark)}; }
     /// What the suite says of each item that is to be pasted in this form.
     void remarkOn(office::PasteAs as, std::string remark) { remarks_[as] = std::move(remark); }
     std::unique_ptr<office::HeldDocument> hold(std::string_view className,
@@ -89,6 +94,7 @@ private:
     office::WindowHandle raised_ = 0;
     office::WindowHandle locked_ = 0;
     std::map<office::PasteAs, std::string> remarks_;
+    std::vector<std::string> remarksOnPage_;
     std::map<std::string, office::ShownCells> shownCells_;
     std::set<std::string> closing_;
 };

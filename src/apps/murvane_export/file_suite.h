@@ -30,9 +30,12 @@ public:
     }
     office::ClipboardPtr clipboard() override { return below_.clipboard(); }
     office::PictureFilesPtr pictureFiles() override { return below_.pictureFiles(); }
-    std::vector<office::ShownCells> shownCells(const std::vector<office::PasteItem>& items,
-                                               bool withDrawings) override {
-        return below_.shownCells(items, withDrawings);
+    std::vector<office::ShownCells> shownCells(
+        const std::vector<office::PasteItem>& items) override {
+        return below_.shownCells(items);
+    }
+    std::vector<std::string> remarksOnPage(const std::vector<office::PasteItem>& items) override {
+        return below_.remarksOnPage(items);
     }
     std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;

@@ -148,7 +148,10 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
     if (as == office::PasteAs::Default)
         return translated(*connection_, "Suite.remarksOn", [&] {
             const auto book = desk_->active<excel::CalcDocument>();
-            return book ? excel::lossesOfTables(*book, items, !isForWord) : remarks;
+            return book ? excel::lossesOfTables(
+                              *book, items,
+                              isForWord ? excel::TablesOn::Text : excel::TablesOn::Slides)
+                        : remarks;
         });
     const bool isUnsaved = std::any_of(items.begin(), items.end(),
                                        [](const auto& item) { return item.source.file.empty(); });
@@ -176,12 +179,21 @@ std::vector<std::string> LibreOfficeSuite::remarksOn(std::string_view className,
 }
 
 std::vector<office::ShownCells> LibreOfficeSuite::shownCells(
-    const std::vector<office::PasteItem>& items, bool withDrawings) {
+    const std::vector<office::PasteItem>& items) {
     if (!desk_) return {};
     return translated(*connection_, "Suite.shownCells", [&] {
         const auto book = desk_->active<excel::CalcDocument>();
-        return book ? excel::shownCells(*book, items, withDrawings)
-                    : std::vector<office::ShownCells>();
+        return book ? excel::shownCells(*book, items) : std::vector<office::ShownCells>();
+    });
+}
+
+std::vector<std::string> LibreOfficeSuite::remarksOnPage(
+    const std::vector<office::PasteItem>& items) {
+    if (!desk_) return {};
+    return translated(*connection_, "Suite.remarksOnPage", [&] {
+        const auto book = desk_->active<excel::CalcDocument>();
+        return book ? excel::lossesOfTables(*book, items, excel::TablesOn::Page)
+                    : std::vector<std::string>();
     });
 }
 

@@ -59,8 +59,9 @@ public:
     std::vector<std::uint8_t> clipboardPicture(office::Sharpness sharpness) override;
     office::ClipboardPtr clipboard() override { return clipboard_; }
     office::PictureFilesPtr pictureFiles() override;
-    std::vector<office::ShownCells> shownCells(const std::vector<office::PasteItem>& items,
-                                               bool withDrawings) override;
+    std::vector<office::ShownCells> shownCells(
+        const std::vector<office::PasteItem>& items) override;
+    std::vector<std::string> remarksOnPage(const std::vector<office::PasteItem>& items) override;
     std::vector<std::string> remarksOn(std::string_view className, office::PasteAs as,
                                        const std::vector<office::PasteItem>& items) override;
     std::unique_ptr<office::HeldDocument> hold(std::string_view className,

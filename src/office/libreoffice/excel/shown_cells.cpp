@@ -3,10 +3,8 @@
 #include <algorithm>
 #include <map>
 #include <memory>
-#include <optional>
 
 #include "office/libreoffice/excel/held_styles.h"
-#include "office/libreoffice/excel/sheet_drawings.h"
 #include "office/libreoffice/units.h"
 
 namespace libreoffice::excel {
@@ -20,20 +18,16 @@ bool isSmall(const model::CellBlock& block) {
     return block.rows() <= fewRows && block.columns() <= fewColumns;
 }
 
-/// A sheet, and what is on it beside texts and numbers.
+/// A sheet, and where it has sparklines.
 struct SheetOfItems {
     std::shared_ptr<SheetRecord> record;
     model::CellBlocks sparklines;
-    /// If they were asked for.
-    std::optional<SheetDrawings> drawings;
 };
 
-SheetOfItems sheetOfItems(CalcDocument& book, const std::string& name, bool withDrawings) {
-    SheetOfItems sheet{std::dynamic_pointer_cast<SheetRecord>(book.findSheet(name)), {}, {}};
-    if (!sheet.record) return sheet;
-    if (!sheet.record->part.empty())
+SheetOfItems sheetOfItems(CalcDocument& book, const std::string& name) {
+    SheetOfItems sheet{std::dynamic_pointer_cast<SheetRecord>(book.findSheet(name)), {}};
+    if (sheet.record && !sheet.record->part.empty())
         sheet.sparklines = readSparklines(book.url(), sheet.record->part);
-    if (withDrawings) sheet.drawings.emplace(*sheet.record, SheetDrawings::Which::AllButCharts);
     return sheet;
 }
 
@@ -43,11 +37,8 @@ office::ShownCells shownIn(const SheetOfItems& sheet, const model::CellBlock& bl
         sheet.sparklines.begin(), sheet.sparklines.end(),
         [&](const model::CellBlock& each) { return intersection(each, block).has_value(); });
     shown.mayBeMisdrawn = mayBeMisdrawn(*sheet.record, block);
-    if (isSmall(block) && !sheet.drawings) return shown;
-    const auto drawn = model::drawnPart(block, *sheet.record);
-    if (!drawn) return shown;
-    shown.haveDrawings = sheet.drawings && sheet.drawings->lieOn(*drawn);
-    if (isSmall(*drawn)) return shown;
+    const auto drawn = isSmall(block) ? std::nullopt : model::drawnPart(block, *sheet.record);
+    if (!drawn || isSmall(*drawn)) return shown;
     const auto cells = sheet.record->range(*drawn);
     const auto size = placeOf(cells).size;
     shown.size = {pointsOf(size.Width), pointsOf(size.Height)};
@@ -58,8 +49,7 @@ office::ShownCells shownIn(const SheetOfItems& sheet, const model::CellBlock& bl
 }  // namespace
 
 std::vector<office::ShownCells> shownCells(CalcDocument& book,
-                                           const std::vector<office::PasteItem>& items,
-                                           bool withDrawings) {
+                                           const std::vector<office::PasteItem>& items) {
     std::map<std::string, SheetOfItems> sheets;
     std::vector<office::ShownCells> all;
     for (const office::PasteItem& item : items) {
@@ -67,7 +57,7 @@ std::vector<office::ShownCells> shownCells(CalcDocument& book,
         const auto block = model::blockOf(item.source.address);
         if (!block) continue;
         const auto [place, isNew] = sheets.try_emplace(item.source.sheet);
-        if (isNew) place->second = sheetOfItems(book, item.source.sheet, withDrawings);
+        if (isNew) place->second = sheetOfItems(book, item.source.sheet);
         if (place->second.record) all.back() = shownIn(place->second, *block);
     }
     return all;

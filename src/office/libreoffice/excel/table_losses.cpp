@@ -57,6 +57,9 @@ const ItemRemarks::Text severalLooks = {
 const ItemRemarks::Text drawings = {
     "The table of {} will be without the charts and drawings that lie on it.",
     "The tables of {} will be without the charts and drawings that lie on them."};
+const ItemRemarks::Text drawingsAlone = {
+    "The table of {} will be without the drawings that lie on it.",
+    "The tables of {} will be without the drawings that lie on them."};
 
 /// The cells of those conditions of a kind that are meant.
 template <class Test>
@@ -120,47 +123,54 @@ bool hasCellOfSeveralLooks(const SheetRecord& sheet, const CellBlock& block) {
 
 class LossesOfSheet {
 public:
-    LossesOfSheet(const std::shared_ptr<SheetRecord>& sheet, bool drawsBars)
+    LossesOfSheet(const std::shared_ptr<SheetRecord>& sheet, TablesOn where)
         : LossesOfSheet(sheet, sheet->book().looks().conditionsOn(*sheet, CellBlock::wholeSheet()),
-                        drawsBars) {}
+                        where) {}
 
     [[nodiscard]] std::optional<CellBlock> drawnPartOf(const CellBlock& block) const {
         return model::drawnPart(block, *sheet_);
     }
 
     void tell(const office::PasteItem& item, const CellBlock& block, ItemRemarks& remarks) {
-        if (block.cells() > static_cast<double>(mostCellsOfTable) &&
-            isTooLargeForTable(*sheet_, block, mostCellsOfTable)) {
+        const bool isOnPage = where_ == TablesOn::Page;
+        if (!isOnPage && isTooLarge(block)) {
             remarks.add(tooLarge, item);
             return;
         }
-        if (isTooWide(item, block)) {
+        if (!isOnPage && isTooWide(item, block)) {
             remarks.add(tooWide, item);
             return;
         }
         if (meetsAny(icons_, block)) remarks.add(icons, item);
         if (meetsAny(lostBars_, block)) remarks.add(bars, item);
-        if (mayMissConditions(block)) remarks.add(lostConditions, item);
-        if (meetsAny(withNumberFormat_, block)) remarks.add(numberFormats, item);
+        if (!isOnPage && mayMissConditions(block)) remarks.add(lostConditions, item);
+        if (!isOnPage && meetsAny(withNumberFormat_, block)) remarks.add(numberFormats, item);
         if (meetsAny(styledTables_, block)) remarks.add(tableStyles, item);
         if (hasCellOfSeveralLooks(*sheet_, block)) remarks.add(severalLooks, item);
-        if (drawings_.lieOn(block)) remarks.add(drawings, item);
+        if (drawings_.lieOn(block)) remarks.add(isOnPage ? drawingsAlone : drawings, item);
     }
 
 private:
     LossesOfSheet(std::shared_ptr<SheetRecord> sheet, const std::vector<CellCondition>& all,
-                  bool drawsBars)
-        : sheet_(std::move(sheet)),
+                  TablesOn where)
+        : where_(where),
+          sheet_(std::move(sheet)),
           icons_(blocksOf(all, Kind::ICONSET, isAny)),
-          lostBars_(drawsBars ? blocksOf(all, Kind::DATABAR, barEndsInFormula)
-                              : blocksOf(all, Kind::DATABAR, isAny)),
+          lostBars_(where == TablesOn::Text ? blocksOf(all, Kind::DATABAR, isAny)
+                                            : blocksOf(all, Kind::DATABAR, barEndsInFormula)),
           uncopied_(all),
           withNumberFormat_(blocksOf(all, Kind::CONDITION,
                                      [&](const CellCondition& condition) {
                                          return hasNumberFormat(condition, sheet_->book());
                                      })),
           styledTables_(sheet_->book().styledTablesOn(sheet_->name())),
-          drawings_(*sheet_) {}
+          drawings_(*sheet_, where == TablesOn::Page ? SheetDrawings::Which::AllButCharts
+                                                     : SheetDrawings::Which::All) {}
+
+    [[nodiscard]] bool isTooLarge(const CellBlock& block) const {
+        return block.cells() > static_cast<double>(mostCellsOfTable) &&
+               isTooLargeForTable(*sheet_, block, mostCellsOfTable);
+    }
 
     [[nodiscard]] bool isTooWide(const office::PasteItem& item, const CellBlock& block) const {
         return item.mostColumns && isTooWideForTable(*sheet_, block, *item.mostColumns);
@@ -177,6 +187,7 @@ private:
                sheet_->book().looks().isTooLarge();
     }
 
+    TablesOn where_;
     std::shared_ptr<SheetRecord> sheet_;
     std::vector<CellBlock> icons_;
     std::vector<CellBlock> lostBars_;
@@ -192,7 +203,7 @@ private:
 
 std::vector<std::string> lossesOfTables(CalcDocument& book,
                                         const std::vector<office::PasteItem>& items,
-                                        bool drawsBars) {
+                                        TablesOn where) {
     std::map<std::string, std::unique_ptr<LossesOfSheet>> sheets;
     ItemRemarks remarks;
     for (const office::PasteItem& item : items) {
@@ -202,7 +213,7 @@ std::vector<std::string> lossesOfTables(CalcDocument& book,
         if (!losses) {
             auto sheet = std::dynamic_pointer_cast<SheetRecord>(book.findSheet(item.source.sheet));
             if (!sheet) continue;
-            losses = std::make_unique<LossesOfSheet>(std::move(sheet), drawsBars);
+            losses = std::make_unique<LossesOfSheet>(std::move(sheet), where);
         }
         if (const auto drawn = losses->drawnPartOf(*block)) losses->tell(item, *drawn, remarks);
     }

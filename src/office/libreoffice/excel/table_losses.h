@@ -8,12 +8,14 @@
 
 namespace libreoffice::excel {
 
+enum class TablesOn { Slides, Text, Page };
+
 /// What tables would lose of the cells that are to become some, a line for each kind of loss. Only
 /// what can be seen in few calls is looked for: each sheet's conditional formats and drawings are
-/// read once, and of cells that hold formatted text the first ones. `drawsBars`: whether tables
-/// show the bars of conditional formats where they go.
+/// read once, and of cells that hold formatted text the first ones. What depends on the size of a
+/// table, and on how its conditional formats are copied, is told of slides and texts.
 [[nodiscard]] std::vector<std::string> lossesOfTables(CalcDocument& book,
                                                       const std::vector<office::PasteItem>& items,
-                                                      bool drawsBars);
+                                                      TablesOn where);
 
 }  // namespace libreoffice::excel
