@@ -243,10 +243,13 @@ class TheSampleWorkbook(ProgramTest):
         self.assertFalse(output.exists())
         for loss, names in (("icons", '"All_of_it" and "Signs"'), ("look", '"All_of_it" and "Words"'),
                             ("drawings", '"All_of_it" and "Covered"'), ("5,000", '"Big"'), ("formula", '"Pale".*"Scales".*"Twins".*"Upper".*"Wandering"'),
-                            ("numbers are", '"Numbers"'), ("bars", '"Bars"'), ("table style", '"Coloured"'),
+                            ("numbers are", '"Numbers"'), ("lines around", '"Underlined", "Untouched", "Upper", .*"Wandering"'), ("bars", '"Bars"'), ("table style", '"Coloured"'),
                             ("sparklines", '"All_of_it", "Lines" and "Signs"'), ("too small to read", '"Big" and "Log"')):
             self.assertRegex(errors, f"(?m)^  - [^\"]*{names} .*{loss}")
         self.assertNotRegex(errors, "Plain|Whole|Formulas")
+        _, _, errors = self.run_program(path, "--all", "--check", "--to", "html", "--output", self.folder / "page")
+        for loss, names in (("numbers are", '"Numbers"'), ("lines around", '"Underlined".*'), ("formula", '"Pale".*"Wandering"')):
+            self.assertRegex(errors, f"(?m)^  - [^\"]*{names} .*{loss}")
         _, _, errors = self.run_program(path, "--all", "--check", "--to", "images", "--output", self.folder / "losses")
         self.assertRegex(errors, '(?m)^  - The pictures of "Twins", "Underlined", "Upper", "Vague" and "Wandering" may have conditional formats wrong')
 

@@ -50,6 +50,9 @@ const ItemRemarks::Text lostConditions = {
 const ItemRemarks::Text numberFormats = {
     "In the table of {} conditional formats will not change how numbers are written.",
     "In the tables of {} conditional formats will not change how numbers are written."};
+const ItemRemarks::Text lines = {
+    "In the table of {} conditional formats will not draw or remove lines around cells.",
+    "In the tables of {} conditional formats will not draw or remove lines around cells."};
 const ItemRemarks::Text severalLooks = {
     "In the table of {} the text of each cell will have one look alone, where it has several now.",
     "In the tables of {} the text of each cell will have one look alone, where it has several "
@@ -85,11 +88,16 @@ bool barEndsInFormula(const CellCondition& condition) {
     });
 }
 
-bool hasNumberFormat(const CellCondition& condition, CalcDocument& book) {
-    const auto style = cellStyle(book.model(), styleNameOf(condition));
-    if (!style.is()) return false;
-    return as<css::beans::XPropertyState>(style)->getPropertyState("NumberFormat") ==
-           css::beans::PropertyState_DIRECT_VALUE;
+/// The cells of those conditions whose styles say something of their own of a property.
+std::vector<CellBlock> blocksThatSay(const char* property, const std::vector<CellCondition>& all,
+                                     CalcDocument& book) {
+    return blocksOf(all, Kind::CONDITION, [&](const CellCondition& condition) {
+        const auto style = cellStyle(book.model(), styleNameOf(condition));
+        if (!style.is()) return false;
+        return as<css::beans::XPropertyState>(style)->getPropertyState(
+                   rtl::OUString::createFromAscii(property)) ==
+               css::beans::PropertyState_DIRECT_VALUE;
+    });
 }
 
 /// Whether parts of a cell's text look different. The suite calls a look ambiguous then, whichever
@@ -143,8 +151,9 @@ public:
         }
         if (meetsAny(icons_, block)) remarks.add(icons, item);
         if (meetsAny(lostBars_, block)) remarks.add(bars, item);
-        if (!isOnPage && mayMissConditions(block)) remarks.add(lostConditions, item);
-        if (!isOnPage && meetsAny(withNumberFormat_, block)) remarks.add(numberFormats, item);
+        if (mayMissConditions(block)) remarks.add(lostConditions, item);
+        if (meetsAny(withNumberFormat_, block)) remarks.add(numberFormats, item);
+        if (meetsAny(withLines_, block)) remarks.add(lines, item);
         if (meetsAny(styledTables_, block)) remarks.add(tableStyles, item);
         if (hasCellOfSeveralLooks(*sheet_, block)) remarks.add(severalLooks, item);
         if (drawings_.lieOn(block)) remarks.add(isOnPage ? drawingsAlone : drawings, item);
@@ -159,10 +168,9 @@ private:
           lostBars_(where == TablesOn::Text ? blocksOf(all, Kind::DATABAR, isAny)
                                             : blocksOf(all, Kind::DATABAR, barEndsInFormula)),
           uncopied_(all),
-          withNumberFormat_(blocksOf(all, Kind::CONDITION,
-                                     [&](const CellCondition& condition) {
-                                         return hasNumberFormat(condition, sheet_->book());
-                                     })),
+          withNumberFormat_(blocksThatSay("NumberFormat", all, sheet_->book())),
+          // One property of the suite's own stands for the lines of all sides.
+          withLines_(blocksThatSay("BottomBorder2", all, sheet_->book())),
           styledTables_(sheet_->book().styledTablesOn(sheet_->name())),
           drawings_(*sheet_, where == TablesOn::Page ? SheetDrawings::Which::AllButCharts
                                                      : SheetDrawings::Which::All) {}
@@ -195,6 +203,7 @@ private:
     /// Once it was asked for.
     std::optional<CellBlock> used_;
     std::vector<CellBlock> withNumberFormat_;
+    std::vector<CellBlock> withLines_;
     std::vector<CellBlock> styledTables_;
     SheetDrawings drawings_;
 };
