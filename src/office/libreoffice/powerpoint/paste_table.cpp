@@ -8,10 +8,10 @@
 
 #include "office/failure.h"
 #include "office/libreoffice/at_end.h"
-#include "office/libreoffice/objects/table_markup.h"
 #include "office/libreoffice/powerpoint/hidden_step.h"
 #include "office/libreoffice/powerpoint/impress_deck.h"
 #include "office/libreoffice/powerpoint/paste.h"
+#include "office/libreoffice/powerpoint/table_drawing.h"
 
 namespace libreoffice::powerpoint {
 
@@ -86,7 +86,7 @@ ShapeRef addTable(ImpressSlide& slide, const office::TableLook& table, double sc
     {
         const HiddenStep hidden(deck);
         const LentClipboard clipboard(deck.connection(),
-                                      new OfferedDrawing(objects::tableDrawing(table, scale)));
+                                      new OfferedDrawing(tableDrawing(table, scale)));
         deck.impressWindow().pasteOnto(slide, drawingFormat);
     }
     if (slide.page()->getCount() != before + 1)

@@ -15,7 +15,7 @@
 
 #include "office/failure.h"
 #include "office/libreoffice/objects/new_object.h"
-#include "office/libreoffice/objects/table_markup.h"
+#include "office/libreoffice/word/table_text.h"
 #include "office/libreoffice/word/writer_document.h"
 
 namespace libreoffice::word {
@@ -71,7 +71,7 @@ void removeEmptyParagraphAhead(const uno::Reference<css::text::XTextCursor>& tab
 /// What is built by calls takes seconds; what is read like a file, some milliseconds.
 void WriterDocument::insertTable(const TextPlace& place, const office::TableLook& table) {
     const double scale = std::min(1.0, lineWidth() / table.widthPt());
-    const auto package = packageOf(desk_.connection(), objects::tableText(table, scale));
+    const auto package = packageOf(desk_.connection(), tableText(table, scale));
     const std::int32_t before = tableCount();
     const auto inserted = place.text->createTextCursorByRange(place.start());
     as<css::document::XDocumentInsertable>(inserted)->insertDocumentFromURL(
