@@ -82,8 +82,10 @@ std::optional<DataBars::Bars> DataBars::barsOf(
     bars.isFading = property<bool>(entry, "UseGradient");
     bars.isAlone = !property<bool>(entry, "ShowValue", true);
     bars.colour = swapRedAndBlue(property<sal_Int32>(entry, "Color"));
+    // What the suite draws where none is named.
+    constexpr sal_Int32 red = 0xFF0000;
     bars.negativeColour = property<bool>(entry, "UseNegativeColor")
-                              ? swapRedAndBlue(property<sal_Int32>(entry, "NegativeColor"))
+                              ? swapRedAndBlue(property<sal_Int32>(entry, "NegativeColor", red))
                               : bars.colour;
     return bars;
 }
@@ -109,7 +111,8 @@ office::CellBar DataBars::lookOf(const Bars& bars, double number) {
         // those of files without the later notation as a rule, and there it is so if nobody says
         // otherwise.
         constexpr double shortest = 0.1, longest = 0.9;
-        return {0, std::lerp(shortest, longest, share), colour, end};
+        const std::int32_t begin = number < 0 ? negativeColour : colour;
+        return {0, std::lerp(shortest, longest, share), begin, isFading ? faded(begin) : begin};
     }
     if (least >= 0) {
         const double zero = axis == Axis::Middle ? 0.5 : 0;
