@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <map>
 #include <system_error>
@@ -30,40 +31,72 @@ namespace libreoffice {
 
 namespace {
 
+using Record = std::shared_ptr<Document>;
+using Model = uno::Reference<css::frame::XModel>;
+
 struct DocumentKind {
     const char* service;
     /// What is said of another one.
     const char* absence;
+    Record (*record)(Desk& desk, const Model& model);
 };
 
 template <class Kind>
-constexpr DocumentKind kindOf = {};
-template <>
-constexpr DocumentKind kindOf<excel::CalcDocument> = {"com.sun.star.sheet.SpreadsheetDocument",
-                                                      "it is no workbook"};
-template <>
-constexpr DocumentKind kindOf<powerpoint::ImpressDeck> = {
-    "com.sun.star.presentation.PresentationDocument", "it is no presentation"};
-template <>
-constexpr DocumentKind kindOf<word::WriterDocument> = {"com.sun.star.text.TextDocument",
-                                                       "it is no text document"};
+Record recordAs(Desk& desk, const Model& model) {
+    return desk.record<Kind>(model);
+}
 
-template <class Kind, class From>
-bool isOfKind(const uno::Reference<From>& component) {
+constexpr std::array kinds = {
+    DocumentKind{"com.sun.star.sheet.SpreadsheetDocument", "it is no workbook",
+                 recordAs<excel::CalcDocument>},
+    DocumentKind{"com.sun.star.presentation.PresentationDocument", "it is no presentation",
+                 recordAs<powerpoint::ImpressDeck>},
+    DocumentKind{"com.sun.star.text.TextDocument", "it is no text document",
+                 recordAs<word::WriterDocument>}};
+
+template <class Kind>
+constexpr const DocumentKind& kindOf = kinds[0];
+template <>
+constexpr const DocumentKind& kindOf<powerpoint::ImpressDeck> = kinds[1];
+template <>
+constexpr const DocumentKind& kindOf<word::WriterDocument> = kinds[2];
+
+bool isOfKind(const uno::Reference<uno::XInterface>& component, const DocumentKind& kind) {
     const auto info = tryAs<css::lang::XServiceInfo>(component);
-    return info.is() && info->supportsService(rtl::OUString::createFromAscii(kindOf<Kind>.service));
+    return info.is() && info->supportsService(rtl::OUString::createFromAscii(kind.service));
+}
+template <class Kind>
+bool isOfKind(const uno::Reference<uno::XInterface>& component) {
+    return isOfKind(component, kindOf<Kind>);
+}
+
+/// Null for what is a document of no application.
+const DocumentKind* kindOfComponent(const uno::Reference<uno::XInterface>& component) {
+    const auto* const found = std::find_if(
+        kinds.begin(), kinds.end(), [&](const auto& kind) { return isOfKind(component, kind); });
+    return found != kinds.end() ? found : nullptr;
 }
 
 /// The document that a component belongs to: while a chart is edited in place, the chart is the
 /// current component.
-uno::Reference<css::frame::XModel> modelOf(uno::Reference<uno::XInterface> component) {
-    while (component.is() && !isOfKind<excel::CalcDocument>(component) &&
-           !isOfKind<powerpoint::ImpressDeck>(component) &&
-           !isOfKind<word::WriterDocument>(component)) {
+Model modelOf(uno::Reference<uno::XInterface> component) {
+    while (component.is() && kindOfComponent(component) == nullptr) {
         const auto child = tryAs<css::container::XChild>(component);
         component = child.is() ? child->getParent() : nullptr;
     }
     return tryAs<css::frame::XModel>(component);
+}
+
+/// A document is there once for each of its windows, a running slide show being one.
+std::vector<Model> openModels(const Connection& connection) {
+    std::vector<Model> models;
+    const auto components = connection.desktop()->getComponents()->createEnumeration();
+    while (components->hasMoreElements()) {
+        const uno::Reference<uno::XInterface> component(components->nextElement(), uno::UNO_QUERY);
+        if (auto model = tryAs<css::frame::XModel>(component); model.is())
+            models.push_back(std::move(model));
+    }
+    return models;
 }
 
 /// Nobody sees them, and whatever is selected would bring up others.
@@ -108,12 +141,8 @@ std::shared_ptr<Kind> Desk::record(const uno::Reference<css::frame::XModel>& mod
 template <class Kind>
 std::vector<std::shared_ptr<Kind>> Desk::open() {
     std::vector<std::shared_ptr<Kind>> found;
-    const auto components = connection_->desktop()->getComponents()->createEnumeration();
-    while (components->hasMoreElements()) {
-        const uno::Reference<uno::XInterface> component(components->nextElement(), uno::UNO_QUERY);
-        const auto model = tryAs<css::frame::XModel>(component);
-        if (!model.is() || !isOfKind<Kind>(model)) continue;
-        // A document is listed once for each of its windows, a running slide show being one.
+    for (const auto& model : openModels(*connection_)) {
+        if (!isOfKind<Kind>(model)) continue;
         auto document = record<Kind>(model);
         if (std::find(found.begin(), found.end(), document) == found.end())
             found.push_back(std::move(document));
@@ -158,15 +187,12 @@ void Desk::noteOrderOfWindows() {
     if (order == windowsBefore_) return;
     windowsBefore_ = std::move(order);
     std::map<std::size_t, std::shared_ptr<Document>> fromLowest;
-    const auto place = [&](const auto& documents) {
-        for (const auto& document : documents) {
-            if (const auto at = windowsBefore_.placeOf(document->controller()))
-                fromLowest[*at] = document;
-        }
-    };
-    place(open<excel::CalcDocument>());
-    place(open<powerpoint::ImpressDeck>());
-    place(open<word::WriterDocument>());
+    for (const auto& model : openModels(*connection_)) {
+        const DocumentKind* kind = kindOfComponent(model);
+        if (kind == nullptr) continue;
+        if (const auto at = windowsBefore_.placeOf(model->getCurrentController()))
+            fromLowest[*at] = kind->record(*this, model);
+    }
     for (const auto& [at, document] : fromLowest) document->markActive();
 }
 
@@ -175,12 +201,8 @@ void Desk::noteOrderOfWindows() {
 bool Desk::makeChangeable(const uno::Reference<css::frame::XModel>& model,
                           const rtl::OUString& file) {
     if (!file.isEmpty()) {
-        if (isOfKind<excel::CalcDocument>(model))
-            record<excel::CalcDocument>(model)->standFor(file);
-        if (isOfKind<powerpoint::ImpressDeck>(model))
-            record<powerpoint::ImpressDeck>(model)->standFor(file);
-        if (isOfKind<word::WriterDocument>(model))
-            record<word::WriterDocument>(model)->standFor(file);
+        if (const DocumentKind* kind = kindOfComponent(model))
+            kind->record(*this, model)->standFor(file);
     }
     // Files say that they are better opened for reading; in a window a click goes over that.
     const auto storable = tryAs<css::frame::XStorable>(model);
@@ -256,11 +278,7 @@ uno::Reference<css::frame::XModel> Desk::loadOnce(const rtl::OUString& url, bool
 template <class Kind>
 std::shared_ptr<Kind> Desk::alreadyOpen(const rtl::OUString& url) {
     // LibreOffice would open the file twice, and the two would go separate ways.
-    const auto components = connection_->desktop()->getComponents()->createEnumeration();
-    while (components->hasMoreElements()) {
-        const uno::Reference<uno::XInterface> component(components->nextElement(), uno::UNO_QUERY);
-        const auto model = tryAs<css::frame::XModel>(component);
-        if (!model.is()) continue;
+    for (const auto& model : openModels(*connection_)) {
         if (isOfKind<Kind>(model)) {
             if (auto document = record<Kind>(model); document->url() == url) return document;
         } else if (model->getURL() == url) {
