@@ -32,6 +32,8 @@ struct PasteItem {
     bool sharesName = false;
     /// Of a table where it is to go; none: any number.
     std::optional<std::size_t> mostColumns = {};
+    /// Whether a table is written into a file, and no suite has to know all that it looks like.
+    bool isForFile = false;
 };
 
 /// What decides whether cells that are shown somewhere else can be read there.

@@ -45,6 +45,8 @@ struct CellLook {
     bool isBold = false;
     bool isItalic = false;
     bool isUnderlined = false;
+    /// If it is underlined at all.
+    bool isUnderlinedTwice = false;
     bool isStruckOut = false;
     /// Nothing for a cell that lets the ground shine through.
     std::optional<std::int32_t> fill;
@@ -59,6 +61,9 @@ struct CellLook {
     CellLine right;
     CellLine top;
     CellLine bottom;
+    /// From corner to corner: from the top left, and from the bottom left.
+    CellLine falling;
+    CellLine rising;
     /// How many shown columns and rows a merged cell spans. Those that it covers beside its first
     /// one have `isCovered` and nothing else that counts.
     std::int32_t columns = 1;

@@ -46,6 +46,7 @@ std::string described(const CellLook& look) {
     for (const auto& [holds, word] : {std::pair(look.isBold, " bold"),
                                       {look.isItalic, " italic"},
                                       {look.isUnderlined, " underlined"},
+                                      {look.isUnderlinedTwice, " twice"},
                                       {look.isStruckOut, " struck"},
                                       {look.across == CellLook::Across::Centre, " centre"},
                                       {look.across == CellLook::Across::Right, " right"},
@@ -62,7 +63,8 @@ std::string described(const CellLook& look) {
     if (look.indentPt != 0) all += fmt::format(" indent={:.0f}", look.indentPt);
     if (look.rotation != 0) all += fmt::format(" turned={}", look.rotation);
     all += described("left", look.left) + described("right", look.right) +
-           described("top", look.top) + described("bottom", look.bottom);
+           described("top", look.top) + described("bottom", look.bottom) +
+           described("falling", look.falling) + described("rising", look.rising);
     if (look.columns * look.rows > 1) all += fmt::format(" {}x{}", look.columns, look.rows);
     return all;
 }
@@ -118,7 +120,7 @@ TEST_F(ExcelTables, LookAsTheirCellsDo) {
         "begins shown 1x3",
 
         "indented indent=15 top=0.7",
-        "right right indent=8 top=0.7",
+        "right underlined twice right indent=8 top=0.7",
         "begins hidden bold right=0.7 dashed 1x2",
         "lines left=0.7 dashed right=0.7 dotted top=0.7 0000FF bottom=1.8 double 00FF00",
         " left=0.7 dotted",
@@ -127,7 +129,7 @@ TEST_F(ExcelTables, LookAsTheirCellsDo) {
         "",
         "",
         "covered",
-        "beneath left=0.7 top=1.8 double 00FF00",
+        "beneath left=0.7 top=1.8 double 00FF00 falling=0.7 0000FF",
         "",
         "covered",
 

@@ -226,6 +226,7 @@ class TheSampleWorkbook(ProgramTest):
         for column, criteria in (("S", "=S1>Limit"), ("T", "=INDIRECT(\"B1\")>1")):
             sheet.conditional_format(f"{column}1:{column}4", {"type": "formula", "criteria": criteria, "format": frame})
         sheet.add_table("L1:M4")
+        sheet.write("E2", "from corner to corner", book.add_format({"diag_type": 1, "diag_border": 1}))
         sheet.add_sparkline("C3", {"range": "Data!B1:B4"})
         for name, cells in (("Formulas", "$H$1:$H$2"), ("Twins", "$H$5"), ("Numbers", "$I$1:$I$2"),
                             ("Bars", "$J$1:$J$2"), ("Scales", "$O$1:$O$2"), ("Coloured", "$L$2:$M$9"), ("Plainly", "$N$1:$N$6"),
@@ -234,7 +235,7 @@ class TheSampleWorkbook(ProgramTest):
                             ("Covered", "$D$4:$F$9"), ("All of it", "$A$1:$F$9"), ("Plain", "$A$2:$A$9"),
                             ("Whole", "$K:$K"), ("Lines", "$C$2:$C$4"), ("Plain_beside", "$D$1:$D$3"), ("Log", "$Q$1:$Q$400"),
                             ("Underlined", "$P$1:$P$4"), ("Untouched", "$R$1:$R$5"), ("Upper", "$R$1:$R$3"), ("Vague", "$S$1:$S$4"),
-                            ("Wandering", "$T$1:$T$4")):
+                            ("Wandering", "$T$1:$T$4"), ("Crossed", "$E$1:$F$2")):
             book.define_name(name.replace(" ", "_"), f"=Data!{cells}")
         book.define_name("Limit", "=2")
         book.close()
@@ -246,9 +247,10 @@ class TheSampleWorkbook(ProgramTest):
                             ("numbers are", '"Numbers"'), ("lines around", '"Underlined", "Untouched", "Upper", .*"Wandering"'), ("bars", '"Bars"'), ("table style", '"Coloured"'),
                             ("sparklines", '"All_of_it", "Lines" and "Signs"'), ("too small to read", '"Big" and "Log"')):
             self.assertRegex(errors, f"(?m)^  - [^\"]*{names} .*{loss}")
-        self.assertNotRegex(errors, "Plain|Whole|Formulas")
+        self.assertNotRegex(errors, "Plain|Whole|Formulas|Crossed")
         _, _, errors = self.run_program(path, "--all", "--check", "--to", "html", "--output", self.folder / "page")
-        for loss, names in (("numbers are", '"Numbers"'), ("lines around", '"Underlined".*'), ("formula", '"Pale".*"Wandering"')):
+        for loss, names in (("numbers are", '"Numbers"'), ("lines around", '"Underlined".*'), ("formula", '"Pale".*"Wandering"'),
+                            ("corner", '"All_of_it" and "Crossed"')):
             self.assertRegex(errors, f"(?m)^  - [^\"]*{names} .*{loss}")
         _, _, errors = self.run_program(path, "--all", "--check", "--to", "images", "--output", self.folder / "losses")
         self.assertRegex(errors, '(?m)^  - The pictures of "Twins", "Underlined", "Upper", "Vague" and "Wandering" may have conditional formats wrong')

@@ -72,8 +72,9 @@ std::vector<std::string> FileSuite::remarksOn(std::string_view className, office
     // Tables are made of what the suite says of the cells, wherever they go.
     if (as == office::PasteAs::Default) {
         std::vector<office::PasteItem> tables = items;
-        if (className == word) {
-            for (office::PasteItem& item : tables) item.mostColumns = package::mostTableColumns;
+        for (office::PasteItem& item : tables) {
+            item.isForFile = true;
+            if (className == word) item.mostColumns = package::mostTableColumns;
         }
         for (std::string& line : below_.remarksOn(className, as, tables))
             remarks.push_back(std::move(line));

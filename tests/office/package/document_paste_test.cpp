@@ -333,6 +333,7 @@ TEST_F(DocumentPaste, MakesTablesThatLookAsTheirCellsDo) {
     look.cells[0].bottom = {1.5, 0x0000FF, CellLine::Style::Double};
     look.cells[2].across = CellLook::Across::Right;
     look.cells[2].top = {0.5, 0, CellLine::Style::Dotted};
+    look.cells[2].falling = {0.5, 0, CellLine::Style::Solid};
     look.cells[6].rotation = 90;
     look.cells[6].down = CellLook::Down::Middle;
     look.cells[8].down = CellLook::Down::Top;
@@ -349,7 +350,8 @@ TEST_F(DocumentPaste, MakesTablesThatLookAsTheirCellsDo) {
         EXPECT_TRUE(paragraph.child("w:spacing").attribute(fmt::format("w:{}", ahead).c_str()));
     EXPECT_TRUE(paragraph.child("w:ind").attribute("w:firstLineChars"));
     EXPECT_EQ(described(table),
-              "[a 2 restart bottom fill=996633 left 11][c bottom top=dotted 4 000000 right 11]\n"
+              "[a 2 restart bottom fill=996633 left 11][c bottom top=dotted 4 000000 tl2br=single "
+              "4 000000 right 11]\n"
               "[ 2 continue bottom bottom=double 4 FF0000 fill=996633 left 11][f bottom left 11]\n"
               "[g btLr top center 11][h\ni bottom left 11][j\n top left 11]\n");
     long long width = 0;

@@ -120,6 +120,7 @@ TEST_F(Table, LooksAsItsCellsDo) {
     look.cells[5].bar = {0, 0, 0, 0, true};
     look.cells[5].across = CellLook::Across::Centre;
     look.cells[5].left = {0.1, 0, CellLine::Style::Dotted};
+    look.cells[5].rising = thin;
     look.cells[6].text = "up";
     look.cells[6].rotation = 90;
     look.cells[6].across = CellLook::Across::Right;
@@ -144,7 +145,7 @@ TEST_F(Table, LooksAsItsCellsDo) {
         "fill=EE0000",
         " hMerge=1 vMerge=1 | marL=12700 anchor=b lnR=9525 sng solid lnB=9525 sng solid "
         "fill=EE0000",
-        " | algn=ctr marL=0 anchor=b lnL=3175 sng sysDot",
+        " | algn=ctr marL=0 anchor=b lnL=3175 sng sysDot lnBlToTr=9525 sng solid",
         " |up algn=l marL=12700 vert=vert270 anchor=b",
         " |down algn=l marL=12700 vert=vert anchor=b",
         " |in algn=l marL=127000 anchor=ctr 0=FFFFFF 25000=FFFFFF 25000=FF0000 50000=00FF00"

@@ -1,5 +1,6 @@
 #include "office/libreoffice/excel/cell_formats.h"
 
+#include <com/sun/star/awt/FontUnderline.hpp>
 #include <com/sun/star/table/BorderLine2.hpp>
 #include <com/sun/star/table/BorderLineStyle.hpp>
 #include <com/sun/star/table/CellHoriJustify.hpp>
@@ -54,12 +55,12 @@ class FormatReader {
 public:
     explicit FormatReader(const uno::Reference<uno::XInterface>& cells)
         : values_(cells,
-                  {"BottomBorder2",     "CellBackColor",       "CharColor",    "CharFontName",
-                   "CharFontNameAsian", "CharFontNameComplex", "CharHeight",   "CharPosture",
-                   "CharStrikeout",     "CharUnderline",       "CharWeight",   "HoriJustify",
-                   "IsTextWrapped",     "LeftBorder2",         "NumberFormat", "Orientation",
-                   "ParaIndent",        "RightBorder2",        "RotateAngle",  "ShrinkToFit",
-                   "TopBorder2",        "VertJustify"}) {}
+                  {"BottomBorder2",     "CellBackColor",       "CharColor",     "CharFontName",
+                   "CharFontNameAsian", "CharFontNameComplex", "CharHeight",    "CharPosture",
+                   "CharStrikeout",     "CharUnderline",       "CharWeight",    "DiagonalBLTR2",
+                   "DiagonalTLBR2",     "HoriJustify",         "IsTextWrapped", "LeftBorder2",
+                   "NumberFormat",      "Orientation",         "ParaIndent",    "RightBorder2",
+                   "RotateAngle",       "ShrinkToFit",         "TopBorder2",    "VertJustify"}) {}
 
     [[nodiscard]] CellFormat read() const {
         CellFormat format;
@@ -69,6 +70,8 @@ public:
         look.fontSizePt = values_.get<float>("CharHeight");
         const CellDress dress = dressIn(values_);
         takeDress(look, dress);
+        look.isUnderlinedTwice =
+            values_.get<std::int16_t>("CharUnderline") == css::awt::FontUnderline::DOUBLE;
         look.fontColour = dress.fontColour.value_or(automaticColourOn(look.fill));
         look.across = across();
         look.down = down();
@@ -88,6 +91,8 @@ public:
         look.right = line("RightBorder2");
         look.top = line("TopBorder2");
         look.bottom = line("BottomBorder2");
+        look.falling = line("DiagonalTLBR2");
+        look.rising = line("DiagonalBLTR2");
         format.shrinksToFit = values_.get<bool>("ShrinkToFit");
         format.numberFormat = values_.get<std::int32_t>("NumberFormat");
         return format;

@@ -42,6 +42,7 @@ void mirror(TableLook& table, std::vector<CellValue>& values) {
     for (std::size_t i = 0; i < table.cells.size(); ++i) {
         CellLook& look = table.cells[i];
         std::swap(look.left, look.right);
+        std::swap(look.falling, look.rising);
         if (look.isCovered || look.columns == 1) continue;
         const std::size_t first = i + 1 - static_cast<std::size_t>(look.columns);
         std::swap(look, table.cells[first]);

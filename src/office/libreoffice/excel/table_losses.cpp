@@ -7,6 +7,7 @@
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XDataBarEntry.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
+#include <com/sun/star/table/BorderLine2.hpp>
 #include <com/sun/star/text/XText.hpp>
 
 #include <algorithm>
@@ -17,6 +18,7 @@
 #include "office/libreoffice/excel/answered.h"
 #include "office/libreoffice/excel/cell_conditions.h"
 #include "office/libreoffice/excel/cell_styles.h"
+#include "office/libreoffice/excel/cells_alike.h"
 #include "office/libreoffice/excel/sheet_drawings.h"
 #include "office/libreoffice/excel/table_of_cells.h"
 
@@ -53,6 +55,9 @@ const ItemRemarks::Text numberFormats = {
 const ItemRemarks::Text lines = {
     "In the table of {} conditional formats will not draw or remove lines around cells.",
     "In the tables of {} conditional formats will not draw or remove lines around cells."};
+const ItemRemarks::Text diagonals = {
+    "The table of {} will be without the lines from corner to corner of its cells.",
+    "The tables of {} will be without the lines from corner to corner of their cells."};
 const ItemRemarks::Text severalLooks = {
     "In the table of {} the text of each cell will have one look alone, where it has several now.",
     "In the tables of {} the text of each cell will have one look alone, where it has several "
@@ -97,6 +102,25 @@ std::vector<CellBlock> blocksThatSay(const char* property, const std::vector<Cel
         return as<css::beans::XPropertyState>(style)->getPropertyState(
                    rtl::OUString::createFromAscii(property)) ==
                css::beans::PropertyState_DIRECT_VALUE;
+    });
+}
+
+/// Whether any cell has a line from corner to corner.
+bool hasDiagonals(const uno::Reference<css::table::XCellRange>& cells) {
+    const std::vector<rtl::OUString> names = {"DiagonalBLTR2", "DiagonalTLBR2"};
+    const auto states = as<css::beans::XPropertyState>(cells)->getPropertyStates(
+        {names.data(), static_cast<sal_Int32>(names.size())});
+    // As a rule no cell says anything of them.
+    if (std::all_of(states.begin(), states.end(), [](css::beans::PropertyState state) {
+            return state == css::beans::PropertyState_DEFAULT_VALUE;
+        }))
+        return false;
+    const auto groups = cellsAlike(cells);
+    return std::any_of(groups.begin(), groups.end(), [&](const auto& group) {
+        const NamedValues drawn(group, names);
+        return std::any_of(names.begin(), names.end(), [&](const rtl::OUString& name) {
+            return drawn.get<css::table::BorderLine2>(name).LineWidth > 0;
+        });
     });
 }
 
@@ -155,6 +179,8 @@ public:
         if (meetsAny(withNumberFormat_, block)) remarks.add(numberFormats, item);
         if (meetsAny(withLines_, block)) remarks.add(lines, item);
         if (meetsAny(styledTables_, block)) remarks.add(tableStyles, item);
+        // No program that LibreOffice pastes into draws them, nor does a browser.
+        if (!item.isForFile && hasDiagonals(sheet_->range(block))) remarks.add(diagonals, item);
         if (hasCellOfSeveralLooks(*sheet_, block)) remarks.add(severalLooks, item);
         if (drawings_.lieOn(block)) remarks.add(isOnPage ? drawingsAlone : drawings, item);
     }

@@ -253,6 +253,7 @@ private:
         look.indentPt = own.indentPt;
         look.wraps = own.wraps;
         look.rotation = own.rotation;
+        look.isUnderlinedTwice = own.isUnderlinedTwice;
         look.down = html.down.value_or(own.down);
         look.fontColour = html.fontColour.value_or(automaticColourOn(look.fill));
         return look;
@@ -284,6 +285,8 @@ private:
     void drawLines(std::size_t row, std::size_t column) {
         CellLook& look = at(row, column);
         look.left = look.right = look.top = look.bottom = {};
+        look.falling = format(row, column).falling;
+        look.rising = format(row, column).rising;
         const auto right = column + static_cast<std::size_t>(look.columns);
         const auto bottom = row + static_cast<std::size_t>(look.rows);
         for (std::size_t i = row; i < bottom; ++i) {
@@ -326,7 +329,8 @@ bool areBlank(SheetRecord& sheet, const uno::Reference<css::table::XCellRange>& 
     const auto isSeen = [](const CellFormat& format) {
         const CellLook& look = format.look;
         return look.fill || look.left.widthPt > 0 || look.right.widthPt > 0 ||
-               look.top.widthPt > 0 || look.bottom.widthPt > 0;
+               look.top.widthPt > 0 || look.bottom.widthPt > 0 || look.falling.widthPt > 0 ||
+               look.rising.widthPt > 0;
     };
     if (std::any_of(formats.formats.begin(), formats.formats.end(), isSeen)) return false;
     const auto conditions = property<uno::Reference<css::sheet::XConditionalFormats>>(

@@ -181,6 +181,7 @@ TableMarkup::Attributes TableMarkup::letters(const CellLook& cell) const {
     }
     letters.emplace_back("fo:color", office::colourText(cell.fontColour));
     letters.emplace_back("style:text-underline-style", cell.isUnderlined ? "solid" : "none");
+    letters.emplace_back("style:text-underline-type", cell.isUnderlinedTwice ? "double" : "single");
     letters.emplace_back("style:text-line-through-style", cell.isStruckOut ? "solid" : "none");
     return letters;
 }

@@ -134,8 +134,10 @@ std::string textStyle(const CellLook& cell, const CommonFont& common) {
     if (cell.isBold) style += "font-weight:bold;";
     if (cell.isItalic) style += "font-style:italic;";
     if (cell.isUnderlined || cell.isStruckOut) {
-        style += fmt::format("text-decoration:{}{};", cell.isUnderlined ? "underline" : "",
-                             cell.isStruckOut ? " line-through" : "");
+        // A style is one for both lines.
+        const bool isDouble = cell.isUnderlined && cell.isUnderlinedTwice && !cell.isStruckOut;
+        style += fmt::format("text-decoration:{}{}{};", cell.isUnderlined ? "underline" : "",
+                             cell.isStruckOut ? " line-through" : "", isDouble ? " double" : "");
     }
     style += acrossStyle(cell);
     if (cell.down == CellLook::Down::Top) style += "vertical-align:top;";

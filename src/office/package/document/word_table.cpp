@@ -98,6 +98,8 @@ private:
         writeLine(borders, "w:left", cell.left);
         writeLine(borders, "w:bottom", isLastRow ? cell.bottom : CellLine());
         writeLine(borders, "w:right", cell.right);
+        if (!isBelow && cell.falling.widthPt > 0) writeLine(borders, "w:tl2br", cell.falling);
+        if (!isBelow && cell.rising.widthPt > 0) writeLine(borders, "w:tr2bl", cell.rising);
         if (cell.fill) {
             auto shade = addValue(properties, "w:shd", "clear");
             shade.append_attribute("w:color").set_value("auto");
@@ -162,7 +164,8 @@ private:
             std::llround(std::max(fit.sizePt * scale_, smallestSizePt) * halfPoints));
         addValue(properties, "w:sz", size);
         addValue(properties, "w:szCs", size);
-        addValue(properties, "w:u", cell.isUnderlined ? "single" : "none");
+        const char* const underline = cell.isUnderlinedTwice ? "double" : "single";
+        addValue(properties, "w:u", cell.isUnderlined ? underline : "none");
     }
 
     static void writeLine(pugi::xml_node borders, const char* side, const CellLine& line) {

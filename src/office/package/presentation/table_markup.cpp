@@ -91,6 +91,8 @@ private:
         writeLine(properties, "a:lnR", isFirst || isLastColumn ? cell.right : CellLine());
         writeLine(properties, "a:lnT", isBelow ? CellLine() : cell.top);
         writeLine(properties, "a:lnB", isFirst || isLastRow ? cell.bottom : CellLine());
+        if (isFirst && cell.falling.widthPt > 0) writeLine(properties, "a:lnTlToBr", cell.falling);
+        if (isFirst && cell.rising.widthPt > 0) writeLine(properties, "a:lnBlToTr", cell.rising);
         writeFill(properties, cell);
     }
 
@@ -187,7 +189,8 @@ private:
         setRounded(properties, "sz", std::max(fit.sizePt * scale_, smallestSizePt) * perPoint);
         properties.append_attribute("b").set_value(cell.isBold ? "1" : "0");
         properties.append_attribute("i").set_value(cell.isItalic ? "1" : "0");
-        properties.append_attribute("u").set_value(cell.isUnderlined ? "sng" : "none");
+        const char* const underline = cell.isUnderlinedTwice ? "dbl" : "sng";
+        properties.append_attribute("u").set_value(cell.isUnderlined ? underline : "none");
         properties.append_attribute("strike").set_value(cell.isStruckOut ? "sngStrike"
                                                                          : "noStrike");
         writeColour(properties, cell.fontColour);
