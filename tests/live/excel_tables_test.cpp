@@ -19,6 +19,7 @@
 #include "office/copied.h"
 #include "office/libreoffice/excel/cells_as_html.h"
 #include "office/libreoffice/excel/chart_shapes.h"
+#include "office/libreoffice/excel/sheet_record.h"
 
 namespace live {
 
