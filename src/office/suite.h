@@ -32,7 +32,7 @@ struct PasteItem {
     bool sharesName = false;
     /// Of a table where it is to go; none: any number.
     std::optional<std::size_t> mostColumns = {};
-    /// Whether a table is written into a file, and no suite has to know all that it looks like.
+    /// Whether a table is written into a file here, and not by the suite.
     bool isForFile = false;
 };
 

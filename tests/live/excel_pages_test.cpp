@@ -44,9 +44,10 @@ TEST_F(ExcelPages, KeepTheLooksOfCellsInMarkupThatIsValid) {
     const Object book = open("tables.xlsx");
     expectHas(published(book, "Looks", "A1:G7"),
               {"font-weight:bold;font-style:italic;text-decoration:underline line-through",
-               "font-size:18.67px", "background-color:#00ff00", "&lt;&amp;lt;&gt; &quot;q&quot; <",
-               "class=\"wraps\"", "by\nhand", "<div class=\"upwards\"",
-               "colspan=\"2\" rowspan=\"2\"", "text-align:right;padding-right:", "border-bottom:"});
+               "text-decoration:underline double", "font-size:18.67px", "background-color:#00ff00",
+               "&lt;&amp;lt;&gt; &quot;q&quot; <", "class=\"wraps\"", "by\nhand",
+               "<div class=\"upwards\"", "colspan=\"2\" rowspan=\"2\"",
+               "text-align:right;padding-right:", "border-bottom:"});
     EXPECT_TRUE(book.get("Saved").toBool());
 }
 

@@ -46,20 +46,21 @@ Record recordAs(Desk& desk, const Model& model) {
     return desk.record<Kind>(model);
 }
 
-constexpr std::array kinds = {
-    DocumentKind{"com.sun.star.sheet.SpreadsheetDocument", "it is no workbook",
-                 recordAs<excel::CalcDocument>},
-    DocumentKind{"com.sun.star.presentation.PresentationDocument", "it is no presentation",
-                 recordAs<powerpoint::ImpressDeck>},
-    DocumentKind{"com.sun.star.text.TextDocument", "it is no text document",
-                 recordAs<word::WriterDocument>}};
-
 template <class Kind>
-constexpr const DocumentKind& kindOf = kinds[0];
+constexpr DocumentKind kindOf = {};
 template <>
-constexpr const DocumentKind& kindOf<powerpoint::ImpressDeck> = kinds[1];
+constexpr DocumentKind kindOf<excel::CalcDocument> = {
+    "com.sun.star.sheet.SpreadsheetDocument", "it is no workbook", recordAs<excel::CalcDocument>};
 template <>
-constexpr const DocumentKind& kindOf<word::WriterDocument> = kinds[2];
+constexpr DocumentKind kindOf<powerpoint::ImpressDeck> = {
+    "com.sun.star.presentation.PresentationDocument", "it is no presentation",
+    recordAs<powerpoint::ImpressDeck>};
+template <>
+constexpr DocumentKind kindOf<word::WriterDocument> = {
+    "com.sun.star.text.TextDocument", "it is no text document", recordAs<word::WriterDocument>};
+
+constexpr std::array kinds = {&kindOf<excel::CalcDocument>, &kindOf<powerpoint::ImpressDeck>,
+                              &kindOf<word::WriterDocument>};
 
 bool isOfKind(const uno::Reference<uno::XInterface>& component, const DocumentKind& kind) {
     const auto info = tryAs<css::lang::XServiceInfo>(component);
@@ -73,8 +74,8 @@ bool isOfKind(const uno::Reference<uno::XInterface>& component) {
 /// Null for what is a document of no application.
 const DocumentKind* kindOfComponent(const uno::Reference<uno::XInterface>& component) {
     const auto* const found = std::find_if(
-        kinds.begin(), kinds.end(), [&](const auto& kind) { return isOfKind(component, kind); });
-    return found != kinds.end() ? found : nullptr;
+        kinds.begin(), kinds.end(), [&](const auto* kind) { return isOfKind(component, *kind); });
+    return found != kinds.end() ? *found : nullptr;
 }
 
 /// The document that a component belongs to: while a chart is edited in place, the chart is the

@@ -47,6 +47,9 @@ std::string describedCell(pugi::xml_node cell) {
     for (const pugi::xml_node paragraph : cell.child("a:txBody").children("a:p")) {
         all += " |" + std::string(paragraph.child("a:r").child("a:t").text().get()) +
                saidBy(paragraph.child("a:pPr"), {"algn"});
+        if (const std::string line = paragraph.child("a:r").child("a:rPr").attribute("u").value();
+            !line.empty() && line != "none")
+            all += " u=" + line;
     }
     const auto properties = cell.child("a:tcPr");
     all += saidBy(properties, {"marL", "vert", "anchor"});
@@ -125,6 +128,7 @@ TEST_F(Table, LooksAsItsCellsDo) {
     look.cells[6].rotation = 90;
     look.cells[6].across = CellLook::Across::Right;
     look.cells[7].text = "down";
+    look.cells[7].isUnderlined = look.cells[7].isUnderlinedTwice = true;
     look.cells[7].rotation = 270;
     look.cells[7].down = CellLook::Down::Top;
     look.cells[8].text = "in";
@@ -147,7 +151,7 @@ TEST_F(Table, LooksAsItsCellsDo) {
         "fill=EE0000",
         " | algn=ctr marL=0 anchor=b lnL=3175 sng sysDot lnBlToTr=9525 sng solid",
         " |up algn=l marL=12700 vert=vert270 anchor=b",
-        " |down algn=l marL=12700 vert=vert anchor=b",
+        " |down algn=l u=dbl marL=12700 vert=vert anchor=b",
         " |in algn=l marL=127000 anchor=ctr 0=FFFFFF 25000=FFFFFF 25000=FF0000 50000=00FF00"
         " 50000=FFFFFF 100000=FFFFFF",
     };

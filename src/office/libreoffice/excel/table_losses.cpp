@@ -179,7 +179,7 @@ public:
         if (meetsAny(withNumberFormat_, block)) remarks.add(numberFormats, item);
         if (meetsAny(withLines_, block)) remarks.add(lines, item);
         if (meetsAny(styledTables_, block)) remarks.add(tableStyles, item);
-        // No program that LibreOffice pastes into draws them, nor does a browser.
+        // Neither Impress nor Writer draws them, and pages are written without.
         if (!item.isForFile && hasDiagonals(sheet_->range(block))) remarks.add(diagonals, item);
         if (hasCellOfSeveralLooks(*sheet_, block)) remarks.add(severalLooks, item);
         if (drawings_.lieOn(block)) remarks.add(isOnPage ? drawingsAlone : drawings, item);
